@@ -1,0 +1,36 @@
+# What every target is built with.
+set(CMAKE_CXX_STANDARD 20)
+set(CMAKE_CXX_STANDARD_REQUIRED ON)
+set(CMAKE_CXX_EXTENSIONS OFF)
+set(CMAKE_POSITION_INDEPENDENT_CODE ON)
+set(CMAKE_CXX_VISIBILITY_PRESET hidden)
+set(CMAKE_VISIBILITY_INLINES_HIDDEN ON)
+set(CMAKE_AUTOMOC ON)
+set(CMAKE_AUTORCC ON)
+
+# Programs in bin/, libraries in lib/: the engine module is found beside the platform library.
+set(CMAKE_RUNTIME_OUTPUT_DIRECTORY ${CMAKE_BINARY_DIR}/bin)
+set(CMAKE_LIBRARY_OUTPUT_DIRECTORY ${CMAKE_BINARY_DIR}/lib)
+set(CMAKE_ARCHIVE_OUTPUT_DIRECTORY ${CMAKE_BINARY_DIR}/lib)
+set(CMAKE_BUILD_RPATH_USE_ORIGIN ON)
+set(CMAKE_BUILD_RPATH "$ORIGIN;$ORIGIN/../lib")
+set(CMAKE_INSTALL_RPATH "$ORIGIN;$ORIGIN/../lib")
+
+add_compile_options(-Wall -Wextra -Wpedantic -Wshadow -Werror)
+add_compile_definitions(QT_NO_KEYWORDS)
+
+if(ZN_SANITIZE)
+    add_compile_options(-fsanitize=${ZN_SANITIZE} -fno-omit-frame-pointer
+                        -fno-sanitize-recover=undefined)
+    add_link_options(-fsanitize=${ZN_SANITIZE})
+    # vptr checks need the type information of libraries that are built without it.
+    add_compile_options(-fno-sanitize=vptr)
+endif()
+if(ZN_FUZZ)
+    add_compile_options(-fsanitize=fuzzer-no-link)
+endif()
+
+find_program(ZN_CCACHE ccache)
+if(ZN_CCACHE AND NOT CMAKE_CXX_COMPILER_LAUNCHER)
+    set(CMAKE_CXX_COMPILER_LAUNCHER ${ZN_CCACHE})
+endif()
