@@ -1,0 +1,138 @@
+// The engine's message table: what each parameter and each result is, and the C++ type it has in
+// the operations of the control. The rows stand in EngineMessages.def.
+#pragma once
+
+#include "control/EngineRecords.h"
+
+#include <array>
+#include <memory>
+#include <vector>
+
+struct AutoCompleteConfig;
+namespace znsqlassist {
+class SQLCompletionProposal;
+}
+
+namespace engine {
+
+enum class Kind : unsigned char
+{
+    None,
+    Num,       // a plain number, passed as it is
+    Flag,      // 0 or 1
+    Colour,    // 0x00BBGGRR
+    Line,      // from 0
+    Pos,       // a place in the text; negative ones have a meaning of their own and pass unchanged
+    Span,      // a difference of places
+    Count,     // how many units of the text beside it
+    TextIn,    // UTF-16, terminated unless a Count stands beside it
+    TextOut,   // the caller's buffer, filled with UTF-16 and a terminator
+    BytesIn,   // image text or UTF-8, as it is
+    BytesOut,  // the caller's buffer, filled with UTF-8
+    CellsIn,   // pairs of unit and style; the Count beside it counts both
+    StylesIn,  // one byte for each unit
+    RangeIo,   // TextRange
+    FindIo,    // TextToFind
+    FormatIo,  // RangeToFormat
+    Window,    // HWND
+    Document,  // the engine's reference-counted text
+    Config,    // AutoCompleteConfig
+    Proposals, // what AutoCShow lists
+};
+
+enum class Shape : unsigned char
+{
+    A,
+    B,
+    C,
+    D
+};
+
+template <Kind K>
+struct TypeOf
+{
+    using Type = int;
+};
+// clang-format off
+template <> struct TypeOf<Kind::None>      { using Type = void; };
+template <> struct TypeOf<Kind::Colour>    { using Type = unsigned long; };
+template <> struct TypeOf<Kind::Pos>       { using Type = long; };
+template <> struct TypeOf<Kind::Span>      { using Type = long; };
+template <> struct TypeOf<Kind::TextIn>    { using Type = const char16_t*; };
+template <> struct TypeOf<Kind::TextOut>   { using Type = char16_t*; };
+template <> struct TypeOf<Kind::BytesIn>   { using Type = const char*; };
+template <> struct TypeOf<Kind::BytesOut>  { using Type = char*; };
+template <> struct TypeOf<Kind::CellsIn>   { using Type = const char16_t*; };
+template <> struct TypeOf<Kind::StylesIn>  { using Type = const char*; };
+template <> struct TypeOf<Kind::RangeIo>   { using Type = TextRange*; };
+template <> struct TypeOf<Kind::FindIo>    { using Type = TextToFind*; };
+template <> struct TypeOf<Kind::FormatIo>  { using Type = RangeToFormat*; };
+template <> struct TypeOf<Kind::Window>    { using Type = HWND; };
+template <> struct TypeOf<Kind::Document>  { using Type = LRESULT; };
+template <> struct TypeOf<Kind::Config>    { using Type = const AutoCompleteConfig*; };
+template <> struct TypeOf<Kind::Proposals>
+{
+    using Type = std::vector<std::shared_ptr<znsqlassist::SQLCompletionProposal>>*;
+};
+// clang-format on
+
+template <Kind K>
+using CppType = typename TypeOf<K>::Type;
+
+struct MessageRow
+{
+    const char* name;
+    UINT number;
+    Shape shape;
+    Kind result;
+    Kind wParam; // None where the shape has no such parameter
+    Kind lParam;
+};
+
+inline constexpr MessageRow kMessageRows[] = {
+#define ZN_A(name, number, result) {#name, number, Shape::A, Kind::result, Kind::None, Kind::None},
+#define ZN_B(name, number, result, kind, arg)                                                      \
+    {#name, number, Shape::B, Kind::result, Kind::kind, Kind::None},
+#define ZN_C(name, number, result, kind, arg, kind2, arg2)                                         \
+    {#name, number, Shape::C, Kind::result, Kind::kind, Kind::kind2},
+#define ZN_D(name, number, result, kind, arg)                                                      \
+    {#name, number, Shape::D, Kind::result, Kind::None, Kind::kind},
+#define ZN_OWN(shape, ...) ZN_##shape(__VA_ARGS__)
+#include "control/EngineMessages.def"
+};
+
+// The numbers by name, for the few places that send a message without a wrapper.
+namespace message {
+enum Number : UINT
+{
+#define ZN_A(name, number, ...) name = number,
+#define ZN_B(name, number, ...) name = number,
+#define ZN_C(name, number, ...) name = number,
+#define ZN_D(name, number, ...) name = number,
+#define ZN_OWN(shape, name, number, ...) name = number,
+#include "control/EngineMessages.def"
+    GetDirectFunction = 2184,
+    GetDirectPointer = 2185,
+};
+} // namespace message
+
+// No number stands twice.
+consteval bool NumbersAreUnique()
+{
+    std::array<bool, 0x2000> seen{};
+    for (const MessageRow& row : kMessageRows) {
+        if (seen[row.number])
+            return false;
+        seen[row.number] = true;
+    }
+    return true;
+}
+static_assert(NumbersAreUnique());
+
+// The engine's function for direct calls; instance is the answer to GetDirectPointer.
+using DirectFunction = LRESULT (*)(LRESULT instance, UINT message, WPARAM wParam, LPARAM lParam);
+
+inline constexpr const char16_t* kWindowClass = u"ZNBaseEditorWin";
+inline constexpr const char16_t* kModule = u"ZNBaseEditor";
+
+} // namespace engine

@@ -1,0 +1,10 @@
+// Modules loaded by name at run time.
+#pragma once
+
+#include "common/Export.h"
+#include "platform/Types.h"
+
+// Loads a shared library by its bare name, without prefix, ending or folder: it is looked for
+// beside this library first. Null if it cannot be loaded. What it registers, it registers while it
+// loads.
+ZN_API HINSTANCE LoadModule(const char16_t* name);

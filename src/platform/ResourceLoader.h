@@ -1,0 +1,30 @@
+// Texts of the user interface by number. The default reads a table; a host may bring its own.
+#pragma once
+
+#include "common/Export.h"
+#include "platform/Types.h"
+
+#include <QHash>
+#include <QString>
+
+class ZN_API IZNBaseResourceLoader
+{
+public:
+    virtual ~IZNBaseResourceLoader();
+
+    // The text with this number, empty if there is none.
+    virtual QString LoadString(UINT id) const = 0;
+};
+
+// Texts from an XML file: <strings><string id="28178">...</string></strings>.
+class ZN_API CZNBaseResourceLoader final : public IZNBaseResourceLoader
+{
+public:
+    // A file that is missing or broken gives the entries before the fault.
+    explicit CZNBaseResourceLoader(const QString& path);
+
+    QString LoadString(UINT id) const override { return m_strings.value(id); }
+
+private:
+    QHash<UINT, QString> m_strings;
+};

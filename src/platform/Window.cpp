@@ -1,0 +1,134 @@
+#include "platform/Window.h"
+
+#include "platform/Wnd.h"
+
+#include <QAbstractScrollArea>
+#include <QPointer>
+#include <QWidget>
+
+#include <string_view>
+#include <unordered_map>
+#include <vector>
+
+namespace {
+
+struct WindowRecord
+{
+    QPointer<QWidget> widget; // null as soon as the widget's destruction begins
+    WindowProcedure procedure = nullptr;
+    CWnd* wnd = nullptr;
+};
+
+std::vector<WindowClass>& Classes()
+{
+    static std::vector<WindowClass> classes;
+    return classes;
+}
+
+// Keyed by address; a record goes with its widget, so that an address used again starts afresh.
+std::unordered_map<HWND, WindowRecord>& Records()
+{
+    static auto* records = new std::unordered_map<HWND, WindowRecord>; // outlives every widget
+    return *records;
+}
+
+const WindowClass* FindClass(std::u16string_view name)
+{
+    for (const WindowClass& windowClass : Classes()) {
+        if (name == windowClass.name)
+            return &windowClass;
+    }
+    return nullptr;
+}
+
+WindowRecord* LiveRecord(HWND window)
+{
+    const auto found = Records().find(window);
+    return found != Records().end() && found->second.widget ? &found->second : nullptr;
+}
+
+WindowRecord& RecordOf(QWidget* widget)
+{
+    if (WindowRecord* record = LiveRecord(widget))
+        return *record;
+    WindowRecord& record = Records()[widget];
+    record = WindowRecord{widget, nullptr, nullptr};
+    QObject::connect(widget, &QObject::destroyed, [widget] { Records().erase(widget); });
+    return record;
+}
+
+} // namespace
+
+bool RegisterWindowClass(const WindowClass& windowClass)
+{
+    if (FindClass(windowClass.name))
+        return false;
+    Classes().push_back(windowClass);
+    return true;
+}
+
+HWND CreateWindowOfClass(const char16_t* className, unsigned long style, const RECT& rect,
+                         HWND parent)
+{
+    const WindowClass* windowClass = FindClass(className);
+    if (!windowClass)
+        return nullptr;
+    QWidget* widget = windowClass->create(parent);
+    if (!widget)
+        return nullptr;
+    RecordOf(widget).procedure = windowClass->procedure;
+    widget->setGeometry(static_cast<int>(rect.left), static_cast<int>(rect.top),
+                        static_cast<int>(rect.right - rect.left),
+                        static_cast<int>(rect.bottom - rect.top));
+    if (style & WS_VISIBLE)
+        widget->show();
+    return widget;
+}
+
+bool IsWindow(HWND window)
+{
+    return window && LiveRecord(window);
+}
+
+LRESULT SendMessage(HWND window, UINT message, WPARAM wParam, LPARAM lParam)
+{
+    const WindowRecord* record = LiveRecord(window);
+    if (!record)
+        return 0;
+    if (record->wnd)
+        return record->wnd->WindowProc(message, wParam, lParam);
+    return record->procedure ? record->procedure(window, message, wParam, lParam) : 0;
+}
+
+LRESULT CallClassProcedure(HWND window, UINT message, WPARAM wParam, LPARAM lParam)
+{
+    const WindowRecord* record = LiveRecord(window);
+    return record && record->procedure ? record->procedure(window, message, wParam, lParam) : 0;
+}
+
+HWND GetParent(HWND window)
+{
+    return IsWindow(window) ? window->parentWidget() : nullptr;
+}
+
+void UpdateWindow(HWND window)
+{
+    if (!IsWindow(window))
+        return;
+    if (auto* area = qobject_cast<QAbstractScrollArea*>(window))
+        area->viewport()->repaint();
+    else
+        window->repaint();
+}
+
+CWnd* AttachedWnd(HWND window)
+{
+    const WindowRecord* record = LiveRecord(window);
+    return record ? record->wnd : nullptr;
+}
+
+void SetAttachedWnd(HWND window, CWnd* wnd)
+{
+    if (window)
+        RecordOf(window).wnd = wnd;
+}

@@ -1,0 +1,57 @@
+// Windows by handle: classes by name, creation, the synchronous send.
+// Behind a handle stands a QWidget; behind a class, a function that makes one.
+// All of it belongs to the GUI thread.
+#pragma once
+
+#include "common/Export.h"
+#include "platform/Types.h"
+
+inline constexpr UINT WM_CREATE = 0x0001;
+inline constexpr UINT WM_NOTIFY = 0x004E; // lParam: a record that begins with the sender's handle
+
+inline constexpr unsigned long WS_CHILD = 0x40000000;
+inline constexpr unsigned long WS_VISIBLE = 0x10000000;
+inline constexpr unsigned long WS_CLIPCHILDREN = 0x02000000;
+inline constexpr unsigned long WS_HSCROLL = 0x00100000;
+inline constexpr unsigned long WS_VSCROLL = 0x00200000;
+
+class CWnd;
+
+using WindowProcedure = LRESULT (*)(HWND window, UINT message, WPARAM wParam, LPARAM lParam);
+
+// What a module registers so that its windows can be made by name.
+struct WindowClass
+{
+    const char16_t* name = nullptr; // outlives the registration
+    QWidget* (*create)(QWidget* parent) = nullptr;
+    WindowProcedure procedure = nullptr;
+};
+
+// False if the name is taken.
+ZN_API bool RegisterWindowClass(const WindowClass& windowClass);
+
+// A new window of the class, owned by its parent's widget; without a parent by the caller. Null if
+// the class is unknown. Shown if the style says WS_VISIBLE.
+ZN_API HWND CreateWindowOfClass(const char16_t* className, unsigned long style, const RECT& rect,
+                                HWND parent);
+
+// Whether the handle names a window that was made by class or attached, and that still lives.
+// Any value may be asked about.
+ZN_API bool IsWindow(HWND window);
+
+// The window's answer: that of the CWnd attached to it, else that of its class. 0 if it is not
+// live.
+ZN_API LRESULT SendMessage(HWND window, UINT message, WPARAM wParam, LPARAM lParam);
+
+// The answer of the window's class, past any CWnd. 0 if the window has no class.
+ZN_API LRESULT CallClassProcedure(HWND window, UINT message, WPARAM wParam, LPARAM lParam);
+
+// The window around this one, null for a top-level one.
+ZN_API HWND GetParent(HWND window);
+
+// Paints at once what waits to be painted.
+ZN_API void UpdateWindow(HWND window);
+
+// The CWnd attached to the window, or null. For CWnd itself.
+ZN_API CWnd* AttachedWnd(HWND window);
+ZN_API void SetAttachedWnd(HWND window, CWnd* wnd);

@@ -1,0 +1,79 @@
+#include "platform/Wnd.h"
+
+#include <QString>
+
+CWnd::~CWnd()
+{
+    DestroyWindow();
+}
+
+int CWnd::Create(const char16_t* className, const char16_t* title, unsigned long style,
+                 const RECT& rect, CWnd* parent, UINT /*id*/, CCreateContext* context)
+{
+    if (m_hWnd)
+        return 0;
+    const HWND window = CreateWindowOfClass(className, style & ~WS_VISIBLE, rect,
+                                            parent ? parent->GetSafeHwnd() : nullptr);
+    if (!window)
+        return 0;
+    if (title && *title)
+        window->setWindowTitle(QString::fromUtf16(title));
+    SubclassWindow(window);
+    SendMessage(window, WM_CREATE, 0, reinterpret_cast<LPARAM>(context));
+    if (m_hWnd && (style & WS_VISIBLE))
+        window->show();
+    return m_hWnd ? 1 : 0;
+}
+
+bool CWnd::SubclassWindow(HWND window)
+{
+    if (!Attach(window))
+        return false;
+    PreSubclassWindow();
+    return true;
+}
+
+bool CWnd::Attach(HWND window)
+{
+    if (!window || m_hWnd || AttachedWnd(window))
+        return false;
+    m_hWnd = window;
+    SetAttachedWnd(window, this);
+    return true;
+}
+
+HWND CWnd::Detach()
+{
+    const HWND window = m_hWnd;
+    if (window)
+        SetAttachedWnd(window, nullptr);
+    m_hWnd = nullptr;
+    return window;
+}
+
+void CWnd::DestroyWindow()
+{
+    delete Detach();
+}
+
+LRESULT CWnd::WindowProc(UINT message, WPARAM wParam, LPARAM lParam)
+{
+    for (const MessageMap* map = &GetMessageMap(); map; map = map->base) {
+        for (const MessageEntry& entry : map->entries) {
+            if (entry.message == message)
+                return entry.run(*this, wParam, lParam);
+        }
+    }
+    return DefWindowProc(message, wParam, lParam);
+}
+
+LRESULT CWnd::DefWindowProc(UINT message, WPARAM wParam, LPARAM lParam)
+{
+    return CallClassProcedure(m_hWnd, message, wParam, lParam);
+}
+
+const MessageMap& CWnd::GetMessageMap() const
+{
+    static constexpr MessageMap kNone{};
+    return kNone;
+}

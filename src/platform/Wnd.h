@@ -1,0 +1,66 @@
+// CWnd: an object for a window. It exists with or without one; a QWidget stands behind the handle.
+#pragma once
+
+#include "common/Export.h"
+#include "platform/Window.h"
+
+#include <QPointer>
+#include <QWidget>
+
+#include <span>
+
+class CWnd;
+struct CCreateContext; // what a document template hands to the windows that it makes
+
+struct MessageEntry
+{
+    UINT message = 0;
+    LRESULT (*run)(CWnd& target, WPARAM wParam, LPARAM lParam) = nullptr;
+};
+
+// The messages that a class answers, then those of its base. The first entry of a number wins.
+struct MessageMap
+{
+    const MessageMap* base = nullptr;
+    std::span<const MessageEntry> entries;
+};
+
+class ZN_API CWnd
+{
+public:
+    CWnd() = default;
+    CWnd(const CWnd&) = delete;
+    CWnd& operator=(const CWnd&) = delete;
+    virtual ~CWnd(); // destroys the window
+
+    // The window, null if there is none or it is gone.
+    HWND GetSafeHwnd() const { return m_hWnd.data(); }
+
+    // Makes a window of the class and attaches it. 0 if the class is unknown or a window is
+    // attached.
+    virtual int Create(const char16_t* className, const char16_t* title, unsigned long style,
+                       const RECT& rect, CWnd* parent, UINT id, CCreateContext* context = nullptr);
+
+    // Takes over a window that exists; the widget stays whose it was. False for a null handle, or
+    // if either side is attached already.
+    bool SubclassWindow(HWND window);
+
+    // As SubclassWindow, without PreSubclassWindow.
+    bool Attach(HWND window);
+    HWND Detach(); // the window, which lives on
+
+    void DestroyWindow();
+
+    // Runs once a window is attached by Create or SubclassWindow, before its first message.
+    virtual void PreSubclassWindow() {}
+
+    // Every message that is sent to the window: the message maps, then DefWindowProc.
+    virtual LRESULT WindowProc(UINT message, WPARAM wParam, LPARAM lParam);
+    LRESULT DefWindowProc(UINT message, WPARAM wParam, LPARAM lParam); // that of the window's class
+
+protected:
+    virtual const MessageMap& GetMessageMap() const;
+
+private:
+    QPointer<QWidget> m_hWnd;
+};
