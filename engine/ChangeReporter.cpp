@@ -1,0 +1,323 @@
+#include "engine/ChangeReporter.h"
+
+#include "control/EngineMessages.h"
+#include "engine/Utf.h"
+#include "platform/Window.h"
+
+#include <QMetaObject>
+#include <QUrl>
+
+#include <algorithm>
+#include <utility>
+
+namespace engine {
+namespace {
+
+using Sci = QsciScintillaBase;
+
+constexpr int kBefore = modification::BeforeInsert | modification::BeforeDelete;
+constexpr int kTextChange = modification::InsertText | modification::DeleteText;
+constexpr int kOrigin = modification::User | modification::Undo | modification::Redo;
+
+// The bits of a host's mask that the stock engine may see: style, fold, marker, indicator, line
+// state, margin, annotation. None of them ever stands beside a change of the text.
+constexpr int kHarmless = 0x2fc20c;
+
+std::vector<ChangeReporter*>& Reporters()
+{
+    static std::vector<ChangeReporter*> reporters;
+    return reporters;
+}
+
+} // namespace
+
+int ChangeReporter::s_pending = 0;
+int ChangeReporter::s_depth = 0;
+int ChangeReporter::s_noting = 0;
+
+ChangeReporter::ChangeReporter(QsciScintillaBase& window, const Raw& raw, TextIndex& text)
+    : m_window(window), m_raw(raw), m_text(text)
+{
+    Reporters().push_back(this);
+    SetModEventMask(m_mask);
+    Connect();
+    ConnectLists();
+    ConnectMouse();
+}
+
+ChangeReporter::~ChangeReporter()
+{
+    std::erase(Reporters(), this);
+    if (m_change.type)
+        --s_pending;
+}
+
+void ChangeReporter::SetModEventMask(int mask)
+{
+    m_mask = mask;
+    m_raw.Send(Sci::SCI_SETMODEVENTMASK, static_cast<std::uintptr_t>((mask & kHarmless) | kBefore));
+}
+
+void ChangeReporter::FlushAll()
+{
+    if (s_noting > 0)
+        return; // a change that is noted in one window may not stand in the text yet
+    // A handler may close windows, or open some.
+    for (std::size_t i = 0; s_pending > 0 && i < Reporters().size(); ++i)
+        Reporters()[i]->Flush();
+}
+
+bool ChangeReporter::HasListener() const
+{
+    return AttachedWnd(m_window.parentWidget()) != nullptr;
+}
+
+void ChangeReporter::Connect()
+{
+    QObject::connect(&m_window, &Sci::SCN_MODIFIED, &m_window,
+                     [this](int position, int type, const char*, int length, int, int line,
+                            int foldNow, int foldPrev, int token, int annotationLines) {
+                         OnModified(position, type, length, line, foldNow, foldPrev, token,
+                                    annotationLines);
+                     });
+    QObject::connect(&m_window, &Sci::SCN_SAVEPOINTREACHED, &m_window,
+                     [this] { OnSavePoint(notify::SavePointReached); });
+    QObject::connect(&m_window, &Sci::SCN_SAVEPOINTLEFT, &m_window,
+                     [this] { OnSavePoint(notify::SavePointLeft); });
+    QObject::connect(&m_window, &Sci::SCN_CHARADDED, &m_window,
+                     [this](int ch) { Tell(notify::CharAdded, {.ch = ch}); });
+    QObject::connect(&m_window, &Sci::SCN_STYLENEEDED, &m_window, [this](int position) {
+        Tell(notify::StyleNeeded, {.position = Units(position)});
+    });
+    QObject::connect(&m_window, &Sci::SCN_UPDATEUI, &m_window,
+                     [this](int updated) { Tell(notify::UpdateUi, {.updated = updated}); });
+    QObject::connect(&m_window, &Sci::SCN_MODIFYATTEMPTRO, &m_window,
+                     [this] { Tell(notify::ModifyAttemptReadOnly); });
+    QObject::connect(&m_window, &Sci::SCN_NEEDSHOWN, &m_window, [this](int position, int length) {
+        Tell(notify::NeedShown,
+             {.position = Units(position), .length = Units(position + length) - Units(position)});
+    });
+    QObject::connect(&m_window, &Sci::SCN_PAINTED, &m_window, [this] { Tell(notify::Painted); });
+    QObject::connect(&m_window, &Sci::SCN_ZOOM, &m_window, [this] { Tell(notify::Zoom); });
+    QObject::connect(&m_window, &Sci::SCN_FOCUSIN, &m_window, [this] { Tell(notify::FocusIn); });
+    QObject::connect(&m_window, &Sci::SCN_FOCUSOUT, &m_window, [this] { Tell(notify::FocusOut); });
+    QObject::connect(&m_window, &Sci::SCN_MACRORECORD, &m_window,
+                     [this](unsigned number, unsigned long wParam, void* lParam) {
+                         OnMacroRecord(number, wParam, lParam);
+                     });
+    QObject::connect(&m_window, &Sci::SCN_URIDROPPED, &m_window, [this](const QUrl& url) {
+        const std::u16string text = url.toString().toStdU16String();
+        Tell(notify::UriDropped, {.text = text.c_str()});
+    });
+}
+
+void ChangeReporter::ConnectLists()
+{
+    const auto tellChoice = [this](UINT code, const char* chosen, int listType, int position,
+                                   int ch, int method) {
+        const std::u16string text = chosen ? ToUtf16(chosen) : std::u16string();
+        Tell(code, {.position = Units(position),
+                    .ch = ch,
+                    .text = text.c_str(),
+                    .listType = listType,
+                    .listCompletionMethod = method});
+    };
+    QObject::connect(&m_window, qOverload<const char*, int, int, int>(&Sci::SCN_AUTOCSELECTION),
+                     &m_window, [tellChoice](const char* text, int position, int ch, int method) {
+                         tellChoice(notify::AutoCSelection, text, 0, position, ch, method);
+                     });
+    QObject::connect(&m_window, &Sci::SCN_AUTOCCOMPLETED, &m_window,
+                     [tellChoice](const char* text, int position, int ch, int method) {
+                         tellChoice(notify::AutoCCompleted, text, 0, position, ch, method);
+                     });
+    QObject::connect(&m_window, &Sci::SCN_AUTOCSELECTIONCHANGE, &m_window,
+                     [tellChoice](const char* text, int id, int position) {
+                         tellChoice(notify::AutoCSelectionChange, text, id, position, 0, 0);
+                     });
+    QObject::connect(
+        &m_window, qOverload<const char*, int, int, int, int>(&Sci::SCN_USERLISTSELECTION),
+        &m_window, [tellChoice](const char* text, int id, int ch, int method, int position) {
+            tellChoice(notify::UserListSelection, text, id, position, ch, method);
+        });
+    QObject::connect(&m_window, &Sci::SCN_AUTOCCANCELLED, &m_window,
+                     [this] { Tell(notify::AutoCCancelled); });
+    QObject::connect(&m_window, &Sci::SCN_AUTOCCHARDELETED, &m_window,
+                     [this] { Tell(notify::AutoCCharDeleted); });
+}
+
+void ChangeReporter::ConnectMouse()
+{
+    const auto tellPlace = [this](UINT code, int position, int modifiers) {
+        Tell(code, {.position = Units(position), .modifiers = modifiers});
+    };
+    const auto connectPlace = [&](auto signal, UINT code) {
+        QObject::connect(&m_window, signal, &m_window,
+                         [tellPlace, code](int position, int modifiers) {
+                             tellPlace(code, position, modifiers);
+                         });
+    };
+    connectPlace(&Sci::SCN_HOTSPOTCLICK, notify::HotSpotClick);
+    connectPlace(&Sci::SCN_HOTSPOTDOUBLECLICK, notify::HotSpotDoubleClick);
+    connectPlace(&Sci::SCN_HOTSPOTRELEASECLICK, notify::HotSpotReleaseClick);
+    connectPlace(&Sci::SCN_INDICATORCLICK, notify::IndicatorClick);
+    connectPlace(&Sci::SCN_INDICATORRELEASE, notify::IndicatorRelease);
+
+    const auto connectMargin = [&](auto signal, UINT code) {
+        QObject::connect(
+            &m_window, signal, &m_window, [this, code](int position, int modifiers, int margin) {
+                Tell(code, {.position = Units(position), .modifiers = modifiers, .margin = margin});
+            });
+    };
+    connectMargin(&Sci::SCN_MARGINCLICK, notify::MarginClick);
+    connectMargin(&Sci::SCN_MARGINRIGHTCLICK, notify::MarginRightClick);
+
+    const auto connectDwell = [&](auto signal, UINT code) {
+        QObject::connect(&m_window, signal, &m_window, [this, code](int position, int x, int y) {
+            Tell(code, {.position = position < 0 ? position : Units(position), .x = x, .y = y});
+        });
+    };
+    connectDwell(&Sci::SCN_DWELLSTART, notify::DwellStart);
+    connectDwell(&Sci::SCN_DWELLEND, notify::DwellEnd);
+
+    QObject::connect(&m_window, &Sci::SCN_DOUBLECLICK, &m_window,
+                     [this](int position, int line, int modifiers) {
+                         Tell(notify::DoubleClick,
+                              {.position = Units(position), .modifiers = modifiers, .line = line});
+                     });
+    QObject::connect(&m_window, &Sci::SCN_CALLTIPCLICK, &m_window, [this](int direction) {
+        Tell(notify::CallTipClick, {.position = direction});
+    });
+}
+
+void ChangeReporter::OnModified(int position, int type, int length, int line, int foldNow,
+                                int foldPrev, int token, int annotationLinesAdded)
+{
+    if (type & kBefore) {
+        ++s_noting;
+        Flush();
+        Note({.type = type, .position = {position}, .bytes = length});
+        --s_noting;
+        return;
+    }
+    if (!(type & m_mask))
+        return;
+    SCNotification record;
+    record.modificationType = type;
+    if (type & modification::ChangeStyle || type & modification::ChangeIndicator) {
+        record.position = Units(position);
+        record.length = Units(position + length) - record.position;
+    }
+    record.line = line;
+    record.foldLevelNow = foldNow;
+    record.foldLevelPrev = foldPrev;
+    record.token = token;
+    record.annotationLinesAdded = annotationLinesAdded;
+    Tell(notify::Modified, record);
+}
+
+void ChangeReporter::Note(Change change)
+{
+    const int reported = change.type & modification::BeforeInsert ? modification::InsertText
+                                                                  : modification::DeleteText;
+    change.told = (m_mask & (reported | (change.type & kOrigin))) && HasListener();
+    if (change.told) {
+        change.unit = m_text.ToUnits(change.position);
+        change.lines = m_raw.LineCount();
+        if (reported == modification::DeleteText)
+            m_deleted =
+                ToUtf16(m_raw.Bytes(change.position.value, change.position.value + change.bytes));
+    }
+    if (reported == modification::InsertText)
+        m_text.InsertionBegins(change.position, change.bytes);
+    else
+        m_text.DeletionBegins(change.position, change.bytes);
+    m_change = change;
+    ++s_pending;
+    if (s_depth == 0)
+        QMetaObject::invokeMethod(
+            &m_window, [] { FlushAll(); }, Qt::QueuedConnection);
+}
+
+void ChangeReporter::Flush()
+{
+    if (!m_change.type)
+        return;
+    const Change change = std::exchange(m_change, Change());
+    --s_pending;
+    m_text.ChangeDone();
+    if (change.told)
+        TellChange(change);
+    for (const UINT code : std::exchange(m_savePoints, {})) {
+        SCNotification record;
+        Send(code, record);
+    }
+}
+
+void ChangeReporter::TellChange(const Change& change)
+{
+    SCNotification record;
+    record.position = change.unit.value;
+    record.linesAdded = m_raw.LineCount() - change.lines;
+    std::u16string text;
+    if (change.type & modification::BeforeInsert) {
+        record.modificationType = modification::InsertText;
+        text = ToUtf16(m_raw.Bytes(change.position.value, change.position.value + change.bytes));
+    } else {
+        record.modificationType = modification::DeleteText;
+        text = std::move(m_deleted);
+        m_deleted.clear();
+    }
+    record.modificationType |= change.type & kOrigin;
+    record.text = text.c_str();
+    record.length = static_cast<long>(text.size());
+    Send(notify::Modified, record);
+}
+
+void ChangeReporter::OnSavePoint(UINT code)
+{
+    if (m_change.type) {
+        m_savePoints.push_back(code);
+        return;
+    }
+    Tell(code);
+}
+
+void ChangeReporter::OnMacroRecord(UINT number, unsigned long wParam, void* lParam)
+{
+    const auto* row = std::find_if(std::begin(kMessageRows), std::end(kMessageRows),
+                                   [number](const MessageRow& r) { return r.number == number; });
+    if (row == std::end(kMessageRows))
+        return;
+    SCNotification record;
+    record.message = static_cast<int>(number);
+    record.wParam = wParam;
+    record.lParam = reinterpret_cast<LPARAM>(lParam);
+    std::u16string text;
+    if (row->wParam == Kind::Pos)
+        record.wParam = static_cast<WPARAM>(Units(static_cast<long>(wParam)));
+    if (row->lParam == Kind::TextIn && lParam) {
+        const char* bytes = static_cast<const char*>(lParam);
+        text = row->wParam == Kind::Count ? ToUtf16({bytes, wParam}) : ToUtf16(bytes);
+        record.lParam = reinterpret_cast<LPARAM>(text.c_str());
+        if (row->wParam == Kind::Count)
+            record.wParam = text.size();
+    }
+    Tell(notify::MacroRecord, record);
+}
+
+void ChangeReporter::Tell(UINT code, SCNotification record)
+{
+    Flush();
+    Send(code, record);
+}
+
+void ChangeReporter::Send(UINT code, SCNotification& record)
+{
+    const HWND parent = m_window.parentWidget();
+    if (!AttachedWnd(parent))
+        return;
+    record.nmhdr = {&m_window, 0, code};
+    SendMessage(parent, WM_NOTIFY, 0, reinterpret_cast<LPARAM>(&record));
+}
+
+} // namespace engine

@@ -1,0 +1,86 @@
+// ChangeReporter: tells the parent window what happens in an engine window, in UTF-16 units.
+//
+// Text changes are noted before they happen and told once they are in the text: at the next
+// notification of any kind, or when the message that made them returns, whichever is first. The
+// stock engine's own news of a change runs a hook that counts characters from the text's start.
+// A save point that is left by a change is told after the change.
+#pragma once
+
+#include "control/EngineRecords.h"
+#include "engine/TextIndex.h"
+
+#include <string>
+#include <vector>
+
+namespace engine {
+
+// What a window tells of if its host sets no mask: changes of the text, and fold levels.
+inline constexpr int kDefaultModEventMask =
+    modification::InsertText | modification::DeleteText | modification::ChangeFold;
+
+class ChangeReporter
+{
+public:
+    ChangeReporter(QsciScintillaBase& window, const Raw& raw, TextIndex& text);
+    ~ChangeReporter();
+    ChangeReporter(const ChangeReporter&) = delete;
+    ChangeReporter& operator=(const ChangeReporter&) = delete;
+
+    int ModEventMask() const { return m_mask; }
+    void SetModEventMask(int mask);
+
+    // Tells what waits, in every window of the process: a document may stand in several.
+    static void FlushAll();
+    static bool AnyPending() { return s_pending > 0; }
+
+    // While one of these lives, somebody will call FlushAll; else a queued call does.
+    struct Scope
+    {
+        Scope() { ++s_depth; }
+        ~Scope() { --s_depth; }
+        Scope(const Scope&) = delete;
+        Scope& operator=(const Scope&) = delete;
+    };
+
+    // Fills in the sender and sends the record, after what waits.
+    void Tell(UINT code, SCNotification record = {});
+
+private:
+    struct Change
+    {
+        int type = 0; // 0: none waits
+        BytePos position;
+        long bytes = 0;
+        UnitPos unit;
+        long lines = 0; // before the change
+        bool told = false;
+    };
+
+    void Connect();
+    void ConnectLists();
+    void ConnectMouse();
+    void OnModified(int position, int type, int length, int line, int foldNow, int foldPrev,
+                    int token, int annotationLinesAdded);
+    void OnSavePoint(UINT code);
+    void OnMacroRecord(UINT number, unsigned long wParam, void* lParam);
+    void Note(Change change);
+    void Flush();
+    void TellChange(const Change& change);
+    void Send(UINT code, SCNotification& record);
+    bool HasListener() const;
+    long Units(long position) const { return m_text.ToUnits({position}).value; }
+
+    QsciScintillaBase& m_window;
+    const Raw& m_raw;
+    TextIndex& m_text;
+    int m_mask = kDefaultModEventMask;
+    Change m_change;
+    std::u16string m_deleted;       // the text of a noted deletion
+    std::vector<UINT> m_savePoints; // told behind the change
+
+    static int s_pending;
+    static int s_depth;
+    static int s_noting;
+};
+
+} // namespace engine

@@ -1,0 +1,143 @@
+#include "engine/Engine.h"
+
+#include "engine/Handlers.h"
+
+#include <array>
+
+namespace engine {
+namespace {
+
+using Sci = QsciScintillaBase;
+
+constexpr UINT kFirstNumber = 2000;
+constexpr UINT kNumbers = 2048;
+
+// What answers a number: nothing, a handler, the stock engine as it is, or the row's translation.
+struct Answerer
+{
+    enum class Way : unsigned char
+    {
+        None,
+        Pass,
+        Translate,
+        Handle
+    };
+    Way way = Way::None;
+    const MessageRow* row = nullptr;
+    Handler handler = nullptr;
+};
+
+constexpr bool IsPlain(Kind kind)
+{
+    return kind != Kind::Pos && kind != Kind::Span && kind != Kind::TextIn && kind != Kind::Line;
+}
+
+using Answerers = std::array<Answerer, kNumbers>;
+
+const Answerers& AllAnswerers()
+{
+    static const Answerers answerers = [] {
+        Answerers all;
+        for (const MessageRow& row : kMessageRows) {
+            Answerer& answerer = all[row.number - kFirstNumber];
+            answerer.row = &row;
+            answerer.way = IsPlain(row.result) && IsPlain(row.wParam) && IsPlain(row.lParam)
+                               ? Answerer::Way::Pass
+                               : Answerer::Way::Translate;
+        }
+        for (const auto handlers :
+             {TextHandlers(), PositionHandlers(), SettingHandlers(), PrintHandlers()}) {
+            for (const HandlerRow& row : handlers) {
+                Answerer& answerer = all[row.number - kFirstNumber];
+                answerer.handler = row.run;
+                answerer.way = Answerer::Way::Handle;
+            }
+        }
+        return all;
+    }();
+    return answerers;
+}
+
+// A line outside the text is clamped: the stock engine's own tables are not asked behind their end.
+long ClampedLine(const Raw& raw, long line)
+{
+    return line < 0 ? -1 : std::min(line, raw.LineCount());
+}
+
+} // namespace
+
+Engine::Engine(QsciScintillaBase& widget)
+    : window(widget), raw(widget), text(raw), reporter(widget, raw, text)
+{
+    PrepareDocument();
+}
+
+void Engine::PrepareDocument()
+{
+    raw.Send(Sci::SCI_SETCODEPAGE, Sci::SC_CP_UTF8);
+    text.Reset();
+}
+
+LRESULT Engine::Perform(UINT message, WPARAM wParam, LPARAM lParam)
+{
+    static const Answerers& answerers = AllAnswerers();
+    const UINT slot = message - kFirstNumber;
+    if (slot >= kNumbers)
+        return 0;
+    const Answerer& answerer = answerers[slot];
+    const ChangeReporter::Scope scope;
+    LRESULT result = 0;
+    switch (answerer.way) {
+    case Answerer::Way::None:
+        return 0;
+    case Answerer::Way::Pass:
+        result = raw.Send(message, wParam, lParam);
+        break;
+    case Answerer::Way::Translate:
+        result = Translate(*answerer.row, wParam, lParam);
+        break;
+    case Answerer::Way::Handle:
+        result = answerer.handler(*this, wParam, lParam);
+        break;
+    }
+    if (ChangeReporter::AnyPending()) // from here on the window may be gone
+        ChangeReporter::FlushAll();
+    return result;
+}
+
+long Engine::Bytes(LPARAM position) const
+{
+    return position < 0 ? static_cast<long>(position) : text.ToBytes({position}).value;
+}
+
+long Engine::Units(long position) const
+{
+    return position < 0 ? position : text.ToUnits({position}).value;
+}
+
+LRESULT Engine::Translate(const MessageRow& row, WPARAM wParam, LPARAM lParam)
+{
+    Utf8Text wText;
+    Utf8Text lText;
+    const auto inward = [this](Kind kind, LPARAM value, Utf8Text& scratch) -> LPARAM {
+        switch (kind) {
+        case Kind::Pos:
+            return Bytes(value);
+        case Kind::Line:
+            return ClampedLine(raw, static_cast<int>(value));
+        case Kind::TextIn:
+            if (!value)
+                return 0;
+            scratch.Assign(TerminatedText(reinterpret_cast<const char16_t*>(value)));
+            return reinterpret_cast<LPARAM>(scratch.Data());
+        default:
+            return value;
+        }
+    };
+    const LPARAM w = inward(row.wParam, static_cast<LPARAM>(wParam), wText);
+    const LPARAM l = inward(row.lParam, lParam, lText);
+    const LRESULT result = raw.Send(row.number, static_cast<WPARAM>(w), l);
+    return row.result == Kind::Pos ? Units(static_cast<long>(result)) : result;
+}
+
+} // namespace engine

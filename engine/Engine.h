@@ -1,0 +1,62 @@
+// Engine: one window's text behind the numbered messages. Every position is translated between the
+// UTF-16 units of the channel and the bytes of the stock engine, by the rows of the message table.
+// Messages whose meaning is this engine's own stand in Handlers.h.
+#pragma once
+
+#include "control/EngineMessages.h"
+#include "engine/ChangeReporter.h"
+#include "engine/Raw.h"
+#include "engine/TextIndex.h"
+#include "engine/Utf.h"
+
+#include <optional>
+#include <set>
+#include <string>
+
+namespace engine {
+
+// How a style differs on paper. Empty: as on the screen.
+struct PrintStyle
+{
+    std::optional<bool> bold;
+    std::optional<bool> italic;
+    std::optional<int> points;
+    std::string font; // UTF-8
+};
+
+class Engine
+{
+public:
+    explicit Engine(QsciScintillaBase& window);
+
+    // Answers a message. A number outside the table answers 0.
+    LRESULT Perform(UINT message, WPARAM wParam, LPARAM lParam);
+
+    // After the window got another document: the index belongs to the document.
+    void PrepareDocument();
+
+    // A position of the channel in bytes; a negative one stays as it is.
+    long Bytes(LPARAM position) const;
+    long Units(long position) const;
+
+    QsciScintillaBase& window;
+    const Raw raw;
+    TextIndex text;
+    ChangeReporter reporter;
+
+    // What the stock engine has no place for.
+    bool noSingleEol = false;         // line-end mode 0
+    int lexer = 0;                    // this engine's number
+    bool reconciler = true;           // the analysis follows the text
+    bool bulkChange = false;          // between SetDoingReplaceAll(true) and (false)
+    int copyEol = -1;                 // line-end mode of the copy under way, -1: as the text stands
+    std::set<std::string> properties; // of the lexer, set so far
+    PrintStyle print;
+    std::string callTip;      // UTF-8
+    int lengthForEncode = -1; // bytes; -1: up to the terminator
+
+private:
+    LRESULT Translate(const MessageRow& row, WPARAM wParam, LPARAM lParam);
+};
+
+} // namespace engine

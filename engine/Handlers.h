@@ -1,0 +1,26 @@
+// The messages that are not answered by translating their row: text in and out, records, and what
+// means something else here than in the stock engine.
+#pragma once
+
+#include "control/EngineMessages.h"
+
+#include <span>
+
+namespace engine {
+
+class Engine;
+
+using Handler = LRESULT (*)(Engine& engine, WPARAM wParam, LPARAM lParam);
+
+struct HandlerRow
+{
+    UINT number;
+    Handler run;
+};
+
+std::span<const HandlerRow> TextHandlers();     // TextHandlers.cpp
+std::span<const HandlerRow> PositionHandlers(); // PositionHandlers.cpp
+std::span<const HandlerRow> SettingHandlers();  // SettingHandlers.cpp
+std::span<const HandlerRow> PrintHandlers();    // Printing.cpp
+
+} // namespace engine

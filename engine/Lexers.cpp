@@ -1,0 +1,52 @@
+#include "engine/Lexers.h"
+
+#include <Qsci/qsciscintillabase.h>
+
+#include <algorithm>
+#include <iterator>
+
+namespace engine {
+namespace {
+
+using Sci = QsciScintillaBase;
+
+struct LexerRow
+{
+    int number;
+    int stock;
+};
+
+constexpr int kPlain = 1;
+
+// The dialects share one lexer: its styles for comments are 1 and 2, for strings 4 and 8. Generic
+// SQL has comments in 1, 2 and 3 and strings in 6 and 7.
+constexpr LexerRow kLexers[] = {
+    {0, Sci::SCLEX_CONTAINER}, {1, Sci::SCLEX_NULL},       {9, Sci::SCLEX_SQL},
+    {3, Sci::SCLEX_MSSQL},     {2, Sci::SCLEX_MSSQL},      {4, Sci::SCLEX_MSSQL},
+    {5, Sci::SCLEX_MSSQL},     {10, Sci::SCLEX_MSSQL},     {14, Sci::SCLEX_MSSQL},
+    {15, Sci::SCLEX_MSSQL},    {16, Sci::SCLEX_MSSQL},     {17, Sci::SCLEX_MSSQL},
+    {18, Sci::SCLEX_MSSQL},    {6, Sci::SCLEX_CPP},        {28, Sci::SCLEX_CPPNOCASE},
+    {7, Sci::SCLEX_HTML},      {24, Sci::SCLEX_HTML},      {25, Sci::SCLEX_HTML},
+    {8, Sci::SCLEX_XML},       {11, Sci::SCLEX_VB},        {12, Sci::SCLEX_VBSCRIPT},
+    {13, Sci::SCLEX_BATCH},    {19, Sci::SCLEX_DIFF},      {20, Sci::SCLEX_PROPERTIES},
+    {21, Sci::SCLEX_MAKEFILE}, {22, Sci::SCLEX_ERRORLIST}, {23, Sci::SCLEX_LATEX},
+    {26, Sci::SCLEX_PERL},     {27, Sci::SCLEX_CSS},       {30, Sci::SCLEX_PHPSCRIPT},
+};
+
+} // namespace
+
+int StockLexer(int lexer)
+{
+    const auto* row = std::find_if(std::begin(kLexers), std::end(kLexers),
+                                   [lexer](const LexerRow& r) { return r.number == lexer; });
+    return row != std::end(kLexers) ? row->stock : static_cast<int>(Sci::SCLEX_NULL);
+}
+
+int LexerOfStock(int stock)
+{
+    const auto* row = std::find_if(std::begin(kLexers), std::end(kLexers),
+                                   [stock](const LexerRow& r) { return r.stock == stock; });
+    return row != std::end(kLexers) ? row->number : kPlain;
+}
+
+} // namespace engine

@@ -1,0 +1,11 @@
+// The engine module. Loading it makes its window class known; nothing else is reached by name.
+#include "engine/EngineWindow.h"
+
+namespace {
+
+[[maybe_unused]] const bool kRegistered = [] {
+    engine::RegisterEngineWindow();
+    return true;
+}();
+
+} // namespace

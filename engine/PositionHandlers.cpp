@@ -1,0 +1,172 @@
+// Messages about places in the text that need more than a position translated.
+#include "engine/Engine.h"
+#include "engine/Handlers.h"
+
+#include <algorithm>
+
+namespace engine {
+namespace {
+
+using Sci = QsciScintillaBase;
+
+LRESULT GetLength(Engine& engine, WPARAM, LPARAM)
+{
+    return engine.text.Length();
+}
+
+// The unit at a position, 0 outside the text.
+LRESULT GetCharAt(Engine& engine, WPARAM wParam, LPARAM)
+{
+    const auto unit = static_cast<long>(wParam);
+    if (unit < 0 || unit >= engine.text.Length())
+        return 0;
+    const long byte = engine.text.ToBytes({unit}).value;
+    const auto lead =
+        static_cast<unsigned char>(engine.raw.Send(Sci::SCI_GETCHARAT, static_cast<WPARAM>(byte)));
+    if (lead < 0x80)
+        return lead;
+    const auto end = engine.raw.Send(Sci::SCI_POSITIONAFTER, static_cast<WPARAM>(byte));
+    const std::u16string character = ToUtf16(engine.raw.Bytes(byte, static_cast<long>(end)));
+    const long offset = unit - engine.text.ToUnits({byte}).value;
+    return character[static_cast<std::size_t>(
+        std::min<long>(offset, static_cast<long>(character.size()) - 1))];
+}
+
+LRESULT LineFromPosition(Engine& engine, WPARAM wParam, LPARAM)
+{
+    return engine.text.LineOf({static_cast<long>(wParam)});
+}
+
+// Of the line behind the last one: the text's end. Of a line further on: -1.
+LRESULT PositionFromLine(Engine& engine, WPARAM wParam, LPARAM)
+{
+    const long line = static_cast<int>(wParam);
+    if (line < 0) // the stock engine takes the line of the selection's start
+        return engine.text
+            .StartOfLine(engine.text.LineOf(
+                {engine.Units(static_cast<long>(engine.raw.Send(Sci::SCI_GETSELECTIONSTART)))}))
+            .value;
+    return line > engine.raw.LineCount() ? -1 : engine.text.StartOfLine(line).value;
+}
+
+// Units of the line, its line end included; 0 for a line that is not there.
+LRESULT LineLength(Engine& engine, WPARAM wParam, LPARAM)
+{
+    const long line = static_cast<int>(wParam);
+    if (line < 0 || line >= engine.raw.LineCount())
+        return 0;
+    return engine.text.StartOfLine(line + 1).value - engine.text.StartOfLine(line).value;
+}
+
+LRESULT SetStyling(Engine& engine, WPARAM wParam, LPARAM lParam)
+{
+    const auto from = static_cast<long>(engine.raw.Send(Sci::SCI_GETENDSTYLED));
+    const long length = std::max(0L, static_cast<long>(static_cast<int>(wParam)));
+    const long to = engine.Bytes(engine.Units(from) + length);
+    return engine.raw.Send(Sci::SCI_SETSTYLING, static_cast<WPARAM>(to - from), lParam);
+}
+
+// One style for each unit becomes one for each byte.
+LRESULT SetStylingEx(Engine& engine, WPARAM wParam, LPARAM lParam)
+{
+    const auto* styles = reinterpret_cast<const char*>(lParam);
+    const auto from = static_cast<long>(engine.raw.Send(Sci::SCI_GETENDSTYLED));
+    const long start = engine.Units(from);
+    const long length = std::min<long>(static_cast<int>(wParam), engine.text.Length() - start);
+    if (!styles || length <= 0)
+        return 0;
+    const long to = engine.Bytes(start + length);
+    std::string expanded;
+    expanded.reserve(static_cast<std::size_t>(to - from));
+    long unit = -1;
+    for (const char byte : engine.raw.Bytes(from, to)) {
+        unit += (byte & 0xC0) != 0x80;
+        unit += (byte & 0xF8) == 0xF0; // the style of a pair is that of its second half
+        expanded.push_back(styles[std::min(unit, length - 1)]);
+    }
+    return engine.raw.Send(Sci::SCI_SETSTYLINGEX, expanded.size(), expanded.data());
+}
+
+LRESULT FindText(Engine& engine, WPARAM wParam, LPARAM lParam)
+{
+    auto* record = reinterpret_cast<TextToFind*>(lParam);
+    if (!record || !record->lpstrText)
+        return -1;
+    const Utf8Text sought(TerminatedText(record->lpstrText));
+    const long length = engine.raw.Length();
+    const auto toBytes = [&](int position) {
+        return position < 0 ? length : engine.Bytes(position);
+    };
+    // Over the target, which takes either direction and plain positions; its own bounds are kept.
+    const auto targetStart = engine.raw.Send(Sci::SCI_GETTARGETSTART);
+    const auto targetEnd = engine.raw.Send(Sci::SCI_GETTARGETEND);
+    const auto searchFlags = engine.raw.Send(Sci::SCI_GETSEARCHFLAGS);
+    engine.raw.Send(Sci::SCI_SETTARGETRANGE, static_cast<WPARAM>(toBytes(record->chrg.cpMin)),
+                    static_cast<LPARAM>(toBytes(record->chrg.cpMax)));
+    engine.raw.Send(Sci::SCI_SETSEARCHFLAGS, wParam);
+    const auto found =
+        static_cast<long>(engine.raw.Send(Sci::SCI_SEARCHINTARGET, sought.Size(), sought.Data()));
+    LRESULT result = -1;
+    if (found >= 0) {
+        record->chrgText.cpMin = static_cast<int>(engine.Units(found));
+        record->chrgText.cpMax = static_cast<int>(
+            engine.Units(static_cast<long>(engine.raw.Send(Sci::SCI_GETTARGETEND))));
+        result = record->chrgText.cpMin;
+    }
+    engine.raw.Send(Sci::SCI_SETTARGETRANGE, static_cast<WPARAM>(targetStart), targetEnd);
+    engine.raw.Send(Sci::SCI_SETSEARCHFLAGS, static_cast<WPARAM>(searchFlags));
+    return result;
+}
+
+// Offsets into the tip's text.
+LRESULT CallTipSetHlt(Engine& engine, WPARAM wParam, LPARAM lParam)
+{
+    const std::u16string tip = ToUtf16(engine.callTip);
+    const auto toBytes = [&tip](long unit) {
+        const auto end =
+            static_cast<std::size_t>(std::clamp(unit, 0L, static_cast<long>(tip.size())));
+        return Utf8Text(std::u16string_view(tip).substr(0, end)).Size();
+    };
+    return engine.raw.Send(Sci::SCI_CALLTIPSETHLT, toBytes(static_cast<long>(wParam)),
+                           static_cast<LPARAM>(toBytes(static_cast<long>(lParam))));
+}
+
+LRESULT CallTipShow(Engine& engine, WPARAM wParam, LPARAM lParam)
+{
+    const Utf8Text tip(TerminatedText(reinterpret_cast<const char16_t*>(lParam)));
+    engine.callTip = tip.View();
+    return engine.raw.Send(Sci::SCI_CALLTIPSHOW,
+                           static_cast<WPARAM>(engine.Bytes(static_cast<LPARAM>(wParam))),
+                           tip.Data());
+}
+
+LRESULT SetDocPointer(Engine& engine, WPARAM, LPARAM lParam)
+{
+    engine.raw.Send(Sci::SCI_SETDOCPOINTER, 0, lParam);
+    engine.PrepareDocument();
+    return 0;
+}
+
+constexpr HandlerRow kRows[] = {
+    {message::GetLength, GetLength},
+    {message::GetTextLength, GetLength},
+    {message::GetCharAt, GetCharAt},
+    {message::LineFromPosition, LineFromPosition},
+    {message::PositionFromLine, PositionFromLine},
+    {message::LineLength, LineLength},
+    {message::SetStyling, SetStyling},
+    {message::SetStylingEx, SetStylingEx},
+    {message::FindTextW, FindText},
+    {message::CallTipSetHlt, CallTipSetHlt},
+    {message::CallTipShow, CallTipShow},
+    {message::SetDocPointer, SetDocPointer},
+};
+
+} // namespace
+
+std::span<const HandlerRow> PositionHandlers()
+{
+    return kRows;
+}
+
+} // namespace engine

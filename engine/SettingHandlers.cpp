@@ -1,0 +1,183 @@
+// Messages that set and ask what this engine holds in its own way: line ends, lexers, the mask of
+// notifications, the switches of the analysis.
+#include "engine/Engine.h"
+#include "engine/Handlers.h"
+#include "engine/Lexers.h"
+
+#include <QWidget>
+
+namespace engine {
+namespace {
+
+using Sci = QsciScintillaBase;
+
+// This engine's line-end modes by the stock engine's: CR LF, CR, LF.
+constexpr int kEolModes[] = {1, 2, 3};
+
+// -1 for what is no mode.
+int StockEolMode(WPARAM mode)
+{
+    return mode >= 1 && mode <= 3 ? static_cast<int>(mode) - 1 : -1;
+}
+
+LRESULT GetEolMode(Engine& engine, WPARAM, LPARAM)
+{
+    if (engine.noSingleEol)
+        return 0;
+    return kEolModes[engine.raw.Send(Sci::SCI_GETEOLMODE)];
+}
+
+// Mode 0, no single mode, leaves what Enter inserts as it was. Other numbers change nothing.
+LRESULT SetEolMode(Engine& engine, WPARAM wParam, LPARAM)
+{
+    const int stock = StockEolMode(wParam);
+    if (stock >= 0)
+        engine.raw.Send(Sci::SCI_SETEOLMODE, static_cast<WPARAM>(stock));
+    if (stock >= 0 || wParam == 0)
+        engine.noSingleEol = stock < 0;
+    return 0;
+}
+
+LRESULT ConvertEols(Engine& engine, WPARAM wParam, LPARAM)
+{
+    const int stock = StockEolMode(wParam);
+    if (stock >= 0)
+        engine.raw.Send(Sci::SCI_CONVERTEOLS, static_cast<WPARAM>(stock));
+    return 0;
+}
+
+// The text is UTF-16 to everybody outside, whatever is set: 65001 is the stock engine's word for
+// Unicode.
+LRESULT GetCodePage(Engine&, WPARAM, LPARAM)
+{
+    return Sci::SC_CP_UTF8;
+}
+
+LRESULT Ignore(Engine&, WPARAM, LPARAM)
+{
+    return 0;
+}
+
+LRESULT GetModEventMask(Engine& engine, WPARAM, LPARAM)
+{
+    return engine.reporter.ModEventMask();
+}
+
+LRESULT SetModEventMask(Engine& engine, WPARAM wParam, LPARAM)
+{
+    engine.reporter.SetModEventMask(static_cast<int>(wParam));
+    return 0;
+}
+
+// lParam: a line-end mode for what goes to the clipboard; any other value leaves it as it stands.
+LRESULT Copy(Engine& engine, WPARAM, LPARAM lParam)
+{
+    engine.copyEol = StockEolMode(static_cast<WPARAM>(lParam)) >= 0 ? static_cast<int>(lParam) : -1;
+    engine.raw.Send(Sci::SCI_COPY);
+    engine.copyEol = -1;
+    return 0;
+}
+
+LRESULT SetLexer(Engine& engine, WPARAM wParam, LPARAM)
+{
+    engine.lexer = static_cast<int>(wParam);
+    engine.raw.Send(Sci::SCI_SETLEXER, static_cast<WPARAM>(StockLexer(engine.lexer)));
+    return 0;
+}
+
+LRESULT GetLexer(Engine& engine, WPARAM, LPARAM)
+{
+    return engine.lexer;
+}
+
+LRESULT SetLexerLanguage(Engine& engine, WPARAM, LPARAM lParam)
+{
+    const Utf8Text name(TerminatedText(reinterpret_cast<const char16_t*>(lParam)));
+    engine.raw.Send(Sci::SCI_SETLEXERLANGUAGE, 0, name.Data());
+    engine.lexer = LexerOfStock(static_cast<int>(engine.raw.Send(Sci::SCI_GETLEXER)));
+    return 0;
+}
+
+LRESULT SetProperty(Engine& engine, WPARAM wParam, LPARAM lParam)
+{
+    const Utf8Text key(TerminatedText(reinterpret_cast<const char16_t*>(wParam)));
+    const Utf8Text value(TerminatedText(reinterpret_cast<const char16_t*>(lParam)));
+    engine.properties.emplace(key.View());
+    return engine.raw.Send(Sci::SCI_SETPROPERTY, reinterpret_cast<WPARAM>(key.Data()),
+                           value.Data());
+}
+
+LRESULT ResetProperties(Engine& engine, WPARAM, LPARAM)
+{
+    for (const std::string& key : engine.properties)
+        engine.raw.Send(Sci::SCI_SETPROPERTY, reinterpret_cast<WPARAM>(key.c_str()), "");
+    engine.properties.clear();
+    return 0;
+}
+
+LRESULT GetPropertyInt(Engine& engine, WPARAM wParam, LPARAM)
+{
+    const Utf8Text key(TerminatedText(reinterpret_cast<const char16_t*>(wParam)));
+    return engine.raw.Send(Sci::SCI_GETPROPERTYINT, reinterpret_cast<WPARAM>(key.Data()));
+}
+
+LRESULT SetEnableReconciler(Engine& engine, WPARAM wParam, LPARAM)
+{
+    engine.reconciler = wParam != 0;
+    return 0;
+}
+
+LRESULT GetIsReconcilerEnabled(Engine& engine, WPARAM, LPARAM)
+{
+    return engine.reconciler;
+}
+
+LRESULT SetDoingReplaceAll(Engine& engine, WPARAM wParam, LPARAM)
+{
+    engine.bulkChange = wParam != 0;
+    return 0;
+}
+
+// Whether the window is the list that completion shows, or stands in it.
+LRESULT IsAutoCHwnd(Engine& engine, WPARAM wParam, LPARAM)
+{
+    const auto* asked = reinterpret_cast<const QWidget*>(wParam);
+    if (!asked || !engine.raw.Send(Sci::SCI_AUTOCACTIVE))
+        return 0;
+    for (const QWidget* list : engine.window.findChildren<QWidget*>()) {
+        if (list->isWindow() && list->inherits("QListView") &&
+            (list == asked || list->isAncestorOf(asked)))
+            return 1;
+    }
+    return 0;
+}
+
+constexpr HandlerRow kRows[] = {
+    {message::GetEOLMode, GetEolMode},
+    {message::SetEOLMode, SetEolMode},
+    {message::ConvertEOLs, ConvertEols},
+    {message::GetCodePage, GetCodePage},
+    {message::SetCodePage, Ignore},
+    {message::GetModEventMask, GetModEventMask},
+    {message::SetModEventMask, SetModEventMask},
+    {message::Copy, Copy},
+    {message::SetLexer, SetLexer},
+    {message::GetLexer, GetLexer},
+    {message::SetLexerLanguage, SetLexerLanguage},
+    {message::SetProperty, SetProperty},
+    {message::GetPropertyInt, GetPropertyInt},
+    {message::ResetProperties, ResetProperties},
+    {message::SetEnableReconciler, SetEnableReconciler},
+    {message::GetIsReconcilerEnabled, GetIsReconcilerEnabled},
+    {message::SetDoingReplaceAll, SetDoingReplaceAll},
+    {message::IsAutoCHwnd, IsAutoCHwnd},
+};
+
+} // namespace
+
+std::span<const HandlerRow> SettingHandlers()
+{
+    return kRows;
+}
+
+} // namespace engine

@@ -1,0 +1,317 @@
+// Messages that carry text in or out.
+#include "control/Completion.h"
+#include "engine/Engine.h"
+#include "engine/Handlers.h"
+
+#include <algorithm>
+#include <new>
+
+namespace engine {
+namespace {
+
+using Sci = QsciScintillaBase;
+
+constexpr long kChunk = 64 * 1024; // bytes read at a time; asking for more may move the gap far
+
+// The text beside a count of units; a negative count means up to the terminator.
+std::u16string_view CountedText(WPARAM length, LPARAM text)
+{
+    const auto* units = reinterpret_cast<const char16_t*>(text);
+    const auto count = static_cast<long>(static_cast<int>(length));
+    if (!units || count < 0)
+        return TerminatedText(units);
+    return {units, static_cast<std::size_t>(count)};
+}
+
+// The stock engine keeps an allocation failure as its status; here it is an exception.
+void ThrowIfOutOfMemory(Engine& engine)
+{
+    if (engine.raw.Send(Sci::SCI_GETSTATUS) == Sci::SC_STATUS_BADALLOC) {
+        engine.raw.Send(Sci::SCI_SETSTATUS, 0);
+        throw std::bad_alloc();
+    }
+}
+
+LRESULT SendCounted(Engine& engine, UINT number, WPARAM wParam, LPARAM lParam)
+{
+    const Utf8Text text(CountedText(wParam, lParam));
+    const LRESULT result = engine.raw.Send(number, text.Size(), text.Data());
+    ThrowIfOutOfMemory(engine);
+    return result;
+}
+
+template <UINT Number>
+LRESULT EnterCounted(Engine& engine, WPARAM wParam, LPARAM lParam)
+{
+    return SendCounted(engine, Number, wParam, lParam);
+}
+
+template <UINT Number>
+LRESULT EnterTerminated(Engine& engine, WPARAM wParam, LPARAM lParam)
+{
+    const Utf8Text text(TerminatedText(reinterpret_cast<const char16_t*>(lParam)));
+    const LRESULT result = engine.raw.Send(Number, wParam, text.Data());
+    ThrowIfOutOfMemory(engine);
+    return result;
+}
+
+LRESULT InsertText(Engine& engine, WPARAM wParam, LPARAM lParam)
+{
+    return EnterTerminated<Sci::SCI_INSERTTEXT>(
+        engine, static_cast<WPARAM>(engine.Bytes(static_cast<LPARAM>(wParam))), lParam);
+}
+
+// Units of the replacement, which a regular expression may have made longer than the text given.
+template <UINT Number>
+LRESULT ReplaceTarget(Engine& engine, WPARAM wParam, LPARAM lParam)
+{
+    SendCounted(engine, Number, wParam, lParam);
+    return engine.Units(static_cast<long>(engine.raw.Send(Sci::SCI_GETTARGETEND))) -
+           engine.Units(static_cast<long>(engine.raw.Send(Sci::SCI_GETTARGETSTART)));
+}
+
+LRESULT SearchInTarget(Engine& engine, WPARAM wParam, LPARAM lParam)
+{
+    return engine.Units(
+        static_cast<long>(SendCounted(engine, Sci::SCI_SEARCHINTARGET, wParam, lParam)));
+}
+
+// Pairs of unit and style; the stock engine wants a style for each byte.
+LRESULT AddStyledText(Engine& engine, WPARAM wParam, LPARAM lParam)
+{
+    const std::u16string_view cells = CountedText(wParam, lParam);
+    std::string bytes;
+    for (std::size_t i = 0; i + 1 < cells.size(); i += 2) {
+        char16_t character[2] = {cells[i], 0};
+        std::size_t units = 1;
+        const bool isPair = (cells[i] & 0xFC00) == 0xD800 && i + 3 < cells.size() &&
+                            (cells[i + 2] & 0xFC00) == 0xDC00;
+        if (isPair) {
+            character[units++] = cells[i + 2];
+            i += 2;
+        }
+        const Utf8Text text(std::u16string_view(character, units));
+        for (const char byte : text.View()) {
+            bytes.push_back(byte);
+            bytes.push_back(static_cast<char>(cells[i + 1]));
+        }
+    }
+    engine.raw.Send(Sci::SCI_ADDSTYLEDTEXT, bytes.size(), bytes.data());
+    ThrowIfOutOfMemory(engine);
+    return 0;
+}
+
+// Writes the text between two places and a terminator; gives the units without it.
+long Read(const Engine& engine, UnitPos from, UnitPos to, char16_t* buffer)
+{
+    long start = engine.text.ToBytes(from).value;
+    const long end = engine.text.ToBytes(to).value;
+    // Bounds between the halves of a pair count as its start, so these are the true ones.
+    const long units = engine.text.ToUnits({end}).value - engine.text.ToUnits({start}).value;
+    long done = 0;
+    while (start < end) {
+        long stop = std::min(end, start + kChunk);
+        if (stop < end) // between characters
+            stop = static_cast<long>(
+                engine.raw.Send(Sci::SCI_POSITIONBEFORE, static_cast<WPARAM>(stop)));
+        done += static_cast<long>(ToUtf16(engine.raw.Bytes(start, stop), buffer + done,
+                                          static_cast<std::size_t>(units - done)));
+        start = stop;
+    }
+    buffer[done] = u'\0';
+    return done;
+}
+
+LRESULT GetText(Engine& engine, WPARAM wParam, LPARAM lParam)
+{
+    auto* buffer = reinterpret_cast<char16_t*>(lParam);
+    if (!buffer)
+        return engine.text.Length() + 1;
+    const long room = static_cast<int>(wParam);
+    if (room <= 0)
+        return 0;
+    return Read(engine, {0}, {room - 1}, buffer);
+}
+
+LRESULT GetLine(Engine& engine, WPARAM wParam, LPARAM lParam)
+{
+    const long line = static_cast<int>(wParam);
+    if (line < 0 || line >= engine.raw.LineCount())
+        return 0;
+    const UnitPos start = engine.text.StartOfLine(line);
+    const UnitPos end = engine.text.StartOfLine(line + 1);
+    auto* buffer = reinterpret_cast<char16_t*>(lParam);
+    return buffer ? Read(engine, start, end, buffer) : end.value - start.value;
+}
+
+// Fills the buffer with at most length - 1 units of the caret's line; gives the caret's place in
+// it.
+LRESULT GetCurLine(Engine& engine, WPARAM wParam, LPARAM lParam)
+{
+    const long caret = engine.Units(static_cast<long>(engine.raw.Send(Sci::SCI_GETCURRENTPOS)));
+    const long line = engine.text.LineOf({caret});
+    const long start = engine.text.StartOfLine(line).value;
+    const long end = engine.text.StartOfLine(line + 1).value;
+    auto* buffer = reinterpret_cast<char16_t*>(lParam);
+    if (!buffer)
+        return end - start + 1;
+    const long room = static_cast<int>(wParam);
+    if (room > 0)
+        Read(engine, {start}, {std::min(end, start + room - 1)}, buffer);
+    return caret - start;
+}
+
+LRESULT GetSelText(Engine& engine, WPARAM, LPARAM lParam)
+{
+    auto* buffer = reinterpret_cast<char16_t*>(lParam);
+    const auto size =
+        static_cast<std::size_t>(std::max<LRESULT>(engine.raw.Send(Sci::SCI_GETSELTEXT), 1));
+    std::string bytes(size, '\0'); // with its terminator
+    engine.raw.Send(Sci::SCI_GETSELTEXT, 0, bytes.data());
+    bytes.pop_back();
+    const std::u16string text = ToUtf16(bytes);
+    if (buffer) {
+        std::copy(text.begin(), text.end(), buffer);
+        buffer[text.size()] = u'\0';
+    }
+    return static_cast<LRESULT>(text.size()) + 1;
+}
+
+LRESULT GetTextRange(Engine& engine, WPARAM, LPARAM lParam)
+{
+    const auto* range = reinterpret_cast<const TextRange*>(lParam);
+    if (!range || !range->lpstrText)
+        return 0;
+    const long length = engine.text.Length();
+    const long start = std::clamp<long>(range->chrg.cpMin, 0, length);
+    const long end = range->chrg.cpMax < 0 ? length : std::min<long>(range->chrg.cpMax, length);
+    if (end <= start) {
+        *range->lpstrText = u'\0';
+        return 0;
+    }
+    return Read(engine, {start}, {end}, range->lpstrText);
+}
+
+LRESULT GetStyledText(Engine& engine, WPARAM, LPARAM lParam)
+{
+    const auto* range = reinterpret_cast<const TextRange*>(lParam);
+    if (!range || !range->lpstrText)
+        return 0;
+    const long length = engine.text.Length();
+    const long start = engine.text.ToBytes({range->chrg.cpMin}).value;
+    const long end =
+        engine.text.ToBytes({range->chrg.cpMax < 0 ? length : range->chrg.cpMax}).value;
+    char16_t* out = range->lpstrText;
+    for (long byte = start; byte < end;) {
+        const auto next =
+            static_cast<long>(engine.raw.Send(Sci::SCI_POSITIONAFTER, static_cast<WPARAM>(byte)));
+        const auto style =
+            static_cast<char16_t>(engine.raw.Send(Sci::SCI_GETSTYLEAT, static_cast<WPARAM>(byte)));
+        for (const char16_t unit : ToUtf16(engine.raw.Bytes(byte, next))) {
+            *out++ = unit;
+            *out++ = style;
+        }
+        byte = next;
+    }
+    out[0] = out[1] = u'\0';
+    return out - range->lpstrText;
+}
+
+template <UINT Number>
+LRESULT GetProperty(Engine& engine, WPARAM wParam, LPARAM lParam)
+{
+    const Utf8Text key(TerminatedText(reinterpret_cast<const char16_t*>(wParam)));
+    const auto keyWord = reinterpret_cast<WPARAM>(key.Data());
+    std::string value(static_cast<std::size_t>(engine.raw.Send(Number, keyWord)) + 1, '\0');
+    engine.raw.Send(Number, keyWord, value.data());
+    value.pop_back();
+    const std::u16string text = ToUtf16(value);
+    if (auto* buffer = reinterpret_cast<char16_t*>(lParam)) {
+        std::copy(text.begin(), text.end(), buffer);
+        buffer[text.size()] = u'\0';
+    }
+    return static_cast<LRESULT>(text.size());
+}
+
+LRESULT SetLengthForEncode(Engine& engine, WPARAM wParam, LPARAM)
+{
+    engine.lengthForEncode = static_cast<int>(wParam);
+    return 0;
+}
+
+// UTF-8 as the document holds it to the outside: UTF-16. Gives its units; a null buffer measures.
+LRESULT EncodedFromUtf8(Engine& engine, WPARAM wParam, LPARAM lParam)
+{
+    const auto* utf8 = reinterpret_cast<const char*>(wParam);
+    if (!utf8)
+        return 0;
+    const std::u16string text =
+        engine.lengthForEncode < 0
+            ? ToUtf16(utf8)
+            : ToUtf16({utf8, static_cast<std::size_t>(engine.lengthForEncode)});
+    if (auto* buffer = reinterpret_cast<char16_t*>(lParam)) {
+        std::copy(text.begin(), text.end(), buffer);
+        buffer[text.size()] = u'\0';
+    }
+    return static_cast<LRESULT>(text.size());
+}
+
+using Proposals = std::vector<std::shared_ptr<znsqlassist::SQLCompletionProposal>>;
+
+LRESULT AutoCShow(Engine& engine, WPARAM wParam, LPARAM lParam)
+{
+    const auto* config = reinterpret_cast<const AutoCompleteConfig*>(wParam);
+    const auto* proposals = reinterpret_cast<const Proposals*>(lParam);
+    if (!config || !proposals || proposals->empty())
+        return 0;
+    const auto separator = static_cast<char>(engine.raw.Send(Sci::SCI_AUTOCGETSEPARATOR));
+    const auto typeSeparator = static_cast<char>(engine.raw.Send(Sci::SCI_AUTOCGETTYPESEPARATOR));
+    std::string list;
+    for (const auto& proposal : *proposals) {
+        if (!proposal)
+            continue;
+        if (!list.empty())
+            list += separator;
+        list += Utf8Text(proposal->Text()).View();
+        if (proposal->Image() >= 0)
+            list += typeSeparator + std::to_string(proposal->Image());
+    }
+    const auto caret = static_cast<long>(engine.raw.Send(Sci::SCI_GETCURRENTPOS));
+    const long typed = std::max<long>(config->typedLength, 0);
+    const long start = engine.Bytes(std::max(0L, engine.Units(caret) - typed));
+    engine.raw.Send(Sci::SCI_AUTOCSHOW, static_cast<WPARAM>(caret - start), list.c_str());
+    return 0;
+}
+
+constexpr HandlerRow kRows[] = {
+    {message::AddTextNoProcess, EnterCounted<Sci::SCI_ADDTEXT>},
+    {message::AppendText, EnterCounted<Sci::SCI_APPENDTEXT>},
+    {message::CopyText, EnterCounted<Sci::SCI_COPYTEXT>},
+    {message::SetText, EnterTerminated<Sci::SCI_SETTEXT>},
+    {message::ReplaceSel, EnterTerminated<Sci::SCI_REPLACESEL>},
+    {message::InsertText, InsertText},
+    {message::ReplaceTargetNoProcess, ReplaceTarget<Sci::SCI_REPLACETARGET>},
+    {message::ReplaceTargetRE, ReplaceTarget<Sci::SCI_REPLACETARGETRE>},
+    {message::SearchInTarget, SearchInTarget},
+    {message::AddStyledText, AddStyledText},
+    {message::GetText, GetText},
+    {message::GetLine, GetLine},
+    {message::GetCurLine, GetCurLine},
+    {message::GetSelText, GetSelText},
+    {message::GetTextRange, GetTextRange},
+    {message::GetStyledText, GetStyledText},
+    {message::GetProperty, GetProperty<Sci::SCI_GETPROPERTY>},
+    {message::GetPropertyExpanded, GetProperty<Sci::SCI_GETPROPERTYEXPANDED>},
+    {message::SetLengthForEncode, SetLengthForEncode},
+    {message::EncodedFromUTF8, EncodedFromUtf8},
+    {message::AutoCShow, AutoCShow},
+};
+
+} // namespace
+
+std::span<const HandlerRow> TextHandlers()
+{
+    return kRows;
+}
+
+} // namespace engine

@@ -1,0 +1,44 @@
+// Text as it crosses the channel: UTF-16 of the caller's to the UTF-8 that the stock engine holds.
+// A lone surrogate enters as U+FFFD, one unit for one unit, so positions stay right.
+#pragma once
+
+#include <cstddef>
+#include <memory>
+#include <string>
+#include <string_view>
+
+namespace engine {
+
+// UTF-8 made of a text of the caller's, terminated. Short texts take no heap.
+class Utf8Text
+{
+public:
+    Utf8Text() = default;
+    explicit Utf8Text(std::u16string_view text) { Assign(text); }
+    Utf8Text(const Utf8Text&) = delete;
+    Utf8Text& operator=(const Utf8Text&) = delete;
+
+    void Assign(std::u16string_view text);
+
+    const char* Data() const { return m_data; }
+    std::size_t Size() const { return m_size; } // bytes, without the terminator
+    std::string_view View() const { return {m_data, m_size}; }
+
+private:
+    static constexpr std::size_t kInlineBytes = 256;
+
+    char m_inline[kInlineBytes];
+    std::unique_ptr<char[]> m_heap;
+    const char* m_data = "";
+    std::size_t m_size = 0;
+};
+
+// Up to the terminator; empty for null.
+std::u16string_view TerminatedText(const char16_t* text);
+
+// Writes the text as UTF-16, in no more units than the capacity, which holds them all. Gives the
+// units written.
+std::size_t ToUtf16(std::string_view text, char16_t* buffer, std::size_t capacity);
+std::u16string ToUtf16(std::string_view text);
+
+} // namespace engine
