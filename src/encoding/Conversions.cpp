@@ -6,6 +6,7 @@
 #include "platform/text/CodePage.h"
 #include "platform/text/Utf8.h"
 
+#include <algorithm>
 #include <cstdint>
 #include <cstring>
 
@@ -64,10 +65,11 @@ unsigned int WalkUnits(const char16_t* units, unsigned int count)
     unsigned int i = 0;
     while (i < count) {
         if (count - i >= kChunk) {
-            bool any = false;
+            // The distance to the surrogates, at its least; a form that compilers vectorise.
+            unsigned short least = 0xFFFF;
             for (unsigned int j = 0; j < kChunk; ++j)
-                any |= TakesTwo(units[i + j]);
-            if (!any) {
+                least = std::min(least, static_cast<unsigned short>(units[i + j] - 0xD800));
+            if (least > 0x800) {
                 i += kChunk;
                 continue;
             }
