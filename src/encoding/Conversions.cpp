@@ -3,10 +3,10 @@
 #include "encoding/FileEncodeConverter.h"
 
 #include "encoding/Units.h"
+#include "platform/text/AsciiRun.h"
 #include "platform/text/CodePage.h"
 #include "platform/text/Utf8.h"
 
-#include <algorithm>
 #include <cstdint>
 #include <cstring>
 
@@ -61,18 +61,12 @@ bool TakesTwo(char16_t unit)
 // Any unit that takes a second one takes whatever follows.
 unsigned int WalkUnits(const char16_t* units, unsigned int count)
 {
-    constexpr unsigned int kChunk = 32;
+    constexpr unsigned int kChunk = platform::ascii::kChunk;
     unsigned int i = 0;
     while (i < count) {
-        if (count - i >= kChunk) {
-            // The distance to the surrogates, at its least; a form that compilers vectorise.
-            unsigned short least = 0xFFFF;
-            for (unsigned int j = 0; j < kChunk; ++j)
-                least = std::min(least, static_cast<unsigned short>(units[i + j] - 0xD800));
-            if (least > 0x800) {
-                i += kChunk;
-                continue;
-            }
+        if (count - i >= kChunk && !platform::ascii::HasUnitWithin(units + i, 0xD800, 0x800)) {
+            i += kChunk;
+            continue;
         }
         const unsigned int stop = count - i > kChunk ? i + kChunk : count;
         while (i < stop) {

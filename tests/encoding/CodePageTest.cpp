@@ -1,8 +1,10 @@
 #include "platform/text/CodePage.h"
 #include "platform/text/CodePageTable.h"
+#include "tests/reference/SlowEncoding.h"
 
 #include <gtest/gtest.h>
 
+#include <iostream>
 #include <memory>
 #include <random>
 #include <string>
@@ -181,6 +183,41 @@ TEST(CodePages, ReplaceWhatIsNoCharacter)
     EXPECT_EQ(ToUnits(932, "a\x82"), u"a\uFFFD");
     EXPECT_EQ(ToBytes(65001, std::u16string{0xDC00, u'a', 0xD800}), "\xEF\xBF\xBD"
                                                                     "a\xEF\xBF\xBD");
+}
+
+// The room ends where its memory ends, for a sanitizer to watch.
+TEST(CodePages, FillExactlyTheRoomThatWasMeasured)
+{
+    const unsigned int seed = std::random_device{}();
+    std::cout << "seed " << seed << '\n';
+    std::mt19937 random(seed);
+    static constexpr char32_t kFirst[] = {0x80, 0xE0, 0x431, 0x800, 0x4E2D, 0xF000, 0x1F600};
+    for (int round = 0; round < 20000; ++round) {
+        const std::size_t kinds = 1 + random() % std::size(kFirst);
+        std::u32string text;
+        for (std::size_t i = random() % 80; i > 0; --i)
+            text +=
+                random() % 3 == 0 ? kFirst[random() % kinds] + random() % 16 : U'a' + random() % 9;
+        const std::vector<std::uint8_t> expected = reference::Encode(text, 6);
+        const std::vector<std::uint8_t> pairs = reference::Encode(text, 2);
+        const auto unitCount = static_cast<int>(pairs.size() / 2);
+        const std::unique_ptr<char16_t[]> units(new char16_t[pairs.size() / 2]);
+        std::copy(pairs.begin(), pairs.end(), reinterpret_cast<unsigned char*>(units.get()));
+
+        const auto size = static_cast<int>(expected.size());
+        ASSERT_EQ(platform::WideCharToMultiByte(65001, units.get(), unitCount, nullptr, 0), size);
+        const std::unique_ptr<char[]> bytes(new char[expected.size()]);
+        ASSERT_EQ(platform::WideCharToMultiByte(65001, units.get(), unitCount, bytes.get(), size),
+                  size);
+        ASSERT_TRUE(std::equal(expected.begin(), expected.end(),
+                               reinterpret_cast<unsigned char*>(bytes.get())));
+
+        ASSERT_EQ(platform::MultiByteToWideChar(65001, bytes.get(), size, nullptr, 0), unitCount);
+        const std::unique_ptr<char16_t[]> back(new char16_t[pairs.size() / 2]);
+        ASSERT_EQ(platform::MultiByteToWideChar(65001, bytes.get(), size, back.get(), unitCount),
+                  unitCount);
+        ASSERT_TRUE(std::equal(units.get(), units.get() + unitCount, back.get()));
+    }
 }
 
 class EveryMultiBytePage : public testing::TestWithParam<NamedPage>

@@ -1,5 +1,6 @@
-// Runs of ASCII, sixteen characters at a time. Nearly all script text is ASCII, so these loops
-// decide how fast a file loads and saves; everything else may be careful and slower.
+// Sixteen characters at a time: runs of ASCII, and units without surrogates. Nearly all script text
+// is ASCII, so these loops decide how fast a file loads and saves; everything else may be careful
+// and slower.
 #pragma once
 
 #include <cstddef>
@@ -52,7 +53,27 @@ inline bool IsChunk(const unsigned char* bytes)
     return _mm_movemask_epi8(Load(bytes)) == 0;
 }
 
+// True if one of the 16 units lies in first to first + span.
+inline bool HasUnitWithin(const char16_t* units, char16_t first, char16_t span)
+{
+    const __m128i start = _mm_set1_epi16(static_cast<short>(first));
+    const __m128i reach = _mm_set1_epi16(static_cast<short>(span));
+    const __m128i low = _mm_subs_epu16(_mm_sub_epi16(Load(units), start), reach);
+    const __m128i high = _mm_subs_epu16(_mm_sub_epi16(Load(units + 8), start), reach);
+    const __m128i zero = _mm_setzero_si128();
+    const __m128i within = _mm_or_si128(_mm_cmpeq_epi16(low, zero), _mm_cmpeq_epi16(high, zero));
+    return _mm_movemask_epi8(within) != 0;
+}
+
 #else
+
+inline bool HasUnitWithin(const char16_t* units, char16_t first, char16_t span)
+{
+    bool within = false;
+    for (std::size_t i = 0; i < kChunk; ++i)
+        within |= static_cast<char16_t>(units[i] - first) <= span;
+    return within;
+}
 
 inline std::size_t WidenChunk(const unsigned char* bytes, char16_t* units)
 {

@@ -71,6 +71,21 @@ inline Decoded Decode(const unsigned char* at, std::size_t left, char16_t* units
     return {4, 2};
 }
 
+// Sixteen units below 800, without a branch: in Latin text the accents come at no foreseeable
+// place. Writes one byte more than it counts, so that there has to be a unit behind them.
+unsigned char* ShortToBytes(const char16_t* units, unsigned char* out)
+{
+    for (std::size_t i = 0; i < ascii::kChunk; ++i) {
+        const unsigned int unit = units[i];
+        const unsigned int two = (unit + 0x780) >> 11; // 1 from 80 up
+        const unsigned int lead = (0xC0 | unit >> 6) ^ unit;
+        out[0] = static_cast<unsigned char>(unit ^ (lead & (0 - two)));
+        out[1] = static_cast<unsigned char>(0x80 | (unit & 0x3F));
+        out += 1 + two;
+    }
+    return out;
+}
+
 } // namespace
 
 Extent ToUnitsWhileWellFormed(const unsigned char* bytes, std::size_t byteCount, char16_t* units)
@@ -176,9 +191,14 @@ std::size_t ToBytes(const char16_t* units, std::size_t unitCount, unsigned char*
             at += ascii::kChunk;
             out += ascii::kChunk;
         }
-        // The chunk ahead is not all ASCII, or too short to ask: unit by unit through it.
-        const char16_t* const stop =
-            static_cast<std::size_t>(end - at) > ascii::kChunk ? at + ascii::kChunk : end;
+        // The chunk ahead is not all ASCII, or too short to ask.
+        const bool more = static_cast<std::size_t>(end - at) > ascii::kChunk;
+        const char16_t* const stop = more ? at + ascii::kChunk : end;
+        if (more && !ascii::HasUnitWithin(at, 0x800, 0xF7FF)) {
+            out = ShortToBytes(at, out);
+            at = stop;
+            continue;
+        }
         while (at < stop) {
             unsigned int unit = *at++;
             if (unit < 0x80) {
