@@ -4,11 +4,11 @@
 
 #include "encoding/FileEncodeConverter.h"
 
+#include <algorithm>
 #include <cstring>
-#include <initializer_list>
 #include <memory>
-#include <string>
 #include <string_view>
+#include <utility>
 #include <vector>
 
 using Bytes = std::vector<unsigned char>;
