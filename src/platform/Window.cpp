@@ -6,6 +6,8 @@
 #include <QPointer>
 #include <QWidget>
 
+#include <algorithm>
+#include <string>
 #include <string_view>
 #include <unordered_map>
 #include <vector>
@@ -104,6 +106,17 @@ LRESULT CallClassProcedure(HWND window, UINT message, WPARAM wParam, LPARAM lPar
 {
     const WindowRecord* record = LiveRecord(window);
     return record && record->procedure ? record->procedure(window, message, wParam, lParam) : 0;
+}
+
+UINT RegisterWindowMessage(const char16_t* name)
+{
+    constexpr UINT kFirst = 0xC000;
+    static std::vector<std::u16string> names;
+    const auto found = std::find(names.begin(), names.end(), name);
+    const auto index = static_cast<UINT>(found - names.begin());
+    if (found == names.end())
+        names.emplace_back(name);
+    return kFirst + index;
 }
 
 HWND GetParent(HWND window)
