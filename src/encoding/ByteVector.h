@@ -1,0 +1,34 @@
+// ByteVector: a byte vector that leaves the bytes it grows by as they are. A conversion sizes it
+// for the most that may come out and cuts it to what did, block after block; clearing that room
+// first would cost as much as the conversion.
+#pragma once
+
+#include <memory>
+#include <utility>
+#include <vector>
+
+template <typename T>
+struct UninitialisedAllocator : std::allocator<T>
+{
+    template <typename U>
+    struct rebind
+    {
+        using other = UninitialisedAllocator<U>;
+    };
+
+    using std::allocator<T>::allocator;
+
+    template <typename U>
+    void construct(U* at)
+    {
+        ::new (static_cast<void*>(at)) U;
+    }
+
+    template <typename U, typename... Args>
+    void construct(U* at, Args&&... args)
+    {
+        ::new (static_cast<void*>(at)) U(std::forward<Args>(args)...);
+    }
+};
+
+using ByteVector = std::vector<unsigned char, UninitialisedAllocator<unsigned char>>;

@@ -1,0 +1,89 @@
+// Runs of ASCII, sixteen characters at a time. Nearly all script text is ASCII, so these loops
+// decide how fast a file loads and saves; everything else may be careful and slower.
+#pragma once
+
+#include <cstddef>
+
+#if defined(__SSE2__)
+#include <emmintrin.h>
+#endif
+
+namespace platform::ascii {
+
+constexpr std::size_t kChunk = 16;
+
+#if defined(__SSE2__)
+
+inline __m128i Load(const void* at)
+{
+    return _mm_loadu_si128(static_cast<const __m128i*>(at));
+}
+inline void Store(void* at, __m128i value)
+{
+    _mm_storeu_si128(static_cast<__m128i*>(at), value);
+}
+
+// Writes the 16 bytes as 16 units, and gives how many of them at the front are ASCII. The units
+// behind these are of no use to anyone.
+inline std::size_t WidenChunk(const unsigned char* bytes, char16_t* units)
+{
+    const __m128i chunk = Load(bytes);
+    Store(units, _mm_unpacklo_epi8(chunk, _mm_setzero_si128()));
+    Store(units + 8, _mm_unpackhi_epi8(chunk, _mm_setzero_si128()));
+    const int high = _mm_movemask_epi8(chunk);
+    return high == 0 ? kChunk : static_cast<std::size_t>(__builtin_ctz(high));
+}
+
+// True if the 16 units are ASCII; only then are their 16 bytes written.
+inline bool NarrowChunk(const char16_t* units, unsigned char* bytes)
+{
+    const __m128i low = Load(units);
+    const __m128i high = Load(units + 8);
+    const __m128i beyond = _mm_and_si128(_mm_or_si128(low, high), _mm_set1_epi16(-0x80));
+    if (_mm_movemask_epi8(_mm_cmpeq_epi8(beyond, _mm_setzero_si128())) != 0xFFFF)
+        return false;
+    Store(bytes, _mm_packus_epi16(low, high));
+    return true;
+}
+
+// True if the 16 bytes are ASCII.
+inline bool IsChunk(const unsigned char* bytes)
+{
+    return _mm_movemask_epi8(Load(bytes)) == 0;
+}
+
+#else
+
+inline std::size_t WidenChunk(const unsigned char* bytes, char16_t* units)
+{
+    std::size_t ascii = 0;
+    for (std::size_t i = 0; i < kChunk; ++i) {
+        units[i] = bytes[i];
+        ascii += ascii == i && bytes[i] < 0x80;
+    }
+    return ascii;
+}
+
+inline bool NarrowChunk(const char16_t* units, unsigned char* bytes)
+{
+    char16_t all = 0;
+    for (std::size_t i = 0; i < kChunk; ++i)
+        all |= units[i];
+    if (all >= 0x80)
+        return false;
+    for (std::size_t i = 0; i < kChunk; ++i)
+        bytes[i] = static_cast<unsigned char>(units[i]);
+    return true;
+}
+
+inline bool IsChunk(const unsigned char* bytes)
+{
+    unsigned char all = 0;
+    for (std::size_t i = 0; i < kChunk; ++i)
+        all |= bytes[i];
+    return all < 0x80;
+}
+
+#endif
+
+} // namespace platform::ascii
