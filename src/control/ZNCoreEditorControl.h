@@ -16,6 +16,7 @@
 
 class FileBlocks;
 class TargetFile;
+struct FilePolicy;
 
 // Sent to the parent when the user edits; wParam is the control's window, lParam 1.
 extern ZN_API unsigned int ZNBASEM_ON_EDITCHANGE;
@@ -185,8 +186,10 @@ private:
     LRESULT OnGetSel(WPARAM wParam, LPARAM lParam);
     LRESULT OnLineLength(WPARAM wParam, LPARAM lParam);
     void OnModified(const SCNotification& record);
-    void EnterRead(FileBlocks& blocks, int selector);
-    void EnterReplacing(FileBlocks& blocks, int selector);
+    const FilePolicy& Policy() const;
+    void RecordEncoding(FileEncodeConverter::encodingType found);
+    void AdoptEncoding(FileEncodeConverter::encodingType found, bool hadMark);
+    void EnterBlocks(FileBlocks& blocks, int selector, bool replacesTarget);
     bool WriteToFile(const char16_t* path, FileEncodeConverter::encodingType encoding,
                      bool writeMark);
     bool WriteToFile(const char16_t* path);
