@@ -14,7 +14,7 @@ CZNBaseResourceLoader::CZNBaseResourceLoader(const QString& path)
     while (!reader.atEnd()) {
         if (reader.readNext() != QXmlStreamReader::StartElement || reader.name() != u"string")
             continue;
-        const UINT id = reader.attributes().value(u"id").toUInt();
+        const UINT id = reader.attributes().value(QLatin1StringView("id")).toUInt();
         m_strings.insert(id, reader.readElementText());
     }
 }
