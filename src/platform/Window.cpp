@@ -82,8 +82,8 @@ HWND CreateWindowOfClass(const char16_t* className, unsigned long style, const R
     widget->setGeometry(static_cast<int>(rect.left), static_cast<int>(rect.top),
                         static_cast<int>(rect.right - rect.left),
                         static_cast<int>(rect.bottom - rect.top));
-    if (style & WS_VISIBLE)
-        widget->show();
+    // Said either way: a child that was never hidden appears together with its parent.
+    widget->setVisible(style & WS_VISIBLE);
     return widget;
 }
 
