@@ -6,6 +6,8 @@
 #include <QPointer>
 #include <QWidget>
 
+#include <algorithm>
+#include <string>
 #include <string_view>
 #include <unordered_map>
 #include <vector>
@@ -80,8 +82,8 @@ HWND CreateWindowOfClass(const char16_t* className, unsigned long style, const R
     widget->setGeometry(static_cast<int>(rect.left), static_cast<int>(rect.top),
                         static_cast<int>(rect.right - rect.left),
                         static_cast<int>(rect.bottom - rect.top));
-    if (style & WS_VISIBLE)
-        widget->show();
+    // Said either way: a child that was never hidden appears together with its parent.
+    widget->setVisible(style & WS_VISIBLE);
     return widget;
 }
 
@@ -104,6 +106,17 @@ LRESULT CallClassProcedure(HWND window, UINT message, WPARAM wParam, LPARAM lPar
 {
     const WindowRecord* record = LiveRecord(window);
     return record && record->procedure ? record->procedure(window, message, wParam, lParam) : 0;
+}
+
+UINT RegisterWindowMessage(const char16_t* name)
+{
+    constexpr UINT kFirst = 0xC000;
+    static std::vector<std::u16string> names;
+    const auto found = std::find(names.begin(), names.end(), name);
+    const auto index = static_cast<UINT>(found - names.begin());
+    if (found == names.end())
+        names.emplace_back(name);
+    return kFirst + index;
 }
 
 HWND GetParent(HWND window)

@@ -49,6 +49,9 @@ ZN_API LRESULT CallClassProcedure(HWND window, UINT message, WPARAM wParam, LPAR
 // The window around this one, null for a top-level one.
 ZN_API HWND GetParent(HWND window);
 
+// A number for messages of this name, the same for every caller of the process; from 0xC000 up.
+ZN_API UINT RegisterWindowMessage(const char16_t* name);
+
 // Paints at once what waits to be painted.
 ZN_API void UpdateWindow(HWND window);
 

@@ -1,0 +1,1 @@
+// The shared library itself; what it exports stands in its rooms.

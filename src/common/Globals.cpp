@@ -1,0 +1,39 @@
+#include "common/Globals.h"
+
+#include <QFile>
+#include <QFileInfo>
+
+#include <dlfcn.h>
+
+namespace zncoreeditor {
+
+namespace {
+
+const IZNBaseResourceLoader*& HostLoader()
+{
+    static const IZNBaseResourceLoader* loader = nullptr;
+    return loader;
+}
+
+} // namespace
+
+const IZNBaseResourceLoader& GetResourceLoader()
+{
+    static const CZNBaseResourceLoader own(QStringLiteral(":/zncoreeditor/Strings.xml"));
+    return HostLoader() ? *HostLoader() : own;
+}
+
+void SetResourceLoader(const IZNBaseResourceLoader* loader)
+{
+    HostLoader() = loader;
+}
+
+QString GetAppPath()
+{
+    Dl_info info{};
+    if (!dladdr(reinterpret_cast<const void*>(&GetAppPath), &info) || !info.dli_fname)
+        return QString();
+    return QFileInfo(QFile::decodeName(info.dli_fname)).absolutePath() + u'/';
+}
+
+} // namespace zncoreeditor

@@ -1,0 +1,20 @@
+// What the library has one of for the process.
+#pragma once
+
+#include "common/Export.h"
+#include "platform/ResourceLoader.h"
+
+#include <QString>
+
+namespace zncoreeditor {
+
+// The texts of the user interface: the library's own table unless a host has set another.
+ZN_API const IZNBaseResourceLoader& GetResourceLoader();
+
+// The loader takes effect at once and stays the caller's; null brings back the library's own.
+ZN_API void SetResourceLoader(const IZNBaseResourceLoader* loader);
+
+// The folder of this library, with a separator at its end.
+ZN_API QString GetAppPath();
+
+} // namespace zncoreeditor

@@ -1,0 +1,40 @@
+#include "control/FileAccess.h"
+
+#include <QFile>
+
+#include <fcntl.h>
+#include <sys/stat.h>
+#include <unistd.h>
+
+QByteArray NativePath(const char16_t* path)
+{
+    return path ? QFile::encodeName(QString::fromUtf16(path)) : QByteArray();
+}
+
+bool PathExists(const char16_t* path)
+{
+    struct stat status;
+    return stat(NativePath(path).constData(), &status) == 0;
+}
+
+FilePointer OpenForReading(const char16_t* path)
+{
+    // Without O_NONBLOCK the opening of a pipe waits for its writer.
+    const int descriptor =
+        open(NativePath(path).constData(), O_RDONLY | O_CLOEXEC | O_NOCTTY | O_NONBLOCK);
+    if (descriptor < 0)
+        return nullptr;
+    struct stat status;
+    if (fstat(descriptor, &status) == 0 && S_ISREG(status.st_mode)) {
+        if (std::FILE* file = fdopen(descriptor, "rb"))
+            return FilePointer(file);
+    }
+    close(descriptor);
+    return nullptr;
+}
+
+long long SizeOf(std::FILE* file)
+{
+    struct stat status;
+    return fstat(fileno(file), &status) == 0 ? static_cast<long long>(status.st_size) : 0;
+}

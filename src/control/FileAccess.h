@@ -1,0 +1,26 @@
+// Files by their wide path, as a load needs them.
+#pragma once
+
+#include <cstdio>
+#include <memory>
+
+#include <QByteArray>
+
+struct FileCloser
+{
+    void operator()(std::FILE* file) const { std::fclose(file); }
+};
+using FilePointer = std::unique_ptr<std::FILE, FileCloser>;
+
+// The path as the platform takes it, empty for null.
+QByteArray NativePath(const char16_t* path);
+
+// Whether something stands at the path.
+bool PathExists(const char16_t* path);
+
+// Null for whatever is not a regular file or cannot be read: a folder, a device and a pipe are
+// refused, since a read from them fails late or never ends.
+FilePointer OpenForReading(const char16_t* path);
+
+// 0 if the file cannot tell.
+long long SizeOf(std::FILE* file);

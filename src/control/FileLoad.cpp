@@ -1,0 +1,211 @@
+// The load side of CZNCoreEditorControl: a file goes into the engine block by block, so that
+// memory stays flat beside the engine's own copy.
+#include "control/ZNCoreEditorControl.h"
+
+#include "common/Globals.h"
+#include "control/FileAccess.h"
+#include "control/FileBlocks.h"
+#include "control/LineEnds.h"
+#include "platform/Questions.h"
+
+#include <climits>
+#include <new>
+
+namespace {
+
+using Encoding = FileEncodeConverter::encodingType;
+
+constexpr UINT kTruncatedText = 28178;
+constexpr UINT kNoMemoryText = 57346;
+constexpr int kLinesToJudge = 200;
+constexpr int kEnoughLineEnds = 10;
+
+void ShowText(HWND owner, UINT id)
+{
+    ShowMessage(owner, zncoreeditor::GetResourceLoader().LoadString(id));
+}
+
+// Storage for a long text is asked for at once, since growing to it step by step takes as long as
+// the load. The figure is that of a text which is mostly ASCII; others grow behind it.
+int BytesToAllocate(long long fileSize, Encoding encoding)
+{
+    constexpr long long kWorthwhile = 1024 * 1024;
+    constexpr long long kMost = INT_MAX / 2;
+    if (encoding == FileEncodeConverter::encUTF16LE || encoding == FileEncodeConverter::encUTF16BE)
+        fileSize /= 2;
+    if (encoding == FileEncodeConverter::encUTF32LE || encoding == FileEncodeConverter::encUTF32BE)
+        fileSize /= 4;
+    return fileSize >= kWorthwhile && fileSize <= kMost ? static_cast<int>(fileSize) : 0;
+}
+
+bool IsUnicode(int encoding)
+{
+    return encoding == FileEncodeConverter::encUTF16LE ||
+           encoding == FileEncodeConverter::encUTF16BE ||
+           encoding == FileEncodeConverter::encUTF8 ||
+           encoding == FileEncodeConverter::encUTF32LE ||
+           encoding == FileEncodeConverter::encUTF32BE;
+}
+
+} // namespace
+
+const FilePolicy& CZNCoreEditorControl::Policy() const
+{
+    return m_bCarefulFiles ? kCarefulFiles : kPlainFiles;
+}
+
+// A file that is there but cannot be read has cost the old document its autosave copy; the text
+// stands as it was.
+bool CZNCoreEditorControl::OpenFile(const char16_t* path, Encoding encoding)
+{
+    if (!PathExists(path))
+        return false;
+    CleanUpAutoSave();
+    FilePointer file = OpenForReading(path);
+    if (!file)
+        return false;
+    ClearAll(1);
+    SetUndoCollection(0, 1);
+    ReadInFileContents(file.release(), encoding, false);
+    SetSel(0, 0, 1);
+    SetUndoCollection(1, 1);
+    SetSavePoint(1);
+    m_strFileName = QString::fromUtf16(path);
+    SetAutoSave(m_bAutoSaveOn, m_nAutoSaveMinutes);
+    return true;
+}
+
+void CZNCoreEditorControl::ReadInFileContents(std::FILE* file, Encoding encoding, bool convertEOLs)
+{
+    if (!file)
+        return;
+    FilePointer closer(file);
+    const int selector =
+        convertEOLs ? lineends::SelectorOf(GetEOLMode(1)) : static_cast<int>(lineends::kAsItIs);
+    FileBlocks blocks(file, Policy().load);
+    bool ranOut = false;
+    try {
+        if (blocks.Start(encoding, m_bWriteEncodingSig)) {
+            RecordEncoding(blocks.InputType());
+            SetDoingReplaceAll(true, 1);
+            SetEnableReconciler(false, 1);
+            if (const int bytes = BytesToAllocate(SizeOf(file), blocks.InputType()))
+                Allocate(bytes, 1);
+            EnterBlocks(blocks, selector, false);
+        }
+    } catch (const std::bad_alloc&) {
+        ranOut = true;
+        ShowText(GetHwnd(), kNoMemoryText);
+    }
+    m_bCutShort = blocks.HasRest() || ranOut;
+    if (blocks.HasRest())
+        ShowText(GetHwnd(), kTruncatedText);
+    SetEnableReconciler(true, 1);
+    SetDoingReplaceAll(false, 1);
+    closer.reset();
+    if (selector == lineends::kAsItIs)
+        DiscoverEOLSetting(kLinesToJudge);
+}
+
+void CZNCoreEditorControl::RecordEncoding(Encoding found)
+{
+    if (found == FileEncodeConverter::encUTF8Cookie)
+        m_nEncoding = Policy().cookieEncoding;
+    else if (found == FileEncodeConverter::encANSI || IsUnicode(found))
+        m_nEncoding = found;
+}
+
+void CZNCoreEditorControl::EnterBlocks(FileBlocks& blocks, int selector, bool replacesTarget)
+{
+    std::vector<char16_t> normalised;
+    const char16_t* text = nullptr;
+    long length = 0;
+    char16_t held = 0;
+    while (blocks.Text(text, length)) {
+        lineends::NormaliseBlock(normalised, text, length, held, selector);
+        if (replacesTarget) {
+            ReplaceTargetNoProcess(static_cast<int>(length), text, 1);
+            DocumentEnd(1);
+            replacesTarget = false;
+        } else {
+            AddTextNoProcess(static_cast<int>(length), text, 1);
+        }
+        blocks.Advance();
+    }
+    if (held) {
+        const std::u16string_view lineEnd = lineends::Sequence(selector);
+        AddTextNoProcess(static_cast<int>(lineEnd.size()), lineEnd.data(), 1);
+        UpdateWindow(GetSafeHwnd());
+    }
+}
+
+// A document that is held in a Unicode encoding keeps it, whatever the file is.
+void CZNCoreEditorControl::ReplaceTextWithFile(const char16_t* path, Encoding encoding)
+{
+    FilePointer file = OpenForReading(path);
+    if (!file)
+        return;
+    FileBlocks blocks(file.get(), Policy().replace);
+    int selector = lineends::kAsItIs;
+    bool ranOut = false;
+    try {
+        bool hadMark = false;
+        blocks.Start(encoding, hadMark);
+        if (!IsUnicode(m_nEncoding))
+            AdoptEncoding(blocks.InputType(), hadMark);
+        SelectAll(1);
+        TargetFromSelection(1);
+        SetEnableReconciler(false, 1);
+        selector = lineends::SelectorOf(GetEOLMode(1));
+        EnterBlocks(blocks, selector, true);
+    } catch (const std::bad_alloc&) {
+        ranOut = true;
+        ShowText(GetHwnd(), kNoMemoryText);
+    }
+    m_bCutShort = m_bCutShort || blocks.HasRest() || ranOut;
+    SetEnableReconciler(true, 1);
+    file.reset();
+    if (selector == lineends::kAsItIs)
+        DiscoverEOLSetting(kLinesToJudge);
+}
+
+void CZNCoreEditorControl::AdoptEncoding(Encoding found, bool hadMark)
+{
+    m_bWriteEncodingSig = m_bWriteEncodingSig || hadMark;
+    if (IsUnicode(found))
+        m_nEncoding = found;
+    else if (found == FileEncodeConverter::encUTF8Cookie && m_bCarefulFiles)
+        m_nEncoding = Policy().cookieEncoding;
+}
+
+// The place of a line's end is that of its CR or LF. A text whose first line is empty has its first
+// line end at 0, which ends the count.
+void CZNCoreEditorControl::CountLineEnds(int& cr, int& lf, int& crlf, int maxLines)
+{
+    cr = lf = crlf = 0;
+    int lines = GetLineCount(1);
+    if (maxLines > 0 && maxLines < lines)
+        lines = maxLines;
+    for (int line = 0; line < lines; ++line) {
+        if (cr >= kEnoughLineEnds || lf >= kEnoughLineEnds || crlf >= kEnoughLineEnds)
+            return;
+        const long position = GetLineEndPosition(line, 1);
+        if (position <= 0 || position + 1 > GetLength(1))
+            return;
+        const int unit = GetCharAt(position, 1);
+        if (unit == u'\r')
+            ++(GetCharAt(position + 1, 1) == u'\n' ? crlf : cr);
+        else if (unit == u'\n')
+            ++lf;
+    }
+}
+
+void CZNCoreEditorControl::DiscoverEOLSetting(int maxLines)
+{
+    int cr = 0;
+    int lf = 0;
+    int crlf = 0;
+    CountLineEnds(cr, lf, crlf, maxLines);
+    if (const int mode = lineends::MajorityMode(cr, lf, crlf))
+        SetEOLMode(mode, 1);
+}

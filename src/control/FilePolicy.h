@@ -1,0 +1,46 @@
+// The few points in which a load and a save differ when files are handled with care.
+#pragma once
+
+#include "encoding/FileEncodeConverter.h"
+
+// How a load goes from one block of the file to the next.
+struct SeamRule
+{
+    bool convertsTail; // the bytes that the last block left count for the next conversion
+    bool skipsMark;    // the tail of the first block is looked for behind its mark
+    bool keepsPairs;   // no two halves of a pair, nor U+E000 at the end, are lost
+};
+
+struct FilePolicy
+{
+    SeamRule load;
+    SeamRule replace;
+    FileEncodeConverter::encodingType cookieEncoding; // recorded for a file that a cookie names
+    bool replacesTarget;  // a save takes the target's place when it is complete
+    bool reportsUnopened; // a target that cannot be opened is a failure
+    bool demandsAllText;  // so is a line that does not convert
+    bool writesFirst;     // the state of the control changes only after the write
+};
+
+// A character over the end of a block may lose bytes: later blocks are converted without the tail
+// in front of them being counted, and ReplaceTextWithFile alone counts it. A file that is known by
+// its cookie is recorded as UTF-32, so that the next save writes it as that.
+inline constexpr FilePolicy kPlainFiles = {
+    .load = {.convertsTail = false, .skipsMark = false, .keepsPairs = false},
+    .replace = {.convertsTail = true, .skipsMark = false, .keepsPairs = false},
+    .cookieEncoding = FileEncodeConverter::encUTF32BE,
+    .replacesTarget = false,
+    .reportsUnopened = false,
+    .demandsAllText = false,
+    .writesFirst = false,
+};
+
+inline constexpr FilePolicy kCarefulFiles = {
+    .load = {.convertsTail = true, .skipsMark = true, .keepsPairs = true},
+    .replace = {.convertsTail = true, .skipsMark = true, .keepsPairs = true},
+    .cookieEncoding = FileEncodeConverter::encUTF8,
+    .replacesTarget = true,
+    .reportsUnopened = true,
+    .demandsAllText = true,
+    .writesFirst = true,
+};

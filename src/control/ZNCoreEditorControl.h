@@ -1,0 +1,203 @@
+// CZNCoreEditorControl: an editor window of the engine, its whole command surface, load and save.
+// Everything that reaches the engine goes through Call. Positions and lengths count UTF-16 units,
+// lines count from 0. Created, used and destroyed on the GUI thread.
+#pragma once
+
+#include "common/Export.h"
+#include "control/EngineMessages.h"
+#include "encoding/FileEncodeConverter.h"
+#include "platform/Wnd.h"
+
+#include <QString>
+
+#include <array>
+#include <cstdio>
+#include <vector>
+
+class FileBlocks;
+class TargetFile;
+struct FilePolicy;
+
+// Sent to the parent when the user edits; wParam is the control's window, lParam 1.
+extern ZN_API unsigned int ZNBASEM_ON_EDITCHANGE;
+
+// The last argument of most operations, `direct`, chooses the way to the engine: nonzero calls its
+// function, which is cheap; zero sends a window message, which passes through the message maps.
+// An engine whose window is gone answers 0 to everything.
+class ZN_API CZNCoreEditorControl : public CWnd
+{
+public:
+    CZNCoreEditorControl(); // loads the engine once for the process
+    ~CZNCoreEditorControl() override;
+
+    using CWnd::Create;
+    // A window attached to this control. Direct access is the subclass's to set up, in its handler
+    // of WM_CREATE; until then a direct call answers 0. Gives 0 if there is no engine.
+    virtual int Create(unsigned long style, const RECT& rect, CWnd* parent, unsigned int id,
+                       CCreateContext* context);
+    // A window that is not attached: the caller attaches it, then calls SetupDirectAccess. Null if
+    // there is no engine.
+    HWND Create(HWND parent, HINSTANCE instance);
+    void PreSubclassWindow() override;
+
+    void SetupDirectAccess();
+    LRESULT GetDirectFunction();
+    LRESULT GetDirectPointer();
+
+    // The engine's answer; 0 if the window is gone, or if direct access is asked and not set up.
+    LRESULT Call(unsigned int message, WPARAM wParam, LPARAM lParam, int direct)
+    {
+        const HWND window = GetSafeHwnd();
+        if (!window)
+            return 0;
+        if (!direct)
+            return SendMessage(window, message, wParam, lParam);
+        return m_pDirectFunction ? m_pDirectFunction(m_pDirectPointer, message, wParam, lParam) : 0;
+    }
+
+    HWND GetHwnd() const { return m_hEditorWnd ? m_hEditorWnd.data() : GetSafeHwnd(); }
+
+    // Whether the record behind lParam of WM_NOTIFY comes from this control; asked first.
+    bool IsBaseEditorNotify(LPARAM lParam) const;
+    virtual int HandleNotify(LPARAM lParam); // the record's code
+
+    // The control's own record, which follows the engine's save-point notifications.
+    void SetModified(bool modified) { m_bModified = modified; }
+    bool GetModified() const { return m_bModified; }
+
+    int GetSelLength() const { return m_nSelLength; } // as of the last update notification
+    void SetInitialTabWidth(int width) { m_nInitialTabWidth = width; }
+    void SetLineEndingStyle(int mode) { m_nLineEndingStyle = mode; } // for Copy alone
+    int GetLineEndingStyle() const { return m_nLineEndingStyle; }
+
+    // The file behind the text: a number of FileEncodeConverter, and whether a byte-order mark is
+    // written.
+    void SetEncoding(int encoding) { m_nEncoding = encoding; }
+    int GetEncoding() const { return m_nEncoding; }
+    void SetWriteEncodingSig(const bool& write) { m_bWriteEncodingSig = write; }
+    bool GetWriteEncodingSig() const { return m_bWriteEncodingSig; }
+    const QString& GetFileName() const { return m_strFileName; }
+
+    // Replaces the text by the file's; encoding -1 means detect. False for a file that is missing
+    // or cannot be read; true also for one that was cut short.
+    virtual bool OpenFile(const char16_t* path, FileEncodeConverter::encodingType encoding);
+    // With commit the file becomes the one behind the text; without it this is an export that
+    // changes nothing here. False if a write failed. A target that cannot be opened gives true,
+    // unless files are handled with care.
+    virtual bool SaveFile(const char16_t* path, FileEncodeConverter::encodingType encoding,
+                          bool commit, bool writeMark);
+    virtual bool SaveFile(const char16_t* path, bool commit); // as the file behind the text is
+    // Replaces the text undoably; the file behind the text and the save point stay. Nothing happens
+    // if the file cannot be read or is empty.
+    void ReplaceTextWithFile(const char16_t* path, FileEncodeConverter::encodingType encoding);
+
+    // Care for files, off by default: a load carries every character over the seams of its blocks,
+    // a save replaces the target as a whole or not at all and tells every failure.
+    void SetCarefulFiles(bool careful) { m_bCarefulFiles = careful; }
+    bool GetCarefulFiles() const { return m_bCarefulFiles; }
+    // Whether the file holds more than was loaded, so that a save over it would lose the rest.
+    bool WasCutShort() const { return m_bCutShort; }
+
+    // Sets the mode of new line ends by the majority in the first lines.
+    void DiscoverEOLSetting(int maxLines);
+
+    virtual QString GetSelText();
+    virtual void EnableSymbolSupport(bool enable) { m_bSymbolSupport = enable; }
+
+    // The wrappers: one for each row of the table, with its parameters and `int direct`.
+    // clang-format off
+#define ZN_A(name, number, result) \
+    engine::CppType<engine::Kind::result> name(int direct);
+#define ZN_B(name, number, result, kind, arg) \
+    engine::CppType<engine::Kind::result> name(engine::CppType<engine::Kind::kind> arg, int direct);
+#define ZN_C(name, number, result, kind, arg, kind2, arg2) \
+    engine::CppType<engine::Kind::result> name(engine::CppType<engine::Kind::kind> arg, \
+                                               engine::CppType<engine::Kind::kind2> arg2, int direct);
+#define ZN_D(name, number, result, kind, arg) \
+    engine::CppType<engine::Kind::result> name(engine::CppType<engine::Kind::kind> arg, int direct);
+#define ZN_OWN(...)
+    // clang-format on
+#include "control/EngineMessages.def"
+
+    // Text entry in the line ends of the engine's mode. With a mode of 1 to 3 the text always runs
+    // to its terminator, whatever length says; with mode 0 exactly length units go in.
+    void AddText(int length, const char16_t* text, int direct);
+    void ReplaceSel(const char16_t* text, int direct);
+    int ReplaceTarget(int length, const char16_t* text, int direct); // the length put in
+
+    void Copy(int direct);                              // with the line ends of SetLineEndingStyle
+    void SetText(const char16_t* text, int direct);     // GetModified reads false afterwards
+    int GetRange(int start, int end, char16_t* buffer); // buffer: end - start + 1 units
+    void GetSel(CharacterRange& range);
+    void SetTarget(int start, int end);
+    void SetTarget(CharacterRange* range);
+    // Bytes for UTF-16 LE only; for every other encoding the count of units.
+    int GetFileByteLength();
+
+    // The engine's analysis rests while it is off, and while a bulk change is announced.
+    void SetEnableReconciler(bool enable, int direct);
+    void SetDoingReplaceAll(bool bulk, int direct);
+    int GetIsReconcilerEnabled();
+
+    static HINSTANCE m_hEditorDllHandle; // the engine, null until the first control; never released
+    static int refs;                     // live controls
+
+protected:
+    // Autosave joins in here: stopped before a load and a committed save, resumed after them.
+    virtual void SetAutoSave(bool on, int minutes);
+    virtual void CleanUpAutoSave();
+    virtual void DeleteAutoSaveFile();
+
+    // A click in the fold margin; true if it was taken.
+    bool MarginClick(long position, int modifiers);
+    // A line that becomes a header shows its lines; one that was a folded header shows them again.
+    void FoldChanged(int line, int levelNow, int levelPrevious);
+
+    // Reads and closes the file, inserting at the caret; null does nothing. convertEOLs brings the
+    // text to the engine's line-end mode.
+    void ReadInFileContents(std::FILE* file, FileEncodeConverter::encodingType encoding,
+                            bool convertEOLs);
+    // Counts each kind until one reaches 10; maxLines 0 means all lines.
+    void CountLineEnds(int& cr, int& lf, int& crlf, int maxLines);
+
+    const MessageMap& GetMessageMap() const override;
+
+    // In the order in which they are destroyed from the last on.
+    bool m_bSymbolSupport = false;
+    int m_bCreated = 0;       // made by a Create, so subclassing has nothing to do
+    int m_bFirstInstance = 0; // no other control was alive when this one was constructed
+    int m_nEncoding = FileEncodeConverter::encUTF16LE;
+    int m_nLineEndingStyle = -1;
+    engine::DirectFunction m_pDirectFunction = nullptr;
+    LRESULT m_pDirectPointer = 0;
+    QPointer<QWidget> m_hEditorWnd; // the window that notifies
+    bool m_bModified = false;
+    int m_nInitialTabWidth = 0;
+    int m_nSelLength = 0;
+    std::array<int, 10> m_aNumberedBookmarks{}; // marker handles
+    QString m_strFileName;
+    QString m_strAutoSaveDir;
+    QString m_strAutoSaveFile;
+    bool m_bAutoSaveOn = false;
+    int m_nAutoSaveMinutes = 1;
+    bool m_bWriteEncodingSig = true;
+
+private:
+    LRESULT OnGetSel(WPARAM wParam, LPARAM lParam);
+    LRESULT OnLineLength(WPARAM wParam, LPARAM lParam);
+    void OnModified(const SCNotification& record);
+    const FilePolicy& Policy() const;
+    void RecordEncoding(FileEncodeConverter::encodingType found);
+    void AdoptEncoding(FileEncodeConverter::encodingType found, bool hadMark);
+    void EnterBlocks(FileBlocks& blocks, int selector, bool replacesTarget);
+    bool WriteToFile(const char16_t* path, FileEncodeConverter::encodingType encoding,
+                     bool writeMark);
+    bool WriteToFile(const char16_t* path);
+    bool WriteText(TargetFile& target, FileEncodeConverter::encodingType encoding, bool writeMark);
+    FileEncodeConverter::encodingType EncodingForSave() const;
+    // UTF-8 with a terminator, which the count includes.
+    int ConvertTCharToUtf8(const char16_t* text, std::vector<char>& out) const;
+
+    bool m_bCarefulFiles = false;
+    bool m_bCutShort = false;
+};

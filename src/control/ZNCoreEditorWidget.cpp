@@ -1,0 +1,121 @@
+#include "control/ZNCoreEditorWidget.h"
+
+#include <QVBoxLayout>
+
+#include <utility>
+
+// The parent's side of the channel: this widget as a window that takes messages.
+class ZNCoreEditorWidget::NotificationWindow final : public CWnd
+{
+public:
+    explicit NotificationWindow(ZNCoreEditorWidget& owner) : m_owner(owner) { Attach(&owner); }
+    ~NotificationWindow() override { Detach(); } // the widget is not this object's to destroy
+
+    LRESULT WindowProc(UINT message, WPARAM wParam, LPARAM lParam) override
+    {
+        if (message == WM_NOTIFY && m_owner.m_control->IsBaseEditorNotify(lParam))
+            m_owner.Notify(lParam);
+        return CWnd::WindowProc(message, wParam, lParam);
+    }
+
+private:
+    ZNCoreEditorWidget& m_owner;
+};
+
+ZNCoreEditorWidget::ZNCoreEditorWidget(QWidget* parent)
+    : QWidget(parent), m_control(std::make_unique<CZNCoreEditorControl>()),
+      m_window(std::make_unique<NotificationWindow>(*this))
+{
+    auto* layout = new QVBoxLayout(this);
+    layout->setContentsMargins(0, 0, 0, 0);
+    const HWND editor = CreateWindowOfClass(
+        engine::kWindowClass, WS_CHILD | WS_CLIPCHILDREN | WS_HSCROLL | WS_VSCROLL | WS_VISIBLE,
+        RECT{0, 0, 100, 100}, this);
+    if (!editor)
+        return;
+    layout->addWidget(editor);
+    setFocusProxy(editor);
+    editor->setAccessibleName(tr("Text editor"));
+    m_control->SubclassWindow(editor);
+}
+
+// The engine's window goes first, while there is still somebody to hear its last notifications.
+ZNCoreEditorWidget::~ZNCoreEditorWidget()
+{
+    m_control->DestroyWindow();
+    m_window.reset();
+}
+
+bool ZNCoreEditorWidget::openFile(const QString& path)
+{
+    const std::u16string name = path.toStdU16String();
+    return m_control->OpenFile(name.c_str(), FileEncodeConverter::encUnknown);
+}
+
+bool ZNCoreEditorWidget::saveFile(const QString& path)
+{
+    const std::u16string name = path.toStdU16String();
+    return m_control->SaveFile(name.c_str(), true);
+}
+
+QString ZNCoreEditorWidget::text()
+{
+    const long units = m_control->GetLength(1);
+    QString text(units, Qt::Uninitialized);
+    if (units > 0)
+        m_control->GetText(static_cast<int>(units) + 1, reinterpret_cast<char16_t*>(text.data()),
+                           1);
+    return text;
+}
+
+void ZNCoreEditorWidget::setText(const QString& text)
+{
+    const std::u16string units = text.toStdU16String();
+    m_control->BeginUndoAction(1);
+    m_control->ClearAll(1);
+    m_control->AddTextNoProcess(static_cast<int>(units.size()), units.c_str(), 1);
+    m_control->SetSel(0, 0, 1);
+    m_control->EndUndoAction(1);
+}
+
+// Slots may change the text or delete this widget: the control has its turn before the first
+// signal, and nothing is touched behind the last one.
+void ZNCoreEditorWidget::Notify(LPARAM lParam)
+{
+    const QPointer<ZNCoreEditorWidget> alive(this);
+    m_control->HandleNotify(lParam);
+    const auto& record = *reinterpret_cast<const SCNotification*>(lParam);
+    Q_EMIT notified(record);
+    if (alive)
+        Announce(record);
+}
+
+void ZNCoreEditorWidget::Announce(const SCNotification& record)
+{
+    constexpr int kTextChange = modification::InsertText | modification::DeleteText;
+    switch (record.nmhdr.code) {
+    case notify::Modified:
+        if (record.modificationType & kTextChange)
+            Q_EMIT textChanged();
+        break;
+    case notify::SavePointLeft:
+    case notify::SavePointReached:
+        m_modified = record.nmhdr.code == notify::SavePointLeft;
+        Q_EMIT modificationChanged(m_modified);
+        break;
+    case notify::CharAdded:
+        Q_EMIT charAdded(static_cast<char32_t>(record.ch));
+        break;
+    case notify::UpdateUi: {
+        const QPointer<ZNCoreEditorWidget> alive(this);
+        const long caret = m_control->GetCurrentPos(1);
+        if (caret != std::exchange(m_caret, caret))
+            Q_EMIT cursorPositionChanged(caret);
+        if (alive)
+            Q_EMIT updateUi();
+        break;
+    }
+    default:
+        break;
+    }
+}

@@ -1,0 +1,54 @@
+// ZNCoreEditorWidget: the control for hosts that are written in plain Qt.
+#pragma once
+
+#include "control/ZNCoreEditorControl.h"
+
+#include <QString>
+#include <QWidget>
+
+#include <memory>
+
+// An editor that sits in a layout and handles its control's notifications by itself. The control
+// is reached for everything that has no signal or slot here; its operations take 1 for `direct`.
+// Without an engine the widget stays empty, and so does every answer.
+class ZN_API ZNCoreEditorWidget : public QWidget
+{
+    Q_OBJECT
+    Q_PROPERTY(QString text READ text WRITE setText NOTIFY textChanged)
+    Q_PROPERTY(bool modified READ isModified NOTIFY modificationChanged)
+
+public:
+    explicit ZNCoreEditorWidget(QWidget* parent = nullptr);
+    ~ZNCoreEditorWidget() override;
+
+    CZNCoreEditorControl& control() { return *m_control; }
+
+    // The encoding and the mark are found in the file. False if it is missing or cannot be read.
+    bool openFile(const QString& path);
+    // In the encoding and with the mark of the file that was opened. False if a write failed.
+    bool saveFile(const QString& path);
+
+    QString text();
+    void setText(const QString& text);             // undoable; the save point stays where it was
+    bool isModified() const { return m_modified; } // whether the text differs from the save point
+
+Q_SIGNALS:
+    void textChanged();
+    void modificationChanged(bool modified);
+    void cursorPositionChanged(long position);
+    void updateUi();
+    void charAdded(char32_t character);
+    // Every notification of the engine. The record is good until the slot returns.
+    void notified(const SCNotification& record);
+
+private:
+    class NotificationWindow;
+
+    void Notify(LPARAM lParam);
+    void Announce(const SCNotification& record);
+
+    std::unique_ptr<CZNCoreEditorControl> m_control;
+    std::unique_ptr<NotificationWindow> m_window; // hears what the engine tells its parent
+    bool m_modified = false;
+    long m_caret = 0;
+};
