@@ -8,6 +8,7 @@
 #include <QFileInfo>
 #include <QVBoxLayout>
 
+#include <utility>
 #include <vector>
 
 namespace {
@@ -58,16 +59,40 @@ EditorTab::EditorTab(const QString& untitledName, QWidget* parent)
     Editor().SetEncoding(FileEncodeConverter::encUTF8);
     Editor().SetWriteEncodingSig(false);
     DressForSql(Editor());
-    connect(m_widget, &ZNCoreEditorWidget::textChanged, this, &EditorTab::AfterChange);
+    connect(m_widget, &ZNCoreEditorWidget::notified, this, &EditorTab::OnNotified);
 }
 
 CZNCoreEditorControl& EditorTab::Editor() const
 {
-    return m_widget->Control();
+    return m_widget->control();
 }
 
-void EditorTab::AfterChange()
+void EditorTab::OnNotified(const SCNotification& record)
 {
+    switch (record.nmhdr.code) {
+    case notify::Modified:
+    case notify::SavePointReached:
+    case notify::SavePointLeft:
+    case notify::UpdateUi:
+    case notify::Zoom:
+        AnnounceSoon();
+        break;
+    default:
+        break;
+    }
+}
+
+// A load or a replacement of all brings thousands of notifications; the window follows once.
+void EditorTab::AnnounceSoon()
+{
+    if (std::exchange(m_announcing, true))
+        return;
+    QMetaObject::invokeMethod(this, &EditorTab::Announce, Qt::QueuedConnection);
+}
+
+void EditorTab::Announce()
+{
+    m_announcing = false;
     FitLineNumberMargin(Editor());
     Q_EMIT StateChanged();
 }
@@ -81,7 +106,7 @@ QString EditorTab::Load(const QString& path)
         return WhyNotRead(path);
     m_path = absolute;
     Editor().SetReadOnly(QFileInfo(absolute).isWritable() ? 0 : 1, 1);
-    AfterChange();
+    Announce();
     return {};
 }
 

@@ -7,6 +7,7 @@
 
 class CZNCoreEditorControl;
 class ZNCoreEditorWidget;
+struct SCNotification;
 
 class EditorTab final : public QWidget
 {
@@ -43,9 +44,12 @@ Q_SIGNALS:
     void StateChanged(); // text, caret, modified flag, zoom: anything that the window shows
 
 private:
-    void AfterChange();
+    void OnNotified(const SCNotification& record);
+    void AnnounceSoon();
+    void Announce();
 
     ZNCoreEditorWidget* m_widget;
     QString m_untitledName;
     QString m_path;
+    bool m_announcing = false;
 };

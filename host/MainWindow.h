@@ -4,6 +4,7 @@
 #include <QMainWindow>
 
 #include <span>
+#include <vector>
 
 class EditorTab;
 class Prompts;
@@ -83,6 +84,7 @@ private:
     Prompts& m_prompts;
     QTabWidget* m_tabs;
     StatusIndicators* m_status;
+    std::vector<QAction*> m_actions; // of the named commands, in their order
     int m_untitledCount = 0;
     bool m_clipboardHasText = false;
     bool m_showWhitespace = false;

@@ -112,7 +112,7 @@ void MainWindow::BuildMenus()
         if (!menu || menu->title() != title)
             menu = menuBar()->addMenu(title);
         if (command.name)
-            menu->addAction(AddCommand(command));
+            menu->addAction(m_actions.emplace_back(AddCommand(command)));
         else
             menu->addSeparator();
     }
@@ -146,9 +146,10 @@ bool MainWindow::IsPossible(When when) const
 
 void MainWindow::UpdateCommands()
 {
+    auto action = m_actions.begin();
     for (const Command& command : Commands()) {
         if (command.name)
-            findChild<QAction*>(QLatin1String(command.name))->setEnabled(IsPossible(command.when));
+            (*action++)->setEnabled(IsPossible(command.when));
     }
 }
 

@@ -34,7 +34,7 @@ TEST_F(Workbench, MarksAChangedScriptUntilTheChangeIsUndone)
     EXPECT_EQ(TabCaption(), QStringLiteral("orders.sql*"));
     EXPECT_TRUE(m_window.isWindowModified());
     EXPECT_EQ(Status("modified"), QStringLiteral("Modified"));
-    Action("undo").trigger();
+    Trigger("undo");
     EXPECT_EQ(TabCaption(), QStringLiteral("orders.sql"));
     EXPECT_FALSE(m_window.isWindowModified());
     EXPECT_TRUE(Status("modified").isEmpty());
@@ -73,7 +73,7 @@ TEST_F(Workbench, TellsWhyAScriptDoesNotOpen)
     EXPECT_EQ(m_window.TabCount(), 0);
 
     m_prompts.filesToOpen = QStringList{PathOf("no.sql")};
-    Action("open").trigger();
+    Trigger("open");
     EXPECT_EQ(m_prompts.told.size(), 1);
 }
 
@@ -87,7 +87,7 @@ TEST_F(Workbench, SavesInTheEncodingOfTheFile)
     EXPECT_EQ(Text(), QStringLiteral("a\n\u0142"));
     EXPECT_EQ(Status("encoding"), QStringLiteral("UTF-16 LE with mark"));
     Type(u"b");
-    Action("save").trigger();
+    Trigger("save");
     EXPECT_EQ(Read("a.sql"), QByteArray("\xFF\xFE"
                                         "b\0a\0\n\0\x42\x01",
                                         10));
@@ -98,7 +98,7 @@ TEST_F(Workbench, SavesUnderAnotherNameAndEncoding)
 {
     Open("a.sql", "caf\xC3\xA9\n");
     m_prompts.saveTarget = SaveTarget{PathOf("b.sql"), 2, true};
-    Action("saveAs").trigger();
+    Trigger("saveAs");
     EXPECT_EQ(m_prompts.proposals, QStringList{PathOf("a.sql")});
     EXPECT_EQ(Read("b.sql"), QByteArray("\xFF\xFE"
                                         "c\0a\0f\0\xE9\0\n\0",
@@ -113,7 +113,7 @@ TEST_F(Workbench, AsksForANameWhenAScriptWithoutOneIsSaved)
     m_window.NewScript();
     Type(u"select 1");
     m_prompts.saveTarget = SaveTarget{PathOf("new.sql"), 6, false};
-    Action("save").trigger();
+    Trigger("save");
     EXPECT_EQ(Read("new.sql"), QByteArray("select 1"));
     EXPECT_EQ(m_prompts.proposals.size(), 1);
     EXPECT_TRUE(m_prompts.proposals.value(0).endsWith(QStringLiteral("Script 1.sql")));
@@ -173,7 +173,7 @@ TEST_F(Workbench, AsksBeforeCharactersBecomeQuestionMarks)
 TEST_F(Workbench, ClosesAnUnchangedScriptWithoutAWord)
 {
     Open("a.sql", "a");
-    Action("close").trigger();
+    Trigger("close");
     EXPECT_EQ(m_window.TabCount(), 0);
     EXPECT_TRUE(m_prompts.asked.isEmpty());
 }
@@ -182,12 +182,12 @@ TEST_F(Workbench, AsksBeforeAChangedScriptCloses)
 {
     Open("a.sql", "a");
     Type(u"b");
-    Action("close").trigger();
+    Trigger("close");
     EXPECT_EQ(m_prompts.asked, QStringList{"a.sql"});
     EXPECT_EQ(m_window.TabCount(), 1);
 
     m_prompts.loseChanges = LoseChanges::Save;
-    Action("close").trigger();
+    Trigger("close");
     EXPECT_EQ(m_window.TabCount(), 0);
     EXPECT_EQ(Read("a.sql"), QByteArray("ba"));
 }
@@ -197,7 +197,7 @@ TEST_F(Workbench, DropsTheChangesThatAPersonDiscards)
     Open("a.sql", "a");
     Type(u"b");
     m_prompts.loseChanges = LoseChanges::Discard;
-    Action("close").trigger();
+    Trigger("close");
     EXPECT_EQ(m_window.TabCount(), 0);
     EXPECT_EQ(Read("a.sql"), QByteArray("a"));
 }
@@ -238,13 +238,11 @@ TEST_F(Workbench, OffersOnlyWhatIsPossible)
     Type(u"b");
     EXPECT_TRUE(Action("save").isEnabled());
     EXPECT_TRUE(Action("undo").isEnabled());
-    Action("undo").trigger();
-    QApplication::processEvents();
+    Trigger("undo");
     EXPECT_TRUE(Action("redo").isEnabled());
     EXPECT_FALSE(Action("save").isEnabled());
 
-    Action("selectAll").trigger();
-    QApplication::processEvents();
+    Trigger("selectAll");
     for (const char* name : {"cut", "copy", "delete"})
         EXPECT_TRUE(Action(name).isEnabled()) << name << " with a selection";
 }
@@ -255,7 +253,7 @@ TEST_F(Workbench, OffersNoChangeOfAReadOnlyScript)
     Open("a.sql", "a");
     Type(u"b");
     Editor().SetReadOnly(1, 1);
-    Action("selectAll").trigger();
+    Trigger("selectAll");
     Q_EMIT Tab().StateChanged();
     for (const char* name : {"undo", "cut", "paste", "delete"})
         EXPECT_FALSE(Action(name).isEnabled()) << name;
@@ -267,16 +265,16 @@ TEST_F(Workbench, CutsAndPastesThroughItsMenu)
 {
     Open("a.sql", "one two");
     Editor().SetSel(0, 4, 1);
-    Action("cut").trigger();
+    Trigger("cut");
     EXPECT_EQ(Text(), QStringLiteral("two"));
     EXPECT_EQ(QApplication::clipboard()->text(), QStringLiteral("one "));
     Editor().GotoPos(3, 1);
     QApplication::processEvents();
-    Action("paste").trigger();
+    Trigger("paste");
     EXPECT_EQ(Text(), QStringLiteral("twoone "));
     Editor().SetSel(0, 3, 1);
     QApplication::processEvents();
-    Action("delete").trigger();
+    Trigger("delete");
     EXPECT_EQ(Text(), QStringLiteral("one "));
 }
 
@@ -288,7 +286,6 @@ TEST_F(Workbench, TellsTheCaretsPlaceInTheStatusBar)
     EXPECT_EQ(Status("overtype"), QStringLiteral("INS"));
     Editor().GotoPos(7, 1);
     QApplication::processEvents();
-    m_window.repaint();
     EXPECT_EQ(Status("caret"), QStringLiteral("Line 2, column 3"));
 }
 
@@ -300,10 +297,10 @@ TEST_F(Workbench, ShowsEachScriptsOwnStateWhenItsTabComesToTheFront)
                   "b\r\n");
     EXPECT_EQ(Status("encoding"), QStringLiteral("UTF-8 with mark"));
     EXPECT_TRUE(Status("modified").isEmpty());
-    Action("previous").trigger();
+    Trigger("previous");
     EXPECT_EQ(Status("encoding"), QStringLiteral("windows-1252"));
     EXPECT_EQ(Status("modified"), QStringLiteral("Modified"));
-    Action("next").trigger();
+    Trigger("next");
     EXPECT_EQ(Text(), QStringLiteral("b\r\n"));
 }
 
@@ -321,18 +318,18 @@ TEST_F(Workbench, WidensTheLineNumbersWithTheZoom)
     Open("a.sql", "a\n");
     const int before = Editor().GetMarginWidthN(0, 1);
     for (int i = 0; i < 8; ++i)
-        Action("zoomIn").trigger();
+        Trigger("zoomIn");
     EXPECT_GT(Editor().GetMarginWidthN(0, 1), before);
-    Action("zoomReset").trigger();
+    Trigger("zoomReset");
     EXPECT_EQ(Editor().GetMarginWidthN(0, 1), before);
 }
 
 TEST_F(Workbench, AppliesItsViewToEveryScript)
 {
     Open("a.sql", "a");
-    Action("whitespace").trigger();
-    Action("lineEnds").trigger();
-    Action("wrap").trigger();
+    Trigger("whitespace");
+    Trigger("lineEnds");
+    Trigger("wrap");
     Open("b.sql", "b");
     for (int i = 0; i < m_window.TabCount(); ++i) {
         CZNCoreEditorControl& editor = m_window.TabAt(i)->Editor();
@@ -340,7 +337,7 @@ TEST_F(Workbench, AppliesItsViewToEveryScript)
         EXPECT_EQ(editor.GetViewEOL(1), 1);
         EXPECT_EQ(editor.GetWrapMode(1), 1);
     }
-    Action("wrap").trigger();
+    Trigger("wrap");
     EXPECT_EQ(m_window.TabAt(0)->Editor().GetWrapMode(1), 0);
 }
 

@@ -65,6 +65,12 @@ protected:
         return *m_window.findChild<QAction*>(QLatin1String(name));
     }
 
+    void Trigger(const char* name)
+    {
+        Action(name).trigger();
+        QApplication::processEvents();
+    }
+
     QString Status(const char* name) const
     {
         return m_window.findChild<QLabel*>(QLatin1String(name))->text();
