@@ -62,6 +62,12 @@ EditorTab::EditorTab(const QString& untitledName, QWidget* parent)
     connect(m_widget, &ZNCoreEditorWidget::notified, this, &EditorTab::OnNotified);
 }
 
+// The editor goes after this part of the tab does, and tells of it.
+EditorTab::~EditorTab()
+{
+    m_widget->disconnect(this);
+}
+
 CZNCoreEditorControl& EditorTab::Editor() const
 {
     return m_widget->control();
@@ -70,9 +76,11 @@ CZNCoreEditorControl& EditorTab::Editor() const
 void EditorTab::OnNotified(const SCNotification& record)
 {
     switch (record.nmhdr.code) {
-    case notify::Modified:
     case notify::SavePointReached:
     case notify::SavePointLeft:
+        Q_EMIT StateChanged(); // at once: the keys for saving may be next in line
+        break;
+    case notify::Modified:
     case notify::UpdateUi:
     case notify::Zoom:
         AnnounceSoon();
@@ -94,7 +102,21 @@ void EditorTab::Announce()
 {
     m_announcing = false;
     FitLineNumberMargin(Editor());
+    FitScrollRange();
     Q_EMIT StateChanged();
+}
+
+// The whole screen after a scroll, else the line that is being typed in.
+void EditorTab::FitScrollRange()
+{
+    const int first = Editor().GetFirstVisibleLine(1);
+    if (std::exchange(m_measuredFrom, first) != first) {
+        const int from = Editor().DocLineFromVisible(first, 1);
+        FitScrollWidth(Editor(), from, from + Editor().LinesOnScreen(1));
+    } else {
+        const int line = Editor().LineFromPosition(Editor().GetCurrentPos(1), 1);
+        FitScrollWidth(Editor(), line, line);
+    }
 }
 
 QString EditorTab::Load(const QString& path)
@@ -105,6 +127,7 @@ QString EditorTab::Load(const QString& path)
         !Editor().OpenFile(Units(absolute), FileEncodeConverter::encUnknown))
         return WhyNotRead(path);
     m_path = absolute;
+    m_measuredFrom = -1;
     Editor().SetReadOnly(QFileInfo(absolute).isWritable() ? 0 : 1, 1);
     Announce();
     return {};

@@ -16,6 +16,7 @@ class EditorTab final : public QWidget
 public:
     // The name stands for the script until it is saved.
     EditorTab(const QString& untitledName, QWidget* parent);
+    ~EditorTab() override;
 
     CZNCoreEditorControl& Editor() const;
 
@@ -47,9 +48,11 @@ private:
     void OnNotified(const SCNotification& record);
     void AnnounceSoon();
     void Announce();
+    void FitScrollRange();
 
     ZNCoreEditorWidget* m_widget;
     QString m_untitledName;
     QString m_path;
     bool m_announcing = false;
+    int m_measuredFrom = -1; // the first line on screen when lines were last measured
 };

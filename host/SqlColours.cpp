@@ -126,6 +126,7 @@ void DressForSql(CZNCoreEditorControl& editor)
     editor.SetMarginLeft(4, 1);
     editor.SetTabWidth(4, 1);
     editor.SetUseTabs(0, 1);
+    editor.SetScrollWidth(1, 1);
     FitLineNumberMargin(editor);
 }
 
@@ -137,4 +138,19 @@ void FitLineNumberMargin(CZNCoreEditorControl& editor)
     const int width = int(editor.TextWidth(kLineNumberStyle, Units(widest), 1));
     if (editor.GetMarginWidthN(kNumberMargin, 1) != width)
         editor.SetMarginWidthN(kNumberMargin, width, 1);
+}
+
+void FitScrollWidth(CZNCoreEditorControl& editor, int firstLine, int lastLine)
+{
+    constexpr long kRoomForTheCaret = 12;
+    const int last = std::min(lastLine, editor.GetLineCount(1) - 1);
+    long widest = editor.GetScrollWidth(1);
+    for (int line = firstLine; line <= last; ++line) {
+        const long start = editor.PositionFromLine(line, 1);
+        const long end = editor.GetLineEndPosition(line, 1);
+        widest = std::max<long>(widest, editor.PointXFromPosition(end, 1) -
+                                            editor.PointXFromPosition(start, 1) + kRoomForTheCaret);
+    }
+    if (widest > editor.GetScrollWidth(1))
+        editor.SetScrollWidth(int(widest), 1);
 }

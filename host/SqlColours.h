@@ -8,3 +8,6 @@ void DressForSql(CZNCoreEditorControl& editor);
 
 // Makes the line-number margin as wide as the last line's number needs at the present zoom.
 void FitLineNumberMargin(CZNCoreEditorControl& editor);
+
+// Widens the range of the horizontal scroll bar to the longest of the lines; it never shrinks.
+void FitScrollWidth(CZNCoreEditorControl& editor, int firstLine, int lastLine);

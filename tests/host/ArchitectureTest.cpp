@@ -20,7 +20,7 @@ QString ReadText(const QString& path)
 
 Rooms RoomsOfThePage()
 {
-    static const QRegularExpression row(QStringLiteral("^ {4}([a-z/]+) +\\(([^)]*)\\)"),
+    static const QRegularExpression row(QStringLiteral("^ {4}([A-Za-z/]+) +\\(([^)]*)\\)"),
                                         QRegularExpression::MultilineOption);
     Rooms rooms;
     const QString page = ReadText(QStringLiteral(ZN_SOURCE_DIR "/docs/architecture.md"));
@@ -52,12 +52,13 @@ std::map<QString, QString> Sources()
     return sources;
 }
 
-// The innermost room that a file stands in; empty for what stands in none.
+// The innermost room that a file stands in, or is; empty for what stands in none.
 QString RoomOf(const QString& file, const Rooms& rooms)
 {
     QString best;
     for (const auto& [room, allowed] : rooms) {
-        if (file.startsWith(room + '/') && room.size() > best.size())
+        const bool inside = file.startsWith(room + '/') || file.section('.', 0, 0) == room;
+        if (inside && room.size() > best.size())
             best = room;
     }
     return best;
@@ -124,7 +125,7 @@ TEST(Architecture, EveryRoomIncludesOnlyRoomsAboveItOnThePage)
     for (const auto& [room, allowed] : RoomsOfThePage()) {
         const auto place = page.indexOf(QStringLiteral("\n    ") + room + ' ');
         for (const QString& entry : allowed) {
-            const QString needed = RoomOf(entry + '/', RoomsOfThePage());
+            const QString needed = RoomOf(entry, RoomsOfThePage());
             const auto before = page.indexOf(QStringLiteral("\n    ") + needed + ' ');
             EXPECT_GE(before, 0) << room.toStdString() << " names " << entry.toStdString();
             EXPECT_LT(before, place) << room.toStdString() << " names " << entry.toStdString();

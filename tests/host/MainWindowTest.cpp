@@ -40,6 +40,16 @@ TEST_F(Workbench, MarksAChangedScriptUntilTheChangeIsUndone)
     EXPECT_TRUE(Status("modified").isEmpty());
 }
 
+TEST_F(Workbench, OffersToSaveAtTheFirstChangeWithoutWaitingForThePaint)
+{
+    // A person's save keys may be next in line behind the typed one.
+    Open("orders.sql", "select 1;\n");
+    Editor().ReplaceSel(u"x", 1);
+    EXPECT_TRUE(Action("save").isEnabled());
+    EXPECT_TRUE(m_window.Save());
+    EXPECT_FALSE(Action("save").isEnabled());
+}
+
 TEST_F(Workbench, ShowsAnAmpersandOfANameAsItIs)
 {
     Open("a&b.sql", "");
@@ -138,15 +148,19 @@ TEST_F(Workbench, KeepsTheTextWhenASaveFails)
 
 TEST_F(Workbench, AsksBeforeAScriptThatWasCutShortReplacesTheLongerFile)
 {
-    const QByteArray bytes("kept\xC3\xA9\xFF lost\n");
-    ASSERT_EQ(m_window.OpenScript(Write("a.sql", QByteArray("\xEF\xBB\xBF") + bytes)), QString());
+    // Half a unit stands at the end.
+    const QByteArray bytes("\xFF\xFE"
+                           "a\0b\0c",
+                           7);
+    Open("a.sql", bytes);
+    EXPECT_EQ(Text(), QStringLiteral("ab"));
     ASSERT_EQ(m_prompts.told.size(), 1) << "the person is told while the script opens";
     EXPECT_TRUE(m_prompts.told[0].contains(QStringLiteral("truncated")));
 
     Type(u"x");
     EXPECT_FALSE(m_window.Save());
     EXPECT_EQ(m_prompts.asked.size(), 1);
-    EXPECT_EQ(Read("a.sql"), QByteArray("\xEF\xBB\xBF") + bytes);
+    EXPECT_EQ(Read("a.sql"), bytes);
 
     m_prompts.confirm = true;
     EXPECT_TRUE(m_window.Save());
@@ -265,6 +279,7 @@ TEST_F(Workbench, CutsAndPastesThroughItsMenu)
 {
     Open("a.sql", "one two");
     Editor().SetSel(0, 4, 1);
+    QApplication::processEvents();
     Trigger("cut");
     EXPECT_EQ(Text(), QStringLiteral("two"));
     EXPECT_EQ(QApplication::clipboard()->text(), QStringLiteral("one "));
@@ -322,6 +337,16 @@ TEST_F(Workbench, WidensTheLineNumbersWithTheZoom)
     EXPECT_GT(Editor().GetMarginWidthN(0, 1), before);
     Trigger("zoomReset");
     EXPECT_EQ(Editor().GetMarginWidthN(0, 1), before);
+}
+
+TEST_F(Workbench, ScrollsSidewaysNoFurtherThanTheLongestLineSeen)
+{
+    Open("a.sql", "a\n");
+    QApplication::processEvents();
+    const int before = Editor().GetScrollWidth(1);
+    EXPECT_LT(before, 200);
+    Type(QString(300, u'x').toStdU16String().c_str());
+    EXPECT_GT(Editor().GetScrollWidth(1), 300 * 4);
 }
 
 TEST_F(Workbench, AppliesItsViewToEveryScript)

@@ -83,7 +83,7 @@ protected:
     }
 
     void Keys(const QStringList& keys) { XDoTool(QStringList{"key", "--delay", "20"} + keys); }
-    void Type(const QString& text) { XDoTool({"type", "--delay", "20", text}); }
+    void Type(const QString& text) { XDoTool({"type", "--delay", "20", "--", text}); }
 
     QTemporaryDir m_folder;
     QProcess m_workbench;
