@@ -60,7 +60,8 @@ constexpr StyleRow kStyles[] = {
 // clang-format on
 
 constexpr char16_t kKeywords[] =
-    u"add after all alter always and any as asc authorization avg before begin between bigint bit "
+    u"add after all alter always and ansi_nulls any as asc authorization avg before begin between "
+    u"bigint bit "
     u"body boolean both break by byte call cascade case cast catch char character check close "
     u"clustered coalesce collate column comment commit constant constraint continue count create "
     u"cross current current_date current_time current_timestamp cursor date datetime datetime2 "
@@ -72,7 +73,8 @@ constexpr char16_t kKeywords[] =
     u"min money month natural next no nocount not nowait null nullif number numeric nvarchar "
     u"nvarchar2 nvl object of off offset on only open option or order out outer over package "
     u"partition pls_integer pragma precision primary print prior procedure public raise raiserror "
-    u"range real record ref references replace return returning returns revoke right rollback "
+    u"quoted_identifier range real record ref references replace return returning returns revoke "
+    u"right rollback "
     u"round row row_number rowcount rowlock rows rowtype rtrim savepoint schema search_path select "
     u"sequence session set show smallint some start subtype sum sysdate synonym table temporary "
     u"then throw time timestamp tinyint to top trailing tran transaction trigger trim true "
@@ -123,7 +125,7 @@ void DressForSql(CZNCoreEditorControl& editor)
     editor.SetSelBack(1, kSelection, 1);
     editor.SetMarginTypeN(kNumberMargin, kNumberMarginType, 1);
     editor.SetMarginWidthN(kSymbolMargin, 0, 1);
-    editor.SetMarginLeft(4, 1);
+    editor.SetMarginLeft(6, 1);
     editor.SetTabWidth(4, 1);
     editor.SetUseTabs(0, 1);
     editor.SetScrollWidth(1, 1);

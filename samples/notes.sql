@@ -2,7 +2,7 @@
    ─────────────────────────────
    毎週金曜日の棚卸しの前に、上から順番に実行してください。
    結果が空でない場合は、必ず担当者に連絡すること。
-   絵文字は状態表示に使います：🟢 正常　🟡 注意　🔴 至急  */
+   顔文字は状態表示に使います：😀 正常　😐 注意　😨 至急  */
 
 -- １．引当数が在庫数を超えている品目
 select s.warehouse_id as 倉庫,
@@ -28,9 +28,9 @@ order  by 最終受注日;
 
 -- ３．状態の一覧
 select case
-           when s.quantity = 0               then '🔴 在庫切れ'
-           when s.quantity - s.reserved < 10 then '🟡 残りわずか'
-           else                                   '🟢 十分'
+           when s.quantity = 0               then '😨 在庫切れ'
+           when s.quantity - s.reserved < 10 then '😐 残りわずか'
+           else                                   '😀 十分'
        end          as 状態,
        count(*)     as 件数
 from   chandlery.stock s
@@ -49,5 +49,5 @@ and    article_id = (select article_id from chandlery.article where sku = 'ROPE-
 -- הערה: הספק החדש שולח את החשבוניות בעברית, יש לשמור את השם כפי שהוא.
 update chandlery.party set name = 'ציוד ימי חיפה בע״מ' where name = 'Haifa Marine';
 
--- संक्षेप: नए ग्राहक का नाम देवनागरी में रखें।
-update chandlery.party set name = 'सागर जहाज़रानी' where name = 'Sagar Shipping';
+-- Σημείωση: το όνομα του νέου πελάτη γράφεται με ελληνικά, όχι με λατινικά.
+update chandlery.party set name = 'Εφοδιαστική Πειραιώς' where name = 'Efodiastiki Pireos';
