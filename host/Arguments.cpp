@@ -1,0 +1,28 @@
+#include "host/Arguments.h"
+
+#include <QCommandLineParser>
+
+Arguments ParseArguments(const QStringList& commandLine)
+{
+    QCommandLineParser parser;
+    parser.setApplicationDescription(QStringLiteral("Opens SQL scripts, one tab for each."));
+    const QCommandLineOption help({QStringLiteral("h"), QStringLiteral("help")},
+                                  QStringLiteral("Shows this text."));
+    const QCommandLineOption screenshot(QStringLiteral("screenshot"),
+                                        QStringLiteral("Writes a picture of the window and exits."),
+                                        QStringLiteral("FILE"));
+    parser.addOptions({help, screenshot});
+    parser.addPositionalArgument(QStringLiteral("FILE"), QStringLiteral("Scripts to open."),
+                                 QStringLiteral("[FILE...]"));
+
+    Arguments arguments;
+    if (!parser.parse(commandLine))
+        arguments.error = parser.errorText();
+    else if (parser.isSet(screenshot) && parser.value(screenshot).isEmpty())
+        arguments.error = QStringLiteral("--screenshot needs the name of a file.");
+    if (parser.isSet(help))
+        arguments.help = parser.helpText();
+    arguments.files = parser.positionalArguments();
+    arguments.screenshot = parser.value(screenshot);
+    return arguments;
+}

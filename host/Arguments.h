@@ -1,0 +1,16 @@
+// The command line of znworkbench.
+#pragma once
+
+#include <QString>
+#include <QStringList>
+
+struct Arguments
+{
+    QStringList files;
+    QString screenshot; // where the picture goes; empty without --screenshot
+    QString help;       // the text to show, empty without --help
+    QString error;      // what is wrong with the command line, empty if nothing is
+};
+
+// The first of the given texts is the program's name.
+Arguments ParseArguments(const QStringList& commandLine);

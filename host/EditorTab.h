@@ -1,0 +1,58 @@
+// One script in a tab: the editor, the file behind it, and what the window shows of both.
+#pragma once
+
+#include "host/Prompts.h"
+
+#include <QWidget>
+
+class CZNCoreEditorControl;
+class ZNCoreEditorWidget;
+struct SCNotification;
+
+class EditorTab final : public QWidget
+{
+    Q_OBJECT
+
+public:
+    // The name stands for the script until it is saved.
+    EditorTab(const QString& untitledName, QWidget* parent);
+    ~EditorTab() override;
+
+    CZNCoreEditorControl& Editor() const;
+
+    // Empty if the script is open, else a sentence that tells why it is not.
+    QString Load(const QString& path);
+
+    // Writes the text; empty if it did, else a sentence that tells why it did not. The text and the
+    // file behind it then stay as they were.
+    QString Save(const SaveTarget& target);
+
+    // Where a plain save goes: the file behind the text, the path empty if there is none yet.
+    SaveTarget CurrentTarget() const;
+
+    QString Name() const; // the file's, or the one given
+    QString Path() const { return m_path; }
+    bool IsModified() const;
+    bool IsReadOnly() const;
+    bool IsUntouched() const; // no file, no text, no change
+    bool HasSelection() const;
+    QString CaretText() const; // line and column, from 1
+
+    // Whether the encoding has every character of the text.
+    bool CanHold(int encoding) const;
+
+Q_SIGNALS:
+    void StateChanged(); // text, caret, modified flag, zoom: anything that the window shows
+
+private:
+    void OnNotified(const SCNotification& record);
+    void AnnounceSoon();
+    void Announce();
+    void FitScrollRange();
+
+    ZNCoreEditorWidget* m_widget;
+    QString m_untitledName;
+    QString m_path;
+    bool m_announcing = false;
+    int m_measuredFrom = -1; // the first line on screen when lines were last measured
+};

@@ -1,0 +1,48 @@
+// What the workbench asks and tells a person. An interface, so that a run without anyone in front
+// of it (a picture, a test) answers by itself.
+#pragma once
+
+#include <QString>
+#include <QStringList>
+
+#include <optional>
+
+class QWidget;
+
+struct SaveTarget
+{
+    QString path;
+    int encoding = 0;
+    bool mark = false;
+};
+
+enum class LoseChanges
+{
+    Save,
+    Discard,
+    Cancel
+};
+
+class Prompts
+{
+public:
+    virtual ~Prompts() = default;
+
+    virtual QStringList FilesToOpen(QWidget* parent, const QString& folder) = 0; // empty: none
+    // Where and how to save; nothing if the person thought better of it.
+    virtual std::optional<SaveTarget> WhereToSave(QWidget* parent, const SaveTarget& proposal) = 0;
+    virtual LoseChanges BeforeLosing(QWidget* parent, const QString& name) = 0;
+    virtual bool Confirm(QWidget* parent, const QString& text, const QString& doIt) = 0;
+    virtual void Tell(QWidget* parent, const QString& text) = 0;
+};
+
+// The boxes and dialogs that a person meets.
+class DialogPrompts final : public Prompts
+{
+public:
+    QStringList FilesToOpen(QWidget* parent, const QString& folder) override;
+    std::optional<SaveTarget> WhereToSave(QWidget* parent, const SaveTarget& proposal) override;
+    LoseChanges BeforeLosing(QWidget* parent, const QString& name) override;
+    bool Confirm(QWidget* parent, const QString& text, const QString& doIt) override;
+    void Tell(QWidget* parent, const QString& text) override;
+};

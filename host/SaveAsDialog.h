@@ -1,0 +1,21 @@
+// Save As with a choice of encoding and byte-order mark below the file's name.
+#pragma once
+
+#include "host/Prompts.h"
+
+#include <QFileDialog>
+
+class QComboBox;
+
+class SaveAsDialog final : public QFileDialog
+{
+    Q_OBJECT
+
+public:
+    SaveAsDialog(QWidget* parent, const SaveTarget& proposal);
+
+    SaveTarget Target() const;
+
+private:
+    QComboBox* m_encoding = nullptr;
+};

@@ -1,0 +1,66 @@
+#include "host/Screenshot.h"
+
+#include "host/MainWindow.h"
+#include "host/Prompts.h"
+#include "platform/Questions.h"
+
+#include <QApplication>
+#include <QPixmap>
+
+#include <cstdio>
+
+namespace {
+
+void Report(const QString& text)
+{
+    std::fprintf(stderr, "znworkbench: %s\n", qPrintable(text));
+}
+
+// Nobody answers: messages are printed, questions get the answer that changes nothing.
+class PrintedPrompts final : public Prompts, public IUserQuestions
+{
+public:
+    QStringList FilesToOpen(QWidget*, const QString&) override { return {}; }
+    std::optional<SaveTarget> WhereToSave(QWidget*, const SaveTarget&) override { return {}; }
+    LoseChanges BeforeLosing(QWidget*, const QString&) override { return LoseChanges::Cancel; }
+    void Tell(QWidget*, const QString& text) override { Report(text); }
+
+    bool Confirm(QWidget*, const QString& text, const QString&) override
+    {
+        Report(text);
+        return false;
+    }
+
+    Answer Ask(HWND, const QString& text, Buttons buttons) override
+    {
+        Report(text);
+        return buttons == Buttons::Ok ? Answer::Ok : Answer::No;
+    }
+};
+
+} // namespace
+
+int TakeScreenshot(const QStringList& files, const QString& picture)
+{
+    PrintedPrompts prompts;
+    SetUserQuestions(&prompts);
+    int result = 0;
+    MainWindow window(prompts);
+    for (const QString& file : files) {
+        if (const QString problem = window.OpenScript(file); !problem.isEmpty()) {
+            Report(problem);
+            result = 1;
+        }
+    }
+    if (window.TabCount() == 0)
+        window.NewScript();
+    window.ShowTab(0);
+    window.show();
+    QApplication::processEvents(); // lays out and paints
+    if (!window.grab().save(picture)) {
+        Report(QStringLiteral("the picture “%1” cannot be written.").arg(picture));
+        result = 1;
+    }
+    SetUserQuestions(nullptr);
+    return result;
+}

@@ -1,0 +1,27 @@
+// The fields of the status bar, right of its messages.
+#pragma once
+
+#include <QObject>
+
+class EditorTab;
+class QLabel;
+class QStatusBar;
+
+class StatusIndicators final : public QObject
+{
+public:
+    explicit StatusIndicators(QStatusBar* bar);
+
+    void Show(const EditorTab* tab); // null: all empty
+
+private:
+    QLabel* AddField(const char* name, const QString& widest);
+
+    QStatusBar* m_bar;
+    QLabel* m_readOnly;
+    QLabel* m_modified;
+    QLabel* m_caret;
+    QLabel* m_encoding;
+    QLabel* m_lineEnds;
+    QLabel* m_overtype;
+};

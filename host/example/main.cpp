@@ -1,0 +1,16 @@
+#include "control/ZNCoreEditorWidget.h"
+
+#include <QApplication>
+
+int main(int argc, char** argv)
+{
+    QApplication application(argc, argv);
+    ZNCoreEditorWidget editor;
+    QObject::connect(&editor, &ZNCoreEditorWidget::modificationChanged, &editor,
+                     &QWidget::setWindowModified);
+    editor.control().SetCarefulFiles(true);
+    editor.openFile(QApplication::arguments().value(1));
+    editor.resize(800, 600);
+    editor.show();
+    return QApplication::exec();
+}

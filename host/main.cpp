@@ -1,0 +1,52 @@
+// znworkbench: an example host. It opens SQL scripts in tabs, edits and saves them.
+#include "host/Arguments.h"
+#include "host/MainWindow.h"
+#include "host/Prompts.h"
+#include "host/Screenshot.h"
+
+#include <QApplication>
+
+#include <cstdio>
+
+namespace {
+
+void Print(std::FILE* stream, const QString& text)
+{
+    std::fprintf(stream, "%s\n", qPrintable(text));
+}
+
+int RunInteractively(const QStringList& files)
+{
+    DialogPrompts prompts;
+    MainWindow window(prompts);
+    window.show();
+    for (const QString& file : files) {
+        if (const QString problem = window.OpenScript(file); !problem.isEmpty())
+            prompts.Tell(&window, problem);
+    }
+    if (window.TabCount() == 0)
+        window.NewScript();
+    window.ShowTab(0);
+    return QApplication::exec();
+}
+
+} // namespace
+
+int main(int argc, char** argv)
+{
+    QApplication application(argc, argv);
+    QApplication::setApplicationName(QStringLiteral("znworkbench"));
+
+    const Arguments arguments = ParseArguments(QApplication::arguments());
+    if (!arguments.help.isEmpty()) {
+        Print(stdout, arguments.help);
+        return 0;
+    }
+    if (!arguments.error.isEmpty()) {
+        Print(stderr, arguments.error);
+        return 2;
+    }
+    if (!arguments.screenshot.isEmpty())
+        return TakeScreenshot(arguments.files, arguments.screenshot);
+    return RunInteractively(arguments.files);
+}

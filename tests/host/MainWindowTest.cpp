@@ -1,0 +1,377 @@
+#include "tests/host/WorkbenchTest.h"
+
+#include <QClipboard>
+#include <QCloseEvent>
+#include <QTabWidget>
+
+namespace {
+
+class Workbench : public WorkbenchTest
+{
+protected:
+    QString TabCaption() const
+    {
+        const auto* tabs = m_window.findChild<QTabWidget*>();
+        return tabs->tabText(tabs->currentIndex());
+    }
+};
+
+} // namespace
+
+TEST_F(Workbench, OpensAScriptUnderItsName)
+{
+    Open("orders.sql", "select 1;\n");
+    EXPECT_EQ(Text(), QStringLiteral("select 1;\n"));
+    EXPECT_EQ(TabCaption(), QStringLiteral("orders.sql"));
+    EXPECT_TRUE(m_window.windowTitle().contains(QStringLiteral("orders.sql")));
+    EXPECT_FALSE(m_window.isWindowModified());
+}
+
+TEST_F(Workbench, MarksAChangedScriptUntilTheChangeIsUndone)
+{
+    Open("orders.sql", "select 1;\n");
+    Type(u"x");
+    EXPECT_EQ(TabCaption(), QStringLiteral("orders.sql*"));
+    EXPECT_TRUE(m_window.isWindowModified());
+    EXPECT_EQ(Status("modified"), QStringLiteral("Modified"));
+    Trigger("undo");
+    EXPECT_EQ(TabCaption(), QStringLiteral("orders.sql"));
+    EXPECT_FALSE(m_window.isWindowModified());
+    EXPECT_TRUE(Status("modified").isEmpty());
+}
+
+TEST_F(Workbench, OffersToSaveAtTheFirstChangeWithoutWaitingForThePaint)
+{
+    // A person's save keys may be next in line behind the typed one.
+    Open("orders.sql", "select 1;\n");
+    Editor().ReplaceSel(u"x", 1);
+    EXPECT_TRUE(Action("save").isEnabled());
+    EXPECT_TRUE(m_window.Save());
+    EXPECT_FALSE(Action("save").isEnabled());
+}
+
+TEST_F(Workbench, ShowsAnAmpersandOfANameAsItIs)
+{
+    Open("a&b.sql", "");
+    EXPECT_EQ(TabCaption(), QStringLiteral("a&&b.sql"));
+}
+
+TEST_F(Workbench, ShowsTheTabOfAScriptThatIsOpenAlready)
+{
+    Open("a.sql", "a");
+    Open("b.sql", "b");
+    EXPECT_EQ(m_window.OpenScript(PathOf("./a.sql")), QString());
+    EXPECT_EQ(m_window.TabCount(), 2);
+    EXPECT_EQ(Text(), QStringLiteral("a"));
+}
+
+TEST_F(Workbench, LetsTheUntouchedFirstScriptMakeRoom)
+{
+    m_window.NewScript();
+    Open("a.sql", "a");
+    EXPECT_EQ(m_window.TabCount(), 1);
+    m_window.NewScript();
+    Type(u"kept");
+    Open("b.sql", "b");
+    EXPECT_EQ(m_window.TabCount(), 3);
+}
+
+TEST_F(Workbench, TellsWhyAScriptDoesNotOpen)
+{
+    EXPECT_TRUE(m_window.OpenScript(PathOf("no.sql")).contains(QStringLiteral("does not exist")));
+    EXPECT_TRUE(m_window.OpenScript(m_folder.path()).contains(QStringLiteral("folder")));
+    EXPECT_EQ(m_window.TabCount(), 0);
+
+    m_prompts.filesToOpen = QStringList{PathOf("no.sql")};
+    Trigger("open");
+    EXPECT_EQ(m_prompts.told.size(), 1);
+}
+
+TEST_F(Workbench, SavesInTheEncodingOfTheFile)
+{
+    // UTF-16 LE with a mark: "a", a line end, "\u0142".
+    const QByteArray bytes("\xFF\xFE"
+                           "a\0\n\0\x42\x01",
+                           8);
+    Open("a.sql", bytes);
+    EXPECT_EQ(Text(), QStringLiteral("a\n\u0142"));
+    EXPECT_EQ(Status("encoding"), QStringLiteral("UTF-16 LE with mark"));
+    Type(u"b");
+    Trigger("save");
+    EXPECT_EQ(Read("a.sql"), QByteArray("\xFF\xFE"
+                                        "b\0a\0\n\0\x42\x01",
+                                        10));
+    EXPECT_FALSE(Tab().IsModified());
+}
+
+TEST_F(Workbench, SavesUnderAnotherNameAndEncoding)
+{
+    Open("a.sql", "caf\xC3\xA9\n");
+    m_prompts.saveTarget = SaveTarget{PathOf("b.sql"), 2, true};
+    Trigger("saveAs");
+    EXPECT_EQ(m_prompts.proposals, QStringList{PathOf("a.sql")});
+    EXPECT_EQ(Read("b.sql"), QByteArray("\xFF\xFE"
+                                        "c\0a\0f\0\xE9\0\n\0",
+                                        12));
+    EXPECT_EQ(Read("a.sql"), QByteArray("caf\xC3\xA9\n"));
+    EXPECT_EQ(TabCaption(), QStringLiteral("b.sql"));
+    EXPECT_EQ(Status("encoding"), QStringLiteral("UTF-16 LE with mark"));
+}
+
+TEST_F(Workbench, AsksForANameWhenAScriptWithoutOneIsSaved)
+{
+    m_window.NewScript();
+    Type(u"select 1");
+    m_prompts.saveTarget = SaveTarget{PathOf("new.sql"), 6, false};
+    Trigger("save");
+    EXPECT_EQ(Read("new.sql"), QByteArray("select 1"));
+    EXPECT_EQ(m_prompts.proposals.size(), 1);
+    EXPECT_TRUE(m_prompts.proposals.value(0).endsWith(QStringLiteral("Script 1.sql")));
+    EXPECT_FALSE(Tab().IsModified());
+}
+
+TEST_F(Workbench, KeepsTheTextWhenASaveFails)
+{
+    Open("a.sql", "one\n");
+    Type(u"two ");
+    m_prompts.saveTarget = SaveTarget{PathOf("gone/b.sql"), 6, false};
+    EXPECT_FALSE(m_window.SaveAs());
+    ASSERT_EQ(m_prompts.told.size(), 1);
+    EXPECT_TRUE(m_prompts.told[0].contains(QStringLiteral("folder does not exist")));
+    EXPECT_TRUE(m_prompts.told[0].contains(QStringLiteral("Save As")));
+    EXPECT_EQ(Text(), QStringLiteral("two one\n"));
+    EXPECT_TRUE(Tab().IsModified());
+    EXPECT_EQ(Tab().Path(), PathOf("a.sql"));
+    EXPECT_TRUE(m_window.Save());
+    EXPECT_EQ(Read("a.sql"), QByteArray("two one\n"));
+}
+
+TEST_F(Workbench, AsksBeforeAScriptThatWasCutShortReplacesTheLongerFile)
+{
+    // Half a unit stands at the end.
+    const QByteArray bytes("\xFF\xFE"
+                           "a\0b\0c",
+                           7);
+    Open("a.sql", bytes);
+    EXPECT_EQ(Text(), QStringLiteral("ab"));
+    ASSERT_EQ(m_prompts.told.size(), 1) << "the person is told while the script opens";
+    EXPECT_TRUE(m_prompts.told[0].contains(QStringLiteral("truncated")));
+
+    Type(u"x");
+    EXPECT_FALSE(m_window.Save());
+    EXPECT_EQ(m_prompts.asked.size(), 1);
+    EXPECT_EQ(Read("a.sql"), bytes);
+
+    m_prompts.confirm = true;
+    EXPECT_TRUE(m_window.Save());
+    EXPECT_EQ(m_prompts.asked.size(), 2);
+    EXPECT_TRUE(m_window.Save()) << "the file holds what the window shows from here on";
+    EXPECT_EQ(m_prompts.asked.size(), 2);
+}
+
+TEST_F(Workbench, AsksBeforeCharactersBecomeQuestionMarks)
+{
+    Open("a.sql", "caf\xE9\n");
+    EXPECT_EQ(Status("encoding"), QStringLiteral("windows-1252"));
+    Type(u"\u0142");
+    EXPECT_FALSE(m_window.Save());
+    ASSERT_EQ(m_prompts.asked.size(), 1);
+    EXPECT_TRUE(m_prompts.asked[0].contains(QStringLiteral("windows-1252")));
+    EXPECT_EQ(Read("a.sql"), QByteArray("caf\xE9\n"));
+
+    m_prompts.confirm = true;
+    EXPECT_TRUE(m_window.Save());
+    EXPECT_EQ(Read("a.sql"), QByteArray("?caf\xE9\n"));
+}
+
+TEST_F(Workbench, ClosesAnUnchangedScriptWithoutAWord)
+{
+    Open("a.sql", "a");
+    Trigger("close");
+    EXPECT_EQ(m_window.TabCount(), 0);
+    EXPECT_TRUE(m_prompts.asked.isEmpty());
+}
+
+TEST_F(Workbench, AsksBeforeAChangedScriptCloses)
+{
+    Open("a.sql", "a");
+    Type(u"b");
+    Trigger("close");
+    EXPECT_EQ(m_prompts.asked, QStringList{"a.sql"});
+    EXPECT_EQ(m_window.TabCount(), 1);
+
+    m_prompts.loseChanges = LoseChanges::Save;
+    Trigger("close");
+    EXPECT_EQ(m_window.TabCount(), 0);
+    EXPECT_EQ(Read("a.sql"), QByteArray("ba"));
+}
+
+TEST_F(Workbench, DropsTheChangesThatAPersonDiscards)
+{
+    Open("a.sql", "a");
+    Type(u"b");
+    m_prompts.loseChanges = LoseChanges::Discard;
+    Trigger("close");
+    EXPECT_EQ(m_window.TabCount(), 0);
+    EXPECT_EQ(Read("a.sql"), QByteArray("a"));
+}
+
+TEST_F(Workbench, StaysOpenWhileAScriptHasChangesToKeep)
+{
+    Open("a.sql", "a");
+    Type(u"b");
+    Open("c.sql", "c");
+    EXPECT_FALSE(m_window.close());
+    EXPECT_EQ(Text(), QStringLiteral("ba")) << "the script that is asked about is in front";
+    m_prompts.loseChanges = LoseChanges::Discard;
+    EXPECT_TRUE(m_window.close());
+}
+
+TEST_F(Workbench, StaysOpenWhenTheSaveOnTheWayOutFails)
+{
+    m_window.NewScript();
+    Type(u"b");
+    m_prompts.loseChanges = LoseChanges::Save;
+    m_prompts.saveTarget = SaveTarget{PathOf("gone/b.sql"), 6, false};
+    EXPECT_FALSE(m_window.close());
+    EXPECT_EQ(Text(), QStringLiteral("b"));
+}
+
+TEST_F(Workbench, OffersOnlyWhatIsPossible)
+{
+    for (const char* name : {"save", "saveAs", "close", "undo", "redo", "cut", "copy", "paste",
+                             "delete", "selectAll", "zoomIn", "next"})
+        EXPECT_FALSE(Action(name).isEnabled()) << name << " without a script";
+
+    QApplication::clipboard()->setText(QStringLiteral("clip"));
+    Open("a.sql", "a");
+    for (const char* name : {"save", "undo", "redo", "cut", "copy", "delete", "next"})
+        EXPECT_FALSE(Action(name).isEnabled()) << name << " on an unchanged script";
+    EXPECT_TRUE(Action("paste").isEnabled());
+
+    Type(u"b");
+    EXPECT_TRUE(Action("save").isEnabled());
+    EXPECT_TRUE(Action("undo").isEnabled());
+    Trigger("undo");
+    EXPECT_TRUE(Action("redo").isEnabled());
+    EXPECT_FALSE(Action("save").isEnabled());
+
+    Trigger("selectAll");
+    for (const char* name : {"cut", "copy", "delete"})
+        EXPECT_TRUE(Action(name).isEnabled()) << name << " with a selection";
+}
+
+TEST_F(Workbench, OffersNoChangeOfAReadOnlyScript)
+{
+    QApplication::clipboard()->setText(QStringLiteral("clip"));
+    Open("a.sql", "a");
+    Type(u"b");
+    Editor().SetReadOnly(1, 1);
+    Trigger("selectAll");
+    Q_EMIT Tab().StateChanged();
+    for (const char* name : {"undo", "cut", "paste", "delete"})
+        EXPECT_FALSE(Action(name).isEnabled()) << name;
+    EXPECT_TRUE(Action("copy").isEnabled());
+    EXPECT_EQ(Status("readOnly"), QStringLiteral("Read-only"));
+}
+
+TEST_F(Workbench, CutsAndPastesThroughItsMenu)
+{
+    Open("a.sql", "one two");
+    Editor().SetSel(0, 4, 1);
+    QApplication::processEvents();
+    Trigger("cut");
+    EXPECT_EQ(Text(), QStringLiteral("two"));
+    EXPECT_EQ(QApplication::clipboard()->text(), QStringLiteral("one "));
+    Editor().GotoPos(3, 1);
+    QApplication::processEvents();
+    Trigger("paste");
+    EXPECT_EQ(Text(), QStringLiteral("twoone "));
+    Editor().SetSel(0, 3, 1);
+    QApplication::processEvents();
+    Trigger("delete");
+    EXPECT_EQ(Text(), QStringLiteral("one "));
+}
+
+TEST_F(Workbench, TellsTheCaretsPlaceInTheStatusBar)
+{
+    Open("a.sql", "one\r\ntwo\r\n");
+    EXPECT_EQ(Status("caret"), QStringLiteral("Line 1, column 1"));
+    EXPECT_EQ(Status("lineEnds"), QStringLiteral("CR LF"));
+    EXPECT_EQ(Status("overtype"), QStringLiteral("INS"));
+    Editor().GotoPos(7, 1);
+    QApplication::processEvents();
+    EXPECT_EQ(Status("caret"), QStringLiteral("Line 2, column 3"));
+}
+
+TEST_F(Workbench, ShowsEachScriptsOwnStateWhenItsTabComesToTheFront)
+{
+    Open("a.sql", "a\n");
+    Type(u"x");
+    Open("b.sql", "\xEF\xBB\xBF"
+                  "b\r\n");
+    EXPECT_EQ(Status("encoding"), QStringLiteral("UTF-8 with mark"));
+    EXPECT_TRUE(Status("modified").isEmpty());
+    Trigger("previous");
+    EXPECT_EQ(Status("encoding"), QStringLiteral("windows-1252"));
+    EXPECT_EQ(Status("modified"), QStringLiteral("Modified"));
+    Trigger("next");
+    EXPECT_EQ(Text(), QStringLiteral("b\r\n"));
+}
+
+TEST_F(Workbench, WidensTheLineNumbersAsAScriptGrows)
+{
+    Open("a.sql", "a\n");
+    const int narrow = Editor().GetMarginWidthN(0, 1);
+    EXPECT_GT(narrow, 0);
+    Type(QString(12000, u'\n').toStdU16String().c_str());
+    EXPECT_GT(Editor().GetMarginWidthN(0, 1), narrow);
+}
+
+TEST_F(Workbench, WidensTheLineNumbersWithTheZoom)
+{
+    Open("a.sql", "a\n");
+    const int before = Editor().GetMarginWidthN(0, 1);
+    for (int i = 0; i < 8; ++i)
+        Trigger("zoomIn");
+    EXPECT_GT(Editor().GetMarginWidthN(0, 1), before);
+    Trigger("zoomReset");
+    EXPECT_EQ(Editor().GetMarginWidthN(0, 1), before);
+}
+
+TEST_F(Workbench, ScrollsSidewaysNoFurtherThanTheLongestLineSeen)
+{
+    Open("a.sql", "a\n");
+    QApplication::processEvents();
+    const int before = Editor().GetScrollWidth(1);
+    EXPECT_LT(before, 200);
+    Type(QString(300, u'x').toStdU16String().c_str());
+    EXPECT_GT(Editor().GetScrollWidth(1), 300 * 4);
+}
+
+TEST_F(Workbench, AppliesItsViewToEveryScript)
+{
+    Open("a.sql", "a");
+    Trigger("whitespace");
+    Trigger("lineEnds");
+    Trigger("wrap");
+    Open("b.sql", "b");
+    for (int i = 0; i < m_window.TabCount(); ++i) {
+        CZNCoreEditorControl& editor = m_window.TabAt(i)->Editor();
+        EXPECT_EQ(editor.GetViewWS(1), 1);
+        EXPECT_EQ(editor.GetViewEOL(1), 1);
+        EXPECT_EQ(editor.GetWrapMode(1), 1);
+    }
+    Trigger("wrap");
+    EXPECT_EQ(m_window.TabAt(0)->Editor().GetWrapMode(1), 0);
+}
+
+TEST_F(Workbench, ColoursSqlByHand)
+{
+    Open("a.sql", "select 'text', 12 -- note\n");
+    Editor().Colorize(0, -1, 1);
+    EXPECT_EQ(Editor().GetStyleAt(0, 1), 5);
+    EXPECT_EQ(Editor().GetStyleAt(8, 1), 7);
+    EXPECT_EQ(Editor().GetStyleAt(15, 1), 4);
+    EXPECT_EQ(Editor().GetStyleAt(20, 1), 2);
+}

@@ -1,0 +1,49 @@
+// Prompts that answer what a test has set, and remember what was asked and told.
+#pragma once
+
+#include "host/Prompts.h"
+#include "platform/Questions.h"
+
+class ScriptedPrompts final : public Prompts, public IUserQuestions
+{
+public:
+    ScriptedPrompts() { SetUserQuestions(this); }
+    ~ScriptedPrompts() override { SetUserQuestions(nullptr); }
+
+    QStringList FilesToOpen(QWidget*, const QString&) override { return filesToOpen; }
+
+    std::optional<SaveTarget> WhereToSave(QWidget*, const SaveTarget& proposal) override
+    {
+        proposals << proposal.path;
+        return saveTarget;
+    }
+
+    LoseChanges BeforeLosing(QWidget*, const QString& name) override
+    {
+        asked << name;
+        return loseChanges;
+    }
+
+    bool Confirm(QWidget*, const QString& text, const QString&) override
+    {
+        asked << text;
+        return confirm;
+    }
+
+    void Tell(QWidget*, const QString& text) override { told << text; }
+
+    Answer Ask(HWND, const QString& text, Buttons buttons) override
+    {
+        told << text;
+        return buttons == Buttons::Ok ? Answer::Ok : Answer::No;
+    }
+
+    QStringList filesToOpen;
+    std::optional<SaveTarget> saveTarget;
+    LoseChanges loseChanges = LoseChanges::Cancel;
+    bool confirm = false;
+
+    QStringList proposals;
+    QStringList asked;
+    QStringList told;
+};

@@ -1,0 +1,82 @@
+// A workbench window with scripted prompts and a folder of its own.
+#pragma once
+
+#include "control/ZNCoreEditorControl.h"
+#include "host/EditorTab.h"
+#include "host/MainWindow.h"
+#include "tests/host/ScriptedPrompts.h"
+
+#include <QAction>
+#include <QApplication>
+#include <QFile>
+#include <QLabel>
+#include <QTemporaryDir>
+
+#include <gtest/gtest.h>
+
+class WorkbenchTest : public testing::Test
+{
+protected:
+    WorkbenchTest() : m_window(m_prompts)
+    {
+        m_window.show();
+        QApplication::processEvents();
+    }
+
+    QString PathOf(const QString& name) const { return m_folder.filePath(name); }
+
+    QString Write(const QString& name, const QByteArray& bytes) const
+    {
+        QFile file(PathOf(name));
+        if (!file.open(QIODevice::WriteOnly) || file.write(bytes) != bytes.size())
+            ADD_FAILURE() << file.errorString().toStdString();
+        return file.fileName();
+    }
+
+    QByteArray Read(const QString& name) const
+    {
+        QFile file(PathOf(name));
+        return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray("(no file)");
+    }
+
+    EditorTab& Tab() const { return *m_window.CurrentTab(); }
+    CZNCoreEditorControl& Editor() const { return Tab().Editor(); }
+
+    void Open(const QString& name, const QByteArray& bytes)
+    {
+        ASSERT_EQ(m_window.OpenScript(Write(name, bytes)), QString());
+    }
+
+    void Type(const char16_t* text)
+    {
+        Editor().ReplaceSel(text, 1);
+        QApplication::processEvents();
+    }
+
+    QString Text() const
+    {
+        std::u16string buffer(size_t(Editor().GetLength(1)) + 1, u'\0');
+        Editor().GetText(int(buffer.size()), buffer.data(), 1);
+        return QString::fromUtf16(buffer.c_str());
+    }
+
+    QAction& Action(const char* name) const
+    {
+        return *m_window.findChild<QAction*>(QLatin1String(name));
+    }
+
+    void Trigger(const char* name)
+    {
+        Action(name).trigger();
+        QApplication::processEvents();
+    }
+
+    QString Status(const char* name) const
+    {
+        return m_window.findChild<QLabel*>(QLatin1String(name))->text();
+    }
+
+    QTemporaryDir m_folder;
+    ScriptedPrompts m_prompts;
+    MainWindow m_window;
+};
