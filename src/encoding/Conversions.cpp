@@ -3,10 +3,7 @@
 #include "encoding/FileEncodeConverter.h"
 
 #include "encoding/Units.h"
-<<<<<<< HEAD
 #include "platform/text/AsciiRun.h"
-=======
->>>>>>> control
 #include "platform/text/CodePage.h"
 #include "platform/text/Utf8.h"
 
@@ -64,26 +61,12 @@ bool TakesTwo(char16_t unit)
 // Any unit that takes a second one takes whatever follows.
 unsigned int WalkUnits(const char16_t* units, unsigned int count)
 {
-<<<<<<< HEAD
     constexpr unsigned int kChunk = platform::ascii::kChunk;
     unsigned int i = 0;
     while (i < count) {
         if (count - i >= kChunk && !platform::ascii::HasUnitWithin(units + i, 0xD800, 0x800)) {
             i += kChunk;
             continue;
-=======
-    constexpr unsigned int kChunk = 32;
-    unsigned int i = 0;
-    while (i < count) {
-        if (count - i >= kChunk) {
-            bool any = false;
-            for (unsigned int j = 0; j < kChunk; ++j)
-                any |= TakesTwo(units[i + j]);
-            if (!any) {
-                i += kChunk;
-                continue;
-            }
->>>>>>> control
         }
         const unsigned int stop = count - i > kChunk ? i + kChunk : count;
         while (i < stop) {

@@ -14,11 +14,7 @@ CZNBaseResourceLoader::CZNBaseResourceLoader(const QString& path)
     while (!reader.atEnd()) {
         if (reader.readNext() != QXmlStreamReader::StartElement || reader.name() != u"string")
             continue;
-<<<<<<< HEAD
         const UINT id = reader.attributes().value(QLatin1String("id")).toUInt();
-=======
-        const UINT id = reader.attributes().value(QLatin1StringView("id")).toUInt();
->>>>>>> control
         m_strings.insert(id, reader.readElementText());
     }
 }

@@ -1,11 +1,6 @@
-<<<<<<< HEAD
 // Sixteen characters at a time: runs of ASCII, and units without surrogates. Nearly all script text
 // is ASCII, so these loops decide how fast a file loads and saves; everything else may be careful
 // and slower.
-=======
-// Runs of ASCII, sixteen characters at a time. Nearly all script text is ASCII, so these loops
-// decide how fast a file loads and saves; everything else may be careful and slower.
->>>>>>> control
 #pragma once
 
 #include <cstddef>
@@ -58,7 +53,6 @@ inline bool IsChunk(const unsigned char* bytes)
     return _mm_movemask_epi8(Load(bytes)) == 0;
 }
 
-<<<<<<< HEAD
 // True if one of the 16 units lies in first to first + span.
 inline bool HasUnitWithin(const char16_t* units, char16_t first, char16_t span)
 {
@@ -81,10 +75,6 @@ inline bool HasUnitWithin(const char16_t* units, char16_t first, char16_t span)
     return within;
 }
 
-=======
-#else
-
->>>>>>> control
 inline std::size_t WidenChunk(const unsigned char* bytes, char16_t* units)
 {
     std::size_t ascii = 0;

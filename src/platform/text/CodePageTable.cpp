@@ -17,7 +17,6 @@ namespace {
 struct PageRow
 {
     int number;
-<<<<<<< HEAD
     PageKind kind;
     const char* icuName;
     const char* leads = ""; // pairs of first and last lead byte
@@ -62,41 +61,6 @@ const PageRow kPages[] = {
     { 51949, kTwo, "EUC-KR", "\xA1\xFE" },
     { 51932, PageKind::EucJp, "euc-jp-2007" },
     { 54936, PageKind::Gb18030, "gb18030" },
-=======
-    const char* icuName;
-    PageKind kind = PageKind::SingleByte;
-    const char* leads = ""; // pairs of first and last lead byte
-};
-
-// clang-format off
-const PageRow kPages[] = {
-    {   437, "ibm-437_P100-1995" },  {   720, "ibm-720_P100-1997" },  {   737, "ibm-737_P100-1997" },
-    {   775, "ibm-775_P100-1996" },  {   850, "ibm-850_P100-1995" },  {   852, "ibm-852_P100-1995" },
-    {   855, "ibm-855_P100-1995" },  {   857, "ibm-857_P100-1995" },  {   858, "ibm-858_P100-1997" },
-    {   860, "ibm-860_P100-1995" },  {   861, "ibm-861_P100-1995" },  {   862, "ibm-862_P100-1995" },
-    {   863, "ibm-863_P100-1995" },  {   864, "ibm-864_X110-1999" },  {   865, "ibm-865_P100-1995" },
-    {   866, "ibm-866_P100-1995" },  {   869, "ibm-869_P100-1995" },  {   874, "windows-874-2000"  },
-    {  1250, "windows-1250" },       {  1251, "windows-1251" },       {  1252, "windows-1252" },
-    {  1253, "windows-1253" },       {  1254, "windows-1254" },       {  1255, "windows-1255" },
-    {  1256, "windows-1256" },       {  1257, "windows-1257" },       {  1258, "windows-1258" },
-    { 10000, "macintosh" },          { 10006, "x-mac-greek" },        { 10007, "x-mac-cyrillic" },
-    { 10029, "x-mac-ce" },           { 10081, "x-mac-turkish" },
-    { 20127, "US-ASCII" },           { 20866, "KOI8-R" },             { 21866, "KOI8-U" },
-    { 28591, "ISO-8859-1" },         { 28592, "ISO-8859-2" },         { 28593, "ISO-8859-3" },
-    { 28594, "ISO-8859-4" },         { 28595, "ISO-8859-5" },         { 28596, "ISO-8859-6" },
-    { 28597, "ISO-8859-7" },         { 28598, "ISO-8859-8" },         { 28599, "ISO-8859-9" },
-    { 28600, "ISO-8859-10" },        { 28601, "ISO-8859-11" },        { 28603, "ISO-8859-13" },
-    { 28604, "ISO-8859-14" },        { 28605, "ISO-8859-15" },        { 38598, "ISO-8859-8-I" },
-    {   932, "ibm-943_P15A-2003", PageKind::DoubleByte, "\x81\x9F\xE0\xFC" },
-    {   936, "windows-936-2000",  PageKind::DoubleByte, "\x81\xFE" },
-    {   949, "windows-949-2000",  PageKind::DoubleByte, "\x81\xFE" },
-    {   950, "windows-950-2000",  PageKind::DoubleByte, "\x81\xFE" },
-    { 20936, "EUC-CN",            PageKind::DoubleByte, "\xA1\xFE" },
-    { 51936, "EUC-CN",            PageKind::DoubleByte, "\xA1\xFE" },
-    { 51949, "EUC-KR",            PageKind::DoubleByte, "\xA1\xFE" },
-    { 51932, "euc-jp-2007",       PageKind::EucJp },
-    { 54936, "gb18030",           PageKind::Gb18030 },
->>>>>>> control
 };
 // clang-format on
 
