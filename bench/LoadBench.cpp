@@ -1,0 +1,111 @@
+// OpenFile beside the raw engine taking the same text in blocks of 8 KB.
+#include "bench/Pair.h"
+#include "bench/RawEngine.h"
+#include "bench/Texts.h"
+#include "control/ZNCoreEditorWidget.h"
+
+#include <memory>
+
+namespace bench {
+namespace {
+
+struct EncodingRow
+{
+    const char* name;
+    FileEncodeConverter::encodingType encoding;
+};
+
+constexpr EncodingRow kEncodings[] = {
+    {"utf8", FileEncodeConverter::encUTF8},
+    {"utf16", FileEncodeConverter::encUTF16LE},
+    {"windows1252", FileEncodeConverter::encANSI},
+};
+
+constexpr double kLoadLimit = 2.0;
+constexpr double kCarefulLimit = 1.1;
+
+void Open(const std::string& path, FileEncodeConverter::encodingType encoding, bool careful,
+          std::unique_ptr<ZNCoreEditorWidget>& editor)
+{
+    editor->control().SetCarefulFiles(careful);
+    const std::u16string wide(path.begin(), path.end());
+    if (!editor->control().OpenFile(wide.c_str(), encoding))
+        std::abort();
+}
+
+void LoadFile(benchmark::State& state, Script script, const EncodingRow& row)
+{
+    const std::string& text = Sql64(script);
+    const std::string path = WriteFile("load.sql", Encode(text, row.encoding));
+    std::unique_ptr<ZNCoreEditorWidget> editor;
+    std::unique_ptr<RawEngine> raw;
+    MeasurePair(
+        state,
+        [&] {
+            editor = std::make_unique<ZNCoreEditorWidget>();
+            Open(path, row.encoding, false, editor);
+            editor.reset();
+        },
+        [&] {
+            raw = std::make_unique<RawEngine>();
+            raw->Load(text);
+            raw.reset();
+        },
+        kLoadLimit);
+}
+
+// The same with care, beside without.
+void LoadFileCarefully(benchmark::State& state, Script script, const EncodingRow& row)
+{
+    const std::string path = WriteFile("load.sql", Encode(Sql64(script), row.encoding));
+    const auto load = [&](bool careful) {
+        auto editor = std::make_unique<ZNCoreEditorWidget>();
+        Open(path, row.encoding, careful, editor);
+    };
+    MeasurePair(
+        state, [&] { load(true); }, [&] { load(false); }, kCarefulLimit);
+}
+
+// Growth: the time for each MB beside that at 1 MB.
+void LoadGrowth(benchmark::State& state)
+{
+    constexpr double kLinear = 1.5;
+    const auto megabytes = static_cast<std::size_t>(state.range(0));
+    const std::string path = WriteFile("growth.sql", MakeSql(Script::Ascii, megabytes * kMegabyte));
+    const std::string small = WriteFile("small.sql", MakeSql(Script::Ascii, kMegabyte));
+    const auto load = [](const std::string& file, std::size_t times) {
+        for (std::size_t i = 0; i < times; ++i) {
+            auto editor = std::make_unique<ZNCoreEditorWidget>();
+            Open(file, FileEncodeConverter::encUTF8, false, editor);
+        }
+    };
+    MeasurePair(
+        state, [&] { load(path, 1); }, [&] { load(small, megabytes); }, kLinear);
+}
+
+const bool kRegistered = [] {
+    for (const Script script : {Script::Ascii, Script::Mixed}) {
+        for (const EncodingRow& row : kEncodings) {
+            const std::string name = std::string(NameOf(script)) + "/" + row.name;
+            benchmark::RegisterBenchmark(("OpenFile/" + name).c_str(), LoadFile, script, row)
+                ->Iterations(7)
+                ->UseManualTime()
+                ->Unit(benchmark::kMillisecond);
+            benchmark::RegisterBenchmark(("OpenFileCareful/" + name).c_str(), LoadFileCarefully,
+                                         script, row)
+                ->Iterations(7)
+                ->UseManualTime()
+                ->Unit(benchmark::kMillisecond);
+        }
+    }
+    for (const int megabytes : {4, 16, 64, 256})
+        benchmark::RegisterBenchmark("OpenFileGrowth", LoadGrowth)
+            ->Arg(megabytes)
+            ->Iterations(3)
+            ->UseManualTime()
+            ->Unit(benchmark::kMillisecond);
+    return true;
+}();
+
+} // namespace
+} // namespace bench

@@ -1,0 +1,133 @@
+#include "bench/MemoryBench.h"
+
+#include "bench/Pair.h"
+#include "bench/RawEngine.h"
+#include "bench/Texts.h"
+#include "control/ZNCoreEditorWidget.h"
+
+#include <QProcess>
+
+#include <cstdio>
+#include <cstring>
+#include <fstream>
+#include <iostream>
+
+namespace bench {
+namespace {
+
+using Sci = QsciScintillaBase;
+
+constexpr double kLimitMegabytes = 1.0;
+
+// A line of /proc/self/status, in bytes.
+double StatusBytes(const char* key)
+{
+    std::ifstream status("/proc/self/status");
+    std::string line;
+    while (std::getline(status, line)) {
+        if (line.rfind(key, 0) == 0)
+            return std::strtod(line.c_str() + std::strlen(key) + 1, nullptr) * 1024;
+    }
+    return 0;
+}
+
+// From here on the peak counts anew.
+void ForgetPeak()
+{
+    std::ofstream("/proc/self/clear_refs") << "5";
+}
+
+double RawLoad(const char* path)
+{
+    RawEngine raw;
+    // Beside the engine's own copy: the line index is a part of that.
+    raw.Send(Sci::SCI_ALLOCATELINECHARACTERINDEX, Sci::SC_LINECHARACTERINDEX_UTF16);
+    raw.Send(Sci::SCI_SETUNDOCOLLECTION, 0);
+    std::FILE* file = std::fopen(path, "rb");
+    std::fseek(file, 0, SEEK_END);
+    raw.Send(Sci::SCI_ALLOCATE, static_cast<std::uintptr_t>(std::ftell(file)));
+    std::rewind(file);
+    char block[8192];
+    while (const std::size_t length = std::fread(block, 1, sizeof block, file))
+        raw.Send(Sci::SCI_ADDTEXT, length, block);
+    std::fclose(file);
+    return StatusBytes("VmHWM:");
+}
+
+double OurLoad(const char* path)
+{
+    ZNCoreEditorWidget editor;
+    editor.openFile(QString::fromLocal8Bit(path));
+    return StatusBytes("VmHWM:");
+}
+
+double OurSave(const char* path, bool careful)
+{
+    ZNCoreEditorWidget editor;
+    editor.openFile(QString::fromLocal8Bit(path));
+    editor.control().SetCarefulFiles(careful);
+    ForgetPeak();
+    const double before = StatusBytes("VmRSS:");
+    editor.saveFile(QString::fromLocal8Bit(path) + ".out");
+    return StatusBytes("VmHWM:") - before;
+}
+
+double AskChild(const char* what, const std::string& path)
+{
+    QProcess child;
+    child.start("/proc/self/exe", {"--child", what, QString::fromStdString(path)});
+    child.waitForFinished(-1);
+    return child.readAllStandardOutput().toDouble();
+}
+
+void LoadMemory(benchmark::State& state)
+{
+    const auto megabytes = static_cast<std::size_t>(state.range(0));
+    const std::string path = WriteFile("memory.sql", MakeSql(Script::Ascii, megabytes * kMegabyte));
+    double extra = 0;
+    for (auto _ : state)
+        extra = AskChild("load", path) - AskChild("raw", path);
+    ReportFigure(state, extra / static_cast<double>(kMegabyte), kLimitMegabytes,
+                 "MB above the raw engine's peak");
+}
+
+void SaveMemory(benchmark::State& state, const char* what)
+{
+    const auto megabytes = static_cast<std::size_t>(state.range(0));
+    const std::string path = WriteFile("memory.sql", MakeSql(Script::Ascii, megabytes * kMegabyte));
+    double extra = 0;
+    for (auto _ : state)
+        extra = AskChild(what, path);
+    ReportFigure(state, extra / static_cast<double>(kMegabyte), kLimitMegabytes,
+                 "MB above the memory before");
+}
+
+const bool kRegistered = [] {
+    for (const int megabytes : {16, 64}) {
+        benchmark::RegisterBenchmark("PeakMemory/load", LoadMemory)->Arg(megabytes)->Iterations(1);
+        benchmark::RegisterBenchmark("PeakMemory/save", SaveMemory, "save")
+            ->Arg(megabytes)
+            ->Iterations(1);
+        benchmark::RegisterBenchmark("PeakMemory/saveCareful", SaveMemory, "save-careful")
+            ->Arg(megabytes)
+            ->Iterations(1);
+    }
+    return true;
+}();
+
+} // namespace
+
+bool RunAsChild(int argc, char** argv)
+{
+    if (argc != 4 || std::strcmp(argv[1], "--child") != 0)
+        return false;
+    const std::string what = argv[2];
+    const double bytes = what == "raw"            ? RawLoad(argv[3])
+                         : what == "load"         ? OurLoad(argv[3])
+                         : what == "save-careful" ? OurSave(argv[3], true)
+                                                  : OurSave(argv[3], false);
+    std::cout << static_cast<long long>(bytes) << '\n';
+    return true;
+}
+
+} // namespace bench

@@ -1,0 +1,23 @@
+// A measured pair: ours and the reference, by turns, in CPU time, so that neither what the caches
+// hold nor what else the machine does favours one of them.
+#pragma once
+
+#include <benchmark/benchmark.h>
+
+#include <functional>
+
+namespace bench {
+
+// CPU seconds of the process that the work takes.
+double CpuSeconds(const std::function<void()>& work);
+
+// Runs both as often as the benchmark iterates and reports the medians as the counters ours_ms,
+// reference_ms and ratio, and with a limit above 0 the counter limit.
+void MeasurePair(benchmark::State& state, const std::function<void()>& ours,
+                 const std::function<void()>& reference, double limit);
+
+// Reports a figure that is not a ratio, as the counter ratio beside its limit; the label names its
+// unit.
+void ReportFigure(benchmark::State& state, double value, double limit, const char* unit);
+
+} // namespace bench
