@@ -1,0 +1,135 @@
+// The editor as plain Qt hosts see it.
+#include "control/ZNCoreEditorWidget.h"
+
+#include <QApplication>
+#include <QFile>
+#include <QKeyEvent>
+#include <QSignalSpy>
+#include <QTemporaryDir>
+#include <QVBoxLayout>
+
+#include <gtest/gtest.h>
+
+namespace {
+
+TEST(EditorWidget, FillsItselfWithTheEngine)
+{
+    ZNCoreEditorWidget editor;
+    editor.resize(300, 200);
+    editor.show();
+    QApplication::processEvents();
+    const HWND window = editor.control().GetSafeHwnd();
+    ASSERT_NE(window, nullptr);
+    EXPECT_EQ(window->parentWidget(), &editor);
+    EXPECT_EQ(window->geometry(), editor.rect());
+    EXPECT_EQ(editor.focusProxy(), window);
+    EXPECT_FALSE(window->accessibleName().isEmpty());
+}
+
+TEST(EditorWidget, HoldsItsTextWhole)
+{
+    ZNCoreEditorWidget editor;
+    const QString text = QStringLiteral("a\r\n\u00e9\U0001F600") + QChar(0) + u'z';
+    editor.setText(text);
+    EXPECT_EQ(editor.text(), text);
+    editor.setText(QString());
+    EXPECT_EQ(editor.text(), QString());
+    editor.control().Undo(1);
+    EXPECT_EQ(editor.text(), text);
+}
+
+TEST(EditorWidget, TellsOfChangesAndSavePoints)
+{
+    ZNCoreEditorWidget editor;
+    QSignalSpy changed(&editor, &ZNCoreEditorWidget::textChanged);
+    QSignalSpy modified(&editor, &ZNCoreEditorWidget::modificationChanged);
+    QSignalSpy notified(&editor, &ZNCoreEditorWidget::notified);
+    editor.setText(QStringLiteral("text"));
+    EXPECT_GE(changed.count(), 1);
+    EXPECT_GE(notified.count(), 2);
+    ASSERT_EQ(modified.count(), 1);
+    EXPECT_TRUE(modified.takeFirst().at(0).toBool());
+    EXPECT_TRUE(editor.isModified());
+    editor.control().SetSavePoint(1);
+    ASSERT_EQ(modified.count(), 1);
+    EXPECT_FALSE(modified.takeFirst().at(0).toBool());
+    EXPECT_FALSE(editor.isModified());
+}
+
+TEST(EditorWidget, TellsWhereTheCaretWent)
+{
+    ZNCoreEditorWidget editor;
+    editor.resize(300, 200);
+    editor.show();
+    editor.setText(QStringLiteral("some text"));
+    QApplication::processEvents();
+    QSignalSpy moved(&editor, &ZNCoreEditorWidget::cursorPositionChanged);
+    editor.control().GotoPos(4, 1);
+    while (moved.isEmpty())
+        QApplication::processEvents(QEventLoop::WaitForMoreEvents);
+    EXPECT_EQ(moved.takeLast().at(0).toLongLong(), 4);
+}
+
+TEST(EditorWidget, TellsOfTypedCharacters)
+{
+    ZNCoreEditorWidget editor;
+    editor.show();
+    QSignalSpy added(&editor, &ZNCoreEditorWidget::charAdded);
+    QKeyEvent key(QEvent::KeyPress, Qt::Key_X, Qt::NoModifier, QStringLiteral("x"));
+    QApplication::sendEvent(editor.control().GetSafeHwnd(), &key);
+    EXPECT_EQ(added.count(), 1);
+    EXPECT_EQ(editor.text(), QStringLiteral("x"));
+}
+
+TEST(EditorWidget, OpensAndSavesFiles)
+{
+    const QTemporaryDir folder;
+    const QString path = folder.filePath(QStringLiteral("\u00e9.sql"));
+    {
+        QFile file(path);
+        ASSERT_TRUE(file.open(QIODevice::WriteOnly));
+        file.write("\xEF\xBB\xBFselect '\xC3\xA9'");
+    }
+    ZNCoreEditorWidget editor;
+    EXPECT_FALSE(editor.openFile(folder.filePath(QStringLiteral("missing"))));
+    ASSERT_TRUE(editor.openFile(path));
+    EXPECT_EQ(editor.text(), QStringLiteral("select '\u00e9'"));
+    EXPECT_FALSE(editor.isModified());
+    const QString copy = folder.filePath(QStringLiteral("copy.sql"));
+    ASSERT_TRUE(editor.saveFile(copy));
+    QFile first(path);
+    QFile second(copy);
+    ASSERT_TRUE(first.open(QIODevice::ReadOnly) && second.open(QIODevice::ReadOnly));
+    EXPECT_EQ(first.readAll(), second.readAll());
+}
+
+TEST(EditorWidget, MayBeDeletedByASlot)
+{
+    auto* editor = new ZNCoreEditorWidget;
+    QPointer<ZNCoreEditorWidget> alive = editor;
+    editor->setText(QStringLiteral("text"));
+    editor->control().SetSavePoint(1);
+    QObject::connect(editor, &ZNCoreEditorWidget::notified, editor, &QObject::deleteLater);
+    editor->control().AddText(1, u"x", 1);
+    QApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+    EXPECT_TRUE(alive.isNull());
+}
+
+TEST(EditorWidget, TwoLiveSideBySide)
+{
+    QWidget window;
+    QVBoxLayout layout(&window);
+    auto* one = new ZNCoreEditorWidget;
+    auto* two = new ZNCoreEditorWidget;
+    layout.addWidget(one);
+    layout.addWidget(two);
+    QSignalSpy changed(two, &ZNCoreEditorWidget::textChanged);
+    one->setText(QStringLiteral("one"));
+    EXPECT_TRUE(changed.isEmpty());
+    two->setText(QStringLiteral("two"));
+    EXPECT_EQ(one->text(), QStringLiteral("one"));
+    delete one;
+    EXPECT_EQ(two->text(), QStringLiteral("two"));
+}
+
+} // namespace
