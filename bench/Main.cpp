@@ -1,12 +1,33 @@
 #include "bench/MemoryBench.h"
+#include "platform/Questions.h"
 
 #include <QApplication>
 
 #include <benchmark/benchmark.h>
 
+#include <cstdlib>
+#include <iostream>
+
+namespace {
+
+// A message means that what is measured did not happen.
+class NoQuestions final : public IUserQuestions
+{
+public:
+    Answer Ask(HWND, const QString& text, Buttons) override
+    {
+        std::cerr << text.toStdString() << '\n';
+        std::abort();
+    }
+};
+
+} // namespace
+
 int main(int argc, char** argv)
 {
     QApplication application(argc, argv);
+    NoQuestions questions;
+    SetUserQuestions(&questions);
     if (bench::RunAsChild(argc, argv))
         return 0;
     benchmark::Initialize(&argc, argv);

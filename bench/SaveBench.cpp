@@ -44,6 +44,7 @@ void SaveText(benchmark::State& state, Script script, FileEncodeConverter::encod
 {
     ZNCoreEditorWidget editor;
     const std::string source = WriteFile("save-source.sql", Sql64(script));
+    editor.control().SetCarefulFiles(true);
     editor.control().OpenFile(std::u16string(source.begin(), source.end()).c_str(),
                               FileEncodeConverter::encUTF8);
     RawEngine raw;
@@ -63,6 +64,7 @@ void SaveCarefully(benchmark::State& state, Script script)
 {
     ZNCoreEditorWidget editor;
     const std::string source = WriteFile("save-source.sql", Sql64(script));
+    editor.control().SetCarefulFiles(true);
     editor.control().OpenFile(std::u16string(source.begin(), source.end()).c_str(),
                               FileEncodeConverter::encUTF8);
     const std::string path = WriteFile("careful.sql", "");

@@ -19,9 +19,14 @@ using Sci = QsciScintillaBase;
 constexpr int kKeys = 2000;
 constexpr int kPaintedKeys = 500;
 
-void Type(QWidget* window)
+constexpr int kKeysInLine = 60;
+
+// A person's lines: Enter after every sixty keys.
+void Type(QWidget* window, int key)
 {
-    QKeyEvent press(QEvent::KeyPress, Qt::Key_A, Qt::NoModifier, "a");
+    const bool enter = key % kKeysInLine == kKeysInLine - 1;
+    QKeyEvent press(QEvent::KeyPress, enter ? Qt::Key_Return : Qt::Key_A, Qt::NoModifier,
+                    enter ? "\r" : "a");
     QApplication::sendEvent(window, &press);
 }
 
@@ -37,50 +42,102 @@ long PositionOf(Place place, long length)
     return place == Place::Start ? 0 : place == Place::Middle ? length / 2 : length;
 }
 
-// Microseconds of each key, sorted. The parent hears of each change.
-std::vector<double> TypeMany(Script script, Place place, bool painted)
+enum class Way
 {
-    ZNCoreEditorWidget editor;
-    editor.resize(1000, 700);
-    if (painted)
-        editor.show();
-    const std::string& text = Sql64(script);
-    const std::string path = WriteFile("typing.sql", text);
-    editor.openFile(QString::fromStdString(path));
-    editor.control().GotoPos(PositionOf(place, editor.control().GetLength(1)), 1);
-    QApplication::processEvents();
-    QWidget* window = editor.control().GetHwnd();
-    QWidget* viewport = qobject_cast<QAbstractScrollArea*>(window)->viewport();
+    Message,
+    Key,
+    PaintedKey
+};
+
+struct Editor
+{
+    explicit Editor(Script script)
+    {
+        widget.resize(1000, 700);
+        widget.control().SetCarefulFiles(true);
+        const std::string path = WriteFile("typing.sql", Sql64(script));
+        widget.openFile(QString::fromStdString(path));
+        QObject::connect(&widget, &ZNCoreEditorWidget::notified,
+                         [this](const SCNotification& record) {
+                             told += record.nmhdr.code == notify::Modified &&
+                                     (record.modificationType & modification::InsertText);
+                         });
+    }
+
+    ZNCoreEditorWidget widget;
     int told = 0;
-    QObject::connect(&editor, &ZNCoreEditorWidget::notified, [&](const SCNotification& record) {
-        told += record.nmhdr.code == notify::Modified &&
-                (record.modificationType & modification::InsertText);
-    });
-    const int keys = painted ? kPaintedKeys : kKeys;
+};
+
+double MedianOf(std::vector<double> values)
+{
+    std::sort(values.begin(), values.end());
+    return values[values.size() / 2];
+}
+
+// Microseconds of each character. The parent hears of every one of them.
+std::vector<double> TypeMany(Editor& editor, Place place, Way way)
+{
+    CZNCoreEditorControl& control = editor.widget.control();
+    control.GotoPos(PositionOf(place, control.GetLength(1)), 1);
+    QApplication::processEvents();
+    QWidget* window = control.GetHwnd();
+    QWidget* viewport = qobject_cast<QAbstractScrollArea*>(window)->viewport();
+    const int keys = way == Way::PaintedKey ? kPaintedKeys : kKeys;
+    editor.told = 0;
     std::vector<double> times;
     for (int i = 0; i < keys; ++i) {
         times.push_back(1e6 * CpuSeconds([&] {
-                            Type(window);
-                            if (painted)
+                            if (way == Way::Message)
+                                control.AddText(1, i % kKeysInLine ? u"a" : u"\n", 1);
+                            else
+                                Type(window, i);
+                            if (way == Way::PaintedKey)
                                 viewport->repaint();
                         }));
     }
-    if (told != keys)
-        times.assign(1, 1e9); // the parent was not told: no figure
-    std::sort(times.begin(), times.end());
+    if (editor.told != keys)
+        std::abort(); // the parent was not told: no figure
     return times;
 }
 
-void Typing(benchmark::State& state, Script script, Place place, bool painted)
+// The same keys in the raw engine, whose parent hears nothing.
+std::vector<double> TypeManyRaw(Script script, Place place)
 {
+    RawEngine raw;
+    raw.Widget().resize(1000, 700);
+    raw.Load(Sql64(script));
+    raw.Send(Sci::SCI_GOTOPOS, static_cast<std::uintptr_t>(PositionOf(
+                                   place, static_cast<long>(raw.Send(Sci::SCI_GETLENGTH)))));
+    std::vector<double> times;
+    for (int i = 0; i < kKeys; ++i)
+        times.push_back(1e6 * CpuSeconds([&] { Type(&raw.Widget(), i); }));
+    return times;
+}
+
+void Typing(benchmark::State& state, Script script, Place place, Way way)
+{
+    constexpr double kLimit = 10;
+    constexpr double kPaintedLimit = 250;
+    Editor editor(script);
+    if (way == Way::PaintedKey)
+        editor.widget.show();
     std::vector<double> times;
     for (auto _ : state)
-        times = TypeMany(script, place, painted);
+        times = TypeMany(editor, place, way);
+    std::sort(times.begin(), times.end());
     const double p99 = times[times.size() * 99 / 100];
     state.counters["p99_us"] = p99;
-    if (!painted && p99 > 1000)
+    if (way != Way::PaintedKey && p99 > 1000)
         state.SkipWithError("99th percentile above 1 ms");
-    ReportFigure(state, times[times.size() / 2], painted ? 250 : 10, "us a key, median");
+    state.counters["ours_ms"] = MedianOf(times) / 1e3;
+    if (way == Way::Key) { // nearly all of a key is the engine's own work
+        const double raw = MedianOf(TypeManyRaw(script, place));
+        state.counters["reference_ms"] = raw / 1e3;
+        state.counters["ratio"] = MedianOf(times) / raw;
+        return;
+    }
+    ReportFigure(state, MedianOf(times), way == Way::PaintedKey ? kPaintedLimit : kLimit,
+                 "us a character, median");
 }
 
 constexpr int kReplacements = 250000; // two changes each
@@ -139,15 +196,21 @@ const bool kRegistered = [] {
         const char* name;
         Place place;
     };
+    struct WayRow
+    {
+        const char* title;
+        Way way;
+    };
     for (const Script script : {Script::Ascii, Script::Mixed}) {
         for (const auto& [name, place] :
              {PlaceRow{"start", Place::Start}, {"middle", Place::Middle}, {"end", Place::End}}) {
-            for (const bool painted : {false, true}) {
-                const std::string title =
-                    std::string(painted ? "TypePainted/" : "Type/") + NameOf(script) + "/" + name;
-                benchmark::RegisterBenchmark(title.c_str(), Typing, script, place, painted)
+            for (const auto& [title, way] : {WayRow{"TypeMessage/", Way::Message},
+                                             {"TypeKey/", Way::Key},
+                                             {"TypePainted/", Way::PaintedKey}})
+                benchmark::RegisterBenchmark(
+                    (std::string(title) + NameOf(script) + "/" + name).c_str(), Typing, script,
+                    place, way)
                     ->Iterations(1);
-            }
         }
     }
     benchmark::RegisterBenchmark("Undo500000", UndoRedo, false)->Iterations(3);
