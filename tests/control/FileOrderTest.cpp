@@ -463,6 +463,27 @@ TEST_F(FileOrder, ALineLongerThanTheBufferIsWrittenWhole)
     EXPECT_EQ(ReadFile("out").size(), 2 * (100'000 + 4));
 }
 
+// The engine lays a line out as a whole when it shows it, so that this line is kept from it.
+TEST_F(FileOrder, ALineOfFiftyMegabytesGoesInAndOut)
+{
+    control.SetCarefulFiles(true);
+    std::string bytes;
+    while (bytes.size() < 50u << 20)
+        bytes += "insert into t values (1, '\xC3\xA9\xE4\xB8\xAD'), ";
+    std::u16string text;
+    AnswerTo(engine::message::AddTextNoProcess, [&](WPARAM length, LPARAM units) -> LRESULT {
+        text.append(reinterpret_cast<const char16_t*>(units), length);
+        return 0;
+    });
+    EXPECT_TRUE(Open(bytes));
+    EXPECT_FALSE(control.WasCutShort());
+    EXPECT_EQ(text, QString::fromUtf8(bytes.data(), bytes.size()).toStdU16String());
+    HoldLines({text});
+    EXPECT_TRUE(
+        control.SaveFile(PathOf("out").c_str(), FileEncodeConverter::encUTF8, false, false));
+    EXPECT_TRUE(ReadFile("out") == bytes);
+}
+
 TEST_F(FileOrder, ALastCharacterTheConverterLeavesIsKeptWithCareOnly)
 {
     HoldLines({u"a\n", u"b\xE000"});
