@@ -16,7 +16,6 @@ namespace {
 using Sci = QsciScintillaBase;
 
 constexpr int kBefore = modification::BeforeInsert | modification::BeforeDelete;
-constexpr int kTextChange = modification::InsertText | modification::DeleteText;
 constexpr int kOrigin = modification::User | modification::Undo | modification::Redo;
 
 // The bits of a host's mask that the stock engine may see: style, fold, marker, indicator, line
