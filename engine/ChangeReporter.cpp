@@ -312,11 +312,8 @@ void ChangeReporter::Tell(UINT code, SCNotification record)
 
 void ChangeReporter::Send(UINT code, SCNotification& record)
 {
-    const HWND parent = m_window.parentWidget();
-    if (!AttachedWnd(parent))
-        return;
     record.nmhdr = {&m_window, 0, code};
-    SendMessage(parent, WM_NOTIFY, 0, reinterpret_cast<LPARAM>(&record));
+    SendMessage(m_window.parentWidget(), WM_NOTIFY, 0, reinterpret_cast<LPARAM>(&record));
 }
 
 } // namespace engine

@@ -9,11 +9,14 @@ namespace {
 
 using Sci = QsciScintillaBase;
 
-constexpr long kNear = 256;             // units: so near, the walk is cheaper than finding the line
-constexpr long kNearEnough = 64 * 1024; // likewise, if the line index has to be made first
-constexpr long kWindow = 16 * 1024; // bytes read at a time; asking for more may move the gap far
-constexpr long kBytesPerUnit = 3;   // at most; a pair takes four for two
+constexpr long kNear = 256;           // so near, the walk is cheaper than asking the line index
+constexpr long kNearEnough = 0x10000; // so near, it is cheaper than making one
+constexpr long kWalkBudget =
+    0x100000;                    // bytes, or the text's length: walked that far, it would have paid
+constexpr long kWindow = 0x4000; // bytes read at a time; asking for more may move the gap far
+constexpr long kBytesPerUnit = 3; // at most; a pair takes four for two
 constexpr long kLongestCharacter = 4;
+constexpr std::size_t kBlock = 128; // bytes counted at a time, so that the counts fit a byte
 
 std::uintptr_t Word(long value)
 {
@@ -33,60 +36,44 @@ long WidthOf(char lead)
 
 // How many units begin in the bytes: one for each byte that is not a continuation, and one more for
 // the lead of a pair. A character that is cut counts where its lead stands.
-long CountUnits(std::string_view bytes)
+long CountUnits(const char* bytes, std::size_t size)
 {
-    std::size_t continuations = 0;
-    std::size_t pairs = 0;
-    for (const char byte : bytes) {
-        continuations += IsContinuation(byte);
-        pairs += (byte & 0xF8) == 0xF0;
+    long units = 0;
+    for (std::size_t at = 0; at < size; at += kBlock) {
+        const std::size_t block = std::min(kBlock, size - at);
+        unsigned char continuations = 0;
+        unsigned char pairs = 0;
+        for (std::size_t i = at; i < at + block; ++i) {
+            continuations += static_cast<signed char>(bytes[i]) < -0x40;
+            pairs += static_cast<unsigned char>(bytes[i]) >= 0xF0;
+        }
+        units += static_cast<long>(block) - continuations + pairs;
     }
-    return static_cast<long>(bytes.size() - continuations + pairs);
-}
-
-std::string_view WithoutCutCharacter(std::string_view bytes)
-{
-    std::size_t lead = bytes.size();
-    while (lead > 0 && IsContinuation(bytes[lead - 1]))
-        --lead;
-    if (lead > 0 && lead - 1 + static_cast<std::size_t>(WidthOf(bytes[lead - 1])) > bytes.size())
-        return bytes.substr(0, lead - 1);
-    return bytes;
+    return units;
 }
 
 } // namespace
 
-void TextIndex::Look() const
+// While a change is under way the text is the older one until its length differs.
+void TextIndex::Settle() const
 {
-    RepairLineIndex();
-    m_units = static_cast<long>(m_raw.Send(Sci::SCI_INDEXPOSITIONFROMLINE, Word(m_raw.LineCount()),
-                                           Sci::SC_LINECHARACTERINDEX_UTF16));
-    m_state = m_units == m_raw.Length() ? State::Ascii : State::Mixed;
-    m_lookedWhileChanging = m_changing;
-}
-
-bool TextIndex::IsAscii() const
-{
-    if (m_state == State::Unknown || m_changing)
-        Look();
-    return m_state == State::Ascii;
+    if (m_change.underWay && m_raw.Length() != m_change.lengthBefore)
+        ChangeDone();
 }
 
 long TextIndex::Length() const
 {
-    IsAscii();
+    Settle();
+    if (!m_unitsAreKnown) {
+        m_units = WalkToByte({}, m_raw.Length()).unit;
+        m_unitsAreKnown = true;
+    }
     return m_units;
 }
 
-// The stock engine miscounts lines where a change behind a CR brings an LF to it or takes one away.
-// The index is then made anew, but not before it is asked: a change of all line ends does so at
-// each of them.
-void TextIndex::RepairLineIndex() const
+bool TextIndex::IsAscii() const
 {
-    if (!std::exchange(m_lineIndexIsWrong, false))
-        return;
-    m_raw.Send(Sci::SCI_RELEASELINECHARACTERINDEX, Sci::SC_LINECHARACTERINDEX_UTF16);
-    m_raw.Send(Sci::SCI_ALLOCATELINECHARACTERINDEX, Sci::SC_LINECHARACTERINDEX_UTF16);
+    return Length() == m_raw.Length();
 }
 
 // Whether the change at a place touches a pair of CR and LF: the CR stands before it, the LF is the
@@ -100,101 +87,118 @@ bool TextIndex::TouchesCrLf(BytePos at, long bytes) const
            (byteAt(at.value) == '\n' || byteAt(at.value + bytes) == '\n');
 }
 
-void TextIndex::ChangeBegins(const Change& change)
+void TextIndex::ChangeBegins(Change change)
 {
-    if (m_changing) // two at once: nothing is known
-        m_state = State::Unknown;
-    m_changing = true;
+    ChangeDone();
     m_change = change;
+    m_change.underWay = true;
+    m_change.lengthBefore = m_raw.Length();
     if (change.at.value < m_last.byte)
         m_last = Place();
 }
 
 void TextIndex::InsertionBegins(BytePos at, long bytes)
 {
-    ChangeBegins({at, bytes, 0, false});
+    ChangeBegins({.at = at, .inserted = bytes});
 }
 
 void TextIndex::DeletionBegins(BytePos at, long bytes)
 {
-    const long end = at.value + bytes;
-    const long units = m_state == State::Mixed ? CountUnits(m_raw.Bytes(at.value, end)) : bytes;
-    ChangeBegins({at, 0, units, TouchesCrLf(at, bytes)});
+    const long units =
+        !m_unitsAreKnown || IsAscii() ? bytes : WalkToByte({0, at.value}, at.value + bytes).unit;
+    ChangeBegins({.at = at, .deletedUnits = units, .touchesCrLf = TouchesCrLf(at, bytes)});
 }
 
-void TextIndex::ChangeDone()
+void TextIndex::ChangeDone() const
 {
-    if (!m_changing)
+    if (!m_change.underWay)
         return;
-    m_changing = false;
-    const long at = m_change.at.value;
-    m_lineIndexIsWrong |=
-        m_change.inserted > 0 ? TouchesCrLf(m_change.at, m_change.inserted) : m_change.touchesCrLf;
-    if (m_lookedWhileChanging) // at the older text or at the younger
-        m_state = State::Unknown;
-    m_lookedWhileChanging = false;
-    if (m_state == State::Unknown)
+    const Change change = std::exchange(m_change, Change());
+    const long at = change.at.value;
+    if (change.inserted == 0) {
+        m_lineIndexIsWrong |= change.touchesCrLf;
+        m_units -= change.deletedUnits;
         return;
-    if (m_change.inserted > 0)
-        m_units += CountUnits(m_raw.Bytes(at, at + m_change.inserted));
-    else
-        m_units -= m_change.units;
-    m_state = m_units == m_raw.Length() ? State::Ascii : State::Mixed;
+    }
+    m_lineIndexIsWrong |= TouchesCrLf(change.at, change.inserted);
+    const long units = WalkToByte({0, at}, at + change.inserted).unit;
+    m_units += units;
+    if (m_last.byte == at) // where the next one is likely to go in
+        m_last = {m_last.unit + units, at + change.inserted};
 }
 
 void TextIndex::Reset()
 {
-    // The index is counted: one for the document, whatever number of windows shows it.
-    if (!(m_raw.Send(Sci::SCI_GETLINECHARACTERINDEX) & Sci::SC_LINECHARACTERINDEX_UTF16))
-        m_raw.Send(Sci::SCI_ALLOCATELINECHARACTERINDEX, Sci::SC_LINECHARACTERINDEX_UTF16);
-    m_changing = false;
+    m_change = Change();
     m_lineIndexIsWrong = false;
-    m_state = State::Unknown;
+    m_unitsAreKnown = false;
     m_last = Place();
+    m_walked = 0;
 }
 
-UnitPos TextIndex::StartOfLine(long line) const
+bool TextIndex::HasLineIndex() const
 {
-    if (IsAscii())
-        return {StartInBytes(line).value};
-    RepairLineIndex();
-    line = std::clamp(line, 0L, m_raw.LineCount());
-    return {static_cast<long>(
-        m_raw.Send(Sci::SCI_INDEXPOSITIONFROMLINE, Word(line), Sci::SC_LINECHARACTERINDEX_UTF16))};
+    return !m_lineIndexIsWrong &&
+           (m_raw.Send(Sci::SCI_GETLINECHARACTERINDEX) & Sci::SC_LINECHARACTERINDEX_UTF16);
+}
+
+// The index belongs to the document, whatever number of windows shows it.
+// The stock engine miscounts lines where a change behind a CR brings an LF to it or takes one away.
+// The index is made anew then, but not before it is asked: a change of all line ends does so at
+// each of them.
+void TextIndex::EnsureLineIndex() const
+{
+    if (HasLineIndex())
+        return;
+    if (m_lineIndexIsWrong)
+        m_raw.Send(Sci::SCI_RELEASELINECHARACTERINDEX, Sci::SC_LINECHARACTERINDEX_UTF16);
+    m_raw.Send(Sci::SCI_ALLOCATELINECHARACTERINDEX, Sci::SC_LINECHARACTERINDEX_UTF16);
+    m_lineIndexIsWrong = false;
+    m_walked = 0;
 }
 
 BytePos TextIndex::StartInBytes(long line) const
 {
-    const long lines = m_raw.LineCount();
-    if (line >= lines)
+    if (line >= m_raw.LineCount())
         return {m_raw.Length()};
     return {static_cast<long>(m_raw.Send(Sci::SCI_POSITIONFROMLINE, Word(std::max(line, 0L))))};
 }
 
+UnitPos TextIndex::StartOfLine(long line) const
+{
+    const BytePos start = StartInBytes(line);
+    if (IsAscii() || start.value == 0)
+        return {start.value};
+    if (WalkPays(Nearest(&Place::byte, start.value).byte - start.value))
+        return ToUnits(start);
+    EnsureLineIndex();
+    return {static_cast<long>(m_raw.Send(Sci::SCI_INDEXPOSITIONFROMLINE,
+                                         Word(std::clamp(line, 0L, m_raw.LineCount())),
+                                         Sci::SC_LINECHARACTERINDEX_UTF16))};
+}
+
 long TextIndex::LineOf(UnitPos position) const
 {
-    if (IsAscii())
-        return static_cast<long>(
-            m_raw.Send(Sci::SCI_LINEFROMPOSITION, Word(std::clamp(position.value, 0L, m_units))));
-    RepairLineIndex();
-    return static_cast<long>(m_raw.Send(Sci::SCI_LINEFROMINDEXPOSITION,
-                                        Word(std::clamp(position.value, 0L, m_units)),
-                                        Sci::SC_LINECHARACTERINDEX_UTF16));
+    return static_cast<long>(m_raw.Send(Sci::SCI_LINEFROMPOSITION, Word(ToBytes(position).value)));
 }
 
 BytePos TextIndex::ToBytes(UnitPos position) const
 {
+    const long unit = std::clamp(position.value, 0L, Length());
     if (IsAscii())
-        return {std::clamp(position.value, 0L, m_units)};
-    const long unit = std::clamp(position.value, 0L, m_units);
-    if (std::labs(unit - m_last.unit) <= Near())
-        return {Remember(WalkToUnit(m_last, unit)).byte};
-    const long line = LineOf({unit});
-    const Place start{StartOfLine(line).value, StartInBytes(line).value};
-    const Place end{StartOfLine(line + 1).value, StartInBytes(line + 1).value};
-    if (end.unit - start.unit == end.byte - start.byte)
-        return {start.byte + (unit - start.unit)};
-    return {Remember(WalkToUnit(NearestTo(start, end, &Place::unit, unit), unit)).byte};
+        return {unit};
+    const Place nearest = Nearest(&Place::unit, unit);
+    if (WalkPays(nearest.unit - unit))
+        return {Remember(WalkToUnit(nearest, unit)).byte};
+    EnsureLineIndex();
+    const auto line = static_cast<long>(
+        m_raw.Send(Sci::SCI_LINEFROMINDEXPOSITION, Word(unit), Sci::SC_LINECHARACTERINDEX_UTF16));
+    const auto start = static_cast<long>(
+        m_raw.Send(Sci::SCI_INDEXPOSITIONFROMLINE, Word(line), Sci::SC_LINECHARACTERINDEX_UTF16));
+    Place from{start, StartInBytes(line).value};
+    if (std::labs(nearest.unit - unit) < unit - from.unit)
+        from = nearest;
+    return {Remember(WalkToUnit(from, unit)).byte};
 }
 
 UnitPos TextIndex::ToUnits(BytePos position) const
@@ -202,67 +206,81 @@ UnitPos TextIndex::ToUnits(BytePos position) const
     const long byte = std::clamp(position.value, 0L, m_raw.Length());
     if (IsAscii())
         return {byte};
-    if (std::labs(byte - m_last.byte) <= Near())
-        return {Remember(WalkToByte(m_last, byte)).unit};
+    const Place nearest = Nearest(&Place::byte, byte);
+    if (WalkPays(nearest.byte - byte))
+        return {Remember(WalkToByte(nearest, byte)).unit};
+    EnsureLineIndex();
     const auto line = static_cast<long>(m_raw.Send(Sci::SCI_LINEFROMPOSITION, Word(byte)));
-    const Place start{StartOfLine(line).value, StartInBytes(line).value};
-    const Place end{StartOfLine(line + 1).value, StartInBytes(line + 1).value};
-    if (end.unit - start.unit == end.byte - start.byte)
-        return {start.unit + (byte - start.byte)};
-    return {Remember(WalkToByte(NearestTo(start, end, &Place::byte, byte), byte)).unit};
+    const auto start = static_cast<long>(
+        m_raw.Send(Sci::SCI_INDEXPOSITIONFROMLINE, Word(line), Sci::SC_LINECHARACTERINDEX_UTF16));
+    Place from{start, StartInBytes(line).value};
+    if (std::labs(nearest.byte - byte) < byte - from.byte)
+        from = nearest;
+    return {Remember(WalkToByte(from, byte)).unit};
 }
 
-long TextIndex::Near() const
+// Of the text's start, its end and the last place that was asked for.
+TextIndex::Place TextIndex::Nearest(long Place::*coordinate, long value) const
 {
-    return m_lineIndexIsWrong ? kNearEnough : kNear;
-}
-
-TextIndex::Place TextIndex::NearestTo(Place start, Place end, long Place::*coordinate,
-                                      long value) const
-{
-    Place nearest = start;
-    for (const Place& candidate : {end, m_last}) {
+    Place nearest;
+    for (const Place& candidate : {Place{Length(), m_raw.Length()}, m_last}) {
         if (std::labs(candidate.*coordinate - value) < std::labs(nearest.*coordinate - value))
             nearest = candidate;
     }
     return nearest;
 }
 
+// Walks without the line index are on an allowance: when they have cost as much as the index, it
+// is made.
+bool TextIndex::WalkPays(long distance) const
+{
+    distance = std::labs(distance);
+    if (distance <= kNear)
+        return true;
+    if (HasLineIndex() || distance > kNearEnough)
+        return false;
+    m_walked += distance;
+    return m_walked < std::max(kWalkBudget, m_raw.Length());
+}
+
 TextIndex::Place TextIndex::Remember(Place place) const
 {
-    if (!m_changing)
+    if (!m_change.underWay || place.byte <= m_change.at.value)
         m_last = place;
     return place;
+}
+
+TextIndex::Place TextIndex::WalkToUnit(Place from, long unit) const
+{
+    return from.unit < unit ? WalkForward(from, unit) : WalkBack(from, unit);
 }
 
 // Stops before the unit if that is the second half of a pair.
 TextIndex::Place TextIndex::WalkForward(Place at, long unit) const
 {
-    while (at.unit < unit) {
-        const long left = unit - at.unit;
-        const long room = std::min(kWindow, kBytesPerUnit * left + kLongestCharacter);
-        const long end = std::min(m_raw.Length(), at.byte + room);
-        std::string_view bytes = m_raw.Bytes(at.byte, end);
-        if (left > kWindow) { // no window holds that many units, so it is taken whole
-            if (end < m_raw.Length())
-                bytes = WithoutCutCharacter(bytes);
-            at.unit += CountUnits(bytes);
-            at.byte += static_cast<long>(bytes.size());
-            continue;
-        }
-        const Place before = at;
+    const long length = m_raw.Length();
+    while (at.unit < unit && at.byte < length) {
+        const long room = std::min(kWindow, kBytesPerUnit * (unit - at.unit) + kLongestCharacter);
+        const std::string_view bytes = m_raw.Bytes(at.byte, std::min(length, at.byte + room));
         std::size_t done = 0;
+        // A block has no more units than bytes, so that it can be taken whole.
+        while (unit - at.unit >= static_cast<long>(kBlock) && bytes.size() - done >= kBlock) {
+            at.unit += CountUnits(bytes.data() + done, kBlock);
+            done += kBlock;
+        }
+        while (done < bytes.size() && IsContinuation(bytes[done]))
+            ++done; // of a character that is counted
         while (done < bytes.size() && at.unit < unit) {
             const long width = WidthOf(bytes[done]);
             const long step = width == kLongestCharacter ? 2 : 1;
             if (at.unit + step > unit)
-                return at;
+                return {at.unit, at.byte + static_cast<long>(done)};
+            if (static_cast<long>(bytes.size() - done) < width)
+                break;
             at.unit += step;
-            at.byte += width;
             done += static_cast<std::size_t>(width);
         }
-        if (at.byte == before.byte)
-            break;
+        at.byte += static_cast<long>(done);
     }
     return at;
 }
@@ -270,33 +288,27 @@ TextIndex::Place TextIndex::WalkForward(Place at, long unit) const
 TextIndex::Place TextIndex::WalkBack(Place at, long unit) const
 {
     while (at.unit > unit && at.byte > 0) {
-        const long left = at.unit - unit;
-        const long room = std::min(kWindow, kBytesPerUnit * left + kLongestCharacter);
+        const long room = std::min(kWindow, kBytesPerUnit * (at.unit - unit) + kLongestCharacter);
         const long start = std::max(0L, at.byte - room);
         const std::string_view bytes = m_raw.Bytes(start, at.byte);
-        if (left > kWindow) {
-            std::size_t cut = 0;
-            while (cut < bytes.size() && IsContinuation(bytes[cut]))
-                ++cut;
-            at.unit -= CountUnits(bytes.substr(cut));
-            at.byte = start + static_cast<long>(cut);
-            continue;
+        std::size_t left = bytes.size();
+        while (at.unit - unit >= static_cast<long>(kBlock) && left >= kBlock) {
+            left -= kBlock;
+            at.unit -= CountUnits(bytes.data() + left, kBlock);
         }
-        auto index = static_cast<long>(bytes.size());
-        while (index > 0 && at.unit > unit) {
-            --index;
-            if (!IsContinuation(bytes[static_cast<std::size_t>(index)]))
-                at.unit -=
-                    WidthOf(bytes[static_cast<std::size_t>(index)]) == kLongestCharacter ? 2 : 1;
+        while (left > 0 && at.unit > unit) {
+            --left;
+            if (!IsContinuation(bytes[left]))
+                at.unit -= WidthOf(bytes[left]) == kLongestCharacter ? 2 : 1;
         }
-        at.byte = start + index;
+        at.byte = start + static_cast<long>(left);
+        if (at.unit <= unit) // a block may have ended within a character that is still counted
+            while (left < bytes.size() && IsContinuation(bytes[left])) {
+                ++left;
+                ++at.byte;
+            }
     }
     return at;
-}
-
-TextIndex::Place TextIndex::WalkToUnit(Place from, long unit) const
-{
-    return from.unit < unit ? WalkForward(from, unit) : WalkBack(from, unit);
 }
 
 TextIndex::Place TextIndex::WalkToByte(Place at, long byte) const
@@ -305,7 +317,8 @@ TextIndex::Place TextIndex::WalkToByte(Place at, long byte) const
         const bool forwards = at.byte < byte;
         const long start = forwards ? at.byte : std::max(byte, at.byte - kWindow);
         const long end = forwards ? std::min(byte, at.byte + kWindow) : at.byte;
-        const long units = CountUnits(m_raw.Bytes(start, end));
+        const std::string_view bytes = m_raw.Bytes(start, end);
+        const long units = CountUnits(bytes.data(), bytes.size());
         at.unit += forwards ? units : -units;
         at.byte = forwards ? end : start;
     }

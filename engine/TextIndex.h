@@ -1,6 +1,7 @@
 // TextIndex: positions in UTF-16 units to positions in bytes and back, for the text of one window.
-// Text that is all ASCII costs one comparison. In other text a line is found by the engine's UTF-16
-// line index, and the place in it from the nearest place that is known already.
+// Text that is all ASCII costs one comparison. In other text a place is reached from the nearest
+// place that is known; for one that is far from all of these the stock engine's UTF-16 line index
+// is made, once it pays, and tells the line.
 #pragma once
 
 #include "engine/Raw.h"
@@ -34,55 +35,50 @@ public:
     bool IsAscii() const;
 
     // A change of the text: announced while the text is as it was, done once it is in. What is
-    // asked in between is found out anew, since the text may be older or younger than the change.
+    // asked in between is answered for the text as it stands at that moment.
     void InsertionBegins(BytePos at, long bytes);
     void DeletionBegins(BytePos at, long bytes);
-    void ChangeDone();
-    void Reset(); // another document; makes its line index if it has none
+    void ChangeDone() const;
+    void Reset(); // another document
 
 private:
-    enum class State : unsigned char
-    {
-        Unknown,
-        Ascii,
-        Mixed
-    };
-
     struct Place
     {
         long unit = 0;
         long byte = 0;
     };
 
-    // From ChangeBegins to ChangeDone.
+    // From its beginning until it is done.
     struct Change
     {
+        bool underWay = false;
         BytePos at;
-        long inserted = 0; // bytes
-        long units = 0;    // that a deletion takes away
+        long inserted = 0;     // bytes
+        long deletedUnits = 0; // of a deletion
+        long lengthBefore = 0; // bytes
         bool touchesCrLf = false;
     };
 
-    void ChangeBegins(const Change& change);
-    void Look() const;
-    void RepairLineIndex() const;
-    long Near() const;
+    void ChangeBegins(Change change);
+    void Settle() const;
     bool TouchesCrLf(BytePos at, long bytes) const;
-    Place NearestTo(Place start, Place end, long Place::*coordinate, long value) const;
+    bool HasLineIndex() const;
+    void EnsureLineIndex() const;
+    Place Remember(Place place) const;
+    Place Nearest(long Place::*coordinate, long value) const;
+    bool WalkPays(long distance) const;
     Place WalkToUnit(Place from, long unit) const;
     Place WalkForward(Place at, long unit) const;
     Place WalkBack(Place at, long unit) const;
     Place WalkToByte(Place from, long byte) const;
-    Place Remember(Place place) const;
 
     const Raw& m_raw;
-    bool m_changing = false;
-    Change m_change;
+    mutable Change m_change;
     mutable bool m_lineIndexIsWrong = false;
-    mutable bool m_lookedWhileChanging = false;
-    mutable State m_state = State::Unknown;
-    mutable long m_units = 0; // in the text, if the state is known
-    mutable Place m_last;
+    mutable bool m_unitsAreKnown = false;
+    mutable long m_units = 0;  // in the text
+    mutable Place m_last;      // a place that is known
+    mutable long m_walked = 0; // bytes, since there was no line index
 };
 
 } // namespace engine

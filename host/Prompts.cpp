@@ -41,7 +41,8 @@ LoseChanges DialogPrompts::BeforeLosing(QWidget* parent, const QString& name)
 
 bool DialogPrompts::Confirm(QWidget* parent, const QString& text, const QString& doIt)
 {
-    QMessageBox box(QMessageBox::Warning, {}, text, QMessageBox::Cancel, parent);
+    QMessageBox box(QMessageBox::Warning, QStringLiteral("Save"), text, QMessageBox::Cancel,
+                    parent);
     box.setTextFormat(Qt::PlainText);
     const auto* yes = box.addButton(doIt, QMessageBox::AcceptRole);
     box.setDefaultButton(QMessageBox::Cancel);
@@ -51,7 +52,8 @@ bool DialogPrompts::Confirm(QWidget* parent, const QString& text, const QString&
 
 void DialogPrompts::Tell(QWidget* parent, const QString& text)
 {
-    QMessageBox box(QMessageBox::Warning, {}, text, QMessageBox::Ok, parent);
+    QMessageBox box(QMessageBox::Warning, QStringLiteral("znworkbench"), text, QMessageBox::Ok,
+                    parent);
     box.setTextFormat(Qt::PlainText);
     box.exec();
 }

@@ -6,6 +6,7 @@
 #include <QFontInfo>
 
 #include <algorithm>
+#include <limits>
 
 namespace {
 
@@ -111,6 +112,22 @@ void SetStyles(CZNCoreEditorControl& editor)
     editor.StyleSetBack(kLineNumberStyle, kMarginPaper, 1);
 }
 
+// In pixels, with room for the caret behind the line's end.
+int WidthOfLine(CZNCoreEditorControl& editor, int line)
+{
+    constexpr long kRoomForTheCaret = 12;
+    constexpr long kLayoutLimit = 10000; // laying out a longer line costs more than a paint may
+    const long units = editor.LineLength(line, 1);
+    if (units > kLayoutLimit) {
+        const long unit = editor.TextWidth(0, u"n", 1);
+        return int(std::min<long>(units * unit, std::numeric_limits<int>::max()));
+    }
+    const long start = editor.PositionFromLine(line, 1);
+    const long end = editor.GetLineEndPosition(line, 1);
+    return int(editor.PointXFromPosition(end, 1) - editor.PointXFromPosition(start, 1) +
+               kRoomForTheCaret);
+}
+
 } // namespace
 
 void DressForSql(CZNCoreEditorControl& editor)
@@ -144,15 +161,11 @@ void FitLineNumberMargin(CZNCoreEditorControl& editor)
 
 void FitScrollWidth(CZNCoreEditorControl& editor, int firstLine, int lastLine)
 {
-    constexpr long kRoomForTheCaret = 12;
     const int last = std::min(lastLine, editor.GetLineCount(1) - 1);
-    long widest = editor.GetScrollWidth(1);
-    for (int line = firstLine; line <= last; ++line) {
-        const long start = editor.PositionFromLine(line, 1);
-        const long end = editor.GetLineEndPosition(line, 1);
-        widest = std::max<long>(widest, editor.PointXFromPosition(end, 1) -
-                                            editor.PointXFromPosition(start, 1) + kRoomForTheCaret);
-    }
-    if (widest > editor.GetScrollWidth(1))
-        editor.SetScrollWidth(int(widest), 1);
+    const int before = editor.GetScrollWidth(1);
+    int widest = before;
+    for (int line = firstLine; line <= last; ++line)
+        widest = std::max(widest, WidthOfLine(editor, line));
+    if (widest > before)
+        editor.SetScrollWidth(widest, 1);
 }

@@ -1,4 +1,5 @@
 // znworkbench: an example host. It opens SQL scripts in tabs, edits and saves them.
+#include "control/ZNCoreEditorControl.h"
 #include "host/Arguments.h"
 #include "host/MainWindow.h"
 #include "host/Prompts.h"
@@ -13,6 +14,13 @@ namespace {
 void Print(std::FILE* stream, const QString& text)
 {
     std::fprintf(stream, "%s\n", qPrintable(text));
+}
+
+// The first control loads the engine; without one every editor would stay empty.
+bool EngineIsThere()
+{
+    const CZNCoreEditorControl control;
+    return CZNCoreEditorControl::m_hEditorDllHandle != nullptr;
 }
 
 int RunInteractively(const QStringList& files)
@@ -45,6 +53,11 @@ int main(int argc, char** argv)
     if (!arguments.error.isEmpty()) {
         Print(stderr, arguments.error);
         return 2;
+    }
+    if (!EngineIsThere()) {
+        Print(stderr, QStringLiteral("The editing engine cannot be loaded: libZNBaseEditor.so has "
+                                     "to stand beside libZNCoreEditor.so."));
+        return 3;
     }
     if (!arguments.screenshot.isEmpty())
         return TakeScreenshot(arguments.files, arguments.screenshot);

@@ -20,8 +20,7 @@ class SQLCompletionProposal
 public:
     explicit SQLCompletionProposal(std::u16string text, int image = -1)
         : m_text(std::move(text)), m_image(image)
-    {
-    }
+    {}
 
     const std::u16string& Text() const { return m_text; }
     int Image() const { return m_image; } // as registered with RegisterImage, -1: none

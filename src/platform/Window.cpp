@@ -43,10 +43,31 @@ const WindowClass* FindClass(std::u16string_view name)
     return nullptr;
 }
 
+// The record that was asked for last: messages come in runs to one window.
+struct
+{
+    HWND window = nullptr;
+    WindowRecord* record = nullptr;
+} lastFound;
+
 WindowRecord* LiveRecord(HWND window)
 {
-    const auto found = Records().find(window);
-    return found != Records().end() && found->second.widget ? &found->second : nullptr;
+    if (!window)
+        return nullptr;
+    if (lastFound.window != window) {
+        const auto found = Records().find(window);
+        if (found == Records().end())
+            return nullptr;
+        lastFound = {window, &found->second};
+    }
+    return lastFound.record->widget ? lastFound.record : nullptr;
+}
+
+void Forget(HWND window)
+{
+    if (lastFound.window == window)
+        lastFound = {};
+    Records().erase(window);
 }
 
 WindowRecord& RecordOf(QWidget* widget)
@@ -55,7 +76,7 @@ WindowRecord& RecordOf(QWidget* widget)
         return *record;
     WindowRecord& record = Records()[widget];
     record = WindowRecord{widget, nullptr, nullptr};
-    QObject::connect(widget, &QObject::destroyed, [widget] { Records().erase(widget); });
+    QObject::connect(widget, &QObject::destroyed, [widget] { Forget(widget); });
     return record;
 }
 

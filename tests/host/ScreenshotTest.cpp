@@ -1,4 +1,7 @@
 // The program as it is started for a picture.
+#include <QDir>
+#include <QFile>
+#include <QFileInfo>
 #include <QImage>
 #include <QProcess>
 #include <QProcessEnvironment>
@@ -9,6 +12,8 @@
 
 namespace {
 
+const QString kProgram = QStringLiteral(ZN_WORKBENCH);
+
 struct Outcome
 {
     int exitCode = -1;
@@ -16,13 +21,14 @@ struct Outcome
     QString output;
 };
 
-Outcome Start(const QStringList& words, const QString& scale = QStringLiteral("1"))
+Outcome Start(const QStringList& words, const QString& scale = QStringLiteral("1"),
+              const QString& path = kProgram)
 {
     QProcess program;
     QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
     environment.insert(QStringLiteral("QT_SCALE_FACTOR"), scale);
     program.setProcessEnvironment(environment);
-    program.start(QStringLiteral(ZN_WORKBENCH), words);
+    program.start(path, words);
     if (!program.waitForFinished(60000) || program.exitStatus() != QProcess::NormalExit)
         return {};
     return {program.exitCode(), QString::fromUtf8(program.readAllStandardError()),
@@ -94,4 +100,23 @@ TEST(Program, TellsItsOptionsAndEnds)
     EXPECT_EQ(outcome.exitCode, 0);
     EXPECT_TRUE(outcome.output.contains(QStringLiteral("--screenshot")));
     EXPECT_EQ(Start({"--nonsense"}).exitCode, 2);
+}
+
+TEST(Program, TellsThatItsEngineIsMissing)
+{
+    // The program and its libraries, all but the module.
+    QTemporaryDir folder;
+    ASSERT_TRUE(QDir(folder.path()).mkpath("bin"));
+    ASSERT_TRUE(QDir(folder.path()).mkpath("lib"));
+    const QDir libraries(QFileInfo(kProgram).absolutePath() + "/../lib");
+    for (const char* name : {"libZNCoreEditor.so", "libZNPlatform.so"})
+        ASSERT_TRUE(QFile::copy(libraries.filePath(name), folder.filePath("lib/") + name));
+    const QString alone = folder.filePath("bin/znworkbench");
+    ASSERT_TRUE(QFile::copy(kProgram, alone));
+
+    const Outcome outcome =
+        Start({"--screenshot", folder.filePath("window.png")}, QStringLiteral("1"), alone);
+    EXPECT_EQ(outcome.exitCode, 3);
+    EXPECT_TRUE(outcome.errors.contains(QStringLiteral("libZNBaseEditor.so")));
+    EXPECT_FALSE(QFile::exists(folder.filePath("window.png")));
 }
