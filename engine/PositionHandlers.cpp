@@ -55,7 +55,7 @@ LRESULT LineLength(Engine& engine, WPARAM wParam, LPARAM)
     const long line = static_cast<int>(wParam);
     if (line < 0 || line >= engine.raw.LineCount())
         return 0;
-    return engine.text.StartOfLine(line + 1).value - engine.text.StartOfLine(line).value;
+    return engine.text.LengthOfLine(line);
 }
 
 LRESULT SetStyling(Engine& engine, WPARAM wParam, LPARAM lParam)

@@ -102,24 +102,26 @@ LRESULT AddStyledText(Engine& engine, WPARAM wParam, LPARAM lParam)
 }
 
 // Writes the text between two places and a terminator; gives the units without it.
-long Read(const Engine& engine, UnitPos from, UnitPos to, char16_t* buffer)
+long Read(const Engine& engine, BytePos from, BytePos to, char16_t* buffer)
 {
-    long start = engine.text.ToBytes(from).value;
-    const long end = engine.text.ToBytes(to).value;
-    // Bounds between the halves of a pair count as its start, so these are the true ones.
-    const long units = engine.text.ToUnits({end}).value - engine.text.ToUnits({start}).value;
     long done = 0;
-    while (start < end) {
-        long stop = std::min(end, start + kChunk);
-        if (stop < end) // between characters
+    for (long start = from.value; start < to.value;) {
+        long stop = std::min(to.value, start + kChunk);
+        if (stop < to.value) // between characters
             stop = static_cast<long>(
                 engine.raw.Send(Sci::SCI_POSITIONBEFORE, static_cast<WPARAM>(stop)));
-        done += static_cast<long>(ToUtf16(engine.raw.Bytes(start, stop), buffer + done,
-                                          static_cast<std::size_t>(units - done)));
+        const std::string_view bytes = engine.raw.Bytes(start, stop);
+        done += static_cast<long>(
+            ToUtf16(bytes, buffer + done, static_cast<std::size_t>(CountUnits(bytes))));
         start = stop;
     }
     buffer[done] = u'\0';
     return done;
+}
+
+long Read(const Engine& engine, UnitPos from, UnitPos to, char16_t* buffer)
+{
+    return Read(engine, engine.text.ToBytes(from), engine.text.ToBytes(to), buffer);
 }
 
 LRESULT GetText(Engine& engine, WPARAM wParam, LPARAM lParam)
@@ -130,7 +132,7 @@ LRESULT GetText(Engine& engine, WPARAM wParam, LPARAM lParam)
     const long room = static_cast<int>(wParam);
     if (room <= 0)
         return 0;
-    return Read(engine, {0}, {room - 1}, buffer);
+    return Read(engine, UnitPos{0}, UnitPos{room - 1}, buffer);
 }
 
 LRESULT GetLine(Engine& engine, WPARAM wParam, LPARAM lParam)
@@ -138,10 +140,10 @@ LRESULT GetLine(Engine& engine, WPARAM wParam, LPARAM lParam)
     const long line = static_cast<int>(wParam);
     if (line < 0 || line >= engine.raw.LineCount())
         return 0;
-    const UnitPos start = engine.text.StartOfLine(line);
-    const UnitPos end = engine.text.StartOfLine(line + 1);
     auto* buffer = reinterpret_cast<char16_t*>(lParam);
-    return buffer ? Read(engine, start, end, buffer) : end.value - start.value;
+    return buffer ? Read(engine, engine.text.StartInBytes(line), engine.text.StartInBytes(line + 1),
+                         buffer)
+                  : engine.text.LengthOfLine(line);
 }
 
 // Fills the buffer with at most length - 1 units of the caret's line; gives the caret's place in
@@ -157,7 +159,7 @@ LRESULT GetCurLine(Engine& engine, WPARAM wParam, LPARAM lParam)
         return end - start + 1;
     const long room = static_cast<int>(wParam);
     if (room > 0)
-        Read(engine, {start}, {std::min(end, start + room - 1)}, buffer);
+        Read(engine, UnitPos{start}, UnitPos{std::min(end, start + room - 1)}, buffer);
     return caret - start;
 }
 
@@ -189,7 +191,7 @@ LRESULT GetTextRange(Engine& engine, WPARAM, LPARAM lParam)
         *range->lpstrText = u'\0';
         return 0;
     }
-    return Read(engine, {start}, {end}, range->lpstrText);
+    return Read(engine, UnitPos{start}, UnitPos{end}, range->lpstrText);
 }
 
 LRESULT GetStyledText(Engine& engine, WPARAM, LPARAM lParam)

@@ -1,5 +1,7 @@
 #include "engine/TextIndex.h"
 
+#include "engine/Utf.h"
+
 #include <algorithm>
 #include <cstdlib>
 #include <utility>
@@ -16,7 +18,7 @@ constexpr long kWalkBudget =
 constexpr long kWindow = 0x4000; // bytes read at a time; asking for more may move the gap far
 constexpr long kBytesPerUnit = 3; // at most; a pair takes four for two
 constexpr long kLongestCharacter = 4;
-constexpr std::size_t kBlock = 128; // bytes counted at a time, so that the counts fit a byte
+constexpr std::size_t kBlock = 128; // bytes: a walk of so many units takes them whole
 
 std::uintptr_t Word(long value)
 {
@@ -32,24 +34,6 @@ long WidthOf(char lead)
 {
     const auto byte = static_cast<unsigned char>(lead);
     return byte < 0x80 ? 1 : byte < 0xE0 ? 2 : byte < 0xF0 ? 3 : 4;
-}
-
-// How many units begin in the bytes: one for each byte that is not a continuation, and one more for
-// the lead of a pair. A character that is cut counts where its lead stands.
-long CountUnits(const char* bytes, std::size_t size)
-{
-    long units = 0;
-    for (std::size_t at = 0; at < size; at += kBlock) {
-        const std::size_t block = std::min(kBlock, size - at);
-        unsigned char continuations = 0;
-        unsigned char pairs = 0;
-        for (std::size_t i = at; i < at + block; ++i) {
-            continuations += static_cast<signed char>(bytes[i]) < -0x40;
-            pairs += static_cast<unsigned char>(bytes[i]) >= 0xF0;
-        }
-        units += static_cast<long>(block) - continuations + pairs;
-    }
-    return units;
 }
 
 } // namespace
@@ -177,6 +161,18 @@ UnitPos TextIndex::StartOfLine(long line) const
                                          Sci::SC_LINECHARACTERINDEX_UTF16))};
 }
 
+// Units of the line, its line end included.
+long TextIndex::LengthOfLine(long line) const
+{
+    const BytePos start = StartInBytes(line);
+    const BytePos end = StartInBytes(line + 1);
+    if (IsAscii())
+        return end.value - start.value;
+    if (end.value - start.value <= kWindow)
+        return CountUnits(m_raw.Bytes(start.value, end.value));
+    return StartOfLine(line + 1).value - StartOfLine(line).value;
+}
+
 long TextIndex::LineOf(UnitPos position) const
 {
     return static_cast<long>(m_raw.Send(Sci::SCI_LINEFROMPOSITION, Word(ToBytes(position).value)));
@@ -265,7 +261,7 @@ TextIndex::Place TextIndex::WalkForward(Place at, long unit) const
         std::size_t done = 0;
         // A block has no more units than bytes, so that it can be taken whole.
         while (unit - at.unit >= static_cast<long>(kBlock) && bytes.size() - done >= kBlock) {
-            at.unit += CountUnits(bytes.data() + done, kBlock);
+            at.unit += CountUnits(bytes.substr(done, kBlock));
             done += kBlock;
         }
         while (done < bytes.size() && IsContinuation(bytes[done]))
@@ -294,7 +290,7 @@ TextIndex::Place TextIndex::WalkBack(Place at, long unit) const
         std::size_t left = bytes.size();
         while (at.unit - unit >= static_cast<long>(kBlock) && left >= kBlock) {
             left -= kBlock;
-            at.unit -= CountUnits(bytes.data() + left, kBlock);
+            at.unit -= CountUnits(bytes.substr(left, kBlock));
         }
         while (left > 0 && at.unit > unit) {
             --left;
@@ -318,7 +314,7 @@ TextIndex::Place TextIndex::WalkToByte(Place at, long byte) const
         const long start = forwards ? at.byte : std::max(byte, at.byte - kWindow);
         const long end = forwards ? std::min(byte, at.byte + kWindow) : at.byte;
         const std::string_view bytes = m_raw.Bytes(start, end);
-        const long units = CountUnits(bytes.data(), bytes.size());
+        const long units = CountUnits(bytes);
         at.unit += forwards ? units : -units;
         at.byte = forwards ? end : start;
     }

@@ -30,6 +30,7 @@ public:
     long LineOf(UnitPos position) const;   // lines count from 0
     UnitPos StartOfLine(long line) const;  // the line behind the last one starts at the text's end
     BytePos StartInBytes(long line) const; // likewise
+    long LengthOfLine(long line) const;    // units, its line end included
     long Length() const;                   // units
 
     bool IsAscii() const;

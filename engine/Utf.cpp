@@ -2,6 +2,8 @@
 
 #include "platform/text/Utf8.h"
 
+#include <algorithm>
+
 namespace engine {
 namespace {
 
@@ -35,6 +37,25 @@ void Utf8Text::Assign(std::u16string_view text)
 std::u16string_view TerminatedText(const char16_t* text)
 {
     return text ? std::u16string_view(text) : std::u16string_view();
+}
+
+// One for each byte that is not a continuation, and one more for the first byte of a pair.
+long CountUnits(std::string_view text)
+{
+    constexpr std::size_t kBlock =
+        128; // its counts fit a byte, sixteen of which are added at a time
+    long units = 0;
+    for (std::size_t at = 0; at < text.size(); at += kBlock) {
+        const std::size_t end = std::min(text.size(), at + kBlock);
+        unsigned char continuations = 0;
+        unsigned char pairs = 0;
+        for (std::size_t i = at; i < end; ++i) {
+            continuations += static_cast<signed char>(text[i]) < -0x40;
+            pairs += static_cast<unsigned char>(text[i]) >= 0xF0;
+        }
+        units += static_cast<long>(end - at) - continuations + pairs;
+    }
+    return units;
 }
 
 std::size_t ToUtf16(std::string_view text, char16_t* buffer, std::size_t capacity)

@@ -36,6 +36,10 @@ private:
 // Up to the terminator; empty for null.
 std::u16string_view TerminatedText(const char16_t* text);
 
+// How many units begin in the bytes of well-formed text: a character that is cut counts where its
+// first byte stands.
+long CountUnits(std::string_view text);
+
 // Writes the text as UTF-16, in no more units than the capacity, which holds them all. Gives the
 // units written.
 std::size_t ToUtf16(std::string_view text, char16_t* buffer, std::size_t capacity);
