@@ -40,8 +40,8 @@ void ForgetPeak()
 double RawLoad(const char* path)
 {
     RawEngine raw;
-    // Beside the engine's own copy: the line index is a part of that.
-    raw.Send(Sci::SCI_ALLOCATELINECHARACTERINDEX, Sci::SC_LINECHARACTERINDEX_UTF16);
+    ForgetPeak();
+    const double before = StatusBytes("VmRSS:");
     raw.Send(Sci::SCI_SETUNDOCOLLECTION, 0);
     std::FILE* file = std::fopen(path, "rb");
     std::fseek(file, 0, SEEK_END);
@@ -51,14 +51,16 @@ double RawLoad(const char* path)
     while (const std::size_t length = std::fread(block, 1, sizeof block, file))
         raw.Send(Sci::SCI_ADDTEXT, length, block);
     std::fclose(file);
-    return StatusBytes("VmHWM:");
+    return StatusBytes("VmHWM:") - before;
 }
 
 double OurLoad(const char* path)
 {
     ZNCoreEditorWidget editor;
+    ForgetPeak();
+    const double before = StatusBytes("VmRSS:");
     editor.openFile(QString::fromLocal8Bit(path));
-    return StatusBytes("VmHWM:");
+    return StatusBytes("VmHWM:") - before;
 }
 
 double OurSave(const char* path, bool careful)

@@ -74,7 +74,13 @@ public:
 
     void Step()
     {
-        switch (Pick(0, 9)) {
+        m_engine.Parent().heard.clear();
+        const long lines = static_cast<long>(m_model.LineStarts().size());
+        switch (Pick(0, 10)) {
+        case 10:
+            if (Pick(0, 9) == 0)
+                ConvertEols();
+            break;
         case 0:
             Undo();
             break;
@@ -88,6 +94,7 @@ public:
         default:
             Insert();
         }
+        FollowNews(lines);
         CheckAround(AnyPosition());
         if (Pick(0, 63) == 0)
             CheckAll();
@@ -97,6 +104,7 @@ public:
     void StartWith(const std::u16string& text)
     {
         m_model.text = text;
+        m_heardText = text;
         m_engine.SetText(text);
         m_engine.Send(msg::EmptyUndoBuffer);
         m_engine.Parent().heard.clear();
@@ -144,7 +152,6 @@ private:
         const std::u16string gone = m_model.text.substr(static_cast<std::size_t>(from),
                                                         static_cast<std::size_t>(to - from));
         const auto linesBefore = static_cast<long>(m_model.LineStarts().size());
-        m_engine.Parent().heard.clear();
         m_engine.Send(msg::SetTargetStart, static_cast<WPARAM>(from));
         m_engine.Send(msg::SetTargetEnd, static_cast<WPARAM>(to));
         ASSERT_EQ(m_engine.Send(msg::GetTargetStart), from);
@@ -183,6 +190,46 @@ private:
         }
         ASSERT_EQ(next, news.size());
         ASSERT_EQ(added, static_cast<long>(m_model.LineStarts().size()) - linesBefore);
+    }
+
+    // One undo step, like the engine's.
+    void ConvertEols()
+    {
+        const int mode = static_cast<int>(Pick(1, 3));
+        const std::u16string eol = mode == 1 ? u"\r\n" : mode == 2 ? u"\r" : u"\n";
+        std::u16string converted;
+        for (std::size_t i = 0; i < m_model.text.size(); ++i) {
+            const char16_t unit = m_model.text[i];
+            if (unit == u'\r' && i + 1 < m_model.text.size() && m_model.text[i + 1] == u'\n')
+                ++i;
+            if (unit == u'\r' || unit == u'\n')
+                converted += eol;
+            else
+                converted += unit;
+        }
+        m_engine.Send(msg::ConvertEOLs, static_cast<WPARAM>(mode));
+        if (converted != m_model.text)
+            m_model.Change(0, m_model.text.size(), converted);
+    }
+
+    // A parent that knows the text from the notifications alone has the same text.
+    void FollowNews(long linesBefore)
+    {
+        long linesAdded = 0;
+        for (const Heard& heard : m_engine.Parent().Of(notify::Modified)) {
+            const auto at = static_cast<std::size_t>(heard.record.position);
+            const auto length = static_cast<std::size_t>(heard.record.length);
+            linesAdded += heard.record.linesAdded;
+            ASSERT_LE(at, m_heardText.size());
+            if (heard.record.modificationType & modification::InsertText) {
+                m_heardText.insert(at, heard.text);
+            } else {
+                ASSERT_EQ(m_heardText.substr(at, length), heard.text);
+                m_heardText.erase(at, length);
+            }
+        }
+        ASSERT_EQ(m_heardText, m_model.text);
+        ASSERT_EQ(linesAdded, static_cast<long>(m_model.LineStarts().size()) - linesBefore);
     }
 
     void Undo()
@@ -245,6 +292,7 @@ private:
     std::u16string m_alphabet;
     EngineUnderTest m_engine;
     Model m_model;
+    std::u16string m_heardText;
     long m_limit = 400;
 };
 
