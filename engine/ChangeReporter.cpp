@@ -5,6 +5,7 @@
 #include "platform/Window.h"
 
 #include <QMetaObject>
+#include <QPointer>
 #include <QUrl>
 
 #include <algorithm>
@@ -29,11 +30,24 @@ std::vector<ChangeReporter*>& Reporters()
     return reporters;
 }
 
+struct Waiting
+{
+    QPointer<QObject> context;
+    std::function<void()> act;
+};
+
+std::vector<Waiting>& AllWaiting()
+{
+    static std::vector<Waiting> waiting;
+    return waiting;
+}
+
 } // namespace
 
 int ChangeReporter::s_pending = 0;
 int ChangeReporter::s_depth = 0;
 int ChangeReporter::s_noting = 0;
+int ChangeReporter::s_inside = 0;
 
 ChangeReporter::ChangeReporter(QsciScintillaBase& window, const Raw& raw, TextIndex& text)
     : m_window(window), m_raw(raw), m_text(text)
@@ -65,6 +79,23 @@ void ChangeReporter::FlushAll()
     // A handler may close windows, or open some.
     for (std::size_t i = 0; s_pending > 0 && i < Reporters().size(); ++i)
         Reporters()[i]->Flush();
+    if (s_inside > 0)
+        return;
+    for (const Waiting& each : std::exchange(AllWaiting(), {})) {
+        --s_pending;
+        if (each.context)
+            each.act();
+    }
+}
+
+void ChangeReporter::WhenSettled(QObject* context, std::function<void()> act)
+{
+    if (s_inside == 0) {
+        act();
+        return;
+    }
+    AllWaiting().push_back({context, std::move(act)});
+    ++s_pending;
 }
 
 bool ChangeReporter::HasListener() const
@@ -194,8 +225,10 @@ void ChangeReporter::OnModified(int position, int type, int length, int line, in
 {
     if (type & kBefore) {
         ++s_noting;
+        ++s_inside;
         Flush();
         Note({.type = type, .position = {position}, .bytes = length});
+        --s_inside;
         --s_noting;
         return;
     }
@@ -212,7 +245,9 @@ void ChangeReporter::OnModified(int position, int type, int length, int line, in
     record.foldLevelPrev = foldPrev;
     record.token = token;
     record.annotationLinesAdded = annotationLinesAdded;
+    ++s_inside;
     Tell(notify::Modified, record);
+    --s_inside;
 }
 
 void ChangeReporter::Note(Change change)

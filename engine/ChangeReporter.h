@@ -9,6 +9,7 @@
 #include "control/EngineRecords.h"
 #include "engine/TextIndex.h"
 
+#include <functional>
 #include <string>
 #include <vector>
 
@@ -41,6 +42,10 @@ public:
         Scope(const Scope&) = delete;
         Scope& operator=(const Scope&) = delete;
     };
+
+    // Runs what must not happen inside a change of a text, and so not in a notification that comes
+    // from there: at once, or when the changes under way are told.
+    static void WhenSettled(QObject* context, std::function<void()> act);
 
     // Fills in the sender and sends the record, after what waits.
     void Tell(UINT code, SCNotification record = {});
@@ -81,6 +86,7 @@ private:
     static int s_pending;
     static int s_depth;
     static int s_noting;
+    static int s_inside; // notifications that come from inside a change
 };
 
 } // namespace engine

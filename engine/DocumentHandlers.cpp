@@ -12,7 +12,10 @@ LRESULT SetDocPointer(Engine& engine, WPARAM, LPARAM lParam)
 {
     if (lParam && !documents::IsKnown(lParam))
         return 0;
-    engine.ShowDocument(lParam);
+    ChangeReporter::WhenSettled(&engine.window, [&engine, lParam] {
+        if (!lParam || documents::IsKnown(lParam))
+            engine.ShowDocument(lParam);
+    });
     return 0;
 }
 
@@ -57,15 +60,25 @@ LRESULT SetUndoCollection(Engine& engine, WPARAM wParam, LPARAM)
     const bool collect = wParam != 0;
     if (collect == (engine.raw.Send(Sci::SCI_GETUNDOCOLLECTION) != 0))
         return 0;
-    documents::DropUndoActions(engine.Document());
-    return engine.raw.Send(Sci::SCI_SETUNDOCOLLECTION, collect);
+    ChangeReporter::WhenSettled(&engine.window, [&engine, collect] {
+        documents::DropUndoActions(engine.Document());
+        engine.raw.Send(Sci::SCI_SETUNDOCOLLECTION, collect);
+    });
+    return 0;
+}
+
+LRESULT EmptyUndoBuffer(Engine& engine, WPARAM, LPARAM)
+{
+    ChangeReporter::WhenSettled(&engine.window,
+                                [&engine] { engine.raw.Send(Sci::SCI_EMPTYUNDOBUFFER); });
+    return 0;
 }
 
 constexpr HandlerRow kRows[] = {
     {message::SetDocPointer, SetDocPointer},         {message::CreateDocument, CreateDocument},
     {message::AddRefDocument, AddRefDocument},       {message::ReleaseDocument, ReleaseDocument},
     {message::BeginUndoAction, BeginUndoAction},     {message::EndUndoAction, EndUndoAction},
-    {message::SetUndoCollection, SetUndoCollection},
+    {message::SetUndoCollection, SetUndoCollection}, {message::EmptyUndoBuffer, EmptyUndoBuffer},
 };
 
 } // namespace
