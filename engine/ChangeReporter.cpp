@@ -1,6 +1,7 @@
 #include "engine/ChangeReporter.h"
 
 #include "control/EngineMessages.h"
+#include "engine/AssistiveTechnology.h"
 #include "engine/Utf.h"
 #include "platform/Window.h"
 
@@ -255,7 +256,8 @@ void ChangeReporter::Note(Change change)
     const int reported = change.type & modification::BeforeInsert ? modification::InsertText
                                                                   : modification::DeleteText;
     change.told = (m_mask & (reported | (change.type & kOrigin))) && HasListener();
-    if (change.told) {
+    change.spoken = g_assistiveTechnology.listens();
+    if (change.told || change.spoken) {
         change.unit = m_text.ToUnits(change.position);
         change.lines = m_raw.LineCount();
         if (reported == modification::DeleteText)
@@ -280,7 +282,7 @@ void ChangeReporter::Flush()
     const Change change = std::exchange(m_change, Change());
     --s_pending;
     m_text.ChangeDone();
-    if (change.told)
+    if (change.told || change.spoken)
         TellChange(change);
     for (const UINT code : std::exchange(m_savePoints, {})) {
         SCNotification record;
@@ -305,7 +307,23 @@ void ChangeReporter::TellChange(const Change& change)
     record.modificationType |= change.type & kOrigin;
     record.text = text.c_str();
     record.length = static_cast<long>(text.size());
-    Send(notify::Modified, record);
+    if (change.spoken)
+        Speak(change, text);
+    if (change.told)
+        Send(notify::Modified, record);
+}
+
+void ChangeReporter::Speak(const Change& change, const std::u16string& text) const
+{
+    const auto position = static_cast<int>(change.unit.value);
+    const QString spoken = QString::fromStdU16String(text);
+    if (change.type & modification::BeforeInsert) {
+        QAccessibleTextInsertEvent event(&m_window, position, spoken);
+        g_assistiveTechnology.tell(&event);
+    } else {
+        QAccessibleTextRemoveEvent event(&m_window, position, spoken);
+        g_assistiveTechnology.tell(&event);
+    }
 }
 
 void ChangeReporter::OnSavePoint(UINT code)

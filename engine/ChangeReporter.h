@@ -57,8 +57,9 @@ private:
         BytePos position;
         long bytes = 0;
         UnitPos unit;
-        long lines = 0; // before the change
-        bool told = false;
+        long lines = 0;      // before the change
+        bool told = false;   // to the parent
+        bool spoken = false; // to assistive technology
     };
 
     void Connect();
@@ -71,6 +72,7 @@ private:
     void Note(Change change);
     void Flush();
     void TellChange(const Change& change);
+    void Speak(const Change& change, const std::u16string& text) const;
     void Send(UINT code, SCNotification& record);
     bool HasListener() const;
     long Units(long position) const { return m_text.ToUnits({position}).value; }

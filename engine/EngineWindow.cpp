@@ -1,5 +1,7 @@
 #include "engine/EngineWindow.h"
 
+#include "engine/Accessible.h"
+#include "engine/AssistiveTechnology.h"
 #include "platform/Window.h"
 
 #include <QGuiApplication>
@@ -50,6 +52,13 @@ EngineWindow::EngineWindow(QWidget* parent) : QsciScintillaBase(parent), m_engin
 {
     setFrameShape(QFrame::NoFrame);
     setAccessibleName(tr("Text editor"));
+    connect(this, &Sci::SCN_UPDATEUI, this, [this](int updated) {
+        if (!g_assistiveTechnology.listens() || !(updated & Sci::SC_UPDATE_SELECTION))
+            return;
+        QAccessibleTextCursorEvent moved(
+            this, static_cast<int>(m_engine.Units(SendScintilla(SCI_GETCURRENTPOS))));
+        g_assistiveTechnology.tell(&moved);
+    });
 }
 
 LRESULT EngineWindow::Direct(LRESULT instance, UINT message, WPARAM wParam, LPARAM lParam)
@@ -167,6 +176,7 @@ void EngineWindow::paintEvent(QPaintEvent* event)
 
 void RegisterEngineWindow()
 {
+    Accessible::InstallFactory();
     RegisterWindowClass({kWindowClass,
                          [](QWidget* parent) -> QWidget* { return new EngineWindow(parent); },
                          &EngineWindow::Procedure});

@@ -23,6 +23,8 @@ public:
     // The procedure of the window class.
     static LRESULT Procedure(HWND window, UINT message, WPARAM wParam, LPARAM lParam);
 
+    Engine& GetEngine() { return m_engine; }
+
 protected:
     bool event(QEvent* event) override;
     bool viewportEvent(QEvent* event) override;
