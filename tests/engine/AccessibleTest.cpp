@@ -1,5 +1,6 @@
 // An engine window as assistive technology sees it.
 #include "engine/Accessible.h"
+#include "engine/AssistiveTechnology.h"
 #include "tests/engine/EngineFixture.h"
 
 #include <gtest/gtest.h>
@@ -65,17 +66,12 @@ bool No()
 
 struct Listening
 {
-    Listening() : before(QAccessible::installUpdateHandler(Listen))
+    explicit Listening(bool listens)
     {
         s_spoken.clear();
-        QAccessible::setActive(true);
+        engine::g_assistiveTechnology = {listens ? Yes : No, Listen};
     }
-    ~Listening()
-    {
-        QAccessible::setActive(false);
-        QAccessible::installUpdateHandler(before);
-    }
-    QAccessible::UpdateHandler before;
+    ~Listening() { engine::g_assistiveTechnology = {}; }
 };
 
 } // namespace
@@ -209,7 +205,7 @@ TEST_F(AccessibleText, OfALongLineLittleIsRead)
 TEST_F(AccessibleText, TellsChangesAndCaretWhileSomebodyListens)
 {
     m_engine.SetText(kText);
-    const Listening listening;
+    const Listening listening(true);
     m_engine.Send(msg::SetSel, 5, 7);
     m_engine.Send(msg::ReplaceSel, 0, u"\u4e2d");
     m_engine.Window()->grab();
@@ -224,13 +220,9 @@ TEST_F(AccessibleText, TellsChangesAndCaretWhileSomebodyListens)
 
 TEST_F(AccessibleText, TellsNothingWhileNobodyListens)
 {
-    {
-        const Listening once;
-    }
-    const auto before = QAccessible::installUpdateHandler(Listen);
+    const Listening listening(false);
     m_engine.SetText(kText);
     m_engine.Send(msg::GotoPos, 3);
     m_engine.Window()->grab();
-    QAccessible::installUpdateHandler(before);
     EXPECT_TRUE(s_spoken.empty());
 }
