@@ -1,10 +1,12 @@
 #include "engine/ChangeReporter.h"
 
 #include "control/EngineMessages.h"
+#include "engine/AssistiveTechnology.h"
 #include "engine/Utf.h"
 #include "platform/Window.h"
 
 #include <QMetaObject>
+#include <QPointer>
 #include <QUrl>
 
 #include <algorithm>
@@ -28,11 +30,24 @@ std::vector<ChangeReporter*>& Reporters()
     return reporters;
 }
 
+struct Waiting
+{
+    QPointer<QObject> context;
+    std::function<void()> act;
+};
+
+std::vector<Waiting>& AllWaiting()
+{
+    static std::vector<Waiting> waiting;
+    return waiting;
+}
+
 } // namespace
 
 int ChangeReporter::s_pending = 0;
 int ChangeReporter::s_depth = 0;
 int ChangeReporter::s_noting = 0;
+int ChangeReporter::s_inside = 0;
 
 ChangeReporter::ChangeReporter(QsciScintillaBase& window, const Raw& raw, TextIndex& text)
     : m_window(window), m_raw(raw), m_text(text)
@@ -64,6 +79,23 @@ void ChangeReporter::FlushAll()
     // A handler may close windows, or open some.
     for (std::size_t i = 0; s_pending > 0 && i < Reporters().size(); ++i)
         Reporters()[i]->Flush();
+    if (s_inside > 0)
+        return;
+    for (const Waiting& each : std::exchange(AllWaiting(), {})) {
+        --s_pending;
+        if (each.context)
+            each.act();
+    }
+}
+
+void ChangeReporter::WhenSettled(QObject* context, std::function<void()> act)
+{
+    if (s_inside == 0) {
+        act();
+        return;
+    }
+    AllWaiting().push_back({context, std::move(act)});
+    ++s_pending;
 }
 
 bool ChangeReporter::HasListener() const
@@ -193,8 +225,10 @@ void ChangeReporter::OnModified(int position, int type, int length, int line, in
 {
     if (type & kBefore) {
         ++s_noting;
+        ++s_inside;
         Flush();
         Note({.type = type, .position = {position}, .bytes = length});
+        --s_inside;
         --s_noting;
         return;
     }
@@ -211,7 +245,9 @@ void ChangeReporter::OnModified(int position, int type, int length, int line, in
     record.foldLevelPrev = foldPrev;
     record.token = token;
     record.annotationLinesAdded = annotationLinesAdded;
+    ++s_inside;
     Tell(notify::Modified, record);
+    --s_inside;
 }
 
 void ChangeReporter::Note(Change change)
@@ -219,7 +255,8 @@ void ChangeReporter::Note(Change change)
     const int reported = change.type & modification::BeforeInsert ? modification::InsertText
                                                                   : modification::DeleteText;
     change.told = (m_mask & (reported | (change.type & kOrigin))) && HasListener();
-    if (change.told) {
+    change.spoken = g_assistiveTechnology.listens();
+    if (change.told || change.spoken) {
         change.unit = m_text.ToUnits(change.position);
         change.lines = m_raw.LineCount();
         if (reported == modification::DeleteText)
@@ -244,7 +281,7 @@ void ChangeReporter::Flush()
     const Change change = std::exchange(m_change, Change());
     --s_pending;
     m_text.ChangeDone();
-    if (change.told)
+    if (change.told || change.spoken)
         TellChange(change);
     for (const UINT code : std::exchange(m_savePoints, {})) {
         SCNotification record;
@@ -269,7 +306,23 @@ void ChangeReporter::TellChange(const Change& change)
     record.modificationType |= change.type & kOrigin;
     record.text = text.c_str();
     record.length = static_cast<long>(text.size());
-    Send(notify::Modified, record);
+    if (change.spoken)
+        Speak(change, text);
+    if (change.told)
+        Send(notify::Modified, record);
+}
+
+void ChangeReporter::Speak(const Change& change, const std::u16string& text) const
+{
+    const auto position = static_cast<int>(change.unit.value);
+    const QString spoken = QString::fromStdU16String(text);
+    if (change.type & modification::BeforeInsert) {
+        QAccessibleTextInsertEvent event(&m_window, position, spoken);
+        g_assistiveTechnology.tell(&event);
+    } else {
+        QAccessibleTextRemoveEvent event(&m_window, position, spoken);
+        g_assistiveTechnology.tell(&event);
+    }
 }
 
 void ChangeReporter::OnSavePoint(UINT code)

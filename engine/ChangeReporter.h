@@ -9,6 +9,7 @@
 #include "control/EngineRecords.h"
 #include "engine/TextIndex.h"
 
+#include <functional>
 #include <string>
 #include <vector>
 
@@ -42,6 +43,10 @@ public:
         Scope& operator=(const Scope&) = delete;
     };
 
+    // Runs what must not happen inside a change of a text, and so not in a notification that comes
+    // from there: at once, or when the changes under way are told.
+    static void WhenSettled(QObject* context, std::function<void()> act);
+
     // Fills in the sender and sends the record, after what waits.
     void Tell(UINT code, SCNotification record = {});
 
@@ -52,8 +57,9 @@ private:
         BytePos position;
         long bytes = 0;
         UnitPos unit;
-        long lines = 0; // before the change
-        bool told = false;
+        long lines = 0;      // before the change
+        bool told = false;   // to the parent
+        bool spoken = false; // to assistive technology
     };
 
     void Connect();
@@ -66,6 +72,7 @@ private:
     void Note(Change change);
     void Flush();
     void TellChange(const Change& change);
+    void Speak(const Change& change, const std::u16string& text) const;
     void Send(UINT code, SCNotification& record);
     bool HasListener() const;
     long Units(long position) const { return m_text.ToUnits({position}).value; }
@@ -81,6 +88,7 @@ private:
     static int s_pending;
     static int s_depth;
     static int s_noting;
+    static int s_inside; // notifications that come from inside a change
 };
 
 } // namespace engine

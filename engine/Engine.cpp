@@ -1,5 +1,7 @@
 #include "engine/Engine.h"
 
+#include "engine/Documents.h"
+#include "engine/Fences.h"
 #include "engine/Handlers.h"
 
 #include <array>
@@ -25,6 +27,7 @@ struct Answerer
     Way way = Way::None;
     const MessageRow* row = nullptr;
     Handler handler = nullptr;
+    Fence fence = nullptr; // of a row that is translated
 };
 
 constexpr bool IsPlain(Kind kind)
@@ -45,13 +48,18 @@ const Answerers& AllAnswerers()
                                ? Answerer::Way::Pass
                                : Answerer::Way::Translate;
         }
-        for (const auto handlers :
-             {TextHandlers(), PositionHandlers(), SettingHandlers(), PrintHandlers()}) {
+        for (const auto handlers : {TextHandlers(), PositionHandlers(), SettingHandlers(),
+                                    PrintHandlers(), DocumentHandlers(), ImageHandlers()}) {
             for (const HandlerRow& row : handlers) {
                 Answerer& answerer = all[row.number - kFirstNumber];
                 answerer.handler = row.run;
                 answerer.way = Answerer::Way::Handle;
             }
+        }
+        for (const FenceRow& row : Fences()) {
+            Answerer& answerer = all[row.number - kFirstNumber];
+            answerer.fence = row.admits;
+            answerer.way = Answerer::Way::Translate;
         }
         return all;
     }();
@@ -72,8 +80,23 @@ Engine::Engine(QsciScintillaBase& widget)
     PrepareDocument();
 }
 
+Engine::~Engine()
+{
+    documents::Left(m_document);
+}
+
+void Engine::ShowDocument(LPARAM document)
+{
+    raw.Send(Sci::SCI_SETDOCPOINTER, 0, document);
+    PrepareDocument();
+}
+
 void Engine::PrepareDocument()
 {
+    const LRESULT left = m_document;
+    m_document = raw.Send(Sci::SCI_GETDOCPOINTER);
+    documents::Shown(m_document);
+    documents::Left(left);
     raw.Send(Sci::SCI_SETCODEPAGE, Sci::SC_CP_UTF8);
     text.Reset();
 }
@@ -94,7 +117,8 @@ LRESULT Engine::Perform(UINT message, WPARAM wParam, LPARAM lParam)
         result = raw.Send(message, wParam, lParam);
         break;
     case Answerer::Way::Translate:
-        result = Translate(*answerer.row, wParam, lParam);
+        if (!answerer.fence || answerer.fence(*this, wParam, lParam))
+            result = Translate(*answerer.row, wParam, lParam);
         break;
     case Answerer::Way::Handle:
         result = answerer.handler(*this, wParam, lParam);
@@ -107,7 +131,7 @@ LRESULT Engine::Perform(UINT message, WPARAM wParam, LPARAM lParam)
 
 long Engine::Bytes(LPARAM position) const
 {
-    return position < 0 ? static_cast<long>(position) : text.ToBytes({position}).value;
+    return position < 0 ? -1 : text.ToBytes({position}).value;
 }
 
 long Engine::Units(long position) const
@@ -126,8 +150,6 @@ LRESULT Engine::Translate(const MessageRow& row, WPARAM wParam, LPARAM lParam)
         case Kind::Line:
             return ClampedLine(raw, static_cast<int>(value));
         case Kind::TextIn:
-            if (!value)
-                return 0;
             scratch.Assign(TerminatedText(reinterpret_cast<const char16_t*>(value)));
             return reinterpret_cast<LPARAM>(scratch.Data());
         default:

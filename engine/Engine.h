@@ -28,14 +28,18 @@ class Engine
 {
 public:
     explicit Engine(QsciScintillaBase& window);
+    ~Engine();
+    Engine(const Engine&) = delete;
+    Engine& operator=(const Engine&) = delete;
 
     // Answers a message. A number outside the table answers 0.
     LRESULT Perform(UINT message, WPARAM wParam, LPARAM lParam);
 
-    // After the window got another document: the index belongs to the document.
-    void PrepareDocument();
+    // 0: an empty one of its own.
+    void ShowDocument(LPARAM document);
+    LRESULT Document() const { return m_document; }
 
-    // A position of the channel in bytes; a negative one stays as it is.
+    // A position of the channel in bytes. All negative ones mean the same, and come out as -1.
     long Bytes(LPARAM position) const;
     long Units(long position) const;
 
@@ -56,7 +60,11 @@ public:
     int lengthForEncode = -1; // bytes; -1: up to the terminator
 
 private:
+    // After the window got another document: the index belongs to the document.
+    void PrepareDocument();
     LRESULT Translate(const MessageRow& row, WPARAM wParam, LPARAM lParam);
+
+    LRESULT m_document = 0;
 };
 
 } // namespace engine

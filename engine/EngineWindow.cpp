@@ -1,8 +1,13 @@
 #include "engine/EngineWindow.h"
 
+#include "engine/Accessible.h"
+#include "engine/AssistiveTechnology.h"
 #include "platform/Window.h"
 
-#include <QScrollBar>
+#include <QGuiApplication>
+#include <QInputMethod>
+#include <QKeyEvent>
+#include <QPainter>
 
 namespace engine {
 namespace {
@@ -47,6 +52,13 @@ EngineWindow::EngineWindow(QWidget* parent) : QsciScintillaBase(parent), m_engin
 {
     setFrameShape(QFrame::NoFrame);
     setAccessibleName(tr("Text editor"));
+    connect(this, &Sci::SCN_UPDATEUI, this, [this](int updated) {
+        if (!g_assistiveTechnology.listens() || !(updated & Sci::SC_UPDATE_SELECTION))
+            return;
+        QAccessibleTextCursorEvent moved(
+            this, static_cast<int>(m_engine.Units(SendScintilla(SCI_GETCURRENTPOS))));
+        g_assistiveTechnology.tell(&moved);
+    });
 }
 
 LRESULT EngineWindow::Direct(LRESULT instance, UINT message, WPARAM wParam, LPARAM lParam)
@@ -80,8 +92,91 @@ QMimeData* EngineWindow::toMimeData(const QByteArray& text, bool rectangular) co
         m_engine.copyEol > 0 ? WithLineEnds(text, m_engine.copyEol) : text, rectangular);
 }
 
+// Types the text as one undo step. The stock handler of a commit, which types character by
+// character, is used for that alone: its compositions stand in the text.
+void EngineWindow::TypeText(const QString& text)
+{
+    if (m_engine.raw.Send(Sci::SCI_GETREADONLY)) {
+        m_engine.reporter.Tell(notify::ModifyAttemptReadOnly);
+        return;
+    }
+    QInputMethodEvent commit;
+    commit.setCommitString(text);
+    QsciScintillaBase::inputMethodEvent(&commit);
+}
+
+void EngineWindow::inputMethodEvent(QInputMethodEvent* event)
+{
+    const bool changesText = !event->commitString().isEmpty() || event->replacementLength() > 0;
+    if (changesText)
+        m_engine.Perform(message::BeginUndoAction, 0, 0);
+    m_inputMethod.Begin(*event);
+    if (!event->commitString().isEmpty())
+        TypeText(event->commitString());
+    if (changesText)
+        m_engine.Perform(message::EndUndoAction, 0, 0);
+    event->accept();
+    viewport()->update();
+    updateMicroFocus();
+}
+
+QVariant EngineWindow::inputMethodQuery(Qt::InputMethodQuery query) const
+{
+    if (query == Qt::ImHints)
+        return static_cast<int>(inputMethodHints() | Qt::ImhMultiLine);
+    QVariant answer = m_inputMethod.Answer(query);
+    if (query == Qt::ImCursorRectangle)
+        return answer.toRect().translated(viewport()->pos());
+    return answer.isValid() ? answer : QAbstractScrollArea::inputMethodQuery(query);
+}
+
+// Asks the input method to commit, and gives up what it then still composes.
+void EngineWindow::EndComposition()
+{
+    if (!m_inputMethod.IsComposing())
+        return;
+    QGuiApplication::inputMethod()->commit();
+    m_inputMethod.Discard();
+    viewport()->update();
+}
+
+void EngineWindow::focusOutEvent(QFocusEvent* event)
+{
+    EndComposition();
+    QsciScintillaBase::focusOutEvent(event);
+}
+
+void EngineWindow::mousePressEvent(QMouseEvent* event)
+{
+    EndComposition();
+    QsciScintillaBase::mousePressEvent(event);
+}
+
+// The stock handler takes a pair of surrogates for something that cannot be printed.
+void EngineWindow::keyPressEvent(QKeyEvent* event)
+{
+    const QString text = event->text();
+    const bool isCommand = event->modifiers() & (Qt::ControlModifier | Qt::MetaModifier);
+    if (!text.isEmpty() && text.front().isHighSurrogate() && !isCommand) {
+        TypeText(text);
+        event->accept();
+        return;
+    }
+    QsciScintillaBase::keyPressEvent(event);
+}
+
+void EngineWindow::paintEvent(QPaintEvent* event)
+{
+    QsciScintillaBase::paintEvent(event);
+    if (m_inputMethod.IsComposing()) {
+        QPainter painter(viewport());
+        m_inputMethod.Draw(painter);
+    }
+}
+
 void RegisterEngineWindow()
 {
+    Accessible::InstallFactory();
     RegisterWindowClass({kWindowClass,
                          [](QWidget* parent) -> QWidget* { return new EngineWindow(parent); },
                          &EngineWindow::Procedure});

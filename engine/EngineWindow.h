@@ -1,7 +1,10 @@
 // EngineWindow: the widget of the window class, an editor that is driven by numbered messages.
+// A parent that closes the window from inside one of its notifications does so by deleteLater: the
+// stock engine goes on with the message or the event that it was told from.
 #pragma once
 
 #include "engine/Engine.h"
+#include "engine/InputMethod.h"
 
 #include <QMimeData>
 
@@ -20,13 +23,25 @@ public:
     // The procedure of the window class.
     static LRESULT Procedure(HWND window, UINT message, WPARAM wParam, LPARAM lParam);
 
+    Engine& GetEngine() { return m_engine; }
+
 protected:
     bool event(QEvent* event) override;
     bool viewportEvent(QEvent* event) override;
+    void focusOutEvent(QFocusEvent* event) override;
+    void inputMethodEvent(QInputMethodEvent* event) override;
+    QVariant inputMethodQuery(Qt::InputMethodQuery query) const override;
+    void keyPressEvent(QKeyEvent* event) override;
+    void mousePressEvent(QMouseEvent* event) override;
+    void paintEvent(QPaintEvent* event) override;
     QMimeData* toMimeData(const QByteArray& text, bool rectangular) const override;
 
 private:
+    void EndComposition();
+    void TypeText(const QString& text);
+
     Engine m_engine;
+    InputMethod m_inputMethod{m_engine};
 };
 
 // Makes the window class known. Once for the process.

@@ -140,13 +140,6 @@ LRESULT CallTipShow(Engine& engine, WPARAM wParam, LPARAM lParam)
                            tip.Data());
 }
 
-LRESULT SetDocPointer(Engine& engine, WPARAM, LPARAM lParam)
-{
-    engine.raw.Send(Sci::SCI_SETDOCPOINTER, 0, lParam);
-    engine.PrepareDocument();
-    return 0;
-}
-
 constexpr HandlerRow kRows[] = {
     {message::GetLength, GetLength},
     {message::GetTextLength, GetLength},
@@ -159,7 +152,6 @@ constexpr HandlerRow kRows[] = {
     {message::FindTextW, FindText},
     {message::CallTipSetHlt, CallTipSetHlt},
     {message::CallTipShow, CallTipShow},
-    {message::SetDocPointer, SetDocPointer},
 };
 
 } // namespace

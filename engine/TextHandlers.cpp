@@ -82,6 +82,7 @@ LRESULT AddStyledText(Engine& engine, WPARAM wParam, LPARAM lParam)
 {
     const std::u16string_view cells = CountedText(wParam, lParam);
     std::string bytes;
+    std::string styles;
     for (std::size_t i = 0; i + 1 < cells.size(); i += 2) {
         char16_t character[2] = {cells[i], 0};
         std::size_t units = 1;
@@ -92,13 +93,18 @@ LRESULT AddStyledText(Engine& engine, WPARAM wParam, LPARAM lParam)
             i += 2;
         }
         const Utf8Text text(std::u16string_view(character, units));
-        for (const char byte : text.View()) {
-            bytes.push_back(byte);
-            bytes.push_back(static_cast<char>(cells[i + 1]));
-        }
+        bytes += text.View();
+        styles.append(text.Size(), static_cast<char>(cells[i + 1]));
     }
-    engine.raw.Send(Sci::SCI_ADDSTYLEDTEXT, bytes.size(), bytes.data());
+    // In two steps: the stock message styles what a read-only text did not take, and aborts.
+    const long before = engine.raw.Length();
+    const LRESULT from = engine.raw.Send(Sci::SCI_GETCURRENTPOS);
+    engine.raw.Send(Sci::SCI_ADDTEXT, bytes.size(), bytes.data());
     ThrowIfOutOfMemory(engine);
+    if (engine.raw.Length() == before + static_cast<long>(bytes.size()) && !bytes.empty()) {
+        engine.raw.Send(Sci::SCI_STARTSTYLING, static_cast<WPARAM>(from));
+        engine.raw.Send(Sci::SCI_SETSTYLINGEX, styles.size(), styles.data());
+    }
     return 0;
 }
 

@@ -1,0 +1,17 @@
+// Who is told of changes and caret moves besides the parent. Qt's own, which is there only where a
+// desktop runs; a test puts its own in place.
+#pragma once
+
+#include <QAccessible>
+
+namespace engine {
+
+struct AssistiveTechnology
+{
+    bool (*listens)() = QAccessible::isActive;
+    void (*tell)(QAccessibleEvent* event) = QAccessible::updateAccessibility;
+};
+
+inline AssistiveTechnology g_assistiveTechnology;
+
+} // namespace engine

@@ -1,0 +1,91 @@
+// Messages about the text as a whole: which one a window shows, and how its changes are grouped.
+#include "engine/Documents.h"
+#include "engine/Engine.h"
+#include "engine/Handlers.h"
+
+namespace engine {
+namespace {
+
+using Sci = QsciScintillaBase;
+
+LRESULT SetDocPointer(Engine& engine, WPARAM, LPARAM lParam)
+{
+    if (lParam && !documents::IsKnown(lParam))
+        return 0;
+    ChangeReporter::WhenSettled(&engine.window, [&engine, lParam] {
+        if (!lParam || documents::IsKnown(lParam))
+            engine.ShowDocument(lParam);
+    });
+    return 0;
+}
+
+LRESULT CreateDocument(Engine& engine, WPARAM, LPARAM)
+{
+    const LRESULT document = engine.raw.Send(Sci::SCI_CREATEDOCUMENT);
+    documents::Created(document);
+    return document;
+}
+
+LRESULT AddRefDocument(Engine& engine, WPARAM, LPARAM lParam)
+{
+    if (documents::AddReference(lParam))
+        engine.raw.Send(Sci::SCI_ADDREFDOCUMENT, 0, lParam);
+    return 0;
+}
+
+LRESULT ReleaseDocument(Engine& engine, WPARAM, LPARAM lParam)
+{
+    if (documents::Release(lParam))
+        engine.raw.Send(Sci::SCI_RELEASEDOCUMENT, 0, lParam);
+    return 0;
+}
+
+LRESULT BeginUndoAction(Engine& engine, WPARAM, LPARAM)
+{
+    documents::BeginUndoAction(engine.Document());
+    return engine.raw.Send(Sci::SCI_BEGINUNDOACTION);
+}
+
+LRESULT EndUndoAction(Engine& engine, WPARAM, LPARAM)
+{
+    if (documents::EndUndoAction(engine.Document()))
+        engine.raw.Send(Sci::SCI_ENDUNDOACTION);
+    return 0;
+}
+
+// The stock engine forgets here how many actions stand open, so a setting that is no change must
+// not come to it: it may do so inside an action of its own.
+LRESULT SetUndoCollection(Engine& engine, WPARAM wParam, LPARAM)
+{
+    const bool collect = wParam != 0;
+    if (collect == (engine.raw.Send(Sci::SCI_GETUNDOCOLLECTION) != 0))
+        return 0;
+    ChangeReporter::WhenSettled(&engine.window, [&engine, collect] {
+        documents::DropUndoActions(engine.Document());
+        engine.raw.Send(Sci::SCI_SETUNDOCOLLECTION, collect);
+    });
+    return 0;
+}
+
+LRESULT EmptyUndoBuffer(Engine& engine, WPARAM, LPARAM)
+{
+    ChangeReporter::WhenSettled(&engine.window,
+                                [&engine] { engine.raw.Send(Sci::SCI_EMPTYUNDOBUFFER); });
+    return 0;
+}
+
+constexpr HandlerRow kRows[] = {
+    {message::SetDocPointer, SetDocPointer},         {message::CreateDocument, CreateDocument},
+    {message::AddRefDocument, AddRefDocument},       {message::ReleaseDocument, ReleaseDocument},
+    {message::BeginUndoAction, BeginUndoAction},     {message::EndUndoAction, EndUndoAction},
+    {message::SetUndoCollection, SetUndoCollection}, {message::EmptyUndoBuffer, EmptyUndoBuffer},
+};
+
+} // namespace
+
+std::span<const HandlerRow> DocumentHandlers()
+{
+    return kRows;
+}
+
+} // namespace engine

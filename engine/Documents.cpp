@@ -1,0 +1,95 @@
+#include "engine/Documents.h"
+
+#include <unordered_map>
+
+namespace engine::documents {
+namespace {
+
+struct Record
+{
+    int windows = 0;
+    int references = 0;
+    int undoActions = 0;
+};
+
+std::unordered_map<Document, Record>& All()
+{
+    static std::unordered_map<Document, Record> records;
+    return records;
+}
+
+Record* Find(Document document)
+{
+    const auto found = All().find(document);
+    return found != All().end() ? &found->second : nullptr;
+}
+
+// The stock engine frees a document with its last holder, and may give the address out again.
+void ForgetIfFree(Document document)
+{
+    const Record* record = Find(document);
+    if (record && record->windows == 0 && record->references == 0)
+        All().erase(document);
+}
+
+bool TakeOne(int Record::*count, Document document)
+{
+    Record* record = Find(document);
+    if (!record || record->*count == 0)
+        return false;
+    --(record->*count);
+    ForgetIfFree(document);
+    return true;
+}
+
+} // namespace
+
+bool IsKnown(Document document)
+{
+    return Find(document) != nullptr;
+}
+
+void Shown(Document document)
+{
+    ++All()[document].windows;
+}
+
+void Left(Document document)
+{
+    TakeOne(&Record::windows, document);
+}
+
+void Created(Document document)
+{
+    ++All()[document].references;
+}
+
+bool AddReference(Document document)
+{
+    Record* record = Find(document);
+    if (record)
+        ++record->references;
+    return record != nullptr;
+}
+
+bool Release(Document document)
+{
+    return TakeOne(&Record::references, document);
+}
+
+void BeginUndoAction(Document document)
+{
+    ++All()[document].undoActions;
+}
+
+bool EndUndoAction(Document document)
+{
+    return TakeOne(&Record::undoActions, document);
+}
+
+void DropUndoActions(Document document)
+{
+    All()[document].undoActions = 0;
+}
+
+} // namespace engine::documents

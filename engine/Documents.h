@@ -1,0 +1,28 @@
+// The stock engine's texts by pointer: who holds them, and how many undo actions stand open in
+// each. The stock engine trusts the pointers and the counts that it is given, and aborts if they
+// are wrong; here what is not known, or would go below nothing, is ignored.
+#pragma once
+
+#include <cstdint>
+
+namespace engine::documents {
+
+using Document = std::intptr_t;
+
+bool IsKnown(Document document);
+
+// A window begins or ceases to show the document.
+void Shown(Document document);
+void Left(Document document);
+
+// References of hosts. Release gives false if hosts hold none.
+void Created(Document document);
+bool AddReference(Document document);
+bool Release(Document document);
+
+// Undo actions that hosts have begun and not ended. End gives false if there is none.
+void BeginUndoAction(Document document);
+bool EndUndoAction(Document document);
+void DropUndoActions(Document document);
+
+} // namespace engine::documents

@@ -1,0 +1,136 @@
+#include "engine/Fences.h"
+
+#include "engine/Engine.h"
+
+#include <algorithm>
+
+namespace engine {
+namespace {
+
+using Sci = QsciScintillaBase;
+
+constexpr long kStyles = 256;
+constexpr long kWidestIndentation = 64 * 1024; // columns; it is made of real characters
+
+long Number(std::uintptr_t value)
+{
+    return static_cast<int>(value);
+}
+
+// The table of styles grows to any number that is set, and is read behind its end.
+bool IsStyle(const Engine&, WPARAM& wParam, LPARAM&)
+{
+    const long style = Number(wParam);
+    wParam = static_cast<WPARAM>(style);
+    return style >= 0 && style < kStyles;
+}
+
+// The stock engine makes styles when they are set or asked for, not when they are measured with.
+bool IsStyleMade(const Engine& engine, WPARAM& wParam, LPARAM& lParam)
+{
+    if (!IsStyle(engine, wParam, lParam))
+        return false;
+    engine.raw.Send(Sci::SCI_STYLEGETSIZE, wParam);
+    return true;
+}
+
+bool IsStyleWithFont(const Engine& engine, WPARAM& wParam, LPARAM& lParam)
+{
+    return lParam && IsStyle(engine, wParam, lParam);
+}
+
+// The tables by line are read where they have no entry.
+bool IsLine(const Engine& engine, WPARAM& wParam, LPARAM&)
+{
+    const long line = Number(wParam);
+    return line >= 0 && line < engine.raw.LineCount();
+}
+
+bool IsNarrowIndentation(const Engine& engine, WPARAM& wParam, LPARAM& lParam)
+{
+    lParam = std::clamp(Number(static_cast<WPARAM>(lParam)), 0L, kWidestIndentation);
+    return IsLine(engine, wParam, lParam);
+}
+
+// A flag that is neither 0 nor 1 aborts.
+bool MakesFlag(const Engine&, WPARAM& wParam, LPARAM&)
+{
+    wParam = wParam != 0;
+    return true;
+}
+
+bool IsCaretSticky(const Engine&, WPARAM& wParam, LPARAM&)
+{
+    return wParam <= Sci::SC_CARETSTICKY_WHITESPACE;
+}
+
+bool MakesPositive(const Engine&, WPARAM& wParam, LPARAM&)
+{
+    wParam = static_cast<WPARAM>(std::max(Number(wParam), 1L));
+    return true;
+}
+
+bool MakesNotNegative(const Engine&, WPARAM& wParam, LPARAM&)
+{
+    wParam = static_cast<WPARAM>(std::max(Number(wParam), 0L));
+    return true;
+}
+
+// Words end nowhere before the text.
+bool MakesPosition(const Engine&, WPARAM& wParam, LPARAM&)
+{
+    wParam = static_cast<WPARAM>(std::max(static_cast<LPARAM>(wParam), LPARAM{0}));
+    return true;
+}
+
+// A list that is not shown has no rows to ask.
+bool IsListShown(const Engine& engine, WPARAM&, LPARAM&)
+{
+    return engine.raw.Send(Sci::SCI_AUTOCACTIVE) != 0;
+}
+
+// Null is no text at all, where an empty one would mean something else.
+bool HasText(const Engine&, WPARAM&, LPARAM& lParam)
+{
+    return lParam != 0;
+}
+
+constexpr FenceRow kRows[] = {
+    {message::StyleSetFore, IsStyle},
+    {message::StyleSetBack, IsStyle},
+    {message::StyleSetBold, IsStyle},
+    {message::StyleSetItalic, IsStyle},
+    {message::StyleSetSize, IsStyle},
+    {message::StyleSetFont, IsStyleWithFont},
+    {message::StyleSetEOLFilled, IsStyle},
+    {message::StyleSetUnderline, IsStyle},
+    {message::StyleSetCase, IsStyle},
+    {message::StyleSetCharacterSet, IsStyle},
+    {message::StyleSetVisible, IsStyle},
+    {message::StyleSetChangeable, IsStyle},
+    {message::StyleSetHotSpot, IsStyle},
+    {message::TextWidth, IsStyleMade},
+    {message::SetLineState, IsLine},
+    {message::GetLineState, IsLine},
+    {message::WrapCount, IsLine},
+    {message::SetLineIndentation, IsNarrowIndentation},
+    {message::SetEndAtLastLine, MakesFlag},
+    {message::SetCaretSticky, IsCaretSticky},
+    {message::SetScrollWidth, MakesPositive},
+    {message::Allocate, MakesNotNegative},
+    {message::WordStartPosition, MakesPosition},
+    {message::WordEndPosition, MakesPosition},
+    {message::AutoCComplete, IsListShown},
+    {message::AutoCSelect, IsListShown},
+    {message::SetWordChars, HasText},
+    {message::SetWhitespaceChars, HasText},
+};
+
+} // namespace
+
+std::span<const FenceRow> Fences()
+{
+    return kRows;
+}
+
+} // namespace engine
