@@ -22,14 +22,19 @@ protected:
 
 } // namespace
 
-TEST_F(Composition, ShowsWhatIsBeingComposedAtTheCaret)
+TEST_F(Composition, ShowsWhatIsBeingComposedWithoutPuttingItIntoTheText)
 {
     Open("a.sql", "ab\n");
     Editor().GotoPos(1, 1);
+    const QImage before = Keyboard()->grab().toImage();
     Compose(QStringLiteral("にほ"), {});
-    EXPECT_EQ(Text(), QStringLiteral("aにほb\n"));
+    const QImage composing = Keyboard()->grab().toImage();
+    EXPECT_NE(composing, before);
+    EXPECT_EQ(Text(), QStringLiteral("ab\n"));
     Compose(QStringLiteral("日本"), {});
-    EXPECT_EQ(Text(), QStringLiteral("a日本b\n"));
+    EXPECT_NE(Keyboard()->grab().toImage(), composing);
+    EXPECT_EQ(Text(), QStringLiteral("ab\n"));
+    EXPECT_FALSE(Tab().IsModified());
 }
 
 TEST_F(Composition, LeavesNothingBehindWhenItIsGivenUp)
