@@ -140,7 +140,43 @@ LRESULT CallTipShow(Engine& engine, WPARAM wParam, LPARAM lParam)
                            tip.Data());
 }
 
+// A line of this many bytes takes long to lay out, and far longer before it is styled: the widths
+// of short pieces are cached.
+constexpr long kLongLine = 256 * 1024;
+
+void ShowLine(Engine& engine, long line)
+{
+    const auto first = static_cast<long>(engine.raw.Send(Sci::SCI_GETFIRSTVISIBLELINE));
+    const auto onScreen = static_cast<long>(engine.raw.Send(Sci::SCI_LINESONSCREEN));
+    const auto display =
+        static_cast<long>(engine.raw.Send(Sci::SCI_VISIBLEFROMDOCLINE, static_cast<WPARAM>(line)));
+    if (display < first || display >= first + onScreen)
+        engine.raw.Send(Sci::SCI_SETFIRSTVISIBLELINE, static_cast<WPARAM>(display));
+    engine.raw.Send(Sci::SCI_SETXOFFSET, 0);
+}
+
+// The stock engine lays the caret's line out to bring the caret into view. At a line's start there
+// is nothing to measure, so a load does not wait for a line of 50 MB.
+LRESULT SetSel(Engine& engine, WPARAM wParam, LPARAM lParam)
+{
+    const long caret = engine.Bytes(lParam);
+    const long anchor = engine.Bytes(static_cast<LPARAM>(wParam));
+    if (caret >= 0) {
+        const auto line = static_cast<long>(
+            engine.raw.Send(Sci::SCI_LINEFROMPOSITION, static_cast<WPARAM>(caret)));
+        const long start = engine.text.StartInBytes(line).value;
+        if (caret == start && engine.text.StartInBytes(line + 1).value - start > kLongLine) {
+            engine.raw.Send(Sci::SCI_SETSELECTION, static_cast<WPARAM>(caret),
+                            anchor < 0 ? caret : anchor);
+            ShowLine(engine, line);
+            return 0;
+        }
+    }
+    return engine.raw.Send(Sci::SCI_SETSEL, static_cast<WPARAM>(anchor), caret);
+}
+
 constexpr HandlerRow kRows[] = {
+    {message::SetSel, SetSel},
     {message::GetLength, GetLength},
     {message::GetTextLength, GetLength},
     {message::GetCharAt, GetCharAt},
