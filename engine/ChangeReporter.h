@@ -6,7 +6,7 @@
 // A save point that is left by a change is told after the change.
 #pragma once
 
-#include "control/EngineRecords.h"
+#include "control/EngineMessages.h"
 #include "engine/TextIndex.h"
 
 #include <functional>
@@ -14,10 +14,6 @@
 #include <vector>
 
 namespace engine {
-
-// What a window tells of if its host sets no mask: changes of the text, and fold levels.
-inline constexpr int kDefaultModEventMask =
-    modification::InsertText | modification::DeleteText | modification::ChangeFold;
 
 class ChangeReporter
 {

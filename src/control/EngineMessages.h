@@ -1,5 +1,19 @@
 // The engine's message table: what each parameter and each result is, and the C++ type it has in
 // the operations of the control. The rows stand in EngineMessages.def.
+//
+// What the engine promises beside the rows:
+// - Positions count UTF-16 units. One outside the text is taken as its nearest end; one between the
+//   halves of a pair as the pair's start. A negative one keeps its meaning in the message.
+// - Text that comes in is UTF-16. A lone surrogate becomes U+FFFD, one unit for one unit, so that
+//   positions stay right.
+// - A number outside the table answers 0.
+// - Line-end modes are 1 CR LF, 2 CR, 3 LF, and 0 where no single one applies; a window begins
+//   with 3. Mode 0 leaves what Enter puts in as it was.
+// - A window tells its parent of changes of the text and of fold levels, and of more if its mask
+//   says so (SetModEventMask, kDefaultModEventMask). A change is told once it is in the text,
+//   before a save point that it left, and what it is told with is good until the handler returns.
+// - An allocation that fails throws std::bad_alloc out of the messages that enter text.
+// - Every message belongs to the GUI thread.
 #pragma once
 
 #include "control/EngineRecords.h"
@@ -131,6 +145,10 @@ static_assert(NumbersAreUnique());
 
 // The engine's function for direct calls; instance is the answer to GetDirectPointer.
 using DirectFunction = LRESULT (*)(LRESULT instance, UINT message, WPARAM wParam, LPARAM lParam);
+
+// What a window tells of unless its host sets a mask.
+inline constexpr int kDefaultModEventMask =
+    modification::InsertText | modification::DeleteText | modification::ChangeFold;
 
 inline constexpr const char16_t* kWindowClass = u"ZNBaseEditorWin";
 inline constexpr const char16_t* kModule = u"ZNBaseEditor";
