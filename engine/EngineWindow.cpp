@@ -87,6 +87,8 @@ EngineWindow::EngineWindow(QWidget* parent) : QsciScintillaBase(parent), m_engin
 {
     setFrameShape(QFrame::NoFrame);
     m_engine.raw.Send(Sci::SCI_USEPOPUP, 0);
+    // A style that was never set has no font at all, which cannot be put back after printing.
+    m_engine.raw.Send(Sci::SCI_STYLECLEARALL);
     setAccessibleName(tr("Text editor"));
     connect(this, &Sci::SCN_UPDATEUI, this, [this](int updated) {
         if (!g_assistiveTechnology.listens() || !(updated & Sci::SC_UPDATE_SELECTION))
