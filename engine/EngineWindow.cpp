@@ -91,7 +91,11 @@ EngineWindow::EngineWindow(QWidget* parent) : QsciScintillaBase(parent), m_engin
     m_engine.raw.Send(Sci::SCI_STYLECLEARALL);
     setAccessibleName(tr("Text editor"));
     connect(this, &Sci::SCN_UPDATEUI, this, [this](int updated) {
-        if (!g_assistiveTechnology.listens() || !(updated & Sci::SC_UPDATE_SELECTION))
+        if (!(updated & Sci::SC_UPDATE_SELECTION))
+            return;
+        if (hasFocus()) // the method's list of candidates follows the caret
+            updateMicroFocus();
+        if (!g_assistiveTechnology.listens())
             return;
         QAccessibleTextCursorEvent moved(
             this, static_cast<int>(m_engine.Units(SendScintilla(SCI_GETCURRENTPOS))));

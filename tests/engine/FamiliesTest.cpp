@@ -3,6 +3,7 @@
 #include "tests/engine/EngineFixture.h"
 
 #include <QApplication>
+#include <QImage>
 #include <QKeyEvent>
 #include <QTest>
 
@@ -350,4 +351,40 @@ TEST_F(Families, GenericSqlStylesCommentsAndStringsByItsNumbers)
     EXPECT_EQ(StyleAt(1), 1);
     EXPECT_EQ(StyleAt(8), 7);
     EXPECT_EQ(StyleAt(14), 2);
+}
+
+TEST_F(Families, AnImageComesAsLinesOrAsOneText)
+{
+    const char* lines[] = {"4 4 1 1", "x c #FF0000", "xxxx", "xxxx", "xxxx", "xxxx"};
+    const char* text = "/* XPM */\nstatic char* a[] = {\n\"4 4 1 1\", \"x c #0000FF\",\n"
+                       "\"xxxx\", \"xxxx\", \"xxxx\", \"xxxx\"};";
+    const auto shows = [this](QRgb colour) {
+        const QImage image = m_engine.Window()->grab().toImage();
+        for (int x = 0; x < 20; ++x) {
+            for (int y = 0; y < 20; ++y) {
+                if (image.pixel(x, y) == colour)
+                    return true;
+            }
+        }
+        return false;
+    };
+    Start(u"a\n");
+    m_engine.Send(msg::MarkerAdd, 0, LPARAM{2});
+    m_engine.Send(msg::MarkerDefinePixmap, 2, static_cast<const void*>(lines));
+    EXPECT_TRUE(shows(0xFFFF0000));
+    m_engine.Send(msg::MarkerDefinePixmap, 2, text);
+    EXPECT_TRUE(shows(0xFF0000FF));
+}
+
+TEST_F(Families, WhatIsNoImageChangesNoMarker)
+{
+    Start(u"a\n");
+    m_engine.Send(msg::MarkerAdd, 0, LPARAM{2});
+    const QImage before = m_engine.Window()->grab().toImage();
+    const char* cut[] = {"4 4 1 1", "x c #FF0000", nullptr};
+    const char* noHeader[] = {"many colours"};
+    const char* none[] = {nullptr};
+    for (const auto* lines : {cut, noHeader, none})
+        m_engine.Send(msg::MarkerDefinePixmap, 2, static_cast<const void*>(lines));
+    EXPECT_EQ(m_engine.Window()->grab().toImage(), before);
 }
