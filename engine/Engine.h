@@ -51,6 +51,7 @@ public:
     // What the stock engine has no place for.
     bool noSingleEol = false;         // line-end mode 0
     int lexer = 0;                    // this engine's number
+    bool usePopUp = true;             // the window shows a menu of its own
     bool reconciler = true;           // the analysis follows the text
     bool bulkChange = false;          // between SetDoingReplaceAll(true) and (false)
     int copyEol = -1;                 // line-end mode of the copy under way, -1: as the text stands

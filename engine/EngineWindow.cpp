@@ -4,10 +4,14 @@
 #include "engine/AssistiveTechnology.h"
 #include "platform/Window.h"
 
+#include <QContextMenuEvent>
+#include <QCoreApplication>
 #include <QGuiApplication>
 #include <QInputMethod>
 #include <QKeyEvent>
+#include <QMenu>
 #include <QPainter>
+#include <QWheelEvent>
 
 namespace engine {
 namespace {
@@ -26,6 +30,37 @@ bool TellAfter(Handle handle)
     if (ChangeReporter::AnyPending())
         ChangeReporter::FlushAll();
     return handled;
+}
+
+// What the menu offers, and when it can be done.
+struct MenuRow
+{
+    const char* text; // empty: a line between groups
+    UINT message;
+    UINT canDo; // asks whether; 0: always
+    bool needsSelection;
+    bool changesText;
+};
+
+constexpr MenuRow kMenu[] = {
+    {QT_TRANSLATE_NOOP("EngineWindow", "Undo"), message::Undo, message::CanUndo, false, true},
+    {QT_TRANSLATE_NOOP("EngineWindow", "Redo"), message::Redo, message::CanRedo, false, true},
+    {"", 0, 0, false, false},
+    {QT_TRANSLATE_NOOP("EngineWindow", "Cut"), message::Cut, 0, true, true},
+    {QT_TRANSLATE_NOOP("EngineWindow", "Copy"), message::Copy, 0, true, false},
+    {QT_TRANSLATE_NOOP("EngineWindow", "Paste"), message::Paste, message::CanPaste, false, true},
+    {QT_TRANSLATE_NOOP("EngineWindow", "Delete"), message::Clear, 0, true, true},
+    {"", 0, 0, false, false},
+    {QT_TRANSLATE_NOOP("EngineWindow", "Select All"), message::SelectAll, 0, false, false},
+};
+
+bool CanDo(Engine& engine, const MenuRow& row)
+{
+    if (row.changesText && engine.raw.Send(Sci::SCI_GETREADONLY))
+        return false;
+    if (row.needsSelection && engine.raw.Send(Sci::SCI_GETSELECTIONEMPTY))
+        return false;
+    return row.canDo == 0 || engine.Perform(row.canDo, 0, 0) != 0;
 }
 
 QByteArray WithLineEnds(const QByteArray& text, int mode)
@@ -51,9 +86,16 @@ QByteArray WithLineEnds(const QByteArray& text, int mode)
 EngineWindow::EngineWindow(QWidget* parent) : QsciScintillaBase(parent), m_engine(*this)
 {
     setFrameShape(QFrame::NoFrame);
+    m_engine.raw.Send(Sci::SCI_USEPOPUP, 0);
+    // A style that was never set has no font at all, which cannot be put back after printing.
+    m_engine.raw.Send(Sci::SCI_STYLECLEARALL);
     setAccessibleName(tr("Text editor"));
     connect(this, &Sci::SCN_UPDATEUI, this, [this](int updated) {
-        if (!g_assistiveTechnology.listens() || !(updated & Sci::SC_UPDATE_SELECTION))
+        if (!(updated & Sci::SC_UPDATE_SELECTION))
+            return;
+        if (hasFocus()) // the method's list of candidates follows the caret
+            updateMicroFocus();
+        if (!g_assistiveTechnology.listens())
             return;
         QAccessibleTextCursorEvent moved(
             this, static_cast<int>(m_engine.Units(SendScintilla(SCI_GETCURRENTPOS))));
@@ -140,6 +182,30 @@ void EngineWindow::EndComposition()
     viewport()->update();
 }
 
+void EngineWindow::contextMenuEvent(QContextMenuEvent* event)
+{
+    if (!m_engine.usePopUp) {
+        event->ignore();
+        return;
+    }
+    auto* menu = new QMenu(this);
+    menu->setAttribute(Qt::WA_DeleteOnClose);
+    for (const MenuRow& row : kMenu) {
+        if (!*row.text) {
+            menu->addSeparator();
+            continue;
+        }
+        QAction* action = menu->addAction(QCoreApplication::translate("EngineWindow", row.text));
+        action->setEnabled(CanDo(m_engine, row));
+        connect(action, &QAction::triggered, this,
+                [this, number = row.message] { m_engine.Perform(number, 0, 0); });
+    }
+    const QRect caret = inputMethodQuery(Qt::ImCursorRectangle).toRect();
+    menu->popup(event->reason() == QContextMenuEvent::Mouse ? event->globalPos()
+                                                            : mapToGlobal(caret.bottomLeft()));
+    event->accept();
+}
+
 void EngineWindow::focusOutEvent(QFocusEvent* event)
 {
     EndComposition();
@@ -163,6 +229,23 @@ void EngineWindow::keyPressEvent(QKeyEvent* event)
         return;
     }
     QsciScintillaBase::keyPressEvent(event);
+}
+
+// With Control a turn zooms. Fine wheels turn by less than a step at a time.
+void EngineWindow::wheelEvent(QWheelEvent* event)
+{
+    if (!(event->modifiers() & Qt::ControlModifier)) {
+        QsciScintillaBase::wheelEvent(event);
+        return;
+    }
+    m_zoomTurn += event->angleDelta().y();
+    for (; m_zoomTurn >= QWheelEvent::DefaultDeltasPerStep;
+         m_zoomTurn -= QWheelEvent::DefaultDeltasPerStep)
+        m_engine.Perform(message::ZoomIn, 0, 0);
+    for (; m_zoomTurn <= -QWheelEvent::DefaultDeltasPerStep;
+         m_zoomTurn += QWheelEvent::DefaultDeltasPerStep)
+        m_engine.Perform(message::ZoomOut, 0, 0);
+    event->accept();
 }
 
 void EngineWindow::paintEvent(QPaintEvent* event)

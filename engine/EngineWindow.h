@@ -28,12 +28,14 @@ public:
 protected:
     bool event(QEvent* event) override;
     bool viewportEvent(QEvent* event) override;
+    void contextMenuEvent(QContextMenuEvent* event) override;
     void focusOutEvent(QFocusEvent* event) override;
     void inputMethodEvent(QInputMethodEvent* event) override;
     QVariant inputMethodQuery(Qt::InputMethodQuery query) const override;
     void keyPressEvent(QKeyEvent* event) override;
     void mousePressEvent(QMouseEvent* event) override;
     void paintEvent(QPaintEvent* event) override;
+    void wheelEvent(QWheelEvent* event) override;
     QMimeData* toMimeData(const QByteArray& text, bool rectangular) const override;
 
 private:
@@ -42,6 +44,7 @@ private:
 
     Engine m_engine;
     InputMethod m_inputMethod{m_engine};
+    int m_zoomTurn = 0; // what a turn of the wheel lacks to a step of the zoom
 };
 
 // Makes the window class known. Once for the process.

@@ -4,6 +4,7 @@
 
 #include <QPainter>
 
+#include <algorithm>
 #include <vector>
 
 namespace engine {
@@ -86,13 +87,16 @@ LRESULT FormatRange(Engine& engine, WPARAM wParam, LPARAM lParam)
     const auto* format = reinterpret_cast<const RangeToFormat*>(lParam);
     if (!format || !format->hdc) // also the way to say that printing is over
         return 0;
-    const PrintStyles styles(engine);
-    const long start = engine.Bytes(format->chrg.cpMin);
+    const long start = engine.Bytes(std::max(format->chrg.cpMin, 0));
     const long end =
         format->chrg.cpMax < 0 ? engine.raw.Length() : engine.Bytes(format->chrg.cpMax);
+    if (end <= start)
+        return engine.Units(start);
+    const PrintStyles styles(engine);
     const long next = engine.window.SendScintilla(Sci::SCI_FORMATRANGE, wParam != 0, format->hdc,
                                                   ToRect(format->rc), start, end);
-    return engine.Units(next);
+    // The stock engine ends behind the line in which the range ends.
+    return engine.Units(std::clamp(next, start, end));
 }
 
 LRESULT SetBold(Engine& engine, WPARAM wParam, LPARAM)

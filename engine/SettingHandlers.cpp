@@ -121,6 +121,13 @@ LRESULT GetPropertyInt(Engine& engine, WPARAM wParam, LPARAM)
     return engine.raw.Send(Sci::SCI_GETPROPERTYINT, reinterpret_cast<WPARAM>(key.Data()));
 }
 
+// The stock engine's own menu stays off: its entries do nothing under Qt 6.
+LRESULT UsePopUp(Engine& engine, WPARAM wParam, LPARAM)
+{
+    engine.usePopUp = wParam != 0;
+    return 0;
+}
+
 LRESULT SetEnableReconciler(Engine& engine, WPARAM wParam, LPARAM)
 {
     engine.reconciler = wParam != 0;
@@ -167,6 +174,7 @@ constexpr HandlerRow kRows[] = {
     {message::SetProperty, SetProperty},
     {message::GetPropertyInt, GetPropertyInt},
     {message::ResetProperties, ResetProperties},
+    {message::UsePopUp, UsePopUp},
     {message::SetEnableReconciler, SetEnableReconciler},
     {message::GetIsReconcilerEnabled, GetIsReconcilerEnabled},
     {message::SetDoingReplaceAll, SetDoingReplaceAll},

@@ -245,6 +245,21 @@ LRESULT GetProperty(Engine& engine, WPARAM wParam, LPARAM lParam)
     return static_cast<LRESULT>(text.size());
 }
 
+// Gives the bytes without the terminator; a null buffer measures. The stock engine leaves this to
+// its windows, and this one does not do it.
+LRESULT TargetAsUtf8(Engine& engine, WPARAM, LPARAM lParam)
+{
+    const long length = engine.raw.Length(); // the target may lie behind a text that was cut
+    const long start = std::min<long>(engine.raw.Send(Sci::SCI_GETTARGETSTART), length);
+    const long end = std::min<long>(engine.raw.Send(Sci::SCI_GETTARGETEND), length);
+    const std::string_view bytes = engine.raw.Bytes(std::min(start, end), std::max(start, end));
+    if (auto* buffer = reinterpret_cast<char*>(lParam)) {
+        std::copy(bytes.begin(), bytes.end(), buffer);
+        buffer[bytes.size()] = '\0';
+    }
+    return static_cast<LRESULT>(bytes.size());
+}
+
 LRESULT SetLengthForEncode(Engine& engine, WPARAM wParam, LPARAM)
 {
     engine.lengthForEncode = static_cast<int>(wParam);
@@ -314,6 +329,7 @@ constexpr HandlerRow kRows[] = {
     {message::GetStyledText, GetStyledText},
     {message::GetProperty, GetProperty<Sci::SCI_GETPROPERTY>},
     {message::GetPropertyExpanded, GetProperty<Sci::SCI_GETPROPERTYEXPANDED>},
+    {message::TargetAsUTF8, TargetAsUtf8},
     {message::SetLengthForEncode, SetLengthForEncode},
     {message::EncodedFromUTF8, EncodedFromUtf8},
     {message::AutoCShow, AutoCShow},

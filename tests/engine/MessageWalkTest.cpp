@@ -142,7 +142,9 @@ void WalkOn(const MessageRow& row, const std::u16string& text, bool readOnly, bo
             engine.SetText(text);
             engine.Send(msg::SetSel, 1, 4);
             engine.Send(msg::SetReadOnly, readOnly);
-            engine.Send(row.number, static_cast<WPARAM>(w), l);
+            const LRESULT answer = engine.Send(row.number, static_cast<WPARAM>(w), l);
+            if (row.number == msg::CreateDocument)
+                engine.Send(msg::ReleaseDocument, 0, answer);
             ASSERT_NO_FATAL_FAILURE(ExpectSound(engine));
             if (readOnly && row.number != msg::SetReadOnly && row.number != msg::SetDocPointer) {
                 ASSERT_EQ(engine.Text(), text);

@@ -1,0 +1,357 @@
+// What a person does with keyboard, mouse, menu and clipboard, and what the parent hears of it.
+#include "tests/engine/EngineFixture.h"
+
+#include <QAbstractScrollArea>
+#include <QApplication>
+#include <QClipboard>
+#include <QContextMenuEvent>
+#include <QDropEvent>
+#include <QMenu>
+#include <QMimeData>
+#include <QTest>
+#include <QUrl>
+#include <QWheelEvent>
+
+#include <gtest/gtest.h>
+
+#include <functional>
+
+namespace msg = engine::message;
+
+namespace {
+
+class Hands : public testing::Test
+{
+protected:
+    Hands() { QApplication::clipboard()->clear(); }
+
+    void Start(const std::u16string& text, long anchor = 0, long caret = 0)
+    {
+        m_engine.SetText(text);
+        m_engine.Send(msg::EmptyUndoBuffer);
+        Select(anchor, caret);
+        m_engine.Parent().heard.clear();
+    }
+
+    void Select(long anchor, long caret) const
+    {
+        m_engine.Send(msg::SetSel, static_cast<WPARAM>(anchor), caret);
+    }
+
+    void Press(Qt::Key key, Qt::KeyboardModifiers modifiers = Qt::NoModifier) const
+    {
+        QTest::keyClick(m_engine.Window(), key, modifiers);
+    }
+
+    QWidget* Viewport() const
+    {
+        return qobject_cast<QAbstractScrollArea*>(m_engine.Window())->viewport();
+    }
+
+    QPoint PointOf(long position) const
+    {
+        return {static_cast<int>(m_engine.Send(msg::PointXFromPosition, 0, LPARAM{position})) + 1,
+                static_cast<int>(m_engine.Send(msg::PointYFromPosition, 0, LPARAM{position})) + 3};
+    }
+
+    bool Drop(const QMimeData& data, long position, Qt::DropAction action) const
+    {
+        const QPoint at = PointOf(position);
+        const auto actions = Qt::CopyAction | Qt::MoveAction;
+        QDragEnterEvent enter(at, actions, &data, Qt::LeftButton, Qt::NoModifier);
+        QApplication::sendEvent(Viewport(), &enter);
+        QDragMoveEvent move(at, actions, &data, Qt::LeftButton, Qt::NoModifier);
+        QApplication::sendEvent(Viewport(), &move);
+        QDropEvent drop(at, actions, &data, Qt::LeftButton, Qt::NoModifier);
+        drop.setDropAction(action);
+        QApplication::sendEvent(Viewport(), &drop);
+        return drop.isAccepted();
+    }
+
+    static std::u16string Clipboard() { return QApplication::clipboard()->text().toStdU16String(); }
+    static void SetClipboard(const std::u16string& text)
+    {
+        QApplication::clipboard()->setText(QString::fromStdU16String(text));
+    }
+
+    long Caret() const { return m_engine.Send(msg::GetCurrentPos); }
+
+    // The codes of what changes the text, in order.
+    std::vector<UINT> Changes()
+    {
+        std::vector<UINT> codes;
+        for (const Heard& each : m_engine.Parent().heard) {
+            const UINT code = each.record.nmhdr.code;
+            if (code == notify::Modified || code == notify::CharAdded)
+                codes.push_back(code);
+        }
+        return codes;
+    }
+
+    EngineUnderTest m_engine;
+};
+
+using Codes = std::vector<UINT>;
+
+} // namespace
+
+TEST_F(Hands, ATypedCharacterIsToldOnceAsChangeThenAsCharacter)
+{
+    Start(u"\u00e9", 1, 1);
+    QTest::keyClicks(m_engine.Window(), "ab");
+    EXPECT_EQ(m_engine.Text(), u"\u00e9ab");
+    EXPECT_EQ(Changes(),
+              (Codes{notify::Modified, notify::CharAdded, notify::Modified, notify::CharAdded}));
+    EXPECT_EQ(m_engine.Parent().Of(notify::Modified)[1].record.position, 2);
+}
+
+TEST_F(Hands, CutCopyAndPasteKeepEveryCharacter)
+{
+    Start(u"a\U0001F600\u00e9\u4e2db", 1, 5);
+    Press(Qt::Key_C, Qt::ControlModifier);
+    EXPECT_EQ(Clipboard(), u"\U0001F600\u00e9\u4e2d");
+    Press(Qt::Key_X, Qt::ControlModifier);
+    EXPECT_EQ(m_engine.Text(), u"ab");
+    Press(Qt::Key_V, Qt::ControlModifier);
+    Press(Qt::Key_V, Qt::ControlModifier);
+    EXPECT_EQ(m_engine.Text(), u"a\U0001F600\u00e9\u4e2d\U0001F600\u00e9\u4e2db");
+    EXPECT_EQ(Changes(), Codes(3, notify::Modified));
+}
+
+TEST_F(Hands, APasteTakesTheLineEndsOfTheText)
+{
+    const std::u16string mixed = u"a\nb\r\nc\rd";
+    for (const auto& [mode, expected] :
+         {std::pair{1, u"a\r\nb\r\nc\r\nd"}, {2, u"a\rb\rc\rd"}, {3, u"a\nb\nc\nd"}}) {
+        Start(u"");
+        m_engine.Send(msg::SetEOLMode, static_cast<WPARAM>(mode));
+        SetClipboard(mixed);
+        m_engine.Send(msg::Paste);
+        EXPECT_EQ(m_engine.Text(), expected) << mode;
+    }
+}
+
+TEST_F(Hands, ACopyMayGiveItsLineEnds)
+{
+    Start(u"a\nb\r\nc\rd", 0, 8);
+    for (const auto& [mode, expected] : {std::pair{1, u"a\r\nb\r\nc\r\nd"},
+                                         {2, u"a\rb\rc\rd"},
+                                         {3, u"a\nb\nc\nd"},
+                                         {0, u"a\nb\r\nc\rd"},
+                                         {9, u"a\nb\r\nc\rd"}}) {
+        m_engine.Send(msg::Copy, 0, LPARAM{mode});
+        EXPECT_EQ(Clipboard(), expected) << mode;
+    }
+}
+
+TEST_F(Hands, AnEmptySelectionCopiesNothing)
+{
+    Start(u"abc", 1, 1);
+    SetClipboard(u"kept");
+    Press(Qt::Key_C, Qt::ControlModifier);
+    Press(Qt::Key_X, Qt::ControlModifier);
+    EXPECT_EQ(Clipboard(), u"kept");
+    EXPECT_EQ(m_engine.Text(), u"abc");
+}
+
+TEST_F(Hands, AReadOnlyTextTellsOfTheAttempt)
+{
+    Start(u"abc", 1, 2);
+    SetClipboard(u"x");
+    m_engine.Send(msg::SetReadOnly, 1);
+    for (const auto& attempt : std::vector<std::function<void()>>{
+             [this] { Press(Qt::Key_V, Qt::ControlModifier); }, [this] { Press(Qt::Key_A); },
+             [this] { Press(Qt::Key_Return); }, [this] { Press(Qt::Key_Delete); },
+             [this] { m_engine.Send(msg::Paste); }}) {
+        m_engine.Parent().heard.clear();
+        attempt();
+        EXPECT_FALSE(m_engine.Parent().Of(notify::ModifyAttemptReadOnly).empty());
+        EXPECT_EQ(m_engine.Text(), u"abc");
+    }
+}
+
+TEST_F(Hands, ARectangleIsCopiedAndPastedAsARectangle)
+{
+    Start(u"ab\u00e9\ncd\u00fc\n\u4e2d\u4e2d");
+    Press(Qt::Key_Right, Qt::AltModifier | Qt::ShiftModifier);
+    Press(Qt::Key_Down, Qt::AltModifier | Qt::ShiftModifier);
+    EXPECT_EQ(m_engine.Send(msg::SelectionIsRectangle), 1);
+    m_engine.Send(msg::Cut);
+    EXPECT_EQ(m_engine.Text(), u"b\u00e9\nd\u00fc\n\u4e2d\u4e2d");
+    m_engine.Send(msg::GotoPos, 2);
+    m_engine.Send(msg::Paste);
+    EXPECT_EQ(m_engine.Text(), u"b\u00e9a\nd\u00fcc\n\u4e2d\u4e2d");
+}
+
+TEST_F(Hands, CaretKeysMoveOverWholeCharacters)
+{
+    Start(u"\U0001F600x\ny");
+    Press(Qt::Key_Right);
+    EXPECT_EQ(Caret(), 2);
+    Press(Qt::Key_End);
+    EXPECT_EQ(Caret(), 3);
+    Press(Qt::Key_Home);
+    EXPECT_EQ(Caret(), 0);
+    Press(Qt::Key_End, Qt::ControlModifier | Qt::ShiftModifier);
+    EXPECT_EQ(Caret(), 5);
+    EXPECT_EQ(m_engine.Send(msg::GetAnchor), 0);
+    Press(Qt::Key_Home, Qt::ControlModifier);
+    EXPECT_EQ(Caret(), 0);
+}
+
+TEST_F(Hands, WordKeysTakeLettersOfEveryScript)
+{
+    Start(u"\u00e4\u00f6\u00fc \u0416\u0434\u0438 x_1");
+    std::vector<long> places;
+    for (int i = 0; i < 3; ++i) {
+        Press(Qt::Key_Right, Qt::ControlModifier);
+        places.push_back(Caret());
+    }
+    EXPECT_EQ(places, (std::vector<long>{4, 8, 11}));
+    Press(Qt::Key_Left, Qt::ControlModifier | Qt::ShiftModifier);
+    EXPECT_EQ(m_engine.Send(msg::GetSelectionStart), 8);
+}
+
+TEST_F(Hands, PageKeysMoveByWhatIsOnTheScreen)
+{
+    std::u16string lines;
+    for (int i = 0; i < 200; ++i)
+        lines += u"\u00e9\n";
+    Start(lines);
+    m_engine.Window()->grab(); // a window that was never shown is laid out first
+    Press(Qt::Key_PageDown);
+    const LRESULT line = m_engine.Send(msg::LineFromPosition, static_cast<WPARAM>(Caret()));
+    EXPECT_GT(line, 3);
+    EXPECT_LE(line, m_engine.Send(msg::LinesOnScreen));
+    Press(Qt::Key_PageUp);
+    EXPECT_EQ(Caret(), 0);
+}
+
+TEST_F(Hands, TabIndentsTheSelectedLinesAndBack)
+{
+    Start(u"\u00e9\nb\nc", 0, 4);
+    Press(Qt::Key_Tab);
+    EXPECT_EQ(m_engine.Text(), u"\t\u00e9\n\tb\nc");
+    Press(Qt::Key_Backtab, Qt::ShiftModifier);
+    EXPECT_EQ(m_engine.Text(), u"\u00e9\nb\nc");
+    Press(Qt::Key_Z, Qt::ControlModifier);
+    EXPECT_EQ(m_engine.Text(), u"\t\u00e9\n\tb\nc");
+}
+
+TEST_F(Hands, InsertTogglesOvertype)
+{
+    Start(u"\U0001F600b");
+    Press(Qt::Key_Insert);
+    EXPECT_EQ(m_engine.Send(msg::GetOvertype), 1);
+    Press(Qt::Key_X);
+    EXPECT_EQ(m_engine.Text(), u"xb");
+}
+
+TEST_F(Hands, BackspaceTakesAWholeCharacter)
+{
+    Start(u"a\U0001F600", 3, 3);
+    Press(Qt::Key_Backspace);
+    EXPECT_EQ(m_engine.Text(), u"a");
+    EXPECT_EQ(m_engine.Parent().Of(notify::Modified)[0].text, u"\U0001F600");
+}
+
+TEST_F(Hands, TheWheelZoomsWithControl)
+{
+    Start(u"text");
+    QWheelEvent turn(QPointF(5, 5), QPointF(5, 5), {}, QPoint(0, 120), Qt::NoButton,
+                     Qt::ControlModifier, Qt::NoScrollPhase, false);
+    QApplication::sendEvent(Viewport(), &turn);
+    EXPECT_GT(m_engine.Send(msg::GetZoom), 0);
+    EXPECT_EQ(m_engine.Parent().Of(notify::Zoom).size(), 1u);
+}
+
+TEST_F(Hands, AClickSetsTheCaretAndADoubleClickTakesTheWord)
+{
+    Start(u"\u00e9 w\u00f6rd x");
+    QTest::mouseClick(Viewport(), Qt::LeftButton, {}, PointOf(4));
+    EXPECT_EQ(Caret(), 4);
+    QTest::mouseDClick(Viewport(), Qt::LeftButton, {}, PointOf(4));
+    EXPECT_EQ(m_engine.Send(msg::GetSelectionStart), 2);
+    EXPECT_EQ(m_engine.Send(msg::GetSelectionEnd), 6);
+    EXPECT_EQ(m_engine.Parent().Of(notify::DoubleClick).size(), 1u);
+}
+
+TEST_F(Hands, DroppedTextComesInWhereItFalls)
+{
+    Start(u"\u00e9bc");
+    QMimeData data;
+    data.setText(QString::fromStdU16String(u"\U0001F600\n"));
+    EXPECT_TRUE(Drop(data, 2, Qt::CopyAction));
+    EXPECT_EQ(m_engine.Text(), u"\u00e9b\U0001F600\nc");
+    EXPECT_EQ(Changes(), Codes{notify::Modified});
+}
+
+TEST_F(Hands, DroppedFilesAreToldAndDoNotComeIn)
+{
+    Start(u"abc");
+    QMimeData data;
+    data.setUrls({QUrl::fromLocalFile("/tmp/\u00e9 1.sql"), QUrl::fromLocalFile("/tmp/2.sql")});
+    EXPECT_TRUE(Drop(data, 1, Qt::CopyAction));
+    EXPECT_EQ(m_engine.Text(), u"abc");
+    const auto told = m_engine.Parent().Of(notify::UriDropped);
+    ASSERT_EQ(told.size(), 2u);
+    EXPECT_EQ(QUrl(QString::fromStdU16String(told[0].text)).toLocalFile().toStdU16String(),
+              u"/tmp/\u00e9 1.sql");
+}
+
+TEST_F(Hands, AReadOnlyTextTakesNoDrop)
+{
+    Start(u"abc");
+    m_engine.Send(msg::SetReadOnly, 1);
+    QMimeData data;
+    data.setText("x");
+    Drop(data, 1, Qt::CopyAction);
+    EXPECT_EQ(m_engine.Text(), u"abc");
+}
+
+namespace {
+
+QMenu* OpenMenu()
+{
+    for (QWidget* widget : QApplication::topLevelWidgets()) {
+        auto* menu = qobject_cast<QMenu*>(widget);
+        if (menu && menu->isVisible())
+            return menu;
+    }
+    return nullptr;
+}
+
+QAction* EntryOf(const QMenu& menu, const QString& text)
+{
+    for (QAction* action : menu.actions()) {
+        if (action->text() == text)
+            return action;
+    }
+    return nullptr;
+}
+
+} // namespace
+
+TEST_F(Hands, TheMenuActsAndTheParentHearsOfIt)
+{
+    Start(u"abc", 0, 2);
+    QContextMenuEvent event(QContextMenuEvent::Mouse, QPoint(5, 5), QPoint(5, 5));
+    QApplication::sendEvent(Viewport(), &event);
+    QMenu* menu = OpenMenu();
+    ASSERT_NE(menu, nullptr);
+    EXPECT_FALSE(EntryOf(*menu, "Undo")->isEnabled());
+    EntryOf(*menu, "Cut")->trigger();
+    menu->close();
+    QApplication::processEvents();
+    EXPECT_EQ(m_engine.Text(), u"c");
+    EXPECT_EQ(Changes(), Codes{notify::Modified});
+    EXPECT_EQ(Clipboard(), u"ab");
+}
+
+TEST_F(Hands, WithoutAMenuOfItsOwnNoneOpens)
+{
+    m_engine.Send(msg::UsePopUp, 0);
+    QContextMenuEvent event(QContextMenuEvent::Mouse, QPoint(5, 5), QPoint(5, 5));
+    QApplication::sendEvent(Viewport(), &event);
+    EXPECT_EQ(OpenMenu(), nullptr);
+}
