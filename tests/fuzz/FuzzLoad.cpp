@@ -121,7 +121,10 @@ extern "C" int LLVMFuzzerTestOneInput(const uint8_t* data, size_t size)
     Check(plain.size() <= bytes.size(), "no unit without a byte");
     const std::u16string careful = program->Load(program->source, true, encoding);
     const bool oneBlock = bytes.size() <= 8192;
-    Check(!oneBlock || careful.starts_with(plain), "a seam is the only difference");
+    // Without care a pair at the end may be cut, whose first half is U+FFFD then.
+    const bool cutPair = !plain.empty() && plain.back() == 0xFFFD;
+    Check(!oneBlock || careful.starts_with(plain.substr(0, plain.size() - cutPair)),
+          "a seam is the only difference");
     Check(!oneBlock || careful.size() <= plain.size() + 2, "but for a last pair");
 
     if (data[0] >= 64)
