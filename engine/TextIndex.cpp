@@ -114,7 +114,7 @@ void TextIndex::ChangeDone() const
 void TextIndex::Reset()
 {
     m_change = Change();
-    m_lineIndexIsWrong = false;
+    m_lineIndexIsWrong = true; // what another window knows of an index is not known here
     m_unitsAreKnown = false;
     m_last = Place();
     m_walked = 0;
@@ -134,7 +134,7 @@ void TextIndex::EnsureLineIndex() const
 {
     if (HasLineIndex())
         return;
-    if (m_lineIndexIsWrong)
+    if (m_raw.Send(Sci::SCI_GETLINECHARACTERINDEX) & Sci::SC_LINECHARACTERINDEX_UTF16)
         m_raw.Send(Sci::SCI_RELEASELINECHARACTERINDEX, Sci::SC_LINECHARACTERINDEX_UTF16);
     m_raw.Send(Sci::SCI_ALLOCATELINECHARACTERINDEX, Sci::SC_LINECHARACTERINDEX_UTF16);
     m_lineIndexIsWrong = false;

@@ -294,3 +294,29 @@ TEST_P(FromInside, AStopOfUndoCollectionSurvives)
 
 INSTANTIATE_TEST_SUITE_P(ANotification, FromInside,
                          testing::Values(notify::Modified, notify::UpdateUi), CodeName);
+
+// Long enough that a place in the middle is found by the line index.
+TEST_F(TwoWindows, AWindowThatComesLaterDoesNotTrustALineIndexFromBefore)
+{
+    const std::u16string line = u"sel\u00e9ct \U0001F600 from t\u00e4ble where x = 'y';\r\n";
+    std::u16string text;
+    for (int i = 0; i < 12000; ++i)
+        text += line;
+    m_first.SetText(text);
+    const auto start = static_cast<long>(6000 * line.size());
+    ASSERT_EQ(m_first.Send(msg::PositionFromLine, 6000), start);
+    const long behindCr = start - 1;
+    m_first.Insert(behindCr, u"\u00e9\u00e9"); // CR and LF part
+    text.insert(static_cast<std::size_t>(behindCr), u"\u00e9\u00e9");
+    m_first.Erase(behindCr, behindCr + 2); // and meet again
+    text.erase(static_cast<std::size_t>(behindCr), 2);
+    EngineUnderTest later;
+    later.Send(msg::SetDocPointer, 0, m_first.Send(msg::GetDocPointer));
+    for (const EngineUnderTest* engine : {&later, &m_first}) {
+        EXPECT_EQ(engine->Send(msg::PositionFromLine, 6000), start);
+        EXPECT_EQ(engine->Send(msg::PositionFromLine, 6001),
+                  start + static_cast<long>(line.size()));
+        EXPECT_EQ(engine->Send(msg::LineFromPosition, static_cast<WPARAM>(start + 90000)),
+                  6000 + 90000 / static_cast<long>(line.size()));
+    }
+}
