@@ -169,7 +169,10 @@ QVariant EngineWindow::inputMethodQuery(Qt::InputMethodQuery query) const
     QVariant answer = m_inputMethod.Answer(query);
     if (query == Qt::ImCursorRectangle)
         return answer.toRect().translated(viewport()->pos());
-    return answer.isValid() ? answer : QAbstractScrollArea::inputMethodQuery(query);
+    if (answer.isValid())
+        return answer;
+    // The stock widget in between would answer by bytes and paragraphs.
+    return QAbstractScrollArea::inputMethodQuery(query); // NOLINT(bugprone-parent-virtual-call)
 }
 
 // Asks the input method to commit, and gives up what it then still composes.

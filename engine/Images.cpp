@@ -43,7 +43,7 @@ std::size_t LinesOf(const char* header)
     if (width < 1 || width > kLargestSide || height < 1 || height > kLargestSide || colours < 1 ||
         colours > kMostColours || units < 1 || units > 4)
         return 0;
-    return static_cast<std::size_t>(1 + colours + height);
+    return 1 + static_cast<std::size_t>(colours) + static_cast<std::size_t>(height);
 }
 
 // A null image for what is no XPM.

@@ -6,6 +6,9 @@
 #include <iostream>
 #include <memory>
 #include <random>
+#include <string>
+
+#include <unistd.h>
 
 namespace {
 
@@ -44,6 +47,54 @@ Loaded Load(std::string bytes, const SeamRule& rule, FileEncodeConverter::encodi
 }
 
 const std::string kAcute = "\xC3\xA9"; // two bytes
+
+// The text of a file to which something happens behind its first block.
+Loaded LoadWhile(const std::string& bytes, void (*happens)(std::FILE* writer))
+{
+    const std::unique_ptr<std::FILE, CloseFile> file(std::tmpfile());
+    std::fwrite(bytes.data(), 1, bytes.size(), file.get());
+    std::fflush(file.get());
+    const std::unique_ptr<std::FILE, CloseFile> reader(
+        std::fopen(("/proc/self/fd/" + std::to_string(fileno(file.get()))).c_str(), "rb"));
+    FileBlocks blocks(reader.get(), kCarefulFiles.load);
+    bool hadMark = false;
+    blocks.Start(kUtf8, hadMark);
+    happens(file.get());
+    Loaded loaded;
+    const char16_t* text = nullptr;
+    long length = 0;
+    while (blocks.Text(text, length)) {
+        loaded.text.append(text, static_cast<std::size_t>(length));
+        blocks.Advance();
+    }
+    loaded.rest = blocks.HasRest();
+    return loaded;
+}
+
+TEST(ChangingFile, WhatIsAppendedDuringTheLoadIsRead)
+{
+    const Loaded loaded = LoadWhile(std::string(20000, 'a'), [](std::FILE* writer) {
+        std::fputs("zz", writer);
+        std::fflush(writer);
+    });
+    EXPECT_EQ(loaded, (Loaded{std::u16string(20000, u'a') + u"zz", false}));
+}
+
+TEST(ChangingFile, ALoadEndsWhereTheFileIsCut)
+{
+    const Loaded loaded = LoadWhile(std::string(50000, 'a'), [](std::FILE* writer) {
+        ASSERT_EQ(ftruncate(fileno(writer), 30000), 0);
+    });
+    EXPECT_EQ(loaded, (Loaded{std::u16string(30000, u'a'), false}));
+}
+
+TEST(ChangingFile, AFileThatIsEmptiedKeepsItsFirstBlock)
+{
+    const Loaded loaded = LoadWhile(std::string(50000, 'a'), [](std::FILE* writer) {
+        ASSERT_EQ(ftruncate(fileno(writer), 0), 0);
+    });
+    EXPECT_EQ(loaded, (Loaded{std::u16string(8192, u'a'), false}));
+}
 
 TEST(Seams, ACharacterOverTheFirstOneLosesABytesOfItself)
 {

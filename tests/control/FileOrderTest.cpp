@@ -463,7 +463,6 @@ TEST_F(FileOrder, ALineLongerThanTheBufferIsWrittenWhole)
     EXPECT_EQ(ReadFile("out").size(), 2 * (100'000 + 4));
 }
 
-// The engine lays a line out as a whole when it shows it, so that this line is kept from it.
 TEST_F(FileOrder, ALineOfFiftyMegabytesGoesInAndOut)
 {
     control.SetCarefulFiles(true);

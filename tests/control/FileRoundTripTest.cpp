@@ -196,11 +196,11 @@ TEST_F(Files, NulsOfUnicodeFilesComeBack)
     EXPECT_EQ(ReadFile("out.sql"), bytes);
 }
 
-TEST_F(Files, ALineOfMegabytesComesBack)
+TEST_F(Files, ALineOfFiftyMegabytesComesBack)
 {
     control.SetCarefulFiles(true);
     std::string bytes;
-    while (bytes.size() < 4u << 20)
+    while (bytes.size() < 50u << 20)
         bytes += "insert into t values (1, '\xC3\xA9\xE4\xB8\xAD'), ";
     EXPECT_TRUE(Open(bytes, FileEncodeConverter::encUTF8));
     EXPECT_EQ(control.GetLineCount(1), 1);
