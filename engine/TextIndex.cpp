@@ -141,6 +141,14 @@ void TextIndex::EnsureLineIndex() const
     m_walked = 0;
 }
 
+// Of a line that is there, or the one behind the last.
+TextIndex::Place TextIndex::IndexedStart(long line) const
+{
+    return {static_cast<long>(m_raw.Send(Sci::SCI_INDEXPOSITIONFROMLINE, Word(line),
+                                         Sci::SC_LINECHARACTERINDEX_UTF16)),
+            StartInBytes(line).value};
+}
+
 BytePos TextIndex::StartInBytes(long line) const
 {
     if (line >= m_raw.LineCount())
@@ -156,9 +164,7 @@ UnitPos TextIndex::StartOfLine(long line) const
     if (WalkPays(Nearest(&Place::byte, start.value).byte - start.value))
         return ToUnits(start);
     EnsureLineIndex();
-    return {static_cast<long>(m_raw.Send(Sci::SCI_INDEXPOSITIONFROMLINE,
-                                         Word(std::clamp(line, 0L, m_raw.LineCount())),
-                                         Sci::SC_LINECHARACTERINDEX_UTF16))};
+    return {IndexedStart(std::clamp(line, 0L, m_raw.LineCount())).unit};
 }
 
 // Units of the line, its line end included.
@@ -207,9 +213,7 @@ UnitPos TextIndex::ToUnits(BytePos position) const
         return {Remember(WalkToByte(nearest, byte)).unit};
     EnsureLineIndex();
     const auto line = static_cast<long>(m_raw.Send(Sci::SCI_LINEFROMPOSITION, Word(byte)));
-    const auto start = static_cast<long>(
-        m_raw.Send(Sci::SCI_INDEXPOSITIONFROMLINE, Word(line), Sci::SC_LINECHARACTERINDEX_UTF16));
-    Place from{start, StartInBytes(line).value};
+    Place from = IndexedStart(line);
     if (std::labs(nearest.byte - byte) < byte - from.byte)
         from = nearest;
     return {Remember(WalkToByte(from, byte)).unit};

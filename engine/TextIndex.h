@@ -65,6 +65,7 @@ private:
     bool TouchesCrLf(BytePos at, long bytes) const;
     bool HasLineIndex() const;
     void EnsureLineIndex() const;
+    Place IndexedStart(long line) const;
     Place Remember(Place place) const;
     Place Nearest(long Place::*coordinate, long value) const;
     bool WalkPays(long distance) const;

@@ -27,14 +27,8 @@ struct CloseFile
     void operator()(std::FILE* file) const { std::fclose(file); }
 };
 
-Loaded Load(std::string bytes, const SeamRule& rule, FileEncodeConverter::encodingType encoding)
+Loaded TakeAll(FileBlocks& blocks)
 {
-    const std::unique_ptr<std::FILE, CloseFile> file(std::tmpfile());
-    std::fwrite(bytes.data(), 1, bytes.size(), file.get());
-    std::rewind(file.get());
-    FileBlocks blocks(file.get(), rule);
-    bool hadMark = false;
-    blocks.Start(encoding, hadMark);
     Loaded loaded;
     const char16_t* text = nullptr;
     long length = 0;
@@ -44,6 +38,17 @@ Loaded Load(std::string bytes, const SeamRule& rule, FileEncodeConverter::encodi
     }
     loaded.rest = blocks.HasRest();
     return loaded;
+}
+
+Loaded Load(std::string bytes, const SeamRule& rule, FileEncodeConverter::encodingType encoding)
+{
+    const std::unique_ptr<std::FILE, CloseFile> file(std::tmpfile());
+    std::fwrite(bytes.data(), 1, bytes.size(), file.get());
+    std::rewind(file.get());
+    FileBlocks blocks(file.get(), rule);
+    bool hadMark = false;
+    blocks.Start(encoding, hadMark);
+    return TakeAll(blocks);
 }
 
 const std::string kAcute = "\xC3\xA9"; // two bytes
@@ -60,15 +65,7 @@ Loaded LoadWhile(const std::string& bytes, void (*happens)(std::FILE* writer))
     bool hadMark = false;
     blocks.Start(kUtf8, hadMark);
     happens(file.get());
-    Loaded loaded;
-    const char16_t* text = nullptr;
-    long length = 0;
-    while (blocks.Text(text, length)) {
-        loaded.text.append(text, static_cast<std::size_t>(length));
-        blocks.Advance();
-    }
-    loaded.rest = blocks.HasRest();
-    return loaded;
+    return TakeAll(blocks);
 }
 
 TEST(ChangingFile, WhatIsAppendedDuringTheLoadIsRead)
