@@ -1,0 +1,313 @@
+#!/usr/bin/env python3
+"""Checks the settings and language files that ship with the library."""
+
+import pathlib
+import re
+import sys
+import unittest
+import xml.etree.ElementTree as ET
+
+DATA = pathlib.Path(__file__).resolve().parents[2] / "data"
+CONFIG = DATA / "ZNCoreEditor.xml"
+SYNTAX = DATA / "Syntax"
+
+LEXERS = """CONTAINER NULL SYBASE MSSQL DB2SQL ORACLESQL CPP HTML XML SQL DB2OS390SQL VB VBSCRIPT BATCH
+MYSQL INTERBASE SQLAZURE SYBASE_IQ DIFF PROPERTIES MAKEFILE ERRORLIST LATEX ASP PHP PERL CSS
+CPPNOCASE USER PHPSCRIPT""".split()
+SQL_LEXERS = "SYBASE MSSQL DB2SQL ORACLESQL SQL MYSQL INTERBASE SQLAZURE SYBASE_IQ".split()
+
+# The keyword sets that a lexer looks up in lower case; every other set keeps its letters.
+LOWER_CASE = {name: set(range(8)) for name in SQL_LEXERS + ["BATCH", "CSS", "VB", "PROPERTIES"]}
+LOWER_CASE.update(HTML={0, 2, 4}, PHP={0, 2, 4, 6})
+
+BOOL, INT = re.compile(r"[01]$"), re.compile(r"\d+$")
+SECTIONS = {
+    "View": {"WhiteSpace": BOOL, "EOL": BOOL, "WordWrap": BOOL, "TabWidth": INT,
+             "TabsToSpaces": BOOL},
+    "CodeHighlight": {"SyntaxHighlighting": BOOL, "BraceMatching": BOOL},
+    "AutoComp": {"AutoCompletion": BOOL, "CodeCompletion": BOOL, "AutoCompKey": BOOL},
+    "OnSave": {"EnsureFinalNewLine": BOOL, "ConvertTabsToSpaces": BOOL,
+               "TrimTrailingSpaces": BOOL},
+    "Indent": {"Indent": BOOL, "IndentSize": INT, "AutoIndent": re.compile(r"[012]$"),
+               "IndentGuides": BOOL},
+    "Margins": {"LineNumbers": BOOL, "BookMark": BOOL, "Fold": BOOL},
+    "LanguageDefines": {"Braces": re.compile(r"(\(\)|\[\]|\{\}|<>)+$"),
+                        "WordCharacters": re.compile(r"\S+$")},
+    "StyleInformation": {"StyleBits": re.compile(r"7$"), "StyleMax": re.compile(r"127$")},
+}
+CONFIG_SECTIONS = {
+    "General": "CheckFileModification",
+    "Editor": "CaretColor SelectionForeColor SelectionBackColor HighlightCurrentLine "
+              "HighlightCurrentLineColor RightEdge RightEdgeColumn RightEdgeColor",
+    "InsertText": "Type Position FirstNumber Length Step Separator InsertWords",
+}
+SHARED_SQL = """select insert update delete from where join on group by order having create drop
+alter table view index union all and or not in exists between like null""".split()
+
+# A few words that only one dialect has, by keyword set.
+DIALECT_WORDS = {
+    "SQL": {0: "match_recognize", 1: "varchar", 4: "coalesce"},
+    "TransactSQL": {0: "waitfor", 1: "uniqueidentifier", 2: "sys.objects", 3: "rowcount",
+                    4: "string_agg", 5: "sp_executesql"},
+    "AzureSQL": {0: "elastic_pool", 1: "datetimeoffset", 2: "sys.dm_db_resource_stats",
+                 4: "json_value", 5: "sp_set_firewall_rule"},
+    "PLSQL": {0: "elsif", 1: "varchar2", 2: "user_tables", 4: "nvl2", 5: "dbms_output.put_line"},
+    "MySQL": {0: "straight_join", 1: "mediumtext", 2: "information_schema.tables",
+              3: "sql_mode", 4: "group_concat"},
+    "PostgreSQL": {0: "returning", 1: "jsonb", 4: "array_agg", 5: "pg_class", 6: "work_mem",
+                   7: "perform"},
+    "SQLite": {0: "autoincrement", 1: "blob", 4: "ifnull", 5: "sqlite_master",
+               6: "foreign_keys"},
+    "DB2": {0: "bufferpool", 1: "vargraphic", 2: "syscat.tables", 4: "posstr",
+            5: "sysproc.admin_cmd"},
+    "SybaseASE": {0: "holdlock", 1: "univarchar", 2: "sysobjects", 3: "sqlstatus",
+                  4: "lockscheme", 5: "sp_helpdb"},
+    "SybaseIQ": {0: "dbspace", 1: "varbit", 2: "sys.systable", 3: "sqlstatus", 4: "uuidtostr",
+                 5: "sp_iqstatus"},
+    "InterBase": {0: "suspend", 1: "decfloat", 2: "rdb$relations", 4: "gen_id"},
+}
+
+
+def lexer_of(root):
+    return root.findtext("Lexer/Name").removeprefix("ZNEDITLEX_")
+
+
+def words_of(keywords):
+    return [word.text for word in keywords.findall("Word")]
+
+
+def luminance(colour):
+    channels = [int(colour[i:i + 2], 16) / 255 for i in (0, 2, 4)]
+    linear = [c / 12.92 if c <= 0.04045 else ((c + 0.055) / 1.055) ** 2.4 for c in channels]
+    return 0.2126 * linear[0] + 0.7152 * linear[1] + 0.0722 * linear[2]
+
+
+def contrast(first, second):
+    light, dark = sorted((luminance(first), luminance(second)), reverse=True)
+    return (light + 0.05) / (dark + 0.05)
+
+
+def hex_of(decimal):
+    """The settings file spells colours as one decimal number with red in the low byte."""
+    value = int(decimal)
+    return f"{value & 255:02X}{value >> 8 & 255:02X}{value >> 16 & 255:02X}"
+
+
+def keyword_faults(root):
+    """What is wrong with the keyword sets of a language."""
+    faults, seen = [], set()
+    lower = LOWER_CASE.get(lexer_of(root), set())
+    for keywords in root.iter("Keywords"):
+        number, words = keywords.get("set", ""), words_of(keywords)
+        if not re.fullmatch("[0-7]", number) or number in seen:
+            faults.append(f"set number {number!r}")
+            continue
+        seen.add(number)
+        if not keywords.get("description"):
+            faults.append(f"set {number} has no description")
+        if not words:
+            faults.append(f"set {number} is empty")
+            continue
+        if any(child.tag != "Word" for child in keywords):
+            faults.append(f"set {number} holds more than words")
+        faults += [f"{word} twice in set {number}" for word in set(words)
+                   if words.count(word) > 1]
+        faults += [f"{word!r} in set {number} is not one word" for word in words
+                   if not re.fullmatch(r"[!-~]+", word or "") or re.search("[<>&]", word)]
+        # The preferences split a set at blanks and lose a last word of one character.
+        if len(words[-1] or "") < 2:
+            faults.append(f"set {number} ends in a single character")
+        if int(number) in lower:
+            faults += [f"{word} in set {number} is not in lower case" for word in words
+                       if word != word.lower()]
+    return faults
+
+
+def style_faults(root, current_line):
+    """What is wrong with the style table: every number is applied, so every one needs colours."""
+    faults = []
+    styles = root.findall("StyleInformation/Style")
+    numbers = [style.get("number") for style in styles]
+    if sorted(numbers) != sorted(str(n) for n in range(128)):
+        faults.append("the style numbers are not 0 to 127, each once")
+    for style in styles:
+        number = style.get("number")
+        colours = [style.findtext("Color/Foreground", ""), style.findtext("Color/Background", "")]
+        if not all(re.fullmatch("[0-9A-F]{6}", colour) for colour in colours):
+            faults.append(f"style {number} has no two colours")
+            continue
+        papers = [colours[1]] + ([current_line] if colours[1] == "FFFFFF" else [])
+        faults += [f"style {number}: {colours[0]} on {paper}" for paper in papers
+                   if contrast(colours[0], paper) < 4.5]
+        # The first Name below a style is the style's, whatever element it stands in.
+        if style.find("Font") is not None and style[0].tag != "Name":
+            faults.append(f"style {number} does not begin with its name")
+    return faults
+
+
+def section_faults(root):
+    """What a reader that takes the first element of a name would not find."""
+    faults = []
+    for section, keys in SECTIONS.items():
+        first = next(root.iter(section), None)
+        if first is None or first not in list(root):
+            faults.append(f"no section {section}")
+            continue
+        for key, form in keys.items():
+            text = first.findtext(key, "")
+            if not form.match(text):
+                faults.append(f"{section}/{key} is {text!r}")
+    return faults
+
+
+def comment_faults(root):
+    faults = []
+    for name, limit in (("SingleLineComment", 2), ("BlockComment", 2)):
+        element = root.find(f"LanguageDefines/{name}")
+        if element is None:
+            continue
+        pieces = (element.text or "").split("|")
+        # The split that reads these runs over from the third piece on.
+        if len(pieces) > limit or not all(pieces) or (name == "BlockComment" and
+                                                      len(pieces) != 2):
+            faults.append(f"{name} is {element.text!r}")
+        if element.get("default") != "0":
+            faults.append(f"{name} starts with no alternative")
+    return faults
+
+
+class ShippedFiles(unittest.TestCase):
+    @classmethod
+    def setUpClass(cls):
+        cls.config = ET.parse(CONFIG).getroot()
+        cls.languages = {path.stem: ET.parse(path).getroot() for path in SYNTAX.glob("*.xml")}
+        cls.current_line = hex_of(cls.config.findtext("Editor/HighlightCurrentLineColor"))
+
+    def each(self, faults_of):
+        self.assertGreaterEqual(len(self.languages), 26)
+        for name, root in self.languages.items():
+            with self.subTest(language=name):
+                self.assertEqual(faults_of(root), [])
+
+    def test_files_are_plain_ascii_without_entities(self):
+        for path in [CONFIG, *SYNTAX.glob("*.xml")]:
+            with self.subTest(file=path.name):
+                text = path.read_bytes().decode("ascii")  # files are read byte by byte
+                self.assertNotRegex(re.sub(r"<!\[CDATA\[.*?\]\]>", "", text), "&")
+
+    def test_configuration_has_every_setting(self):
+        for section, keys in CONFIG_SECTIONS.items():
+            for key in keys.split():
+                with self.subTest(section=section, key=key):
+                    self.assertEqual(len(list(self.config.iter(key))), 1)
+                    self.assertIsNotNone(self.config.find(f"{section}/{key}"))
+        for name in ("SelectionForeColor", "SelectionBackColor"):
+            self.assertRegex(self.config.find(f"Editor/{name}").get("use"), BOOL)
+
+    def test_language_numbers_are_their_places(self):
+        languages = self.config.find("Languages")
+        self.assertEqual({child.tag for child in languages}, {"Language"})
+        numbers = [language.get("number") for language in languages]
+        self.assertEqual(numbers, [str(n) for n in range(len(languages))])
+        self.assertEqual(languages.get("count"), str(len(languages)))
+        names = [language.findtext("Name") for language in languages]
+        self.assertEqual(len(set(names)), len(names))
+
+    def test_every_language_has_its_own_file_and_every_file_a_language(self):
+        listed = [element.text for element in self.config.iter("SyntaxFile")]
+        self.assertEqual(sorted(listed), sorted(path.name for path in SYNTAX.iterdir()))
+
+    def test_numbers_with_special_places(self):
+        names = [element.text for element in self.config.find("Languages").iter("Name")]
+        self.assertEqual([names[0], names[1], names[11]], ["Default", "Text", "Messages"])
+        for name in ("Default", "Text"):
+            self.assertEqual(lexer_of(self.languages[name]), "NULL")
+            self.assertEqual(self.languages[name].findall("Keywords"), [])
+
+    def test_lexers_are_known(self):
+        self.each(lambda root: [] if lexer_of(root) in LEXERS else [lexer_of(root)])
+
+    def test_sections_are_found(self):
+        self.each(section_faults)
+
+    def test_keyword_sets(self):
+        self.each(keyword_faults)
+
+    def test_styles_are_readable(self):
+        self.each(lambda root: style_faults(root, self.current_line))
+
+    def test_comment_markers(self):
+        self.each(comment_faults)
+
+    def test_selected_text_is_readable(self):
+        paper = hex_of(self.config.findtext("Editor/SelectionBackColor"))
+        text = hex_of(self.config.findtext("Editor/SelectionForeColor"))
+        self.assertGreaterEqual(contrast(text, paper), 4.5)
+
+    def test_sql_dialects_share_the_core_of_the_language(self):
+        dialects = [name for name, root in self.languages.items() if lexer_of(root) in SQL_LEXERS]
+        self.assertEqual(sorted(dialects), sorted(DIALECT_WORDS))
+        for name in dialects:
+            root = self.languages[name]
+            words = {word for keywords in root.iter("Keywords") for word in words_of(keywords)}
+            with self.subTest(language=name):
+                self.assertEqual([word for word in SHARED_SQL if word not in words], [])
+                markers = root.findtext("LanguageDefines/SingleLineComment").split("|")
+                self.assertEqual(markers[0], "--")
+                self.assertEqual(root.findtext("LanguageDefines/BlockComment"), "/*|*/")
+
+    def test_each_dialect_has_its_own_words(self):
+        for name, expected in DIALECT_WORDS.items():
+            sets = {int(keywords.get("set")): words_of(keywords)
+                    for keywords in self.languages[name].iter("Keywords")}
+            for number, word in expected.items():
+                with self.subTest(language=name, set=number):
+                    self.assertIn(word, sets[number])
+
+
+class TheChecksThemselves(unittest.TestCase):
+    def broken(self, change):
+        root = ET.parse(SYNTAX / "SQLite.xml").getroot()
+        change(root)
+        return root
+
+    def test_contrast_is_that_of_the_formula(self):
+        self.assertAlmostEqual(contrast("000000", "FFFFFF"), 21)
+        self.assertAlmostEqual(contrast("777777", "FFFFFF"), 4.478, places=3)
+        self.assertEqual(hex_of(0x0080FF), "FF8000")
+
+    def test_a_pale_colour_is_found(self):
+        def pale(root):
+            root.find("StyleInformation/Style[@number='5']/Color/Foreground").text = "AAAAAA"
+        self.assertEqual(style_faults(self.broken(pale), "FFFFFF"),
+                         ["style 5: AAAAAA on FFFFFF", "style 5: AAAAAA on FFFFFF"])
+
+    def test_a_missing_style_is_found(self):
+        def lose(root):
+            styles = root.find("StyleInformation")
+            styles.remove(styles.find("Style[@number='77']"))
+        self.assertEqual(len(style_faults(self.broken(lose), "FFFFFF")), 1)
+
+    def test_a_doubled_and_an_upper_case_keyword_are_found(self):
+        def spoil(root):
+            words = root.find("Keywords[@set='0']").findall("Word")
+            words[0].text = words[1].text
+            words[2].text = "ADD"
+        faults = keyword_faults(self.broken(spoil))
+        self.assertEqual(len(faults), 2, faults)
+
+    def test_a_lost_setting_is_found(self):
+        def lose(root):
+            root.find("View").remove(root.find("View/TabWidth"))
+            root.remove(root.find("Margins"))
+        self.assertEqual(section_faults(self.broken(lose)),
+                         ["View/TabWidth is ''", "no section Margins"])
+
+    def test_a_third_comment_marker_is_found(self):
+        def spoil(root):
+            root.find("LanguageDefines/SingleLineComment").text = "--|//|#"
+        self.assertEqual(len(comment_faults(self.broken(spoil))), 1)
+
+
+if __name__ == "__main__":
+    sys.exit(unittest.main())
