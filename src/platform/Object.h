@@ -1,0 +1,37 @@
+// CObject: the root of the classes that can be identified at run time, and never copied.
+#pragma once
+
+#include "common/Export.h"
+
+// One for each class, so that two of them are the same class exactly if they have one address.
+struct CRuntimeClass
+{
+    const char* name;
+    const CRuntimeClass* base; // null for CObject
+};
+
+class ZN_API CObject
+{
+public:
+    CObject() = default;
+    CObject(const CObject&) = delete;
+    CObject& operator=(const CObject&) = delete;
+
+    virtual const CRuntimeClass* GetRuntimeClass() const { return GetThisClass(); }
+    virtual ~CObject() = default;
+
+    static const CRuntimeClass* GetThisClass()
+    {
+        static constexpr CRuntimeClass own = {"CObject", nullptr};
+        return &own;
+    }
+
+    // Whether the object is of this class or of one derived from it.
+    bool IsKindOf(const CRuntimeClass* wanted) const
+    {
+        const CRuntimeClass* at = GetRuntimeClass();
+        while (at && at != wanted)
+            at = at->base;
+        return at != nullptr;
+    }
+};

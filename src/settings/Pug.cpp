@@ -1,0 +1,286 @@
+#include "settings/Pug.h"
+
+#include <pugixml.hpp>
+
+#include <cstring>
+
+namespace pug {
+
+namespace {
+
+// Without pugi::parse_escapes and parse_eol every value reads as it stands in the file.
+constexpr unsigned int kOptions = pugi::parse_pi | pugi::parse_declaration | pugi::parse_doctype |
+                                  pugi::parse_comments | pugi::parse_cdata | pugi::parse_fragment;
+
+// The indent of the written file grows with the square of the depth, and nothing that is meant as
+// settings comes near.
+constexpr int kDeepest = 1000;
+
+pugi::xml_node_type ToPugi(xml_node_type type)
+{
+    switch (type) {
+    case node_element:
+        return pugi::node_element;
+    case node_pcdata:
+        return pugi::node_pcdata;
+    case node_cdata:
+        return pugi::node_cdata;
+    case node_comment:
+        return pugi::node_comment;
+    case node_pi:
+        return pugi::node_pi;
+    case node_doctype:
+        return pugi::node_doctype;
+    default:
+        return pugi::node_null;
+    }
+}
+
+xml_node_type FromPugi(pugi::xml_node_type type)
+{
+    switch (type) {
+    case pugi::node_document:
+        return node_document;
+    case pugi::node_element:
+        return node_element;
+    case pugi::node_pcdata:
+        return node_pcdata;
+    case pugi::node_cdata:
+        return node_cdata;
+    case pugi::node_comment:
+        return node_comment;
+    case pugi::node_pi:
+    case pugi::node_declaration:
+        return node_pi;
+    case pugi::node_doctype:
+        return node_doctype;
+    default:
+        return node_null;
+    }
+}
+
+QByteArray Bytes(const char16_t* text)
+{
+    return QStringView(text).toUtf8();
+}
+
+// A mark in front of a text is a part of it.
+QString Units(const char* text)
+{
+    constexpr char kMark[] = "\xEF\xBB\xBF";
+    QString units;
+    for (; std::strncmp(text, kMark, 3) == 0; text += 3)
+        units += QChar(QChar::ByteOrderMark);
+    return units + QString::fromUtf8(text);
+}
+
+xml_node Handle(const pugi::xml_node& node)
+{
+    return xml_node(node.internal_object());
+}
+
+bool IsElement(const pugi::xml_node& node, const QByteArray& name)
+{
+    return node.type() == pugi::node_element && std::strcmp(node.name(), name.constData()) == 0;
+}
+
+struct DepthMeter final : pugi::xml_tree_walker
+{
+    bool for_each(pugi::xml_node&) override { return depth() < kDeepest; }
+};
+
+} // namespace
+
+QString xml_attribute::name() const
+{
+    return Units(pugi::xml_attribute(m_attribute).name());
+}
+
+QString xml_attribute::value() const
+{
+    return Units(pugi::xml_attribute(m_attribute).value());
+}
+
+bool xml_attribute::set_value(const QString& value)
+{
+    return pugi::xml_attribute(m_attribute).set_value(value.toUtf8().constData());
+}
+
+xml_attribute xml_attribute::next_attribute() const
+{
+    return xml_attribute(pugi::xml_attribute(m_attribute).next_attribute().internal_object());
+}
+
+xml_node_type xml_node::type() const
+{
+    return FromPugi(pugi::xml_node(m_node).type());
+}
+
+bool xml_node::set_type(xml_node_type type)
+{
+    if (this->type() == type)
+        return !empty();
+    pugi::xml_node old(m_node);
+    pugi::xml_node parent = old.parent();
+    const pugi::xml_node made = parent.insert_child_before(ToPugi(type), old);
+    if (!made)
+        return false;
+    pugi::xml_node(made).set_value(old.value());
+    parent.remove_child(old);
+    m_node = made.internal_object();
+    return true;
+}
+
+QString xml_node::name() const
+{
+    return Units(pugi::xml_node(m_node).name());
+}
+
+bool xml_node::set_name(const char16_t* name)
+{
+    return pugi::xml_node(m_node).set_name(Bytes(name).constData());
+}
+
+QString xml_node::value() const
+{
+    return Units(pugi::xml_node(m_node).value());
+}
+
+bool xml_node::set_value(const QString& value)
+{
+    return pugi::xml_node(m_node).set_value(value.toUtf8().constData());
+}
+
+bool xml_node::has_children() const
+{
+    return !pugi::xml_node(m_node).first_child().empty();
+}
+
+int xml_node::children() const
+{
+    const auto range = pugi::xml_node(m_node).children();
+    return static_cast<int>(std::distance(range.begin(), range.end()));
+}
+
+xml_node xml_node::first_child() const
+{
+    return Handle(pugi::xml_node(m_node).first_child());
+}
+
+xml_node xml_node::next_sibling() const
+{
+    return Handle(pugi::xml_node(m_node).next_sibling());
+}
+
+xml_node xml_node::child(int index) const
+{
+    xml_node at = index < 0 ? xml_node() : first_child();
+    for (int i = 0; i < index && !at.empty(); ++i)
+        at = at.next_sibling();
+    return at;
+}
+
+xml_node xml_node::append_child(xml_node_type type)
+{
+    return Handle(pugi::xml_node(m_node).append_child(ToPugi(type)));
+}
+
+xml_node xml_node::append_copy(const xml_node& node)
+{
+    return Handle(pugi::xml_node(m_node).append_copy(pugi::xml_node(node.m_node)));
+}
+
+bool xml_node::remove_child(int index)
+{
+    return pugi::xml_node(m_node).remove_child(pugi::xml_node(child(index).m_node));
+}
+
+void xml_node::remove_children()
+{
+    pugi::xml_node(m_node).remove_children();
+}
+
+bool xml_node::has_attributes() const
+{
+    return !first_attribute().empty();
+}
+
+int xml_node::attributes() const
+{
+    const auto range = pugi::xml_node(m_node).attributes();
+    return static_cast<int>(std::distance(range.begin(), range.end()));
+}
+
+xml_attribute xml_node::first_attribute() const
+{
+    return xml_attribute(pugi::xml_node(m_node).first_attribute().internal_object());
+}
+
+xml_attribute xml_node::attribute(const char16_t* name) const
+{
+    const QByteArray bytes = Bytes(name);
+    return xml_attribute(pugi::xml_node(m_node).attribute(bytes.constData()).internal_object());
+}
+
+xml_attribute xml_node::append_attribute(const char16_t* name, const QString& value)
+{
+    const QByteArray bytes = Bytes(name);
+    pugi::xml_attribute made = pugi::xml_node(m_node).append_attribute(bytes.constData());
+    made.set_value(value.toUtf8().constData());
+    return xml_attribute(made.internal_object());
+}
+
+xml_node xml_node::first_element_by_name(const char16_t* name) const
+{
+    if (!name)
+        return xml_node();
+    const QByteArray bytes = Bytes(name);
+    return Handle(pugi::xml_node(m_node).find_node(
+        [&](const pugi::xml_node& node) { return IsElement(node, bytes); }));
+}
+
+xml_node xml_node::first_element_by_attribute(const char16_t* name, const char16_t* attribute,
+                                              const QString& value) const
+{
+    const QByteArray bytes = Bytes(name);
+    const QByteArray key = Bytes(attribute);
+    const QByteArray wanted = value.toUtf8();
+    return Handle(pugi::xml_node(m_node).find_node([&](const pugi::xml_node& node) {
+        if (!IsElement(node, bytes))
+            return false;
+        const pugi::xml_attribute found = node.attribute(key.constData());
+        return found && wanted == found.value();
+    }));
+}
+
+xml_parser::xml_parser() : m_document(std::make_unique<pugi::xml_document>()) {}
+
+xml_parser::~xml_parser() = default;
+
+bool xml_parser::parse(const QString& text)
+{
+    constexpr char kMark[] = "\xEF\xBB\xBF";
+    QByteArray bytes = text.toUtf8();
+    // One mark would be skipped, yet it is text like any other.
+    if (bytes.startsWith(kMark))
+        bytes.prepend(kMark);
+    const pugi::xml_parse_result result = m_document->load_buffer(
+        bytes.constData(), static_cast<std::size_t>(bytes.size()), kOptions, pugi::encoding_utf8);
+    DepthMeter meter;
+    if (result && m_document->document_element() && m_document->traverse(meter))
+        return true;
+    clear();
+    return false;
+}
+
+void xml_parser::clear()
+{
+    m_document->reset();
+}
+
+xml_node xml_parser::document() const
+{
+    return Handle(*m_document);
+}
+
+} // namespace pug

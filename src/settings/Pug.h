@@ -1,0 +1,114 @@
+// The document tree of the settings files: nodes and attributes by handle, a parser that owns them.
+// Knows neither files nor settings. The tree is pugixml's, which only Pug.cpp includes.
+// A handle is as cheap as a pointer, may be empty, and is safe to ask and to set when it is: it
+// reads as empty then, and setting fails. It is good until its node is removed.
+#pragma once
+
+#include "common/Export.h"
+
+#include <QString>
+
+#include <memory>
+
+namespace pugi {
+class xml_document;
+struct xml_attribute_struct;
+struct xml_node_struct;
+} // namespace pugi
+
+namespace pug {
+
+enum xml_node_type
+{
+    node_null, // what an empty handle has
+    node_document,
+    node_element,
+    node_pcdata,
+    node_cdata,
+    node_comment,
+    node_pi,
+    node_doctype
+};
+
+class ZN_API xml_attribute
+{
+public:
+    xml_attribute() = default;
+    explicit xml_attribute(pugi::xml_attribute_struct* attribute) : m_attribute(attribute) {}
+
+    bool empty() const { return m_attribute == nullptr; }
+    QString name() const;
+    QString value() const;
+    bool set_value(const QString& value);
+    xml_attribute next_attribute() const;
+
+private:
+    pugi::xml_attribute_struct* m_attribute = nullptr;
+};
+
+class ZN_API xml_node
+{
+public:
+    xml_node() = default;
+    explicit xml_node(pugi::xml_node_struct* node) : m_node(node) {}
+
+    bool empty() const { return m_node == nullptr; }
+    xml_node_type type() const;
+    // Makes a text of a CDATA section, and the other way round. What stands in the node's place
+    // otherwise is replaced by an empty one; its handles are stale but for this.
+    bool set_type(xml_node_type type);
+
+    QString name() const;
+    bool set_name(const char16_t* name);
+    // The text of anything but an element; an element's is empty.
+    QString value() const;
+    bool set_value(const QString& value);
+
+    bool has_children() const;
+    int children() const;
+    xml_node first_child() const;
+    xml_node next_sibling() const;
+    // The child at an index; empty for an index that is not there.
+    xml_node child(int index) const;
+
+    xml_node append_child(xml_node_type type);
+    // A copy of a node with all that stands below it, which may be of another tree.
+    xml_node append_copy(const xml_node& node);
+    bool remove_child(int index);
+    void remove_children();
+
+    bool has_attributes() const;
+    int attributes() const;
+    xml_attribute first_attribute() const;
+    xml_attribute attribute(const char16_t* name) const;
+    xml_attribute append_attribute(const char16_t* name, const QString& value);
+
+    // The first element below, in the order of the document. A null name finds nothing.
+    xml_node first_element_by_name(const char16_t* name) const;
+    xml_node first_element_by_attribute(const char16_t* name, const char16_t* attribute,
+                                        const QString& value) const;
+
+private:
+    pugi::xml_node_struct* m_node = nullptr;
+};
+
+class ZN_API xml_parser
+{
+public:
+    xml_parser();
+    ~xml_parser();
+    xml_parser(const xml_parser&) = delete;
+    xml_parser& operator=(const xml_parser&) = delete;
+
+    // Entities are not expanded and texts not trimmed; blank text between tags makes no node, text
+    // before the first element makes one. False, and an empty tree, for a text that is not
+    // well-formed, has no element, or is nested too deep.
+    bool parse(const QString& text);
+    void clear();
+    xml_node document() const; // the root, never empty
+
+private:
+    std::unique_ptr<pugi::xml_document> m_document;
+};
+
+} // namespace pug
