@@ -55,9 +55,16 @@ private:
         if (quote == u'"' || quote == u'\'')
             m_at = Behind(QString(quote), start + 1);
         else
-            while (m_at < m_text.size() && !IsBlank(m_text[m_at]) && m_text[m_at] != u'[')
-                m_broken |= m_text[m_at] == u'"' || m_text[m_at++] == u'\'';
+            m_at = EndOfWord();
         return m_text.mid(start, m_at - start);
+    }
+
+    qsizetype EndOfWord()
+    {
+        qsizetype at = m_at;
+        for (; at < m_text.size() && !IsBlank(m_text[at]) && m_text[at] != u'['; ++at)
+            m_broken |= m_text[at] == u'"' || m_text[at] == u'\'';
+        return at;
     }
 
     bool ReadSubset(QStringList& declarations)
