@@ -8,6 +8,8 @@
 
 #include <gtest/gtest.h>
 
+#include <sys/stat.h>
+
 class SettingsFolder : public testing::Test
 {
 protected:
@@ -24,6 +26,11 @@ protected:
     {
         QFile file(PathOf(name));
         return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray("<no file>");
+    }
+
+    void SetMode(const char* name, mode_t mode) const
+    {
+        ASSERT_EQ(chmod(QFile::encodeName(PathOf(name)).constData(), mode), 0);
     }
 
 private:

@@ -1,5 +1,6 @@
 // What is no settings file reads as empty, and is never written over.
 #include "OpenXMLFile.h"
+#include "OrdinaryUser.h"
 #include "SettingsFolder.h"
 
 #include <QDir>
@@ -7,7 +8,6 @@
 #include <random>
 
 #include <sys/stat.h>
-#include <unistd.h>
 
 namespace {
 
@@ -120,6 +120,31 @@ TEST_F(XMLBadInput, AFailedSaveKeepsTheChange)
     file.SetFilename(PathOf("a"));
     EXPECT_TRUE(file.Save());
     EXPECT_EQ(Get("a"), "<S>\r\n\t<K>2</K>\r\n</S>\r\n");
+}
+
+TEST_F(XMLBadInput, AReadOnlyFileIsReadButNotWritten)
+{
+    Put("a", "<S><K>1</K></S>");
+    SetMode("a", 0444);
+    const OrdinaryUser user;
+    OpenXMLFile file(PathOf("a"));
+    EXPECT_EQ(file.GetIntFromXMLFile(u"S", u"K"), 1);
+    EXPECT_TRUE(file.SetIntToXMLFile(u"S", u"K", 2));
+    EXPECT_FALSE(file.Save());
+    EXPECT_TRUE(file.GetModified());
+    EXPECT_EQ(Get("a"), "<S><K>1</K></S>");
+}
+
+TEST_F(XMLBadInput, AFileThatMayNotBeReadIsUnusable)
+{
+    Put("a", "<S><K>1</K></S>");
+    SetMode("a", 0);
+    {
+        const OrdinaryUser user;
+        EXPECT_EQ(OpenXMLFile(PathOf("a")).GetIntFromXMLFile(u"S", u"K"), 0);
+    }
+    SetMode("a", 0644);
+    EXPECT_EQ(OpenXMLFile(PathOf("a")).GetIntFromXMLFile(u"S", u"K"), 1);
 }
 
 TEST_F(XMLBadInput, WhatSomeoneElseWroteMeanwhileIsReplacedWhole)
