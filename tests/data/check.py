@@ -227,6 +227,14 @@ class ShippedFiles(unittest.TestCase):
     def test_lexers_are_known(self):
         self.each(lambda root: [] if lexer_of(root) in LEXERS else [lexer_of(root)])
 
+    def test_languages_of_one_lexer_leave_nothing_of_each_other(self):
+        # A lexer that stays keeps what the next language does not set.
+        siblings = [root for root in self.languages.values() if lexer_of(root) == "SQL"]
+        self.assertGreater(len(siblings), 1)
+        for query, key in (("Lexer/Property", "name"), ("Keywords", "set")):
+            kept = {tuple(sorted(e.get(key) for e in root.findall(query))) for root in siblings}
+            self.assertEqual(len(kept), 1, kept)
+
     def test_sections_are_found(self):
         self.each(section_faults)
 
