@@ -76,7 +76,9 @@ private:
                 return false;
             declarations << m_text.mid(start, m_at - start);
         }
-        return m_at + 1 == m_text.trimmed().size();
+        const bool closed = m_at < m_text.size();
+        ++m_at;
+        return closed && !SkipBlanks(); // nothing may stand behind the bracket
     }
 
     qsizetype EndOfDeclaration()

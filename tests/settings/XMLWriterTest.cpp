@@ -51,6 +51,7 @@ TEST(XMLWriter, WritesADocumentTypeByItsParts)
 TEST(XMLWriter, WritesADocumentTypeThatItCannotReadAsItStood)
 {
     EXPECT_EQ(Rewritten("<!DOCTYPE a [ b  c ]><a/>"), "<!DOCTYPE a [ b  c ]>\r\n<a/>\r\n");
+    EXPECT_EQ(Rewritten("<!DOCTYPE a [] \f ><a/>"), "<!DOCTYPE a [] \f >\r\n<a/>\r\n");
     EXPECT_EQ(Rewritten("<!DOCTYPE a'b'  c><a/>"), "<!DOCTYPE a'b'  c>\r\n<a/>\r\n");
 }
 
