@@ -61,6 +61,18 @@ TEST_F(Composition, PutsInWhatIsCommittedAndUndoTakesItBack)
     EXPECT_EQ(Text(), QStringLiteral("ab\n"));
 }
 
+TEST_F(Composition, WhatIsCommittedStandsInTheSavedFile)
+{
+    Open("a.sql", "ab \xC3\xA9\n");
+    Editor().GotoPos(1, 1);
+    Compose(QStringLiteral("にほん"), {});
+    Trigger("save");
+    EXPECT_EQ(Read("a.sql"), QByteArray("ab \xC3\xA9\n"));
+    Compose({}, QStringLiteral("日本"));
+    Trigger("save");
+    EXPECT_EQ(Read("a.sql"), QStringLiteral("a日本b é\n").toUtf8());
+}
+
 TEST_F(Composition, TellsTheInputMethodAboutTheLineOfTheCaret)
 {
     Open("a.sql", "first\nz\xC3\xA9 line\nlast\n");
