@@ -150,6 +150,11 @@ using DirectFunction = LRESULT (*)(LRESULT instance, UINT message, WPARAM wParam
 inline constexpr int kDefaultModEventMask =
     modification::InsertText | modification::DeleteText | modification::ChangeFold;
 
+// Messages outside the table, which have no operation of the control.
+inline constexpr UINT kRestyle = 2494;       // the text's styles are stale
+inline constexpr UINT kExtendedTexts = 4011; // wParam: std::map<int, std::u16string>*, by line
+inline constexpr UINT kExtendedText = 4012;  // wParam: UTF-16, lParam: how many units
+
 inline constexpr const char16_t* kWindowClass = u"ZNBaseEditorWin";
 inline constexpr const char16_t* kModule = u"ZNBaseEditor";
 

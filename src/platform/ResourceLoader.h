@@ -6,6 +6,7 @@
 
 #include <QHash>
 #include <QString>
+#include <QStringList>
 
 class ZN_API IZNBaseResourceLoader
 {
@@ -14,6 +15,10 @@ public:
 
     // The text with this number, empty if there is none.
     virtual QString LoadString(UINT id) const = 0;
+
+    // That text with its marks %1 to %9 replaced by the values; a mark without one stays. What a
+    // value holds is not looked at.
+    QString FormatString(UINT id, const QStringList& values) const;
 };
 
 // Texts from an XML file: <strings><string id="28178">...</string></strings>.

@@ -10,6 +10,7 @@ using UINT = unsigned int;
 using WPARAM = std::uintptr_t; // wide enough for a pointer, as are the next two
 using LPARAM = std::intptr_t;
 using LRESULT = std::intptr_t;
+using COLORREF = std::uint32_t; // 0x00BBGGRR
 
 using HWND = QWidget*; // names a widget; IsWindow tells whether it is alive
 struct Module;

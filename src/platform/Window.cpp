@@ -1,5 +1,6 @@
 #include "platform/Window.h"
 
+#include "platform/WindowEvents.h"
 #include "platform/Wnd.h"
 
 #include <QAbstractScrollArea>
@@ -145,6 +146,26 @@ HWND GetParent(HWND window)
     return IsWindow(window) ? window->parentWidget() : nullptr;
 }
 
+bool IsWindowVisible(HWND window)
+{
+    return IsWindow(window) && window->isVisible();
+}
+
+RECT GetClientRect(HWND window)
+{
+    return IsWindow(window) ? RECT{0, 0, window->width(), window->height()} : RECT{};
+}
+
+void InvalidateWindow(HWND window)
+{
+    if (!IsWindow(window))
+        return;
+    if (auto* area = qobject_cast<QAbstractScrollArea*>(window))
+        area->viewport()->update();
+    else
+        window->update();
+}
+
 void UpdateWindow(HWND window)
 {
     if (!IsWindow(window))
@@ -163,6 +184,9 @@ CWnd* AttachedWnd(HWND window)
 
 void SetAttachedWnd(HWND window, CWnd* wnd)
 {
-    if (window)
-        RecordOf(window).wnd = wnd;
+    if (!window)
+        return;
+    RecordOf(window).wnd = wnd;
+    if (wnd)
+        DeliverEvents(window);
 }

@@ -7,6 +7,9 @@
 #include "platform/Types.h"
 
 inline constexpr UINT WM_CREATE = 0x0001;
+inline constexpr UINT WM_DESTROY = 0x0002; // from CWnd::DestroyWindow alone
+inline constexpr UINT WM_SETTEXT = 0x000C; // lParam: UTF-16 with a terminator
+inline constexpr UINT WM_SETFONT = 0x0030; // wParam: HFONT, lParam: whether to paint
 inline constexpr UINT WM_NOTIFY = 0x004E; // lParam: a record that begins with the sender's handle
 
 inline constexpr unsigned long WS_CHILD = 0x40000000;
@@ -51,6 +54,14 @@ ZN_API HWND GetParent(HWND window);
 
 // A number for messages of this name, the same for every caller of the process; from 0xC000 up.
 ZN_API UINT RegisterWindowMessage(const char16_t* name);
+
+ZN_API bool IsWindowVisible(HWND window);
+
+// From 0, 0; empty for a window that is not live.
+ZN_API RECT GetClientRect(HWND window);
+
+// The whole window is painted again, once the event loop comes to it.
+ZN_API void InvalidateWindow(HWND window);
 
 // Paints at once what waits to be painted.
 ZN_API void UpdateWindow(HWND window);

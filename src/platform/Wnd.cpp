@@ -1,5 +1,8 @@
 #include "platform/Wnd.h"
 
+#include "platform/Accelerators.h"
+
+#include <QApplication>
 #include <QString>
 
 CWnd::~CWnd()
@@ -53,7 +56,32 @@ HWND CWnd::Detach()
 
 void CWnd::DestroyWindow()
 {
+    SendMessage(m_hWnd, WM_DESTROY, 0, 0);
     delete Detach();
+}
+
+int CWnd::PreTranslateMessage(MSG* /*message*/)
+{
+    return 0;
+}
+
+int CWnd::OnNotify(WPARAM /*wParam*/, LPARAM /*lParam*/, LRESULT* /*result*/)
+{
+    return 0;
+}
+
+int CWnd::OnCommand(WPARAM wParam, LPARAM /*lParam*/)
+{
+    constexpr WPARAM kNumber = 0xFFFF;
+    return OnCmdMsg(static_cast<UINT>(wParam & kNumber), nullptr) ? 1 : 0;
+}
+
+CWnd* CWnd::SetFocus()
+{
+    CWnd* previous = AttachedWnd(QApplication::focusWidget());
+    if (m_hWnd)
+        m_hWnd->setFocus();
+    return previous;
 }
 
 LRESULT CWnd::WindowProc(UINT message, WPARAM wParam, LPARAM lParam)
@@ -64,6 +92,11 @@ LRESULT CWnd::WindowProc(UINT message, WPARAM wParam, LPARAM lParam)
                 return entry.run(*this, wParam, lParam);
         }
     }
+    LRESULT result = 0;
+    if (message == WM_NOTIFY && OnNotify(wParam, lParam, &result))
+        return result;
+    if (message == WM_COMMAND && OnCommand(wParam, lParam))
+        return 0;
     return DefWindowProc(message, wParam, lParam);
 }
 

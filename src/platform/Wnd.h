@@ -2,6 +2,7 @@
 #pragma once
 
 #include "common/Export.h"
+#include "platform/CmdTarget.h"
 #include "platform/Window.h"
 
 #include <QPointer>
@@ -10,6 +11,7 @@
 #include <span>
 
 class CWnd;
+struct MSG;
 struct CCreateContext; // what a document template hands to the windows that it makes
 
 struct MessageEntry
@@ -25,13 +27,11 @@ struct MessageMap
     std::span<const MessageEntry> entries;
 };
 
-class ZN_API CWnd
+class ZN_API CWnd : public CCmdTarget
 {
 public:
     CWnd() = default;
-    CWnd(const CWnd&) = delete;
-    CWnd& operator=(const CWnd&) = delete;
-    virtual ~CWnd(); // destroys the window
+    ~CWnd() override; // destroys the window
 
     // The window, null if there is none or it is gone.
     HWND GetSafeHwnd() const { return m_hWnd.data(); }
@@ -53,6 +53,18 @@ public:
 
     // Runs once a window is attached by Create or SubclassWindow, before its first message.
     virtual void PreSubclassWindow() {}
+
+    // Offered a key before the window that has the focus gets it, if it is that window's or one
+    // inside. Not 0 takes the key away.
+    virtual int PreTranslateMessage(MSG* message);
+
+    // What a child tells, the record behind lParam. Not 0 if it was dealt with.
+    virtual int OnNotify(WPARAM wParam, LPARAM lParam, LRESULT* result);
+
+    // A command from a key or a menu. Not 0 if it was known.
+    virtual int OnCommand(WPARAM wParam, LPARAM lParam);
+
+    virtual CWnd* SetFocus(); // the object of the window that had it, or null
 
     // Every message that is sent to the window: the message maps, then DefWindowProc.
     virtual LRESULT WindowProc(UINT message, WPARAM wParam, LPARAM lParam);

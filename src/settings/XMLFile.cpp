@@ -170,7 +170,7 @@ try {
 bool CXMLFile::WriteDocument(const QString& filename, const pug::xml_parser& document)
 {
     const QString text = WriteXML(document.document());
-    const std::string bytes = znutils::StringUtils::ConvertUnicodeToMB(
+    const std::string bytes = znutils::StringUtils::ConvertToMBString(
         {reinterpret_cast<const char16_t*>(text.utf16()), static_cast<std::size_t>(text.size())});
     return WriteWholeFile(filename, QByteArray::fromStdString(bytes));
 }

@@ -26,7 +26,7 @@ QString Decoded(const std::string& bytes)
 
 std::string Encoded(const QString& text)
 {
-    return znutils::StringUtils::ConvertUnicodeToMB(
+    return znutils::StringUtils::ConvertToMBString(
         {reinterpret_cast<const char16_t*>(text.utf16()), static_cast<std::size_t>(text.size())});
 }
 

@@ -25,7 +25,7 @@ std::u16string StringUtils::ConvertMBToUnicode(std::string_view bytes)
     return text;
 }
 
-std::string StringUtils::ConvertUnicodeToMB(std::u16string_view text)
+std::string StringUtils::ConvertToMBString(std::u16string_view text)
 {
     std::string bytes;
     if (text.size() > INT_MAX)

@@ -13,7 +13,7 @@ struct StringUtils
     static std::u16string ConvertMBToUnicode(std::string_view bytes);
 
     // The bytes of a text in the system's code page. A unit that the page lacks becomes "?".
-    static std::string ConvertUnicodeToMB(std::u16string_view text);
+    static std::string ConvertToMBString(std::u16string_view text);
 };
 
 } // namespace znutils

@@ -1,0 +1,265 @@
+// CZNCoreEditorControlEx: the language, and the host's options on their way into it.
+#include "editing/ZNCoreEditorControlEx.h"
+
+#include "editing/FileTypeManager.h"
+#include "editing/Library.h"
+#include "platform/Font.h"
+#include "platform/OptionsServer.h"
+#include "settings/ConfigFile.h"
+#include "settings/Number.h"
+#include "settings/SyntaxFile.h"
+
+#include <cmath>
+#include <string>
+
+namespace {
+
+constexpr int kDefaultStyle = 32;
+constexpr int kLineNumberStyle = 33;
+constexpr int kLastStyle = 127;
+constexpr int kExtendedMargin = 0;
+constexpr int kNumberMargin = 1;
+constexpr int kMarginRoom = 4; // pixels beside the digits
+constexpr int kUsualTabWidth = 4;
+
+const char16_t* Units(const QString& text)
+{
+    return reinterpret_cast<const char16_t*>(text.utf16());
+}
+
+int DigitsOf(int lines)
+{
+    constexpr int kFewest = 4;
+    constexpr int kMostOfThose = 9999;
+    return lines <= kMostOfThose ? kFewest : static_cast<int>(std::floor(std::log10(lines))) + 1;
+}
+
+// What the options say of every language.
+struct LanguageOptions
+{
+    explicit LanguageOptions(CZNOptionsServer& options)
+        : autoIndent(options.GetInt(option::AutoIndent)),
+          tabsToSpaces(options.GetInt(option::TabsToSpaces) != 0),
+          lineNumbers(options.GetInt(option::LineNumbers) != 0),
+          tabWidth(options.GetInt(option::TabWidth)),
+          foldMargin(options.GetInt(option::FoldMargin) != 0)
+    {
+        if (tabWidth <= 0)
+            tabWidth = kUsualTabWidth;
+    }
+
+    // In the order in which the options are asked.
+    int autoIndent;
+    bool tabsToSpaces;
+    bool lineNumbers;
+    int tabWidth;
+    bool foldMargin;
+};
+
+struct FontOptions
+{
+    QString name;
+    int size; // in points; below 1: as the language has it
+    bool bold;
+    bool italic;
+    bool underline;
+};
+
+void Write(const LanguageOptions& options, bool wordWrap, CSyntaxFile& syntax)
+{
+    syntax.SetAutoIndent(options.autoIndent);
+    syntax.SetTabsToSpaces(options.tabsToSpaces);
+    syntax.SetMarginLineNumber(options.lineNumbers);
+    syntax.SetMarginFold(options.foldMargin);
+    syntax.SetTabWidth(options.tabWidth);
+    syntax.SetIndentSize(options.tabWidth);
+    syntax.SetWordWrap(wordWrap);
+}
+
+void Write(const FontOptions& font, CSyntaxFile& syntax)
+{
+    for (int style = 0; style <= kLastStyle; ++style) {
+        syntax.SetStyleFontName(style, font.name);
+        if (font.size > 0)
+            syntax.SetStyleFontSize(style, font.size);
+        syntax.SetStyleFontBold(style, font.bold);
+        syntax.SetStyleFontItalic(style, font.italic);
+        syntax.SetStyleFontUnderline(style, font.underline);
+    }
+}
+
+} // namespace
+
+void CZNCoreEditorControlEx::Reset()
+{
+    m_singleLineComments.clear();
+    m_blockComments.clear();
+}
+
+int CZNCoreEditorControlEx::InitializeLanguage(int language, int /*unused*/)
+{
+    Reset();
+    zncoreeditor::GetFileTypeManager()->SetCoreEditorProperties(language, this);
+    m_currentLanguage = language;
+    ApplyColorMaxSize();
+    InvalidateWindow(GetSafeHwnd());
+    UpdateWindow(GetSafeHwnd());
+    return 1;
+}
+
+// Another value has the text styled anew.
+void CZNCoreEditorControlEx::ApplyColorMaxSize()
+{
+    constexpr std::size_t kCompared = 20;
+    constexpr std::size_t kRoom = 256;
+    const auto size =
+        static_cast<unsigned int>(CZNOptionsServer::GetObjectW()->GetInt(option::ColorMaxSize));
+    const std::u16string wanted = QString::number(size).toStdU16String();
+    std::u16string present(kRoom, u'\0');
+    GetProperty(u"colorMaxSize", present.data(), 1);
+    present.resize(std::char_traits<char16_t>::length(present.c_str()));
+    if (wanted == present.substr(0, kCompared))
+        return;
+    SetProperty(u"colorMaxSize", wanted.c_str(), 1);
+    ClearDocumentStyle(1);
+    Call(engine::kRestyle, 0, 0, 1);
+}
+
+void CZNCoreEditorControlEx::SetEditorOptions()
+{
+    CZNOptionsServer* options = CZNOptionsServer::GetObjectW();
+    LOGFONT font;
+    if (!options->GetLOGFONT(option::EditorFont, &font)) {
+        constexpr std::u16string_view kFace = u"Tahoma";
+        font = LOGFONT();
+        font.lfHeight = -15;
+        font.lfCharSet = 1;
+        kFace.copy(font.lfFaceName, kFace.size());
+        options->SetLOGFONT(option::EditorFont, &font);
+    }
+    SetLogFont(&font);
+}
+
+void CZNCoreEditorControlEx::SetLogFont(LOGFONT* font)
+{
+    constexpr int kPointsPerInch = 72;
+    if (!font)
+        return;
+    const int size =
+        -MulDiv(static_cast<int>(font->lfHeight), kPointsPerInch, ScreenPixelsPerInch());
+    UpdateXmlSettingsFromOptionServerData(QString::fromUtf16(font->lfFaceName), size,
+                                          font->lfWeight == FW_BOLD, font->lfItalic != 0,
+                                          font->lfUnderline != 0);
+}
+
+void CZNCoreEditorControlEx::UpdateXmlSettingsFromOptionServerData(QString fontName, int fontSize,
+                                                                   bool bold, bool italic,
+                                                                   bool underline)
+{
+    CZNOptionsServer& options = *CZNOptionsServer::GetObjectW();
+    QString background = options.GetString(option::BackgroundColor);
+    if (background.isEmpty())
+        background = QStringLiteral("255,255,255");
+    m_backgroundColor = COLORREFFromString(background);
+    if (fontName.isEmpty())
+        fontName = QStringLiteral("Courier New");
+    const int tracking = options.GetInt(option::FileTracking);
+    CConfigFile* config = zncoreeditor::GetConfigFile();
+    if (!config)
+        return;
+    config->SetFileTracking(tracking);
+    const int count = config->GetLanguageCount();
+    if (count > 0) {
+        const LanguageOptions languageOptions(options);
+        const FontOptions font{fontName, fontSize, bold, italic, underline};
+        const bool wordWrap = GetUseWordWrap();
+        for (int language = 0; language < count; ++language) {
+            CSyntaxFile* syntax = zncoreeditor::GetFileTypeManager()->GetSyntaxFile(language);
+            if (!syntax)
+                continue;
+            // The last language's paper is what stays.
+            m_backgroundColor =
+                static_cast<COLORREF>(syntax->GetStyleColorBackground(kDefaultStyle));
+            Write(languageOptions, wordWrap, *syntax);
+            Write(font, *syntax);
+        }
+    }
+    InitializeLanguage(m_currentLanguage, 1);
+}
+
+void CZNCoreEditorControlEx::SetFont(LOGFONT& font)
+{
+    CFont made;
+    made.CreateFontIndirect(font);
+    SendMessage(GetSafeHwnd(), WM_SETFONT, reinterpret_cast<WPARAM>(made.GetSafeHandle()), 1);
+}
+
+void CZNCoreEditorControlEx::SetFont(CFont* font)
+{
+    SendMessage(GetSafeHwnd(), WM_SETFONT,
+                reinterpret_cast<WPARAM>(font ? font->GetSafeHandle() : nullptr), 1);
+}
+
+void CZNCoreEditorControlEx::SetAStyle(int style, COLORREF fore, COLORREF back, int size,
+                                       const char16_t* face)
+{
+    StyleSetFore(style, fore, 1);
+    StyleSetBack(style, back, 1);
+    if (size >= 1)
+        StyleSetSize(style, size, 1);
+    if (face)
+        StyleSetFont(style, face, 1);
+}
+
+COLORREF CZNCoreEditorControlEx::COLORREFFromString(const QString& text)
+{
+    constexpr int kParts = 3;
+    COLORREF color = 0;
+    qsizetype start = 0;
+    for (int part = 0; part < kParts && start < text.size(); ++part) {
+        qsizetype comma = text.indexOf(u',', start);
+        if (comma < 0)
+            comma = text.size();
+        const auto value = static_cast<COLORREF>(TextToInt(text.mid(start, comma - start)));
+        color |= (value & 0xFF) << (8 * part);
+        start = comma + 1;
+    }
+    return color;
+}
+
+bool CZNCoreEditorControlEx::GetUseWordWrap()
+{
+    return CZNOptionsServer::GetObjectW()->GetInt(option::WordWrap) != 0;
+}
+
+void CZNCoreEditorControlEx::SetVisibleLineNumber(bool visible)
+{
+    m_visibleLineNumber = visible;
+    SetLineNumberWidth();
+}
+
+void CZNCoreEditorControlEx::SetLineNumberWidth()
+{
+    int width = 0;
+    if (m_visibleLineNumber)
+        width = TextWidth(kLineNumberStyle, u"9", 1) * DigitsOf(GetLineCount(1)) + kMarginRoom;
+    SetMarginWidthN(kNumberMargin, width, 1);
+}
+
+void CZNCoreEditorControlEx::SetExtendedMargin(bool on)
+{
+    constexpr int kDigits = 8;
+    const int width = on ? TextWidth(kLineNumberStyle, u"9", 1) * kDigits + kMarginRoom : 0;
+    SetMarginWidthN(kExtendedMargin, width, 1);
+}
+
+void CZNCoreEditorControlEx::SetExtendedText(const char16_t* text, int length)
+{
+    if (length > 0)
+        Call(engine::kExtendedText, reinterpret_cast<WPARAM>(text), length, 1);
+}
+
+void CZNCoreEditorControlEx::SetExtendedText(std::map<int, std::u16string>& texts)
+{
+    Call(engine::kExtendedTexts, reinterpret_cast<WPARAM>(&texts), 0, 1);
+}

@@ -1,0 +1,36 @@
+// Key tables: keys that become commands before a window sees them.
+#pragma once
+
+#include "common/Export.h"
+#include "platform/Types.h"
+
+#include <span>
+
+inline constexpr UINT WM_KEYFIRST = 0x0100;
+inline constexpr UINT WM_KEYDOWN = 0x0100;
+inline constexpr UINT WM_KEYLAST = 0x0109;
+inline constexpr UINT WM_COMMAND = 0x0111; // wParam: the command, 0x10000 more if by a key
+
+// A message on its way to a window. For WM_KEYDOWN wParam is a Qt::Key and lParam the
+// Qt::KeyboardModifiers.
+struct MSG
+{
+    HWND hwnd = nullptr;
+    UINT message = 0;
+    WPARAM wParam = 0;
+    LPARAM lParam = 0;
+};
+
+struct Accelerator
+{
+    int key = 0;       // Qt::Key
+    int modifiers = 0; // Qt::KeyboardModifiers, exactly these
+    UINT command = 0;
+};
+
+using AcceleratorTable = std::span<const Accelerator>;
+using HACCEL = const AcceleratorTable*; // null: none
+
+// Sends WM_COMMAND to the window if the message is a key of the table. 1 if it was, whatever
+// became of the command; else 0. The first entry of a key wins.
+ZN_API int TranslateAccelerator(HWND window, HACCEL table, const MSG& message);

@@ -1,0 +1,58 @@
+// CCmdTarget: an object that answers commands by number. CCmdUI: what stands for a command on the
+// screen, a menu item for one, while it is brought up to date.
+#pragma once
+
+#include "platform/Object.h"
+#include "platform/Types.h"
+
+#include <QString>
+
+#include <span>
+
+class CCmdTarget;
+
+class ZN_API CCmdUI
+{
+public:
+    explicit CCmdUI(UINT id) : m_nID(id) {}
+    virtual ~CCmdUI();
+
+    virtual void Enable(bool on = true) = 0;
+    virtual void SetCheck(int state = 1) = 0; // 0 off, 1 on
+    virtual void SetRadio(bool on = true) = 0;
+    virtual void SetText(const QString& text) = 0;
+
+    const UINT m_nID; // the command's
+};
+
+struct CommandEntry
+{
+    UINT id = 0;
+    void (*run)(CCmdTarget& target) = nullptr;
+};
+
+struct UpdateEntry
+{
+    UINT id = 0;
+    void (*update)(CCmdTarget& target, CCmdUI& ui) = nullptr;
+};
+
+// The commands that a class answers, and how each is brought up to date; then those of its base.
+// The first entry of a number wins.
+struct CommandMap
+{
+    const CommandMap* base = nullptr;
+    std::span<const CommandEntry> commands;
+    std::span<const UpdateEntry> updates;
+};
+
+class ZN_API CCmdTarget : public CObject
+{
+public:
+    // Runs the command, or brings the object that stands for it up to date. False if the target
+    // does not know it.
+    virtual bool OnCmdMsg(UINT id, CCmdUI* ui);
+
+protected:
+    virtual const CommandMap& GetCommandMap() const;
+};

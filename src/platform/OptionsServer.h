@@ -1,0 +1,67 @@
+// The host's options, asked for by number. The default keeps them in a file of the user's; a host
+// that has options of its own derives from it and sets that.
+#pragma once
+
+#include "common/Export.h"
+#include "platform/Font.h"
+
+#include <QString>
+
+#include <memory>
+
+class QSettings;
+
+class ZN_API CZNOptionsServer
+{
+public:
+    CZNOptionsServer();
+    CZNOptionsServer(const CZNOptionsServer&) = delete;
+    CZNOptionsServer& operator=(const CZNOptionsServer&) = delete;
+    virtual ~CZNOptionsServer();
+
+    // The server in force. Never null.
+    static CZNOptionsServer* GetObjectW();
+
+    // 0, false or "" for a key that nobody has set and that has no default.
+    virtual int GetInt(int key);
+    virtual bool GetBool(int key);
+    virtual QString GetString(int key);
+    // False if the key holds no font, which leaves the record as it was.
+    virtual bool GetLOGFONT(int key, LOGFONT* font);
+
+    virtual void SetInt(int key, int value);
+    virtual void SetString(int key, const QString& value);
+    virtual void SetLOGFONT(int key, const LOGFONT* font);
+
+private:
+    QSettings& Store();
+
+    std::unique_ptr<QSettings> m_store; // opened when it is first asked
+};
+
+// The server takes effect at once and stays the caller's; null brings back the default. Editors
+// that are open follow once they are sent kOptionsChanged.
+ZN_API void SetOptionsServer(CZNOptionsServer* server);
+
+// The message that tells an editor that options have changed.
+inline constexpr UINT kOptionsChanged = 0x8404;
+
+// The keys that the editor asks for.
+namespace option {
+enum Key : int
+{
+    LineNumbers = 50180,     // int: not 0 for a margin of line numbers
+    ColorMaxSize = 50181,    // int: the engine's property "colorMaxSize"
+    AutoIndent = 50182,      // int: 0 none, 1 as the line above, 2 by the language
+    TabWidth = 50183,        // int: columns, of an indentation too
+    TabsToSpaces = 50184,    // int: not 0 for blanks in place of tabs
+    BackgroundColor = 50185, // string: "red,green,blue" in decimal
+    EditorFont = 50186,      // font
+    PrintFont = 50187,       // font
+    FileTracking = 50203,    // int: what is done about files that others change
+    FoldMargin = 50447,      // int: not 0 for a margin of folds
+    WordWrap = 50453,        // int: not 0 for long lines wrapped
+    DefaultTextType = 50637, // int: znutils::TextType of files without a mark
+    ContinueComments = 50827 // bool: Enter continues a comment
+};
+} // namespace option

@@ -1,0 +1,33 @@
+#include "platform/SystemColors.h"
+
+#include <QColor>
+#include <QGuiApplication>
+#include <QPalette>
+
+namespace {
+
+struct ColorRow
+{
+    int number;
+    QPalette::ColorRole role;
+};
+
+constexpr ColorRow kColors[] = {
+    {COLOR_WINDOW, QPalette::Base}, // what text is written on
+    {COLOR_HIGHLIGHT, QPalette::Highlight},
+    {COLOR_HIGHLIGHTTEXT, QPalette::HighlightedText},
+    {COLOR_HOTLIGHT, QPalette::Link},
+};
+
+} // namespace
+
+COLORREF GetSysColor(int number)
+{
+    for (const ColorRow& row : kColors) {
+        if (row.number != number)
+            continue;
+        const QColor color = QGuiApplication::palette().color(row.role);
+        return static_cast<COLORREF>(color.red() | color.green() << 8 | color.blue() << 16);
+    }
+    return 0;
+}

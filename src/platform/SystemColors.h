@@ -1,0 +1,13 @@
+// The colours of the desktop, by the framework's numbers.
+#pragma once
+
+#include "common/Export.h"
+#include "platform/Types.h"
+
+inline constexpr int COLOR_WINDOW = 5;
+inline constexpr int COLOR_HIGHLIGHT = 13;
+inline constexpr int COLOR_HIGHLIGHTTEXT = 14;
+inline constexpr int COLOR_HOTLIGHT = 26;
+
+// From the application's palette, 0x00BBGGRR; black for a number that stands for nothing here.
+ZN_API COLORREF GetSysColor(int number);

@@ -1,0 +1,67 @@
+#include "platform/WindowEvents.h"
+
+#include "platform/Accelerators.h"
+#include "platform/Window.h"
+#include "platform/Wnd.h"
+
+#include <QApplication>
+#include <QKeyEvent>
+#include <QPointer>
+
+namespace {
+
+// A key that a child left over comes to its parents as well; it was offered to them on its way in.
+bool CameFromChild(HWND window)
+{
+    const QWidget* focused = QApplication::focusWidget();
+    return focused && focused != window && window->isAncestorOf(focused) &&
+           AttachedWnd(QApplication::focusWidget());
+}
+
+// Every window around the key's own may take it, the innermost first.
+bool IsTaken(HWND window, const QKeyEvent& key)
+{
+    constexpr int kModifiers = static_cast<int>(Qt::ShiftModifier | Qt::ControlModifier |
+                                                Qt::AltModifier | Qt::MetaModifier);
+    // Shift and Tab come as a key of their own.
+    const int number = key.key() == Qt::Key_Backtab ? static_cast<int>(Qt::Key_Tab) : key.key();
+    MSG message{window, WM_KEYDOWN, static_cast<WPARAM>(number),
+                static_cast<LPARAM>(key.modifiers().toInt() & kModifiers)};
+    QPointer<QWidget> at = window;
+    while (at) {
+        const QPointer<QWidget> parent = at->parentWidget();
+        CWnd* wnd = AttachedWnd(at);
+        if (wnd && wnd->PreTranslateMessage(&message))
+            return true;
+        at = parent;
+    }
+    return false;
+}
+
+class EventFilter final : public QObject
+{
+public:
+    bool eventFilter(QObject* watched, QEvent* event) override
+    {
+        auto* window = static_cast<QWidget*>(watched);
+        switch (event->type()) {
+        case QEvent::FocusOut:
+            SendMessage(window, WM_KILLFOCUS,
+                        reinterpret_cast<WPARAM>(QApplication::focusWidget()), 0);
+            break;
+        case QEvent::KeyPress:
+            return !CameFromChild(window) && IsTaken(window, *static_cast<QKeyEvent*>(event));
+        default:
+            break;
+        }
+        return false;
+    }
+};
+
+} // namespace
+
+void DeliverEvents(HWND window)
+{
+    static auto* filter = new EventFilter; // outlives every widget
+    window->installEventFilter(filter);
+}
