@@ -35,6 +35,13 @@ constexpr bool IsPlain(Kind kind)
     return kind != Kind::Pos && kind != Kind::Span && kind != Kind::TextIn && kind != Kind::Line;
 }
 
+// Numbers of the analysis, which mean something else to the stock engine.
+constexpr bool IsOfTheAnalysis(UINT number)
+{
+    return (number >= message::ErrorAdd && number <= message::PartitionerInit) ||
+           (number >= message::ErrorsSetMarkNum && number <= message::GetIsReconcilerEnabled);
+}
+
 using Answerers = std::array<Answerer, kNumbers>;
 
 const Answerers& AllAnswerers()
@@ -44,6 +51,8 @@ const Answerers& AllAnswerers()
         for (const MessageRow& row : kMessageRows) {
             Answerer& answerer = all[row.number - kFirstNumber];
             answerer.row = &row;
+            if (IsOfTheAnalysis(row.number))
+                continue; // until a handler says otherwise
             answerer.way = IsPlain(row.result) && IsPlain(row.wParam) && IsPlain(row.lParam)
                                ? Answerer::Way::Pass
                                : Answerer::Way::Translate;

@@ -17,6 +17,8 @@
 #pragma once
 
 #include "control/EngineRecords.h"
+#include "control/ErrorInfo.h"
+#include "control/PartitionInfo.h"
 
 #include <array>
 #include <memory>
@@ -32,26 +34,34 @@ namespace engine {
 enum class Kind : unsigned char
 {
     None,
-    Num,       // a plain number, passed as it is
-    Flag,      // 0 or 1
-    Colour,    // 0x00BBGGRR
-    Line,      // from 0
-    Pos,       // a place in the text; negative ones have a meaning of their own and pass unchanged
-    Span,      // a difference of places
-    Count,     // how many units of the text beside it
-    TextIn,    // UTF-16, terminated unless a Count stands beside it
-    TextOut,   // the caller's buffer, filled with UTF-16 and a terminator
-    BytesIn,   // image text or UTF-8, as it is
-    BytesOut,  // the caller's buffer, filled with UTF-8
-    CellsIn,   // pairs of unit and style; the Count beside it counts both
-    StylesIn,  // one byte for each unit
-    RangeIo,   // TextRange
-    FindIo,    // TextToFind
-    FormatIo,  // RangeToFormat
-    Window,    // HWND
-    Document,  // the engine's reference-counted text
-    Config,    // AutoCompleteConfig
-    Proposals, // what AutoCShow lists
+    Num,        // a plain number, passed as it is
+    Flag,       // 0 or 1
+    Colour,     // 0x00BBGGRR
+    Line,       // from 0
+    Pos,        // a place in the text; negative ones have a meaning of their own and pass unchanged
+    Span,       // a difference of places
+    Count,      // how many units of the text beside it
+    TextIn,     // UTF-16, terminated unless a Count stands beside it
+    TextOut,    // the caller's buffer, filled with UTF-16 and a terminator
+    BytesIn,    // image text or UTF-8, as it is
+    BytesOut,   // the caller's buffer, filled with UTF-8
+    CellsIn,    // pairs of unit and style; the Count beside it counts both
+    StylesIn,   // one byte for each unit
+    RangeIo,    // TextRange
+    FindIo,     // TextToFind
+    FormatIo,   // RangeToFormat
+    Window,     // HWND
+    Document,   // the engine's reference-counted text
+    Config,     // AutoCompleteConfig
+    Proposals,  // what AutoCShow lists
+    ErrorIn,    // ErrorInfo, copied
+    Error,      // ErrorInfo of the engine's list, or null
+    Errors,     // ErrorMap of the engine's
+    Partitions, // list of PartitionInfo, which the caller releases (delete); null: none
+    TextGiven,  // UTF-16, which the caller releases (delete[]); null: none
+    PairIn,     // NumberPair
+    PairIo,     // PositionPair
+    Pointer,    // carried as it is
 };
 
 enum class Shape : unsigned char
@@ -84,6 +94,14 @@ template <> struct TypeOf<Kind::FormatIo>  { using Type = RangeToFormat*; };
 template <> struct TypeOf<Kind::Window>    { using Type = HWND; };
 template <> struct TypeOf<Kind::Document>  { using Type = LRESULT; };
 template <> struct TypeOf<Kind::Config>    { using Type = const AutoCompleteConfig*; };
+template <> struct TypeOf<Kind::ErrorIn>   { using Type = const ErrorInfo*; };
+template <> struct TypeOf<Kind::Error>     { using Type = ErrorInfo*; };
+template <> struct TypeOf<Kind::Errors>    { using Type = ErrorMap*; };
+template <> struct TypeOf<Kind::Partitions> { using Type = PartitionInfo*; };
+template <> struct TypeOf<Kind::TextGiven> { using Type = char16_t*; };
+template <> struct TypeOf<Kind::PairIn>    { using Type = const NumberPair*; };
+template <> struct TypeOf<Kind::PairIo>    { using Type = PositionPair*; };
+template <> struct TypeOf<Kind::Pointer>   { using Type = void*; };
 template <> struct TypeOf<Kind::Proposals>
 {
     using Type = std::vector<std::shared_ptr<znsqlassist::SQLCompletionProposal>>*;

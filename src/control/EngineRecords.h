@@ -13,6 +13,19 @@ struct CharacterRange
     int cpMax = 0; // -1: the text's end
 };
 
+// PartitionerReset, and DoFindBatch, whose second pair takes the batch. The engine keeps no pointer
+// to either.
+struct NumberPair
+{
+    int first = 0;
+    int second = 0;
+};
+struct PositionPair
+{
+    long first = 0;
+    long second = 0;
+};
+
 // GetTextRange and GetStyledText. The buffer is the caller's: cpMax - cpMin + 1 units for text,
 // twice that plus two for styled text (unit, style, unit, style, ...).
 struct TextRange

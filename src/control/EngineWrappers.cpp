@@ -15,13 +15,22 @@ LPARAM Word(T value)
         return static_cast<LPARAM>(value);
 }
 
+template <class T>
+T Answer(LRESULT answer)
+{
+    if constexpr (std::is_pointer_v<T>)
+        return reinterpret_cast<T>(answer);
+    else
+        return static_cast<T>(answer);
+}
+
 } // namespace
 
 // clang-format off
 #define ZN_WRAPPER(name, result, parameters, wParam, lParam)                                       \
     engine::CppType<engine::Kind::result> CZNCoreEditorControl::name parameters                    \
     {                                                                                              \
-        return static_cast<engine::CppType<engine::Kind::result>>(                                 \
+        return Answer<engine::CppType<engine::Kind::result>>(                                      \
             Call(engine::message::name, static_cast<WPARAM>(wParam), lParam, direct));             \
     }
 #define ZN_A(name, number, result) ZN_WRAPPER(name, result, (int direct), 0, 0)

@@ -257,21 +257,6 @@ int CZNCoreEditorControl::GetFileByteLength()
     return static_cast<int>(m_nEncoding == FileEncodeConverter::encUTF16LE ? units * 2 : units);
 }
 
-void CZNCoreEditorControl::SetEnableReconciler(bool enable, int direct)
-{
-    Call(engine::message::SetEnableReconciler, enable ? 1 : 0, 0, direct);
-}
-
-void CZNCoreEditorControl::SetDoingReplaceAll(bool bulk, int direct)
-{
-    Call(engine::message::SetDoingReplaceAll, bulk ? 1 : 0, 0, direct);
-}
-
-int CZNCoreEditorControl::GetIsReconcilerEnabled()
-{
-    return static_cast<int>(Call(engine::message::GetIsReconcilerEnabled, 0, 0, 1));
-}
-
 int CZNCoreEditorControl::ConvertTCharToUtf8(const char16_t* text, std::vector<char>& out) const
 {
     const int count = platform::WideCharToMultiByte(65001, text, -1, nullptr, 0);

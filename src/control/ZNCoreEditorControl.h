@@ -12,6 +12,7 @@
 
 #include <array>
 #include <cstdio>
+#include <string>
 #include <vector>
 
 class FileBlocks;
@@ -134,10 +135,27 @@ public:
     // Bytes for UTF-16 LE only; for every other encoding the count of units.
     int GetFileByteLength();
 
+    // The script analysis, as far as its operations are not rows of the table (AnalysisWrappers).
+    int PartitionerInit(void* pointer, bool flag, int direct);
+    int PartitionerReset(int first, int second, int third, int direct);
+    // 1 and the partition; 0 leaves out as it was. What out held is released.
+    int PartitionGetAt(PartitionInfo& out, int at, int direct);
+    // Appends to out; 1 always. The records' pNext must not be followed.
+    int PartitionGetAll(std::vector<PartitionInfo>& out, int from, int to, int direct);
+    std::u16string GetCatalogForOffset(int offset, int direct); // empty: none is known
+    std::u16string GetBatchSeparator(int direct);               // empty: none
+    // 1 if a batch was found. The engine reads and writes third and fourth.
+    int DoFindBatch(long first, long second, long& third, long& fourth, int direct);
+    void SetEnablePartitioner(bool enable, int direct);
+    int GetMultiCodePage();
     // The engine's analysis rests while it is off, and while a bulk change is announced.
     void SetEnableReconciler(bool enable, int direct);
     void SetDoingReplaceAll(bool bulk, int direct);
     int GetIsReconcilerEnabled();
+
+    // Errors: indicator 0, red; warnings: indicator 1, yellow. Always 0.
+    int DefineErrorIndicators();
+    void DefineMarker(int marker, int symbol, unsigned long fore, unsigned long back);
 
     static HINSTANCE m_hEditorDllHandle; // the engine, null until the first control; never released
     static int refs;                     // live controls

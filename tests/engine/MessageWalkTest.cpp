@@ -44,6 +44,12 @@ struct Memory
         }
         ranges.push_back({{0, 3}, nullptr});
         finds.push_back({{0, 3}, nullptr, {}});
+        for (const long start : {-1L, 0L, 3L, LONG_MAX})
+            for (const long end : {LONG_MIN, 5L, LONG_MAX})
+                errors.emplace_back().nStart = start, errors.back().nEnd = end;
+        errors.back().SetText(u"caf\u00e9");
+        for (const int number : {INT_MIN, -1, 0, 5, INT_MAX})
+            pairs.push_back({number, 7}), positionPairs.push_back({number, 7});
         for (int typed : {-1, 0, INT_MAX})
             configs.push_back({nullptr, 1, typed, 1});
     }
@@ -52,6 +58,9 @@ struct Memory
     std::vector<TextRange> ranges;
     std::vector<TextToFind> finds;
     std::vector<RangeToFormat> formats;
+    std::vector<ErrorInfo> errors;
+    std::vector<NumberPair> pairs;
+    std::vector<PositionPair> positionPairs;
     std::vector<AutoCompleteConfig> configs;
     std::vector<std::shared_ptr<znsqlassist::SQLCompletionProposal>> proposals;
 };
@@ -75,6 +84,7 @@ std::vector<LPARAM> HostileValues(Kind kind, Memory& memory)
 {
     switch (kind) {
     case Kind::None:
+    case Kind::Pointer:
     case Kind::Document: // any other pointer would have to be a text's
         return {0};
     case Kind::Count: // as many units as the shortest text beside it has, or up to the terminator
@@ -100,6 +110,12 @@ std::vector<LPARAM> HostileValues(Kind kind, Memory& memory)
         return AddressesAndNull(memory.configs);
     case Kind::Proposals:
         return {0, Address(&memory.proposals)};
+    case Kind::ErrorIn:
+        return AddressesAndNull(memory.errors);
+    case Kind::PairIn:
+        return AddressesAndNull(memory.pairs);
+    case Kind::PairIo:
+        return AddressesAndNull(memory.positionPairs);
     default:
         return {std::begin(kNumbers), std::end(kNumbers)};
     }
@@ -129,6 +145,20 @@ void ExpectSound(const EngineUnderTest& engine)
     ASSERT_LE(caret, static_cast<LRESULT>(text.size()));
 }
 
+// What a message hands over is the caller's.
+void Release(const MessageRow& row, LRESULT answer)
+{
+    if (row.result == Kind::TextGiven)
+        delete[] reinterpret_cast<char16_t*>(answer);
+    if (row.result != Kind::Partitions)
+        return;
+    for (auto* record = reinterpret_cast<PartitionInfo*>(answer); record;) {
+        PartitionInfo* next = record->pNext;
+        delete record;
+        record = next;
+    }
+}
+
 void WalkOn(const MessageRow& row, const std::u16string& text, bool readOnly, bool paint)
 {
     EngineUnderTest engine;
@@ -145,6 +175,7 @@ void WalkOn(const MessageRow& row, const std::u16string& text, bool readOnly, bo
             const LRESULT answer = engine.Send(row.number, static_cast<WPARAM>(w), l);
             if (row.number == msg::CreateDocument)
                 engine.Send(msg::ReleaseDocument, 0, answer);
+            Release(row, answer);
             ASSERT_NO_FATAL_FAILURE(ExpectSound(engine));
             if (readOnly && row.number != msg::SetReadOnly && row.number != msg::SetDocPointer) {
                 ASSERT_EQ(engine.Text(), text);
