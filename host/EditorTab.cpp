@@ -3,6 +3,7 @@
 #include "control/ZNCoreEditorWidget.h"
 #include "host/Encodings.h"
 #include "host/SqlColours.h"
+#include "platform/Units.h"
 
 #include <QDir>
 #include <QFileInfo>
@@ -12,11 +13,6 @@
 #include <vector>
 
 namespace {
-
-const char16_t* Units(const QString& text)
-{
-    return reinterpret_cast<const char16_t*>(text.utf16());
-}
 
 QString WhyNotRead(const QString& path)
 {

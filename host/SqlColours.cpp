@@ -1,6 +1,7 @@
 #include "host/SqlColours.h"
 
 #include "control/ZNCoreEditorControl.h"
+#include "platform/Units.h"
 
 #include <QFontDatabase>
 #include <QFontInfo>
@@ -88,11 +89,6 @@ QString FixedPitchFamily()
     // Without a desktop the system's fixed font may be none.
     return QFontInfo(font).fixedPitch() ? QFontInfo(font).family()
                                         : QStringLiteral("DejaVu Sans Mono");
-}
-
-const char16_t* Units(const QString& text)
-{
-    return reinterpret_cast<const char16_t*>(text.utf16());
 }
 
 void SetStyles(CZNCoreEditorControl& editor)

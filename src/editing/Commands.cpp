@@ -37,16 +37,11 @@ constexpr CommandEntry kCommands[] = {
 };
 
 constexpr UpdateEntry kUpdates[] = {
-    {57635, Update<&Self::OnUpdateEditCut>},
-    {57634, Update<&Self::OnUpdateEditCopy>},
-    {57637, Update<&Self::OnUpdateEditPaste>},
-    {57643, Update<&Self::OnUpdateEditUndo>},
-    {57644, Update<&Self::OnUpdateEditRedo>},
-    {57632, Update<&Self::OnUpdateEditClear>},
-    {54034, Update<&Self::OnUpdateEditIndent>},
-    {54035, Update<&Self::OnUpdateEditOutdent>},
-    {54042, Update<&Self::OnUpdateEditUppercase>},
-    {54039, Update<&Self::OnUpdateEditLowercase>},
+    {57635, Update<&Self::OnUpdateEditCut>},       {57634, Update<&Self::OnUpdateEditCopy>},
+    {57637, Update<&Self::OnUpdateEditPaste>},     {57643, Update<&Self::OnUpdateEditUndo>},
+    {57644, Update<&Self::OnUpdateEditRedo>},      {57632, Update<&Self::OnUpdateEditClear>},
+    {54034, Update<&Self::OnUpdateEditIndent>},    {54035, Update<&Self::OnUpdateEditOutdent>},
+    {54042, Update<&Self::OnUpdateEditUppercase>}, {54039, Update<&Self::OnUpdateEditLowercase>},
 };
 
 constexpr int kLargestZoom = 20;

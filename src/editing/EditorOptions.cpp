@@ -22,11 +22,6 @@ constexpr int kNumberMargin = 1;
 constexpr int kMarginRoom = 4; // pixels beside the digits
 constexpr int kUsualTabWidth = 4;
 
-const char16_t* Units(const QString& text)
-{
-    return reinterpret_cast<const char16_t*>(text.utf16());
-}
-
 int DigitsOf(int lines)
 {
     constexpr int kFewest = 4;

@@ -106,5 +106,4 @@ void CFileTypeManager::ReParseAllSyntaxFiles()
 
 void CFileTypeManager::SetCoreEditorDefaultProperties(int /*language*/,
                                                       CZNCoreEditorControlEx* /*control*/)
-{
-}
+{}

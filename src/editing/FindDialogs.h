@@ -15,5 +15,5 @@ public:
     virtual void Forget(CZNCoreEditorControlEx& control) = 0; // makes none
 };
 
-IFindDialogs* GetFindDialogs(); // null: there are none
+IFindDialogs* GetFindDialogs();                    // null: there are none
 ZN_API void SetFindDialogs(IFindDialogs* dialogs); // stays the caller's

@@ -5,6 +5,7 @@
 #include "common/Globals.h"
 #include "editing/Library.h"
 #include "editing/ZNCoreEditorControlEx.h"
+#include "platform/Units.h"
 #include "settings/ConfigFile.h"
 #include "settings/SyntaxFile.h"
 
@@ -52,11 +53,6 @@ constexpr MarkerRow kOtherRows[] = {
     {5, 10000 + 'C', 0xFF0000, 0xFF0000}, // a character
     {6, 10000 + 'R', 0x8000FF, 0x8000FF},
 };
-
-const char16_t* Units(const QString& text)
-{
-    return reinterpret_cast<const char16_t*>(text.utf16());
-}
 
 void ApplyStyle(CSyntaxFile& syntax, CZNCoreEditorControlEx& control, int style)
 {
@@ -158,7 +154,6 @@ void ApplyMargins(CSyntaxFile& syntax, CZNCoreEditorControlEx& control)
     control.SetMarginTypeN(kFoldMargin, kSymbolMargin, 1);
     control.SetMarginMaskN(kFoldMargin, kFolderMarkers, 1);
     control.SetMarginSensitiveN(kFoldMargin, 1, 1);
-    control.SetFoldingMargins(static_cast<EFoldStyle>(0));
     control.SetFoldMarginColor(1, kFoldMarginColor, 1);
     // Guides are on in every language, whatever its file says.
     control.SetIndentationGuides(1, 1);

@@ -55,9 +55,9 @@ bool CZNCoreEditorControlEx::SaveFile(const char16_t* path, bool setSavePoint)
     if (setSavePoint && saved)
         SetSavePoint(1);
     SetSelectionStart(PositionFromLine(start.line, 1) + start.column, 1);
-    SetSelectionEnd(std::min<long>(PositionFromLine(end.line, 1) + end.column,
-                                   GetLineEndPosition(end.line, 1)),
-                    1);
+    SetSelectionEnd(
+        std::min<long>(PositionFromLine(end.line, 1) + end.column, GetLineEndPosition(end.line, 1)),
+        1);
     return saved;
 }
 
@@ -67,10 +67,12 @@ bool CZNCoreEditorControlEx::ReloadFile(const char16_t* path)
     SetFocus();
     const bool opened =
         OpenFile(path, static_cast<FileEncodeConverter::encodingType>(GetEncoding()));
-    if (line < GetLineCount(1))
-        GotoLineEnsureVisible(line);
-    else
+    if (line < GetLineCount(1)) {
+        EnsureVisibleEnforcePolicy(line, 1);
+        GotoLine(line, 1);
+    } else {
         DocumentEnd(1);
+    }
     return opened;
 }
 

@@ -6,6 +6,7 @@
 #include "platform/DeviceContext.h"
 #include "platform/OptionsServer.h"
 #include "platform/SystemColors.h"
+#include "platform/Units.h"
 #include "platform/WindowEvents.h"
 
 CZNCoreEditorControlExCallback::~CZNCoreEditorControlExCallback() = default;
@@ -17,8 +18,7 @@ int CZNCoreEditorControlExCallback::OnBeforeContextMenu(CWnd* /*window*/, CPoint
 
 CZNCoreEditorControlEx::CZNCoreEditorControlEx(CZNCoreEditorControlExCallback* callback)
     : m_pCallback(callback), m_backgroundColor(GetSysColor(COLOR_WINDOW))
-{
-}
+{}
 
 CZNCoreEditorControlEx::~CZNCoreEditorControlEx() = default;
 
@@ -50,8 +50,8 @@ void CZNCoreEditorControlEx::ApplyDefaultEncoding()
 {
     const int type = CZNOptionsServer::GetObjectW()->GetInt(option::DefaultTextType);
     bool hasMark = false;
-    SetEncoding(FileEncodeConverter::ConvertToEncodingType(static_cast<znutils::TextType>(type),
-                                                           hasMark));
+    SetEncoding(
+        FileEncodeConverter::ConvertToEncodingType(static_cast<znutils::TextType>(type), hasMark));
     SetWriteEncodingSig(hasMark);
 }
 
@@ -165,7 +165,7 @@ QString CZNCoreEditorControlEx::GetSelText()
 
 void CZNCoreEditorControlEx::SetWindowTextW(const QString& text)
 {
-    SetText(reinterpret_cast<const char16_t*>(text.utf16()), 1);
+    SetText(Units(text), 1);
 }
 
 QString CZNCoreEditorControlEx::GetWindowTextW()
@@ -180,7 +180,7 @@ void ZNDDX_Text(CDataExchange* exchange, CZNCoreEditorControlEx& control, QStrin
     if (exchange->m_bSaveAndValidate)
         value = control.GetText();
     else
-        control.SetText(reinterpret_cast<const char16_t*>(value.utf16()), 1);
+        control.SetText(Units(value), 1);
 }
 
 const MessageMap& CZNCoreEditorControlEx::GetMessageMap() const

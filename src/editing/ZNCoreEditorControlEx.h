@@ -60,7 +60,7 @@ public:
     bool SaveSelection(const char16_t* path);
 
     // Language and appearance
-    virtual void Reset(); // forgets the comment markers
+    virtual void Reset();                             // forgets the comment markers
     int InitializeLanguage(int language, int unused); // binds it; always 1
     void SetCurrentLanguage(int language) { m_currentLanguage = language; } // binds nothing
     int GetCurrentLanguage() const { return m_currentLanguage; }
@@ -96,7 +96,10 @@ public:
 
     // Indentation and braces of the language
     int GetAutoIndent() const { return m_autoIndent; }
-    void SetAutoIndent(int mode) { m_autoIndent = mode; } // 0 none, 1 keep, 2 or more by "{" and "}"
+    void SetAutoIndent(int mode)
+    {
+        m_autoIndent = mode;
+    } // 0 none, 1 keep, 2 or more by "{" and "}"
     void SetBraces(const QString& braces) { m_braces = braces; }
 
     // What a save cleans up

@@ -17,9 +17,14 @@ struct IntDefault
 
 // What an editor is like where nobody has chosen.
 constexpr IntDefault kDefaults[] = {
-    {option::LineNumbers, 1}, {option::AutoIndent, 1},        {option::TabWidth, 4},
-    {option::FileTracking, 1}, {option::FoldMargin, 1},       {option::TabsToSpaces, 1},
-    {option::DefaultTextType, 6 /* UTF-8 without a mark */}, {option::ContinueComments, 1},
+    {option::LineNumbers, 1},
+    {option::AutoIndent, 1},
+    {option::TabWidth, 4},
+    {option::FileTracking, 1},
+    {option::FoldMargin, 1},
+    {option::TabsToSpaces, 1},
+    {option::DefaultTextType, 6 /* UTF-8 without a mark */},
+    {option::ContinueComments, 1},
 };
 
 constexpr int kFontPoints = 11;

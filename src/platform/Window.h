@@ -10,7 +10,7 @@ inline constexpr UINT WM_CREATE = 0x0001;
 inline constexpr UINT WM_DESTROY = 0x0002; // from CWnd::DestroyWindow alone
 inline constexpr UINT WM_SETTEXT = 0x000C; // lParam: UTF-16 with a terminator
 inline constexpr UINT WM_SETFONT = 0x0030; // wParam: HFONT, lParam: whether to paint
-inline constexpr UINT WM_NOTIFY = 0x004E; // lParam: a record that begins with the sender's handle
+inline constexpr UINT WM_NOTIFY = 0x004E;  // lParam: a record that begins with the sender's handle
 
 inline constexpr unsigned long WS_CHILD = 0x40000000;
 inline constexpr unsigned long WS_VISIBLE = 0x10000000;

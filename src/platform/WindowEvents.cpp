@@ -46,8 +46,8 @@ public:
         auto* window = static_cast<QWidget*>(watched);
         switch (event->type()) {
         case QEvent::FocusOut:
-            SendMessage(window, WM_KILLFOCUS,
-                        reinterpret_cast<WPARAM>(QApplication::focusWidget()), 0);
+            SendMessage(window, WM_KILLFOCUS, reinterpret_cast<WPARAM>(QApplication::focusWidget()),
+                        0);
             break;
         case QEvent::KeyPress:
             return !CameFromChild(window) && IsTaken(window, *static_cast<QKeyEvent*>(event));
