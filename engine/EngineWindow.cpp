@@ -89,6 +89,11 @@ EngineWindow::EngineWindow(QWidget* parent) : QsciScintillaBase(parent), m_engin
     m_engine.raw.Send(Sci::SCI_USEPOPUP, 0);
     // A style that was never set has no font at all, which cannot be put back after printing.
     m_engine.raw.Send(Sci::SCI_STYLECLEARALL);
+    // Line numbers stand in margin 1 here, behind the one for a host's own texts.
+    m_engine.raw.Send(Sci::SCI_SETMARGINTYPEN, 0, long{Sci::SC_MARGIN_TEXT});
+    m_engine.raw.Send(Sci::SCI_SETMARGINTYPEN, 1, long{Sci::SC_MARGIN_NUMBER});
+    m_engine.raw.Send(Sci::SCI_SETMARGINMASKN, 1, 0L);
+    m_engine.raw.Send(Sci::SCI_SETMARGINWIDTHN, 1, 0L);
     setAccessibleName(tr("Text editor"));
     connect(this, &Sci::SCN_UPDATEUI, this, [this](int updated) {
         if (!(updated & Sci::SC_UPDATE_SELECTION))

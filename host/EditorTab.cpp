@@ -1,8 +1,10 @@
 #include "host/EditorTab.h"
 
-#include "control/ZNCoreEditorWidget.h"
+#include "editing/ZNCoreEditorWidget.h"
 #include "host/Encodings.h"
-#include "host/SqlColours.h"
+#include "host/FileLanguages.h"
+#include "host/ScrollRange.h"
+#include "platform/OptionsServer.h"
 #include "platform/Units.h"
 
 #include <QDir>
@@ -54,7 +56,8 @@ EditorTab::EditorTab(const QString& untitledName, QWidget* parent)
     Editor().SetCarefulFiles(true);
     Editor().SetEncoding(FileEncodeConverter::encUTF8);
     Editor().SetWriteEncodingSig(false);
-    DressForSql(Editor());
+    Editor().SetScrollWidth(1, 1);
+    SetLanguage(LanguageOfNewScripts());
     connect(m_widget, &ZNCoreEditorWidget::notified, this, &EditorTab::OnNotified);
 }
 
@@ -64,7 +67,7 @@ EditorTab::~EditorTab()
     m_widget->disconnect(this);
 }
 
-CZNCoreEditorControl& EditorTab::Editor() const
+CZNCoreEditorControlEx& EditorTab::Editor() const
 {
     return m_widget->control();
 }
@@ -97,7 +100,6 @@ void EditorTab::AnnounceSoon()
 void EditorTab::Announce()
 {
     m_announcing = false;
-    FitLineNumberMargin(Editor());
     FitScrollRange();
     Q_EMIT StateChanged();
 }
@@ -124,6 +126,7 @@ QString EditorTab::Load(const QString& path)
         return WhyNotRead(path);
     m_path = absolute;
     m_measuredFrom = -1;
+    SetLanguage(LanguageOfFile(m_path));
     Editor().SetReadOnly(QFileInfo(absolute).isWritable() ? 0 : 1, 1);
     Announce();
     return {};
@@ -148,6 +151,23 @@ SaveTarget EditorTab::CurrentTarget() const
 QString EditorTab::Name() const
 {
     return m_path.isEmpty() ? m_untitledName : QFileInfo(m_path).fileName();
+}
+
+int EditorTab::Language() const
+{
+    return m_widget->language();
+}
+
+void EditorTab::SetLanguage(int language)
+{
+    m_widget->setLanguage(language);
+    Q_EMIT LanguageChanged();
+}
+
+void EditorTab::FollowOptions()
+{
+    SendMessage(Editor().GetSafeHwnd(), kOptionsChanged, 0, 0);
+    Q_EMIT LanguageChanged();
 }
 
 bool EditorTab::IsModified() const

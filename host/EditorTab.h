@@ -5,7 +5,7 @@
 
 #include <QWidget>
 
-class CZNCoreEditorControl;
+class CZNCoreEditorControlEx;
 class ZNCoreEditorWidget;
 struct SCNotification;
 
@@ -18,7 +18,7 @@ public:
     EditorTab(const QString& untitledName, QWidget* parent);
     ~EditorTab() override;
 
-    CZNCoreEditorControl& Editor() const;
+    CZNCoreEditorControlEx& Editor() const;
 
     // Empty if the script is open, else a sentence that tells why it is not.
     QString Load(const QString& path);
@@ -29,6 +29,11 @@ public:
 
     // Where a plain save goes: the file behind the text, the path empty if there is none yet.
     SaveTarget CurrentTarget() const;
+
+    // A load takes the language from the file's name.
+    int Language() const;
+    void SetLanguage(int language);
+    void FollowOptions(); // those of the options server, which have changed
 
     QString Name() const; // the file's, or the one given
     QString Path() const { return m_path; }
@@ -42,6 +47,7 @@ public:
     bool CanHold(int encoding) const;
 
 Q_SIGNALS:
+    void LanguageChanged(); // the looks are those of the language again
     void StateChanged(); // text, caret, modified flag, zoom: anything that the window shows
 
 private:

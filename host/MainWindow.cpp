@@ -1,7 +1,9 @@
 #include "host/MainWindow.h"
 
-#include "control/ZNCoreEditorControl.h"
+#include "editing/ZNCoreEditorControlEx.h"
 #include "host/EditorTab.h"
+#include "host/LanguageMenu.h"
+#include "host/OptionsDialog.h"
 #include "host/Prompts.h"
 #include "host/StatusIndicators.h"
 
@@ -83,6 +85,10 @@ EditorTab* MainWindow::AddTab()
 {
     auto* tab = new EditorTab(QStringLiteral("Script %1").arg(++m_untitledCount), m_tabs);
     connect(tab, &EditorTab::StateChanged, this, [this, tab] { OnTabChanged(tab); });
+    connect(tab, &EditorTab::LanguageChanged, this, [this, tab] {
+        ApplyView(*tab);
+        OnTabChanged(tab);
+    });
     ApplyView(*tab);
     return tab;
 }
@@ -245,6 +251,27 @@ void MainWindow::ApplyViewToAll()
         ApplyView(*TabAt(i));
 }
 
+void MainWindow::SetLanguage(int language)
+{
+    if (EditorTab* tab = CurrentTab())
+        tab->SetLanguage(language);
+}
+
+void MainWindow::ChangeOptions()
+{
+    OptionsDialog dialog(this);
+    if (dialog.exec() != QDialog::Accepted)
+        return;
+    dialog.Store();
+    FollowOptions();
+}
+
+void MainWindow::FollowOptions()
+{
+    for (int i = 0; i < TabCount(); ++i)
+        TabAt(i)->FollowOptions();
+}
+
 void MainWindow::OnTabChanged(EditorTab* tab)
 {
     UpdateCaptions(tab);
@@ -273,5 +300,6 @@ void MainWindow::UpdateAll()
                        : QStringLiteral("znworkbench"));
     setWindowModified(tab && tab->IsModified());
     m_status->Show(tab);
+    m_languages->ShowLanguage(tab ? tab->Language() : -1);
     UpdateCommands();
 }

@@ -7,6 +7,7 @@
 #include <vector>
 
 class EditorTab;
+class LanguageMenu;
 class Prompts;
 struct SaveTarget;
 class QTabWidget;
@@ -30,6 +31,9 @@ public:
     int TabCount() const;
     void ShowTab(int index);
 
+    void SetLanguage(int language); // of the current script
+    void FollowOptions();           // in every script, at once
+
     // The commands of the menus. Those with a result answer false when the person, or a failure,
     // kept things as they were.
     void NewScript();
@@ -51,6 +55,7 @@ public:
     void ShowWhitespace(bool show);
     void ShowLineEnds(bool show);
     void WrapLines(bool wrap);
+    void ChangeOptions();
     void NextScript();
     void PreviousScript();
 
@@ -84,6 +89,7 @@ private:
     Prompts& m_prompts;
     QTabWidget* m_tabs;
     StatusIndicators* m_status;
+    LanguageMenu* m_languages = nullptr;
     std::vector<QAction*> m_actions; // of the named commands, in their order
     int m_untitledCount = 0;
     bool m_clipboardHasText = false;

@@ -1,6 +1,7 @@
 // The menus of the workbench: what each command is called, its keys, and when it is possible.
-#include "control/ZNCoreEditorControl.h"
+#include "editing/ZNCoreEditorControlEx.h"
 #include "host/EditorTab.h"
+#include "host/LanguageMenu.h"
 #include "host/MainWindow.h"
 
 #include <QAction>
@@ -84,6 +85,8 @@ std::span<const MainWindow::Command> MainWindow::Commands()
         {"&View", nullptr},
         {"&View", "next",      "Ne&xt Script",     Key::NextChild,     nullptr, When::SeveralScripts, Run<&W::NextScript>},
         {"&View", "previous",  "&Previous Script", Key::PreviousChild, nullptr, When::SeveralScripts, Run<&W::PreviousScript>},
+
+        {"&Tools", "options",  "&Options...",   Key::Preferences,  "Ctrl+,", When::Always, Run<&W::ChangeOptions>},
     };
     // clang-format on
     return commands;
@@ -106,11 +109,16 @@ QAction* MainWindow::AddCommand(const Command& command)
 
 void MainWindow::BuildMenus()
 {
+    m_languages = new LanguageMenu(this);
+    connect(m_languages, &LanguageMenu::Chosen, this, &MainWindow::SetLanguage);
     QMenu* menu = nullptr;
     for (const Command& command : Commands()) {
         const QString title = QLatin1String(command.menu);
-        if (!menu || menu->title() != title)
+        if (!menu || menu->title() != title) {
+            if (title == QLatin1String("&Tools"))
+                menuBar()->addMenu(m_languages);
             menu = menuBar()->addMenu(title);
+        }
         if (command.name)
             menu->addAction(m_actions.emplace_back(AddCommand(command)));
         else

@@ -1,16 +1,30 @@
 #include "host/StatusIndicators.h"
 
-#include "control/ZNCoreEditorControl.h"
+#include "editing/FileTypeManager.h"
+#include "editing/Library.h"
+#include "editing/ZNCoreEditorControlEx.h"
 #include "host/EditorTab.h"
 #include "host/Encodings.h"
 
 #include <QLabel>
 #include <QStatusBar>
 
+namespace {
+
+QString LanguageName(int language)
+{
+    const CFileTypeManager& languages = *zncoreeditor::GetFileTypeManager();
+    const bool isKnown = language >= 0 && language < languages.GetLanguageCount();
+    return isKnown ? languages.GetLanguageName(language) : QString();
+}
+
+} // namespace
+
 StatusIndicators::StatusIndicators(QStatusBar* bar)
     : QObject(bar), m_bar(bar), m_readOnly(AddField("readOnly", QStringLiteral("Read-only"))),
       m_modified(AddField("modified", QStringLiteral("Modified"))),
       m_caret(AddField("caret", QStringLiteral("Line 99999, column 999"))),
+      m_language(AddField("language", QStringLiteral("InterBase/Firebird"))),
       m_encoding(AddField("encoding", QStringLiteral("UTF-16 LE with mark"))),
       m_lineEnds(AddField("lineEnds", QStringLiteral("CR LF"))),
       m_overtype(AddField("overtype", QStringLiteral("OVR")))
@@ -31,7 +45,8 @@ QLabel* StatusIndicators::AddField(const char* name, const QString& widest)
 void StatusIndicators::Show(const EditorTab* tab)
 {
     if (!tab) {
-        for (QLabel* label : {m_readOnly, m_modified, m_caret, m_encoding, m_lineEnds, m_overtype})
+        for (QLabel* label : {m_readOnly, m_modified, m_caret, m_language, m_encoding, m_lineEnds,
+                              m_overtype})
             label->clear();
         return;
     }
@@ -39,6 +54,7 @@ void StatusIndicators::Show(const EditorTab* tab)
     m_readOnly->setText(tab->IsReadOnly() ? QStringLiteral("Read-only") : QString());
     m_modified->setText(tab->IsModified() ? QStringLiteral("Modified") : QString());
     m_caret->setText(tab->CaretText());
+    m_language->setText(LanguageName(tab->Language()));
     m_encoding->setText(EncodingName(target.encoding, target.mark));
     m_lineEnds->setText(LineEndName(tab->Editor().GetEOLMode(1)));
     m_overtype->setText(tab->Editor().GetOvertype(1) ? QStringLiteral("OVR")

@@ -1,4 +1,4 @@
-#include "control/ZNCoreEditorWidget.h"
+#include "editing/ZNCoreEditorWidget.h"
 
 #include <QApplication>
 

@@ -1,7 +1,7 @@
 // A workbench window with scripted prompts and a folder of its own.
 #pragma once
 
-#include "control/ZNCoreEditorControl.h"
+#include "editing/ZNCoreEditorControlEx.h"
 #include "host/EditorTab.h"
 #include "host/MainWindow.h"
 #include "tests/host/ScriptedPrompts.h"

@@ -1,5 +1,5 @@
 // The editor as plain Qt hosts see it.
-#include "control/ZNCoreEditorWidget.h"
+#include "editing/ZNCoreEditorWidget.h"
 
 #include <QApplication>
 #include <QFile>

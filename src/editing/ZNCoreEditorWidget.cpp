@@ -1,4 +1,4 @@
-#include "control/ZNCoreEditorWidget.h"
+#include "editing/ZNCoreEditorWidget.h"
 
 #include <QVBoxLayout>
 
@@ -23,7 +23,7 @@ private:
 };
 
 ZNCoreEditorWidget::ZNCoreEditorWidget(QWidget* parent)
-    : QWidget(parent), m_control(std::make_unique<CZNCoreEditorControl>()),
+    : QWidget(parent), m_control(std::make_unique<CZNCoreEditorControlEx>()),
       m_window(std::make_unique<NotificationWindow>(*this))
 {
     auto* layout = new QVBoxLayout(this);
@@ -58,14 +58,19 @@ bool ZNCoreEditorWidget::saveFile(const QString& path)
     return m_control->SaveFile(name.c_str(), true);
 }
 
+int ZNCoreEditorWidget::language() const
+{
+    return m_control->GetCurrentLanguage();
+}
+
+void ZNCoreEditorWidget::setLanguage(int language)
+{
+    m_control->InitializeLanguage(language, 1);
+}
+
 QString ZNCoreEditorWidget::text()
 {
-    const long units = m_control->GetLength(1);
-    QString text(units, Qt::Uninitialized);
-    if (units > 0)
-        m_control->GetText(static_cast<int>(units) + 1, reinterpret_cast<char16_t*>(text.data()),
-                           1);
-    return text;
+    return m_control->GetText();
 }
 
 void ZNCoreEditorWidget::setText(const QString& text)

@@ -1,7 +1,7 @@
 // ZNCoreEditorWidget: the control for hosts that are written in plain Qt.
 #pragma once
 
-#include "control/ZNCoreEditorControl.h"
+#include "editing/ZNCoreEditorControlEx.h"
 
 #include <QString>
 #include <QWidget>
@@ -21,12 +21,17 @@ public:
     explicit ZNCoreEditorWidget(QWidget* parent = nullptr);
     ~ZNCoreEditorWidget() override;
 
-    CZNCoreEditorControl& control() { return *m_control; }
+    CZNCoreEditorControlEx& control() { return *m_control; }
 
     // The encoding and the mark are found in the file. False if it is missing or cannot be read.
     bool openFile(const QString& path);
     // In the encoding and with the mark of the file that was opened. False if a write failed.
     bool saveFile(const QString& path);
+
+    // The language by its number in the registry (zncoreeditor::GetFileTypeManager): colours,
+    // keywords, comments, indentation.
+    int language() const;
+    void setLanguage(int language);
 
     QString text();
     void setText(const QString& text);             // undoable; the save point stays where it was
@@ -47,7 +52,7 @@ private:
     void Notify(LPARAM lParam);
     void Announce(const SCNotification& record);
 
-    std::unique_ptr<CZNCoreEditorControl> m_control;
+    std::unique_ptr<CZNCoreEditorControlEx> m_control;
     std::unique_ptr<NotificationWindow> m_window; // hears what the engine tells its parent
     bool m_modified = false;
     long m_caret = 0;

@@ -1,0 +1,24 @@
+// The menu of languages: every language of the registry, the present one marked.
+#pragma once
+
+#include <QMenu>
+
+class QActionGroup;
+
+class LanguageMenu final : public QMenu
+{
+    Q_OBJECT
+
+public:
+    explicit LanguageMenu(QWidget* parent);
+
+    void ShowLanguage(int language); // -1: none
+
+Q_SIGNALS:
+    void Chosen(int language);
+
+private:
+    void AddLanguage(int language);
+
+    QActionGroup* m_group;
+};

@@ -1,0 +1,104 @@
+#include "host/OptionsDialog.h"
+
+#include "platform/OptionsServer.h"
+
+#include <QCheckBox>
+#include <QComboBox>
+#include <QDialogButtonBox>
+#include <QFontComboBox>
+#include <QFormLayout>
+#include <QSpinBox>
+#include <QVBoxLayout>
+
+#include <algorithm>
+
+namespace {
+
+constexpr int kPointsPerInch = 72;
+
+struct SwitchRow
+{
+    const char* name;
+    const char16_t* text;
+    int key;
+};
+
+constexpr SwitchRow kSwitches[] = {
+    {"tabsToSpaces", u"Insert &blanks for Tab", option::TabsToSpaces},
+    {"lineNumbers", u"&Line numbers", option::LineNumbers},
+    {"foldMargin", u"F&old margin", option::FoldMargin},
+    {"continueComments", u"Enter &continues a comment", option::ContinueComments},
+};
+
+} // namespace
+
+OptionsDialog::OptionsDialog(QWidget* parent)
+    : QDialog(parent), m_font(new QFontComboBox(this)), m_points(new QSpinBox(this)),
+      m_tabWidth(new QSpinBox(this)), m_autoIndent(new QComboBox(this))
+{
+    setWindowTitle(QStringLiteral("Options"));
+    CZNOptionsServer& options = *CZNOptionsServer::GetObjectW();
+    m_font->setObjectName(QStringLiteral("font"));
+    m_font->setFontFilters(QFontComboBox::MonospacedFonts);
+    m_points->setObjectName(QStringLiteral("points"));
+    m_points->setRange(5, 72);
+    m_points->setSuffix(QStringLiteral(" pt"));
+    ReadFont();
+    m_tabWidth->setObjectName(QStringLiteral("tabWidth"));
+    m_tabWidth->setRange(1, 32);
+    m_tabWidth->setValue(options.GetInt(option::TabWidth));
+    m_autoIndent->setObjectName(QStringLiteral("autoIndent"));
+    m_autoIndent->addItems({QStringLiteral("Not at all"), QStringLiteral("As the line above"),
+                            QStringLiteral("By the language")});
+    m_autoIndent->setCurrentIndex(std::clamp(options.GetInt(option::AutoIndent), 0, 2));
+
+    auto* form = new QFormLayout;
+    form->addRow(QStringLiteral("&Font"), m_font);
+    form->addRow(QStringLiteral("&Size"), m_points);
+    form->addRow(QStringLiteral("&Tab width, in columns"), m_tabWidth);
+    form->addRow(QStringLiteral("&Indent new lines"), m_autoIndent);
+    for (const SwitchRow& row : kSwitches)
+        form->addRow(AddSwitch(row.name, QString::fromUtf16(row.text), row.key));
+
+    auto* buttons = new QDialogButtonBox(QDialogButtonBox::Ok | QDialogButtonBox::Cancel, this);
+    connect(buttons, &QDialogButtonBox::accepted, this, &QDialog::accept);
+    connect(buttons, &QDialogButtonBox::rejected, this, &QDialog::reject);
+    auto* layout = new QVBoxLayout(this);
+    layout->addLayout(form);
+    layout->addWidget(buttons);
+}
+
+QCheckBox* OptionsDialog::AddSwitch(const char* name, const QString& text, int key)
+{
+    auto* box = new QCheckBox(text, this);
+    box->setObjectName(QLatin1String(name));
+    box->setChecked(CZNOptionsServer::GetObjectW()->GetInt(key) != 0);
+    m_switches.append({box, key});
+    return box;
+}
+
+void OptionsDialog::ReadFont()
+{
+    LOGFONT font;
+    if (!CZNOptionsServer::GetObjectW()->GetLOGFONT(option::EditorFont, &font))
+        return;
+    m_font->setCurrentFont(QFont(QString::fromUtf16(font.lfFaceName)));
+    m_points->setValue(
+        -MulDiv(static_cast<int>(font.lfHeight), kPointsPerInch, ScreenPixelsPerInch()));
+}
+
+void OptionsDialog::Store() const
+{
+    CZNOptionsServer& options = *CZNOptionsServer::GetObjectW();
+    LOGFONT font;
+    options.GetLOGFONT(option::EditorFont, &font);
+    const std::u16string face = m_font->currentFont().family().toStdU16String();
+    std::fill(std::begin(font.lfFaceName), std::end(font.lfFaceName), u'\0');
+    face.copy(font.lfFaceName, std::size(font.lfFaceName) - 1);
+    font.lfHeight = -MulDiv(m_points->value(), ScreenPixelsPerInch(), kPointsPerInch);
+    options.SetLOGFONT(option::EditorFont, &font);
+    options.SetInt(option::TabWidth, m_tabWidth->value());
+    options.SetInt(option::AutoIndent, m_autoIndent->currentIndex());
+    for (const auto& [box, key] : m_switches)
+        options.SetInt(key, box->isChecked() ? 1 : 0);
+}

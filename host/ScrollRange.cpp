@@ -1,0 +1,37 @@
+#include "host/ScrollRange.h"
+
+#include "control/ZNCoreEditorControl.h"
+
+#include <algorithm>
+#include <limits>
+
+namespace {
+
+// In pixels, with room for the caret behind the line's end.
+int WidthOfLine(CZNCoreEditorControl& editor, int line)
+{
+    constexpr long kRoomForTheCaret = 12;
+    constexpr long kLayoutLimit = 10000; // laying out a longer line costs more than a paint may
+    const long units = editor.LineLength(line, 1);
+    if (units > kLayoutLimit) {
+        const long unit = editor.TextWidth(0, u"n", 1);
+        return int(std::min<long>(units * unit, std::numeric_limits<int>::max()));
+    }
+    const long start = editor.PositionFromLine(line, 1);
+    const long end = editor.GetLineEndPosition(line, 1);
+    return int(editor.PointXFromPosition(end, 1) - editor.PointXFromPosition(start, 1) +
+               kRoomForTheCaret);
+}
+
+} // namespace
+
+void FitScrollWidth(CZNCoreEditorControl& editor, int firstLine, int lastLine)
+{
+    const int last = std::min(lastLine, editor.GetLineCount(1) - 1);
+    const int before = editor.GetScrollWidth(1);
+    int widest = before;
+    for (int line = firstLine; line <= last; ++line)
+        widest = std::max(widest, WidthOfLine(editor, line));
+    if (widest > before)
+        editor.SetScrollWidth(widest, 1);
+}

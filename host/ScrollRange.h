@@ -1,0 +1,7 @@
+// The range of the horizontal scroll bar, measured as lines come into view.
+#pragma once
+
+class CZNCoreEditorControl;
+
+// Widens the range of the horizontal scroll bar to the longest of the lines; it never shrinks.
+void FitScrollWidth(CZNCoreEditorControl& editor, int firstLine, int lastLine);
