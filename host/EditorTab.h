@@ -48,7 +48,7 @@ public:
 
 Q_SIGNALS:
     void LanguageChanged(); // the looks are those of the language again
-    void StateChanged(); // text, caret, modified flag, zoom: anything that the window shows
+    void StateChanged();    // text, caret, modified flag, zoom: anything that the window shows
 
 private:
     void OnNotified(const SCNotification& record);

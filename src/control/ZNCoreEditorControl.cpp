@@ -17,8 +17,6 @@ namespace {
 constexpr UINT kGetSel = 0x00B0;     // EM_GETSEL
 constexpr UINT kLineLength = 0x00C1; // EM_LINELENGTH
 constexpr int kFoldMargin = 3;
-constexpr int kFoldHeader = 0x2000;
-constexpr int kFoldLevel = 0x0FFF;
 constexpr int kUserEdit = modification::InsertText | modification::DeleteText | modification::User;
 
 template <class T>
@@ -151,28 +149,6 @@ void CZNCoreEditorControl::OnModified(const SCNotification& record)
     if (record.modificationType & modification::ChangeFold)
         FoldChanged(static_cast<int>(record.line), record.foldLevelNow, record.foldLevelPrev);
     m_bModified = true;
-}
-
-bool CZNCoreEditorControl::MarginClick(long position, int /*modifiers*/)
-{
-    const int line = LineFromPosition(position, 1);
-    if (GetFoldLevel(line, 1) & kFoldHeader)
-        ToggleFold(line, 1);
-    return true;
-}
-
-void CZNCoreEditorControl::FoldChanged(int line, int levelNow, int levelPrevious)
-{
-    const bool isHeader = levelNow & kFoldHeader;
-    const bool wasHeader = levelPrevious & kFoldHeader;
-    if (isHeader && !wasHeader)
-        SetFoldExpanded(line, 1, 1);
-    if (!wasHeader || isHeader || GetFoldExpanded(line, 1))
-        return;
-    SetFoldExpanded(line, 1, 1);
-    const int last = GetLastChild(line, levelPrevious & kFoldLevel, 1);
-    if (last > line)
-        ShowLines(line + 1, last, 1);
 }
 
 void CZNCoreEditorControl::SetAutoSave(bool /*on*/, int /*minutes*/) {}

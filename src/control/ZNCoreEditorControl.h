@@ -22,6 +22,15 @@ struct FilePolicy;
 // Sent to the parent when the user edits; wParam is the control's window, lParam 1.
 extern ZN_API unsigned int ZNBASEM_ON_EDITCHANGE;
 
+// How the fold margin looks.
+enum EFoldStyle : int
+{
+    BoxTree = 0,
+    CircleTree = 1,
+    PlusMinus = 2,
+    Arrows = 3, // and any other value
+};
+
 // The last argument of most operations, `direct`, chooses the way to the engine: nonzero calls its
 // function, which is cheap; zero sends a window message, which passes through the message maps.
 // An engine whose window is gone answers 0 to everything.
@@ -157,6 +166,27 @@ public:
     int DefineErrorIndicators();
     void DefineMarker(int marker, int symbol, unsigned long fore, unsigned long back);
 
+    // Bookmarks: marker 0, and the numbers 0 to 9 on the markers from firstMarker on, one of them
+    // on a line at most. Other numbers do nothing. DefineNumberedBookmarks forgets where they
+    // stood.
+    void DefineBookmarks();
+    void DefineNumberedBookmarks(int firstMarker, bool systemColours);
+    void ToggleNumberedBookmark(int number, int firstMarker); // at the caret's line
+    void JumpToNumberedBookmark(int number, int firstMarker);
+
+    void SetFoldingMargins(EFoldStyle style);
+    // Walks the children of the header at line, and leaves line behind them. With force they are
+    // shown to that many levels and hidden below, else they are shown if doExpand is set. A level
+    // other than -1 is taken for that of every line.
+    void Expand(int& line, bool doExpand, bool force, int visibleLevels, int level);
+    void FoldAll(); // toggles all folds of the first level
+    // A line that becomes a header shows its lines; one that was a folded header shows them again.
+    void FoldChanged(int line, int levelNow, int levelPrevious);
+    // A click in the fold margin, modifiers: 1 shift, 2 control. True always.
+    bool MarginClick(long position, int modifiers);
+    void EnsureRangeVisible(long from, long to); // opens every fold that hides a line of it
+    void GotoLineEnsureVisible(int line);
+
     static HINSTANCE m_hEditorDllHandle; // the engine, null until the first control; never released
     static int refs;                     // live controls
 
@@ -165,11 +195,6 @@ protected:
     virtual void SetAutoSave(bool on, int minutes);
     virtual void CleanUpAutoSave();
     virtual void DeleteAutoSaveFile();
-
-    // A click in the fold margin; true if it was taken.
-    bool MarginClick(long position, int modifiers);
-    // A line that becomes a header shows its lines; one that was a folded header shows them again.
-    void FoldChanged(int line, int levelNow, int levelPrevious);
 
     // Reads and closes the file, inserting at the caret; null does nothing. convertEOLs brings the
     // text to the engine's line-end mode.
@@ -204,6 +229,8 @@ private:
     LRESULT OnGetSel(WPARAM wParam, LPARAM lParam);
     LRESULT OnLineLength(WPARAM wParam, LPARAM lParam);
     void OnModified(const SCNotification& record);
+    void FreeLineOfNumberedBookmarks(int line, int firstMarker);
+    bool FoldsAreToOpen(int lines);
     const FilePolicy& Policy() const;
     void RecordEncoding(FileEncodeConverter::encodingType found);
     void AdoptEncoding(FileEncodeConverter::encodingType found, bool hadMark);

@@ -154,6 +154,7 @@ void ApplyMargins(CSyntaxFile& syntax, CZNCoreEditorControlEx& control)
     control.SetMarginTypeN(kFoldMargin, kSymbolMargin, 1);
     control.SetMarginMaskN(kFoldMargin, kFolderMarkers, 1);
     control.SetMarginSensitiveN(kFoldMargin, 1, 1);
+    control.SetFoldingMargins(static_cast<EFoldStyle>(0));
     control.SetFoldMarginColor(1, kFoldMarginColor, 1);
     // Guides are on in every language, whatever its file says.
     control.SetIndentationGuides(1, 1);

@@ -67,12 +67,10 @@ bool CZNCoreEditorControlEx::ReloadFile(const char16_t* path)
     SetFocus();
     const bool opened =
         OpenFile(path, static_cast<FileEncodeConverter::encodingType>(GetEncoding()));
-    if (line < GetLineCount(1)) {
-        EnsureVisibleEnforcePolicy(line, 1);
-        GotoLine(line, 1);
-    } else {
+    if (line < GetLineCount(1))
+        GotoLineEnsureVisible(line);
+    else
         DocumentEnd(1);
-    }
     return opened;
 }
 

@@ -23,10 +23,12 @@ constexpr ColorRow kColors[] = {
 
 COLORREF GetSysColor(int number)
 {
+    if (!qGuiApp)
+        return 0;
     for (const ColorRow& row : kColors) {
         if (row.number != number)
             continue;
-        const QColor color = QGuiApplication::palette().color(row.role);
+        const QColor color = QGuiApplication::palette().color(QPalette::Active, row.role);
         return static_cast<COLORREF>(color.red() | color.green() << 8 | color.blue() << 16);
     }
     return 0;

@@ -9,5 +9,6 @@ inline constexpr int COLOR_HIGHLIGHT = 13;
 inline constexpr int COLOR_HIGHLIGHTTEXT = 14;
 inline constexpr int COLOR_HOTLIGHT = 26;
 
-// From the application's palette, 0x00BBGGRR; black for a number that stands for nothing here.
+// From the application's palette, 0x00BBGGRR; 0 for a number that stands for nothing here, and
+// before there is an application.
 ZN_API COLORREF GetSysColor(int number);

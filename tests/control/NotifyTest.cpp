@@ -161,10 +161,11 @@ TEST_F(FoldLevels, ALineThatBecomesAHeaderIsExpanded)
 
 TEST_F(FoldLevels, AFoldedHeaderThatIsNoneAnyMoreShowsItsLines)
 {
-    AnswerTo(engine::message::GetLastChild, [](WPARAM, LPARAM) { return 11; });
+    AnswerTo(engine::message::GetLastChild, [](WPARAM, LPARAM) { return 8; });
     HandleLevels(0x2401, 0x401);
-    EXPECT_EQ(Sentences(), (Strings{"GetReadOnly", "GetFoldExpanded 7", "SetFoldExpanded 7 1",
-                                    "GetLastChild 7 1025", "ShowLines 8 11"}));
+    EXPECT_EQ(Sentences(),
+              (Strings{"GetReadOnly", "GetFoldExpanded 7", "GetLastChild 7 1025", "ShowLines 8 8",
+                       "GetFoldExpanded 8", "SetFoldExpanded 8 1", "GetLastChild 8 4095"}));
 }
 
 TEST_F(FoldLevels, AnExpandedHeaderThatIsNoneAnyMoreIsLeftAlone)

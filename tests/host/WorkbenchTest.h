@@ -40,7 +40,7 @@ protected:
     }
 
     EditorTab& Tab() const { return *m_window.CurrentTab(); }
-    CZNCoreEditorControl& Editor() const { return Tab().Editor(); }
+    CZNCoreEditorControlEx& Editor() const { return Tab().Editor(); }
 
     void Open(const QString& name, const QByteArray& bytes)
     {
