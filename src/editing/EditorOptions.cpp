@@ -106,16 +106,18 @@ int CZNCoreEditorControlEx::InitializeLanguage(int language, int /*unused*/)
 void CZNCoreEditorControlEx::ApplyColorMaxSize()
 {
     constexpr std::size_t kCompared = 20;
-    constexpr std::size_t kRoom = 256;
+    constexpr const char16_t* kProperty = u"colorMaxSize";
     const auto size =
         static_cast<unsigned int>(CZNOptionsServer::GetObjectW()->GetInt(option::ColorMaxSize));
     const std::u16string wanted = QString::number(size).toStdU16String();
-    std::u16string present(kRoom, u'\0');
-    GetProperty(u"colorMaxSize", present.data(), 1);
-    present.resize(std::char_traits<char16_t>::length(present.c_str()));
+    std::u16string present;
+    if (const int length = GetProperty(kProperty, nullptr, 1); length > 0) {
+        present.resize(static_cast<std::size_t>(length)); // with room for the terminator
+        GetProperty(kProperty, present.data(), 1);
+    }
     if (wanted == present.substr(0, kCompared))
         return;
-    SetProperty(u"colorMaxSize", wanted.c_str(), 1);
+    SetProperty(kProperty, wanted.c_str(), 1);
     ClearDocumentStyle(1);
     Call(engine::kRestyle, 0, 0, 1);
 }

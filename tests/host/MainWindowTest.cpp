@@ -322,21 +322,21 @@ TEST_F(Workbench, ShowsEachScriptsOwnStateWhenItsTabComesToTheFront)
 TEST_F(Workbench, WidensTheLineNumbersAsAScriptGrows)
 {
     Open("a.sql", "a\n");
-    const int narrow = Editor().GetMarginWidthN(0, 1);
+    const int narrow = Editor().GetMarginWidthN(1, 1);
     EXPECT_GT(narrow, 0);
     Type(QString(12000, u'\n').toStdU16String().c_str());
-    EXPECT_GT(Editor().GetMarginWidthN(0, 1), narrow);
+    EXPECT_GT(Editor().GetMarginWidthN(1, 1), narrow);
 }
 
 TEST_F(Workbench, WidensTheLineNumbersWithTheZoom)
 {
     Open("a.sql", "a\n");
-    const int before = Editor().GetMarginWidthN(0, 1);
+    const int before = Editor().GetMarginWidthN(1, 1);
     for (int i = 0; i < 8; ++i)
         Trigger("zoomIn");
-    EXPECT_GT(Editor().GetMarginWidthN(0, 1), before);
+    EXPECT_GT(Editor().GetMarginWidthN(1, 1), before);
     Trigger("zoomReset");
-    EXPECT_EQ(Editor().GetMarginWidthN(0, 1), before);
+    EXPECT_EQ(Editor().GetMarginWidthN(1, 1), before);
 }
 
 TEST_F(Workbench, ScrollsSidewaysNoFurtherThanTheLongestLineSeen)
