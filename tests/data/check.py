@@ -140,7 +140,9 @@ def style_faults(root, current_line):
         faults += [f"style {number}: {colours[0]} on {paper}" for paper in papers
                    if contrast(colours[0], paper) < 4.5]
         # The first Name below a style is the style's, whatever element it stands in.
-        if style.find("Font") is not None and style[0].tag != "Name":
+        if style.find("Font") is None:
+            faults.append(f"style {number} has no font to set")
+        elif style[0].tag != "Name":
             faults.append(f"style {number} does not begin with its name")
     return faults
 
