@@ -31,8 +31,8 @@ std::string With(const std::string& name, int first, long second)
 // What a style of the test's language sends.
 Sentences StyleMessages(int style)
 {
-    const long fore = (style & 0xFF) << 16;             // 0000nn in the file
-    const long back = 0x00FFFF | (style & 0xFF) << 16;  // FFFFnn
+    const long fore = (style & 0xFF) << 16;            // 0000nn in the file
+    const long back = 0x00FFFF | (style & 0xFF) << 16; // FFFFnn
     return {"StyleSetFont(F" + std::to_string(style) + ')',
             With("StyleSetSize", style, style + 5),
             With("StyleSetBold", style, 1),
@@ -51,7 +51,10 @@ Sentences Marker(int marker, int symbol, long fore, long back)
 const Sentences kBegin = StyleMessages(32) + Sentences{"StyleClearAll", "SetStyleBits 7"};
 
 const Sentences kIndentation = {
-    "SetTabIndents 1", "SetBackSpaceUnIndents 1", "SetIndent 3", "SetIndentationGuides 0",
+    "SetTabIndents 1",
+    "SetBackSpaceUnIndents 1",
+    "SetIndent 3",
+    "SetIndentationGuides 0",
 };
 
 const Sentences kView = {
@@ -61,26 +64,24 @@ const Sentences kView = {
 const Sentences kLineNumbers = {"TextWidth(9)", "GetLineCount", "SetMarginWidthN 1 4"};
 
 const Sentences kMargins = {
-    "SetMarginWidthN 2 20", "SetMarginTypeN 2 0", "SetMarginMaskN 2 33554431",
-    "SetMarginWidthN 3 0",  "SetMarginTypeN 3 0", "SetMarginMaskN 3 -33554432",
+    "SetMarginWidthN 2 20",    "SetMarginTypeN 2 0", "SetMarginMaskN 2 33554431",
+    "SetMarginWidthN 3 0",     "SetMarginTypeN 3 0", "SetMarginMaskN 3 -33554432",
     "SetMarginSensitiveN 3 1",
 };
 
-const Sentences kFolding = Marker(31, 14, 0xFFFFFF, 0x808080) + Marker(30, 12, 0xFFFFFF, 0x808080) +
-                           Marker(29, 9, 0xFFFFFF, 0x808080) + Marker(28, 10, 0xFFFFFF, 0x808080) +
-                           Marker(25, 13, 0xFFFFFF, 0x808080) + Marker(26, 15, 0xFFFFFF, 0x808080) +
-                           Marker(27, 11, 0xFFFFFF, 0x808080) +
-                           Sentences{"SetFoldMarginColor 1 " + std::to_string(0xC1CDC1),
-                                     "SetIndentationGuides 1"};
+const Sentences kFolding =
+    Marker(31, 14, 0xFFFFFF, 0x808080) + Marker(30, 12, 0xFFFFFF, 0x808080) +
+    Marker(29, 9, 0xFFFFFF, 0x808080) + Marker(28, 10, 0xFFFFFF, 0x808080) +
+    Marker(25, 13, 0xFFFFFF, 0x808080) + Marker(26, 15, 0xFFFFFF, 0x808080) +
+    Marker(27, 11, 0xFFFFFF, 0x808080) +
+    Sentences{"SetFoldMarginColor 1 " + std::to_string(0xC1CDC1), "SetIndentationGuides 1"};
 
-const Sentences kMarkers = Marker(0, 1, 0xF3FA0E, 0xF3FA0E) +
-                           Sentences{"MarkerDefinePixmap 2", "ErrorsSetMarkNum 2"} +
-                           Sentences{"MarkerDefinePixmap 9", "WarningsSetMarkNum 9"} +
-                           Marker(7, 4, 0, 0xFFFFFF) + Marker(8, 4, 0, 0x40FF00) +
-                           Marker(3, 0, 0, 0x0909BF) + Marker(4, 0, 0, 0xFFFFFF) +
-                           Marker(1, 1, 0xF3FA0E, 0xF3FA0E) +
-                           Marker(5, 10067, 0xFF0000, 0xFF0000) +
-                           Marker(6, 10082, 0x8000FF, 0x8000FF);
+const Sentences kMarkers =
+    Marker(0, 1, 0xF3FA0E, 0xF3FA0E) + Sentences{"MarkerDefinePixmap 2", "ErrorsSetMarkNum 2"} +
+    Sentences{"MarkerDefinePixmap 9", "WarningsSetMarkNum 9"} + Marker(7, 4, 0, 0xFFFFFF) +
+    Marker(8, 4, 0, 0x40FF00) + Marker(3, 0, 0, 0x0909BF) + Marker(4, 0, 0, 0xFFFFFF) +
+    Marker(1, 1, 0xF3FA0E, 0xF3FA0E) + Marker(5, 10067, 0xFF0000, 0xFF0000) +
+    Marker(6, 10082, 0x8000FF, 0x8000FF);
 
 // The caret has the text's colour, not the 99 of the configuration.
 Sentences Caret(long color)
@@ -97,10 +98,14 @@ Sentences Caret(long color)
 }
 
 const Sentences kEnd = {
-    "SetTabWidth 7",      "SetWrapMode 1",
-    "IndicSetStyle 0 1",  "IndicSetFore 0 255",
-    "ErrorsSetIndic 0",   "IndicSetStyle 1 1",
-    "IndicSetFore 1 " + std::to_string(0x07E4DF), "WarningsSetIndic 1",
+    "SetTabWidth 7",
+    "SetWrapMode 1",
+    "IndicSetStyle 0 1",
+    "IndicSetFore 0 255",
+    "ErrorsSetIndic 0",
+    "IndicSetStyle 1 1",
+    "IndicSetFore 1 " + std::to_string(0x07E4DF),
+    "WarningsSetIndic 1",
     "SetWordChars(abc)",
 };
 
@@ -166,9 +171,9 @@ TEST_F(BindingOrder, OfALanguageWithoutHighlighting)
     for (int style = 32; style <= 38; ++style)
         styles = styles + StyleMessages(style);
     Bind("off.xml");
-    EXPECT_THAT(Recorded(), ElementsAreArray(kBegin + styles + kIndentation + kView + kLineNumbers +
-                                             kMargins + kFolding + kMarkers + Caret(0) + kEnd +
-                                             kLineNumbers));
+    EXPECT_THAT(Recorded(),
+                ElementsAreArray(kBegin + styles + kIndentation + kView + kLineNumbers + kMargins +
+                                 kFolding + kMarkers + Caret(0) + kEnd + kLineNumbers));
 }
 
 TEST_F(BindingOrder, LeavesOutAFontWithoutNameOrSize)

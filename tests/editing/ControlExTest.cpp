@@ -63,12 +63,15 @@ class ControlEx : public testing::Test
 {
 protected:
     ControlEx() { Subclass(m_control); }
-    ~ControlEx() override { zncoreeditor::GetFileTypeManager()->Init(zncoreeditor::GetConfigFile()); }
+    ~ControlEx() override
+    {
+        zncoreeditor::GetFileTypeManager()->Init(zncoreeditor::GetConfigFile());
+    }
 
     void Subclass(CZNCoreEditorControlEx& control)
     {
-        control.SubclassWindow(CreateWindowOfClass(engine::kWindowClass, WS_CHILD,
-                                                   RECT{0, 0, 300, 200}, &m_parent));
+        control.SubclassWindow(
+            CreateWindowOfClass(engine::kWindowClass, WS_CHILD, RECT{0, 0, 300, 200}, &m_parent));
     }
 
     std::u16string Path(const char* name) const
@@ -156,7 +159,8 @@ TEST_F(ControlEx, ForgetsTheCommentsOfTheLanguageBefore)
     m_control.AddSingleLineComment(QStringLiteral("REM"));
     m_control.InitializeLanguage(kSql, 1);
     EXPECT_THAT(m_control.m_singleLineComments, testing::Contains(QStringLiteral("--")));
-    EXPECT_THAT(m_control.m_singleLineComments, testing::Not(testing::Contains(QStringLiteral("REM"))));
+    EXPECT_THAT(m_control.m_singleLineComments,
+                testing::Not(testing::Contains(QStringLiteral("REM"))));
 }
 
 TEST_F(ControlEx, HasIndentationGuidesWhateverTheLanguageSays)
@@ -192,9 +196,15 @@ TEST_F(ControlEx, StaysAsItIsForALanguageWithoutItsFile)
 TEST_F(ControlEx, ReadsColoursAsThreeNumbers)
 {
     const std::pair<const char*, COLORREF> kColours[] = {
-        {"10,20,30", 0x001E140A}, {"300,0,0", 0x0000002C}, {"255,255,255", 0xFFFFFF},
-        {"1,2", 0x0201},          {"7", 7},                {"", 0},
-        {",,9", 0x090000},        {"1,2,3,4", 0x030201},   {" 5 ,x,-1", 0xFF0005},
+        {"10,20,30", 0x001E140A},
+        {"300,0,0", 0x0000002C},
+        {"255,255,255", 0xFFFFFF},
+        {"1,2", 0x0201},
+        {"7", 7},
+        {"", 0},
+        {",,9", 0x090000},
+        {"1,2,3,4", 0x030201},
+        {" 5 ,x,-1", 0xFF0005},
     };
     for (const auto& [text, colour] : kColours)
         EXPECT_EQ(m_control.COLORREFFromString(QLatin1String(text)), colour) << text;
@@ -491,9 +501,8 @@ TEST_F(ControlEx, GivesTheSelectedTextWhereThereIsOne)
 
 TEST_F(ControlEx, TakesItsTextFromAMessage)
 {
-    EXPECT_EQ(SendMessage(m_control.GetSafeHwnd(), WM_SETTEXT, 0,
-                          reinterpret_cast<LPARAM>(u"sent")),
-              0);
+    EXPECT_EQ(
+        SendMessage(m_control.GetSafeHwnd(), WM_SETTEXT, 0, reinterpret_cast<LPARAM>(u"sent")), 0);
     EXPECT_EQ(m_control.GetText(), QStringLiteral("sent"));
 }
 

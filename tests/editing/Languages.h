@@ -41,42 +41,42 @@ public:
     void WriteSyntax(const QString& name, bool highlight, const QString& styles,
                      const QString& more = QString()) const
     {
-        Write(name,
-              QStringLiteral(
-                  "<Syntax>\n<Lexer><Name>ZNEDITLEX_MSSQL</Name><Property name=\"fold\">1</Property>"
-                  "</Lexer>\n<Keywords set=\"0\"><Word>select</Word><Word>from</Word></Keywords>\n"
-                  "<Keywords set=\"3\"><Word>int</Word></Keywords>\n"
-                  "<View><WhiteSpace>1</WhiteSpace><EOL>1</EOL><WordWrap>1</WordWrap>"
-                  "<TabWidth>7</TabWidth><TabsToSpaces>1</TabsToSpaces></View>\n"
-                  "<CodeHighlight><SyntaxHighlighting>%1</SyntaxHighlighting></CodeHighlight>\n"
-                  "<OnSave><EnsureFinalNewLine>1</EnsureFinalNewLine>"
-                  "<ConvertTabsToSpaces>0</ConvertTabsToSpaces>"
-                  "<TrimTrailingSpaces>1</TrimTrailingSpaces></OnSave>\n"
-                  "<Indent><Indent>1</Indent><IndentSize>3</IndentSize><AutoIndent>2</AutoIndent>"
-                  "<IndentGuides>0</IndentGuides></Indent>\n"
-                  "<Margins><LineNumbers>1</LineNumbers><BookMark>1</BookMark><Fold>0</Fold>"
-                  "</Margins>\n"
-                  "<LanguageDefines><Braces><![CDATA[()]]></Braces>"
-                  "<WordCharacters>abc</WordCharacters>"
-                  "<SingleLineComment><![CDATA[--]]></SingleLineComment>"
-                  "<BlockComment><![CDATA[/*|*/]]></BlockComment></LanguageDefines>\n%2"
-                  "<StyleInformation><StyleBits>7</StyleBits><StyleMax>127</StyleMax>\n%3"
-                  "</StyleInformation>\n</Syntax>\n")
-                  .arg(highlight ? 1 : 0)
-                  .arg(more, styles));
+        Write(
+            name,
+            QStringLiteral(
+                "<Syntax>\n<Lexer><Name>ZNEDITLEX_MSSQL</Name><Property name=\"fold\">1</Property>"
+                "</Lexer>\n<Keywords set=\"0\"><Word>select</Word><Word>from</Word></Keywords>\n"
+                "<Keywords set=\"3\"><Word>int</Word></Keywords>\n"
+                "<View><WhiteSpace>1</WhiteSpace><EOL>1</EOL><WordWrap>1</WordWrap>"
+                "<TabWidth>7</TabWidth><TabsToSpaces>1</TabsToSpaces></View>\n"
+                "<CodeHighlight><SyntaxHighlighting>%1</SyntaxHighlighting></CodeHighlight>\n"
+                "<OnSave><EnsureFinalNewLine>1</EnsureFinalNewLine>"
+                "<ConvertTabsToSpaces>0</ConvertTabsToSpaces>"
+                "<TrimTrailingSpaces>1</TrimTrailingSpaces></OnSave>\n"
+                "<Indent><Indent>1</Indent><IndentSize>3</IndentSize><AutoIndent>2</AutoIndent>"
+                "<IndentGuides>0</IndentGuides></Indent>\n"
+                "<Margins><LineNumbers>1</LineNumbers><BookMark>1</BookMark><Fold>0</Fold>"
+                "</Margins>\n"
+                "<LanguageDefines><Braces><![CDATA[()]]></Braces>"
+                "<WordCharacters>abc</WordCharacters>"
+                "<SingleLineComment><![CDATA[--]]></SingleLineComment>"
+                "<BlockComment><![CDATA[/*|*/]]></BlockComment></LanguageDefines>\n%2"
+                "<StyleInformation><StyleBits>7</StyleBits><StyleMax>127</StyleMax>\n%3"
+                "</StyleInformation>\n</Syntax>\n")
+                .arg(highlight ? 1 : 0)
+                .arg(more, styles));
     }
 
     void WriteConfig(const QString& name) const
     {
-        Write(name, QStringLiteral(
-                        "<ZNCoreEditor><Editor><CaretColor>99</CaretColor>"
-                        "<SelectionForeColor use=\"0\">17</SelectionForeColor>"
-                        "<SelectionBackColor use=\"1\">18</SelectionBackColor>"
-                        "<HighlightCurrentLine>1</HighlightCurrentLine>"
-                        "<HighlightCurrentLineColor>19</HighlightCurrentLineColor>"
-                        "<RightEdge>1</RightEdge><RightEdgeColumn>80</RightEdgeColumn>"
-                        "<RightEdgeColor>20</RightEdgeColor></Editor>\n"
-                        "<Languages count=\"0\"></Languages></ZNCoreEditor>\n"));
+        Write(name, QStringLiteral("<ZNCoreEditor><Editor><CaretColor>99</CaretColor>"
+                                   "<SelectionForeColor use=\"0\">17</SelectionForeColor>"
+                                   "<SelectionBackColor use=\"1\">18</SelectionBackColor>"
+                                   "<HighlightCurrentLine>1</HighlightCurrentLine>"
+                                   "<HighlightCurrentLineColor>19</HighlightCurrentLineColor>"
+                                   "<RightEdge>1</RightEdge><RightEdgeColumn>80</RightEdgeColumn>"
+                                   "<RightEdgeColor>20</RightEdgeColor></Editor>\n"
+                                   "<Languages count=\"0\"></Languages></ZNCoreEditor>\n"));
     }
 
     void Open(CSyntaxFile& syntax, const QString& name) const

@@ -58,11 +58,12 @@ protected:
     QTemporaryDir m_folder;
 };
 
-constexpr char kConfig[] = "<ZNCoreEditor>\r\n\t<Editor>\r\n\t\t<RightEdgeColumn>1</RightEdgeColumn>"
-                           "\r\n\t</Editor>\r\n\t<Languages count=\"1\">\r\n"
-                           "\t\t<Language number=\"0\">\r\n\t\t\t<Name>One</Name>\r\n"
-                           "\t\t\t<SyntaxFile>SQL.xml</SyntaxFile>\r\n\t\t</Language>\r\n"
-                           "\t</Languages>\r\n</ZNCoreEditor>\r\n";
+constexpr char kConfig[] =
+    "<ZNCoreEditor>\r\n\t<Editor>\r\n\t\t<RightEdgeColumn>1</RightEdgeColumn>"
+    "\r\n\t</Editor>\r\n\t<Languages count=\"1\">\r\n"
+    "\t\t<Language number=\"0\">\r\n\t\t\t<Name>One</Name>\r\n"
+    "\t\t\t<SyntaxFile>SQL.xml</SyntaxFile>\r\n\t\t</Language>\r\n"
+    "\t</Languages>\r\n</ZNCoreEditor>\r\n";
 
 TEST_F(LibraryInAFolder, ReadsTheConfigurationBesideIt)
 {

@@ -14,14 +14,14 @@ class Registry : public testing::Test
 protected:
     Registry()
     {
-        m_files.Write(QStringLiteral("config.xml"),
-                      QStringLiteral(
-                          "<a><Languages count=\"3\">"
-                          "<Language number=\"0\"><Name>One</Name><SyntaxFile>SQL.xml</SyntaxFile>"
-                          "</Language><Language number=\"1\"><Name>Two</Name>"
-                          "<SyntaxFile>CSS.xml</SyntaxFile></Language><Language number=\"2\">"
-                          "<Name>Three</Name><SyntaxFile>nowhere.xml</SyntaxFile></Language>"
-                          "</Languages></a>"));
+        m_files.Write(
+            QStringLiteral("config.xml"),
+            QStringLiteral("<a><Languages count=\"3\">"
+                           "<Language number=\"0\"><Name>One</Name><SyntaxFile>SQL.xml</SyntaxFile>"
+                           "</Language><Language number=\"1\"><Name>Two</Name>"
+                           "<SyntaxFile>CSS.xml</SyntaxFile></Language><Language number=\"2\">"
+                           "<Name>Three</Name><SyntaxFile>nowhere.xml</SyntaxFile></Language>"
+                           "</Languages></a>"));
         m_config.SetFilename(m_files.Path(QStringLiteral("config.xml")));
         m_languages.Init(&m_config);
     }
@@ -153,11 +153,31 @@ TEST(ShippedLanguages, HaveTheirNumbers)
 {
     const CFileTypeManager& languages = *zncoreeditor::GetFileTypeManager();
     const QStringList names = {
-        "Default",    "Text",      "SQL",        "Transact-SQL", "PL/SQL",
-        "MySQL",      "PostgreSQL", "SQLite",    "DB2",          "Sybase ASE",
-        "Sybase IQ",  "Messages",  "InterBase/Firebird", "Azure SQL", "HTML",
-        "XML",        "CSS",       "C++",        "Visual Basic", "Batch",
-        "Properties", "Makefile",  "Diff",       "Perl",         "PHP",
+        "Default",
+        "Text",
+        "SQL",
+        "Transact-SQL",
+        "PL/SQL",
+        "MySQL",
+        "PostgreSQL",
+        "SQLite",
+        "DB2",
+        "Sybase ASE",
+        "Sybase IQ",
+        "Messages",
+        "InterBase/Firebird",
+        "Azure SQL",
+        "HTML",
+        "XML",
+        "CSS",
+        "C++",
+        "Visual Basic",
+        "Batch",
+        "Properties",
+        "Makefile",
+        "Diff",
+        "Perl",
+        "PHP",
         "LaTeX",
     };
     ASSERT_EQ(languages.GetLanguageCount(), names.size());
