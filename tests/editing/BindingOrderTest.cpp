@@ -135,7 +135,12 @@ protected:
         m_config.SetFilename(m_files.Path(QStringLiteral("config.xml")));
         recording::Forget();
     }
-    ~BindingOrder() override { recording::Forget(); }
+    ~BindingOrder() override
+    {
+        recording::Forget();
+        // What the options wrote is not for the tests behind.
+        zncoreeditor::GetConfigFile()->Revert();
+    }
 
     void Bind(const char* name)
     {

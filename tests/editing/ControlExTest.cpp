@@ -63,9 +63,11 @@ class ControlEx : public testing::Test
 {
 protected:
     ControlEx() { Subclass(m_control); }
+    // What the options wrote into the settings in memory is not for the tests behind.
     ~ControlEx() override
     {
-        zncoreeditor::GetFileTypeManager()->Init(zncoreeditor::GetConfigFile());
+        zncoreeditor::GetConfigFile()->Revert();
+        zncoreeditor::GetFileTypeManager()->ReParseAllSyntaxFiles();
     }
 
     void Subclass(CZNCoreEditorControlEx& control)

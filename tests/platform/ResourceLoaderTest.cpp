@@ -31,6 +31,15 @@ TEST_F(ResourceLoaders, GiveTextsByNumber)
     EXPECT_EQ(loader.LoadString(8), QString());
 }
 
+TEST_F(ResourceLoaders, PutValuesInPlaceOfMarks)
+{
+    const CZNBaseResourceLoader loader(
+        Write("<strings><string id=\"1\">%2 and %1, %3 %% %0 %</string></strings>"));
+    EXPECT_EQ(loader.FormatString(1, {QStringLiteral("a%2"), QStringLiteral("b")}),
+              QStringLiteral("b and a%2, %3 %% %0 %"));
+    EXPECT_EQ(loader.FormatString(2, {QStringLiteral("a")}), QString());
+}
+
 TEST_F(ResourceLoaders, AreEmptyWithoutAFile)
 {
     EXPECT_EQ(CZNBaseResourceLoader(QStringLiteral("/no/such/file")).LoadString(1), QString());

@@ -1,0 +1,108 @@
+// What Qt tells a widget, as the messages that a CWnd gets.
+#include "platform/WindowEvents.h"
+
+#include "platform/Accelerators.h"
+#include "platform/Wnd.h"
+
+#include <QApplication>
+#include <QLineEdit>
+#include <QTest>
+#include <QVBoxLayout>
+
+#include <gtest/gtest.h>
+
+#include <vector>
+
+namespace {
+
+class Listener final : public CWnd
+{
+public:
+    explicit Listener(HWND window) { Attach(window); }
+    ~Listener() override { Detach(); }
+
+    int PreTranslateMessage(MSG* message) override
+    {
+        // A test's key with Shift begins with Shift alone.
+        if (message->wParam != WPARAM{Qt::Key_Shift})
+            keys.push_back({message->wParam, message->lParam});
+        return takes ? 1 : 0;
+    }
+
+    LRESULT WindowProc(UINT message, WPARAM wParam, LPARAM lParam) override
+    {
+        if (message == WM_KILLFOCUS)
+            focusWentTo.push_back(reinterpret_cast<HWND>(wParam));
+        return CWnd::WindowProc(message, wParam, lParam);
+    }
+
+    std::vector<std::pair<WPARAM, LPARAM>> keys;
+    std::vector<HWND> focusWentTo;
+    bool takes = false;
+};
+
+class WindowEvents : public testing::Test
+{
+protected:
+    WindowEvents()
+    {
+        auto* layout = new QVBoxLayout(&m_outer);
+        layout->addWidget(&m_edit);
+        layout->addWidget(&m_other);
+        m_outer.show();
+        QApplication::setActiveWindow(&m_outer);
+        m_edit.setFocus();
+    }
+
+    QWidget m_outer;
+    QLineEdit m_edit;
+    QLineEdit m_other;
+};
+
+TEST_F(WindowEvents, TellWhoGetsTheFocus)
+{
+    const Listener listener(&m_edit);
+    m_other.setFocus();
+    EXPECT_EQ(listener.focusWentTo, std::vector<HWND>({&m_other}));
+    m_edit.setFocus();
+    m_edit.clearFocus();
+    EXPECT_EQ(listener.focusWentTo, std::vector<HWND>({&m_other, nullptr}));
+}
+
+TEST_F(WindowEvents, OfferAKeyToEveryWindowAroundItOnce)
+{
+    const Listener inner(&m_edit);
+    const Listener outer(&m_outer);
+    QTest::keyClick(&m_edit, Qt::Key_F5, Qt::ShiftModifier);
+    const std::vector<std::pair<WPARAM, LPARAM>> expected = {
+        {Qt::Key_F5, static_cast<LPARAM>(Qt::ShiftModifier)}};
+    EXPECT_EQ(inner.keys, expected);
+    EXPECT_EQ(outer.keys, expected);
+}
+
+TEST_F(WindowEvents, TakeAwayAKeyThatSomebodyTook)
+{
+    Listener inner(&m_edit);
+    Listener outer(&m_outer);
+    outer.takes = true;
+    QTest::keyClick(&m_edit, Qt::Key_A);
+    EXPECT_EQ(m_edit.text(), QString());
+    outer.takes = false;
+    inner.takes = true;
+    QTest::keyClick(&m_edit, Qt::Key_A);
+    EXPECT_EQ(m_edit.text(), QString());
+    EXPECT_EQ(outer.keys.size(), 1u);
+    inner.takes = false;
+    QTest::keyClick(&m_edit, Qt::Key_A);
+    EXPECT_EQ(m_edit.text(), QStringLiteral("a"));
+}
+
+TEST_F(WindowEvents, GiveShiftAndTabAsTab)
+{
+    const Listener listener(&m_edit);
+    QTest::keyClick(&m_edit, Qt::Key_Backtab, Qt::ShiftModifier);
+    ASSERT_EQ(listener.keys.size(), 1u);
+    EXPECT_EQ(listener.keys[0].first, WPARAM{Qt::Key_Tab});
+}
+
+} // namespace
