@@ -2,6 +2,7 @@
 
 #include <pugixml.hpp>
 
+#include <algorithm>
 #include <cstring>
 
 namespace pug {
@@ -82,6 +83,34 @@ xml_node Handle(const pugi::xml_node& node)
 bool IsElement(const pugi::xml_node& node, const QByteArray& name)
 {
     return node.type() == pugi::node_element && std::strcmp(node.name(), name.constData()) == 0;
+}
+
+// Whether "?>" is the end of an XML declaration, of which the text behind its name is given. The
+// parser looks for "/>" instead, once it has put one in the place of the first "?>": it would end a
+// declaration within its quotes, or give it all up to "</xml>" for children.
+bool EndsAsInstruction(const char* text)
+{
+    char quote = 0;
+    for (; *text; ++text) {
+        if (text[0] == '?' && text[1] == '>')
+            return quote == 0;
+        if (quote == 0 && (*text == '/' || *text == '>'))
+            return false;
+        if (quote == 0 && (*text == '"' || *text == '\''))
+            quote = *text;
+        else if (*text == quote)
+            quote = 0;
+    }
+    return false;
+}
+
+// Declarations stand nowhere but between the nodes of the document.
+bool DeclarationsEndAsInstructions(const pugi::xml_document& document, const QByteArray& text)
+{
+    return std::all_of(document.begin(), document.end(), [&](const pugi::xml_node& node) {
+        return node.type() != pugi::node_declaration ||
+               EndsAsInstruction(text.constData() + node.offset_debug() + std::strlen(node.name()));
+    });
 }
 
 struct DepthMeter final : pugi::xml_tree_walker
@@ -267,7 +296,8 @@ bool xml_parser::parse(const QString& text)
     const pugi::xml_parse_result result = m_document->load_buffer(
         bytes.constData(), static_cast<std::size_t>(bytes.size()), kOptions, pugi::encoding_utf8);
     DepthMeter meter;
-    if (result && m_document->document_element() && m_document->traverse(meter))
+    if (result && m_document->document_element() && m_document->traverse(meter) &&
+        DeclarationsEndAsInstructions(*m_document, bytes))
         return true;
     clear();
     return false;

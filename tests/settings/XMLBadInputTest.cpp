@@ -50,6 +50,38 @@ TEST_F(XMLBadInput, WhatIsNotWellFormedIsUnusable)
     }
 }
 
+TEST_F(XMLBadInput, ADeclarationThatDoesNotEndAsOneIsUnusable)
+{
+    for (const char* text :
+         {"<?xml a='?>'><S><K>1</K></S></xml>", "<?xml a='1'><S><K>1</K></S></xml><?b?>",
+          "<?xml/><S><K>1</K></S><!-- ?> -->", "<?xml a='?>'/><S><K>1</K></S>",
+          "<?XML a=\"?>\"><S><K>1</K></S></XML>", "<?xml a='1'><?b?> c='2'/><S><K>1</K></S>"}) {
+        SCOPED_TRACE(text);
+        Put("a", text);
+        ExpectUnusable("a");
+    }
+}
+
+// The second declaration has its end in the quotes, and all that follows below it.
+TEST_F(XMLBadInput, ADeclarationInTheMiddleThatDoesNotEndAsOneIsUnusable)
+{
+    Put("a", "\r!<S/>V/><S\xDB/>\n\t\xE8<V/>><S/>4\nV/$\1><S\xDB/>>\nV<?xml version='1.0'?>"
+             "<?xml version='1.0\xFC\r\r\r/>'\r\r\r\r>'\r\n\n\r\t\r<S/>'\r]\x7F\r!<S/>"
+             " version='1.0'?>/>\n\r\xE8<V/>\nVl version='1.0'.0'?><?xlemv rsion='1.0'?>/>"
+             "\n\r\xE8<V/>\nV/>\n/>\n\r\xE8<Z/>\nV<?\xFFxml version='1.0'?>/>\n/");
+    ExpectUnusable("a");
+}
+
+TEST_F(XMLBadInput, TextSeveralRootsAndSeveralDeclarationsAreRead)
+{
+    Put("a", "\r!<S><K>1</K></S>V/><?xml version='1.0'?>\nW<?XML b=\"/>'\" ?><T/>X");
+    OpenXMLFile file(PathOf("a"));
+    EXPECT_TRUE(file.SetIntToXMLFile(u"S", u"K", 2));
+    EXPECT_TRUE(file.Save());
+    EXPECT_EQ(Get("a"), "\r\n!\r\n<S>\r\n\t<K>2</K>\r\n</S>\r\nV/>\r\n<?xml version=\"1.0\"?>"
+                        "\r\n\r\nW\r\n<?XML b=\"/>'\"?>\r\n<T/>\r\nX\r\n");
+}
+
 TEST_F(XMLBadInput, AFileCutAtAnyByteIsUnusable)
 {
     const QByteArray whole =
