@@ -1,12 +1,16 @@
 #include "settings/ElementIndex.h"
 
+#include <cstring>
+
 namespace pug {
 
 namespace {
 
 bool IsElement(const pugi::xml_node& node, std::string_view name)
 {
-    return node.type() == pugi::node_element && node.name() == name;
+    const char* const own = node.name();
+    return node.type() == pugi::node_element && std::strncmp(own, name.data(), name.size()) == 0 &&
+           own[name.size()] == 0;
 }
 
 } // namespace

@@ -192,6 +192,11 @@ QString xml_node::name() const
     return Units(pugi::xml_node(m_node).name());
 }
 
+bool xml_node::is_named(const char16_t* name) const
+{
+    return std::strcmp(pugi::xml_node(m_node).name(), Name(name).Text()) == 0;
+}
+
 bool xml_node::set_name(const char16_t* name)
 {
     const Name to(name);

@@ -56,6 +56,11 @@ public:
     xml_node() = default;
     xml_node(Tree* tree, pugi::xml_node_struct* node) : m_tree(tree), m_node(node) {}
 
+    friend bool operator==(const xml_node& first, const xml_node& second)
+    {
+        return first.m_node == second.m_node;
+    }
+
     bool empty() const { return m_node == nullptr; }
     xml_node_type type() const;
     // Makes a text of a CDATA section, and the other way round. What stands in the node's place
@@ -63,6 +68,7 @@ public:
     bool set_type(xml_node_type type);
 
     QString name() const;
+    bool is_named(const char16_t* name) const;
     bool set_name(const char16_t* name);
     // The text of anything but an element; an element's is empty.
     QString value() const;

@@ -411,6 +411,14 @@ TEST_F(SyntaxFile, ConvertsColours)
     EXPECT_EQ(OpenSyntaxFile::RGBHexValueToColorInt("abcdef12"), 0xEFCDAB);
     EXPECT_EQ(OpenSyntaxFile::RGBHexValueToColorInt(""), 0);
     EXPECT_EQ(OpenSyntaxFile::RGBHexValueToColorInt("FF"), 0xFF);
+    const QString digits = "0123456789abcdef";
+    for (int unit = 1; unit <= 0xFFFF; ++unit) {
+        const QChar digit(unit);
+        const auto value = unit < 0x80 ? digits.indexOf(digit.toLower()) : -1;
+        ASSERT_EQ(OpenSyntaxFile::RGBHexValueToColorInt(QString(6, digit)),
+                  value < 0 ? 0 : value * 0x111111)
+            << unit;
+    }
 }
 
 TEST_F(SyntaxFile, CopiesANodeWithAllBelowIt)
