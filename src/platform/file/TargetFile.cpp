@@ -1,4 +1,4 @@
-#include "control/TargetFile.h"
+#include "platform/file/TargetFile.h"
 
 #include <array>
 #include <cerrno>
