@@ -7,14 +7,12 @@
 #include <QDir>
 #include <QTemporaryDir>
 
-#include <algorithm>
 #include <memory>
 #include <vector>
 
 namespace bench {
 namespace {
 
-constexpr int kRounds = 9;
 constexpr int kStyles = 128;
 
 QDir SyntaxFolder()
@@ -127,24 +125,6 @@ void ReadAllAndWriteStyles(Languages& languages, int size)
         ReadForBinding(language->file);
         WriteStyles(language->file, size);
     }
-}
-
-// The median over its bar is the figure.
-void MeasureBar(benchmark::State& state, double barInMilliseconds, const char* what,
-                const std::function<void()>& prepare, const std::function<void()>& work)
-{
-    std::vector<double> times;
-    for (auto _ : state) {
-        for (int round = 0; round < kRounds; ++round) {
-            prepare();
-            times.push_back(CpuSeconds(work) * 1e3);
-        }
-    }
-    std::nth_element(times.begin(), times.begin() + kRounds / 2, times.end());
-    const double median = times[kRounds / 2];
-    state.counters["ours_ms"] = median;
-    state.counters["reference_ms"] = barInMilliseconds;
-    ReportFigure(state, median / barInMilliseconds, 1, what);
 }
 
 // Custom files in which every style has all that a style can have.
