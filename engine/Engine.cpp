@@ -1,6 +1,7 @@
 #include "engine/Engine.h"
 
 #include "engine/Documents.h"
+#include "engine/ErrorList.h"
 #include "engine/Fences.h"
 #include "engine/Handlers.h"
 
@@ -57,8 +58,9 @@ const Answerers& AllAnswerers()
                                ? Answerer::Way::Pass
                                : Answerer::Way::Translate;
         }
-        for (const auto handlers : {TextHandlers(), PositionHandlers(), SettingHandlers(),
-                                    PrintHandlers(), DocumentHandlers(), ImageHandlers()}) {
+        for (const auto handlers :
+             {TextHandlers(), PositionHandlers(), SettingHandlers(), PrintHandlers(),
+              DocumentHandlers(), ImageHandlers(), ErrorHandlers()}) {
             for (const HandlerRow& row : handlers) {
                 Answerer& answerer = all[row.number - kFirstNumber];
                 answerer.handler = row.run;
@@ -87,6 +89,7 @@ Engine::Engine(QsciScintillaBase& widget)
     : window(widget), raw(widget), text(raw), reporter(widget, raw, text)
 {
     PrepareDocument();
+    FollowEdits(*this);
 }
 
 Engine::~Engine()
@@ -96,6 +99,7 @@ Engine::~Engine()
 
 void Engine::ShowDocument(LPARAM document)
 {
+    errors->Settle(*this);
     raw.Send(Sci::SCI_SETDOCPOINTER, 0, document);
     PrepareDocument();
 }
@@ -108,6 +112,9 @@ void Engine::PrepareDocument()
     documents::Left(left);
     raw.Send(Sci::SCI_SETCODEPAGE, Sci::SC_CP_UTF8);
     text.Reset();
+    errors = &documents::Errors(m_document);
+    if (errors->Look() == ErrorLook())
+        errors->SetLook(*this, errorLook);
 }
 
 LRESULT Engine::Perform(UINT message, WPARAM wParam, LPARAM lParam)
