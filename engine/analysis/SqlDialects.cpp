@@ -121,6 +121,7 @@ constexpr SqlDialect kInterBase = {
     .variableLeads = ":",
     .routine = Routine::Declarations,
     .triggerDeclares = true,
+    .executeBlock = true,
     .setTerm = true,
 };
 

@@ -85,6 +85,7 @@ struct SqlDialect
     bool elseFollowsTerminator = false; // IF a b; ELSE c; is one statement
     bool hasUse = false;                // USE name chooses the catalog
     bool useIsReserved = false;         // first on its line it begins a statement anywhere
+    bool executeBlock = false;          // EXECUTE BLOCK has a body as a routine has
     bool setTerm = false;               // SET TERM new old
     bool terminatorComment = false;     // --#SET TERMINATOR new
     // Lines of the client program, where a statement starts: by first byte, by first word.

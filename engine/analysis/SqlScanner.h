@@ -77,6 +77,13 @@ public:
     // The rest of the line behind the last token, as a Command.
     Token TakeLine(long limit = kNoLimit);
 
+    // Goes on between tokens, behind what the caller has read by itself.
+    void Restart(long position)
+    {
+        m_position = position;
+        m_state = {};
+    }
+
     // What ends a statement instead of ;. Empty: ; does. The bytes are the caller's.
     void SetTerminator(std::string_view terminator) { m_terminator = terminator; }
 
