@@ -29,7 +29,7 @@ bool WordStandsAt(const SqlDialect& dialect, const TextSpans& text, long positio
 
 bool IsCount(const TextSpans& text, const Token& token)
 {
-    if (token.kind != TokenKind::Number || token.cut)
+    if (token.kind != TokenKind::Number || token.Length() >= kLongToken)
         return false;
     for (long i = token.start; i < token.end; ++i) {
         if (text.At(i) < '0' || text.At(i) > '9')

@@ -5,8 +5,6 @@
 namespace engine::analysis {
 namespace {
 
-constexpr long kLongest = 2 * Partitioner::kStretch;
-constexpr long kShortest = Partitioner::kStretch / 4;
 constexpr long kFarthestReach = kSeparatorReach + kLongToken + 2 * kLookAhead;
 
 Mark GroupOf(Event::Kind kind)
@@ -26,7 +24,8 @@ Mark GroupOf(Event::Kind kind)
 
 } // namespace
 
-Partitioner::Partitioner(ScriptRules rules, long size) : m_rules(std::move(rules))
+Partitioner::Partitioner(ScriptRules rules, long size, long stretch)
+    : m_rules(std::move(rules)), m_stretch(stretch)
 {
     Reset(size);
 }
@@ -99,14 +98,14 @@ void Partitioner::EnsureAt(const TextSpans& text, long position)
 // Reads the first stale stretch, or the front of it if it is long. Gives the bytes read.
 long Partitioner::Read(const TextSpans& text, std::size_t index)
 {
-    while (index + 1 < m_stretches.Count() && m_stretches.LengthOf(index) < kShortest &&
-           m_stretches.LengthOf(index) + m_stretches.LengthOf(index + 1) <= kLongest)
+    while (index + 1 < m_stretches.Count() && m_stretches.LengthOf(index) < m_stretch / 4 &&
+           m_stretches.LengthOf(index) + m_stretches.LengthOf(index + 1) <= 2 * m_stretch)
         m_stretches.Merge(index, index + 1);
     const StatementState entry = index > 0 ? m_stretches[index - 1].exit : StatementState();
     const long start = m_stretches.StartOf(index);
     const long length = m_stretches.LengthOf(index);
     StatementMachine machine(m_rules, m_terminators, text, start, entry);
-    machine.Run(start + (length > kLongest ? kStretch : length));
+    machine.Run(start + (length > 2 * m_stretch ? m_stretch : length));
     MeetNeighbours(index, machine.Position());
     Keep(index, machine, entry);
     return machine.Position() - start;

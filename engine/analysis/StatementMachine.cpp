@@ -380,7 +380,8 @@ void StatementMachine::Continue(const Token& token, SqlWord word)
 void StatementMachine::ReadName(const Token& token)
 {
     m_state.nameExpected = false;
-    if ((token.kind != TokenKind::Word && token.kind != TokenKind::QuotedName) || token.cut)
+    const bool isName = token.kind == TokenKind::Word || token.kind == TokenKind::QuotedName;
+    if (!isName || token.Length() >= kLongToken) // of a longer one only the front may be at hand
         return;
     Note(Event::Use, token.start);
     if (m_state.blocks > 0)

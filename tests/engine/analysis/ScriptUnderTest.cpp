@@ -17,6 +17,11 @@ ScriptUnderTest::ScriptUnderTest(const SqlDialect& dialect, std::string text)
       m_partitioner(m_rules, static_cast<long>(m_text.size()))
 {}
 
+void ScriptUnderTest::SetStretch(long bytes)
+{
+    m_partitioner = Partitioner(m_rules, static_cast<long>(m_text.size()), bytes);
+}
+
 void ScriptUnderTest::SetSeparator(BatchSeparator separator)
 {
     m_rules.separator = std::move(separator);

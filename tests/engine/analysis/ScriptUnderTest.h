@@ -19,6 +19,8 @@ public:
         : ScriptUnderTest(*DialectByName(dialect), std::move(text))
     {}
 
+    // Shorter stretches: more places where one meets the next.
+    void SetStretch(long bytes);
     void SetSeparator(BatchSeparator separator);
     void Insert(long position, const std::string& bytes);
     void Erase(long position, long bytes);
