@@ -52,11 +52,32 @@ SqlScanner::SqlScanner(const SqlDialect& dialect, TextSpans text, long position,
       m_state(state)
 {}
 
-Token SqlScanner::Next(long limit)
+void SqlScanner::SetTerminator(std::string_view terminator)
+{
+    m_terminator = terminator;
+    m_plainEnd = 0;
+}
+
+// A terminator of the script's own may stand anywhere, in words too: then no token is plain.
+void SqlScanner::FindPlainEnd()
+{
+    if (!m_terminator.empty())
+        return;
+    const std::string_view run = m_text.RunAt(m_position);
+    const long room = static_cast<long>(run.size()) - kLongToken - 1;
+    if (room <= 0)
+        return;
+    m_run = reinterpret_cast<const unsigned char*>(run.data()) - m_position;
+    m_plainEnd = m_position + room;
+}
+
+Token SqlScanner::AnyToken(long limit)
 {
     m_limit = limit;
     if (m_position >= m_text.Size())
         return Begin(TokenKind::End);
+    if (m_position >= m_plainEnd)
+        FindPlainEnd();
     if (!m_state.InCode()) {
         const Token rest = Resume();
         return rest.Length() > 0 ? rest : Next(limit);

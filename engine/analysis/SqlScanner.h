@@ -72,7 +72,15 @@ public:
 
     // The next token. One that is longer than kLongToken is cut at the limit, or a byte or two
     // behind it; at the text's end its kind is End.
-    Token Next(long limit = kNoLimit);
+    Token Next(long limit = kNoLimit)
+    {
+        if (m_position < m_plainEnd && m_state.InCode()) {
+            const Token token = PlainToken();
+            if (token.kind != TokenKind::End)
+                return token;
+        }
+        return AnyToken(limit);
+    }
 
     // The rest of the line behind the last token, as a Command.
     Token TakeLine(long limit = kNoLimit);
@@ -85,7 +93,7 @@ public:
     }
 
     // What ends a statement instead of ;. Empty: ; does. The bytes are the caller's.
-    void SetTerminator(std::string_view terminator) { m_terminator = terminator; }
+    void SetTerminator(std::string_view terminator);
 
     long Position() const { return m_position; }
     const ScanState& State() const { return m_state; }
@@ -97,6 +105,36 @@ public:
 private:
     using Close = ScanState::Close;
 
+    // Nine tokens of ten are blanks, words and operators that lie in one run with room behind them:
+    // read with one look at the table for each byte. End: the next one is something else.
+    Token PlainToken()
+    {
+        const auto* const start = m_run + m_position;
+        const auto* at = start;
+        const ByteClass first = m_bytes->begins[*at++];
+        TokenKind kind = TokenKind::Operator;
+        if (first == ByteClass::Word) {
+            const auto* const stop = start + kLongToken;
+            while (m_bytes->inWord[*at] && at < stop)
+                ++at;
+            if (*at == '\'' || at == stop) // a string's prefix, a long token
+                return {};
+            kind = TokenKind::Word;
+        } else if (first == ByteClass::Blank) {
+            const auto* const stop = start + kLongToken;
+            while (m_bytes->begins[*at] == ByteClass::Blank && at < stop)
+                ++at;
+            kind = TokenKind::Blank;
+        } else if (first != ByteClass::Operator) {
+            return {};
+        }
+        const Token token{.kind = kind, .start = m_position, .end = m_position + (at - start)};
+        m_position = token.end;
+        return token;
+    }
+
+    Token AnyToken(long limit);
+    void FindPlainEnd();
     Token Begin(TokenKind kind) const { return {.kind = kind, .start = m_position}; }
     Token Resume();
     Token Finish(Token token, long end);
@@ -128,6 +166,8 @@ private:
     long m_position;
     long m_limit = kNoLimit;
     ScanState m_state;
+    const unsigned char* m_run = nullptr; // the byte at position 0, if the run began there
+    long m_plainEnd = 0;                  // plain tokens start before this place, and in the run
 };
 
 } // namespace engine::analysis

@@ -1,5 +1,6 @@
 #include "engine/analysis/SqlWords.h"
 
+#include <algorithm>
 #include <iterator>
 
 namespace engine::analysis {
@@ -67,11 +68,9 @@ constexpr WordTable kTable = MakeTable();
 
 bool Equals(const TextSpans& text, long start, std::string_view word)
 {
-    for (const char letter : word) {
-        if (Lower(text.At(start++)) != static_cast<unsigned char>(letter))
-            return false;
-    }
-    return true;
+    return std::all_of(word.begin(), word.end(), [&](char letter) {
+        return Lower(text.At(start++)) == static_cast<unsigned char>(letter);
+    });
 }
 
 } // namespace

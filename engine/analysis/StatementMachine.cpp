@@ -71,6 +71,8 @@ void StatementMachine::Run(long limit)
     m_limit = limit;
     while (m_scanner.Position() < limit) {
         const Token token = m_scanner.Next(limit);
+        if (token.kind == TokenKind::Blank)
+            continue;
         if (token.kind == TokenKind::End)
             break;
         Take(token);
@@ -96,8 +98,6 @@ void StatementMachine::Note(Event::Kind kind, long position)
 
 void StatementMachine::Take(const Token& token)
 {
-    if (token.kind == TokenKind::Blank)
-        return;
     if (token.kind == TokenKind::LineEnd) {
         m_state.lineIsClean = true;
         if (m_state.pending == Pending::End) // what END names stands on its line
