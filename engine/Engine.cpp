@@ -57,8 +57,9 @@ const Answerers& AllAnswerers()
                                ? Answerer::Way::Pass
                                : Answerer::Way::Translate;
         }
-        for (const auto handlers : {TextHandlers(), PositionHandlers(), SettingHandlers(),
-                                    PrintHandlers(), DocumentHandlers(), ImageHandlers()}) {
+        for (const auto handlers :
+             {TextHandlers(), PositionHandlers(), SettingHandlers(), PrintHandlers(),
+              DocumentHandlers(), ImageHandlers(), AnalysisHandlers()}) {
             for (const HandlerRow& row : handlers) {
                 Answerer& answerer = all[row.number - kFirstNumber];
                 answerer.handler = row.run;
@@ -84,7 +85,7 @@ long ClampedLine(const Raw& raw, long line)
 } // namespace
 
 Engine::Engine(QsciScintillaBase& widget)
-    : window(widget), raw(widget), text(raw), reporter(widget, raw, text)
+    : window(widget), raw(widget), text(raw), reporter(widget, raw, text), analysis(*this)
 {
     PrepareDocument();
 }
@@ -108,6 +109,7 @@ void Engine::PrepareDocument()
     documents::Left(left);
     raw.Send(Sci::SCI_SETCODEPAGE, Sci::SC_CP_UTF8);
     text.Reset();
+    analysis.Forget();
 }
 
 LRESULT Engine::Perform(UINT message, WPARAM wParam, LPARAM lParam)
@@ -146,6 +148,11 @@ long Engine::Bytes(LPARAM position) const
 long Engine::Units(long position) const
 {
     return position < 0 ? position : text.ToUnits({position}).value;
+}
+
+long Engine::CaretPosition() const
+{
+    return Units(static_cast<long>(raw.Send(Sci::SCI_GETCURRENTPOS)));
 }
 
 LRESULT Engine::Translate(const MessageRow& row, WPARAM wParam, LPARAM lParam)

@@ -6,6 +6,7 @@
 #include "control/EngineMessages.h"
 #include "engine/ChangeReporter.h"
 #include "engine/Raw.h"
+#include "engine/ScriptAnalysis.h"
 #include "engine/TextIndex.h"
 #include "engine/Utf.h"
 
@@ -42,11 +43,13 @@ public:
     // A position of the channel in bytes. All negative ones mean the same, and come out as -1.
     long Bytes(LPARAM position) const;
     long Units(long position) const;
+    long CaretPosition() const; // units
 
     QsciScintillaBase& window;
     const Raw raw;
     TextIndex text;
     ChangeReporter reporter;
+    ScriptAnalysis analysis;
 
     // What the stock engine has no place for.
     bool noSingleEol = false;         // line-end mode 0
