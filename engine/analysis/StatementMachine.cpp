@@ -204,7 +204,8 @@ void StatementMachine::TakePart(const Token& token)
 bool StatementMachine::SplitsAtUse(SqlWord word) const
 {
     return word == SqlWord::Use && m_dialect.useIsReserved && m_state.lineIsClean &&
-           m_state.parentheses == 0 && m_state.blocks == 0 && !InRoutine();
+           m_state.parentheses == 0 && m_state.blocks == 0 && m_state.pending != Pending::Begin &&
+           !InRoutine();
 }
 
 void StatementMachine::CloseStatement()
