@@ -60,7 +60,7 @@ const Answerers& AllAnswerers()
         }
         for (const auto handlers :
              {TextHandlers(), PositionHandlers(), SettingHandlers(), PrintHandlers(),
-              DocumentHandlers(), ImageHandlers(), ErrorHandlers()}) {
+              DocumentHandlers(), ImageHandlers(), ErrorHandlers(), AnalysisHandlers()}) {
             for (const HandlerRow& row : handlers) {
                 Answerer& answerer = all[row.number - kFirstNumber];
                 answerer.handler = row.run;
@@ -86,7 +86,7 @@ long ClampedLine(const Raw& raw, long line)
 } // namespace
 
 Engine::Engine(QsciScintillaBase& widget)
-    : window(widget), raw(widget), text(raw), reporter(widget, raw, text)
+    : window(widget), raw(widget), text(raw), reporter(widget, raw, text), analysis(*this)
 {
     PrepareDocument();
     FollowEdits(*this);
@@ -115,6 +115,7 @@ void Engine::PrepareDocument()
     errors = &documents::Errors(m_document);
     if (errors->Look() == ErrorLook())
         errors->SetLook(*this, errorLook);
+    analysis.Forget();
 }
 
 LRESULT Engine::Perform(UINT message, WPARAM wParam, LPARAM lParam)
@@ -153,6 +154,11 @@ long Engine::Bytes(LPARAM position) const
 long Engine::Units(long position) const
 {
     return position < 0 ? position : text.ToUnits({position}).value;
+}
+
+long Engine::CaretPosition() const
+{
+    return Units(static_cast<long>(raw.Send(Sci::SCI_GETCURRENTPOS)));
 }
 
 LRESULT Engine::Translate(const MessageRow& row, WPARAM wParam, LPARAM lParam)

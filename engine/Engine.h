@@ -7,6 +7,7 @@
 #include "engine/ChangeReporter.h"
 #include "engine/ErrorMarks.h"
 #include "engine/Raw.h"
+#include "engine/ScriptAnalysis.h"
 #include "engine/TextIndex.h"
 #include "engine/Utf.h"
 
@@ -45,11 +46,13 @@ public:
     // A position of the channel in bytes. All negative ones mean the same, and come out as -1.
     long Bytes(LPARAM position) const;
     long Units(long position) const;
+    long CaretPosition() const; // units
 
     QsciScintillaBase& window;
     const Raw raw;
     TextIndex text;
     ChangeReporter reporter;
+    ScriptAnalysis analysis;
 
     ErrorList* errors = nullptr; // of the text that the window shows
 

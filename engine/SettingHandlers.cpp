@@ -1,5 +1,5 @@
 // Messages that set and ask what this engine holds in its own way: line ends, lexers, the mask of
-// notifications, the switches of the analysis.
+// notifications.
 #include "engine/Engine.h"
 #include "engine/Handlers.h"
 #include "engine/Lexers.h"
@@ -82,6 +82,7 @@ LRESULT SetLexer(Engine& engine, WPARAM wParam, LPARAM)
 {
     engine.lexer = static_cast<int>(wParam);
     engine.raw.Send(Sci::SCI_SETLEXER, static_cast<WPARAM>(StockLexer(engine.lexer)));
+    engine.analysis.RulesChanged();
     return 0;
 }
 
@@ -95,6 +96,7 @@ LRESULT SetLexerLanguage(Engine& engine, WPARAM, LPARAM lParam)
     const Utf8Text name(TerminatedText(reinterpret_cast<const char16_t*>(lParam)));
     engine.raw.Send(Sci::SCI_SETLEXERLANGUAGE, 0, name.Data());
     engine.lexer = LexerOfStock(static_cast<int>(engine.raw.Send(Sci::SCI_GETLEXER)));
+    engine.analysis.RulesChanged();
     return 0;
 }
 
@@ -103,6 +105,7 @@ LRESULT SetProperty(Engine& engine, WPARAM wParam, LPARAM lParam)
     const Utf8Text key(TerminatedText(reinterpret_cast<const char16_t*>(wParam)));
     const Utf8Text value(TerminatedText(reinterpret_cast<const char16_t*>(lParam)));
     engine.properties.emplace(key.View());
+    engine.analysis.RulesChanged();
     return engine.raw.Send(Sci::SCI_SETPROPERTY, reinterpret_cast<WPARAM>(key.Data()),
                            value.Data());
 }
@@ -112,6 +115,7 @@ LRESULT ResetProperties(Engine& engine, WPARAM, LPARAM)
     for (const std::string& key : engine.properties)
         engine.raw.Send(Sci::SCI_SETPROPERTY, reinterpret_cast<WPARAM>(key.c_str()), "");
     engine.properties.clear();
+    engine.analysis.RulesChanged();
     return 0;
 }
 
@@ -125,23 +129,6 @@ LRESULT GetPropertyInt(Engine& engine, WPARAM wParam, LPARAM)
 LRESULT UsePopUp(Engine& engine, WPARAM wParam, LPARAM)
 {
     engine.usePopUp = wParam != 0;
-    return 0;
-}
-
-LRESULT SetEnableReconciler(Engine& engine, WPARAM wParam, LPARAM)
-{
-    engine.reconciler = wParam != 0;
-    return 0;
-}
-
-LRESULT GetIsReconcilerEnabled(Engine& engine, WPARAM, LPARAM)
-{
-    return engine.reconciler;
-}
-
-LRESULT SetDoingReplaceAll(Engine& engine, WPARAM wParam, LPARAM)
-{
-    engine.bulkChange = wParam != 0;
     return 0;
 }
 
@@ -175,9 +162,6 @@ constexpr HandlerRow kRows[] = {
     {message::GetPropertyInt, GetPropertyInt},
     {message::ResetProperties, ResetProperties},
     {message::UsePopUp, UsePopUp},
-    {message::SetEnableReconciler, SetEnableReconciler},
-    {message::GetIsReconcilerEnabled, GetIsReconcilerEnabled},
-    {message::SetDoingReplaceAll, SetDoingReplaceAll},
     {message::IsAutoCHwnd, IsAutoCHwnd},
 };
 

@@ -1,0 +1,270 @@
+#include "engine/analysis/SqlDialects.h"
+
+#include <algorithm>
+#include <iterator>
+
+namespace engine::analysis {
+namespace {
+
+// Unknown servers' SQL: takes every form that means nothing else in the dialects beside it.
+constexpr SqlDialect kGeneric = {
+    .name = "sql",
+    .escapeStrings = true,
+    .quotingStrings = true,
+    .dollarStrings = true,
+    .backticks = true,
+    .wordMarks = "$#@",
+    .wordLeads = "#",
+    .variableLeads = "@:",
+    .separator = "GO",
+    .routine = Routine::Mixed,
+    .begin = Begin::BlockOrTransaction,
+    .hasUse = true,
+};
+
+constexpr SqlDialect kTransactSql = {
+    .name = "transact-sql",
+    .nestedComments = true,
+    .brackets = true,
+    .wordMarks = "$#@",
+    .wordLeads = "#",
+    .variableLeads = "@",
+    .separator = "GO",
+    .routine = Routine::Batch,
+    .endNamesBlock = false,
+    .elseFollowsTerminator = true,
+    .hasUse = true,
+    .useIsReserved = true,
+    .commandLeads = ":!",
+};
+
+constexpr SqlDialect kAse = {
+    .name = "ase",
+    .nestedComments = true,
+    .doubleQuoteStrings = true,
+    .brackets = true,
+    .wordMarks = "$#@",
+    .wordLeads = "#",
+    .variableLeads = "@",
+    .separator = "GO",
+    .routine = Routine::Batch,
+    .endNamesBlock = false,
+    .elseFollowsTerminator = true,
+    .hasUse = true,
+    .useIsReserved = true,
+};
+
+constexpr SqlDialect kIq = {
+    .name = "iq",
+    .slashComments = true,
+    .nestedComments = true,
+    .brackets = true,
+    .wordMarks = "$#@",
+    .wordLeads = "#",
+    .variableLeads = "@",
+    .separator = "GO",
+};
+
+constexpr SqlDialect kDb2 = {
+    .name = "db2",
+    .nestedComments = true,
+    .wordMarks = "$#@",
+    .wordLeads = "$#@",
+    .variableLeads = ":",
+    .terminatorComment = true,
+};
+
+constexpr SqlDialect kDb2ForZOs = {
+    .name = "db2-zos",
+    .nestedComments = true,
+    .wordMarks = "$#@",
+    .wordLeads = "$#@",
+    .variableLeads = ":",
+    .terminatorComment = true,
+};
+
+constexpr SqlDialect kOracle = {
+    .name = "oracle",
+    .quotingStrings = true,
+    .wordMarks = "$#",
+    .variableLeads = ":&",
+    .separator = "/",
+    .routine = Routine::Declarations,
+    .declareOpens = true,
+    .commandLeads = "@",
+    .commandWords = " accept btitle clear column conn connect define disconnect exec execute host "
+                    "pause print prompt rem remark set show spool start ttitle undefine variable "
+                    "whenever ",
+};
+
+constexpr SqlDialect kMySql = {
+    .name = "mysql",
+    .dashes = Dashes::CommentBeforeBlank,
+    .hashComments = true,
+    .codeComments = true,
+    .backslashes = true,
+    .doubleQuoteStrings = true,
+    .backticks = true,
+    .wordMarks = "$",
+    .wordLeads = "$",
+    .variableLeads = "@",
+    .begin = Begin::Transaction,
+    .hasUse = true,
+    .commandWords = " source ",
+    .delimiterWord = "delimiter",
+};
+
+constexpr SqlDialect kInterBase = {
+    .name = "interbase",
+    .quotingStrings = true,
+    .wordMarks = "$",
+    .variableLeads = ":",
+    .routine = Routine::Declarations,
+    .triggerDeclares = true,
+    .executeBlock = true,
+    .setTerm = true,
+};
+
+constexpr SqlDialect kPostgreSql = {
+    .name = "postgresql",
+    .nestedComments = true,
+    .escapeStrings = true,
+    .dollarStrings = true,
+    .wordMarks = "$",
+    .variableLeads = ":",
+    .begin = Begin::Transaction,
+    .parenthesesHold = true,
+    .onlyAtomicBlocks = true,
+    .commandLeads = "\\",
+    .connectCommands = " c connect ",
+};
+
+constexpr SqlDialect kSqlite = {
+    .name = "sqlite",
+    .backticks = true,
+    .brackets = true,
+    .wordMarks = "$",
+    .variableLeads = "@:$?",
+    .begin = Begin::Transaction,
+    .commandLeads = ".",
+};
+
+struct LexerRow
+{
+    int lexer; // none has -1: such a dialect is chosen by name
+    const SqlDialect* dialect;
+};
+
+constexpr LexerRow kLexers[] = {
+    {0, &kGeneric},     {9, &kGeneric},      {2, &kAse},          {3, &kTransactSql},
+    {4, &kDb2},         {5, &kOracle},       {10, &kDb2ForZOs},   {14, &kMySql},
+    {15, &kInterBase},  {16, &kTransactSql}, {17, &kTransactSql}, {18, &kIq},
+    {-1, &kPostgreSql}, {-1, &kSqlite},
+};
+
+constexpr bool IsLetter(int byte)
+{
+    return (byte >= 'a' && byte <= 'z') || (byte >= 'A' && byte <= 'Z') || byte == '_' ||
+           byte >= 0x80;
+}
+
+constexpr bool IsDigit(int byte)
+{
+    return byte >= '0' && byte <= '9';
+}
+
+bool Holds(std::string_view bytes, int byte)
+{
+    return byte != 0 && bytes.find(static_cast<char>(byte)) != std::string_view::npos;
+}
+
+ByteClass ClassOf(const SqlDialect& dialect, int byte)
+{
+    if (IsLetter(byte) || Holds(dialect.wordLeads, byte)) {
+        const bool comment = byte == '#' && dialect.hashComments;
+        return comment ? ByteClass::Hash : ByteClass::Word;
+    }
+    if (IsDigit(byte))
+        return ByteClass::Digit;
+    switch (byte) {
+    case '\r':
+    case '\n':
+        return ByteClass::LineEnd;
+    case '\'':
+        return ByteClass::Quote;
+    case '"':
+        return ByteClass::DoubleQuote;
+    case '`':
+        return dialect.backticks ? ByteClass::Backtick : ByteClass::Operator;
+    case '[':
+        return dialect.brackets ? ByteClass::Bracket : ByteClass::Operator;
+    case '$':
+        return ByteClass::Dollar;
+    case '-':
+        return ByteClass::Dash;
+    case '/':
+        return ByteClass::Slash;
+    case '#':
+        return dialect.hashComments ? ByteClass::Hash : ByteClass::Operator;
+    case ';':
+        return ByteClass::Semicolon;
+    case ':': // alone, of a variable, or ::
+        return ByteClass::Lead;
+    default:
+        break;
+    }
+    if (Holds(dialect.variableLeads, byte))
+        return ByteClass::Lead;
+    return byte <= ' ' ? ByteClass::Blank : ByteClass::Operator;
+}
+
+ByteTable MakeTable(const SqlDialect& dialect)
+{
+    ByteTable table;
+    for (int byte = 0; byte < 256; ++byte) {
+        const auto slot = static_cast<std::size_t>(byte);
+        table.begins[slot] = ClassOf(dialect, byte);
+        table.inWord[slot] = IsLetter(byte) || IsDigit(byte) || Holds(dialect.wordMarks, byte);
+    }
+    return table;
+}
+
+bool SameName(std::string_view one, std::string_view other)
+{
+    const auto lower = [](char c) { return c >= 'A' && c <= 'Z' ? static_cast<char>(c | 32) : c; };
+    return std::equal(one.begin(), one.end(), other.begin(), other.end(),
+                      [lower](char a, char b) { return lower(a) == lower(b); });
+}
+
+} // namespace
+
+const SqlDialect* DialectOfLexer(int lexer)
+{
+    const auto* row = std::find_if(std::begin(kLexers), std::end(kLexers), [lexer](const auto& r) {
+        return r.lexer == lexer && lexer >= 0;
+    });
+    return row != std::end(kLexers) ? row->dialect : nullptr;
+}
+
+const SqlDialect* DialectByName(std::string_view name)
+{
+    const auto* row = std::find_if(std::begin(kLexers), std::end(kLexers), [name](const auto& r) {
+        return SameName(r.dialect->name, name);
+    });
+    return row != std::end(kLexers) ? row->dialect : nullptr;
+}
+
+const ByteTable& BytesOf(const SqlDialect& dialect)
+{
+    static const auto tables = [] {
+        std::array<ByteTable, std::size(kLexers)> all;
+        std::transform(std::begin(kLexers), std::end(kLexers), all.begin(),
+                       [](const LexerRow& row) { return MakeTable(*row.dialect); });
+        return all;
+    }();
+    const auto* row = std::find_if(std::begin(kLexers), std::end(kLexers),
+                                   [&](const auto& r) { return r.dialect == &dialect; });
+    return tables[static_cast<std::size_t>(row - std::begin(kLexers))];
+}
+
+} // namespace engine::analysis
