@@ -57,8 +57,9 @@ const Answerers& AllAnswerers()
                                ? Answerer::Way::Pass
                                : Answerer::Way::Translate;
         }
-        for (const auto handlers : {TextHandlers(), PositionHandlers(), SettingHandlers(),
-                                    PrintHandlers(), DocumentHandlers(), ImageHandlers()}) {
+        for (const auto handlers :
+             {TextHandlers(), PositionHandlers(), SettingHandlers(), PrintHandlers(),
+              DocumentHandlers(), ImageHandlers(), SearchHandlers()}) {
             for (const HandlerRow& row : handlers) {
                 Answerer& answerer = all[row.number - kFirstNumber];
                 answerer.handler = row.run;
@@ -84,7 +85,8 @@ long ClampedLine(const Raw& raw, long line)
 } // namespace
 
 Engine::Engine(QsciScintillaBase& widget)
-    : window(widget), raw(widget), text(raw), reporter(widget, raw, text)
+    : window(widget), raw(widget), text(raw), reporter(widget, raw, text), stored(raw),
+      searcher(stored)
 {
     PrepareDocument();
 }

@@ -6,8 +6,10 @@
 #include "control/EngineMessages.h"
 #include "engine/ChangeReporter.h"
 #include "engine/Raw.h"
+#include "engine/StoredText.h"
 #include "engine/TextIndex.h"
 #include "engine/Utf.h"
+#include "engine/search/Searcher.h"
 
 #include <optional>
 #include <set>
@@ -47,6 +49,8 @@ public:
     const Raw raw;
     TextIndex text;
     ChangeReporter reporter;
+    const StoredText stored;
+    search::Searcher searcher;
 
     // What the stock engine has no place for.
     bool noSingleEol = false;         // line-end mode 0
@@ -57,6 +61,8 @@ public:
     int copyEol = -1;                 // line-end mode of the copy under way, -1: as the text stands
     std::set<std::string> properties; // of the lexer, set so far
     PrintStyle print;
+    long searchAnchor = 0;    // bytes; stays when the text changes
+    bool recording = false;   // of a macro
     std::string callTip;      // UTF-8
     int lengthForEncode = -1; // bytes; -1: up to the terminator
 
