@@ -37,6 +37,11 @@ const char* NamedClass(char letter)
     return row ? row->outside : nullptr;
 }
 
+std::string OtherThan(const std::string& item)
+{
+    return "(?:(?!" + item + ")[^\\r\\n])";
+}
+
 bool CharacterClass::Follows(char character) const
 {
     return m_at < m_pattern.size() && m_pattern[m_at] == character;
@@ -153,11 +158,9 @@ bool CharacterClass::TakeEscape(char32_t& character, bool& isSet)
     return true;
 }
 
-std::string CharacterClass::Translated(const std::string& words, bool matchCase) const
+std::string CharacterClass::Translated(const std::string& word, bool matchCase) const
 {
     std::string members = m_sets;
-    if (m_hasWords)
-        members += words;
     for (const Range& range : m_ranges) {
         AppendCode(members, range.first);
         if (range.last > range.first) {
@@ -165,26 +168,20 @@ std::string CharacterClass::Translated(const std::string& words, bool matchCase)
             AppendCode(members, range.last);
         }
     }
-    std::string exact;
+    std::string exact; // in its own case
     for (const char32_t character : m_exact)
         AppendCode(matchCase ? members : exact, character);
 
-    const bool isPlain = exact.empty() && !m_hasOthers;
-    if (isPlain && !members.empty())
+    if (exact.empty() && !UsesWords() && !members.empty())
         return (m_negated ? "[^" : "[") + members + (m_negated ? "\\r\\n]" : "]");
-    std::string any;
-    const auto addChoice = [&any](const std::string& choice) {
-        any += (any.empty() ? "" : "|") + choice;
-    };
-    if (!members.empty())
-        addChoice("[" + members + "]");
+    std::string any = members.empty() ? "(?!)" : "[" + members + "]";
     if (!exact.empty())
-        addChoice("(?-i:[" + exact + "])");
+        any += "|(?-i:[" + exact + "])";
+    if (m_hasWords)
+        any += "|" + word;
     if (m_hasOthers)
-        addChoice("[^" + words + "\\r\\n]");
-    if (any.empty()) // no character at all
-        any = "(?!)";
-    return m_negated ? "(?:(?!" + any + ")[^\\r\\n])" : "(?:" + any + ")";
+        any += "|" + OtherThan(word);
+    return m_negated ? OtherThan(any) : "(?:" + any + ")";
 }
 
 } // namespace engine::search

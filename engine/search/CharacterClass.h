@@ -14,8 +14,8 @@ public:
     // end, or is not UTF-8.
     bool Read(std::string_view pattern, std::size_t& at);
 
-    // One item of a PCRE2 pattern.
-    std::string Translated(const std::string& words, bool matchCase) const;
+    // One item of a PCRE2 pattern; the word is another.
+    std::string Translated(const std::string& word, bool matchCase) const;
     bool UsesWords() const { return m_hasWords || m_hasOthers; }
 
 private:
@@ -46,5 +46,8 @@ private:
 
 // \d, \D, \s and \S outside of brackets; null for another letter.
 const char* NamedClass(char letter);
+
+// Any character of the line that the item of a PCRE2 pattern does not match.
+std::string OtherThan(const std::string& item);
 
 } // namespace engine::search

@@ -69,7 +69,7 @@ std::unique_ptr<Expression> Expression::Compile(const std::string& pattern, Read
     // The text may hold half a character, where somebody replaced a target that was set for
     // another text.
     unsigned options = PCRE2_UTF | PCRE2_MATCH_INVALID_UTF | PCRE2_NEVER_BACKSLASH_C;
-    options |= reading == Reading::Plain ? PCRE2_LITERAL : PCRE2_MULTILINE;
+    options |= reading == Reading::Plain ? PCRE2_LITERAL : PCRE2_MULTILINE | PCRE2_ALT_CIRCUMFLEX;
     if (reading == Reading::Plain)
         options &= ~PCRE2_NEVER_BACKSLASH_C;
     if (!matchCase)

@@ -6,7 +6,16 @@
 #include <algorithm>
 
 namespace engine::search {
+// What an alternative begins and ends with is known once there is one.
 std::optional<Translation> ExpressionTranslator::Translate(std::string_view pattern)
+{
+    m_hasBranches = false;
+    if (!TakeAll(pattern) || (m_hasBranches && !TakeAll(pattern)))
+        return std::nullopt;
+    return std::move(m_result);
+}
+
+bool ExpressionTranslator::TakeAll(std::string_view pattern)
 {
     m_pattern = pattern;
     m_at = 0;
@@ -16,11 +25,9 @@ std::optional<Translation> ExpressionTranslator::Translate(std::string_view patt
     m_result = {};
     while (!AtEnd()) {
         if (!TakeOne())
-            return std::nullopt;
+            return false;
     }
-    if (!m_open.empty())
-        return std::nullopt;
-    return std::move(m_result);
+    return m_open.empty();
 }
 
 bool ExpressionTranslator::TakeOne()
@@ -45,6 +52,7 @@ bool ExpressionTranslator::TakeOne()
     case '|':
         ++m_at;
         m_result.pattern += '|';
+        m_hasBranches = true;
         m_last = Last::BranchStart;
         return true;
     case '(':
@@ -56,31 +64,38 @@ bool ExpressionTranslator::TakeOne()
     }
 }
 
-bool ExpressionTranslator::BranchEndsHere() const
+bool ExpressionTranslator::BranchStartsHere() const
 {
-    return AtEnd() || Follows("|") || Follows(m_syntax.posix ? ")" : "\\)");
+    return m_last == Last::BranchStart && (m_hasBranches || m_at == 0);
 }
 
-// A ^ or $ that stands elsewhere than at a branch's edge is a character. The compiler's own anchors
-// also hold between CR and LF, which is no edge of a line.
+bool ExpressionTranslator::BranchEndsHere(std::size_t at) const
+{
+    const std::string_view rest = m_pattern.substr(at);
+    return rest.empty() || (m_hasBranches && (rest.starts_with('|') ||
+                                              rest.starts_with(m_syntax.posix ? ")" : "\\)")));
+}
+
+// A pattern without alternatives has its anchors at its own ends, one with them at the ends of
+// every branch; a ^ or $ elsewhere is a character. The compiler's own anchors also hold between CR
+// and LF, which is no edge of a line.
 bool ExpressionTranslator::TakeAnchor(char anchor)
 {
-    ++m_at;
-    if (anchor == '^' && m_last == Last::BranchStart) {
+    if (anchor == '^' && BranchStartsHere()) {
         m_result.pattern += R"(^(?!\n(?<=\r\n)))";
         m_result.emptyAtLineEnds = true;
-    } else if (anchor == '$' && BranchEndsHere()) {
+    } else if (anchor == '$' && BranchEndsHere(m_at + 1)) {
         m_result.pattern += R"($(?!\n(?<=\r\n)))";
         m_result.emptyAtLineEnds |= m_last == Last::BranchStart;
     } else {
-        --m_at;
         return TakeCharacter();
     }
+    ++m_at;
     m_last = Last::Edge;
     return true;
 }
 
-// One more behind another changes nothing; a question mark behind it makes it take little.
+// Behind * and + another one changes nothing; behind ? it is none.
 bool ExpressionTranslator::TakeRepeat(char repeat)
 {
     ++m_at;
@@ -89,21 +104,15 @@ bool ExpressionTranslator::TakeRepeat(char repeat)
     if (m_last != Last::Item)
         return false;
     m_result.pattern += repeat;
-    if (Follows("?")) {
-        ++m_at;
-        m_result.pattern += '?';
-    }
-    m_last = Last::Repeated;
+    m_last = repeat == '?' ? Last::Edge : Last::Repeated;
     return true;
 }
 
 bool ExpressionTranslator::TakeEscape()
 {
     ++m_at;
-    if (AtEnd()) { // a backslash with nothing to escape
-        PutItem("\\\\");
-        return true;
-    }
+    if (AtEnd()) // nothing to escape
+        return false;
     const char letter = m_pattern[m_at];
     if (letter >= '1' && letter <= '9')
         return TakeReference(letter - '0');
@@ -125,7 +134,7 @@ bool ExpressionTranslator::TakeEscape()
     case 'w':
     case 'W':
         ++m_at;
-        PutItem(letter == 'w' ? "[" + m_syntax.words + "]" : "[^" + m_syntax.words + "\\r\\n]");
+        PutItem(letter == 'w' ? Word() : OtherThan(Word()));
         m_result.usesWords = true;
         return true;
     case 'x':
@@ -159,7 +168,7 @@ bool ExpressionTranslator::TakeWordEdge(char edge)
     ++m_at;
     if (edge == '>' && m_last == Last::WordStart) // a word of nothing
         return false;
-    const std::string word = "[" + m_syntax.words + "]";
+    const std::string word = Word();
     m_result.pattern +=
         edge == '<' ? "(?=" + word + ")(?<!" + word + ")" : "(?!" + word + ")(?<=" + word + ")";
     m_result.usesWords = true;
@@ -184,7 +193,8 @@ bool ExpressionTranslator::TakeReference(int number)
     });
     if (isOpen || number > m_numbered)
         return false;
-    PutItem("(?-i:\\g{" + std::to_string(m_result.groups[static_cast<std::size_t>(number)]) + "})");
+    const int group = m_result.groups[static_cast<std::size_t>(number)];
+    PutItem(InItsCase("\\g{" + std::to_string(group) + "}"));
     return true;
 }
 
@@ -234,7 +244,7 @@ bool ExpressionTranslator::TakeClass()
     CharacterClass set;
     if (!set.Read(m_pattern, m_at))
         return false;
-    PutItem(set.Translated(m_syntax.words, m_syntax.matchCase));
+    PutItem(set.Translated(Word(), m_syntax.matchCase));
     m_result.usesWords |= set.UsesWords();
     return true;
 }
@@ -245,11 +255,17 @@ void ExpressionTranslator::PutItem(std::string_view item)
     m_last = Last::Item;
 }
 
+// The item without regard to the flag that ignores case.
+std::string ExpressionTranslator::InItsCase(const std::string& item) const
+{
+    return m_syntax.matchCase ? item : "(?-i:" + item + ")";
+}
+
 void ExpressionTranslator::PutExact(char32_t character)
 {
     std::string code;
     AppendCode(code, character);
-    PutItem(m_syntax.matchCase ? code : "(?-i:" + code + ")");
+    PutItem(InItsCase(code));
 }
 
 } // namespace engine::search

@@ -17,8 +17,8 @@ struct Syntax
 {
     bool posix = false; // groups by ( and ), while \( and \) are brackets
     bool matchCase = false;
-    // The characters of words, as they stand in the brackets of a PCRE2 class.
-    std::string words = "A-Za-z0-9_\\p{L}\\p{M}\\p{N}";
+    // Matches one character of a word: an item of a PCRE2 pattern.
+    std::string word = "[A-Za-z0-9_\\p{L}\\p{M}\\p{N}]";
 };
 
 struct Translation
@@ -26,7 +26,7 @@ struct Translation
     std::string pattern;          // UTF-8
     std::array<int, 10> groups{}; // where \1 to \9 stand among the groups of pattern; 0: nowhere
     std::vector<int> ends;        // the groups of pattern that mark where the match ends
-    bool usesWords = false;       // depends on Syntax::words
+    bool usesWords = false;       // depends on Syntax::word
     bool emptyAtLineEnds = false; // a match of nothing counts at a line's end, too
 };
 
@@ -55,6 +55,7 @@ private:
         std::size_t start = 0; // in the translation
     };
 
+    bool TakeAll(std::string_view pattern);
     bool TakeOne();
     bool TakeAnchor(char anchor);
     bool TakeRepeat(char repeat);
@@ -73,8 +74,11 @@ private:
     {
         return m_pattern.substr(m_at, text.size()) == text;
     }
-    bool BranchEndsHere() const;
+    bool BranchStartsHere() const;
+    bool BranchEndsHere(std::size_t at) const;
     void PutItem(std::string_view item);
+    std::string Word() const { return InItsCase(m_syntax.word); }
+    std::string InItsCase(const std::string& item) const;
     void PutExact(char32_t character); // in its own case, whatever the flags say
 
     Syntax m_syntax;
@@ -82,6 +86,7 @@ private:
     std::size_t m_at = 0;
     Last m_last = Last::BranchStart;
     std::vector<Group> m_open;
+    bool m_hasBranches = false;
     int m_numbered = 0;  // groups of the pattern
     int m_capturing = 0; // of the translation
     Translation m_result;

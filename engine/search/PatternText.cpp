@@ -48,8 +48,6 @@ char32_t EscapedCharacter(char32_t letter)
         return 7;
     case U'b':
         return 8;
-    case U'e':
-        return 27;
     case U'f':
         return 12;
     case U'n':

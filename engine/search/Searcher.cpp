@@ -3,6 +3,7 @@
 #include "engine/search/PatternText.h"
 
 #include <algorithm>
+#include <cctype>
 
 namespace engine::search {
 namespace {
@@ -95,7 +96,7 @@ bool Searcher::PrepareExpression(std::string_view sought, int flags)
             m_translation.groups[static_cast<std::size_t>(i)] = i;
     } else {
         m_words = m_text.WordCharacters();
-        ExpressionTranslator translator({(flags & flag::Posix) != 0, matchCase, WordClass()});
+        ExpressionTranslator translator({(flags & flag::Posix) != 0, matchCase, WordItem()});
         auto translation = translator.Translate(sought);
         if (!translation)
             return false;
@@ -107,14 +108,19 @@ bool Searcher::PrepareExpression(std::string_view sought, int flags)
 }
 
 // Outside ASCII letters, marks and numbers make words, whatever is set.
-std::string Searcher::WordClass() const
+std::string Searcher::WordItem() const
 {
-    std::string words;
+    std::string ascii;
+    long alphanumerics = 0;
     for (const char character : m_words) {
-        if (character >= 0)
-            AppendCode(words, static_cast<char32_t>(character));
+        if (character == '\r' || character == '\n') // no word leaves the line
+            continue;
+        AppendCode(ascii, static_cast<unsigned char>(character));
+        alphanumerics += std::isalnum(static_cast<unsigned char>(character)) != 0;
     }
-    return words + "\\p{L}\\p{M}\\p{N}";
+    if (alphanumerics == 26 + 26 + 10)
+        return "[" + ascii + "\\p{L}\\p{M}\\p{N}]";
+    return "(?:[" + ascii + "\\p{M}]|[^\\x{0}-\\x{7f}\\P{Xan}])";
 }
 
 long Searcher::Aligned(long at) const
@@ -125,6 +131,17 @@ long Searcher::Aligned(long at) const
     for (int i = 0; i < 3 && at < length && IsInsideCharacter(m_text.Bytes(at, at + 1)[0]); ++i)
         ++at;
     return at;
+}
+
+// The gap may stand inside a character, wherever somebody has read from.
+long Searcher::CharacterStart(long at) const
+{
+    if (at >= m_text.Length())
+        return at;
+    long start = at;
+    while (start > 0 && at - start < 3 && IsInsideCharacter(m_text.Bytes(start, start + 1)[0]))
+        --start;
+    return start;
 }
 
 long Searcher::NextPlace(long at) const
@@ -207,7 +224,7 @@ std::optional<Range> Searcher::LastLiteralIn(std::string_view bytes, long base) 
 std::optional<Range> Searcher::FirstMatch(long from, long to)
 {
     const long base = BaseOf(from);
-    const long gap = m_text.Gap();
+    const long gap = CharacterStart(m_text.Gap());
     if (base < gap && from < gap && gap < to) {
         const Finding finding = FindIn({base, from, gap, -1, true});
         if (finding.outcome == Outcome::Stopped ||

@@ -69,7 +69,7 @@ private:
 
     bool Prepare(std::string_view sought, int flags);
     bool PrepareExpression(std::string_view sought, int flags);
-    std::string WordClass() const;
+    std::string WordItem() const;
 
     std::optional<Range> FirstLiteral(long from, long to) const;
     std::optional<Range> LastLiteral(long from, long to) const;
@@ -86,6 +86,7 @@ private:
     long BaseOf(long at) const;
     bool IsLineEnd(long at) const;
     long Aligned(long at) const;
+    long CharacterStart(long at) const;
     long NextPlace(long at) const;
     bool SuitsWords(Range match) const;
 
