@@ -39,7 +39,7 @@ const char* NamedClass(char letter)
 
 std::string OtherThan(const std::string& item)
 {
-    return "(?:(?!" + item + ")[^\\r\\n])";
+    return Join({"(?:(?!", item, ")[^\\r\\n])"});
 }
 
 bool CharacterClass::Follows(char character) const
@@ -173,15 +173,15 @@ std::string CharacterClass::Translated(const std::string& word, bool matchCase) 
         AppendCode(matchCase ? members : exact, character);
 
     if (exact.empty() && !UsesWords() && !members.empty())
-        return (m_negated ? "[^" : "[") + members + (m_negated ? "\\r\\n]" : "]");
-    std::string any = members.empty() ? "(?!)" : "[" + members + "]";
+        return m_negated ? Join({"[^", members, "\\r\\n]"}) : Join({"[", members, "]"});
+    std::string any = members.empty() ? "(?!)" : Join({"[", members, "]"});
     if (!exact.empty())
-        any += "|(?-i:[" + exact + "])";
+        any += Join({"|(?-i:[", exact, "])"});
     if (m_hasWords)
-        any += "|" + word;
+        any += Join({"|", word});
     if (m_hasOthers)
-        any += "|" + OtherThan(word);
-    return m_negated ? OtherThan(any) : "(?:" + any + ")";
+        any += Join({"|", OtherThan(word)});
+    return m_negated ? OtherThan(any) : Join({"(?:", any, ")"});
 }
 
 } // namespace engine::search

@@ -169,8 +169,8 @@ bool ExpressionTranslator::TakeWordEdge(char edge)
     if (edge == '>' && m_last == Last::WordStart) // a word of nothing
         return false;
     const std::string word = Word();
-    m_result.pattern +=
-        edge == '<' ? "(?=" + word + ")(?<!" + word + ")" : "(?!" + word + ")(?<=" + word + ")";
+    m_result.pattern += edge == '<' ? Join({"(?=", word, ")(?<!", word, ")"})
+                                    : Join({"(?!", word, ")(?<=", word, ")"});
     m_result.usesWords = true;
     m_last = edge == '<' ? Last::WordStart : Last::Edge;
     return true;
@@ -194,7 +194,7 @@ bool ExpressionTranslator::TakeReference(int number)
     if (isOpen || number > m_numbered)
         return false;
     const int group = m_result.groups[static_cast<std::size_t>(number)];
-    PutItem(InItsCase("\\g{" + std::to_string(group) + "}"));
+    PutItem(InItsCase(Join({"\\g{", std::to_string(group), "}"})));
     return true;
 }
 
@@ -258,7 +258,7 @@ void ExpressionTranslator::PutItem(std::string_view item)
 // The item without regard to the flag that ignores case.
 std::string ExpressionTranslator::InItsCase(const std::string& item) const
 {
-    return m_syntax.matchCase ? item : "(?-i:" + item + ")";
+    return m_syntax.matchCase ? item : Join({"(?-i:", item, ")"});
 }
 
 void ExpressionTranslator::PutExact(char32_t character)

@@ -72,6 +72,14 @@ int HexadecimalAt(std::string_view text, std::size_t at)
     return high < 0 || low < 0 ? -1 : high * 16 + low;
 }
 
+std::string Join(std::initializer_list<std::string_view> parts)
+{
+    std::string text;
+    for (const std::string_view part : parts)
+        text += part;
+    return text;
+}
+
 void AppendCode(std::string& pattern, char32_t character)
 {
     char code[16];

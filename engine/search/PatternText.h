@@ -1,6 +1,7 @@
 // Reading the text of a pattern, and writing characters into another.
 #pragma once
 
+#include <initializer_list>
 #include <string>
 #include <string_view>
 
@@ -16,6 +17,8 @@ char32_t EscapedCharacter(char32_t letter);
 int HexadecimalAt(std::string_view text, std::size_t at);
 
 bool IsAsciiLetter(char32_t character);
+
+std::string Join(std::initializer_list<std::string_view> parts);
 
 // As PCRE2 takes it anywhere: \x{..}
 void AppendCode(std::string& pattern, char32_t character);

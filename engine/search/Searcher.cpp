@@ -45,9 +45,9 @@ char EscapedControl(char letter)
 
 std::optional<Range> Searcher::Find(std::string_view sought, int flags, long from, long to)
 {
-    const long length = m_text.Length();
-    from = Aligned(std::clamp(from, 0L, length));
-    to = Aligned(std::clamp(to, 0L, length));
+    m_length = m_text.Length();
+    from = Aligned(std::clamp(from, 0L, m_length));
+    to = Aligned(std::clamp(to, 0L, m_length));
     if (sought.empty())
         return Range{from, from};
     if (flags & flag::Expression) {
@@ -119,16 +119,15 @@ std::string Searcher::WordItem() const
         alphanumerics += std::isalnum(static_cast<unsigned char>(character)) != 0;
     }
     if (alphanumerics == 26 + 26 + 10)
-        return "[" + ascii + "\\p{L}\\p{M}\\p{N}]";
-    return "(?:[" + ascii + "\\p{M}]|[^\\x{0}-\\x{7f}\\P{Xan}])";
+        return Join({"[", ascii, "\\p{L}\\p{M}\\p{N}]"});
+    return Join({"(?:[", ascii, "\\p{M}]|[^\\x{0}-\\x{7f}\\P{Xan}])"});
 }
 
 long Searcher::Aligned(long at) const
 {
-    const long length = m_text.Length();
-    if (at <= 0 || at >= length)
+    if (at <= 0 || at >= m_length)
         return at;
-    for (int i = 0; i < 3 && at < length && IsInsideCharacter(m_text.Bytes(at, at + 1)[0]); ++i)
+    for (int i = 0; i < 3 && at < m_length && IsInsideCharacter(m_text.Bytes(at, at + 1)[0]); ++i)
         ++at;
     return at;
 }
@@ -136,7 +135,7 @@ long Searcher::Aligned(long at) const
 // The gap may stand inside a character, wherever somebody has read from.
 long Searcher::CharacterStart(long at) const
 {
-    if (at >= m_text.Length())
+    if (at >= m_length)
         return at;
     long start = at;
     while (start > 0 && at - start < 3 && IsInsideCharacter(m_text.Bytes(start, start + 1)[0]))
@@ -146,7 +145,7 @@ long Searcher::CharacterStart(long at) const
 
 long Searcher::NextPlace(long at) const
 {
-    return std::min(Aligned(at + 1), m_text.Length());
+    return std::min(Aligned(at + 1), m_length);
 }
 
 bool Searcher::SuitsWords(Range match) const
@@ -224,8 +223,10 @@ std::optional<Range> Searcher::LastLiteralIn(std::string_view bytes, long base) 
 std::optional<Range> Searcher::FirstMatch(long from, long to)
 {
     const long base = BaseOf(from);
-    const long gap = CharacterStart(m_text.Gap());
-    if (base < gap && from < gap && gap < to) {
+    long gap = m_text.Gap();
+    if (from < gap && gap < to)
+        gap = CharacterStart(gap);
+    if (from < gap && gap < to) {
         const Finding finding = FindIn({base, from, gap, -1, true});
         if (finding.outcome == Outcome::Stopped ||
             (finding.outcome == Outcome::Found && finding.whole.start < gap))
@@ -354,7 +355,7 @@ long Searcher::BaseOf(long at) const
 
 bool Searcher::IsLineEnd(long at) const
 {
-    if (at >= m_text.Length())
+    if (at >= m_length)
         return true;
     const char byte = m_text.Bytes(at, at + 1)[0];
     return byte == '\r' || byte == '\n';

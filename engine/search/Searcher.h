@@ -91,6 +91,7 @@ private:
     bool SuitsWords(Range match) const;
 
     const SearchedText& m_text;
+    long m_length = 0; // of the text that is searched
 
     // What is prepared.
     std::string m_sought;
