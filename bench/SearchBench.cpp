@@ -3,7 +3,7 @@
 #include "bench/Pair.h"
 #include "bench/RawEngine.h"
 #include "bench/Texts.h"
-#include "control/ZNCoreEditorWidget.h"
+#include "editing/ZNCoreEditorWidget.h"
 
 #include <algorithm>
 #include <cstdlib>
