@@ -60,7 +60,8 @@ const Answerers& AllAnswerers()
         }
         for (const auto handlers :
              {TextHandlers(), PositionHandlers(), SettingHandlers(), PrintHandlers(),
-              DocumentHandlers(), ImageHandlers(), ErrorHandlers(), AnalysisHandlers()}) {
+              DocumentHandlers(), ImageHandlers(), ErrorHandlers(), AnalysisHandlers(),
+              SearchHandlers()}) {
             for (const HandlerRow& row : handlers) {
                 Answerer& answerer = all[row.number - kFirstNumber];
                 answerer.handler = row.run;
@@ -86,7 +87,8 @@ long ClampedLine(const Raw& raw, long line)
 } // namespace
 
 Engine::Engine(QsciScintillaBase& widget)
-    : window(widget), raw(widget), text(raw), reporter(widget, raw, text), analysis(*this)
+    : window(widget), raw(widget), text(raw), reporter(widget, raw, text), analysis(*this),
+      stored(raw), searcher(stored)
 {
     PrepareDocument();
     FollowEdits(*this);

@@ -8,8 +8,10 @@
 #include "engine/ErrorMarks.h"
 #include "engine/Raw.h"
 #include "engine/ScriptAnalysis.h"
+#include "engine/StoredText.h"
 #include "engine/TextIndex.h"
 #include "engine/Utf.h"
+#include "engine/search/Searcher.h"
 
 #include <optional>
 #include <set>
@@ -55,6 +57,8 @@ public:
     ScriptAnalysis analysis;
 
     ErrorList* errors = nullptr; // of the text that the window shows
+    const StoredText stored;
+    search::Searcher searcher;
 
     // What the stock engine has no place for.
     ErrorLook errorLook;              // as set in this window
@@ -66,6 +70,8 @@ public:
     int copyEol = -1;                 // line-end mode of the copy under way, -1: as the text stands
     std::set<std::string> properties; // of the lexer, set so far
     PrintStyle print;
+    long searchAnchor = 0;    // bytes; stays when the text changes
+    bool recording = false;   // of a macro
     std::string callTip;      // UTF-8
     int lengthForEncode = -1; // bytes; -1: up to the terminator
 

@@ -24,6 +24,7 @@ std::span<const HandlerRow> DocumentHandlers(); // DocumentHandlers.cpp
 std::span<const HandlerRow> ErrorHandlers();    // ErrorHandlers.cpp
 std::span<const HandlerRow> ImageHandlers();    // Images.cpp
 std::span<const HandlerRow> PositionHandlers(); // PositionHandlers.cpp
+std::span<const HandlerRow> SearchHandlers();   // SearchHandlers.cpp
 std::span<const HandlerRow> SettingHandlers();  // SettingHandlers.cpp
 std::span<const HandlerRow> PrintHandlers();    // Printing.cpp
 

@@ -4,7 +4,9 @@
 #include "host/EditorTab.h"
 #include "host/LanguageMenu.h"
 #include "host/OptionsDialog.h"
+#include "host/ProblemPane.h"
 #include "host/Prompts.h"
+#include "host/ScriptChecker.h"
 #include "host/StatusIndicators.h"
 
 #include <QClipboard>
@@ -27,14 +29,21 @@ QString SameFile(const QString& path)
 } // namespace
 
 MainWindow::MainWindow(Prompts& prompts)
-    : m_prompts(prompts), m_tabs(new QTabWidget(this)), m_status(new StatusIndicators(statusBar()))
+    : m_prompts(prompts), m_tabs(new QTabWidget(this)), m_status(new StatusIndicators(statusBar())),
+      m_problems(new ProblemPane(this))
 {
     m_tabs->setTabsClosable(true);
     m_tabs->setMovable(true);
     m_tabs->setDocumentMode(true);
     setCentralWidget(m_tabs);
+    addDockWidget(Qt::BottomDockWidgetArea, m_problems);
+    connect(m_problems, &ProblemPane::Chosen, this, [this](long start, long end) {
+        if (EditorTab* tab = CurrentTab())
+            tab->SelectRange(start, end);
+    });
     connect(m_tabs, &QTabWidget::currentChanged, this, [this] {
         UpdateAll();
+        ListProblems();
         if (EditorTab* tab = CurrentTab())
             tab->setFocus();
     });
@@ -59,6 +68,8 @@ MainWindow::~MainWindow()
     m_tabs->disconnect(this);
     for (int i = 0; i < TabCount(); ++i)
         TabAt(i)->disconnect(this);
+    for (int i = 0; i < TabCount(); ++i)
+        TabAt(i)->Checker().disconnect(this);
 }
 
 EditorTab* MainWindow::CurrentTab() const
@@ -85,6 +96,10 @@ EditorTab* MainWindow::AddTab()
 {
     auto* tab = new EditorTab(QStringLiteral("Script %1").arg(++m_untitledCount), m_tabs);
     connect(tab, &EditorTab::StateChanged, this, [this, tab] { OnTabChanged(tab); });
+    connect(&tab->Checker(), &ScriptChecker::ProblemsChanged, this, [this, tab] {
+        if (tab == CurrentTab())
+            ListProblems();
+    });
     connect(tab, &EditorTab::LanguageChanged, this, [this, tab] {
         ApplyView(*tab);
         OnTabChanged(tab);
@@ -270,6 +285,16 @@ void MainWindow::FollowOptions()
 {
     for (int i = 0; i < TabCount(); ++i)
         TabAt(i)->FollowOptions();
+}
+
+void MainWindow::ListProblems()
+{
+    m_problems->Clear();
+    const EditorTab* tab = CurrentTab();
+    if (!tab)
+        return;
+    for (const ScriptProblem& problem : tab->Checker().Problems())
+        m_problems->Add(problem, tab->Editor().LineFromPosition(problem.start, 1));
 }
 
 void MainWindow::OnTabChanged(EditorTab* tab)

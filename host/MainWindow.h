@@ -8,6 +8,7 @@
 
 class EditorTab;
 class LanguageMenu;
+class ProblemPane;
 class Prompts;
 struct SaveTarget;
 class QTabWidget;
@@ -83,6 +84,7 @@ private:
     int IndexOfFile(const QString& path) const;
     QString FolderToStartIn() const;
     void OnTabChanged(EditorTab* tab);
+    void ListProblems();
     void UpdateCaptions(EditorTab* tab);
     void UpdateAll();
 
@@ -90,6 +92,7 @@ private:
     QTabWidget* m_tabs;
     StatusIndicators* m_status;
     LanguageMenu* m_languages = nullptr;
+    ProblemPane* m_problems;
     std::vector<QAction*> m_actions; // of the named commands, in their order
     int m_untitledCount = 0;
     bool m_clipboardHasText = false;
