@@ -6,7 +6,7 @@
 
 namespace {
 
-constexpr int kMarker = 10;       // the first that no language uses
+constexpr int kMarker = 10;        // the first that no language uses
 constexpr int kLeftRectangle = 27; // Scintilla's number of the symbol
 constexpr unsigned long kColour = 0xC08A3C;
 
@@ -27,8 +27,8 @@ void MarkBatch(CZNCoreEditorControlEx& control)
         (start == 0 && end >= control.GetLength(1)))
         return;
     const int top = control.DocLineFromVisible(control.GetFirstVisibleLine(1), 1);
-    const int bottom = control.DocLineFromVisible(
-        control.GetFirstVisibleLine(1) + control.LinesOnScreen(1), 1);
+    const int bottom =
+        control.DocLineFromVisible(control.GetFirstVisibleLine(1) + control.LinesOnScreen(1), 1);
     const int first = std::max(top, control.LineFromPosition(start, 1));
     const int last = std::min(bottom, control.LineFromPosition(end - 1, 1));
     for (int line = first; line <= last; ++line)

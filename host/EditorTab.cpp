@@ -1,8 +1,8 @@
 #include "host/EditorTab.h"
 
-#include "editing/ZNCoreEditorWidget.h"
 #include "editing/FileTypeManager.h"
 #include "editing/Library.h"
+#include "editing/ZNCoreEditorWidget.h"
 #include "host/BatchMark.h"
 #include "host/Encodings.h"
 #include "host/FileLanguages.h"

@@ -17,7 +17,11 @@
 #include <QMimeData>
 #include <QTabWidget>
 
+#include <algorithm>
+
 namespace {
+
+constexpr int kProblemsHeight = 110; // pixels, of some four lines
 
 // The file behind a path whichever way it is written; the path itself while there is no file.
 QString SameFile(const QString& path)
@@ -37,6 +41,7 @@ MainWindow::MainWindow(Prompts& prompts)
     m_tabs->setDocumentMode(true);
     setCentralWidget(m_tabs);
     addDockWidget(Qt::BottomDockWidgetArea, m_problems);
+    resizeDocks({m_problems}, {kProblemsHeight}, Qt::Vertical);
     connect(m_problems, &ProblemPane::Chosen, this, [this](long start, long end) {
         if (EditorTab* tab = CurrentTab())
             tab->SelectRange(start, end);
@@ -295,6 +300,20 @@ void MainWindow::ListProblems()
         return;
     for (const ScriptProblem& problem : tab->Checker().Problems())
         m_problems->Add(problem, tab->Editor().LineFromPosition(problem.start, 1));
+}
+
+// The first one behind the caret, from the end on the first of all.
+void MainWindow::NextProblem()
+{
+    EditorTab* tab = CurrentTab();
+    const std::vector<ScriptProblem>& problems = tab->Checker().Problems();
+    if (problems.empty())
+        return;
+    const long caret = tab->Editor().GetSelectionStart(1);
+    const auto behind = std::find_if(problems.begin(), problems.end(),
+                                     [caret](const ScriptProblem& p) { return p.start > caret; });
+    const ScriptProblem& next = behind != problems.end() ? *behind : problems.front();
+    tab->SelectRange(next.start, next.end);
 }
 
 void MainWindow::OnTabChanged(EditorTab* tab)

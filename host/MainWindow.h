@@ -56,6 +56,7 @@ public:
     void ShowWhitespace(bool show);
     void ShowLineEnds(bool show);
     void WrapLines(bool wrap);
+    void NextProblem();
     void ChangeOptions();
     void NextScript();
     void PreviousScript();

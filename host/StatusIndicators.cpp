@@ -46,8 +46,8 @@ QLabel* StatusIndicators::AddField(const char* name, const QString& widest)
 void StatusIndicators::Show(const EditorTab* tab)
 {
     if (!tab) {
-        for (QLabel* label :
-             {m_readOnly, m_modified, m_caret, m_catalog, m_language, m_encoding, m_lineEnds, m_overtype})
+        for (QLabel* label : {m_readOnly, m_modified, m_caret, m_catalog, m_language, m_encoding,
+                              m_lineEnds, m_overtype})
             label->clear();
         return;
     }

@@ -113,6 +113,17 @@ TEST_F(WorkbenchProblems, LeadToTheirPlace)
     EXPECT_EQ(Editor().GetSelectionEnd(1), 16);
 }
 
+TEST_F(WorkbenchProblems, AreReachedOneByOneByAKey)
+{
+    Open("a.pgsql", "selekt 1;\nselekt 2;\n");
+    Tab().Checker().Check();
+    GoTo(0);
+    Trigger("nextProblem");
+    EXPECT_EQ(Editor().GetSelectionStart(1), 10);
+    Trigger("nextProblem");
+    EXPECT_EQ(Editor().GetSelectionStart(1), 0);
+}
+
 TEST_F(WorkbenchProblems, AreThoseOfTheScriptInFront)
 {
     Open("a.pgsql", "selekt 2;\n");
