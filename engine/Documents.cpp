@@ -1,5 +1,7 @@
 #include "engine/Documents.h"
 
+#include "engine/ErrorList.h"
+
 #include <unordered_map>
 
 namespace engine::documents {
@@ -10,6 +12,7 @@ struct Record
     int windows = 0;
     int references = 0;
     int undoActions = 0;
+    ErrorList errors;
 };
 
 std::unordered_map<Document, Record>& All()
@@ -57,6 +60,11 @@ void Shown(Document document)
 void Left(Document document)
 {
     TakeOne(&Record::windows, document);
+}
+
+ErrorList& Errors(Document document)
+{
+    return All()[document].errors;
 }
 
 void Created(Document document)

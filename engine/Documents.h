@@ -5,6 +5,10 @@
 
 #include <cstdint>
 
+namespace engine {
+class ErrorList;
+}
+
 namespace engine::documents {
 
 using Document = std::intptr_t;
@@ -14,6 +18,9 @@ bool IsKnown(Document document);
 // A window begins or ceases to show the document.
 void Shown(Document document);
 void Left(Document document);
+
+// The problems of a document that a window shows.
+ErrorList& Errors(Document document);
 
 // References of hosts. Release gives false if hosts hold none.
 void Created(Document document);

@@ -1,6 +1,7 @@
 #include "engine/Engine.h"
 
 #include "engine/Documents.h"
+#include "engine/ErrorList.h"
 #include "engine/Fences.h"
 #include "engine/Handlers.h"
 
@@ -59,7 +60,7 @@ const Answerers& AllAnswerers()
         }
         for (const auto handlers :
              {TextHandlers(), PositionHandlers(), SettingHandlers(), PrintHandlers(),
-              DocumentHandlers(), ImageHandlers(), SearchHandlers()}) {
+               DocumentHandlers(), ImageHandlers(), SearchHandlers(), ErrorHandlers()}) {
             for (const HandlerRow& row : handlers) {
                 Answerer& answerer = all[row.number - kFirstNumber];
                 answerer.handler = row.run;
@@ -89,6 +90,7 @@ Engine::Engine(QsciScintillaBase& widget)
       searcher(stored)
 {
     PrepareDocument();
+    FollowEdits(*this);
 }
 
 Engine::~Engine()
@@ -98,6 +100,7 @@ Engine::~Engine()
 
 void Engine::ShowDocument(LPARAM document)
 {
+    errors->Settle(*this);
     raw.Send(Sci::SCI_SETDOCPOINTER, 0, document);
     PrepareDocument();
 }
@@ -110,6 +113,9 @@ void Engine::PrepareDocument()
     documents::Left(left);
     raw.Send(Sci::SCI_SETCODEPAGE, Sci::SC_CP_UTF8);
     text.Reset();
+    errors = &documents::Errors(m_document);
+    if (errors->Look() == ErrorLook())
+        errors->SetLook(*this, errorLook);
 }
 
 LRESULT Engine::Perform(UINT message, WPARAM wParam, LPARAM lParam)

@@ -5,6 +5,7 @@
 
 #include "control/EngineMessages.h"
 #include "engine/ChangeReporter.h"
+#include "engine/ErrorMarks.h"
 #include "engine/Raw.h"
 #include "engine/StoredText.h"
 #include "engine/TextIndex.h"
@@ -16,6 +17,8 @@
 #include <string>
 
 namespace engine {
+
+class ErrorList;
 
 // How a style differs on paper. Empty: as on the screen.
 struct PrintStyle
@@ -52,7 +55,10 @@ public:
     const StoredText stored;
     search::Searcher searcher;
 
+    ErrorList* errors = nullptr; // of the text that the window shows
+
     // What the stock engine has no place for.
+    ErrorLook errorLook;              // as set in this window
     bool noSingleEol = false;         // line-end mode 0
     int lexer = 0;                    // this engine's number
     bool usePopUp = true;             // the window shows a menu of its own
