@@ -314,17 +314,23 @@ void ErrorList::Settle(const Engine& engine)
 void ErrorList::RedrawAfter(const Change& change, const Engine& engine) const
 {
     const long end = change.position + (change.inserts ? change.bytes : 0);
-    const bool linesMoved = engine.raw.LineCount() != change.linesBefore;
+    // A change behind a CR can take its LF, or give it one, and leave the count of lines as it was.
+    const long front = std::max(0L, change.position - 1);
+    const bool linesMoved =
+        engine.raw.LineCount() != change.linesBefore ||
+        engine.raw.Send(Sci::SCI_GETCHARAT, static_cast<std::uintptr_t>(front)) == '\r';
     const ErrorPainter painter(engine.raw, m_look);
     if (change.inserts && painter.IsTextMarked(change.position))
         DrawText(painter, change.position, end);
     if (!linesMoved)
         return;
-    const long first = LineOf(engine.raw, change.position);
-    const long last = LineOf(engine.raw, end);
-    DrawMargin(painter, engine, first);
-    if (last != first)
-        DrawMargin(painter, engine, last);
+    long drawn = -1;
+    for (const long place : {front, change.position, end}) {
+        const long line = LineOf(engine.raw, place);
+        if (line != drawn)
+            DrawMargin(painter, engine, line);
+        drawn = line;
+    }
 }
 
 void FollowEdits(Engine& engine)
