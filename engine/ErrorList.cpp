@@ -315,9 +315,10 @@ void ErrorList::RedrawAfter(const Change& change, const Engine& engine) const
 {
     const long end = change.position + (change.inserts ? change.bytes : 0);
     // A change behind a CR can take its LF, or give it one, and leave the count of lines as it was.
+    // Markers go when the text gets empty, a single line too.
     const long front = std::max(0L, change.position - 1);
     const bool linesMoved =
-        engine.raw.LineCount() != change.linesBefore ||
+        engine.raw.LineCount() != change.linesBefore || engine.raw.Length() == 0 ||
         engine.raw.Send(Sci::SCI_GETCHARAT, static_cast<std::uintptr_t>(front)) == '\r';
     const ErrorPainter painter(engine.raw, m_look);
     if (change.inserts && painter.IsTextMarked(change.position))

@@ -536,6 +536,28 @@ TEST_F(ErrorListTest, AProblemWhoseTextIsDeletedStaysListedThere)
     EXPECT_EQ(m_errors.First()->nEnd, m_errors.First()->nStart);
 }
 
+TEST_F(ErrorListTest, AProblemIsMarkedInTheMarginOfAnEmptyText)
+{
+    m_engine.SetText(u"one");
+    m_errors.Add(0, 3);
+    m_errors.Show();
+    m_engine.Send(msg::ClearAll);
+    m_errors.Update();
+    EXPECT_EQ(m_errors.Walk(), "0-0");
+    EXPECT_EQ(m_errors.Lines(kErrorMarker), (Lines{0}));
+}
+
+TEST_F(ErrorListTest, AMarkerGoesWithItsProblemWhenALineEndIsCutInTwo)
+{
+    m_engine.SetText(u"one\r\ntwo\r\n");
+    m_errors.Add(4, 5);
+    m_errors.Show();
+    m_engine.Erase(4, 7);
+    m_errors.Update();
+    EXPECT_EQ(m_errors.First()->nLine, 1);
+    EXPECT_EQ(m_errors.Lines(kErrorMarker), (Lines{1}));
+}
+
 TEST_F(ErrorListTest, AHostThatAsksInsideAnEditHearsPlacesOfTheText)
 {
     m_errors.Add(16, 19);
