@@ -60,7 +60,7 @@ const Answerers& AllAnswerers()
         }
         for (const auto handlers :
              {TextHandlers(), PositionHandlers(), SettingHandlers(), PrintHandlers(),
-               DocumentHandlers(), ImageHandlers(), SearchHandlers(), ErrorHandlers()}) {
+              DocumentHandlers(), ImageHandlers(), SearchHandlers(), ErrorHandlers()}) {
             for (const HandlerRow& row : handlers) {
                 Answerer& answerer = all[row.number - kFirstNumber];
                 answerer.handler = row.run;
