@@ -60,8 +60,6 @@ public:
     const StoredText stored;
     search::Searcher searcher;
 
-    ErrorList* errors = nullptr; // of the text that the window shows
-
     // What the stock engine has no place for.
     ErrorLook errorLook;              // as set in this window
     bool noSingleEol = false;         // line-end mode 0
