@@ -3,6 +3,7 @@
 #include "editing/FileTypeManager.h"
 #include "editing/Library.h"
 #include "editing/ZNCoreEditorWidget.h"
+#include "host/AutosaveSettings.h"
 #include "host/BatchMark.h"
 #include "host/Encodings.h"
 #include "host/FileLanguages.h"
@@ -59,6 +60,7 @@ EditorTab::EditorTab(const QString& untitledName, QWidget* parent)
     setFocusProxy(m_widget);
 
     Editor().SetCarefulFiles(true);
+    AutosaveSettings::Load().ApplyTo(Editor());
     Editor().SetEncoding(FileEncodeConverter::encUTF8);
     Editor().SetWriteEncodingSig(false);
     Editor().SetScrollWidth(1, 1);

@@ -1,6 +1,7 @@
 #include "host/MainWindow.h"
 
 #include "editing/ZNCoreEditorControlEx.h"
+#include "host/AutosaveDialog.h"
 #include "host/EditorTab.h"
 #include "host/LanguageMenu.h"
 #include "host/OptionsDialog.h"
@@ -284,6 +285,16 @@ void MainWindow::ChangeOptions()
         return;
     dialog.Store();
     FollowOptions();
+}
+
+void MainWindow::ChangeAutosave()
+{
+    AutosaveDialog dialog(this, AutosaveSettings::Load());
+    if (dialog.exec() != QDialog::Accepted)
+        return;
+    dialog.Settings().Store();
+    for (int i = 0; i < TabCount(); ++i)
+        dialog.Settings().ApplyTo(TabAt(i)->Editor());
 }
 
 void MainWindow::FollowOptions()

@@ -58,6 +58,7 @@ public:
     void WrapLines(bool wrap);
     void NextProblem();
     void ChangeOptions();
+    void ChangeAutosave();
     void NextScript();
     void PreviousScript();
 

@@ -90,6 +90,7 @@ std::span<const MainWindow::Command> MainWindow::Commands()
         {"&View", "previous",  "&Previous Script", Key::PreviousChild, nullptr, When::SeveralScripts, Run<&W::PreviousScript>},
 
         {"&Tools", "options",  "&Options...",   Key::Preferences,  "Ctrl+,", When::Always, Run<&W::ChangeOptions>},
+        {"&Tools", "autosave", "&Autosave...",  Key::UnknownKey,   nullptr,  When::Always, Run<&W::ChangeAutosave>},
     };
     // clang-format on
     return commands;
