@@ -26,6 +26,10 @@ constexpr CommandEntry kCommands[] = {
     {57642, Run<&Self::OnEditSelectall>},
     {57632, Run<&Self::OnEditClear>},
     {53899, Run<&Self::OnEditClear>},
+    {54037, Run<&Self::OnEditComments>},
+    {54041, Run<&Self::OnEditSingleLineUncomment>},
+    {53960, Run<&Self::OnEditMatchToken>},
+    {54040, Run<&Self::OnEditMatchToken>},
     {54034, Run<&Self::OnEditIndent>},
     {54035, Run<&Self::OnEditOutdent>},
     {54042, Run<&Self::OnEditUppercase>},
@@ -110,6 +114,11 @@ void CZNCoreEditorControlEx::OnEditIndent()
 void CZNCoreEditorControlEx::OnEditOutdent()
 {
     BackTab(1);
+}
+
+void CZNCoreEditorControlEx::OnEditMatchToken()
+{
+    JumpToMatchingBrace(false);
 }
 
 void CZNCoreEditorControlEx::OnEditUppercase()

@@ -9,7 +9,10 @@
 
 #include <QString>
 
+#include <deque>
 #include <map>
+#include <string>
+#include <string_view>
 #include <vector>
 
 class CDC;
@@ -93,6 +96,15 @@ public:
     // Comment markers of the language: false for an empty marker, which is not stored.
     bool AddSingleLineComment(const QString& marker);
     bool AddBlockComment(const QString& start, const QString& end);
+    // The first marker for every index from 0 up; empty if there is none.
+    QString GetSingleLineComment(int index) const;
+    QString GetBlockCommentStart(int index) const;
+    QString GetBlockCommentEnd(int index) const;
+
+    // Puts markers around the selection, or in front of its lines. False if the language lacks the
+    // markers that this takes, or for an index of -1; true also where nothing had to be changed.
+    bool CommentSelection(int index, bool useBlock);
+    bool UnCommentSelection(int index, bool useBlock);
 
     // Indentation and braces of the language
     int GetAutoIndent() const { return m_autoIndent; }
@@ -101,6 +113,12 @@ public:
         m_autoIndent = mode;
     } // 0 none, 1 keep, 2 or more by "{" and "}"
     void SetBraces(const QString& braces) { m_braces = braces; }
+    bool IsIndentChar(char16_t c) const; // a blank or a tab
+    bool IsBrace(char16_t c) const;
+    void HighlightBraces(long position);
+    bool HasMatchingBrace(); // false also for a match at position 0
+    void JumpToMatchingBrace(bool extendSelection);
+    void MatchToken();
 
     // What a save cleans up
     bool IsSaveConvertTabToSpaces() const { return m_saveConvertTabToSpaces; }
@@ -109,14 +127,29 @@ public:
     void SetSaveTrimTrailingSpaces(bool trim) { m_saveTrimTrailingSpaces = trim; }
     bool IsEnsureFinalNewLine() const { return m_ensureFinalNewLine; }
     void SetEnsureFinalNewLine(bool ensure) { m_ensureFinalNewLine = ensure; }
+    // In the selected lines, or in all. A last line that is selected up to its column 0 only stays.
     void ConvertTabToSpaces();
+    void ConvertSpacesToTab();
     void RemoveTrailingSpaces();
-    void EnsureFinalNewLine();
+    void EnsureFinalNewLine(); // a text of one line always gets one
+
+    // Line ends: of the text, and of what Enter puts in
+    void SetEOLCRLF();
+    void SetEOLCR();
+    void SetEOLLF();
+    // In mode 2 a CR, in mode 3 an LF; in every other an LF and behind it a CR.
+    void InsertEOL(long position);
 
     // Words and lines
     using CZNCoreEditorControl::SetWordChars;
     void SetWordChars(const char16_t* characters);
+    bool IsWordChar(char16_t c) const; // by SetWordChars; none before that
     bool IsSelection();
+    virtual QString GetLineText(int line); // with its line end; empty for a line that is not there
+    void InsertChar(long position, char16_t c);
+    // The place of the text in the range, which may run backwards; -1 if it is not there. By the
+    // search flags in force; the target is left at the match.
+    int FindInTarget(const char16_t* text, int length, int start, int end);
 
     // Commands, and when they are possible
     bool CanCut();
@@ -128,6 +161,10 @@ public:
     void OnEditRedo();
     void OnEditSelectall();
     void OnEditClear();
+    void OnEditComments();
+    void OnEditSingleLineComment();
+    void OnEditSingleLineUncomment();
+    void OnEditMatchToken();
     void OnEditIndent();
     void OnEditOutdent();
     void OnEditUppercase();
@@ -164,6 +201,9 @@ protected:
     void SetLineNumberWidth();
     void AutoIndentIn(char16_t character);
     void AutoIndentOut(char16_t character);
+    void SetLineIndentationEx(int line, int indent); // carries the selection along
+    bool AutomaticCommenting();                      // whether a block comment was continued
+    void ChangeEOLs(int mode);
 
     // "red,green,blue" in decimal; only the low byte of each counts, a missing one is 0.
     COLORREF COLORREFFromString(const QString& text);
@@ -188,10 +228,41 @@ protected:
     std::vector<QString> m_blockComments; // start and end in turn
     COLORREF m_defaultBackgroundColor = kSystemWindow;
     QString m_datasourceSearchPath;
+    std::deque<int> m_bookmarkHandles;
 
     static constexpr COLORREF kSystemWindow = 0xFFFFFFFF;
 
 private:
+    // The lines of the selection. One that it only reaches at column 0 is left out.
+    struct Lines
+    {
+        int first;
+        int last;
+    };
+    struct Selection // where what is left selected begins and ends
+    {
+        long start;
+        long end;
+        bool caretInFront;
+    };
+    Selection CurrentSelection();
+    void Select(const Selection& selection);
+    Lines SelectedLines();
+    Lines LinesToCleanUp();
+    std::u16string TextBetween(long start, long end);
+    void ReplaceBetween(long start, long end, std::u16string_view text);
+    template <class Rewrite>
+    void RewriteLines(char16_t only, Rewrite rewrite);
+
+    bool ChoosesLines(const Selection& selection, bool useBlock);
+    bool TakeWordAtCaret(Selection& selection);
+    bool CommentBlock(int index, Selection selection);
+    bool CommentLines(int index, Selection selection);
+    bool IsLineCommented(int index, long start, long end);
+    bool UnCommentBlock(int index, const Selection& selection);
+    bool UnCommentLines(int index, Selection selection);
+    int CommentDepth(long position);
+
     void ApplyDefaultEncoding();
     void ApplyColorMaxSize();
 };
