@@ -7,7 +7,7 @@ std::u16string CZNCoreEditorControlEx::TextBetween(long start, long end)
     if (end <= start)
         return {};
     std::u16string text(static_cast<std::size_t>(end - start) + 2, u'\0');
-    const int units = GetRange(static_cast<int>(start), static_cast<int>(end), text.data());
+    const int units = GetRange(start, end, text.data());
     text.resize(static_cast<std::size_t>(units));
     return text;
 }
@@ -41,11 +41,4 @@ CZNCoreEditorControlEx::Lines CZNCoreEditorControlEx::SelectedLines()
     if (lines.last > lines.first && end == PositionFromLine(lines.last, 1))
         --lines.last;
     return lines;
-}
-
-QString CZNCoreEditorControlEx::GetLineText(int line)
-{
-    const long start = line < 0 ? 0 : PositionFromLine(line, 1);
-    const std::u16string text = TextBetween(start, start + LineLength(line, 1));
-    return QString::fromStdU16String(text);
 }

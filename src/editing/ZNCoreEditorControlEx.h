@@ -141,15 +141,71 @@ public:
     void InsertEOL(long position);
 
     // Words and lines
+    CharacterRange GetSelection();
+    bool IsSelection();
+    int GetRange(long start, long end, char16_t* buffer); // buffer: end - start + 1 units
+    int GetCurLineNumber();
+    long GetCaretInLine();
+    int GotoLineCol(int line, int column); // past the line's end too; always 0
+    virtual QString GetLineText(int line); // with its line end; empty for a line that is not there
+    // The word at the place, empty if there is none; always 1.
+    int GetWordFromPos(long position, QString& word, int onlyWordChars);
+    int GetWordFromPos(const CPoint& point, QString& word, int onlyWordChars);
     using CZNCoreEditorControl::SetWordChars;
     void SetWordChars(const char16_t* characters);
     bool IsWordChar(char16_t c) const; // by SetWordChars; none before that
-    bool IsSelection();
-    virtual QString GetLineText(int line); // with its line end; empty for a line that is not there
     void InsertChar(long position, char16_t c);
+
+    // Selecting
+    void SelectWord();
+    void SelectLine(); // with its line end
+    void SelectPara();
+    void SwapAnchor();
+    void SelectionFromTarget();
+    // The selected name of a file, or the one around the caret, as far as 999 units.
+    QString SelectionFilename();
+    static bool IsFilenameChar(char16_t c);
+
+    // Words and characters at the caret
+    void WordDelete();
+    void WordUpperCase();
+    void WordLowerCase();
+    void WordCapitalize();
+    void Capitalize();    // the selected text; letters above 7F do not survive it
+    void CharTranspose(); // the two characters around the caret, which stays where it is
+    void WordTranspose(); // the halves of a word, or the words around the caret
+    void NumPlus();       // the selected number; 0 if there is none
+    void NumMinus();
+
+    // Sorts the selected lines by a part of each (LineOrder.h) and trims them on the right. The
+    // last line of the selection is not among them: its text is gone, even where the selection only
+    // reaches its column 0, and an empty line is left behind the others.
+    void SortLines(bool ascending, bool ignoreCase, bool keepDuplicates, int mode, int columnStart,
+                   int columnEnd);
+    // Into each selected line: at its end for -1, else at the column, where the line is that long.
+    void InsertTextIntoLines(int column, const QString& text);
+    // In front of each selected line: its number, padded with zeros, the text, and a blank.
+    void InsertTextIntoLines(int firstNumber, const QString& text, int step, int width);
+
+    // Files and search
+    bool InsertFile(const char16_t* path, FileEncodeConverter::encodingType encoding);
     // The place of the text in the range, which may run backwards; -1 if it is not there. By the
     // search flags in force; the target is left at the match.
     int FindInTarget(const char16_t* text, int length, int start, int end);
+    int FindOneOf(const QString& text, int start, const QString& set) const; // -1: none of them
+    // What a search would begin with: the selected text if it is short and on one line, else the
+    // word at the caret if it has two characters.
+    QString GetFindString();
+    bool HasFindString(); // true for every selection
+
+    // Bookmarks: those that ToggleBookmark set. Only with one of them do the others go anywhere.
+    bool HasBookmarks() const { return !m_bookmarkHandles.empty(); }
+    void ToggleBookmark(long line);
+    void NextBookmark();
+    void PreviousBookmark();
+    void FirstBookmark();
+    void LastBookmark();
+    void ClearBookmarks();
 
     // Commands, and when they are possible
     bool CanCut();
@@ -198,6 +254,11 @@ protected:
     LRESULT OnSetText(WPARAM wParam, LPARAM lParam);
 
     bool DoSave(const char16_t* path, int start, int end);
+    // Text of the range, cut to the buffer's length, its last line end taken away if so wished. An
+    // empty range first grows by the units that accept takes, up to the limit.
+    void RangeExtendAndGrab(char16_t* buffer, int length, int& start, int& end, int limit,
+                            bool (*accept)(char16_t), bool stripEol);
+    void SelectionExtend(char16_t* buffer, int length, bool (*accept)(char16_t), bool stripEol);
     void SetLineNumberWidth();
     void AutoIndentIn(char16_t character);
     void AutoIndentOut(char16_t character);
@@ -262,6 +323,14 @@ private:
     bool UnCommentBlock(int index, const Selection& selection);
     bool UnCommentLines(int index, Selection selection);
     int CommentDepth(long position);
+
+    void TransposeInWord(long caret);
+    void TransposeAround(long caret);
+    void AddToSelectedNumber(int step);
+    template <class TextFor>
+    void InsertIntoEachLine(TextFor textFor);
+    bool HasBookmark(long line);
+    void GotoBookmark(int line);
 
     void ApplyDefaultEncoding();
     void ApplyColorMaxSize();
