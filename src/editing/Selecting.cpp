@@ -74,7 +74,7 @@ void CZNCoreEditorControlEx::RangeExtendAndGrab(char16_t* buffer, int length, in
         end = start + length - 1;
     if (start >= end)
         return;
-    // A pair that the range cuts is read whole, and then does not fit.
+    // A pair that the range cuts in front is read whole.
     std::u16string text = TextBetween(start, end);
     text.resize(std::min(text.size(), static_cast<std::size_t>(end - start)));
     if (stripEol && text.ends_with(u"\r\n"))

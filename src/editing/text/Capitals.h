@@ -11,8 +11,8 @@ namespace capitals {
 char16_t Narrowed(char16_t c);
 
 // The first letter behind white space in upper case, the others in lower case. What is no letter
-// stays and begins no word, so a letter behind a digit is in lower case. Letters are narrowed:
-// those above 7F do not survive.
+// stays, and leaves it open whether the word has begun. Letters are narrowed: those above 7F do not
+// survive.
 std::u16string Capitalized(std::u16string_view text);
 
 } // namespace capitals

@@ -3,6 +3,7 @@
 #include "editing/text/Numbers.h"
 
 #include <QChar>
+#include <QLocale>
 #include <QStringView>
 
 #include <algorithm>
@@ -59,9 +60,11 @@ int Ordered(const LeadingNumber& first, const LeadingNumber& second)
     return (first.value > second.value) - (first.value < second.value);
 }
 
+// The locale "C" has no order of its own but that of codes; English has the one that all share.
 QCollator CollatorFor(bool ignoreCase)
 {
-    QCollator collator;
+    const QLocale locale = QLocale().collation();
+    QCollator collator(locale.language() == QLocale::C ? QLocale(QLocale::English) : locale);
     collator.setCaseSensitivity(ignoreCase ? Qt::CaseInsensitive : Qt::CaseSensitive);
     return collator;
 }
