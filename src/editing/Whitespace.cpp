@@ -45,11 +45,13 @@ void CZNCoreEditorControlEx::ConvertSpacesToTab()
     RewriteLines(u' ', spaces::BlanksToTabs);
 }
 
+// From the last line to the first: between a CR and an LF what trails is a line, which goes with
+// it.
 void CZNCoreEditorControlEx::RemoveTrailingSpaces()
 {
     const auto [first, last] = LinesToCleanUp();
     const BulkChange change(*this);
-    for (int line = first; line <= last; ++line) {
+    for (int line = last; line >= first; --line) {
         const long start = PositionFromLine(line, 1);
         const long end = GetLineEndPosition(line, 1);
         if (end <= start)

@@ -37,6 +37,11 @@ TEST_F(Whitespace, WhatTrailsIsRemoved)
     EXPECT_EQ(TextAfterUndo(), u"a \t\r\n   \nb c\n\t");
 }
 
+TEST_F(Whitespace, ALineThatTrimmingMakesPartOfALineEndHidesNoOther)
+{
+    EXPECT_EQ(Done(u"a\r \nb \nc ", kTrim), u"a\r\nb\nc");
+}
+
 TEST_F(Whitespace, TrimmingGoesByTheLowByte)
 {
     EXPECT_EQ(Done(u"a\u0120\nb\u2009\nc\u00a0\n\U0001F420", kTrim), u"a\nb\nc\u00a0\n\U0001F420");
