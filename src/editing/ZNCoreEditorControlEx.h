@@ -221,10 +221,20 @@ public:
     void OnEditSingleLineComment();
     void OnEditSingleLineUncomment();
     void OnEditMatchToken();
+    void OnEditInsertFile();
     void OnEditIndent();
     void OnEditOutdent();
     void OnEditUppercase();
     void OnEditLowercase();
+    void OnLineEndingsWindows();
+    void OnLineEndingsUnix();
+    void OnLineEndingsMac();
+    void OnBookmarknext();
+    void OnBookmarkset();
+    void OnBookmarkprev();
+    void OnBookmarkdelete();
+    void OnMacrohelperNumplus();
+    void OnMacrohelperNumminus();
     void OnLineNumbers();
     void OnViewZoomlevelZoomin();
     void OnViewZoomlevelZoomout();
@@ -235,10 +245,23 @@ public:
     void OnUpdateEditUndo(CCmdUI& ui);
     void OnUpdateEditRedo(CCmdUI& ui);
     void OnUpdateEditClear(CCmdUI& ui);
+    void OnUpdateEditSingleLineComment(CCmdUI& ui);
+    void OnUpdateEditSingleLineUncomment(CCmdUI& ui);
+    void OnUpdateEditMatchToken(CCmdUI& ui);
+    void OnUpdateEditInsertFile(CCmdUI& ui);
     void OnUpdateEditIndent(CCmdUI& ui);
     void OnUpdateEditOutdent(CCmdUI& ui);
     void OnUpdateEditUppercase(CCmdUI& ui);
     void OnUpdateEditLowercase(CCmdUI& ui);
+    void OnUpdateLineEndingsWindows(CCmdUI& ui);
+    void OnUpdateLineEndingsUnix(CCmdUI& ui);
+    void OnUpdateLineEndingsMac(CCmdUI& ui);
+    void OnUpdateBookmarknext(CCmdUI& ui);
+    void OnUpdateBookmarkset(CCmdUI& ui);
+    void OnUpdateBookmarkprev(CCmdUI& ui);
+    void OnUpdateBookmarkdelete(CCmdUI& ui);
+    void OnUpdateMacrohelperNumplus(CCmdUI& ui);
+    void OnUpdateMacrohelperNumminus(CCmdUI& ui);
     void OnUpdateLineNumbers(CCmdUI& ui);
 
     // Pre-processing of scripts
