@@ -28,12 +28,11 @@ void CZNCoreEditorControlEx::ToggleBookmark(long line)
                   [this](int handle) { return MarkerLineFromHandle(handle, 1) == -1; });
 }
 
+// -1: there is none.
 void CZNCoreEditorControlEx::GotoBookmark(int line)
 {
-    if (line == -1)
-        return;
-    EnsureVisibleEnforcePolicy(line, 1);
-    GotoLine(line, 1);
+    if (line != -1)
+        GotoLineEnsureVisible(line);
 }
 
 void CZNCoreEditorControlEx::NextBookmark()
