@@ -29,6 +29,17 @@ double MedianOf(std::vector<double> values)
     return values[values.size() / 2];
 }
 
+// Limit 0: none was set.
+void Report(benchmark::State& state, const std::vector<double>& ours,
+            const std::vector<double>& theirs, double limit)
+{
+    state.counters["ours_ms"] = MedianOf(ours) * 1e3;
+    state.counters["reference_ms"] = MedianOf(theirs) * 1e3;
+    state.counters["ratio"] = MedianOf(ours) / MedianOf(theirs);
+    if (limit > 0)
+        state.counters["limit"] = limit;
+}
+
 // Every third line has a tab inside, every other one trails.
 std::string MakeLines(int lines)
 {
@@ -174,9 +185,7 @@ void BesideRaw(benchmark::State& state, const Operation& operation)
         ours.push_back(SecondsOf(operation, text, false));
         theirs.push_back(RawSecondsOf(operation, text));
     }
-    state.counters["ours_ms"] = MedianOf(ours) * 1e3;
-    state.counters["reference_ms"] = MedianOf(theirs) * 1e3;
-    state.counters["ratio"] = MedianOf(ours) / MedianOf(theirs);
+    Report(state, ours, theirs, 0);
 }
 
 // The time of each line among many by that among a quarter of them.
@@ -211,10 +220,7 @@ void LongLine(benchmark::State& state, const Operation& operation)
         ours.push_back(SecondsOf(operation, line, false));
         theirs.push_back(SecondsOf(operation, lines, false));
     }
-    state.counters["ours_ms"] = MedianOf(ours) * 1e3;
-    state.counters["reference_ms"] = MedianOf(theirs) * 1e3;
-    state.counters["ratio"] = MedianOf(ours) / MedianOf(theirs);
-    state.counters["limit"] = kLimit;
+    Report(state, ours, theirs, kLimit);
 }
 
 std::vector<std::u16string> MakeShuffled()
@@ -280,10 +286,7 @@ void Sort(benchmark::State& state, int mode, bool ignoreCase)
         if (mode == 0 && !ignoreCase && editor.control.GetText() != plain.control.GetText())
             std::abort(); // sorted otherwise: no figure
     }
-    state.counters["ours_ms"] = MedianOf(ours) * 1e3;
-    state.counters["reference_ms"] = MedianOf(theirs) * 1e3;
-    state.counters["ratio"] = MedianOf(ours) / MedianOf(theirs);
-    state.counters["limit"] = kLimit;
+    Report(state, ours, theirs, kLimit);
 }
 
 const bool kRegistered = [] {
