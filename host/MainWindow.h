@@ -6,6 +6,7 @@
 #include <span>
 #include <vector>
 
+class EditingMenu;
 class EditorTab;
 class LanguageMenu;
 class ProblemPane;
@@ -95,6 +96,7 @@ private:
     StatusIndicators* m_status;
     LanguageMenu* m_languages = nullptr;
     ProblemPane* m_problems;
+    EditingMenu* m_editing = nullptr;
     std::vector<QAction*> m_actions; // of the named commands, in their order
     int m_untitledCount = 0;
     bool m_clipboardHasText = false;
