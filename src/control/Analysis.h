@@ -46,7 +46,7 @@
 // \, SQL*Plus' PROMPT, sqlcmd's :) is a statement of its own. Unbalanced text is read as it
 // stands: a block that is not closed goes on to the next separator or to the text's end.
 //
-// Dialects. The lexer says which one. Where several share a lexer the lexer property sql.dialect
+// Dialects. The lexer says which one. For generic SQL (lexers 0 and 9) the lexer property sql.dialect
 // does ("postgresql", "sqlite"), and SetServerIdentifier says more than both.
 //
 // Switches. SetEnablePartitioner(false): every question is answered with nothing, and what was

@@ -214,6 +214,10 @@ TEST_F(Analysis, FollowsTheDialectThatTheLexersPropertyNames)
     EXPECT_EQ(All().size(), 3U);
     m_engine.Send(msg::SetProperty, reinterpret_cast<WPARAM>(u"sql.dialect"), u"postgresql");
     EXPECT_EQ(All().size(), 2U);
+    SetLexer(kTransactSql); // has no others beside it
+    EXPECT_EQ(All().size(), 3U);
+    SetLexer(kSql);
+    EXPECT_EQ(All().size(), 2U);
     Send(msg::ResetProperties);
     EXPECT_EQ(All().size(), 3U);
 }
