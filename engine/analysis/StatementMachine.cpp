@@ -111,7 +111,10 @@ void StatementMachine::TakeTerminator(const Token& token)
     SettlePending(token, SqlWord::None);
     m_lastEnd = token.end;
     if (m_state.terminator != 0 || !HoldsTerminator()) {
+        const bool data = m_state.head == Head::CopyData;
         m_state.Forget(Phase::Ended);
+        if (data)
+            m_lastEnd = m_scanner.TakeData(m_limit).end;
         return;
     }
     m_state.cases = 0; // no expression goes on behind it
@@ -202,6 +205,9 @@ void StatementMachine::OpenStatement(const Token& token, SqlWord word)
     case SqlWord::Execute:
         m_state.head = m_dialect.executeBlock ? Head::Execute : Head::Plain;
         break;
+    case SqlWord::Copy:
+        m_state.head = m_dialect.copyData ? Head::Copy : Head::Plain;
+        break;
     case SqlWord::Set:
         m_state.head = m_dialect.setTerm ? Head::Set : Head::Plain;
         break;
@@ -252,6 +258,10 @@ void StatementMachine::ReadHead(SqlWord word)
         return;
     case Head::Execute:
         m_state.head = word == SqlWord::Block ? Head::Routine : Head::Plain;
+        return;
+    case Head::Copy:
+        if (word == SqlWord::Stdin)
+            m_state.head = Head::CopyData;
         return;
     case Head::Set:
         m_state.head = Head::Plain;

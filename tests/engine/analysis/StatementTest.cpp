@@ -308,6 +308,17 @@ TEST(PostgreSqlStatements, TakeCommandsOfTheClientByLine)
                 ElementsAre("\\c base", "\\echo it's; here", "select 1;", "\\i other.sql"));
 }
 
+TEST(PostgreSqlStatements, KeepTheDataOfACopy)
+{
+    const std::string copy = "COPY t (a, b) FROM stdin;\n1\tit's;\n/*\n\\N\t\\\\.\n\\.";
+    ScriptUnderTest script("postgresql", copy + "\nselect 1; copy t from stdin;\n\\.\n"
+                                                "copy t from 'stdin'; copy t to stdout; select 2;");
+    EXPECT_THAT(script.Statements(),
+                ElementsAre(copy, "select 1;", "copy t from stdin;\n\\.", "copy t from 'stdin';",
+                            "copy t to stdout;", "select 2;"));
+    EXPECT_EQ(script.StatementAt(script.Find("it's")), copy);
+}
+
 TEST(SqliteStatements, HoldTheTerminatorsOfTriggers)
 {
     ExpectParts("sqlite",
