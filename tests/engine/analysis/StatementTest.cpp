@@ -447,7 +447,7 @@ TEST(BadInput, IsAnsweredWithoutDepthOrDelay)
         return text;
     };
     std::string binary;
-    for (int i = 0; i < 400000; ++i)
+    for (unsigned i = 0; i < 400000; ++i)
         binary += static_cast<char>(i * 7919 >> 3);
     const std::string texts[] = {repeated("(", 100000),
                                  repeated(")", 100000),
