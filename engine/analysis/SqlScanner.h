@@ -85,6 +85,9 @@ public:
     // The rest of the line behind the last token, as a Command.
     Token TakeLine(long limit = kNoLimit);
 
+    // Lines of data up to one that begins with \., as a String.
+    Token TakeData(long limit = kNoLimit);
+
     // Goes on between tokens, behind what the caller has read by itself.
     void Restart(long position)
     {
@@ -109,7 +112,7 @@ private:
     // read with one look at the table for each byte. End: the next one is something else.
     Token PlainToken()
     {
-        const auto* const start = m_run + m_position;
+        const auto* const start = m_run + (m_position - m_runStart);
         const auto* at = start;
         const ByteClass first = m_bytes->begins[*at++];
         TokenKind kind = TokenKind::Operator;
@@ -166,8 +169,9 @@ private:
     long m_position;
     long m_limit = kNoLimit;
     ScanState m_state;
-    const unsigned char* m_run = nullptr; // the byte at position 0, if the run began there
-    long m_plainEnd = 0;                  // plain tokens start before this place, and in the run
+    const unsigned char* m_run = nullptr; // what lies in memory from m_runStart on
+    long m_runStart = 0;
+    long m_plainEnd = 0; // plain tokens start before this place, and in the run
 };
 
 } // namespace engine::analysis

@@ -620,6 +620,7 @@ TEST_F(ControlEx, DoesNothingForABraceWhileIndentationIsKeptOnly)
         SetText(QStringLiteral("    if\n"));
         m_control.GotoPos(7, 1);
         m_control.SetAutoIndent(mode);
+        m_control.SetUseTabs(0, 1);
         m_control.AddText(1, u"{", 1);
         SCNotification typed;
         typed.nmhdr.code = notify::CharAdded;
