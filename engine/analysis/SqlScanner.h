@@ -92,6 +92,9 @@ public:
         m_state = {};
     }
 
+    // Lets the limit cut tokens of any length that would stand across it, not only long ones.
+    void CutShortTokens() { m_uncut = 1; }
+
     // What ends a statement instead of ;. Empty: ; does. The bytes are the caller's.
     void SetTerminator(std::string_view terminator);
 
@@ -165,6 +168,7 @@ private:
     std::string_view m_terminator;
     long m_position;
     long m_limit = kNoLimit;
+    long m_uncut = kLongToken; // bytes of a token that no limit cuts
     ScanState m_state;
     const unsigned char* m_run = nullptr; // the byte at position 0, if the run began there
     long m_plainEnd = 0;                  // plain tokens start before this place, and in the run
