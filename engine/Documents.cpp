@@ -1,5 +1,7 @@
 #include "engine/Documents.h"
 
+#include "engine/Colouring.h"
+
 #include <unordered_map>
 
 namespace engine::documents {
@@ -10,6 +12,7 @@ struct Record
     int windows = 0;
     int references = 0;
     int undoActions = 0;
+    std::shared_ptr<Colouring> colouring = std::make_shared<Colouring>();
 };
 
 std::unordered_map<Document, Record>& All()
@@ -47,6 +50,11 @@ bool TakeOne(int Record::*count, Document document)
 bool IsKnown(Document document)
 {
     return Find(document) != nullptr;
+}
+
+std::shared_ptr<Colouring> ColouringOf(Document document)
+{
+    return All()[document].colouring;
 }
 
 void Shown(Document document)

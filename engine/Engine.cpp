@@ -108,6 +108,8 @@ void Engine::PrepareDocument()
     documents::Left(left);
     raw.Send(Sci::SCI_SETCODEPAGE, Sci::SC_CP_UTF8);
     text.Reset();
+    colouring = documents::ColouringOf(m_document);
+    reporter.SetColouring(colouring);
 }
 
 LRESULT Engine::Perform(UINT message, WPARAM wParam, LPARAM lParam)

@@ -5,10 +5,12 @@
 
 #include "control/EngineMessages.h"
 #include "engine/ChangeReporter.h"
+#include "engine/Colouring.h"
 #include "engine/Raw.h"
 #include "engine/TextIndex.h"
 #include "engine/Utf.h"
 
+#include <memory>
 #include <optional>
 #include <set>
 #include <string>
@@ -45,12 +47,12 @@ public:
 
     QsciScintillaBase& window;
     const Raw raw;
+    std::shared_ptr<Colouring> colouring; // of the document
     TextIndex text;
     ChangeReporter reporter;
 
     // What the stock engine has no place for.
     bool noSingleEol = false;         // line-end mode 0
-    int lexer = 0;                    // this engine's number
     bool usePopUp = true;             // the window shows a menu of its own
     bool reconciler = true;           // the analysis follows the text
     bool bulkChange = false;          // between SetDoingReplaceAll(true) and (false)
