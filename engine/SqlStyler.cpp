@@ -381,7 +381,7 @@ void SqlStyler::TakeWord(const Token& token)
         else
             whole.end = token.end;
     }
-    const bool isGlobal = m_afterGlobalName && (entry->sets >> kGlobalVariables & 1);
+    const bool isGlobal = m_afterGlobalName && behindPoint && (entry->sets >> kGlobalVariables & 1);
     const int style =
         isGlobal ? m_palette.globalVariable : StylesFor(whole, *entry, behindPoint)[entry->sets];
     Fill(token.start, whole.end, style);
