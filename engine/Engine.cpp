@@ -57,8 +57,9 @@ const Answerers& AllAnswerers()
                                ? Answerer::Way::Pass
                                : Answerer::Way::Translate;
         }
-        for (const auto handlers : {TextHandlers(), PositionHandlers(), SettingHandlers(),
-                                    PrintHandlers(), DocumentHandlers(), ImageHandlers()}) {
+        for (const auto handlers :
+             {TextHandlers(), PositionHandlers(), SettingHandlers(), PrintHandlers(),
+              DocumentHandlers(), ImageHandlers(), AnalysisHandlers()}) {
             for (const HandlerRow& row : handlers) {
                 Answerer& answerer = all[row.number - kFirstNumber];
                 answerer.handler = row.run;
@@ -84,7 +85,7 @@ long ClampedLine(const Raw& raw, long line)
 } // namespace
 
 Engine::Engine(QsciScintillaBase& widget)
-    : window(widget), raw(widget), text(raw), reporter(widget, raw, text)
+    : window(widget), raw(widget), text(raw), reporter(widget, raw, text), analysis(*this)
 {
     PrepareDocument();
 }
@@ -110,6 +111,7 @@ void Engine::PrepareDocument()
     text.Reset();
     colouring = documents::ColouringOf(m_document);
     reporter.SetColouring(colouring);
+    analysis.Forget();
 }
 
 LRESULT Engine::Perform(UINT message, WPARAM wParam, LPARAM lParam)
@@ -148,6 +150,11 @@ long Engine::Bytes(LPARAM position) const
 long Engine::Units(long position) const
 {
     return position < 0 ? position : text.ToUnits({position}).value;
+}
+
+long Engine::CaretPosition() const
+{
+    return Units(static_cast<long>(raw.Send(Sci::SCI_GETCURRENTPOS)));
 }
 
 LRESULT Engine::Translate(const MessageRow& row, WPARAM wParam, LPARAM lParam)

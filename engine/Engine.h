@@ -7,6 +7,7 @@
 #include "engine/ChangeReporter.h"
 #include "engine/Colouring.h"
 #include "engine/Raw.h"
+#include "engine/ScriptAnalysis.h"
 #include "engine/TextIndex.h"
 #include "engine/Utf.h"
 
@@ -44,12 +45,14 @@ public:
     // A position of the channel in bytes. All negative ones mean the same, and come out as -1.
     long Bytes(LPARAM position) const;
     long Units(long position) const;
+    long CaretPosition() const; // units
 
     QsciScintillaBase& window;
     const Raw raw;
     std::shared_ptr<Colouring> colouring; // of the document
     TextIndex text;
     ChangeReporter reporter;
+    ScriptAnalysis analysis;
 
     // What the stock engine has no place for.
     bool noSingleEol = false;         // line-end mode 0

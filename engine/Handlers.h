@@ -18,6 +18,7 @@ struct HandlerRow
     Handler run;
 };
 
+std::span<const HandlerRow> AnalysisHandlers(); // AnalysisHandlers.cpp
 std::span<const HandlerRow> TextHandlers();     // TextHandlers.cpp
 std::span<const HandlerRow> DocumentHandlers(); // DocumentHandlers.cpp
 std::span<const HandlerRow> ImageHandlers();    // Images.cpp

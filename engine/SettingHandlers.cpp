@@ -1,5 +1,5 @@
 // Messages that set and ask what this engine holds in its own way: line ends, lexers, the mask of
-// notifications, the switches of the analysis.
+// notifications.
 #include "engine/Engine.h"
 #include "engine/Handlers.h"
 
@@ -80,6 +80,7 @@ LRESULT Copy(Engine& engine, WPARAM, LPARAM lParam)
 LRESULT SetLexer(Engine& engine, WPARAM wParam, LPARAM)
 {
     engine.colouring->SetLexer(engine.raw, static_cast<int>(wParam));
+    engine.analysis.RulesChanged();
     return 0;
 }
 
@@ -93,6 +94,7 @@ LRESULT SetLexerLanguage(Engine& engine, WPARAM, LPARAM lParam)
     const Utf8Text name(TerminatedText(reinterpret_cast<const char16_t*>(lParam)));
     engine.raw.Send(Sci::SCI_SETLEXERLANGUAGE, 0, name.Data());
     engine.colouring->TakeStockLexer(engine.raw);
+    engine.analysis.RulesChanged();
     return 0;
 }
 
@@ -141,6 +143,7 @@ LRESULT SetProperty(Engine& engine, WPARAM wParam, LPARAM lParam)
     const LRESULT result =
         engine.raw.Send(Sci::SCI_SETPROPERTY, reinterpret_cast<WPARAM>(key.Data()), value.Data());
     engine.colouring->ReadProperties(engine.raw);
+    engine.analysis.RulesChanged();
     return result;
 }
 
@@ -150,6 +153,7 @@ LRESULT ResetProperties(Engine& engine, WPARAM, LPARAM)
         engine.raw.Send(Sci::SCI_SETPROPERTY, reinterpret_cast<WPARAM>(key.c_str()), "");
     engine.properties.clear();
     engine.colouring->ReadProperties(engine.raw);
+    engine.analysis.RulesChanged();
     return 0;
 }
 
@@ -163,23 +167,6 @@ LRESULT GetPropertyInt(Engine& engine, WPARAM wParam, LPARAM)
 LRESULT UsePopUp(Engine& engine, WPARAM wParam, LPARAM)
 {
     engine.usePopUp = wParam != 0;
-    return 0;
-}
-
-LRESULT SetEnableReconciler(Engine& engine, WPARAM wParam, LPARAM)
-{
-    engine.reconciler = wParam != 0;
-    return 0;
-}
-
-LRESULT GetIsReconcilerEnabled(Engine& engine, WPARAM, LPARAM)
-{
-    return engine.reconciler;
-}
-
-LRESULT SetDoingReplaceAll(Engine& engine, WPARAM wParam, LPARAM)
-{
-    engine.bulkChange = wParam != 0;
     return 0;
 }
 
@@ -217,9 +204,6 @@ constexpr HandlerRow kRows[] = {
     {message::StartStyling, StartStyling},
     {message::ClearDocumentStyle, ClearDocumentStyle},
     {message::UsePopUp, UsePopUp},
-    {message::SetEnableReconciler, SetEnableReconciler},
-    {message::GetIsReconcilerEnabled, GetIsReconcilerEnabled},
-    {message::SetDoingReplaceAll, SetDoingReplaceAll},
     {message::IsAutoCHwnd, IsAutoCHwnd},
 };
 
