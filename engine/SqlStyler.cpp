@@ -331,6 +331,8 @@ bool SqlStyler::TakeCommand(const Token& token)
         m_blocks.state.batch = SqlBlockState::Batch::Fresh;
     m_ignored = true;
     m_clientLine = true;
+    if (token.kind == TokenKind::Word)
+        Fill(token.start, token.end, m_palette.statement);
     const bool isRemark = IsListed(token, kRemarks);
     if (isRemark || m_palette.clientLine != 0 || IsListed(token, kPlainTexts)) {
         const Token rest = m_scanner.TakeLine(m_lineEnd);
@@ -459,7 +461,9 @@ bool SqlStyler::IsListed(const Token& token, std::string_view list) const
 {
     if (list.empty() || token.kind != TokenKind::Word || token.Length() > 16)
         return false;
-    const std::string word = " " + LowerCopy(m_scanner.Text(), token.start, token.end) + " ";
+    std::string word(1, ' ');
+    word += LowerCopy(m_scanner.Text(), token.start, token.end);
+    word += ' ';
     return list.find(word) != std::string_view::npos;
 }
 
@@ -539,7 +543,7 @@ void SqlStyler::Fill(long start, long end, int style)
 
 void SqlStyler::NoteDepth()
 {
-    m_least = std::min(m_least, static_cast<long>(m_blocks.state.Depth()));
+    m_least = std::min(m_least, VisibleDepth());
 }
 
 // The comment under way counts where it stands over a line's end.

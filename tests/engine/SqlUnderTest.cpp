@@ -82,7 +82,7 @@ std::string SqlUnderTest::Folds() const
     const std::vector<int> levels = Levels();
     for (std::size_t i = 0; i < levels.size(); ++i) {
         char front[32];
-        std::snprintf(front, sizeof front, "%d%c%c ", (levels[i] & 0xFFF) - 0x400,
+        std::snprintf(front, sizeof front, "%d%c%c|", (levels[i] & 0xFFF) - 0x400,
                       levels[i] & 0x2000 ? 'H' : ' ', levels[i] & 0x1000 ? 'B' : ' ');
         picture += front + lines[static_cast<qsizetype>(i)].toStdString() + "\n";
     }

@@ -22,8 +22,7 @@ public:
     int StyleAt(long position) const;
     std::string Letters() const; // one for each unit, line ends as they are
 
-    // A line for each of the text's: two digits of depth, H for a header, B for a blank, and the
-    // text.
+    // A line for each of the text's: its depth, H for a header, B for a blank line, | and the text.
     std::string Folds() const;
     std::vector<int> Levels() const;
     std::vector<int> Styles() const;
