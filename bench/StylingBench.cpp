@@ -25,7 +25,7 @@ std::string Words(int set)
         "int numeric varchar date ", "sysobjects ", "rowcount ", "count sum upper lower "};
     std::string words = kFront[set];
     for (int i = 0; i < 400; ++i)
-        words += "w" + std::to_string(set) + "ord" + std::to_string(i * 37) + " ";
+        words += QStringLiteral("w%1ord%2 ").arg(set).arg(i * 37).toStdString();
     return words;
 }
 
@@ -126,7 +126,7 @@ const bool kRegistered = [] {
     for (const Script script : {Script::Ascii, Script::Mixed}) {
         for (const bool fold : {false, true})
             benchmark::RegisterBenchmark(
-                (std::string(fold ? "ColourAndFold64/" : "Colour64/") + NameOf(script)).c_str(),
+                std::string(fold ? "ColourAndFold64/" : "Colour64/").append(NameOf(script)).c_str(),
                 Colour, script, fold)
                 ->Iterations(3);
     }
