@@ -163,9 +163,11 @@ bool Colouring::IsRepeated(const Raw& raw)
 void Colouring::EditBegins(const Raw& raw, long start, long end)
 {
     const long styled = static_cast<long>(raw.Send(Sci::SCI_GETENDSTYLED));
-    if (styled != m_end)
+    if (styled != m_end) { // somebody else has styled: there is no telling what
         DropTail();
-    m_end = styled;
+        m_end = std::min(styled, start);
+        return;
+    }
     const long after = StartOfLine(raw, LineAt(raw, end) + 2);
     if (m_tail.IsEmpty())
         m_tail = {after, m_end};

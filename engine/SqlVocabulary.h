@@ -15,7 +15,7 @@ class SqlVocabulary
 {
 public:
     static constexpr int kSets = 8;
-    static constexpr std::size_t kLongestWord = 63; // bytes; a longer one is none of the words
+    static constexpr std::size_t kLongestWord = 127; // bytes; a longer one is none of the words
 
     struct Entry
     {

@@ -1,8 +1,9 @@
 // Every shipped SQL language, bound as a host binds it: a sample of the dialect, and under each
 // line its styles as letters (tests/reference/StyleLetters.h).
-#include "common/Globals.h"
 #include "editing/FileTypeManager.h"
+#include "editing/Library.h"
 #include "editing/ZNCoreEditorControlEx.h"
+#include "settings/SyntaxFile.h"
 #include "tests/reference/StyleLetters.h"
 
 #include <QWidget>
@@ -52,21 +53,21 @@ const Sample kSamples[] = {
      {{"select nvl(a, q'[it's]') from user_tables -- note", //
        "kkkkkk fffoio ssssssssso kkkk TTTTTTTTTTT ccccccc"},
       {"where \"Q\" = :v and n'x' <> nq'{a'b}' /* c */;", //
-       "kkkkk qqq o vv ooo ssss oo ssssssssss CCCCCCCo"},
+       "kkkkk qqq o vv ooo ssss oo sssssssss CCCCCCCo"},
       {"prompt it's", //
        "kkkkkk     "},
       {"create procedure p is v number(8); begin dbms_output.put_line('x'); end;",
-       "kkkkkk kkkkkkkkk i kk i_ttttttonoo kkkkk ppppppppppppppppppppossso o kkko"},
+       "kkkkkk kkkkkkkkk i oo i_ttttttonoo kkkkk pppppppppppppppppppposssoo kkko"},
       {"/", //
        "o"}}},
     {"MySQL",
      "MySql",
      {{"select `a b`, 'it\\'s', \"x\\\"y\", count(*) # note", //
-       "kkkkkk QQQQQo sssssssso sssssso fffffooo cccccc"},
+       "kkkkkk QQQQQo ssssssso sssssso fffffooo cccccc"},
       {"from information_schema.tables where 1--1 /* c */ -- note",
        "kkkk TTTTTTTTTTTTTTTTTTTTTTTTT kkkkk noon CCCCCCC ccccccc"},
       {"set @v = @@global.sql_mode; create table t (a int);", //
-       "kkk vv o vvvvvvvvogggggggg o kkkkkk kkkkk i oi tttoo"},
+       "kkk vv o ggggggggoggggggggo kkkkkk kkkkk i oi_tttoo"},
       {"delimiter //", //
        "kkkkkkkkk oo"}}},
     {"PostgreSQL",
@@ -74,7 +75,7 @@ const Sample kSamples[] = {
      {{"select count(*), \"a b\", E'it\\'s', $1 from pg_class -- note",
        "kkkkkk fffffoooo qqqqqo sssssssso ii kkkk TTTTTTTT ccccccc"},
       {"create function f() returns text as $b$ it's $b$ /* a /* b */ c */",
-       "kkkkkk kkkkkkkk ioo kkkkkkk tttt kk sssssssssssss CCCCCCCCCCCCCCCCC"},
+       "kkkkkk kkkkkkkk ioo kkkkkkk tttt kk ssssssssssss CCCCCCCCCCCCCCCCC"},
       {"set work_mem = 64; select 1::int;", //
        "kkk gggggggg o nno kkkkkk noottto"},
       {"\\d it's", //
@@ -183,7 +184,7 @@ TEST_P(DialectStyles, AreThoseOfTheSample)
 }
 
 INSTANTIATE_TEST_SUITE_P(Shipped, DialectStyles, testing::ValuesIn(kSamples),
-                         [](const auto& info) { return std::string(info.param.name); });
+                         [](const auto& sample) { return std::string(sample.param.name); });
 
 // What a keyword set of a language says, its lexer shows.
 TEST(ShippedKeywords, EachComesOutInAStyleOfItsSets)

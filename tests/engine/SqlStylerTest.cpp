@@ -457,3 +457,107 @@ TEST(StylesAfterEdits, AreThoseOfAFreshTextInTheDialectsWithoutANumber)
     EditAndCompare(9, u"postgresql", seed, 800);
     EditAndCompare(9, u"sqlite", seed, 800);
 }
+
+// ----- What is styled again
+
+TEST(StylesAfterEdits, AreMadeToTheFirstLineThatStartsAsBefore)
+{
+    std::u16string text;
+    for (int i = 0; i < 5000; ++i)
+        text += u"select a from b;\n";
+    SqlUnderTest sql(14, text);
+    sql.Style();
+    sql.Send(msg::SetModEventMask, modification::ChangeStyle);
+    auto& window = *static_cast<engine::EngineWindow*>(sql.Window());
+    using Sci = QsciScintillaBase;
+    const auto end = [&window] { return window.SendScintilla(Sci::SCI_GETENDSTYLED); };
+    sql.Insert(0, u"x");
+    EXPECT_EQ(end(), 0);
+    sql.Parent().heard.clear();
+    sql.Send(msg::GetLastChild, 40, LPARAM{0xFFF});
+    EXPECT_EQ(end(), sql.Send(msg::GetLength));
+    EXPECT_EQ(sql.Parent().Of(notify::Modified).size(), 1u);
+    // A comment that is never closed is styled as far as it is asked for, and so is its end.
+    sql.Insert(0, u"/*");
+    sql.Send(msg::GetLastChild, 40, LPARAM{0xFFF});
+    EXPECT_LT(end(), 200 * 17);
+    EXPECT_EQ(sql.StyleAt(40 * 17 + 6), 1);
+    sql.Erase(0, 2);
+    sql.Send(msg::GetLastChild, 40, LPARAM{0xFFF});
+    sql.Send(msg::GetLastChild, 400, LPARAM{0xFFF});
+    EXPECT_EQ(end(), sql.Send(msg::GetLength));
+    EXPECT_EQ(sql.StyleAt(40 * 17 + 6), 6);
+}
+
+TEST(StylesAfterEdits, StylesOfTheHostsOwnGoWhenColoursAreAskedFor)
+{
+    const SqlUnderTest sql(14, u"a\nb\nc\nd\n");
+    sql.Style();
+    sql.Insert(0, u"x");
+    sql.Send(msg::ClearDocumentStyle);
+    sql.StyleRest();
+    EXPECT_EQ(sql.Letters(), "  \n \n \n \n");
+    sql.Insert(0, u"y");
+    sql.StyleRest();
+    EXPECT_EQ(sql.Letters(), "iii\ni\ni\ni\n");
+    sql.Erase(0, 1);
+    sql.Send(msg::StartStyling, 2, LPARAM{0xFF});
+    sql.Send(msg::SetStyling, 3, LPARAM{4});
+    EXPECT_EQ(sql.Letters()[3], 's');
+    sql.Style();
+    EXPECT_EQ(sql.Letters(), "ii\ni\ni\ni\n");
+}
+
+// ----- Two windows
+
+TEST(SharedLanguage, BelongsToTheDocument)
+{
+    const SqlUnderTest first(14, u"abc # c\n");
+    const SqlUnderTest second(3);
+    second.Send(msg::SetDocPointer, 0, first.Send(msg::GetDocPointer));
+    EXPECT_EQ(second.Send(msg::GetLexer), 14);
+    second.SetWords(0, u"abc");
+    second.Style();
+    EXPECT_EQ(first.Letters(), "kkk ccc\n");
+    second.Send(msg::SetLexer, 3);
+    EXPECT_EQ(first.Send(msg::GetLexer), 3);
+    first.StyleRest();
+    EXPECT_EQ(first.StyleAt(0), 6);
+    second.Send(msg::SetDocPointer, 0, LPARAM{0});
+    EXPECT_EQ(second.Send(msg::GetLexer), 0);
+}
+
+TEST(SharedLanguage, IsFollowedThroughEditsInBothWindows)
+{
+    const unsigned seed = Seed();
+    std::mt19937 random(seed);
+    const SqlUnderTest first(14, u"select 1;\n");
+    const SqlUnderTest second(14);
+    const SqlUnderTest fresh(14);
+    second.Send(msg::SetDocPointer, 0, first.Send(msg::GetDocPointer));
+    for (const SqlUnderTest* sql : {&first, &fresh})
+        sql->FoldAlso();
+    for (int edit = 0; edit < 500; ++edit) {
+        EditOnce(edit % 2 ? first : second, random);
+        StyleSome(edit % 3 ? first : second, random);
+        if (edit % 5 != 0)
+            continue;
+        second.StyleRest();
+        fresh.SetText(first.Text());
+        fresh.Style();
+        ASSERT_EQ(first.Letters(), fresh.Letters()) << "seed " << seed << " edit " << edit;
+        ASSERT_EQ(first.Levels(), fresh.Levels()) << "seed " << seed << " edit " << edit;
+    }
+}
+
+// ----- Any size
+
+TEST(SqlStyles, OneLongLineIsStyledInOneWalk)
+{
+    const SqlUnderTest sql(5, u"select " + std::u16string(300000, u'(') + u" q'[" +
+                                  std::u16string(300000, u'\'') + u"]' x");
+    sql.FoldAlso();
+    sql.Style();
+    EXPECT_EQ(sql.StyleAt(400000), 4);
+    EXPECT_EQ(sql.StyleAt(sql.Send(msg::GetLength) - 1), 6);
+}
