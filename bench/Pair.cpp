@@ -55,4 +55,21 @@ void ReportFigure(benchmark::State& state, double value, double limit, const cha
     state.SetLabel(unit);
 }
 
+void MeasureBar(benchmark::State& state, double barInMilliseconds, const char* label,
+                const std::function<void()>& prepare, const std::function<void()>& work)
+{
+    constexpr int kRounds = 9;
+    std::vector<double> times;
+    for (auto _ : state) {
+        for (int round = 0; round < kRounds; ++round) {
+            prepare();
+            times.push_back(CpuSeconds(work) * 1e3);
+        }
+    }
+    const double median = Median(times);
+    state.counters["ours_ms"] = median;
+    state.counters["reference_ms"] = barInMilliseconds;
+    ReportFigure(state, median / barInMilliseconds, 1, label);
+}
+
 } // namespace bench

@@ -20,4 +20,10 @@ void MeasurePair(benchmark::State& state, const std::function<void()>& ours,
 // unit.
 void ReportFigure(benchmark::State& state, double value, double limit, const char* unit);
 
+// Reports the median CPU time of the work over a bar, both in milliseconds, as the counter ratio
+// with the limit 1. The preparation before each run is not counted; the label tells what the work
+// is.
+void MeasureBar(benchmark::State& state, double barInMilliseconds, const char* label,
+                const std::function<void()>& prepare, const std::function<void()>& work);
+
 } // namespace bench

@@ -1,6 +1,7 @@
 #include "engine/Documents.h"
 
 #include "engine/Colouring.h"
+#include "engine/ErrorList.h"
 
 #include <unordered_map>
 
@@ -13,6 +14,7 @@ struct Record
     int references = 0;
     int undoActions = 0;
     std::shared_ptr<Colouring> colouring = std::make_shared<Colouring>();
+    ErrorList errors;
 };
 
 std::unordered_map<Document, Record>& All()
@@ -65,6 +67,11 @@ void Shown(Document document)
 void Left(Document document)
 {
     TakeOne(&Record::windows, document);
+}
+
+ErrorList& Errors(Document document)
+{
+    return All()[document].errors;
 }
 
 void Created(Document document)

@@ -10,6 +10,10 @@ namespace engine {
 class Colouring;
 }
 
+namespace engine {
+class ErrorList;
+}
+
 namespace engine::documents {
 
 using Document = std::intptr_t;
@@ -22,6 +26,9 @@ std::shared_ptr<Colouring> ColouringOf(Document document);
 // A window begins or ceases to show the document.
 void Shown(Document document);
 void Left(Document document);
+
+// The problems of a document that a window shows.
+ErrorList& Errors(Document document);
 
 // References of hosts. Release gives false if hosts hold none.
 void Created(Document document);

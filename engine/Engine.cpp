@@ -1,6 +1,7 @@
 #include "engine/Engine.h"
 
 #include "engine/Documents.h"
+#include "engine/ErrorList.h"
 #include "engine/Fences.h"
 #include "engine/Handlers.h"
 
@@ -57,9 +58,9 @@ const Answerers& AllAnswerers()
                                ? Answerer::Way::Pass
                                : Answerer::Way::Translate;
         }
-        for (const auto handlers :
-             {TextHandlers(), PositionHandlers(), SettingHandlers(), PrintHandlers(),
-              DocumentHandlers(), ImageHandlers(), AnalysisHandlers()}) {
+        for (const auto handlers : {TextHandlers(), PositionHandlers(), SettingHandlers(),
+                                    PrintHandlers(), DocumentHandlers(), ImageHandlers(),
+                                    ErrorHandlers(), AnalysisHandlers(), SearchHandlers()}) {
             for (const HandlerRow& row : handlers) {
                 Answerer& answerer = all[row.number - kFirstNumber];
                 answerer.handler = row.run;
@@ -85,9 +86,11 @@ long ClampedLine(const Raw& raw, long line)
 } // namespace
 
 Engine::Engine(QsciScintillaBase& widget)
-    : window(widget), raw(widget), text(raw), reporter(widget, raw, text), analysis(*this)
+    : window(widget), raw(widget), text(raw), reporter(widget, raw, text), analysis(*this),
+      stored(raw), searcher(stored)
 {
     PrepareDocument();
+    FollowEdits(*this);
 }
 
 Engine::~Engine()
@@ -97,6 +100,7 @@ Engine::~Engine()
 
 void Engine::ShowDocument(LPARAM document)
 {
+    errors->Settle(*this);
     raw.Send(Sci::SCI_SETDOCPOINTER, 0, document);
     PrepareDocument();
 }
@@ -111,6 +115,9 @@ void Engine::PrepareDocument()
     text.Reset();
     colouring = documents::ColouringOf(m_document);
     reporter.SetColouring(colouring);
+    errors = &documents::Errors(m_document);
+    if (errors->Look() == ErrorLook())
+        errors->SetLook(*this, errorLook);
     analysis.Forget();
 }
 

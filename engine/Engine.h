@@ -6,10 +6,13 @@
 #include "control/EngineMessages.h"
 #include "engine/ChangeReporter.h"
 #include "engine/Colouring.h"
+#include "engine/ErrorMarks.h"
 #include "engine/Raw.h"
 #include "engine/ScriptAnalysis.h"
+#include "engine/StoredText.h"
 #include "engine/TextIndex.h"
 #include "engine/Utf.h"
+#include "engine/search/Searcher.h"
 
 #include <memory>
 #include <optional>
@@ -17,6 +20,8 @@
 #include <string>
 
 namespace engine {
+
+class ErrorList;
 
 // How a style differs on paper. Empty: as on the screen.
 struct PrintStyle
@@ -54,7 +59,12 @@ public:
     ChangeReporter reporter;
     ScriptAnalysis analysis;
 
+    ErrorList* errors = nullptr; // of the text that the window shows
+    const StoredText stored;
+    search::Searcher searcher;
+
     // What the stock engine has no place for.
+    ErrorLook errorLook;              // as set in this window
     bool noSingleEol = false;         // line-end mode 0
     bool usePopUp = true;             // the window shows a menu of its own
     bool reconciler = true;           // the analysis follows the text
@@ -62,6 +72,8 @@ public:
     int copyEol = -1;                 // line-end mode of the copy under way, -1: as the text stands
     std::set<std::string> properties; // of the lexer, set so far
     PrintStyle print;
+    long searchAnchor = 0;    // bytes; stays when the text changes
+    bool recording = false;   // of a macro
     std::string callTip;      // UTF-8
     int lengthForEncode = -1; // bytes; -1: up to the terminator
 

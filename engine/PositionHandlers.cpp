@@ -87,37 +87,6 @@ LRESULT SetStylingEx(Engine& engine, WPARAM wParam, LPARAM lParam)
     return engine.raw.Send(Sci::SCI_SETSTYLINGEX, expanded.size(), expanded.data());
 }
 
-LRESULT FindText(Engine& engine, WPARAM wParam, LPARAM lParam)
-{
-    auto* record = reinterpret_cast<TextToFind*>(lParam);
-    if (!record || !record->lpstrText)
-        return -1;
-    const Utf8Text sought(TerminatedText(record->lpstrText));
-    const long length = engine.raw.Length();
-    const auto toBytes = [&](int position) {
-        return position < 0 ? length : engine.Bytes(position);
-    };
-    // Over the target, which takes either direction and plain positions; its own bounds are kept.
-    const auto targetStart = engine.raw.Send(Sci::SCI_GETTARGETSTART);
-    const auto targetEnd = engine.raw.Send(Sci::SCI_GETTARGETEND);
-    const auto searchFlags = engine.raw.Send(Sci::SCI_GETSEARCHFLAGS);
-    engine.raw.Send(Sci::SCI_SETTARGETRANGE, static_cast<WPARAM>(toBytes(record->chrg.cpMin)),
-                    static_cast<LPARAM>(toBytes(record->chrg.cpMax)));
-    engine.raw.Send(Sci::SCI_SETSEARCHFLAGS, wParam);
-    const auto found =
-        static_cast<long>(engine.raw.Send(Sci::SCI_SEARCHINTARGET, sought.Size(), sought.Data()));
-    LRESULT result = -1;
-    if (found >= 0) {
-        record->chrgText.cpMin = static_cast<int>(engine.Units(found));
-        record->chrgText.cpMax = static_cast<int>(
-            engine.Units(static_cast<long>(engine.raw.Send(Sci::SCI_GETTARGETEND))));
-        result = record->chrgText.cpMin;
-    }
-    engine.raw.Send(Sci::SCI_SETTARGETRANGE, static_cast<WPARAM>(targetStart), targetEnd);
-    engine.raw.Send(Sci::SCI_SETSEARCHFLAGS, static_cast<WPARAM>(searchFlags));
-    return result;
-}
-
 // Offsets into the tip's text.
 LRESULT CallTipSetHlt(Engine& engine, WPARAM wParam, LPARAM lParam)
 {
@@ -185,7 +154,6 @@ constexpr HandlerRow kRows[] = {
     {message::LineLength, LineLength},
     {message::SetStyling, SetStyling},
     {message::SetStylingEx, SetStylingEx},
-    {message::FindTextW, FindText},
     {message::CallTipSetHlt, CallTipSetHlt},
     {message::CallTipShow, CallTipShow},
 };

@@ -62,19 +62,12 @@ LRESULT InsertText(Engine& engine, WPARAM wParam, LPARAM lParam)
         engine, static_cast<WPARAM>(engine.Bytes(static_cast<LPARAM>(wParam))), lParam);
 }
 
-// Units of the replacement, which a regular expression may have made longer than the text given.
-template <UINT Number>
+// Gives the units of what the target became.
 LRESULT ReplaceTarget(Engine& engine, WPARAM wParam, LPARAM lParam)
 {
-    SendCounted(engine, Number, wParam, lParam);
+    SendCounted(engine, Sci::SCI_REPLACETARGET, wParam, lParam);
     return engine.Units(static_cast<long>(engine.raw.Send(Sci::SCI_GETTARGETEND))) -
            engine.Units(static_cast<long>(engine.raw.Send(Sci::SCI_GETTARGETSTART)));
-}
-
-LRESULT SearchInTarget(Engine& engine, WPARAM wParam, LPARAM lParam)
-{
-    return engine.Units(
-        static_cast<long>(SendCounted(engine, Sci::SCI_SEARCHINTARGET, wParam, lParam)));
 }
 
 // Pairs of unit and style; the stock engine wants a style for each byte.
@@ -317,9 +310,7 @@ constexpr HandlerRow kRows[] = {
     {message::SetText, EnterTerminated<Sci::SCI_SETTEXT>},
     {message::ReplaceSel, EnterTerminated<Sci::SCI_REPLACESEL>},
     {message::InsertText, InsertText},
-    {message::ReplaceTargetNoProcess, ReplaceTarget<Sci::SCI_REPLACETARGET>},
-    {message::ReplaceTargetRE, ReplaceTarget<Sci::SCI_REPLACETARGETRE>},
-    {message::SearchInTarget, SearchInTarget},
+    {message::ReplaceTargetNoProcess, ReplaceTarget},
     {message::AddStyledText, AddStyledText},
     {message::GetText, GetText},
     {message::GetLine, GetLine},

@@ -1,8 +1,13 @@
 #include "host/EditorTab.h"
 
+#include "editing/FileTypeManager.h"
+#include "editing/Library.h"
 #include "editing/ZNCoreEditorWidget.h"
+#include "host/AutosaveSettings.h"
+#include "host/BatchMark.h"
 #include "host/Encodings.h"
 #include "host/FileLanguages.h"
+#include "host/ScriptChecker.h"
 #include "host/ScrollRange.h"
 #include "platform/OptionsServer.h"
 #include "platform/Units.h"
@@ -46,7 +51,8 @@ QString WhyNotWritten(const QString& path)
 } // namespace
 
 EditorTab::EditorTab(const QString& untitledName, QWidget* parent)
-    : QWidget(parent), m_widget(new ZNCoreEditorWidget(this)), m_untitledName(untitledName)
+    : QWidget(parent), m_widget(new ZNCoreEditorWidget(this)),
+      m_checker(new ScriptChecker(m_widget->control(), this)), m_untitledName(untitledName)
 {
     auto* layout = new QVBoxLayout(this);
     layout->setContentsMargins(0, 0, 0, 0);
@@ -54,9 +60,11 @@ EditorTab::EditorTab(const QString& untitledName, QWidget* parent)
     setFocusProxy(m_widget);
 
     Editor().SetCarefulFiles(true);
+    AutosaveSettings::Load().ApplyTo(Editor());
     Editor().SetEncoding(FileEncodeConverter::encUTF8);
     Editor().SetWriteEncodingSig(false);
     Editor().SetScrollWidth(1, 1);
+    DefineBatchMark(Editor());
     SetLanguage(LanguageOfNewScripts());
     connect(m_widget, &ZNCoreEditorWidget::notified, this, &EditorTab::OnNotified);
 }
@@ -65,6 +73,7 @@ EditorTab::EditorTab(const QString& untitledName, QWidget* parent)
 EditorTab::~EditorTab()
 {
     m_widget->disconnect(this);
+    delete m_checker;
 }
 
 CZNCoreEditorControlEx& EditorTab::Editor() const
@@ -80,6 +89,9 @@ void EditorTab::OnNotified(const SCNotification& record)
         Q_EMIT StateChanged(); // at once: the keys for saving may be next in line
         break;
     case notify::Modified:
+        m_checker->CheckSoon();
+        AnnounceSoon();
+        break;
     case notify::UpdateUi:
     case notify::Zoom:
         AnnounceSoon();
@@ -100,6 +112,7 @@ void EditorTab::AnnounceSoon()
 void EditorTab::Announce()
 {
     m_announcing = false;
+    MarkBatch(Editor());
     FitScrollRange();
     Q_EMIT StateChanged();
 }
@@ -161,6 +174,9 @@ int EditorTab::Language() const
 void EditorTab::SetLanguage(int language)
 {
     m_widget->setLanguage(language);
+    const CFileTypeManager& languages = *zncoreeditor::GetFileTypeManager();
+    const bool isKnown = language >= 0 && language < languages.GetLanguageCount();
+    m_checker->SetLanguage(isKnown ? languages.GetLanguageName(language) : QString());
     Q_EMIT LanguageChanged();
 }
 
@@ -196,6 +212,19 @@ QString EditorTab::CaretText() const
     return QStringLiteral("Line %1, column %2")
         .arg(Editor().LineFromPosition(caret, 1) + 1)
         .arg(Editor().GetColumn(caret, 1) + 1);
+}
+
+QString EditorTab::Catalog() const
+{
+    const long caret = Editor().GetCurrentPos(1);
+    return QString::fromStdU16String(Editor().GetCatalogForOffset(static_cast<int>(caret), 1));
+}
+
+void EditorTab::SelectRange(long start, long end)
+{
+    Editor().EnsureRangeVisible(static_cast<int>(start), static_cast<int>(end));
+    Editor().SetSel(start, end, 1);
+    setFocus();
 }
 
 bool EditorTab::CanHold(int encoding) const

@@ -6,6 +6,7 @@
 #include <QWidget>
 
 class CZNCoreEditorControlEx;
+class ScriptChecker;
 class ZNCoreEditorWidget;
 struct SCNotification;
 
@@ -42,6 +43,10 @@ public:
     bool IsUntouched() const; // no file, no text, no change
     bool HasSelection() const;
     QString CaretText() const; // line and column, from 1
+    QString Catalog() const;   // the database in force at the caret, empty if none is known
+
+    ScriptChecker& Checker() const { return *m_checker; }
+    void SelectRange(long start, long end); // and shows it
 
     // Whether the encoding has every character of the text.
     bool CanHold(int encoding) const;
@@ -57,6 +62,7 @@ private:
     void FitScrollRange();
 
     ZNCoreEditorWidget* m_widget;
+    ScriptChecker* m_checker;
     QString m_untitledName;
     QString m_path;
     bool m_announcing = false;

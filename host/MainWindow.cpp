@@ -1,10 +1,13 @@
 #include "host/MainWindow.h"
 
 #include "editing/ZNCoreEditorControlEx.h"
+#include "host/AutosaveDialog.h"
 #include "host/EditorTab.h"
 #include "host/LanguageMenu.h"
 #include "host/OptionsDialog.h"
+#include "host/ProblemPane.h"
 #include "host/Prompts.h"
+#include "host/ScriptChecker.h"
 #include "host/StatusIndicators.h"
 
 #include <QClipboard>
@@ -15,7 +18,11 @@
 #include <QMimeData>
 #include <QTabWidget>
 
+#include <algorithm>
+
 namespace {
+
+constexpr int kProblemsHeight = 110; // pixels, of some four lines
 
 // The file behind a path whichever way it is written; the path itself while there is no file.
 QString SameFile(const QString& path)
@@ -27,14 +34,22 @@ QString SameFile(const QString& path)
 } // namespace
 
 MainWindow::MainWindow(Prompts& prompts)
-    : m_prompts(prompts), m_tabs(new QTabWidget(this)), m_status(new StatusIndicators(statusBar()))
+    : m_prompts(prompts), m_tabs(new QTabWidget(this)), m_status(new StatusIndicators(statusBar())),
+      m_problems(new ProblemPane(this))
 {
     m_tabs->setTabsClosable(true);
     m_tabs->setMovable(true);
     m_tabs->setDocumentMode(true);
     setCentralWidget(m_tabs);
+    addDockWidget(Qt::BottomDockWidgetArea, m_problems);
+    resizeDocks({m_problems}, {kProblemsHeight}, Qt::Vertical);
+    connect(m_problems, &ProblemPane::Chosen, this, [this](long start, long end) {
+        if (EditorTab* tab = CurrentTab())
+            tab->SelectRange(start, end);
+    });
     connect(m_tabs, &QTabWidget::currentChanged, this, [this] {
         UpdateAll();
+        ListProblems();
         if (EditorTab* tab = CurrentTab())
             tab->setFocus();
     });
@@ -59,6 +74,8 @@ MainWindow::~MainWindow()
     m_tabs->disconnect(this);
     for (int i = 0; i < TabCount(); ++i)
         TabAt(i)->disconnect(this);
+    for (int i = 0; i < TabCount(); ++i)
+        TabAt(i)->Checker().disconnect(this);
 }
 
 EditorTab* MainWindow::CurrentTab() const
@@ -85,6 +102,10 @@ EditorTab* MainWindow::AddTab()
 {
     auto* tab = new EditorTab(QStringLiteral("Script %1").arg(++m_untitledCount), m_tabs);
     connect(tab, &EditorTab::StateChanged, this, [this, tab] { OnTabChanged(tab); });
+    connect(&tab->Checker(), &ScriptChecker::ProblemsChanged, this, [this, tab] {
+        if (tab == CurrentTab())
+            ListProblems();
+    });
     connect(tab, &EditorTab::LanguageChanged, this, [this, tab] {
         ApplyView(*tab);
         OnTabChanged(tab);
@@ -266,10 +287,44 @@ void MainWindow::ChangeOptions()
     FollowOptions();
 }
 
+void MainWindow::ChangeAutosave()
+{
+    AutosaveDialog dialog(this, AutosaveSettings::Load());
+    if (dialog.exec() != QDialog::Accepted)
+        return;
+    dialog.Settings().Store();
+    for (int i = 0; i < TabCount(); ++i)
+        dialog.Settings().ApplyTo(TabAt(i)->Editor());
+}
+
 void MainWindow::FollowOptions()
 {
     for (int i = 0; i < TabCount(); ++i)
         TabAt(i)->FollowOptions();
+}
+
+void MainWindow::ListProblems()
+{
+    m_problems->Clear();
+    const EditorTab* tab = CurrentTab();
+    if (!tab)
+        return;
+    for (const ScriptProblem& problem : tab->Checker().Problems())
+        m_problems->Add(problem, tab->Editor().LineFromPosition(problem.start, 1));
+}
+
+// The first one behind the caret, from the end on the first of all.
+void MainWindow::NextProblem()
+{
+    EditorTab* tab = CurrentTab();
+    const std::vector<ScriptProblem>& problems = tab->Checker().Problems();
+    if (problems.empty())
+        return;
+    const long caret = tab->Editor().GetSelectionStart(1);
+    const auto behind = std::find_if(problems.begin(), problems.end(),
+                                     [caret](const ScriptProblem& p) { return p.start > caret; });
+    const ScriptProblem& next = behind != problems.end() ? *behind : problems.front();
+    tab->SelectRange(next.start, next.end);
 }
 
 void MainWindow::OnTabChanged(EditorTab* tab)

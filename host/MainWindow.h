@@ -8,6 +8,7 @@
 
 class EditorTab;
 class LanguageMenu;
+class ProblemPane;
 class Prompts;
 struct SaveTarget;
 class QTabWidget;
@@ -55,7 +56,9 @@ public:
     void ShowWhitespace(bool show);
     void ShowLineEnds(bool show);
     void WrapLines(bool wrap);
+    void NextProblem();
     void ChangeOptions();
+    void ChangeAutosave();
     void NextScript();
     void PreviousScript();
 
@@ -83,6 +86,7 @@ private:
     int IndexOfFile(const QString& path) const;
     QString FolderToStartIn() const;
     void OnTabChanged(EditorTab* tab);
+    void ListProblems();
     void UpdateCaptions(EditorTab* tab);
     void UpdateAll();
 
@@ -90,6 +94,7 @@ private:
     QTabWidget* m_tabs;
     StatusIndicators* m_status;
     LanguageMenu* m_languages = nullptr;
+    ProblemPane* m_problems;
     std::vector<QAction*> m_actions; // of the named commands, in their order
     int m_untitledCount = 0;
     bool m_clipboardHasText = false;

@@ -3,6 +3,7 @@
 #include "host/EditorTab.h"
 #include "host/LanguageMenu.h"
 #include "host/MainWindow.h"
+#include "host/ProblemPane.h"
 
 #include <QAction>
 #include <QKeySequence>
@@ -83,10 +84,13 @@ std::span<const MainWindow::Command> MainWindow::Commands()
         {"&View", "lineEnds",   "Line &Ends",   Key::UnknownKey,   nullptr,  When::Always, Run<&W::ShowLineEnds>,   true},
         {"&View", "wrap",       "W&rap Lines",  Key::UnknownKey,   nullptr,  When::Always, Run<&W::WrapLines>,      true},
         {"&View", nullptr},
+        {"&View", "nextProblem", "Next Pro&blem", Key::UnknownKey, "F8",   When::Script, Run<&W::NextProblem>},
+        {"&View", nullptr},
         {"&View", "next",      "Ne&xt Script",     Key::NextChild,     nullptr, When::SeveralScripts, Run<&W::NextScript>},
         {"&View", "previous",  "&Previous Script", Key::PreviousChild, nullptr, When::SeveralScripts, Run<&W::PreviousScript>},
 
         {"&Tools", "options",  "&Options...",   Key::Preferences,  "Ctrl+,", When::Always, Run<&W::ChangeOptions>},
+        {"&Tools", "autosave", "&Autosave...",  Key::UnknownKey,   nullptr,  When::Always, Run<&W::ChangeAutosave>},
     };
     // clang-format on
     return commands;
@@ -115,8 +119,10 @@ void MainWindow::BuildMenus()
     for (const Command& command : Commands()) {
         const QString title = QLatin1String(command.menu);
         if (!menu || menu->title() != title) {
-            if (title == QLatin1String("&Tools"))
+            if (title == QLatin1String("&Tools")) {
+                menu->addAction(m_problems->toggleViewAction());
                 menuBar()->addMenu(m_languages);
+            }
             menu = menuBar()->addMenu(title);
         }
         if (command.name)

@@ -3,6 +3,7 @@
 #include "host/MainWindow.h"
 #include "host/Prompts.h"
 #include "platform/Questions.h"
+#include "platform/SpecialFolders.h"
 
 #include <QApplication>
 #include <QPixmap>
@@ -38,10 +39,22 @@ public:
     }
 };
 
+// Without a folder for copies none is found. One that is offered and refused would go when the
+// picture is done, and the person it belongs to has not been asked.
+class WithoutCopies final : public ISpecialFolders
+{
+public:
+    WithoutCopies() { SetSpecialFolders(this); }
+    ~WithoutCopies() override { SetSpecialFolders(nullptr); }
+
+    QString AppData() const override { return QString(); }
+};
+
 } // namespace
 
 int TakeScreenshot(const QStringList& files, const QString& picture)
 {
+    const WithoutCopies withoutCopies;
     PrintedPrompts prompts;
     SetUserQuestions(&prompts);
     int result = 0;

@@ -24,6 +24,7 @@ StatusIndicators::StatusIndicators(QStatusBar* bar)
     : QObject(bar), m_bar(bar), m_readOnly(AddField("readOnly", QStringLiteral("Read-only"))),
       m_modified(AddField("modified", QStringLiteral("Modified"))),
       m_caret(AddField("caret", QStringLiteral("Line 99999, column 999"))),
+      m_catalog(AddField("catalog", QStringLiteral("production_db"))),
       m_language(AddField("language", QStringLiteral("InterBase/Firebird"))),
       m_encoding(AddField("encoding", QStringLiteral("UTF-16 LE with mark"))),
       m_lineEnds(AddField("lineEnds", QStringLiteral("CR LF"))),
@@ -45,8 +46,8 @@ QLabel* StatusIndicators::AddField(const char* name, const QString& widest)
 void StatusIndicators::Show(const EditorTab* tab)
 {
     if (!tab) {
-        for (QLabel* label :
-             {m_readOnly, m_modified, m_caret, m_language, m_encoding, m_lineEnds, m_overtype})
+        for (QLabel* label : {m_readOnly, m_modified, m_caret, m_catalog, m_language, m_encoding,
+                              m_lineEnds, m_overtype})
             label->clear();
         return;
     }
@@ -54,6 +55,7 @@ void StatusIndicators::Show(const EditorTab* tab)
     m_readOnly->setText(tab->IsReadOnly() ? QStringLiteral("Read-only") : QString());
     m_modified->setText(tab->IsModified() ? QStringLiteral("Modified") : QString());
     m_caret->setText(tab->CaretText());
+    m_catalog->setText(tab->Catalog());
     m_language->setText(LanguageName(tab->Language()));
     m_encoding->setText(EncodingName(target.encoding, target.mark));
     m_lineEnds->setText(LineEndName(tab->Editor().GetEOLMode(1)));

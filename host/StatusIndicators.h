@@ -21,6 +21,7 @@ private:
     QLabel* m_readOnly;
     QLabel* m_modified;
     QLabel* m_caret;
+    QLabel* m_catalog;
     QLabel* m_language;
     QLabel* m_encoding;
     QLabel* m_lineEnds;

@@ -18,7 +18,8 @@
 //   ErrorsGetAll(owner, kind)     all of them by the line that they begin in, in the order of a
 //   walk. ErrorsSetIndic, WarningsSetIndic      the indicator below the text, 0 to 31.
 //   ErrorsSetMarkNum, WarningsSetMarkNum  the marker in the margin, 0 to 31.
-//                                 Any other number, and none set yet: no such mark.
+//                                 Any other number, and none set yet: no such mark. The list owns
+//                                 its numbers: what a host draws with them itself is wiped away.
 //   SetSyntaxSeverity, SetSemanticSeverity  problems of that kind below the severity are listed and
 //                                 not shown. 0, as it is at first, lets all through.
 //

@@ -71,6 +71,7 @@ bool CZNCoreEditorControl::OpenFile(const char16_t* path, Encoding encoding)
     SetUndoCollection(1, 1);
     SetSavePoint(1);
     m_strFileName = QString::fromUtf16(path);
+    OfferAutoSaveCopy(encoding);
     SetAutoSave(m_bAutoSaveOn, m_nAutoSaveMinutes);
     return true;
 }

@@ -20,6 +20,8 @@ struct FilePolicy
     bool reportsUnopened; // a target that cannot be opened is a failure
     bool demandsAllText;  // so is a line that does not convert
     bool writesFirst;     // the state of the control changes only after the write
+    bool notesLast;       // an autosave copy is noted once it is there, not before
+    bool sparesClaimed;   // the copy of a control that is alive is nobody else's
 };
 
 // A character over the end of a block may lose bytes: later blocks are converted without the tail
@@ -33,6 +35,8 @@ inline constexpr FilePolicy kPlainFiles = {
     .reportsUnopened = false,
     .demandsAllText = false,
     .writesFirst = false,
+    .notesLast = false,
+    .sparesClaimed = false,
 };
 
 inline constexpr FilePolicy kCarefulFiles = {
@@ -43,4 +47,6 @@ inline constexpr FilePolicy kCarefulFiles = {
     .reportsUnopened = true,
     .demandsAllText = true,
     .writesFirst = true,
+    .notesLast = true,
+    .sparesClaimed = true,
 };

@@ -4,7 +4,7 @@
 
 #include "control/FileAccess.h"
 #include "control/FilePolicy.h"
-#include "control/TargetFile.h"
+#include "platform/file/TargetFile.h"
 
 #include <algorithm>
 

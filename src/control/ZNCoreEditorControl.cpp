@@ -1,7 +1,9 @@
 #include "control/ZNCoreEditorControl.h"
 
+#include "control/CopyClaim.h"
 #include "control/LineEnds.h"
 #include "platform/Module.h"
+#include "platform/Timer.h"
 #include "platform/text/CodePage.h"
 
 #include <algorithm>
@@ -50,7 +52,7 @@ struct EnteredText
 
 } // namespace
 
-CZNCoreEditorControl::CZNCoreEditorControl()
+CZNCoreEditorControl::CZNCoreEditorControl() : m_copyClaim(std::make_unique<CopyClaim>())
 {
     if (!m_hEditorDllHandle)
         m_hEditorDllHandle = LoadModule(engine::kModule);
@@ -150,16 +152,6 @@ void CZNCoreEditorControl::OnModified(const SCNotification& record)
         FoldChanged(static_cast<int>(record.line), record.foldLevelNow, record.foldLevelPrev);
     m_bModified = true;
 }
-
-void CZNCoreEditorControl::SetAutoSave(bool /*on*/, int /*minutes*/) {}
-
-void CZNCoreEditorControl::CleanUpAutoSave()
-{
-    SetAutoSave(false, 0);
-    DeleteAutoSaveFile();
-}
-
-void CZNCoreEditorControl::DeleteAutoSaveFile() {}
 
 QString CZNCoreEditorControl::GetSelText()
 {
@@ -263,6 +255,11 @@ const MessageMap& CZNCoreEditorControl::GetMessageMap() const
 {
     using Self = CZNCoreEditorControl;
     static constexpr MessageEntry kEntries[] = {
+        {WM_TIMER,
+         [](CWnd& target, WPARAM wParam, LPARAM) -> LRESULT {
+             static_cast<Self&>(target).OnTimer(static_cast<UINT>(wParam));
+             return 0;
+         }},
         {kGetSel,
          [](CWnd& target, WPARAM wParam, LPARAM lParam) {
              return static_cast<Self&>(target).OnGetSel(wParam, lParam);

@@ -12,9 +12,11 @@
 
 #include <array>
 #include <cstdio>
+#include <memory>
 #include <string>
 #include <vector>
 
+class CopyClaim;
 class FileBlocks;
 class TargetFile;
 struct FilePolicy;
@@ -108,6 +110,16 @@ public:
     // Whether the file holds more than was loaded, so that a save over it would lose the rest.
     bool WasCutShort() const { return m_bCutShort; }
 
+    // Autosave: while a document with a file behind it is modified, a copy of it is written each
+    // time the minutes have passed, and taken away when the text is saved or closed. A copy that
+    // is found when its file is opened comes from a crash, and is offered. Minutes below 1 stop it.
+    void setAutoSaveOn(bool on);
+    void setAutoSaveMinutes(int minutes);
+    bool GetAutoSaveOn() const { return m_bAutoSaveOn; }
+    int GetAutoSaveMinutes() const { return m_nAutoSaveMinutes; }
+    // Starts or stops the timer without keeping what it is told.
+    virtual void SetAutoSave(bool on, int minutes);
+
     // Sets the mode of new line ends by the majority in the first lines.
     void DiscoverEOLSetting(int maxLines);
 
@@ -191,10 +203,9 @@ public:
     static int refs;                     // live controls
 
 protected:
-    // Autosave joins in here: stopped before a load and a committed save, resumed after them.
-    virtual void SetAutoSave(bool on, int minutes);
-    virtual void CleanUpAutoSave();
-    virtual void DeleteAutoSaveFile();
+    virtual void CleanUpAutoSave();    // stops the timer and deletes the copy
+    virtual void DeleteAutoSaveFile(); // the copy and its note, if there are any
+    void OnTimer(UINT id);
 
     // Reads and closes the file, inserting at the caret; null does nothing. convertEOLs brings the
     // text to the engine's line-end mode.
@@ -226,6 +237,10 @@ protected:
     bool m_bWriteEncodingSig = true;
 
 private:
+    void WriteAutoSaveCopy();
+    void MakeAutoSaveFile();
+    void OfferAutoSaveCopy(FileEncodeConverter::encodingType encoding);
+    void LoadAutoSaveCopy(FileEncodeConverter::encodingType encoding);
     LRESULT OnGetSel(WPARAM wParam, LPARAM lParam);
     LRESULT OnLineLength(WPARAM wParam, LPARAM lParam);
     void OnModified(const SCNotification& record);
@@ -245,4 +260,5 @@ private:
 
     bool m_bCarefulFiles = false;
     bool m_bCutShort = false;
+    std::unique_ptr<CopyClaim> m_copyClaim; // on the autosave file
 };

@@ -14,6 +14,8 @@ public:
     {
         QMessageBox box(owner ? owner->window() : QApplication::activeWindow());
         box.setIcon(buttons == Buttons::Ok ? QMessageBox::Warning : QMessageBox::Question);
+        box.setWindowTitle(QGuiApplication::applicationDisplayName());
+        box.setTextFormat(Qt::PlainText); // a path may look like markup
         box.setText(text);
         box.setStandardButtons(buttons == Buttons::Ok ? QMessageBox::Ok
                                                       : QMessageBox::Yes | QMessageBox::No);

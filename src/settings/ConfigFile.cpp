@@ -192,7 +192,7 @@ bool CConfigFile::AddInsertTextWord(const QString& word)
 QString CConfigFile::GetInsertTextWord(unsigned int index)
 {
     const pug::xml_node word = GetInsertWordsNode().child(static_cast<int>(index));
-    return word.name() == u"Word" ? word.first_child().value() : QString();
+    return word.is_named(u"Word") ? word.first_child().value() : QString();
 }
 
 bool CConfigFile::RemoveInsertTextWords()

@@ -9,5 +9,6 @@
 // Nothing for whatever is not a regular file or cannot be read.
 std::optional<QByteArray> ReadWholeFile(const QString& name);
 
-// Creates the file or replaces what stands in it. False if the bytes have not all reached it.
+// Creates the file or replaces what stands in it. False if the bytes have not all reached it; then
+// the file is as it was, however full the disk is. Links and permissions stay.
 bool WriteWholeFile(const QString& name, const QByteArray& bytes);

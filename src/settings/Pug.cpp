@@ -1,10 +1,18 @@
 #include "settings/Pug.h"
 
-#include <pugixml.hpp>
+#include "settings/ElementIndex.h"
 
+#include <algorithm>
+#include <array>
 #include <cstring>
 
 namespace pug {
+
+struct Tree
+{
+    pugi::xml_document document;
+    ElementIndex index;
+};
 
 namespace {
 
@@ -59,9 +67,33 @@ xml_node_type FromPugi(pugi::xml_node_type type)
     }
 }
 
-QByteArray Bytes(const char16_t* text)
+// A name as the tree has it. The names of settings are short and ASCII, and take no memory here.
+class Name
 {
-    return QStringView(text).toUtf8();
+public:
+    explicit Name(const char16_t* name)
+    {
+        const std::u16string_view units = name ? name : u"";
+        const bool fits =
+            units.size() < m_short.size() &&
+            std::all_of(units.begin(), units.end(), [](char16_t c) { return c < 128; });
+        if (fits)
+            std::transform(units.begin(), units.end(), m_short.begin(),
+                           [](char16_t unit) { return static_cast<char>(unit); });
+        else
+            m_long = QStringView(units).toUtf8();
+    }
+
+    const char* Text() const { return m_long.isNull() ? m_short.data() : m_long.constData(); }
+
+private:
+    std::array<char, 32> m_short{};
+    QByteArray m_long;
+};
+
+std::string_view View(const QByteArray& bytes)
+{
+    return {bytes.constData(), static_cast<std::size_t>(bytes.size())};
 }
 
 // A mark in front of a text is a part of it.
@@ -74,14 +106,32 @@ QString Units(const char* text)
     return units + QString::fromUtf8(text);
 }
 
-xml_node Handle(const pugi::xml_node& node)
+// Whether "?>" is the end of an XML declaration, of which the text behind its name is given. The
+// parser looks for "/>" instead, once it has put one in the place of the first "?>": it would end a
+// declaration within its quotes, or give it all up to "</xml>" for children.
+bool EndsAsInstruction(const char* text)
 {
-    return xml_node(node.internal_object());
+    char quote = 0;
+    for (; *text; ++text) {
+        if (text[0] == '?' && text[1] == '>')
+            return quote == 0;
+        if (quote == 0 && (*text == '/' || *text == '>'))
+            return false;
+        if (quote == 0 && (*text == '"' || *text == '\''))
+            quote = *text;
+        else if (*text == quote)
+            quote = 0;
+    }
+    return false;
 }
 
-bool IsElement(const pugi::xml_node& node, const QByteArray& name)
+// Declarations stand nowhere but between the nodes of the document.
+bool DeclarationsEndAsInstructions(const pugi::xml_document& document, const QByteArray& text)
 {
-    return node.type() == pugi::node_element && std::strcmp(node.name(), name.constData()) == 0;
+    return std::all_of(document.begin(), document.end(), [&](const pugi::xml_node& node) {
+        return node.type() != pugi::node_declaration ||
+               EndsAsInstruction(text.constData() + node.offset_debug() + std::strlen(node.name()));
+    });
 }
 
 struct DepthMeter final : pugi::xml_tree_walker
@@ -103,12 +153,15 @@ QString xml_attribute::value() const
 
 bool xml_attribute::set_value(const QString& value)
 {
+    if (empty())
+        return false;
+    m_tree->index.AttributeChanged();
     return pugi::xml_attribute(m_attribute).set_value(value.toUtf8().constData());
 }
 
 xml_attribute xml_attribute::next_attribute() const
 {
-    return xml_attribute(pugi::xml_attribute(m_attribute).next_attribute().internal_object());
+    return {m_tree, pugi::xml_attribute(m_attribute).next_attribute().internal_object()};
 }
 
 xml_node_type xml_node::type() const
@@ -118,13 +171,16 @@ xml_node_type xml_node::type() const
 
 bool xml_node::set_type(xml_node_type type)
 {
-    if (this->type() == type)
+    const xml_node_type before = this->type();
+    if (before == type)
         return !empty();
     pugi::xml_node old(m_node);
     pugi::xml_node parent = old.parent();
     const pugi::xml_node made = parent.insert_child_before(ToPugi(type), old);
     if (!made)
         return false;
+    if (before == node_element || type == node_element)
+        m_tree->index.Clear();
     pugi::xml_node(made).set_value(old.value());
     parent.remove_child(old);
     m_node = made.internal_object();
@@ -136,9 +192,20 @@ QString xml_node::name() const
     return Units(pugi::xml_node(m_node).name());
 }
 
+bool xml_node::is_named(const char16_t* name) const
+{
+    return std::strcmp(pugi::xml_node(m_node).name(), Name(name).Text()) == 0;
+}
+
 bool xml_node::set_name(const char16_t* name)
 {
-    return pugi::xml_node(m_node).set_name(Bytes(name).constData());
+    const Name to(name);
+    pugi::xml_node node(m_node);
+    if (!node)
+        return false;
+    m_tree->index.NameChanged(node.name());
+    m_tree->index.NameChanged(to.Text());
+    return node.set_name(to.Text());
 }
 
 QString xml_node::value() const
@@ -164,12 +231,12 @@ int xml_node::children() const
 
 xml_node xml_node::first_child() const
 {
-    return Handle(pugi::xml_node(m_node).first_child());
+    return Of(pugi::xml_node(m_node).first_child().internal_object());
 }
 
 xml_node xml_node::next_sibling() const
 {
-    return Handle(pugi::xml_node(m_node).next_sibling());
+    return Of(pugi::xml_node(m_node).next_sibling().internal_object());
 }
 
 xml_node xml_node::child(int index) const
@@ -182,21 +249,34 @@ xml_node xml_node::child(int index) const
 
 xml_node xml_node::append_child(xml_node_type type)
 {
-    return Handle(pugi::xml_node(m_node).append_child(ToPugi(type)));
+    const xml_node made = Of(pugi::xml_node(m_node).append_child(ToPugi(type)).internal_object());
+    if (!made.empty())
+        m_tree->index.NameChanged("");
+    return made;
 }
 
 xml_node xml_node::append_copy(const xml_node& node)
 {
-    return Handle(pugi::xml_node(m_node).append_copy(pugi::xml_node(node.m_node)));
+    const xml_node made =
+        Of(pugi::xml_node(m_node).append_copy(pugi::xml_node(node.m_node)).internal_object());
+    if (!made.empty())
+        m_tree->index.Clear();
+    return made;
 }
 
 bool xml_node::remove_child(int index)
 {
+    if (empty())
+        return false;
+    m_tree->index.Clear();
     return pugi::xml_node(m_node).remove_child(pugi::xml_node(child(index).m_node));
 }
 
 void xml_node::remove_children()
 {
+    if (empty())
+        return;
+    m_tree->index.Clear();
     pugi::xml_node(m_node).remove_children();
 }
 
@@ -213,47 +293,47 @@ int xml_node::attributes() const
 
 xml_attribute xml_node::first_attribute() const
 {
-    return xml_attribute(pugi::xml_node(m_node).first_attribute().internal_object());
+    return {m_tree, pugi::xml_node(m_node).first_attribute().internal_object()};
 }
 
 xml_attribute xml_node::attribute(const char16_t* name) const
 {
-    const QByteArray bytes = Bytes(name);
-    return xml_attribute(pugi::xml_node(m_node).attribute(bytes.constData()).internal_object());
+    return {m_tree, pugi::xml_node(m_node).attribute(Name(name).Text()).internal_object()};
 }
 
 xml_attribute xml_node::append_attribute(const char16_t* name, const QString& value)
 {
-    const QByteArray bytes = Bytes(name);
-    pugi::xml_attribute made = pugi::xml_node(m_node).append_attribute(bytes.constData());
+    pugi::xml_attribute made = pugi::xml_node(m_node).append_attribute(Name(name).Text());
+    if (!made)
+        return xml_attribute();
+    m_tree->index.AttributeChanged();
     made.set_value(value.toUtf8().constData());
-    return xml_attribute(made.internal_object());
+    return {m_tree, made.internal_object()};
 }
 
 xml_node xml_node::first_element_by_name(const char16_t* name) const
 {
-    if (!name)
+    if (!name || empty())
         return xml_node();
-    const QByteArray bytes = Bytes(name);
-    return Handle(pugi::xml_node(m_node).find_node(
-        [&](const pugi::xml_node& node) { return IsElement(node, bytes); }));
+    const Name wanted(name);
+    const bool isRoot = m_node == m_tree->document.internal_object();
+    return Of((isRoot ? m_tree->index.FirstByName(m_tree->document, wanted.Text())
+                      : FindByName(pugi::xml_node(m_node), wanted.Text()))
+                  .internal_object());
 }
 
 xml_node xml_node::first_element_by_attribute(const char16_t* name, const char16_t* attribute,
                                               const QString& value) const
 {
-    const QByteArray bytes = Bytes(name);
-    const QByteArray key = Bytes(attribute);
-    const QByteArray wanted = value.toUtf8();
-    return Handle(pugi::xml_node(m_node).find_node([&](const pugi::xml_node& node) {
-        if (!IsElement(node, bytes))
-            return false;
-        const pugi::xml_attribute found = node.attribute(key.constData());
-        return found && wanted == found.value();
-    }));
+    if (empty())
+        return xml_node();
+    return Of(m_tree->index
+                  .FirstByAttribute(pugi::xml_node(m_node), Name(name).Text(),
+                                    Name(attribute).Text(), View(value.toUtf8()))
+                  .internal_object());
 }
 
-xml_parser::xml_parser() : m_document(std::make_unique<pugi::xml_document>()) {}
+xml_parser::xml_parser() : m_tree(std::make_unique<Tree>()) {}
 
 xml_parser::~xml_parser() = default;
 
@@ -264,10 +344,13 @@ bool xml_parser::parse(const QString& text)
     // One mark would be skipped, yet it is text like any other.
     if (bytes.startsWith(kMark))
         bytes.prepend(kMark);
-    const pugi::xml_parse_result result = m_document->load_buffer(
+    clear();
+    pugi::xml_document& document = m_tree->document;
+    const pugi::xml_parse_result result = document.load_buffer(
         bytes.constData(), static_cast<std::size_t>(bytes.size()), kOptions, pugi::encoding_utf8);
     DepthMeter meter;
-    if (result && m_document->document_element() && m_document->traverse(meter))
+    if (result && document.document_element() && document.traverse(meter) &&
+        DeclarationsEndAsInstructions(document, bytes))
         return true;
     clear();
     return false;
@@ -275,12 +358,13 @@ bool xml_parser::parse(const QString& text)
 
 void xml_parser::clear()
 {
-    m_document->reset();
+    m_tree->index.Clear();
+    m_tree->document.reset();
 }
 
 xml_node xml_parser::document() const
 {
-    return Handle(*m_document);
+    return {m_tree.get(), m_tree->document.internal_object()};
 }
 
 } // namespace pug

@@ -1,6 +1,6 @@
 // The document tree of the settings files: nodes and attributes by handle, a parser that owns them.
-// Knows neither files nor settings. The tree is pugixml's, which only Pug.cpp includes.
-// A handle is as cheap as a pointer, may be empty, and is safe to ask and to set when it is: it
+// Knows neither files nor settings. The tree is pugixml's, which no user of this header sees.
+// A handle is as cheap as two pointers, may be empty, and is safe to ask and to set when it is: it
 // reads as empty then, and setting fails. It is good until its node is removed.
 #pragma once
 
@@ -11,12 +11,13 @@
 #include <memory>
 
 namespace pugi {
-class xml_document;
 struct xml_attribute_struct;
 struct xml_node_struct;
 } // namespace pugi
 
 namespace pug {
+
+struct Tree; // what a parser owns
 
 enum xml_node_type
 {
@@ -34,7 +35,9 @@ class ZN_API xml_attribute
 {
 public:
     xml_attribute() = default;
-    explicit xml_attribute(pugi::xml_attribute_struct* attribute) : m_attribute(attribute) {}
+    xml_attribute(Tree* tree, pugi::xml_attribute_struct* attribute)
+        : m_tree(tree), m_attribute(attribute)
+    {}
 
     bool empty() const { return m_attribute == nullptr; }
     QString name() const;
@@ -43,6 +46,7 @@ public:
     xml_attribute next_attribute() const;
 
 private:
+    Tree* m_tree = nullptr;
     pugi::xml_attribute_struct* m_attribute = nullptr;
 };
 
@@ -50,7 +54,12 @@ class ZN_API xml_node
 {
 public:
     xml_node() = default;
-    explicit xml_node(pugi::xml_node_struct* node) : m_node(node) {}
+    xml_node(Tree* tree, pugi::xml_node_struct* node) : m_tree(tree), m_node(node) {}
+
+    friend bool operator==(const xml_node& first, const xml_node& second)
+    {
+        return first.m_node == second.m_node;
+    }
 
     bool empty() const { return m_node == nullptr; }
     xml_node_type type() const;
@@ -59,6 +68,7 @@ public:
     bool set_type(xml_node_type type);
 
     QString name() const;
+    bool is_named(const char16_t* name) const;
     bool set_name(const char16_t* name);
     // The text of anything but an element; an element's is empty.
     QString value() const;
@@ -83,12 +93,16 @@ public:
     xml_attribute attribute(const char16_t* name) const;
     xml_attribute append_attribute(const char16_t* name, const QString& value);
 
-    // The first element below, in the order of the document. A null name finds nothing.
+    // The first element below, in the order of the document. A null name finds nothing. A search
+    // from the root, or by an attribute, costs a walk only for the first time.
     xml_node first_element_by_name(const char16_t* name) const;
     xml_node first_element_by_attribute(const char16_t* name, const char16_t* attribute,
                                         const QString& value) const;
 
 private:
+    xml_node Of(pugi::xml_node_struct* node) const { return xml_node(m_tree, node); }
+
+    Tree* m_tree = nullptr;
     pugi::xml_node_struct* m_node = nullptr;
 };
 
@@ -108,7 +122,7 @@ public:
     xml_node document() const; // the root, never empty
 
 private:
-    std::unique_ptr<pugi::xml_document> m_document;
+    std::unique_ptr<Tree> m_tree;
 };
 
 } // namespace pug

@@ -309,7 +309,7 @@ int CSyntaxFile::GetLexerProperties(CMapStringToString& properties)
     int count = 0;
     const pug::xml_node lexer = m_document.document().first_element_by_name(kLexer);
     for (auto child = lexer.first_child(); !child.empty(); child = child.next_sibling()) {
-        if (child.name() != u"Property" || !child.has_attributes() || !child.has_children())
+        if (!child.is_named(u"Property") || !child.has_attributes() || !child.has_children())
             continue;
         properties.insert(child.first_attribute().value(), child.first_child().value());
         ++count;

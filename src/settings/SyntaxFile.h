@@ -155,6 +155,8 @@ public:
     void CopyNode(pug::xml_node& source, pug::xml_node& target);
 
 protected:
+    // Where a section stands.
+    const pug::xml_parser& DocumentOf(const char16_t* section) const;
     pug::xml_node GetStyleNode(int style);
     pug::xml_node GetStyleFontNode(int style);
     pug::xml_node GetStyleColorNode(int style);
@@ -169,7 +171,6 @@ private:
     using Keywords = CSortedArray<QString, QString>;
 
     static bool IsCustomSection(const char16_t* section);
-    const pug::xml_parser& DocumentOf(const char16_t* section) const;
 
     void ReadCustomDocument();
     void PurgeCustomDocument();

@@ -35,7 +35,7 @@ void CSyntaxFile::ReadKeywords(int set)
     if (!description.empty() && description.value().isEmpty())
         m_descriptions[index] = QStringLiteral("Keywords %1").arg(set + 1);
     for (auto word = keywords.first_child(); !word.empty(); word = word.next_sibling()) {
-        if (word.name() == u"Word" && word.has_children())
+        if (word.is_named(u"Word") && word.has_children())
             m_keywords[index].Add(word.first_child().value());
     }
 }

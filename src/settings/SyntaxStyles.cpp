@@ -1,6 +1,19 @@
 // The styles of a syntax file, which stand in the custom document.
 #include "settings/SyntaxFile.h"
 
+namespace {
+
+// A unit that is no digit counts 0.
+int HexDigit(QChar unit)
+{
+    if (unit >= u'0' && unit <= u'9')
+        return unit.unicode() - u'0';
+    const char16_t lower = unit.unicode() | 0x20;
+    return lower >= u'a' && lower <= u'f' ? lower - u'a' + 10 : 0;
+}
+
+} // namespace
+
 pug::xml_node CSyntaxFile::GetStyleNode(int style)
 {
     if ((!m_parsed && !Parse()) || style > m_styleMax)
@@ -110,12 +123,8 @@ bool CSyntaxFile::SetStyleColor(int style, const char16_t* key, int color)
 int CSyntaxFile::RGBHexValueToColorInt(const QString& text)
 {
     int value = 0;
-    for (const int place : {4, 5, 2, 3, 0, 1}) {
-        const int digit = place < text.size()
-                              ? static_cast<int>(QStringView(text).mid(place, 1).toInt(nullptr, 16))
-                              : 0;
-        value = value * 16 + digit;
-    }
+    for (const int place : {4, 5, 2, 3, 0, 1})
+        value = value * 16 + (place < text.size() ? HexDigit(text[place]) : 0);
     return value;
 }
 

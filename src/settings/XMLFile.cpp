@@ -168,11 +168,13 @@ try {
 
 // The text is whole before the file is opened: what fails until then leaves the file as it was.
 bool CXMLFile::WriteDocument(const QString& filename, const pug::xml_parser& document)
-{
+try {
     const QString text = WriteXML(document.document());
     const std::string bytes = znutils::StringUtils::ConvertToMBString(
         {reinterpret_cast<const char16_t*>(text.utf16()), static_cast<std::size_t>(text.size())});
     return WriteWholeFile(filename, QByteArray::fromStdString(bytes));
+} catch (const std::bad_alloc&) {
+    return false;
 }
 
 int CXMLFile::GetIntFromXMLFile(const char16_t* section, const char16_t* key)

@@ -2,6 +2,7 @@
 
 #include <QStringList>
 
+#include <algorithm>
 #include <utility>
 
 namespace {
@@ -219,17 +220,17 @@ private:
         m_out += behind;
     }
 
-    void Raw(const QString& value)
+    void Raw(QStringView value)
     {
-        for (qsizetype i = 0; i < value.size(); ++i) {
-            const QChar unit = value[i];
-            if (unit != u'\r' && unit != u'\n') {
-                m_out += unit;
-                continue;
-            }
-            if (unit == u'\r' && i + 1 < value.size() && value[i + 1] == u'\n')
-                ++i;
+        const auto isLineEnd = [](QChar unit) { return unit == u'\r' || unit == u'\n'; };
+        while (!value.isEmpty()) {
+            const auto end = std::find_if(value.begin(), value.end(), isLineEnd);
+            m_out += QStringView(value.begin(), end);
+            value = value.mid(end - value.begin());
+            if (value.isEmpty())
+                return;
             Break();
+            value = value.mid(value.startsWith(u"\r\n") ? 2 : 1);
         }
     }
 

@@ -3,9 +3,8 @@
 #include "editing/FileTypeManager.h"
 #include "editing/Library.h"
 #include "platform/Exceptions.h"
+#include "platform/SpecialFolders.h"
 #include "tests/editing/Languages.h"
-
-#include <QStandardPaths>
 
 namespace {
 
@@ -75,9 +74,25 @@ TEST_F(Registry, LooksBesideTheLibraryAndInTheUsersFolder)
 {
     const CSyntaxFile& file = *m_languages.GetSyntaxFile(1);
     EXPECT_EQ(file.GetFilename(), zncoreeditor::GetAppPath() + "Syntax/CSS.xml");
-    const QString data = QStandardPaths::writableLocation(QStandardPaths::GenericDataLocation);
+    const QString data = znutils::CSpecialFolders::GetLocalAppDataPath(false);
     EXPECT_EQ(file.GetCustomFilename(), data + "/Marrowfield/Syntax/CSS.xml");
     EXPECT_TRUE(QDir(data + "/Marrowfield/Syntax").exists());
+}
+
+TEST_F(Registry, KeepsNoColoursOfAUserWithoutAFolder)
+{
+    struct Nowhere final : ISpecialFolders
+    {
+        QString LocalAppData() const override { return QString(); }
+    } nowhere;
+    SetSpecialFolders(&nowhere);
+    m_config.SetLanguageSyntaxFileName(1, QStringLiteral("SQL.xml"));
+    m_languages.Init(&m_config);
+    SetSpecialFolders(nullptr);
+    CSyntaxFile& file = *m_languages.GetSyntaxFile(1);
+    EXPECT_EQ(file.GetCustomFilename(), QString());
+    EXPECT_TRUE(file.Parse());
+    EXPECT_GT(file.GetStyleMax(), 0);
 }
 
 TEST_F(Registry, ReadsALanguageAgainAfterInit)
@@ -192,6 +207,36 @@ TEST(ShippedLanguages, AllParse)
         EXPECT_TRUE(languages.GetSyntaxFile(i)->Parse()) << i;
         EXPECT_GE(languages.GetSyntaxFile(i)->GetLexerNumber(), 0) << i;
     }
+}
+
+TEST(TextsOfTheLibrary, AreAllThere)
+{
+    const IZNBaseResourceLoader& texts = zncoreeditor::GetResourceLoader();
+    for (const UINT id : {28167u, 28168u, 28169u, 28170u, 28171u, 28172u, 28173u, 28174u, 28175u,
+                          28176u, 28177u, 28178u, 53892u, 53893u, 53950u, 53990u, 53991u, 54003u,
+                          54006u, 54008u, 54010u, 54070u, 57344u, 57346u, 57612u, 59140u, 59141u})
+        EXPECT_FALSE(texts.LoadString(id).isEmpty()) << id;
+    EXPECT_EQ(texts.LoadString(53950),
+              QStringLiteral("Bring up the auto complete editor\nAuto Complete Editor"));
+    EXPECT_EQ(texts.FormatString(28169, {QStringLiteral("a.sql"), texts.LoadString(28170)}),
+              QStringLiteral("Unable to open the included file 'a.sql': "
+                             "No such file or directory"));
+}
+
+TEST(TextsOfTheLibrary, AreTranslatedByAnotherTable)
+{
+    LanguageFiles files;
+    QFile file(files.Path(QStringLiteral("de.xml")));
+    ASSERT_TRUE(file.open(QIODevice::WriteOnly));
+    file.write("<strings><string id=\"28173\">Datei zu gro\xC3\x9F</string></strings>");
+    file.close();
+    const CZNBaseResourceLoader german(files.Path(QStringLiteral("de.xml")));
+    zncoreeditor::SetResourceLoader(&german);
+    EXPECT_EQ(zncoreeditor::GetResourceLoader().LoadString(28173),
+              QStringLiteral("Datei zu gro\u00df"));
+    zncoreeditor::SetResourceLoader(nullptr);
+    EXPECT_EQ(zncoreeditor::GetResourceLoader().LoadString(28173),
+              QStringLiteral("File too large"));
 }
 
 TEST(LibraryStart, FoundItsConfiguration)

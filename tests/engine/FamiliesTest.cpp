@@ -370,6 +370,7 @@ TEST_F(Families, AnImageComesAsLinesOrAsOneText)
     };
     Start(u"a\n");
     m_engine.Send(msg::SetMarginWidthN, 2, LPARAM{16});
+    m_engine.Send(msg::SetMarginMaskN, 2, LPARAM{1 << 2});
     m_engine.Send(msg::MarkerAdd, 0, LPARAM{2});
     m_engine.Send(msg::MarkerDefinePixmap, 2, static_cast<const void*>(lines));
     EXPECT_TRUE(shows(0xFFFF0000));
@@ -381,6 +382,7 @@ TEST_F(Families, WhatIsNoImageChangesNoMarker)
 {
     Start(u"a\n");
     m_engine.Send(msg::SetMarginWidthN, 2, LPARAM{16});
+    m_engine.Send(msg::SetMarginMaskN, 2, LPARAM{1 << 2});
     m_engine.Send(msg::MarkerAdd, 0, LPARAM{2});
     const QImage before = m_engine.Window()->grab().toImage();
     const char* cut[] = {"4 4 1 1", "x c #FF0000", nullptr};

@@ -22,27 +22,41 @@ QString NameOf(int language)
 }
 
 class WorkbenchLanguages : public WorkbenchTest
-{
-};
+{};
 
 TEST(FileLanguages, GoByTheNameOfTheFile)
 {
     const std::pair<const char*, const char*> kFiles[] = {
-        {"/a/b/script.sql", "SQL"},        {"REPORT.SQL", "SQL"},
-        {"x.tsql", "Transact-SQL"},        {"x.mssql.sql", "Transact-SQL"},
-        {"body.pkb", "PL/SQL"},            {"a.mysql", "MySQL"},
-        {"a.pgsql", "PostgreSQL"},         {".psqlrc", "PostgreSQL"},
-        {"a.sqlite.sql", "SQLite"},        {"a.db2", "DB2"},
-        {"a.ase", "Sybase ASE"},           {"a.iq", "Sybase IQ"},
-        {"a.firebird.sql", "InterBase/Firebird"}, {"a.azure.sql", "Azure SQL"},
-        {"index.html", "HTML"},            {"a.xml", "XML"},
-        {"a.css", "CSS"},                  {"a.cpp", "C++"},
-        {"a.vb", "Visual Basic"},          {"run.bat", "Batch"},
-        {"a.properties", "Properties"},    {"Makefile", "Makefile"},
-        {"rules.mk", "Makefile"},          {"a.patch", "Diff"},
-        {"a.pl", "Perl"},                  {"a.php", "PHP"},
-        {"a.tex", "LaTeX"},                {"README", "Text"},
-        {"a.txt", "Text"},                 {"", "Text"},
+        {"/a/b/script.sql", "SQL"},
+        {"REPORT.SQL", "SQL"},
+        {"x.tsql", "Transact-SQL"},
+        {"x.mssql.sql", "Transact-SQL"},
+        {"body.pkb", "PL/SQL"},
+        {"a.mysql", "MySQL"},
+        {"a.pgsql", "PostgreSQL"},
+        {".psqlrc", "PostgreSQL"},
+        {"a.sqlite.sql", "SQLite"},
+        {"a.db2", "DB2"},
+        {"a.ase", "Sybase ASE"},
+        {"a.iq", "Sybase IQ"},
+        {"a.firebird.sql", "InterBase/Firebird"},
+        {"a.azure.sql", "Azure SQL"},
+        {"index.html", "HTML"},
+        {"a.xml", "XML"},
+        {"a.css", "CSS"},
+        {"a.cpp", "C++"},
+        {"a.vb", "Visual Basic"},
+        {"run.bat", "Batch"},
+        {"a.properties", "Properties"},
+        {"Makefile", "Makefile"},
+        {"rules.mk", "Makefile"},
+        {"a.patch", "Diff"},
+        {"a.pl", "Perl"},
+        {"a.php", "PHP"},
+        {"a.tex", "LaTeX"},
+        {"README", "Text"},
+        {"a.txt", "Text"},
+        {"", "Text"},
         {"sql", "Text"},
     };
     for (const auto& [file, language] : kFiles)

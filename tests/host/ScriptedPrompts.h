@@ -35,13 +35,14 @@ public:
     Answer Ask(HWND, const QString& text, Buttons buttons) override
     {
         told << text;
-        return buttons == Buttons::Ok ? Answer::Ok : Answer::No;
+        return buttons == Buttons::Ok ? Answer::Ok : answer;
     }
 
     QStringList filesToOpen;
     std::optional<SaveTarget> saveTarget;
     LoseChanges loseChanges = LoseChanges::Cancel;
     bool confirm = false;
+    Answer answer = Answer::No; // to the editor's questions
 
     QStringList proposals;
     QStringList asked;

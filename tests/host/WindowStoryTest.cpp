@@ -1,36 +1,12 @@
 // The real program on a real display, driven with real keys and a real mouse.
-#include <QElapsedTimer>
+#include "tests/host/XDoTool.h"
+
 #include <QFile>
-#include <QProcess>
 #include <QTemporaryDir>
 
 #include <gtest/gtest.h>
 
-#include <functional>
-
 namespace {
-
-constexpr int kPatienceInMs = 20000;
-
-// One program of the display's toolbox; what it printed, without the last line end.
-QString XDoTool(const QStringList& words)
-{
-    QProcess tool;
-    tool.start(QStringLiteral("xdotool"), words);
-    tool.waitForFinished();
-    return QString::fromUtf8(tool.readAllStandardOutput()).trimmed();
-}
-
-bool Eventually(const std::function<bool()>& condition)
-{
-    QElapsedTimer clock;
-    clock.start();
-    while (clock.elapsed() < kPatienceInMs) {
-        if (condition())
-            return true;
-    }
-    return false;
-}
 
 class WindowStory : public testing::Test
 {

@@ -56,12 +56,16 @@ public:
                 return;
             m_timer.stop();
             text = box->text();
+            title = box->windowTitle();
+            format = box->textFormat();
             box->button(button)->click();
         });
         m_timer.start(1);
     }
 
     QString text;
+    QString title;
+    Qt::TextFormat format = Qt::AutoText;
 
 private:
     QTimer m_timer;
@@ -82,6 +86,14 @@ TEST(Questions, AreBoxesWithoutAService)
     const PressInBox press(QMessageBox::Ok);
     ShowMessage(&owner, QStringLiteral("Cut short."));
     EXPECT_EQ(press.text, QStringLiteral("Cut short."));
+    EXPECT_EQ(press.title, QGuiApplication::applicationDisplayName());
+}
+
+TEST(Questions, ShowAPathThatLooksLikeMarkupAsItIs)
+{
+    const PressInBox press(QMessageBox::Ok);
+    ShowMessage(nullptr, QStringLiteral("<b>a</b>.sql"));
+    EXPECT_EQ(press.format, Qt::PlainText);
 }
 
 } // namespace

@@ -262,4 +262,26 @@ TEST_F(ConfigFile, HasNoPlaceForWordsUnlessTheFileHas)
     EXPECT_FALSE(config.GetModified());
 }
 
+TEST_F(ConfigFile, AFileThatCannotBeParsedReadsAsEmptyAndStays)
+{
+    for (const QByteArray text : {"", "<C><Languages count=\"1\">", "no XML at all"}) {
+        Put("config", text);
+        CConfigFile file;
+        file.SetFilename(PathOf("config"));
+        EXPECT_EQ(file.GetFileTracking(), 0);
+        EXPECT_FALSE(file.SetFileTracking(1));
+        EXPECT_EQ(file.GetLanguageCount(), -1);
+        EXPECT_EQ(file.GetLanguageName(0), "");
+        EXPECT_FALSE(file.SetLanguageName(0, "x"));
+        EXPECT_FALSE(file.AddLanguage("x", "y", "z", ""));
+        EXPECT_FALSE(file.RemoveLanguage(0));
+        EXPECT_EQ(file.GetInsertTextWord(0), "");
+        EXPECT_FALSE(file.AddInsertTextWord("x"));
+        EXPECT_FALSE(file.RemoveInsertTextWords());
+        file.SetModified(true);
+        EXPECT_FALSE(file.Save());
+        EXPECT_EQ(Get("config"), text);
+    }
+}
+
 } // namespace

@@ -1,8 +1,11 @@
 // A language by its two files: routing, styles, keywords, lexer.
+#include "FullDisk.h"
 #include "OrdinaryUser.h"
 #include "SettingsFolder.h"
 
 #include "settings/SyntaxFile.h"
+
+#include <QDir>
 
 #include <functional>
 
@@ -411,6 +414,14 @@ TEST_F(SyntaxFile, ConvertsColours)
     EXPECT_EQ(OpenSyntaxFile::RGBHexValueToColorInt("abcdef12"), 0xEFCDAB);
     EXPECT_EQ(OpenSyntaxFile::RGBHexValueToColorInt(""), 0);
     EXPECT_EQ(OpenSyntaxFile::RGBHexValueToColorInt("FF"), 0xFF);
+    const QString digits = "0123456789abcdef";
+    for (int unit = 1; unit <= 0xFFFF; ++unit) {
+        const QChar digit(unit);
+        const auto value = unit < 0x80 ? digits.indexOf(digit.toLower()) : -1;
+        ASSERT_EQ(OpenSyntaxFile::RGBHexValueToColorInt(QString(6, digit)),
+                  value < 0 ? 0 : value * 0x111111)
+            << unit;
+    }
 }
 
 TEST_F(SyntaxFile, CopiesANodeWithAllBelowIt)
@@ -474,6 +485,43 @@ TEST_F(SyntaxFile, ACustomFileThatCannotBeWrittenFailsTheSave)
     syntax.SetCustomFilename(PathOf("no/such"));
     EXPECT_FALSE(syntax.Save());
     EXPECT_FALSE(syntax.GetModified()) << "the base file was saved";
+}
+
+TEST_F(SyntaxFile, AFullDiskKeepsBothFiles)
+{
+    const QByteArray custom = "<Syntax>" + kStyles + "</Syntax>";
+    OpenWithCustom(custom);
+    EXPECT_TRUE(syntax.SetStyleFontSize(0, 12));
+    for (const rlim_t room : {0, 100, 300}) {
+        const FullDisk disk(room);
+        EXPECT_FALSE(syntax.Save());
+        EXPECT_TRUE(syntax.GetModified());
+        EXPECT_EQ(Get("base"), kBase);
+        EXPECT_EQ(Get("custom"), custom);
+    }
+    EXPECT_TRUE(syntax.Save());
+    EXPECT_TRUE(Get("custom").contains("<Size>12</Size>"));
+}
+
+TEST_F(SyntaxFile, WhateverStandsInPlaceOfTheCustomFileLeavesTheStylesOfTheBaseFile)
+{
+    constexpr int kLevels = 100'000;
+    const QByteArray deep =
+        QByteArray("<Syntax>").repeated(kLevels) + "x" + QByteArray("</Syntax>").repeated(kLevels);
+    for (const QByteArray& custom :
+         {QByteArray(), QByteArray("no XML at all"), QByteArray("<Syntax>\0</Syntax>", 18), deep}) {
+        syntax.Clear();
+        OpenWithCustom(custom);
+        EXPECT_EQ(syntax.GetStyleName(0), "Default");
+        EXPECT_EQ(Get("custom"), custom);
+    }
+    syntax.Clear();
+    ASSERT_TRUE(QFile::remove(PathOf("custom")));
+    ASSERT_TRUE(QDir().mkdir(PathOf("custom")));
+    EXPECT_EQ(syntax.GetStyleName(0), "Default");
+    EXPECT_TRUE(syntax.SetStyleFontSize(0, 12));
+    EXPECT_FALSE(syntax.Save());
+    EXPECT_TRUE(QDir(PathOf("custom")).exists());
 }
 
 TEST_F(SyntaxFile, SaveWithoutChangesWritesNeitherFile)

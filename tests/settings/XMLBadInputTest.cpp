@@ -1,4 +1,5 @@
 // What is no settings file reads as empty, and is never written over.
+#include "FullDisk.h"
 #include "OpenXMLFile.h"
 #include "OrdinaryUser.h"
 #include "SettingsFolder.h"
@@ -50,6 +51,38 @@ TEST_F(XMLBadInput, WhatIsNotWellFormedIsUnusable)
     }
 }
 
+TEST_F(XMLBadInput, ADeclarationThatDoesNotEndAsOneIsUnusable)
+{
+    for (const char* text :
+         {"<?xml a='?>'><S><K>1</K></S></xml>", "<?xml a='1'><S><K>1</K></S></xml><?b?>",
+          "<?xml/><S><K>1</K></S><!-- ?> -->", "<?xml a='?>'/><S><K>1</K></S>",
+          "<?XML a=\"?>\"><S><K>1</K></S></XML>", "<?xml a='1'><?b?> c='2'/><S><K>1</K></S>"}) {
+        SCOPED_TRACE(text);
+        Put("a", text);
+        ExpectUnusable("a");
+    }
+}
+
+// The second declaration has its end in the quotes, and all that follows below it.
+TEST_F(XMLBadInput, ADeclarationInTheMiddleThatDoesNotEndAsOneIsUnusable)
+{
+    Put("a", "\r!<S/>V/><S\xDB/>\n\t\xE8<V/>><S/>4\nV/$\1><S\xDB/>>\nV<?xml version='1.0'?>"
+             "<?xml version='1.0\xFC\r\r\r/>'\r\r\r\r>'\r\n\n\r\t\r<S/>'\r]\x7F\r!<S/>"
+             " version='1.0'?>/>\n\r\xE8<V/>\nVl version='1.0'.0'?><?xlemv rsion='1.0'?>/>"
+             "\n\r\xE8<V/>\nV/>\n/>\n\r\xE8<Z/>\nV<?\xFFxml version='1.0'?>/>\n/");
+    ExpectUnusable("a");
+}
+
+TEST_F(XMLBadInput, TextSeveralRootsAndSeveralDeclarationsAreRead)
+{
+    Put("a", "\r!<S><K>1</K></S>V/><?xml version='1.0'?>\nW<?XML b=\"/>'\" ?><T/>X");
+    OpenXMLFile file(PathOf("a"));
+    EXPECT_TRUE(file.SetIntToXMLFile(u"S", u"K", 2));
+    EXPECT_TRUE(file.Save());
+    EXPECT_EQ(Get("a"), "\r\n!\r\n<S>\r\n\t<K>2</K>\r\n</S>\r\nV/>\r\n<?xml version=\"1.0\"?>"
+                        "\r\n\r\nW\r\n<?XML b=\"/>'\"?>\r\n<T/>\r\nX\r\n");
+}
+
 TEST_F(XMLBadInput, AFileCutAtAnyByteIsUnusable)
 {
     const QByteArray whole =
@@ -86,14 +119,15 @@ TEST_F(XMLBadInput, NestingThatSomeoneMightMeanIsRead)
 
 TEST_F(XMLBadInput, HugeValuesAreReadAndWritten)
 {
-    const QByteArray huge(8'000'000, 'x');
-    Put("a", "<S a=\"" + huge + "\"><K>1</K><L>" + huge + "</L></S>");
+    const QByteArray attribute(64 * 1024 * 1024, 'x');
+    const QByteArray text(8 * 1024 * 1024, 'y');
+    Put("a", "<S a=\"" + attribute + "\"><K>1</K><L>" + text + "</L></S>");
     OpenXMLFile file(PathOf("a"));
-    EXPECT_EQ(file.GetStringAttributeFromXMLFile(u"S", nullptr, u"a").size(), huge.size());
+    EXPECT_EQ(file.GetStringAttributeFromXMLFile(u"S", nullptr, u"a").size(), attribute.size());
     EXPECT_TRUE(file.SetIntToXMLFile(u"S", u"K", 2));
     EXPECT_TRUE(file.Save());
-    EXPECT_EQ(Get("a"),
-              "<S a=\"" + huge + "\">\r\n\t<K>2</K>\r\n\t<L>" + huge + "</L>\r\n</S>\r\n");
+    EXPECT_TRUE(Get("a") ==
+                "<S a=\"" + attribute + "\">\r\n\t<K>2</K>\r\n\t<L>" + text + "</L>\r\n</S>\r\n");
 }
 
 TEST_F(XMLBadInput, FoldersAndPipesAreUnusable)
@@ -155,6 +189,53 @@ TEST_F(XMLBadInput, WhatSomeoneElseWroteMeanwhileIsReplacedWhole)
     Put("a", QByteArray(10'000, 'z'));
     EXPECT_TRUE(file.Save());
     EXPECT_EQ(Get("a"), "<S>\r\n\t<K>2</K>\r\n</S>\r\n");
+}
+
+TEST_F(XMLBadInput, AFileThatSomeoneTookAwayIsWrittenAgain)
+{
+    Put("a", "<S><K>1</K></S>");
+    OpenXMLFile file(PathOf("a"));
+    ASSERT_TRUE(file.SetIntToXMLFile(u"S", u"K", 2));
+    ASSERT_TRUE(QFile::remove(PathOf("a")));
+    EXPECT_TRUE(file.Save());
+    EXPECT_EQ(Get("a"), "<S>\r\n\t<K>2</K>\r\n</S>\r\n");
+    ASSERT_TRUE(file.SetIntToXMLFile(u"S", u"K", 3));
+    ASSERT_TRUE(QFile::remove(PathOf("a")));
+    ASSERT_TRUE(QDir().mkdir(PathOf("a")));
+    EXPECT_FALSE(file.Save());
+    EXPECT_TRUE(file.GetModified());
+    EXPECT_EQ(file.GetIntFromXMLFile(u"S", u"K"), 3);
+}
+
+TEST_F(XMLBadInput, AFileThatSomeoneBrokeIsNotWrittenOverOnceItHasToBeReadAgain)
+{
+    Put("a", "<S><K>1</K></S>");
+    OpenXMLFile file(PathOf("a"));
+    ASSERT_TRUE(file.SetIntToXMLFile(u"S", u"K", 2));
+    Put("a", "<S><K>");
+    EXPECT_TRUE(file.Revert());
+    EXPECT_FALSE(file.SetIntToXMLFile(u"S", u"K", 2));
+    EXPECT_FALSE(file.Save());
+    EXPECT_EQ(Get("a"), "<S><K>");
+}
+
+TEST_F(XMLBadInput, AFullDiskKeepsTheFileAndTheChange)
+{
+    const QByteArray before = "<S><K>1</K></S>";
+    const QByteArray after = "<S>\r\n\t<K>2</K>\r\n</S>\r\n";
+    Put("a", before);
+    OpenXMLFile file(PathOf("a"));
+    ASSERT_TRUE(file.SetIntToXMLFile(u"S", u"K", 2));
+    const auto enough = static_cast<rlim_t>(after.size());
+    for (rlim_t room = 0; room < enough; ++room) {
+        const FullDisk disk(room);
+        EXPECT_FALSE(file.Save()) << room;
+        EXPECT_TRUE(file.GetModified());
+        EXPECT_EQ(Get("a"), before) << room;
+    }
+    const FullDisk disk(enough);
+    EXPECT_TRUE(file.Save());
+    EXPECT_EQ(Get("a"), after);
 }
 
 TEST_F(XMLBadInput, DamagedFilesNeverCrash)

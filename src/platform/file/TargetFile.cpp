@@ -1,4 +1,4 @@
-#include "control/TargetFile.h"
+#include "platform/file/TargetFile.h"
 
 #include <array>
 #include <cerrno>
@@ -122,7 +122,9 @@ bool TargetFile::OpenBeside(const QByteArray& path)
         return Adopt(existing);
     const bool created =
         known && CreateBeside(0600) && CopyPermissions(existing, status, fileno(m_file));
+    const int reason = errno;
     close(existing);
+    errno = reason;
     return created;
 }
 

@@ -1,5 +1,5 @@
 // Writing in place and beside: what stands on the disk after every failure.
-#include "control/TargetFile.h"
+#include "platform/file/TargetFile.h"
 
 #include <gtest/gtest.h>
 

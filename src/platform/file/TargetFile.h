@@ -19,7 +19,8 @@ public:
 
     bool OpenInPlace(const QByteArray& path);
     // Follows symbolic links and keeps owner and permissions of a target that exists. A device or
-    // a pipe is written in place. False also for a folder and for a target that is read-only.
+    // a pipe is written in place. False also for a folder and for a target that is read-only; errno
+    // tells why.
     bool OpenBeside(const QByteArray& path);
 
     // False if the bytes could not be written whole. Then, and for every later failure, Close is

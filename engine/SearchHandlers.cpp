@@ -1,0 +1,131 @@
+// Messages that search: over the target, from the anchor and in a range. The stock engine keeps the
+// target and its flags; what is found in between is this engine's own.
+#include "engine/Engine.h"
+#include "engine/Handlers.h"
+
+#include <algorithm>
+#include <new>
+
+namespace engine {
+namespace {
+
+using Sci = QsciScintillaBase;
+using search::Range;
+
+// The text beside a count of units; a negative count means up to the terminator.
+std::u16string_view CountedText(WPARAM length, LPARAM text)
+{
+    const auto* units = reinterpret_cast<const char16_t*>(text);
+    const auto count = static_cast<long>(static_cast<int>(length));
+    if (!units || count < 0)
+        return TerminatedText(units);
+    return {units, static_cast<std::size_t>(count)};
+}
+
+LRESULT SearchInTarget(Engine& engine, WPARAM wParam, LPARAM lParam)
+{
+    const Utf8Text sought(CountedText(wParam, lParam));
+    const auto found = engine.searcher.Find(
+        sought.View(), static_cast<int>(engine.raw.Send(Sci::SCI_GETSEARCHFLAGS)),
+        static_cast<long>(engine.raw.Send(Sci::SCI_GETTARGETSTART)),
+        static_cast<long>(engine.raw.Send(Sci::SCI_GETTARGETEND)));
+    if (!found)
+        return -1;
+    engine.raw.Send(Sci::SCI_SETTARGETRANGE, static_cast<WPARAM>(found->start), found->end);
+    return engine.Units(found->start);
+}
+
+LRESULT FindText(Engine& engine, WPARAM wParam, LPARAM lParam)
+{
+    auto* record = reinterpret_cast<TextToFind*>(lParam);
+    if (!record || !record->lpstrText)
+        return -1;
+    const Utf8Text sought(TerminatedText(record->lpstrText));
+    const auto toBytes = [&engine](int position) {
+        return position < 0 ? engine.raw.Length() : engine.Bytes(position);
+    };
+    const auto found =
+        engine.searcher.Find(sought.View(), static_cast<int>(wParam), toBytes(record->chrg.cpMin),
+                             toBytes(record->chrg.cpMax));
+    if (!found)
+        return -1;
+    record->chrgText.cpMin = static_cast<int>(engine.Units(found->start));
+    record->chrgText.cpMax = static_cast<int>(engine.Units(found->end));
+    return record->chrgText.cpMin;
+}
+
+// The stock engine records the message for a macro.
+LRESULT SearchAnchor(Engine& engine, WPARAM, LPARAM)
+{
+    engine.raw.Send(Sci::SCI_SEARCHANCHOR);
+    engine.searchAnchor = static_cast<long>(engine.raw.Send(Sci::SCI_GETSELECTIONSTART));
+    return 0;
+}
+
+// From the anchor, which stays, to the text's end or start. The match becomes the selection, with
+// the caret at its start.
+LRESULT SearchFromAnchor(Engine& engine, UINT number, WPARAM flags, LPARAM text)
+{
+    if (engine.recording)
+        engine.reporter.Tell(
+            notify::MacroRecord,
+            {.message = static_cast<int>(number), .wParam = flags, .lParam = text});
+    const Utf8Text sought(TerminatedText(reinterpret_cast<const char16_t*>(text)));
+    const long to = number == message::SearchNext ? engine.raw.Length() : 0;
+    const auto found =
+        engine.searcher.Find(sought.View(), static_cast<int>(flags), engine.searchAnchor, to);
+    if (!found)
+        return -1;
+    engine.raw.Send(Sci::SCI_SETCURRENTPOS, static_cast<WPARAM>(found->start));
+    engine.raw.Send(Sci::SCI_SETANCHOR, static_cast<WPARAM>(found->end));
+    return engine.Units(found->start);
+}
+
+template <UINT Number>
+LRESULT SearchFromAnchor(Engine& engine, WPARAM wParam, LPARAM lParam)
+{
+    return SearchFromAnchor(engine, Number, wParam, lParam);
+}
+
+// Gives the units of what the target became.
+LRESULT ReplaceTargetRe(Engine& engine, WPARAM wParam, LPARAM lParam)
+{
+    const Utf8Text replacement(CountedText(wParam, lParam));
+    const std::string text = engine.searcher.Substituted(replacement.View());
+    engine.raw.Send(Sci::SCI_REPLACETARGET, text.size(), text.data());
+    if (engine.raw.Send(Sci::SCI_GETSTATUS) == Sci::SC_STATUS_BADALLOC) {
+        engine.raw.Send(Sci::SCI_SETSTATUS, 0);
+        throw std::bad_alloc();
+    }
+    return engine.Units(static_cast<long>(engine.raw.Send(Sci::SCI_GETTARGETEND))) -
+           engine.Units(static_cast<long>(engine.raw.Send(Sci::SCI_GETTARGETSTART)));
+}
+
+// The stock engine does not tell whether it records.
+template <UINT Number, bool Recording>
+LRESULT SetRecording(Engine& engine, WPARAM, LPARAM)
+{
+    engine.raw.Send(Number);
+    engine.recording = Recording;
+    return 0;
+}
+
+constexpr HandlerRow kRows[] = {
+    {message::SearchInTarget, SearchInTarget},
+    {message::FindTextW, FindText},
+    {message::SearchAnchor, SearchAnchor},
+    {message::SearchNext, SearchFromAnchor<message::SearchNext>},
+    {message::SearchPrev, SearchFromAnchor<message::SearchPrev>},
+    {message::ReplaceTargetRE, ReplaceTargetRe},
+    {message::StartRecord, SetRecording<Sci::SCI_STARTRECORD, true>},
+    {message::StopRecord, SetRecording<Sci::SCI_STOPRECORD, false>},
+};
+
+} // namespace
+
+std::span<const HandlerRow> SearchHandlers()
+{
+    return kRows;
+}
+
+} // namespace engine

@@ -1,0 +1,46 @@
+// StoredText: the text of a window as the search sees it.
+#pragma once
+
+#include "engine/Raw.h"
+#include "engine/search/SearchedText.h"
+
+namespace engine {
+
+class StoredText final : public search::SearchedText
+{
+public:
+    explicit StoredText(const Raw& raw) : m_raw(raw) {}
+
+    long Length() const override { return m_raw.Length(); }
+    long Gap() const override
+    {
+        return static_cast<long>(m_raw.Send(Raw::Sci::SCI_GETGAPPOSITION));
+    }
+    std::string_view Bytes(long start, long end) const override { return m_raw.Bytes(start, end); }
+
+    bool IsWord(long start, long end) const override
+    {
+        return m_raw.Send(Raw::Sci::SCI_ISRANGEWORD, static_cast<std::uintptr_t>(start),
+                          static_cast<std::intptr_t>(end)) != 0;
+    }
+
+    // The text's end is always one of a word, unless the text ends where the word starts.
+    bool IsWordStart(long at) const override { return IsWord(at, Length()); }
+
+    std::string WordCharacters() const override
+    {
+        char characters[257] = {};
+        const auto size = m_raw.Send(Raw::Sci::SCI_GETWORDCHARS, 0, characters);
+        std::string words;
+        for (std::intptr_t i = 0; i < size; ++i) {
+            if (characters[i] >= 0)
+                words += characters[i];
+        }
+        return words;
+    }
+
+private:
+    const Raw& m_raw;
+};
+
+} // namespace engine

@@ -1,0 +1,145 @@
+#include "engine/search/Expression.h"
+
+#define PCRE2_CODE_UNIT_WIDTH 8
+#include <pcre2.h>
+
+namespace engine::search {
+namespace {
+
+constexpr std::uint32_t kMatchLimit = 10'000'000; // backtracks from one start
+constexpr std::uint32_t kDepthLimit = 1'000'000;  // of the interpreter
+constexpr std::uint32_t kHeapLimit = 64 * 1024;   // KB, of the interpreter
+constexpr std::size_t kFirstStack = 64 * 1024;    // bytes, of compiled code
+constexpr std::size_t kLargestStack = 16 * 1024 * 1024;
+constexpr std::size_t kLongestPattern = 1024 * 1024; // bytes
+
+// A line ends with CR, LF or both, whatever the text has.
+pcre2_compile_context* CompileContext()
+{
+    static pcre2_compile_context* const context = [] {
+        pcre2_compile_context* made = pcre2_compile_context_create(nullptr);
+        pcre2_set_newline(made, PCRE2_NEWLINE_ANYCRLF);
+        pcre2_set_max_pattern_length(made, kLongestPattern);
+        return made;
+    }();
+    return context;
+}
+
+pcre2_match_context* MatchContext()
+{
+    static pcre2_match_context* const context = [] {
+        pcre2_match_context* made = pcre2_match_context_create(nullptr);
+        pcre2_set_match_limit(made, kMatchLimit);
+        pcre2_set_depth_limit(made, kDepthLimit);
+        pcre2_set_heap_limit(made, kHeapLimit);
+        static pcre2_jit_stack* const stack =
+            pcre2_jit_stack_create(kFirstStack, kLargestStack, nullptr);
+        pcre2_jit_stack_assign(made, nullptr, stack);
+        return made;
+    }();
+    return context;
+}
+
+pcre2_code* CompileWith(const std::string& pattern, unsigned options)
+{
+    int error = 0;
+    PCRE2_SIZE place = 0;
+    pcre2_code* code = pcre2_compile(reinterpret_cast<PCRE2_SPTR>(pattern.data()), pattern.size(),
+                                     options, &error, &place, CompileContext());
+    if (code) // without its compiler PCRE2 interprets, with the same matches
+        pcre2_jit_compile(code, PCRE2_JIT_COMPLETE);
+    return code;
+}
+
+} // namespace
+
+void Expression::FreeCode::operator()(pcre2_real_code_8* code) const
+{
+    pcre2_code_free(code);
+}
+
+void Expression::FreeMatch::operator()(pcre2_real_match_data_8* match) const
+{
+    pcre2_match_data_free(match);
+}
+
+std::unique_ptr<Expression> Expression::Compile(const std::string& pattern, Reading reading,
+                                                bool matchCase)
+{
+    // The text may hold half a character, where somebody replaced a target that was set for
+    // another text.
+    unsigned options = PCRE2_UTF | PCRE2_MATCH_INVALID_UTF | PCRE2_NEVER_BACKSLASH_C;
+    options |= reading == Reading::Plain ? PCRE2_LITERAL : PCRE2_MULTILINE | PCRE2_ALT_CIRCUMFLEX;
+    if (reading == Reading::Plain)
+        options &= ~PCRE2_NEVER_BACKSLASH_C;
+    if (!matchCase)
+        options |= PCRE2_CASELESS;
+    pcre2_code* code = CompileWith(pattern, options);
+    return std::unique_ptr<Expression>(code ? new Expression(code, pattern, options) : nullptr);
+}
+
+Expression::Expression(pcre2_real_code_8* code, std::string pattern, unsigned options)
+    : m_pattern(std::move(pattern)), m_options(options), m_code(code),
+      m_match(pcre2_match_data_create_from_pattern(code, nullptr))
+{
+    std::uint32_t value = 0;
+    pcre2_pattern_info(code, PCRE2_INFO_MAXLOOKBEHIND, &value);
+    m_lookbehind = value;
+    pcre2_pattern_info(code, PCRE2_INFO_CAPTURECOUNT, &value);
+    m_groups = static_cast<int>(value);
+}
+
+Expression::~Expression() = default;
+
+bool Expression::Prepare(const Run& run)
+{
+    if (run.lastStart != kAnywhere && !m_bounded)
+        m_bounded.reset(CompileWith(m_pattern, m_options | PCRE2_USE_OFFSET_LIMIT));
+    if (run.isUnfinished && !m_knowsPartial) {
+        pcre2_jit_compile(m_code.get(), PCRE2_JIT_PARTIAL_HARD);
+        m_knowsPartial = true;
+    }
+    return m_match && (run.lastStart == kAnywhere || m_bounded);
+}
+
+Expression::Outcome Expression::Find(std::string_view subject, const Run& run)
+{
+    if (!Prepare(run))
+        return Outcome::Stopped;
+    unsigned options = 0;
+    if (run.isUnfinished)
+        options |= PCRE2_PARTIAL_HARD;
+    if (run.endsInLine)
+        options |= PCRE2_NOTEOL;
+    if (run.notEmptyAtStart)
+        options |= PCRE2_NOTEMPTY_ATSTART;
+    const bool isBounded = run.lastStart != kAnywhere;
+    pcre2_match_context* context = MatchContext();
+    pcre2_set_offset_limit(context, isBounded ? run.lastStart : PCRE2_UNSET);
+    const int result = pcre2_match(isBounded ? m_bounded.get() : m_code.get(),
+                                   reinterpret_cast<PCRE2_SPTR>(subject.data()), subject.size(),
+                                   run.from, options, m_match.get(), context);
+    if (result == PCRE2_ERROR_NOMATCH)
+        return Outcome::NotFound;
+    if (result == PCRE2_ERROR_PARTIAL)
+        return Outcome::Partial;
+    // \K in a lookaround moves the start to where no match can be.
+    const bool isSound = result > 0 && Start() >= run.from && Start() <= End();
+    return isSound ? Outcome::Found : Outcome::Stopped;
+}
+
+std::size_t Expression::Start(int group) const
+{
+    return group <= m_groups
+               ? pcre2_get_ovector_pointer(m_match.get())[2 * static_cast<std::size_t>(group)]
+               : kAnywhere;
+}
+
+std::size_t Expression::End(int group) const
+{
+    return group <= m_groups
+               ? pcre2_get_ovector_pointer(m_match.get())[2 * static_cast<std::size_t>(group) + 1]
+               : kAnywhere;
+}
+
+} // namespace engine::search

@@ -1,0 +1,86 @@
+// Expression: a compiled pattern of PCRE2, run over UTF-8 that may be ill-formed.
+// What it may cost is bounded: a match attempt that goes on for too long ends the search.
+#pragma once
+
+#include <array>
+#include <cstddef>
+#include <memory>
+#include <string>
+#include <string_view>
+
+// PCRE2's own types, which only the source file needs.
+struct pcre2_real_code_8;
+struct pcre2_real_match_data_8;
+
+namespace engine::search {
+
+class Expression
+{
+public:
+    enum class Reading
+    {
+        Pattern,
+        Plain, // no character means anything but itself
+    };
+
+    enum class Outcome
+    {
+        Found,
+        NotFound,
+        Partial, // only in an unfinished subject: what follows decides what starts here
+        Stopped, // it took too long
+    };
+
+    struct Run
+    {
+        std::size_t from = 0;              // where a match may start
+        std::size_t lastStart = kAnywhere; // and where at the latest
+        bool isUnfinished = false;         // more text follows the subject
+        bool endsInLine = false;           // the subject's end is no line's
+        bool notEmptyAtStart = false;      // a match at from has characters
+    };
+
+    static constexpr std::size_t kAnywhere = ~std::size_t{0};
+
+    // Null if it is no pattern.
+    static std::unique_ptr<Expression> Compile(const std::string& pattern, Reading reading,
+                                               bool matchCase);
+    ~Expression();
+    Expression(const Expression&) = delete;
+    Expression& operator=(const Expression&) = delete;
+
+    // The first match; what starts before from can be looked at, but is not matched.
+    Outcome Find(std::string_view subject, const Run& run);
+
+    // Of the last match that was found, or of a partial one. Where a group that took no part
+    // starts and ends is kAnywhere.
+    std::size_t Start(int group = 0) const;
+    std::size_t End(int group = 0) const;
+
+    std::size_t Lookbehind() const { return m_lookbehind; } // characters
+
+private:
+    Expression(pcre2_real_code_8* code, std::string pattern, unsigned options);
+    bool Prepare(const Run& run);
+
+    struct FreeCode
+    {
+        void operator()(pcre2_real_code_8* code) const;
+    };
+    struct FreeMatch
+    {
+        void operator()(pcre2_real_match_data_8* match) const;
+    };
+    using Code = std::unique_ptr<pcre2_real_code_8, FreeCode>;
+
+    std::string m_pattern;
+    unsigned m_options;
+    Code m_code;
+    Code m_bounded; // made when a search has a last start: looking for it costs the others
+    std::unique_ptr<pcre2_real_match_data_8, FreeMatch> m_match;
+    std::size_t m_lookbehind = 0;
+    int m_groups = 0;
+    bool m_knowsPartial = false;
+};
+
+} // namespace engine::search

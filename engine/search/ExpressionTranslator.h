@@ -1,0 +1,95 @@
+// ExpressionTranslator: the engine's pattern syntax in that of PCRE2.
+// Knows no text, no engine and no compiled expression. What it gives may still fail to compile.
+//
+// Of its own are groups by \( and \), the end of a match at \c, \< and \>, and that only what names
+// a line end leaves the line: a negated class and \D, \S and \W stay in it, as the dot does.
+#pragma once
+
+#include <array>
+#include <optional>
+#include <string>
+#include <string_view>
+#include <vector>
+
+namespace engine::search {
+
+struct Syntax
+{
+    bool posix = false; // groups by ( and ), while \( and \) are brackets
+    bool matchCase = false;
+    // Matches one character of a word: an item of a PCRE2 pattern.
+    std::string word = "[A-Za-z0-9_\\p{L}\\p{M}\\p{N}]";
+};
+
+struct Translation
+{
+    std::string pattern;          // UTF-8
+    std::array<int, 10> groups{}; // where \1 to \9 stand among the groups of pattern; 0: nowhere
+    std::vector<int> ends;        // the groups of pattern that mark where the match ends
+    bool usesWords = false;       // depends on Syntax::word
+    bool emptyAtLineEnds = false; // a match of nothing counts at a line's end, too
+};
+
+class ExpressionTranslator
+{
+public:
+    explicit ExpressionTranslator(Syntax syntax) : m_syntax(std::move(syntax)) {}
+
+    // The pattern is UTF-8. Nothing if it is none of the syntax.
+    std::optional<Translation> Translate(std::string_view pattern);
+
+private:
+    // What stands before, which decides what may follow.
+    enum class Last
+    {
+        BranchStart, // of the pattern, a group or an alternative
+        Edge,        // matches a place
+        WordStart,
+        Item,
+        Repeated,
+    };
+
+    struct Group
+    {
+        int number = 0;        // \1 is 1
+        std::size_t start = 0; // in the translation
+    };
+
+    bool TakeAll(std::string_view pattern);
+    bool TakeOne();
+    bool TakeAnchor(char anchor);
+    bool TakeRepeat(char repeat);
+    bool TakeEscape();
+    bool TakeReference(int number);
+    bool OpenGroup();
+    bool CloseGroup();
+    bool TakeCharacter();
+    bool TakeClass();
+    void MarkEnd();
+    void TakeHexadecimal();
+    bool TakeWordEdge(char edge);
+
+    bool AtEnd() const { return m_at >= m_pattern.size(); }
+    bool Follows(std::string_view text) const
+    {
+        return m_pattern.substr(m_at, text.size()) == text;
+    }
+    bool BranchStartsHere() const;
+    bool BranchEndsHere(std::size_t at) const;
+    void PutItem(std::string_view item);
+    std::string Word() const { return InItsCase(m_syntax.word); }
+    std::string InItsCase(const std::string& item) const;
+    void PutExact(char32_t character); // in its own case, whatever the flags say
+
+    Syntax m_syntax;
+    std::string_view m_pattern;
+    std::size_t m_at = 0;
+    Last m_last = Last::BranchStart;
+    std::vector<Group> m_open;
+    bool m_hasBranches = false;
+    int m_numbered = 0;  // groups of the pattern
+    int m_capturing = 0; // of the translation
+    Translation m_result;
+};
+
+} // namespace engine::search

@@ -1,0 +1,238 @@
+#include "engine/search/LiteralScan.h"
+
+#include <algorithm>
+#include <bit>
+#include <cstring>
+
+#ifdef __SSE2__
+#include <emmintrin.h>
+#endif
+
+namespace engine::search {
+namespace {
+
+constexpr std::size_t kBlock = 16;
+constexpr std::string_view kKelvin = "\xE2\x84\xAA";
+constexpr std::string_view kLongS = "\xC5\xBF";
+
+bool IsLetter(char byte)
+{
+    return (byte | 0x20) >= 'a' && (byte | 0x20) <= 'z';
+}
+
+char Lower(char byte)
+{
+    return byte >= 'A' && byte <= 'Z' ? static_cast<char>(byte | 0x20) : byte;
+}
+
+std::string_view ThirdForm(char letter)
+{
+    return letter == 'k' ? kKelvin : letter == 's' ? kLongS : std::string_view();
+}
+
+// How common a byte is in scripts and prose; what is not named is rare.
+int Commonness(char byte)
+{
+    static constexpr std::string_view kCommon = "etaoinsr _dlcu.,mphg01f()=2w'yb\t\nvx-3456789k;*/";
+    const std::size_t place = kCommon.find(Lower(byte));
+    return place == std::string_view::npos ? 0 : static_cast<int>(kCommon.size() - place);
+}
+
+} // namespace
+
+bool LiteralScan::Suits(std::string_view sought, bool matchCase)
+{
+    if (matchCase)
+        return true;
+    const bool isAscii = std::all_of(sought.begin(), sought.end(), [](char c) { return c >= 0; });
+    return isAscii && std::any_of(sought.begin(), sought.end(),
+                                  [](char c) { return ThirdForm(Lower(c)).empty(); });
+}
+
+LiteralScan::LiteralScan(std::string_view sought, bool matchCase)
+    : m_sought(sought), m_matchCase(matchCase), m_longest(sought.size())
+{
+    if (!matchCase) {
+        for (char& byte : m_sought) {
+            byte = Lower(byte);
+            m_longest += std::max<std::size_t>(ThirdForm(byte).size(), 1) - 1;
+        }
+    }
+    ChooseAnchors();
+}
+
+// Both stand in one stretch of characters that have one length, so that their distance is known.
+void LiteralScan::ChooseAnchors()
+{
+    const auto isFixed = [this](std::size_t i) {
+        return m_matchCase || ThirdForm(m_sought[i]).empty();
+    };
+    const auto anchorAt = [this](std::size_t i) {
+        const bool anyCase = !m_matchCase && IsLetter(m_sought[i]);
+        return Anchor{i, static_cast<unsigned char>(m_sought[i]),
+                      static_cast<unsigned char>(anyCase ? 0x20 : 0)};
+    };
+    std::size_t rarest = m_sought.size();
+    for (std::size_t i = 0; i < m_sought.size(); ++i) {
+        if (isFixed(i) &&
+            (rarest == m_sought.size() || Commonness(m_sought[i]) < Commonness(m_sought[rarest])))
+            rarest = i;
+    }
+    std::size_t second = rarest;
+    const auto consider = [&](std::size_t i) {
+        if (second == rarest || Commonness(m_sought[i]) < Commonness(m_sought[second]))
+            second = i;
+    };
+    for (std::size_t i = rarest + 1; i < m_sought.size() && isFixed(i); ++i)
+        consider(i);
+    for (std::size_t i = rarest; i > 0 && isFixed(i - 1); --i)
+        consider(i - 1);
+    m_first = anchorAt(rarest);
+    m_second = anchorAt(second);
+    m_distance = static_cast<std::ptrdiff_t>(second) - static_cast<std::ptrdiff_t>(rarest);
+}
+
+LiteralScan::Places LiteralScan::PlacesIn(std::string_view bytes) const
+{
+    if (bytes.size() < m_sought.size())
+        return {};
+    return {m_first.offset, bytes.size() - m_sought.size() + m_first.offset + 1};
+}
+
+bool LiteralScan::AnchorsAt(std::string_view bytes, std::size_t place) const
+{
+    const auto stands = [](const Anchor& anchor, char byte) {
+        return (static_cast<unsigned char>(byte) | anchor.mask) == anchor.byte;
+    };
+    return stands(m_first, bytes[place]) &&
+           stands(m_second, bytes[place + static_cast<std::size_t>(m_distance)]);
+}
+
+unsigned LiteralScan::AnchorsAtSixteen(const char* place) const
+{
+#ifdef __SSE2__
+    const auto standing = [](const Anchor& anchor, const char* at) {
+        const __m128i block = _mm_loadu_si128(reinterpret_cast<const __m128i*>(at));
+        const __m128i masked = _mm_or_si128(block, _mm_set1_epi8(static_cast<char>(anchor.mask)));
+        return _mm_cmpeq_epi8(masked, _mm_set1_epi8(static_cast<char>(anchor.byte)));
+    };
+    const __m128i both =
+        _mm_and_si128(standing(m_first, place), standing(m_second, place + m_distance));
+    return static_cast<unsigned>(_mm_movemask_epi8(both));
+#else
+    unsigned bits = 0;
+    for (std::size_t i = 0; i < kBlock; ++i) {
+        const auto first = static_cast<unsigned char>(place[i]);
+        const auto second =
+            static_cast<unsigned char>(place[static_cast<std::ptrdiff_t>(i) + m_distance]);
+        if ((first | m_first.mask) == m_first.byte && (second | m_second.mask) == m_second.byte)
+            bits |= 1U << i;
+    }
+    return bits;
+#endif
+}
+
+std::optional<Hit> LiteralScan::First(std::string_view bytes, std::size_t from) const
+{
+    if (from > bytes.size())
+        return std::nullopt;
+    bytes.remove_prefix(from);
+    const auto [first, end] = PlacesIn(bytes);
+    const auto moved = [from](std::optional<Hit> hit) {
+        if (hit)
+            hit = Hit{hit->start + from, hit->end + from};
+        return hit;
+    };
+    std::size_t place = first;
+    for (; place + kBlock <= end; place += kBlock) {
+        for (unsigned bits = AnchorsAtSixteen(bytes.data() + place); bits; bits &= bits - 1) {
+            const auto bit = static_cast<std::size_t>(std::countr_zero(bits));
+            if (const auto hit = MatchAround(bytes, place + bit))
+                return moved(hit);
+        }
+    }
+    for (; place < end; ++place) {
+        if (!AnchorsAt(bytes, place))
+            continue;
+        if (const auto hit = MatchAround(bytes, place))
+            return moved(hit);
+    }
+    return std::nullopt;
+}
+
+std::optional<Hit> LiteralScan::Last(std::string_view bytes, std::size_t before) const
+{
+    // What starts before the place has no byte behind this one.
+    if (before < bytes.size())
+        bytes = bytes.substr(0, before + std::min(m_longest - 1, bytes.size() - before));
+    const auto [first, end] = PlacesIn(bytes);
+    const auto fits = [before](const std::optional<Hit>& hit) {
+        return hit && hit->start < before;
+    };
+    std::size_t place = end;
+    for (; place >= first + kBlock; place -= kBlock) {
+        for (unsigned bits = AnchorsAtSixteen(bytes.data() + place - kBlock); bits;) {
+            const auto bit = static_cast<unsigned>(std::bit_width(bits)) - 1;
+            bits &= ~(1U << bit);
+            if (const auto hit = MatchAround(bytes, place - kBlock + bit); fits(hit))
+                return hit;
+        }
+    }
+    for (; place > first; --place) {
+        if (!AnchorsAt(bytes, place - 1))
+            continue;
+        if (const auto hit = MatchAround(bytes, place - 1); fits(hit))
+            return hit;
+    }
+    return std::nullopt;
+}
+
+// The match whose first anchor stands at the place.
+std::optional<Hit> LiteralScan::MatchAround(std::string_view bytes, std::size_t place) const
+{
+    if (m_matchCase) {
+        const std::size_t start = place - m_first.offset;
+        if (std::memcmp(bytes.data() + start, m_sought.data(), m_sought.size()) != 0)
+            return std::nullopt;
+        return Hit{start, start + m_sought.size()};
+    }
+    std::size_t start = place;
+    for (std::size_t i = m_first.offset; i > 0; --i) {
+        if (!TakeBackward(bytes, start, m_sought[i - 1]))
+            return std::nullopt;
+    }
+    std::size_t end = place;
+    for (std::size_t i = m_first.offset; i < m_sought.size(); ++i) {
+        if (!TakeForward(bytes, end, m_sought[i]))
+            return std::nullopt;
+    }
+    return Hit{start, end};
+}
+
+bool LiteralScan::TakeForward(std::string_view bytes, std::size_t& at, char letter) const
+{
+    if (at < bytes.size() && Lower(bytes[at]) == letter) {
+        ++at;
+        return true;
+    }
+    const std::string_view form = ThirdForm(letter);
+    if (form.empty() || !bytes.substr(std::min(at, bytes.size())).starts_with(form))
+        return false;
+    at += form.size();
+    return true;
+}
+
+bool LiteralScan::TakeBackward(std::string_view bytes, std::size_t& at, char letter) const
+{
+    if (at > 0 && Lower(bytes[at - 1]) == letter) {
+        --at;
+        return true;
+    }
+    const std::string_view form = ThirdForm(letter);
+    if (form.empty() || !bytes.substr(0, at).ends_with(form))
+        return false;
+    at -= form.size();
+    return true;
+}
+
+} // namespace engine::search

@@ -1,0 +1,26 @@
+// Reading the text of a pattern, and writing characters into another.
+#pragma once
+
+#include <initializer_list>
+#include <string>
+#include <string_view>
+
+namespace engine::search {
+
+// The character at a place, which then is behind it; false for what is not UTF-8.
+bool NextCharacter(std::string_view text, std::size_t& at, char32_t& character);
+
+// What a letter behind a backslash stands for: 10 for n. Itself, if it has no meaning.
+char32_t EscapedCharacter(char32_t letter);
+
+// The value of the two hexadecimal digits at a place, -1 if they are not there.
+int HexadecimalAt(std::string_view text, std::size_t at);
+
+bool IsAsciiLetter(char32_t character);
+
+std::string Join(std::initializer_list<std::string_view> parts);
+
+// As PCRE2 takes it anywhere: \x{..}
+void AppendCode(std::string& pattern, char32_t character);
+
+} // namespace engine::search

@@ -1,0 +1,23 @@
+// The dialog for autosave: its switch and its minutes.
+#pragma once
+
+#include "host/AutosaveSettings.h"
+
+#include <QDialog>
+
+class QCheckBox;
+class QSpinBox;
+
+class AutosaveDialog final : public QDialog
+{
+    Q_OBJECT
+
+public:
+    AutosaveDialog(QWidget* parent, const AutosaveSettings& settings);
+
+    AutosaveSettings Settings() const; // as they are chosen
+
+private:
+    QCheckBox* m_on;
+    QSpinBox* m_minutes;
+};

@@ -1,0 +1,42 @@
+#include "host/AutosaveSettings.h"
+
+#include "control/ZNCoreEditorControl.h"
+
+#include <QSettings>
+
+namespace {
+
+const QString kOn = QStringLiteral("Autosave/on");
+const QString kMinutes = QStringLiteral("Autosave/minutes");
+
+QSettings OpenSettings()
+{
+    return QSettings(QSettings::IniFormat, QSettings::UserScope, QStringLiteral("znworkbench"),
+                     QStringLiteral("settings"));
+}
+
+} // namespace
+
+AutosaveSettings AutosaveSettings::Load()
+{
+    const QSettings settings = OpenSettings();
+    AutosaveSettings loaded;
+    loaded.on = settings.value(kOn, loaded.on).toBool();
+    const int minutes = settings.value(kMinutes).toInt();
+    if (minutes >= 1 && minutes <= kMostMinutes)
+        loaded.minutes = minutes;
+    return loaded;
+}
+
+void AutosaveSettings::Store() const
+{
+    QSettings settings = OpenSettings();
+    settings.setValue(kOn, on);
+    settings.setValue(kMinutes, minutes);
+}
+
+void AutosaveSettings::ApplyTo(CZNCoreEditorControl& editor) const
+{
+    editor.setAutoSaveMinutes(minutes);
+    editor.setAutoSaveOn(on);
+}

@@ -1,0 +1,17 @@
+// Whether and how often the workbench writes copies of what is not saved yet. Kept in the user's
+// settings of the workbench.
+#pragma once
+
+class CZNCoreEditorControl;
+
+struct AutosaveSettings
+{
+    static constexpr int kMostMinutes = 60;
+
+    bool on = true;
+    int minutes = 1;
+
+    static AutosaveSettings Load(); // what is missing or out of range has its default
+    void Store() const;
+    void ApplyTo(CZNCoreEditorControl& editor) const;
+};

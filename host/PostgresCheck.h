@@ -1,0 +1,10 @@
+// PostgreSQL's own parser.
+#pragma once
+
+#include "host/SyntaxCheck.h"
+
+class PostgresCheck final : public SyntaxCheck
+{
+public:
+    std::vector<ScriptProblem> Check(const std::vector<ScriptStatement>& statements) override;
+};

@@ -1,0 +1,55 @@
+#include "host/ProblemPane.h"
+
+#include "host/SyntaxCheck.h"
+
+#include <QHeaderView>
+#include <QStyle>
+#include <QTreeWidget>
+
+namespace {
+
+constexpr int kLineColumn = 0;
+constexpr int kTextColumn = 1;
+constexpr int kStartRole = Qt::UserRole;
+constexpr int kEndRole = Qt::UserRole + 1;
+
+} // namespace
+
+ProblemPane::ProblemPane(QWidget* parent)
+    : QDockWidget(QStringLiteral("Problems"), parent), m_list(new QTreeWidget(this))
+{
+    setObjectName(QStringLiteral("problems"));
+    m_list->setAccessibleName(QStringLiteral("Problems of the script"));
+    m_list->setRootIsDecorated(false);
+    m_list->setUniformRowHeights(true);
+    m_list->setHeaderLabels({QStringLiteral("Line"), QStringLiteral("Problem")});
+    m_list->header()->setSectionResizeMode(kLineColumn, QHeaderView::ResizeToContents);
+    m_list->header()->setStretchLastSection(true);
+    setWidget(m_list);
+    // A double click and Enter alike.
+    connect(m_list, &QTreeWidget::itemActivated, this, &ProblemPane::Choose);
+}
+
+void ProblemPane::Clear()
+{
+    m_list->clear();
+}
+
+void ProblemPane::Add(const ScriptProblem& problem, int line)
+{
+    auto* item = new QTreeWidgetItem(m_list);
+    const auto icon =
+        problem.isSyntax ? QStyle::SP_MessageBoxCritical : QStyle::SP_MessageBoxWarning;
+    item->setIcon(kLineColumn, style()->standardIcon(icon));
+    item->setText(kLineColumn, QString::number(line + 1));
+    item->setText(kTextColumn, problem.text);
+    item->setToolTip(kTextColumn, problem.text);
+    item->setData(kLineColumn, kStartRole, QVariant::fromValue(problem.start));
+    item->setData(kLineColumn, kEndRole, QVariant::fromValue(problem.end));
+}
+
+void ProblemPane::Choose(const QTreeWidgetItem* item)
+{
+    Q_EMIT Chosen(item->data(kLineColumn, kStartRole).value<long>(),
+                  item->data(kLineColumn, kEndRole).value<long>());
+}

@@ -1,0 +1,78 @@
+#include "host/ScriptChecker.h"
+
+#include "control/Analysis.h"
+#include "control/ErrorInfo.h"
+#include "editing/ZNCoreEditorControlEx.h"
+#include "platform/Units.h"
+
+#include <chrono>
+#include <utility>
+
+namespace {
+
+constexpr std::chrono::milliseconds kRest(400);
+constexpr int kOwner = 1;                   // of the list's entries
+constexpr long kLongestChecked = 4'000'000; // units; a longer script would stall the typing
+
+} // namespace
+
+ScriptChecker::ScriptChecker(CZNCoreEditorControlEx& control, QObject* parent)
+    : QObject(parent), m_control(control)
+{
+    m_rest.setSingleShot(true);
+    m_rest.setInterval(kRest);
+    connect(&m_rest, &QTimer::timeout, this, &ScriptChecker::Check);
+}
+
+void ScriptChecker::SetLanguage(const QString& name)
+{
+    m_check = SyntaxCheckFor(name);
+    Check();
+}
+
+void ScriptChecker::CheckSoon()
+{
+    if (m_check)
+        m_rest.start();
+}
+
+void ScriptChecker::Check()
+{
+    m_rest.stop();
+    const bool checks = m_check && m_control.GetLength(1) <= kLongestChecked;
+    std::vector<ScriptProblem> found;
+    if (checks)
+        found = m_check->Check(Statements());
+    if (found == m_problems)
+        return;
+    m_problems = std::move(found);
+    Mark();
+    Q_EMIT ProblemsChanged();
+}
+
+std::vector<ScriptStatement> ScriptChecker::Statements() const
+{
+    std::vector<PartitionInfo> parts;
+    m_control.PartitionGetAll(parts, 0, partitioner::ToEnd, 1);
+    std::vector<ScriptStatement> statements;
+    for (const PartitionInfo& part : parts) {
+        if (part.pszText)
+            statements.push_back({part.nFirst, QString::fromUtf16(part.pszText)});
+    }
+    return statements;
+}
+
+void ScriptChecker::Mark()
+{
+    m_control.ErrorDeleteAll(kOwner, problem::kAny, 1);
+    for (const ScriptProblem& found : m_problems) {
+        ErrorInfo record;
+        record.nStart = found.start;
+        record.nEnd = found.end;
+        record.nKind = found.isSyntax ? problem::Syntax : problem::Semantic;
+        record.nSeverity = found.isSyntax ? problem::Error : problem::Warning;
+        record.SetText(Units(found.text));
+        m_control.ErrorAdd(kOwner, &record, 1);
+    }
+    m_control.ErrorsShow(1);
+}

@@ -1,0 +1,10 @@
+// SQLite's own parser, over an empty database in memory that learns the script's tables.
+#pragma once
+
+#include "host/SyntaxCheck.h"
+
+class SqliteCheck final : public SyntaxCheck
+{
+public:
+    std::vector<ScriptProblem> Check(const std::vector<ScriptStatement>& statements) override;
+};

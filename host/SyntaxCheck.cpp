@@ -1,0 +1,13 @@
+#include "host/SyntaxCheck.h"
+
+#include "host/PostgresCheck.h"
+#include "host/SqliteCheck.h"
+
+std::unique_ptr<SyntaxCheck> SyntaxCheckFor(const QString& language)
+{
+    if (language == QLatin1String("PostgreSQL"))
+        return std::make_unique<PostgresCheck>();
+    if (language == QLatin1String("SQLite"))
+        return std::make_unique<SqliteCheck>();
+    return nullptr;
+}

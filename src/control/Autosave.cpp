@@ -1,0 +1,244 @@
+// The autosave side of CZNCoreEditorControl, and what it keeps on disk.
+//
+// Two hosts may edit one file at the same time, each with a copy of its own. While its control
+// lives, a copy is claimed (CopyClaim): a host that opens the file and handles files with care
+// passes by it, so it neither asks whether to load a text that somebody is typing right now nor
+// deletes it. A host without that care takes the first copy that is noted for the file, claimed or
+// not; the other control notes and writes its copy again at its next tick, so that the text which
+// is in memory is still safe. The claim itself is made in either case, for the sake of hosts that
+// look for it.
+#include "control/Autosave.h"
+
+#include "common/Globals.h"
+#include "control/CopyClaim.h"
+#include "control/FileAccess.h"
+#include "control/FilePolicy.h"
+#include "control/ZNCoreEditorControl.h"
+#include "platform/Profile.h"
+#include "platform/Questions.h"
+#include "platform/SpecialFolders.h"
+#include "platform/Units.h"
+
+#include <QDir>
+#include <QDirIterator>
+#include <QFile>
+
+#include <algorithm>
+#include <climits>
+#include <new>
+
+#include <sys/stat.h>
+
+namespace {
+
+using Encoding = FileEncodeConverter::encodingType;
+
+constexpr UINT kTimer = 100;
+constexpr long long kMinute = 60000; // milliseconds
+constexpr long long kLongest = INT_MAX;
+constexpr UINT kRecoveryText = 54070;
+
+} // namespace
+
+namespace autosave {
+
+namespace {
+
+const QString kSection = QStringLiteral("Backup");
+
+QString NameOf(const QString& path)
+{
+    return path.mid(path.lastIndexOf(u'/') + 1);
+}
+
+QString FolderOf(const QString& path)
+{
+    return path.left(path.lastIndexOf(u'/') + 1);
+}
+
+} // namespace
+
+QString BackupFolder(bool create)
+{
+    QString folder;
+    if (!znutils::CSpecialFolders::GetAppAppDataPath(folder, create, nullptr))
+        return QString();
+    folder += u'/' + kSection;
+    // Fails mostly because it is there. If it does not, no copy can be made, which tells enough.
+    if (create)
+        mkdir(QFile::encodeName(folder).constData(), 0700);
+    return folder + u'/';
+}
+
+QString MakeCopyFile(const QString& folder)
+{
+    return znutils::CSpecialFolders::GetTempFile(u"~ZN", folder.isEmpty() ? nullptr : Units(folder),
+                                                 nullptr);
+}
+
+void WriteNote(const QString& copyPath, const QString& documentPath)
+{
+    ApplicationProfile().WriteString(kSection, NameOf(copyPath), Units(documentPath));
+}
+
+void RemoveNote(const QString& copyPath)
+{
+    ApplicationProfile().WriteString(kSection, NameOf(copyPath), nullptr);
+}
+
+void RemoveCopy(const QString& copyPath)
+{
+    QFile::remove(copyPath);
+    const QString beside = u'.' + NameOf(copyPath) + u'.';
+    QDirIterator files(FolderOf(copyPath), QDir::Files | QDir::Hidden);
+    while (files.hasNext()) {
+        const QString path = files.next();
+        if (files.fileName().startsWith(beside) && path.endsWith(QLatin1String(".tmp")))
+            QFile::remove(path);
+    }
+}
+
+QString FindCopy(const QString& documentPath,
+                 const std::function<bool(const QString& copyPath)>& take)
+{
+    const QString folder = documentPath.isEmpty() ? QString() : BackupFolder(false);
+    if (folder.isEmpty())
+        return QString();
+    QDirIterator entries(folder,
+                         QDir::AllEntries | QDir::Hidden | QDir::System | QDir::NoDotAndDotDot);
+    while (entries.hasNext()) {
+        entries.next();
+        const QString name = entries.fileName();
+        if (!entries.fileInfo().isDir() &&
+            ApplicationProfile().GetString(kSection, name, QString()) == documentPath &&
+            take(folder + name))
+            return name;
+    }
+    return QString();
+}
+
+} // namespace autosave
+
+void CZNCoreEditorControl::SetAutoSave(bool on, int minutes)
+{
+    if (!GetSafeHwnd())
+        return;
+    KillTimer(kTimer);
+    if (on && !m_strFileName.isEmpty() && minutes >= 1)
+        SetTimer(kTimer, static_cast<UINT>(std::min(minutes * kMinute, kLongest)));
+}
+
+void CZNCoreEditorControl::setAutoSaveOn(bool on)
+{
+    if (on == m_bAutoSaveOn)
+        return;
+    m_bAutoSaveOn = on;
+    SetAutoSave(on, m_nAutoSaveMinutes);
+}
+
+void CZNCoreEditorControl::setAutoSaveMinutes(int minutes)
+{
+    if (minutes == m_nAutoSaveMinutes)
+        return;
+    m_nAutoSaveMinutes = minutes;
+    SetAutoSave(m_bAutoSaveOn, minutes);
+}
+
+void CZNCoreEditorControl::CleanUpAutoSave()
+{
+    SetAutoSave(false, 0);
+    DeleteAutoSaveFile();
+}
+
+// The note goes first: a copy without one is never offered.
+void CZNCoreEditorControl::DeleteAutoSaveFile()
+{
+    if (m_strAutoSaveFile.isEmpty())
+        return;
+    autosave::RemoveNote(m_strAutoSaveFile);
+    autosave::RemoveCopy(m_strAutoSaveFile);
+    m_strAutoSaveFile.clear();
+    m_copyClaim->Release();
+}
+
+// The timer fires once: killed here and set again behind the write, so that ticks cannot pile up
+// while a long text is written. A copy is no save, and the modified flag stays.
+void CZNCoreEditorControl::OnTimer(UINT id)
+{
+    if (id == kTimer) {
+        KillTimer(kTimer);
+        if (m_bModified && GetReadOnly(1) == 0 && GetLineCount(1) > 0 && !m_strFileName.isEmpty())
+            WriteAutoSaveCopy();
+        SetAutoSave(m_bAutoSaveOn, m_nAutoSaveMinutes);
+    }
+    CWnd::OnTimer(id);
+}
+
+// Whatever fails here is tried again at the next tick. With care the note follows a copy that is
+// complete; without it the note may name a copy that is empty or cut short.
+void CZNCoreEditorControl::WriteAutoSaveCopy()
+{
+    try {
+        MakeAutoSaveFile();
+        if (m_strAutoSaveFile.isEmpty())
+            return;
+        const bool notesLast = Policy().notesLast;
+        if (!notesLast)
+            autosave::WriteNote(m_strAutoSaveFile, m_strFileName);
+        const bool written = WriteToFile(Units(m_strAutoSaveFile));
+        if (notesLast && written)
+            autosave::WriteNote(m_strAutoSaveFile, m_strFileName);
+    } catch (const std::bad_alloc&) {
+        // The longest line needs a buffer, for which there may be memory later.
+    }
+}
+
+// The folder is made anew for each copy, since somebody may have cleared it away.
+void CZNCoreEditorControl::MakeAutoSaveFile()
+{
+    const QString folder = autosave::BackupFolder(true);
+    if (m_strAutoSaveDir.isEmpty())
+        m_strAutoSaveDir = folder;
+    if (m_strAutoSaveFile.isEmpty())
+        m_strAutoSaveFile = autosave::MakeCopyFile(m_strAutoSaveDir);
+    if (!m_strAutoSaveFile.isEmpty() && !m_strAutoSaveDir.isEmpty())
+        m_copyClaim->Take(m_strAutoSaveFile);
+}
+
+// A copy that is found becomes this control's own, whatever the answer is: No leaves it to be
+// written over at the next tick, and a text that is read-only is not asked about.
+void CZNCoreEditorControl::OfferAutoSaveCopy(Encoding encoding)
+{
+    const QString name = autosave::FindCopy(m_strFileName, [this](const QString& copyPath) {
+        return m_copyClaim->Take(copyPath) || !Policy().sparesClaimed;
+    });
+    if (name.isEmpty())
+        return;
+    if (m_strAutoSaveDir.isEmpty())
+        m_strAutoSaveDir = autosave::BackupFolder(true);
+    m_strAutoSaveFile = m_strAutoSaveDir + name;
+    if (GetReadOnly(1) != 0)
+        return;
+    const QString question = zncoreeditor::GetResourceLoader().FormatString(
+        kRecoveryText, {znutils::CSpecialFolders::GetSimpleAppName(), m_strFileName});
+    if (AskYesNo(GetHwnd(), question))
+        LoadAutoSaveCopy(encoding);
+}
+
+// The save point stays with the file on disk, and one undo brings its text back. A copy that cannot
+// be opened stays for later.
+void CZNCoreEditorControl::LoadAutoSaveCopy(Encoding encoding)
+{
+    FilePointer file = OpenForReading(Units(m_strAutoSaveFile));
+    if (!file)
+        return;
+    const bool fileWasCutShort = m_bCutShort;
+    BeginUndoAction(1);
+    ClearAll(1);
+    ReadInFileContents(file.release(), encoding, false);
+    SetSel(0, 0, 1);
+    EndUndoAction(1);
+    // A complete copy of a text that was cut short does not bring back the rest of its file.
+    m_bCutShort = m_bCutShort || fileWasCutShort;
+    DeleteAutoSaveFile();
+}

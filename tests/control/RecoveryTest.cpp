@@ -1,0 +1,342 @@
+// What a crash has left is found by the file's path, offered, and loaded or kept.
+#include "tests/control/AutosaveFixture.h"
+
+#include <ctime>
+
+#include <fcntl.h>
+#include <sys/stat.h>
+
+namespace {
+
+class Recovery : public AutosaveTest
+{
+protected:
+    QString Question() const
+    {
+        return QStringLiteral("bench has detected a more recent version of the file %1 that was "
+                              "saved automatically.  Do you wish to load this most recent version?")
+            .arg(PathOf("doc.sql"));
+    }
+};
+
+} // namespace
+
+TEST_F(Recovery, AsksByNameAndPath)
+{
+    Plant("~ZN1.tmp", "select 2;");
+    ASSERT_TRUE(Open("select 1;"));
+    EXPECT_EQ(questions.asked, QStringList(Question()));
+    EXPECT_EQ(questions.owners, std::vector<HWND>{control().GetHwnd()});
+}
+
+TEST_F(Recovery, LoadsTheCopyOnYesAndTakesItAway)
+{
+    Plant("~ZN1.tmp", "select 2;");
+    questions.answer = Answer::Yes;
+    control().setAutoSaveOn(true);
+    ASSERT_TRUE(Open("select 1;"));
+    EXPECT_EQ(editor.Text(), u"select 2;");
+    EXPECT_TRUE(control().GetModified());
+    EXPECT_EQ(control().GetModify(1), 1);
+    EXPECT_EQ(control().GetFileName(), PathOf("doc.sql"));
+    EXPECT_EQ(control().GetSelectionStart(1), 0);
+    EXPECT_EQ(control().GetSelectionEnd(1), 0);
+    EXPECT_TRUE(Copies().isEmpty());
+    EXPECT_EQ(Note(QStringLiteral("~ZN1.tmp")), QString());
+    EXPECT_EQ(editor.Interval(), 60000u);
+    EXPECT_EQ(Read(PathOf("doc.sql")), QByteArray("select 1;"));
+}
+
+TEST_F(Recovery, IsTakenBackByOneUndo)
+{
+    const QByteArray copy = QByteArray("select 22;\n").repeated(3000);
+    Plant("~ZN1.tmp", copy);
+    questions.answer = Answer::Yes;
+    ASSERT_TRUE(Open("select 1;\n"));
+    ASSERT_EQ(editor.Text().size(), std::size_t(copy.size()));
+    control().Undo(1);
+    EXPECT_EQ(editor.Text(), u"select 1;\n");
+    EXPECT_FALSE(control().GetModified());
+    control().Redo(1);
+    EXPECT_EQ(editor.Text().size(), std::size_t(copy.size()));
+}
+
+TEST_F(Recovery, LeavesTextAndCopyOnNoAndWritesOverItLater)
+{
+    const QString copy = Plant("~ZN1.tmp", "select 2;");
+    ASSERT_TRUE(Open("select 1;"));
+    EXPECT_EQ(editor.Text(), u"select 1;");
+    EXPECT_FALSE(control().GetModified());
+    EXPECT_EQ(Read(copy), QByteArray("select 2;"));
+    EXPECT_EQ(Note(QStringLiteral("~ZN1.tmp")), PathOf("doc.sql"));
+    editor.Type(u"x");
+    editor.Tick();
+    EXPECT_EQ(OnlyCopy(), copy);
+    EXPECT_EQ(Read(copy), QByteArray("xselect 1;"));
+}
+
+TEST_F(Recovery, TakesTheCopyAwayWithTheControlThatRefusedIt)
+{
+    Plant("~ZN1.tmp", "select 2;");
+    ASSERT_TRUE(Open("select 1;"));
+    editor.Close();
+    EXPECT_TRUE(Copies().isEmpty());
+    EXPECT_EQ(Note(QStringLiteral("~ZN1.tmp")), QString());
+}
+
+TEST_F(Recovery, OfAReadOnlyTextIsSilentAndEndsAtItsClose)
+{
+    const QString copy = Plant("~ZN1.tmp", "select 2;");
+    ASSERT_TRUE(Open("select 0;", "first.sql"));
+    control().SetReadOnly(1, 1);
+    questions.answer = Answer::Yes;
+    ASSERT_TRUE(Open("select 1;"));
+    EXPECT_TRUE(questions.asked.isEmpty());
+    EXPECT_EQ(control().m_strAutoSaveFile, copy);
+    EXPECT_TRUE(QFile::exists(copy));
+    editor.Close();
+    EXPECT_FALSE(QFile::exists(copy));
+    EXPECT_EQ(Note(QStringLiteral("~ZN1.tmp")), QString());
+}
+
+TEST_F(Recovery, OfTwoCopiesTakesTheFirstThatTheFileSystemGives)
+{
+    Plant("~ZNa.tmp", "one");
+    Plant("~ZNb.tmp", "two");
+    const QStringList order = Copies();
+    ASSERT_EQ(order.size(), 2);
+    const QByteArray first = Read(BackupFolder() + order[0]);
+    questions.answer = Answer::Yes;
+    ASSERT_TRUE(Open("select 1;"));
+    EXPECT_EQ(questions.asked.size(), 1);
+    EXPECT_EQ(editor.Text(), QString::fromUtf8(first).toStdU16String());
+    EXPECT_EQ(Copies(), QStringList(order[1]));
+    EXPECT_EQ(Note(order[1]), PathOf("doc.sql"));
+}
+
+TEST_F(Recovery, GoesByTheExactPath)
+{
+    Plant("~ZN1.tmp", "other", "other.sql");
+    Plant("~ZN2.tmp", "case", "DOC.sql");
+    Plant("~ZN3.tmp", "longer", "doc.sql.bak");
+    ASSERT_TRUE(Open("select 1;"));
+    EXPECT_TRUE(questions.asked.isEmpty());
+    EXPECT_EQ(Copies().size(), 3);
+}
+
+TEST_F(Recovery, NeedsBothTheCopyAndItsNote)
+{
+    ASSERT_TRUE(QFile::remove(Plant("~ZN1.tmp", "note alone")));
+    Plant("~ZN2.tmp", "copy alone");
+    ApplicationProfile().WriteString(QStringLiteral("Backup"), QStringLiteral("~ZN2.tmp"), nullptr);
+    ASSERT_TRUE(Open("select 1;"));
+    EXPECT_TRUE(questions.asked.isEmpty());
+    EXPECT_EQ(Note(QStringLiteral("~ZN1.tmp")), PathOf("doc.sql"));
+    EXPECT_EQ(Copies(), QStringList(QStringLiteral("~ZN2.tmp")));
+}
+
+TEST_F(Recovery, PassesByFolders)
+{
+    ASSERT_TRUE(QFile::remove(Plant("~ZN1.tmp", "")));
+    ASSERT_TRUE(QDir().mkdir(BackupFolder() + QStringLiteral("~ZN1.tmp")));
+    ASSERT_TRUE(Open("select 1;"));
+    EXPECT_TRUE(questions.asked.isEmpty());
+    EXPECT_TRUE(control().m_strAutoSaveFile.isEmpty());
+}
+
+TEST_F(Recovery, TakesANameWithoutThePrefixToo)
+{
+    Plant("by hand", "select 2;");
+    questions.answer = Answer::Yes;
+    ASSERT_TRUE(Open("select 1;"));
+    EXPECT_EQ(editor.Text(), u"select 2;");
+}
+
+TEST_F(Recovery, LooksForNothingWhereNoFolderIs)
+{
+    ASSERT_TRUE(Open("select 1;"));
+    EXPECT_FALSE(QFile::exists(PathOf("data")));
+    folders.hasData = false;
+    ASSERT_TRUE(Open("select 1;"));
+    EXPECT_TRUE(questions.asked.isEmpty());
+}
+
+TEST_F(Recovery, LeavesEverythingForLaterIfTheCopyCannotBeOpened)
+{
+    const QString copy = Plant("~ZN1.tmp", "");
+    ASSERT_TRUE(QFile::remove(copy));
+    ASSERT_TRUE(QFile::link(PathOf("nowhere"), copy));
+    questions.answer = Answer::Yes;
+    ASSERT_TRUE(Open("select 1;"));
+    EXPECT_EQ(questions.asked.size(), 1);
+    EXPECT_EQ(editor.Text(), u"select 1;");
+    EXPECT_FALSE(control().GetModified());
+    EXPECT_TRUE(QFileInfo(copy).isSymLink());
+    EXPECT_EQ(Note(QStringLiteral("~ZN1.tmp")), PathOf("doc.sql"));
+}
+
+TEST_F(Recovery, OutlivesACopyThatVanishesWhileItAsks)
+{
+    const QString copy = Plant("~ZN1.tmp", "select 2;");
+    questions.answer = Answer::Yes;
+    questions.whileAsked = [&copy] { QFile::remove(copy); };
+    ASSERT_TRUE(Open("select 1;"));
+    EXPECT_EQ(editor.Text(), u"select 1;");
+    EXPECT_FALSE(control().GetModified());
+    editor.Type(u"x");
+    editor.Tick();
+    EXPECT_EQ(Read(copy), QByteArray("xselect 1;"));
+}
+
+TEST_F(Recovery, LoadsAnEmptyCopyAsTheEmptyTextThatItIs)
+{
+    Plant("~ZN1.tmp", "");
+    questions.answer = Answer::Yes;
+    ASSERT_TRUE(Open("select 1;"));
+    EXPECT_EQ(editor.Text(), u"");
+    EXPECT_TRUE(control().GetModified());
+    control().Undo(1);
+    EXPECT_EQ(editor.Text(), u"select 1;");
+}
+
+TEST_F(Recovery, ReadsTheCopyInTheEncodingOfTheOpen)
+{
+    Plant("~ZN1.tmp", "\xC3\xA9");
+    Write(PathOf("doc.sql"), "x");
+    questions.answer = Answer::Yes;
+    ASSERT_TRUE(control().OpenFile(PathOf("doc.sql").toStdU16String().c_str(),
+                                   FileEncodeConverter::encANSI));
+    EXPECT_EQ(editor.Text(), u"\u00c3\u00a9");
+}
+
+TEST_F(Recovery, OfAFileThatWasCutShortDoesNotHideTheLoss)
+{
+    Plant("~ZN1.tmp", "whole");
+    questions.answer = Answer::Yes;
+    ASSERT_TRUE(Open(QByteArray("\xFF\xFEx\0y", 5)));
+    EXPECT_EQ(editor.Text(), u"whole");
+    EXPECT_TRUE(control().WasCutShort());
+}
+
+TEST_F(Recovery, PutsAPathIntoTheQuestionAsItIs)
+{
+    Plant("~ZN1.tmp", "x", "%1 %2 <b>.sql");
+    ASSERT_TRUE(Open("y", "%1 %2 <b>.sql"));
+    ASSERT_EQ(questions.asked.size(), 1);
+    EXPECT_TRUE(questions.asked[0].startsWith(QStringLiteral("bench has")));
+    EXPECT_TRUE(questions.asked[0].contains(QStringLiteral("/%1 %2 <b>.sql that")));
+}
+
+TEST_F(Recovery, AsksNothingAfterASaveOrAClose)
+{
+    ASSERT_TRUE(Open("select 1;"));
+    editor.Type(u"x");
+    editor.Tick();
+    ASSERT_TRUE(control().SaveFile(PathOf("doc.sql").toStdU16String().c_str(), true));
+    Editor second;
+    ASSERT_TRUE(second.control->OpenFile(PathOf("doc.sql").toStdU16String().c_str(), kDetect));
+    second.Type(u"y");
+    second.Tick();
+    second.Close();
+    ASSERT_TRUE(Reopen());
+    EXPECT_TRUE(questions.asked.isEmpty());
+}
+
+TEST_F(Recovery, GoesByNamesAndNotByTheClock)
+{
+    // The clock was wrong when the copy was written, or is now.
+    for (const std::time_t seconds : {std::time_t(0), std::time_t(4102444800)}) {
+        const QString copy = Plant("~ZN1.tmp", "select 2;");
+        Write(PathOf("doc.sql"), "select 1;");
+        const timespec times[2] = {{seconds, 0}, {seconds, 0}};
+        ASSERT_EQ(utimensat(AT_FDCWD, copy.toUtf8().constData(), times, 0), 0);
+        questions.asked.clear();
+        questions.answer = Answer::Yes;
+        ASSERT_TRUE(Reopen());
+        EXPECT_EQ(questions.asked.size(), 1);
+        EXPECT_EQ(editor.Text(), u"select 2;");
+    }
+}
+
+TEST_F(Recovery, TakesAwayWhatADyingWriteLeftBesideTheCopy)
+{
+    Plant("~ZN1.tmp", "select 2;");
+    const QString beside = BackupFolder() + QStringLiteral(".~ZN1.tmp.abc.tmp");
+    const QString others = BackupFolder() + QStringLiteral(".~ZN11.tmp.abc.tmp");
+    Write(beside, "sel");
+    Write(others, "sel");
+    questions.answer = Answer::Yes;
+    ASSERT_TRUE(Open("select 1;"));
+    EXPECT_FALSE(QFile::exists(beside));
+    EXPECT_TRUE(QFile::exists(others));
+}
+
+// A second control, as in another window or another host, edits the same file.
+class TwoControls : public Recovery
+{
+protected:
+    void OpenBoth(bool careful)
+    {
+        control().SetCarefulFiles(careful);
+        second.control->SetCarefulFiles(careful);
+        ASSERT_TRUE(Open("select 1;"));
+        editor.Type(u"mine ");
+        editor.Tick();
+        firstCopy = OnlyCopy();
+        ASSERT_TRUE(second.control->OpenFile(PathOf("doc.sql").toStdU16String().c_str(), kDetect));
+    }
+
+    Editor second;
+    QString firstCopy;
+};
+
+TEST_F(TwoControls, WithCareLeaveEachOthersCopiesAlone)
+{
+    OpenBoth(true);
+    EXPECT_TRUE(questions.asked.isEmpty());
+    second.Type(u"yours ");
+    second.Tick();
+    EXPECT_EQ(Copies().size(), 2);
+    EXPECT_EQ(Read(firstCopy), QByteArray("mine select 1;"));
+    EXPECT_EQ(Read(second.control->m_strAutoSaveFile), QByteArray("yours select 1;"));
+    second.Close();
+    EXPECT_EQ(OnlyCopy(), firstCopy);
+    EXPECT_EQ(Note(QFileInfo(firstCopy).fileName()), PathOf("doc.sql"));
+}
+
+TEST_F(TwoControls, WithoutCareShareTheCopyAndNeitherLosesItsText)
+{
+    questions.answer = Answer::Yes;
+    OpenBoth(false);
+    EXPECT_EQ(questions.asked.size(), 1);
+    EXPECT_EQ(second.Text(), u"mine select 1;");
+    EXPECT_TRUE(Copies().isEmpty());
+    EXPECT_EQ(editor.Text(), u"mine select 1;");
+    editor.Tick();
+    EXPECT_EQ(OnlyCopy(), firstCopy);
+    EXPECT_EQ(Note(QFileInfo(firstCopy).fileName()), PathOf("doc.sql"));
+    EXPECT_EQ(Read(PathOf("doc.sql")), QByteArray("select 1;"));
+}
+
+TEST_F(TwoControls, FindACopyOnceTheOtherHasReopenedAndLeftIt)
+{
+    // The first has taken a crash's copy over; the second is not offered it.
+    Plant("~ZN1.tmp", "select 2;");
+    control().SetCarefulFiles(true);
+    second.control->SetCarefulFiles(true);
+    ASSERT_TRUE(Open("select 1;"));
+    EXPECT_EQ(questions.asked.size(), 1);
+    ASSERT_TRUE(second.control->OpenFile(PathOf("doc.sql").toStdU16String().c_str(), kDetect));
+    EXPECT_EQ(questions.asked.size(), 1);
+    EXPECT_EQ(Read(BackupFolder() + QStringLiteral("~ZN1.tmp")), QByteArray("select 2;"));
+}
+
+TEST_F(TwoControls, KeepTheirClaimWhenTheFolderIsClearedAndMadeAgain)
+{
+    OpenBoth(true);
+    ASSERT_TRUE(QDir(BackupFolder()).removeRecursively());
+    editor.Tick();
+    ASSERT_EQ(OnlyCopy(), firstCopy);
+    ASSERT_TRUE(second.control->OpenFile(PathOf("doc.sql").toStdU16String().c_str(), kDetect));
+    EXPECT_TRUE(questions.asked.isEmpty());
+}

@@ -1,0 +1,137 @@
+// Batches, catalogs and problems in the workbench.
+#include "control/Analysis.h"
+#include "control/ErrorInfo.h"
+#include "editing/ZNCoreEditorControlEx.h"
+#include "host/EditorTab.h"
+#include "host/ProblemPane.h"
+#include "host/ScriptChecker.h"
+#include "tests/host/WorkbenchTest.h"
+
+#include <QTreeWidget>
+
+namespace {
+
+constexpr int kBatchMarker = 10;
+
+class WorkbenchProblems : public WorkbenchTest
+{
+protected:
+    QTreeWidget& List() const
+    {
+        return *m_window.findChild<ProblemPane*>()->findChild<QTreeWidget*>();
+    }
+
+    // The lines with the bar, from 0.
+    QList<int> MarkedLines() const
+    {
+        QList<int> lines;
+        for (int line = 0; line < Editor().GetLineCount(1); ++line) {
+            if (Editor().MarkerGet(line, 1) & (1 << kBatchMarker))
+                lines << line;
+        }
+        return lines;
+    }
+
+    void GoTo(long position)
+    {
+        Editor().GotoPos(position, 1);
+        Editor().Colorize(0, -1, 1);
+        Editor().GetSafeHwnd()->repaint();
+        QApplication::processEvents();
+    }
+};
+
+TEST_F(WorkbenchProblems, MarkTheBatchAroundTheCaret)
+{
+    m_window.show();
+    Open("a.tsql", "select 1\nselect 2\ngo\nselect 3\ngo\n");
+    GoTo(0);
+    EXPECT_EQ(MarkedLines(), QList<int>({0, 1}));
+    GoTo(23);
+    EXPECT_EQ(MarkedLines(), QList<int>({3}));
+}
+
+TEST_F(WorkbenchProblems, MarkNothingInAScriptOfOneBatch)
+{
+    m_window.show();
+    Open("a.tsql", "select 1\nselect 2\n");
+    GoTo(0);
+    EXPECT_EQ(MarkedLines(), QList<int>());
+}
+
+TEST_F(WorkbenchProblems, ShowTheCatalogInForce)
+{
+    Open("a.tsql", "select 1\nuse [sales db]\nselect 2\n");
+    GoTo(0);
+    EXPECT_EQ(Status("catalog"), QString());
+    GoTo(Editor().GetLength(1));
+    EXPECT_EQ(Status("catalog"), QStringLiteral("sales db"));
+}
+
+TEST_F(WorkbenchProblems, AreListedOnceTheScriptIsOpen)
+{
+    Open("a.sqlite", "create table t (a);\nselekt 1;\nselect b from t;\n");
+    Tab().Checker().Check();
+    ASSERT_EQ(List().topLevelItemCount(), 2);
+    EXPECT_EQ(List().topLevelItem(0)->text(0), QStringLiteral("2"));
+    EXPECT_TRUE(List().topLevelItem(0)->text(1).contains(QStringLiteral("selekt")));
+    EXPECT_EQ(List().topLevelItem(1)->text(0), QStringLiteral("3"));
+    EXPECT_EQ(List().topLevelItem(1)->text(1), QStringLiteral("no such column: b"));
+}
+
+TEST_F(WorkbenchProblems, AreMarkedInTheText)
+{
+    Open("a.pgsql", "select 1;\nselekt 2;\n");
+    Tab().Checker().Check();
+    const ErrorInfo* found = Editor().ErrorGetOverPos(12, 1);
+    ASSERT_NE(found, nullptr);
+    EXPECT_EQ(found->nStart, 10);
+    EXPECT_EQ(found->nEnd, 16);
+    EXPECT_NE(Editor().MarkerGet(1, 1) & (1 << 2), 0);
+    EXPECT_EQ(Editor().MarkerGet(0, 1) & (1 << 2), 0);
+}
+
+TEST_F(WorkbenchProblems, GoWhenTheyAreMended)
+{
+    Open("a.pgsql", "selekt 2;\n");
+    Tab().Checker().Check();
+    ASSERT_EQ(List().topLevelItemCount(), 1);
+    Editor().SetSel(0, 6, 1);
+    Type(u"select");
+    Tab().Checker().Check();
+    EXPECT_EQ(List().topLevelItemCount(), 0);
+    EXPECT_EQ(Editor().ErrorGetFirst(problem::kAny, 1), nullptr);
+}
+
+TEST_F(WorkbenchProblems, LeadToTheirPlace)
+{
+    Open("a.pgsql", "select 1;\nselekt 2;\n");
+    Tab().Checker().Check();
+    ASSERT_EQ(List().topLevelItemCount(), 1);
+    Q_EMIT List().itemActivated(List().topLevelItem(0), 0);
+    EXPECT_EQ(Editor().GetSelectionStart(1), 10);
+    EXPECT_EQ(Editor().GetSelectionEnd(1), 16);
+}
+
+TEST_F(WorkbenchProblems, AreReachedOneByOneByAKey)
+{
+    Open("a.pgsql", "selekt 1;\nselekt 2;\n");
+    Tab().Checker().Check();
+    GoTo(0);
+    Trigger("nextProblem");
+    EXPECT_EQ(Editor().GetSelectionStart(1), 10);
+    Trigger("nextProblem");
+    EXPECT_EQ(Editor().GetSelectionStart(1), 0);
+}
+
+TEST_F(WorkbenchProblems, AreThoseOfTheScriptInFront)
+{
+    Open("a.pgsql", "selekt 2;\n");
+    Tab().Checker().Check();
+    Open("b.tsql", "selekt 2\n");
+    EXPECT_EQ(List().topLevelItemCount(), 0);
+    Trigger("previous");
+    EXPECT_EQ(List().topLevelItemCount(), 1);
+}
+
+} // namespace
