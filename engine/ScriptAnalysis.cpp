@@ -37,7 +37,7 @@ const analysis::SqlDialect* ScriptAnalysis::Dialect() const
     const auto number = static_cast<std::size_t>(m_settings.dialect);
     if (number < std::size(kDialects))
         return analysis::DialectByName(kDialects[number]);
-    const auto* dialect = analysis::DialectOfLexer(m_engine.lexer);
+    const auto* dialect = analysis::DialectOfLexer(m_engine.colouring->Lexer());
     if (!dialect || dialect->name != kDialects[partitioner::GenericSql])
         return dialect;
     char name[32] = {};

@@ -181,7 +181,7 @@ Token SqlScanner::Cut(Token token, long end)
 
 long SqlScanner::CutOf(const Token& token) const
 {
-    const long least = token.resumed ? token.start + 1 : token.start + kLongToken;
+    const long least = token.start + (token.resumed ? 1 : m_uncut);
     return std::min(std::max(m_limit, least), m_text.Size());
 }
 

@@ -95,6 +95,9 @@ public:
         m_state = {};
     }
 
+    // Lets the limit cut tokens of any length that would stand across it, not only long ones.
+    void CutShortTokens() { m_uncut = 1; }
+
     // What ends a statement instead of ;. Empty: ; does. The bytes are the caller's.
     void SetTerminator(std::string_view terminator);
 
@@ -168,6 +171,7 @@ private:
     std::string_view m_terminator;
     long m_position;
     long m_limit = kNoLimit;
+    long m_uncut = kLongToken; // bytes of a token that no limit cuts
     ScanState m_state;
     const unsigned char* m_run = nullptr; // what lies in memory from m_runStart on
     long m_runStart = 0;
