@@ -1,6 +1,7 @@
 #include "platform/Wnd.h"
 
 #include "platform/Accelerators.h"
+#include "platform/Timer.h"
 
 #include <QApplication>
 #include <QString>
@@ -82,6 +83,21 @@ CWnd* CWnd::SetFocus()
     if (m_hWnd)
         m_hWnd->setFocus();
     return previous;
+}
+
+bool CWnd::SetTimer(UINT id, UINT milliseconds)
+{
+    return ::SetTimer(m_hWnd, id, milliseconds);
+}
+
+bool CWnd::KillTimer(UINT id)
+{
+    return ::KillTimer(m_hWnd, id);
+}
+
+void CWnd::OnTimer(UINT id)
+{
+    DefWindowProc(WM_TIMER, id, 0);
 }
 
 LRESULT CWnd::WindowProc(UINT message, WPARAM wParam, LPARAM lParam)

@@ -51,6 +51,10 @@ public:
 
     void DestroyWindow();
 
+    // Timers of the window, by number; they end with it. False if there is no window.
+    bool SetTimer(UINT id, UINT milliseconds);
+    bool KillTimer(UINT id);
+
     // Runs once a window is attached by Create or SubclassWindow, before its first message.
     virtual void PreSubclassWindow() {}
 
@@ -71,6 +75,9 @@ public:
     LRESULT DefWindowProc(UINT message, WPARAM wParam, LPARAM lParam); // that of the window's class
 
 protected:
+    // What the window's class does with a timer's message.
+    void OnTimer(UINT id);
+
     virtual const MessageMap& GetMessageMap() const;
 
 private:

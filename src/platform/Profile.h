@@ -1,0 +1,25 @@
+// The application profile: texts by section and entry that outlive the process. By default a file
+// of the user's for the application, over QSettings. Sections and entries may hold any character
+// and differ by case; two applications that write at the same time lose nothing of each other's.
+#pragma once
+
+#include "common/Export.h"
+
+#include <QString>
+
+class ZN_API IApplicationProfile
+{
+public:
+    virtual ~IApplicationProfile();
+
+    // The fallback if there is no such entry.
+    virtual QString GetString(const QString& section, const QString& entry,
+                              const QString& fallback) = 0;
+    // Null removes the entry. False if the profile could not be written.
+    virtual bool WriteString(const QString& section, const QString& entry,
+                             const char16_t* value) = 0;
+};
+
+// The profile takes effect at once and stays the caller's; null brings back the default.
+ZN_API void SetApplicationProfile(IApplicationProfile* profile);
+ZN_API IApplicationProfile& ApplicationProfile();
