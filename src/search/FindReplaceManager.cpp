@@ -186,8 +186,8 @@ int CFindReplaceManager::FindNext(CZNCoreEditorControl* control)
 }
 
 // What is left of the range may hold a match where the search has been before: a search that wraps
-// or goes up can come back to it for ever. It goes on one unit behind that match then, and ends
-// where it has been.
+// or goes up can come back to it for ever. It goes on one unit further than the last one then, and
+// ends where it has been.
 int CFindReplaceManager::FindSkippingStyles(CZNCoreEditorControl* control, int start, int end,
                                             const std::vector<int>& styles, bool noWrap)
 {
@@ -202,7 +202,7 @@ int CFindReplaceManager::FindSkippingStyles(CZNCoreEditorControl* control, int s
                           noWrap);
         if (pos == -1 || !seen.contains(pos))
             continue;
-        const int next = pos + (start > end ? -1 : 1);
+        const int next = reached + (start > end ? -1 : 1);
         const bool isInside = start > end ? next >= end : next <= end;
         pos = isInside ? FindInRange(control, next, end, true) : -1;
         if (seen.contains(pos))

@@ -3,6 +3,7 @@
 #include "platform/Units.h"
 #include "search/FindReplaceManager.h"
 
+#include <algorithm>
 #include <cstdlib>
 #include <string_view>
 
@@ -41,12 +42,6 @@ char16_t Escaped(char16_t letter)
 bool TargetIsEmpty(CZNCoreEditorControl& control)
 {
     return control.GetTargetStart(1) == control.GetTargetEnd(1);
-}
-
-bool IsInsideLineEnd(CZNCoreEditorControl& control, int position)
-{
-    return position > 0 && control.GetCharAt(position - 1, 1) == u'\r' &&
-           control.GetCharAt(position, 1) == u'\n';
 }
 
 } // namespace
@@ -196,7 +191,7 @@ int CFindReplaceManager::ReplaceInRange(CZNCoreEditorControl& control, int start
         pos = FindInRange(&control, from, end, inSelection);
         // Nothing where nothing has just been replaced is the same match.
         if (isForward && targetStart == targetEnd && pos == from && TargetIsEmpty(control)) {
-            from += IsInsideLineEnd(control, from + 1) ? 2 : 1;
+            from = std::max(from + 1, static_cast<int>(control.PositionAfter(from, 1)));
             pos = from <= end ? FindInRange(&control, from, end, inSelection) : -1;
         }
         if (m_bWrap &&
