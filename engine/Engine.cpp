@@ -110,6 +110,7 @@ void Engine::PrepareDocument()
     documents::Left(left);
     raw.Send(Sci::SCI_SETCODEPAGE, Sci::SC_CP_UTF8);
     text.Reset();
+    StoredText::WordsMayChange();
 }
 
 LRESULT Engine::Perform(UINT message, WPARAM wParam, LPARAM lParam)
