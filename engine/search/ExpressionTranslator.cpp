@@ -23,33 +23,11 @@ bool ExpressionTranslator::TakeAll(std::string_view pattern)
     m_open.clear();
     m_numbered = m_capturing = 0;
     m_result = {};
-    m_run.clear();
-    m_leavesLine = false;
     while (!AtEnd()) {
         if (!TakeOne())
             return false;
     }
-    EndOfRun();
-    if (m_hasBranches || m_leavesLine)
-        m_result.required.clear();
     return m_open.empty();
-}
-
-// A character of the pattern itself; within a group it may be one of a branch.
-void ExpressionTranslator::Require(char32_t character)
-{
-    m_leavesLine |= character == U'\r' || character == U'\n';
-    if (character < 0x80 && m_open.empty())
-        m_run += static_cast<char>(character);
-    else
-        EndOfRun();
-}
-
-void ExpressionTranslator::EndOfRun()
-{
-    if (m_run.size() > m_result.required.size())
-        m_result.required = m_run;
-    m_run.clear();
 }
 
 bool ExpressionTranslator::TakeOne()
@@ -125,9 +103,6 @@ bool ExpressionTranslator::TakeRepeat(char repeat)
         return true;
     if (m_last != Last::Item)
         return false;
-    if (repeat != '+' && !m_run.empty())
-        m_run.pop_back();
-    EndOfRun();
     m_result.pattern += repeat;
     m_last = repeat == '?' ? Last::Edge : Last::Repeated;
     return true;
@@ -231,7 +206,6 @@ bool ExpressionTranslator::OpenGroup()
     ++m_capturing;
     if (m_numbered < static_cast<int>(m_result.groups.size()))
         m_result.groups[static_cast<std::size_t>(m_numbered)] = m_capturing;
-    EndOfRun();
     m_result.pattern += '(';
     m_open.push_back({m_numbered, m_result.pattern.size()});
     m_last = Last::BranchStart;
@@ -256,24 +230,20 @@ bool ExpressionTranslator::TakeCharacter()
     if (!NextCharacter(m_pattern, m_at, character))
         return false;
     if (character >= 0x80 || IsAsciiLetter(character) || (character >= U'0' && character <= U'9')) {
-        m_result.pattern += m_pattern.substr(start, m_at - start);
+        PutItem(m_pattern.substr(start, m_at - start));
     } else {
-        AppendCode(m_result.pattern, character);
+        std::string code;
+        AppendCode(code, character);
+        PutItem(code);
     }
-    m_last = Last::Item;
-    Require(character);
     return true;
 }
 
 bool ExpressionTranslator::TakeClass()
 {
     CharacterClass set;
-    const std::size_t start = m_at;
     if (!set.Read(m_pattern, m_at))
         return false;
-    // Escapes and control characters may be, or reach over, a line end.
-    for (const char character : m_pattern.substr(start, m_at - start))
-        m_leavesLine |= character == '\\' || (character >= 0 && character < ' ');
     PutItem(set.Translated(Word(), m_syntax.matchCase));
     m_result.usesWords |= set.UsesWords();
     return true;
@@ -281,7 +251,6 @@ bool ExpressionTranslator::TakeClass()
 
 void ExpressionTranslator::PutItem(std::string_view item)
 {
-    EndOfRun();
     m_result.pattern += item;
     m_last = Last::Item;
 }
@@ -294,7 +263,6 @@ std::string ExpressionTranslator::InItsCase(const std::string& item) const
 
 void ExpressionTranslator::PutExact(char32_t character)
 {
-    m_leavesLine |= character == U'\r' || character == U'\n';
     std::string code;
     AppendCode(code, character);
     PutItem(InItsCase(code));

@@ -28,7 +28,6 @@ struct Translation
     std::vector<int> ends;        // the groups of pattern that mark where the match ends
     bool usesWords = false;       // depends on Syntax::word
     bool emptyAtLineEnds = false; // a match of nothing counts at a line's end, too
-    std::string required;         // ASCII that every match holds, in the line that it starts in
 };
 
 class ExpressionTranslator
@@ -78,8 +77,6 @@ private:
     bool BranchStartsHere() const;
     bool BranchEndsHere(std::size_t at) const;
     void PutItem(std::string_view item);
-    void Require(char32_t character);
-    void EndOfRun();
     std::string Word() const { return InItsCase(m_syntax.word); }
     std::string InItsCase(const std::string& item) const;
     void PutExact(char32_t character); // in its own case, whatever the flags say
@@ -92,8 +89,6 @@ private:
     bool m_hasBranches = false;
     int m_numbered = 0;  // groups of the pattern
     int m_capturing = 0; // of the translation
-    std::string m_run;   // of characters that every match holds one behind the other
-    bool m_leavesLine = false;
     Translation m_result;
 };
 

@@ -71,7 +71,6 @@ bool Searcher::Prepare(std::string_view sought, int flags)
         m_flags = -1;
         m_sought = sought;
         m_scan.reset();
-        m_required.reset();
         m_expression.reset();
         m_translation = {};
         const bool matchCase = (flags & flag::MatchCase) != 0;
@@ -111,11 +110,6 @@ bool Searcher::PrepareExpression(std::string_view sought, int flags)
         if (!translation)
             return false;
         m_translation = std::move(*translation);
-        // What a pattern begins with the compiled expression looks for itself.
-        const std::string& required = m_translation.required;
-        if (!required.empty() && !sought.starts_with(required) &&
-            LiteralScan::Suits(required, matchCase))
-            m_required.emplace(required, matchCase);
     }
     m_expression =
         Expression::Compile(m_translation.pattern, Expression::Reading::Pattern, matchCase);
@@ -295,14 +289,8 @@ Searcher::Finding Searcher::LastFrom(Finding first, Window window, long bound) c
 
 // The first match in a window that counts. Nothing at a line's end is none, unless the pattern
 // looks for the line's edge.
-Searcher::Finding Searcher::FindIn(const Window& asked) const
+Searcher::Finding Searcher::FindIn(const Window& window) const
 {
-    Window window = asked;
-    if (m_required && window.lastStart < 0) {
-        window.from = LineThatMayMatch(window);
-        if (window.from < 0)
-            return {};
-    }
     const std::string_view subject = m_text.Bytes(window.base, window.to);
     Expression::Run run;
     run.from = static_cast<std::size_t>(window.from - window.base);
@@ -331,19 +319,6 @@ Searcher::Finding Searcher::FindIn(const Window& asked) const
         if (run.from > run.lastStart)
             return {};
     }
-}
-
-// Where to begin so that no match is missed: in the line of the first text that every match holds;
-// -1 if there is none. In an unfinished subject that text may still follow, in its last line.
-long Searcher::LineThatMayMatch(const Window& window) const
-{
-    std::string_view bytes = m_text.Bytes(window.base, window.to);
-    bytes.remove_prefix(static_cast<std::size_t>(window.from - window.base));
-    const auto hit = m_required->First(bytes, 0);
-    if (!hit && !window.isUnfinished)
-        return -1;
-    const auto end = bytes.substr(0, hit ? hit->start : bytes.size()).find_last_of("\r\n");
-    return end == bytes.npos ? window.from : window.from + static_cast<long>(end) + 1;
 }
 
 Searcher::Finding Searcher::Describe(const Window& window) const

@@ -82,7 +82,6 @@ private:
     std::optional<Range> LastMatch(long from, long to);
     Finding LastFrom(Finding first, Window window, long bound) const;
     Finding FindIn(const Window& window) const;
-    long LineThatMayMatch(const Window& window) const;
     Finding Describe(const Window& window) const;
     std::optional<Range> Keep(const Finding& finding);
     long BaseOf(long at) const;
@@ -101,7 +100,6 @@ private:
     std::string m_words; // the word characters that the expression was made with
     unsigned m_wordsVersion = 0;
     std::optional<LiteralScan> m_scan;
-    std::optional<LiteralScan> m_required; // what every match of the expression holds
     std::unique_ptr<Expression> m_expression;
     Translation m_translation;
 

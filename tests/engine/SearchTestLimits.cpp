@@ -40,35 +40,6 @@ TEST(SearchLimits, StopAPatternThatRunsAwayBackwards)
     EXPECT_EQ(searcher.Stopped(), 1);
 }
 
-// What a match has to hold is looked for before the lines are tried.
-TEST(SearchLimits, TryNoLineThatLacksWhatAMatchHolds)
-{
-    const PlainText text(std::string(8 * kMegabyte, 'a') + "\nb\n" + std::string(50, 'a') + "b");
-    Searcher searcher(text);
-    EXPECT_EQ(StartOf(searcher.Find("a*b", flag::Expression, 0, text.Length())), 8 * kMegabyte + 1);
-    EXPECT_EQ(StartOf(searcher.Find("a+b", flag::Expression, 0, text.Length())), 8 * kMegabyte + 3);
-    EXPECT_FALSE(searcher.Find("a*d", flag::Expression, 0, text.Length()));
-    EXPECT_EQ(searcher.Stopped(), 0);
-}
-
-TEST(SearchLimits, FindWhatNeedNotHoldEveryCharacter)
-{
-    const PlainText text("ac\nabbc\nd\ne x");
-    Searcher searcher(text);
-    const auto find = [&](const char* pattern) {
-        return StartOf(searcher.Find(pattern, flag::Expression, 0, text.Length()));
-    };
-    EXPECT_EQ(find("[a]b*c"), 0);
-    EXPECT_EQ(find("[a]b?c"), 0);
-    EXPECT_EQ(find("[a]b+c"), 3);
-    EXPECT_EQ(find("[a]bb|d"), 3);
-    EXPECT_EQ(find("[a]\\(bb\\)*c"), 0);
-    EXPECT_EQ(find("[d]\\ne"), 8);
-    EXPECT_EQ(find("[d][\\n]e"), 8);
-    EXPECT_EQ(find("[c]\nd"), 6);
-    EXPECT_EQ(find("^e X"), 10);
-}
-
 TEST(SearchLimits, LeaveAPatternThatEndsAlone)
 {
     const PlainText text(std::string(50000, 'a') + "b");
