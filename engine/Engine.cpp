@@ -119,6 +119,7 @@ void Engine::PrepareDocument()
     if (errors->Look() == ErrorLook())
         errors->SetLook(*this, errorLook);
     analysis.Forget();
+    StoredText::WordsMayChange();
 }
 
 LRESULT Engine::Perform(UINT message, WPARAM wParam, LPARAM lParam)

@@ -90,9 +90,16 @@ bool IsListShown(const Engine& engine, WPARAM&, LPARAM&)
 }
 
 // Null is no text at all, where an empty one would mean something else.
-bool HasText(const Engine&, WPARAM&, LPARAM& lParam)
+bool HasWords(const Engine&, WPARAM&, LPARAM& lParam)
 {
+    StoredText::WordsMayChange();
     return lParam != 0;
+}
+
+bool MakesDefaultWords(const Engine&, WPARAM&, LPARAM&)
+{
+    StoredText::WordsMayChange();
+    return true;
 }
 
 constexpr FenceRow kRows[] = {
@@ -122,8 +129,9 @@ constexpr FenceRow kRows[] = {
     {message::WordEndPosition, MakesPosition},
     {message::AutoCComplete, IsListShown},
     {message::AutoCSelect, IsListShown},
-    {message::SetWordChars, HasText},
-    {message::SetWhitespaceChars, HasText},
+    {message::SetWordChars, HasWords},
+    {message::SetWhitespaceChars, HasWords},
+    {message::SetCharsDefault, MakesDefaultWords},
 };
 
 } // namespace

@@ -39,7 +39,13 @@ public:
         return words;
     }
 
+    // A document may stand in several windows, so that one counter serves for all.
+    unsigned WordsVersion() const override { return s_wordsVersion; }
+    static void WordsMayChange() { ++s_wordsVersion; }
+
 private:
+    static inline unsigned s_wordsVersion = 0;
+
     const Raw& m_raw;
 };
 

@@ -49,7 +49,8 @@ long TextIndex::Length() const
 {
     Settle();
     if (!m_unitsAreKnown) {
-        m_units = WalkToByte({}, m_raw.Length()).unit;
+        m_bytes = m_raw.Length();
+        m_units = WalkToByte({}, m_bytes).unit;
         m_unitsAreKnown = true;
     }
     return m_units;
@@ -57,7 +58,8 @@ long TextIndex::Length() const
 
 bool TextIndex::IsAscii() const
 {
-    return Length() == m_raw.Length();
+    const long units = Length();
+    return units == (m_change.underWay ? m_raw.Length() : m_bytes);
 }
 
 // Whether the change at a place touches a pair of CR and LF: the CR stands before it, the LF is the
@@ -90,7 +92,8 @@ void TextIndex::DeletionBegins(BytePos at, long bytes)
 {
     const long units =
         !m_unitsAreKnown || IsAscii() ? bytes : WalkToByte({0, at.value}, at.value + bytes).unit;
-    ChangeBegins({.at = at, .deletedUnits = units, .touchesCrLf = TouchesCrLf(at, bytes)});
+    ChangeBegins(
+        {.at = at, .deleted = bytes, .deletedUnits = units, .touchesCrLf = TouchesCrLf(at, bytes)});
 }
 
 void TextIndex::ChangeDone() const
@@ -102,11 +105,13 @@ void TextIndex::ChangeDone() const
     if (change.inserted == 0) {
         m_lineIndexIsWrong |= change.touchesCrLf;
         m_units -= change.deletedUnits;
+        m_bytes -= change.deleted;
         return;
     }
     m_lineIndexIsWrong |= TouchesCrLf(change.at, change.inserted);
     const long units = WalkToByte({0, at}, at + change.inserted).unit;
     m_units += units;
+    m_bytes += change.inserted;
     if (m_last.byte == at) // where the next one is likely to go in
         m_last = {m_last.unit + units, at + change.inserted};
 }
@@ -205,9 +210,9 @@ BytePos TextIndex::ToBytes(UnitPos position) const
 
 UnitPos TextIndex::ToUnits(BytePos position) const
 {
-    const long byte = std::clamp(position.value, 0L, m_raw.Length());
     if (IsAscii())
-        return {byte};
+        return {std::clamp(position.value, 0L, m_units)};
+    const long byte = std::clamp(position.value, 0L, m_raw.Length());
     const Place nearest = Nearest(&Place::byte, byte);
     if (WalkPays(nearest.byte - byte))
         return {Remember(WalkToByte(nearest, byte)).unit};

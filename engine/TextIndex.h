@@ -55,6 +55,7 @@ private:
         bool underWay = false;
         BytePos at;
         long inserted = 0;     // bytes
+        long deleted = 0;      // bytes
         long deletedUnits = 0; // of a deletion
         long lengthBefore = 0; // bytes
         bool touchesCrLf = false;
@@ -79,6 +80,7 @@ private:
     mutable bool m_lineIndexIsWrong = false;
     mutable bool m_unitsAreKnown = false;
     mutable long m_units = 0;  // in the text
+    mutable long m_bytes = 0;  // likewise; both while no change is under way
     mutable Place m_last;      // a place that is known
     mutable long m_walked = 0; // bytes, since there was no line index
 };

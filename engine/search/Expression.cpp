@@ -87,6 +87,9 @@ Expression::Expression(pcre2_real_code_8* code, std::string pattern, unsigned op
     m_lookbehind = value;
     pcre2_pattern_info(code, PCRE2_INFO_CAPTURECOUNT, &value);
     m_groups = static_cast<int>(value);
+    std::size_t compiledSize = 0;
+    pcre2_pattern_info(code, PCRE2_INFO_JITSIZE, &compiledSize);
+    m_isCompiled = compiledSize > 0;
 }
 
 Expression::~Expression() = default;
@@ -116,9 +119,12 @@ Expression::Outcome Expression::Find(std::string_view subject, const Run& run)
     const bool isBounded = run.lastStart != kAnywhere;
     pcre2_match_context* context = MatchContext();
     pcre2_set_offset_limit(context, isBounded ? run.lastStart : PCRE2_UNSET);
-    const int result = pcre2_match(isBounded ? m_bounded.get() : m_code.get(),
-                                   reinterpret_cast<PCRE2_SPTR>(subject.data()), subject.size(),
-                                   run.from, options, m_match.get(), context);
+    // Straight to the machine code: what pcre2_match does before it costs as much as a short match.
+    const bool isStraight = m_isCompiled && !isBounded && !run.isUnfinished;
+    const auto match = isStraight ? pcre2_jit_match : pcre2_match;
+    const int result = match(isBounded ? m_bounded.get() : m_code.get(),
+                             reinterpret_cast<PCRE2_SPTR>(subject.data()), subject.size(), run.from,
+                             options, m_match.get(), context);
     if (result == PCRE2_ERROR_NOMATCH)
         return Outcome::NotFound;
     if (result == PCRE2_ERROR_PARTIAL)

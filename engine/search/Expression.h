@@ -80,6 +80,7 @@ private:
     std::unique_ptr<pcre2_real_match_data_8, FreeMatch> m_match;
     std::size_t m_lookbehind = 0;
     int m_groups = 0;
+    bool m_isCompiled = false; // to machine code
     bool m_knowsPartial = false;
 };
 

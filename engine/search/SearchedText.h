@@ -22,6 +22,8 @@ public:
     virtual bool IsWordStart(long at) const = 0;
     // Those below 0x80.
     virtual std::string WordCharacters() const = 0;
+    // Another number as soon as they may be others.
+    virtual unsigned WordsVersion() const { return 0; }
 };
 
 } // namespace engine::search

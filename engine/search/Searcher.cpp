@@ -66,7 +66,7 @@ bool Searcher::Prepare(std::string_view sought, int flags)
 {
     const bool isSame = m_flags >= 0 && sought == m_sought &&
                         (flags & kFlagsThatPrepare) == (m_flags & kFlagsThatPrepare) &&
-                        (!m_translation.usesWords || m_words == m_text.WordCharacters());
+                        (!m_translation.usesWords || WordsAreTheSame());
     if (!isSame) {
         m_flags = -1;
         m_sought = sought;
@@ -86,6 +86,14 @@ bool Searcher::Prepare(std::string_view sought, int flags)
     return m_scan || m_expression;
 }
 
+bool Searcher::WordsAreTheSame()
+{
+    if (m_wordsVersion == m_text.WordsVersion())
+        return true;
+    m_wordsVersion = m_text.WordsVersion();
+    return m_words == m_text.WordCharacters();
+}
+
 bool Searcher::PrepareExpression(std::string_view sought, int flags)
 {
     const bool matchCase = (flags & flag::MatchCase) != 0;
@@ -95,6 +103,7 @@ bool Searcher::PrepareExpression(std::string_view sought, int flags)
         for (int i = 1; i < 10; ++i)
             m_translation.groups[static_cast<std::size_t>(i)] = i;
     } else {
+        m_wordsVersion = m_text.WordsVersion();
         m_words = m_text.WordCharacters();
         ExpressionTranslator translator({(flags & flag::Posix) != 0, matchCase, WordItem()});
         auto translation = translator.Translate(sought);

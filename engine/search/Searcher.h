@@ -69,6 +69,7 @@ private:
 
     bool Prepare(std::string_view sought, int flags);
     bool PrepareExpression(std::string_view sought, int flags);
+    bool WordsAreTheSame();
     std::string WordItem() const;
 
     std::optional<Range> FirstLiteral(long from, long to) const;
@@ -97,6 +98,7 @@ private:
     std::string m_sought;
     int m_flags = -1;
     std::string m_words; // the word characters that the expression was made with
+    unsigned m_wordsVersion = 0;
     std::optional<LiteralScan> m_scan;
     std::unique_ptr<Expression> m_expression;
     Translation m_translation;

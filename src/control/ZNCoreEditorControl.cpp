@@ -145,9 +145,11 @@ int CZNCoreEditorControl::HandleNotify(LPARAM lParam)
 // change after a save sets the flag and tells nobody.
 void CZNCoreEditorControl::OnModified(const SCNotification& record)
 {
-    const HWND parent = GetParent(GetSafeHwnd());
-    if (parent && GetReadOnly(1) == 0 && m_bModified && (record.modificationType & kUserEdit))
-        SendMessage(parent, ZNBASEM_ON_EDITCHANGE, reinterpret_cast<WPARAM>(GetSafeHwnd()), 1);
+    if (m_bModified && (record.modificationType & kUserEdit)) {
+        const HWND parent = GetParent(GetSafeHwnd());
+        if (parent && GetReadOnly(1) == 0)
+            SendMessage(parent, ZNBASEM_ON_EDITCHANGE, reinterpret_cast<WPARAM>(GetSafeHwnd()), 1);
+    }
     if (record.modificationType & modification::ChangeFold)
         FoldChanged(static_cast<int>(record.line), record.foldLevelNow, record.foldLevelPrev);
     m_bModified = true;

@@ -1,0 +1,121 @@
+// CFindReplaceManager: the one holder of what is searched for and how, and the searches themselves,
+// on whichever editor is passed in. Knows no dialog. Positions count UTF-16 units.
+#pragma once
+
+#include "common/Export.h"
+
+#include <QString>
+#include <QStringList>
+
+#include <vector>
+
+class CZNCoreEditorControl;
+class QComboBox;
+
+// Reads what it held the last time from the user's registry when it is made, and writes it when it
+// goes. Used on the GUI thread.
+class ZN_API CFindReplaceManager
+{
+public:
+    CFindReplaceManager();
+    CFindReplaceManager(const CFindReplaceManager&) = delete;
+    CFindReplaceManager& operator=(const CFindReplaceManager&) = delete;
+    virtual ~CFindReplaceManager();
+
+    void Save() const; // a store that refuses is not told
+
+    bool GetWholeWord() const { return m_bWholeWord; }
+    void SetWholeWord(bool wholeWord) { m_bWholeWord = wholeWord; }
+    bool GetRegExp() const { return m_bRegExp; }
+    void SetRegExp(bool regExp) { m_bRegExp = regExp; }
+    bool GetMatchCase() const { return m_bMatchCase; }
+    void SetMatchCase(bool matchCase) { m_bMatchCase = matchCase; }
+    bool GetDown() const { return m_bDown; } // towards the text's end
+    void SetDown(bool down) { m_bDown = down; }
+    bool GetTransform() const { return m_bTransform; } // a replacement goes through DecodeEscapes
+    void SetTransform(bool transform) { m_bTransform = transform; }
+    bool GetSubFolders() const { return m_bSubFolders; }
+    void SetSubFolders(bool subFolders) { m_bSubFolders = subFolders; }
+    bool GetOutputPane2() const { return m_bOutputPane2; }
+    void SetOutputPane2(bool outputPane2) { m_bOutputPane2 = outputPane2; }
+    bool GetCountOnly() const { return m_bCountOnly; }
+    void SetCountOnly(bool countOnly) { m_bCountOnly = countOnly; }
+    bool GetWrap() const { return m_bWrap; }
+    void SetWrap(bool wrap) { m_bWrap = wrap; }
+    int GetFindIn() const { return m_nFindIn; } // 1: files by type, 2: all open files
+    void SetFindIn(int findIn) { m_nFindIn = findIn; }
+
+    QString GetFind() const { return m_strFind; }
+    QString GetReplace() const { return m_strReplace; }
+    QString GetLocation() const { return m_strLocation; }
+    QString GetFileType() const { return m_strFileType; }
+
+    // Puts a text on top of its history and makes it the current one. A history that is full loses
+    // the item before its last: the oldest stays.
+    void AddFindHistory(QString text);
+    void AddReplaceHistory(QString text);
+    void AddLocationHistory(QString text);
+    void AddTypeHistory(QString text);
+
+    // What a box lists becomes the history, newest first.
+    void FillFindCombo(QComboBox& combo) const;
+    void FillReplaceCombo(QComboBox& combo) const;
+    void FillLocationCombo(QComboBox& combo) const;
+    void FillTypeCombo(QComboBox& combo) const;
+
+    // The place of a match, which is the engine's target then, or -1. A start above the end
+    // searches backwards. Without noWrap, and if wrapping is on, the rest of the text comes next:
+    // up to the caret, or backwards from the end to the selection's start.
+    int FindInRange(CZNCoreEditorControl* control, int start, int end, bool noWrap);
+    int FindNext(CZNCoreEditorControl* control); // from the caret
+    // Only matches whose style is none of these count. A search that goes down ends at a match that
+    // does not count: the part of the range before it is all that is looked at then.
+    int FindSkippingStyles(CZNCoreEditorControl* control, int start, int end,
+                           const std::vector<int>& styles, bool noWrap);
+
+    // Replaces the engine's target, and moves the caret on by the length of what was put in.
+    void ReplaceOne(CZNCoreEditorControl* control);
+    // The number of replacements, which are one undo step. A text that is read-only has none.
+    int ReplaceAll(CZNCoreEditorControl* control, bool inSelection);
+
+    // \a \b \f \n \r \t \v become the characters; other escapes stay as they are. A backslash that
+    // ends the text stays, with a NUL behind it.
+    static QString DecodeEscapes(const char16_t* text);
+
+private:
+    class Round;
+
+    void Load();
+    void Remember(QStringList& history, const QString& text) const;
+    int SearchTarget(CZNCoreEditorControl& control, int start, int end) const;
+    QString ReplacementText() const;
+    int PutIn(CZNCoreEditorControl& control, const QString& text) const;
+    int ReplaceInRange(CZNCoreEditorControl& control, int start, int& end, bool inSelection);
+
+    int m_nFindIn = 0;
+    bool m_bWrap = true;
+    QString m_strLocation;
+    QString m_strFileType;
+    bool m_bCountOnly = false;
+    bool m_bOutputPane2 = false;
+    bool m_bSubFolders = true;
+    QStringList m_aTypeHistory;
+    QStringList m_aLocationHistory;
+    bool m_bTransform = false;
+    bool m_bRegExp = false;
+    bool m_bWholeWord = false;
+    bool m_bMatchCase = false;
+    bool m_bDown = true;
+    QString m_strReplace;
+    QString m_strFind;
+    int m_nMaxHistory = 20;
+    QStringList m_aFindHistory;
+    QStringList m_aReplaceHistory;
+};
+
+namespace zncoreeditor {
+
+// Made on first use, and gone with the process.
+ZN_API CFindReplaceManager* GetFindReplaceManager();
+
+} // namespace zncoreeditor
