@@ -206,6 +206,9 @@ public:
     void FirstBookmark();
     void LastBookmark();
     void ClearBookmarks();
+    // Bookmarks on the lines of all matches of an expression, outside what the walks above know.
+    // How many matches; -1 for none. The search keeps these settings.
+    int MarkAll(const QString& text, int matchCase);
 
     // Commands, and when they are possible
     bool CanCut();

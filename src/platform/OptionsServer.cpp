@@ -24,7 +24,6 @@ constexpr IntDefault kDefaults[] = {
     {option::FoldMargin, 1},
     {option::TabsToSpaces, 1},
     {option::DefaultTextType, 6 /* UTF-8 without a mark */},
-    {option::ContinueComments, 1},
 };
 
 constexpr int kFontPoints = 11;
