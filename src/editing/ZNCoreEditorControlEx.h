@@ -93,6 +93,8 @@ public:
     // Comment markers of the language: false for an empty marker, which is not stored.
     bool AddSingleLineComment(const QString& marker);
     bool AddBlockComment(const QString& start, const QString& end);
+    QString GetSingleLineComment(int index) const;
+    bool InsertFile(const char16_t* path, FileEncodeConverter::encodingType encoding);
 
     // Indentation and braces of the language
     int GetAutoIndent() const { return m_autoIndent; }
@@ -148,9 +150,22 @@ public:
     void OnUpdateEditLowercase(CCmdUI& ui);
     void OnUpdateLineNumbers(CCmdUI& ui);
 
-    // Pre-processing of scripts
+    // Pre-processing of scripts: the text with its directives expanded, in place and handed over.
+    void GetWindowTextW(QString& text);
+    // Puts back what the last run, of whichever control, began with. Nothing happens if that run
+    // found no directive.
+    void SetOriginalScript();
+    bool GetIncludeOrDefineDirectivesFound() const;
     bool HasPreprocessorErrors() const { return m_hasPreprocessorErrors; }
     void SetPreprocessorErrors(bool errors) { m_hasPreprocessorErrors = errors; }
+    // By the line of the expanded text.
+    std::map<int, QString> GetIncludeDirectiveErrorMessageAndLine() const
+    {
+        return m_includeErrors;
+    }
+    // The first message of a line stays.
+    void SetIncludeDirectiveErrorMessageAndLine(const QString& message, int line);
+    // Folders for included files, separated by ";".
     void SetDatasourceSearchPath(const QString& path) { m_datasourceSearchPath = path; }
 
 protected:
