@@ -14,7 +14,7 @@ namespace {
 constexpr int kContainerLexer = 0; // the host styles the text
 constexpr int kDefaultStyle = 0;
 constexpr int kAllStyleBits = 0x1F;
-constexpr long kSmallBlock = 4 * 1024;
+constexpr long kSmallBlock = 128; // a change is mostly over within two lines
 constexpr long kLargeBlock = 1024 * 1024;
 
 // What a change behind a moves with the text.

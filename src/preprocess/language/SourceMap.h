@@ -2,6 +2,8 @@
 // file without a path.
 #pragma once
 
+#include "common/Export.h"
+
 #include <QString>
 
 #include <vector>
@@ -14,7 +16,7 @@ struct SourceLine
     bool operator==(const SourceLine&) const = default;
 };
 
-class SourceMap
+class ZN_API SourceMap
 {
 public:
     SourceMap() { Clear(); }
