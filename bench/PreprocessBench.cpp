@@ -88,6 +88,7 @@ void ExpandGrowth(benchmark::State& state)
 }
 
 BENCHMARK(ExpandScript)
+    ->Arg(2)
     ->Arg(16)
     ->Arg(64)
     ->Iterations(3)

@@ -43,6 +43,9 @@ void DefinePasses::Pass(long start, long freshEnd)
     }
     LeaveLine();
     KeepForNextPass();
+    // Here, where it is near: the next change comes far in front of the last. Behind that no hit
+    // was left, so nothing has to be visited for it.
+    m_text.SettleStyles();
 }
 
 // Asked only while the table is empty, so no pass has changed the text yet.

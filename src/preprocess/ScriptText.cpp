@@ -12,12 +12,18 @@
 namespace {
 
 constexpr int kContainerLexer = 0; // the host styles the text
-constexpr int kDefaultStyle = 0;
+constexpr int kPlainStyle = 0;
+constexpr int kPlainBehindName = 15; // of the dialects, whose next word may be a data type
 constexpr int kAllStyleBits = 0x1F;
 constexpr long kSmallBlock = 128; // a change is mostly over within two lines
 constexpr long kLargeBlock = 1024 * 1024;
 
-// What a change behind a moves with the text.
+bool IsPlainStyle(int style)
+{
+    return style == kPlainStyle || style == kPlainBehindName;
+}
+
+// Where a place is after a change.
 long Moved(long place, long at, long removed, long inserted)
 {
     return place > at ? std::max(at, place - removed) + inserted : place;
@@ -128,9 +134,11 @@ void ScriptText::StyleBlock(long to)
 bool ScriptText::StylesAgreeAgain(long end, int before) const
 {
     const int style = m_control.GetStyleAt(end - 1, 1);
-    return m_lexer != kContainerLexer && style == before &&
-           (style == kDefaultStyle || IsCommentStyle(m_lexer, style) ||
-            IsStringStyle(m_lexer, style));
+    if (m_lexer == kContainerLexer)
+        return false;
+    if (IsPlainStyle(style))
+        return IsPlainStyle(before);
+    return style == before && (IsCommentStyle(m_lexer, style) || IsStringStyle(m_lexer, style));
 }
 
 void ScriptText::Changed(long at, long removed, long inserted)
@@ -140,8 +148,10 @@ void ScriptText::Changed(long at, long removed, long inserted)
     m_restyled = m_lexer == kContainerLexer ? Length() : Moved(m_restyled, at, removed, inserted);
     if (at >= m_known)
         return;
+    const bool wasStale = m_styled < m_known;
     m_known = Moved(m_known, at, removed, inserted);
-    m_stale = std::max(Moved(m_stale, at, removed, inserted), at + inserted);
+    m_stale = wasStale ? std::max(Moved(m_stale, at, removed, inserted), at + inserted)
+                       : at + inserted;
     m_styled = std::min(m_styled, at);
 }
 
