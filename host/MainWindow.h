@@ -7,6 +7,7 @@
 #include <vector>
 
 class EditorTab;
+class ExpandedScript;
 class LanguageMenu;
 class ProblemPane;
 class Prompts;
@@ -57,6 +58,7 @@ public:
     void ShowLineEnds(bool show);
     void WrapLines(bool wrap);
     void NextProblem();
+    void ExpandScript();
     void ChangeOptions();
     void ChangeAutosave();
     void NextScript();
@@ -87,6 +89,7 @@ private:
     QString FolderToStartIn() const;
     void OnTabChanged(EditorTab* tab);
     void ListProblems();
+    void ShowSource(const QString& path, long line);
     void UpdateCaptions(EditorTab* tab);
     void UpdateAll();
 
@@ -95,6 +98,7 @@ private:
     StatusIndicators* m_status;
     LanguageMenu* m_languages = nullptr;
     ProblemPane* m_problems;
+    ExpandedScript* m_expanded;
     std::vector<QAction*> m_actions; // of the named commands, in their order
     int m_untitledCount = 0;
     bool m_clipboardHasText = false;
