@@ -1,7 +1,7 @@
 // CZNCoreEditorControlEx: a script on its way to its consumer.
-#include "editing/ScriptPreprocessor.h"
 #include "editing/ZNCoreEditorControlEx.h"
 
+#include "editing/ScriptPreprocessor.h"
 #include "platform/Units.h"
 
 namespace {
