@@ -100,6 +100,8 @@ void CZNCompileManager::PreProcess(CZNCoreEditorControlEx* control, QString scri
     SaveOriginalScript(script);
     script = QString(); // a long one is held by the file alone
     m_map.Clear();
+    if (control->GetReadOnly(1))
+        return; // nothing can be expanded in place
     Run run(*this, *control);
     m_run = &run;
     ExpandDefines(0, run.text.Length());

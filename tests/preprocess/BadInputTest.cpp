@@ -157,6 +157,7 @@ TEST_F(BadInput, LeavesAReadOnlyTextAlone)
     SetScript(script);
     control.SetReadOnly(1, 1);
     EXPECT_EQ(Expand(), script);
+    EXPECT_FALSE(control.GetIncludeOrDefineDirectivesFound());
     control.SetReadOnly(0, 1);
 }
 
