@@ -52,6 +52,7 @@ public:
     unsigned Changes() const { return m_changes; } // counts up with each
 
 private:
+    int ReplaceAllFrom(long start, long length, const QString& with);
     void StyleTo(long position);
     void StyleBlock(long to);
     bool StylesAgreeAgain(long end, int before) const;

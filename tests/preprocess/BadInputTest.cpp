@@ -113,7 +113,7 @@ TEST_F(BadInput, FollowsAThousandLevels)
     const QString text = control.GetText();
     EXPECT_TRUE(Errors().empty());
     EXPECT_TRUE(text.endsWith("bottom\nbottom"));
-    const int line = control.LineFromPosition(text.indexOf("\rbottom") + 1, 1);
+    const int line = control.LineFromPosition(text.indexOf("\nbottom") + 1, 1);
     EXPECT_EQ(Map().Locate(line), (SourceLine{folder.filePath("n1000"), 1}));
     EXPECT_EQ(Map().IncludedFrom(line).size(), std::size_t(kLevels) + 1);
     EXPECT_EQ(Map().Locate(control.GetLineCount(1) - 1), (SourceLine{"", 1}));
