@@ -117,9 +117,8 @@ void ChangeReporter::Connect()
                      [this] { OnSavePoint(notify::SavePointLeft); });
     QObject::connect(&m_window, &Sci::SCN_CHARADDED, &m_window,
                      [this](int ch) { Tell(notify::CharAdded, {.ch = ch}); });
-    QObject::connect(&m_window, &Sci::SCN_STYLENEEDED, &m_window, [this](int position) {
-        Tell(notify::StyleNeeded, {.position = Units(position)});
-    });
+    QObject::connect(&m_window, &Sci::SCN_STYLENEEDED, &m_window,
+                     [this](int position) { OnStyleNeeded(position); });
     QObject::connect(&m_window, &Sci::SCN_UPDATEUI, &m_window,
                      [this](int updated) { Tell(notify::UpdateUi, {.updated = updated}); });
     QObject::connect(&m_window, &Sci::SCN_MODIFYATTEMPTRO, &m_window,
@@ -263,10 +262,13 @@ void ChangeReporter::Note(Change change)
             m_deleted =
                 ToUtf16(m_raw.Bytes(change.position.value, change.position.value + change.bytes));
     }
-    if (reported == modification::InsertText)
+    if (reported == modification::InsertText) {
         m_text.InsertionBegins(change.position, change.bytes);
-    else
+        m_colouring->InsertionBegins(m_raw, change.position.value, change.bytes);
+    } else {
         m_text.DeletionBegins(change.position, change.bytes);
+        m_colouring->DeletionBegins(m_raw, change.position.value, change.bytes);
+    }
     m_change = change;
     ++s_pending;
     if (s_depth == 0)
@@ -332,6 +334,16 @@ void ChangeReporter::OnSavePoint(UINT code)
         return;
     }
     Tell(code);
+}
+
+// SQL is styled here; a language that is the host's own is styled by the host.
+void ChangeReporter::OnStyleNeeded(int position)
+{
+    const std::shared_ptr<Colouring> colouring = m_colouring; // a handler may change documents
+    if (colouring->IsSql())
+        colouring->StyleTo(m_raw, position);
+    else
+        Tell(notify::StyleNeeded, {.position = Units(position)});
 }
 
 void ChangeReporter::OnMacroRecord(UINT number, unsigned long wParam, void* lParam)

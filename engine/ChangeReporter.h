@@ -7,9 +7,11 @@
 #pragma once
 
 #include "control/EngineMessages.h"
+#include "engine/Colouring.h"
 #include "engine/TextIndex.h"
 
 #include <functional>
+#include <memory>
 #include <string>
 #include <vector>
 
@@ -22,6 +24,9 @@ public:
     ~ChangeReporter();
     ChangeReporter(const ChangeReporter&) = delete;
     ChangeReporter& operator=(const ChangeReporter&) = delete;
+
+    // Of the document: it hears of changes before they happen, and what styles are needed.
+    void SetColouring(std::shared_ptr<Colouring> colouring) { m_colouring = std::move(colouring); }
 
     int ModEventMask() const { return m_mask; }
     void SetModEventMask(int mask);
@@ -64,6 +69,7 @@ private:
     void OnModified(int position, int type, int length, int line, int foldNow, int foldPrev,
                     int token, int annotationLinesAdded);
     void OnSavePoint(UINT code);
+    void OnStyleNeeded(int position);
     void OnMacroRecord(UINT number, unsigned long wParam, void* lParam);
     void Note(Change change);
     void Flush();
@@ -76,6 +82,7 @@ private:
     QsciScintillaBase& m_window;
     const Raw& m_raw;
     TextIndex& m_text;
+    std::shared_ptr<Colouring> m_colouring;
     int m_mask = kDefaultModEventMask;
     Change m_change;
     std::u16string m_deleted;       // the text of a noted deletion

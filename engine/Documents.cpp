@@ -1,5 +1,6 @@
 #include "engine/Documents.h"
 
+#include "engine/Colouring.h"
 #include "engine/ErrorList.h"
 
 #include <unordered_map>
@@ -12,6 +13,7 @@ struct Record
     int windows = 0;
     int references = 0;
     int undoActions = 0;
+    std::shared_ptr<Colouring> colouring = std::make_shared<Colouring>();
     ErrorList errors;
 };
 
@@ -50,6 +52,11 @@ bool TakeOne(int Record::*count, Document document)
 bool IsKnown(Document document)
 {
     return Find(document) != nullptr;
+}
+
+std::shared_ptr<Colouring> ColouringOf(Document document)
+{
+    return All()[document].colouring;
 }
 
 void Shown(Document document)

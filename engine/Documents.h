@@ -4,6 +4,11 @@
 #pragma once
 
 #include <cstdint>
+#include <memory>
+
+namespace engine {
+class Colouring;
+}
 
 namespace engine {
 class ErrorList;
@@ -14,6 +19,9 @@ namespace engine::documents {
 using Document = std::intptr_t;
 
 bool IsKnown(Document document);
+
+// The language of a known document, which goes with it.
+std::shared_ptr<Colouring> ColouringOf(Document document);
 
 // A window begins or ceases to show the document.
 void Shown(Document document);

@@ -58,10 +58,9 @@ const Answerers& AllAnswerers()
                                ? Answerer::Way::Pass
                                : Answerer::Way::Translate;
         }
-        for (const auto handlers :
-             {TextHandlers(), PositionHandlers(), SettingHandlers(), PrintHandlers(),
-              DocumentHandlers(), ImageHandlers(), ErrorHandlers(), AnalysisHandlers(),
-              SearchHandlers()}) {
+        for (const auto handlers : {TextHandlers(), PositionHandlers(), SettingHandlers(),
+                                    PrintHandlers(), DocumentHandlers(), ImageHandlers(),
+                                    ErrorHandlers(), AnalysisHandlers(), SearchHandlers()}) {
             for (const HandlerRow& row : handlers) {
                 Answerer& answerer = all[row.number - kFirstNumber];
                 answerer.handler = row.run;
@@ -114,6 +113,8 @@ void Engine::PrepareDocument()
     documents::Left(left);
     raw.Send(Sci::SCI_SETCODEPAGE, Sci::SC_CP_UTF8);
     text.Reset();
+    colouring = documents::ColouringOf(m_document);
+    reporter.SetColouring(colouring);
     errors = &documents::Errors(m_document);
     if (errors->Look() == ErrorLook())
         errors->SetLook(*this, errorLook);

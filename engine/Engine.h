@@ -5,6 +5,7 @@
 
 #include "control/EngineMessages.h"
 #include "engine/ChangeReporter.h"
+#include "engine/Colouring.h"
 #include "engine/ErrorMarks.h"
 #include "engine/Raw.h"
 #include "engine/ScriptAnalysis.h"
@@ -13,6 +14,7 @@
 #include "engine/Utf.h"
 #include "engine/search/Searcher.h"
 
+#include <memory>
 #include <optional>
 #include <set>
 #include <string>
@@ -52,6 +54,7 @@ public:
 
     QsciScintillaBase& window;
     const Raw raw;
+    std::shared_ptr<Colouring> colouring; // of the document
     TextIndex text;
     ChangeReporter reporter;
     ScriptAnalysis analysis;
@@ -63,7 +66,6 @@ public:
     // What the stock engine has no place for.
     ErrorLook errorLook;              // as set in this window
     bool noSingleEol = false;         // line-end mode 0
-    int lexer = 0;                    // this engine's number
     bool usePopUp = true;             // the window shows a menu of its own
     bool reconciler = true;           // the analysis follows the text
     bool bulkChange = false;          // between SetDoingReplaceAll(true) and (false)

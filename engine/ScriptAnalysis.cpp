@@ -31,14 +31,15 @@ ScriptAnalysis::ScriptAnalysis(Engine& engine) : m_engine(engine)
     QObject::connect(&m_idle, &QTimer::timeout, &m_idle, [this] { WorkAhead(); });
 }
 
+// Only where dialects share a lexer is the property asked: it stays behind when the lexer changes.
 const analysis::SqlDialect* ScriptAnalysis::Dialect() const
 {
     const auto number = static_cast<std::size_t>(m_settings.dialect);
     if (number < std::size(kDialects))
         return analysis::DialectByName(kDialects[number]);
-    const auto* dialect = analysis::DialectOfLexer(m_engine.lexer);
-    if (!dialect)
-        return nullptr;
+    const auto* dialect = analysis::DialectOfLexer(m_engine.colouring->Lexer());
+    if (!dialect || dialect->name != kDialects[partitioner::GenericSql])
+        return dialect;
     char name[32] = {};
     const Raw& raw = m_engine.raw;
     const auto key = reinterpret_cast<WPARAM>(kDialectProperty);

@@ -2,7 +2,6 @@
 // notifications.
 #include "engine/Engine.h"
 #include "engine/Handlers.h"
-#include "engine/Lexers.h"
 
 #include <QWidget>
 
@@ -80,24 +79,60 @@ LRESULT Copy(Engine& engine, WPARAM, LPARAM lParam)
 
 LRESULT SetLexer(Engine& engine, WPARAM wParam, LPARAM)
 {
-    engine.lexer = static_cast<int>(wParam);
-    engine.raw.Send(Sci::SCI_SETLEXER, static_cast<WPARAM>(StockLexer(engine.lexer)));
+    engine.colouring->SetLexer(engine.raw, static_cast<int>(wParam));
     engine.analysis.RulesChanged();
     return 0;
 }
 
 LRESULT GetLexer(Engine& engine, WPARAM, LPARAM)
 {
-    return engine.lexer;
+    return engine.colouring->Lexer();
 }
 
 LRESULT SetLexerLanguage(Engine& engine, WPARAM, LPARAM lParam)
 {
     const Utf8Text name(TerminatedText(reinterpret_cast<const char16_t*>(lParam)));
     engine.raw.Send(Sci::SCI_SETLEXERLANGUAGE, 0, name.Data());
-    engine.lexer = LexerOfStock(static_cast<int>(engine.raw.Send(Sci::SCI_GETLEXER)));
+    engine.colouring->TakeStockLexer(engine.raw);
     engine.analysis.RulesChanged();
     return 0;
+}
+
+// The stock engine has no words for SQL, which it takes for the container's.
+LRESULT SetKeyWords(Engine& engine, WPARAM wParam, LPARAM lParam)
+{
+    const Utf8Text words(TerminatedText(reinterpret_cast<const char16_t*>(lParam)));
+    if (engine.colouring->IsSql())
+        engine.colouring->SetKeyWords(engine.raw, static_cast<int>(wParam), words.View());
+    else
+        engine.raw.Send(Sci::SCI_SETKEYWORDS, wParam, words.Data());
+    return 0;
+}
+
+LRESULT Colorize(Engine& engine, WPARAM wParam, LPARAM lParam)
+{
+    const long start = engine.Bytes(static_cast<LPARAM>(wParam));
+    const long end = engine.Bytes(lParam);
+    const std::shared_ptr<Colouring> colouring = engine.colouring;
+    if (colouring->IsSql())
+        colouring->Colorize(engine.raw, start, end);
+    else
+        engine.raw.Send(Sci::SCI_COLOURISE, static_cast<WPARAM>(start), end);
+    return 0;
+}
+
+// Styles of the host's own: what stands behind them is the host's too.
+LRESULT StartStyling(Engine& engine, WPARAM wParam, LPARAM lParam)
+{
+    engine.colouring->DropTail();
+    const long start = std::max(engine.Bytes(static_cast<LPARAM>(wParam)), 0L);
+    return engine.raw.Send(Sci::SCI_STARTSTYLING, static_cast<WPARAM>(start), lParam);
+}
+
+LRESULT ClearDocumentStyle(Engine& engine, WPARAM, LPARAM)
+{
+    engine.colouring->DropTail();
+    return engine.raw.Send(Sci::SCI_CLEARDOCUMENTSTYLE);
 }
 
 LRESULT SetProperty(Engine& engine, WPARAM wParam, LPARAM lParam)
@@ -105,9 +140,11 @@ LRESULT SetProperty(Engine& engine, WPARAM wParam, LPARAM lParam)
     const Utf8Text key(TerminatedText(reinterpret_cast<const char16_t*>(wParam)));
     const Utf8Text value(TerminatedText(reinterpret_cast<const char16_t*>(lParam)));
     engine.properties.emplace(key.View());
+    const LRESULT result =
+        engine.raw.Send(Sci::SCI_SETPROPERTY, reinterpret_cast<WPARAM>(key.Data()), value.Data());
+    engine.colouring->ReadProperties(engine.raw);
     engine.analysis.RulesChanged();
-    return engine.raw.Send(Sci::SCI_SETPROPERTY, reinterpret_cast<WPARAM>(key.Data()),
-                           value.Data());
+    return result;
 }
 
 LRESULT ResetProperties(Engine& engine, WPARAM, LPARAM)
@@ -115,6 +152,7 @@ LRESULT ResetProperties(Engine& engine, WPARAM, LPARAM)
     for (const std::string& key : engine.properties)
         engine.raw.Send(Sci::SCI_SETPROPERTY, reinterpret_cast<WPARAM>(key.c_str()), "");
     engine.properties.clear();
+    engine.colouring->ReadProperties(engine.raw);
     engine.analysis.RulesChanged();
     return 0;
 }
@@ -161,6 +199,10 @@ constexpr HandlerRow kRows[] = {
     {message::SetProperty, SetProperty},
     {message::GetPropertyInt, GetPropertyInt},
     {message::ResetProperties, ResetProperties},
+    {message::SetKeyWords, SetKeyWords},
+    {message::Colorize, Colorize},
+    {message::StartStyling, StartStyling},
+    {message::ClearDocumentStyle, ClearDocumentStyle},
     {message::UsePopUp, UsePopUp},
     {message::IsAutoCHwnd, IsAutoCHwnd},
 };

@@ -113,8 +113,27 @@ void EditorTab::Announce()
 {
     m_announcing = false;
     MarkBatch(Editor());
+    HighlightBraces();
     FitScrollRange();
     Q_EMIT StateChanged();
+}
+
+// Of the brace at the caret, else of the one in front of it.
+void EditorTab::HighlightBraces()
+{
+    CZNCoreEditorControlEx& editor = Editor();
+    if (!zncoreeditor::GetFileTypeManager()->GetBraceMatching(Language()))
+        return;
+    const long caret = editor.GetCurrentPos(1);
+    const auto isBrace = [&editor](long position) {
+        return position >= 0 && editor.IsBrace(static_cast<char16_t>(editor.GetCharAt(position, 1)));
+    };
+    if (isBrace(caret))
+        editor.HighlightBraces(caret);
+    else if (isBrace(caret - 1))
+        editor.HighlightBraces(caret - 1);
+    else
+        editor.BraceHighlight(-1, -1, 1);
 }
 
 // The whole screen after a scroll, else the line that is being typed in.

@@ -59,6 +59,7 @@ private:
     void OnNotified(const SCNotification& record);
     void AnnounceSoon();
     void Announce();
+    void HighlightBraces();
     void FitScrollRange();
 
     ZNCoreEditorWidget* m_widget;

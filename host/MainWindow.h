@@ -6,6 +6,7 @@
 #include <span>
 #include <vector>
 
+class EditingMenu;
 class EditorTab;
 class ExpandedScript;
 class LanguageMenu;
@@ -99,6 +100,7 @@ private:
     LanguageMenu* m_languages = nullptr;
     ProblemPane* m_problems;
     ExpandedScript* m_expanded;
+    EditingMenu* m_editing = nullptr;
     std::vector<QAction*> m_actions; // of the named commands, in their order
     int m_untitledCount = 0;
     bool m_clipboardHasText = false;

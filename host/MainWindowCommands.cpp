@@ -1,5 +1,6 @@
 // The menus of the workbench: what each command is called, its keys, and when it is possible.
 #include "editing/ZNCoreEditorControlEx.h"
+#include "host/EditingMenu.h"
 #include "host/EditorTab.h"
 #include "host/LanguageMenu.h"
 #include "host/MainWindow.h"
@@ -118,6 +119,7 @@ void MainWindow::BuildMenus()
     m_languages = new LanguageMenu(this);
     connect(m_languages, &LanguageMenu::Chosen, this, &MainWindow::SetLanguage);
     QMenu* menu = nullptr;
+    QMenu* edit = nullptr;
     for (const Command& command : Commands()) {
         const QString title = QLatin1String(command.menu);
         if (!menu || menu->title() != title) {
@@ -126,12 +128,18 @@ void MainWindow::BuildMenus()
                 menuBar()->addMenu(m_languages);
             }
             menu = menuBar()->addMenu(title);
+            if (title == QLatin1String("&Edit"))
+                edit = menu;
         }
         if (command.name)
             menu->addAction(m_actions.emplace_back(AddCommand(command)));
         else
             menu->addSeparator();
     }
+    m_editing = new EditingMenu(*edit, [this] {
+        const EditorTab* tab = CurrentTab();
+        return tab ? &tab->Editor() : nullptr;
+    });
 }
 
 bool MainWindow::IsPossible(When when) const
@@ -167,6 +175,7 @@ void MainWindow::UpdateCommands()
         if (command.name)
             (*action++)->setEnabled(IsPossible(command.when));
     }
+    m_editing->Update();
 }
 
 void MainWindow::Undo()

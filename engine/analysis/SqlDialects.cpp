@@ -135,6 +135,7 @@ constexpr SqlDialect kPostgreSql = {
     .begin = Begin::Transaction,
     .parenthesesHold = true,
     .onlyAtomicBlocks = true,
+    .copyData = true,
     .commandLeads = "\\",
     .connectCommands = " c connect ",
 };

@@ -86,6 +86,7 @@ struct SqlDialect
     bool hasUse = false;                // USE name chooses the catalog
     bool useIsReserved = false;         // first on its line it begins a statement anywhere
     bool executeBlock = false;          // EXECUTE BLOCK has a body as a routine has
+    bool copyData = false;              // lines of data behind COPY ... FROM STDIN;
     bool setTerm = false;               // SET TERM new old
     bool terminatorComment = false;     // --#SET TERMINATOR new
     // Lines of the client program, where a statement starts: by first byte, by first word.

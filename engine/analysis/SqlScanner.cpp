@@ -67,7 +67,8 @@ void SqlScanner::FindPlainEnd()
     const long room = static_cast<long>(run.size()) - kLongToken - 1;
     if (room <= 0)
         return;
-    m_run = reinterpret_cast<const unsigned char*>(run.data()) - m_position;
+    m_run = reinterpret_cast<const unsigned char*>(run.data());
+    m_runStart = m_position;
     m_plainEnd = m_position + room;
 }
 
@@ -132,6 +133,15 @@ Token SqlScanner::TakeLine(long limit)
     return LineRest(Begin(TokenKind::Command), m_position);
 }
 
+Token SqlScanner::TakeData(long limit)
+{
+    m_limit = limit;
+    m_state.close = Close::Sequence;
+    m_state.value = '\n' | '\\' << 8 | '.' << 16;
+    m_state.length = 3;
+    return Quoted(Begin(TokenKind::String), m_position);
+}
+
 Token SqlScanner::Resume()
 {
     Token token = Begin(m_state.inside);
@@ -171,7 +181,7 @@ Token SqlScanner::Cut(Token token, long end)
 
 long SqlScanner::CutOf(const Token& token) const
 {
-    const long least = token.resumed ? token.start + 1 : token.start + kLongToken;
+    const long least = token.start + (token.resumed ? 1 : m_uncut);
     return std::min(std::max(m_limit, least), m_text.Size());
 }
 

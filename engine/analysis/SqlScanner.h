@@ -85,12 +85,18 @@ public:
     // The rest of the line behind the last token, as a Command.
     Token TakeLine(long limit = kNoLimit);
 
+    // Lines of data up to one that begins with \., as a String.
+    Token TakeData(long limit = kNoLimit);
+
     // Goes on between tokens, behind what the caller has read by itself.
     void Restart(long position)
     {
         m_position = position;
         m_state = {};
     }
+
+    // Lets the limit cut tokens of any length that would stand across it, not only long ones.
+    void CutShortTokens() { m_uncut = 1; }
 
     // What ends a statement instead of ;. Empty: ; does. The bytes are the caller's.
     void SetTerminator(std::string_view terminator);
@@ -109,7 +115,7 @@ private:
     // read with one look at the table for each byte. End: the next one is something else.
     Token PlainToken()
     {
-        const auto* const start = m_run + m_position;
+        const auto* const start = m_run + (m_position - m_runStart);
         const auto* at = start;
         const ByteClass first = m_bytes->begins[*at++];
         TokenKind kind = TokenKind::Operator;
@@ -165,9 +171,11 @@ private:
     std::string_view m_terminator;
     long m_position;
     long m_limit = kNoLimit;
+    long m_uncut = kLongToken; // bytes of a token that no limit cuts
     ScanState m_state;
-    const unsigned char* m_run = nullptr; // the byte at position 0, if the run began there
-    long m_plainEnd = 0;                  // plain tokens start before this place, and in the run
+    const unsigned char* m_run = nullptr; // what lies in memory from m_runStart on
+    long m_runStart = 0;
+    long m_plainEnd = 0; // plain tokens start before this place, and in the run
 };
 
 } // namespace engine::analysis

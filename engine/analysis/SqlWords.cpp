@@ -8,18 +8,17 @@ namespace {
 
 // In the order of SqlWord, None left out.
 constexpr std::string_view kWords[] = {
-    "aggregate",    "alter",       "as",        "atomic",      "begin",
-    "block",        "body",        "case",      "compound",    "constraint",
-    "conversation", "create",      "declare",   "deferred",    "definer",
-    "dialog",       "distributed", "do",        "editionable", "else",
-    "elseif",       "end",         "event",     "exclusive",   "execute",
-    "external",     "for",         "function",  "if",          "immediate",
-    "is",           "isolation",   "language",  "loop",        "noneditionable",
-    "not",          "null",        "or",        "package",     "proc",
-    "procedure",    "read",        "recreate",  "repeat",      "replace",
-    "row",          "set",         "statement", "temp",        "temporary",
-    "term",         "then",        "tran",      "transaction", "trigger",
-    "type",         "use",         "when",      "while",       "work",
+    "aggregate", "alter",       "as",        "atomic",     "begin",        "block",
+    "body",      "case",        "compound",  "constraint", "conversation", "copy",
+    "create",    "declare",     "deferred",  "definer",    "dialog",       "distributed",
+    "do",        "editionable", "else",      "elseif",     "end",          "event",
+    "exclusive", "execute",     "external",  "for",        "function",     "if",
+    "immediate", "is",          "isolation", "language",   "loop",         "noneditionable",
+    "not",       "null",        "or",        "package",    "proc",         "procedure",
+    "read",      "recreate",    "repeat",    "replace",    "row",          "set",
+    "statement", "stdin",       "temp",      "temporary",  "term",         "then",
+    "tran",      "transaction", "trigger",   "type",       "use",          "when",
+    "while",     "work",
 };
 static_assert(std::size(kWords) == static_cast<std::size_t>(SqlWord::Work));
 

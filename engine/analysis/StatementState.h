@@ -50,6 +50,8 @@ struct StatementState
         CreateType, // a type: it has a body if BODY comes
         Execute,    // EXECUTE: a body if BLOCK comes
         Set,        // SET: TERM may come
+        Copy,       // COPY: STDIN may come
+        CopyData,   // data stand behind the terminator
         Routine,    // the header of a routine
         Trigger,    // the header of a trigger
         Body,       // behind the IS or the DECLARE of a routine

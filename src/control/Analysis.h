@@ -43,11 +43,12 @@
 // --#SET TERMINATOR in scripts that change it, or at a separator. A terminator in a block body
 // (BEGIN ... END, a package, declarations) ends nothing; the body of a Transact-SQL or ASE routine
 // goes on to the end of its batch. A blank line ends nothing. A line of the client program (psql's
-// \, SQL*Plus' PROMPT, sqlcmd's :) is a statement of its own. Unbalanced text is read as it
-// stands: a block that is not closed goes on to the next separator or to the text's end.
+// \, SQL*Plus' PROMPT, sqlcmd's :) is a statement of its own. The data behind COPY ... FROM STDIN
+// belong to it. Unbalanced text is read as it stands: a block that is not closed goes on to the
+// next separator or to the text's end.
 //
-// Dialects. The lexer says which one. Where several share a lexer the lexer property sql.dialect
-// does ("postgresql", "sqlite"), and SetServerIdentifier says more than both.
+// Dialects. The lexer says which one. For generic SQL (lexers 0 and 9) the lexer property
+// sql.dialect does ("postgresql", "sqlite"), and SetServerIdentifier says more than both.
 //
 // Switches. SetEnablePartitioner(false): every question is answered with nothing, and what was
 // read is forgotten. SetEnableReconciler(false): edits are noted, but nothing is read ahead of the

@@ -13,6 +13,7 @@
 //   says so (SetModEventMask, kDefaultModEventMask). A change is told once it is in the text,
 //   before a save point that it left, and what it is told with is good until the handler returns.
 // - An allocation that fails throws std::bad_alloc out of the messages that enter text.
+// - SQL is coloured and folded by the engine itself: control/SqlStyles.h says how.
 // - Every message belongs to the GUI thread.
 #pragma once
 

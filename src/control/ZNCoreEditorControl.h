@@ -43,7 +43,7 @@ public:
     ~CZNCoreEditorControl() override;
 
     using CWnd::Create;
-    using CWnd::SetFocus;
+    using CWnd::SetFocus; // beside the message of that name
     // A window attached to this control. Direct access is the subclass's to set up, in its handler
     // of WM_CREATE; until then a direct call answers 0. Gives 0 if there is no engine.
     virtual int Create(unsigned long style, const RECT& rect, CWnd* parent, unsigned int id,

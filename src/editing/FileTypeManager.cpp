@@ -2,20 +2,23 @@
 
 #include "common/Globals.h"
 #include "platform/Exceptions.h"
+#include "platform/SpecialFolders.h"
 #include "settings/ConfigFile.h"
 #include "settings/SyntaxFile.h"
 
 #include <QDir>
-#include <QStandardPaths>
 
 namespace {
 
 constexpr QChar kSeparator = u'/';
 
-// Where a user's own colours are kept; made if it is missing. A failure shows when they are saved.
+// Where a user's own colours are kept; made if it is missing. Empty if the user has no folder; a
+// failure to make it shows when the colours are saved.
 QString CustomSyntaxFolder()
 {
-    const QString data = QStandardPaths::writableLocation(QStandardPaths::GenericDataLocation);
+    const QString data = znutils::CSpecialFolders::GetLocalAppDataPath(true);
+    if (data.isEmpty())
+        return data;
     const QString folder = data + QStringLiteral("/Marrowfield/Syntax");
     QDir().mkpath(folder);
     return folder + kSeparator;
@@ -47,7 +50,8 @@ void CFileTypeManager::LoadSyntaxFiles(CConfigFile* config)
     const QString baseFolder = zncoreeditor::GetAppPath() + QStringLiteral("Syntax") + kSeparator;
     for (int language = 0; language < count; ++language) {
         const QString name = config->GetLanguageSyntaxFileName(language);
-        LoadSyntaxFile(language, baseFolder + name, customFolder + name);
+        LoadSyntaxFile(language, baseFolder + name,
+                       customFolder.isEmpty() ? QString() : customFolder + name);
     }
 }
 

@@ -2,6 +2,7 @@
 #include "editing/ZNCoreEditorControlEx.h"
 
 #include "control/FileAccess.h"
+#include "editing/EditScopes.h"
 #include "platform/text/StringUtils.h"
 
 #include <algorithm>
@@ -72,6 +73,20 @@ bool CZNCoreEditorControlEx::ReloadFile(const char16_t* path)
     else
         DocumentEnd(1);
     return opened;
+}
+
+bool CZNCoreEditorControlEx::InsertFile(const char16_t* path,
+                                        FileEncodeConverter::encodingType encoding)
+{
+    std::FILE* file = std::fopen(NativePath(path).constData(), "rb");
+    if (!file)
+        return false;
+    const long caret = GetCurrentPos(1);
+    const UndoStep step(*this);
+    ReadInFileContents(file, encoding, true);
+    GotoPos(caret, 1);
+    SetSel(caret, caret, 1);
+    return true;
 }
 
 bool CZNCoreEditorControlEx::SaveSelection(const char16_t* path)

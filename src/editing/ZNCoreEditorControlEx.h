@@ -9,7 +9,10 @@
 
 #include <QString>
 
+#include <deque>
 #include <map>
+#include <string>
+#include <string_view>
 #include <vector>
 
 class CDC;
@@ -93,8 +96,15 @@ public:
     // Comment markers of the language: false for an empty marker, which is not stored.
     bool AddSingleLineComment(const QString& marker);
     bool AddBlockComment(const QString& start, const QString& end);
+    // The first marker for every index from 0 up; empty if there is none.
     QString GetSingleLineComment(int index) const;
-    bool InsertFile(const char16_t* path, FileEncodeConverter::encodingType encoding);
+    QString GetBlockCommentStart(int index) const;
+    QString GetBlockCommentEnd(int index) const;
+
+    // Puts markers around the selection, or in front of its lines. False if the language lacks the
+    // markers that this takes, or for an index of -1; true also where nothing had to be changed.
+    bool CommentSelection(int index, bool useBlock);
+    bool UnCommentSelection(int index, bool useBlock);
 
     // Indentation and braces of the language
     int GetAutoIndent() const { return m_autoIndent; }
@@ -103,6 +113,12 @@ public:
         m_autoIndent = mode;
     } // 0 none, 1 keep, 2 or more by "{" and "}"
     void SetBraces(const QString& braces) { m_braces = braces; }
+    bool IsIndentChar(char16_t c) const; // a blank or a tab
+    bool IsBrace(char16_t c) const;
+    void HighlightBraces(long position);
+    bool HasMatchingBrace(); // false also for a match at position 0
+    void JumpToMatchingBrace(bool extendSelection);
+    void MatchToken();
 
     // What a save cleans up
     bool IsSaveConvertTabToSpaces() const { return m_saveConvertTabToSpaces; }
@@ -111,14 +127,85 @@ public:
     void SetSaveTrimTrailingSpaces(bool trim) { m_saveTrimTrailingSpaces = trim; }
     bool IsEnsureFinalNewLine() const { return m_ensureFinalNewLine; }
     void SetEnsureFinalNewLine(bool ensure) { m_ensureFinalNewLine = ensure; }
+    // In the selected lines, or in all. A last line that is selected up to its column 0 only stays.
     void ConvertTabToSpaces();
+    void ConvertSpacesToTab();
     void RemoveTrailingSpaces();
-    void EnsureFinalNewLine();
+    void EnsureFinalNewLine(); // a text of one line always gets one
+
+    // Line ends: of the text, and of what Enter puts in
+    void SetEOLCRLF();
+    void SetEOLCR();
+    void SetEOLLF();
+    // In mode 2 a CR, in mode 3 an LF; in every other an LF and behind it a CR.
+    void InsertEOL(long position);
 
     // Words and lines
+    CharacterRange GetSelection();
+    bool IsSelection();
+    int GetRange(long start, long end, char16_t* buffer); // buffer: end - start + 1 units
+    int GetCurLineNumber();
+    long GetCaretInLine();
+    int GotoLineCol(int line, int column); // past the line's end too; always 0
+    virtual QString GetLineText(int line); // with its line end; empty for a line that is not there
+    // The word at the place, empty if there is none; always 1.
+    int GetWordFromPos(long position, QString& word, int onlyWordChars);
+    int GetWordFromPos(const CPoint& point, QString& word, int onlyWordChars);
     using CZNCoreEditorControl::SetWordChars;
     void SetWordChars(const char16_t* characters);
-    bool IsSelection();
+    bool IsWordChar(char16_t c) const; // by SetWordChars; none before that
+    void InsertChar(long position, char16_t c);
+
+    // Selecting
+    void SelectWord();
+    void SelectLine(); // with its line end
+    void SelectPara();
+    void SwapAnchor();
+    void SelectionFromTarget();
+    // The selected name of a file, or the one around the caret, as far as 999 units.
+    QString SelectionFilename();
+    static bool IsFilenameChar(char16_t c);
+
+    // Words and characters at the caret
+    void WordDelete();
+    void WordUpperCase();
+    void WordLowerCase();
+    void WordCapitalize();
+    void Capitalize();    // the selected text; letters above 7F do not survive it
+    void CharTranspose(); // the two characters around the caret, which stays where it is
+    void WordTranspose(); // the halves of a word, or the words around the caret
+    void NumPlus();       // the selected number; 0 if there is none
+    void NumMinus();
+
+    // Sorts the selected lines by a part of each (LineOrder.h) and trims them on the right. The
+    // last line of the selection is not among them: its text is gone, even where the selection only
+    // reaches its column 0, and an empty line is left behind the others.
+    void SortLines(bool ascending, bool ignoreCase, bool keepDuplicates, int mode, int columnStart,
+                   int columnEnd);
+    // Into each selected line: at its end for -1, else at the column, where the line is that long.
+    void InsertTextIntoLines(int column, const QString& text);
+    // In front of each selected line: its number, padded with zeros, the text, and a blank.
+    void InsertTextIntoLines(int firstNumber, const QString& text, int step, int width);
+
+    // Files and search
+    bool InsertFile(const char16_t* path, FileEncodeConverter::encodingType encoding);
+    // The place of the text in the range, which may run backwards; -1 if it is not there. By the
+    // search flags in force; the target is left at the match.
+    int FindInTarget(const char16_t* text, int length, int start, int end);
+    int FindOneOf(const QString& text, int start, const QString& set) const; // -1: none of them
+    // What a search would begin with: the selected text if it is short and on one line, else the
+    // word at the caret if it has two characters.
+    QString GetFindString();
+    bool HasFindString(); // true for every selection
+
+    // Bookmarks: those that ToggleBookmark set. Only with one of them do the others go anywhere.
+    bool HasBookmarks() const { return !m_bookmarkHandles.empty(); }
+    void ToggleBookmark(long line);
+    void NextBookmark();
+    void PreviousBookmark();
+    void FirstBookmark();
+    void LastBookmark();
+    void ClearBookmarks();
 
     // Commands, and when they are possible
     bool CanCut();
@@ -130,10 +217,24 @@ public:
     void OnEditRedo();
     void OnEditSelectall();
     void OnEditClear();
+    void OnEditComments();
+    void OnEditSingleLineComment();
+    void OnEditSingleLineUncomment();
+    void OnEditMatchToken();
+    void OnEditInsertFile();
     void OnEditIndent();
     void OnEditOutdent();
     void OnEditUppercase();
     void OnEditLowercase();
+    void OnLineEndingsWindows();
+    void OnLineEndingsUnix();
+    void OnLineEndingsMac();
+    void OnBookmarknext();
+    void OnBookmarkset();
+    void OnBookmarkprev();
+    void OnBookmarkdelete();
+    void OnMacrohelperNumplus();
+    void OnMacrohelperNumminus();
     void OnLineNumbers();
     void OnViewZoomlevelZoomin();
     void OnViewZoomlevelZoomout();
@@ -144,10 +245,23 @@ public:
     void OnUpdateEditUndo(CCmdUI& ui);
     void OnUpdateEditRedo(CCmdUI& ui);
     void OnUpdateEditClear(CCmdUI& ui);
+    void OnUpdateEditSingleLineComment(CCmdUI& ui);
+    void OnUpdateEditSingleLineUncomment(CCmdUI& ui);
+    void OnUpdateEditMatchToken(CCmdUI& ui);
+    void OnUpdateEditInsertFile(CCmdUI& ui);
     void OnUpdateEditIndent(CCmdUI& ui);
     void OnUpdateEditOutdent(CCmdUI& ui);
     void OnUpdateEditUppercase(CCmdUI& ui);
     void OnUpdateEditLowercase(CCmdUI& ui);
+    void OnUpdateLineEndingsWindows(CCmdUI& ui);
+    void OnUpdateLineEndingsUnix(CCmdUI& ui);
+    void OnUpdateLineEndingsMac(CCmdUI& ui);
+    void OnUpdateBookmarknext(CCmdUI& ui);
+    void OnUpdateBookmarkset(CCmdUI& ui);
+    void OnUpdateBookmarkprev(CCmdUI& ui);
+    void OnUpdateBookmarkdelete(CCmdUI& ui);
+    void OnUpdateMacrohelperNumplus(CCmdUI& ui);
+    void OnUpdateMacrohelperNumminus(CCmdUI& ui);
     void OnUpdateLineNumbers(CCmdUI& ui);
 
     // Pre-processing of scripts: the text with its directives expanded, in place and handed over.
@@ -176,9 +290,17 @@ protected:
     LRESULT OnSetText(WPARAM wParam, LPARAM lParam);
 
     bool DoSave(const char16_t* path, int start, int end);
+    // Text of the range, cut to the buffer's length, its last line end taken away if so wished. An
+    // empty range first grows by the units that accept takes, up to the limit.
+    void RangeExtendAndGrab(char16_t* buffer, int length, int& start, int& end, int limit,
+                            bool (*accept)(char16_t), bool stripEol);
+    void SelectionExtend(char16_t* buffer, int length, bool (*accept)(char16_t), bool stripEol);
     void SetLineNumberWidth();
     void AutoIndentIn(char16_t character);
     void AutoIndentOut(char16_t character);
+    void SetLineIndentationEx(int line, int indent); // carries the selection along
+    bool AutomaticCommenting();                      // whether a block comment was continued
+    void ChangeEOLs(int mode);
 
     // "red,green,blue" in decimal; only the low byte of each counts, a missing one is 0.
     COLORREF COLORREFFromString(const QString& text);
@@ -203,10 +325,49 @@ protected:
     std::vector<QString> m_blockComments; // start and end in turn
     COLORREF m_defaultBackgroundColor = kSystemWindow;
     QString m_datasourceSearchPath;
+    std::deque<int> m_bookmarkHandles;
 
     static constexpr COLORREF kSystemWindow = 0xFFFFFFFF;
 
 private:
+    // The lines of the selection. One that it only reaches at column 0 is left out.
+    struct Lines
+    {
+        int first;
+        int last;
+    };
+    struct Selection // where what is left selected begins and ends
+    {
+        long start;
+        long end;
+        bool caretInFront;
+    };
+    Selection CurrentSelection();
+    void Select(const Selection& selection);
+    Lines SelectedLines();
+    Lines LinesToCleanUp();
+    std::u16string TextBetween(long start, long end);
+    void ReplaceBetween(long start, long end, std::u16string_view text);
+    template <class Rewrite>
+    void RewriteLines(char16_t only, Rewrite rewrite);
+
+    bool ChoosesLines(const Selection& selection, bool useBlock);
+    bool TakeWordAtCaret(Selection& selection);
+    bool CommentBlock(int index, Selection selection);
+    bool CommentLines(int index, Selection selection);
+    bool IsLineCommented(int index, long start, long end);
+    bool UnCommentBlock(int index, const Selection& selection);
+    bool UnCommentLines(int index, Selection selection);
+    int CommentDepth(long position);
+
+    void TransposeInWord(long caret);
+    void TransposeAround(long caret);
+    void AddToSelectedNumber(int step);
+    template <class TextFor>
+    void InsertIntoEachLine(TextFor textFor);
+    bool HasBookmark(long line);
+    void GotoBookmark(int line);
+
     void ApplyDefaultEncoding();
     void ApplyColorMaxSize();
 };

@@ -1,9 +1,16 @@
 #include "platform/Questions.h"
 
 #include <QApplication>
+#include <QFileDialog>
 #include <QMessageBox>
 
 IUserQuestions::~IUserQuestions() = default;
+
+QString IUserQuestions::AskOpenFile(HWND owner, const QString& filters)
+{
+    return QFileDialog::getOpenFileName(owner ? owner->window() : QApplication::activeWindow(),
+                                        QString(), QString(), filters);
+}
 
 namespace {
 
@@ -53,4 +60,9 @@ void ShowMessage(HWND owner, const QString& text)
 bool AskYesNo(HWND owner, const QString& text)
 {
     return Questions().Ask(owner, text, Buttons::YesNo) == Answer::Yes;
+}
+
+QString AskOpenFile(HWND owner, const QString& filters)
+{
+    return Questions().AskOpenFile(owner, filters);
 }

@@ -26,6 +26,10 @@ public:
 
     // Shows the text until it is answered. The owner may be null.
     virtual Answer Ask(HWND owner, const QString& text, Buttons buttons) = 0;
+
+    // The path of a file to open, empty if the user thought better of it. The filters are names
+    // with patterns, "Scripts (*.sql)", parted by ";;". A dialog, unless a host overrides it.
+    virtual QString AskOpenFile(HWND owner, const QString& filters);
 };
 
 // The service takes effect at once and stays the caller's; null brings back the message boxes.
@@ -33,3 +37,4 @@ ZN_API void SetUserQuestions(IUserQuestions* questions);
 
 ZN_API void ShowMessage(HWND owner, const QString& text);
 ZN_API bool AskYesNo(HWND owner, const QString& text); // true for Yes
+ZN_API QString AskOpenFile(HWND owner, const QString& filters);

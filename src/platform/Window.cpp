@@ -151,6 +151,11 @@ bool IsWindowVisible(HWND window)
     return IsWindow(window) && window->isVisible();
 }
 
+bool IsWindowEnabled(HWND window)
+{
+    return IsWindow(window) && window->isEnabled();
+}
+
 RECT GetClientRect(HWND window)
 {
     return IsWindow(window) ? RECT{0, 0, window->width(), window->height()} : RECT{};

@@ -56,6 +56,7 @@ ZN_API HWND GetParent(HWND window);
 ZN_API UINT RegisterWindowMessage(const char16_t* name);
 
 ZN_API bool IsWindowVisible(HWND window);
+ZN_API bool IsWindowEnabled(HWND window);
 
 // From 0, 0; empty for a window that is not live.
 ZN_API RECT GetClientRect(HWND window);

@@ -589,4 +589,47 @@ TEST_F(ControlEx, KeepsTheSelectionOverASave)
     EXPECT_EQ(m_control.GetSelectionEnd(1), 10);
 }
 
+TEST_F(ControlEx, PullsTheSelectionsEndBackToItsLineThatASaveHasTrimmed)
+{
+    SetText(QStringLiteral("one   \ntwo   \nthree"));
+    m_control.SetSel(2, 12, 1); // the blanks behind "two" are inside
+    m_control.SetSaveTrimTrailingSpaces(true);
+    EXPECT_TRUE(m_control.SaveFile(Path("a.txt").c_str(), true));
+    EXPECT_EQ(Read("a.txt"), QByteArray("one\ntwo\nthree"));
+    EXPECT_EQ(m_control.GetSelectionStart(1), 2);
+    EXPECT_EQ(m_control.GetSelectionEnd(1), 7);
+    EXPECT_EQ(m_control.GetModify(1), 0);
+    m_control.Undo(1);
+    EXPECT_EQ(m_control.GetText(), QStringLiteral("one   \ntwo   \nthree"));
+}
+
+TEST_F(ControlEx, CleansUpInItsOrderBeforeASave)
+{
+    SetText(QStringLiteral("a\t\nb"));
+    m_control.SetTabWidth(4, 1);
+    m_control.SetSaveConvertTabToSpaces(true);
+    m_control.SetSaveTrimTrailingSpaces(true);
+    m_control.SetEnsureFinalNewLine(true);
+    EXPECT_TRUE(m_control.SaveFile(Path("a.txt").c_str(), true));
+    EXPECT_EQ(Read("a.txt"), QByteArray("a\nb\n"));
+}
+
+TEST_F(ControlEx, DoesNothingForABraceWhileIndentationIsKeptOnly)
+{
+    for (const int mode : {1, 2}) {
+        SetText(QStringLiteral("    if\n"));
+        m_control.GotoPos(7, 1);
+        m_control.SetAutoIndent(mode);
+        m_control.SetUseTabs(0, 1);
+        m_control.AddText(1, u"{", 1);
+        SCNotification typed;
+        typed.nmhdr.code = notify::CharAdded;
+        typed.nmhdr.hwndFrom = m_control.GetSafeHwnd();
+        typed.ch = '{';
+        m_control.HandleNotify(reinterpret_cast<LPARAM>(&typed));
+        EXPECT_EQ(m_control.GetText(), mode == 1 ? QStringLiteral("    if\n{")
+                                                 : QStringLiteral("    if\n    {"));
+    }
+}
+
 } // namespace

@@ -3,9 +3,8 @@
 #include "editing/FileTypeManager.h"
 #include "editing/Library.h"
 #include "platform/Exceptions.h"
+#include "platform/SpecialFolders.h"
 #include "tests/editing/Languages.h"
-
-#include <QStandardPaths>
 
 namespace {
 
@@ -75,9 +74,25 @@ TEST_F(Registry, LooksBesideTheLibraryAndInTheUsersFolder)
 {
     const CSyntaxFile& file = *m_languages.GetSyntaxFile(1);
     EXPECT_EQ(file.GetFilename(), zncoreeditor::GetAppPath() + "Syntax/CSS.xml");
-    const QString data = QStandardPaths::writableLocation(QStandardPaths::GenericDataLocation);
+    const QString data = znutils::CSpecialFolders::GetLocalAppDataPath(false);
     EXPECT_EQ(file.GetCustomFilename(), data + "/Marrowfield/Syntax/CSS.xml");
     EXPECT_TRUE(QDir(data + "/Marrowfield/Syntax").exists());
+}
+
+TEST_F(Registry, KeepsNoColoursOfAUserWithoutAFolder)
+{
+    struct Nowhere final : ISpecialFolders
+    {
+        QString LocalAppData() const override { return QString(); }
+    } nowhere;
+    SetSpecialFolders(&nowhere);
+    m_config.SetLanguageSyntaxFileName(1, QStringLiteral("SQL.xml"));
+    m_languages.Init(&m_config);
+    SetSpecialFolders(nullptr);
+    CSyntaxFile& file = *m_languages.GetSyntaxFile(1);
+    EXPECT_EQ(file.GetCustomFilename(), QString());
+    EXPECT_TRUE(file.Parse());
+    EXPECT_GT(file.GetStyleMax(), 0);
 }
 
 TEST_F(Registry, ReadsALanguageAgainAfterInit)

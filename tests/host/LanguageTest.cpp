@@ -108,6 +108,28 @@ TEST_F(WorkbenchLanguages, KeepsTheChosenViewOverAChangeOfLanguage)
     EXPECT_EQ(Editor().GetViewWS(1), 1);
 }
 
+TEST_F(WorkbenchLanguages, LightsUpTheBraceThatMatches)
+{
+    m_window.show();
+    Open("a.sql", "select (1)\n");
+    const auto picture = [this](long caret) {
+        Editor().GotoPos(caret, 1);
+        Editor().GetSafeHwnd()->repaint();
+        QApplication::processEvents();
+        Editor().HideSelection(1, 1);
+        // The closing brace alone, so that the caret is not in the picture.
+        const int x = Editor().PointXFromPosition(9, 1);
+        const int y = Editor().PointYFromPosition(9, 1);
+        const int width = Editor().TextWidth(0, u")", 1);
+        return Editor().GetSafeHwnd()->grab(QRect(x, y, width, Editor().TextHeight(0, 1)))
+            .toImage();
+    };
+    const QImage plain = picture(2);
+    EXPECT_NE(picture(7), plain);
+    EXPECT_EQ(picture(2), plain);
+    EXPECT_NE(picture(8), plain);
+}
+
 TEST_F(WorkbenchLanguages, FollowsTheOptionsInEveryScriptAtOnce)
 {
     class Options final : public CZNOptionsServer

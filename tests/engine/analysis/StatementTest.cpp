@@ -308,6 +308,17 @@ TEST(PostgreSqlStatements, TakeCommandsOfTheClientByLine)
                 ElementsAre("\\c base", "\\echo it's; here", "select 1;", "\\i other.sql"));
 }
 
+TEST(PostgreSqlStatements, KeepTheDataOfACopy)
+{
+    const std::string copy = "COPY t (a, b) FROM stdin;\n1\tit's;\n/*\n\\N\t\\\\.\n\\.";
+    ScriptUnderTest script("postgresql", copy + "\nselect 1; copy t from stdin;\n\\.\n"
+                                                "copy t from 'stdin'; copy t to stdout; select 2;");
+    EXPECT_THAT(script.Statements(),
+                ElementsAre(copy, "select 1;", "copy t from stdin;\n\\.", "copy t from 'stdin';",
+                            "copy t to stdout;", "select 2;"));
+    EXPECT_EQ(script.StatementAt(script.Find("it's")), copy);
+}
+
 TEST(SqliteStatements, HoldTheTerminatorsOfTriggers)
 {
     ExpectParts("sqlite",
@@ -436,7 +447,7 @@ TEST(BadInput, IsAnsweredWithoutDepthOrDelay)
         return text;
     };
     std::string binary;
-    for (int i = 0; i < 400000; ++i)
+    for (unsigned i = 0; i < 400000; ++i)
         binary += static_cast<char>(i * 7919 >> 3);
     const std::string texts[] = {repeated("(", 100000),
                                  repeated(")", 100000),

@@ -1,0 +1,115 @@
+// Colouring: the language of a document and, if it is a dialect of SQL, the styles, line states and
+// fold levels that it gives the text. Other languages are the stock engine's.
+//
+// The stock engine knows how far the text is styled from its start. Behind an edit there is mostly
+// a tail that is styled too and only waits for the lines in front of it: once a line of the tail is
+// reached in the state that it was styled from, all of the tail stands.
+#pragma once
+
+#include "engine/Raw.h"
+#include "engine/SqlStyler.h"
+
+#include <unordered_map>
+#include <utility>
+
+namespace engine {
+
+// The states of a document's lines by number, as the stock engine keeps numbers. 0 is the state at
+// the text's start.
+class SqlLineStates
+{
+public:
+    SqlLineStates() { Clear(); }
+
+    void Clear();
+    int NumberOf(const SqlLineState& state);
+    const SqlLineState& Of(long number) const;
+
+private:
+    struct HashOf
+    {
+        std::size_t operator()(const SqlLineState& state) const { return state.Hash(); }
+    };
+
+    std::vector<SqlLineState> m_states;
+    std::unordered_map<SqlLineState, int, HashOf> m_numbers;
+};
+
+class Colouring
+{
+public:
+    // This engine's lexer number.
+    int Lexer() const { return m_lexer; }
+    bool IsSql() const { return m_dialect != nullptr; }
+
+    void SetLexer(const Raw& raw, int lexer);
+    // After the stock engine was told of a lexer by its name.
+    void TakeStockLexer(const Raw& raw);
+    void SetKeyWords(const Raw& raw, int set, std::string_view words);
+    // After a lexer property has changed in the stock engine.
+    void ReadProperties(const Raw& raw);
+
+    // Before text goes in or out. Every window of the document may say so.
+    void InsertionBegins(const Raw& raw, long position, long bytes);
+    void DeletionBegins(const Raw& raw, long position, long bytes);
+
+    // Styles up to this place at least, where the document's end of styles is before it.
+    void StyleTo(const Raw& raw, long position);
+
+    // Styles from the line of start on, whatever was there.
+    void Colorize(const Raw& raw, long start, long end);
+
+    // What stands behind the end of styles is somebody else's.
+    void DropTail() { m_tail = {}; }
+
+private:
+    // Lines that are styled by their states, bytes from the start. Empty: none.
+    struct Range
+    {
+        long start = 0;
+        long end = 0;
+        bool IsEmpty() const { return start >= end; }
+    };
+
+    // What a walk over some lines has made.
+    struct Lines
+    {
+        long first = 0; // line
+        long start = 0; // byte
+        std::vector<char> styles;
+        std::vector<int> levels;
+        std::vector<int> states;                  // at the start of the line behind each
+        std::vector<std::pair<long, int>> before; // levels of lines before the first
+        bool agrees = false;                      // with what the tail was styled from
+    };
+
+    void Become(const Raw& raw, int lexer);
+    void ChooseDialect(const Raw& raw);
+    void Restart(const Raw& raw);
+    bool IsRepeated(const Raw& raw);
+    void EditBegins(const Raw& raw, long start, long end);
+    bool StyleChunk(const Raw& raw, long position);
+    void Walk(const Raw& raw, SqlStyler& styler, long position);
+    bool ReachesTail(const Raw& raw, long line, long start, const SqlLineState& state,
+                     int number) const;
+    void FoldFreshBatch(const Raw& raw);
+    void FoldBefore(const Raw& raw, bool opens);
+    bool Apply(const Raw& raw);
+    bool ApplyLevels(const Raw& raw);
+
+    int m_lexer = 0;
+    const analysis::SqlDialect* m_dialect = nullptr; // null: not SQL
+    SqlVocabulary m_vocabulary;
+    analysis::Terminators m_terminators;
+    SqlLineStates m_states;
+    bool m_folds = false;
+    SqlFoldOptions m_foldOptions;
+    long m_end = 0; // of the styles, as this class has left it
+    Range m_tail;
+    long m_notedLength = -1; // of the text, when an edit was noted last
+    unsigned m_edits = 0;
+    bool m_running = false;
+    Lines m_lines;
+};
+
+} // namespace engine

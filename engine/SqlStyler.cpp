@@ -1,0 +1,577 @@
+#include "engine/SqlStyler.h"
+
+#include "control/SqlStyles.h"
+
+#include <algorithm>
+#include <array>
+#include <cstring>
+
+namespace engine {
+
+using analysis::ScanState;
+using analysis::SqlWord;
+using analysis::TextSpans;
+
+struct SqlPalette
+{
+    using ByWordSets = SqlStyler::WordStyles;
+
+    std::uint8_t blockComment, lineComment, docComment, number, string, op, identifier, variable,
+        quotedName, otherQuotedName, statement, dataType, globalVariable, beforeDataType;
+    std::uint8_t clientLine; // 0: the line is coloured as code
+    ByWordSets words;        // by the sets that have the word
+    ByWordSets wordsAfterName;
+    ByWordSets wordsAfterPoint;
+    ByWordSets calledWords; // with a parenthesis directly behind
+};
+
+namespace {
+
+namespace dialect = sqlstyle::dialect;
+namespace generic = sqlstyle::generic;
+
+constexpr int kGenericLexer = 9;
+constexpr int kGlobalVariables = 3; // keyword set
+constexpr long kLongestPointedWord = 120;
+constexpr long kFarthestArgument = 64; // blanks between a client's word and what it sets
+
+struct SetRow
+{
+    int set;
+    std::uint8_t style;
+    bool afterPoint; // told from a name behind a point
+};
+
+// The first row whose set has the word wins.
+constexpr SetRow kDialectSets[] = {
+    {6, dialect::kOperator, false}, {0, dialect::kStatement, false},
+    {4, dialect::kFunction, true},  {2, dialect::kSystemTable, true},
+    {5, dialect::kProcedure, true}, {1, dialect::kDataType, false},
+};
+constexpr SetRow kGenericSets[] = {
+    {0, generic::kKeyword, false},    {7, generic::kFurtherKeyword, false},
+    {4, generic::kFunction, true},    {5, generic::kSystemObject, true},
+    {1, generic::kDataType, false},   {6, generic::kSetting, false},
+    {2, generic::kDocKeyword, false}, {3, generic::kClientCommand, false},
+};
+constexpr int kDataTypeSet = 1;
+constexpr int kFunctionSet = 4;
+
+template <std::size_t Count>
+constexpr SqlPalette::ByWordSets StylesOf(const SetRow (&rows)[Count], int first, bool afterPoint,
+                                          std::uint8_t other)
+{
+    SqlPalette::ByWordSets styles{};
+    for (unsigned sets = 0; sets < styles.size(); ++sets) {
+        styles[sets] = other;
+        for (std::size_t i = Count; i-- > 0;) {
+            if ((sets >> rows[i].set & 1U) && (rows[i].afterPoint || !afterPoint))
+                styles[sets] = rows[i].style;
+        }
+        for (const SetRow& row : rows) {
+            if (row.set == first && (sets >> first & 1U))
+                styles[sets] = row.style;
+        }
+    }
+    return styles;
+}
+
+constexpr SqlPalette kDialectPalette = {
+    .blockComment = dialect::kBlockComment,
+    .lineComment = dialect::kLineComment,
+    .docComment = dialect::kBlockComment,
+    .number = dialect::kNumber,
+    .string = dialect::kString,
+    .op = dialect::kOperator,
+    .identifier = dialect::kIdentifier,
+    .variable = dialect::kVariable,
+    .quotedName = dialect::kQuotedName,
+    .otherQuotedName = dialect::kOtherQuotedName,
+    .statement = dialect::kStatement,
+    .dataType = dialect::kDataType,
+    .globalVariable = dialect::kGlobalVariable,
+    .beforeDataType = dialect::kBeforeDataType,
+    .clientLine = 0,
+    .words = StylesOf(kDialectSets, -1, false, dialect::kIdentifier),
+    .wordsAfterName = StylesOf(kDialectSets, kDataTypeSet, false, dialect::kIdentifier),
+    .wordsAfterPoint = StylesOf(kDialectSets, -1, true, dialect::kIdentifier),
+    .calledWords = StylesOf(kDialectSets, kFunctionSet, false, dialect::kIdentifier),
+};
+
+constexpr SqlPalette kGenericPalette = {
+    .blockComment = generic::kBlockComment,
+    .lineComment = generic::kLineComment,
+    .docComment = generic::kDocComment,
+    .number = generic::kNumber,
+    .string = generic::kString,
+    .op = generic::kOperator,
+    .identifier = generic::kIdentifier,
+    .variable = generic::kIdentifier,
+    .quotedName = generic::kQuotedName,
+    .otherQuotedName = generic::kOtherQuotedName,
+    .statement = generic::kKeyword,
+    .dataType = generic::kDataType,
+    .globalVariable = generic::kIdentifier,
+    .beforeDataType = generic::kText,
+    .clientLine = generic::kClientCommand,
+    .words = StylesOf(kGenericSets, -1, false, generic::kIdentifier),
+    .wordsAfterName = StylesOf(kGenericSets, kDataTypeSet, false, generic::kIdentifier),
+    .wordsAfterPoint = StylesOf(kGenericSets, -1, true, generic::kIdentifier),
+    .calledWords = StylesOf(kGenericSets, kFunctionSet, false, generic::kIdentifier),
+};
+
+// Lines of a client whose text is no code: by first word, between blanks.
+constexpr std::string_view kRemarks = " rem remark ";
+constexpr std::string_view kPlainTexts = " prompt host ";
+
+std::uint64_t Mix(std::uint64_t hash, std::uint64_t value)
+{
+    hash = (hash ^ value) * 0x9E3779B97F4A7C15U;
+    return hash ^ hash >> 29;
+}
+
+bool IsBlankByte(unsigned char byte)
+{
+    return byte <= ' ';
+}
+
+// Behind the blanks of the line.
+long SkipBlanks(const TextSpans& text, long position, long stop)
+{
+    stop = std::min(stop, position + kFarthestArgument);
+    while (position < stop && (text.At(position) == ' ' || text.At(position) == '\t'))
+        ++position;
+    return position;
+}
+
+long EndOfArgument(const TextSpans& text, long position, long stop)
+{
+    stop = std::min(stop, position + static_cast<long>(analysis::Terminators::kLongest) + 1);
+    while (position < stop && !IsBlankByte(text.At(position)))
+        ++position;
+    return position;
+}
+
+std::string LowerCopy(const TextSpans& text, long start, long end)
+{
+    std::string copy = text.Copy(start, end);
+    std::transform(copy.begin(), copy.end(), copy.begin(),
+                   [](char c) { return c >= 'A' && c <= 'Z' ? static_cast<char>(c | 0x20) : c; });
+    return copy;
+}
+
+} // namespace
+
+std::uint64_t SqlLineState::Hash() const
+{
+    const auto number = [](auto value) { return static_cast<std::uint64_t>(value); };
+    std::uint64_t hash = Mix(scan.value, number(scan.inside) | number(scan.close) << 8 |
+                                             number(scan.length) << 16 | number(docComment) << 24);
+    hash = Mix(hash, number(blocks.declarations) << 32 | blocks.blocks);
+    hash = Mix(hash, number(blocks.cases) << 32 | blocks.controls);
+    hash = Mix(hash, number(blocks.parentheses) << 32 | blocks.terminator);
+    return Mix(hash, number(blocks.batch) | number(blocks.head) << 8 |
+                         number(blocks.pending) << 16 | number(blocks.before) << 24 |
+                         number(blocks.inStatement) << 32 | number(blocks.routineHeader) << 33 |
+                         number(blocks.ifSeen) << 34 | number(blocks.whileSeen) << 35);
+}
+
+SqlStyler::SqlStyler(int lexer, const analysis::SqlDialect& sql, const SqlVocabulary& vocabulary,
+                     analysis::Terminators& terminators, SqlFoldOptions fold)
+    : m_palette(lexer == kGenericLexer ? kGenericPalette : kDialectPalette), m_dialect(sql),
+      m_vocabulary(vocabulary), m_terminators(terminators), m_separator(analysis::SeparatorOf(sql)),
+      m_fold(fold), m_hasCommands(!sql.commandLeads.empty() || !sql.commandWords.empty() ||
+                                  !sql.delimiterWord.empty()),
+      m_blocks(sql), m_scanner(sql, {})
+{}
+
+void SqlStyler::Start(TextSpans text, long position, const SqlLineState& state)
+{
+    m_scanner = analysis::SqlScanner(m_dialect, text, position, state.scan);
+    m_scanner.CutShortTokens();
+    m_scanner.SetTerminator(m_terminators.TextOf(state.blocks.terminator));
+    m_state = state;
+    m_blocks.state = state.blocks;
+}
+
+void SqlStyler::Line(long next, std::span<char> styles)
+{
+    m_lineStart = m_scanner.Position();
+    m_lineEnd = next;
+    m_styles = styles;
+    m_isBlank = true;
+    m_ignored = false;
+    m_clientLine = false;
+    m_afterName = false;
+    m_afterGlobalName = false;
+    m_blankStart = -1;
+    m_isClean = true;
+    m_freshAtStart = m_blocks.state.batch == SqlBlockState::Batch::Fresh;
+    m_startDepth = VisibleDepth();
+    m_least = m_startDepth;
+    while (m_scanner.Position() < next) {
+        const ScanState before = m_scanner.State();
+        const Token token = m_scanner.Next(next);
+        if (token.kind == TokenKind::End)
+            break;
+        Take(token, before);
+    }
+    if (m_clientLine && !m_scanner.State().InCode())
+        m_scanner.Restart(next);
+    FinishLine();
+}
+
+void SqlStyler::Take(const Token& token, const ScanState& before)
+{
+    int style = 0;
+    switch (token.kind) {
+    case TokenKind::Blank:
+        Fill(token.start, token.end, 0);
+        if (m_afterName)
+            m_blankStart = token.start;
+        return;
+    case TokenKind::LineEnd:
+        Fill(token.start, token.end, 0);
+        m_blocks.TakeLineEnd();
+        return;
+    case TokenKind::LineComment:
+    case TokenKind::BlockComment:
+        TakeComment(token);
+        return;
+    case TokenKind::Word:
+        TakeWord(token);
+        return;
+    case TokenKind::Variable:
+        TakeVariable(token);
+        return;
+    case TokenKind::CodeComment:
+        style = m_palette.blockComment;
+        break;
+    case TokenKind::String:
+        style = m_palette.string;
+        break;
+    case TokenKind::QuotedName:
+        style = QuotedNameStyle(token, before);
+        break;
+    case TokenKind::Number:
+        style = m_palette.number;
+        break;
+    default:
+        style = m_palette.op;
+        break;
+    }
+    Fill(token.start, token.end, style);
+    const bool wasGlobalName = m_afterGlobalName;
+    Feed(token, SqlWord::None);
+    m_afterName = token.kind == TokenKind::QuotedName;
+    m_blankStart = -1;
+    m_afterGlobalName = wasGlobalName && token.kind == TokenKind::Operator &&
+                        m_blocks.state.before == SqlBlockState::Before::Point;
+}
+
+// Words and what else may begin a statement, a batch or a line of the client's.
+void SqlStyler::Feed(const Token& token, SqlWord word)
+{
+    m_isBlank = false;
+    const bool isFirst = m_isClean && !token.resumed;
+    m_isClean = false;
+    if (m_ignored || (isFirst && !m_separator.text.empty() && TakeSeparator(token)))
+        return;
+    OpenFreshBatch();
+    if (isFirst) {
+        if (m_hasCommands && !m_blocks.state.inStatement && TakeCommand(token))
+            return;
+    }
+    SqlBlockState::Batch& batch = m_blocks.state.batch;
+    if (!m_separator.text.empty() && batch == SqlBlockState::Batch::None)
+        batch = SqlBlockState::Batch::Fresh;
+    m_blocks.Take(m_scanner.Text(), token, word);
+    if (m_blocks.AtSetTerm())
+        TakeSetTerm();
+    NoteDepth();
+}
+
+// The batch has code on an earlier line: this one and those behind belong to its fold.
+void SqlStyler::OpenFreshBatch()
+{
+    if (!m_freshAtStart || m_blocks.state.batch != SqlBlockState::Batch::Fresh)
+        return;
+    m_blocks.state.batch = SqlBlockState::Batch::Open;
+    ++m_startDepth;
+    ++m_least;
+}
+
+bool SqlStyler::TakeSeparator(const Token& token)
+{
+    const analysis::SeparatorLine line =
+        analysis::SeparatorAt(m_dialect, m_scanner.Text(), token.start, m_separator);
+    if (!line.found)
+        return false;
+    m_blocks.CloseBatch();
+    m_ignored = true;
+    if (token.kind == TokenKind::Word)
+        Fill(token.start, token.end, m_palette.statement);
+    m_least = 0;
+    return true;
+}
+
+bool SqlStyler::TakeCommand(const Token& token)
+{
+    const TextSpans& text = m_scanner.Text();
+    const bool byLead = m_dialect.commandLeads.find(static_cast<char>(text.At(token.start))) !=
+                        std::string_view::npos;
+    const bool isDelimiter =
+        !m_dialect.delimiterWord.empty() && EqualsWord(token, m_dialect.delimiterWord);
+    if (!byLead && !isDelimiter && !IsListed(token, m_dialect.commandWords))
+        return false;
+    if (isDelimiter)
+        TakeDelimiter(token);
+    m_blocks.CloseStatement();
+    if (!m_separator.text.empty() && m_blocks.state.batch == SqlBlockState::Batch::None)
+        m_blocks.state.batch = SqlBlockState::Batch::Fresh;
+    m_ignored = true;
+    m_clientLine = true;
+    if (token.kind == TokenKind::Word)
+        Fill(token.start, token.end, m_palette.statement);
+    const bool isRemark = IsListed(token, kRemarks);
+    if (isRemark || m_palette.clientLine != 0 || IsListed(token, kPlainTexts)) {
+        const Token rest = m_scanner.TakeLine(m_lineEnd);
+        const int style = isRemark ? m_palette.lineComment : m_palette.clientLine;
+        Fill(rest.start, rest.end, style);
+        if (isRemark || style != 0)
+            Fill(token.start, token.end, style);
+    }
+    return true;
+}
+
+void SqlStyler::TakeComment(const Token& token)
+{
+    const TextSpans& text = m_scanner.Text();
+    const bool isLine = token.kind == TokenKind::LineComment;
+    if (!isLine && !token.resumed)
+        m_state.docComment = text.At(token.start + 2) == '*' && text.At(token.start + 3) != '/';
+    const bool isDoc = !isLine && m_state.docComment;
+    Fill(token.start, token.end,
+         isLine  ? m_palette.lineComment
+         : isDoc ? m_palette.docComment
+                 : m_palette.blockComment);
+    if (!isLine && !token.cut)
+        m_state.docComment = false;
+    m_isBlank = false;
+    OpenFreshBatch();
+    if (isLine && m_dialect.terminatorComment && !token.resumed)
+        TakeTerminatorComment(token);
+    NoteDepth();
+}
+
+void SqlStyler::TakeWord(const Token& token)
+{
+    if (token.resumed) { // of a line without end
+        Fill(token.start, token.end, m_palette.identifier);
+        m_isBlank = false;
+        return;
+    }
+    using Before = SqlBlockState::Before;
+    const bool behindPoint = m_blocks.state.before == Before::Point && !m_ignored;
+    const SqlVocabulary::Entry* entry = &m_vocabulary.Find(BytesOf(token));
+    Token whole = token;
+    if (entry->beginsWithPoint && !behindPoint) {
+        whole.end = EndOfPointedWord(token);
+        const SqlVocabulary::Entry& pointed = m_vocabulary.Find(BytesOf(whole));
+        if (pointed.sets)
+            entry = &pointed;
+        else
+            whole.end = token.end;
+    }
+    const bool isGlobal = m_afterGlobalName && behindPoint && (entry->sets >> kGlobalVariables & 1);
+    const int style =
+        isGlobal ? m_palette.globalVariable : StylesFor(whole, *entry, behindPoint)[entry->sets];
+    Fill(token.start, whole.end, style);
+    if (style == m_palette.dataType && m_afterName && m_blankStart >= 0)
+        Fill(m_blankStart, token.start, m_palette.beforeDataType);
+    if (whole.end > token.end)
+        m_scanner.Restart(whole.end);
+    Feed(whole, entry->shape);
+    m_afterName = style == m_palette.identifier;
+    m_afterGlobalName = false;
+    m_blankStart = -1;
+}
+
+// A word of several sets is what its place makes likely.
+const SqlStyler::WordStyles&
+SqlStyler::StylesFor(const Token& token, const SqlVocabulary::Entry& entry, bool behindPoint) const
+{
+    if (behindPoint)
+        return m_palette.wordsAfterPoint;
+    if (m_afterName && (entry.sets >> kDataTypeSet & 1))
+        return m_palette.wordsAfterName;
+    return m_scanner.Text().At(token.end) == '(' ? m_palette.calledWords : m_palette.words;
+}
+
+void SqlStyler::TakeVariable(const Token& token)
+{
+    const TextSpans& text = m_scanner.Text();
+    int style = m_palette.variable;
+    m_afterGlobalName = false;
+    if (!token.resumed && text.At(token.start) == '@' && text.At(token.start + 1) == '@') {
+        Token name = token;
+        name.start += 2;
+        if (m_vocabulary.Find(BytesOf(name)).sets >> kGlobalVariables & 1)
+            style = m_palette.globalVariable;
+        m_afterGlobalName = true;
+    }
+    Fill(token.start, token.end, style);
+    const bool isGlobalName = m_afterGlobalName;
+    Feed(token, SqlWord::None);
+    m_afterName = true;
+    m_afterGlobalName = isGlobalName;
+    m_blankStart = -1;
+}
+
+// Behind the last of words that points join.
+long SqlStyler::EndOfPointedWord(const Token& token) const
+{
+    const TextSpans& text = m_scanner.Text();
+    const auto& inWord = analysis::BytesOf(m_dialect).inWord;
+    const long stop = std::min(m_lineEnd, token.start + kLongestPointedWord);
+    long end = token.end;
+    while (end + 1 < stop && text.At(end) == '.' && inWord[text.At(end + 1)]) {
+        ++end;
+        while (end < stop && inWord[text.At(end)])
+            ++end;
+    }
+    return end;
+}
+
+int SqlStyler::QuotedNameStyle(const Token& token, const ScanState& before) const
+{
+    const unsigned char quote =
+        token.resumed ? static_cast<unsigned char>(before.value) : m_scanner.Text().At(token.start);
+    return quote == '"' ? m_palette.quotedName : m_palette.otherQuotedName;
+}
+
+bool SqlStyler::EqualsWord(const Token& token, std::string_view word) const
+{
+    return token.kind == TokenKind::Word && token.Length() == static_cast<long>(word.size()) &&
+           LowerCopy(m_scanner.Text(), token.start, token.end) == word;
+}
+
+// Whether the word is one of a list, each of which stands between blanks.
+bool SqlStyler::IsListed(const Token& token, std::string_view list) const
+{
+    if (list.empty() || token.kind != TokenKind::Word || token.Length() > 16)
+        return false;
+    std::string word(1, ' ');
+    word += LowerCopy(m_scanner.Text(), token.start, token.end);
+    word += ' ';
+    return list.find(word) != std::string_view::npos;
+}
+
+void SqlStyler::SetTerminator(long start, long end)
+{
+    const std::string text = m_scanner.Text().Copy(start, end);
+    if (text.empty() || text.size() > analysis::Terminators::kLongest || m_terminators.NearlyFull())
+        return;
+    m_blocks.state.terminator = m_terminators.NumberOf(text);
+    m_scanner.SetTerminator(m_terminators.TextOf(m_blocks.state.terminator));
+}
+
+void SqlStyler::TakeDelimiter(const Token& token)
+{
+    const TextSpans& text = m_scanner.Text();
+    const long start = SkipBlanks(text, token.end, m_lineEnd);
+    if (start > token.end)
+        SetTerminator(start, EndOfArgument(text, start, m_lineEnd));
+}
+
+// SET TERM new old. The old one may stand directly behind.
+void SqlStyler::TakeSetTerm()
+{
+    const TextSpans& text = m_scanner.Text();
+    std::string_view old = m_terminators.TextOf(m_blocks.state.terminator);
+    if (old.empty())
+        old = ";";
+    const long termEnd = m_scanner.Position();
+    const long start = SkipBlanks(text, termEnd, m_lineEnd);
+    const long blank = EndOfArgument(text, start, m_lineEnd);
+    long end = std::min(start + 1, blank);
+    while (end < blank && !text.Has(end, old))
+        ++end;
+    const long behind = SkipBlanks(text, end, m_lineEnd);
+    const long stop = text.Has(behind, old) ? behind + static_cast<long>(old.size()) : end;
+    Fill(termEnd, stop, m_palette.op);
+    m_scanner.Restart(stop);
+    SetTerminator(start, end);
+    m_blocks.CloseStatement();
+}
+
+// --#SET TERMINATOR new
+void SqlStyler::TakeTerminatorComment(const Token& token)
+{
+    static constexpr std::string_view kStart = "--#set terminator";
+    const TextSpans& text = m_scanner.Text();
+    const long behind = token.start + static_cast<long>(kStart.size());
+    if (behind >= token.end || LowerCopy(text, token.start, behind) != kStart)
+        return;
+    const long argument = SkipBlanks(text, behind, token.end);
+    if (argument > behind)
+        SetTerminator(argument, EndOfArgument(text, argument, token.end));
+}
+
+// Good until the next call.
+std::string_view SqlStyler::BytesOf(const Token& token)
+{
+    const auto length = static_cast<std::size_t>(token.Length());
+    if (length == 0)
+        return {};
+    const std::string_view run = m_scanner.Text().RunAt(token.start);
+    if (run.size() >= length)
+        return run.substr(0, length);
+    m_scratch = m_scanner.Text().Copy(token.start, token.end);
+    return m_scratch;
+}
+
+void SqlStyler::Fill(long start, long end, int style)
+{
+    const auto size = static_cast<long>(m_styles.size());
+    const long first = std::min(start - m_lineStart, size);
+    const long last = std::min(end - m_lineStart, size);
+    char* at = m_styles.data() + first;
+    for (long i = first; i < last; ++i)
+        *at++ = static_cast<char>(style);
+}
+
+void SqlStyler::NoteDepth()
+{
+    m_least = std::min(m_least, VisibleDepth());
+}
+
+// The comment under way counts where it stands over a line's end.
+long SqlStyler::VisibleDepth() const
+{
+    const TokenKind inside = m_scanner.State().inside;
+    const bool inComment = inside == TokenKind::BlockComment || inside == TokenKind::CodeComment;
+    return static_cast<long>(m_blocks.state.Depth()) + (m_fold.comments && inComment);
+}
+
+// A line where something opens that stays open is a header, as deep as the line ever was: it may
+// close something else before. Other lines are as deep as they start, so that the line of an END
+// belongs to its block.
+void SqlStyler::FinishLine()
+{
+    using Batch = SqlBlockState::Batch;
+    Batch& batch = m_blocks.state.batch;
+    const long endDepth = VisibleDepth();
+    const bool opens = endDepth > m_least;
+    const long depth = m_ignored && batch == Batch::None ? 0 : opens ? m_least : m_startDepth;
+    constexpr long kDeepest = sqlstyle::kFoldNumber;
+    const long number = std::min(sqlstyle::kFoldBase + depth, kDeepest);
+    const bool isHeader = opens && number < kDeepest;
+    m_level = static_cast<int>(number) | (isHeader ? sqlstyle::kFoldHeader : 0) |
+              (m_isBlank && m_fold.compact ? sqlstyle::kFoldBlank : 0);
+    m_state.scan = m_scanner.State();
+    m_state.blocks = m_blocks.state;
+    m_state.docComment = m_state.docComment && !m_state.scan.InCode();
+}
+
+} // namespace engine

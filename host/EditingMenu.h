@@ -1,0 +1,30 @@
+// What the Edit menu has for lines, words, comments and bookmarks, in menus of their own. Most of
+// it are commands of the editor, which says itself when each is possible.
+#pragma once
+
+#include <QObject>
+
+#include <functional>
+#include <vector>
+
+class CZNCoreEditorControlEx;
+class QAction;
+class QMenu;
+
+class EditingMenu final : public QObject
+{
+public:
+    // Appends to the menu. The editor is that of the script in front, null if there is none.
+    EditingMenu(QMenu& menu, std::function<CZNCoreEditorControlEx*()> editor);
+
+    void Update();
+
+    struct Row; // one of the menus' entries
+
+private:
+    bool IsPossible(const Row& row) const;
+    void Run(const Row& row);
+
+    std::function<CZNCoreEditorControlEx*()> m_editor;
+    std::vector<QAction*> m_actions; // of the rows, in their order
+};

@@ -1,0 +1,27 @@
+#include "editing/text/Capitals.h"
+
+#include <QChar>
+
+namespace capitals {
+
+char16_t Narrowed(char16_t c)
+{
+    return static_cast<char16_t>(static_cast<signed char>(c));
+}
+
+std::u16string Capitalized(std::u16string_view text)
+{
+    std::u16string result(text);
+    bool startsWord = true;
+    for (char16_t& c : result) {
+        if (QChar::isSpace(c)) {
+            startsWord = true;
+        } else if (QChar::isLetter(c)) {
+            c = Narrowed(static_cast<char16_t>(startsWord ? QChar::toUpper(c) : QChar::toLower(c)));
+            startsWord = false;
+        }
+    }
+    return result;
+}
+
+} // namespace capitals

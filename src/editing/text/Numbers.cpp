@@ -1,0 +1,50 @@
+#include "editing/text/Numbers.h"
+
+#include <QChar>
+
+#include <algorithm>
+#include <limits>
+
+namespace numbers {
+
+int IntegerOf(std::u16string_view text)
+{
+    std::size_t at = 0;
+    while (at < text.size() && QChar::isSpace(text[at]))
+        ++at;
+    const bool negative = at < text.size() && text[at] == u'-';
+    if (at < text.size() && (text[at] == u'-' || text[at] == u'+'))
+        ++at;
+    constexpr long kLargest = std::numeric_limits<int>::max();
+    long value = 0;
+    for (; at < text.size() && text[at] >= u'0' && text[at] <= u'9'; ++at)
+        value = std::min(value * 10 + (text[at] - u'0'), kLargest + 1);
+    return static_cast<int>(negative ? -value : std::min(value, kLargest));
+}
+
+std::u16string TextOf(int number)
+{
+    const std::string digits = std::to_string(number);
+    return {digits.begin(), digits.end()};
+}
+
+std::u16string PaddedTextOf(int number, int width)
+{
+    std::u16string text = TextOf(number);
+    const auto wanted = static_cast<std::size_t>(
+        std::min(width < 0 ? -static_cast<long>(width) : width, 0L + kWidest));
+    if (text.size() >= wanted)
+        return text;
+    if (width < 0)
+        text.append(wanted - text.size(), u' ');
+    else
+        text.insert(number < 0 ? 1 : 0, wanted - text.size(), u'0');
+    return text;
+}
+
+int Sum(int first, int second)
+{
+    return static_cast<int>(static_cast<unsigned>(first) + static_cast<unsigned>(second));
+}
+
+} // namespace numbers

@@ -1,0 +1,194 @@
+// Comment markers taken out.
+#include "tests/editing/EditingFixture.h"
+
+namespace {
+
+class Uncommenting : public EditingTest
+{
+protected:
+    std::u16string Block(const std::u16string& marked)
+    {
+        Put(marked);
+        EXPECT_TRUE(control.UnCommentSelection(0, true));
+        return Marked();
+    }
+    std::u16string Lines(const std::u16string& marked)
+    {
+        Put(marked);
+        EXPECT_TRUE(control.UnCommentSelection(0, false));
+        return Marked();
+    }
+};
+
+TEST_F(Uncommenting, TheBlankBehindALineMarkerGoesToo)
+{
+    EXPECT_EQ(Lines(u"[-- one]|"), u"[one]|");
+    EXPECT_EQ(TextAfterUndo(), u"-- one");
+    EXPECT_EQ(Lines(u"[--one]|"), u"[one]|");
+    EXPECT_EQ(Lines(u"-- one|"), u"-- one|");
+}
+
+// The selection's end moves by what was removed, also where that stood behind it, and a negative
+// end is the text's.
+TEST_F(Uncommenting, WithoutASelectionTheEndOvertakesTheStart)
+{
+    EXPECT_EQ(Lines(u"one\n|-- two"), u"o|[ne\n]two");
+    EXPECT_EQ(Lines(u"|-- one\ntwo"), u"[one\ntwo]|");
+}
+
+TEST_F(Uncommenting, LineMarkersAreFoundBehindTheIndentation)
+{
+    EXPECT_EQ(Lines(u"[  -- one\n\t--two\n\nthree -- x\n]|-- y"),
+              u"[  one\n\ttwo\n\nthree -- x\n]|-- y");
+    EXPECT_EQ(TextAfterUndo(), u"  -- one\n\t--two\n\nthree -- x\n-- y");
+}
+
+TEST_F(Uncommenting, OnTheFirstLineTheMarkerIsLookedForFromTheSelectionOn)
+{
+    EXPECT_EQ(Lines(u"a[  -- b]|"), u"a[  b]|");
+    EXPECT_EQ(Lines(u"-[- a]|"), u"-[- a]|");
+}
+
+TEST_F(Uncommenting, ASelectionThatRunsBackwardsStaysBackwards)
+{
+    EXPECT_EQ(Lines(u"|[-- a\n-- b]"), u"|[a\nb]");
+}
+
+TEST_F(Uncommenting, AMarkerOfThreeLosesNoBlankAndALongerOneIsNotFound)
+{
+    control.Reset();
+    control.AddSingleLineComment(QStringLiteral("REM"));
+    EXPECT_EQ(Lines(u"[REM one]|"), u"[ one]|");
+    control.Reset();
+    control.AddSingleLineComment(QStringLiteral("REMARK"));
+    EXPECT_EQ(Lines(u"|REMARK one"), u"|REMARK one");
+}
+
+TEST_F(Uncommenting, ABlockCommentOnALineLosesBothMarkers)
+{
+    EXPECT_EQ(Block(u"a [/* b */]| c"), u"a [ b ]| c");
+    EXPECT_EQ(TextAfterUndo(), u"a /* b */ c");
+    EXPECT_EQ(Block(u"|  /*abc*/"), u"  [abc]|");
+}
+
+// The end marker is looked for as far behind the indentation as the start marker reached, which is
+// gone then.
+TEST_F(Uncommenting, AnEndMarkerSoonBehindTheStartMarkerIsMissed)
+{
+    EXPECT_EQ(Block(u"[  /*a*/]|"), u"  [a*/]|");
+    EXPECT_EQ(Block(u"[  /*ab*/]|"), u"  [ab]|");
+}
+
+TEST_F(Uncommenting, WithoutTheStartMarkerTheEndIsLookedForBehindItsPlace)
+{
+    Put(u"|*/ab*/");
+    EXPECT_TRUE(control.UnCommentSelection(0, true));
+    EXPECT_EQ(Text(), u"*/ab");
+    Put(u"|*/ab");
+    EXPECT_TRUE(control.UnCommentSelection(0, true));
+    EXPECT_EQ(Text(), u"*/ab");
+}
+
+TEST_F(Uncommenting, WithoutAnEndMarkerTheSelectionRunsToTheEngineslimit)
+{
+    EXPECT_EQ(Block(u"|/*a\nb"), u"[a\nb]|");
+}
+
+TEST_F(Uncommenting, LineMarkersMakeTheBlockFormALineForm)
+{
+    EXPECT_EQ(Block(u"[-- a /* b */\n-- c]|"), u"[a /* b */\nc]|");
+    EXPECT_EQ(Block(u"[  -- /*a*/]|"), u"[  /*a*/]|");
+}
+
+TEST_F(Uncommenting, AThreeCharacterMarkerIsSeenOnlyByItsIndentation)
+{
+    control.Reset();
+    control.AddSingleLineComment(QStringLiteral("REM"));
+    control.AddBlockComment(QStringLiteral("/*"), QStringLiteral("*/"));
+    EXPECT_EQ(Block(u"[ REM /*a*/]|"), u"[  /*a*/]|");
+    Put(u"[REM /*a*/]|");
+    EXPECT_TRUE(control.UnCommentSelection(0, true));
+    EXPECT_EQ(Text(), u"REM a");
+}
+
+TEST_F(Uncommenting, OverLinesTheMarkersOfEachGo)
+{
+    EXPECT_EQ(Block(u"[/* a\n** b\n   c */\n]|d"), u" a\n b\n   c \n|d");
+    EXPECT_EQ(TextAfterUndo(), u"/* a\n** b\n   c */\nd");
+}
+
+TEST_F(Uncommenting, OverLinesBothMarkersOfOneLineGo)
+{
+    EXPECT_EQ(Block(u"[/*a*/\n/*b*/ c]|"), u"a\nb c|");
+}
+
+TEST_F(Uncommenting, OverLinesTheLastEndMarkerGoes)
+{
+    EXPECT_EQ(Block(u"[a */ b */\nc]|"), u"a */ b \nc|");
+}
+
+TEST_F(Uncommenting, MarkersThatOverlapCountOnce)
+{
+    EXPECT_EQ(Block(u"[x\n /*/ a\n]|"), u"x\n / a\n|");
+    EXPECT_EQ(Block(u"[x\n */* a\n]|"), u"x\n * a\n|");
+}
+
+TEST_F(Uncommenting, AMiddleMarkerGoesOnlyWithoutTheOthers)
+{
+    EXPECT_EQ(Block(u"[** a\nb]|"), u" a\nb|");
+    EXPECT_EQ(Block(u"[/* ** a\nb]|"), u" ** a\nb|");
+    EXPECT_EQ(Block(u"[** a */\nb]|"), u"** a \nb|");
+}
+
+TEST_F(Uncommenting, AnEndMarkerInFrontOfTheStartTakesWhatIsBeforeIt)
+{
+    // The place of the second removal counts the first one, wherever that was.
+    Put(u"[abcd */ /*\nx]|");
+    EXPECT_TRUE(control.UnCommentSelection(0, true));
+    EXPECT_EQ(Text(), u"abc*/ \nx");
+    EXPECT_EQ(TextAfterUndo(), u"abcd */ /*\nx");
+}
+
+TEST_F(Uncommenting, ALineOfOneMarkerAtTheTextsEndDeletesTheLineOfTheCaret)
+{
+    Put(u"[a\n*/]|");
+    EXPECT_TRUE(control.UnCommentSelection(0, true));
+    EXPECT_EQ(Text(), u"a\n");
+    Put(u"|[a\n*/]");
+    EXPECT_TRUE(control.UnCommentSelection(0, true));
+    EXPECT_EQ(Text(), u"*/");
+    EXPECT_EQ(TextAfterUndo(), u"a\n*/");
+}
+
+TEST_F(Uncommenting, TheLengthOfTheStartMarkerHoldsForTheEnd)
+{
+    control.Reset();
+    control.AddBlockComment(QStringLiteral("<!--"), QStringLiteral("-->"));
+    Put(u"[<!--a-->]|");
+    EXPECT_TRUE(control.UnCommentSelection(0, true));
+    EXPECT_EQ(Text(), u"a-->"); // four units are looked for
+    control.Reset();
+    control.AddBlockComment(QStringLiteral("{"), QStringLiteral("--}"));
+    Put(u"[{a--}]|");
+    EXPECT_TRUE(control.UnCommentSelection(0, true));
+    EXPECT_EQ(Text(), u"a-}");
+}
+
+TEST_F(Uncommenting, MissingMarkersGiveFalse)
+{
+    Put(u"[/*a*/]|");
+    EXPECT_FALSE(control.UnCommentSelection(-1, true));
+    EXPECT_FALSE(control.UnCommentSelection(-1, false));
+    control.Reset();
+    EXPECT_FALSE(control.UnCommentSelection(0, true));
+    EXPECT_FALSE(control.UnCommentSelection(0, false));
+    EXPECT_EQ(Text(), u"/*a*/");
+}
+
+TEST_F(Uncommenting, AnEmptyTextStays)
+{
+    EXPECT_EQ(Block(u"|"), u"|");
+    EXPECT_EQ(Lines(u"|"), u"|");
+}
+
+} // namespace
