@@ -131,15 +131,12 @@ void ScriptText::StyleBlock(long to)
         m_known = m_stale = m_styled;
 }
 
-// The style of a line's end is all that the lexers take from one line to the next in these states.
+// Outside comments and strings the lexers take nothing else from one line to the next. A comment
+// hides how deep it nests, and a string how it ends.
 bool ScriptText::StylesAgreeAgain(long end, int before) const
 {
-    const int style = m_control.GetStyleAt(end - 1, 1);
-    if (m_lexer == kContainerLexer)
-        return false;
-    if (IsPlainStyle(style))
-        return IsPlainStyle(before);
-    return style == before && (IsCommentStyle(m_lexer, style) || IsStringStyle(m_lexer, style));
+    return m_lexer != kContainerLexer && IsPlainStyle(before) &&
+           IsPlainStyle(m_control.GetStyleAt(end - 1, 1));
 }
 
 void ScriptText::Changed(long at, long removed, long inserted)
