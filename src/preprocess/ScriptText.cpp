@@ -148,8 +148,8 @@ void ScriptText::Changed(long at, long removed, long inserted)
         return;
     const bool wasStale = m_styled < m_known;
     m_known = Moved(m_known, at, removed, inserted);
-    m_stale = wasStale ? std::max(Moved(m_stale, at, removed, inserted), at + inserted)
-                       : at + inserted;
+    m_stale =
+        wasStale ? std::max(Moved(m_stale, at, removed, inserted), at + inserted) : at + inserted;
     m_styled = std::min(m_styled, at);
 }
 
