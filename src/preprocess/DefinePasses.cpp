@@ -78,9 +78,10 @@ DefinePasses::Ranges DefinePasses::TakeRanges(long start, long freshEnd)
     }
     const long settled = std::max(freshEnd, m_text.SettleStyles());
     Ranges ranges{{length - start, length - m_text.LineEnd(m_text.LineOf(settled))}};
-    const auto add = [&ranges](Range range) {
-        range.from = std::min(range.from, ranges.back().to);
-        if (range.to < range.from)
+    const auto add = [&ranges](const Range& range) {
+        if (range.from >= ranges.back().to) // no hit may fall between two that touch
+            ranges.back().to = std::min(ranges.back().to, range.to);
+        else if (range.to < range.from)
             ranges.push_back(range);
     };
     for (const Range& range : m_again)
@@ -204,7 +205,7 @@ void DefinePasses::Replace(long hit, const QString& name, const QString& value)
     const int lastLine = m_text.LineOf(std::min<long>(m_text.Length(), hit + 2 * name.size()));
     const bool maySpread = lastLine != m_text.LineOf(hit);
     if (m_text.Replace(hit, name, value) > 1 && maySpread)
-        m_changed.push_back({hit, hit + 2 * (name.size() + value.size())});
+        m_changed.push_back({m_lineStart, hit + 2 * (name.size() + value.size())});
     m_text.SearchFor(kSigil, true, false);
     m_lineChanged = true;
 }
