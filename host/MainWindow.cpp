@@ -3,6 +3,7 @@
 #include "editing/ZNCoreEditorControlEx.h"
 #include "host/AutosaveDialog.h"
 #include "host/EditorTab.h"
+#include "host/ExpandedScript.h"
 #include "host/LanguageMenu.h"
 #include "host/OptionsDialog.h"
 #include "host/ProblemPane.h"
@@ -35,7 +36,7 @@ QString SameFile(const QString& path)
 
 MainWindow::MainWindow(Prompts& prompts)
     : m_prompts(prompts), m_tabs(new QTabWidget(this)), m_status(new StatusIndicators(statusBar())),
-      m_problems(new ProblemPane(this))
+      m_problems(new ProblemPane(this)), m_expanded(new ExpandedScript(this))
 {
     m_tabs->setTabsClosable(true);
     m_tabs->setMovable(true);
@@ -47,6 +48,9 @@ MainWindow::MainWindow(Prompts& prompts)
         if (EditorTab* tab = CurrentTab())
             tab->SelectRange(start, end);
     });
+    addDockWidget(Qt::RightDockWidgetArea, m_expanded);
+    m_expanded->hide();
+    connect(m_expanded, &ExpandedScript::SourceChosen, this, &MainWindow::ShowSource);
     connect(m_tabs, &QTabWidget::currentChanged, this, [this] {
         UpdateAll();
         ListProblems();
@@ -325,6 +329,26 @@ void MainWindow::NextProblem()
                                      [caret](const ScriptProblem& p) { return p.start > caret; });
     const ScriptProblem& next = behind != problems.end() ? *behind : problems.front();
     tab->SelectRange(next.start, next.end);
+}
+
+void MainWindow::ExpandScript()
+{
+    m_expanded->Expand(*CurrentTab());
+    m_expanded->show();
+}
+
+void MainWindow::ShowSource(const QString& path, long line)
+{
+    EditorTab* script = m_expanded->Script();
+    if (path.isEmpty() && script)
+        m_tabs->setCurrentWidget(script);
+    else if (path.isEmpty())
+        return;
+    else if (const QString problem = OpenScript(path); !problem.isEmpty())
+        return m_prompts.Tell(this, problem);
+    CZNCoreEditorControlEx& editor = CurrentTab()->Editor();
+    editor.GotoLine(static_cast<int>(line), 1);
+    CurrentTab()->setFocus();
 }
 
 void MainWindow::OnTabChanged(EditorTab* tab)

@@ -8,6 +8,7 @@
 
 class EditingMenu;
 class EditorTab;
+class ExpandedScript;
 class LanguageMenu;
 class ProblemPane;
 class Prompts;
@@ -58,6 +59,7 @@ public:
     void ShowLineEnds(bool show);
     void WrapLines(bool wrap);
     void NextProblem();
+    void ExpandScript();
     void ChangeOptions();
     void ChangeAutosave();
     void NextScript();
@@ -88,6 +90,7 @@ private:
     QString FolderToStartIn() const;
     void OnTabChanged(EditorTab* tab);
     void ListProblems();
+    void ShowSource(const QString& path, long line);
     void UpdateCaptions(EditorTab* tab);
     void UpdateAll();
 
@@ -96,6 +99,7 @@ private:
     StatusIndicators* m_status;
     LanguageMenu* m_languages = nullptr;
     ProblemPane* m_problems;
+    ExpandedScript* m_expanded;
     EditingMenu* m_editing = nullptr;
     std::vector<QAction*> m_actions; // of the named commands, in their order
     int m_untitledCount = 0;

@@ -90,6 +90,8 @@ std::span<const MainWindow::Command> MainWindow::Commands()
         {"&View", "next",      "Ne&xt Script",     Key::NextChild,     nullptr, When::SeveralScripts, Run<&W::NextScript>},
         {"&View", "previous",  "&Previous Script", Key::PreviousChild, nullptr, When::SeveralScripts, Run<&W::PreviousScript>},
 
+        {"&Tools", "expand",   "&Expanded Script", Key::UnknownKey, "F9",    When::Script, Run<&W::ExpandScript>},
+        {"&Tools", nullptr},
         {"&Tools", "options",  "&Options...",   Key::Preferences,  "Ctrl+,", When::Always, Run<&W::ChangeOptions>},
         {"&Tools", "autosave", "&Autosave...",  Key::UnknownKey,   nullptr,  When::Always, Run<&W::ChangeAutosave>},
     };

@@ -7,6 +7,7 @@
 #include <QDialogButtonBox>
 #include <QFontComboBox>
 #include <QFormLayout>
+#include <QLineEdit>
 #include <QSpinBox>
 #include <QVBoxLayout>
 
@@ -34,7 +35,8 @@ constexpr SwitchRow kSwitches[] = {
 
 OptionsDialog::OptionsDialog(QWidget* parent)
     : QDialog(parent), m_font(new QFontComboBox(this)), m_points(new QSpinBox(this)),
-      m_tabWidth(new QSpinBox(this)), m_autoIndent(new QComboBox(this))
+      m_tabWidth(new QSpinBox(this)), m_autoIndent(new QComboBox(this)),
+      m_includePath(new QLineEdit(this))
 {
     setWindowTitle(QStringLiteral("Options"));
     CZNOptionsServer& options = *CZNOptionsServer::GetObjectW();
@@ -52,11 +54,16 @@ OptionsDialog::OptionsDialog(QWidget* parent)
                             QStringLiteral("By the language")});
     m_autoIndent->setCurrentIndex(std::clamp(options.GetInt(option::AutoIndent), 0, 2));
 
+    m_includePath->setObjectName(QStringLiteral("includePath"));
+    m_includePath->setText(options.GetString(option::IncludePath));
+    m_includePath->setPlaceholderText(QStringLiteral("Folders, with ; between them"));
+
     auto* form = new QFormLayout;
     form->addRow(QStringLiteral("&Font"), m_font);
     form->addRow(QStringLiteral("&Size"), m_points);
     form->addRow(QStringLiteral("&Tab width, in columns"), m_tabWidth);
     form->addRow(QStringLiteral("&Indent new lines"), m_autoIndent);
+    form->addRow(QStringLiteral("Folders of i&ncluded files"), m_includePath);
     for (const SwitchRow& row : kSwitches)
         form->addRow(AddSwitch(row.name, QString::fromUtf16(row.text), row.key));
 
@@ -99,6 +106,7 @@ void OptionsDialog::Store() const
     options.SetLOGFONT(option::EditorFont, &font);
     options.SetInt(option::TabWidth, m_tabWidth->value());
     options.SetInt(option::AutoIndent, m_autoIndent->currentIndex());
+    options.SetString(option::IncludePath, m_includePath->text());
     for (const auto& [box, key] : m_switches)
         options.SetInt(key, box->isChecked() ? 1 : 0);
 }

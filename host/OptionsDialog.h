@@ -6,6 +6,7 @@
 class QCheckBox;
 class QComboBox;
 class QFontComboBox;
+class QLineEdit;
 class QSpinBox;
 
 class OptionsDialog final : public QDialog
@@ -26,5 +27,6 @@ private:
     QSpinBox* m_points;
     QSpinBox* m_tabWidth;
     QComboBox* m_autoIndent;
+    QLineEdit* m_includePath;
     QList<std::pair<QCheckBox*, int>> m_switches; // with the key of each
 };

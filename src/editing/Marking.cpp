@@ -23,7 +23,7 @@ int CZNCoreEditorControlEx::MarkAll(const QString& text, int matchCase)
     search.SetRegExp(true);
     search.SetWholeWord(false);
     search.SetWrap(false);
-    search.AddFindHistory(text);
+    search.SetFind(text);
 
     const long caret = GetCurrentPos(1);
     SetCurrentPos(0, 1);

@@ -267,9 +267,22 @@ public:
     void OnUpdateMacrohelperNumminus(CCmdUI& ui);
     void OnUpdateLineNumbers(CCmdUI& ui);
 
-    // Pre-processing of scripts
+    // Pre-processing of scripts: the text with its directives expanded, in place and handed over.
+    void GetWindowTextW(QString& text);
+    // Puts back what the last run, of whichever control, began with. Nothing happens if that run
+    // found no directive.
+    void SetOriginalScript();
+    bool GetIncludeOrDefineDirectivesFound() const;
     bool HasPreprocessorErrors() const { return m_hasPreprocessorErrors; }
     void SetPreprocessorErrors(bool errors) { m_hasPreprocessorErrors = errors; }
+    // By the line of the expanded text.
+    std::map<int, QString> GetIncludeDirectiveErrorMessageAndLine() const
+    {
+        return m_includeErrors;
+    }
+    // The first message of a line stays.
+    void SetIncludeDirectiveErrorMessageAndLine(const QString& message, int line);
+    // Folders for included files, separated by ";".
     void SetDatasourceSearchPath(const QString& path) { m_datasourceSearchPath = path; }
 
 protected:

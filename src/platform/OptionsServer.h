@@ -61,6 +61,8 @@ enum Key : int
     FileTracking = 50203,    // int: what is done about files that others change
     FoldMargin = 50447,      // int: not 0 for a margin of folds
     WordWrap = 50453,        // int: not 0 for long lines wrapped
+    OwnIncludePath = 50467,  // string: folders for included files, in the application DBGlazier
+    IncludePath = 50468,     // string: the same in every other application
     DefaultTextType = 50637, // int: znutils::TextType of files without a mark
     ContinueComments = 50827 // bool: Enter continues a comment
 };

@@ -50,6 +50,10 @@ public:
     QString GetLocation() const { return m_strLocation; }
     QString GetFileType() const { return m_strFileType; }
 
+    // The current texts alone, for searches that nobody typed: the histories stay.
+    void SetFind(const QString& text) { m_strFind = text; }
+    void SetReplace(const QString& text) { m_strReplace = text; }
+
     // Puts a text on top of its history and makes it the current one. A history that is full loses
     // the item before its last: the oldest stays.
     void AddFindHistory(QString text);

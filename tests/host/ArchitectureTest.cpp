@@ -49,6 +49,7 @@ std::map<QString, QString> Sources()
     collect(root + "src", {});
     collect(root + "engine", QStringLiteral("engine/"));
     collect(root + "host", QStringLiteral("host/"));
+    collect(root + "script", QStringLiteral("script/"));
     return sources;
 }
 

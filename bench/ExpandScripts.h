@@ -1,0 +1,15 @@
+// Scripts to expand, with the files that they include.
+#pragma once
+
+#include <QTemporaryDir>
+
+#include <cstddef>
+#include <string>
+
+namespace bench {
+
+// For 64 MB: 10,000 definitions in front, 100,000 uses, 1,000 includes, all spread evenly; for
+// fewer as many fewer. The files stand in the folder.
+std::string MakeExpandable(const QTemporaryDir& folder, std::size_t megabytes);
+
+} // namespace bench

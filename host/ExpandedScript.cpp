@@ -1,0 +1,129 @@
+#include "host/ExpandedScript.h"
+
+#include "editing/Library.h"
+#include "editing/ZNCoreEditorWidget.h"
+#include "host/EditorTab.h"
+#include "platform/Units.h"
+#include "preprocess/CompileManager.h"
+
+#include <QAction>
+#include <QHeaderView>
+#include <QSplitter>
+#include <QToolBar>
+#include <QTreeWidget>
+#include <QVBoxLayout>
+
+namespace {
+
+constexpr int kLineColumn = 0;
+constexpr int kTextColumn = 1;
+constexpr int kLineRole = Qt::UserRole;
+
+} // namespace
+
+ExpandedScript::ExpandedScript(QWidget* parent)
+    : QDockWidget(parent), m_editor(new ZNCoreEditorWidget(this)), m_errors(new QTreeWidget(this))
+{
+    setObjectName(QStringLiteral("expandedScript"));
+    setWindowTitle(QStringLiteral("Expanded Script"));
+    m_editor->setObjectName(QStringLiteral("expandedText"));
+    m_errors->setObjectName(QStringLiteral("includeErrors"));
+    m_errors->setAccessibleName(QStringLiteral("Files that could not be included"));
+    m_errors->setRootIsDecorated(false);
+    m_errors->setHeaderLabels({QStringLiteral("Line"), QStringLiteral("Problem")});
+    m_errors->header()->setSectionResizeMode(kLineColumn, QHeaderView::ResizeToContents);
+
+    auto* bar = new QToolBar(this);
+    const auto add = [&](const char* name, const QString& text, void (ExpandedScript::*run)()) {
+        QAction* action = bar->addAction(text, this, run);
+        action->setObjectName(QLatin1String(name));
+    };
+    add("goToSource", QStringLiteral("Go to Source"), &ExpandedScript::GoToSource);
+    add("putOriginalBack", QStringLiteral("Put Original Back"), &ExpandedScript::PutOriginalBack);
+    auto* splitter = new QSplitter(Qt::Vertical, this);
+    splitter->addWidget(m_editor);
+    splitter->addWidget(m_errors);
+    splitter->setStretchFactor(0, 1);
+    auto* content = new QWidget(this);
+    auto* layout = new QVBoxLayout(content);
+    layout->setContentsMargins(0, 0, 0, 0);
+    layout->addWidget(bar);
+    layout->addWidget(splitter);
+    setWidget(content);
+
+    connect(m_editor, &ZNCoreEditorWidget::notified, this, &ExpandedScript::OnNotified);
+    connect(m_errors, &QTreeWidget::itemActivated, this, [this](const QTreeWidgetItem* item) {
+        GoToSourceOf(item->data(kLineColumn, kLineRole).value<long>());
+    });
+}
+
+// The editor goes after this part of the pane does, and tells of it.
+ExpandedScript::~ExpandedScript()
+{
+    m_editor->disconnect(this);
+}
+
+EditorTab* ExpandedScript::Script() const
+{
+    return m_script;
+}
+
+void ExpandedScript::Expand(EditorTab& tab)
+{
+    m_script = &tab;
+    setWindowTitle(QStringLiteral("Expanded Script – %1").arg(tab.Name()));
+    m_editor->setLanguage(tab.Language());
+    CZNCoreEditorControlEx& control = m_editor->control();
+    control.SetCarefulFiles(true);
+    control.SetReadOnly(0, 1);
+    control.SetEOLMode(tab.Editor().GetEOLMode(1), 1);
+    control.SetText(Units(tab.Editor().GetText()), 1);
+    QString expanded;
+    control.GetWindowTextW(expanded);
+    control.EmptyUndoBuffer(1);
+    control.SetReadOnly(1, 1);
+    control.GotoPos(0, 1);
+    m_map = zncoreeditor::GetCompileManager()->GetSourceMap();
+    ListErrors();
+}
+
+void ExpandedScript::PutOriginalBack()
+{
+    CZNCoreEditorControlEx& control = m_editor->control();
+    control.SetReadOnly(0, 1);
+    control.SetOriginalScript();
+    control.SetReadOnly(1, 1);
+    m_map.Clear();
+    m_errors->clear();
+}
+
+void ExpandedScript::ListErrors()
+{
+    m_errors->clear();
+    const auto errors = m_editor->control().GetIncludeDirectiveErrorMessageAndLine();
+    for (const auto& [line, message] : errors) {
+        auto* item = new QTreeWidgetItem(m_errors);
+        item->setText(kLineColumn, QString::number(line + 1));
+        item->setText(kTextColumn, message);
+        item->setData(kLineColumn, kLineRole, QVariant::fromValue<long>(line));
+    }
+    m_errors->setVisible(!errors.empty());
+}
+
+void ExpandedScript::OnNotified(const SCNotification& record)
+{
+    if (record.nmhdr.code == notify::DoubleClick)
+        GoToSource();
+}
+
+void ExpandedScript::GoToSource()
+{
+    CZNCoreEditorControlEx& control = m_editor->control();
+    GoToSourceOf(control.LineFromPosition(control.GetCurrentPos(1), 1));
+}
+
+void ExpandedScript::GoToSourceOf(long line)
+{
+    const SourceLine place = m_map.Locate(line);
+    Q_EMIT SourceChosen(place.path, place.line);
+}

@@ -1,0 +1,45 @@
+// A script as it is handed to a server, beside the script itself: its directives and variables
+// expanded, what could not be included by line, and the way from each line to where it was written.
+#pragma once
+
+#include "preprocess/language/SourceMap.h"
+
+#include <QDockWidget>
+#include <QPointer>
+
+class EditorTab;
+class QTreeWidget;
+class ZNCoreEditorWidget;
+struct SCNotification;
+
+class ExpandedScript final : public QDockWidget
+{
+    Q_OBJECT
+
+public:
+    explicit ExpandedScript(QWidget* parent);
+    ~ExpandedScript() override;
+
+    // Works on a copy, so the script, its caret and its undo stay as they are.
+    void Expand(EditorTab& tab);
+
+    // The script that is shown, null once its tab is gone.
+    EditorTab* Script() const;
+
+    void PutOriginalBack();
+    void GoToSource(); // of the caret's line
+
+Q_SIGNALS:
+    // The line from 0, in the file or, if the path is empty, in the script.
+    void SourceChosen(const QString& path, long line);
+
+private:
+    void OnNotified(const SCNotification& record);
+    void ListErrors();
+    void GoToSourceOf(long line);
+
+    ZNCoreEditorWidget* m_editor;
+    QTreeWidget* m_errors;
+    QPointer<EditorTab> m_script;
+    SourceMap m_map;
+};

@@ -1,0 +1,35 @@
+// What znscript was asked to do, from its command line.
+#pragma once
+
+#include <QString>
+#include <QStringList>
+
+#include <map>
+#include <optional>
+
+struct EncodingName
+{
+    int encoding = 0; // a number of FileEncodeConverter
+    const char* name = nullptr;
+};
+
+struct Arguments
+{
+    QString command; // "expand", "convert" or "detect"
+    QStringList files;
+    QString searchPath;
+    std::map<QString, QString> variables; // with their ampersands
+    std::optional<int> encoding;          // none: that of the file
+    std::optional<int> lineEnds;          // a mode of the editor; none: those of the file
+    bool mark = false;
+    QString language;
+    QString output; // empty: the standard output
+
+    QString help;  // not empty: it is asked for
+    QString error; // not empty: a sentence that tells what is wrong
+};
+
+Arguments ParseArguments(const QStringList& commandLine);
+
+// The name on the command line; "?" for a number that is no encoding's.
+const char* NameOfEncoding(int encoding);

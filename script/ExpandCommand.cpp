@@ -1,0 +1,76 @@
+// znscript expand: a script as it is to be run.
+#include "preprocess/CompileManager.h"
+#include "script/Arguments.h"
+#include "script/Commands.h"
+#include "script/Problems.h"
+#include "script/ScriptFile.h"
+
+namespace {
+
+QString NameOf(const SourceLine& place, const QString& script)
+{
+    return place.path.isEmpty() ? script : place.path;
+}
+
+// Where the failed line stands in its own file, and by way of which files it came.
+void ReportFailures(CZNCoreEditorControlEx& control, const QString& script)
+{
+    const SourceMap& map = zncoreeditor::GetCompileManager()->GetSourceMap();
+    for (const auto& [line, message] : control.GetIncludeDirectiveErrorMessageAndLine()) {
+        const SourceLine place = map.Locate(line);
+        Report(NameOf(place, script), place.line, message);
+        for (const SourceLine& site : map.IncludedFrom(line))
+            Report(NameOf(site, script), site.line, QStringLiteral("included from here"));
+    }
+}
+
+// The line that was commented out ends in a lone carriage return before the text of its file.
+// Where that counts as no line end, the comment would take in the file's first line.
+void UnifyLineEnds(CZNCoreEditorControlEx& control, const Arguments& arguments)
+{
+    if (arguments.lineEnds)
+        control.SetEOLMode(*arguments.lineEnds, 1);
+    control.ConvertEOLs(control.GetEOLMode(1), 1);
+}
+
+} // namespace
+
+int Expand(const Arguments& arguments)
+{
+    ScriptFile file;
+    const QString language =
+        arguments.language.isEmpty() ? QStringLiteral("SQL") : arguments.language;
+    if (!file.SetLanguage(language)) {
+        Report(QStringLiteral("znscript"),
+               QStringLiteral("there is no language “%1”").arg(language));
+        return kWrongUsage;
+    }
+    const QString& script = arguments.files.front();
+    if (const QString problem = file.Read(script); !problem.isEmpty()) {
+        Report(script, problem);
+        return kProblems;
+    }
+    CZNCoreEditorControlEx& control = file.Control();
+    control.SetDatasourceSearchPath(arguments.searchPath);
+    zncoreeditor::GetCompileManager()->SetPredefined(arguments.variables);
+    QString text;
+    control.GetWindowTextW(text);
+    if (control.HasPreprocessorErrors()) {
+        ReportFailures(control, script);
+        return kProblems;
+    }
+    UnifyLineEnds(control, arguments);
+    const int encoding = arguments.encoding.value_or(control.GetEncoding());
+    if (const int line = file.FirstLineBeyond(encoding); line >= 0) {
+        const SourceLine place = zncoreeditor::GetCompileManager()->GetSourceMap().Locate(line);
+        Report(NameOf(place, script), place.line,
+               QStringLiteral("a character is not in windows-1252"));
+        return kProblems;
+    }
+    const bool mark =
+        arguments.encoding ? arguments.mark : arguments.mark || control.GetWriteEncodingSig();
+    const QString problem = file.Write(arguments.output, encoding, mark);
+    if (!problem.isEmpty())
+        Report(arguments.output.isEmpty() ? QStringLiteral("znscript") : arguments.output, problem);
+    return problem.isEmpty() ? kSuccess : kProblems;
+}

@@ -1,0 +1,22 @@
+#include "script/Problems.h"
+
+#include <cstdio>
+
+namespace {
+
+void PrintLine(const QString& text)
+{
+    std::fprintf(stderr, "%s\n", text.toLocal8Bit().constData());
+}
+
+} // namespace
+
+void Report(const QString& file, const QString& message)
+{
+    PrintLine(file + QLatin1String(": ") + message);
+}
+
+void Report(const QString& file, long line, const QString& message)
+{
+    PrintLine(file + u':' + QString::number(line + 1) + QLatin1String(": ") + message);
+}

@@ -1,0 +1,7 @@
+// Problems on the standard error, a line for each: file:line: message.
+#pragma once
+
+#include <QString>
+
+void Report(const QString& file, const QString& message);
+void Report(const QString& file, long line, const QString& message); // lines count from 0

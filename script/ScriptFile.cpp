@@ -1,0 +1,140 @@
+#include "script/ScriptFile.h"
+
+#include "editing/FileTypeManager.h"
+#include "editing/Library.h"
+#include "encoding/FileEncodeConverter.h"
+#include "platform/Units.h"
+
+#include <QFile>
+#include <QFileInfo>
+#include <QTemporaryDir>
+
+#include <algorithm>
+#include <cstdio>
+#include <string>
+
+namespace {
+
+constexpr const char* kNames[] = {"none", "lf", "cr", "mixed", "crlf", "mixed", "mixed", "mixed"};
+
+// What the code page lacks becomes a question mark.
+bool FitsSystemCodePage(std::u16string text)
+{
+    const auto asked = std::count(text.begin(), text.end(), u'?');
+    FileEncodeConverter converter;
+    converter.SetInputType(FileEncodeConverter::encUTF16LE);
+    converter.SetOutputType(FileEncodeConverter::encANSI);
+    auto length = static_cast<unsigned>(text.size() * sizeof(char16_t));
+    unsigned remaining = 0;
+    unsigned char* bytes = nullptr;
+    unsigned size = 0;
+    if (text.empty() ||
+        !converter.Convert(reinterpret_cast<unsigned char*>(text.data()), length, remaining) ||
+        !converter.GetConverted(&bytes, size))
+        return text.empty();
+    return std::count(bytes, bytes + size, '?') == asked;
+}
+
+QString WhyNotRead(const QString& path)
+{
+    const QFileInfo info(path);
+    if (!info.exists())
+        return QStringLiteral("the file does not exist");
+    if (info.isDir())
+        return QStringLiteral("this is a folder");
+    return QStringLiteral("the file cannot be read");
+}
+
+} // namespace
+
+ScriptFile::ScriptFile() : m_control(std::make_unique<CZNCoreEditorControlEx>())
+{
+    m_control->SubclassWindow(
+        CreateWindowOfClass(engine::kWindowClass, WS_CHILD, RECT{0, 0, 100, 100}, &m_parent));
+    m_control->SetCarefulFiles(true);
+}
+
+ScriptFile::~ScriptFile() = default;
+
+bool ScriptFile::SetLanguage(const QString& name)
+{
+    const CFileTypeManager& languages = *zncoreeditor::GetFileTypeManager();
+    for (int language = 0; language < languages.GetLanguageCount(); ++language) {
+        if (languages.GetLanguageName(language).compare(name, Qt::CaseInsensitive) == 0) {
+            m_control->InitializeLanguage(language, 1);
+            return true;
+        }
+    }
+    return false;
+}
+
+QString ScriptFile::Read(const QString& path)
+{
+    if (QFileInfo(path).isDir() ||
+        !m_control->OpenFile(Units(path), FileEncodeConverter::encUnknown))
+        return WhyNotRead(path);
+    m_control->EmptyUndoBuffer(1);
+    return m_control->WasCutShort() ? QStringLiteral("the file cannot be read to its end")
+                                    : QString();
+}
+
+QString ScriptFile::Write(const QString& path, int encoding, bool mark)
+{
+    if (path.isEmpty())
+        return WriteToOutput(encoding, mark);
+    const bool isWritten = m_control->SaveFile(
+        Units(path), static_cast<FileEncodeConverter::encodingType>(encoding), false, mark);
+    return isWritten ? QString() : QStringLiteral("the file cannot be written");
+}
+
+QString ScriptFile::WriteToOutput(int encoding, bool mark)
+{
+    const QTemporaryDir folder;
+    QFile file(folder.filePath(QStringLiteral("output")));
+    if (QString problem = Write(file.fileName(), encoding, mark); !problem.isEmpty())
+        return problem;
+    bool isWritten = file.open(QIODevice::ReadOnly);
+    constexpr qint64 kBlock = 64 * 1024;
+    while (isWritten && !file.atEnd()) {
+        const QByteArray block = file.read(kBlock);
+        const auto size = static_cast<std::size_t>(block.size());
+        isWritten = size > 0 && std::fwrite(block.constData(), 1, size, stdout) == size;
+    }
+    isWritten = std::fflush(stdout) == 0 && isWritten;
+    return isWritten ? QString() : QStringLiteral("the result cannot be written");
+}
+
+int ScriptFile::FirstLineBeyond(int encoding)
+{
+    if (encoding != FileEncodeConverter::encANSI)
+        return -1;
+    const int lines = m_control->GetLineCount(1);
+    for (int line = 0; line < lines; ++line) {
+        const long start = m_control->PositionFromLine(line, 1);
+        const long end = m_control->GetLineEndPosition(line, 1);
+        std::u16string text(static_cast<std::size_t>(end - start), u'\0');
+        m_control->GetRange(static_cast<int>(start), static_cast<int>(end), text.data());
+        if (!FitsSystemCodePage(text))
+            return line;
+    }
+    return -1;
+}
+
+QString ScriptFile::LineEnds()
+{
+    const QString text = m_control->GetText();
+    unsigned kinds = 0; // 1: LF, 2: CR, 4: CR LF
+    for (qsizetype i = 0; i < text.size(); ++i) {
+        if (text[i] == u'\n')
+            kinds |= 1;
+        else if (text[i] != u'\r')
+            continue;
+        else if (i + 1 < text.size() && text[i + 1] == u'\n')
+            kinds |= 4;
+        else
+            kinds |= 2;
+        if (text[i] == u'\r' && i + 1 < text.size() && text[i + 1] == u'\n')
+            ++i;
+    }
+    return QLatin1String(kNames[kinds]);
+}

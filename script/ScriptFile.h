@@ -1,0 +1,39 @@
+// A file in an editor that nobody sees: read, changed, written.
+#pragma once
+
+#include "editing/ZNCoreEditorControlEx.h"
+
+#include <QString>
+#include <QWidget>
+
+#include <memory>
+
+class ScriptFile
+{
+public:
+    ScriptFile();
+    ~ScriptFile();
+
+    CZNCoreEditorControlEx& Control() { return *m_control; }
+
+    // False if the registry does not know the name.
+    bool SetLanguage(const QString& name);
+
+    // Empty if it is read as a whole, else a sentence that tells why it is not.
+    QString Read(const QString& path);
+
+    // Empty if it is written, else a sentence. An empty path is the standard output.
+    QString Write(const QString& path, int encoding, bool mark);
+
+    // The first line, from 0, with a character that the encoding lacks; -1 if it has them all.
+    int FirstLineBeyond(int encoding);
+
+    // The line ends of the text by name; "mixed" and "none" among them.
+    QString LineEnds();
+
+private:
+    QString WriteToOutput(int encoding, bool mark);
+
+    QWidget m_parent;
+    std::unique_ptr<CZNCoreEditorControlEx> m_control;
+};

@@ -1,0 +1,89 @@
+// znscript: scripts in build and deployment pipelines. It shows nothing and needs no display.
+#include "control/ZNCoreEditorControl.h"
+#include "platform/Questions.h"
+#include "script/Arguments.h"
+#include "script/Commands.h"
+#include "script/Problems.h"
+
+#include <QApplication>
+
+#include <cstdio>
+
+namespace {
+
+// What the editor would ask or tell a person; nobody sits here.
+class NoPerson final : public IUserQuestions
+{
+public:
+    NoPerson() { SetUserQuestions(this); }
+    ~NoPerson() override { SetUserQuestions(nullptr); }
+
+    Answer Ask(HWND /*owner*/, const QString& text, Buttons buttons) override
+    {
+        Report(QStringLiteral("znscript"), text);
+        return buttons == Buttons::YesNo ? Answer::No : Answer::Ok;
+    }
+};
+
+struct Command
+{
+    const char* name;
+    int (*run)(const Arguments& arguments);
+};
+
+constexpr Command kCommands[] = {
+    {"expand", Expand},
+    {"convert", Convert},
+    {"detect", Detect},
+};
+
+// The standard error is for problems with scripts; what Qt has to say of the environment is none.
+void KeepQtSilent(QtMsgType type, const QMessageLogContext& /*context*/, const QString& text)
+{
+    if (type == QtFatalMsg)
+        Report(QStringLiteral("znscript"), text);
+}
+
+// The first control loads the engine.
+bool EngineIsThere()
+{
+    const CZNCoreEditorControl control;
+    return CZNCoreEditorControl::m_hEditorDllHandle != nullptr;
+}
+
+int Run(const Arguments& arguments)
+{
+    for (const Command& command : kCommands) {
+        if (arguments.command == QLatin1String(command.name))
+            return command.run(arguments);
+    }
+    return kWrongUsage;
+}
+
+} // namespace
+
+int main(int argc, char** argv)
+{
+    if (!qEnvironmentVariableIsSet("QT_QPA_PLATFORM"))
+        qputenv("QT_QPA_PLATFORM", "offscreen");
+    qInstallMessageHandler(KeepQtSilent);
+    const QApplication application(argc, argv);
+    QApplication::setApplicationName(QStringLiteral("znscript"));
+
+    const Arguments arguments = ParseArguments(QApplication::arguments());
+    if (!arguments.help.isEmpty()) {
+        std::printf("%s\n", qPrintable(arguments.help.trimmed()));
+        return kSuccess;
+    }
+    if (!arguments.error.isEmpty()) {
+        Report(QStringLiteral("znscript"), arguments.error);
+        return kWrongUsage;
+    }
+    const NoPerson nobody;
+    if (!EngineIsThere()) {
+        Report(QStringLiteral("znscript"),
+               QStringLiteral("libZNBaseEditor.so has to stand beside libZNCoreEditor.so"));
+        return kNoEditor;
+    }
+    return Run(arguments);
+}

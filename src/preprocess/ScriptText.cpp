@@ -1,0 +1,247 @@
+#include "preprocess/ScriptText.h"
+
+#include "editing/ZNCoreEditorControlEx.h"
+#include "platform/Units.h"
+#include "preprocess/language/SourceMap.h"
+#include "preprocess/language/Styles.h"
+#include "search/FindReplaceManager.h"
+
+#include <algorithm>
+#include <cstdlib>
+#include <utility>
+
+namespace {
+
+constexpr int kContainerLexer = 0; // the host styles the text
+constexpr int kPlainStyle = 0;
+constexpr int kPlainBehindName = 15; // of the dialects, whose next word may be a data type
+constexpr int kAllStyleBits = 0x1F;
+constexpr long kSmallBlock = 128; // a change is mostly over within two lines
+constexpr long kLargeBlock = 1024 * 1024;
+
+bool IsPlainStyle(int style)
+{
+    return style == kPlainStyle || style == kPlainBehindName;
+}
+
+// Where a place is after a change.
+long Moved(long place, long at, long removed, long inserted)
+{
+    return place > at ? std::max(at, place - removed) + inserted : place;
+}
+
+} // namespace
+
+ScriptText::ScriptText(CZNCoreEditorControlEx& control, SourceMap& map)
+    : m_control(control), m_finder(*zncoreeditor::GetFindReplaceManager()), m_map(map),
+      m_lexer(control.GetLexer(1)), m_tellsPlaces(TellsCommentsAndStrings(m_lexer)),
+      m_styled(control.GetEndStyled(1)), m_stale(m_styled), m_known(m_styled), m_block(kSmallBlock)
+{}
+
+ScriptText::~ScriptText()
+{
+    if (m_firstChange < 0)
+        return;
+    const long line = LineStart(LineOf(m_firstChange));
+    if (m_control.GetEndStyled(1) > line)
+        m_control.StartStyling(line, kAllStyleBits, 1);
+}
+
+long ScriptText::Length() const
+{
+    return m_control.GetLength(1);
+}
+
+int ScriptText::LineOf(long position) const
+{
+    return m_control.LineFromPosition(position, 1);
+}
+
+long ScriptText::LineStart(int line) const
+{
+    return m_control.PositionFromLine(line, 1);
+}
+
+long ScriptText::LineEnd(int line) const
+{
+    return m_control.GetLineEndPosition(line, 1);
+}
+
+QString ScriptText::Text(long from, long to) const
+{
+    if (to <= from)
+        return QString();
+    QString text(to - from, Qt::Uninitialized); // a QString has room for the terminator
+    m_control.GetRange(static_cast<int>(from), static_cast<int>(to),
+                       reinterpret_cast<char16_t*>(text.data()));
+    return text;
+}
+
+QString ScriptText::CommentMarker() const
+{
+    return m_control.GetSingleLineComment(0);
+}
+
+ScriptText::Place ScriptText::PlaceOf(long position)
+{
+    if (!m_tellsPlaces)
+        return Place::Code;
+    StyleTo(position);
+    const int style = m_control.GetStyleAt(position, 1);
+    if (IsCommentStyle(m_lexer, style))
+        return Place::Comment;
+    return IsStringStyle(m_lexer, style) ? Place::String : Place::Code;
+}
+
+void ScriptText::StyleTo(long position)
+{
+    m_block = kSmallBlock;
+    while (m_styled <= position && m_styled < Length())
+        StyleBlock(std::max(position + 1, m_styled + m_block));
+}
+
+long ScriptText::SettleStyles()
+{
+    if (m_tellsPlaces && m_styled < m_known) {
+        m_block = kSmallBlock;
+        while (m_styled < m_known && m_styled < Length())
+            StyleBlock(std::max(m_stale, m_styled) + m_block);
+    }
+    return std::exchange(m_restyled, 0);
+}
+
+// Whole lines, since a lexer has to begin at a line's start.
+void ScriptText::StyleBlock(long to)
+{
+    const long from = LineStart(LineOf(m_styled));
+    const int lastLine = LineOf(std::min(to, Length()));
+    long end = LineStart(lastLine + 1);
+    if (end <= from || end > Length())
+        end = Length();
+    const bool wasKnown = end > m_stale && end <= m_known;
+    const int before = wasKnown ? m_control.GetStyleAt(end - 1, 1) : -1;
+    if (m_styled < m_known)
+        m_restyled = std::max(m_restyled, end);
+    m_control.Colorize(from, end, 1);
+    m_styled = end;
+    m_block = std::min(m_block * 2, kLargeBlock);
+    if (wasKnown && StylesAgreeAgain(end, before))
+        m_styled = m_known;
+    if (m_styled >= m_known)
+        m_known = m_stale = m_styled;
+}
+
+// Outside comments and strings the lexers take nothing else from one line to the next. A comment
+// hides how deep it nests, and a string how it ends.
+bool ScriptText::StylesAgreeAgain(long end, int before) const
+{
+    return m_lexer != kContainerLexer && IsPlainStyle(before) &&
+           IsPlainStyle(m_control.GetStyleAt(end - 1, 1));
+}
+
+void ScriptText::Changed(long at, long removed, long inserted)
+{
+    ++m_changes;
+    m_firstChange = m_firstChange < 0 ? at : std::min(m_firstChange, at);
+    m_restyled = m_lexer == kContainerLexer ? Length() : Moved(m_restyled, at, removed, inserted);
+    if (at >= m_known)
+        return;
+    const bool wasStale = m_styled < m_known;
+    m_known = Moved(m_known, at, removed, inserted);
+    m_stale =
+        wasStale ? std::max(Moved(m_stale, at, removed, inserted), at + inserted) : at + inserted;
+    m_styled = std::min(m_styled, at);
+}
+
+void ScriptText::SearchFor(const QString& what, bool matchCase, bool wholeWord)
+{
+    m_finder.SetDown(true);
+    m_finder.SetMatchCase(matchCase);
+    m_finder.SetWholeWord(wholeWord);
+    m_finder.SetWrap(false);
+    m_finder.SetFind(what);
+}
+
+long ScriptText::Find(long from, long to) const
+{
+    return m_finder.FindInRange(&m_control, static_cast<int>(from), static_cast<int>(to), true);
+}
+
+int ScriptText::Replace(long position, const QString& what, const QString& with)
+{
+    const long length = Length();
+    const int lines = m_control.GetLineCount(1);
+    m_finder.SetFind(what);
+    m_finder.SetReplace(with);
+    m_finder.SetWholeWord(false);
+    m_finder.SetMatchCase(true);
+    const int count = ReplaceAllFrom(position, what.size(), with);
+    if (count > 0) {
+        const long reach =
+            std::min<long>(count == 1 ? what.size() : 2 * what.size(), length - position);
+        Changed(position, reach, reach + Length() - length);
+        m_map.InsertExpansion(LineOf(position), m_control.GetLineCount(1) - lines);
+    }
+    return count;
+}
+
+// What the finder does in a selection, with the same end. It is left to the finder only where it is
+// set to more than plain texts, as whoever searched last may have left it: it shows the caret after
+// each, which lays out the line, in seconds for one of megabytes.
+int ScriptText::ReplaceAllFrom(long start, long length, const QString& with)
+{
+    if (m_finder.GetRegExp() || m_finder.GetTransform()) {
+        m_control.SetSel(start, start + length, 1);
+        return m_finder.ReplaceAll(&m_control, true);
+    }
+    long end = start + length;
+    int count = 0;
+    m_control.SetDoingReplaceAll(true, 1);
+    m_control.BeginUndoAction(1);
+    long hit = Find(start, end);
+    while (hit >= 0) {
+        ++count;
+        const long taken = m_control.GetTargetEnd(1) - m_control.GetTargetStart(1);
+        const long put = m_control.ReplaceTarget(static_cast<int>(with.size()), Units(with), 1);
+        end += std::labs(put - taken);
+        hit = Find(hit + put, std::min(end, Length()));
+    }
+    m_control.EndUndoAction(1);
+    m_control.SetDoingReplaceAll(false, 1);
+    m_control.SetAnchor(start, 1);
+    m_control.SetCurrentPos(std::min(end, Length()), 1);
+    return count;
+}
+
+void ScriptText::Insert(long position, const QString& text)
+{
+    m_control.InsertText(position, Units(text), 1);
+    Changed(position, 0, text.size());
+}
+
+// A file that begins with a line feed completes the carriage return to one line end; its first
+// line is then not there.
+long ScriptText::InsertFileBehind(long lineEnd, const QString& markerInFront, const QString& path)
+{
+    const long length = Length();
+    const int line = LineOf(lineEnd);
+    const int lines = m_control.GetLineCount(1);
+    const bool modified = m_control.GetModified();
+    m_control.InsertText(lineEnd, u"\r", 1);
+    Insert(LineStart(line), markerInFront);
+    const long behind = lineEnd + 1 + markerInFront.size();
+    m_control.GotoPos(behind, 1);
+    const long before = Length();
+    // The script's own file keeps its encoding, whatever the included one is in.
+    const int encoding = m_control.GetEncoding();
+    const bool hasMark = m_control.GetWriteEncodingSig();
+    m_control.InsertFile(Units(path), FileEncodeConverter::encUnknown);
+    m_control.SetEncoding(encoding);
+    m_control.SetWriteEncodingSig(hasMark);
+    m_control.SetModified(modified);
+    const long inserted = Length() - before;
+    Changed(behind - 1, 0, inserted + 1);
+    const bool joins = inserted > 0 && m_control.GetCharAt(behind, 1) == u'\n';
+    m_map.InsertFile(line, m_control.GetLineCount(1) - lines, path, joins ? 1 : 0);
+    return Length() - length;
+}

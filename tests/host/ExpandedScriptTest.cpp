@@ -1,0 +1,122 @@
+// The workbench shows a script expanded, and leads back to where its lines were written.
+#include "host/ExpandedScript.h"
+#include "editing/ZNCoreEditorWidget.h"
+#include "host/OptionsDialog.h"
+#include "platform/OptionsServer.h"
+#include "tests/host/WorkbenchTest.h"
+
+#include <QLineEdit>
+#include <QTreeWidget>
+
+namespace {
+
+class ExpandedScripts : public WorkbenchTest
+{
+protected:
+    ExpandedScripts() { Options().SetString(option::IncludePath, m_folder.path()); }
+    ~ExpandedScripts() override { Options().SetString(option::IncludePath, QString()); }
+
+    static CZNOptionsServer& Options() { return *CZNOptionsServer::GetObjectW(); }
+
+    ExpandedScript& Pane() const { return *m_window.findChild<ExpandedScript*>(); }
+    CZNCoreEditorControlEx& Result() const
+    {
+        return m_window.findChild<ZNCoreEditorWidget*>("expandedText")->control();
+    }
+    QTreeWidget& Errors() const { return *m_window.findChild<QTreeWidget*>("includeErrors"); }
+};
+
+TEST_F(ExpandedScripts, StandBesideTheScript)
+{
+    Write("part.sql", "part\n");
+    Open("main.sql", "#define &&A 1\n#include part.sql\nselect &&A\n");
+    EXPECT_FALSE(Pane().isVisible());
+    Trigger("expand");
+    EXPECT_TRUE(Pane().isVisible());
+    EXPECT_EQ(Result().GetText(), "--#define &&A 1\n--#include part.sql\rpart\n\nselect 1\n");
+    EXPECT_TRUE(Result().GetReadOnly(1));
+    EXPECT_FALSE(Errors().isVisible());
+}
+
+TEST_F(ExpandedScripts, LeaveTheScriptAsItIs)
+{
+    Open("main.sql", "#define &&A 1\nselect &&A\n");
+    Editor().SetSel(3, 5, 1);
+    Trigger("expand");
+    EXPECT_EQ(Text(), "#define &&A 1\nselect &&A\n");
+    EXPECT_FALSE(Tab().IsModified());
+    EXPECT_FALSE(Editor().CanUndo(1));
+    EXPECT_EQ(Editor().GetSelectionEnd(1), 5);
+}
+
+TEST_F(ExpandedScripts, ListWhatCannotBeIncluded)
+{
+    Open("main.sql", "select 1\n#include gone.sql\n");
+    Trigger("expand");
+    ASSERT_EQ(Errors().topLevelItemCount(), 1);
+    EXPECT_EQ(Errors().topLevelItem(0)->text(0), "2");
+    EXPECT_EQ(Errors().topLevelItem(0)->text(1),
+              "Unable to open the included file 'gone.sql': No such file or directory");
+    EXPECT_TRUE(Errors().isVisible());
+}
+
+TEST_F(ExpandedScripts, LeadToTheLineOfAnIncludedFile)
+{
+    Write("part.sql", "one\ntwo\n");
+    Open("main.sql", "#include part.sql\nselect 1\n");
+    Trigger("expand");
+    Result().GotoLine(2, 1);
+    Trigger("goToSource");
+    EXPECT_EQ(Tab().Name(), "part.sql");
+    EXPECT_EQ(Editor().LineFromPosition(Editor().GetCurrentPos(1), 1), 1);
+    Result().GotoLine(4, 1);
+    Trigger("goToSource");
+    EXPECT_EQ(Tab().Name(), "main.sql");
+    EXPECT_EQ(Editor().LineFromPosition(Editor().GetCurrentPos(1), 1), 1);
+}
+
+TEST_F(ExpandedScripts, LeadFromAnErrorToItsLine)
+{
+    Write("part.sql", "\n#include gone.sql\n");
+    Open("main.sql", "#include part.sql\n");
+    Trigger("expand");
+    ASSERT_EQ(Errors().topLevelItemCount(), 1);
+    Q_EMIT Errors().itemActivated(Errors().topLevelItem(0), 0);
+    EXPECT_EQ(Tab().Name(), "part.sql");
+    EXPECT_EQ(Editor().LineFromPosition(Editor().GetCurrentPos(1), 1), 1);
+}
+
+TEST_F(ExpandedScripts, PutTheOriginalBack)
+{
+    Write("part.sql", "one\ntwo\n");
+    Open("main.sql", "#include part.sql\nselect 1\n");
+    Trigger("expand");
+    Trigger("putOriginalBack");
+    EXPECT_EQ(Result().GetText(), "#include part.sql\nselect 1\n");
+    Result().GotoLine(1, 1);
+    Trigger("goToSource");
+    EXPECT_EQ(Tab().Name(), "main.sql");
+}
+
+TEST_F(ExpandedScripts, OutliveTheirScript)
+{
+    Open("main.sql", "#define &&A 1\n");
+    Trigger("expand");
+    Trigger("close");
+    Trigger("goToSource");
+    EXPECT_EQ(m_window.TabCount(), 0);
+    EXPECT_EQ(Result().GetText(), "--#define &&A 1\n");
+}
+
+TEST_F(ExpandedScripts, TakeTheirFoldersFromTheOptions)
+{
+    OptionsDialog dialog(&m_window);
+    auto* path = dialog.findChild<QLineEdit*>("includePath");
+    ASSERT_TRUE(path);
+    EXPECT_EQ(path->text(), m_folder.path());
+    path->setText("/elsewhere");
+    dialog.Store();
+    EXPECT_EQ(Options().GetString(option::IncludePath), "/elsewhere");
+}
+
+} // namespace

@@ -1,0 +1,137 @@
+// Random scripts with includes, beside the plain reference.
+#include "tests/preprocess/PreprocessFixture.h"
+#include "tests/reference/PlainPreprocessor.h"
+
+#include <random>
+
+namespace {
+
+constexpr const char* kPieces[] = {
+    "#define ", "#define &&A ", "#define &&AB ", "\n#define &&B ", "\n#define &&LONGNAME ", "&&A",
+    "&&AB", "&&ABC", "&&B", "&&LONGNAME", "&&LONGNAME", "&&", "&", "1", "12", "x", " ", "  ", "\n",
+    "\n", "\n", "--", "/*", "*/", "'", "\"", "#include ", "#include a", "\n#include b\n",
+    "\n#include \"c\" \n", "\n#include d\n", "\n#include none\n", "#", "\t", "value",
+    "\n#define &&B &&A\n", "\n#define &&AB x&&B\n", "\n#define &&A &&LONGNAME&&B\n",
+    // What no pass has to look at again.
+    "\nselect column, other, one more from table\nwhere column = 1 and other = 2 or column = 3\n",
+    "\nselect column, other, one more from table\nwhere column = 1 and other = 2 or column = 3\n"};
+
+constexpr int kRounds = 300;
+
+class RandomScripts : public PreprocessTest
+{
+protected:
+    std::string Piece() { return kPieces[m_random() % std::size(kPieces)]; }
+
+    std::string Script(unsigned most)
+    {
+        std::string script;
+        for (unsigned pieces = m_random() % most; pieces > 0; --pieces)
+            script += Piece();
+        return script;
+    }
+
+    // Of a text that was just put in, so that nothing is left of another.
+    std::vector<int> Styles(const std::u16string& text)
+    {
+        m_styler.SetText(text.c_str(), 1);
+        m_styler.Colorize(0, -1, 1);
+        std::vector<int> styles(text.size() + 1);
+        for (std::size_t at = 0; at < text.size(); ++at)
+            styles[at] = m_styler.GetStyleAt(static_cast<long>(at), 1);
+        return styles;
+    }
+
+    reference::PlainPreprocessor Reference(const std::u16string& wordCharacters)
+    {
+        reference::PlainPreprocessor::Files files;
+        for (const char* name : {"a", "b", "c", "d"}) {
+            // Neither end of a file may join the line ends around it.
+            const std::string text = "f" + Script(12);
+            Write(name, QByteArray::fromStdString(text));
+            files[QString(name).toStdU16String()] = std::u16string(text.begin(), text.end());
+        }
+        return {control.GetLexer(1), control.GetSingleLineComment(0).toStdU16String(),
+                wordCharacters, [this](const std::u16string& text) { return Styles(text); }, files};
+    }
+
+    void Compare(reference::PlainPreprocessor& reference, const QString& script)
+    {
+        reference.Run(script.toStdU16String());
+        const QString expanded = QString::fromStdString(Expand(script));
+        ASSERT_EQ(expanded.toStdString(), QString::fromStdU16String(reference.text).toStdString());
+        EXPECT_EQ(control.GetIncludeOrDefineDirectivesFound(), reference.found);
+        std::vector<int> lines;
+        for (const auto& [line, name] : reference.failedNames)
+            lines.push_back(line);
+        std::vector<int> told;
+        for (const auto& [line, message] : Errors())
+            told.push_back(line);
+        EXPECT_EQ(told, lines);
+        CompareLines(reference);
+        control.SetOriginalScript();
+        if (reference.found) {
+            EXPECT_EQ(control.GetText(), script);
+        }
+    }
+
+    // Where the first unit of each line, if it is no marker's, came from.
+    void CompareLines(const reference::PlainPreprocessor& reference)
+    {
+        for (int line = 0; line < control.GetLineCount(1); ++line) {
+            auto at = static_cast<std::size_t>(control.PositionFromLine(line, 1));
+            const auto end = static_cast<std::size_t>(control.GetLineEndPosition(line, 1));
+            while (at < end && reference.origins[at].file < 0)
+                ++at;
+            if (at >= end)
+                continue;
+            const reference::Origin origin = reference.origins[at];
+            const QString name =
+                QString::fromStdU16String(reference.fileOf[static_cast<std::size_t>(origin.file)]);
+            const SourceLine expected{name.isEmpty() ? name : folder.filePath(name), origin.line};
+            ASSERT_EQ(Map().Locate(line), expected) << "line " << line;
+        }
+    }
+
+    void Run(const QString& language, int lexer, int rounds)
+    {
+        Bind(language);
+        ASSERT_EQ(control.GetLexer(1), lexer);
+        m_styler.SubclassWindow(
+            CreateWindowOfClass(engine::kWindowClass, WS_CHILD, RECT{0, 0, 400, 300}, &m_parent));
+        m_styler.SetLexer(lexer, 1);
+        const unsigned seed = std::random_device{}();
+        m_random.seed(seed);
+        SCOPED_TRACE("seed " + std::to_string(seed));
+        for (int round = 0; round < rounds && !HasFailure(); ++round) {
+            reference::PlainPreprocessor reference = Reference(m_wordCharacters);
+            const QString script = QString::fromStdString("\n" + Script(80));
+            SCOPED_TRACE(script.toStdString());
+            Compare(reference, script);
+        }
+    }
+
+    std::mt19937 m_random;
+    QWidget m_parent;
+    CZNCoreEditorControl m_styler;
+    std::u16string m_wordCharacters =
+        u"_abcdefghijklmnopqrstuvwxyzABCDEFGHIJKLMNOPQRSTUVWXYZ0123456789@#$";
+};
+
+TEST_F(RandomScripts, ExpandInADialectAsTheReferenceDoes)
+{
+    Run("Transact-SQL", 3, kRounds);
+}
+
+TEST_F(RandomScripts, ExpandInGenericSqlAsTheReferenceDoes)
+{
+    Run("SQL", 9, kRounds);
+}
+
+TEST_F(RandomScripts, ExpandInALanguageWithoutStylesAsTheReferenceDoes)
+{
+    m_wordCharacters.resize(m_wordCharacters.size() - 3); // "@", "#" and "$" are none there
+    Run("C++", 6, kRounds);
+}
+
+} // namespace

@@ -1,0 +1,2 @@
+set noexec off; -- &&ENV only
+print 'running against &&SERVER';

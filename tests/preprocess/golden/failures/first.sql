@@ -1,0 +1,1 @@
+#include nested missing.sql

@@ -1,0 +1,12 @@
+/*
+#include part.sql
+#define &&A hidden
+*/
+-- #include part.sql
+select '#include part.sql', '
+#define &&A in a string
+';
+#define &&A shown
+#include part.sql /* and what follows
+select &&A; */
+select &&A;

@@ -1,0 +1,3 @@
+#define &&PREFIX usp_
+#include <rights.sql>
+create procedure &&SCHEMA.&&PREFIXorders as select * from &&SCHEMA.orders;

@@ -1,0 +1,1 @@
+grant execute on schema::&&SCHEMA to &&OWNER;

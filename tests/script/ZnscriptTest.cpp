@@ -1,0 +1,194 @@
+// The program as a pipeline starts it, without a display.
+#include <QDir>
+#include <QFile>
+#include <QProcess>
+#include <QProcessEnvironment>
+#include <QTemporaryDir>
+
+#include <gtest/gtest.h>
+
+namespace {
+
+struct Outcome
+{
+    int exitCode = -1;
+    std::string output;
+    std::string errors;
+};
+
+class Znscript : public testing::Test
+{
+protected:
+    Outcome Start(const QStringList& words) const
+    {
+        QProcess program;
+        QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
+        for (const char* name : {"QT_QPA_PLATFORM", "DISPLAY", "WAYLAND_DISPLAY"})
+            environment.remove(QLatin1String(name));
+        program.setProcessEnvironment(environment);
+        program.setWorkingDirectory(folder.path());
+        program.start(QStringLiteral(ZN_ZNSCRIPT), words);
+        if (!program.waitForFinished(60000) || program.exitStatus() != QProcess::NormalExit)
+            return {};
+        return {program.exitCode(), program.readAllStandardOutput().toStdString(),
+                program.readAllStandardError().toStdString()};
+    }
+
+    void Write(const QString& name, const QByteArray& bytes) const
+    {
+        QFile file(folder.filePath(name));
+        ASSERT_TRUE(file.open(QIODevice::WriteOnly) && file.write(bytes) == bytes.size());
+    }
+
+    std::string Read(const QString& name) const
+    {
+        QFile file(folder.filePath(name));
+        return file.open(QIODevice::ReadOnly) ? file.readAll().toStdString() : "(no file)";
+    }
+
+    QTemporaryDir folder;
+};
+
+TEST_F(Znscript, WritesAnExpandedScript)
+{
+    Write("main.sql", "#define &&A 1\n#include part.sql\nselect &&A;\n");
+    Write("part.sql", "part &&A\n");
+    const Outcome outcome = Start({"expand", "--path", folder.path(), "main.sql"});
+    EXPECT_EQ(outcome.exitCode, 0);
+    EXPECT_EQ(outcome.errors, "");
+    EXPECT_EQ(outcome.output, "--#define &&A 1\n--#include part.sql\npart 1\n\nselect 1;\n");
+    EXPECT_EQ(Read("main.sql"), "#define &&A 1\n#include part.sql\nselect &&A;\n");
+}
+
+TEST_F(Znscript, LooksThroughAllFolders)
+{
+    QDir(folder.path()).mkdir("a");
+    QDir(folder.path()).mkdir("b");
+    Write("b/part.sql", "part");
+    Write("main.sql", "#include part.sql");
+    EXPECT_EQ(Start({"expand", "--path", "a;b", "main.sql"}).output, "--#include part.sql\npart");
+}
+
+TEST_F(Znscript, TakesVariablesFromItsCommandLine)
+{
+    Write("main.sql", "#define &&A script\n#define &&C 3\n&&A &&B &&C");
+    const Outcome outcome =
+        Start({"expand", "--define", "A=line", "--define", "B=x=y", "main.sql"});
+    EXPECT_EQ(outcome.output, "--#define &&A script\n--#define &&C 3\nline x=y 3");
+}
+
+TEST_F(Znscript, TellsFailuresWhereTheUserWroteThem)
+{
+    Write("main.sql", "select 1;\n#include part.sql\nselect 2;\n#include gone.sql\n");
+    Write("part.sql", "\n\n#include missing.sql\n");
+    const Outcome outcome = Start({"expand", "--path", folder.path(), "main.sql"});
+    EXPECT_EQ(outcome.exitCode, 1);
+    EXPECT_EQ(outcome.output, "");
+    const std::string part = folder.filePath("part.sql").toStdString();
+    EXPECT_EQ(outcome.errors, part + ":3: Unable to open the included file 'missing.sql': "
+                                     "No such file or directory\n"
+                                     "main.sql:2: included from here\n"
+                                     "main.sql:4: Unable to open the included file 'gone.sql': "
+                                     "No such file or directory\n");
+}
+
+TEST_F(Znscript, WritesTheResultInTheEncodingAskedFor)
+{
+    Write("main.sql", "\xC3\xA4 \xE2\x82\xAC");
+    EXPECT_EQ(Start({"expand", "--encoding", "windows-1252", "main.sql"}).output, "\xE4 \x80");
+    EXPECT_EQ(Start({"expand", "--encoding", "utf-16le", "--mark", "main.sql"}).output,
+              std::string("\xFF\xFE\xE4\x00 \x00\xAC\x20", 8));
+    EXPECT_EQ(Start({"expand", "main.sql"}).output, "\xC3\xA4 \xE2\x82\xAC");
+}
+
+TEST_F(Znscript, WritesTheResultToAFile)
+{
+    Write("main.sql", "#define &&A 1\n&&A\n");
+    const Outcome outcome =
+        Start({"expand", "--output", "result.sql", "--eol", "crlf", "main.sql"});
+    EXPECT_EQ(outcome.exitCode, 0);
+    EXPECT_EQ(outcome.output, "");
+    EXPECT_EQ(Read("result.sql"), "--#define &&A 1\r\n1\r\n");
+    EXPECT_EQ(Start({"expand", "--output", "no/where.sql", "main.sql"}).exitCode, 1);
+}
+
+TEST_F(Znscript, KnowsTheLanguagesOfTheEditor)
+{
+    Write("main.h", "#define &&A 1\n&&A");
+    EXPECT_EQ(Start({"expand", "--language", "c++", "main.h"}).output, "//#define &&A 1\n1");
+    const Outcome outcome = Start({"expand", "--language", "Klingon", "main.h"});
+    EXPECT_EQ(outcome.exitCode, 2);
+    EXPECT_EQ(outcome.errors, "znscript: there is no language “Klingon”\n");
+}
+
+TEST_F(Znscript, ConvertsFilesInTheirPlace)
+{
+    Write("a.sql", "\xE4\r\nb\n");
+    const Outcome outcome = Start({"convert", "--to", "utf-8", "--eol", "lf", "a.sql"});
+    EXPECT_EQ(outcome.exitCode, 0);
+    EXPECT_EQ(Read("a.sql"), "\xC3\xA4\nb\n");
+    EXPECT_EQ(Start({"convert", "--to", "utf-16be", "--mark", "a.sql"}).exitCode, 0);
+    EXPECT_EQ(Read("a.sql"), std::string("\xFE\xFF\0\xE4\0\n\0b\0\n", 10));
+}
+
+TEST_F(Znscript, KeepsAFileThatTheEncodingCannotHold)
+{
+    Write("a.sql", "a\nb \xE4\xB8\xAD?\n");
+    Write("b.sql", "\xEF\xBB\xBF\xC3\xA4?");
+    const Outcome outcome = Start({"convert", "--to", "windows-1252", "a.sql", "b.sql"});
+    EXPECT_EQ(outcome.exitCode, 1);
+    EXPECT_EQ(outcome.errors, "a.sql:2: a character is not in windows-1252\n");
+    EXPECT_EQ(Read("a.sql"), "a\nb \xE4\xB8\xAD?\n");
+    EXPECT_EQ(Read("b.sql"), "\xE4?"); // the others are converted all the same
+}
+
+TEST_F(Znscript, DetectsEncodingsAndLineEnds)
+{
+    Write("a.sql", "\xEF\xBB\xBFx\n");
+    Write("b.sql", QByteArray("\xFF\xFE"
+                              "a\0\r\0\n\0b\0",
+                              10));
+    Write("c.sql", "\xE4\r\n\n");
+    const Outcome outcome = Start({"detect", "a.sql", "b.sql", "gone.sql", "c.sql"});
+    EXPECT_EQ(outcome.exitCode, 1);
+    EXPECT_EQ(outcome.output, "a.sql: utf-8 with mark, line ends: lf\n"
+                              "b.sql: utf-16le with mark, line ends: crlf\n"
+                              "c.sql: windows-1252, line ends: mixed\n");
+    EXPECT_EQ(outcome.errors, "gone.sql: the file does not exist\n");
+}
+
+TEST_F(Znscript, HelpsWithEachCommand)
+{
+    for (const QStringList& words : {QStringList{"--help"}, QStringList{"expand", "--help"},
+                                     QStringList{"convert", "-h"}, QStringList{"detect", "-h"}}) {
+        const Outcome outcome = Start(words);
+        EXPECT_EQ(outcome.exitCode, 0);
+        EXPECT_EQ(outcome.output.find("Usage: znscript"), 0U) << outcome.output;
+        EXPECT_EQ(outcome.errors, "");
+    }
+}
+
+TEST_F(Znscript, RefusesACommandLineThatIsWrong)
+{
+    for (const QStringList& words :
+         {QStringList{}, QStringList{"compile"}, QStringList{"expand"},
+          QStringList{"expand", "a", "b"}, QStringList{"expand", "--what", "a"},
+          QStringList{"expand", "--define", "A", "a"},
+          QStringList{"expand", "--define", "A-B=1", "a"},
+          QStringList{"expand", "--encoding", "ebcdic", "a"}, QStringList{"convert", "a"},
+          QStringList{"convert", "--to", "utf-8", "--eol", "nel", "a"},
+          QStringList{"convert", "--to", "windows-1252", "--mark", "a"}, QStringList{"detect"}}) {
+        const Outcome outcome = Start(words);
+        EXPECT_EQ(outcome.exitCode, 2) << words.join(' ').toStdString();
+        EXPECT_EQ(outcome.errors.find("znscript: "), 0U) << outcome.errors;
+        EXPECT_EQ(outcome.output, "");
+    }
+}
+
+TEST_F(Znscript, TellsWhatItCannotRead)
+{
+    EXPECT_EQ(Start({"expand", "."}).errors, ".: this is a folder\n");
+    EXPECT_EQ(Start({"expand", "gone.sql"}).exitCode, 1);
+}
+
+} // namespace
