@@ -136,10 +136,11 @@ public:
     std::function<void()> meanwhile; // happens while the question stands
 };
 
-// What the event loop does when it has nothing else to do.
+// What the event loop does until it comes to rest. What an event posts waits for the next pass.
 inline void Settle()
 {
-    QCoreApplication::processEvents();
+    for (int pass = 0; pass < 3; ++pass)
+        QCoreApplication::processEvents();
 }
 
 class DocViewTest : public testing::Test
