@@ -67,10 +67,13 @@ bool CZNCoreEditorDoc::IsDocPointerAlive() const
 
 void CZNCoreEditorDoc::SetDocCoreEditor(CZNCoreEditorControlEx* control)
 {
+    const LPARAM own = control->GetDocPointer(1);
+    if (own == m_docPointer)
+        return; // the engine would release its text before it takes it again
     if (IsDocPointerAlive())
         control->SetDocPointer(m_docPointer, 1);
     else
-        m_docPointer = control->GetDocPointer(1);
+        m_docPointer = own;
 }
 
 int CZNCoreEditorDoc::OnNewDocument()
@@ -111,6 +114,7 @@ int CZNCoreEditorDoc::OnOpenDocumentEx(const QString& path,
         return 0;
     CZNCoreEditorControlEx& control = view->GetCoreEditorControlRef();
     control.SetReadOnly(0, 1);
+    const std::int64_t changedBefore = m_changedTime; // the load itself comes by as changes
     if (!control.OpenFile(path.toStdU16String().c_str(), encoding))
         return 0;
     SetPathName(path, true);
@@ -121,8 +125,10 @@ int CZNCoreEditorDoc::OnOpenDocumentEx(const QString& path,
         SetLastAccessTime();
         m_changedTime = Now();
         SetModifiedFlag(control.CanUndo(1) ? 1 : 0);
-    } else if (status.m_atime == status.m_mtime) {
-        m_fileFrozen = 1;
+    } else {
+        m_changedTime = changedBefore;
+        if (status.m_atime == status.m_mtime)
+            m_fileFrozen = 1;
     }
     control.SetFocus();
     return 1;
