@@ -2,6 +2,7 @@
 #include "DocViewFixture.h"
 
 #include "platform/Accelerators.h"
+#include "platform/Shell.h"
 #include "platform/docview/ActionUI.h"
 #include "platform/docview/CreateContext.h"
 
@@ -201,6 +202,20 @@ TEST_F(Routing, MailIsOfferedForADocumentWithAFile)
     doc->SetPathName("/a/b.note");
     UpdateActions({&action}, *frame);
     EXPECT_TRUE(action.isEnabled());
+    class Desktop final : public IShell
+    {
+    public:
+        bool Open(const QUrl& url) override
+        {
+            opened << url.toString();
+            return true;
+        }
+        QStringList opened;
+    } desktop;
+    SetShell(&desktop);
+    action.trigger();
+    SetShell(nullptr);
+    EXPECT_EQ(desktop.opened, QStringList("mailto:?subject=b.note&attach=/a/b.note"));
 }
 
 TEST_F(Routing, TheFocusMakesItsViewTheActiveOne)
