@@ -2,26 +2,29 @@
 
 CCmdUI::~CCmdUI() = default;
 
-bool CCmdTarget::OnCmdMsg(UINT id, CCmdUI* ui)
+int CCmdTarget::OnCmdMsg(UINT id, int code, void* extra, CommandHandlerInfo* info)
 {
     for (const CommandMap* map = &GetCommandMap(); map; map = map->base) {
-        if (!ui) {
+        if (code == CN_COMMAND) {
             for (const CommandEntry& entry : map->commands) {
-                if (entry.id == id) {
+                if (entry.id != id)
+                    continue;
+                if (info)
+                    info->target = this;
+                else
                     entry.run(*this);
-                    return true;
-                }
+                return 1;
             }
-            continue;
-        }
-        for (const UpdateEntry& entry : map->updates) {
-            if (entry.id == id) {
-                entry.update(*this, *ui);
-                return true;
+        } else if (code == CN_UPDATE_COMMAND_UI && extra && !info) {
+            for (const UpdateEntry& entry : map->updates) {
+                if (entry.id != id)
+                    continue;
+                entry.update(*this, *static_cast<CCmdUI*>(extra));
+                return 1;
             }
         }
     }
-    return false;
+    return 0;
 }
 
 const CommandMap& CCmdTarget::GetCommandMap() const

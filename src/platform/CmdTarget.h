@@ -46,12 +46,36 @@ struct CommandMap
     std::span<const UpdateEntry> updates;
 };
 
+// What becomes of a command on its way along the targets.
+inline constexpr int CN_COMMAND = 0;
+inline constexpr int CN_UPDATE_COMMAND_UI = -1; // extra: the CCmdUI
+
+// Who would run a command.
+struct CommandHandlerInfo
+{
+    CCmdTarget* target = nullptr;
+};
+
 class ZN_API CCmdTarget : public CObject
 {
 public:
-    // Runs the command, or brings the object that stands for it up to date. False if the target
-    // does not know it.
-    virtual bool OnCmdMsg(UINT id, CCmdUI* ui);
+    // Runs the command, or brings the object that stands for it up to date; with info, only tells
+    // who would run it. 0 if nobody on the way knows it. A target that hands commands on overrides
+    // this one.
+    virtual int OnCmdMsg(UINT id, int code, void* extra, CommandHandlerInfo* info);
+
+    // Runs the command, or with a ui brings that up to date. False if nobody knows it.
+    bool OnCmdMsg(UINT id, CCmdUI* ui)
+    {
+        return OnCmdMsg(id, ui ? CN_UPDATE_COMMAND_UI : CN_COMMAND, ui, nullptr) != 0;
+    }
+
+    // Whether somebody on the way would run the command.
+    bool HasCommand(UINT id)
+    {
+        CommandHandlerInfo info;
+        return OnCmdMsg(id, CN_COMMAND, &info, &info) != 0;
+    }
 
 protected:
     virtual const CommandMap& GetCommandMap() const;

@@ -3,11 +3,17 @@
 
 #include "common/Export.h"
 
+class CObject;
+
 // One for each class, so that two of them are the same class exactly if they have one address.
 struct CRuntimeClass
 {
     const char* name;
-    const CRuntimeClass* base; // null for CObject
+    const CRuntimeClass* base;      // null for CObject
+    CObject* (*create)() = nullptr; // null for a class that is not made by its name
+
+    // A new object, the caller's; null if the class cannot be made so.
+    CObject* CreateObject() const { return create ? create() : nullptr; }
 };
 
 class ZN_API CObject

@@ -50,20 +50,21 @@ inline constexpr UINT kOptionsChanged = 0x8404;
 namespace option {
 enum Key : int
 {
-    LineNumbers = 50180,     // int: not 0 for a margin of line numbers
-    ColorMaxSize = 50181,    // int: the engine's property "colorMaxSize"
-    AutoIndent = 50182,      // int: 0 none, 1 as the line above, 2 by the language
-    TabWidth = 50183,        // int: columns, of an indentation too
-    TabsToSpaces = 50184,    // int: not 0 for blanks in place of tabs
-    BackgroundColor = 50185, // string: "red,green,blue" in decimal
-    EditorFont = 50186,      // font
-    PrintFont = 50187,       // font
-    FileTracking = 50203,    // int: what is done about files that others change
-    FoldMargin = 50447,      // int: not 0 for a margin of folds
-    WordWrap = 50453,        // int: not 0 for long lines wrapped
-    OwnIncludePath = 50467,  // string: folders for included files, in the application DBGlazier
-    IncludePath = 50468,     // string: the same in every other application
-    DefaultTextType = 50637, // int: znutils::TextType of files without a mark
-    ContinueComments = 50827 // bool: Enter continues a comment
+    LineNumbers = 50180,         // int: not 0 for a margin of line numbers
+    ColorMaxSize = 50181,        // int: the engine's property "colorMaxSize"
+    AutoIndent = 50182,          // int: 0 none, 1 as the line above, 2 by the language
+    TabWidth = 50183,            // int: columns, of an indentation too
+    TabsToSpaces = 50184,        // int: not 0 for blanks in place of tabs
+    BackgroundColor = 50185,     // string: "red,green,blue" in decimal
+    EditorFont = 50186,          // font
+    PrintFont = 50187,           // font
+    ReloadWithoutAsking = 50194, // int: not 0: a file that others change is read again unasked
+    FileTracking = 50203,        // int: what is done about files that others change
+    FoldMargin = 50447,          // int: not 0 for a margin of folds
+    WordWrap = 50453,            // int: not 0 for long lines wrapped
+    OwnIncludePath = 50467,      // string: folders for included files, in the application DBGlazier
+    IncludePath = 50468,         // string: the same in every other application
+    DefaultTextType = 50637,     // int: znutils::TextType of files without a mark
+    ContinueComments = 50827     // bool: Enter continues a comment
 };
 } // namespace option

@@ -10,13 +10,15 @@
 enum class Buttons
 {
     Ok,
-    YesNo
+    YesNo,
+    YesNoCancel
 };
 enum class Answer
 {
     Ok,
     Yes,
-    No
+    No,
+    Cancel
 };
 
 class ZN_API IUserQuestions
@@ -30,6 +32,9 @@ public:
     // The path of a file to open, empty if the user thought better of it. The filters are names
     // with patterns, "Scripts (*.sql)", parted by ";;". A dialog, unless a host overrides it.
     virtual QString AskOpenFile(HWND owner, const QString& filters);
+
+    // The path to save under, empty if the user thought better of it; path is the proposal.
+    virtual QString AskSaveFile(HWND owner, const QString& path, const QString& filters);
 };
 
 // The service takes effect at once and stays the caller's; null brings back the message boxes.
@@ -37,4 +42,6 @@ ZN_API void SetUserQuestions(IUserQuestions* questions);
 
 ZN_API void ShowMessage(HWND owner, const QString& text);
 ZN_API bool AskYesNo(HWND owner, const QString& text); // true for Yes
+ZN_API Answer AskYesNoCancel(HWND owner, const QString& text);
 ZN_API QString AskOpenFile(HWND owner, const QString& filters);
+ZN_API QString AskSaveFile(HWND owner, const QString& path, const QString& filters);

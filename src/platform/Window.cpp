@@ -1,5 +1,8 @@
 #include "platform/Window.h"
 
+#include "platform/Disposal.h"
+#include "platform/Exceptions.h"
+#include "platform/Questions.h"
 #include "platform/WindowEvents.h"
 #include "platform/Wnd.h"
 
@@ -77,8 +80,25 @@ WindowRecord& RecordOf(QWidget* widget)
         return *record;
     WindowRecord& record = Records()[widget];
     record = WindowRecord{widget, nullptr, nullptr};
-    QObject::connect(widget, &QObject::destroyed, [widget] { Forget(widget); });
+    QObject::connect(widget, &QObject::destroyed, [widget] {
+        CWnd* wnd = Records()[widget].wnd;
+        Forget(widget);
+        if (wnd)
+            wnd->PostNcDestroy();
+    });
     return record;
+}
+
+// An exception must not reach Qt, which has called most handlers and cannot go on.
+LRESULT SendToWnd(CWnd& wnd, UINT message, WPARAM wParam, LPARAM lParam)
+{
+    const FrameworkCall call;
+    try {
+        return wnd.WindowProc(message, wParam, lParam);
+    } catch (const CFileException& exception) {
+        ShowMessage(nullptr, exception.GetErrorMessage());
+        return 0;
+    }
 }
 
 } // namespace
@@ -120,8 +140,16 @@ LRESULT SendMessage(HWND window, UINT message, WPARAM wParam, LPARAM lParam)
     if (!record)
         return 0;
     if (record->wnd)
-        return record->wnd->WindowProc(message, wParam, lParam);
+        return SendToWnd(*record->wnd, message, wParam, lParam);
     return record->procedure ? record->procedure(window, message, wParam, lParam) : 0;
+}
+
+bool PostMessage(HWND window, UINT message, WPARAM wParam, LPARAM lParam)
+{
+    if (!IsWindow(window))
+        return false;
+    return QMetaObject::invokeMethod(
+        window, [=] { SendMessage(window, message, wParam, lParam); }, Qt::QueuedConnection);
 }
 
 LRESULT CallClassProcedure(HWND window, UINT message, WPARAM wParam, LPARAM lParam)

@@ -7,10 +7,13 @@
 #include "platform/Types.h"
 
 inline constexpr UINT WM_CREATE = 0x0001;
-inline constexpr UINT WM_DESTROY = 0x0002; // from CWnd::DestroyWindow alone
-inline constexpr UINT WM_SETTEXT = 0x000C; // lParam: UTF-16 with a terminator
-inline constexpr UINT WM_SETFONT = 0x0030; // wParam: HFONT, lParam: whether to paint
-inline constexpr UINT WM_NOTIFY = 0x004E;  // lParam: a record that begins with the sender's handle
+inline constexpr UINT WM_DESTROY = 0x0002;  // from CWnd::DestroyWindow alone
+inline constexpr UINT WM_SIZE = 0x0005;     // wParam: 0; lParam: SizeParam
+inline constexpr UINT WM_SETFOCUS = 0x0007; // wParam: the window that had the focus, or null
+inline constexpr UINT WM_SETTEXT = 0x000C;  // lParam: UTF-16 with a terminator
+inline constexpr UINT WM_CLOSE = 0x0010;    // the user's wish; answered with 1, Qt keeps out of it
+inline constexpr UINT WM_SETFONT = 0x0030;  // wParam: HFONT, lParam: whether to paint
+inline constexpr UINT WM_NOTIFY = 0x004E;   // lParam: a record that begins with the sender's handle
 
 inline constexpr unsigned long WS_CHILD = 0x40000000;
 inline constexpr unsigned long WS_VISIBLE = 0x10000000;
@@ -43,8 +46,26 @@ ZN_API HWND CreateWindowOfClass(const char16_t* className, unsigned long style, 
 ZN_API bool IsWindow(HWND window);
 
 // The window's answer: that of the CWnd attached to it, else that of its class. 0 if it is not
-// live.
+// live. A file exception that a CWnd lets out becomes a message to the user, and the answer 0.
 ZN_API LRESULT SendMessage(HWND window, UINT message, WPARAM wParam, LPARAM lParam);
+
+// Sends the message once the event loop comes to it. What is posted to a window that is gone by
+// then is dropped. False if the window is not live.
+ZN_API bool PostMessage(HWND window, UINT message, WPARAM wParam, LPARAM lParam);
+
+// The parameter of WM_SIZE, and what is in it.
+inline LPARAM SizeParam(int width, int height)
+{
+    return static_cast<LPARAM>(width) | static_cast<LPARAM>(height) << 32;
+}
+inline int WidthOf(LPARAM size)
+{
+    return static_cast<int>(size & 0xFFFFFFFF);
+}
+inline int HeightOf(LPARAM size)
+{
+    return static_cast<int>(size >> 32);
+}
 
 // The answer of the window's class, past any CWnd. 0 if the window has no class.
 ZN_API LRESULT CallClassProcedure(HWND window, UINT message, WPARAM wParam, LPARAM lParam);

@@ -1,12 +1,14 @@
 #include "platform/WindowEvents.h"
 
 #include "platform/Accelerators.h"
+#include "platform/Disposal.h"
 #include "platform/Window.h"
 #include "platform/Wnd.h"
 
 #include <QApplication>
 #include <QKeyEvent>
 #include <QPointer>
+#include <QResizeEvent>
 
 namespace {
 
@@ -23,6 +25,7 @@ bool IsTaken(HWND window, const QKeyEvent& key)
 {
     constexpr int kModifiers = static_cast<int>(Qt::ShiftModifier | Qt::ControlModifier |
                                                 Qt::AltModifier | Qt::MetaModifier);
+    const FrameworkCall call; // an object may be closed by its own key
     // Shift and Tab come as a key of their own.
     const int number = key.key() == Qt::Key_Backtab ? static_cast<int>(Qt::Key_Tab) : key.key();
     MSG message{window, WM_KEYDOWN, static_cast<WPARAM>(number),
@@ -45,6 +48,16 @@ public:
     {
         auto* window = static_cast<QWidget*>(watched);
         switch (event->type()) {
+        case QEvent::Close:
+            if (!SendMessage(window, WM_CLOSE, 0, 0))
+                break;
+            event->ignore();
+            return true;
+        case QEvent::Resize: {
+            const QSize size = static_cast<QResizeEvent*>(event)->size();
+            SendMessage(window, WM_SIZE, 0, SizeParam(size.width(), size.height()));
+            break;
+        }
         case QEvent::FocusOut:
             SendMessage(window, WM_KILLFOCUS, reinterpret_cast<WPARAM>(QApplication::focusWidget()),
                         0);

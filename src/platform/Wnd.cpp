@@ -23,7 +23,8 @@ int CWnd::Create(const char16_t* className, const char16_t* title, unsigned long
     if (title && *title)
         window->setWindowTitle(QString::fromUtf16(title));
     SubclassWindow(window);
-    SendMessage(window, WM_CREATE, 0, reinterpret_cast<LPARAM>(context));
+    if (SendMessage(window, WM_CREATE, 0, reinterpret_cast<LPARAM>(context)) == -1)
+        DestroyWindow();
     if (m_hWnd && (style & WS_VISIBLE))
         window->show();
     return m_hWnd ? 1 : 0;
@@ -57,8 +58,11 @@ HWND CWnd::Detach()
 
 void CWnd::DestroyWindow()
 {
+    if (!m_hWnd)
+        return;
     SendMessage(m_hWnd, WM_DESTROY, 0, 0);
     delete Detach();
+    PostNcDestroy();
 }
 
 int CWnd::PreTranslateMessage(MSG* /*message*/)

@@ -36,8 +36,8 @@ public:
     // The window, null if there is none or it is gone.
     HWND GetSafeHwnd() const { return m_hWnd.data(); }
 
-    // Makes a window of the class and attaches it. 0 if the class is unknown or a window is
-    // attached.
+    // Makes a window of the class and attaches it. 0 if the class is unknown, a window is attached,
+    // or WM_CREATE was answered with -1; then there is no window.
     virtual int Create(const char16_t* className, const char16_t* title, unsigned long style,
                        const RECT& rect, CWnd* parent, UINT id, CCreateContext* context = nullptr);
 
@@ -49,7 +49,7 @@ public:
     bool Attach(HWND window);
     HWND Detach(); // the window, which lives on
 
-    void DestroyWindow();
+    virtual void DestroyWindow();
 
     // Timers of the window, by number; they end with it. False if there is no window.
     bool SetTimer(UINT id, UINT milliseconds);
@@ -57,6 +57,10 @@ public:
 
     // Runs once a window is attached by Create or SubclassWindow, before its first message.
     virtual void PreSubclassWindow() {}
+
+    // The last that a window's object hears of it: the window is gone, by DestroyWindow or because
+    // its widget was deleted.
+    virtual void PostNcDestroy() {}
 
     // Offered a key before the window that has the focus gets it, if it is that window's or one
     // inside. Not 0 takes the key away.

@@ -1,0 +1,48 @@
+#include "platform/Exceptions.h"
+
+#include <cerrno>
+
+CFileException CFileException::FromErrno(int number, const QString& path)
+{
+    struct Row
+    {
+        int number;
+        Cause cause;
+    };
+    static constexpr Row kRows[] = {
+        {ENOENT, fileNotFound},      {ENOTDIR, badPath},
+        {ENAMETOOLONG, badPath},     {ELOOP, badPath},
+        {EINVAL, badPath},           {EACCES, accessDenied},
+        {EPERM, accessDenied},       {EROFS, accessDenied},
+        {EISDIR, accessDenied},      {EMFILE, tooManyOpenFiles},
+        {ENFILE, tooManyOpenFiles},  {EWOULDBLOCK, sharingViolation},
+        {ETXTBSY, sharingViolation}, {ENOSPC, diskFull},
+        {EDQUOT, diskFull},          {EFBIG, diskFull},
+    };
+    for (const Row& row : kRows) {
+        if (row.number == number)
+            return CFileException(row.cause, number, path);
+    }
+    return CFileException(genericException, number, path);
+}
+
+QString CFileException::GetErrorMessage() const
+{
+    switch (m_cause) {
+    case fileNotFound:
+        return QStringLiteral("%1 was not found.").arg(m_strFileName);
+    case badPath:
+        return QStringLiteral("%1 is not a valid path.").arg(m_strFileName);
+    case tooManyOpenFiles:
+        return QStringLiteral("%1 could not be opened: too many files are open.")
+            .arg(m_strFileName);
+    case accessDenied:
+        return QStringLiteral("%1 cannot be accessed.").arg(m_strFileName);
+    case sharingViolation:
+        return QStringLiteral("%1 is in use by another program.").arg(m_strFileName);
+    case diskFull:
+        return QStringLiteral("The disk is full: %1.").arg(m_strFileName);
+    default:
+        return QStringLiteral("An error occurred while accessing %1.").arg(m_strFileName);
+    }
+}

@@ -1,0 +1,91 @@
+// CDocTemplate: what kind of document, frame and view belong together. No Qt class stands behind
+// it.
+#pragma once
+
+#include "platform/CmdTarget.h"
+
+#include <QString>
+
+#include <vector>
+
+class CDocument;
+class CFrameWnd;
+
+// Owned by the application. It knows its open documents; they own themselves.
+class ZN_API CDocTemplate : public CCmdTarget
+{
+public:
+    // The parts of the text, parted by line feeds.
+    enum DocStringIndex : int
+    {
+        windowTitle = 0,
+        docName = 1, // of documents without a path, with a number behind it
+        fileNewName = 2,
+        filterName = 3, // "Scripts (*.sql)"
+        filterExt = 4,  // ".sql"
+        regFileTypeId = 5,
+        regFileTypeName = 6
+    };
+
+    // How well a template fits a path.
+    enum Confidence : int
+    {
+        noAttempt = 0,
+        maybeAttemptForeign = 1,
+        yesAttemptNative = 4,
+        yesAlreadyOpen = 5
+    };
+
+    CDocTemplate(const QString& strings, const CRuntimeClass* document, const CRuntimeClass* frame,
+                 const CRuntimeClass* view);
+    ~CDocTemplate() override;
+
+    virtual bool GetDocString(QString& text, int index) const; // false: no such part
+
+    const std::vector<CDocument*>& GetDocuments() const { return m_documents; }
+    virtual void AddDocument(CDocument* document);
+    virtual void RemoveDocument(CDocument* document);
+
+    // match: the document of that path if it is open.
+    virtual Confidence MatchDocType(const QString& path, CDocument*& match) const;
+
+    // Opens the file in a frame of the template's kind; an empty path makes an empty document. Null
+    // if that failed, of which the user knows.
+    virtual CDocument* OpenDocumentFile(const QString& path, bool visible = true) = 0;
+
+    // A further frame on the document. Null if it cannot be made.
+    CFrameWnd* CreateNewFrame(CDocument* document, CFrameWnd* other);
+
+    int SaveAllModified(); // 0 as soon as the user keeps one
+    void CloseAllDocuments();
+
+protected:
+    CDocument* CreateNewDocument(); // null: the class makes none
+    // New or from the path. False if the document refused, or was closed meanwhile.
+    bool Fill(CDocument* document, const QString& path);
+    virtual void SetDefaultTitle(CDocument* document);
+
+private:
+    QString m_strings;
+    const CRuntimeClass* m_documentClass;
+    const CRuntimeClass* m_frameClass;
+    const CRuntimeClass* m_viewClass;
+    std::vector<CDocument*> m_documents;
+    int m_untitled = 0;
+};
+
+// Any number of documents, each in frames of its own.
+class ZN_API CMultiDocTemplate : public CDocTemplate
+{
+public:
+    using CDocTemplate::CDocTemplate;
+    CDocument* OpenDocumentFile(const QString& path, bool visible = true) override;
+};
+
+// One document at a time: opening another one asks what becomes of the first, and takes its place.
+class ZN_API CSingleDocTemplate : public CDocTemplate
+{
+public:
+    using CDocTemplate::CDocTemplate;
+    CDocument* OpenDocumentFile(const QString& path, bool visible = true) override;
+};
