@@ -203,6 +203,11 @@ void Colouring::DeletionBegins(const Raw& raw, long position, long bytes)
 void Colouring::Colorize(const Raw& raw, long start, long end)
 {
     const long last = end < 0 ? raw.Length() : end;
+    // What is styled in front of the start stays, and what stands ready behind an edit too.
+    if (start > 0 && static_cast<long>(raw.Send(Sci::SCI_GETENDSTYLED)) <= start) {
+        StyleTo(raw, last);
+        return;
+    }
     const long first = StartOfLine(raw, LineAt(raw, std::max(start, 0L)));
     DropTail();
     m_end = std::min(static_cast<long>(raw.Send(Sci::SCI_GETENDSTYLED)), first);

@@ -13,16 +13,9 @@
 namespace {
 
 constexpr int kContainerLexer = 0; // the host styles the text
-constexpr int kPlainStyle = 0;
-constexpr int kPlainBehindName = 15; // of the dialects, whose next word may be a data type
 constexpr int kAllStyleBits = 0x1F;
 constexpr long kSmallBlock = 128; // a change is mostly over within two lines
 constexpr long kLargeBlock = 1024 * 1024;
-
-bool IsPlainStyle(int style)
-{
-    return style == kPlainStyle || style == kPlainBehindName;
-}
 
 // Where a place is after a change.
 long Moved(long place, long at, long removed, long inserted)
@@ -110,33 +103,22 @@ long ScriptText::SettleStyles()
     return std::exchange(m_restyled, 0);
 }
 
-// Whole lines, since a lexer has to begin at a line's start.
+// From where the engine's styles end, which it keeps true through edits: behind a change it goes on
+// to the old end once a line begins as it did before.
 void ScriptText::StyleBlock(long to)
 {
-    const long from = LineStart(LineOf(m_styled));
-    const int lastLine = LineOf(std::min(to, Length()));
-    long end = LineStart(lastLine + 1);
+    const bool isHosts = m_lexer == kContainerLexer;
+    const long from = isHosts ? m_styled : m_control.GetEndStyled(1);
+    long end = LineStart(LineOf(std::min(to, Length())) + 1);
     if (end <= from || end > Length())
         end = Length();
-    const bool wasKnown = end > m_stale && end <= m_known;
-    const int before = wasKnown ? m_control.GetStyleAt(end - 1, 1) : -1;
     if (m_styled < m_known)
         m_restyled = std::max(m_restyled, end);
     m_control.Colorize(from, end, 1);
-    m_styled = end;
+    m_styled = isHosts ? end : std::max(end, static_cast<long>(m_control.GetEndStyled(1)));
     m_block = std::min(m_block * 2, kLargeBlock);
-    if (wasKnown && StylesAgreeAgain(end, before))
-        m_styled = m_known;
     if (m_styled >= m_known)
         m_known = m_stale = m_styled;
-}
-
-// Outside comments and strings the lexers take nothing else from one line to the next. A comment
-// hides how deep it nests, and a string how it ends.
-bool ScriptText::StylesAgreeAgain(long end, int before) const
-{
-    return m_lexer != kContainerLexer && IsPlainStyle(before) &&
-           IsPlainStyle(m_control.GetStyleAt(end - 1, 1));
 }
 
 void ScriptText::Changed(long at, long removed, long inserted)

@@ -55,7 +55,6 @@ private:
     int ReplaceAllFrom(long start, long length, const QString& with);
     void StyleTo(long position);
     void StyleBlock(long to);
-    bool StylesAgreeAgain(long end, int before) const;
     void Changed(long at, long removed, long inserted);
 
     CZNCoreEditorControlEx& m_control;

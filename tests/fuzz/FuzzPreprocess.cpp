@@ -41,7 +41,7 @@ struct Program
     Program() : application(count, arguments)
     {
         SetUserQuestions(&questions);
-        for (const char* name : {"Transact-SQL", "SQL", "C++"}) {
+        for (const char* language : {"Transact-SQL", "SQL", "C++"}) {
             auto* control = new CZNCoreEditorControlEx;
             control->SubclassWindow(
                 CreateWindowOfClass(engine::kWindowClass, WS_CHILD, RECT{0, 0, 100, 100}, &parent));
@@ -50,7 +50,7 @@ struct Program
             control->SetCarefulFiles(true);
             const CFileTypeManager& languages = *zncoreeditor::GetFileTypeManager();
             for (int i = 0; i < languages.GetLanguageCount(); ++i) {
-                if (languages.GetLanguageName(i) == QLatin1String(name))
+                if (languages.GetLanguageName(i) == QLatin1String(language))
                     control->InitializeLanguage(i, 1);
             }
             controls.push_back(control);

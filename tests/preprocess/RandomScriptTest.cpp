@@ -2,6 +2,7 @@
 #include "tests/preprocess/PreprocessFixture.h"
 #include "tests/reference/PlainPreprocessor.h"
 
+#include <cstdlib>
 #include <random>
 
 namespace {
@@ -100,9 +101,11 @@ protected:
         m_styler.SubclassWindow(
             CreateWindowOfClass(engine::kWindowClass, WS_CHILD, RECT{0, 0, 400, 300}, &m_parent));
         m_styler.SetLexer(lexer, 1);
-        const unsigned seed = std::random_device{}();
+        const char* given = std::getenv("ZN_TEST_SEED");
+        const unsigned seed = given ? static_cast<unsigned>(std::strtoul(given, nullptr, 10))
+                                    : std::random_device{}();
         m_random.seed(seed);
-        SCOPED_TRACE("seed " + std::to_string(seed));
+        SCOPED_TRACE("repeat with ZN_TEST_SEED=" + std::to_string(seed));
         for (int round = 0; round < rounds && !HasFailure(); ++round) {
             reference::PlainPreprocessor reference = Reference(m_wordCharacters);
             const QString script = QString::fromStdString("\n" + Script(80));
