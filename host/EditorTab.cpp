@@ -126,7 +126,8 @@ void EditorTab::HighlightBraces()
         return;
     const long caret = editor.GetCurrentPos(1);
     const auto isBrace = [&editor](long position) {
-        return position >= 0 && editor.IsBrace(static_cast<char16_t>(editor.GetCharAt(position, 1)));
+        return position >= 0 &&
+               editor.IsBrace(static_cast<char16_t>(editor.GetCharAt(position, 1)));
     };
     if (isBrace(caret))
         editor.HighlightBraces(caret);

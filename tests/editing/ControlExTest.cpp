@@ -627,8 +627,8 @@ TEST_F(ControlEx, DoesNothingForABraceWhileIndentationIsKeptOnly)
         typed.nmhdr.hwndFrom = m_control.GetSafeHwnd();
         typed.ch = '{';
         m_control.HandleNotify(reinterpret_cast<LPARAM>(&typed));
-        EXPECT_EQ(m_control.GetText(), mode == 1 ? QStringLiteral("    if\n{")
-                                                 : QStringLiteral("    if\n    {"));
+        EXPECT_EQ(m_control.GetText(),
+                  mode == 1 ? QStringLiteral("    if\n{") : QStringLiteral("    if\n    {"));
     }
 }
 

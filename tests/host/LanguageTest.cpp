@@ -121,7 +121,9 @@ TEST_F(WorkbenchLanguages, LightsUpTheBraceThatMatches)
         const int x = Editor().PointXFromPosition(9, 1);
         const int y = Editor().PointYFromPosition(9, 1);
         const int width = Editor().TextWidth(0, u")", 1);
-        return Editor().GetSafeHwnd()->grab(QRect(x, y, width, Editor().TextHeight(0, 1)))
+        return Editor()
+            .GetSafeHwnd()
+            ->grab(QRect(x, y, width, Editor().TextHeight(0, 1)))
             .toImage();
     };
     const QImage plain = picture(2);
