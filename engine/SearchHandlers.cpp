@@ -10,7 +10,6 @@ namespace engine {
 namespace {
 
 using Sci = QsciScintillaBase;
-using search::Range;
 
 // The text beside a count of units; a negative count means up to the terminator.
 std::u16string_view CountedText(WPARAM length, LPARAM text)

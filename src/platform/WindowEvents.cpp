@@ -8,7 +8,9 @@
 #include <QApplication>
 #include <QKeyEvent>
 #include <QPointer>
+
 #include <QResizeEvent>
+#include <vector>
 
 namespace {
 
@@ -30,13 +32,14 @@ bool IsTaken(HWND window, const QKeyEvent& key)
     const int number = key.key() == Qt::Key_Backtab ? static_cast<int>(Qt::Key_Tab) : key.key();
     MSG message{window, WM_KEYDOWN, static_cast<WPARAM>(number),
                 static_cast<LPARAM>(key.modifiers().toInt() & kModifiers)};
-    QPointer<QWidget> at = window;
-    while (at) {
-        const QPointer<QWidget> parent = at->parentWidget();
+    // Whoever is offered the key may close windows around it.
+    std::vector<QPointer<QWidget>> around;
+    for (QWidget* at = window; at; at = at->parentWidget())
+        around.emplace_back(at);
+    for (const QPointer<QWidget>& at : around) {
         CWnd* wnd = AttachedWnd(at);
         if (wnd && wnd->PreTranslateMessage(&message))
             return true;
-        at = parent;
     }
     return false;
 }
