@@ -7,7 +7,6 @@
 namespace engine {
 namespace {
 
-using analysis::SqlWord;
 
 // The words of SqlWord.
 constexpr std::string_view kShapingWords =
