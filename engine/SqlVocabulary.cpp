@@ -7,7 +7,6 @@
 namespace engine {
 namespace {
 
-
 // The words of SqlWord.
 constexpr std::string_view kShapingWords =
     "aggregate alter as atomic begin block body case compound constraint conversation create "
