@@ -5,6 +5,7 @@
 #include "engine/SqlBlocks.h"
 #include "engine/SqlVocabulary.h"
 #include "engine/analysis/BatchSeparator.h"
+#include "engine/analysis/StatementState.h"
 
 #include <array>
 #include <span>

@@ -53,7 +53,6 @@ public:
 
 private:
     using Phase = StatementState::Phase;
-    using Head = StatementState::Head;
     using Pending = StatementState::Pending;
     using Before = StatementState::Before;
 
@@ -73,25 +72,13 @@ private:
     void SetTerminator(long start, long end);
     void Continue(const Token& token, SqlWord word);
     void ReadName(const Token& token);
-    void ReadHead(SqlWord word);
-    void ReadCreate(SqlWord word);
-    void ReadWord(SqlWord word);
-    void ReadControl(SqlWord word);
-    bool SettlePending(const Token& token, SqlWord word);
-    bool BeginsBlock(const Token& token, SqlWord word) const;
-    void OpenBlock();
-    void CloseBlock();
-    bool CanDeclare(SqlWord word) const;
-    bool OpensDeclarations(SqlWord word) const;
-    bool HoldsTerminator() const;
     bool SplitsAtUse(SqlWord word) const;
-    bool InHeader() const;
-    bool InRoutine() const { return InHeader() || m_state.head == Head::Body; }
     bool EqualsWord(const Token& token, std::string_view word) const;
     void Note(Event::Kind kind, long position);
 
     const ScriptRules& m_rules;
     const SqlDialect& m_dialect;
+    BlockRules m_blocks;
     Terminators& m_terminators;
     SqlScanner m_scanner;
     StatementState m_state; // its scan state is the scanner's

@@ -214,6 +214,9 @@ TEST(MySqlStatements, HoldTheTerminatorsOfRoutines)
          "create trigger t before insert on x for each row if new.a > 1 then set new.a = 1; elseif "
          "new.a < 0 then set new.a = 0; end if;",
          "create event e on schedule every 1 day do begin select 1; end;",
+         "create procedure r() repeat set @a = repeat('x', 2); until @a end repeat;",
+         "create procedure w() while a > 0 do set a = a - 1; end while;",
+         "create procedure l() loop leave l; end loop;",
          "create function g() returns int return if(1, 2, 3);", "drop table if exists t;",
          "select 1;"});
 }
