@@ -137,6 +137,14 @@ void Colouring::ReadProperties(const Raw& raw)
         Restart(raw);
 }
 
+void Colouring::SetSeparator(const Raw& raw, std::optional<analysis::BatchSeparator> separator)
+{
+    if (m_separator == separator)
+        return;
+    m_separator = std::move(separator);
+    Restart(raw);
+}
+
 // All of the text is to be styled afresh.
 void Colouring::Restart(const Raw& raw)
 {
@@ -240,7 +248,9 @@ bool Colouring::StyleChunk(const Raw& raw, long target)
     m_end = static_cast<long>(raw.Send(Sci::SCI_GETENDSTYLED));
     const long line = LineAt(raw, m_end);
     const long start = StartOfLine(raw, line);
-    SqlStyler styler(m_lexer, *m_dialect, m_vocabulary, m_terminators, m_foldOptions);
+    const analysis::ScriptRules rules = {m_dialect,
+                                         m_separator.value_or(analysis::SeparatorOf(*m_dialect))};
+    SqlStyler styler(m_lexer, rules, m_vocabulary, m_terminators, m_foldOptions);
     styler.Start(TextOf(raw), start,
                  line > 0 ? m_states.Of(StateNumber(raw, line)) : SqlLineState());
     m_lines.first = line;

@@ -9,6 +9,7 @@
 #include "engine/Raw.h"
 #include "engine/SqlStyler.h"
 
+#include <optional>
 #include <unordered_map>
 #include <utility>
 
@@ -48,6 +49,8 @@ public:
     void SetKeyWords(const Raw& raw, int set, std::string_view words);
     // After a lexer property has changed in the stock engine.
     void ReadProperties(const Raw& raw);
+    // What batches are parted by, whose lines fold; empty: the dialect's own.
+    void SetSeparator(const Raw& raw, std::optional<analysis::BatchSeparator> separator);
 
     // Before text goes in or out. Every window of the document may say so.
     void InsertionBegins(const Raw& raw, long position, long bytes);
@@ -99,6 +102,7 @@ private:
 
     int m_lexer = 0;
     const analysis::SqlDialect* m_dialect = nullptr; // null: not SQL
+    std::optional<analysis::BatchSeparator> m_separator;
     SqlVocabulary m_vocabulary;
     analysis::Terminators m_terminators;
     SqlLineStates m_states;

@@ -250,6 +250,7 @@ bool ScriptAnalysis::Reset(int scope, long start, long end)
 {
     if (scope == partitioner::ResetAll) {
         m_settings = {};
+        FoldBySeparator();
         Forget();
     }
     if (!Begin())
@@ -286,7 +287,14 @@ void ScriptAnalysis::SetSeparator(const char16_t* text, int flags)
             .takesCount = (flags & partitioner::NoCount) == 0,
         };
     }
+    FoldBySeparator();
     RulesChanged();
+}
+
+// Batches fold as they are parted. The folds are the document's: the window that sets last decides.
+void ScriptAnalysis::FoldBySeparator()
+{
+    m_engine.colouring->SetSeparator(m_engine.raw, m_settings.separator);
 }
 
 void ScriptAnalysis::SetCatalog(std::u16string text, bool fixed)

@@ -72,6 +72,7 @@ private:
 
     const analysis::SqlDialect* Dialect() const;
     analysis::ScriptRules Rules() const;
+    void FoldBySeparator();
     bool Begin();
     void Follow();
     void ChangeBegins(const Change& change);

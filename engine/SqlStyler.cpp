@@ -176,13 +176,14 @@ std::uint64_t SqlLineState::Hash() const
                          number(blocks.ifSeen) << 34 | number(blocks.whileSeen) << 35);
 }
 
-SqlStyler::SqlStyler(int lexer, const analysis::SqlDialect& sql, const SqlVocabulary& vocabulary,
+SqlStyler::SqlStyler(int lexer, const analysis::ScriptRules& rules, const SqlVocabulary& vocabulary,
                      analysis::Terminators& terminators, SqlFoldOptions fold)
-    : m_palette(lexer == kGenericLexer ? kGenericPalette : kDialectPalette), m_dialect(sql),
-      m_vocabulary(vocabulary), m_terminators(terminators), m_separator(analysis::SeparatorOf(sql)),
-      m_fold(fold), m_hasCommands(!sql.commandLeads.empty() || !sql.commandWords.empty() ||
-                                  !sql.delimiterWord.empty()),
-      m_blocks(sql), m_scanner(sql, {})
+    : m_palette(lexer == kGenericLexer ? kGenericPalette : kDialectPalette),
+      m_dialect(*rules.dialect), m_vocabulary(vocabulary), m_terminators(terminators),
+      m_separator(rules.separator), m_fold(fold),
+      m_hasCommands(!m_dialect.commandLeads.empty() || !m_dialect.commandWords.empty() ||
+                    !m_dialect.delimiterWord.empty()),
+      m_blocks(m_dialect), m_scanner(m_dialect, {})
 {}
 
 void SqlStyler::Start(TextSpans text, long position, const SqlLineState& state)

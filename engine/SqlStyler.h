@@ -39,8 +39,8 @@ class SqlStyler
 public:
     using WordStyles = std::array<std::uint8_t, 256>; // by the sets that have the word
 
-    // Terminators and vocabulary are the caller's, and outlive the styler.
-    SqlStyler(int lexer, const analysis::SqlDialect& dialect, const SqlVocabulary& vocabulary,
+    // Dialect, terminators and vocabulary are the caller's, and outlive the styler.
+    SqlStyler(int lexer, const analysis::ScriptRules& rules, const SqlVocabulary& vocabulary,
               analysis::Terminators& terminators, SqlFoldOptions fold);
 
     // Goes on at a line's start. The text stays as it is until the next call.

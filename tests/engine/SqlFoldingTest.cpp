@@ -218,6 +218,29 @@ TEST(SqlFolds, ABatchFoldsFromItsFirstLineAndItsSeparatorStaysOutside)
                               "0  |go\n");
 }
 
+TEST(SqlFolds, BatchesFoldByTheSeparatorThatIsSet)
+{
+    const SqlUnderTest sql(kTransactSql, u"select 1\nfrom t\nRUN\nselect 2\nGO\nselect 3");
+    sql.FoldAlso();
+    sql.Style();
+    sql.Send(msg::SetBatchSeparator, reinterpret_cast<WPARAM>(u"run"));
+    sql.Style();
+    EXPECT_EQ(sql.Folds(), "0H |select 1\n"
+                           "1  |from t\n"
+                           "0  |RUN\n"
+                           "0H |select 2\n"
+                           "1  |GO\n"
+                           "1  |select 3\n");
+    sql.Send(msg::SetBatchSeparator, 0);
+    sql.Style();
+    EXPECT_EQ(sql.Folds(), "0H |select 1\n"
+                           "1  |from t\n"
+                           "1  |RUN\n"
+                           "1  |select 2\n"
+                           "0  |GO\n"
+                           "0  |select 3\n");
+}
+
 TEST(SqlFolds, ABatchOfOneLineIsNoFold)
 {
     ExpectFolds(kAse, "0  |select 1\n"
