@@ -122,9 +122,20 @@ long Read(const Engine& engine, BytePos from, BytePos to, char16_t* buffer)
     return done;
 }
 
+// Where reading begins: behind a character that the position cuts, so that no more units are
+// written than the range has.
+BytePos StartOfRange(const Engine& engine, UnitPos position)
+{
+    const BytePos byte = engine.text.ToBytes(position);
+    if (engine.text.IsAscii() || engine.text.ToUnits(byte).value >= position.value)
+        return byte;
+    return {static_cast<long>(
+        engine.raw.Send(Sci::SCI_POSITIONAFTER, static_cast<WPARAM>(byte.value)))};
+}
+
 long Read(const Engine& engine, UnitPos from, UnitPos to, char16_t* buffer)
 {
-    return Read(engine, engine.text.ToBytes(from), engine.text.ToBytes(to), buffer);
+    return Read(engine, StartOfRange(engine, from), engine.text.ToBytes(to), buffer);
 }
 
 LRESULT GetText(Engine& engine, WPARAM wParam, LPARAM lParam)
@@ -203,7 +214,7 @@ LRESULT GetStyledText(Engine& engine, WPARAM, LPARAM lParam)
     if (!range || !range->lpstrText)
         return 0;
     const long length = engine.text.Length();
-    const long start = engine.text.ToBytes({range->chrg.cpMin}).value;
+    const long start = StartOfRange(engine, {range->chrg.cpMin}).value;
     const long end =
         engine.text.ToBytes({range->chrg.cpMax < 0 ? length : range->chrg.cpMax}).value;
     char16_t* out = range->lpstrText;

@@ -176,6 +176,20 @@ TEST_F(Families, StyledTextGoesOutAsItCameIn)
     EXPECT_EQ(buffer, cells + std::u16string(2, u'\0'));
 }
 
+TEST_F(Families, ARangeThatCutsAPairNeverGivesMoreThanItsUnits)
+{
+    Start(u"a\U0001F600b");
+    std::u16string buffer(6, u'#');
+    TextRange range{{2, 4}, buffer.data()};
+    EXPECT_EQ(m_engine.Send(msg::GetTextRange, 0, &range), 1);
+    EXPECT_EQ(buffer, std::u16string(u"b\0####", 6));
+    range.chrg = {1, 2};
+    EXPECT_EQ(m_engine.Send(msg::GetTextRange, 0, &range), 0);
+    range.chrg = {2, 3};
+    EXPECT_EQ(m_engine.Send(msg::GetTextRange, 0, &range), 0);
+    EXPECT_EQ(m_engine.Send(msg::GetStyledText, 0, &range), 0);
+}
+
 TEST_F(Families, OneStyleIsSetForEachUnit)
 {
     Start(u"\u00e9\U0001F600x\u4e2d");
