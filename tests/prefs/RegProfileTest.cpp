@@ -224,7 +224,7 @@ TEST_F(RegProfile, TriesAgainToOpenTheKeyThatItCouldNot)
 {
     ScriptedRegistry registry;
     registry.opens = false;
-    registry.value = RegistryValue(std::uint32_t(5));
+    registry.value.emplace(std::uint32_t(5));
     CRegProfile profile;
     EXPECT_EQ(profile.GetProfileInt(kSearch, u"WholeWord", 7), 7);
     registry.opens = true;
