@@ -35,8 +35,8 @@ private:
     std::unique_ptr<Conversion> m_conversion; // null for an encoding that has all characters
 };
 
-// The first character of the editor's text that is lost; nothing if none is. A text of 64 MB takes
-// about a tenth of a second.
+// The first character of the editor's text that is lost; nothing if none is. 64 million characters
+// take 0.14 s, and 0.38 s if none of them is ASCII.
 std::optional<LostCharacter> FindLostCharacter(CZNCoreEditorControl& editor, int encoding);
 
 // The character as a sentence can show it: in quotes if it has a form of its own, and its number.
