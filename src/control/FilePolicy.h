@@ -19,6 +19,7 @@ struct FilePolicy
     bool replacesTarget;  // a save takes the target's place when it is complete
     bool reportsUnopened; // a target that cannot be opened is a failure
     bool demandsAllText;  // so is a line that does not convert
+    bool opensFirst;      // a file that cannot be opened costs the text no autosave
     bool writesFirst;     // the state of the control changes only after the write
     bool notesLast;       // an autosave copy is noted once it is there, not before
     bool sparesClaimed;   // the copy of a control that is alive is nobody else's
@@ -34,6 +35,7 @@ inline constexpr FilePolicy kPlainFiles = {
     .replacesTarget = false,
     .reportsUnopened = false,
     .demandsAllText = false,
+    .opensFirst = false,
     .writesFirst = false,
     .notesLast = false,
     .sparesClaimed = false,
@@ -46,6 +48,7 @@ inline constexpr FilePolicy kCarefulFiles = {
     .replacesTarget = true,
     .reportsUnopened = true,
     .demandsAllText = true,
+    .opensFirst = true,
     .writesFirst = true,
     .notesLast = true,
     .sparesClaimed = true,
