@@ -3,14 +3,10 @@
 #include "EditDocFixture.h"
 
 #include "platform/Timer.h"
-
-#include <linux/capability.h>
-#include <sys/resource.h>
-#include <sys/syscall.h>
-#include <unistd.h>
+#include "tests/settings/FullDisk.h"
+#include "tests/settings/OrdinaryUser.h"
 
 #include <climits>
-#include <csignal>
 #include <cstdio>
 
 namespace {
@@ -51,45 +47,6 @@ protected:
     {
         return QDir(path).entryList(QDir::Files | QDir::Hidden).size();
     }
-};
-
-// A file that can hold no more than some bytes, as on a disk that is full or over its quota.
-class FullDisk
-{
-public:
-    explicit FullDisk(rlim_t bytes) : m_handler(std::signal(SIGXFSZ, SIG_IGN))
-    {
-        getrlimit(RLIMIT_FSIZE, &m_before);
-        const rlimit limit = {bytes, m_before.rlim_max};
-        setrlimit(RLIMIT_FSIZE, &limit);
-    }
-    ~FullDisk()
-    {
-        setrlimit(RLIMIT_FSIZE, &m_before);
-        std::signal(SIGXFSZ, m_handler);
-    }
-
-private:
-    rlimit m_before = {};
-    void (*m_handler)(int);
-};
-
-// The superuser reads and writes whatever is protected, unless that power is put down.
-class NoPrivileges
-{
-public:
-    NoPrivileges()
-    {
-        syscall(SYS_capget, &m_header, m_before);
-        __user_cap_data_struct less[2] = {m_before[0], m_before[1]};
-        less[0].effective &= ~(1u << CAP_DAC_OVERRIDE | 1u << CAP_DAC_READ_SEARCH);
-        syscall(SYS_capset, &m_header, less);
-    }
-    ~NoPrivileges() { syscall(SYS_capset, &m_header, m_before); }
-
-private:
-    __user_cap_header_struct m_header = {_LINUX_CAPABILITY_VERSION_3, 0};
-    __user_cap_data_struct m_before[2] = {};
 };
 
 // A path of so many bytes, its folders made, with a file name of some.
@@ -202,7 +159,7 @@ TEST_F(FileFault, AFileThatBecameReadOnlyIsNotWrittenOver)
     OpenDoc* doc = OpenChanged();
     Protect("a.sql");
     {
-        const NoPrivileges person;
+        const OrdinaryUser person;
         EXPECT_EQ(doc->DoFileSave(), 0);
     }
     EXPECT_EQ(user.asked.size(), 1);
@@ -215,7 +172,7 @@ TEST_F(FileFault, AFileThatMayNotBeReadIsToldAndLeftAlone)
 {
     OpenDoc* doc = OpenChanged();
     chmod(QFile::encodeName(Write("b.sql", "secret")).constData(), 0);
-    const NoPrivileges person;
+    const OrdinaryUser person;
     EXPECT_EQ(doc->OnOpenDocument(Path("b.sql")), 0);
     EXPECT_EQ(user.asked.size(), 1);
     ExpectChangedTextIn(doc);
