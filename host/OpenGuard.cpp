@@ -107,8 +107,8 @@ void OpenGuard::TakeOverMarks()
         }
         for (const QJsonValue path : QJsonDocument::fromJson(ReadAll(file)).array()) {
             const QString text = path.toString();
-            if (QDir::isAbsolutePath(text) && !text.contains(QChar(0)) &&
-                !m_suspects.contains(text) && m_suspects.size() < kMostPaths)
+            if (places::CanBeFile(text) && !m_suspects.contains(text) &&
+                m_suspects.size() < kMostPaths)
                 m_suspects << text;
         }
         files << name;

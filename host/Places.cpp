@@ -2,6 +2,8 @@
 
 #include "platform/SpecialFolders.h"
 
+#include <QDir>
+
 namespace places {
 
 QSettings Settings()
@@ -16,6 +18,13 @@ QString DataPath(const QString& name)
     if (!znutils::CSpecialFolders::GetAppAppDataPath(folder, true, nullptr))
         return QString();
     return folder + u'/' + name;
+}
+
+bool CanBeFile(const QString& path)
+{
+    constexpr qsizetype kLongest = 8192; // units; a system takes half of that
+    return QDir::isAbsolutePath(path) && path.size() <= kLongest && !path.contains(QChar(0)) &&
+           path.isValidUtf16();
 }
 
 } // namespace places

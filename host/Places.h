@@ -13,4 +13,8 @@ QSettings Settings();
 // made. Empty if there is none.
 QString DataPath(const QString& name);
 
+// Whether what was read from one of these can name a file at all: absolute, of a length that a
+// system takes, without a NUL or half a character.
+bool CanBeFile(const QString& path);
+
 } // namespace places

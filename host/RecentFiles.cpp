@@ -1,5 +1,7 @@
 #include "host/RecentFiles.h"
 
+#include "host/Places.h"
+
 #include <QDir>
 #include <QFileInfo>
 #include <QSettings>
@@ -18,12 +20,6 @@ namespace {
 const QString kList = QStringLiteral("RecentFiles");
 const QString kPath = QStringLiteral("path");
 const QString kFile = QStringLiteral("file");
-constexpr qsizetype kLongestPath = 8192; // units; a system takes half of that
-
-bool IsUsable(const QString& path)
-{
-    return QDir::isAbsolutePath(path) && path.size() <= kLongestPath && !path.contains(QChar(0));
-}
 
 QString FileBehind(const QString& path)
 {
@@ -44,7 +40,7 @@ QList<RecentFiles::Entry> RecentFiles::Read() const
         const QString path = m_settings.value(kPath).toString();
         const bool isDouble = std::ranges::any_of(
             entries, [&path](const Entry& entry) { return entry.path == path; });
-        if (IsUsable(path) && !isDouble)
+        if (places::CanBeFile(path) && !isDouble)
             entries.append({path, m_settings.value(kFile, path).toString()});
     }
     m_settings.endArray();
@@ -75,7 +71,7 @@ QStringList RecentFiles::Paths() const
 void RecentFiles::Add(const QString& path)
 {
     const QString absolute = QDir::cleanPath(QFileInfo(path).absoluteFilePath());
-    if (path.isEmpty() || !IsUsable(absolute))
+    if (path.isEmpty() || !places::CanBeFile(absolute))
         return;
     const Entry added = {absolute, FileBehind(absolute)};
     QList<Entry> entries = Read();

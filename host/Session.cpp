@@ -2,7 +2,6 @@
 
 #include "host/Places.h"
 
-#include <QDir>
 #include <QFile>
 #include <QFileInfo>
 #include <QJsonArray>
@@ -16,7 +15,6 @@
 namespace {
 
 constexpr qint64 kMostBytes = 4 * 1024 * 1024;
-constexpr qsizetype kLongestPath = 8192;        // units; a system takes half of that
 constexpr qsizetype kLongestLayout = 64 * 1024; // bytes
 
 const QString kFiles = QStringLiteral("files");
@@ -46,11 +44,6 @@ QByteArray LayoutOf(const QJsonValue& value)
     const QByteArray text = value.toString().left(2 * kLongestLayout).toLatin1();
     const QByteArray layout = QByteArray::fromBase64(text);
     return layout.size() <= kLongestLayout ? layout : QByteArray();
-}
-
-bool IsUsable(const QString& path)
-{
-    return QDir::isAbsolutePath(path) && path.size() <= kLongestPath && !path.contains(QChar(0));
 }
 
 SessionFile FileOf(const QJsonObject& entry)
@@ -100,7 +93,7 @@ Session Session::FromBytes(const QByteArray& bytes)
     QSet<QString> known;
     for (qsizetype i = 0; i < entries.size() && session.files.size() < kMostFiles; ++i) {
         const SessionFile file = FileOf(entries[i].toObject());
-        if (!IsUsable(file.path) || known.contains(file.path))
+        if (!places::CanBeFile(file.path) || known.contains(file.path))
             continue;
         known.insert(file.path);
         if (i == front)

@@ -98,10 +98,10 @@ TEST(SessionData, SurvivesDamage)
 
 TEST(SessionData, LeavesOutWhatNoFileIsCalled)
 {
-    const Session session =
-        Read(R"({"front":4,"files":[{"path":"a.sql"},{"path":""},{"path":"/x/\u0000"},{"path":"/)" +
-             QByteArray(10000, 'x') +
-             R"("},{"path":"/x/a.sql"},{"path":"/x/a.sql"},{"path":"/x/b.sql"}]})");
+    const Session session = Read(
+        R"({"front":5,"files":[{"path":"a.sql"},{"path":""},{"path":"/x/\u0000"},{"path":"/x/\ud800"},{"path":"/)" +
+        QByteArray(10000, 'x') +
+        R"("},{"path":"/x/a.sql"},{"path":"/x/a.sql"},{"path":"/x/b.sql"}]})");
     ASSERT_EQ(session.files.size(), 2);
     EXPECT_EQ(session.files[0].path, "/x/a.sql");
     EXPECT_EQ(session.files[1].path, "/x/b.sql");
