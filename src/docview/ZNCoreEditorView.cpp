@@ -48,6 +48,7 @@ int CZNCoreEditorView::OnCreate(CCreateContext* context)
                              kControlId, nullptr))
         return -1;
     SendMessage(m_coreEditor.GetSafeHwnd(), kSetIndicatorCurrent, 1, 0);
+    GetSafeHwnd()->setFocusProxy(m_coreEditor.GetSafeHwnd());
     m_coreEditor.GetSafeHwnd()->show();
     if (CZNCoreEditorDoc* document = EditDocument())
         document->SetDocCoreEditor(&m_coreEditor);
