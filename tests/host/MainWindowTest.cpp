@@ -31,7 +31,7 @@ TEST_F(Workbench, MarksAChangedScriptUntilTheChangeIsUndone)
 {
     Open("orders.sql", "select 1;\n");
     Type(u"x");
-    EXPECT_EQ(TabCaption(), QStringLiteral("orders.sql*"));
+    EXPECT_EQ(TabCaption(), QStringLiteral("orders.sql *"));
     EXPECT_TRUE(m_window.isWindowModified());
     EXPECT_EQ(Status("modified"), QStringLiteral("Modified"));
     Trigger("undo");
@@ -46,7 +46,7 @@ TEST_F(Workbench, OffersToSaveAtTheFirstChangeWithoutWaitingForThePaint)
     Open("orders.sql", "select 1;\n");
     Editor().ReplaceSel(u"x", 1);
     EXPECT_TRUE(Action("save").isEnabled());
-    EXPECT_TRUE(m_window.Save());
+    EXPECT_TRUE(Script().DoFileSave());
     EXPECT_FALSE(Action("save").isEnabled());
 }
 
@@ -60,17 +60,17 @@ TEST_F(Workbench, ShowsTheTabOfAScriptThatIsOpenAlready)
 {
     Open("a.sql", "a");
     Open("b.sql", "b");
-    EXPECT_EQ(m_window.OpenScript(PathOf("./a.sql")), QString());
+    EXPECT_TRUE(m_app.OpenDocumentFile(PathOf("./a.sql")));
     EXPECT_EQ(m_window.TabCount(), 2);
     EXPECT_EQ(Text(), QStringLiteral("a"));
 }
 
 TEST_F(Workbench, LetsTheUntouchedFirstScriptMakeRoom)
 {
-    m_window.NewScript();
+    m_app.NewScript();
     Open("a.sql", "a");
     EXPECT_EQ(m_window.TabCount(), 1);
-    m_window.NewScript();
+    m_app.NewScript();
     Type(u"kept");
     Open("b.sql", "b");
     EXPECT_EQ(m_window.TabCount(), 3);
@@ -78,13 +78,16 @@ TEST_F(Workbench, LetsTheUntouchedFirstScriptMakeRoom)
 
 TEST_F(Workbench, TellsWhyAScriptDoesNotOpen)
 {
-    EXPECT_TRUE(m_window.OpenScript(PathOf("no.sql")).contains(QStringLiteral("does not exist")));
-    EXPECT_TRUE(m_window.OpenScript(m_folder.path()).contains(QStringLiteral("folder")));
+    EXPECT_FALSE(m_app.OpenDocumentFile(PathOf("no.sql")));
+    EXPECT_FALSE(m_app.OpenDocumentFile(m_folder.path()));
     EXPECT_EQ(m_window.TabCount(), 0);
+    ASSERT_EQ(m_prompts.told.size(), 2);
+    EXPECT_TRUE(m_prompts.told[0].contains(QStringLiteral("does not exist")));
+    EXPECT_TRUE(m_prompts.told[1].contains(QStringLiteral("folder")));
 
     m_prompts.filesToOpen = QStringList{PathOf("no.sql")};
     Trigger("open");
-    EXPECT_EQ(m_prompts.told.size(), 1);
+    EXPECT_EQ(m_prompts.told.size(), 3);
 }
 
 TEST_F(Workbench, SavesInTheEncodingOfTheFile)
@@ -101,7 +104,7 @@ TEST_F(Workbench, SavesInTheEncodingOfTheFile)
     EXPECT_EQ(Read("a.sql"), QByteArray("\xFF\xFE"
                                         "b\0a\0\n\0\x42\x01",
                                         10));
-    EXPECT_FALSE(Tab().IsModified());
+    EXPECT_FALSE(Script().IsModified());
 }
 
 TEST_F(Workbench, SavesUnderAnotherNameAndEncoding)
@@ -120,14 +123,14 @@ TEST_F(Workbench, SavesUnderAnotherNameAndEncoding)
 
 TEST_F(Workbench, AsksForANameWhenAScriptWithoutOneIsSaved)
 {
-    m_window.NewScript();
+    m_app.NewScript();
     Type(u"select 1");
     m_prompts.saveTarget = SaveTarget{PathOf("new.sql"), 6, false};
     Trigger("save");
     EXPECT_EQ(Read("new.sql"), QByteArray("select 1"));
     EXPECT_EQ(m_prompts.proposals.size(), 1);
     EXPECT_TRUE(m_prompts.proposals.value(0).endsWith(QStringLiteral("Script 1.sql")));
-    EXPECT_FALSE(Tab().IsModified());
+    EXPECT_FALSE(Script().IsModified());
 }
 
 TEST_F(Workbench, KeepsTheTextWhenASaveFails)
@@ -135,14 +138,14 @@ TEST_F(Workbench, KeepsTheTextWhenASaveFails)
     Open("a.sql", "one\n");
     Type(u"two ");
     m_prompts.saveTarget = SaveTarget{PathOf("gone/b.sql"), 6, false};
-    EXPECT_FALSE(m_window.SaveAs());
+    EXPECT_FALSE(Script().SaveAs());
     ASSERT_EQ(m_prompts.told.size(), 1);
     EXPECT_TRUE(m_prompts.told[0].contains(QStringLiteral("folder does not exist")));
     EXPECT_TRUE(m_prompts.told[0].contains(QStringLiteral("Save As")));
     EXPECT_EQ(Text(), QStringLiteral("two one\n"));
-    EXPECT_TRUE(Tab().IsModified());
-    EXPECT_EQ(Tab().Path(), PathOf("a.sql"));
-    EXPECT_TRUE(m_window.Save());
+    EXPECT_TRUE(Script().IsModified());
+    EXPECT_EQ(Script().GetPathName(), PathOf("a.sql"));
+    EXPECT_TRUE(Script().DoFileSave());
     EXPECT_EQ(Read("a.sql"), QByteArray("two one\n"));
 }
 
@@ -158,14 +161,14 @@ TEST_F(Workbench, AsksBeforeAScriptThatWasCutShortReplacesTheLongerFile)
     EXPECT_TRUE(m_prompts.told[0].contains(QStringLiteral("truncated")));
 
     Type(u"x");
-    EXPECT_FALSE(m_window.Save());
+    EXPECT_FALSE(Script().DoFileSave());
     EXPECT_EQ(m_prompts.asked.size(), 1);
     EXPECT_EQ(Read("a.sql"), bytes);
 
     m_prompts.confirm = true;
-    EXPECT_TRUE(m_window.Save());
+    EXPECT_TRUE(Script().DoFileSave());
     EXPECT_EQ(m_prompts.asked.size(), 2);
-    EXPECT_TRUE(m_window.Save()) << "the file holds what the window shows from here on";
+    EXPECT_TRUE(Script().DoFileSave()) << "the file holds what the window shows from here on";
     EXPECT_EQ(m_prompts.asked.size(), 2);
 }
 
@@ -174,13 +177,15 @@ TEST_F(Workbench, AsksBeforeCharactersBecomeQuestionMarks)
     Open("a.sql", "caf\xE9\n");
     EXPECT_EQ(Status("encoding"), QStringLiteral("windows-1252"));
     Type(u"\u0142");
-    EXPECT_FALSE(m_window.Save());
+    EXPECT_FALSE(Script().DoFileSave());
     ASSERT_EQ(m_prompts.asked.size(), 1);
     EXPECT_TRUE(m_prompts.asked[0].contains(QStringLiteral("windows-1252")));
+    EXPECT_TRUE(m_prompts.asked[0].contains(u'\u0142'));
+    EXPECT_TRUE(m_prompts.asked[0].contains(QStringLiteral("line 1")));
     EXPECT_EQ(Read("a.sql"), QByteArray("caf\xE9\n"));
 
-    m_prompts.confirm = true;
-    EXPECT_TRUE(m_window.Save());
+    m_prompts.loseCharacters = LoseCharacters::SaveAnyway;
+    EXPECT_TRUE(Script().DoFileSave());
     EXPECT_EQ(Read("a.sql"), QByteArray("?caf\xE9\n"));
 }
 
@@ -221,19 +226,19 @@ TEST_F(Workbench, StaysOpenWhileAScriptHasChangesToKeep)
     Open("a.sql", "a");
     Type(u"b");
     Open("c.sql", "c");
-    EXPECT_FALSE(m_window.close());
+    EXPECT_FALSE(CloseWindow());
     EXPECT_EQ(Text(), QStringLiteral("ba")) << "the script that is asked about is in front";
     m_prompts.loseChanges = LoseChanges::Discard;
-    EXPECT_TRUE(m_window.close());
+    EXPECT_TRUE(CloseWindow());
 }
 
 TEST_F(Workbench, StaysOpenWhenTheSaveOnTheWayOutFails)
 {
-    m_window.NewScript();
+    m_app.NewScript();
     Type(u"b");
     m_prompts.loseChanges = LoseChanges::Save;
     m_prompts.saveTarget = SaveTarget{PathOf("gone/b.sql"), 6, false};
-    EXPECT_FALSE(m_window.close());
+    EXPECT_FALSE(CloseWindow());
     EXPECT_EQ(Text(), QStringLiteral("b"));
 }
 
@@ -268,7 +273,7 @@ TEST_F(Workbench, OffersNoChangeOfAReadOnlyScript)
     Type(u"b");
     Editor().SetReadOnly(1, 1);
     Trigger("selectAll");
-    Q_EMIT Tab().StateChanged();
+    Q_EMIT Script().StateChanged();
     for (const char* name : {"undo", "cut", "paste", "delete"})
         EXPECT_FALSE(Action(name).isEnabled()) << name;
     EXPECT_TRUE(Action("copy").isEnabled());
@@ -357,13 +362,13 @@ TEST_F(Workbench, AppliesItsViewToEveryScript)
     Trigger("wrap");
     Open("b.sql", "b");
     for (int i = 0; i < m_window.TabCount(); ++i) {
-        CZNCoreEditorControl& editor = m_window.TabAt(i)->Editor();
+        CZNCoreEditorControl& editor = m_window.FrameAt(i)->Editor();
         EXPECT_EQ(editor.GetViewWS(1), 1);
         EXPECT_EQ(editor.GetViewEOL(1), 1);
         EXPECT_EQ(editor.GetWrapMode(1), 1);
     }
     Trigger("wrap");
-    EXPECT_EQ(m_window.TabAt(0)->Editor().GetWrapMode(1), 0);
+    EXPECT_EQ(m_window.FrameAt(0)->Editor().GetWrapMode(1), 0);
 }
 
 TEST_F(Workbench, ColoursSqlByHand)
