@@ -6,7 +6,7 @@
 
 namespace {
 
-class Workbench : public WorkbenchTest
+class MainWindows : public WorkbenchTest
 {
 protected:
     QString TabCaption() const
@@ -18,7 +18,7 @@ protected:
 
 } // namespace
 
-TEST_F(Workbench, OpensAScriptUnderItsName)
+TEST_F(MainWindows, OpensAScriptUnderItsName)
 {
     Open("orders.sql", "select 1;\n");
     EXPECT_EQ(Text(), QStringLiteral("select 1;\n"));
@@ -27,7 +27,7 @@ TEST_F(Workbench, OpensAScriptUnderItsName)
     EXPECT_FALSE(m_window.isWindowModified());
 }
 
-TEST_F(Workbench, MarksAChangedScriptUntilTheChangeIsUndone)
+TEST_F(MainWindows, MarksAChangedScriptUntilTheChangeIsUndone)
 {
     Open("orders.sql", "select 1;\n");
     Type(u"x");
@@ -40,7 +40,7 @@ TEST_F(Workbench, MarksAChangedScriptUntilTheChangeIsUndone)
     EXPECT_TRUE(Status("modified").isEmpty());
 }
 
-TEST_F(Workbench, OffersToSaveAtTheFirstChangeWithoutWaitingForThePaint)
+TEST_F(MainWindows, OffersToSaveAtTheFirstChangeWithoutWaitingForThePaint)
 {
     // A person's save keys may be next in line behind the typed one.
     Open("orders.sql", "select 1;\n");
@@ -50,13 +50,13 @@ TEST_F(Workbench, OffersToSaveAtTheFirstChangeWithoutWaitingForThePaint)
     EXPECT_FALSE(Action("save").isEnabled());
 }
 
-TEST_F(Workbench, ShowsAnAmpersandOfANameAsItIs)
+TEST_F(MainWindows, ShowsAnAmpersandOfANameAsItIs)
 {
     Open("a&b.sql", "");
     EXPECT_EQ(TabCaption(), QStringLiteral("a&&b.sql"));
 }
 
-TEST_F(Workbench, ShowsTheTabOfAScriptThatIsOpenAlready)
+TEST_F(MainWindows, ShowsTheTabOfAScriptThatIsOpenAlready)
 {
     Open("a.sql", "a");
     Open("b.sql", "b");
@@ -65,7 +65,7 @@ TEST_F(Workbench, ShowsTheTabOfAScriptThatIsOpenAlready)
     EXPECT_EQ(Text(), QStringLiteral("a"));
 }
 
-TEST_F(Workbench, LetsTheUntouchedFirstScriptMakeRoom)
+TEST_F(MainWindows, LetsTheUntouchedFirstScriptMakeRoom)
 {
     m_app.NewScript();
     Open("a.sql", "a");
@@ -76,7 +76,7 @@ TEST_F(Workbench, LetsTheUntouchedFirstScriptMakeRoom)
     EXPECT_EQ(m_window.TabCount(), 3);
 }
 
-TEST_F(Workbench, TellsWhyAScriptDoesNotOpen)
+TEST_F(MainWindows, TellsWhyAScriptDoesNotOpen)
 {
     EXPECT_FALSE(m_app.OpenDocumentFile(PathOf("no.sql")));
     EXPECT_FALSE(m_app.OpenDocumentFile(m_folder.path()));
@@ -90,7 +90,7 @@ TEST_F(Workbench, TellsWhyAScriptDoesNotOpen)
     EXPECT_EQ(m_prompts.told.size(), 3);
 }
 
-TEST_F(Workbench, SavesInTheEncodingOfTheFile)
+TEST_F(MainWindows, SavesInTheEncodingOfTheFile)
 {
     // UTF-16 LE with a mark: "a", a line end, "\u0142".
     const QByteArray bytes("\xFF\xFE"
@@ -107,7 +107,7 @@ TEST_F(Workbench, SavesInTheEncodingOfTheFile)
     EXPECT_FALSE(Script().IsModified());
 }
 
-TEST_F(Workbench, SavesUnderAnotherNameAndEncoding)
+TEST_F(MainWindows, SavesUnderAnotherNameAndEncoding)
 {
     Open("a.sql", "caf\xC3\xA9\n");
     m_prompts.saveTarget = SaveTarget{PathOf("b.sql"), 2, true};
@@ -121,7 +121,7 @@ TEST_F(Workbench, SavesUnderAnotherNameAndEncoding)
     EXPECT_EQ(Status("encoding"), QStringLiteral("UTF-16 LE with mark"));
 }
 
-TEST_F(Workbench, AsksForANameWhenAScriptWithoutOneIsSaved)
+TEST_F(MainWindows, AsksForANameWhenAScriptWithoutOneIsSaved)
 {
     m_app.NewScript();
     Type(u"select 1");
@@ -133,7 +133,7 @@ TEST_F(Workbench, AsksForANameWhenAScriptWithoutOneIsSaved)
     EXPECT_FALSE(Script().IsModified());
 }
 
-TEST_F(Workbench, KeepsTheTextWhenASaveFails)
+TEST_F(MainWindows, KeepsTheTextWhenASaveFails)
 {
     Open("a.sql", "one\n");
     Type(u"two ");
@@ -149,7 +149,7 @@ TEST_F(Workbench, KeepsTheTextWhenASaveFails)
     EXPECT_EQ(Read("a.sql"), QByteArray("two one\n"));
 }
 
-TEST_F(Workbench, AsksBeforeAScriptThatWasCutShortReplacesTheLongerFile)
+TEST_F(MainWindows, AsksBeforeAScriptThatWasCutShortReplacesTheLongerFile)
 {
     // Half a unit stands at the end.
     const QByteArray bytes("\xFF\xFE"
@@ -172,7 +172,7 @@ TEST_F(Workbench, AsksBeforeAScriptThatWasCutShortReplacesTheLongerFile)
     EXPECT_EQ(m_prompts.asked.size(), 2);
 }
 
-TEST_F(Workbench, AsksBeforeCharactersBecomeQuestionMarks)
+TEST_F(MainWindows, AsksBeforeCharactersBecomeQuestionMarks)
 {
     Open("a.sql", "caf\xE9\n");
     EXPECT_EQ(Status("encoding"), QStringLiteral("windows-1252"));
@@ -189,7 +189,7 @@ TEST_F(Workbench, AsksBeforeCharactersBecomeQuestionMarks)
     EXPECT_EQ(Read("a.sql"), QByteArray("?caf\xE9\n"));
 }
 
-TEST_F(Workbench, ClosesAnUnchangedScriptWithoutAWord)
+TEST_F(MainWindows, ClosesAnUnchangedScriptWithoutAWord)
 {
     Open("a.sql", "a");
     Trigger("close");
@@ -197,7 +197,7 @@ TEST_F(Workbench, ClosesAnUnchangedScriptWithoutAWord)
     EXPECT_TRUE(m_prompts.asked.isEmpty());
 }
 
-TEST_F(Workbench, AsksBeforeAChangedScriptCloses)
+TEST_F(MainWindows, AsksBeforeAChangedScriptCloses)
 {
     Open("a.sql", "a");
     Type(u"b");
@@ -211,7 +211,7 @@ TEST_F(Workbench, AsksBeforeAChangedScriptCloses)
     EXPECT_EQ(Read("a.sql"), QByteArray("ba"));
 }
 
-TEST_F(Workbench, DropsTheChangesThatAPersonDiscards)
+TEST_F(MainWindows, DropsTheChangesThatAPersonDiscards)
 {
     Open("a.sql", "a");
     Type(u"b");
@@ -221,7 +221,7 @@ TEST_F(Workbench, DropsTheChangesThatAPersonDiscards)
     EXPECT_EQ(Read("a.sql"), QByteArray("a"));
 }
 
-TEST_F(Workbench, StaysOpenWhileAScriptHasChangesToKeep)
+TEST_F(MainWindows, StaysOpenWhileAScriptHasChangesToKeep)
 {
     Open("a.sql", "a");
     Type(u"b");
@@ -232,7 +232,7 @@ TEST_F(Workbench, StaysOpenWhileAScriptHasChangesToKeep)
     EXPECT_TRUE(CloseWindow());
 }
 
-TEST_F(Workbench, StaysOpenWhenTheSaveOnTheWayOutFails)
+TEST_F(MainWindows, StaysOpenWhenTheSaveOnTheWayOutFails)
 {
     m_app.NewScript();
     Type(u"b");
@@ -242,7 +242,7 @@ TEST_F(Workbench, StaysOpenWhenTheSaveOnTheWayOutFails)
     EXPECT_EQ(Text(), QStringLiteral("b"));
 }
 
-TEST_F(Workbench, OffersOnlyWhatIsPossible)
+TEST_F(MainWindows, OffersOnlyWhatIsPossible)
 {
     for (const char* name : {"save", "saveAs", "close", "undo", "redo", "cut", "copy", "paste",
                              "delete", "selectAll", "zoomIn", "next"})
@@ -266,7 +266,7 @@ TEST_F(Workbench, OffersOnlyWhatIsPossible)
         EXPECT_TRUE(Action(name).isEnabled()) << name << " with a selection";
 }
 
-TEST_F(Workbench, OffersNoChangeOfAReadOnlyScript)
+TEST_F(MainWindows, OffersNoChangeOfAReadOnlyScript)
 {
     QApplication::clipboard()->setText(QStringLiteral("clip"));
     Open("a.sql", "a");
@@ -280,7 +280,7 @@ TEST_F(Workbench, OffersNoChangeOfAReadOnlyScript)
     EXPECT_EQ(Status("readOnly"), QStringLiteral("Read-only"));
 }
 
-TEST_F(Workbench, CutsAndPastesThroughItsMenu)
+TEST_F(MainWindows, CutsAndPastesThroughItsMenu)
 {
     Open("a.sql", "one two");
     Editor().SetSel(0, 4, 1);
@@ -298,7 +298,7 @@ TEST_F(Workbench, CutsAndPastesThroughItsMenu)
     EXPECT_EQ(Text(), QStringLiteral("one "));
 }
 
-TEST_F(Workbench, TellsTheCaretsPlaceInTheStatusBar)
+TEST_F(MainWindows, TellsTheCaretsPlaceInTheStatusBar)
 {
     Open("a.sql", "one\r\ntwo\r\n");
     EXPECT_EQ(Status("caret"), QStringLiteral("Line 1, column 1"));
@@ -309,7 +309,7 @@ TEST_F(Workbench, TellsTheCaretsPlaceInTheStatusBar)
     EXPECT_EQ(Status("caret"), QStringLiteral("Line 2, column 3"));
 }
 
-TEST_F(Workbench, ShowsEachScriptsOwnStateWhenItsTabComesToTheFront)
+TEST_F(MainWindows, ShowsEachScriptsOwnStateWhenItsTabComesToTheFront)
 {
     Open("a.sql", "a\n");
     Type(u"x");
@@ -324,7 +324,7 @@ TEST_F(Workbench, ShowsEachScriptsOwnStateWhenItsTabComesToTheFront)
     EXPECT_EQ(Text(), QStringLiteral("b\r\n"));
 }
 
-TEST_F(Workbench, WidensTheLineNumbersAsAScriptGrows)
+TEST_F(MainWindows, WidensTheLineNumbersAsAScriptGrows)
 {
     Open("a.sql", "a\n");
     const int narrow = Editor().GetMarginWidthN(1, 1);
@@ -333,7 +333,7 @@ TEST_F(Workbench, WidensTheLineNumbersAsAScriptGrows)
     EXPECT_GT(Editor().GetMarginWidthN(1, 1), narrow);
 }
 
-TEST_F(Workbench, WidensTheLineNumbersWithTheZoom)
+TEST_F(MainWindows, WidensTheLineNumbersWithTheZoom)
 {
     Open("a.sql", "a\n");
     const int before = Editor().GetMarginWidthN(1, 1);
@@ -344,7 +344,7 @@ TEST_F(Workbench, WidensTheLineNumbersWithTheZoom)
     EXPECT_EQ(Editor().GetMarginWidthN(1, 1), before);
 }
 
-TEST_F(Workbench, ScrollsSidewaysNoFurtherThanTheLongestLineSeen)
+TEST_F(MainWindows, ScrollsSidewaysNoFurtherThanTheLongestLineSeen)
 {
     Open("a.sql", "a\n");
     QApplication::processEvents();
@@ -354,7 +354,7 @@ TEST_F(Workbench, ScrollsSidewaysNoFurtherThanTheLongestLineSeen)
     EXPECT_GT(Editor().GetScrollWidth(1), 300 * 4);
 }
 
-TEST_F(Workbench, AppliesItsViewToEveryScript)
+TEST_F(MainWindows, AppliesItsViewToEveryScript)
 {
     Open("a.sql", "a");
     Trigger("whitespace");
@@ -371,7 +371,7 @@ TEST_F(Workbench, AppliesItsViewToEveryScript)
     EXPECT_EQ(m_window.FrameAt(0)->Editor().GetWrapMode(1), 0);
 }
 
-TEST_F(Workbench, ColoursSqlByHand)
+TEST_F(MainWindows, ColoursSqlByHand)
 {
     Open("a.sql", "select 'text', 12 -- note\n");
     Editor().Colorize(0, -1, 1);
