@@ -12,8 +12,9 @@ Arguments ParseArguments(const QStringList& commandLine)
                                         QStringLiteral("Writes a picture of the window and exits."),
                                         QStringLiteral("FILE"));
     parser.addOptions({help, screenshot});
-    parser.addPositionalArgument(QStringLiteral("FILE"), QStringLiteral("Scripts to open."),
-                                 QStringLiteral("[FILE...]"));
+    parser.addPositionalArgument(QStringLiteral("FILE"),
+                                 QStringLiteral("Scripts to open, each at a line: a.sql:120."),
+                                 QStringLiteral("[FILE[:LINE]...]"));
 
     Arguments arguments;
     if (!parser.parse(commandLine))

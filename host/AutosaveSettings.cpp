@@ -1,25 +1,18 @@
 #include "host/AutosaveSettings.h"
 
 #include "control/ZNCoreEditorControl.h"
-
-#include <QSettings>
+#include "host/Places.h"
 
 namespace {
 
 const QString kOn = QStringLiteral("Autosave/on");
 const QString kMinutes = QStringLiteral("Autosave/minutes");
 
-QSettings OpenSettings()
-{
-    return QSettings(QSettings::IniFormat, QSettings::UserScope, QStringLiteral("znworkbench"),
-                     QStringLiteral("settings"));
-}
-
 } // namespace
 
 AutosaveSettings AutosaveSettings::Load()
 {
-    const QSettings settings = OpenSettings();
+    const QSettings settings = places::Settings();
     AutosaveSettings loaded;
     loaded.on = settings.value(kOn, loaded.on).toBool();
     const int minutes = settings.value(kMinutes).toInt();
@@ -30,7 +23,7 @@ AutosaveSettings AutosaveSettings::Load()
 
 void AutosaveSettings::Store() const
 {
-    QSettings settings = OpenSettings();
+    QSettings settings = places::Settings();
     settings.setValue(kOn, on);
     settings.setValue(kMinutes, minutes);
 }

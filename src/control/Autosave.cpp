@@ -38,6 +38,25 @@ constexpr long long kMinute = 60000; // milliseconds
 constexpr long long kLongest = INT_MAX;
 constexpr UINT kRecoveryText = 54070;
 
+// Whether an editor is still where it was. Its parent's object is detached when that is closed,
+// which a question may bring about, and the editor itself lives on until the question is answered.
+class HostOfEditor
+{
+public:
+    explicit HostOfEditor(const CWnd& editor) : m_editor(editor), m_host(Find()) {}
+    bool IsStillThere() const { return m_editor.GetSafeHwnd() && Find() == m_host; }
+
+private:
+    CWnd* Find() const
+    {
+        const HWND window = m_editor.GetSafeHwnd();
+        return window ? AttachedWnd(GetParent(window)) : nullptr;
+    }
+
+    const CWnd& m_editor;
+    CWnd* m_host; // null in a window of the host's own kind
+};
+
 } // namespace
 
 namespace autosave {
@@ -56,6 +75,16 @@ QString FolderOf(const QString& path)
     return path.left(path.lastIndexOf(u'/') + 1);
 }
 
+const QString kPrefix = QStringLiteral("~ZN");
+const QString kPartEnding = QStringLiteral(".tmp");
+
+// The name of the copy that a part is written for: a dot is in front of it, and a dot, a number and
+// the ending are behind it.
+QString CopyOfPart(const QString& name)
+{
+    return name.mid(1, name.chopped(kPartEnding.size()).lastIndexOf(u'.') - 1);
+}
+
 } // namespace
 
 QString BackupFolder(bool create)
@@ -72,8 +101,8 @@ QString BackupFolder(bool create)
 
 QString MakeCopyFile(const QString& folder)
 {
-    return znutils::CSpecialFolders::GetTempFile(u"~ZN", folder.isEmpty() ? nullptr : Units(folder),
-                                                 nullptr);
+    return znutils::CSpecialFolders::GetTempFile(
+        Units(kPrefix), folder.isEmpty() ? nullptr : Units(folder), nullptr);
 }
 
 void WriteNote(const QString& copyPath, const QString& documentPath)
@@ -93,7 +122,7 @@ void RemoveCopy(const QString& copyPath)
     QDirIterator files(FolderOf(copyPath), QDir::Files | QDir::Hidden);
     while (files.hasNext()) {
         const QString path = files.next();
-        if (files.fileName().startsWith(beside) && path.endsWith(QLatin1String(".tmp")))
+        if (files.fileName().startsWith(beside) && path.endsWith(kPartEnding))
             QFile::remove(path);
     }
 }
@@ -115,6 +144,31 @@ QString FindCopy(const QString& documentPath,
             return name;
     }
     return QString();
+}
+
+void RemoveUnwritten()
+{
+    const QString folder = BackupFolder(false);
+    if (folder.isEmpty())
+        return;
+    const QStringList patterns = {kPrefix + u'*', u'.' + kPrefix + u'*' + kPartEnding};
+    const QFileInfoList files =
+        QDir(folder).entryInfoList(patterns, QDir::Files | QDir::Hidden | QDir::NoSymLinks);
+    for (const QFileInfo& file : files) {
+        const bool isPart = file.fileName().startsWith(u'.');
+        if (!isPart && file.size() > 0)
+            continue;
+        const QString copy = folder + (isPart ? CopyOfPart(file.fileName()) : file.fileName());
+        CopyClaim claim;
+        if (!claim.Take(copy) || !claim.IsHeld())
+            continue;
+        if (isPart) {
+            QFile::remove(file.filePath());
+        } else {
+            RemoveNote(copy);
+            RemoveCopy(copy);
+        }
+    }
 }
 
 } // namespace autosave
@@ -174,20 +228,17 @@ void CZNCoreEditorControl::OnTimer(UINT id)
     CWnd::OnTimer(id);
 }
 
-// Whatever fails here is tried again at the next tick. With care the note follows a copy that is
-// complete; without it the note may name a copy that is empty or cut short.
+// Whatever fails here is tried again at the next tick. The note is there before the first text is,
+// so that no copy is ever without one. With care the copy is empty until it is complete; without it
+// the note may name a copy that is cut short.
 void CZNCoreEditorControl::WriteAutoSaveCopy()
 {
     try {
         MakeAutoSaveFile();
         if (m_strAutoSaveFile.isEmpty())
             return;
-        const bool notesLast = Policy().notesLast;
-        if (!notesLast)
-            autosave::WriteNote(m_strAutoSaveFile, m_strFileName);
-        const bool written = WriteToFile(Units(m_strAutoSaveFile));
-        if (notesLast && written)
-            autosave::WriteNote(m_strAutoSaveFile, m_strFileName);
+        autosave::WriteNote(m_strAutoSaveFile, m_strFileName);
+        WriteToFile(Units(m_strAutoSaveFile));
     } catch (const std::bad_alloc&) {
         // The longest line needs a buffer, for which there may be memory later.
     }
@@ -205,10 +256,20 @@ void CZNCoreEditorControl::MakeAutoSaveFile()
         m_copyClaim->Take(m_strAutoSaveFile);
 }
 
+// The copy is for whoever opens the file next.
+void CZNCoreEditorControl::LeaveAutoSaveCopy()
+{
+    m_strAutoSaveFile.clear();
+    m_copyClaim->Release();
+}
+
 // A copy that is found becomes this control's own, whatever the answer is: No leaves it to be
-// written over at the next tick, and a text that is read-only is not asked about.
+// written over at the next tick, and a text that is read-only is not asked about. An editor that is
+// closed under the question has nowhere to load it.
 void CZNCoreEditorControl::OfferAutoSaveCopy(Encoding encoding)
 {
+    if (Policy().passesUnwritten)
+        autosave::RemoveUnwritten();
     const QString name = autosave::FindCopy(m_strFileName, [this](const QString& copyPath) {
         return m_copyClaim->Take(copyPath) || !Policy().sparesClaimed;
     });
@@ -221,7 +282,11 @@ void CZNCoreEditorControl::OfferAutoSaveCopy(Encoding encoding)
         return;
     const QString question = zncoreeditor::GetResourceLoader().FormatString(
         kRecoveryText, {znutils::CSpecialFolders::GetSimpleAppName(), m_strFileName});
-    if (AskYesNo(GetHwnd(), question))
+    const HostOfEditor host(*this);
+    const bool isWanted = AskYesNo(GetHwnd(), question);
+    if (!host.IsStillThere())
+        LeaveAutoSaveCopy();
+    else if (isWanted)
         LoadAutoSaveCopy(encoding);
 }
 
@@ -232,13 +297,22 @@ void CZNCoreEditorControl::LoadAutoSaveCopy(Encoding encoding)
     FilePointer file = OpenForReading(Units(m_strAutoSaveFile));
     if (!file)
         return;
+    const HostOfEditor host(*this);
     const bool fileWasCutShort = m_bCutShort;
+    // ASCII is taken for the code page's, though a copy in UTF-8 may come to nothing else.
+    const bool keepsUtf8 = Policy().keepsUtf8 && encoding == FileEncodeConverter::encUnknown &&
+                           m_nEncoding == FileEncodeConverter::encUTF8 && IsAscii(file.get());
     BeginUndoAction(1);
     ClearAll(1);
     ReadInFileContents(file.release(), encoding, false);
     SetSel(0, 0, 1);
     EndUndoAction(1);
+    if (keepsUtf8)
+        m_nEncoding = FileEncodeConverter::encUTF8;
     // A complete copy of a text that was cut short does not bring back the rest of its file.
     m_bCutShort = m_bCutShort || fileWasCutShort;
-    DeleteAutoSaveFile();
+    if (host.IsStillThere())
+        DeleteAutoSaveFile();
+    else
+        LeaveAutoSaveCopy(); // closed under the message that it is cut short
 }

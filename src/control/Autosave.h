@@ -27,4 +27,9 @@ void RemoveCopy(const QString& copyPath);
 QString FindCopy(const QString& documentPath,
                  const std::function<bool(const QString& copyPath)>& take);
 
+// Takes away what dead processes have left that holds no text: copies that were begun and never
+// written, their notes, and parts of a write beside a copy. What is claimed stays, and where nobody
+// can tell what is claimed, everything does.
+void RemoveUnwritten();
+
 } // namespace autosave

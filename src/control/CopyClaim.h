@@ -21,6 +21,7 @@ public:
     // copy of a document that is open elsewhere than to keep a crash's copy from its owner.
     bool Take(const QString& copyPath);
     void Release();
+    bool IsHeld() const { return m_file >= 0; } // false also if the file system knows no locks
 
 private:
     bool Holds(const QByteArray& path) const;

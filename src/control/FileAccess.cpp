@@ -2,6 +2,9 @@
 
 #include <QFile>
 
+#include <algorithm>
+#include <array>
+
 #include <fcntl.h>
 #include <sys/stat.h>
 #include <unistd.h>
@@ -31,6 +34,21 @@ FilePointer OpenForReading(const char16_t* path)
     }
     close(descriptor);
     return nullptr;
+}
+
+bool IsAscii(std::FILE* file)
+{
+    std::array<char, 8192> block;
+    bool ascii = true;
+    while (ascii) {
+        const std::size_t count = std::fread(block.data(), 1, block.size(), file);
+        if (count == 0)
+            break;
+        ascii = std::none_of(block.begin(), block.begin() + count,
+                             [](char byte) { return byte & 0x80; });
+    }
+    std::rewind(file);
+    return ascii;
 }
 
 long long SizeOf(std::FILE* file)

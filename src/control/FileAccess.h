@@ -22,5 +22,8 @@ bool PathExists(const char16_t* path);
 // refused, since a read from them fails late or never ends.
 FilePointer OpenForReading(const char16_t* path);
 
+// Whether every byte from where the file stands is ASCII. The file is at its start afterwards.
+bool IsAscii(std::FILE* file);
+
 // 0 if the file cannot tell.
 long long SizeOf(std::FILE* file);

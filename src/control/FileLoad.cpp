@@ -54,16 +54,20 @@ const FilePolicy& CZNCoreEditorControl::Policy() const
     return m_bCarefulFiles ? kCarefulFiles : kPlainFiles;
 }
 
-// A file that is there but cannot be read has cost the old document its autosave copy; the text
-// stands as it was.
+// Without care, a file that is there but cannot be read has cost the old document its autosave
+// copy; the text stands as it was.
 bool CZNCoreEditorControl::OpenFile(const char16_t* path, Encoding encoding)
 {
     if (!PathExists(path))
         return false;
-    CleanUpAutoSave();
+    const bool opensFirst = Policy().opensFirst;
+    if (!opensFirst)
+        CleanUpAutoSave();
     FilePointer file = OpenForReading(path);
     if (!file)
         return false;
+    if (opensFirst)
+        CleanUpAutoSave();
     ClearAll(1);
     SetUndoCollection(0, 1);
     ReadInFileContents(file.release(), encoding, false);

@@ -19,9 +19,11 @@ struct FilePolicy
     bool replacesTarget;  // a save takes the target's place when it is complete
     bool reportsUnopened; // a target that cannot be opened is a failure
     bool demandsAllText;  // so is a line that does not convert
+    bool opensFirst;      // a file that cannot be opened costs the text no autosave
     bool writesFirst;     // the state of the control changes only after the write
-    bool notesLast;       // an autosave copy is noted once it is there, not before
+    bool passesUnwritten; // an empty autosave copy was begun and never written
     bool sparesClaimed;   // the copy of a control that is alive is nobody else's
+    bool keepsUtf8;       // a copy that could be in UTF-8 is, if its file is
 };
 
 // A character over the end of a block may lose bytes: later blocks are converted without the tail
@@ -34,9 +36,11 @@ inline constexpr FilePolicy kPlainFiles = {
     .replacesTarget = false,
     .reportsUnopened = false,
     .demandsAllText = false,
+    .opensFirst = false,
     .writesFirst = false,
-    .notesLast = false,
+    .passesUnwritten = false,
     .sparesClaimed = false,
+    .keepsUtf8 = false,
 };
 
 inline constexpr FilePolicy kCarefulFiles = {
@@ -46,7 +50,9 @@ inline constexpr FilePolicy kCarefulFiles = {
     .replacesTarget = true,
     .reportsUnopened = true,
     .demandsAllText = true,
+    .opensFirst = true,
     .writesFirst = true,
-    .notesLast = true,
+    .passesUnwritten = true,
     .sparesClaimed = true,
+    .keepsUtf8 = true,
 };

@@ -159,6 +159,16 @@ private:
 
         ExpectDocument(path, texts, careful);
         Recover(path, texts, careful, questions, tally);
+        if (careful)
+            ExpectNothingIn(folder.filePath(QStringLiteral("data/bench/Backup")));
+    }
+
+    // What a kill leaves is offered or taken away, parts of a write included.
+    static void ExpectNothingIn(const QString& backups)
+    {
+        QStringList names = QDir(backups).entryList(QDir::Files | QDir::Hidden);
+        names.removeOne(QStringLiteral(".claims"));
+        EXPECT_EQ(names, QStringList());
     }
 
     // Returns at a random moment of some write, or shortly before or after it.

@@ -1,37 +1,12 @@
 // Autosave where folder, disk, copy or profile are not as they should be: the document in memory
 // and the file on disk stay as they are, and a later tick makes up for it.
 #include "tests/control/AutosaveFixture.h"
+#include "tests/settings/FullDisk.h"
 #include "tests/settings/OrdinaryUser.h"
 
-#include <csignal>
-
-#include <sys/resource.h>
 #include <sys/stat.h>
 
 namespace {
-
-// No file may grow beyond this, as on a disk that fills up.
-class FullDisk
-{
-public:
-    explicit FullDisk(rlim_t bytes) : m_handler(std::signal(SIGXFSZ, SIG_IGN))
-    {
-        getrlimit(RLIMIT_FSIZE, &m_before);
-        const rlimit limit = {bytes, m_before.rlim_max};
-        setrlimit(RLIMIT_FSIZE, &limit);
-    }
-    ~FullDisk()
-    {
-        setrlimit(RLIMIT_FSIZE, &m_before);
-        std::signal(SIGXFSZ, m_handler);
-    }
-    FullDisk(const FullDisk&) = delete;
-    FullDisk& operator=(const FullDisk&) = delete;
-
-private:
-    rlimit m_before{};
-    void (*m_handler)(int);
-};
 
 // Each with files handled as they are and with care.
 class AutosaveFaults : public AutosaveTest, public testing::WithParamInterface<bool>

@@ -213,13 +213,13 @@ TEST_F(AutosaveOrder, ATickNotesTheCopyBeforeItWritesIt)
                        "LineLength 0", "GetLine 0", "SetAutoSave 0 1", std::to_string(WM_TIMER)}));
 }
 
-TEST_F(AutosaveOrder, ACarefulTickNotesACopyThatIsComplete)
+TEST_F(AutosaveOrder, ACarefulTickNotesTheCopyBeforeItWritesItToo)
 {
     control.SetCarefulFiles(true);
     HoldChangedDocument();
     EXPECT_EQ(Tick(),
-              (Strings{"GetReadOnly", "GetLineCount", "GetLineCount", "LineLength 0", "GetLine 0",
-                       "note Backup, full copy", "SetAutoSave 0 1", std::to_string(WM_TIMER)}));
+              (Strings{"GetReadOnly", "GetLineCount", "note Backup, empty copy", "GetLineCount",
+                       "LineLength 0", "GetLine 0", "SetAutoSave 0 1", std::to_string(WM_TIMER)}));
 }
 
 TEST_F(AutosaveOrder, ATickAsksTheEngineNothingIfNothingChanged)

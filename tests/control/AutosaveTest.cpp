@@ -313,6 +313,19 @@ TEST_F(Autosave, LosesItsCopyToAFileThatIsThereAndCannotBeRead)
     EXPECT_EQ(editor.Interval(), 0u);
 }
 
+TEST_F(Autosave, WithCareOutlivesAFileThatCannotBeRead)
+{
+    control().SetCarefulFiles(true);
+    OpenAndChange();
+    control().setAutoSaveOn(true);
+    editor.Tick();
+    const QString name = Copies().value(0);
+    EXPECT_FALSE(control().OpenFile(folder.path().toStdU16String().c_str(), kDetect));
+    EXPECT_EQ(Copies(), QStringList{name});
+    EXPECT_EQ(Note(name), control().GetFileName());
+    EXPECT_EQ(editor.Interval(), kMinute);
+}
+
 TEST_F(Autosave, TakesCopyAndNoteAwayWhenTheControlGoes)
 {
     OpenAndChange();

@@ -271,6 +271,125 @@ TEST_F(Recovery, TakesAwayWhatADyingWriteLeftBesideTheCopy)
     EXPECT_TRUE(QFile::exists(others));
 }
 
+namespace {
+
+// What a process leaves that is killed around the first write of a copy.
+class Unwritten : public Recovery
+{
+protected:
+    Unwritten()
+    {
+        control().SetCarefulFiles(true);
+        questions.answer = Answer::Yes;
+    }
+    QStringList Everything() const
+    {
+        QStringList names = QDir(BackupFolder()).entryList(QDir::Files | QDir::Hidden);
+        names.removeOne(QStringLiteral(".claims"));
+        return names;
+    }
+};
+
+} // namespace
+
+TEST_F(Unwritten, CopiesGoWithNoteAndPartsAndAreNotOffered)
+{
+    Plant("~ZN1.tmp", "");
+    Write(BackupFolder() + QStringLiteral(".~ZN1.tmp.abc.tmp"), "sel");
+    Plant("~ZN2.tmp", "", "other.sql");
+    ApplicationProfile().WriteString(QStringLiteral("Backup"), QStringLiteral("~ZN2.tmp"), nullptr);
+    Write(BackupFolder() + QStringLiteral(".~ZN3.tmp.1z.tmp"), "sel"); // its copy is gone
+    ASSERT_TRUE(Open("select 1;"));
+    EXPECT_TRUE(questions.asked.isEmpty());
+    EXPECT_EQ(Everything(), QStringList());
+    EXPECT_EQ(Note(QStringLiteral("~ZN1.tmp")), QString());
+}
+
+TEST_F(Unwritten, PartsGoAndLeaveTheCopyThatWasWrittenBefore)
+{
+    Plant("~ZN1.tmp", "select 2;");
+    Plant("~ZN2.tmp", "select 3;", "other.sql");
+    Write(BackupFolder() + QStringLiteral(".~ZN2.tmp.abc.tmp"), "sel");
+    ASSERT_TRUE(Open("select 1;"));
+    EXPECT_EQ(editor.Text(), u"select 2;");
+    EXPECT_EQ(Everything(), QStringList(QStringLiteral("~ZN2.tmp")));
+    EXPECT_EQ(Note(QStringLiteral("~ZN2.tmp")), PathOf("other.sql"));
+}
+
+TEST_F(Unwritten, CopiesOfAControlThatLivesStay)
+{
+    Editor other;
+    other.control->SetCarefulFiles(true);
+    Write(PathOf("doc.sql"), "x");
+    ASSERT_TRUE(other.control->OpenFile(PathOf("doc.sql").toStdU16String().c_str(), kDetect));
+    other.control->ClearAll(1);
+    other.Tick();
+    const QString copy = OnlyCopy();
+    const QString part = BackupFolder() + u'.' + QFileInfo(copy).fileName() + ".abc.tmp";
+    Write(part, "sel");
+    ASSERT_TRUE(Reopen());
+    EXPECT_TRUE(QFile::exists(copy));
+    EXPECT_TRUE(QFile::exists(part));
+    EXPECT_EQ(Note(QFileInfo(copy).fileName()), PathOf("doc.sql"));
+    other.Close();
+    EXPECT_EQ(Everything(), QStringList());
+}
+
+TEST_F(Unwritten, FilesThatAreNotAutosavesStay)
+{
+    Plant("by hand", "", "other.sql");
+    Write(BackupFolder() + QStringLiteral(".hidden.tmp"), "mine");
+    QDir().mkdir(BackupFolder() + QStringLiteral("~ZN9.tmp"));
+    QFile::link(PathOf("doc.sql"), BackupFolder() + QStringLiteral("~ZN8.tmp"));
+    ASSERT_TRUE(Open(""));
+    EXPECT_EQ(QDir(BackupFolder())
+                  .entryList(QDir::AllEntries | QDir::Hidden | QDir::NoDotAndDotDot)
+                  .size(),
+              4 + QFile::exists(BackupFolder() + QStringLiteral(".claims")));
+}
+
+TEST_F(Unwritten, CopiesStayWhereNobodyAsksForCare)
+{
+    control().SetCarefulFiles(false);
+    Plant("~ZN2.tmp", "", "other.sql");
+    ASSERT_TRUE(Open("select 1;"));
+    EXPECT_EQ(Copies(), QStringList(QStringLiteral("~ZN2.tmp")));
+}
+
+TEST_F(Recovery, WithCareKeepsUtf8ThoughTheCopyIsAscii)
+{
+    control().SetCarefulFiles(true);
+    questions.answer = Answer::Yes;
+    Plant("~ZN1.tmp", "select 2;");
+    ASSERT_TRUE(Open("select '\xC3\xA9';"));
+    EXPECT_EQ(editor.Text(), u"select 2;");
+    EXPECT_EQ(control().GetEncoding(), FileEncodeConverter::encUTF8);
+}
+
+TEST_F(Recovery, WithCareTakesACopyOfAnotherEncodingForWhatItIs)
+{
+    control().SetCarefulFiles(true);
+    questions.answer = Answer::Yes;
+    Plant("~ZN1.tmp", "select '\xE9';");
+    ASSERT_TRUE(Open("select '\xC3\xA9';"));
+    EXPECT_EQ(editor.Text(), u"select '\u00E9';");
+    EXPECT_EQ(control().GetEncoding(), FileEncodeConverter::encANSI);
+    Plant("~ZN1.tmp", "select 2;");
+    ASSERT_TRUE(Open("select 1;")); // the code page's, as far as anybody can tell
+    EXPECT_EQ(control().GetEncoding(), FileEncodeConverter::encANSI);
+}
+
+TEST_F(Recovery, WithCareLeavesTheEncodingOfAnOpenThatNamesOne)
+{
+    control().SetCarefulFiles(true);
+    questions.answer = Answer::Yes;
+    Plant("~ZN1.tmp", "select 2;");
+    Write(PathOf("doc.sql"), "\xEF\xBB\xBFselect 1;");
+    ASSERT_TRUE(control().OpenFile(PathOf("doc.sql").toStdU16String().c_str(),
+                                   FileEncodeConverter::encANSI));
+    EXPECT_EQ(control().GetEncoding(), FileEncodeConverter::encANSI);
+}
+
 // A second control, as in another window or another host, edits the same file.
 class TwoControls : public Recovery
 {

@@ -48,4 +48,5 @@ TEST(CommandLine, TellsItsOptionsWhenAskedForHelp)
 {
     EXPECT_TRUE(Parse({"--help"}).help.contains(QStringLiteral("--screenshot")));
     EXPECT_TRUE(Parse({"-h"}).help.contains(QStringLiteral("--screenshot")));
+    EXPECT_TRUE(Parse({"-h"}).help.contains(QStringLiteral("[FILE[:LINE]...]")));
 }

@@ -1,5 +1,6 @@
 #include "platform/file/TargetFile.h"
 
+#include <algorithm>
 #include <array>
 #include <cerrno>
 #include <climits>
@@ -46,13 +47,21 @@ QByteArray FollowLinks(QByteArray path)
     return QByteArray();
 }
 
+// As much of the target's name as leaves room for the rest, in whole characters: some file systems
+// take nothing but UTF-8.
 QByteArray HiddenName(const QByteArray& path)
 {
     constexpr qsizetype kLongestStem = 200; // bytes of a name, of 255
+    constexpr qsizetype kBesideStem = 1 + 1 + 13 + 4 + 1;
     static std::mt19937_64 random{std::random_device{}()};
     const QByteArray folder = FolderOf(path);
-    const QByteArray name = path.mid(path.lastIndexOf('/') + 1).left(kLongestStem);
-    return folder + '.' + name + '.' + QByteArray::number(qulonglong(random()), 36) + ".tmp";
+    const QByteArray name = path.mid(path.lastIndexOf('/') + 1);
+    const qsizetype room = PATH_MAX - folder.size() - kBesideStem;
+    qsizetype stem = std::clamp<qsizetype>(room, 0, std::min(kLongestStem, name.size()));
+    while (stem > 0 && stem < name.size() && (name[stem] & 0xC0) == 0x80)
+        --stem;
+    return folder + '.' + name.left(stem) + '.' + QByteArray::number(qulonglong(random()), 36) +
+           ".tmp";
 }
 
 // An access list travels as an attribute; a file system without them has none to lose.

@@ -1,0 +1,127 @@
+#include "host/Session.h"
+
+#include "host/Places.h"
+
+#include <QFile>
+#include <QFileInfo>
+#include <QJsonArray>
+#include <QJsonDocument>
+#include <QJsonObject>
+#include <QSaveFile>
+#include <QSet>
+
+#include <climits>
+
+namespace {
+
+constexpr qint64 kMostBytes = 4 * 1024 * 1024;
+constexpr qsizetype kLongestLayout = 64 * 1024; // bytes
+
+const QString kFiles = QStringLiteral("files");
+const QString kFront = QStringLiteral("front");
+const QString kGeometry = QStringLiteral("geometry");
+const QString kState = QStringLiteral("state");
+const QString kPath = QStringLiteral("path");
+const QString kEncoding = QStringLiteral("encoding");
+const QString kCaretLine = QStringLiteral("caretLine");
+const QString kFirstVisible = QStringLiteral("firstVisible");
+const QString kReadOnly = QStringLiteral("readOnly");
+
+bool IsEncoding(int number)
+{
+    return number == -1 || number == 11 || (number >= 0 && number <= 10 && number % 2 == 0);
+}
+
+// Numbers that are no whole numbers in the range are 0.
+long LineOf(const QJsonValue& value)
+{
+    const int line = value.toInt(0);
+    return line < 0 ? 0 : line;
+}
+
+QByteArray LayoutOf(const QJsonValue& value)
+{
+    const QByteArray text = value.toString().left(2 * kLongestLayout).toLatin1();
+    const QByteArray layout = QByteArray::fromBase64(text);
+    return layout.size() <= kLongestLayout ? layout : QByteArray();
+}
+
+SessionFile FileOf(const QJsonObject& entry)
+{
+    SessionFile file;
+    file.path = entry[kPath].toString();
+    const int encoding = entry[kEncoding].toInt(-1);
+    file.encoding = IsEncoding(encoding) ? encoding : -1;
+    file.caretLine = LineOf(entry[kCaretLine]);
+    file.firstVisible = LineOf(entry[kFirstVisible]);
+    file.readOnly = entry[kReadOnly].toBool();
+    return file;
+}
+
+QJsonObject EntryOf(const SessionFile& file)
+{
+    return {{kPath, file.path},
+            {kEncoding, file.encoding},
+            {kCaretLine, static_cast<int>(file.caretLine)},
+            {kFirstVisible, static_cast<int>(file.firstVisible)},
+            {kReadOnly, file.readOnly}};
+}
+
+} // namespace
+
+QByteArray Session::ToBytes() const
+{
+    QJsonArray entries;
+    for (const SessionFile& file : files)
+        entries.append(EntryOf(file));
+    const QJsonObject object = {{kFiles, entries},
+                                {kFront, front},
+                                {kGeometry, QString::fromLatin1(geometry.toBase64())},
+                                {kState, QString::fromLatin1(state.toBase64())}};
+    return QJsonDocument(object).toJson();
+}
+
+// The tab in front is that of its file, whatever was left out before it.
+Session Session::FromBytes(const QByteArray& bytes)
+{
+    Session session;
+    if (bytes.size() > kMostBytes)
+        return session;
+    const QJsonObject object = QJsonDocument::fromJson(bytes).object();
+    const QJsonArray entries = object[kFiles].toArray();
+    const int front = object[kFront].toInt(0);
+    QSet<QString> known;
+    for (qsizetype i = 0; i < entries.size() && session.files.size() < kMostFiles; ++i) {
+        const SessionFile file = FileOf(entries[i].toObject());
+        if (!places::CanBeFile(file.path) || known.contains(file.path))
+            continue;
+        known.insert(file.path);
+        if (i == front)
+            session.front = static_cast<int>(session.files.size());
+        session.files.append(file);
+    }
+    session.geometry = LayoutOf(object[kGeometry]);
+    session.state = LayoutOf(object[kState]);
+    return session;
+}
+
+bool Session::Store(const QString& path) const
+{
+    QSaveFile file(path);
+    const QByteArray bytes = ToBytes();
+    return file.open(QFile::WriteOnly) && file.write(bytes) == bytes.size() && file.commit();
+}
+
+// A pipe or a device under that name would never end.
+Session Session::Load(const QString& path)
+{
+    if (!QFileInfo(path).isFile())
+        return {};
+    QFile file(path);
+    return file.open(QFile::ReadOnly) ? FromBytes(file.read(kMostBytes + 1)) : Session();
+}
+
+QString Session::DefaultPath()
+{
+    return places::DataPath(QStringLiteral("session.json"));
+}

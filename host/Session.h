@@ -1,0 +1,44 @@
+// What was open in the window: read at the start, written whenever it changes. Data alone: it opens
+// no file and knows no window.
+#pragma once
+
+#include <QByteArray>
+#include <QList>
+#include <QString>
+
+struct SessionFile
+{
+    QString path;          // absolute
+    int encoding = -1;     // a number of FileEncodeConverter; -1: detect it
+    long caretLine = 0;    // lines count from 0, and may lie behind the end of a file that changed
+    long firstVisible = 0; // the line at the top of the window
+    bool readOnly = false; // by the user's choice
+
+    bool operator==(const SessionFile&) const = default;
+};
+
+struct Session
+{
+    // More than anybody has open, and little enough to read.
+    static constexpr int kMostFiles = 1000;
+
+    QList<SessionFile> files; // in the order of the tabs
+    int front = 0;            // the tab in front; 0 if there is none
+    QByteArray geometry;      // as QWidget::saveGeometry gives it, which checks it on the way back
+    QByteArray state;         // as QMainWindow::saveState gives it
+
+    bool operator==(const Session&) const = default;
+
+    QByteArray ToBytes() const;
+    // Nothing in the bytes is trusted: what is out of range has its default, an entry without a
+    // usable path is left out, a path that is there twice counts once. Bytes that cannot be read
+    // at all are an empty session.
+    static Session FromBytes(const QByteArray& bytes);
+
+    // In a file of its own, which is replaced as a whole or stays as it was. False if it could not
+    // be written.
+    bool Store(const QString& path) const;
+    static Session Load(const QString& path); // empty if there is none, or none that can be read
+
+    static QString DefaultPath(); // among the workbench's data; empty if there is no place for it
+};
