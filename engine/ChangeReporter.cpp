@@ -377,8 +377,9 @@ void ChangeReporter::Tell(UINT code, SCNotification record)
 
 void ChangeReporter::Send(UINT code, SCNotification& record)
 {
-    record.nmhdr = {&m_window, 0, code};
-    SendMessage(m_window.parentWidget(), WM_NOTIFY, 0, reinterpret_cast<LPARAM>(&record));
+    const UINT id = GetDlgCtrlID(&m_window);
+    record.nmhdr = {&m_window, id, code};
+    SendMessage(m_window.parentWidget(), WM_NOTIFY, id, reinterpret_cast<LPARAM>(&record));
 }
 
 } // namespace engine

@@ -101,7 +101,11 @@ Engine::~Engine()
 void Engine::ShowDocument(LPARAM document)
 {
     errors->Settle(*this);
+    // The stock engine lets its document go before it takes the next, which may be the same.
+    const LPARAM kept = m_document;
+    raw.Send(Sci::SCI_ADDREFDOCUMENT, 0, kept);
     raw.Send(Sci::SCI_SETDOCPOINTER, 0, document);
+    raw.Send(Sci::SCI_RELEASEDOCUMENT, 0, kept);
     PrepareDocument();
 }
 

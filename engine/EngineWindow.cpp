@@ -11,7 +11,10 @@
 #include <QKeyEvent>
 #include <QMenu>
 #include <QPainter>
+#include <QPointer>
 #include <QWheelEvent>
+
+#include <cstdlib>
 
 namespace engine {
 namespace {
@@ -190,8 +193,19 @@ void EngineWindow::EndComposition()
     viewport()->update();
 }
 
+// Whoever the window belongs to may have a menu of its own.
 void EngineWindow::contextMenuEvent(QContextMenuEvent* event)
 {
+    const bool byKey = event->reason() == QContextMenuEvent::Keyboard;
+    const CPoint point =
+        byKey ? CPoint{-1, -1} : CPoint{event->globalPos().x(), event->globalPos().y()};
+    const QPointer<EngineWindow> alive(this);
+    const bool isDone =
+        SendMessage(this, WM_CONTEXTMENU, reinterpret_cast<WPARAM>(this), PointParam(point)) != 0;
+    if (isDone || !alive) {
+        event->accept();
+        return;
+    }
     if (!m_engine.usePopUp) {
         event->ignore();
         return;
@@ -239,21 +253,39 @@ void EngineWindow::keyPressEvent(QKeyEvent* event)
     QsciScintillaBase::keyPressEvent(event);
 }
 
-// With Control a turn zooms. Fine wheels turn by less than a step at a time.
+// With Control or Shift a turn is first the parent's. Fine wheels turn by less than a step at a
+// time.
 void EngineWindow::wheelEvent(QWheelEvent* event)
 {
-    if (!(event->modifiers() & Qt::ControlModifier)) {
+    const bool zooms = event->modifiers().testFlag(Qt::ControlModifier);
+    if (!zooms && !event->modifiers().testFlag(Qt::ShiftModifier)) {
         QsciScintillaBase::wheelEvent(event);
         return;
     }
-    m_zoomTurn += event->angleDelta().y();
-    for (; m_zoomTurn >= QWheelEvent::DefaultDeltasPerStep;
-         m_zoomTurn -= QWheelEvent::DefaultDeltasPerStep)
-        m_engine.Perform(message::ZoomIn, 0, 0);
-    for (; m_zoomTurn <= -QWheelEvent::DefaultDeltasPerStep;
-         m_zoomTurn += QWheelEvent::DefaultDeltasPerStep)
-        m_engine.Perform(message::ZoomOut, 0, 0);
-    event->accept();
+    const QPointer<EngineWindow> alive(this);
+    bool isTaken = zooms;
+    m_turn += event->angleDelta().y();
+    while (alive && std::abs(m_turn) >= WHEEL_DELTA) {
+        const int step = m_turn > 0 ? WHEEL_DELTA : -WHEEL_DELTA;
+        m_turn -= step;
+        if (IsTurnTaken(*event, step))
+            isTaken = true;
+        else if (zooms && alive)
+            m_engine.Perform(step > 0 ? message::ZoomIn : message::ZoomOut, 0, 0);
+    }
+    if (isTaken || !alive)
+        event->accept();
+    else
+        QsciScintillaBase::wheelEvent(event);
+}
+
+bool EngineWindow::IsTurnTaken(const QWheelEvent& event, int step)
+{
+    const UINT flags = (event.modifiers().testFlag(Qt::ControlModifier) ? MK_CONTROL : 0) |
+                       (event.modifiers().testFlag(Qt::ShiftModifier) ? MK_SHIFT : 0);
+    const QPoint at = event.globalPosition().toPoint();
+    return SendMessage(parentWidget(), WM_MOUSEWHEEL, WheelParam(flags, step),
+                       PointParam({at.x(), at.y()})) != 0;
 }
 
 void EngineWindow::paintEvent(QPaintEvent* event)

@@ -41,10 +41,11 @@ protected:
 private:
     void EndComposition();
     void TypeText(const QString& text);
+    bool IsTurnTaken(const QWheelEvent& event, int step);
 
     Engine m_engine;
     InputMethod m_inputMethod{m_engine};
-    int m_zoomTurn = 0; // what a turn of the wheel lacks to a step of the zoom
+    int m_turn = 0; // of the wheel, beyond its last whole step
 };
 
 // Makes the window class known. Once for the process.

@@ -54,8 +54,8 @@ struct RangeToFormat
 
 struct NotifyHeader
 {
-    HWND hwndFrom = nullptr; // the engine window
-    std::uintptr_t idFrom = 0;
+    HWND hwndFrom = nullptr;   // the engine window
+    std::uintptr_t idFrom = 0; // its child identifier
     UINT code = 0;
 };
 

@@ -67,13 +67,10 @@ bool CZNCoreEditorDoc::IsDocPointerAlive() const
 
 void CZNCoreEditorDoc::SetDocCoreEditor(CZNCoreEditorControlEx* control)
 {
-    const LPARAM own = control->GetDocPointer(1);
-    if (own == m_docPointer)
-        return; // the engine would release its text before it takes it again
     if (IsDocPointerAlive())
         control->SetDocPointer(m_docPointer, 1);
     else
-        m_docPointer = own;
+        m_docPointer = control->GetDocPointer(1);
 }
 
 int CZNCoreEditorDoc::OnNewDocument()

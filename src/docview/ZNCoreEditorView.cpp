@@ -1,22 +1,19 @@
+// CZNCoreEditorView: life, messages and keys. What the engine tells stands in ViewNotifications,
+// the commands in ViewCommands and ViewToggles, the menu in ViewMenu.
 #include "docview/ZNCoreEditorView.h"
 
-#include "control/EngineRecords.h"
 #include "docview/ZNCoreEditorDoc.h"
+#include "editing/KeyTable.h"
 
 namespace {
 
 constexpr UINT kControlId = 28161;
 constexpr std::intptr_t kLanguageHint = 1;
 
-CZNCoreEditorDoc* EditDocumentOf(const CView& view)
-{
-    return dynamic_cast<CZNCoreEditorDoc*>(view.GetDocument());
-}
-
 } // namespace
 
 CZNCoreEditorView::CZNCoreEditorView(CZNCoreEditorControlExCallback* callback)
-    : m_callback(callback)
+    : m_callback(callback), m_accelerators(EditorKeyTable())
 {}
 
 CZNCoreEditorView::~CZNCoreEditorView() = default;
@@ -33,18 +30,27 @@ CObject* CZNCoreEditorView::CreateObject()
     return new CZNCoreEditorView;
 }
 
-// The engine's message 2500 chooses its current indicator.
+CZNCoreEditorDoc* CZNCoreEditorView::EditDocument() const
+{
+    return dynamic_cast<CZNCoreEditorDoc*>(GetDocument());
+}
+
+// The control covers the whole view, which paints nothing; what the mouse does on a rim of it is
+// nobody's. The engine's message 2500 chooses its current indicator.
 int CZNCoreEditorView::OnCreate(CCreateContext* context)
 {
     constexpr UINT kSetIndicatorCurrent = 2500;
     if (CView::OnCreate(context) == -1)
         return -1;
+    GetSafeHwnd()->setAttribute(Qt::WA_OpaquePaintEvent);
+    GetSafeHwnd()->setAttribute(Qt::WA_NoMousePropagation);
     if (!m_coreEditor.Create(WS_CHILD | WS_VISIBLE | WS_CLIPCHILDREN, RECT{1, 1, 100, 100}, this,
                              kControlId, nullptr))
         return -1;
     SendMessage(m_coreEditor.GetSafeHwnd(), kSetIndicatorCurrent, 1, 0);
+    GetSafeHwnd()->setFocusProxy(m_coreEditor.GetSafeHwnd());
     m_coreEditor.GetSafeHwnd()->show();
-    if (CZNCoreEditorDoc* document = EditDocumentOf(*this))
+    if (CZNCoreEditorDoc* document = EditDocument())
         document->SetDocCoreEditor(&m_coreEditor);
     return 0;
 }
@@ -53,7 +59,7 @@ void CZNCoreEditorView::OnInitialUpdate()
 {
     CView::OnInitialUpdate();
     m_initialized = 1;
-    CZNCoreEditorDoc* document = EditDocumentOf(*this);
+    CZNCoreEditorDoc* document = EditDocument();
     if (!document)
         return;
     CZNCoreEditorView* first = document->GetFirstEditView();
@@ -83,9 +89,10 @@ void CZNCoreEditorView::OnActivateView(int activate, CView* activated, CView* de
         m_coreEditor.AutoCCancel(0);
 }
 
-void CZNCoreEditorView::OnSize(int cx, int cy)
+void CZNCoreEditorView::OnSize(UINT type, int cx, int cy)
 {
-    if (cx > 0 && cy > 0 && m_coreEditor.GetSafeHwnd())
+    constexpr UINT kNoSize = 6;
+    if (cx > 0 && cy > 0 && type != kNoSize && m_coreEditor.GetSafeHwnd())
         m_coreEditor.GetSafeHwnd()->setGeometry(0, 0, cx, cy);
 }
 
@@ -94,34 +101,39 @@ void CZNCoreEditorView::OnSetFocus(HWND previous)
 {
     CView::OnSetFocus(previous);
     m_coreEditor.SetFocus();
-    if (CZNCoreEditorDoc* document = EditDocumentOf(*this))
+    if (CZNCoreEditorDoc* document = EditDocument())
         document->CheckLastAccessTime();
 }
 
-int CZNCoreEditorView::OnNotify(WPARAM wParam, LPARAM lParam, LRESULT* result)
+LRESULT CZNCoreEditorView::OnMouseWheel(UINT flags, int delta, CPoint point)
 {
-    if (!lParam || !m_coreEditor.IsBaseEditorNotify(lParam))
-        return CView::OnNotify(wParam, lParam, result);
-    constexpr int kTextBits =
-        modification::InsertText | modification::DeleteText | modification::User;
-    const auto& record = *reinterpret_cast<const SCNotification*>(lParam);
-    const UINT code = record.nmhdr.code;
-    const int bits = record.modificationType;
-    m_coreEditor.HandleNotify(lParam);
-    CZNCoreEditorDoc* document = EditDocumentOf(*this);
-    switch (code) {
-    case notify::SavePointReached:
-    case notify::SavePointLeft:
-        if (document)
-            document->SetModifiedFlag(m_coreEditor.GetModified());
-        return 1;
-    case notify::Modified:
-        if (document && (bits & kTextBits))
-            document->DocumentChanged();
-        return 1;
-    default:
-        return 0;
+    if (flags & MK_CONTROL) {
+        if (delta < 0)
+            OnViewZoomlevelZoomout();
+        else
+            OnViewZoomlevelZoomin();
+    } else if (flags & MK_SHIFT) {
+        if (delta < 0)
+            m_coreEditor.PageDown(1);
+        else
+            m_coreEditor.PageUp(1);
     }
+    return DefWindowProc(WM_MOUSEWHEEL, WheelParam(flags, delta), PointParam(point));
+}
+
+void CZNCoreEditorView::SetExtendedMargin(bool on)
+{
+    m_coreEditor.SetExtendedMargin(on);
+}
+
+void CZNCoreEditorView::SetExtendedText(std::map<int, std::u16string>& texts)
+{
+    m_coreEditor.SetExtendedText(texts);
+}
+
+void CZNCoreEditorView::SetExtendedText(const char16_t* text, int length)
+{
+    m_coreEditor.SetExtendedText(text, length);
 }
 
 bool CZNCoreEditorView::ReloadFile()
@@ -130,17 +142,27 @@ bool CZNCoreEditorView::ReloadFile()
     return document && m_coreEditor.ReloadFile(document->GetPathName().toStdU16String().c_str());
 }
 
+void CZNCoreEditorView::SetSelectedLine(int line, int focus)
+{
+    constexpr int kSelectedLineMarker = 4;
+    m_coreEditor.GotoLineEnsureVisible(line);
+    if (focus)
+        m_coreEditor.SetFocus();
+    m_coreEditor.MarkerDeleteAll(kSelectedLineMarker, 1);
+    m_coreEditor.MarkerAdd(m_coreEditor.GetCurLineNumber(), kSelectedLineMarker, 1);
+}
+
 const MessageMap& CZNCoreEditorView::GetMessageMap() const
 {
     using View = CZNCoreEditorView;
-    static constexpr MessageEntry kEntries[] = {
+    static const MessageEntry kEntries[] = {
         {WM_CREATE,
          [](CWnd& t, WPARAM, LPARAM l) -> LRESULT {
              return static_cast<View&>(t).OnCreate(reinterpret_cast<CCreateContext*>(l));
          }},
         {WM_SIZE,
-         [](CWnd& t, WPARAM, LPARAM l) -> LRESULT {
-             static_cast<View&>(t).OnSize(WidthOf(l), HeightOf(l));
+         [](CWnd& t, WPARAM w, LPARAM l) -> LRESULT {
+             static_cast<View&>(t).OnSize(static_cast<UINT>(w), WidthOf(l), HeightOf(l));
              return 0;
          }},
         {WM_SETFOCUS,
@@ -148,6 +170,19 @@ const MessageMap& CZNCoreEditorView::GetMessageMap() const
              static_cast<View&>(t).OnSetFocus(reinterpret_cast<HWND>(w));
              return 0;
          }},
+        {WM_MOUSEWHEEL,
+         [](CWnd& t, WPARAM w, LPARAM l) {
+             return static_cast<View&>(t).OnMouseWheel(WheelFlagsOf(w), WheelDeltaOf(w),
+                                                       PointOf(l));
+         }},
+        {WM_CONTEXTMENU,
+         [](CWnd& t, WPARAM w, LPARAM l) -> LRESULT {
+             CWnd* window = AttachedWnd(reinterpret_cast<HWND>(w));
+             static_cast<View&>(t).OnContextMenu(window, PointOf(l));
+             return 1;
+         }},
+        {ZNBASEM_ON_EDITCHANGE,
+         [](CWnd& t, WPARAM w, LPARAM l) { return static_cast<View&>(t).OnEditChange(w, l); }},
     };
     static const MessageMap map = {&CView::GetMessageMap(), kEntries};
     return map;

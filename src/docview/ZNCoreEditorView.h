@@ -1,10 +1,19 @@
-// CZNCoreEditorView: the view of an edited file. It owns the control that fills it and passes on
-// what the control tells, to the control itself and to the document.
+// CZNCoreEditorView: the view of an edited file. It owns the control that fills it and stands
+// between what the host commands, what the engine tells, and the document that knows the file.
 #pragma once
 
 #include "editing/ZNCoreEditorControlEx.h"
+#include "platform/Accelerators.h"
 #include "platform/docview/View.h"
 
+#include <QString>
+
+#include <map>
+#include <string>
+
+class CZNCoreEditorDoc;
+
+// Without a document, or with one of another class, everything that needs one does nothing.
 class ZN_API CZNCoreEditorView : public CView, public CZNCoreEditorControlExCallback
 {
 public:
@@ -16,24 +25,92 @@ public:
     CZNCoreEditorControlEx* GetCoreEditorControl() { return &m_coreEditor; }
     CZNCoreEditorControlEx& GetCoreEditorControlRef() { return m_coreEditor; }
 
-    bool ReloadFile(); // false without a document, or if its file cannot be read
-
+    using CView::OnCmdMsg;
+    // The view's table, then the document's. A command of the editor ends an incremental search.
+    int OnCmdMsg(UINT id, int code, void* extra, CommandHandlerInfo* info) override;
+    // Gives 0 for what is not the control's.
     int OnNotify(WPARAM wParam, LPARAM lParam, LRESULT* result) override;
+    int PreTranslateMessage(MSG* message) override;
     void OnInitialUpdate() override;
     void OnActivateView(int activate, CView* activated, CView* deactivated) override;
     void OnUpdate(CView* sender, std::intptr_t hint, CObject* object) override;
+
+    // What a host shows in the margin of its own, as the control's.
+    virtual void SetExtendedMargin(bool on);
+    virtual void SetExtendedText(std::map<int, std::u16string>& texts);
+    virtual void SetExtendedText(const char16_t* text, int length);
+
+    bool ReloadFile(); // false without a document, or if its file cannot be read
+    bool HasMatchingBrace() { return m_coreEditor.HasMatchingBrace(); }
+    // Shows the line and marks it, and no other one. Lines count from 0.
+    void SetSelectedLine(int line, int focus);
+
+    // True if an incremental search goes on with the command.
+    bool HandleCommand(UINT id);
+    // What is typed during an incremental search: true if the search has used it up.
+    bool HandleInputCharacter(UINT character, UINT repeat, UINT flags);
+    bool HandleDeleteBack();
+    void StopIncrementalSearch(); // the text is as writable as it was before the search
+
+    // Commands and their rules, one pair for each row of the table
+#define ZN_COMMAND(id, handler, action, update, rule)                                              \
+    void handler();                                                                                \
+    void update(CCmdUI& ui);
+#define ZN_PLAIN(id, handler, action) void handler();
+#define ZN_RULE(id, update, rule) void update(CCmdUI& ui);
+#define ZN_OWN(id, handler, update)                                                                \
+    void handler();                                                                                \
+    void update(CCmdUI& ui);
+#define ZN_OWN_PLAIN(id, handler) void handler();
+#define ZN_OWN_RULED(id, handler, update, rule)                                                    \
+    void handler();                                                                                \
+    void update(CCmdUI& ui);
+#define ZN_INDICATOR(id, update) void update(CCmdUI& ui);
+#include "docview/ViewCommands.def"
+
+    // For a host's own numbers; no table here has them.
+    void OnEditClear();
+    void OnUpdateLineCol(CCmdUI& ui); // "Ln 1, Col 1"
 
 protected:
     // The callback is kept for a derived class, and stays the caller's.
     explicit CZNCoreEditorView(CZNCoreEditorControlExCallback* callback = nullptr);
 
     int OnCreate(CCreateContext* context);
-    void OnSize(int cx, int cy);
+    void OnSize(UINT type, int cx, int cy);
     void OnSetFocus(HWND previous);
+    LRESULT OnMouseWheel(UINT flags, int delta, CPoint point);
+    void OnContextMenu(CWnd* window, CPoint point);
+    LRESULT OnEditChange(WPARAM wParam, LPARAM lParam);
 
     const MessageMap& GetMessageMap() const override;
+    const CommandMap& GetCommandMap() const override;
 
     CZNCoreEditorControlEx m_coreEditor;
-    int m_initialized = 0;
+    int m_initialized = 0; // the document's contents have been shown
+    bool m_incrementalForward = false;
+    bool m_incrementalReverse = false;
+    bool m_incrementalMatchCase = false;
+    bool m_incrementalFound = false;
+    QString m_searchText;
+    QString m_lastSearchText;
+    int m_savedSelStart = 0;
+    int m_savedSelEnd = 0;
+    int m_searchOrigin = 0;
+    int m_searchPos = 0;
     CZNCoreEditorControlExCallback* m_callback;
+    int m_savedReadOnly = 0; // before the incremental search
+    HACCEL m_accelerators;
+
+private:
+    CZNCoreEditorDoc* EditDocument() const; // null if there is none of the class
+    bool IsSearching() const
+    {
+        return m_incrementalForward || m_incrementalReverse;
+    }
+    void RefreshBraces();
+    void OnUpdateUi(const CZNCoreEditorDoc& document);
+    bool IsBraceAt(long position);
+    void UpdateLineEnd(CCmdUI& ui, int mode);
+    void ToggleMargin(int margin, int width);
 };

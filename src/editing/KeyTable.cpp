@@ -9,7 +9,8 @@ constexpr int kShift = static_cast<int>(Qt::ShiftModifier);
 constexpr int kCtrl = static_cast<int>(Qt::ControlModifier);
 constexpr int kAlt = static_cast<int>(Qt::AltModifier);
 
-// Some of the commands are those of the view around an editor; here the key does nothing then.
+// An editor that stands alone knows some of the commands and a view around it others: a key whose
+// command nobody knows does nothing, and is used up.
 constexpr Accelerator kKeys[] = {
     {Qt::Key_F2, kNone, 54056},
     {Qt::Key_F2, kShift, 54058},

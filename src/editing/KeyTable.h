@@ -1,4 +1,4 @@
-// The key table of an editor that stands alone.
+// The key table of an editor that stands alone, and of a view around one.
 #pragma once
 
 #include "platform/Accelerators.h"

@@ -9,6 +9,8 @@
 #include "platform/Units.h"
 #include "platform/WindowEvents.h"
 
+#include <QCursor>
+
 CZNCoreEditorControlExCallback::~CZNCoreEditorControlExCallback() = default;
 
 int CZNCoreEditorControlExCallback::OnBeforeContextMenu(CWnd* /*window*/, CPoint /*point*/)
@@ -124,6 +126,18 @@ void CZNCoreEditorControlEx::OnKillFocus(HWND newFocus)
     AutoCCancel(1);
 }
 
+// A view around the editor has a menu of its own, which a key opens where the pointer is.
+LRESULT CZNCoreEditorControlEx::OnContextMenu(CWnd* window, CPoint point)
+{
+    if (m_pCallback && m_pCallback->OnBeforeContextMenu(window, point))
+        return 1;
+    const QPoint pointer = QCursor::pos();
+    if (point.x == -1 && point.y == -1)
+        point = {pointer.x(), pointer.y()};
+    return SendMessage(GetParent(GetSafeHwnd()), WM_CONTEXTMENU,
+                       reinterpret_cast<WPARAM>(GetSafeHwnd()), PointParam(point));
+}
+
 LRESULT CZNCoreEditorControlEx::OnAppRegistryChange(WPARAM /*wParam*/, LPARAM /*lParam*/)
 {
     SetEditorOptions();
@@ -200,6 +214,10 @@ const MessageMap& CZNCoreEditorControlEx::GetMessageMap() const
          [](CWnd& target, WPARAM wParam, LPARAM) -> LRESULT {
              static_cast<Self&>(target).OnKillFocus(reinterpret_cast<HWND>(wParam));
              return 0;
+         }},
+        {WM_CONTEXTMENU,
+         [](CWnd& target, WPARAM, LPARAM lParam) {
+             return static_cast<Self&>(target).OnContextMenu(&target, PointOf(lParam));
          }},
         {WM_SETTEXT,
          [](CWnd& target, WPARAM wParam, LPARAM lParam) {

@@ -289,6 +289,7 @@ protected:
     int OnCreate(CCreateContext* context); // 0, or -1 if there is no window
     void OnDestroy();
     void OnKillFocus(HWND newFocus);
+    LRESULT OnContextMenu(CWnd* window, CPoint point); // not 0 if it was dealt with
     LRESULT OnAppRegistryChange(WPARAM wParam, LPARAM lParam);
     LRESULT OnSetText(WPARAM wParam, LPARAM lParam);
 

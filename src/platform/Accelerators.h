@@ -8,11 +8,13 @@
 
 inline constexpr UINT WM_KEYFIRST = 0x0100;
 inline constexpr UINT WM_KEYDOWN = 0x0100;
+inline constexpr UINT WM_CHAR = 0x0102;
 inline constexpr UINT WM_KEYLAST = 0x0109;
 inline constexpr UINT WM_COMMAND = 0x0111; // wParam: the command, 0x10000 more if by a key
 
 // A message on its way to a window. For WM_KEYDOWN wParam is a Qt::Key and lParam the
-// Qt::KeyboardModifiers.
+// Qt::KeyboardModifiers. WM_CHAR follows for each UTF-16 unit that the key gives, unless the key
+// was taken: wParam is the unit, lParam a repeat count in the low 16 bits and flags above.
 struct MSG
 {
     HWND hwnd = nullptr;

@@ -23,6 +23,7 @@ struct WindowRecord
     QPointer<QWidget> widget; // null as soon as the widget's destruction begins
     WindowProcedure procedure = nullptr;
     CWnd* wnd = nullptr;
+    UINT id = 0;
 };
 
 std::vector<WindowClass>& Classes()
@@ -79,7 +80,7 @@ WindowRecord& RecordOf(QWidget* widget)
     if (WindowRecord* record = LiveRecord(widget))
         return *record;
     WindowRecord& record = Records()[widget];
-    record = WindowRecord{widget, nullptr, nullptr};
+    record = WindowRecord{widget, nullptr, nullptr, 0};
     QObject::connect(widget, &QObject::destroyed, [widget] {
         CWnd* wnd = Records()[widget].wnd;
         Forget(widget);
@@ -112,7 +113,7 @@ bool RegisterWindowClass(const WindowClass& windowClass)
 }
 
 HWND CreateWindowOfClass(const char16_t* className, unsigned long style, const RECT& rect,
-                         HWND parent)
+                         HWND parent, UINT id)
 {
     const WindowClass* windowClass = FindClass(className);
     if (!windowClass)
@@ -120,13 +121,21 @@ HWND CreateWindowOfClass(const char16_t* className, unsigned long style, const R
     QWidget* widget = windowClass->create(parent);
     if (!widget)
         return nullptr;
-    RecordOf(widget).procedure = windowClass->procedure;
+    WindowRecord& record = RecordOf(widget);
+    record.procedure = windowClass->procedure;
+    record.id = id;
     widget->setGeometry(static_cast<int>(rect.left), static_cast<int>(rect.top),
                         static_cast<int>(rect.right - rect.left),
                         static_cast<int>(rect.bottom - rect.top));
     // Said either way: a child that was never hidden appears together with its parent.
     widget->setVisible(style & WS_VISIBLE);
     return widget;
+}
+
+UINT GetDlgCtrlID(HWND window)
+{
+    const WindowRecord* record = LiveRecord(window);
+    return record ? record->id : 0;
 }
 
 bool IsWindow(HWND window)

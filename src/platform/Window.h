@@ -13,7 +13,18 @@ inline constexpr UINT WM_SETFOCUS = 0x0007; // wParam: the window that had the f
 inline constexpr UINT WM_SETTEXT = 0x000C;  // lParam: UTF-16 with a terminator
 inline constexpr UINT WM_CLOSE = 0x0010;    // the user's wish; answered with 1, Qt keeps out of it
 inline constexpr UINT WM_SETFONT = 0x0030;  // wParam: HFONT, lParam: whether to paint
-inline constexpr UINT WM_NOTIFY = 0x004E;   // lParam: a record that begins with the sender's handle
+inline constexpr UINT WM_NOTIFY = 0x004E;   // wParam: the sender's child identifier; lParam: a
+                                            // record that begins with the sender's handle
+// The user's wish for a menu, told by an editor to itself. wParam: the window asked, lParam:
+// PointParam on the screen, or of -1 and -1 if it came by a key. Not 0 if it was dealt with.
+inline constexpr UINT WM_CONTEXTMENU = 0x007B;
+// A turn of the wheel by one step with Control or Shift held, told by an editor to the window
+// around it. wParam: WheelParam, lParam: PointParam on the screen. Not 0 if it was dealt with.
+inline constexpr UINT WM_MOUSEWHEEL = 0x020A;
+
+inline constexpr UINT MK_SHIFT = 0x0004;
+inline constexpr UINT MK_CONTROL = 0x0008;
+inline constexpr int WHEEL_DELTA = 120; // one step away from the user
 
 inline constexpr unsigned long WS_CHILD = 0x40000000;
 inline constexpr unsigned long WS_VISIBLE = 0x10000000;
@@ -37,9 +48,11 @@ struct WindowClass
 ZN_API bool RegisterWindowClass(const WindowClass& windowClass);
 
 // A new window of the class, owned by its parent's widget; without a parent by the caller. Null if
-// the class is unknown. Shown if the style says WS_VISIBLE.
+// the class is unknown. Shown if the style says WS_VISIBLE. The id is what the parent knows it by.
 ZN_API HWND CreateWindowOfClass(const char16_t* className, unsigned long style, const RECT& rect,
-                                HWND parent);
+                                HWND parent, UINT id = 0);
+
+ZN_API UINT GetDlgCtrlID(HWND window); // the child identifier, 0 if it has none
 
 // Whether the handle names a window that was made by class or attached, and that still lives.
 // Any value may be asked about.
@@ -65,6 +78,29 @@ inline int WidthOf(LPARAM size)
 inline int HeightOf(LPARAM size)
 {
     return static_cast<int>(size >> 32);
+}
+
+// The parameters of WM_MOUSEWHEEL and WM_CONTEXTMENU, and what is in them.
+inline WPARAM WheelParam(UINT flags, int delta)
+{
+    return WPARAM{flags} | static_cast<WPARAM>(static_cast<std::uint32_t>(delta)) << 32;
+}
+inline UINT WheelFlagsOf(WPARAM wheel)
+{
+    return static_cast<UINT>(wheel & 0xFFFFFFFF);
+}
+inline int WheelDeltaOf(WPARAM wheel)
+{
+    return static_cast<std::int32_t>(wheel >> 32);
+}
+inline LPARAM PointParam(CPoint point)
+{
+    return static_cast<LPARAM>(static_cast<std::uint32_t>(point.x)) |
+           static_cast<LPARAM>(static_cast<std::uint64_t>(point.y) << 32);
+}
+inline CPoint PointOf(LPARAM param)
+{
+    return {static_cast<std::int32_t>(param & 0xFFFFFFFF), static_cast<std::int32_t>(param >> 32)};
 }
 
 // The answer of the window's class, past any CWnd. 0 if the window has no class.

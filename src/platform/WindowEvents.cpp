@@ -8,8 +8,8 @@
 #include <QApplication>
 #include <QKeyEvent>
 #include <QPointer>
-
 #include <QResizeEvent>
+
 #include <vector>
 
 namespace {
@@ -22,7 +22,18 @@ bool CameFromChild(HWND window)
            AttachedWnd(QApplication::focusWidget());
 }
 
-// Every window around the key's own may take it, the innermost first.
+// Every window around the message's own may take it, the innermost first. Whoever is offered it may
+// close windows around it.
+bool IsTaken(const std::vector<QPointer<QWidget>>& around, MSG message)
+{
+    for (const QPointer<QWidget>& at : around) {
+        CWnd* wnd = AttachedWnd(at);
+        if (wnd && wnd->PreTranslateMessage(&message))
+            return true;
+    }
+    return false;
+}
+
 bool IsTaken(HWND window, const QKeyEvent& key)
 {
     constexpr int kModifiers = static_cast<int>(Qt::ShiftModifier | Qt::ControlModifier |
@@ -30,18 +41,17 @@ bool IsTaken(HWND window, const QKeyEvent& key)
     const FrameworkCall call; // an object may be closed by its own key
     // Shift and Tab come as a key of their own.
     const int number = key.key() == Qt::Key_Backtab ? static_cast<int>(Qt::Key_Tab) : key.key();
-    MSG message{window, WM_KEYDOWN, static_cast<WPARAM>(number),
-                static_cast<LPARAM>(key.modifiers().toInt() & kModifiers)};
-    // Whoever is offered the key may close windows around it.
     std::vector<QPointer<QWidget>> around;
     for (QWidget* at = window; at; at = at->parentWidget())
         around.emplace_back(at);
-    for (const QPointer<QWidget>& at : around) {
-        CWnd* wnd = AttachedWnd(at);
-        if (wnd && wnd->PreTranslateMessage(&message))
-            return true;
-    }
-    return false;
+    if (IsTaken(around, {window, WM_KEYDOWN, static_cast<WPARAM>(number),
+                         static_cast<LPARAM>(key.modifiers().toInt() & kModifiers)}))
+        return true;
+    bool isTaken = false;
+    const QString text = key.text(); // the event may go with its window
+    for (const QChar unit : text)
+        isTaken = IsTaken(around, {window, WM_CHAR, unit.unicode(), 1}) || isTaken;
+    return isTaken;
 }
 
 class EventFilter final : public QObject

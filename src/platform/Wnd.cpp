@@ -12,12 +12,12 @@ CWnd::~CWnd()
 }
 
 int CWnd::Create(const char16_t* className, const char16_t* title, unsigned long style,
-                 const RECT& rect, CWnd* parent, UINT /*id*/, CCreateContext* context)
+                 const RECT& rect, CWnd* parent, UINT id, CCreateContext* context)
 {
     if (m_hWnd)
         return 0;
     const HWND window = CreateWindowOfClass(className, style & ~WS_VISIBLE, rect,
-                                            parent ? parent->GetSafeHwnd() : nullptr);
+                                            parent ? parent->GetSafeHwnd() : nullptr, id);
     if (!window)
         return 0;
     if (title && *title)

@@ -13,6 +13,10 @@ Listener::Listener()
 
 LRESULT Listener::WindowProc(UINT message, WPARAM wParam, LPARAM lParam)
 {
+    if (message == WM_MOUSEWHEEL) {
+        turns.emplace_back(WheelFlagsOf(wParam), WheelDeltaOf(wParam));
+        return takesTurns;
+    }
     if (message != WM_NOTIFY)
         return CWnd::WindowProc(message, wParam, lParam);
     const auto& record = *reinterpret_cast<const SCNotification*>(lParam);
@@ -21,7 +25,7 @@ LRESULT Listener::WindowProc(UINT message, WPARAM wParam, LPARAM lParam)
         text.assign(record.text, record.nmhdr.code == notify::Modified
                                      ? static_cast<std::size_t>(record.length)
                                      : std::u16string_view(record.text).size());
-    heard.push_back({record, text});
+    heard.push_back({record, text, wParam});
     if (onNotify)
         onNotify(*this, record);
     return 0;
@@ -41,7 +45,7 @@ EngineUnderTest::EngineUnderTest()
 {
     engine::RegisterEngineWindow();
     m_window = CreateWindowOfClass(engine::kWindowClass, WS_CHILD, {0, 0, 400, 300},
-                                   m_parent.GetSafeHwnd());
+                                   m_parent.GetSafeHwnd(), kId);
     m_parent.editor = m_window;
     m_function = reinterpret_cast<engine::DirectFunction>(
         SendMessage(m_window, msg::GetDirectFunction, 0, 0));

@@ -12,6 +12,7 @@ struct Heard
 {
     SCNotification record;
     std::u16string text;
+    WPARAM id; // of the message
 };
 
 // A parent window that keeps every notification.
@@ -26,11 +27,15 @@ public:
     std::vector<Heard> Of(UINT code) const;
     void (*onNotify)(Listener& listener, const SCNotification& record) = nullptr;
     HWND editor = nullptr;
+    bool takesTurns = false; // of the wheel
+    std::vector<std::pair<UINT, int>> turns;
 };
 
 class EngineUnderTest
 {
 public:
+    static constexpr UINT kId = 17; // that the parent knows the window by
+
     EngineUnderTest();
     ~EngineUnderTest();
 

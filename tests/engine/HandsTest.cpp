@@ -355,3 +355,38 @@ TEST_F(Hands, WithoutAMenuOfItsOwnNoneOpens)
     QApplication::sendEvent(Viewport(), &event);
     EXPECT_EQ(OpenMenu(), nullptr);
 }
+
+TEST_F(Hands, EveryNotificationCarriesTheIdentifierOfItsWindow)
+{
+    Start(u"ab");
+    QTest::keyClicks(m_engine.Window(), "c");
+    m_engine.Send(msg::SetSavePoint);
+    ASSERT_GE(m_engine.Parent().heard.size(), 3u);
+    for (const Heard& each : m_engine.Parent().heard) {
+        EXPECT_EQ(each.id, EngineUnderTest::kId);
+        EXPECT_EQ(each.record.nmhdr.idFrom, EngineUnderTest::kId);
+    }
+}
+
+TEST_F(Hands, ATurnWithControlOrShiftIsFirstTheParents)
+{
+    const auto turn = [this](Qt::KeyboardModifier held, int delta) {
+        QWheelEvent event({5, 5}, {5, 5}, {}, {0, delta}, Qt::NoButton, held, Qt::NoScrollPhase,
+                          false);
+        QApplication::sendEvent(Viewport(), &event);
+    };
+    Start(u"a");
+    m_engine.Parent().takesTurns = true;
+    turn(Qt::ControlModifier, 240);
+    turn(Qt::ShiftModifier, -120);
+    turn(Qt::NoModifier, -120);
+    EXPECT_EQ(m_engine.Parent().turns,
+              (std::vector<std::pair<UINT, int>>{
+                  {MK_CONTROL, 120}, {MK_CONTROL, 120}, {MK_SHIFT, -120}}));
+    EXPECT_EQ(m_engine.Send(msg::GetZoom), 0);
+    m_engine.Parent().takesTurns = false;
+    turn(Qt::ControlModifier, 60);
+    EXPECT_EQ(m_engine.Send(msg::GetZoom), 0);
+    turn(Qt::ControlModifier, 60);
+    EXPECT_EQ(m_engine.Send(msg::GetZoom), 1);
+}

@@ -153,6 +153,17 @@ TEST_F(TwoWindows, AnotherDocumentHasAnUndoHistoryOfItsOwn)
     EXPECT_EQ(m_first.Text(), kText);
 }
 
+TEST_F(TwoWindows, AWindowMayTakeTheDocumentThatItShows)
+{
+    EngineUnderTest only;
+    only.SetText(kText);
+    Type(only, u"typed");
+    only.Send(msg::SetDocPointer, 0, only.Send(msg::GetDocPointer));
+    EXPECT_EQ(only.Text(), u"typed" + kText);
+    only.Send(msg::Undo);
+    EXPECT_EQ(only.Text(), kText);
+}
+
 TEST_F(TwoWindows, ReleasingMoreThanIsHeldIsIgnored)
 {
     const LRESULT document = m_first.Send(msg::GetDocPointer);

@@ -23,10 +23,11 @@ public:
 
     int PreTranslateMessage(MSG* message) override
     {
-        // A test's key with Shift begins with Shift alone.
-        if (message->wParam != WPARAM{Qt::Key_Shift})
+        if (message->message == WM_CHAR)
+            characters += QChar(static_cast<char16_t>(message->wParam));
+        else if (message->wParam != WPARAM{Qt::Key_Shift}) // with which a test's key begins
             keys.push_back({message->wParam, message->lParam});
-        return takes ? 1 : 0;
+        return takes || (takesCharacters && message->message == WM_CHAR) ? 1 : 0;
     }
 
     LRESULT WindowProc(UINT message, WPARAM wParam, LPARAM lParam) override
@@ -38,7 +39,9 @@ public:
 
     std::vector<std::pair<WPARAM, LPARAM>> keys;
     std::vector<HWND> focusWentTo;
+    QString characters;
     bool takes = false;
+    bool takesCharacters = false;
 };
 
 class WindowEvents : public testing::Test
@@ -95,6 +98,32 @@ TEST_F(WindowEvents, TakeAwayAKeyThatSomebodyTook)
     inner.takes = false;
     QTest::keyClick(&m_edit, Qt::Key_A);
     EXPECT_EQ(m_edit.text(), QStringLiteral("a"));
+}
+
+TEST_F(WindowEvents, OfferWhatAKeyTypesUnlessTheKeyWasTaken)
+{
+    Listener inner(&m_edit);
+    Listener outer(&m_outer);
+    QTest::keyClicks(&m_edit, "ab");
+    EXPECT_EQ(inner.characters, "ab");
+    EXPECT_EQ(outer.characters, "ab");
+    EXPECT_EQ(m_edit.text(), "ab");
+    outer.takesCharacters = true;
+    QTest::keyClick(&m_edit, Qt::Key_C);
+    EXPECT_EQ(outer.characters, "abc");
+    EXPECT_EQ(m_edit.text(), "ab");
+    inner.takes = true;
+    QTest::keyClick(&m_edit, Qt::Key_D);
+    EXPECT_EQ(outer.characters, "abc");
+}
+
+TEST_F(WindowEvents, OfferBothHalvesOfAPair)
+{
+    const Listener listener(&m_edit);
+    const QString pair = QString::fromUtf8("\xF0\x9F\x98\x80");
+    QKeyEvent key(QEvent::KeyPress, 0, Qt::NoModifier, pair);
+    QApplication::sendEvent(&m_edit, &key);
+    EXPECT_EQ(listener.characters, pair);
 }
 
 TEST_F(WindowEvents, GiveShiftAndTabAsTab)

@@ -48,7 +48,11 @@ bool RegisterViewClass()
         widget->setFocusPolicy(Qt::StrongFocus);
         return widget;
     };
-    return RegisterWindowClass({kViewClass, make, nullptr});
+    // What a turn of the wheel has to do for a view, its handler has done.
+    const auto procedure = [](HWND, UINT message, WPARAM, LPARAM) -> LRESULT {
+        return message == WM_MOUSEWHEEL;
+    };
+    return RegisterWindowClass({kViewClass, make, procedure});
 }
 
 } // namespace

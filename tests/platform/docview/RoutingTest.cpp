@@ -5,11 +5,14 @@
 #include "platform/Shell.h"
 #include "platform/docview/ActionUI.h"
 #include "platform/docview/CreateContext.h"
+#include "platform/docview/LabelUI.h"
 
 #include <QAction>
 #include <QApplication>
+#include <QLabel>
 #include <QLineEdit>
 #include <QMenu>
+#include <QToolBar>
 
 namespace {
 
@@ -178,6 +181,28 @@ TEST_F(Routing, AnUpdateHandlerMayMarkAndNameACommandThatNobodyRuns)
     EXPECT_TRUE(action.isChecked());
     EXPECT_EQ(action.text(), "Hide it");
     EXPECT_FALSE(action.isEnabled());
+}
+
+TEST_F(Routing, AToolBarShowsWhatCanRun)
+{
+    QToolBar bar;
+    SetCommand(*bar.addAction("Known"), kViewCommand, frame->GetSafeHwnd());
+    SetCommand(*bar.addAction("Unknown"), 4711, frame->GetSafeHwnd());
+    view->allows = true;
+    UpdateActions(bar.actions(), *frame);
+    EXPECT_TRUE(bar.actions()[0]->isEnabled());
+    EXPECT_FALSE(bar.actions()[1]->isEnabled());
+}
+
+TEST_F(Routing, ALabelShowsWhatItsHandlerSays)
+{
+    QLabel label("old");
+    LabelUI(kMarked, label).DoUpdate(*frame);
+    EXPECT_EQ(label.text(), "Hide it");
+    LabelUI(kViewCommand, label).DoUpdate(*frame);
+    EXPECT_FALSE(label.isEnabled());
+    LabelUI(4711, label).DoUpdate(*frame);
+    EXPECT_EQ(label.text(), "");
 }
 
 TEST_F(Routing, ATriggeredActionOutlivesItsFrame)

@@ -1,0 +1,91 @@
+// CZNCoreEditorView: keys and commands on their way in, and the incremental search that owns the
+// keyboard while it runs.
+#include "docview/ZNCoreEditorView.h"
+
+namespace {
+
+constexpr UINT kFirstCommand = 53890;
+constexpr UINT kLastCommand = 54069;
+constexpr UINT kIncrementalForward = 54024;
+constexpr UINT kIncrementalReverse = 54025;
+
+constexpr UINT kBackspace = 8;
+constexpr UINT kEnter = 13;
+constexpr UINT kEscape = 27;
+
+// A character that a text can be searched for.
+bool IsSearchable(char16_t unit)
+{
+    const QChar c(unit);
+    return c == u' ' || c == u'\t' || c.isSurrogate() || (c.isPrint() && !c.isSpace());
+}
+
+constexpr LPARAM kWord = 0xFFFF;
+
+} // namespace
+
+int CZNCoreEditorView::PreTranslateMessage(MSG* message)
+{
+    if (message->message >= WM_KEYFIRST && message->message <= WM_KEYLAST && m_accelerators &&
+        TranslateAccelerator(GetSafeHwnd(), m_accelerators, *message))
+        return 1;
+    if (!IsSearching())
+        return CView::PreTranslateMessage(message);
+    if (message->message == WM_CHAR)
+        return HandleInputCharacter(static_cast<UINT>(message->wParam),
+                                    static_cast<UINT>(message->lParam & kWord),
+                                    static_cast<UINT>(message->lParam >> 16 & kWord))
+                   ? 1
+                   : 0;
+    return message->message == WM_KEYDOWN && message->wParam == Qt::Key_Backspace &&
+           HandleDeleteBack();
+}
+
+int CZNCoreEditorView::OnCmdMsg(UINT id, int code, void* extra, CommandHandlerInfo* info)
+{
+    if (code == CN_COMMAND && !extra)
+        HandleCommand(id);
+    return CView::OnCmdMsg(id, code, extra, info);
+}
+
+// Commands outside the editor's numbers, as those of the clipboard, leave the search running.
+bool CZNCoreEditorView::HandleCommand(UINT id)
+{
+    if (!IsSearching())
+        return false;
+    if (id == kIncrementalForward || id == kIncrementalReverse)
+        return true;
+    if (id >= kFirstCommand && id <= kLastCommand)
+        StopIncrementalSearch();
+    return false;
+}
+
+bool CZNCoreEditorView::HandleInputCharacter(UINT character, UINT /*repeat*/, UINT /*flags*/)
+{
+    if (!IsSearching())
+        return false;
+    if (character == kBackspace)
+        return HandleDeleteBack();
+    if (character == kEscape || character == kEnter ||
+        !IsSearchable(static_cast<char16_t>(character))) {
+        StopIncrementalSearch();
+        return true;
+    }
+    m_searchText += QChar(static_cast<char16_t>(character));
+    return true;
+}
+
+bool CZNCoreEditorView::HandleDeleteBack()
+{
+    if (!IsSearching() || m_searchText.isEmpty())
+        return false;
+    m_searchText.chop(1);
+    return true;
+}
+
+void CZNCoreEditorView::StopIncrementalSearch()
+{
+    m_incrementalForward = false;
+    m_incrementalReverse = false;
+    m_coreEditor.SetReadOnly(m_savedReadOnly, 1);
+}
