@@ -27,7 +27,9 @@
 #include <climits>
 #include <new>
 
+#include <fcntl.h>
 #include <sys/stat.h>
+#include <unistd.h>
 
 namespace {
 
@@ -113,6 +115,14 @@ void WriteNote(const QString& copyPath, const QString& documentPath)
 void RemoveNote(const QString& copyPath)
 {
     ApplicationProfile().WriteString(kSection, NameOf(copyPath), nullptr);
+}
+
+void EmptyCopy(const QString& copyPath)
+{
+    constexpr int kFlags = O_WRONLY | O_TRUNC | O_NOFOLLOW | O_NONBLOCK | O_CLOEXEC | O_NOCTTY;
+    const int file = open(QFile::encodeName(copyPath).constData(), kFlags);
+    if (file >= 0)
+        close(file);
 }
 
 void RemoveCopy(const QString& copyPath)
@@ -209,6 +219,8 @@ void CZNCoreEditorControl::DeleteAutoSaveFile()
 {
     if (m_strAutoSaveFile.isEmpty())
         return;
+    if (Policy().passesUnwritten)
+        autosave::EmptyCopy(m_strAutoSaveFile);
     autosave::RemoveNote(m_strAutoSaveFile);
     autosave::RemoveCopy(m_strAutoSaveFile);
     m_strAutoSaveFile.clear();
