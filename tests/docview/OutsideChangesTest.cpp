@@ -207,6 +207,7 @@ TEST_F(OutsideChange, WhoseTempCopyCannotBeRemovedRaisesAndCanBeCheckedAgain)
 {
     doc->SaveTempCopy();
     QFile::remove(doc->GetTempPathName());
+    QDir().mkdir(doc->GetTempPathName());
     Write("a.sql", "select 2", 100001);
     user.answer = Answer::Yes;
     EXPECT_THROW(doc->CheckLastAccessTime(), CFileException);
