@@ -20,6 +20,10 @@
 class VariableTable
 {
 public:
+    VariableTable() = default;
+    VariableTable(const VariableTable&) = delete; // the hash points at the values
+    VariableTable& operator=(const VariableTable&) = delete;
+
     struct Variable
     {
         QString name;
