@@ -1,6 +1,9 @@
 #include "bench/ExpandScripts.h"
 
 #include "bench/Texts.h"
+#include "editing/FileTypeManager.h"
+#include "editing/Library.h"
+#include "editing/ZNCoreEditorWidget.h"
 
 #include <fstream>
 
@@ -45,6 +48,15 @@ std::string MakeExpandable(const QTemporaryDir& folder, std::size_t megabytes)
         }
     }
     return script;
+}
+
+void BindTransactSql(ZNCoreEditorWidget& editor)
+{
+    const CFileTypeManager& languages = *zncoreeditor::GetFileTypeManager();
+    for (int i = 0; i < languages.GetLanguageCount(); ++i) {
+        if (languages.GetLanguageName(i) == QLatin1String("Transact-SQL"))
+            editor.setLanguage(i);
+    }
 }
 
 } // namespace bench

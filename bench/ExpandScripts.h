@@ -6,10 +6,14 @@
 #include <cstddef>
 #include <string>
 
+class ZNCoreEditorWidget;
+
 namespace bench {
 
 // For 64 MB: 10,000 definitions in front, 100,000 uses, 1,000 includes, all spread evenly; for
 // fewer as many fewer. The files stand in the folder.
 std::string MakeExpandable(const QTemporaryDir& folder, std::size_t megabytes);
+
+void BindTransactSql(ZNCoreEditorWidget& editor);
 
 } // namespace bench

@@ -1,9 +1,13 @@
 #include "bench/MemoryBench.h"
 
+#include "bench/ExpandScripts.h"
 #include "bench/Pair.h"
 #include "bench/RawEngine.h"
+#include "bench/RawExpansion.h"
 #include "bench/Texts.h"
 #include "editing/ZNCoreEditorWidget.h"
+#include "preprocess/CompileManager.h"
+#include "preprocess/language/VariableTable.h"
 
 #include <QProcess>
 
@@ -11,6 +15,9 @@
 #include <cstring>
 #include <fstream>
 #include <iostream>
+#include <sstream>
+
+#include <malloc.h>
 
 namespace bench {
 namespace {
@@ -18,6 +25,7 @@ namespace {
 using Sci = QsciScintillaBase;
 
 constexpr double kLimitMegabytes = 1.0;
+constexpr double kExpandLimitMegabytes = 2.0;
 
 // A line of /proc/self/status, in bytes.
 double StatusBytes(const char* key)
@@ -84,6 +92,68 @@ double OurSave(const char* path, bool careful)
     return StatusBytes("VmHWM:") - before;
 }
 
+std::string ReadBytes(const std::string& path)
+{
+    std::ostringstream text;
+    text << std::ifstream(path, std::ios::binary).rdbuf();
+    return text.str();
+}
+
+// The script is the folder's main.sql.
+double RawExpand(const std::string& folder)
+{
+    RawEngine raw;
+    RawExpansion expansion(raw, folder);
+    raw.Load("#define &&A 1\nselect &&A\n");
+    expansion.Expand();
+    raw.Load(ReadBytes(folder + "/main.sql"));
+    raw.Send(Sci::SCI_COLOURISE, 0, -1);
+    malloc_trim(0);
+    ForgetPeak();
+    const double before = StatusBytes("VmRSS:");
+    expansion.Expand();
+    return StatusBytes("VmHWM:") - before;
+}
+
+// The text that is handed over is the host's; styles and fold levels are the engine's.
+double OurExpand(const std::string& folder)
+{
+    ZNCoreEditorWidget editor;
+    BindTransactSql(editor);
+    CZNCompileManager& manager = *zncoreeditor::GetCompileManager();
+    manager.SetSearchPath(QString::fromStdString(folder));
+    editor.control().SetText(u"#define &&A 1\nselect &&A\n", 1);
+    manager.PreProcess(&editor.control(), editor.control().GetText());
+    editor.openFile(QString::fromStdString(folder + "/main.sql"));
+    editor.control().Colorize(0, -1, 1);
+    const QString text = editor.control().GetText();
+    malloc_trim(0);
+    ForgetPeak();
+    const double before = StatusBytes("VmRSS:");
+    manager.PreProcess(&editor.control(), text);
+    return StatusBytes("VmHWM:") - before;
+}
+
+// What the variables of the script take.
+double TableMemory(const std::string& folder)
+{
+    const auto inUse = [] {
+        const auto info = mallinfo2();
+        return static_cast<double>(info.uordblks + info.hblkhd);
+    };
+    std::istringstream script(ReadBytes(folder + "/main.sql"));
+    const double before = inUse();
+    VariableTable table;
+    std::string word;
+    std::string name;
+    std::string value;
+    while (script >> word >> name >> value && word == "#define") {
+        table.Insert(QString::fromStdString(name), QString::fromStdString(value));
+        table.LongestDefined(QString::fromStdString(name));
+    }
+    return inUse() - before;
+}
+
 double AskChild(const char* what, const std::string& path)
 {
     QProcess child;
@@ -114,6 +184,29 @@ void SaveMemory(benchmark::State& state, const char* what)
                  "MB above the memory before");
 }
 
+void ExpandMemory(benchmark::State& state)
+{
+    const QTemporaryDir folder;
+    const QString script = folder.filePath("main.sql");
+    std::ofstream(script.toStdString())
+        << MakeExpandable(folder, static_cast<std::size_t>(state.range(0)));
+    const std::string path = folder.path().toStdString();
+    double ours = 0;
+    double raw = 0;
+    double table = 0;
+    for (auto _ : state) {
+        ours = AskChild("expand", path);
+        raw = AskChild("expand-raw", path);
+        table = AskChild("table", path);
+    }
+    const auto megabyte = static_cast<double>(kMegabyte);
+    state.counters["ours_mb"] = ours / megabyte;
+    state.counters["reference_mb"] = raw / megabyte;
+    state.counters["table_mb"] = table / megabyte;
+    ReportFigure(state, (ours - raw - table) / megabyte, kExpandLimitMegabytes,
+                 "MB above the raw engine's peak and the variables");
+}
+
 const bool kRegistered = [] {
     for (const int megabytes : {16, 64}) {
         benchmark::RegisterBenchmark("PeakMemory/load", LoadMemory)->Arg(megabytes)->Iterations(1);
@@ -121,6 +214,11 @@ const bool kRegistered = [] {
             ->Arg(megabytes)
             ->Iterations(1);
         benchmark::RegisterBenchmark("PeakMemory/saveCareful", SaveMemory, "save-careful")
+            ->Arg(megabytes)
+            ->Iterations(1);
+    }
+    for (const int megabytes : {16, 64}) {
+        benchmark::RegisterBenchmark("PeakMemory/expand", ExpandMemory)
             ->Arg(megabytes)
             ->Iterations(1);
     }
@@ -136,6 +234,9 @@ bool RunAsChild(int argc, char** argv)
     const std::string what = argv[2];
     const double bytes = what == "raw"            ? RawLoad(argv[3])
                          : what == "load"         ? OurLoad(argv[3])
+                         : what == "expand"       ? OurExpand(argv[3])
+                         : what == "expand-raw"   ? RawExpand(argv[3])
+                         : what == "table"        ? TableMemory(argv[3])
                          : what == "save-careful" ? OurSave(argv[3], true)
                                                   : OurSave(argv[3], false);
     std::cout << static_cast<long long>(bytes) << '\n';

@@ -33,6 +33,7 @@ enum Option : unsigned
     To = 32,
     Mark = 64,
     Eol = 128,
+    Separator = 256,
 };
 
 struct OptionRow
@@ -45,14 +46,15 @@ struct OptionRow
 
 // clang-format off
 constexpr OptionRow kOptions[] = {
-    {Path,     "path",     "DIR;DIR",    "Folders for included files, looked through in order. The script's own folder is not one of them."},
-    {Define,   "define",   "NAME=VALUE", "The variable &&NAME has this value, whatever the script defines. May be given several times."},
-    {Encoding, "encoding", "ENCODING",   "The encoding of the result; that of the script if it is not given."},
-    {Output,   "output",   "FILE",       "Where the result goes; to the standard output if it is not given."},
-    {Language, "language", "NAME",       "The language of the script, as the editor's menu names it; SQL if it is not given."},
-    {To,       "to",       "ENCODING",   "The encoding that the files get."},
-    {Mark,     "mark",     nullptr,      "The files get a byte-order mark."},
-    {Eol,      "eol",      "MODE",       "The line ends that the result gets: lf, crlf or cr."},
+    {Path,      "path",      "DIR;DIR",    "Folders for included files, looked through in order. The script's own folder is not one of them."},
+    {Define,    "define",    "NAME=VALUE", "The variable &&NAME has this value, whatever the script defines. May be given several times."},
+    {Encoding,  "encoding",  "ENCODING",   "The encoding of the result; that of the script if it is not given."},
+    {Output,    "output",    "FILE",       "Where the result goes; to the standard output if it is not given."},
+    {Language,  "language",  "NAME",       "The language of the script, as the editor's menu names it. If it is not given: SQL to expand, else what the file's name tells."},
+    {To,        "to",        "ENCODING",   "The encoding that the files get."},
+    {Mark,      "mark",      nullptr,      "The files get a byte-order mark."},
+    {Separator, "separator", "TEXT",       "What stands alone on a line between two batches; that of the language if it is not given, none if it is empty."},
+    {Eol,       "eol",       "MODE",       "The line ends that the result gets: lf, crlf or cr."},
 };
 
 struct CommandRow
@@ -66,6 +68,8 @@ struct CommandRow
 constexpr CommandRow kCommands[] = {
     {"expand",  Path | Define | Encoding | Mark | Output | Language | Eol, "FILE",
      "Writes a script with its #include and #define lines and its && variables expanded."},
+    {"batches", Language | Separator, "FILE...",
+     "Lists the batches of scripts, a line for each, by the line that they start on."},
     {"convert", To | Mark | Eol, "FILE...", "Brings files to an encoding, each in its place."},
     {"detect",  0, "FILE...", "Tells the encoding and the line ends of files, a line for each."},
 };
@@ -78,6 +82,7 @@ constexpr const char* kOverview =
     "Commands:\n"
     "  expand   Writes a script with its #include and #define lines and its && variables "
     "expanded.\n"
+    "  batches  Lists the batches of scripts by the line that they start on.\n"
     "  convert  Brings files to an encoding, each in its place.\n"
     "  detect   Tells the encoding and the line ends of files, a line for each.\n"
     "\n"
@@ -145,6 +150,8 @@ QString TakeOptions(const QCommandLineParser& parser, unsigned options, Argument
         arguments.output = parser.value(QStringLiteral("output"));
     if (options & Language)
         arguments.language = parser.value(QStringLiteral("language"));
+    if (options & Separator && parser.isSet(QStringLiteral("separator")))
+        arguments.separator = parser.value(QStringLiteral("separator"));
     if (options & Mark)
         arguments.mark = parser.isSet(QStringLiteral("mark"));
     if (options & Define)

@@ -15,15 +15,16 @@ struct EncodingName
 
 struct Arguments
 {
-    QString command; // "expand", "convert" or "detect"
+    QString command; // "expand", "batches", "convert" or "detect"
     QStringList files;
     QString searchPath;
     std::map<QString, QString> variables; // with their ampersands
     std::optional<int> encoding;          // none: that of the file
     std::optional<int> lineEnds;          // a mode of the editor; none: those of the file
     bool mark = false;
-    QString language;
-    QString output; // empty: the standard output
+    QString language;                 // empty: that of the command or of the file's name
+    std::optional<QString> separator; // of batches; none: that of the language
+    QString output;                   // empty: the standard output
 
     QString help;  // not empty: it is asked for
     QString error; // not empty: a sentence that tells what is wrong

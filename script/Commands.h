@@ -13,4 +13,5 @@ enum ExitCode : int
 
 int Expand(const Arguments& arguments);
 int Convert(const Arguments& arguments);
+int Batches(const Arguments& arguments);
 int Detect(const Arguments& arguments);

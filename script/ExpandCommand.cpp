@@ -41,8 +41,7 @@ int Expand(const Arguments& arguments)
     const QString language =
         arguments.language.isEmpty() ? QStringLiteral("SQL") : arguments.language;
     if (!file.SetLanguage(language)) {
-        Report(QStringLiteral("znscript"),
-               QStringLiteral("there is no language “%1”").arg(language));
+        ReportUnknownLanguage(language);
         return kWrongUsage;
     }
     const QString& script = arguments.files.front();

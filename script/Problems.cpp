@@ -20,3 +20,8 @@ void Report(const QString& file, long line, const QString& message)
 {
     PrintLine(file + u':' + QString::number(line + 1) + QLatin1String(": ") + message);
 }
+
+void ReportUnknownLanguage(const QString& name)
+{
+    Report(QStringLiteral("znscript"), QStringLiteral("there is no language “%1”").arg(name));
+}

@@ -5,3 +5,5 @@
 
 void Report(const QString& file, const QString& message);
 void Report(const QString& file, long line, const QString& message); // lines count from 0
+
+void ReportUnknownLanguage(const QString& name);

@@ -56,12 +56,17 @@ ScriptFile::ScriptFile() : m_control(std::make_unique<CZNCoreEditorControlEx>())
 
 ScriptFile::~ScriptFile() = default;
 
+void ScriptFile::SetLanguage(int number)
+{
+    m_control->InitializeLanguage(number, 1);
+}
+
 bool ScriptFile::SetLanguage(const QString& name)
 {
     const CFileTypeManager& languages = *zncoreeditor::GetFileTypeManager();
     for (int language = 0; language < languages.GetLanguageCount(); ++language) {
         if (languages.GetLanguageName(language).compare(name, Qt::CaseInsensitive) == 0) {
-            m_control->InitializeLanguage(language, 1);
+            SetLanguage(language);
             return true;
         }
     }

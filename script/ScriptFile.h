@@ -16,6 +16,7 @@ public:
 
     CZNCoreEditorControlEx& Control() { return *m_control; }
 
+    void SetLanguage(int number);
     // False if the registry does not know the name.
     bool SetLanguage(const QString& name);
 

@@ -33,6 +33,7 @@ struct Command
 
 constexpr Command kCommands[] = {
     {"expand", Expand},
+    {"batches", Batches},
     {"convert", Convert},
     {"detect", Detect},
 };

@@ -27,7 +27,9 @@
 #include <climits>
 #include <new>
 
+#include <fcntl.h>
 #include <sys/stat.h>
+#include <unistd.h>
 
 namespace {
 
@@ -37,6 +39,25 @@ constexpr UINT kTimer = 100;
 constexpr long long kMinute = 60000; // milliseconds
 constexpr long long kLongest = INT_MAX;
 constexpr UINT kRecoveryText = 54070;
+
+// Whether an editor is still where it was. Its parent's object is detached when that is closed,
+// which a question may bring about, and the editor itself lives on until the question is answered.
+class HostOfEditor
+{
+public:
+    explicit HostOfEditor(const CWnd& editor) : m_editor(editor), m_host(Find()) {}
+    bool IsStillThere() const { return m_editor.GetSafeHwnd() && Find() == m_host; }
+
+private:
+    CWnd* Find() const
+    {
+        const HWND window = m_editor.GetSafeHwnd();
+        return window ? AttachedWnd(GetParent(window)) : nullptr;
+    }
+
+    const CWnd& m_editor;
+    CWnd* m_host; // null in a window of the host's own kind
+};
 
 } // namespace
 
@@ -94,6 +115,14 @@ void WriteNote(const QString& copyPath, const QString& documentPath)
 void RemoveNote(const QString& copyPath)
 {
     ApplicationProfile().WriteString(kSection, NameOf(copyPath), nullptr);
+}
+
+void EmptyCopy(const QString& copyPath)
+{
+    constexpr int kFlags = O_WRONLY | O_TRUNC | O_NOFOLLOW | O_NONBLOCK | O_CLOEXEC | O_NOCTTY;
+    const int file = open(QFile::encodeName(copyPath).constData(), kFlags);
+    if (file >= 0)
+        close(file);
 }
 
 void RemoveCopy(const QString& copyPath)
@@ -190,6 +219,8 @@ void CZNCoreEditorControl::DeleteAutoSaveFile()
 {
     if (m_strAutoSaveFile.isEmpty())
         return;
+    if (Policy().passesUnwritten)
+        autosave::EmptyCopy(m_strAutoSaveFile);
     autosave::RemoveNote(m_strAutoSaveFile);
     autosave::RemoveCopy(m_strAutoSaveFile);
     m_strAutoSaveFile.clear();
@@ -237,8 +268,16 @@ void CZNCoreEditorControl::MakeAutoSaveFile()
         m_copyClaim->Take(m_strAutoSaveFile);
 }
 
+// The copy is for whoever opens the file next.
+void CZNCoreEditorControl::LeaveAutoSaveCopy()
+{
+    m_strAutoSaveFile.clear();
+    m_copyClaim->Release();
+}
+
 // A copy that is found becomes this control's own, whatever the answer is: No leaves it to be
-// written over at the next tick, and a text that is read-only is not asked about.
+// written over at the next tick, and a text that is read-only is not asked about. An editor that is
+// closed under the question has nowhere to load it.
 void CZNCoreEditorControl::OfferAutoSaveCopy(Encoding encoding)
 {
     if (Policy().passesUnwritten)
@@ -255,7 +294,11 @@ void CZNCoreEditorControl::OfferAutoSaveCopy(Encoding encoding)
         return;
     const QString question = zncoreeditor::GetResourceLoader().FormatString(
         kRecoveryText, {znutils::CSpecialFolders::GetSimpleAppName(), m_strFileName});
-    if (AskYesNo(GetHwnd(), question))
+    const HostOfEditor host(*this);
+    const bool isWanted = AskYesNo(GetHwnd(), question);
+    if (!host.IsStillThere())
+        LeaveAutoSaveCopy();
+    else if (isWanted)
         LoadAutoSaveCopy(encoding);
 }
 
@@ -266,6 +309,7 @@ void CZNCoreEditorControl::LoadAutoSaveCopy(Encoding encoding)
     FilePointer file = OpenForReading(Units(m_strAutoSaveFile));
     if (!file)
         return;
+    const HostOfEditor host(*this);
     const bool fileWasCutShort = m_bCutShort;
     // ASCII is taken for the code page's, though a copy in UTF-8 may come to nothing else.
     const bool keepsUtf8 = Policy().keepsUtf8 && encoding == FileEncodeConverter::encUnknown &&
@@ -279,5 +323,8 @@ void CZNCoreEditorControl::LoadAutoSaveCopy(Encoding encoding)
         m_nEncoding = FileEncodeConverter::encUTF8;
     // A complete copy of a text that was cut short does not bring back the rest of its file.
     m_bCutShort = m_bCutShort || fileWasCutShort;
-    DeleteAutoSaveFile();
+    if (host.IsStillThere())
+        DeleteAutoSaveFile();
+    else
+        LeaveAutoSaveCopy(); // closed under the message that it is cut short
 }

@@ -18,6 +18,10 @@ QString MakeCopyFile(const QString& folder);
 void WriteNote(const QString& copyPath, const QString& documentPath);
 void RemoveNote(const QString& copyPath);
 
+// Takes the text out of a copy that is not needed any more, so that a process which dies before it
+// has removed note and copy leaves one that counts as unwritten.
+void EmptyCopy(const QString& copyPath);
+
 // The copy itself, and what a process that died while it wrote has left beside it.
 void RemoveCopy(const QString& copyPath);
 

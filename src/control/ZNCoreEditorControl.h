@@ -245,6 +245,7 @@ private:
     void MakeAutoSaveFile();
     void OfferAutoSaveCopy(FileEncodeConverter::encodingType encoding);
     void LoadAutoSaveCopy(FileEncodeConverter::encodingType encoding);
+    void LeaveAutoSaveCopy();
     LRESULT OnGetSel(WPARAM wParam, LPARAM lParam);
     LRESULT OnLineLength(WPARAM wParam, LPARAM lParam);
     void OnModified(const SCNotification& record);

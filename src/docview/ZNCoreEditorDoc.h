@@ -73,7 +73,7 @@ public:
 
 protected:
     void SetLastAccessTime();
-    // Raises CFileException if there is a copy and it cannot be removed; then it still counts as
+    // Raises CFileException if there is a copy that cannot be removed; then it still counts as
     // there.
     void RemoveTempCopy(int clearName);
 

@@ -265,6 +265,6 @@ TEST_F(AutosaveOrder, ACarefulSaveTakesTheCopyAwayOnceItHasWritten)
     EXPECT_TRUE(control.SaveFile(PathOf("doc.sql").toStdU16String().c_str(), true));
     EXPECT_EQ(TakeEvents(),
               (Strings{"GetLineCount", "LineLength 0", "GetLine 0", "CleanUpAutoSave",
-                       "SetAutoSave 0 0", "DeleteAutoSaveFile", "remove note Backup, full copy",
+                       "SetAutoSave 0 0", "DeleteAutoSaveFile", "remove note Backup, empty copy",
                        "SetSavePoint", "SetAutoSave 0 1"}));
 }

@@ -2,6 +2,7 @@
 // handles its files with care, as a host that edits users' files sets it.
 #include "EditDocFixture.h"
 
+#include "platform/Profile.h"
 #include "platform/Timer.h"
 #include "tests/settings/FullDisk.h"
 #include "tests/settings/OrdinaryUser.h"
@@ -381,6 +382,40 @@ TEST_F(FileFault, AFullDiskKeepsTheTextOfAControlWithoutCare)
     EXPECT_TRUE(doc->IsModified());
     EXPECT_EQ(doc->DoFileSave(), 1);
     EXPECT_EQ(Read(Path("a.sql")).size(), 100008);
+}
+
+TEST_F(FileFault, ACopyOfACrashOutlivesADocumentThatIsClosedUnderTheQuestion)
+{
+    QString backups;
+    ASSERT_TRUE(znutils::CSpecialFolders::GetAppAppDataPath(backups, true, u"Backup"));
+    const QString path = Write("b.sql", "select 1");
+    const auto plant = [&](const QByteArray& bytes) {
+        QFile copy(backups + "/~ZN1.tmp");
+        ASSERT_TRUE(copy.open(QFile::WriteOnly));
+        copy.write(bytes);
+        ApplicationProfile().WriteString("Backup", "~ZN1.tmp", path.toStdU16String().c_str());
+    };
+    user.answer = Answer::Yes;
+    // Under the offer, and under the news that the copy is cut short.
+    for (const QByteArray& bytes : {QByteArray("select 2"), QByteArray("\xFF\xFEx\0y", 5)}) {
+        plant(bytes);
+        OpenDoc* doc = New();
+        Control(doc).SetCarefulFiles(true);
+        const auto close = [doc] {
+            doc->OnCloseDocument();
+            Settle();
+        };
+        user.meanwhile = close;
+        if (bytes.size() == 5)
+            user.meanwhile = [&] { user.meanwhile = close; };
+        doc->OnOpenDocument(path);
+        EXPECT_TRUE(doc->IsClosed());
+        Settle();
+        EXPECT_EQ(Read(backups + "/~ZN1.tmp"), bytes);
+    }
+    plant("select 2");
+    EXPECT_EQ(Text(OpenCarefully(path)), "select 2");
+    EXPECT_FALSE(QFile::exists(backups + "/~ZN1.tmp"));
 }
 
 namespace {

@@ -3,6 +3,8 @@
 
 #include "platform/docview/ActionUI.h"
 
+#include <QTest>
+
 namespace {
 
 class OutsideChange : public EditDocTest
@@ -207,6 +209,7 @@ TEST_F(OutsideChange, WhoseTempCopyCannotBeRemovedRaisesAndCanBeCheckedAgain)
 {
     doc->SaveTempCopy();
     QFile::remove(doc->GetTempPathName());
+    QDir().mkdir(doc->GetTempPathName());
     Write("a.sql", "select 2", 100001);
     user.answer = Answer::Yes;
     EXPECT_THROW(doc->CheckLastAccessTime(), CFileException);
@@ -239,27 +242,47 @@ TEST_F(OutsideChange, ReloadGoesBackToTheLineOrTheEnd)
     EXPECT_EQ(Control(doc).GetCurrentPos(1), 3);
 }
 
+// The whole path, with keys and focus as the user's.
 TEST_F(OutsideChange, OpenQuestionReloadAndParseFollowEachOther)
 {
     CFrameWnd* frame = doc->GetFirstEditView()->GetParentFrame();
-    frame->ActivateFrame();
+    const HWND editor = Control(doc).GetSafeHwnd();
+    QWidget elsewhere;
+    const auto goTo = [](QWidget* window, QWidget* inside) {
+        window->show();
+        QApplication::setActiveWindow(window);
+        inside->setFocus();
+        Settle();
+    };
+    EXPECT_EQ(doc->m_docPointer, Control(doc).GetDocPointer(1));
+    EXPECT_EQ(doc->m_lastAccessTime, 100000);
     EXPECT_EQ(doc->ShouldParse(), 1);
-    doc->clock = 1001;
     doc->SetParsedTime();
     EXPECT_EQ(doc->ShouldParse(), 0);
+    goTo(frame->GetSafeHwnd(), editor);
+    doc->clock = 1001;
+    QTest::keyClicks(editor, "x");
+    EXPECT_EQ(doc->GetTitle(), "a.sql *");
+    EXPECT_EQ(doc->ShouldParse(), 1);
+    doc->SetParsedTime();
+    goTo(&elsewhere, &elsewhere);
     Write("a.sql", "select 2", 100001);
     Settle();
     EXPECT_TRUE(user.asked.isEmpty()); // nobody watches the file
     user.answer = Answer::Yes;
     doc->clock = 1002;
-    SendMessage(doc->GetFirstEditView()->GetSafeHwnd(), WM_SETFOCUS, 0, 0);
+    goTo(frame->GetSafeHwnd(), editor);
     EXPECT_EQ(user.asked, QStringList(Rewritten()));
     EXPECT_EQ(Text(doc), "select 2");
+    EXPECT_EQ(doc->m_lastAccessTime, 100001);
     EXPECT_EQ(doc->GetTitle(), "a.sql");
     EXPECT_FALSE(doc->IsModified());
     EXPECT_EQ(doc->ShouldParse(), 1);
     doc->SetParsedTime();
     EXPECT_EQ(doc->ShouldParse(), 0);
+    goTo(&elsewhere, &elsewhere);
+    goTo(frame->GetSafeHwnd(), editor);
+    EXPECT_EQ(user.asked.size(), 1);
 }
 
 TEST_F(OutsideChange, IsLookedForWhenTheFocusComes)

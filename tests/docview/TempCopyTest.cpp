@@ -93,9 +93,50 @@ TEST_F(TempCopy, ThatCannotBeRemovedRaisesAndStillCounts)
     OpenDoc* doc = OpenScript();
     doc->SaveTempCopy();
     QFile::remove(doc->GetTempPathName());
+    QDir().mkdir(doc->GetTempPathName());
     EXPECT_THROW(doc->RemoveTempCopy(1), CFileException);
     EXPECT_TRUE(doc->m_tempCopySaved);
     EXPECT_FALSE(doc->GetTempPathName().isEmpty());
+}
+
+TEST_F(TempCopy, ThatIsGoneKeepsNobodyFromSaving)
+{
+    OpenDoc* doc = OpenScript();
+    Type(doc, "-- ");
+    doc->SaveTempCopy();
+    QFile::remove(doc->GetTempPathName());
+    EXPECT_EQ(doc->DoFileSave(), 1);
+    EXPECT_FALSE(doc->m_tempCopySaved);
+    EXPECT_EQ(Read(Path("a.sql")), "-- select 1");
+}
+
+// Note: a folder that takes no copy counts as written, as the control tells it.
+TEST_F(TempCopy, ThatWasNeverWrittenKeepsNobodyFromSaving)
+{
+    OpenDoc* doc = OpenScript();
+    Type(doc, "-- ");
+    QDir(folders.folder.path()).removeRecursively();
+    EXPECT_EQ(doc->SaveTempCopy(), 0);
+    EXPECT_TRUE(doc->m_tempCopySaved);
+    EXPECT_EQ(doc->DoFileSave(), 1);
+    EXPECT_EQ(Read(Path("a.sql")), "-- select 1");
+}
+
+// The name is that of the file alone: of two documents with one name the later copy stands.
+TEST_F(TempCopy, IsSharedByDocumentsOfOneName)
+{
+    OpenDoc* first = OpenScript();
+    QDir(folder.path()).mkdir("other");
+    OpenDoc* second = Open(Write("other/a.sql", "select 2"));
+    first->SaveTempCopy();
+    second->SaveTempCopy();
+    EXPECT_EQ(first->GetTempPathName(), second->GetTempPathName());
+    EXPECT_EQ(Read(first->GetTempPathName()), "select 2");
+    first->OnCloseDocument();
+    Settle();
+    EXPECT_FALSE(QFile::exists(second->GetTempPathName()));
+    Type(second, "-- ");
+    EXPECT_EQ(second->DoFileSave(), 1);
 }
 
 TEST_F(TempCopy, GoesWithItsDocument)

@@ -157,10 +157,67 @@ TEST_F(Znscript, DetectsEncodingsAndLineEnds)
     EXPECT_EQ(outcome.errors, "gone.sql: the file does not exist\n");
 }
 
+TEST_F(Znscript, ListsBatchesByTheirLines)
+{
+    Write("a.tsql", "use a;\nselect 1\n  select 2\nGO\n-- no statement\nGO\n\nselect 3\nGO 2\n");
+    Write("b.pls", "select 1 from dual;\n/\nbegin null; end;\n/\n");
+    const Outcome outcome = Start({"batches", "a.tsql", "b.pls"});
+    EXPECT_EQ(outcome.exitCode, 0);
+    EXPECT_EQ(outcome.errors, "");
+    EXPECT_EQ(outcome.output, "a.tsql:1: lines 1-3, 2 statements\n"
+                              "a.tsql:7: lines 7-8, 1 statement\n"
+                              "b.pls:1: lines 1-1, 1 statement\n"
+                              "b.pls:3: lines 3-3, 1 statement\n");
+}
+
+TEST_F(Znscript, ListsBatchesThatCommentsDrawOut)
+{
+    Write("a.tsql", "select 1\n/* a */ GO /* on\nthe next */ -- line\nselect '\nGO\n'\n/*\nGO\n*/");
+    EXPECT_EQ(Start({"batches", "a.tsql"}).output, "a.tsql:1: lines 1-1, 1 statement\n"
+                                                   "a.tsql:2: lines 2-6, 1 statement\n");
+}
+
+TEST_F(Znscript, ListsBatchesOfTheLanguageThatItIsTold)
+{
+    Write("a.sql", "select 1;\n/\nselect 2;\nGO\nselect 3;\n");
+    EXPECT_EQ(Start({"batches", "a.sql"}).output, "a.sql:1: lines 1-3, 2 statements\n"
+                                                  "a.sql:5: lines 5-5, 1 statement\n");
+    EXPECT_EQ(Start({"batches", "--language", "PL/SQL", "a.sql"}).output,
+              "a.sql:1: lines 1-1, 1 statement\n"
+              "a.sql:3: lines 3-5, 2 statements\n");
+}
+
+TEST_F(Znscript, ListsBatchesBetweenTheSeparatorThatItIsTold)
+{
+    Write("a.mysql", "select 1;\ngo;\n%%\nselect 2;");
+    EXPECT_EQ(Start({"batches", "--separator", "%%", "a.mysql"}).output,
+              "a.mysql:1: lines 1-2, 2 statements\n"
+              "a.mysql:4: lines 4-4, 1 statement\n");
+    Write("a.tsql", "select 1\nGO\nselect 2\n");
+    EXPECT_EQ(Start({"batches", "--separator", "", "a.tsql"}).output,
+              "a.tsql:1: lines 1-3, 1 statement\n");
+}
+
+TEST_F(Znscript, TellsWhichFilesHaveNoBatches)
+{
+    Write("a.txt", "select 1");
+    Write("b.sql", "select 1");
+    const Outcome outcome = Start({"batches", "a.txt", "gone.sql", ".", "b.sql"});
+    EXPECT_EQ(outcome.exitCode, 1);
+    EXPECT_EQ(outcome.output, "b.sql:1: lines 1-1, 1 statement\n");
+    EXPECT_EQ(outcome.errors, "a.txt: its language has no batches; --language names another\n"
+                              "gone.sql: the file does not exist\n"
+                              ".: this is a folder\n");
+    const Outcome unknown = Start({"batches", "--language", "Klingon", "b.sql"});
+    EXPECT_EQ(unknown.exitCode, 2);
+    EXPECT_EQ(unknown.errors, "znscript: there is no language “Klingon”\n");
+}
+
 TEST_F(Znscript, HelpsWithEachCommand)
 {
-    for (const QStringList& words : {QStringList{"--help"}, QStringList{"expand", "--help"},
-                                     QStringList{"convert", "-h"}, QStringList{"detect", "-h"}}) {
+    for (const QStringList& words :
+         {QStringList{"--help"}, QStringList{"expand", "--help"}, QStringList{"batches", "--help"},
+          QStringList{"convert", "-h"}, QStringList{"detect", "-h"}}) {
         const Outcome outcome = Start(words);
         EXPECT_EQ(outcome.exitCode, 0);
         EXPECT_EQ(outcome.output.find("Usage: znscript"), 0U) << outcome.output;
@@ -177,7 +234,8 @@ TEST_F(Znscript, RefusesACommandLineThatIsWrong)
           QStringList{"expand", "--define", "A-B=1", "a"},
           QStringList{"expand", "--encoding", "ebcdic", "a"}, QStringList{"convert", "a"},
           QStringList{"convert", "--to", "utf-8", "--eol", "nel", "a"},
-          QStringList{"convert", "--to", "windows-1252", "--mark", "a"}, QStringList{"detect"}}) {
+          QStringList{"convert", "--to", "windows-1252", "--mark", "a"}, QStringList{"detect"},
+          QStringList{"batches"}, QStringList{"batches", "--path", "a", "b"}}) {
         const Outcome outcome = Start(words);
         EXPECT_EQ(outcome.exitCode, 2) << words.join(' ').toStdString();
         EXPECT_EQ(outcome.errors.find("znscript: "), 0U) << outcome.errors;

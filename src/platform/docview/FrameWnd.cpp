@@ -75,9 +75,12 @@ bool CFrameWnd::LoadFrame(CCreateContext* context)
     return false;
 }
 
+// A view has no size of its own, and a frame none without it.
 HWND CFrameWnd::MakeWidget()
 {
-    return new QWidget;
+    auto* widget = new QWidget;
+    widget->resize(800, 600);
+    return widget;
 }
 
 bool CFrameWnd::OnCreateClient(CCreateContext* context)

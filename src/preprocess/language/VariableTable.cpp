@@ -17,7 +17,7 @@ qsizetype CommonLength(const QString& a, const QString& b)
 
 bool VariableTable::Contains(const QString& name) const
 {
-    return m_values.contains(name) || m_empty.contains(name) || WasTried(name);
+    return m_byName.contains(name) || m_empty.contains(name) || WasTried(name);
 }
 
 void VariableTable::Insert(const QString& name, const QString& value)
@@ -27,22 +27,26 @@ void VariableTable::Insert(const QString& name, const QString& value)
     if (value.isEmpty())
         m_empty.insert(name);
     else
-        m_values.emplace(name, value);
+        m_byName.insert(name, &m_values.emplace(name, Value{value}).first->second);
 }
 
 QString VariableTable::Lookup(const QString& name)
 {
-    const auto found = m_values.find(name);
-    if (found != m_values.end())
-        return found->second;
+    if (const Value* value = m_byName.value(name))
+        return value->text;
     Insert(name, QString());
     return QString();
 }
 
 std::optional<VariableTable::Variable> VariableTable::LongestDefined(const QString& word)
 {
-    EnterTried(word);
-    return LongestValue(word);
+    Value* value = m_byName.value(word);
+    if (!value || !value->wasTried)
+        EnterTried(word);
+    if (!value)
+        return LongestValue(word);
+    value->wasTried = true;
+    return Variable{word, value->text};
 }
 
 // Names are in order, so the longest prefix of a word stands directly before it, or before what
@@ -56,7 +60,7 @@ std::optional<VariableTable::Variable> VariableTable::LongestValue(QString word)
         --at;
         const qsizetype common = CommonLength(at->first, word);
         if (common == at->first.size())
-            return Variable{at->first, at->second};
+            return Variable{at->first, at->second.text};
         word.truncate(common);
     }
     return std::nullopt;
