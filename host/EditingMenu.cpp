@@ -115,6 +115,7 @@ EditingMenu::EditingMenu(QMenu& menu, std::function<CZNCoreEditorControlEx*()> e
             part = menu.addMenu(title);
         QAction* action = part->addAction(QLatin1String(row.text));
         action->setObjectName(QLatin1String(row.name));
+        action->setData(row.command);
         action->setShortcut(QKeySequence(QLatin1String(row.keys)));
         connect(action, &QAction::triggered, this, [this, &row] { Run(row); });
         m_actions.push_back(action);

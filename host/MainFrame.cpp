@@ -4,6 +4,7 @@
 #include "platform/docview/WinApp.h"
 
 #include <QCoreApplication>
+#include <QThread>
 
 MainFrame::MainFrame(MainWindow& window) : m_window(window)
 {
@@ -19,7 +20,9 @@ void MainFrame::OnClose()
     m_window.EndSession();
     GetApp()->CloseAllDocuments();
     DestroyWindow();
-    QCoreApplication::exit();
+    // Without a loop to end, this would end the next one.
+    if (QThread::currentThread()->loopLevel() > 0)
+        QCoreApplication::exit();
 }
 
 const MessageMap& MainFrame::GetMessageMap() const

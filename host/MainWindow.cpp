@@ -24,6 +24,7 @@
 #include <QFileInfo>
 #include <QGuiApplication>
 #include <QPointer>
+#include <QTabBar>
 #include <QTimer>
 
 #include <algorithm>
@@ -53,6 +54,7 @@ MainWindow::MainWindow(Workbench& app)
     connect(m_tabs, &ScriptTabs::currentChanged, this, &MainWindow::OnCurrentChanged);
     connect(m_tabs, &ScriptTabs::tabCloseRequested, this, &MainWindow::CloseTab);
     FileDrops::Take(*this);
+    FileDrops::Take(*m_tabs->tabBar());
 
     BuildMenus();
     connect(QGuiApplication::clipboard(), &QClipboard::dataChanged, this,

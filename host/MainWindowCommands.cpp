@@ -94,7 +94,7 @@ std::span<const MainWindow::Command> MainWindow::Commands()
         {"&View", nullptr},
         {"&View", "whitespace", "&Whitespace",  Key::UnknownKey,   nullptr,  0, When::Always, Run<&W::ShowWhitespace>, true},
         {"&View", "lineEnds",   "Line &Ends",   Key::UnknownKey,   nullptr,  0, When::Always, Run<&W::ShowLineEnds>,   true},
-        {"&View", "wrap",       "Wr&ap Lines",  Key::UnknownKey,   nullptr,  0, When::Always, Run<&W::WrapLines>,      true},
+        {"&View", "wrap",       "Wrap &Lines",  Key::UnknownKey,   nullptr,  0, When::Always, Run<&W::WrapLines>,      true},
         {"&View", nullptr},
         {"&View", "splitBelow",  "Split &Above and Below", Key::UnknownKey, "Ctrl+\\",       command::SplitBelow},
         {"&View", "splitBeside", "Split Side &by Side",    Key::UnknownKey, "Ctrl+Shift+\\", command::SplitBeside},

@@ -35,9 +35,7 @@ QString FolderToStartIn(const ScriptDoc* script)
 
 Workbench::Workbench(Keeps keeps)
     : m_keeps(keeps), m_guard(keeps == Keeps::Places ? OpenGuard::DefaultFolder() : QString()),
-      m_settings(QSettings::IniFormat, QSettings::UserScope, QStringLiteral("znworkbench"),
-                 QStringLiteral("settings")),
-      m_recent(m_settings)
+      m_settings(places::Settings()), m_recent(m_settings)
 {
     AddDocTemplate(std::make_unique<CMultiDocTemplate>(kStrings, ScriptDoc::GetThisClass(),
                                                        ScriptFrame::GetThisClass(),

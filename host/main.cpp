@@ -29,7 +29,10 @@ int RunInteractively(const QStringList& files)
     auto* window = new MainWindow(app);
     window->show();
     window->ResumeSession();
-    window->OpenPlaces(files);
+    if (app.GetMainWnd())
+        window->OpenPlaces(files);
+    if (!app.GetMainWnd())
+        return 0; // closed while a question stood
     if (window->TabCount() == 0)
         app.NewScript();
     return QApplication::exec();

@@ -1,5 +1,6 @@
 // A workbench is killed while a script has changes; the next one is the real program on a real
 // display, and the question is answered with its keys.
+#include "tests/host/OwnPlaces.h"
 #include "tests/host/XDoTool.h"
 
 #include <QFile>
@@ -20,10 +21,12 @@ protected:
         file.write("select 1;\n");
         file.close();
         QProcess crashing;
+        crashing.setProcessEnvironment(OwnPlaces(m_folder.path()));
         crashing.start(QStringLiteral(ZN_CRASHING_WORKBENCH), {Path()});
         ASSERT_TRUE(crashing.waitForFinished(kPatienceInMs));
         ASSERT_EQ(crashing.exitStatus(), QProcess::CrashExit);
 
+        m_workbench.setProcessEnvironment(OwnPlaces(m_folder.path()));
         m_workbench.setProcessChannelMode(QProcess::ForwardedChannels);
         m_workbench.start(QStringLiteral(ZN_WORKBENCH), {Path()});
         ASSERT_TRUE(m_workbench.waitForStarted());

@@ -1,6 +1,8 @@
 // The real program on a real display, driven with real keys and a real mouse.
+#include "tests/host/OwnPlaces.h"
 #include "tests/host/XDoTool.h"
 
+#include <QDateTime>
 #include <QFile>
 #include <QTemporaryDir>
 
@@ -15,15 +17,25 @@ protected:
     {
         ASSERT_FALSE(qEnvironmentVariableIsEmpty("DISPLAY"));
         Write("select 1;\nselect 2;\n");
+        m_workbench.setProcessEnvironment(OwnPlaces(m_folder.path()));
         m_workbench.setProcessChannelMode(QProcess::ForwardedChannels);
-        m_workbench.start(QStringLiteral(ZN_WORKBENCH), {Path()});
+        ASSERT_NO_FATAL_FAILURE(Start({Path()}));
+    }
+
+    void Start(const QStringList& words)
+    {
+        m_workbench.start(QStringLiteral(ZN_WORKBENCH), words);
         ASSERT_TRUE(m_workbench.waitForStarted());
         ASSERT_TRUE(Eventually([this] {
-            m_windowId =
-                XDoTool({"search", "--onlyvisible", "--name", "story.sql"}).section('\n', 0, 0);
+            m_windowId = Visible("story.sql");
             return !m_windowId.isEmpty();
         })) << "the window does not come";
         Focus();
+    }
+
+    static QString Visible(const QString& name)
+    {
+        return XDoTool({"search", "--onlyvisible", "--name", name}).section('\n', 0, 0);
     }
 
     void TearDown() override
@@ -55,7 +67,44 @@ protected:
     void Focus()
     {
         XDoTool({"windowfocus", "--sync", m_windowId});
-        XDoTool({"mousemove", "--window", m_windowId, "500", "400", "click", "1"});
+        Click(500, 400);
+    }
+
+    void Click(int x, int y)
+    {
+        XDoTool({"mousemove", "--window", m_windowId, QString::number(x), QString::number(y),
+                 "click", "1"});
+    }
+
+    // Somebody else writes; the time is another one even within the second.
+    void WriteFromOutside(const QByteArray& bytes) const
+    {
+        Write(bytes);
+        QFile file(Path());
+        ASSERT_TRUE(file.open(QIODevice::ReadWrite));
+        ASSERT_TRUE(file.setFileTime(QDateTime::currentDateTime().addSecs(-3600),
+                                     QFileDevice::FileModificationTime));
+    }
+
+    // To the list of problems, and back to the script.
+    void LeaveAndComeBack()
+    {
+        Click(500, 660);
+        Click(500, 200);
+    }
+
+    // The question of a box, answered with its key.
+    void Answer(const QString& key)
+    {
+        QString box;
+        ASSERT_TRUE(Eventually([&box] {
+            box = Visible("^znworkbench$");
+            return !box.isEmpty();
+        })) << "no question comes";
+        XDoTool({"windowfocus", "--sync", box});
+        Keys({key});
+        ASSERT_TRUE(Eventually([] { return Visible("^znworkbench$").isEmpty(); }));
+        XDoTool({"windowfocus", "--sync", m_windowId});
     }
 
     void Keys(const QStringList& keys) { XDoTool(QStringList{"key", "--delay", "20"} + keys); }
@@ -125,4 +174,64 @@ TEST_F(WindowStory, AWindowWithChangesAsksBeforeItCloses)
     }));
     EXPECT_EQ(m_workbench.state(), QProcess::Running);
     EXPECT_EQ(Read(), QByteArray("select 1;\nselect 2;\n"));
+}
+
+TEST_F(WindowStory, APaneOfASplitScriptTypesIntoTheSameText)
+{
+    Keys({"ctrl+Home"});
+    Type(QStringLiteral("a"));
+    ASSERT_TRUE(Eventually([this] { return Title().contains(u'*'); }));
+    Keys({"ctrl+z"});
+    ASSERT_TRUE(Eventually([this] { return !Title().contains(u'*'); }));
+
+    Keys({"ctrl+backslash", "ctrl+Home"});
+    Type(QStringLiteral("two "));
+    Keys({"F6", "ctrl+Home"});
+    Type(QStringLiteral("one "));
+    Keys({"ctrl+s"});
+    EXPECT_TRUE(Eventually([this] { return Read() == "one two select 1;\nselect 2;\n"; }))
+        << Read().toStdString();
+}
+
+TEST_F(WindowStory, AFileThatOthersChangeIsReadAgainOnYes)
+{
+    WriteFromOutside("from outside\n");
+    LeaveAndComeBack();
+    ASSERT_NO_FATAL_FAILURE(Answer("alt+y"));
+    Keys({"ctrl+Home"});
+    Type(QStringLiteral("read "));
+    Keys({"ctrl+s"});
+    EXPECT_TRUE(Eventually([this] { return Read() == "read from outside\n"; }))
+        << Read().toStdString();
+}
+
+TEST_F(WindowStory, AFileThatOthersDeleteIsKeptOnNoAndSavedAgain)
+{
+    QFile::remove(Path());
+    LeaveAndComeBack();
+    ASSERT_NO_FATAL_FAILURE(Answer("alt+n"));
+    EXPECT_TRUE(Eventually([this] { return Title().contains(u'*'); })) << Title().toStdString();
+    Keys({"ctrl+s"});
+    EXPECT_TRUE(Eventually([this] { return Read() == "select 1;\nselect 2;\n"; }))
+        << Read().toStdString();
+}
+
+TEST_F(WindowStory, KeysOfMenusAndOfTheKeyTableTakeEffectOnce)
+{
+    Keys({"ctrl+Home", "Delete", "Delete", "ctrl+z", "Tab", "shift+Tab", "ctrl+shift+Right"});
+    Keys({"ctrl+x", "ctrl+v", "ctrl+v"});
+    Keys({"ctrl+s"});
+    EXPECT_TRUE(Eventually([this] { return Read() == "elect elect 1;\nselect 2;\n"; }))
+        << Read().toStdString();
+    Keys({"ctrl+a", "Delete", "ctrl+s"});
+    EXPECT_TRUE(Eventually([this] { return Read().isEmpty(); })) << Read().toStdString();
+}
+
+TEST_F(WindowStory, AClosedTabIsGoneAndAClosedWindowComesBackWithItsScripts)
+{
+    Keys({"ctrl+q"});
+    ASSERT_TRUE(m_workbench.waitForFinished(kPatienceInMs));
+    ASSERT_NO_FATAL_FAILURE(Start({}));
+    Keys({"ctrl+F4"});
+    EXPECT_TRUE(Eventually([this] { return Title() == "znworkbench"; })) << Title().toStdString();
 }

@@ -1,0 +1,114 @@
+// What a key stands for in the workbench: menus, then the view's key table, then the engine.
+#include "editing/KeyTable.h"
+#include "platform/docview/ActionUI.h"
+#include "tests/host/WorkbenchTest.h"
+
+#include <QKeyEvent>
+#include <QMap>
+
+namespace {
+
+class Keys : public WorkbenchTest
+{
+protected:
+    QMap<QString, QList<QAction*>> Shortcuts() const
+    {
+        QMap<QString, QList<QAction*>> found;
+        for (QAction* action : m_window.findChildren<QAction*>()) {
+            for (const QKeySequence& keys : action->shortcuts())
+                found[keys.toString(QKeySequence::PortableText)] << action;
+        }
+        return found;
+    }
+
+    static UINT NumberOf(const QAction& action)
+    {
+        return CommandOf(action) != 0 ? CommandOf(action) : action.data().toUInt();
+    }
+
+    void Press(int key, Qt::KeyboardModifiers modifiers = {}, const QString& text = {})
+    {
+        QKeyEvent press(QEvent::KeyPress, key, modifiers, text);
+        QApplication::sendEvent(Editor().GetSafeHwnd(), &press);
+        QApplication::processEvents();
+        Disposal::Run();
+    }
+};
+
+} // namespace
+
+TEST_F(Keys, StandForOneActionOfTheMenusEach)
+{
+    const auto shortcuts = Shortcuts();
+    EXPECT_GT(shortcuts.size(), 25);
+    for (auto keys = shortcuts.begin(); keys != shortcuts.end(); ++keys)
+        EXPECT_EQ(keys->size(), 1) << keys.key().toStdString();
+}
+
+TEST_F(Keys, OfAMenuAndOfTheKeyTableStandForTheSameCommand)
+{
+    const auto shortcuts = Shortcuts();
+    int shared = 0;
+    for (const Accelerator& entry : *EditorKeyTable()) {
+        const QKeySequence keys(entry.modifiers | entry.key);
+        const QString name = keys.toString(QKeySequence::PortableText);
+        for (const QAction* action : shortcuts.value(name)) {
+            EXPECT_EQ(NumberOf(*action), entry.command) << name.toStdString();
+            ++shared;
+        }
+    }
+    EXPECT_GE(shared, 8);
+}
+
+TEST_F(Keys, TakeTheirEffectOnce)
+{
+    Open("a.sql", "abc\ndef\n");
+    Press(Qt::Key_Delete);
+    EXPECT_EQ(Text(), "bc\ndef\n");
+    Press(Qt::Key_Z, Qt::ControlModifier, QStringLiteral("\x1A"));
+    EXPECT_EQ(Text(), "abc\ndef\n");
+    Press(Qt::Key_X, {}, QStringLiteral("x"));
+    EXPECT_EQ(Text(), "xabc\ndef\n");
+}
+
+TEST_F(Keys, IndentASelectionAndPutInATabOtherwise)
+{
+    Open("a.sql", "abc\ndef\n");
+    Editor().SetUseTabs(1, 1);
+    Press(Qt::Key_Tab, {}, QStringLiteral("\t"));
+    EXPECT_EQ(Text(), "\tabc\ndef\n");
+    Editor().SelectAll(1);
+    Press(Qt::Key_Backtab, Qt::ShiftModifier);
+    EXPECT_EQ(Text(), "abc\ndef\n");
+}
+
+TEST_F(Keys, ReachBookmarks)
+{
+    Open("a.sql", "abc\ndef\nghi\n");
+    Editor().GotoLine(2, 1);
+    Press(Qt::Key_F2, Qt::ControlModifier);
+    Editor().GotoLine(0, 1);
+    Press(Qt::Key_F2);
+    EXPECT_EQ(Editor().GetCurLineNumber(), 2);
+}
+
+TEST_F(Keys, CloseOneTabOfAScript)
+{
+    Open("a.sql", "abc\n");
+    Trigger("newView");
+    Press(Qt::Key_F4, Qt::ControlModifier);
+    EXPECT_EQ(m_window.TabCount(), 1);
+    Press(Qt::Key_F4, Qt::ControlModifier);
+    EXPECT_EQ(m_window.TabCount(), 0);
+}
+
+TEST_F(Keys, GoToThePaneWithTheFocus)
+{
+    Open("a.sql", "abc\n");
+    Trigger("splitBelow");
+    const ScriptView* front = Frame().View();
+    Editor().GotoPos(3, 1);
+    Press(Qt::Key_X, {}, QStringLiteral("x"));
+    EXPECT_EQ(Text(), "abcx\n");
+    EXPECT_EQ(Frame().View(), front);
+}

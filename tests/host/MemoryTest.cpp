@@ -1,0 +1,196 @@
+// What the workbench remembers from one run to the next: the session, recent files, and a file that
+// it died on.
+#include "host/Places.h"
+#include "host/RecentMenu.h"
+#include "host/Session.h"
+#include "platform/SpecialFolders.h"
+#include "tests/host/WorkbenchTest.h"
+
+#include <QDir>
+#include <QJsonArray>
+#include <QJsonDocument>
+#include <QSettings>
+
+#include <memory>
+
+namespace {
+
+// Folders of the test's own, so that runs do not see each other.
+class OwnFolders final : public ISpecialFolders
+{
+public:
+    OwnFolders()
+    {
+        SetSpecialFolders(this);
+        QSettings::setPath(QSettings::IniFormat, QSettings::UserScope, folder.filePath("config"));
+    }
+    ~OwnFolders() override
+    {
+        SetSpecialFolders(nullptr);
+        QSettings::setPath(QSettings::IniFormat, QSettings::UserScope, GetConfig());
+    }
+    QString AppData() const override { return folder.filePath("data"); }
+
+    QTemporaryDir folder;
+
+private:
+    static QString GetConfig() { return znutils::CSpecialFolders::GetConfigPath(); }
+};
+
+class Memory : public testing::Test
+{
+protected:
+    ~Memory() override { m_app.reset(); }
+
+    void Start()
+    {
+        m_app.reset();
+        m_app = std::make_unique<Workbench>(Workbench::Keeps::Places);
+        m_window = new MainWindow(*m_app);
+        m_window->show();
+        m_window->ResumeSession();
+        QApplication::processEvents();
+    }
+
+    void End()
+    {
+        m_window->close();
+        ASSERT_FALSE(m_app->GetMainWnd());
+    }
+
+    QString Write(const QString& name, const QByteArray& bytes) const
+    {
+        QFile file(m_files.filePath(name));
+        if (!file.open(QIODevice::WriteOnly) || file.write(bytes) != bytes.size())
+            ADD_FAILURE() << file.errorString().toStdString();
+        return file.fileName();
+    }
+
+    CZNCoreEditorControlEx& Editor() const { return m_window->CurrentFrame()->Editor(); }
+
+    QStringList RecentEntries() const
+    {
+        auto* menu = m_window->findChild<RecentMenu*>();
+        Q_EMIT menu->aboutToShow();
+        QStringList texts;
+        for (const QAction* action : menu->actions())
+            texts << action->text();
+        return texts;
+    }
+
+    OwnFolders m_folders;
+    QTemporaryDir m_files;
+    ScriptedPrompts m_prompts;
+    std::unique_ptr<Workbench> m_app;
+    MainWindow* m_window = nullptr;
+};
+
+} // namespace
+
+TEST_F(Memory, BringsBackTheScriptsTheirPlacesAndTheOneInFront)
+{
+    Start();
+    ASSERT_TRUE(m_app->OpenDocumentFile(Write("a.sql", QByteArray("x\n").repeated(300))));
+    m_window->CurrentFrame()->View()->GoToLine(200);
+    const int top = Editor().GetFirstVisibleLine(1);
+    ASSERT_TRUE(m_app->OpenDocumentFile(Write("b.sql", "b\n")));
+    m_app->NewScript();
+    m_window->ShowTab(0);
+    m_window->resize(900, 500);
+    End();
+
+    Start();
+    EXPECT_EQ(m_window->TabCount(), 2) << "a script without a file is nothing to come back to";
+    EXPECT_EQ(m_window->CurrentFrame()->Script()->Name(), "a.sql");
+    EXPECT_EQ(Editor().LineFromPosition(Editor().GetCurrentPos(1), 1), 200);
+    EXPECT_EQ(Editor().GetFirstVisibleLine(1), top);
+    EXPECT_EQ(m_window->size(), QSize(900, 500));
+}
+
+TEST_F(Memory, PassesOverAFileThatIsGone)
+{
+    Start();
+    ASSERT_TRUE(m_app->OpenDocumentFile(Write("a.sql", "a\n")));
+    ASSERT_TRUE(m_app->OpenDocumentFile(Write("b.sql", "b\n")));
+    End();
+    QFile::remove(m_files.filePath("b.sql"));
+    Start();
+    EXPECT_EQ(m_window->TabCount(), 1);
+    EXPECT_TRUE(m_prompts.told.isEmpty());
+}
+
+TEST_F(Memory, KeepsALockAndAChosenEncoding)
+{
+    Start();
+    ASSERT_TRUE(m_app->OpenScript(Write("a.sql", "caf\xC3\xA9"), 0));
+    Editor().SetReadOnly(1, 1);
+    End();
+    Start();
+    EXPECT_EQ(Editor().GetText(), QStringLiteral("cafÃ©"));
+    EXPECT_TRUE(Editor().GetReadOnly(1));
+}
+
+TEST_F(Memory, HoldsWhatWasOpenWhenThePersonStays)
+{
+    Start();
+    ASSERT_TRUE(m_app->OpenDocumentFile(Write("a.sql", "a\n")));
+    Editor().ReplaceSel(u"x", 1);
+    m_window->close();
+    ASSERT_TRUE(m_app->GetMainWnd());
+    m_prompts.loseChanges = LoseChanges::Discard;
+    End();
+    EXPECT_EQ(Session::Load(Session::DefaultPath()).files.size(), 1);
+}
+
+TEST_F(Memory, ListsRecentFilesTheLastOneFirst)
+{
+    Start();
+    EXPECT_EQ(RecentEntries(), QStringList{"No files yet"});
+    ASSERT_TRUE(m_app->OpenDocumentFile(Write("a.sql", "a\n")));
+    ASSERT_TRUE(m_app->OpenDocumentFile(Write("b.sql", "b\n")));
+    EXPECT_EQ(RecentEntries(), (QStringList{"&1 b.sql", "&2 a.sql", "", "&Clear List"}));
+}
+
+TEST_F(Memory, OffersToForgetARecentFileThatIsGone)
+{
+    Start();
+    ASSERT_TRUE(m_app->OpenDocumentFile(Write("a.sql", "a\n")));
+    m_window->CurrentFrame()->Script()->OnCloseDocument();
+    QFile::remove(m_files.filePath("a.sql"));
+    RecentEntries();
+    m_window->findChild<RecentMenu*>()->actions().front()->trigger();
+    ASSERT_EQ(m_prompts.asked.size(), 1);
+    EXPECT_EQ(m_app->Recent().Paths().size(), 1);
+    m_prompts.confirm = true;
+    m_window->findChild<RecentMenu*>()->actions().front()->trigger();
+    EXPECT_TRUE(m_app->Recent().Paths().isEmpty());
+}
+
+TEST_F(Memory, AsksBeforeAFileIsOpenedThatTheLastRunDiedOn)
+{
+    const QString path = Write("a.sql", "a\n");
+    const QString marks = places::DataPath("opening");
+    ASSERT_TRUE(QDir().mkpath(marks));
+    QFile mark(marks + "/dead.opening");
+    ASSERT_TRUE(mark.open(QIODevice::WriteOnly));
+    mark.write(QJsonDocument(QJsonArray{path}).toJson());
+    mark.close();
+
+    Start();
+    EXPECT_FALSE(m_app->OpenDocumentFile(path));
+    ASSERT_EQ(m_prompts.asked.size(), 1);
+    EXPECT_TRUE(m_prompts.asked[0].contains("a.sql"));
+    EXPECT_EQ(m_window->TabCount(), 0);
+    EXPECT_TRUE(m_app->OpenDocumentFile(path)) << "the person has been asked";
+    EXPECT_EQ(m_prompts.asked.size(), 1);
+}
+
+TEST_F(Memory, HoldsNothingAgainstAFileThatWasOpenedWell)
+{
+    Start();
+    ASSERT_TRUE(m_app->OpenDocumentFile(Write("a.sql", "a\n")));
+    End();
+    Start();
+    EXPECT_EQ(m_window->TabCount(), 1);
+    EXPECT_TRUE(m_prompts.asked.isEmpty());
+}

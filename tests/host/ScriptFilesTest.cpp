@@ -1,0 +1,322 @@
+// A script and its file: opened, saved, reloaded, and changed by others meanwhile.
+#include "host/LineEnds.h"
+#include "tests/host/WorkbenchTest.h"
+
+#include <QDropEvent>
+#include <QElapsedTimer>
+#include <QMimeData>
+#include <QTabBar>
+#include <QTabWidget>
+#include <QUrl>
+
+#include <sys/stat.h>
+
+namespace {
+
+class ScriptFiles : public WorkbenchTest
+{
+protected:
+    // Somebody else writes; the time is another one even within the second.
+    void WriteFromOutside(const QString& name, const QByteArray& bytes) const
+    {
+        const QString path = Write(name, bytes);
+        QFile file(path);
+        ASSERT_TRUE(file.open(QIODevice::ReadWrite));
+        ASSERT_TRUE(file.setFileTime(QDateTime::currentDateTime().addSecs(-3600),
+                                     QFileDevice::FileModificationTime));
+    }
+
+    // The person turns to something else in the window, and back to the script.
+    void LeaveAndComeBack()
+    {
+        ASSERT_TRUE(m_window.isActiveWindow());
+        QWidget other(&m_window);
+        other.setFocusPolicy(Qt::StrongFocus);
+        other.show();
+        other.setFocus();
+        QApplication::processEvents();
+        ASSERT_TRUE(other.hasFocus());
+        Frame().View()->SetFocus();
+        for (int pass = 0; pass < 3; ++pass)
+            QApplication::processEvents();
+        Disposal::Run();
+    }
+
+    QString Caption() const
+    {
+        const auto* tabs = m_window.findChild<QTabWidget*>();
+        return tabs->tabText(tabs->currentIndex());
+    }
+
+    void MakeReadOnly(const QString& name) const
+    {
+        ASSERT_EQ(chmod(PathOf(name).toLocal8Bit().constData(), 0444), 0);
+    }
+
+    bool WaitUntil(const std::function<bool()>& condition) const
+    {
+        QElapsedTimer clock;
+        clock.start();
+        while (!condition() && clock.elapsed() < 10000)
+            QApplication::processEvents(QEventLoop::AllEvents, 20);
+        return condition();
+    }
+
+    void Drop(QWidget& onto, const QStringList& files) const
+    {
+        QMimeData data;
+        QList<QUrl> urls;
+        for (const QString& file : files)
+            urls << QUrl::fromLocalFile(file);
+        data.setUrls(urls);
+        QDragEnterEvent enter(QPoint(5, 5), Qt::CopyAction, &data, Qt::LeftButton, Qt::NoModifier);
+        QApplication::sendEvent(&onto, &enter);
+        EXPECT_TRUE(enter.isAccepted());
+        QDropEvent drop(QPointF(5, 5), Qt::CopyAction, &data, Qt::LeftButton, Qt::NoModifier);
+        QApplication::sendEvent(&onto, &drop);
+        EXPECT_TRUE(drop.isAccepted());
+        QApplication::processEvents();
+    }
+};
+
+} // namespace
+
+TEST_F(ScriptFiles, OpenInAnEncodingOfChoice)
+{
+    m_prompts.whatToOpen = OpenChoice{Write("a.sql", "caf\xC3\xA9"), 0};
+    Trigger("openAs");
+    EXPECT_EQ(Text(), QStringLiteral("cafÃ©"));
+    EXPECT_EQ(Status("encoding"), "windows-1252");
+    m_prompts.whatToOpen = OpenChoice{PathOf("a.sql"), 6};
+    Trigger("openAs");
+    EXPECT_EQ(m_window.TabCount(), 1);
+    EXPECT_EQ(Text(), QStringLiteral("café"));
+    EXPECT_EQ(Status("encoding"), "UTF-8");
+}
+
+TEST_F(ScriptFiles, KeepTheirChangesOverAnotherEncodingUnlessThePersonGivesThemUp)
+{
+    Open("a.sql", "caf\xC3\xA9");
+    Type(u"x");
+    m_prompts.whatToOpen = OpenChoice{PathOf("a.sql"), 0};
+    Trigger("openAs");
+    EXPECT_EQ(m_prompts.asked, QStringList{"a.sql"});
+    EXPECT_EQ(Text(), QStringLiteral("xcafé"));
+}
+
+TEST_F(ScriptFiles, OpenAtTheLineThatTheCommandLineNames)
+{
+    const QString path = Write("a.sql", "one\ntwo\nthree\n");
+    const QString other = Write("b.sql", "b\n");
+    EXPECT_TRUE(m_window.OpenPlaces({path + ":3", other}));
+    EXPECT_EQ(Script().Name(), "a.sql") << "the first of them is in front";
+    EXPECT_EQ(Status("caret"), "Line 3, column 1");
+    EXPECT_FALSE(m_window.OpenPlaces({PathOf("gone.sql:3")}));
+    EXPECT_TRUE(m_prompts.told.value(0).contains("gone.sql” does not exist"));
+}
+
+TEST_F(ScriptFiles, AreAllSavedByOneCommand)
+{
+    Open("a.sql", "a");
+    EXPECT_FALSE(Action("saveAll").isEnabled());
+    Type(u"x");
+    Open("b.sql", "b");
+    Type(u"y");
+    EXPECT_TRUE(Action("saveAll").isEnabled());
+    Trigger("saveAll");
+    EXPECT_EQ(Read("a.sql"), "xa");
+    EXPECT_EQ(Read("b.sql"), "yb");
+    EXPECT_FALSE(Action("saveAll").isEnabled());
+}
+
+TEST_F(ScriptFiles, ComeBackAsTheyAreOnDisk)
+{
+    Open("a.sql", "a");
+    EXPECT_FALSE(Action("reload").isEnabled());
+    Type(u"x");
+    EXPECT_TRUE(Action("reload").isEnabled());
+    Trigger("reload");
+    ASSERT_EQ(m_prompts.told.size(), 1);
+    EXPECT_TRUE(m_prompts.told[0].contains("reload"));
+    EXPECT_EQ(Text(), "xa");
+    m_prompts.answer = Answer::Yes;
+    Trigger("reload");
+    EXPECT_EQ(Text(), "a");
+    EXPECT_EQ(Caption(), "a.sql");
+}
+
+TEST_F(ScriptFiles, AreLockedAgainstChangesByASwitch)
+{
+    Open("a.sql", "a");
+    EXPECT_FALSE(Action("readOnlySwitch").isChecked());
+    Trigger("readOnlySwitch");
+    EXPECT_EQ(Caption(), "a.sql (Read Only)");
+    EXPECT_TRUE(Action("readOnlySwitch").isChecked());
+    EXPECT_TRUE(m_window.windowTitle().startsWith("a.sql (Read Only)"));
+    ASSERT_EQ(m_prompts.told.size(), 1) << "whether the file shall be, too";
+    Editor().ReplaceSel(u"x", 1);
+    EXPECT_EQ(Text(), "a");
+    Trigger("readOnlySwitch");
+    EXPECT_EQ(Caption(), "a.sql");
+}
+
+TEST_F(ScriptFiles, ThatMayNotBeWrittenAreMarkedAndSavedElsewhere)
+{
+    Write("a.sql", "a");
+    MakeReadOnly("a.sql");
+    ASSERT_TRUE(m_app.OpenDocumentFile(PathOf("a.sql")));
+    EXPECT_EQ(Caption(), "a.sql (Read Only)");
+    EXPECT_EQ(Status("readOnly"), "Read-only");
+    EXPECT_FALSE(Action("readOnlySwitch").isEnabled());
+    m_prompts.saveTarget = SaveTarget{PathOf("b.sql"), 6, false};
+    EXPECT_TRUE(Script().DoFileSave());
+    EXPECT_EQ(Read("b.sql"), "a");
+    EXPECT_EQ(Caption(), "b.sql");
+}
+
+TEST_F(ScriptFiles, ThatOthersRewriteAreReadAgainOnYes)
+{
+    Open("a.sql", "old");
+    LeaveAndComeBack();
+    EXPECT_TRUE(m_prompts.told.isEmpty());
+    WriteFromOutside("a.sql", "new");
+    m_prompts.answer = Answer::Yes;
+    LeaveAndComeBack();
+    ASSERT_EQ(m_prompts.told.size(), 1);
+    EXPECT_TRUE(m_prompts.told[0].contains("modified outside"));
+    EXPECT_EQ(Text(), "new");
+    EXPECT_FALSE(Script().IsModified());
+    LeaveAndComeBack();
+    EXPECT_EQ(m_prompts.told.size(), 1);
+}
+
+TEST_F(ScriptFiles, ThatOthersRewriteAreNotLostAfterANo)
+{
+    Open("a.sql", "old");
+    LeaveAndComeBack();
+    WriteFromOutside("a.sql", "new");
+    LeaveAndComeBack();
+    EXPECT_EQ(Text(), "old");
+    EXPECT_EQ(Caption(), "a.sql *") << "the text stands here and nowhere else";
+    Type(u"x");
+    Trigger("undo");
+    EXPECT_EQ(Caption(), "a.sql *");
+    Trigger("close");
+    EXPECT_EQ(m_prompts.asked, QStringList{"a.sql"});
+    Trigger("save");
+    EXPECT_EQ(Read("a.sql"), "old");
+    EXPECT_EQ(Caption(), "a.sql");
+}
+
+TEST_F(ScriptFiles, ThatWereKeptAgainstTheFileCanStillBeReloaded)
+{
+    Open("a.sql", "old");
+    LeaveAndComeBack();
+    WriteFromOutside("a.sql", "new");
+    LeaveAndComeBack();
+    m_prompts.answer = Answer::Yes;
+    Trigger("reload");
+    EXPECT_EQ(Text(), "new");
+    EXPECT_EQ(Caption(), "a.sql");
+}
+
+TEST_F(ScriptFiles, ThatAreDeletedStayOnNoAndCanBeSavedAgain)
+{
+    Open("a.sql", "text");
+    LeaveAndComeBack();
+    QFile::remove(PathOf("a.sql"));
+    LeaveAndComeBack();
+    ASSERT_EQ(m_prompts.told.size(), 1);
+    EXPECT_TRUE(m_prompts.told[0].contains("deleted outside"));
+    LeaveAndComeBack();
+    EXPECT_EQ(m_prompts.told.size(), 1);
+    EXPECT_EQ(Caption(), "a.sql *");
+    Trigger("save");
+    EXPECT_EQ(Read("a.sql"), "text");
+}
+
+TEST_F(ScriptFiles, ThatAreDeletedCloseOnYesWithoutAFurtherQuestion)
+{
+    Open("a.sql", "text");
+    LeaveAndComeBack();
+    QFile::remove(PathOf("a.sql"));
+    m_prompts.answer = Answer::Yes;
+    LeaveAndComeBack();
+    EXPECT_EQ(m_window.TabCount(), 0);
+    EXPECT_TRUE(m_prompts.asked.isEmpty());
+}
+
+TEST_F(ScriptFiles, ThatOthersLockBecomeReadOnlyHere)
+{
+    Open("a.sql", "text");
+    LeaveAndComeBack();
+    MakeReadOnly("a.sql");
+    LeaveAndComeBack();
+    EXPECT_TRUE(m_prompts.told.isEmpty());
+    EXPECT_EQ(Caption(), "a.sql (Read Only)");
+}
+
+TEST_F(ScriptFiles, AreSavedInUtf8WhenTheirCodePageWouldLoseACharacter)
+{
+    Open("a.sql", "caf\xE9\n");
+    Type(u"\u0142");
+    m_prompts.loseCharacters = LoseCharacters::SaveAsUtf8;
+    Trigger("save");
+    EXPECT_EQ(Read("a.sql"), QStringLiteral("łcafé\n").toUtf8());
+    EXPECT_EQ(Status("encoding"), "UTF-8");
+    EXPECT_EQ(Caption(), "a.sql");
+}
+
+TEST_F(ScriptFiles, ChangeTheirEncodingUnderTheirOwnName)
+{
+    Open("a.sql", "caf\xC3\xA9");
+    m_prompts.saveTarget = SaveTarget{PathOf("a.sql"), 0, false};
+    Trigger("saveAs");
+    EXPECT_EQ(Read("a.sql"), "caf\xE9");
+    EXPECT_EQ(Caption(), "a.sql");
+}
+
+TEST_F(ScriptFiles, KeepTheirEncodingWhenASaveInAnotherOneFails)
+{
+    Open("a.sql", "caf\xC3\xA9");
+    m_prompts.saveTarget = SaveTarget{PathOf("gone/a.sql"), 2, true};
+    Trigger("saveAs");
+    EXPECT_EQ(m_prompts.told.size(), 1);
+    EXPECT_EQ(Status("encoding"), "UTF-8");
+    EXPECT_EQ(Caption(), "a.sql");
+}
+
+TEST_F(ScriptFiles, DoNotTakeThePlaceOfOneThatIsOpen)
+{
+    Open("a.sql", "a");
+    Open("b.sql", "b");
+    m_prompts.saveTarget = SaveTarget{PathOf("a.sql"), 6, false};
+    Trigger("saveAs");
+    ASSERT_EQ(m_prompts.told.size(), 1);
+    EXPECT_TRUE(m_prompts.told[0].contains("is open in another tab"));
+    EXPECT_EQ(Read("a.sql"), "a");
+}
+
+TEST_F(ScriptFiles, TellOfMixedLineEnds)
+{
+    Open("a.sql", "one\r\ntwo\nthree\r\n");
+    EXPECT_TRUE(WaitUntil([this] { return Status("lineEnds") == "Mixed"; }))
+        << Status("lineEnds").toStdString();
+    Trigger("endsWindows");
+    EXPECT_TRUE(WaitUntil([this] { return Status("lineEnds") == "CR LF"; }))
+        << Status("lineEnds").toStdString();
+}
+
+TEST_F(ScriptFiles, OpenWhenTheyAreDroppedOnTheWindowItsTabsOrAScript)
+{
+    Open("a.sql", "a");
+    const QString b = Write("b.sql", "b");
+    const QString c = Write("c.sql", "c");
+    const QString d = Write("d.sql", "d");
+    auto* viewport = qobject_cast<QAbstractScrollArea*>(Editor().GetSafeHwnd())->viewport();
+    Drop(*viewport, {b, c});
+    EXPECT_EQ(m_window.TabCount(), 3);
+    EXPECT_EQ(m_window.FrameAt(0)->Editor().GetText(), "a") << "no path is put into a text";
+    Drop(*m_window.findChild<QTabWidget*>()->tabBar(), {d});
+    EXPECT_EQ(Script().Name(), "d.sql");
+}
