@@ -20,24 +20,6 @@ constexpr EncodingChoice kChoices[] = {
 };
 // clang-format on
 
-// The characters of 0x80 to 0x9F in windows-1252, in the order of Unicode.
-constexpr char16_t kHighCharacters[] = {
-    0x0152, 0x0153, 0x0160, 0x0161, 0x0178, 0x017D, 0x017E, 0x0192, 0x02C6,
-    0x02DC, 0x2013, 0x2014, 0x2018, 0x2019, 0x201A, 0x201C, 0x201D, 0x201E,
-    0x2020, 0x2021, 0x2022, 0x2026, 0x2030, 0x2039, 0x203A, 0x20AC, 0x2122,
-};
-// Bytes without a character of their own, which stand for the control characters of their value.
-constexpr char16_t kControls[] = {0x81, 0x8D, 0x8F, 0x90, 0x9D};
-
-bool IsInWindows1252(char16_t unit)
-{
-    if (unit < 0x80 || (unit >= 0xA0 && unit <= 0xFF))
-        return true;
-    return std::ranges::binary_search(unit < 0xA0 ? std::span<const char16_t>(kControls)
-                                                  : std::span<const char16_t>(kHighCharacters),
-                                      unit);
-}
-
 const EncodingChoice* FindChoice(int encoding, bool mark)
 {
     // A code page has no mark, whatever the flag of the file says.
@@ -79,9 +61,4 @@ QString LineEndName(int mode)
     default:
         return {};
     }
-}
-
-bool FitsWindows1252(QStringView text)
-{
-    return std::all_of(text.utf16(), text.utf16() + text.size(), IsInWindows1252);
 }

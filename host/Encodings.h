@@ -3,7 +3,6 @@
 #pragma once
 
 #include <QString>
-#include <QStringView>
 
 #include <span>
 
@@ -25,6 +24,3 @@ int IndexOfEncoding(int encoding, bool mark);
 
 // The line-end mode of the control in words; empty for a mode that is none.
 QString LineEndName(int mode);
-
-// Whether windows-1252 has every character of the text; what it lacks is saved as question marks.
-bool FitsWindows1252(QStringView text);

@@ -2,7 +2,7 @@
 
 #include "editing/Library.h"
 #include "editing/ZNCoreEditorWidget.h"
-#include "host/EditorTab.h"
+#include "host/ScriptDoc.h"
 #include "platform/Units.h"
 #include "preprocess/CompileManager.h"
 
@@ -63,21 +63,21 @@ ExpandedScript::~ExpandedScript()
     m_editor->disconnect(this);
 }
 
-EditorTab* ExpandedScript::Script() const
+ScriptDoc* ExpandedScript::Script() const
 {
-    return m_script;
+    return m_script && !m_script->IsClosed() ? m_script.data() : nullptr;
 }
 
-void ExpandedScript::Expand(EditorTab& tab)
+void ExpandedScript::Expand(ScriptDoc& script, CZNCoreEditorControlEx& editor)
 {
-    m_script = &tab;
-    setWindowTitle(QStringLiteral("Expanded Script – %1").arg(tab.Name()));
-    m_editor->setLanguage(tab.Language());
+    m_script = &script;
+    setWindowTitle(QStringLiteral("Expanded Script – %1").arg(script.Name()));
+    m_editor->setLanguage(script.Language());
     CZNCoreEditorControlEx& control = m_editor->control();
     control.SetCarefulFiles(true);
     control.SetReadOnly(0, 1);
-    control.SetEOLMode(tab.Editor().GetEOLMode(1), 1);
-    control.SetText(Units(tab.Editor().GetText()), 1);
+    control.SetEOLMode(editor.GetEOLMode(1), 1);
+    control.SetText(Units(editor.GetText()), 1);
     QString expanded;
     control.GetWindowTextW(expanded);
     control.EmptyUndoBuffer(1);

@@ -7,8 +7,9 @@
 #include <QDockWidget>
 #include <QPointer>
 
-class EditorTab;
+class CZNCoreEditorControlEx;
 class QTreeWidget;
+class ScriptDoc;
 class ZNCoreEditorWidget;
 struct SCNotification;
 
@@ -21,10 +22,10 @@ public:
     ~ExpandedScript() override;
 
     // Works on a copy, so the script, its caret and its undo stay as they are.
-    void Expand(EditorTab& tab);
+    void Expand(ScriptDoc& script, CZNCoreEditorControlEx& editor);
 
-    // The script that is shown, null once its tab is gone.
-    EditorTab* Script() const;
+    // The script that is shown, null once it is closed.
+    ScriptDoc* Script() const;
 
     void PutOriginalBack();
     void GoToSource(); // of the caret's line
@@ -40,6 +41,6 @@ private:
 
     ZNCoreEditorWidget* m_editor;
     QTreeWidget* m_errors;
-    QPointer<EditorTab> m_script;
+    QPointer<ScriptDoc> m_script;
     SourceMap m_map;
 };

@@ -1,23 +1,30 @@
+// MainWindow: tabs and what is shown of them. The menus stand in MainWindowCommands, what is
+// remembered between two runs in MainWindowSession.
 #include "host/MainWindow.h"
 
-#include "editing/ZNCoreEditorControlEx.h"
 #include "host/AutosaveDialog.h"
-#include "host/EditorTab.h"
 #include "host/ExpandedScript.h"
+#include "host/FileDrops.h"
+#include "host/FilePlace.h"
 #include "host/LanguageMenu.h"
+#include "host/MainFrame.h"
 #include "host/OptionsDialog.h"
 #include "host/ProblemPane.h"
 #include "host/Prompts.h"
+#include "host/RecentFiles.h"
 #include "host/ScriptChecker.h"
+#include "host/ScriptDoc.h"
+#include "host/ScriptFrame.h"
+#include "host/ScriptTabs.h"
+#include "host/ScriptView.h"
 #include "host/StatusIndicators.h"
+#include "host/Workbench.h"
 
 #include <QClipboard>
-#include <QCloseEvent>
-#include <QDir>
 #include <QFileInfo>
 #include <QGuiApplication>
-#include <QMimeData>
-#include <QTabWidget>
+#include <QPointer>
+#include <QTimer>
 
 #include <algorithm>
 
@@ -25,71 +32,53 @@ namespace {
 
 constexpr int kProblemsHeight = 110; // pixels, of some four lines
 
-// The file behind a path whichever way it is written; the path itself while there is no file.
-QString SameFile(const QString& path)
-{
-    const QFileInfo info(path);
-    return info.exists() ? info.canonicalFilePath() : info.absoluteFilePath();
-}
-
 } // namespace
 
-MainWindow::MainWindow(Prompts& prompts)
-    : m_prompts(prompts), m_tabs(new QTabWidget(this)), m_status(new StatusIndicators(statusBar())),
-      m_problems(new ProblemPane(this)), m_expanded(new ExpandedScript(this))
+MainWindow::MainWindow(Workbench& app)
+    : m_app(app), m_frame(new MainFrame(*this)), m_tabs(new ScriptTabs(this)),
+      m_status(new StatusIndicators(statusBar())), m_problems(new ProblemPane(this)),
+      m_expanded(new ExpandedScript(this)), m_sessionTimer(new QTimer(this))
 {
-    m_tabs->setTabsClosable(true);
-    m_tabs->setMovable(true);
-    m_tabs->setDocumentMode(true);
     setCentralWidget(m_tabs);
     addDockWidget(Qt::BottomDockWidgetArea, m_problems);
     resizeDocks({m_problems}, {kProblemsHeight}, Qt::Vertical);
     connect(m_problems, &ProblemPane::Chosen, this, [this](long start, long end) {
-        if (EditorTab* tab = CurrentTab())
-            tab->SelectRange(start, end);
+        if (const ScriptFrame* frame = CurrentFrame())
+            frame->View()->SelectRange(start, end);
     });
     addDockWidget(Qt::RightDockWidgetArea, m_expanded);
     m_expanded->hide();
     connect(m_expanded, &ExpandedScript::SourceChosen, this, &MainWindow::ShowSource);
-    connect(m_tabs, &QTabWidget::currentChanged, this, [this] {
-        UpdateAll();
-        ListProblems();
-        if (EditorTab* tab = CurrentTab())
-            tab->setFocus();
-    });
-    connect(m_tabs, &QTabWidget::tabCloseRequested, this, &MainWindow::CloseTab);
+    connect(m_tabs, &ScriptTabs::Added, this, &MainWindow::OnTabAdded);
+    connect(m_tabs, &ScriptTabs::currentChanged, this, &MainWindow::OnCurrentChanged);
+    connect(m_tabs, &ScriptTabs::tabCloseRequested, this, &MainWindow::CloseTab);
+    FileDrops::Take(*this);
 
     BuildMenus();
-    // Asked when it changes only: on some platforms each question goes to another program.
-    const auto readClipboard = [this] {
-        const QMimeData* content = QGuiApplication::clipboard()->mimeData();
-        m_clipboardHasText = content && content->hasText();
-        UpdateCommands();
-    };
-    connect(QGuiApplication::clipboard(), &QClipboard::dataChanged, this, readClipboard);
-    readClipboard();
+    connect(QGuiApplication::clipboard(), &QClipboard::dataChanged, this,
+            &MainWindow::UpdateCommands);
     resize(1100, 720);
     UpdateAll();
 }
 
+// The tabs go after this part of the window does, and tell of it.
 MainWindow::~MainWindow()
 {
-    // The tabs go after this part of the window does, and tell of it.
     m_tabs->disconnect(this);
-    for (int i = 0; i < TabCount(); ++i)
-        TabAt(i)->disconnect(this);
-    for (int i = 0; i < TabCount(); ++i)
-        TabAt(i)->Checker().disconnect(this);
+    for (ScriptDoc* script : m_app.Scripts())
+        script->disconnect(this);
 }
 
-EditorTab* MainWindow::CurrentTab() const
+ScriptFrame* MainWindow::CurrentFrame() const
 {
-    return TabAt(m_tabs->currentIndex());
+    return FrameAt(m_tabs->currentIndex());
 }
 
-EditorTab* MainWindow::TabAt(int index) const
+// A frame whose script has gone is on its way out.
+ScriptFrame* MainWindow::FrameAt(int index) const
 {
-    return qobject_cast<EditorTab*>(m_tabs->widget(index));
+    ScriptFrame* frame = ScriptFrame::Of(m_tabs->widget(index));
+    return frame && frame->Script() ? frame : nullptr;
 }
 
 int MainWindow::TabCount() const
@@ -102,184 +91,97 @@ void MainWindow::ShowTab(int index)
     m_tabs->setCurrentIndex(index);
 }
 
-EditorTab* MainWindow::AddTab()
+bool MainWindow::OpenPlaces(const QStringList& words)
 {
-    auto* tab = new EditorTab(QStringLiteral("Script %1").arg(++m_untitledCount), m_tabs);
-    connect(tab, &EditorTab::StateChanged, this, [this, tab] { OnTabChanged(tab); });
-    connect(&tab->Checker(), &ScriptChecker::ProblemsChanged, this, [this, tab] {
-        if (tab == CurrentTab())
+    bool opened = true;
+    QPointer<QWidget> first;
+    for (const QString& word : words) {
+        const FilePlace place = ParseFilePlace(word);
+        const ScriptFrame* frame = m_app.OpenDocumentFile(place.path) ? CurrentFrame() : nullptr;
+        if (frame && place.line > 0)
+            frame->View()->GoToLine(place.line - 1);
+        if (frame && !first)
+            first = frame->GetSafeHwnd();
+        opened = opened && frame;
+    }
+    if (first)
+        m_tabs->setCurrentWidget(first);
+    return opened;
+}
+
+void MainWindow::OpenRecent(const QString& path)
+{
+    if (QFileInfo::exists(path))
+        m_app.OpenDocumentFile(path);
+    else if (GetPrompts().Confirm(this, RecentFileIsGoneQuestion(path), QStringLiteral("Remove")))
+        m_app.Recent().Remove(path);
+}
+
+void MainWindow::OnTabAdded(QWidget* page)
+{
+    if (const ScriptFrame* frame = ScriptFrame::Of(page); frame && frame->Script())
+        Follow(*frame->Script());
+    KeepSessionSoon();
+}
+
+// A script has one set of connections, whatever the number of its tabs.
+void MainWindow::Follow(ScriptDoc& script)
+{
+    script.disconnect(this);
+    connect(&script, &ScriptDoc::StateChanged, this, [this, &script] { OnScriptChanged(script); });
+    connect(&script, &ScriptDoc::ProblemsChanged, this, [this, &script] {
+        const ScriptFrame* frame = CurrentFrame();
+        if (frame && frame->Script() == &script)
             ListProblems();
     });
-    connect(tab, &EditorTab::LanguageChanged, this, [this, tab] {
-        ApplyView(*tab);
-        OnTabChanged(tab);
+    connect(&script, &ScriptDoc::LanguageChanged, this, [this, &script] {
+        ApplyView(script);
+        OnScriptChanged(script);
     });
-    ApplyView(*tab);
-    return tab;
+    ApplyView(script);
+    OnScriptChanged(script);
+    ListProblems();
 }
 
-void MainWindow::NewScript()
+void MainWindow::OnCurrentChanged()
 {
-    EditorTab* tab = AddTab();
-    m_tabs->setCurrentIndex(m_tabs->addTab(tab, {}));
-    OnTabChanged(tab);
-}
-
-QString MainWindow::OpenScript(const QString& path)
-{
-    if (const int index = IndexOfFile(path); index >= 0) {
-        ShowTab(index);
-        return {};
-    }
-    EditorTab* tab = AddTab();
-    if (const QString problem = tab->Load(path); !problem.isEmpty()) {
-        delete tab;
-        return problem;
-    }
-    // The empty script that the window began with makes room.
-    EditorTab* previous = CurrentTab();
-    m_tabs->setCurrentIndex(m_tabs->addTab(tab, {}));
-    if (previous && previous->IsUntouched())
-        delete previous;
-    OnTabChanged(tab);
-    return {};
-}
-
-int MainWindow::IndexOfFile(const QString& path) const
-{
-    const QString file = SameFile(path);
-    for (int i = 0; i < TabCount(); ++i) {
-        if (!TabAt(i)->Path().isEmpty() && SameFile(TabAt(i)->Path()) == file)
-            return i;
-    }
-    return -1;
-}
-
-QString MainWindow::FolderToStartIn() const
-{
-    const EditorTab* tab = CurrentTab();
-    return tab && !tab->Path().isEmpty() ? QFileInfo(tab->Path()).path() : QDir::currentPath();
-}
-
-void MainWindow::Open()
-{
-    for (const QString& path : m_prompts.FilesToOpen(this, FolderToStartIn())) {
-        if (const QString problem = OpenScript(path); !problem.isEmpty())
-            m_prompts.Tell(this, problem);
-    }
-}
-
-bool MainWindow::Save()
-{
-    return SaveTab(*CurrentTab());
-}
-
-bool MainWindow::SaveAs()
-{
-    return SaveTabAs(*CurrentTab());
-}
-
-bool MainWindow::SaveTab(EditorTab& tab)
-{
-    return tab.Path().isEmpty() ? SaveTabAs(tab) : WriteTab(tab, tab.CurrentTarget());
-}
-
-bool MainWindow::SaveTabAs(EditorTab& tab)
-{
-    SaveTarget proposal = tab.CurrentTarget();
-    if (proposal.path.isEmpty())
-        proposal.path = QDir(FolderToStartIn()).filePath(tab.Name() + QStringLiteral(".sql"));
-    const std::optional<SaveTarget> target = m_prompts.WhereToSave(this, proposal);
-    return target && WriteTab(tab, *target);
-}
-
-bool MainWindow::WriteTab(EditorTab& tab, const SaveTarget& target)
-{
-    const bool sameFile = !tab.Path().isEmpty() && SameFile(target.path) == SameFile(tab.Path());
-    if (sameFile && tab.Editor().WasCutShort() &&
-        !m_prompts.Confirm(this,
-                           QStringLiteral("Only the first part of “%1” could be read. Saving it "
-                                          "under its own name loses the rest of the file.")
-                               .arg(tab.Name()),
-                           QStringLiteral("Overwrite")))
-        return false;
-    if (!tab.CanHold(target.encoding) &&
-        !m_prompts.Confirm(
-            this,
-            QStringLiteral("“%1” has characters that windows-1252 lacks. They become "
-                           "question marks in the file. Save As with a Unicode "
-                           "encoding keeps them.")
-                .arg(tab.Name()),
-            QStringLiteral("Save with Question Marks")))
-        return false;
-    const QString problem = tab.Save(target);
-    if (!problem.isEmpty())
-        m_prompts.Tell(this, problem);
-    return problem.isEmpty();
-}
-
-bool MainWindow::MayLose(EditorTab& tab)
-{
-    if (!tab.IsModified())
-        return true;
-    m_tabs->setCurrentWidget(&tab);
-    switch (m_prompts.BeforeLosing(this, tab.Name())) {
-    case LoseChanges::Save:
-        return SaveTab(tab);
-    case LoseChanges::Discard:
-        return true;
-    default:
-        return false;
-    }
-}
-
-void MainWindow::CloseScript()
-{
-    CloseTab(m_tabs->currentIndex());
+    if (ScriptFrame* frame = CurrentFrame())
+        frame->BecomeActive();
+    UpdateAll();
+    ListProblems();
+    KeepSessionSoon();
 }
 
 void MainWindow::CloseTab(int index)
 {
-    EditorTab* tab = TabAt(index);
-    if (!tab || !MayLose(*tab))
-        return;
-    delete tab;
-    UpdateAll();
+    if (const ScriptFrame* frame = FrameAt(index))
+        SendMessage(frame->GetSafeHwnd(), WM_CLOSE, 0, 0);
 }
 
-void MainWindow::Quit()
+void MainWindow::ApplyView(const ScriptDoc& script)
 {
-    close();
-}
-
-void MainWindow::closeEvent(QCloseEvent* event)
-{
-    for (int i = 0; i < TabCount(); ++i) {
-        if (!MayLose(*TabAt(i))) {
-            event->ignore();
-            return;
-        }
+    const std::vector<CView*> views = script.GetViews();
+    for (CView* view : views) {
+        auto* shown = dynamic_cast<ScriptView*>(view);
+        if (!shown)
+            continue;
+        CZNCoreEditorControlEx& editor = shown->GetCoreEditorControlRef();
+        editor.SetViewWS(m_showWhitespace ? 1 : 0, 1);
+        editor.SetViewEOL(m_showLineEnds, 1);
+        editor.SetWrapMode(m_wrapLines ? 1 : 0, 1);
     }
-    event->accept();
-}
-
-void MainWindow::ApplyView(const EditorTab& tab)
-{
-    tab.Editor().SetViewWS(m_showWhitespace ? 1 : 0, 1);
-    tab.Editor().SetViewEOL(m_showLineEnds, 1);
-    tab.Editor().SetWrapMode(m_wrapLines ? 1 : 0, 1);
 }
 
 void MainWindow::ApplyViewToAll()
 {
-    for (int i = 0; i < TabCount(); ++i)
-        ApplyView(*TabAt(i));
+    for (const ScriptDoc* script : m_app.Scripts())
+        ApplyView(*script);
 }
 
 void MainWindow::SetLanguage(int language)
 {
-    if (EditorTab* tab = CurrentTab())
-        tab->SetLanguage(language);
+    if (const ScriptFrame* frame = CurrentFrame())
+        frame->Script()->SetLanguage(language);
 }
 
 void MainWindow::ChangeOptions()
@@ -297,88 +199,94 @@ void MainWindow::ChangeAutosave()
     if (dialog.exec() != QDialog::Accepted)
         return;
     dialog.Settings().Store();
-    for (int i = 0; i < TabCount(); ++i)
-        dialog.Settings().ApplyTo(TabAt(i)->Editor());
+    for (const ScriptDoc* script : m_app.Scripts())
+        dialog.Settings().ApplyTo(script->FirstView()->GetCoreEditorControlRef());
 }
 
 void MainWindow::FollowOptions()
 {
-    for (int i = 0; i < TabCount(); ++i)
-        TabAt(i)->FollowOptions();
+    for (ScriptDoc* script : m_app.Scripts())
+        script->FollowOptions();
 }
 
 void MainWindow::ListProblems()
 {
     m_problems->Clear();
-    const EditorTab* tab = CurrentTab();
-    if (!tab)
+    const ScriptFrame* frame = CurrentFrame();
+    const ScriptChecker* checker = frame ? frame->Script()->Checker() : nullptr;
+    if (!checker)
         return;
-    for (const ScriptProblem& problem : tab->Checker().Problems())
-        m_problems->Add(problem, tab->Editor().LineFromPosition(problem.start, 1));
+    for (const ScriptProblem& problem : checker->Problems())
+        m_problems->Add(problem, frame->Editor().LineFromPosition(problem.start, 1));
 }
 
 // The first one behind the caret, from the end on the first of all.
 void MainWindow::NextProblem()
 {
-    EditorTab* tab = CurrentTab();
-    const std::vector<ScriptProblem>& problems = tab->Checker().Problems();
-    if (problems.empty())
+    const ScriptFrame* frame = CurrentFrame();
+    const ScriptChecker* checker = frame ? frame->Script()->Checker() : nullptr;
+    if (!checker || checker->Problems().empty())
         return;
-    const long caret = tab->Editor().GetSelectionStart(1);
+    const std::vector<ScriptProblem>& problems = checker->Problems();
+    const long caret = frame->Editor().GetSelectionStart(1);
     const auto behind = std::find_if(problems.begin(), problems.end(),
                                      [caret](const ScriptProblem& p) { return p.start > caret; });
     const ScriptProblem& next = behind != problems.end() ? *behind : problems.front();
-    tab->SelectRange(next.start, next.end);
+    frame->View()->SelectRange(next.start, next.end);
 }
 
 void MainWindow::ExpandScript()
 {
-    m_expanded->Expand(*CurrentTab());
-    m_expanded->show();
+    if (const ScriptFrame* frame = CurrentFrame()) {
+        m_expanded->Expand(*frame->Script(), frame->Editor());
+        m_expanded->show();
+    }
 }
 
 void MainWindow::ShowSource(const QString& path, long line)
 {
-    EditorTab* script = m_expanded->Script();
-    if (path.isEmpty() && script)
-        m_tabs->setCurrentWidget(script);
-    else if (path.isEmpty())
+    ScriptDoc* script = m_expanded->Script();
+    CFrameWnd* frame = script ? script->FirstView()->GetParentFrame() : nullptr;
+    if (!path.isEmpty() ? !m_app.OpenDocumentFile(path) : !frame)
         return;
-    else if (const QString problem = OpenScript(path); !problem.isEmpty())
-        return m_prompts.Tell(this, problem);
-    CZNCoreEditorControlEx& editor = CurrentTab()->Editor();
-    editor.GotoLine(static_cast<int>(line), 1);
-    CurrentTab()->setFocus();
+    if (path.isEmpty())
+        frame->ActivateFrame();
+    if (ScriptFrame* current = CurrentFrame()) {
+        current->Editor().GotoLine(static_cast<int>(line), 1);
+        current->View()->SetFocus();
+    }
 }
 
-void MainWindow::OnTabChanged(EditorTab* tab)
+void MainWindow::OnScriptChanged(ScriptDoc& script)
 {
-    UpdateCaptions(tab);
-    if (tab == CurrentTab())
+    for (const CView* view : script.GetViews()) {
+        if (CFrameWnd* frame = view->GetParentFrame())
+            frame->OnUpdateFrameTitle();
+    }
+    const ScriptFrame* frame = CurrentFrame();
+    if (frame && frame->Script() == &script)
         UpdateAll();
 }
 
-void MainWindow::UpdateCaptions(EditorTab* tab)
+// The mark of a change is Qt's, so that desktops which show it in a way of their own can.
+void MainWindow::UpdateTitle()
 {
-    const int index = m_tabs->indexOf(tab);
-    if (index < 0)
-        return;
-    // A single ampersand would mark the letter behind it.
-    QString caption = tab->Name().replace(u'&', QLatin1String("&&"));
-    if (tab->IsModified())
-        caption += u'*';
-    if (m_tabs->tabText(index) != caption)
-        m_tabs->setTabText(index, caption);
-    m_tabs->setTabToolTip(index, QDir::toNativeSeparators(tab->Path()));
+    const ScriptFrame* frame = CurrentFrame();
+    QString caption = frame ? frame->Caption() : QString();
+    const bool isModified = caption.endsWith(QLatin1String(" *"));
+    if (isModified)
+        caption.chop(1);
+    setWindowTitle(frame ? caption.replace(QLatin1String("[*]"), QLatin1String("[*][*]")) +
+                               QLatin1String("[*] – znworkbench")
+                         : QStringLiteral("znworkbench"));
+    setWindowModified(isModified);
 }
 
 void MainWindow::UpdateAll()
 {
-    const EditorTab* tab = CurrentTab();
-    setWindowTitle(tab ? QStringLiteral("%1[*] – znworkbench").arg(tab->Name())
-                       : QStringLiteral("znworkbench"));
-    setWindowModified(tab && tab->IsModified());
-    m_status->Show(tab);
-    m_languages->ShowLanguage(tab ? tab->Language() : -1);
+    const ScriptFrame* frame = CurrentFrame();
+    UpdateTitle();
+    m_status->Show(frame);
+    m_languages->ShowLanguage(frame ? frame->Script()->Language() : -1);
     UpdateCommands();
 }

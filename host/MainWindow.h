@@ -1,60 +1,52 @@
-// The workbench's window: tabs of scripts, the menus that act on them, the status bar.
+// The workbench's window: the tabs, the menus that act on the script in front, the status bar. The
+// scripts are the application's documents.
 #pragma once
 
 #include <QMainWindow>
 
 #include <span>
-#include <vector>
 
 class EditingMenu;
-class EditorTab;
 class ExpandedScript;
 class LanguageMenu;
+class MainFrame;
 class ProblemPane;
-class Prompts;
-struct SaveTarget;
-class QTabWidget;
+class QTimer;
+class ScriptDoc;
+class ScriptFrame;
+class ScriptTabs;
 class StatusIndicators;
+class Workbench;
+struct SessionFile;
 
+// Made with new: it goes when it is closed, or with the application.
 class MainWindow final : public QMainWindow
 {
     Q_OBJECT
 
 public:
-    // The prompts outlive the window.
-    explicit MainWindow(Prompts& prompts);
+    explicit MainWindow(Workbench& app);
     ~MainWindow() override;
 
-    // Opens a script in a tab, or shows the tab that has it. Empty if it did, else a sentence that
-    // tells why it did not.
-    QString OpenScript(const QString& path);
+    // Opens files as a command line names them, path or path:line, and shows the first of them.
+    // False if one was not opened, of which the person knows.
+    bool OpenPlaces(const QStringList& words);
 
-    EditorTab* CurrentTab() const;
-    EditorTab* TabAt(int index) const;
+    ScriptFrame* CurrentFrame() const; // null if there is none
+    ScriptFrame* FrameAt(int index) const;
     int TabCount() const;
     void ShowTab(int index);
 
+    // What was open when the last window closed, and where that stood. From here on it is kept up
+    // to date.
+    void ResumeSession();
+    void EndSession(); // the last state is that of this moment
+
     void SetLanguage(int language); // of the current script
     void FollowOptions();           // in every script, at once
+    void UpdateAll();               // what is shown of the script in front
 
-    // The commands of the menus. Those with a result answer false when the person, or a failure,
-    // kept things as they were.
-    void NewScript();
-    void Open();
-    bool Save();
-    bool SaveAs();
-    void CloseScript();
-    void Quit();
-    void Undo();
-    void Redo();
-    void Cut();
-    void Copy();
-    void Paste();
-    void Delete();
-    void SelectAll();
-    void ZoomIn();
-    void ZoomOut();
-    void ResetZoom();
+    // The commands of the menus that are the window's own.
     void ShowWhitespace(bool show);
     void ShowLineEnds(bool show);
     void WrapLines(bool wrap);
@@ -65,9 +57,6 @@ public:
     void NextScript();
     void PreviousScript();
 
-protected:
-    void closeEvent(QCloseEvent* event) override;
-
 private:
     struct Command;
     enum class When;
@@ -77,33 +66,34 @@ private:
     QAction* AddCommand(const Command& command);
     bool IsPossible(When when) const;
     void UpdateCommands();
+    void OpenRecent(const QString& path);
 
-    EditorTab* AddTab();
+    void OnTabAdded(QWidget* page);
+    void OnCurrentChanged();
     void CloseTab(int index);
-    bool SaveTab(EditorTab& tab);
-    bool SaveTabAs(EditorTab& tab);
-    bool WriteTab(EditorTab& tab, const SaveTarget& target);
-    bool MayLose(EditorTab& tab);
-    void ApplyView(const EditorTab& tab);
+    void Follow(ScriptDoc& script);
+    void OnScriptChanged(ScriptDoc& script);
+    void ApplyView(const ScriptDoc& script);
     void ApplyViewToAll();
-    int IndexOfFile(const QString& path) const;
-    QString FolderToStartIn() const;
-    void OnTabChanged(EditorTab* tab);
     void ListProblems();
     void ShowSource(const QString& path, long line);
-    void UpdateCaptions(EditorTab* tab);
-    void UpdateAll();
+    void UpdateTitle();
 
-    Prompts& m_prompts;
-    QTabWidget* m_tabs;
+    void KeepSessionSoon();
+    void KeepSession();
+    void Resume(const SessionFile& file);
+
+    Workbench& m_app;
+    MainFrame* m_frame; // goes with this window
+    ScriptTabs* m_tabs;
     StatusIndicators* m_status;
     LanguageMenu* m_languages = nullptr;
     ProblemPane* m_problems;
     ExpandedScript* m_expanded;
     EditingMenu* m_editing = nullptr;
-    std::vector<QAction*> m_actions; // of the named commands, in their order
-    int m_untitledCount = 0;
-    bool m_clipboardHasText = false;
+    QTimer* m_sessionTimer;
+    QList<QAction*> m_actions; // of the named commands, in their order
+    bool m_keepsSession = false;
     bool m_showWhitespace = false;
     bool m_showLineEnds = false;
     bool m_wrapLines = false;

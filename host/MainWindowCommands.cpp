@@ -1,32 +1,38 @@
 // The menus of the workbench: what each command is called, its keys, and when it is possible.
+//
+// Keys: a menu's shortcut comes first, then the key table of the view with the focus, then the
+// editor. Where the table has a key of a menu, both stand for the same command.
 #include "editing/ZNCoreEditorControlEx.h"
 #include "host/EditingMenu.h"
-#include "host/EditorTab.h"
 #include "host/LanguageMenu.h"
+#include "host/MainFrame.h"
 #include "host/MainWindow.h"
 #include "host/ProblemPane.h"
+#include "host/RecentMenu.h"
+#include "host/ScriptDoc.h"
+#include "host/ScriptFrame.h"
+#include "host/ScriptTabs.h"
+#include "host/Workbench.h"
+#include "host/WorkbenchCommands.h"
+#include "platform/docview/ActionUI.h"
+#include "platform/docview/CommandIds.h"
 
 #include <QAction>
 #include <QKeySequence>
 #include <QMenu>
 #include <QMenuBar>
-#include <QTabWidget>
 
 #include <type_traits>
 
 enum class MainWindow::When
 {
     Always,
-    Script,  // a script is shown
-    Unsaved, // it has changes, or no file yet
-    Undoable,
-    Redoable,
-    Selected,
-    EditSelected, // something is selected and may be changed
-    Pasteable,
+    Script, // a script is shown
     SeveralScripts,
 };
 
+// A row has the number of a command, which is routed from the script in front to the application
+// and says itself when it is possible; or, with 0, an operation of the window.
 struct MainWindow::Command
 {
     const char* menu;
@@ -34,6 +40,7 @@ struct MainWindow::Command
     const char* text = nullptr;
     QKeySequence::StandardKey keys = QKeySequence::UnknownKey;
     const char* moreKeys = nullptr; // where the platform has none, or not all that people try
+    UINT id = 0;
     When when = When::Always;
     void (*run)(MainWindow& window, bool checked) = nullptr;
     bool checkable = false;
@@ -58,42 +65,51 @@ std::span<const MainWindow::Command> MainWindow::Commands()
     using W = MainWindow;
     // clang-format off
     static const Command commands[] = {
-        {"&File", "new",       "&New",          Key::New,          nullptr,        When::Always,  Run<&W::NewScript>},
-        {"&File", "open",      "&Open...",      Key::Open,         nullptr,        When::Always,  Run<&W::Open>},
+        {"&File", "new",       "&New",          Key::New,          nullptr,        ID_FILE_NEW},
+        {"&File", "open",      "&Open...",      Key::Open,         nullptr,        ID_FILE_OPEN},
+        {"&File", "openAs",    "Open with &Encoding...", Key::UnknownKey, "Ctrl+Shift+O", command::OpenAs},
         {"&File", nullptr},
-        {"&File", "save",      "&Save",         Key::Save,         nullptr,        When::Unsaved, Run<&W::Save>},
-        {"&File", "saveAs",    "Save &As...",   Key::SaveAs,       "Ctrl+Shift+S", When::Script,  Run<&W::SaveAs>},
+        {"&File", "save",      "&Save",         Key::Save,         nullptr,        ID_FILE_SAVE},
+        {"&File", "saveAs",    "Save &As...",   Key::SaveAs,       "Ctrl+Shift+S", ID_FILE_SAVE_AS},
+        {"&File", "saveAll",   "Save A&ll",     Key::UnknownKey,   "Ctrl+Alt+S",   command::SaveAll},
+        {"&File", "reload",    "Reloa&d",       Key::UnknownKey,   nullptr,        54008},
+        {"&File", "readOnlySwitch", "Read Onl&y", Key::UnknownKey, nullptr,        54010},
         {"&File", nullptr},
-        {"&File", "close",     "&Close",        Key::Close,        "Ctrl+W",       When::Script,  Run<&W::CloseScript>},
-        {"&File", "quit",      "&Quit",         Key::Quit,         "Ctrl+Q",       When::Always,  Run<&W::Quit>},
+        {"&File", "close",     "&Close",        Key::Close,        "Ctrl+W",       ID_FILE_CLOSE},
+        {"&File", "quit",      "&Quit",         Key::Quit,         "Ctrl+Q",       ID_APP_EXIT},
 
-        {"&Edit", "undo",      "&Undo",         Key::Undo,         nullptr,  When::Undoable,     Run<&W::Undo>},
-        {"&Edit", "redo",      "&Redo",         Key::Redo,         "Ctrl+Y", When::Redoable,     Run<&W::Redo>},
+        {"&Edit", "undo",      "&Undo",         Key::Undo,         nullptr,  57643},
+        {"&Edit", "redo",      "&Redo",         Key::Redo,         "Ctrl+Y", 57644},
         {"&Edit", nullptr},
-        {"&Edit", "cut",       "Cu&t",          Key::Cut,          nullptr,  When::EditSelected, Run<&W::Cut>},
-        {"&Edit", "copy",      "&Copy",         Key::Copy,         nullptr,  When::Selected,     Run<&W::Copy>},
-        {"&Edit", "paste",     "&Paste",        Key::Paste,        nullptr,  When::Pasteable,    Run<&W::Paste>},
-        {"&Edit", "delete",    "&Delete",       Key::Delete,       nullptr,  When::EditSelected, Run<&W::Delete>},
+        {"&Edit", "cut",       "Cu&t",          Key::Cut,          nullptr,  57635},
+        {"&Edit", "copy",      "&Copy",         Key::Copy,         nullptr,  57634},
+        {"&Edit", "paste",     "&Paste",        Key::Paste,        nullptr,  57637},
+        {"&Edit", "delete",    "&Delete",       Key::Delete,       nullptr,  53899},
         {"&Edit", nullptr},
-        {"&Edit", "selectAll", "Select &All",   Key::SelectAll,    nullptr,  When::Script,       Run<&W::SelectAll>},
+        {"&Edit", "selectAll", "Select &All",   Key::SelectAll,    nullptr,  57642},
 
-        {"&View", "zoomIn",    "Zoom &In",      Key::ZoomIn,       "Ctrl+=", When::Script, Run<&W::ZoomIn>},
-        {"&View", "zoomOut",   "Zoom &Out",     Key::ZoomOut,      nullptr,  When::Script, Run<&W::ZoomOut>},
-        {"&View", "zoomReset", "&Reset Zoom",   Key::UnknownKey,   "Ctrl+0", When::Script, Run<&W::ResetZoom>},
+        {"&View", "zoomIn",    "Zoom &In",      Key::ZoomIn,       "Ctrl+=", 53962},
+        {"&View", "zoomOut",   "Zoom &Out",     Key::ZoomOut,      nullptr,  53963},
+        {"&View", "zoomReset", "&Reset Zoom",   Key::UnknownKey,   "Ctrl+0", 53964},
         {"&View", nullptr},
-        {"&View", "whitespace", "&Whitespace",  Key::UnknownKey,   nullptr,  When::Always, Run<&W::ShowWhitespace>, true},
-        {"&View", "lineEnds",   "Line &Ends",   Key::UnknownKey,   nullptr,  When::Always, Run<&W::ShowLineEnds>,   true},
-        {"&View", "wrap",       "W&rap Lines",  Key::UnknownKey,   nullptr,  When::Always, Run<&W::WrapLines>,      true},
+        {"&View", "whitespace", "&Whitespace",  Key::UnknownKey,   nullptr,  0, When::Always, Run<&W::ShowWhitespace>, true},
+        {"&View", "lineEnds",   "Line &Ends",   Key::UnknownKey,   nullptr,  0, When::Always, Run<&W::ShowLineEnds>,   true},
+        {"&View", "wrap",       "Wr&ap Lines",  Key::UnknownKey,   nullptr,  0, When::Always, Run<&W::WrapLines>,      true},
         {"&View", nullptr},
-        {"&View", "nextProblem", "Next Pro&blem", Key::UnknownKey, "F8",   When::Script, Run<&W::NextProblem>},
+        {"&View", "splitBelow",  "Split &Above and Below", Key::UnknownKey, "Ctrl+\\",       command::SplitBelow},
+        {"&View", "splitBeside", "Split Side &by Side",    Key::UnknownKey, "Ctrl+Shift+\\", command::SplitBeside},
+        {"&View", "otherPane",   "Ot&her Pane",            Key::UnknownKey, "F6",            command::OtherPane},
+        {"&View", "newView",     "New &View",              Key::UnknownKey, nullptr,         ID_WINDOW_NEW},
         {"&View", nullptr},
-        {"&View", "next",      "Ne&xt Script",     Key::NextChild,     nullptr, When::SeveralScripts, Run<&W::NextScript>},
-        {"&View", "previous",  "&Previous Script", Key::PreviousChild, nullptr, When::SeveralScripts, Run<&W::PreviousScript>},
+        {"&View", "nextProblem", "Next Proble&m", Key::UnknownKey, "F8",   0, When::Script, Run<&W::NextProblem>},
+        {"&View", nullptr},
+        {"&View", "next",      "Ne&xt Script",     Key::NextChild,     nullptr, 0, When::SeveralScripts, Run<&W::NextScript>},
+        {"&View", "previous",  "&Previous Script", Key::PreviousChild, nullptr, 0, When::SeveralScripts, Run<&W::PreviousScript>},
 
-        {"&Tools", "expand",   "&Expanded Script", Key::UnknownKey, "F9",    When::Script, Run<&W::ExpandScript>},
+        {"&Tools", "expand",   "&Expanded Script", Key::UnknownKey, "F9",    0, When::Script, Run<&W::ExpandScript>},
         {"&Tools", nullptr},
-        {"&Tools", "options",  "&Options...",   Key::Preferences,  "Ctrl+,", When::Always, Run<&W::ChangeOptions>},
-        {"&Tools", "autosave", "&Autosave...",  Key::UnknownKey,   nullptr,  When::Always, Run<&W::ChangeAutosave>},
+        {"&Tools", "options",  "&Options...",   Key::Preferences,  "Ctrl+,", 0, When::Always, Run<&W::ChangeOptions>},
+        {"&Tools", "autosave", "&Autosave...",  Key::UnknownKey,   nullptr,  0, When::Always, Run<&W::ChangeAutosave>},
     };
     // clang-format on
     return commands;
@@ -109,8 +125,11 @@ QAction* MainWindow::AddCommand(const Command& command)
         keys << more;
     action->setShortcuts(keys);
     action->setCheckable(command.checkable);
-    connect(action, &QAction::triggered, this,
-            [this, run = command.run](bool checked) { run(*this, checked); });
+    if (command.id != 0)
+        SetCommand(*action, command.id, this);
+    else
+        connect(action, &QAction::triggered, this,
+                [this, run = command.run](bool checked) { run(*this, checked); });
     return action;
 }
 
@@ -118,6 +137,8 @@ void MainWindow::BuildMenus()
 {
     m_languages = new LanguageMenu(this);
     connect(m_languages, &LanguageMenu::Chosen, this, &MainWindow::SetLanguage);
+    auto* recent = new RecentMenu(m_app.Recent(), this);
+    connect(recent, &RecentMenu::Chosen, this, &MainWindow::OpenRecent);
     QMenu* menu = nullptr;
     QMenu* edit = nullptr;
     for (const Command& command : Commands()) {
@@ -135,32 +156,20 @@ void MainWindow::BuildMenus()
             menu->addAction(m_actions.emplace_back(AddCommand(command)));
         else
             menu->addSeparator();
+        if (command.id == command::OpenAs)
+            menu->addMenu(recent);
     }
     m_editing = new EditingMenu(*edit, [this] {
-        const EditorTab* tab = CurrentTab();
-        return tab ? &tab->Editor() : nullptr;
+        const ScriptFrame* frame = CurrentFrame();
+        return frame ? &frame->Editor() : nullptr;
     });
 }
 
 bool MainWindow::IsPossible(When when) const
 {
-    const EditorTab* tab = CurrentTab();
-    if (when == When::Always || !tab)
-        return when == When::Always;
-    const bool editable = !tab->IsReadOnly();
     switch (when) {
-    case When::Unsaved:
-        return tab->IsModified() || tab->Path().isEmpty();
-    case When::Undoable:
-        return editable && tab->Editor().CanUndo(1);
-    case When::Redoable:
-        return editable && tab->Editor().CanRedo(1);
-    case When::Selected:
-        return tab->HasSelection();
-    case When::EditSelected:
-        return editable && tab->HasSelection();
-    case When::Pasteable:
-        return editable && m_clipboardHasText;
+    case When::Script:
+        return CurrentFrame() != nullptr;
     case When::SeveralScripts:
         return TabCount() > 1;
     default:
@@ -170,62 +179,15 @@ bool MainWindow::IsPossible(When when) const
 
 void MainWindow::UpdateCommands()
 {
+    UpdateActions(m_actions, *m_frame);
     auto action = m_actions.begin();
     for (const Command& command : Commands()) {
+        if (command.name && command.id == 0)
+            (*action)->setEnabled(IsPossible(command.when));
         if (command.name)
-            (*action++)->setEnabled(IsPossible(command.when));
+            ++action;
     }
     m_editing->Update();
-}
-
-void MainWindow::Undo()
-{
-    CurrentTab()->Editor().Undo(1);
-}
-
-void MainWindow::Redo()
-{
-    CurrentTab()->Editor().Redo(1);
-}
-
-void MainWindow::Cut()
-{
-    CurrentTab()->Editor().Cut(1);
-}
-
-void MainWindow::Copy()
-{
-    CurrentTab()->Editor().Copy(1);
-}
-
-void MainWindow::Paste()
-{
-    CurrentTab()->Editor().Paste(1);
-}
-
-void MainWindow::Delete()
-{
-    CurrentTab()->Editor().Clear(1);
-}
-
-void MainWindow::SelectAll()
-{
-    CurrentTab()->Editor().SelectAll(1);
-}
-
-void MainWindow::ZoomIn()
-{
-    CurrentTab()->Editor().ZoomIn(1);
-}
-
-void MainWindow::ZoomOut()
-{
-    CurrentTab()->Editor().ZoomOut(1);
-}
-
-void MainWindow::ResetZoom()
-{
-    CurrentTab()->Editor().SetZoom(0, 1);
 }
 
 void MainWindow::ShowWhitespace(bool show)

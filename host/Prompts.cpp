@@ -1,16 +1,46 @@
 #include "host/Prompts.h"
 
+#include "host/OpenAsDialog.h"
 #include "host/SaveAsDialog.h"
 
 #include <QFileDialog>
 #include <QMessageBox>
 #include <QPushButton>
 
+namespace {
+
+Prompts*& Current()
+{
+    static Prompts* current = nullptr;
+    return current;
+}
+
+} // namespace
+
+Prompts& GetPrompts()
+{
+    static DialogPrompts dialogs;
+    return Current() ? *Current() : dialogs;
+}
+
+void SetPrompts(Prompts* prompts)
+{
+    Current() = prompts;
+}
+
 QStringList DialogPrompts::FilesToOpen(QWidget* parent, const QString& folder)
 {
     return QFileDialog::getOpenFileNames(
         parent, QStringLiteral("Open"), folder,
         QStringLiteral("SQL scripts (*.sql *.pks *.pkb *.ddl);;All files (*)"));
+}
+
+std::optional<OpenChoice> DialogPrompts::WhatToOpen(QWidget* parent, const QString& folder)
+{
+    OpenAsDialog dialog(parent, folder);
+    if (dialog.exec() != QDialog::Accepted)
+        return std::nullopt;
+    return dialog.Choice();
 }
 
 std::optional<SaveTarget> DialogPrompts::WhereToSave(QWidget* parent, const SaveTarget& proposal)
@@ -39,9 +69,24 @@ LoseChanges DialogPrompts::BeforeLosing(QWidget* parent, const QString& name)
     }
 }
 
-bool DialogPrompts::Confirm(QWidget* parent, const QString& text, const QString& doIt)
+LoseCharacters DialogPrompts::BeforeQuestionMarks(QWidget* parent, const QString& text)
 {
     QMessageBox box(QMessageBox::Warning, QStringLiteral("Save"), text, QMessageBox::Cancel,
+                    parent);
+    box.setTextFormat(Qt::PlainText);
+    const auto* utf8 = box.addButton(QStringLiteral("Save as &UTF-8"), QMessageBox::AcceptRole);
+    const auto* anyway =
+        box.addButton(QStringLiteral("Save with &Question Marks"), QMessageBox::DestructiveRole);
+    box.setDefaultButton(QMessageBox::Cancel);
+    box.exec();
+    if (box.clickedButton() == utf8)
+        return LoseCharacters::SaveAsUtf8;
+    return box.clickedButton() == anyway ? LoseCharacters::SaveAnyway : LoseCharacters::Cancel;
+}
+
+bool DialogPrompts::Confirm(QWidget* parent, const QString& text, const QString& doIt)
+{
+    QMessageBox box(QMessageBox::Warning, QStringLiteral("znworkbench"), text, QMessageBox::Cancel,
                     parent);
     box.setTextFormat(Qt::PlainText);
     const auto* yes = box.addButton(doIt, QMessageBox::AcceptRole);

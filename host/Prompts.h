@@ -1,5 +1,6 @@
 // What the workbench asks and tells a person. An interface, so that a run without anyone in front
-// of it (a picture, a test) answers by itself.
+// of it (a picture, a test) answers by itself. The questions of the editor's own documents go
+// through IUserQuestions.
 #pragma once
 
 #include <QString>
@@ -16,10 +17,23 @@ struct SaveTarget
     bool mark = false;
 };
 
+struct OpenChoice
+{
+    QString path;
+    int encoding = -1; // a number of FileEncodeConverter; -1: detect it
+};
+
 enum class LoseChanges
 {
     Save,
     Discard,
+    Cancel
+};
+
+enum class LoseCharacters
+{
+    SaveAsUtf8,
+    SaveAnyway,
     Cancel
 };
 
@@ -29,9 +43,12 @@ public:
     virtual ~Prompts() = default;
 
     virtual QStringList FilesToOpen(QWidget* parent, const QString& folder) = 0; // empty: none
+    // Which file, and how to read it; nothing if the person thought better of it.
+    virtual std::optional<OpenChoice> WhatToOpen(QWidget* parent, const QString& folder) = 0;
     // Where and how to save; nothing if the person thought better of it.
     virtual std::optional<SaveTarget> WhereToSave(QWidget* parent, const SaveTarget& proposal) = 0;
     virtual LoseChanges BeforeLosing(QWidget* parent, const QString& name) = 0;
+    virtual LoseCharacters BeforeQuestionMarks(QWidget* parent, const QString& text) = 0;
     virtual bool Confirm(QWidget* parent, const QString& text, const QString& doIt) = 0;
     virtual void Tell(QWidget* parent, const QString& text) = 0;
 };
@@ -41,8 +58,15 @@ class DialogPrompts final : public Prompts
 {
 public:
     QStringList FilesToOpen(QWidget* parent, const QString& folder) override;
+    std::optional<OpenChoice> WhatToOpen(QWidget* parent, const QString& folder) override;
     std::optional<SaveTarget> WhereToSave(QWidget* parent, const SaveTarget& proposal) override;
     LoseChanges BeforeLosing(QWidget* parent, const QString& name) override;
+    LoseCharacters BeforeQuestionMarks(QWidget* parent, const QString& text) override;
     bool Confirm(QWidget* parent, const QString& text, const QString& doIt) override;
     void Tell(QWidget* parent, const QString& text) override;
 };
+
+// The prompts of the process: the dialogs, unless others are set, which stay the caller's. Null
+// brings the dialogs back.
+Prompts& GetPrompts();
+void SetPrompts(Prompts* prompts);

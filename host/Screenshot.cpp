@@ -2,6 +2,7 @@
 
 #include "host/MainWindow.h"
 #include "host/Prompts.h"
+#include "host/Workbench.h"
 #include "platform/Questions.h"
 #include "platform/SpecialFolders.h"
 
@@ -21,10 +22,28 @@ void Report(const QString& text)
 class PrintedPrompts final : public Prompts, public IUserQuestions
 {
 public:
+    PrintedPrompts()
+    {
+        SetPrompts(this);
+        SetUserQuestions(this);
+    }
+    ~PrintedPrompts() override
+    {
+        SetPrompts(nullptr);
+        SetUserQuestions(nullptr);
+    }
+
     QStringList FilesToOpen(QWidget*, const QString&) override { return {}; }
+    std::optional<OpenChoice> WhatToOpen(QWidget*, const QString&) override { return {}; }
     std::optional<SaveTarget> WhereToSave(QWidget*, const SaveTarget&) override { return {}; }
     LoseChanges BeforeLosing(QWidget*, const QString&) override { return LoseChanges::Cancel; }
     void Tell(QWidget*, const QString& text) override { Report(text); }
+
+    LoseCharacters BeforeQuestionMarks(QWidget*, const QString& text) override
+    {
+        Report(text);
+        return LoseCharacters::Cancel;
+    }
 
     bool Confirm(QWidget*, const QString& text, const QString&) override
     {
@@ -55,25 +74,17 @@ public:
 int TakeScreenshot(const QStringList& files, const QString& picture)
 {
     const WithoutCopies withoutCopies;
-    PrintedPrompts prompts;
-    SetUserQuestions(&prompts);
-    int result = 0;
-    MainWindow window(prompts);
-    for (const QString& file : files) {
-        if (const QString problem = window.OpenScript(file); !problem.isEmpty()) {
-            Report(problem);
-            result = 1;
-        }
-    }
-    if (window.TabCount() == 0)
-        window.NewScript();
-    window.ShowTab(0);
-    window.show();
+    const PrintedPrompts prompts;
+    Workbench app(Workbench::Keeps::Nothing);
+    auto* window = new MainWindow(app);
+    int result = window->OpenPlaces(files) ? 0 : 1;
+    if (window->TabCount() == 0)
+        app.NewScript();
+    window->show();
     QApplication::processEvents(); // lays out and paints
-    if (!window.grab().save(picture)) {
+    if (!window->grab().save(picture)) {
         Report(QStringLiteral("the picture “%1” cannot be written.").arg(picture));
         result = 1;
     }
-    SetUserQuestions(nullptr);
     return result;
 }

@@ -3,8 +3,11 @@
 #include "editing/FileTypeManager.h"
 #include "editing/Library.h"
 #include "editing/ZNCoreEditorControlEx.h"
-#include "host/EditorTab.h"
 #include "host/Encodings.h"
+#include "host/LineEnds.h"
+#include "host/ScriptDoc.h"
+#include "host/ScriptFrame.h"
+#include "host/ScriptView.h"
 
 #include <QLabel>
 #include <QStatusBar>
@@ -43,22 +46,23 @@ QLabel* StatusIndicators::AddField(const char* name, const QString& widest)
     return label;
 }
 
-void StatusIndicators::Show(const EditorTab* tab)
+void StatusIndicators::Show(const ScriptFrame* frame)
 {
-    if (!tab) {
+    ScriptDoc* script = frame ? frame->Script() : nullptr;
+    if (!script || !script->LineEnds()) {
         for (QLabel* label : {m_readOnly, m_modified, m_caret, m_catalog, m_language, m_encoding,
                               m_lineEnds, m_overtype})
             label->clear();
         return;
     }
-    const SaveTarget target = tab->CurrentTarget();
-    m_readOnly->setText(tab->IsReadOnly() ? QStringLiteral("Read-only") : QString());
-    m_modified->setText(tab->IsModified() ? QStringLiteral("Modified") : QString());
-    m_caret->setText(tab->CaretText());
-    m_catalog->setText(tab->Catalog());
-    m_language->setText(LanguageName(tab->Language()));
+    const SaveTarget target = script->CurrentTarget();
+    CZNCoreEditorControlEx& editor = frame->Editor();
+    m_readOnly->setText(script->IsReadOnly() ? QStringLiteral("Read-only") : QString());
+    m_modified->setText(script->IsModified() ? QStringLiteral("Modified") : QString());
+    m_caret->setText(frame->View()->CaretText());
+    m_catalog->setText(frame->View()->Catalog());
+    m_language->setText(LanguageName(script->Language()));
     m_encoding->setText(EncodingName(target.encoding, target.mark));
-    m_lineEnds->setText(LineEndName(tab->Editor().GetEOLMode(1)));
-    m_overtype->setText(tab->Editor().GetOvertype(1) ? QStringLiteral("OVR")
-                                                     : QStringLiteral("INS"));
+    m_lineEnds->setText(LineEndText(script->LineEnds()->Kind(), editor.GetEOLMode(1)));
+    m_overtype->setText(editor.GetOvertype(1) ? QStringLiteral("OVR") : QStringLiteral("INS"));
 }

@@ -3,16 +3,16 @@
 
 #include <QObject>
 
-class EditorTab;
 class QLabel;
 class QStatusBar;
+class ScriptFrame;
 
 class StatusIndicators final : public QObject
 {
 public:
     explicit StatusIndicators(QStatusBar* bar);
 
-    void Show(const EditorTab* tab); // null: all empty
+    void Show(const ScriptFrame* frame); // null: all empty
 
 private:
     QLabel* AddField(const char* name, const QString& widest);

@@ -2,8 +2,8 @@
 #include "control/ZNCoreEditorControl.h"
 #include "host/Arguments.h"
 #include "host/MainWindow.h"
-#include "host/Prompts.h"
 #include "host/Screenshot.h"
+#include "host/Workbench.h"
 
 #include <QApplication>
 
@@ -25,16 +25,13 @@ bool EngineIsThere()
 
 int RunInteractively(const QStringList& files)
 {
-    DialogPrompts prompts;
-    MainWindow window(prompts);
-    window.show();
-    for (const QString& file : files) {
-        if (const QString problem = window.OpenScript(file); !problem.isEmpty())
-            prompts.Tell(&window, problem);
-    }
-    if (window.TabCount() == 0)
-        window.NewScript();
-    window.ShowTab(0);
+    Workbench app(Workbench::Keeps::Places);
+    auto* window = new MainWindow(app);
+    window->show();
+    window->ResumeSession();
+    window->OpenPlaces(files);
+    if (window->TabCount() == 0)
+        app.NewScript();
     return QApplication::exec();
 }
 

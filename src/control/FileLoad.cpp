@@ -112,6 +112,15 @@ void CZNCoreEditorControl::ReadInFileContents(std::FILE* file, Encoding encoding
         DiscoverEOLSetting(kLinesToJudge);
 }
 
+void CZNCoreEditorControl::AdoptFile(const CZNCoreEditorControl& other)
+{
+    m_strFileName = other.m_strFileName;
+    m_nEncoding = other.m_nEncoding;
+    m_bWriteEncodingSig = other.m_bWriteEncodingSig;
+    m_bCutShort = other.m_bCutShort;
+    m_bModified = other.m_bModified;
+}
+
 void CZNCoreEditorControl::RecordEncoding(Encoding found)
 {
     if (found == FileEncodeConverter::encUTF8Cookie)

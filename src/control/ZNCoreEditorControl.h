@@ -110,6 +110,9 @@ public:
     bool GetCarefulFiles() const { return m_bCarefulFiles; }
     // Whether the file holds more than was loaded, so that a save over it would lose the rest.
     bool WasCutShort() const { return m_bCutShort; }
+    // Puts the other control's file behind this one's text, with all that is known of it. For the
+    // last view of a text whose other views go.
+    void AdoptFile(const CZNCoreEditorControl& other);
 
     // Autosave: while a document with a file behind it is modified, a copy of it is written each
     // time the minutes have passed, and taken away when the text is saved or closed. A copy that

@@ -1,5 +1,6 @@
 // Autosave in the workbench: what a killed one leaves is offered by the next, and the settings
 // reach every script.
+#include "editing/ZNCoreEditorWidget.h"
 #include "host/AutosaveDialog.h"
 #include "platform/Timer.h"
 #include "tests/host/WorkbenchTest.h"
@@ -67,23 +68,23 @@ TEST_F(AutosaveInWorkbench, OffersWhatAKilledOneLeftAndLoadsItOnYes)
     EXPECT_EQ(Read(QStringLiteral("a.sql")), QByteArray("select 1;\n"));
 
     m_prompts.answer = Answer::Yes;
-    ASSERT_EQ(m_window.OpenScript(script), QString());
+    ASSERT_TRUE(m_app.OpenDocumentFile(script));
     ASSERT_EQ(m_prompts.told.size(), 1);
     EXPECT_TRUE(m_prompts.told[0].startsWith(
         QStringLiteral("znworkbench has detected a more recent version of the file ") + script));
     EXPECT_EQ(Text(), QStringLiteral("-- typed\nselect 1;\n"));
-    EXPECT_TRUE(Tab().IsModified());
+    EXPECT_TRUE(Script().IsModified());
     EXPECT_TRUE(m_window.isWindowModified());
     Trigger("undo");
     EXPECT_EQ(Text(), QStringLiteral("select 1;\n"));
-    EXPECT_FALSE(Tab().IsModified());
+    EXPECT_FALSE(Script().IsModified());
     Trigger("redo");
     Trigger("save");
     EXPECT_EQ(Read(QStringLiteral("a.sql")), QByteArray("-- typed\nselect 1;\n"));
 
     // The copy is gone with the answer.
     Trigger("close");
-    ASSERT_EQ(m_window.OpenScript(script), QString());
+    ASSERT_TRUE(m_app.OpenDocumentFile(script));
     EXPECT_EQ(m_prompts.told.size(), 1);
 }
 
@@ -91,12 +92,12 @@ TEST_F(AutosaveInWorkbench, KeepsTheFilesTextOnNoAndForgetsTheCopyAtItsClose)
 {
     const QString script = Write(QStringLiteral("a.sql"), "select 1;\n");
     ASSERT_EQ(KillAWorkbenchAtWork(script), -1);
-    ASSERT_EQ(m_window.OpenScript(script), QString());
+    ASSERT_TRUE(m_app.OpenDocumentFile(script));
     EXPECT_EQ(m_prompts.told.size(), 1);
     EXPECT_EQ(Text(), QStringLiteral("select 1;\n"));
-    EXPECT_FALSE(Tab().IsModified());
+    EXPECT_FALSE(Script().IsModified());
     Trigger("close");
-    ASSERT_EQ(m_window.OpenScript(script), QString());
+    ASSERT_TRUE(m_app.OpenDocumentFile(script));
     EXPECT_EQ(m_prompts.told.size(), 1);
 }
 
@@ -108,20 +109,20 @@ TEST_F(AutosaveInWorkbench, LeavesACopyAloneThatNobodyWasAskedAbout)
                   QStringLiteral(ZN_WORKBENCH),
                   {QStringLiteral("--screenshot"), PathOf(QStringLiteral("picture.png")), script}),
               0);
-    ASSERT_EQ(m_window.OpenScript(script), QString());
+    ASSERT_TRUE(m_app.OpenDocumentFile(script));
     EXPECT_EQ(m_prompts.told.size(), 1);
 }
 
 TEST_F(AutosaveInWorkbench, DoesNotDisturbOneThatIsStillThere)
 {
     const QString script = Write(QStringLiteral("a.sql"), "select 1;\n");
-    ASSERT_EQ(m_window.OpenScript(script), QString());
+    ASSERT_TRUE(m_app.OpenDocumentFile(script));
     Type(u"-- mine\n");
     SendMessage(Editor().GetSafeHwnd(), WM_TIMER, kAutosave, 0);
-    ScriptedPrompts prompts;
-    MainWindow second(prompts);
-    ASSERT_EQ(second.OpenScript(script), QString());
-    EXPECT_TRUE(prompts.told.isEmpty());
+    ZNCoreEditorWidget second;
+    second.control().SetCarefulFiles(true);
+    ASSERT_TRUE(second.openFile(script));
+    EXPECT_TRUE(m_prompts.told.isEmpty());
 }
 
 TEST_F(AutosaveInWorkbench, IsOnEveryMinuteUntilSomebodyChangesIt)

@@ -1,8 +1,9 @@
 // A workbench in which somebody types into the given script, and which is killed as soon as the
 // copy of that has been written.
 #include "editing/ZNCoreEditorControlEx.h"
-#include "host/EditorTab.h"
 #include "host/MainWindow.h"
+#include "host/ScriptFrame.h"
+#include "host/Workbench.h"
 #include "platform/Timer.h"
 #include "tests/host/ScriptedPrompts.h"
 
@@ -14,12 +15,13 @@ int main(int argc, char** argv)
 {
     QApplication application(argc, argv);
     QApplication::setApplicationName(QStringLiteral("znworkbench"));
-    ScriptedPrompts prompts;
-    MainWindow window(prompts);
-    window.show();
-    if (!window.OpenScript(QApplication::arguments().at(1)).isEmpty())
+    const ScriptedPrompts prompts;
+    Workbench app(Workbench::Keeps::Nothing);
+    auto* window = new MainWindow(app);
+    window->show();
+    if (!app.OpenDocumentFile(QApplication::arguments().at(1)))
         return 1;
-    CZNCoreEditorControl& editor = window.CurrentTab()->Editor();
+    CZNCoreEditorControl& editor = window->CurrentFrame()->Editor();
     editor.ReplaceSel(u"-- typed\n", 1);
     constexpr UINT kAutosave = 100;
     if (TimerInterval(editor.GetSafeHwnd(), kAutosave) == 0)

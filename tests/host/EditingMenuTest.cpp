@@ -1,6 +1,5 @@
 // The workbench's menus for comments, lines, words and bookmarks.
 #include "editing/ZNCoreEditorControlEx.h"
-#include "host/EditorTab.h"
 #include "tests/host/WorkbenchTest.h"
 
 namespace {
@@ -14,14 +13,14 @@ TEST_F(EditingMenus, FollowTheRulesOfTheEditor)
 {
     Open("orders.sql", "select (1);\n");
     Editor().SetSel(0, 0, 1);
-    Q_EMIT Tab().StateChanged();
+    Q_EMIT Script().StateChanged();
     EXPECT_FALSE(Action("comment").isEnabled());
     EXPECT_FALSE(Action("matchBrace").isEnabled());
     EXPECT_FALSE(Action("sortUp").isEnabled());
     EXPECT_FALSE(Action("nextBookmark").isEnabled());
     EXPECT_TRUE(Action("bookmark").isEnabled());
     Editor().SetSel(0, 7, 1);
-    Q_EMIT Tab().StateChanged();
+    Q_EMIT Script().StateChanged();
     EXPECT_TRUE(Action("comment").isEnabled());
     EXPECT_TRUE(Action("matchBrace").isEnabled());
     EXPECT_TRUE(Action("sortUp").isEnabled());
@@ -42,7 +41,7 @@ TEST_F(EditingMenus, CommentAndUncomment)
 {
     Open("orders.sql", "select 1;\nselect 2;\n");
     Editor().SelectAll(1);
-    Q_EMIT Tab().StateChanged();
+    Q_EMIT Script().StateChanged();
     Trigger("comment");
     EXPECT_EQ(Text(), QStringLiteral("-- select 1;\n-- select 2;\n"));
     Trigger("uncomment");
@@ -53,13 +52,13 @@ TEST_F(EditingMenus, SortWithoutLosingALine)
 {
     Open("orders.sql", "x\nc\na\nb\ny\n");
     Editor().SetSel(2, 7, 1); // to the end of b
-    Q_EMIT Tab().StateChanged();
+    Q_EMIT Script().StateChanged();
     Trigger("sortUp");
     EXPECT_EQ(Text(), QStringLiteral("x\na\nb\nc\ny\n"));
     Trigger("undo");
     EXPECT_EQ(Text(), QStringLiteral("x\nc\na\nb\ny\n"));
     Editor().SetSel(2, 8, 1); // to the start of y
-    Q_EMIT Tab().StateChanged();
+    Q_EMIT Script().StateChanged();
     Trigger("sortDown");
     EXPECT_EQ(Text(), QStringLiteral("x\nc\nb\na\ny\n"));
 }
@@ -68,7 +67,7 @@ TEST_F(EditingMenus, SortTheLastLineOfAFileToo)
 {
     Open("orders.sql", "b\r\na");
     Editor().SelectAll(1);
-    Q_EMIT Tab().StateChanged();
+    Q_EMIT Script().StateChanged();
     Trigger("sortUp");
     EXPECT_EQ(Text(), QStringLiteral("a\r\nb"));
 }

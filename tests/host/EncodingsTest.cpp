@@ -48,20 +48,3 @@ TEST(LineEndNames, FollowTheModesOfTheControl)
     EXPECT_EQ(LineEndName(3), QStringLiteral("LF"));
     EXPECT_TRUE(LineEndName(0).isEmpty());
 }
-
-TEST(Windows1252, HasTwoHundredAndFiftySixCharacters)
-{
-    int count = 0;
-    for (int unit = 0; unit <= 0xFFFF; ++unit)
-        count += FitsWindows1252(QString(QChar(char16_t(unit))));
-    EXPECT_EQ(count, 256);
-}
-
-TEST(Windows1252, HoldsAccentsAndTypographyButNoOtherScript)
-{
-    EXPECT_TRUE(FitsWindows1252(u"Œuvre – “Ærø” costs 5 €™"));
-    EXPECT_FALSE(FitsWindows1252(u"select '≥'"));
-    EXPECT_FALSE(FitsWindows1252(u"Łódź"));
-    EXPECT_FALSE(FitsWindows1252(u"🟢"));
-    EXPECT_TRUE(FitsWindows1252({}));
-}

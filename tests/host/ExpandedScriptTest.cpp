@@ -44,7 +44,7 @@ TEST_F(ExpandedScripts, LeaveTheScriptAsItIs)
     Editor().SetSel(3, 5, 1);
     Trigger("expand");
     EXPECT_EQ(Text(), "#define &&A 1\nselect &&A\n");
-    EXPECT_FALSE(Tab().IsModified());
+    EXPECT_FALSE(Script().IsModified());
     EXPECT_FALSE(Editor().CanUndo(1));
     EXPECT_EQ(Editor().GetSelectionEnd(1), 5);
 }
@@ -67,11 +67,11 @@ TEST_F(ExpandedScripts, LeadToTheLineOfAnIncludedFile)
     Trigger("expand");
     Result().GotoLine(2, 1);
     Trigger("goToSource");
-    EXPECT_EQ(Tab().Name(), "part.sql");
+    EXPECT_EQ(Script().Name(), "part.sql");
     EXPECT_EQ(Editor().LineFromPosition(Editor().GetCurrentPos(1), 1), 1);
     Result().GotoLine(4, 1);
     Trigger("goToSource");
-    EXPECT_EQ(Tab().Name(), "main.sql");
+    EXPECT_EQ(Script().Name(), "main.sql");
     EXPECT_EQ(Editor().LineFromPosition(Editor().GetCurrentPos(1), 1), 1);
 }
 
@@ -82,7 +82,7 @@ TEST_F(ExpandedScripts, LeadFromAnErrorToItsLine)
     Trigger("expand");
     ASSERT_EQ(Errors().topLevelItemCount(), 1);
     Q_EMIT Errors().itemActivated(Errors().topLevelItem(0), 0);
-    EXPECT_EQ(Tab().Name(), "part.sql");
+    EXPECT_EQ(Script().Name(), "part.sql");
     EXPECT_EQ(Editor().LineFromPosition(Editor().GetCurrentPos(1), 1), 1);
 }
 
@@ -95,7 +95,7 @@ TEST_F(ExpandedScripts, PutTheOriginalBack)
     EXPECT_EQ(Result().GetText(), "#include part.sql\nselect 1\n");
     Result().GotoLine(1, 1);
     Trigger("goToSource");
-    EXPECT_EQ(Tab().Name(), "main.sql");
+    EXPECT_EQ(Script().Name(), "main.sql");
 }
 
 TEST_F(ExpandedScripts, OutliveTheirScript)

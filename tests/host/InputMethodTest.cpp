@@ -34,7 +34,7 @@ TEST_F(Composition, ShowsWhatIsBeingComposedWithoutPuttingItIntoTheText)
     Compose(QStringLiteral("日本"), {});
     EXPECT_NE(Keyboard()->grab().toImage(), composing);
     EXPECT_EQ(Text(), QStringLiteral("ab\n"));
-    EXPECT_FALSE(Tab().IsModified());
+    EXPECT_FALSE(Script().IsModified());
 }
 
 TEST_F(Composition, LeavesNothingBehindWhenItIsGivenUp)
@@ -44,7 +44,7 @@ TEST_F(Composition, LeavesNothingBehindWhenItIsGivenUp)
     Compose(QStringLiteral("にほ"), {});
     Compose({}, {});
     EXPECT_EQ(Text(), QStringLiteral("ab\n"));
-    EXPECT_FALSE(Tab().IsModified());
+    EXPECT_FALSE(Script().IsModified());
 }
 
 TEST_F(Composition, PutsInWhatIsCommittedAndUndoTakesItBack)
@@ -55,7 +55,7 @@ TEST_F(Composition, PutsInWhatIsCommittedAndUndoTakesItBack)
     Compose({}, QStringLiteral("日本"));
     EXPECT_EQ(Text(), QStringLiteral("a日本b\n"));
     EXPECT_EQ(Editor().GetCurrentPos(1), 3);
-    EXPECT_TRUE(Tab().IsModified());
+    EXPECT_TRUE(Script().IsModified());
     while (Editor().CanUndo(1))
         Editor().Undo(1);
     EXPECT_EQ(Text(), QStringLiteral("ab\n"));

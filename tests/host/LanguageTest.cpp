@@ -66,7 +66,7 @@ TEST(FileLanguages, GoByTheNameOfTheFile)
 TEST_F(WorkbenchLanguages, TakesTheLanguageFromTheFilesName)
 {
     Open("a.mysql", "select 1 # one\n");
-    EXPECT_EQ(NameOf(Tab().Language()), QStringLiteral("MySQL"));
+    EXPECT_EQ(NameOf(Script().Language()), QStringLiteral("MySQL"));
     EXPECT_EQ(Status("language"), QStringLiteral("MySQL"));
     Open("b.css", "a { color: red }\n");
     EXPECT_EQ(Status("language"), QStringLiteral("CSS"));
@@ -147,8 +147,8 @@ TEST_F(WorkbenchLanguages, FollowsTheOptionsInEveryScriptAtOnce)
     options.numbers[option::TabWidth] = 7;
     m_window.FollowOptions();
     for (int i = 0; i < m_window.TabCount(); ++i)
-        EXPECT_EQ(m_window.TabAt(i)->Editor().GetTabWidth(1), 7) << i;
-    EXPECT_EQ(NameOf(m_window.TabAt(1)->Language()), QStringLiteral("CSS"));
+        EXPECT_EQ(m_window.FrameAt(i)->Editor().GetTabWidth(1), 7) << i;
+    EXPECT_EQ(NameOf(m_window.FrameAt(1)->Script()->Language()), QStringLiteral("CSS"));
 }
 
 TEST(OptionsDialogs, KeepWhatIsChosen)

@@ -6,7 +6,7 @@
 
 namespace {
 
-class Workbench : public WorkbenchTest
+class MainWindows : public WorkbenchTest
 {
 protected:
     QString TabCaption() const
@@ -18,7 +18,7 @@ protected:
 
 } // namespace
 
-TEST_F(Workbench, OpensAScriptUnderItsName)
+TEST_F(MainWindows, OpensAScriptUnderItsName)
 {
     Open("orders.sql", "select 1;\n");
     EXPECT_EQ(Text(), QStringLiteral("select 1;\n"));
@@ -27,11 +27,11 @@ TEST_F(Workbench, OpensAScriptUnderItsName)
     EXPECT_FALSE(m_window.isWindowModified());
 }
 
-TEST_F(Workbench, MarksAChangedScriptUntilTheChangeIsUndone)
+TEST_F(MainWindows, MarksAChangedScriptUntilTheChangeIsUndone)
 {
     Open("orders.sql", "select 1;\n");
     Type(u"x");
-    EXPECT_EQ(TabCaption(), QStringLiteral("orders.sql*"));
+    EXPECT_EQ(TabCaption(), QStringLiteral("orders.sql *"));
     EXPECT_TRUE(m_window.isWindowModified());
     EXPECT_EQ(Status("modified"), QStringLiteral("Modified"));
     Trigger("undo");
@@ -40,54 +40,57 @@ TEST_F(Workbench, MarksAChangedScriptUntilTheChangeIsUndone)
     EXPECT_TRUE(Status("modified").isEmpty());
 }
 
-TEST_F(Workbench, OffersToSaveAtTheFirstChangeWithoutWaitingForThePaint)
+TEST_F(MainWindows, OffersToSaveAtTheFirstChangeWithoutWaitingForThePaint)
 {
     // A person's save keys may be next in line behind the typed one.
     Open("orders.sql", "select 1;\n");
     Editor().ReplaceSel(u"x", 1);
     EXPECT_TRUE(Action("save").isEnabled());
-    EXPECT_TRUE(m_window.Save());
+    EXPECT_TRUE(Script().DoFileSave());
     EXPECT_FALSE(Action("save").isEnabled());
 }
 
-TEST_F(Workbench, ShowsAnAmpersandOfANameAsItIs)
+TEST_F(MainWindows, ShowsAnAmpersandOfANameAsItIs)
 {
     Open("a&b.sql", "");
     EXPECT_EQ(TabCaption(), QStringLiteral("a&&b.sql"));
 }
 
-TEST_F(Workbench, ShowsTheTabOfAScriptThatIsOpenAlready)
+TEST_F(MainWindows, ShowsTheTabOfAScriptThatIsOpenAlready)
 {
     Open("a.sql", "a");
     Open("b.sql", "b");
-    EXPECT_EQ(m_window.OpenScript(PathOf("./a.sql")), QString());
+    EXPECT_TRUE(m_app.OpenDocumentFile(PathOf("./a.sql")));
     EXPECT_EQ(m_window.TabCount(), 2);
     EXPECT_EQ(Text(), QStringLiteral("a"));
 }
 
-TEST_F(Workbench, LetsTheUntouchedFirstScriptMakeRoom)
+TEST_F(MainWindows, LetsTheUntouchedFirstScriptMakeRoom)
 {
-    m_window.NewScript();
+    m_app.NewScript();
     Open("a.sql", "a");
     EXPECT_EQ(m_window.TabCount(), 1);
-    m_window.NewScript();
+    m_app.NewScript();
     Type(u"kept");
     Open("b.sql", "b");
     EXPECT_EQ(m_window.TabCount(), 3);
 }
 
-TEST_F(Workbench, TellsWhyAScriptDoesNotOpen)
+TEST_F(MainWindows, TellsWhyAScriptDoesNotOpen)
 {
-    EXPECT_TRUE(m_window.OpenScript(PathOf("no.sql")).contains(QStringLiteral("does not exist")));
-    EXPECT_TRUE(m_window.OpenScript(m_folder.path()).contains(QStringLiteral("folder")));
+    EXPECT_FALSE(m_app.OpenDocumentFile(PathOf("no.sql")));
+    EXPECT_FALSE(m_app.OpenDocumentFile(m_folder.path()));
     EXPECT_EQ(m_window.TabCount(), 0);
+    ASSERT_EQ(m_prompts.told.size(), 2);
+    EXPECT_TRUE(m_prompts.told[0].contains(QStringLiteral("does not exist")));
+    EXPECT_TRUE(m_prompts.told[1].contains(QStringLiteral("folder")));
 
     m_prompts.filesToOpen = QStringList{PathOf("no.sql")};
     Trigger("open");
-    EXPECT_EQ(m_prompts.told.size(), 1);
+    EXPECT_EQ(m_prompts.told.size(), 3);
 }
 
-TEST_F(Workbench, SavesInTheEncodingOfTheFile)
+TEST_F(MainWindows, SavesInTheEncodingOfTheFile)
 {
     // UTF-16 LE with a mark: "a", a line end, "\u0142".
     const QByteArray bytes("\xFF\xFE"
@@ -101,10 +104,10 @@ TEST_F(Workbench, SavesInTheEncodingOfTheFile)
     EXPECT_EQ(Read("a.sql"), QByteArray("\xFF\xFE"
                                         "b\0a\0\n\0\x42\x01",
                                         10));
-    EXPECT_FALSE(Tab().IsModified());
+    EXPECT_FALSE(Script().IsModified());
 }
 
-TEST_F(Workbench, SavesUnderAnotherNameAndEncoding)
+TEST_F(MainWindows, SavesUnderAnotherNameAndEncoding)
 {
     Open("a.sql", "caf\xC3\xA9\n");
     m_prompts.saveTarget = SaveTarget{PathOf("b.sql"), 2, true};
@@ -118,35 +121,35 @@ TEST_F(Workbench, SavesUnderAnotherNameAndEncoding)
     EXPECT_EQ(Status("encoding"), QStringLiteral("UTF-16 LE with mark"));
 }
 
-TEST_F(Workbench, AsksForANameWhenAScriptWithoutOneIsSaved)
+TEST_F(MainWindows, AsksForANameWhenAScriptWithoutOneIsSaved)
 {
-    m_window.NewScript();
+    m_app.NewScript();
     Type(u"select 1");
     m_prompts.saveTarget = SaveTarget{PathOf("new.sql"), 6, false};
     Trigger("save");
     EXPECT_EQ(Read("new.sql"), QByteArray("select 1"));
     EXPECT_EQ(m_prompts.proposals.size(), 1);
     EXPECT_TRUE(m_prompts.proposals.value(0).endsWith(QStringLiteral("Script 1.sql")));
-    EXPECT_FALSE(Tab().IsModified());
+    EXPECT_FALSE(Script().IsModified());
 }
 
-TEST_F(Workbench, KeepsTheTextWhenASaveFails)
+TEST_F(MainWindows, KeepsTheTextWhenASaveFails)
 {
     Open("a.sql", "one\n");
     Type(u"two ");
     m_prompts.saveTarget = SaveTarget{PathOf("gone/b.sql"), 6, false};
-    EXPECT_FALSE(m_window.SaveAs());
+    EXPECT_FALSE(Script().SaveAs());
     ASSERT_EQ(m_prompts.told.size(), 1);
     EXPECT_TRUE(m_prompts.told[0].contains(QStringLiteral("folder does not exist")));
     EXPECT_TRUE(m_prompts.told[0].contains(QStringLiteral("Save As")));
     EXPECT_EQ(Text(), QStringLiteral("two one\n"));
-    EXPECT_TRUE(Tab().IsModified());
-    EXPECT_EQ(Tab().Path(), PathOf("a.sql"));
-    EXPECT_TRUE(m_window.Save());
+    EXPECT_TRUE(Script().IsModified());
+    EXPECT_EQ(Script().GetPathName(), PathOf("a.sql"));
+    EXPECT_TRUE(Script().DoFileSave());
     EXPECT_EQ(Read("a.sql"), QByteArray("two one\n"));
 }
 
-TEST_F(Workbench, AsksBeforeAScriptThatWasCutShortReplacesTheLongerFile)
+TEST_F(MainWindows, AsksBeforeAScriptThatWasCutShortReplacesTheLongerFile)
 {
     // Half a unit stands at the end.
     const QByteArray bytes("\xFF\xFE"
@@ -158,33 +161,35 @@ TEST_F(Workbench, AsksBeforeAScriptThatWasCutShortReplacesTheLongerFile)
     EXPECT_TRUE(m_prompts.told[0].contains(QStringLiteral("truncated")));
 
     Type(u"x");
-    EXPECT_FALSE(m_window.Save());
+    EXPECT_FALSE(Script().DoFileSave());
     EXPECT_EQ(m_prompts.asked.size(), 1);
     EXPECT_EQ(Read("a.sql"), bytes);
 
     m_prompts.confirm = true;
-    EXPECT_TRUE(m_window.Save());
+    EXPECT_TRUE(Script().DoFileSave());
     EXPECT_EQ(m_prompts.asked.size(), 2);
-    EXPECT_TRUE(m_window.Save()) << "the file holds what the window shows from here on";
+    EXPECT_TRUE(Script().DoFileSave()) << "the file holds what the window shows from here on";
     EXPECT_EQ(m_prompts.asked.size(), 2);
 }
 
-TEST_F(Workbench, AsksBeforeCharactersBecomeQuestionMarks)
+TEST_F(MainWindows, AsksBeforeCharactersBecomeQuestionMarks)
 {
     Open("a.sql", "caf\xE9\n");
     EXPECT_EQ(Status("encoding"), QStringLiteral("windows-1252"));
     Type(u"\u0142");
-    EXPECT_FALSE(m_window.Save());
+    EXPECT_FALSE(Script().DoFileSave());
     ASSERT_EQ(m_prompts.asked.size(), 1);
     EXPECT_TRUE(m_prompts.asked[0].contains(QStringLiteral("windows-1252")));
+    EXPECT_TRUE(m_prompts.asked[0].contains(u'\u0142'));
+    EXPECT_TRUE(m_prompts.asked[0].contains(QStringLiteral("line 1")));
     EXPECT_EQ(Read("a.sql"), QByteArray("caf\xE9\n"));
 
-    m_prompts.confirm = true;
-    EXPECT_TRUE(m_window.Save());
+    m_prompts.loseCharacters = LoseCharacters::SaveAnyway;
+    EXPECT_TRUE(Script().DoFileSave());
     EXPECT_EQ(Read("a.sql"), QByteArray("?caf\xE9\n"));
 }
 
-TEST_F(Workbench, ClosesAnUnchangedScriptWithoutAWord)
+TEST_F(MainWindows, ClosesAnUnchangedScriptWithoutAWord)
 {
     Open("a.sql", "a");
     Trigger("close");
@@ -192,7 +197,7 @@ TEST_F(Workbench, ClosesAnUnchangedScriptWithoutAWord)
     EXPECT_TRUE(m_prompts.asked.isEmpty());
 }
 
-TEST_F(Workbench, AsksBeforeAChangedScriptCloses)
+TEST_F(MainWindows, AsksBeforeAChangedScriptCloses)
 {
     Open("a.sql", "a");
     Type(u"b");
@@ -206,7 +211,7 @@ TEST_F(Workbench, AsksBeforeAChangedScriptCloses)
     EXPECT_EQ(Read("a.sql"), QByteArray("ba"));
 }
 
-TEST_F(Workbench, DropsTheChangesThatAPersonDiscards)
+TEST_F(MainWindows, DropsTheChangesThatAPersonDiscards)
 {
     Open("a.sql", "a");
     Type(u"b");
@@ -216,28 +221,28 @@ TEST_F(Workbench, DropsTheChangesThatAPersonDiscards)
     EXPECT_EQ(Read("a.sql"), QByteArray("a"));
 }
 
-TEST_F(Workbench, StaysOpenWhileAScriptHasChangesToKeep)
+TEST_F(MainWindows, StaysOpenWhileAScriptHasChangesToKeep)
 {
     Open("a.sql", "a");
     Type(u"b");
     Open("c.sql", "c");
-    EXPECT_FALSE(m_window.close());
+    EXPECT_FALSE(CloseWindow());
     EXPECT_EQ(Text(), QStringLiteral("ba")) << "the script that is asked about is in front";
     m_prompts.loseChanges = LoseChanges::Discard;
-    EXPECT_TRUE(m_window.close());
+    EXPECT_TRUE(CloseWindow());
 }
 
-TEST_F(Workbench, StaysOpenWhenTheSaveOnTheWayOutFails)
+TEST_F(MainWindows, StaysOpenWhenTheSaveOnTheWayOutFails)
 {
-    m_window.NewScript();
+    m_app.NewScript();
     Type(u"b");
     m_prompts.loseChanges = LoseChanges::Save;
     m_prompts.saveTarget = SaveTarget{PathOf("gone/b.sql"), 6, false};
-    EXPECT_FALSE(m_window.close());
+    EXPECT_FALSE(CloseWindow());
     EXPECT_EQ(Text(), QStringLiteral("b"));
 }
 
-TEST_F(Workbench, OffersOnlyWhatIsPossible)
+TEST_F(MainWindows, OffersOnlyWhatIsPossible)
 {
     for (const char* name : {"save", "saveAs", "close", "undo", "redo", "cut", "copy", "paste",
                              "delete", "selectAll", "zoomIn", "next"})
@@ -261,21 +266,21 @@ TEST_F(Workbench, OffersOnlyWhatIsPossible)
         EXPECT_TRUE(Action(name).isEnabled()) << name << " with a selection";
 }
 
-TEST_F(Workbench, OffersNoChangeOfAReadOnlyScript)
+TEST_F(MainWindows, OffersNoChangeOfAReadOnlyScript)
 {
     QApplication::clipboard()->setText(QStringLiteral("clip"));
     Open("a.sql", "a");
     Type(u"b");
     Editor().SetReadOnly(1, 1);
     Trigger("selectAll");
-    Q_EMIT Tab().StateChanged();
+    Q_EMIT Script().StateChanged();
     for (const char* name : {"undo", "cut", "paste", "delete"})
         EXPECT_FALSE(Action(name).isEnabled()) << name;
     EXPECT_TRUE(Action("copy").isEnabled());
     EXPECT_EQ(Status("readOnly"), QStringLiteral("Read-only"));
 }
 
-TEST_F(Workbench, CutsAndPastesThroughItsMenu)
+TEST_F(MainWindows, CutsAndPastesThroughItsMenu)
 {
     Open("a.sql", "one two");
     Editor().SetSel(0, 4, 1);
@@ -293,7 +298,7 @@ TEST_F(Workbench, CutsAndPastesThroughItsMenu)
     EXPECT_EQ(Text(), QStringLiteral("one "));
 }
 
-TEST_F(Workbench, TellsTheCaretsPlaceInTheStatusBar)
+TEST_F(MainWindows, TellsTheCaretsPlaceInTheStatusBar)
 {
     Open("a.sql", "one\r\ntwo\r\n");
     EXPECT_EQ(Status("caret"), QStringLiteral("Line 1, column 1"));
@@ -304,7 +309,7 @@ TEST_F(Workbench, TellsTheCaretsPlaceInTheStatusBar)
     EXPECT_EQ(Status("caret"), QStringLiteral("Line 2, column 3"));
 }
 
-TEST_F(Workbench, ShowsEachScriptsOwnStateWhenItsTabComesToTheFront)
+TEST_F(MainWindows, ShowsEachScriptsOwnStateWhenItsTabComesToTheFront)
 {
     Open("a.sql", "a\n");
     Type(u"x");
@@ -319,7 +324,7 @@ TEST_F(Workbench, ShowsEachScriptsOwnStateWhenItsTabComesToTheFront)
     EXPECT_EQ(Text(), QStringLiteral("b\r\n"));
 }
 
-TEST_F(Workbench, WidensTheLineNumbersAsAScriptGrows)
+TEST_F(MainWindows, WidensTheLineNumbersAsAScriptGrows)
 {
     Open("a.sql", "a\n");
     const int narrow = Editor().GetMarginWidthN(1, 1);
@@ -328,7 +333,7 @@ TEST_F(Workbench, WidensTheLineNumbersAsAScriptGrows)
     EXPECT_GT(Editor().GetMarginWidthN(1, 1), narrow);
 }
 
-TEST_F(Workbench, WidensTheLineNumbersWithTheZoom)
+TEST_F(MainWindows, WidensTheLineNumbersWithTheZoom)
 {
     Open("a.sql", "a\n");
     const int before = Editor().GetMarginWidthN(1, 1);
@@ -339,7 +344,7 @@ TEST_F(Workbench, WidensTheLineNumbersWithTheZoom)
     EXPECT_EQ(Editor().GetMarginWidthN(1, 1), before);
 }
 
-TEST_F(Workbench, ScrollsSidewaysNoFurtherThanTheLongestLineSeen)
+TEST_F(MainWindows, ScrollsSidewaysNoFurtherThanTheLongestLineSeen)
 {
     Open("a.sql", "a\n");
     QApplication::processEvents();
@@ -349,7 +354,7 @@ TEST_F(Workbench, ScrollsSidewaysNoFurtherThanTheLongestLineSeen)
     EXPECT_GT(Editor().GetScrollWidth(1), 300 * 4);
 }
 
-TEST_F(Workbench, AppliesItsViewToEveryScript)
+TEST_F(MainWindows, AppliesItsViewToEveryScript)
 {
     Open("a.sql", "a");
     Trigger("whitespace");
@@ -357,16 +362,16 @@ TEST_F(Workbench, AppliesItsViewToEveryScript)
     Trigger("wrap");
     Open("b.sql", "b");
     for (int i = 0; i < m_window.TabCount(); ++i) {
-        CZNCoreEditorControl& editor = m_window.TabAt(i)->Editor();
+        CZNCoreEditorControl& editor = m_window.FrameAt(i)->Editor();
         EXPECT_EQ(editor.GetViewWS(1), 1);
         EXPECT_EQ(editor.GetViewEOL(1), 1);
         EXPECT_EQ(editor.GetWrapMode(1), 1);
     }
     Trigger("wrap");
-    EXPECT_EQ(m_window.TabAt(0)->Editor().GetWrapMode(1), 0);
+    EXPECT_EQ(m_window.FrameAt(0)->Editor().GetWrapMode(1), 0);
 }
 
-TEST_F(Workbench, ColoursSqlByHand)
+TEST_F(MainWindows, ColoursSqlByHand)
 {
     Open("a.sql", "select 'text', 12 -- note\n");
     Editor().Colorize(0, -1, 1);

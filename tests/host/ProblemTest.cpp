@@ -2,7 +2,6 @@
 #include "control/Analysis.h"
 #include "control/ErrorInfo.h"
 #include "editing/ZNCoreEditorControlEx.h"
-#include "host/EditorTab.h"
 #include "host/ProblemPane.h"
 #include "host/ScriptChecker.h"
 #include "tests/host/WorkbenchTest.h"
@@ -71,7 +70,7 @@ TEST_F(WorkbenchProblems, ShowTheCatalogInForce)
 TEST_F(WorkbenchProblems, AreListedOnceTheScriptIsOpen)
 {
     Open("a.sqlite", "create table t (a);\nselekt 1;\nselect b from t;\n");
-    Tab().Checker().Check();
+    Script().Checker()->Check();
     ASSERT_EQ(List().topLevelItemCount(), 2);
     EXPECT_EQ(List().topLevelItem(0)->text(0), QStringLiteral("2"));
     EXPECT_TRUE(List().topLevelItem(0)->text(1).contains(QStringLiteral("selekt")));
@@ -82,7 +81,7 @@ TEST_F(WorkbenchProblems, AreListedOnceTheScriptIsOpen)
 TEST_F(WorkbenchProblems, AreMarkedInTheText)
 {
     Open("a.pgsql", "select 1;\nselekt 2;\n");
-    Tab().Checker().Check();
+    Script().Checker()->Check();
     const ErrorInfo* found = Editor().ErrorGetOverPos(12, 1);
     ASSERT_NE(found, nullptr);
     EXPECT_EQ(found->nStart, 10);
@@ -94,11 +93,11 @@ TEST_F(WorkbenchProblems, AreMarkedInTheText)
 TEST_F(WorkbenchProblems, GoWhenTheyAreMended)
 {
     Open("a.pgsql", "selekt 2;\n");
-    Tab().Checker().Check();
+    Script().Checker()->Check();
     ASSERT_EQ(List().topLevelItemCount(), 1);
     Editor().SetSel(0, 6, 1);
     Type(u"select");
-    Tab().Checker().Check();
+    Script().Checker()->Check();
     EXPECT_EQ(List().topLevelItemCount(), 0);
     EXPECT_EQ(Editor().ErrorGetFirst(problem::kAny, 1), nullptr);
 }
@@ -106,7 +105,7 @@ TEST_F(WorkbenchProblems, GoWhenTheyAreMended)
 TEST_F(WorkbenchProblems, LeadToTheirPlace)
 {
     Open("a.pgsql", "select 1;\nselekt 2;\n");
-    Tab().Checker().Check();
+    Script().Checker()->Check();
     ASSERT_EQ(List().topLevelItemCount(), 1);
     Q_EMIT List().itemActivated(List().topLevelItem(0), 0);
     EXPECT_EQ(Editor().GetSelectionStart(1), 10);
@@ -116,7 +115,7 @@ TEST_F(WorkbenchProblems, LeadToTheirPlace)
 TEST_F(WorkbenchProblems, AreReachedOneByOneByAKey)
 {
     Open("a.pgsql", "selekt 1;\nselekt 2;\n");
-    Tab().Checker().Check();
+    Script().Checker()->Check();
     GoTo(0);
     Trigger("nextProblem");
     EXPECT_EQ(Editor().GetSelectionStart(1), 10);
@@ -127,7 +126,7 @@ TEST_F(WorkbenchProblems, AreReachedOneByOneByAKey)
 TEST_F(WorkbenchProblems, AreThoseOfTheScriptInFront)
 {
     Open("a.pgsql", "selekt 2;\n");
-    Tab().Checker().Check();
+    Script().Checker()->Check();
     Open("b.tsql", "selekt 2\n");
     EXPECT_EQ(List().topLevelItemCount(), 0);
     Trigger("previous");

@@ -7,10 +7,20 @@
 class ScriptedPrompts final : public Prompts, public IUserQuestions
 {
 public:
-    ScriptedPrompts() { SetUserQuestions(this); }
-    ~ScriptedPrompts() override { SetUserQuestions(nullptr); }
+    ScriptedPrompts()
+    {
+        SetPrompts(this);
+        SetUserQuestions(this);
+    }
+    ~ScriptedPrompts() override
+    {
+        SetPrompts(nullptr);
+        SetUserQuestions(nullptr);
+    }
 
     QStringList FilesToOpen(QWidget*, const QString&) override { return filesToOpen; }
+
+    std::optional<OpenChoice> WhatToOpen(QWidget*, const QString&) override { return whatToOpen; }
 
     std::optional<SaveTarget> WhereToSave(QWidget*, const SaveTarget& proposal) override
     {
@@ -22,6 +32,12 @@ public:
     {
         asked << name;
         return loseChanges;
+    }
+
+    LoseCharacters BeforeQuestionMarks(QWidget*, const QString& text) override
+    {
+        asked << text;
+        return loseCharacters;
     }
 
     bool Confirm(QWidget*, const QString& text, const QString&) override
@@ -39,8 +55,10 @@ public:
     }
 
     QStringList filesToOpen;
+    std::optional<OpenChoice> whatToOpen;
     std::optional<SaveTarget> saveTarget;
     LoseChanges loseChanges = LoseChanges::Cancel;
+    LoseCharacters loseCharacters = LoseCharacters::Cancel;
     bool confirm = false;
     Answer answer = Answer::No; // to the editor's questions
 

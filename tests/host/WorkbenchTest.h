@@ -2,8 +2,12 @@
 #pragma once
 
 #include "editing/ZNCoreEditorControlEx.h"
-#include "host/EditorTab.h"
 #include "host/MainWindow.h"
+#include "host/ScriptDoc.h"
+#include "host/ScriptFrame.h"
+#include "host/ScriptView.h"
+#include "host/Workbench.h"
+#include "platform/Disposal.h"
 #include "tests/host/ScriptedPrompts.h"
 
 #include <QAction>
@@ -17,7 +21,8 @@
 class WorkbenchTest : public testing::Test
 {
 protected:
-    WorkbenchTest() : m_window(m_prompts)
+    explicit WorkbenchTest(Workbench::Keeps keeps = Workbench::Keeps::Nothing)
+        : m_app(keeps), m_window(*new MainWindow(m_app))
     {
         m_window.show();
         QApplication::processEvents();
@@ -39,12 +44,13 @@ protected:
         return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray("(no file)");
     }
 
-    EditorTab& Tab() const { return *m_window.CurrentTab(); }
-    CZNCoreEditorControlEx& Editor() const { return Tab().Editor(); }
+    ScriptFrame& Frame() const { return *m_window.CurrentFrame(); }
+    ScriptDoc& Script() const { return *Frame().Script(); }
+    CZNCoreEditorControlEx& Editor() const { return Frame().Editor(); }
 
     void Open(const QString& name, const QByteArray& bytes)
     {
-        ASSERT_EQ(m_window.OpenScript(Write(name, bytes)), QString());
+        ASSERT_TRUE(m_app.OpenDocumentFile(Write(name, bytes)));
     }
 
     void Type(const char16_t* text)
@@ -69,6 +75,14 @@ protected:
     {
         Action(name).trigger();
         QApplication::processEvents();
+        Disposal::Run(); // no loop runs that would
+    }
+
+    // Whether the window has gone; what it was is not to be touched then.
+    bool CloseWindow()
+    {
+        m_window.close();
+        return !m_app.GetMainWnd();
     }
 
     QString Status(const char* name) const
@@ -78,5 +92,6 @@ protected:
 
     QTemporaryDir m_folder;
     ScriptedPrompts m_prompts;
-    MainWindow m_window;
+    Workbench m_app;
+    MainWindow& m_window; // gone once it has been closed
 };

@@ -1,0 +1,23 @@
+// MainFrame: the frame around all tabs, attached to the main window.
+#pragma once
+
+#include "platform/docview/FrameWnd.h"
+
+class MainWindow;
+
+class MainFrame final : public CFrameWnd
+{
+public:
+    // Becomes the application's main window. The frame and its window go by closing.
+    explicit MainFrame(MainWindow& window);
+
+    void OnUpdateFrameTitle() override {} // the window follows its scripts by itself
+
+protected:
+    void OnClose(); // asks about every script
+
+    const MessageMap& GetMessageMap() const override;
+
+private:
+    MainWindow& m_window;
+};

@@ -1,0 +1,292 @@
+// ScriptDoc: open, language, views. Saving stands in ScriptSaving.
+#include "host/ScriptDoc.h"
+
+#include "editing/FileTypeManager.h"
+#include "editing/Library.h"
+#include "host/AutosaveSettings.h"
+#include "host/FileLanguages.h"
+#include "host/LineEnds.h"
+#include "host/ScriptChecker.h"
+#include "host/ScriptView.h"
+#include "platform/OptionsServer.h"
+#include "platform/Questions.h"
+#include "platform/docview/CommandIds.h"
+
+#include <QDir>
+#include <QFileInfo>
+
+#include <utility>
+
+namespace {
+
+int encodingToOpenAs = -1;
+
+QString WhyNotRead(const QString& path)
+{
+    const QFileInfo info(path);
+    const QString name = QDir::toNativeSeparators(path);
+    if (!info.exists())
+        return QStringLiteral("“%1” does not exist.").arg(name);
+    if (info.isDir())
+        return QStringLiteral("“%1” is a folder, not a script.").arg(name);
+    return QStringLiteral("“%1” cannot be read. Check that you may read it.").arg(name);
+}
+
+QString WhyNotWritten(const QString& path)
+{
+    const QFileInfo info(path);
+    const QFileInfo folder(info.absolutePath());
+    QString reason = QStringLiteral("The disk may be full.");
+    if (!folder.isDir())
+        reason = QStringLiteral("The folder does not exist.");
+    else if (info.isDir())
+        reason = QStringLiteral("A folder has that name.");
+    else if (!folder.isWritable() || (info.exists() && !info.isWritable()))
+        reason = QStringLiteral("You may not write there.");
+    return QStringLiteral("“%1” could not be saved. %2 The text is still here: "
+                          "use Save As to put it in another place.")
+        .arg(QDir::toNativeSeparators(path), reason);
+}
+
+} // namespace
+
+ScriptDoc::OpenAs::OpenAs(int encoding)
+{
+    encodingToOpenAs = encoding;
+}
+
+ScriptDoc::OpenAs::~OpenAs()
+{
+    encodingToOpenAs = -1;
+}
+
+ScriptDoc::ScriptDoc() = default;
+
+ScriptDoc::~ScriptDoc() = default;
+
+const CRuntimeClass* ScriptDoc::GetThisClass()
+{
+    static const CRuntimeClass own = {"ScriptDoc", CZNCoreEditorDoc::GetThisClass(),
+                                      &ScriptDoc::CreateObject};
+    return &own;
+}
+
+ScriptView* ScriptDoc::FirstView() const
+{
+    return dynamic_cast<ScriptView*>(GetFirstEditView());
+}
+
+// A question belongs to the window that the person is in.
+QWidget* ScriptDoc::Window() const
+{
+    const CView* view = FirstView();
+    return view && view->GetSafeHwnd() ? view->GetSafeHwnd()->window() : nullptr;
+}
+
+// The base gives the text's number up, and a further view would show a text of its own.
+int ScriptDoc::OnNewDocument()
+{
+    if (!CZNCoreEditorDoc::OnNewDocument())
+        return 0;
+    m_docPointer = FirstView()->GetCoreEditorControl()->GetDocPointer(1);
+    SetLanguage(LanguageOfNewScripts());
+    return 1;
+}
+
+int ScriptDoc::OnOpenDocument(const QString& path)
+{
+    m_chosenEncoding = encodingToOpenAs;
+    return OnOpenDocumentEx(path, FileEncodeConverter::encodingType(m_chosenEncoding));
+}
+
+int ScriptDoc::OnOpenDocumentEx(const QString& path, FileEncodeConverter::encodingType encoding)
+{
+    m_told = false;
+    if (QFileInfo(path).isDir() || !CZNCoreEditorDoc::OnOpenDocumentEx(path, encoding)) {
+        if (!m_told && !IsClosed())
+            ReportSaveLoadException(path, nullptr, false, IDP_FAILED_TO_OPEN);
+        return 0;
+    }
+    m_onlyHere = false;
+    m_isTracked = m_lastAccessTime != 0;
+    if (IsReadOnly())
+        SetTitle(GetTitle()); // which marks it
+    SetLanguage(LanguageOfFile(path));
+    m_lineEnds->Look();
+    return 1;
+}
+
+int ScriptDoc::Reopen(int encoding)
+{
+    if (!SaveModified() || IsClosed())
+        return 0;
+    m_chosenEncoding = encoding;
+    return OnOpenDocumentEx(QString(m_strPathName), FileEncodeConverter::encodingType(encoding));
+}
+
+void ScriptDoc::ReportSaveLoadException(const QString& path, const CFileException* /*exception*/,
+                                        bool saving, UINT /*prompt*/)
+{
+    m_told = true;
+    GetPrompts().Tell(Window(), saving ? WhyNotWritten(path) : WhyNotRead(path));
+}
+
+QString ScriptDoc::Name() const
+{
+    if (!m_strPathName.isEmpty())
+        return QFileInfo(m_strPathName).fileName();
+    const QString title = GetTitle();
+    return title.endsWith(QLatin1String(" *")) ? title.chopped(2) : title;
+}
+
+bool ScriptDoc::IsReadOnly() const
+{
+    ScriptView* view = FirstView();
+    return view && view->GetCoreEditorControl()->GetReadOnly(1) != 0;
+}
+
+bool ScriptDoc::IsUntouched()
+{
+    ScriptView* view = FirstView();
+    return view && m_strPathName.isEmpty() && !IsModified() &&
+           view->GetCoreEditorControl()->GetLength(1) == 0;
+}
+
+int ScriptDoc::Language() const
+{
+    ScriptView* view = FirstView();
+    return view ? view->GetCoreEditorControl()->GetCurrentLanguage() : 0;
+}
+
+void ScriptDoc::SetLanguage(int language)
+{
+    const std::vector<CView*> views = GetViews();
+    for (CView* view : views) {
+        if (auto* script = dynamic_cast<ScriptView*>(view))
+            script->GetCoreEditorControl()->InitializeLanguage(language, 1);
+    }
+    const CFileTypeManager& languages = *zncoreeditor::GetFileTypeManager();
+    const bool isKnown = language >= 0 && language < languages.GetLanguageCount();
+    if (m_checker)
+        m_checker->SetLanguage(isKnown ? languages.GetLanguageName(language) : QString());
+    Q_EMIT LanguageChanged();
+}
+
+void ScriptDoc::FollowOptions()
+{
+    const std::vector<CView*> views = GetViews();
+    for (CView* view : views) {
+        if (auto* script = dynamic_cast<ScriptView*>(view))
+            SendMessage(script->GetCoreEditorControl()->GetSafeHwnd(), kOptionsChanged, 0, 0);
+    }
+    Q_EMIT LanguageChanged();
+}
+
+void ScriptDoc::OnViewMade(ScriptView& view)
+{
+    ScriptView* first = FirstView();
+    if (first == &view)
+        ServeView(view);
+    else if (first)
+        view.GetCoreEditorControl()->AdoptFile(first->GetCoreEditorControlRef());
+}
+
+// The one view that checks the text, watches its line ends and keeps the copies.
+void ScriptDoc::ServeView(ScriptView& view)
+{
+    CZNCoreEditorControlEx& editor = view.GetCoreEditorControlRef();
+    AutosaveSettings::Load().ApplyTo(editor);
+    m_checker = std::make_unique<ScriptChecker>(editor, nullptr);
+    connect(m_checker.get(), &ScriptChecker::ProblemsChanged, this, &ScriptDoc::ProblemsChanged);
+    m_lineEnds = std::make_unique<LineEndWatch>(editor, nullptr);
+    connect(m_lineEnds.get(), &LineEndWatch::KindChanged, this, &ScriptDoc::StateChanged);
+}
+
+void ScriptDoc::OnViewGoes(ScriptView& view)
+{
+    if (&view != FirstView())
+        return;
+    m_checker.reset();
+    m_lineEnds.reset();
+    for (CView* other : GetViews()) {
+        auto* next = dynamic_cast<ScriptView*>(other);
+        if (!next || next == &view)
+            continue;
+        CZNCoreEditorControlEx& editor = next->GetCoreEditorControlRef();
+        editor.AdoptFile(view.GetCoreEditorControlRef());
+        ServeView(*next);
+        const CFileTypeManager& languages = *zncoreeditor::GetFileTypeManager();
+        m_checker->SetLanguage(languages.GetLanguageName(editor.GetCurrentLanguage()));
+        m_lineEnds->Look();
+        return;
+    }
+}
+
+void ScriptDoc::OnViewShown()
+{
+    Q_EMIT LanguageChanged();
+}
+
+void ScriptDoc::OnTextChanged()
+{
+    if (!m_checker)
+        return;
+    m_checker->CheckSoon();
+    m_lineEnds->TextChanged();
+}
+
+// A No ends the tracking: the text that is kept is not to be lost without a further question. A Yes
+// to a file that is gone ends it too, but the close that it asked for is on its way, ahead of this.
+void ScriptDoc::OnFocus()
+{
+    if (IsClosed())
+        return;
+    if (m_isTracked && m_lastAccessTime == 0)
+        QMetaObject::invokeMethod(this, &ScriptDoc::MarkAsOnlyHere, Qt::QueuedConnection);
+    m_isTracked = m_lastAccessTime != 0;
+    Q_EMIT StateChanged();
+}
+
+void ScriptDoc::MarkAsOnlyHere()
+{
+    if (IsClosed() || m_lastAccessTime != 0)
+        return;
+    m_onlyHere = true;
+    SetModifiedFlag(1);
+    Q_EMIT StateChanged();
+}
+
+void ScriptDoc::SetModifiedFlag(int modified)
+{
+    CZNCoreEditorDoc::SetModifiedFlag(modified || m_onlyHere ? 1 : 0);
+}
+
+// The base's command, with an end of what was kept against the file.
+void ScriptDoc::OnReload()
+{
+    const QString text = QStringLiteral("Do you want to reload '%1' ?");
+    if (m_strPathName.isEmpty() || !AskYesNo(Window(), text.arg(m_strPathName)) || IsClosed())
+        return;
+    m_onlyHere = false;
+    ReloadFile();
+}
+
+const CommandMap& ScriptDoc::GetCommandMap() const
+{
+    constexpr UINT kReload = 54008;
+    using Doc = ScriptDoc;
+    // clang-format off
+    static constexpr CommandEntry kCommands[] = {
+        {kReload,         [](CCmdTarget& t) { static_cast<Doc&>(t).OnReload(); }},
+        {ID_FILE_SAVE_AS, [](CCmdTarget& t) { static_cast<Doc&>(t).SaveAs(); }},
+    };
+    static constexpr UpdateEntry kUpdates[] = {
+        {ID_FILE_SAVE, [](CCmdTarget& t, CCmdUI& ui) {
+            auto& doc = static_cast<Doc&>(t);
+            ui.Enable(doc.IsModified() || doc.GetPathName().isEmpty());
+        }},
+    };
+    // clang-format on
+    static const CommandMap map = {&CZNCoreEditorDoc::GetCommandMap(), kCommands, kUpdates};
+    return map;
+}

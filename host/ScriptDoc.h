@@ -1,0 +1,101 @@
+// ScriptDoc: one script, the file behind it, and what is known of its text. It asks before
+// anything is lost, and tells whoever shows it of each change.
+#pragma once
+
+#include "docview/ZNCoreEditorDoc.h"
+#include "host/Prompts.h"
+
+#include <QObject>
+
+#include <memory>
+
+class LineEndWatch;
+class ScriptChecker;
+class ScriptView;
+
+class ScriptDoc final : public QObject, public CZNCoreEditorDoc
+{
+    Q_OBJECT
+
+public:
+    // Documents that are opened while this exists are read in the encoding; -1 detects it.
+    class OpenAs
+    {
+    public:
+        explicit OpenAs(int encoding);
+        ~OpenAs();
+        OpenAs(const OpenAs&) = delete;
+        OpenAs& operator=(const OpenAs&) = delete;
+    };
+
+    ScriptDoc();
+    ~ScriptDoc() override;
+
+    const CRuntimeClass* GetRuntimeClass() const override { return GetThisClass(); }
+    static const CRuntimeClass* GetThisClass();
+    static CObject* CreateObject() { return new ScriptDoc; }
+
+    int OnNewDocument() override;
+    int OnOpenDocument(const QString& path) override;
+    int OnOpenDocumentEx(const QString& path, FileEncodeConverter::encodingType encoding) override;
+    int OnSaveDocument(const QString& path) override;
+    int SaveModified() override;
+    int DoFileSave() override; // asks for a name where there is none, or one that is read-only
+    void ReportSaveLoadException(const QString& path, const CFileException* exception, bool saving,
+                                 UINT prompt) override;
+    void SetModifiedFlag(int modified = 1) override;
+
+    int SaveAs(); // 0 if the person, or a failure, kept things as they were
+    // Reads the file again, in another encoding. 0 if it was not read.
+    int Reopen(int encoding);
+
+    QString Name() const; // the file's, or the one given
+    // Where a plain save goes: the file behind the text, the path empty if there is none yet.
+    SaveTarget CurrentTarget() const;
+    int ChosenEncoding() const { return m_chosenEncoding; } // by a person; -1: detected
+    bool IsReadOnly() const;
+    bool IsUntouched(); // no file, no text, no change
+
+    // A load takes the language from the file's name. All views have the same.
+    int Language() const;
+    void SetLanguage(int language);
+    void FollowOptions(); // those of the options server, which have changed
+
+    // Of the script's text. Null once the last view is gone.
+    ScriptChecker* Checker() const { return m_checker.get(); }
+    LineEndWatch* LineEnds() const { return m_lineEnds.get(); }
+    ScriptView* FirstView() const;
+
+    // From the views
+    void OnViewMade(ScriptView& view);
+    void OnViewGoes(ScriptView& view); // while its editor still stands
+    void OnViewShown();                // its editor has the looks of its language
+    void OnTextChanged();
+    void OnFocus(); // what others did to the file has been asked about
+
+Q_SIGNALS:
+    void StateChanged();    // text, caret, modified flag, zoom: anything that a window shows
+    void LanguageChanged(); // the looks are those of the language again, in all views
+    void ProblemsChanged();
+
+protected:
+    const CommandMap& GetCommandMap() const override;
+
+private:
+    int SaveTo(const SaveTarget& target);
+    bool MayReplaceLongerFile(const SaveTarget& target);
+    bool MayLoseCharacters(SaveTarget& target); // the person may choose another encoding
+    int WriteTo(const SaveTarget& target);
+    void OnReload();
+    void ServeView(ScriptView& view);
+    void MarkAsOnlyHere();
+    QWidget* Window() const;
+
+    std::unique_ptr<ScriptChecker> m_checker;
+    std::unique_ptr<LineEndWatch> m_lineEnds;
+    int m_chosenEncoding = -1;
+    bool m_onlyHere = false;  // the file has another text by now, or is gone, and this one is kept
+    bool m_isTracked = false; // what others do to the file is asked about
+    bool m_asking = false;
+    bool m_told = false; // why the file was not read
+};

@@ -1,0 +1,240 @@
+#include "host/ScriptFrame.h"
+
+#include "host/ScriptDoc.h"
+#include "host/ScriptTabs.h"
+#include "host/ScriptView.h"
+#include "host/WorkbenchCommands.h"
+#include "platform/Disposal.h"
+#include "platform/docview/CommandIds.h"
+#include "platform/docview/CreateContext.h"
+#include "platform/docview/DocTemplate.h"
+
+#include <QDir>
+#include <QSplitter>
+
+#include <algorithm>
+#include <vector>
+
+namespace {
+
+// Which of the script's tabs it is; empty if there is one only.
+QString NumberOf(const CFrameWnd* frame, const CDocument& document)
+{
+    std::vector<const CFrameWnd*> frames;
+    for (const CView* view : document.GetViews()) {
+        const CFrameWnd* around = view->GetParentFrame();
+        if (around && std::find(frames.begin(), frames.end(), around) == frames.end())
+            frames.push_back(around);
+    }
+    const auto place = std::find(frames.begin(), frames.end(), frame) - frames.begin();
+    return frames.size() > 1 ? QStringLiteral(":%1").arg(place + 1) : QString();
+}
+
+void UpdateTitles(const CDocument& document)
+{
+    for (const CView* view : document.GetViews()) {
+        if (CFrameWnd* frame = view->GetParentFrame())
+            frame->OnUpdateFrameTitle();
+    }
+}
+
+} // namespace
+
+const CRuntimeClass* ScriptFrame::GetThisClass()
+{
+    static const CRuntimeClass own = {"ScriptFrame", CFrameWnd::GetThisClass(),
+                                      &ScriptFrame::CreateObject};
+    return &own;
+}
+
+ScriptFrame* ScriptFrame::Of(const QWidget* page)
+{
+    return dynamic_cast<ScriptFrame*>(AttachedWnd(const_cast<QWidget*>(page)));
+}
+
+// It gets its tab when it has something to show.
+HWND ScriptFrame::MakeWidget()
+{
+    return new QWidget(ScriptTabs::OfMainWindow());
+}
+
+bool ScriptFrame::OnCreateClient(CCreateContext* context)
+{
+    m_panes = new QSplitter(GetSafeHwnd());
+    m_panes->setChildrenCollapsible(false);
+    RecalcLayout(m_panes);
+    const CView* view = CreateView(context);
+    if (!view)
+        return false;
+    m_panes->addWidget(view->GetSafeHwnd());
+    return true;
+}
+
+ScriptView* ScriptFrame::Pane(int index) const
+{
+    return m_panes ? dynamic_cast<ScriptView*>(AttachedWnd(m_panes->widget(index))) : nullptr;
+}
+
+ScriptView* ScriptFrame::View() const
+{
+    auto* active = dynamic_cast<ScriptView*>(GetActiveView());
+    if (active)
+        return active;
+    return Pane(0) ? Pane(0) : Pane(1);
+}
+
+ScriptView* ScriptFrame::OtherPane() const
+{
+    for (int i = 0; m_panes && i < m_panes->count(); ++i) {
+        if (Pane(i) && Pane(i) != View())
+            return Pane(i);
+    }
+    return nullptr;
+}
+
+ScriptDoc* ScriptFrame::Script() const
+{
+    const ScriptView* view = View();
+    return view ? view->Script() : nullptr;
+}
+
+CZNCoreEditorControlEx& ScriptFrame::Editor() const
+{
+    return View()->GetCoreEditorControlRef();
+}
+
+QString ScriptFrame::Caption() const
+{
+    ScriptDoc* script = Script();
+    if (!script)
+        return {};
+    QString caption = script->Name() + NumberOf(this, *script);
+    if (script->IsReadOnly())
+        caption += QLatin1String(" (Read Only)");
+    if (script->IsModified())
+        caption += QLatin1String(" *");
+    return caption;
+}
+
+bool ScriptFrame::IsSplit() const
+{
+    return OtherPane() != nullptr;
+}
+
+void ScriptFrame::Split(Qt::Orientation orientation)
+{
+    m_panes->setOrientation(orientation);
+    ScriptDoc* script = Script();
+    if (IsSplit() || !script)
+        return;
+    const FrameworkCall call;
+    CCreateContext context{ScriptView::GetThisClass(), script, script->GetDocTemplate(), this};
+    CView* view = CreateView(&context);
+    if (!view)
+        return;
+    m_panes->addWidget(view->GetSafeHwnd());
+    m_panes->setSizes({1, 1}); // parts of the whole
+    view->OnInitialUpdate();
+    SetActiveView(view);
+}
+
+void ScriptFrame::Unsplit()
+{
+    if (ScriptView* other = OtherPane())
+        other->DestroyWindow();
+    if (ScriptView* view = View())
+        view->SetFocus();
+}
+
+void ScriptFrame::ToggleSplit(Qt::Orientation orientation)
+{
+    if (IsSplit() && m_panes->orientation() == orientation)
+        Unsplit();
+    else
+        Split(orientation);
+}
+
+void ScriptFrame::GoToOtherPane()
+{
+    if (ScriptView* other = OtherPane())
+        other->SetFocus();
+}
+
+void ScriptFrame::NewView()
+{
+    ScriptDoc* script = Script();
+    CDocTemplate* docTemplate = script ? script->GetDocTemplate() : nullptr;
+    CFrameWnd* frame = docTemplate ? docTemplate->CreateNewFrame(script, this) : nullptr;
+    if (!frame)
+        return;
+    frame->InitialUpdateFrame(script, true);
+    UpdateTitles(*script);
+}
+
+void ScriptFrame::BecomeActive()
+{
+    if (ScriptView* view = View()) {
+        SetActiveView(view);
+        view->SetFocus();
+    }
+}
+
+void ScriptFrame::ActivateFrame()
+{
+    ScriptTabs* tabs = ScriptTabs::OfMainWindow();
+    if (!tabs || !GetSafeHwnd())
+        return;
+    tabs->Show(GetSafeHwnd());
+    OnUpdateFrameTitle();
+    BecomeActive();
+}
+
+void ScriptFrame::OnUpdateFrameTitle()
+{
+    ScriptTabs* tabs = ScriptTabs::OfMainWindow();
+    const ScriptDoc* script = Script();
+    if (tabs && script && GetSafeHwnd())
+        tabs->SetCaption(GetSafeHwnd(), Caption(), QDir::toNativeSeparators(script->GetPathName()));
+}
+
+// The tabs of the same script that are left have other numbers.
+void ScriptFrame::DestroyWindow()
+{
+    const FrameworkCall call;
+    const HWND page = GetSafeHwnd();
+    ScriptDoc* script = Script();
+    CFrameWnd::DestroyWindow();
+    ScriptTabs* tabs = ScriptTabs::OfMainWindow();
+    if (page && tabs)
+        tabs->Remove(page);
+    if (script && !script->IsClosed())
+        UpdateTitles(*script);
+}
+
+template <Qt::Orientation Orientation>
+void ScriptFrame::UpdateSplit(CCmdTarget& target, CCmdUI& ui)
+{
+    const auto& frame = static_cast<ScriptFrame&>(target);
+    ui.Enable(frame.Script() != nullptr);
+    ui.SetCheck(frame.IsSplit() && frame.m_panes->orientation() == Orientation ? 1 : 0);
+}
+
+const CommandMap& ScriptFrame::GetCommandMap() const
+{
+    using Frame = ScriptFrame;
+    // clang-format off
+    static constexpr CommandEntry kCommands[] = {
+        {ID_WINDOW_NEW, [](CCmdTarget& t) { static_cast<Frame&>(t).NewView(); }},
+        {command::SplitBelow,   [](CCmdTarget& t) { static_cast<Frame&>(t).ToggleSplit(Qt::Vertical); }},
+        {command::SplitBeside,  [](CCmdTarget& t) { static_cast<Frame&>(t).ToggleSplit(Qt::Horizontal); }},
+        {command::OtherPane,    [](CCmdTarget& t) { static_cast<Frame&>(t).GoToOtherPane(); }},
+    };
+    static constexpr UpdateEntry kUpdates[] = {
+        {command::SplitBelow,  &UpdateSplit<Qt::Vertical>},
+        {command::SplitBeside, &UpdateSplit<Qt::Horizontal>},
+        {command::OtherPane,   [](CCmdTarget& t, CCmdUI& ui) { ui.Enable(static_cast<Frame&>(t).IsSplit()); }},
+    };
+    // clang-format on
+    static const CommandMap map = {&CFrameWnd::GetCommandMap(), kCommands, kUpdates};
+    return map;
+}

@@ -1,0 +1,158 @@
+// ScriptDoc: what is asked before its file is written, and before its text goes.
+#include "host/Encodings.h"
+#include "host/LossCheck.h"
+#include "host/ScriptDoc.h"
+#include "host/ScriptView.h"
+#include "platform/docview/DocTemplate.h"
+#include "platform/docview/FrameWnd.h"
+
+#include <QDir>
+#include <QFileInfo>
+#include <QScopedValueRollback>
+
+#include <utility>
+
+namespace {
+
+// The file behind a path whichever way it is written; the path itself while there is no file.
+QString SameFile(const QString& path)
+{
+    const QFileInfo info(path);
+    return info.exists() ? info.canonicalFilePath() : info.absoluteFilePath();
+}
+
+bool IsSameFile(const QString& one, const QString& other)
+{
+    return !one.isEmpty() && !other.isEmpty() && SameFile(one) == SameFile(other);
+}
+
+} // namespace
+
+SaveTarget ScriptDoc::CurrentTarget() const
+{
+    ScriptView* view = FirstView();
+    if (!view)
+        return {m_strPathName, FileEncodeConverter::encUTF8, false};
+    const CZNCoreEditorControlEx& editor = view->GetCoreEditorControlRef();
+    return {m_strPathName, editor.GetEncoding(), editor.GetWriteEncodingSig()};
+}
+
+// The person is shown what the question is about.
+int ScriptDoc::SaveModified()
+{
+    if (m_asking)
+        return 0;
+    if (!IsModified())
+        return 1;
+    const QScopedValueRollback<bool> asking(m_asking, true);
+    ScriptView* view = FirstView();
+    CFrameWnd* frame = view ? view->GetParentFrame() : nullptr;
+    if (frame && !frame->GetSafeHwnd()->isVisible())
+        frame->ActivateFrame();
+    switch (GetPrompts().BeforeLosing(Window(), Name())) {
+    case LoseChanges::Save:
+        return DoFileSave();
+    case LoseChanges::Discard:
+        return 1;
+    default:
+        return 0;
+    }
+}
+
+int ScriptDoc::DoFileSave()
+{
+    const std::uint32_t attributes = GetFileAttributesW(m_strPathName);
+    const bool isReadOnly =
+        attributes != INVALID_FILE_ATTRIBUTES && (attributes & FILE_ATTRIBUTE_READONLY);
+    return m_strPathName.isEmpty() || isReadOnly ? SaveAs() : SaveTo(CurrentTarget());
+}
+
+int ScriptDoc::SaveAs()
+{
+    SaveTarget proposal = CurrentTarget();
+    if (proposal.path.isEmpty())
+        proposal.path = QDir::current().filePath(Name() + QStringLiteral(".sql"));
+    const std::optional<SaveTarget> target = GetPrompts().WhereToSave(Window(), proposal);
+    return target && !IsClosed() ? SaveTo(*target) : 0;
+}
+
+int ScriptDoc::SaveTo(const SaveTarget& target)
+{
+    SaveTarget chosen = target;
+    CDocument* other = nullptr;
+    if (GetDocTemplate() && !IsSameFile(chosen.path, m_strPathName))
+        GetDocTemplate()->MatchDocType(chosen.path, other);
+    if (other && other != this) {
+        GetPrompts().Tell(Window(), QStringLiteral("“%1” is open in another tab. Close it first, "
+                                                   "or choose another name.")
+                                        .arg(QFileInfo(chosen.path).fileName()));
+        return 0;
+    }
+    if (!MayReplaceLongerFile(chosen) || !MayLoseCharacters(chosen) || !FirstView())
+        return 0;
+    return WriteTo(chosen);
+}
+
+bool ScriptDoc::MayReplaceLongerFile(const SaveTarget& target)
+{
+    if (!IsSameFile(target.path, m_strPathName) ||
+        !FirstView()->GetCoreEditorControl()->WasCutShort())
+        return true;
+    return GetPrompts().Confirm(
+        Window(),
+        QStringLiteral("Only the first part of “%1” could be read. Saving it under its own name "
+                       "loses the rest of the file.")
+            .arg(Name()),
+        QStringLiteral("Overwrite"));
+}
+
+bool ScriptDoc::MayLoseCharacters(SaveTarget& target)
+{
+    CZNCoreEditorControlEx& editor = FirstView()->GetCoreEditorControlRef();
+    const std::optional<LostCharacter> lost = FindLostCharacter(editor, target.encoding);
+    if (!lost)
+        return true;
+    const QString question = LossQuestion(QFileInfo(target.path).fileName(),
+                                          EncodingName(target.encoding, target.mark), *lost);
+    switch (GetPrompts().BeforeQuestionMarks(Window(), question)) {
+    case LoseCharacters::SaveAsUtf8:
+        target.encoding = FileEncodeConverter::encUTF8;
+        target.mark = false;
+        return true;
+    case LoseCharacters::SaveAnyway:
+        return true;
+    default:
+        return false;
+    }
+}
+
+// Without a change nothing would be written, and another encoding is one.
+int ScriptDoc::WriteTo(const SaveTarget& target)
+{
+    CZNCoreEditorControlEx& editor = FirstView()->GetCoreEditorControlRef();
+    const SaveTarget before = CurrentTarget();
+    const int wasModified = IsModified();
+    if (before.encoding != target.encoding || before.mark != target.mark)
+        SetModifiedFlag(1);
+    editor.SetEncoding(target.encoding);
+    editor.SetWriteEncodingSig(target.mark);
+    const int saved = DoSave(target.path, 1);
+    if (!saved && !IsClosed()) {
+        editor.SetEncoding(before.encoding);
+        editor.SetWriteEncodingSig(before.mark);
+        SetModifiedFlag(wasModified);
+    }
+    Q_EMIT StateChanged();
+    return saved;
+}
+
+int ScriptDoc::OnSaveDocument(const QString& path)
+{
+    const bool wasOnlyHere = std::exchange(m_onlyHere, false);
+    if (CZNCoreEditorDoc::OnSaveDocument(path)) {
+        m_isTracked = m_lastAccessTime != 0;
+        return 1;
+    }
+    m_onlyHere = wasOnlyHere;
+    return 0;
+}

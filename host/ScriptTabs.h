@@ -1,0 +1,22 @@
+// The tabs of the main window. A page is the window of a frame around scripts.
+#pragma once
+
+#include <QTabWidget>
+
+class ScriptTabs final : public QTabWidget
+{
+    Q_OBJECT
+
+public:
+    explicit ScriptTabs(QWidget* parent);
+
+    // Those of the application's main window. Null without one.
+    static ScriptTabs* OfMainWindow();
+
+    void Show(QWidget* page); // adds it if it has no tab yet
+    void Remove(QWidget* page);
+    void SetCaption(QWidget* page, const QString& caption, const QString& toolTip);
+
+Q_SIGNALS:
+    void Added(QWidget* page);
+};

@@ -1,0 +1,227 @@
+#include "host/ScriptView.h"
+
+#include "control/EngineRecords.h"
+#include "host/BatchMark.h"
+#include "host/FileDrops.h"
+#include "host/ScriptDoc.h"
+#include "host/ScrollRange.h"
+#include "platform/docview/CommandIds.h"
+#include "platform/docview/FrameWnd.h"
+
+#include <utility>
+
+const CRuntimeClass* ScriptView::GetThisClass()
+{
+    static const CRuntimeClass own = {"ScriptView", CZNCoreEditorView::GetThisClass(),
+                                      &ScriptView::CreateObject};
+    return &own;
+}
+
+ScriptDoc* ScriptView::Script() const
+{
+    return dynamic_cast<ScriptDoc*>(GetDocument());
+}
+
+int ScriptView::OnCreate(CCreateContext* context)
+{
+    if (CZNCoreEditorView::OnCreate(context) == -1)
+        return -1;
+    m_coreEditor.SetCarefulFiles(true);
+    m_coreEditor.SetEncoding(FileEncodeConverter::encUTF8);
+    m_coreEditor.SetWriteEncodingSig(false);
+    m_coreEditor.SetScrollWidth(1, 1);
+    DefineBatchMark(m_coreEditor);
+    m_coreEditor.GetSafeHwnd()->setAccessibleName(QStringLiteral("Script"));
+    FileDrops::Take(*m_coreEditor.GetSafeHwnd());
+    if (ScriptDoc* script = Script())
+        script->OnViewMade(*this);
+    return 0;
+}
+
+void ScriptView::OnDestroy()
+{
+    if (ScriptDoc* script = Script())
+        script->OnViewGoes(*this);
+}
+
+void ScriptView::OnInitialUpdate()
+{
+    CZNCoreEditorView::OnInitialUpdate();
+    ScriptDoc* script = Script();
+    if (!script)
+        return;
+    if (ScriptView* first = script->FirstView(); first && first != this)
+        ShowAsTheOther(*first);
+    script->OnViewShown();
+    FollowSoon();
+}
+
+void ScriptView::ShowAsTheOther(ScriptView& other)
+{
+    CZNCoreEditorControlEx& editor = other.m_coreEditor;
+    const int top = editor.GetFirstVisibleLine(1);
+    m_coreEditor.SetZoom(editor.GetZoom(1), 1);
+    m_coreEditor.SetScrollWidth(editor.GetScrollWidth(1), 1);
+    m_coreEditor.SetSel(editor.GetAnchor(1), editor.GetCurrentPos(1), 1);
+    m_coreEditor.LineScroll(0, top - m_coreEditor.GetFirstVisibleLine(1), 1);
+}
+
+void ScriptView::OnSetFocus(HWND previous)
+{
+    CZNCoreEditorView::OnSetFocus(previous);
+    if (ScriptDoc* script = Script())
+        script->OnFocus();
+}
+
+int ScriptView::OnCmdMsg(UINT id, int code, void* extra, CommandHandlerInfo* info)
+{
+    return CZNCoreEditorView::OnCmdMsg(id, code, extra, info) ||
+           m_coreEditor.OnCmdMsg(id, code, extra, info);
+}
+
+// The base may close the view; then nothing is left to follow.
+int ScriptView::OnNotify(WPARAM wParam, LPARAM lParam, LRESULT* result)
+{
+    const bool isOwn = m_coreEditor.IsBaseEditorNotify(lParam);
+    const int known = CZNCoreEditorView::OnNotify(wParam, lParam, result);
+    ScriptDoc* script = GetSafeHwnd() ? Script() : nullptr;
+    if (!isOwn || !script)
+        return known;
+    const auto& record = *reinterpret_cast<const SCNotification*>(lParam);
+    constexpr int kTextBits = modification::InsertText | modification::DeleteText;
+    switch (record.nmhdr.code) {
+    case notify::SavePointReached:
+    case notify::SavePointLeft:
+        Q_EMIT script->StateChanged(); // at once: the keys for saving may be next in line
+        break;
+    case notify::Modified:
+        if (record.modificationType & kTextBits)
+            script->OnTextChanged();
+        FollowSoon();
+        break;
+    case notify::UpdateUi:
+    case notify::Zoom:
+        FollowSoon();
+        break;
+    default:
+        break;
+    }
+    return known;
+}
+
+// A load or a replacement of all brings thousands of notifications; the window follows once.
+void ScriptView::FollowSoon()
+{
+    if (std::exchange(m_following, true))
+        return;
+    QWidget* window = GetSafeHwnd();
+    QMetaObject::invokeMethod(
+        window,
+        [this, window] {
+            if (AttachedWnd(window) == this)
+                Follow();
+        },
+        Qt::QueuedConnection);
+}
+
+// Of several views of a text the one that was active last has the bar.
+void ScriptView::Follow()
+{
+    m_following = false;
+    ScriptDoc* script = Script();
+    const CFrameWnd* frame = GetParentFrame();
+    if (!script || !frame)
+        return;
+    if (frame->GetActiveView() == this && GetSafeHwnd()->isVisible())
+        MarkBatch(m_coreEditor);
+    FitScrollRange();
+    Q_EMIT script->StateChanged();
+}
+
+// The whole screen after a scroll, else the line that is being typed in.
+void ScriptView::FitScrollRange()
+{
+    const int first = m_coreEditor.GetFirstVisibleLine(1);
+    if (std::exchange(m_measuredFrom, first) != first) {
+        const int from = m_coreEditor.DocLineFromVisible(first, 1);
+        FitScrollWidth(m_coreEditor, from, from + m_coreEditor.LinesOnScreen(1));
+    } else {
+        const int line = m_coreEditor.LineFromPosition(m_coreEditor.GetCurrentPos(1), 1);
+        FitScrollWidth(m_coreEditor, line, line);
+    }
+}
+
+void ScriptView::SelectRange(long start, long end)
+{
+    m_coreEditor.EnsureRangeVisible(static_cast<int>(start), static_cast<int>(end));
+    m_coreEditor.SetSel(start, end, 1);
+    SetFocus();
+}
+
+void ScriptView::GoToLine(long line)
+{
+    m_coreEditor.GotoLineEnsureVisible(static_cast<int>(line));
+}
+
+QString ScriptView::CaretText()
+{
+    const long caret = m_coreEditor.GetCurrentPos(1);
+    return QStringLiteral("Line %1, column %2")
+        .arg(m_coreEditor.LineFromPosition(caret, 1) + 1)
+        .arg(m_coreEditor.GetColumn(caret, 1) + 1);
+}
+
+QString ScriptView::Catalog()
+{
+    const long caret = m_coreEditor.GetCurrentPos(1);
+    return QString::fromStdU16String(m_coreEditor.GetCatalogForOffset(static_cast<int>(caret), 1));
+}
+
+void ScriptView::CloseFrame()
+{
+    if (CFrameWnd* frame = GetParentFrame())
+        SendMessage(frame->GetSafeHwnd(), WM_CLOSE, 0, 0);
+}
+
+const MessageMap& ScriptView::GetMessageMap() const
+{
+    using View = ScriptView;
+    static constexpr MessageEntry kEntries[] = {
+        {WM_CREATE,
+         [](CWnd& t, WPARAM, LPARAM l) -> LRESULT {
+             return static_cast<View&>(t).OnCreate(reinterpret_cast<CCreateContext*>(l));
+         }},
+        {WM_DESTROY,
+         [](CWnd& t, WPARAM, LPARAM) -> LRESULT {
+             static_cast<View&>(t).OnDestroy();
+             return 0;
+         }},
+        {WM_SETFOCUS,
+         [](CWnd& t, WPARAM w, LPARAM) -> LRESULT {
+             static_cast<View&>(t).OnSetFocus(reinterpret_cast<HWND>(w));
+             return 0;
+         }},
+    };
+    static const MessageMap map = {&CZNCoreEditorView::GetMessageMap(), kEntries};
+    return map;
+}
+
+// Closing means the tab, of which a script may have several. Delete in the menu is for a selection.
+const CommandMap& ScriptView::GetCommandMap() const
+{
+    constexpr UINT kDelete = 53899;
+    using View = ScriptView;
+    // clang-format off
+    static constexpr CommandEntry kCommands[] = {
+        {ID_FILE_CLOSE, [](CCmdTarget& t) { static_cast<View&>(t).CloseFrame(); }},
+    };
+    static constexpr UpdateEntry kUpdates[] = {
+        {kDelete, [](CCmdTarget& t, CCmdUI& ui) {
+            auto& editor = static_cast<View&>(t).m_coreEditor;
+            ui.Enable(editor.IsSelection() && !editor.GetReadOnly(1));
+        }},
+    };
+    // clang-format on
+    static const CommandMap map = {&CZNCoreEditorView::GetCommandMap(), kCommands, kUpdates};
+    return map;
+}

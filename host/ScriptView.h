@@ -1,0 +1,47 @@
+// ScriptView: an editor for a script, with what the workbench adds to it: the bar beside the batch,
+// a scroll range that fits, files that are dropped on it.
+#pragma once
+
+#include "docview/ZNCoreEditorView.h"
+
+class ScriptDoc;
+
+class ScriptView final : public CZNCoreEditorView
+{
+public:
+    const CRuntimeClass* GetRuntimeClass() const override { return GetThisClass(); }
+    static const CRuntimeClass* GetThisClass();
+    static CObject* CreateObject() { return new ScriptView; }
+
+    ScriptDoc* Script() const; // null once it is closed
+
+    using CZNCoreEditorView::OnCmdMsg;
+    // The view's table and the document's, then what an editor knows that stands alone.
+    int OnCmdMsg(UINT id, int code, void* extra, CommandHandlerInfo* info) override;
+    int OnNotify(WPARAM wParam, LPARAM lParam, LRESULT* result) override;
+    void OnInitialUpdate() override;
+
+    void SelectRange(long start, long end); // and shows it
+    void GoToLine(long line);               // from 0, and shows it
+    QString CaretText();                    // line and column, from 1
+    QString Catalog();                      // the database in force at the caret, empty if unknown
+
+protected:
+    int OnCreate(CCreateContext* context);
+    void OnDestroy();
+    void OnSetFocus(HWND previous);
+
+    const MessageMap& GetMessageMap() const override;
+    const CommandMap& GetCommandMap() const override;
+
+private:
+    ScriptView() = default;
+    void FollowSoon();
+    void Follow();
+    void FitScrollRange();
+    void ShowAsTheOther(ScriptView& other);
+    void CloseFrame();
+
+    bool m_following = false;
+    int m_measuredFrom = -1; // the first line on screen when lines were last measured
+};

@@ -1,0 +1,175 @@
+#include "host/Workbench.h"
+
+#include "host/Places.h"
+#include "host/Prompts.h"
+#include "host/ScriptDoc.h"
+#include "host/ScriptFrame.h"
+#include "host/ScriptView.h"
+#include "host/WorkbenchCommands.h"
+#include "platform/Disposal.h"
+#include "platform/docview/CommandIds.h"
+#include "platform/docview/DocTemplate.h"
+
+#include <QDir>
+#include <QFileInfo>
+
+#include <algorithm>
+
+namespace {
+
+const QString kStrings = QStringLiteral("znworkbench\nScript \nScript\nSQL scripts (*.sql)\n.sql");
+
+QWidget* WindowOf(const CWinApp& app)
+{
+    const CWnd* main = app.GetMainWnd();
+    return main ? main->GetSafeHwnd() : nullptr;
+}
+
+QString FolderToStartIn(const ScriptDoc* script)
+{
+    return script && !script->GetPathName().isEmpty() ? QFileInfo(script->GetPathName()).path()
+                                                      : QDir::currentPath();
+}
+
+} // namespace
+
+Workbench::Workbench(Keeps keeps)
+    : m_keeps(keeps), m_guard(keeps == Keeps::Places ? OpenGuard::DefaultFolder() : QString()),
+      m_settings(QSettings::IniFormat, QSettings::UserScope, QStringLiteral("znworkbench"),
+                 QStringLiteral("settings")),
+      m_recent(m_settings)
+{
+    AddDocTemplate(std::make_unique<CMultiDocTemplate>(kStrings, ScriptDoc::GetThisClass(),
+                                                       ScriptFrame::GetThisClass(),
+                                                       ScriptView::GetThisClass()));
+}
+
+Workbench::~Workbench()
+{
+    CloseAllDocuments();
+    if (CWnd* main = GetMainWnd())
+        main->DestroyWindow();
+    Disposal::Run();
+}
+
+std::vector<ScriptDoc*> Workbench::Scripts() const
+{
+    std::vector<ScriptDoc*> scripts;
+    for (CDocument* document : GetTemplates().front()->GetDocuments()) {
+        if (auto* script = dynamic_cast<ScriptDoc*>(document))
+            scripts.push_back(script);
+    }
+    return scripts;
+}
+
+ScriptDoc* Workbench::ActiveScript() const
+{
+    const auto* main = dynamic_cast<CFrameWnd*>(GetMainWnd());
+    return main ? dynamic_cast<ScriptDoc*>(main->GetActiveDocument()) : nullptr;
+}
+
+ScriptDoc* Workbench::FindOpen(const QString& path) const
+{
+    CDocument* open = nullptr;
+    GetTemplates().front()->MatchDocType(path, open);
+    return dynamic_cast<ScriptDoc*>(open);
+}
+
+// A file that brought the last run down is not to bring down this one without a word.
+bool Workbench::MayOpen(const QString& path)
+{
+    if (!m_guard.IsSuspect(path) ||
+        GetPrompts().Confirm(WindowOf(*this), OpenAgainQuestion(path), QStringLiteral("Open")))
+        return true;
+    m_guard.Acquit(path);
+    return false;
+}
+
+// The mark stays until the script has been painted. The empty script that the window began with
+// makes room.
+CDocument* Workbench::OpenDocumentFile(const QString& path)
+{
+    const QString absolute = QFileInfo(path).absoluteFilePath();
+    if (FindOpen(absolute))
+        return CWinApp::OpenDocumentFile(absolute);
+    if (!MayOpen(absolute))
+        return nullptr;
+    const FrameworkCall call;
+    ScriptDoc* before = ActiveScript();
+    const OpenGuard::Mark mark = m_guard.Open(absolute);
+    CDocument* document = CWinApp::OpenDocumentFile(absolute);
+    if (!document)
+        return nullptr;
+    if (before && before != document && !before->IsClosed() && before->IsUntouched())
+        before->OnCloseDocument();
+    if (QWidget* window = WindowOf(*this); window && window->isVisible())
+        window->repaint();
+    return document;
+}
+
+CDocument* Workbench::OpenScript(const QString& path, int encoding)
+{
+    if (ScriptDoc* open = FindOpen(path); open && encoding >= 0) {
+        OpenDocumentFile(path);
+        return open->Reopen(encoding) ? open : nullptr;
+    }
+    const ScriptDoc::OpenAs as(encoding);
+    return OpenDocumentFile(path);
+}
+
+void Workbench::AddToRecentFileList(const QString& path)
+{
+    if (m_keeps == Keeps::Places)
+        m_recent.Add(path);
+}
+
+void Workbench::OnOpen()
+{
+    for (const QString& path :
+         GetPrompts().FilesToOpen(WindowOf(*this), FolderToStartIn(ActiveScript())))
+        OpenDocumentFile(path);
+}
+
+void Workbench::OnOpenAs()
+{
+    const std::optional<OpenChoice> choice =
+        GetPrompts().WhatToOpen(WindowOf(*this), FolderToStartIn(ActiveScript()));
+    if (choice)
+        OpenScript(choice->path, choice->encoding);
+}
+
+int Workbench::SaveAll()
+{
+    const FrameworkCall call;
+    for (ScriptDoc* script : Scripts()) {
+        if (!script->IsClosed() && script->IsModified() && !script->DoFileSave())
+            return 0;
+    }
+    return 1;
+}
+
+bool Workbench::CanSaveAll() const
+{
+    const std::vector<ScriptDoc*> scripts = Scripts();
+    return std::ranges::any_of(scripts,
+                               [](ScriptDoc* script) { return script->IsModified() != 0; });
+}
+
+const CommandMap& Workbench::GetCommandMap() const
+{
+    using App = Workbench;
+    // clang-format off
+    static constexpr CommandEntry kCommands[] = {
+        {ID_FILE_OPEN,     [](CCmdTarget& t) { static_cast<App&>(t).OnOpen(); }},
+        {command::OpenAs,  [](CCmdTarget& t) { static_cast<App&>(t).OnOpenAs(); }},
+        {command::SaveAll, [](CCmdTarget& t) { static_cast<App&>(t).SaveAll(); }},
+    };
+    static constexpr UpdateEntry kUpdates[] = {
+        {command::SaveAll, [](CCmdTarget& t, CCmdUI& ui) {
+            ui.Enable(static_cast<const App&>(t).CanSaveAll());
+        }},
+    };
+    // clang-format on
+    static const CommandMap map = {&CWinApp::GetCommandMap(), kCommands, kUpdates};
+    return map;
+}

@@ -1,0 +1,52 @@
+// Workbench: the application's end of the framework. It opens scripts, with the questions that come
+// before, and keeps the list of recent files.
+#pragma once
+
+#include "host/OpenGuard.h"
+#include "host/RecentFiles.h"
+#include "platform/docview/WinApp.h"
+
+#include <QSettings>
+
+class ScriptDoc;
+class ScriptFrame;
+
+class Workbench final : public CWinApp
+{
+public:
+    enum class Keeps
+    {
+        Nothing, // a run that leaves no traces
+        Places   // recent files, and what was being opened
+    };
+    explicit Workbench(Keeps keeps);
+    ~Workbench() override; // closes everything, asking nobody
+
+    // Opens the script, or shows it if it is open. Null if that failed, of which the user knows, or
+    // was not wanted.
+    CDocument* OpenDocumentFile(const QString& path) override;
+    CDocument* OpenScript(const QString& path, int encoding = -1); // -1: detect it
+    void NewScript() { OnFileNew(); }
+    void AddToRecentFileList(const QString& path) override;
+
+    int SaveAll(); // without a word about what has a name; 0 as soon as one is not saved
+    bool CanSaveAll() const;
+
+    std::vector<ScriptDoc*> Scripts() const;
+    ScriptDoc* ActiveScript() const; // null if there is none
+    RecentFiles& Recent() { return m_recent; }
+
+protected:
+    const CommandMap& GetCommandMap() const override;
+
+private:
+    void OnOpen();
+    void OnOpenAs();
+    bool MayOpen(const QString& path);
+    ScriptDoc* FindOpen(const QString& path) const;
+
+    Keeps m_keeps;
+    OpenGuard m_guard;
+    QSettings m_settings;
+    RecentFiles m_recent;
+};

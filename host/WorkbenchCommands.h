@@ -1,0 +1,15 @@
+// The numbers of the workbench's own commands, from the range that is a host's.
+#pragma once
+
+#include "platform/Types.h"
+
+namespace command {
+enum Id : UINT
+{
+    OpenAs = 32800,
+    SaveAll,
+    SplitBelow, // two panes, one below the other; or one again
+    SplitBeside,
+    OtherPane, // the focus goes there
+};
+} // namespace command
