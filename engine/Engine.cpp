@@ -87,7 +87,7 @@ long ClampedLine(const Raw& raw, long line)
 
 Engine::Engine(QsciScintillaBase& widget)
     : window(widget), raw(widget), text(raw), reporter(widget, raw, text), analysis(*this),
-      stored(raw), searcher(stored)
+      stored(raw, text), searcher(stored)
 {
     PrepareDocument();
     FollowEdits(*this);

@@ -30,6 +30,10 @@ struct SearchTarget
     long start = 0;
     long end = 0;
     int flags = 0;
+
+    // What was sought last: a loop over all matches brings the same text for each of them.
+    std::u16string sought;
+    std::string soughtBytes; // in UTF-8
 };
 
 // How a style differs on paper. Empty: as on the screen.

@@ -54,9 +54,13 @@ LRESULT GetSearchFlags(Engine& engine, WPARAM, LPARAM)
 
 LRESULT SearchInTarget(Engine& engine, WPARAM wParam, LPARAM lParam)
 {
-    const Utf8Text sought(CountedText(wParam, lParam));
     SearchTarget& target = engine.target;
-    const auto found = engine.searcher.Find(sought.View(), target.flags, target.start, target.end);
+    if (const std::u16string_view sought = CountedText(wParam, lParam); sought != target.sought) {
+        target.sought = sought;
+        target.soughtBytes = Utf8Text(sought).View();
+    }
+    const auto found =
+        engine.searcher.Find(target.soughtBytes, target.flags, target.start, target.end);
     if (!found)
         return -1;
     target.start = found->start;

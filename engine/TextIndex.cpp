@@ -56,10 +56,14 @@ long TextIndex::Length() const
     return m_units;
 }
 
+long TextIndex::LengthInBytes() const
+{
+    return m_unitsAreKnown && !m_change.underWay ? m_bytes : m_raw.Length();
+}
+
 bool TextIndex::IsAscii() const
 {
-    const long units = Length();
-    return units == (m_change.underWay ? m_raw.Length() : m_bytes);
+    return Length() == LengthInBytes();
 }
 
 // Whether the change at a place touches a pair of CR and LF: the CR stands before it, the LF is the

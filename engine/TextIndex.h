@@ -32,6 +32,7 @@ public:
     BytePos StartInBytes(long line) const; // likewise
     long LengthOfLine(long line) const;    // units, its line end included
     long Length() const;                   // units
+    long LengthInBytes() const;
 
     bool IsAscii() const;
 

@@ -7,11 +7,6 @@ namespace {
 
 constexpr int kNone = -1; // before the text, or behind it
 
-int ByteAt(const SearchedText& text, long length, long at)
-{
-    return at >= 0 && at < length ? static_cast<unsigned char>(text.Bytes(at, at + 1)[0]) : kNone;
-}
-
 bool TakePrefix(std::string_view& text, std::string_view prefix)
 {
     const bool stands = text.starts_with(prefix);
@@ -32,6 +27,13 @@ bool IsLineEnd(int before, int at)
 }
 
 } // namespace
+
+int PeekedText::ByteAt(long at) const
+{
+    if (const auto offset = static_cast<std::size_t>(at - base); offset < bytes.size())
+        return static_cast<unsigned char>(bytes[offset]);
+    return at >= 0 && at < length ? static_cast<unsigned char>(text.Bytes(at, at + 1)[0]) : kNone;
+}
 
 std::optional<AnchoredText> AnchoredText::Of(std::string_view pattern, bool posix)
 {
@@ -65,16 +67,16 @@ std::optional<AnchoredText> AnchoredText::Of(std::string_view pattern, bool posi
     return result;
 }
 
-std::optional<bool> AnchoredText::FitsAt(Range match, long to, const SearchedText& searched,
-                                         long length, const AsciiWords& words) const
+std::optional<bool> AnchoredText::FitsAt(Range match, long to, const PeekedText& searched,
+                                         const AsciiWords& words) const
 {
     constexpr int kAscii = 0x80;
     const auto isWord = [&words](int byte) {
         return byte >= 0 && words[static_cast<unsigned>(byte)];
     };
     if (lineStart || wordStart) {
-        const int before = ByteAt(searched, length, match.start - 1);
-        const int at = ByteAt(searched, length, match.start);
+        const int before = searched.ByteAt(match.start - 1);
+        const int at = searched.ByteAt(match.start);
         if (lineStart && !IsLineStart(before, at))
             return false;
         if (wordStart && (before >= kAscii || at >= kAscii))
@@ -83,8 +85,8 @@ std::optional<bool> AnchoredText::FitsAt(Range match, long to, const SearchedTex
             return false;
     }
     if (lineEnd || wordEnd) {
-        const int last = ByteAt(searched, length, match.end - 1);
-        const int behind = ByteAt(searched, length, match.end);
+        const int last = searched.ByteAt(match.end - 1);
+        const int behind = searched.ByteAt(match.end);
         // What is behind the end of a search is only asked whether it ends the line.
         const bool isAtEnd = match.end >= to;
         if (lineEnd && !(isAtEnd ? behind == kNone || behind == '\r' || behind == '\n'

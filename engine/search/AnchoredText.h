@@ -14,6 +14,17 @@ namespace engine::search {
 // The characters of words below 0x80.
 using AsciiWords = std::bitset<128>;
 
+// A text some of whose bytes are at hand.
+struct PeekedText
+{
+    const SearchedText& text;
+    long length = 0;
+    std::string_view bytes; // of the text, from base
+    long base = 0;
+
+    int ByteAt(long at) const; // -1 outside the text
+};
+
 struct AnchoredText
 {
     // Nothing for a pattern that is more than that. It is one of the translator's.
@@ -23,7 +34,7 @@ struct AnchoredText
 
     // Whether a match of the text has its edges, in a search that ends at a place. Nothing if that
     // takes more to know than bytes below 0x80.
-    std::optional<bool> FitsAt(Range match, long to, const SearchedText& searched, long length,
+    std::optional<bool> FitsAt(Range match, long to, const PeekedText& searched,
                                const AsciiWords& words) const;
 
     std::string text;

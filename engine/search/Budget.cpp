@@ -5,8 +5,6 @@
 namespace engine::search {
 namespace {
 
-constexpr double kSeconds = 2;
-
 double ThreadSeconds()
 {
     timespec now{};
@@ -21,7 +19,7 @@ bool Budget::HasTime()
     const double now = ThreadSeconds();
     if (m_start < 0)
         m_start = now;
-    m_isSpent = now - m_start > kSeconds;
+    m_isSpent = now - m_start > m_seconds;
     return !m_isSpent;
 }
 

@@ -9,6 +9,10 @@ namespace engine::search {
 class Budget
 {
 public:
+    static constexpr double kSeconds = 2;
+
+    explicit Budget(double seconds = kSeconds) : m_seconds(seconds) {}
+
     // A step of a match attempt, at a place of its subject. False once the time is spent.
     bool TakeStep(std::size_t place)
     {
@@ -34,6 +38,7 @@ public:
 private:
     bool HasTime();
 
+    double m_seconds;
     std::size_t m_place = 0;
     std::size_t m_steps = 0;
     double m_start = -1; // seconds; the first look starts the clock

@@ -34,8 +34,11 @@ public:
         Range visible; // the same, or up to where the pattern says it ends
     };
 
-    MatchFinder(const SearchedText& text, std::unique_ptr<Expression> expression, Rules rules)
-        : m_text(text), m_expression(std::move(expression)), m_rules(std::move(rules))
+    // The seconds of processor time are for each search.
+    MatchFinder(const SearchedText& text, std::unique_ptr<Expression> expression, Rules rules,
+                double seconds)
+        : m_text(text), m_expression(std::move(expression)), m_rules(std::move(rules)),
+          m_seconds(seconds)
     {}
 
     // Of the matches that start between two places and end before the second one.
@@ -71,6 +74,7 @@ private:
     const SearchedText& m_text;
     std::unique_ptr<Expression> m_expression;
     Rules m_rules;
+    double m_seconds;
 
     // Of the search under way.
     WordRule m_words;

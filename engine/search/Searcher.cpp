@@ -47,8 +47,10 @@ std::optional<Range> Searcher::Find(std::string_view sought, int flags, long fro
     if (isExpression)
         flags &= ~(flag::WholeWord | flag::WordStart);
     if (!Prepare(sought, flags)) {
-        if (isExpression)
-            m_groups = {};
+        if (isExpression) {
+            m_groupsAre = Groups::None;
+            m_groups[0] = {};
+        }
         return std::nullopt;
     }
     m_flags = flags;
@@ -85,7 +87,7 @@ bool Searcher::PrepareText(const std::string& text, bool matchCase)
     auto expression = Expression::Compile(text, Expression::Reading::Plain, matchCase);
     if (!expression)
         return false;
-    m_finder.emplace(m_text, std::move(expression), MatchFinder::Rules());
+    m_finder.emplace(m_text, std::move(expression), MatchFinder::Rules(), m_seconds);
     return true;
 }
 
@@ -123,7 +125,7 @@ bool Searcher::PrepareExpression(std::string_view sought, int flags)
     m_usesWords = translation.usesWords;
     m_groupNumbers = translation.groups;
     m_finder.emplace(m_text, std::move(expression),
-                     MatchFinder::Rules{translation.ends, translation.emptyAtLineEnds});
+                     MatchFinder::Rules{translation.ends, translation.emptyAtLineEnds}, m_seconds);
     if (!(flags & flag::Native))
         m_anchored = AnchoredText::Of(sought, posix);
     if (m_anchored && LiteralScan::Suits(m_anchored->text, matchCase)) {
@@ -171,8 +173,8 @@ std::optional<Range> Searcher::FindText(long from, long to)
     if (m_isDoubtful)
         return FindMatch(from <= to ? found->start : from, to);
     if (m_flags & flag::Expression) {
-        m_groupsAre = Groups::Kept;
-        m_groups = {found.value_or(Range())};
+        m_groupsAre = Groups::None;
+        m_groups[0] = found.value_or(Range());
     }
     return found;
 }
@@ -216,7 +218,7 @@ std::optional<Range> Searcher::FirstTextIn(std::string_view bytes, long base, lo
     auto hit = m_scan->First(bytes, 0);
     for (; hit; hit = m_scan->First(bytes, hit->start + 1)) {
         const Range match{base + static_cast<long>(hit->start), base + static_cast<long>(hit->end)};
-        if (Suits(match, to))
+        if (Suits(match, to, bytes, base))
             return match;
     }
     return std::nullopt;
@@ -227,7 +229,7 @@ std::optional<Range> Searcher::LastTextIn(std::string_view bytes, long base, lon
     auto hit = m_scan->Last(bytes, bytes.size());
     for (; hit; hit = m_scan->Last(bytes, hit->start)) {
         const Range match{base + static_cast<long>(hit->start), base + static_cast<long>(hit->end)};
-        if (Suits(match, to))
+        if (Suits(match, to, bytes, base))
             return match;
     }
     return std::nullopt;
@@ -235,13 +237,13 @@ std::optional<Range> Searcher::LastTextIn(std::string_view bytes, long base, lon
 
 // Whether a match of the text has the edges and the words that are asked for. Beside characters
 // that are not ASCII it counts, and the expression looks again from there.
-bool Searcher::Suits(Range match, long to)
+bool Searcher::Suits(Range match, long to, std::string_view bytes, long base)
 {
     if (!m_anchored)
         return Words().Admits(m_text, match);
     if (!m_anchored->HasEdges())
         return true;
-    const auto fits = m_anchored->FitsAt(match, to, m_text, m_length, m_asciiWords);
+    const auto fits = m_anchored->FitsAt(match, to, {m_text, m_length, bytes, base}, m_asciiWords);
     m_isDoubtful = !fits;
     return fits.value_or(true);
 }
@@ -253,10 +255,8 @@ std::optional<Range> Searcher::FindMatch(long from, long to)
     const bool isFound = finding.outcome == Expression::Outcome::Found;
     m_stopped += finding.outcome == Expression::Outcome::Stopped;
     if (m_flags & flag::Expression) {
-        m_groupsAre = isFound ? Groups::InFinder : Groups::Kept;
-        m_groups[0] = finding.visible;
-        if (!isFound)
-            m_groups = {};
+        m_groupsAre = isFound ? Groups::InFinder : Groups::None;
+        m_groups[0] = isFound ? finding.visible : Range();
     }
     return isFound ? std::optional<Range>(finding.visible) : std::nullopt;
 }
@@ -266,9 +266,11 @@ void Searcher::KeepGroups()
 {
     if (m_groupsAre == Groups::Kept)
         return;
+    for (std::size_t i = 1; i < m_groups.size(); ++i) {
+        const bool isThere = m_groupsAre == Groups::InFinder && m_groupNumbers[i] > 0;
+        m_groups[i] = isThere ? m_finder->Group(m_groupNumbers[i]) : Range{};
+    }
     m_groupsAre = Groups::Kept;
-    for (std::size_t i = 1; i < m_groups.size(); ++i)
-        m_groups[i] = m_groupNumbers[i] > 0 ? m_finder->Group(m_groupNumbers[i]) : Range{};
 }
 
 std::string Searcher::Substituted(std::string_view replacement)

@@ -32,7 +32,10 @@ enum Bit : int
 class Searcher
 {
 public:
-    explicit Searcher(const SearchedText& text) : m_text(text) {}
+    // The seconds are those of one search for an expression.
+    explicit Searcher(const SearchedText& text, double seconds = Budget::kSeconds)
+        : m_text(text), m_seconds(seconds)
+    {}
 
     // The first match between two places; the last one if they run backwards. Nothing sought is
     // found at once. Both and the text sought are UTF-8.
@@ -48,10 +51,11 @@ public:
 private:
     using Finding = MatchFinder::Finding;
 
-    // Where the groups of the last expression are.
+    // Where the groups of the last expression are; its match is kept at once.
     enum class Groups
     {
-        InFinder, // of its last match
+        None,
+        InFinder,
         Kept,
     };
 
@@ -67,7 +71,7 @@ private:
     std::optional<Range> FirstTextIn(std::string_view bytes, long base, long to);
     std::optional<Range> LastTextIn(std::string_view bytes, long base, long to);
     std::string AroundGap(long from, long gap, long to) const;
-    bool Suits(Range match, long to);
+    bool Suits(Range match, long to, std::string_view bytes, long base);
     WordRule Words() const
     {
         return {(m_flags & flag::WholeWord) != 0, (m_flags & flag::WordStart) != 0};
@@ -78,6 +82,7 @@ private:
     long Aligned(long at) const;
 
     const SearchedText& m_text;
+    double m_seconds;
     long m_length = 0; // of the text that is searched
 
     // What is prepared: a scan for a text, a finder for an expression, or both for a text at edges.
