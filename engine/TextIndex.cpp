@@ -81,8 +81,8 @@ void TextIndex::ChangeBegins(Change change)
 {
     ChangeDone();
     m_change = change;
+    m_change.lengthBefore = LengthInBytes();
     m_change.underWay = true;
-    m_change.lengthBefore = m_raw.Length();
     if (change.at.value < m_last.byte)
         m_last = Place();
 }
@@ -100,7 +100,7 @@ void TextIndex::DeletionBegins(BytePos at, long bytes)
         {.at = at, .deleted = bytes, .deletedUnits = units, .touchesCrLf = TouchesCrLf(at, bytes)});
 }
 
-void TextIndex::ChangeDone() const
+void TextIndex::ChangeDone(long insertedUnits) const
 {
     if (!m_change.underWay)
         return;
@@ -113,7 +113,8 @@ void TextIndex::ChangeDone() const
         return;
     }
     m_lineIndexIsWrong |= TouchesCrLf(change.at, change.inserted);
-    const long units = WalkToByte({0, at}, at + change.inserted).unit;
+    const long units =
+        insertedUnits >= 0 ? insertedUnits : WalkToByte({0, at}, at + change.inserted).unit;
     m_units += units;
     m_bytes += change.inserted;
     if (m_last.byte == at) // where the next one is likely to go in
