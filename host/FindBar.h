@@ -5,6 +5,8 @@
 #include <QWidget>
 
 #include <functional>
+#include <utility>
+#include <vector>
 
 class CFindReplaceManager;
 class CZNCoreEditorControlEx;
@@ -38,13 +40,13 @@ public:
     void MarkAll(); // bookmarks the lines
     void Count();
 
+    struct Row; // a menu's entry, and a button
+
 protected:
     void keyPressEvent(QKeyEvent* event) override;
     bool eventFilter(QObject* watched, QEvent* event) override;
 
 private:
-    struct Row; // a button, and a menu's entry where it has keys or a title
-
     QComboBox* MakeBox(const char* name, const QString& label);
     QCheckBox* MakeOption(const char* name, const QString& label, bool isOn);
     bool IsPossible(const Row& row) const;
