@@ -227,6 +227,8 @@ void ChangeReporter::OnModified(int position, int type, int length, int line, in
         ++s_inside;
         Flush();
         Note({.type = type, .position = {position}, .bytes = length});
+        if (m_follow)
+            m_follow(type & modification::BeforeInsert, position, length);
         --s_inside;
         --s_noting;
         return;
@@ -259,15 +261,15 @@ void ChangeReporter::Note(Change change)
         change.unit = m_text.ToUnits(change.position);
         change.lines = m_raw.LineCount();
         if (reported == modification::DeleteText)
-            m_deleted =
-                ToUtf16(m_raw.Bytes(change.position.value, change.position.value + change.bytes));
+            AssignUtf16(m_text16, BytesOf(change));
     }
+    const long length = m_text.LengthInBytes();
     if (reported == modification::InsertText) {
         m_text.InsertionBegins(change.position, change.bytes);
-        m_colouring->InsertionBegins(m_raw, change.position.value, change.bytes);
+        m_colouring->InsertionBegins(m_raw, length, change.position.value, change.bytes);
     } else {
         m_text.DeletionBegins(change.position, change.bytes);
-        m_colouring->DeletionBegins(m_raw, change.position.value, change.bytes);
+        m_colouring->DeletionBegins(m_raw, length, change.position.value, change.bytes);
     }
     m_change = change;
     ++s_pending;
@@ -282,13 +284,19 @@ void ChangeReporter::Flush()
         return;
     const Change change = std::exchange(m_change, Change());
     --s_pending;
-    m_text.ChangeDone();
     if (change.told || change.spoken)
         TellChange(change);
+    else
+        m_text.ChangeDone();
     for (const UINT code : std::exchange(m_savePoints, {})) {
         SCNotification record;
         Send(code, record);
     }
+}
+
+std::string_view ChangeReporter::BytesOf(const Change& change) const
+{
+    return m_raw.Bytes(change.position.value, change.position.value + change.bytes);
 }
 
 void ChangeReporter::TellChange(const Change& change)
@@ -296,14 +304,17 @@ void ChangeReporter::TellChange(const Change& change)
     SCNotification record;
     record.position = change.unit.value;
     record.linesAdded = m_raw.LineCount() - change.lines;
-    std::u16string text;
+    // A handler may make the next change, whose text is not this one.
+    std::u16string text = std::exchange(m_text16, {});
     if (change.type & modification::BeforeInsert) {
         record.modificationType = modification::InsertText;
-        text = ToUtf16(m_raw.Bytes(change.position.value, change.position.value + change.bytes));
+        const std::string_view bytes = BytesOf(change);
+        AssignUtf16(text, bytes);
+        m_text.InsertionDone(
+            CountUnits(bytes)); // of half a character that is not what the text has
     } else {
         record.modificationType = modification::DeleteText;
-        text = std::move(m_deleted);
-        m_deleted.clear();
+        m_text.ChangeDone();
     }
     record.modificationType |= change.type & kOrigin;
     record.text = text.c_str();
@@ -312,6 +323,8 @@ void ChangeReporter::TellChange(const Change& change)
         Speak(change, text);
     if (change.told)
         Send(notify::Modified, record);
+    if (m_text16.empty())
+        m_text16 = std::move(text); // for its storage
 }
 
 void ChangeReporter::Speak(const Change& change, const std::u16string& text) const

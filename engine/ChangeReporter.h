@@ -28,6 +28,12 @@ public:
     // Of the document: it hears of changes before they happen, and what styles are needed.
     void SetColouring(std::shared_ptr<Colouring> colouring) { m_colouring = std::move(colouring); }
 
+    // Called for each change behind what is noted, while the text is as it was.
+    void SetFollower(std::function<void(bool inserts, long position, long bytes)> follow)
+    {
+        m_follow = std::move(follow);
+    }
+
     int ModEventMask() const { return m_mask; }
     void SetModEventMask(int mask);
 
@@ -74,6 +80,7 @@ private:
     void Note(Change change);
     void Flush();
     void TellChange(const Change& change);
+    std::string_view BytesOf(const Change& change) const;
     void Speak(const Change& change, const std::u16string& text) const;
     void Send(UINT code, SCNotification& record);
     bool HasListener() const;
@@ -85,7 +92,8 @@ private:
     std::shared_ptr<Colouring> m_colouring;
     int m_mask = kDefaultModEventMask;
     Change m_change;
-    std::u16string m_deleted;       // the text of a noted deletion
+    std::function<void(bool inserts, long position, long bytes)> m_follow;
+    std::u16string m_text16;        // of a noted deletion; storage otherwise
     std::vector<UINT> m_savePoints; // told behind the change
 
     static int s_pending;

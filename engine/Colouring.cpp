@@ -157,9 +157,8 @@ void Colouring::Restart(const Raw& raw)
 }
 
 // Each window of a document tells of an edit before it happens, with the text as long as it was.
-bool Colouring::IsRepeated(const Raw& raw)
+bool Colouring::IsRepeated(long length)
 {
-    const long length = raw.Length();
     const bool repeated = length == m_notedLength;
     m_notedLength = length;
     m_edits += !repeated;
@@ -186,9 +185,9 @@ void Colouring::EditBegins(const Raw& raw, long start, long end)
     m_end = std::min(m_end, start);
 }
 
-void Colouring::InsertionBegins(const Raw& raw, long position, long bytes)
+void Colouring::InsertionBegins(const Raw& raw, long length, long position, long bytes)
 {
-    if (IsRepeated(raw))
+    if (IsRepeated(length))
         return;
     EditBegins(raw, position, position);
     if (position < m_tail.end) {
@@ -197,9 +196,9 @@ void Colouring::InsertionBegins(const Raw& raw, long position, long bytes)
     }
 }
 
-void Colouring::DeletionBegins(const Raw& raw, long position, long bytes)
+void Colouring::DeletionBegins(const Raw& raw, long length, long position, long bytes)
 {
-    if (IsRepeated(raw))
+    if (IsRepeated(length))
         return;
     EditBegins(raw, position, position + bytes);
     if (position < m_tail.end) {

@@ -52,9 +52,10 @@ public:
     // What batches are parted by, whose lines fold; empty: the dialect's own.
     void SetSeparator(const Raw& raw, std::optional<analysis::BatchSeparator> separator);
 
-    // Before text goes in or out. Every window of the document may say so.
-    void InsertionBegins(const Raw& raw, long position, long bytes);
-    void DeletionBegins(const Raw& raw, long position, long bytes);
+    // Before text goes in or out of a document of so many bytes. Every window that shows it may say
+    // so.
+    void InsertionBegins(const Raw& raw, long length, long position, long bytes);
+    void DeletionBegins(const Raw& raw, long length, long position, long bytes);
 
     // Styles up to this place at least, where the document's end of styles is before it.
     void StyleTo(const Raw& raw, long position);
@@ -89,7 +90,7 @@ private:
     void Become(const Raw& raw, int lexer);
     void ChooseDialect(const Raw& raw);
     void Restart(const Raw& raw);
-    bool IsRepeated(const Raw& raw);
+    bool IsRepeated(long length);
     void EditBegins(const Raw& raw, long start, long end);
     bool StyleChunk(const Raw& raw, long position);
     void Walk(const Raw& raw, SqlStyler& styler, long position);

@@ -87,7 +87,7 @@ long ClampedLine(const Raw& raw, long line)
 
 Engine::Engine(QsciScintillaBase& widget)
     : window(widget), raw(widget), text(raw), reporter(widget, raw, text), analysis(*this),
-      stored(raw), searcher(stored)
+      stored(raw, text), searcher(stored)
 {
     PrepareDocument();
     FollowEdits(*this);
@@ -106,6 +106,7 @@ void Engine::ShowDocument(LPARAM document)
     raw.Send(Sci::SCI_ADDREFDOCUMENT, 0, kept);
     raw.Send(Sci::SCI_SETDOCPOINTER, 0, document);
     raw.Send(Sci::SCI_RELEASEDOCUMENT, 0, kept);
+    target.start = target.end = 0;
     PrepareDocument();
 }
 
@@ -167,6 +168,14 @@ long Engine::Units(long position) const
 long Engine::CaretPosition() const
 {
     return Units(static_cast<long>(raw.Send(Sci::SCI_GETCURRENTPOS)));
+}
+
+void Engine::ReplaceTarget(std::string_view bytes)
+{
+    raw.Send(Sci::SCI_SETTARGETRANGE, static_cast<WPARAM>(target.start), target.end);
+    raw.Send(Sci::SCI_REPLACETARGET, bytes.size(), bytes.data());
+    target.start = static_cast<long>(raw.Send(Sci::SCI_GETTARGETSTART));
+    target.end = static_cast<long>(raw.Send(Sci::SCI_GETTARGETEND));
 }
 
 LRESULT Engine::Translate(const MessageRow& row, WPARAM wParam, LPARAM lParam)

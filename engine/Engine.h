@@ -23,6 +23,19 @@ namespace engine {
 
 class ErrorList;
 
+// What SearchInTarget searches and ReplaceTarget replaces. The stock engine learns of it when it
+// is to replace it. Bytes, which stay when the text changes.
+struct SearchTarget
+{
+    long start = 0;
+    long end = 0;
+    int flags = 0;
+
+    // What was sought last: a loop over all matches brings the same text for each of them.
+    std::u16string sought;
+    std::string soughtBytes; // in UTF-8
+};
+
 // How a style differs on paper. Empty: as on the screen.
 struct PrintStyle
 {
@@ -52,6 +65,9 @@ public:
     long Units(long position) const;
     long CaretPosition() const; // units
 
+    // Replaces the target by the bytes, which it is then.
+    void ReplaceTarget(std::string_view bytes);
+
     QsciScintillaBase& window;
     const Raw raw;
     std::shared_ptr<Colouring> colouring; // of the document
@@ -62,6 +78,7 @@ public:
     ErrorList* errors = nullptr; // of the text that the window shows
     const StoredText stored;
     search::Searcher searcher;
+    SearchTarget target;
 
     // What the stock engine has no place for.
     ErrorLook errorLook;              // as set in this window

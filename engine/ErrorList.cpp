@@ -336,14 +336,10 @@ void ErrorList::RedrawAfter(const Change& change, const Engine& engine) const
 
 void FollowEdits(Engine& engine)
 {
+    engine.reporter.SetFollower([&engine](bool inserts, long position, long bytes) {
+        engine.errors->NoteChange(engine, inserts, position, bytes);
+    });
     QsciScintillaBase& window = engine.window;
-    QObject::connect(
-        &window, &Sci::SCN_MODIFIED, &window,
-        [&engine](int position, int type, const char*, int length, int, int, int, int, int, int) {
-            if (type & kBefore)
-                engine.errors->NoteChange(engine, type & modification::BeforeInsert, position,
-                                          length);
-        });
     QObject::connect(&window, &Sci::SCN_UPDATEUI, &window,
                      [&engine](int) { engine.errors->Settle(engine); });
 }

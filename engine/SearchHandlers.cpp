@@ -1,5 +1,5 @@
-// Messages that search: over the target, from the anchor and in a range. The stock engine keeps the
-// target and its flags; what is found in between is this engine's own.
+// Messages that search: over the target, from the anchor and in a range. What is found in between,
+// the target and its flags are this engine's own.
 #include "engine/Engine.h"
 #include "engine/Handlers.h"
 
@@ -21,16 +21,50 @@ std::u16string_view CountedText(WPARAM length, LPARAM text)
     return {units, static_cast<std::size_t>(count)};
 }
 
+template <long SearchTarget::*Edge>
+LRESULT SetTargetEdge(Engine& engine, WPARAM wParam, LPARAM)
+{
+    engine.target.*Edge = engine.Bytes(static_cast<LPARAM>(wParam));
+    return 0;
+}
+
+template <long SearchTarget::*Edge>
+LRESULT GetTargetEdge(Engine& engine, WPARAM, LPARAM)
+{
+    return engine.Units(engine.target.*Edge);
+}
+
+LRESULT TargetFromSelection(Engine& engine, WPARAM, LPARAM)
+{
+    engine.target.start = static_cast<long>(engine.raw.Send(Sci::SCI_GETSELECTIONSTART));
+    engine.target.end = static_cast<long>(engine.raw.Send(Sci::SCI_GETSELECTIONEND));
+    return 0;
+}
+
+LRESULT SetSearchFlags(Engine& engine, WPARAM wParam, LPARAM)
+{
+    engine.target.flags = static_cast<int>(wParam);
+    return 0;
+}
+
+LRESULT GetSearchFlags(Engine& engine, WPARAM, LPARAM)
+{
+    return engine.target.flags;
+}
+
 LRESULT SearchInTarget(Engine& engine, WPARAM wParam, LPARAM lParam)
 {
-    const Utf8Text sought(CountedText(wParam, lParam));
-    const auto found = engine.searcher.Find(
-        sought.View(), static_cast<int>(engine.raw.Send(Sci::SCI_GETSEARCHFLAGS)),
-        static_cast<long>(engine.raw.Send(Sci::SCI_GETTARGETSTART)),
-        static_cast<long>(engine.raw.Send(Sci::SCI_GETTARGETEND)));
+    SearchTarget& target = engine.target;
+    if (const std::u16string_view sought = CountedText(wParam, lParam); sought != target.sought) {
+        target.sought = sought;
+        target.soughtBytes = Utf8Text(sought).View();
+    }
+    const auto found =
+        engine.searcher.Find(target.soughtBytes, target.flags, target.start, target.end);
     if (!found)
         return -1;
-    engine.raw.Send(Sci::SCI_SETTARGETRANGE, static_cast<WPARAM>(found->start), found->end);
+    target.start = found->start;
+    target.end = found->end;
     return engine.Units(found->start);
 }
 
@@ -91,13 +125,12 @@ LRESULT ReplaceTargetRe(Engine& engine, WPARAM wParam, LPARAM lParam)
 {
     const Utf8Text replacement(CountedText(wParam, lParam));
     const std::string text = engine.searcher.Substituted(replacement.View());
-    engine.raw.Send(Sci::SCI_REPLACETARGET, text.size(), text.data());
+    engine.ReplaceTarget(text);
     if (engine.raw.Send(Sci::SCI_GETSTATUS) == Sci::SC_STATUS_BADALLOC) {
         engine.raw.Send(Sci::SCI_SETSTATUS, 0);
         throw std::bad_alloc();
     }
-    return engine.Units(static_cast<long>(engine.raw.Send(Sci::SCI_GETTARGETEND))) -
-           engine.Units(static_cast<long>(engine.raw.Send(Sci::SCI_GETTARGETSTART)));
+    return engine.Units(engine.target.end) - engine.Units(engine.target.start);
 }
 
 // The stock engine does not tell whether it records.
@@ -110,6 +143,13 @@ LRESULT SetRecording(Engine& engine, WPARAM, LPARAM)
 }
 
 constexpr HandlerRow kRows[] = {
+    {message::SetTargetStart, SetTargetEdge<&SearchTarget::start>},
+    {message::GetTargetStart, GetTargetEdge<&SearchTarget::start>},
+    {message::SetTargetEnd, SetTargetEdge<&SearchTarget::end>},
+    {message::GetTargetEnd, GetTargetEdge<&SearchTarget::end>},
+    {message::TargetFromSelection, TargetFromSelection},
+    {message::SetSearchFlags, SetSearchFlags},
+    {message::GetSearchFlags, GetSearchFlags},
     {message::SearchInTarget, SearchInTarget},
     {message::FindTextW, FindText},
     {message::SearchAnchor, SearchAnchor},

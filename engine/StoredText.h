@@ -2,6 +2,7 @@
 #pragma once
 
 #include "engine/Raw.h"
+#include "engine/TextIndex.h"
 #include "engine/search/SearchedText.h"
 
 namespace engine {
@@ -9,9 +10,9 @@ namespace engine {
 class StoredText final : public search::SearchedText
 {
 public:
-    explicit StoredText(const Raw& raw) : m_raw(raw) {}
+    StoredText(const Raw& raw, const TextIndex& index) : m_raw(raw), m_index(index) {}
 
-    long Length() const override { return m_raw.Length(); }
+    long Length() const override { return m_index.LengthInBytes(); }
     long Gap() const override
     {
         return static_cast<long>(m_raw.Send(Raw::Sci::SCI_GETGAPPOSITION));
@@ -47,6 +48,7 @@ private:
     static inline unsigned s_wordsVersion = 0;
 
     const Raw& m_raw;
+    const TextIndex& m_index;
 };
 
 } // namespace engine

@@ -65,9 +65,10 @@ LRESULT InsertText(Engine& engine, WPARAM wParam, LPARAM lParam)
 // Gives the units of what the target became.
 LRESULT ReplaceTarget(Engine& engine, WPARAM wParam, LPARAM lParam)
 {
-    SendCounted(engine, Sci::SCI_REPLACETARGET, wParam, lParam);
-    return engine.Units(static_cast<long>(engine.raw.Send(Sci::SCI_GETTARGETEND))) -
-           engine.Units(static_cast<long>(engine.raw.Send(Sci::SCI_GETTARGETSTART)));
+    const Utf8Text text(CountedText(wParam, lParam));
+    engine.ReplaceTarget(text.View());
+    ThrowIfOutOfMemory(engine);
+    return engine.Units(engine.target.end) - engine.Units(engine.target.start);
 }
 
 // Pairs of unit and style; the stock engine wants a style for each byte.
@@ -254,8 +255,8 @@ LRESULT GetProperty(Engine& engine, WPARAM wParam, LPARAM lParam)
 LRESULT TargetAsUtf8(Engine& engine, WPARAM, LPARAM lParam)
 {
     const long length = engine.raw.Length(); // the target may lie behind a text that was cut
-    const long start = std::min<long>(engine.raw.Send(Sci::SCI_GETTARGETSTART), length);
-    const long end = std::min<long>(engine.raw.Send(Sci::SCI_GETTARGETEND), length);
+    const long start = std::clamp(engine.target.start, 0L, length);
+    const long end = std::clamp(engine.target.end, 0L, length);
     const std::string_view bytes = engine.raw.Bytes(std::min(start, end), std::max(start, end));
     if (auto* buffer = reinterpret_cast<char*>(lParam)) {
         std::copy(bytes.begin(), bytes.end(), buffer);

@@ -56,10 +56,14 @@ long TextIndex::Length() const
     return m_units;
 }
 
+long TextIndex::LengthInBytes() const
+{
+    return m_unitsAreKnown && !m_change.underWay ? m_bytes : m_raw.Length();
+}
+
 bool TextIndex::IsAscii() const
 {
-    const long units = Length();
-    return units == (m_change.underWay ? m_raw.Length() : m_bytes);
+    return Length() == LengthInBytes();
 }
 
 // Whether the change at a place touches a pair of CR and LF: the CR stands before it, the LF is the
@@ -77,8 +81,8 @@ void TextIndex::ChangeBegins(Change change)
 {
     ChangeDone();
     m_change = change;
+    m_change.lengthBefore = LengthInBytes();
     m_change.underWay = true;
-    m_change.lengthBefore = m_raw.Length();
     if (change.at.value < m_last.byte)
         m_last = Place();
 }
@@ -96,7 +100,7 @@ void TextIndex::DeletionBegins(BytePos at, long bytes)
         {.at = at, .deleted = bytes, .deletedUnits = units, .touchesCrLf = TouchesCrLf(at, bytes)});
 }
 
-void TextIndex::ChangeDone() const
+void TextIndex::ChangeDone(long insertedUnits) const
 {
     if (!m_change.underWay)
         return;
@@ -109,7 +113,8 @@ void TextIndex::ChangeDone() const
         return;
     }
     m_lineIndexIsWrong |= TouchesCrLf(change.at, change.inserted);
-    const long units = WalkToByte({0, at}, at + change.inserted).unit;
+    const long units =
+        insertedUnits >= 0 ? insertedUnits : WalkToByte({0, at}, at + change.inserted).unit;
     m_units += units;
     m_bytes += change.inserted;
     if (m_last.byte == at) // where the next one is likely to go in

@@ -32,6 +32,7 @@ public:
     BytePos StartInBytes(long line) const; // likewise
     long LengthOfLine(long line) const;    // units, its line end included
     long Length() const;                   // units
+    long LengthInBytes() const;
 
     bool IsAscii() const;
 
@@ -39,8 +40,9 @@ public:
     // asked in between is answered for the text as it stands at that moment.
     void InsertionBegins(BytePos at, long bytes);
     void DeletionBegins(BytePos at, long bytes);
-    void ChangeDone() const;
-    void Reset(); // another document
+    void ChangeDone() const { ChangeDone(-1); }
+    void InsertionDone(long units) const { ChangeDone(units); } // the units that went in
+    void Reset();                                               // another document
 
 private:
     struct Place
@@ -62,6 +64,7 @@ private:
     };
 
     void ChangeBegins(Change change);
+    void ChangeDone(long insertedUnits) const; // -1: they are to be counted
     void Settle() const;
     bool TouchesCrLf(BytePos at, long bytes) const;
     bool HasLineIndex() const;

@@ -65,9 +65,15 @@ std::size_t ToUtf16(std::string_view text, char16_t* buffer, std::size_t capacit
 
 std::u16string ToUtf16(std::string_view text)
 {
-    std::u16string result(text.size(), u'\0');
-    result.resize(ToUtf16(text, result.data(), result.size()));
+    std::u16string result;
+    AssignUtf16(result, text);
     return result;
+}
+
+void AssignUtf16(std::u16string& to, std::string_view text)
+{
+    to.resize(text.size());
+    to.resize(ToUtf16(text, to.data(), to.size()));
 }
 
 } // namespace engine

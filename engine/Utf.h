@@ -44,5 +44,6 @@ long CountUnits(std::string_view text);
 // units written.
 std::size_t ToUtf16(std::string_view text, char16_t* buffer, std::size_t capacity);
 std::u16string ToUtf16(std::string_view text);
+void AssignUtf16(std::u16string& to, std::string_view text); // keeps its storage
 
 } // namespace engine

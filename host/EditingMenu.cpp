@@ -18,6 +18,7 @@ struct EditingMenu::Row
     UINT command = 0; // of the editor; 0: the operation below
     void (*run)(Editor& editor) = nullptr;
     bool needsSelection = false;
+    bool changesText = true; // an operation; a command says itself what it needs
 };
 
 namespace {
@@ -39,6 +40,11 @@ template <void (Editor::*Operation)()>
 void Do(Editor& editor)
 {
     (editor.*Operation)();
+}
+
+void SelectToBrace(Editor& editor)
+{
+    editor.JumpToMatchingBrace(true);
 }
 
 const char16_t* LineEndOf(Editor& editor)
@@ -73,6 +79,7 @@ std::span<const EditingMenu::Row> Rows()
     static const EditingMenu::Row rows[] = {
         {"&Comments",   "comment",        "&Comment Out",           "Ctrl+/",        54037},
         {"&Comments",   "uncomment",      "&Undo Comment Out",      "Ctrl+Shift+/",  54041},
+        {"&Comments",   "commentLines",   "Comment &Lines Out",     nullptr, 0, Do<&Editor::OnEditSingleLineComment>},
         {"&Indentation", "indent",        "&Indent",                nullptr,         54034},
         {"&Indentation", "outdent",       "&Outdent",               nullptr,         54035},
         {"&Indentation", "tabsToSpaces",  "&Tabs to Spaces",        nullptr, 0, Do<&Editor::ConvertTabToSpaces>},
@@ -80,18 +87,31 @@ std::span<const EditingMenu::Row> Rows()
         {"&Indentation", "trim",          "Trim T&railing Spaces",  nullptr, 0, Do<&Editor::RemoveTrailingSpaces>},
         {"&Lines",      "sortUp",         "Sort &Ascending",        nullptr, 0, SortLines<true>,  true},
         {"&Lines",      "sortDown",       "Sort &Descending",       nullptr, 0, SortLines<false>, true},
+        {"&Lines",      "endLastLine",    "&End the Last Line",     nullptr, 0, Do<&Editor::EnsureFinalNewLine>},
         {"&Lines",      "endsWindows",    "Ends of &Windows (CR+LF)", nullptr,       54071},
         {"&Lines",      "endsUnix",       "Ends of &Unix (LF)",     nullptr,         54072},
         {"&Lines",      "endsMac",        "Ends of &Mac (CR)",      nullptr,         54073},
         {"&Words",      "upperCase",      "&Upper Case",            "Ctrl+Shift+U",  54042},
         {"&Words",      "lowerCase",      "&Lower Case",            "Ctrl+U",        54039},
+        {"&Words",      "capitalize",     "Ca&pitalize",            nullptr, 0, Do<&Editor::Capitalize>, true},
+        {"&Words",      "upperCaseWord",  "Upper Case of a W&ord",  nullptr, 0, Do<&Editor::WordUpperCase>},
+        {"&Words",      "lowerCaseWord",  "Lower Case of a Wo&rd",  nullptr, 0, Do<&Editor::WordLowerCase>},
+        {"&Words",      "capitalizeWord", "Capi&talize a Word",     nullptr, 0, Do<&Editor::WordCapitalize>},
+        {"&Words",      "deleteWord",     "De&lete a Word",         nullptr, 0, Do<&Editor::WordDelete>},
         {"&Words",      "swapCharacters", "Swap &Characters",       nullptr, 0, Do<&Editor::CharTranspose>},
         {"&Words",      "swapWords",      "Swap &Words",            nullptr, 0, Do<&Editor::WordTranspose>},
         {"&Words",      "increase",       "&Increase Number",       "Ctrl+Alt+Right", 54001},
         {"&Words",      "decrease",       "&Decrease Number",       "Ctrl+Alt+Left", 54002},
+        {"&Select",     "selectWord",     "&Word",                  nullptr, 0, Do<&Editor::SelectWord>, false, false},
+        {"&Select",     "selectLine",     "&Line",                  nullptr, 0, Do<&Editor::SelectLine>, false, false},
+        {"&Select",     "selectParagraph", "&Paragraph",            nullptr, 0, Do<&Editor::SelectPara>, false, false},
+        {"&Select",     "selectToBrace",  "To Matching &Brace",     "Ctrl+Shift+]", 0, SelectToBrace, false, false},
+        {"&Select",     "swapEnds",       "&Caret to the Other End", nullptr, 0, Do<&Editor::SwapAnchor>, true, false},
         {"&Bookmarks",  "bookmark",       "&Toggle",                "Ctrl+F2",       54057},
         {"&Bookmarks",  "nextBookmark",   "&Next",                  "F2",            54056},
         {"&Bookmarks",  "previousBookmark", "&Previous",            "Shift+F2",      54058},
+        {"&Bookmarks",  "firstBookmark",  "&First",                 nullptr, 0, Do<&Editor::FirstBookmark>, false, false},
+        {"&Bookmarks",  "lastBookmark",   "&Last",                  nullptr, 0, Do<&Editor::LastBookmark>, false, false},
         {"&Bookmarks",  "clearBookmarks", "&Clear All",             "Ctrl+Shift+F2", 54059},
         {nullptr,       "matchBrace",     "&Matching Brace",        "Ctrl+]",        54040},
         {nullptr,       "insertFile",     "Insert &File...",        nullptr,         54038},
@@ -135,7 +155,8 @@ bool EditingMenu::IsPossible(const Row& row) const
     if (!editor)
         return false;
     if (row.command == 0)
-        return !editor->GetReadOnly(1) && (!row.needsSelection || editor->IsSelection());
+        return (!row.changesText || !editor->GetReadOnly(1)) &&
+               (!row.needsSelection || editor->IsSelection());
     Rule rule(row.command);
     editor->OnCmdMsg(row.command, &rule);
     return rule.isPossible;

@@ -1,5 +1,6 @@
 #include "host/MainFrame.h"
 
+#include "host/FindBar.h"
 #include "host/MainWindow.h"
 #include "platform/docview/WinApp.h"
 
@@ -23,6 +24,25 @@ void MainFrame::OnClose()
     // Without a loop to end, this would end the next one.
     if (QThread::currentThread()->loopLevel() > 0)
         QCoreApplication::exit();
+}
+
+// What a view's menu and keys have for finding, and no view here runs.
+template <void (FindBar::*Operation)()>
+void MainFrame::RunFind(CCmdTarget& target)
+{
+    (static_cast<MainFrame&>(target).m_window.Find().*Operation)();
+}
+
+const CommandMap& MainFrame::GetCommandMap() const
+{
+    static constexpr CommandEntry kCommands[] = {
+        {57636, &RunFind<&FindBar::Open>},         {57640, &RunFind<&FindBar::FindNext>},
+        {54063, &RunFind<&FindBar::FindNext>},     {53902, &RunFind<&FindBar::FindPrevious>},
+        {53903, &RunFind<&FindBar::FindNextWord>}, {53904, &RunFind<&FindBar::FindPreviousWord>},
+        {57641, &RunFind<&FindBar::Replace>},
+    };
+    static const CommandMap map = {&CFrameWnd::GetCommandMap(), kCommands, {}};
+    return map;
 }
 
 const MessageMap& MainFrame::GetMessageMap() const

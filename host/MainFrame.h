@@ -3,6 +3,7 @@
 
 #include "platform/docview/FrameWnd.h"
 
+class FindBar;
 class MainWindow;
 
 class MainFrame final : public CFrameWnd
@@ -17,7 +18,11 @@ protected:
     void OnClose(); // asks about every script
 
     const MessageMap& GetMessageMap() const override;
+    const CommandMap& GetCommandMap() const override;
 
 private:
+    template <void (FindBar::*Operation)()>
+    static void RunFind(CCmdTarget& target);
+
     MainWindow& m_window;
 };

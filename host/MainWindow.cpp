@@ -6,6 +6,7 @@
 #include "host/ExpandedScript.h"
 #include "host/FileDrops.h"
 #include "host/FilePlace.h"
+#include "host/FindBar.h"
 #include "host/LanguageMenu.h"
 #include "host/MainFrame.h"
 #include "host/OptionsDialog.h"
@@ -26,6 +27,7 @@
 #include <QPointer>
 #include <QTabBar>
 #include <QTimer>
+#include <QVBoxLayout>
 
 #include <algorithm>
 
@@ -40,7 +42,14 @@ MainWindow::MainWindow(Workbench& app)
       m_status(new StatusIndicators(statusBar())), m_problems(new ProblemPane(this)),
       m_expanded(new ExpandedScript(this)), m_sessionTimer(new QTimer(this))
 {
-    setCentralWidget(m_tabs);
+    m_find = new FindBar([this] { return CurrentEditor(); });
+    auto* center = new QWidget(this);
+    auto* layout = new QVBoxLayout(center);
+    layout->setContentsMargins(0, 0, 0, 0);
+    layout->setSpacing(0);
+    layout->addWidget(m_tabs);
+    layout->addWidget(m_find);
+    setCentralWidget(center);
     addDockWidget(Qt::BottomDockWidgetArea, m_problems);
     resizeDocks({m_problems}, {kProblemsHeight}, Qt::Vertical);
     connect(m_problems, &ProblemPane::Chosen, this, [this](long start, long end) {
@@ -81,6 +90,12 @@ ScriptFrame* MainWindow::FrameAt(int index) const
 {
     ScriptFrame* frame = ScriptFrame::Of(m_tabs->widget(index));
     return frame && frame->Script() ? frame : nullptr;
+}
+
+CZNCoreEditorControlEx* MainWindow::CurrentEditor() const
+{
+    const ScriptFrame* frame = CurrentFrame();
+    return frame ? &frame->Editor() : nullptr;
 }
 
 int MainWindow::TabCount() const

@@ -6,8 +6,10 @@
 
 #include <span>
 
+class CZNCoreEditorControlEx;
 class EditingMenu;
 class ExpandedScript;
+class FindBar;
 class LanguageMenu;
 class MainFrame;
 class ProblemPane;
@@ -34,6 +36,7 @@ public:
 
     ScriptFrame* CurrentFrame() const; // null if there is none
     ScriptFrame* FrameAt(int index) const;
+    CZNCoreEditorControlEx* CurrentEditor() const; // of its active pane
     int TabCount() const;
     void ShowTab(int index);
 
@@ -42,9 +45,10 @@ public:
     void ResumeSession();
     void EndSession(); // the last state is that of this moment
 
-    void SetLanguage(int language); // of the current script
-    void FollowOptions();           // in every script, at once
-    void UpdateAll();               // what is shown of the script in front
+    FindBar& Find() const { return *m_find; } // in the script in front
+    void SetLanguage(int language);           // of the current script
+    void FollowOptions();                     // in every script, at once
+    void UpdateAll();                         // what is shown of the script in front
 
     // The commands of the menus that are the window's own.
     void ShowWhitespace(bool show);
@@ -91,6 +95,7 @@ private:
     ProblemPane* m_problems;
     ExpandedScript* m_expanded;
     EditingMenu* m_editing = nullptr;
+    FindBar* m_find = nullptr;
     QTimer* m_sessionTimer;
     QList<QAction*> m_actions; // of the named commands, in their order
     bool m_keepsSession = false;

@@ -4,6 +4,7 @@
 // editor. Where the table has a key of a menu, both stand for the same command.
 #include "editing/ZNCoreEditorControlEx.h"
 #include "host/EditingMenu.h"
+#include "host/FindBar.h"
 #include "host/LanguageMenu.h"
 #include "host/MainFrame.h"
 #include "host/MainWindow.h"
@@ -159,10 +160,8 @@ void MainWindow::BuildMenus()
         if (command.id == command::OpenAs)
             menu->addMenu(recent);
     }
-    m_editing = new EditingMenu(*edit, [this] {
-        const ScriptFrame* frame = CurrentFrame();
-        return frame ? &frame->Editor() : nullptr;
-    });
+    m_find->AddActions(*edit->addMenu(QStringLiteral("Fi&nd")));
+    m_editing = new EditingMenu(*edit, [this] { return CurrentEditor(); });
 }
 
 bool MainWindow::IsPossible(When when) const
@@ -188,6 +187,7 @@ void MainWindow::UpdateCommands()
             ++action;
     }
     m_editing->Update();
+    m_find->Update();
 }
 
 void MainWindow::ShowWhitespace(bool show)

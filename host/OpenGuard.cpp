@@ -51,9 +51,20 @@ QByteArray ReadAll(int descriptor)
     return file.open(descriptor, QFile::ReadOnly) ? file.read(kMostBytes) : QByteArray();
 }
 
+// A file that keeps its size and place is on disk sooner: nothing about it changes but its bytes.
+// Blanks behind a list mean nothing.
+QByteArray Padded(QByteArray bytes)
+{
+    constexpr qsizetype kBlock = 4096;
+    bytes.append((kBlock - bytes.size() % kBlock) % kBlock, ' ');
+    return bytes;
+}
+
 bool WriteAll(int file, const QByteArray& bytes)
 {
-    if (ftruncate(file, 0) != 0)
+    struct stat status;
+    if (fstat(file, &status) != 0 ||
+        (status.st_size > bytes.size() && ftruncate(file, bytes.size()) != 0))
         return false;
     for (qsizetype at = 0; at < bytes.size();) {
         const ssize_t count =
@@ -148,7 +159,8 @@ void OpenGuard::Write(bool durably)
     const bool isFresh = m_file < 0;
     if (isFresh && !MakeFile())
         return;
-    WriteAll(m_file, QJsonDocument(QJsonArray::fromStringList(m_suspects + m_opening)).toJson());
+    WriteAll(m_file,
+             Padded(QJsonDocument(QJsonArray::fromStringList(m_suspects + m_opening)).toJson()));
     if (durably)
         fdatasync(m_file);
     if (!durably || !isFresh)

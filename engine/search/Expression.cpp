@@ -1,15 +1,21 @@
 #include "engine/search/Expression.h"
 
+#include "engine/search/PatternText.h"
+
 #define PCRE2_CODE_UNIT_WIDTH 8
 #include <pcre2.h>
+
+#include <algorithm>
 
 namespace engine::search {
 namespace {
 
-constexpr std::uint32_t kMatchLimit = 10'000'000; // backtracks from one start
-constexpr std::uint32_t kDepthLimit = 1'000'000;  // of the interpreter
-constexpr std::uint32_t kHeapLimit = 64 * 1024;   // KB, of the interpreter
-constexpr std::size_t kFirstStack = 64 * 1024;    // bytes, of compiled code
+// Backtracks from one start. With so few a quick run through a window takes milliseconds.
+constexpr std::uint32_t kQuickLimit = 4096;
+constexpr std::uint32_t kCarefulLimit = 10'000'000;
+constexpr std::uint32_t kDepthLimit = 1'000'000; // of the interpreter
+constexpr std::uint32_t kHeapLimit = 64 * 1024;  // KB, of the interpreter
+constexpr std::size_t kFirstStack = 64 * 1024;   // bytes, of compiled code
 constexpr std::size_t kLargestStack = 16 * 1024 * 1024;
 constexpr std::size_t kLongestPattern = 1024 * 1024; // bytes
 
@@ -29,7 +35,6 @@ pcre2_match_context* MatchContext()
 {
     static pcre2_match_context* const context = [] {
         pcre2_match_context* made = pcre2_match_context_create(nullptr);
-        pcre2_set_match_limit(made, kMatchLimit);
         pcre2_set_depth_limit(made, kDepthLimit);
         pcre2_set_heap_limit(made, kHeapLimit);
         static pcre2_jit_stack* const stack =
@@ -47,8 +52,14 @@ pcre2_code* CompileWith(const std::string& pattern, unsigned options)
     pcre2_code* code = pcre2_compile(reinterpret_cast<PCRE2_SPTR>(pattern.data()), pattern.size(),
                                      options, &error, &place, CompileContext());
     if (code) // without its compiler PCRE2 interprets, with the same matches
-        pcre2_jit_compile(code, PCRE2_JIT_COMPLETE);
+        pcre2_jit_compile(code, PCRE2_JIT_COMPLETE | PCRE2_JIT_PARTIAL_HARD);
     return code;
+}
+
+int TakeStep(pcre2_callout_block* block, void* budget)
+{
+    return static_cast<Budget*>(budget)->TakeStep(block->current_position) ? 0
+                                                                           : PCRE2_ERROR_CALLOUT;
 }
 
 } // namespace
@@ -87,6 +98,17 @@ Expression::Expression(pcre2_real_code_8* code, std::string pattern, unsigned op
     m_lookbehind = value;
     pcre2_pattern_info(code, PCRE2_INFO_CAPTURECOUNT, &value);
     m_groups = static_cast<int>(value);
+    pcre2_pattern_info(code, PCRE2_INFO_LASTCODETYPE, &value);
+    if (value == 1) {
+        pcre2_pattern_info(code, PCRE2_INFO_LASTCODEUNIT, &value);
+        const auto byte = static_cast<char>(value);
+        // Ignoring case, k and s have a form outside ASCII.
+        const bool isLetter = IsAsciiLetter(static_cast<unsigned char>(byte));
+        if ((options & PCRE2_CASELESS) == 0 || (byte >= 0 && !isLetter))
+            m_required = byte;
+        else if (isLetter && (byte | 0x20) != 'k' && (byte | 0x20) != 's')
+            m_required = {byte, static_cast<char>(byte ^ 0x20)};
+    }
     std::size_t compiledSize = 0;
     pcre2_pattern_info(code, PCRE2_INFO_JITSIZE, &compiledSize);
     m_isCompiled = compiledSize > 0;
@@ -94,20 +116,22 @@ Expression::Expression(pcre2_real_code_8* code, std::string pattern, unsigned op
 
 Expression::~Expression() = default;
 
-bool Expression::Prepare(const Run& run)
+pcre2_real_code_8* Expression::CodeFor(const Run& run)
 {
-    if (run.lastStart != kAnywhere && !m_bounded)
-        m_bounded.reset(CompileWith(m_pattern, m_options | PCRE2_USE_OFFSET_LIMIT));
-    if (run.isUnfinished && !m_knowsPartial) {
-        pcre2_jit_compile(m_code.get(), PCRE2_JIT_PARTIAL_HARD);
-        m_knowsPartial = true;
-    }
-    return m_match && (run.lastStart == kAnywhere || m_bounded);
+    const auto made = [this](Code& code, unsigned options) {
+        if (!code)
+            code.reset(CompileWith(m_pattern, m_options | options));
+        return code.get();
+    };
+    if (run.budget)
+        return made(m_careful, PCRE2_USE_OFFSET_LIMIT | PCRE2_AUTO_CALLOUT);
+    return run.lastStart == kAnywhere ? m_code.get() : made(m_bounded, PCRE2_USE_OFFSET_LIMIT);
 }
 
 Expression::Outcome Expression::Find(std::string_view subject, const Run& run)
 {
-    if (!Prepare(run))
+    pcre2_code* const code = CodeFor(run);
+    if (!code || !m_match)
         return Outcome::Stopped;
     unsigned options = 0;
     if (run.isUnfinished)
@@ -116,15 +140,17 @@ Expression::Outcome Expression::Find(std::string_view subject, const Run& run)
         options |= PCRE2_NOTEOL;
     if (run.notEmptyAtStart)
         options |= PCRE2_NOTEMPTY_ATSTART;
-    const bool isBounded = run.lastStart != kAnywhere;
-    pcre2_match_context* context = MatchContext();
-    pcre2_set_offset_limit(context, isBounded ? run.lastStart : PCRE2_UNSET);
+    pcre2_match_context* const context = MatchContext();
+    pcre2_set_match_limit(context, run.budget ? kCarefulLimit : kQuickLimit);
     // Straight to the machine code: what pcre2_match does before it costs as much as a short match.
-    const bool isStraight = m_isCompiled && !isBounded && !run.isUnfinished;
+    const bool isStraight = m_isCompiled && code == m_code.get();
+    if (!isStraight) {
+        pcre2_set_offset_limit(context, run.lastStart == kAnywhere ? PCRE2_UNSET : run.lastStart);
+        pcre2_set_callout(context, run.budget ? TakeStep : nullptr, run.budget);
+    }
     const auto match = isStraight ? pcre2_jit_match : pcre2_match;
-    const int result = match(isBounded ? m_bounded.get() : m_code.get(),
-                             reinterpret_cast<PCRE2_SPTR>(subject.data()), subject.size(), run.from,
-                             options, m_match.get(), context);
+    const int result = match(code, reinterpret_cast<PCRE2_SPTR>(subject.data()), subject.size(),
+                             run.from, options, m_match.get(), context);
     if (result == PCRE2_ERROR_NOMATCH)
         return Outcome::NotFound;
     if (result == PCRE2_ERROR_PARTIAL)
@@ -132,6 +158,13 @@ Expression::Outcome Expression::Find(std::string_view subject, const Run& run)
     // \K in a lookaround moves the start to where no match can be.
     const bool isSound = result > 0 && Start() >= run.from && Start() <= End();
     return isSound ? Outcome::Found : Outcome::Stopped;
+}
+
+bool Expression::CanMatchIn(std::string_view text) const
+{
+    return m_required.empty() ||
+           std::any_of(m_required.begin(), m_required.end(),
+                       [text](char byte) { return text.find(byte) != text.npos; });
 }
 
 std::size_t Expression::Start(int group) const

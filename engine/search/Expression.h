@@ -1,8 +1,10 @@
 // Expression: a compiled pattern of PCRE2, run over UTF-8 that may be ill-formed.
-// What it may cost is bounded: a match attempt that goes on for too long ends the search.
+// What it may cost is bounded: a quick run gives up early, a careful one when the time of its
+// search is spent.
 #pragma once
 
-#include <array>
+#include "engine/search/Budget.h"
+
 #include <cstddef>
 #include <memory>
 #include <string>
@@ -28,7 +30,7 @@ public:
         Found,
         NotFound,
         Partial, // only in an unfinished subject: what follows decides what starts here
-        Stopped, // it took too long
+        Stopped, // it goes on for too long
     };
 
     struct Run
@@ -38,6 +40,7 @@ public:
         bool isUnfinished = false;         // more text follows the subject
         bool endsInLine = false;           // the subject's end is no line's
         bool notEmptyAtStart = false;      // a match at from has characters
+        Budget* budget = nullptr;          // of a careful run; null: a quick one
     };
 
     static constexpr std::size_t kAnywhere = ~std::size_t{0};
@@ -59,9 +62,12 @@ public:
 
     std::size_t Lookbehind() const { return m_lookbehind; } // characters
 
+    // False if every match has a byte that the text lacks.
+    bool CanMatchIn(std::string_view text) const;
+
 private:
     Expression(pcre2_real_code_8* code, std::string pattern, unsigned options);
-    bool Prepare(const Run& run);
+    pcre2_real_code_8* CodeFor(const Run& run);
 
     struct FreeCode
     {
@@ -76,12 +82,13 @@ private:
     std::string m_pattern;
     unsigned m_options;
     Code m_code;
-    Code m_bounded; // made when a search has a last start: looking for it costs the others
+    Code m_bounded; // made when a run has a last start: looking for it costs the others
+    Code m_careful; // made with the first careful run: it reports every step
     std::unique_ptr<pcre2_real_match_data_8, FreeMatch> m_match;
     std::size_t m_lookbehind = 0;
     int m_groups = 0;
+    std::string m_required;    // forms of one byte that every match has; empty: none is known
     bool m_isCompiled = false; // to machine code
-    bool m_knowsPartial = false;
 };
 
 } // namespace engine::search

@@ -58,38 +58,55 @@ LiteralScan::LiteralScan(std::string_view sought, bool matchCase)
             m_longest += std::max<std::size_t>(ThirdForm(byte).size(), 1) - 1;
         }
     }
+    for (const char byte : m_sought)
+        m_masks += !matchCase && IsLetter(byte) ? '\x20' : '\0';
     ChooseAnchors();
 }
 
-// Both stand in one stretch of characters that have one length, so that their distance is known.
+bool LiteralScan::IsFixed(std::size_t i) const
+{
+    return m_matchCase || ThirdForm(m_sought[i]).empty();
+}
+
+// All stand in one stretch of characters that have one length, so that their distances are known.
 void LiteralScan::ChooseAnchors()
 {
-    const auto isFixed = [this](std::size_t i) {
-        return m_matchCase || ThirdForm(m_sought[i]).empty();
-    };
     const auto anchorAt = [this](std::size_t i) {
-        const bool anyCase = !m_matchCase && IsLetter(m_sought[i]);
         return Anchor{i, static_cast<unsigned char>(m_sought[i]),
-                      static_cast<unsigned char>(anyCase ? 0x20 : 0)};
+                      static_cast<unsigned char>(m_masks[i])};
+    };
+    const auto distance = [](std::size_t from, std::size_t to) {
+        return static_cast<std::ptrdiff_t>(to) - static_cast<std::ptrdiff_t>(from);
     };
     std::size_t rarest = m_sought.size();
     for (std::size_t i = 0; i < m_sought.size(); ++i) {
-        if (isFixed(i) &&
+        if (IsFixed(i) &&
             (rarest == m_sought.size() || Commonness(m_sought[i]) < Commonness(m_sought[rarest])))
             rarest = i;
     }
-    std::size_t second = rarest;
-    const auto consider = [&](std::size_t i) {
-        if (second == rarest || Commonness(m_sought[i]) < Commonness(m_sought[second]))
-            second = i;
-    };
-    for (std::size_t i = rarest + 1; i < m_sought.size() && isFixed(i); ++i)
-        consider(i);
-    for (std::size_t i = rarest; i > 0 && isFixed(i - 1); --i)
-        consider(i - 1);
+    const std::size_t second = RarestBeside(rarest, rarest);
+    const std::size_t third = RarestBeside(rarest, second);
     m_first = anchorAt(rarest);
     m_second = anchorAt(second);
-    m_distance = static_cast<std::ptrdiff_t>(second) - static_cast<std::ptrdiff_t>(rarest);
+    m_third = anchorAt(third);
+    m_distance = distance(rarest, second);
+    m_thirdDistance = distance(rarest, third);
+}
+
+// In the stretch around the anchor, and not the other; the anchor, if there is none.
+std::size_t LiteralScan::RarestBeside(std::size_t anchor, std::size_t other) const
+{
+    std::size_t rarest = anchor;
+    const auto consider = [&](std::size_t i) {
+        if (i != other &&
+            (rarest == anchor || Commonness(m_sought[i]) < Commonness(m_sought[rarest])))
+            rarest = i;
+    };
+    for (std::size_t i = anchor + 1; i < m_sought.size() && IsFixed(i); ++i)
+        consider(i);
+    for (std::size_t i = anchor; i > 0 && IsFixed(i - 1); --i)
+        consider(i - 1);
+    return rarest;
 }
 
 LiteralScan::Places LiteralScan::PlacesIn(std::string_view bytes) const
@@ -105,7 +122,8 @@ bool LiteralScan::AnchorsAt(std::string_view bytes, std::size_t place) const
         return (static_cast<unsigned char>(byte) | anchor.mask) == anchor.byte;
     };
     return stands(m_first, bytes[place]) &&
-           stands(m_second, bytes[place + static_cast<std::size_t>(m_distance)]);
+           stands(m_second, bytes[place + static_cast<std::size_t>(m_distance)]) &&
+           stands(m_third, bytes[place + static_cast<std::size_t>(m_thirdDistance)]);
 }
 
 unsigned LiteralScan::AnchorsAtSixteen(const char* place) const
@@ -118,14 +136,19 @@ unsigned LiteralScan::AnchorsAtSixteen(const char* place) const
     };
     const __m128i both =
         _mm_and_si128(standing(m_first, place), standing(m_second, place + m_distance));
-    return static_cast<unsigned>(_mm_movemask_epi8(both));
+    const auto bits = static_cast<unsigned>(_mm_movemask_epi8(both));
+    if (bits == 0)
+        return 0;
+    return bits &
+           static_cast<unsigned>(_mm_movemask_epi8(standing(m_third, place + m_thirdDistance)));
 #else
     unsigned bits = 0;
-    for (std::size_t i = 0; i < kBlock; ++i) {
-        const auto first = static_cast<unsigned char>(place[i]);
-        const auto second =
-            static_cast<unsigned char>(place[static_cast<std::ptrdiff_t>(i) + m_distance]);
-        if ((first | m_first.mask) == m_first.byte && (second | m_second.mask) == m_second.byte)
+    const auto stands = [](const Anchor& anchor, char byte) {
+        return (static_cast<unsigned char>(byte) | anchor.mask) == anchor.byte;
+    };
+    for (std::ptrdiff_t i = 0; i < static_cast<std::ptrdiff_t>(kBlock); ++i) {
+        if (stands(m_first, place[i]) && stands(m_second, place[i + m_distance]) &&
+            stands(m_third, place[i + m_thirdDistance]))
             bits |= 1U << i;
     }
     return bits;
@@ -187,6 +210,19 @@ std::optional<Hit> LiteralScan::Last(std::string_view bytes, std::size_t before)
     return std::nullopt;
 }
 
+// Whether the text stands at a place in forms of one byte. The place may be before the bytes.
+bool LiteralScan::AsciiMatches(std::string_view bytes, std::size_t start) const
+{
+    if (start > bytes.size() || bytes.size() - start < m_sought.size())
+        return false;
+    const char* at = bytes.data() + start;
+    for (std::size_t i = 0; i < m_sought.size(); ++i) {
+        if ((at[i] | m_masks[i]) != m_sought[i])
+            return false;
+    }
+    return true;
+}
+
 // The match whose first anchor stands at the place.
 std::optional<Hit> LiteralScan::MatchAround(std::string_view bytes, std::size_t place) const
 {
@@ -196,6 +232,10 @@ std::optional<Hit> LiteralScan::MatchAround(std::string_view bytes, std::size_t 
             return std::nullopt;
         return Hit{start, start + m_sought.size()};
     }
+    if (AsciiMatches(bytes, place - m_first.offset))
+        return Hit{place - m_first.offset, place - m_first.offset + m_sought.size()};
+    if (m_longest == m_sought.size())
+        return std::nullopt;
     std::size_t start = place;
     for (std::size_t i = m_first.offset; i > 0; --i) {
         if (!TakeBackward(bytes, start, m_sought[i - 1]))

@@ -1,7 +1,7 @@
 // LiteralScan: finds one text in bytes of UTF-8, with case or, if the text is ASCII, without.
-// It looks at two of the text's rarer bytes at sixteen places at once, and compares the rest where
-// both stand. Without case K and S have a third form outside ASCII, the signs for kelvin and the
-// long s, so a match may have more bytes than the text.
+// It looks at two of the text's rarer bytes at sixteen places at once, at a third one where both
+// stand, and compares the rest where that stands, too. Without case K and S have a third form
+// outside ASCII, the signs for kelvin and the long s, so a match may have more bytes than the text.
 #pragma once
 
 #include <cstddef>
@@ -49,9 +49,12 @@ private:
     };
 
     void ChooseAnchors();
+    std::size_t RarestBeside(std::size_t anchor, std::size_t other) const;
+    bool IsFixed(std::size_t i) const; // in length
     Places PlacesIn(std::string_view bytes) const;
     bool AnchorsAt(std::string_view bytes, std::size_t place) const;
     unsigned AnchorsAtSixteen(const char* place) const; // a bit for each place
+    bool AsciiMatches(std::string_view bytes, std::size_t start) const;
     std::optional<Hit> MatchAround(std::string_view bytes, std::size_t place) const;
     bool TakeForward(std::string_view bytes, std::size_t& at, char letter) const;
     bool TakeBackward(std::string_view bytes, std::size_t& at, char letter) const;
@@ -61,7 +64,10 @@ private:
     std::size_t m_longest;
     Anchor m_first;
     Anchor m_second;
-    std::ptrdiff_t m_distance = 0; // from the first to the second
+    Anchor m_third;
+    std::ptrdiff_t m_distance = 0;      // from the first to the second
+    std::ptrdiff_t m_thirdDistance = 0; // from the first to the third
+    std::string m_masks;                // over the bytes at a match, as an anchor's
 };
 
 } // namespace engine::search

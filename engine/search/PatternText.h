@@ -18,6 +18,12 @@ int HexadecimalAt(std::string_view text, std::size_t at);
 
 bool IsAsciiLetter(char32_t character);
 
+// Any byte of a character but its first.
+constexpr bool IsInsideCharacter(char byte)
+{
+    return (static_cast<unsigned char>(byte) & 0xC0) == 0x80;
+}
+
 std::string Join(std::initializer_list<std::string_view> parts);
 
 // As PCRE2 takes it anywhere: \x{..}

@@ -8,14 +8,7 @@
 namespace engine::search {
 namespace {
 
-using Outcome = Expression::Outcome;
-
 constexpr int kFlagsThatPrepare = flag::MatchCase | flag::Expression | flag::Posix | flag::Native;
-
-constexpr bool IsInsideCharacter(char byte)
-{
-    return (static_cast<unsigned char>(byte) & 0xC0) == 0x80;
-}
 
 char EscapedControl(char letter)
 {
@@ -46,44 +39,56 @@ char EscapedControl(char letter)
 std::optional<Range> Searcher::Find(std::string_view sought, int flags, long from, long to)
 {
     m_length = m_text.Length();
-    from = Aligned(std::clamp(from, 0L, m_length));
-    to = Aligned(std::clamp(to, 0L, m_length));
+    from = std::clamp(from, 0L, m_length);
+    to = std::clamp(to, 0L, m_length);
     if (sought.empty())
-        return Range{from, from};
-    if (flags & flag::Expression) {
+        return Range{Aligned(from), Aligned(from)};
+    const bool isExpression = (flags & flag::Expression) != 0;
+    if (isExpression)
         flags &= ~(flag::WholeWord | flag::WordStart);
-        m_groups = {};
-    }
-    if (!Prepare(sought, flags))
+    if (!Prepare(sought, flags)) {
+        if (isExpression) {
+            m_groupsAre = Groups::None;
+            m_groups[0] = {};
+        }
         return std::nullopt;
+    }
     m_flags = flags;
-    if (m_scan)
-        return from <= to ? FirstLiteral(from, to) : LastLiteral(to, from);
-    return from <= to ? FirstMatch(from, to) : LastMatch(to, from);
+    // What is sought starts with a whole character, so that only the upper place matters.
+    (from <= to ? to : from) = Aligned(std::max(from, to));
+    return m_scan ? FindText(from, to) : FindMatch(from, to);
 }
 
+// The groups of the expression before are kept aside for as long as texts are searched.
 bool Searcher::Prepare(std::string_view sought, int flags)
 {
     const bool isSame = m_flags >= 0 && sought == m_sought &&
                         (flags & kFlagsThatPrepare) == (m_flags & kFlagsThatPrepare) &&
-                        (!m_translation.usesWords || WordsAreTheSame());
-    if (!isSame) {
-        m_flags = -1;
-        m_sought = sought;
-        m_scan.reset();
-        m_expression.reset();
-        m_translation = {};
-        const bool matchCase = (flags & flag::MatchCase) != 0;
-        if (flags & flag::Expression) {
-            if (!PrepareExpression(sought, flags))
-                return false;
-        } else if (LiteralScan::Suits(sought, matchCase)) {
-            m_scan.emplace(sought, matchCase);
-        } else {
-            m_expression = Expression::Compile(m_sought, Expression::Reading::Plain, false);
-        }
+                        (!m_usesWords || WordsAreTheSame());
+    if (isSame)
+        return m_scan || m_finder;
+    KeepGroups();
+    m_flags = -1;
+    m_sought = sought;
+    m_scan.reset();
+    m_finder.reset();
+    m_anchored.reset();
+    m_usesWords = false;
+    return flags & flag::Expression ? PrepareExpression(sought, flags)
+                                    : PrepareText(m_sought, (flags & flag::MatchCase) != 0);
+}
+
+bool Searcher::PrepareText(const std::string& text, bool matchCase)
+{
+    if (LiteralScan::Suits(text, matchCase)) {
+        m_scan.emplace(text, matchCase);
+        return true;
     }
-    return m_scan || m_expression;
+    auto expression = Expression::Compile(text, Expression::Reading::Plain, matchCase);
+    if (!expression)
+        return false;
+    m_finder.emplace(m_text, std::move(expression), MatchFinder::Rules(), m_seconds);
+    return true;
 }
 
 bool Searcher::WordsAreTheSame()
@@ -97,23 +102,40 @@ bool Searcher::WordsAreTheSame()
 bool Searcher::PrepareExpression(std::string_view sought, int flags)
 {
     const bool matchCase = (flags & flag::MatchCase) != 0;
+    const bool posix = (flags & flag::Posix) != 0;
+    Translation translation;
     if (flags & flag::Native) {
-        m_translation.pattern = sought;
-        m_translation.emptyAtLineEnds = true;
+        translation.pattern = sought;
+        translation.emptyAtLineEnds = true;
         for (int i = 1; i < 10; ++i)
-            m_translation.groups[static_cast<std::size_t>(i)] = i;
+            translation.groups[static_cast<std::size_t>(i)] = i;
     } else {
         m_wordsVersion = m_text.WordsVersion();
         m_words = m_text.WordCharacters();
-        ExpressionTranslator translator({(flags & flag::Posix) != 0, matchCase, WordItem()});
-        auto translation = translator.Translate(sought);
-        if (!translation)
+        ExpressionTranslator translator({posix, matchCase, WordItem()});
+        auto translated = translator.Translate(sought);
+        if (!translated)
             return false;
-        m_translation = std::move(*translation);
+        translation = std::move(*translated);
     }
-    m_expression =
-        Expression::Compile(m_translation.pattern, Expression::Reading::Pattern, matchCase);
-    return m_expression != nullptr;
+    auto expression =
+        Expression::Compile(translation.pattern, Expression::Reading::Pattern, matchCase);
+    if (!expression)
+        return false;
+    m_usesWords = translation.usesWords;
+    m_groupNumbers = translation.groups;
+    m_finder.emplace(m_text, std::move(expression),
+                     MatchFinder::Rules{translation.ends, translation.emptyAtLineEnds}, m_seconds);
+    if (!(flags & flag::Native))
+        m_anchored = AnchoredText::Of(sought, posix);
+    if (m_anchored && LiteralScan::Suits(m_anchored->text, matchCase)) {
+        m_scan.emplace(m_anchored->text, matchCase);
+        m_asciiWords.reset();
+        for (const char character : m_words)
+            m_asciiWords.set(static_cast<unsigned char>(character));
+        m_asciiWords.reset('\r').reset('\n'); // no word leaves the line
+    }
+    return true;
 }
 
 // Outside ASCII letters, marks and numbers make words, whatever is set.
@@ -141,58 +163,46 @@ long Searcher::Aligned(long at) const
     return at;
 }
 
-// The gap may stand inside a character, wherever somebody has read from.
-long Searcher::CharacterStart(long at) const
-{
-    if (at >= m_length)
-        return at;
-    long start = at;
-    while (start > 0 && at - start < 3 && IsInsideCharacter(m_text.Bytes(start, start + 1)[0]))
-        --start;
-    return start;
-}
-
-long Searcher::NextPlace(long at) const
-{
-    return std::min(Aligned(at + 1), m_length);
-}
-
-bool Searcher::SuitsWords(Range match) const
-{
-    if ((m_flags & flag::WholeWord) && m_text.IsWord(match.start, match.end))
-        return true;
-    if ((m_flags & flag::WordStart) && m_text.IsWordStart(match.start))
-        return true;
-    return (m_flags & (flag::WholeWord | flag::WordStart)) == 0;
-}
-
 // Texts as they stand. The two pieces of the text are scanned one by one, and between them a copy
 // of the few bytes in which a match can cross the gap.
 
-std::optional<Range> Searcher::FirstLiteral(long from, long to) const
+std::optional<Range> Searcher::FindText(long from, long to)
 {
-    const long gap = m_text.Gap();
-    if (gap <= from || gap >= to)
-        return FirstLiteralIn(m_text.Bytes(from, to), from);
-    if (const auto hit = FirstLiteralIn(m_text.Bytes(from, gap), from))
-        return hit;
-    const long reach = static_cast<long>(m_scan->LongestMatch()) - 1;
-    if (const auto hit = FirstLiteralIn(AroundGap(from, gap, to), std::max(from, gap - reach)))
-        return hit;
-    return FirstLiteralIn(m_text.Bytes(gap, to), gap);
+    m_isDoubtful = false;
+    const auto found = from <= to ? FirstText(from, to) : LastText(to, from);
+    if (m_isDoubtful)
+        return FindMatch(from <= to ? found->start : from, to);
+    if (m_flags & flag::Expression) {
+        m_groupsAre = Groups::None;
+        m_groups[0] = found.value_or(Range());
+    }
+    return found;
 }
 
-std::optional<Range> Searcher::LastLiteral(long from, long to) const
+std::optional<Range> Searcher::FirstText(long from, long to)
 {
     const long gap = m_text.Gap();
     if (gap <= from || gap >= to)
-        return LastLiteralIn(m_text.Bytes(from, to), from);
-    if (const auto hit = LastLiteralIn(m_text.Bytes(gap, to), gap))
+        return FirstTextIn(m_text.Bytes(from, to), from, to);
+    if (const auto hit = FirstTextIn(m_text.Bytes(from, gap), from, to))
         return hit;
     const long reach = static_cast<long>(m_scan->LongestMatch()) - 1;
-    if (const auto hit = LastLiteralIn(AroundGap(from, gap, to), std::max(from, gap - reach)))
+    if (const auto hit = FirstTextIn(AroundGap(from, gap, to), std::max(from, gap - reach), to))
         return hit;
-    return LastLiteralIn(m_text.Bytes(from, gap), from);
+    return FirstTextIn(m_text.Bytes(gap, to), gap, to);
+}
+
+std::optional<Range> Searcher::LastText(long from, long to)
+{
+    const long gap = m_text.Gap();
+    if (gap <= from || gap >= to)
+        return LastTextIn(m_text.Bytes(from, to), from, to);
+    if (const auto hit = LastTextIn(m_text.Bytes(gap, to), gap, to))
+        return hit;
+    const long reach = static_cast<long>(m_scan->LongestMatch()) - 1;
+    if (const auto hit = LastTextIn(AroundGap(from, gap, to), std::max(from, gap - reach), to))
+        return hit;
+    return LastTextIn(m_text.Bytes(from, gap), from, to);
 }
 
 std::string Searcher::AroundGap(long from, long gap, long to) const
@@ -203,175 +213,69 @@ std::string Searcher::AroundGap(long from, long gap, long to) const
     return around;
 }
 
-std::optional<Range> Searcher::FirstLiteralIn(std::string_view bytes, long base) const
+std::optional<Range> Searcher::FirstTextIn(std::string_view bytes, long base, long to)
 {
     auto hit = m_scan->First(bytes, 0);
     for (; hit; hit = m_scan->First(bytes, hit->start + 1)) {
         const Range match{base + static_cast<long>(hit->start), base + static_cast<long>(hit->end)};
-        if (SuitsWords(match))
+        if (Suits(match, to, bytes, base))
             return match;
     }
     return std::nullopt;
 }
 
-std::optional<Range> Searcher::LastLiteralIn(std::string_view bytes, long base) const
+std::optional<Range> Searcher::LastTextIn(std::string_view bytes, long base, long to)
 {
     auto hit = m_scan->Last(bytes, bytes.size());
     for (; hit; hit = m_scan->Last(bytes, hit->start)) {
         const Range match{base + static_cast<long>(hit->start), base + static_cast<long>(hit->end)};
-        if (SuitsWords(match))
+        if (Suits(match, to, bytes, base))
             return match;
     }
     return std::nullopt;
 }
 
-// Expressions. They want their subject in one piece, so the gap moves. Forwards it moves no further
-// than the search has looked: what stands before it is searched as an unfinished subject, and only
-// a match attempt that runs into the gap brings it to that attempt's start.
-
-std::optional<Range> Searcher::FirstMatch(long from, long to)
+// Whether a match of the text has the edges and the words that are asked for. Beside characters
+// that are not ASCII it counts, and the expression looks again from there.
+bool Searcher::Suits(Range match, long to, std::string_view bytes, long base)
 {
-    const long base = BaseOf(from);
-    long gap = m_text.Gap();
-    if (from < gap && gap < to)
-        gap = CharacterStart(gap);
-    if (from < gap && gap < to) {
-        const Finding finding = FindIn({base, from, gap, -1, true});
-        if (finding.outcome == Outcome::Stopped ||
-            (finding.outcome == Outcome::Found && finding.whole.start < gap))
-            return Keep(finding);
-        from = finding.outcome == Outcome::Partial ? finding.whole.start : gap;
-    }
-    return Keep(FindIn({BaseOf(from), from, to}));
-}
-
-// Looks for the first match in ever larger stretches of starts, from the end; the last one is in
-// the first stretch that has any. The gap goes along.
-std::optional<Range> Searcher::LastMatch(long from, long to)
-{
-    constexpr long kFirstStretch = 256;
-    constexpr long kLargestStretch = 1024 * 1024;
-    long stretch = kFirstStretch;
-    for (long bound = to + 1; bound > from;) {
-        const long first = std::min(Aligned(std::max(from, bound - stretch)), bound - 1);
-        const Window window{BaseOf(first), first, to, bound - 1};
-        const Finding finding = FindIn(window);
-        if (finding.outcome == Outcome::Found)
-            return Keep(LastFrom(finding, window, bound));
-        if (finding.outcome == Outcome::Stopped)
-            return Keep(finding);
-        bound = first;
-        stretch = std::min(2 * stretch, kLargestStretch);
-    }
-    return std::nullopt;
-}
-
-// The last match of a window that starts before the bound, by halves.
-Searcher::Finding Searcher::LastFrom(Finding first, Window window, long bound) const
-{
-    for (;;) {
-        const long next = NextPlace(first.whole.start);
-        if (next >= bound || next == first.whole.start)
-            return first;
-        window.from = Aligned(next + (bound - next) / 2);
-        if (window.from >= bound)
-            window.from = next;
-        window.lastStart = bound - 1;
-        const Finding later = FindIn(window);
-        if (later.outcome == Outcome::Stopped)
-            return later;
-        if (later.outcome == Outcome::Found)
-            first = later;
-        else
-            bound = window.from;
-    }
-}
-
-// The first match in a window that counts. Nothing at a line's end is none, unless the pattern
-// looks for the line's edge.
-Searcher::Finding Searcher::FindIn(const Window& window) const
-{
-    const std::string_view subject = m_text.Bytes(window.base, window.to);
-    Expression::Run run;
-    run.from = static_cast<std::size_t>(window.from - window.base);
-    if (window.lastStart >= 0)
-        run.lastStart = static_cast<std::size_t>(window.lastStart - window.base);
-    run.isUnfinished = window.isUnfinished;
-    run.endsInLine = !IsLineEnd(window.to);
-    for (;;) {
-        const Outcome outcome = m_expression->Find(subject, run);
-        if (outcome == Outcome::NotFound || outcome == Outcome::Stopped)
-            return {outcome};
-        Finding finding = Describe(window);
-        finding.outcome = outcome;
-        if (outcome == Outcome::Partial)
-            return finding;
-        const Range whole = finding.whole;
-        const bool isNothing = whole.start == whole.end && !m_translation.emptyAtLineEnds &&
-                               (whole.start == window.to || IsLineEnd(whole.start));
-        if (!isNothing && SuitsWords(whole))
-            return finding;
-        if (whole.start == window.to)
-            return {window.isUnfinished ? Outcome::Partial : Outcome::NotFound, whole};
-        run.notEmptyAtStart = isNothing;
-        run.from = static_cast<std::size_t>((isNothing ? whole.start : NextPlace(whole.start)) -
-                                            window.base);
-        if (run.from > run.lastStart)
-            return {};
-    }
-}
-
-Searcher::Finding Searcher::Describe(const Window& window) const
-{
-    const auto rangeOf = [&](int group) {
-        const std::size_t start = m_expression->Start(group);
-        if (start == Expression::kAnywhere)
-            return Range{};
-        return Range{window.base + static_cast<long>(start),
-                     window.base + static_cast<long>(m_expression->End(group))};
-    };
-    Finding finding;
-    finding.whole = finding.visible = rangeOf(0);
-    for (const int mark : m_translation.ends) {
-        if (m_expression->Start(mark) != Expression::kAnywhere)
-            finding.visible.end = rangeOf(mark).start;
-    }
-    finding.groups[0] = finding.visible;
-    for (std::size_t i = 1; i < finding.groups.size(); ++i) {
-        if (m_translation.groups[i] > 0)
-            finding.groups[i] = rangeOf(m_translation.groups[i]);
-    }
-    return finding;
-}
-
-std::optional<Range> Searcher::Keep(const Finding& finding)
-{
-    m_stopped += finding.outcome == Outcome::Stopped;
-    if (finding.outcome != Outcome::Found)
-        return std::nullopt;
-    if (m_flags & flag::Expression)
-        m_groups = finding.groups;
-    return finding.visible;
-}
-
-// Where a subject starts whose matches start at a place: far enough before for what looks back.
-long Searcher::BaseOf(long at) const
-{
-    constexpr long kLongestCharacter = 4;
-    const long back = kLongestCharacter * (static_cast<long>(m_expression->Lookbehind()) + 2);
-    return std::min(Aligned(std::max(0L, at - back)), at);
-}
-
-bool Searcher::IsLineEnd(long at) const
-{
-    if (at >= m_length)
+    if (!m_anchored)
+        return Words().Admits(m_text, match);
+    if (!m_anchored->HasEdges())
         return true;
-    const char byte = m_text.Bytes(at, at + 1)[0];
-    return byte == '\r' || byte == '\n';
+    const auto fits = m_anchored->FitsAt(match, to, {m_text, m_length, bytes, base}, m_asciiWords);
+    m_isDoubtful = !fits;
+    return fits.value_or(true);
 }
 
-std::string Searcher::Substituted(std::string_view replacement) const
+std::optional<Range> Searcher::FindMatch(long from, long to)
 {
+    const Finding finding =
+        from <= to ? m_finder->First(from, to, Words()) : m_finder->Last(to, from, Words());
+    const bool isFound = finding.outcome == Expression::Outcome::Found;
+    m_stopped += finding.outcome == Expression::Outcome::Stopped;
+    if (m_flags & flag::Expression) {
+        m_groupsAre = isFound ? Groups::InFinder : Groups::None;
+        m_groups[0] = isFound ? finding.visible : Range();
+    }
+    return isFound ? std::optional<Range>(finding.visible) : std::nullopt;
+}
+
+// Of the last expression, before the finder goes on to something else.
+void Searcher::KeepGroups()
+{
+    if (m_groupsAre == Groups::Kept)
+        return;
+    for (std::size_t i = 1; i < m_groups.size(); ++i) {
+        const bool isThere = m_groupsAre == Groups::InFinder && m_groupNumbers[i] > 0;
+        m_groups[i] = isThere ? m_finder->Group(m_groupNumbers[i]) : Range{};
+    }
+    m_groupsAre = Groups::Kept;
+}
+
+std::string Searcher::Substituted(std::string_view replacement)
+{
+    KeepGroups();
     std::string text;
     const long length = m_text.Length();
     for (std::size_t i = 0; i < replacement.size(); ++i) {

@@ -1,13 +1,16 @@
 // Searcher: finds texts and expressions in a text, in place and in both directions.
 //
 // A search backwards finds the match that starts last. What is sought is prepared once for as long
-// as it stays the same. An expression whose match attempt goes on for too long finds nothing.
+// as it stays the same. An expression that goes on for too long finds nothing: a match attempt
+// after ten million steps back, a whole search after two seconds.
 #pragma once
 
-#include "engine/search/Expression.h"
+#include "engine/search/AnchoredText.h"
 #include "engine/search/ExpressionTranslator.h"
 #include "engine/search/LiteralScan.h"
+#include "engine/search/MatchFinder.h"
 #include "engine/search/SearchedText.h"
+#include "engine/search/WordRule.h"
 
 #include <array>
 #include <optional>
@@ -26,16 +29,13 @@ enum Bit : int
 };
 } // namespace flag
 
-struct Range
-{
-    long start = 0;
-    long end = 0;
-};
-
 class Searcher
 {
 public:
-    explicit Searcher(const SearchedText& text) : m_text(text) {}
+    // The seconds are those of one search for an expression.
+    explicit Searcher(const SearchedText& text, double seconds = Budget::kSeconds)
+        : m_text(text), m_seconds(seconds)
+    {}
 
     // The first match between two places; the last one if they run backwards. Nothing sought is
     // found at once. Both and the text sought are UTF-8.
@@ -43,67 +43,64 @@ public:
 
     // A replacement with its escapes made real: \0 the match of the last expression, \1 to \9 what
     // its groups took, \a \b \f \n \r \t \v and \\ the characters.
-    std::string Substituted(std::string_view replacement) const;
+    std::string Substituted(std::string_view replacement);
 
     // How many searches went on for too long.
     long Stopped() const { return m_stopped; }
 
 private:
-    // What of the text an expression sees.
-    struct Window
-    {
-        long base = 0; // of the subject
-        long from = 0; // where matches may start
-        long to = 0;   // of the subject
-        long lastStart = -1;
-        bool isUnfinished = false;
-    };
+    using Finding = MatchFinder::Finding;
 
-    struct Finding
+    // Where the groups of the last expression are; its match is kept at once.
+    enum class Groups
     {
-        Expression::Outcome outcome = Expression::Outcome::NotFound;
-        Range whole;   // the match; of a partial one only the start
-        Range visible; // the same, or up to where the pattern says it ends
-        std::array<Range, 10> groups{};
+        None,
+        InFinder,
+        Kept,
     };
 
     bool Prepare(std::string_view sought, int flags);
     bool PrepareExpression(std::string_view sought, int flags);
+    bool PrepareText(const std::string& text, bool matchCase);
     bool WordsAreTheSame();
     std::string WordItem() const;
 
-    std::optional<Range> FirstLiteral(long from, long to) const;
-    std::optional<Range> LastLiteral(long from, long to) const;
-    std::optional<Range> FirstLiteralIn(std::string_view bytes, long base) const;
-    std::optional<Range> LastLiteralIn(std::string_view bytes, long base) const;
+    std::optional<Range> FindText(long from, long to);
+    std::optional<Range> FirstText(long from, long to);
+    std::optional<Range> LastText(long from, long to);
+    std::optional<Range> FirstTextIn(std::string_view bytes, long base, long to);
+    std::optional<Range> LastTextIn(std::string_view bytes, long base, long to);
     std::string AroundGap(long from, long gap, long to) const;
+    bool Suits(Range match, long to, std::string_view bytes, long base);
+    WordRule Words() const
+    {
+        return {(m_flags & flag::WholeWord) != 0, (m_flags & flag::WordStart) != 0};
+    }
 
-    std::optional<Range> FirstMatch(long from, long to);
-    std::optional<Range> LastMatch(long from, long to);
-    Finding LastFrom(Finding first, Window window, long bound) const;
-    Finding FindIn(const Window& window) const;
-    Finding Describe(const Window& window) const;
-    std::optional<Range> Keep(const Finding& finding);
-    long BaseOf(long at) const;
-    bool IsLineEnd(long at) const;
+    std::optional<Range> FindMatch(long from, long to);
+    void KeepGroups();
     long Aligned(long at) const;
-    long CharacterStart(long at) const;
-    long NextPlace(long at) const;
-    bool SuitsWords(Range match) const;
 
     const SearchedText& m_text;
+    double m_seconds;
     long m_length = 0; // of the text that is searched
 
-    // What is prepared.
+    // What is prepared: a scan for a text, a finder for an expression, or both for a text at edges.
     std::string m_sought;
     int m_flags = -1;
     std::string m_words; // the word characters that the expression was made with
     unsigned m_wordsVersion = 0;
     std::optional<LiteralScan> m_scan;
-    std::unique_ptr<Expression> m_expression;
-    Translation m_translation;
+    std::optional<MatchFinder> m_finder;
+    std::optional<AnchoredText> m_anchored;
+    AsciiWords m_asciiWords;
+    bool m_usesWords = false;
+    bool m_isDoubtful = false; // the text that was found may lack an edge
 
-    std::array<Range, 10> m_groups{}; // of the last expression; one that took no part is empty
+    // Of the last expression; one that took no part is empty.
+    Groups m_groupsAre = Groups::Kept;
+    std::array<Range, 10> m_groups{};
+    std::array<int, 10> m_groupNumbers{}; // in the finder, 0: nowhere
     long m_stopped = 0;
 };
 

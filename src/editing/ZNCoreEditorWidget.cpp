@@ -13,13 +13,43 @@ public:
 
     LRESULT WindowProc(UINT message, WPARAM wParam, LPARAM lParam) override
     {
-        if (message == WM_NOTIFY && m_owner.m_control->IsBaseEditorNotify(lParam))
-            m_owner.Notify(lParam);
+        if (message == WM_NOTIFY && m_owner.m_control->IsBaseEditorNotify(lParam)) {
+            m_owner.Notify(lParam); // behind it this object may be gone
+            return 0;
+        }
         return CWnd::WindowProc(message, wParam, lParam);
     }
 
 private:
     ZNCoreEditorWidget& m_owner;
+};
+
+// A text may change a million times in one undo: this is a tenth of what a QPointer costs.
+class ZNCoreEditorWidget::Lifetime
+{
+public:
+    explicit Lifetime(ZNCoreEditorWidget& widget)
+        : m_widget(&widget), m_outer(std::exchange(widget.m_lifetime, this))
+    {}
+    ~Lifetime()
+    {
+        if (m_widget)
+            m_widget->m_lifetime = m_outer;
+    }
+    Lifetime(const Lifetime&) = delete;
+    Lifetime& operator=(const Lifetime&) = delete;
+
+    void End()
+    {
+        m_widget = nullptr;
+        if (m_outer)
+            m_outer->End();
+    }
+    explicit operator bool() const { return m_widget != nullptr; }
+
+private:
+    ZNCoreEditorWidget* m_widget;
+    Lifetime* m_outer;
 };
 
 ZNCoreEditorWidget::ZNCoreEditorWidget(QWidget* parent)
@@ -44,6 +74,8 @@ ZNCoreEditorWidget::~ZNCoreEditorWidget()
 {
     m_control->DestroyWindow();
     m_window.reset();
+    if (m_lifetime)
+        m_lifetime->End();
 }
 
 bool ZNCoreEditorWidget::openFile(const QString& path)
@@ -87,7 +119,7 @@ void ZNCoreEditorWidget::setText(const QString& text)
 // signal, and nothing is touched behind the last one.
 void ZNCoreEditorWidget::Notify(LPARAM lParam)
 {
-    const QPointer<ZNCoreEditorWidget> alive(this);
+    const Lifetime alive(*this);
     m_control->HandleNotify(lParam);
     const auto& record = *reinterpret_cast<const SCNotification*>(lParam);
     Q_EMIT notified(record);
@@ -112,7 +144,7 @@ void ZNCoreEditorWidget::Announce(const SCNotification& record)
         Q_EMIT charAdded(static_cast<char32_t>(record.ch));
         break;
     case notify::UpdateUi: {
-        const QPointer<ZNCoreEditorWidget> alive(this);
+        const Lifetime alive(*this);
         const long caret = m_control->GetCurrentPos(1);
         if (caret != std::exchange(m_caret, caret))
             Q_EMIT cursorPositionChanged(caret);

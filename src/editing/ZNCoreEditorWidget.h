@@ -49,11 +49,15 @@ Q_SIGNALS:
 private:
     class NotificationWindow;
 
+    // Whether the widget was deleted while this one stood on the stack.
+    class Lifetime;
+
     void Notify(LPARAM lParam);
     void Announce(const SCNotification& record);
 
     std::unique_ptr<CZNCoreEditorControlEx> m_control;
     std::unique_ptr<NotificationWindow> m_window; // hears what the engine tells its parent
+    Lifetime* m_lifetime = nullptr;
     bool m_modified = false;
     long m_caret = 0;
 };

@@ -11,6 +11,7 @@
 #include <QWidget>
 
 #include <algorithm>
+#include <array>
 #include <string>
 #include <string_view>
 #include <unordered_map>
@@ -48,30 +49,39 @@ const WindowClass* FindClass(std::u16string_view name)
     return nullptr;
 }
 
-// The record that was asked for last: messages come in runs to one window.
-struct
+// The records that were asked for last: messages come in runs to a window and its parent.
+struct Found
 {
     HWND window = nullptr;
     WindowRecord* record = nullptr;
-} lastFound;
+};
+std::array<Found, 16> lastFound;
+
+Found& LastFound(HWND window)
+{
+    constexpr unsigned kAlignment = 4; // bits of an address that are the same in all
+    const std::size_t address = reinterpret_cast<std::size_t>(window) >> kAlignment;
+    return lastFound[(address ^ address >> kAlignment) % lastFound.size()];
+}
 
 WindowRecord* LiveRecord(HWND window)
 {
     if (!window)
         return nullptr;
-    if (lastFound.window != window) {
+    Found& last = LastFound(window);
+    if (last.window != window) {
         const auto found = Records().find(window);
         if (found == Records().end())
             return nullptr;
-        lastFound = {window, &found->second};
+        last = {window, &found->second};
     }
-    return lastFound.record->widget ? lastFound.record : nullptr;
+    return last.record->widget ? last.record : nullptr;
 }
 
 void Forget(HWND window)
 {
-    if (lastFound.window == window)
-        lastFound = {};
+    if (Found& last = LastFound(window); last.window == window)
+        last = {};
     Records().erase(window);
 }
 

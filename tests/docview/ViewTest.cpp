@@ -1,9 +1,30 @@
 // The view over the engine: notifications, sizes, the wheel, the line that a host shows.
 #include "ViewFixture.h"
 
+#include <QClipboard>
 #include <QTest>
+#include <QWindow>
 
 namespace {
+
+// Its control has a window before the view makes it one.
+class LateView final : public CZNCoreEditorView
+{
+public:
+    static CObject* CreateObject() { return new LateView; }
+    static const CRuntimeClass* GetThisClass()
+    {
+        static const CRuntimeClass own = {"LateView", CZNCoreEditorView::GetThisClass(),
+                                          &CreateObject};
+        return &own;
+    }
+    LRESULT WindowProc(UINT message, WPARAM wParam, LPARAM lParam) override
+    {
+        if (message == WM_CREATE)
+            m_coreEditor.Create(WS_CHILD, RECT{0, 0, 9, 9}, this, 1, nullptr);
+        return CZNCoreEditorView::WindowProc(message, wParam, lParam);
+    }
+};
 
 class View : public ViewTest
 {
@@ -238,4 +259,43 @@ TEST_F(View, ReadsItsFileAgain)
     Write("r.sql", "two", 100009);
     EXPECT_TRUE(file->GetFirstEditView()->ReloadFile());
     EXPECT_EQ(Text(file), "two");
+}
+
+TEST_F(View, WhoseControlCannotBeMadeIsGivenUp)
+{
+    CDocTemplate& late = app.AddDocTemplate(std::make_unique<CMultiDocTemplate>(
+        QString(), OpenDoc::GetThisClass(), CFrameWnd::GetThisClass(), LateView::GetThisClass()));
+    EXPECT_EQ(late.OpenDocumentFile(QString(), false), nullptr);
+    EXPECT_TRUE(late.GetDocuments().empty());
+}
+
+TEST_F(View, CopiesWhatTheMouseSelectsAsItGoes)
+{
+    Put("select all of it", 0, 0);
+    doc->SetSelectCopy(1);
+    CFrameWnd* frame = view->GetParentFrame();
+    frame->ActivateFrame();
+    ASSERT_TRUE(QTest::qWaitForWindowExposed(frame->GetSafeHwnd()));
+    QWidget* viewport = Control().GetSafeHwnd()->findChild<QWidget*>("qt_scrollarea_viewport");
+    QWindow* window = frame->GetSafeHwnd()->windowHandle();
+    const auto placeOf = [&](int position) {
+        const QPoint inside(Control().PointXFromPosition(position, 1) + 1,
+                            Control().PointYFromPosition(position, 1) + 3);
+        return viewport->mapTo(frame->GetSafeHwnd(), inside);
+    };
+    const auto isCopied = [](const QString& text) {
+        return QTest::qWaitFor([&] { return QApplication::clipboard()->text() == text; });
+    };
+    QApplication::clipboard()->clear();
+    QTest::mousePress(window, Qt::LeftButton, Qt::NoModifier, placeOf(0));
+    QTest::mouseMove(window, placeOf(6));
+    EXPECT_TRUE(isCopied("select"));
+    QTest::mouseMove(window, placeOf(10));
+    EXPECT_TRUE(isCopied("select all"));
+    QTest::mouseRelease(window, Qt::LeftButton, Qt::NoModifier, placeOf(10));
+    QApplication::clipboard()->setText("another's");
+    Control().SetSel(0, 3, 1);
+    Control().GetSafeHwnd()->repaint();
+    Settle();
+    EXPECT_EQ(QApplication::clipboard()->text(), "another's");
 }

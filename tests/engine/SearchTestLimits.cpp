@@ -40,6 +40,64 @@ TEST(SearchLimits, StopAPatternThatRunsAwayBackwards)
     EXPECT_EQ(searcher.Stopped(), 1);
 }
 
+// No attempt goes on for long, but there is one for each of very many places.
+TEST(SearchLimits, StopASearchWhoseAttemptsAddUp)
+{
+    constexpr double kSeconds = 0.05;
+    for (const char* line : {"", "\n"}) {
+        std::string bytes;
+        while (bytes.size() < 4 * kMegabyte)
+            bytes += std::string(kMegabyte / 2, 'a') + line;
+        const PlainText text(bytes + "c b");
+        Searcher searcher(text, kSeconds);
+        for (const char* pattern : {"a*[bd]", "[a]*b", "a*a*a*b", ".*a.*a.*[de]", "a[^c]*b"}) {
+            const long stopped = searcher.Stopped();
+            const auto found = searcher.Find(pattern, flag::Expression, 0, text.Length());
+            EXPECT_EQ(found.has_value(), searcher.Stopped() == stopped) << pattern;
+        }
+        EXPECT_GE(searcher.Stopped(), 3);
+        EXPECT_FALSE(searcher.Find("a*b", flag::Expression, text.Length() - 2, 0));
+    }
+}
+
+// Each search has the whole time again.
+TEST(SearchLimits, GoOnBehindASearchThatWasStopped)
+{
+    const PlainText text(std::string(4 * kMegabyte, 'a') + "c b");
+    Searcher searcher(text, 0.02);
+    EXPECT_FALSE(searcher.Find("a*[bd]", flag::Expression, 0, text.Length()));
+    EXPECT_EQ(searcher.Stopped(), 1);
+    EXPECT_EQ(StartOf(searcher.Find("c [bd]", flag::Expression, 0, text.Length())), 4 * kMegabyte);
+    EXPECT_EQ(StartOf(searcher.Find("a*[bd]", flag::Expression, text.Length() - 4, text.Length())),
+              text.Length() - 1);
+    EXPECT_EQ(searcher.Stopped(), 1);
+}
+
+// Whatever has to be in a match and is not in the text is not tried at each place.
+TEST(SearchLimits, GiveUpAtOnceWhereAByteIsMissing)
+{
+    const PlainText text(std::string(4 * kMegabyte, 'a'));
+    Searcher searcher(text, 0.02);
+    for (const char* pattern : {"a*b", R"(\(a|aa\)*z)", "a*[b]c"})
+        EXPECT_FALSE(searcher.Find(pattern, flag::Expression, 0, text.Length())) << pattern;
+    EXPECT_EQ(searcher.Stopped(), 0);
+}
+
+TEST(SearchLimits, FindAMatchOfManyWindows)
+{
+    std::string bytes(4 * kMegabyte, 'a');
+    bytes.front() = '<';
+    bytes.back() = '>';
+    for (const long gap : {0L, 1L, 1000L, 2 * kMegabyte, 4 * kMegabyte - 1}) {
+        const PlainText text(bytes, gap);
+        Searcher searcher(text);
+        const auto match = searcher.Find("<[a]*>", flag::Expression, 0, text.Length());
+        ASSERT_TRUE(match) << gap;
+        EXPECT_EQ(match->end, text.Length());
+        EXPECT_EQ(StartOf(searcher.Find("<.*>$", flag::Expression, text.Length(), 0)), 0) << gap;
+    }
+}
+
 TEST(SearchLimits, LeaveAPatternThatEndsAlone)
 {
     const PlainText text(std::string(50000, 'a') + "b");
