@@ -294,7 +294,7 @@ void MainWindow::UpdateTitle()
     if (isModified)
         caption.chop(1);
     setWindowTitle(frame ? caption.replace(QLatin1String("[*]"), QLatin1String("[*][*]")) +
-                               QLatin1String("[*] – znworkbench")
+                               QStringLiteral("[*] – znworkbench")
                          : QStringLiteral("znworkbench"));
     setWindowModified(isModified);
 }

@@ -271,13 +271,21 @@ void ScriptDoc::OnReload()
     ReloadFile();
 }
 
+void ScriptDoc::OnReadOnly()
+{
+    OnFileReadonly();
+    Q_EMIT StateChanged();
+}
+
 const CommandMap& ScriptDoc::GetCommandMap() const
 {
     constexpr UINT kReload = 54008;
+    constexpr UINT kReadOnly = 54010;
     using Doc = ScriptDoc;
     // clang-format off
     static constexpr CommandEntry kCommands[] = {
         {kReload,         [](CCmdTarget& t) { static_cast<Doc&>(t).OnReload(); }},
+        {kReadOnly,       [](CCmdTarget& t) { static_cast<Doc&>(t).OnReadOnly(); }},
         {ID_FILE_SAVE_AS, [](CCmdTarget& t) { static_cast<Doc&>(t).SaveAs(); }},
     };
     static constexpr UpdateEntry kUpdates[] = {

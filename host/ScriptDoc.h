@@ -87,6 +87,7 @@ private:
     bool MayLoseCharacters(SaveTarget& target); // the person may choose another encoding
     int WriteTo(const SaveTarget& target);
     void OnReload();
+    void OnReadOnly();
     void ServeView(ScriptView& view);
     void MarkAsOnlyHere();
     QWidget* Window() const;

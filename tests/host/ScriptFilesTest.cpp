@@ -2,6 +2,7 @@
 #include "host/LineEnds.h"
 #include "tests/host/WorkbenchTest.h"
 
+#include <QAbstractScrollArea>
 #include <QDropEvent>
 #include <QElapsedTimer>
 #include <QMimeData>

@@ -95,7 +95,7 @@ TEST_F(Views, InTabsOfTheirOwnAreNumbered)
     EXPECT_EQ(m_window.TabCount(), 2);
     EXPECT_EQ(Caption(0), "a.sql:1");
     EXPECT_EQ(Caption(1), "a.sql:2");
-    EXPECT_EQ(m_window.windowTitle(), "a.sql:2[*] – znworkbench");
+    EXPECT_EQ(m_window.windowTitle(), QStringLiteral("a.sql:2[*] – znworkbench"));
     Type(u"x");
     EXPECT_EQ(Caption(0), "a.sql:1 *");
     EXPECT_EQ(Caption(1), "a.sql:2 *");
