@@ -5,9 +5,13 @@
 #include "host/FileDrops.h"
 #include "host/ScriptDoc.h"
 #include "host/ScrollRange.h"
+#include "platform/Mouse.h"
 #include "platform/docview/CommandIds.h"
 #include "platform/docview/FrameWnd.h"
 
+#include <QTimer>
+
+#include <chrono>
 #include <utility>
 
 const CRuntimeClass* ScriptView::GetThisClass()
@@ -68,9 +72,29 @@ void ScriptView::ShowAsTheOther(ScriptView& other)
 
 void ScriptView::OnSetFocus(HWND previous)
 {
-    CZNCoreEditorView::OnSetFocus(previous);
-    if (ScriptDoc* script = Script())
+    CView::OnSetFocus(previous);
+    m_coreEditor.SetFocus();
+    LookAtFile();
+}
+
+// Not while a button is down: a question would keep its release from the editor, which would go on
+// to select whatever is passed by.
+void ScriptView::LookAtFile()
+{
+    constexpr std::chrono::milliseconds kSoon(20);
+    ScriptDoc* script = Script();
+    if (!script)
+        return;
+    if (!IsLeftButtonDown()) {
+        script->CheckLastAccessTime();
         script->OnFocus();
+        return;
+    }
+    QWidget* window = GetSafeHwnd();
+    QTimer::singleShot(kSoon, window, [this, window] {
+        if (AttachedWnd(window) == this)
+            LookAtFile();
+    });
 }
 
 int ScriptView::OnCmdMsg(UINT id, int code, void* extra, CommandHandlerInfo* info)

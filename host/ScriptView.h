@@ -36,6 +36,7 @@ protected:
 
 private:
     ScriptView() = default;
+    void LookAtFile(); // and asks about what others did to it
     void FollowSoon();
     void Follow();
     void FitScrollRange();
