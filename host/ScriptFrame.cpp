@@ -61,7 +61,9 @@ HWND ScriptFrame::MakeWidget()
 bool ScriptFrame::OnCreateClient(CCreateContext* context)
 {
     m_panes = new QSplitter(GetSafeHwnd());
+    constexpr int kHandle = 7; // pixels, wide enough to be seen between two texts
     m_panes->setChildrenCollapsible(false);
+    m_panes->setHandleWidth(kHandle);
     RecalcLayout(m_panes);
     const CView* view = CreateView(context);
     if (!view)
@@ -169,6 +171,14 @@ void ScriptFrame::NewView()
         return;
     frame->InitialUpdateFrame(script, true);
     UpdateTitles(*script);
+}
+
+int ScriptFrame::OnCmdMsg(UINT id, int code, void* extra, CommandHandlerInfo* info)
+{
+    if (CFrameWnd::OnCmdMsg(id, code, extra, info))
+        return 1;
+    CFrameWnd* outer = GetParentFrame();
+    return outer ? outer->CCmdTarget::OnCmdMsg(id, code, extra, info) : 0;
 }
 
 void ScriptFrame::BecomeActive()

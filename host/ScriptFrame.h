@@ -29,6 +29,10 @@ public:
     void Split(Qt::Orientation orientation);
     void Unsplit(); // the active pane stays
 
+    using CFrameWnd::OnCmdMsg;
+    // As any frame's, then what the frame around it runs: a menu inside a view comes here.
+    int OnCmdMsg(UINT id, int code, void* extra, CommandHandlerInfo* info) override;
+
     void BecomeActive(); // commands go here
     void ActivateFrame() override;
     void OnUpdateFrameTitle() override;

@@ -103,6 +103,14 @@ int ScriptView::OnCmdMsg(UINT id, int code, void* extra, CommandHandlerInfo* inf
            m_coreEditor.OnCmdMsg(id, code, extra, info);
 }
 
+int ScriptView::OnCommand(WPARAM wParam, LPARAM lParam)
+{
+    if (CZNCoreEditorView::OnCommand(wParam, lParam))
+        return 1;
+    CFrameWnd* frame = GetParentFrame();
+    return frame ? frame->OnCommand(wParam, lParam) : 0;
+}
+
 // The base may close the view; then nothing is left to follow.
 int ScriptView::OnNotify(WPARAM wParam, LPARAM lParam, LRESULT* result)
 {

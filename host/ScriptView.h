@@ -18,6 +18,8 @@ public:
     using CZNCoreEditorView::OnCmdMsg;
     // The view's table and the document's, then what an editor knows that stands alone.
     int OnCmdMsg(UINT id, int code, void* extra, CommandHandlerInfo* info) override;
+    // A key's command that is none of these is the frame's.
+    int OnCommand(WPARAM wParam, LPARAM lParam) override;
     int OnNotify(WPARAM wParam, LPARAM lParam, LRESULT* result) override;
     void OnInitialUpdate() override;
 

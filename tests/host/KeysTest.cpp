@@ -141,3 +141,13 @@ TEST_F(Keys, FindThroughTheBar)
     Press(Qt::Key_F, Qt::ControlModifier);
     EXPECT_TRUE(m_window.Find().isVisible());
 }
+
+TEST_F(Keys, OfTheKeyTableAloneReachTheBarTooAndSoDoMenusOfAView)
+{
+    Open("a.sql", "abc def abc\n");
+    Press(Qt::Key_R, Qt::ControlModifier);
+    EXPECT_TRUE(m_window.Find().isVisible());
+    for (const UINT id : {57636u, 57640u, 57641u})
+        EXPECT_TRUE(Frame().HasCommand(id)) << id;
+    EXPECT_FALSE(Frame().HasCommand(1));
+}
