@@ -4,8 +4,10 @@
 #include "bench/RawEngine.h"
 #include "bench/Texts.h"
 #include "editing/ZNCoreEditorWidget.h"
+#include "search/FindReplaceManager.h"
 
 #include <algorithm>
+#include <climits>
 #include <cstdlib>
 #include <iostream>
 #include <vector>
@@ -42,12 +44,12 @@ constexpr SearchRow kRows[] = {
     {"wordEdges", "\\<order", kExpression},
 };
 
-// Both with the same script.
+// Both with the same text.
 struct Engines
 {
-    explicit Engines(Script script)
+    explicit Engines(Script script) : Engines(Sql64(script)) {}
+    explicit Engines(const std::string& text)
     {
-        const std::string& text = Sql64(script);
         const std::string path = WriteFile("search.sql", text);
         const std::u16string wide(path.begin(), path.end());
         editor.control().SetCarefulFiles(true);
@@ -135,13 +137,13 @@ long ReplaceOurs(CZNCoreEditorControl& control)
     return count;
 }
 
-long ReplaceRaw(const RawEngine& raw)
+long ReplaceRaw(const RawEngine& raw, long most)
 {
     const std::string_view sought = kReplaced.sought;
     raw.Send(Sci::SCI_SETSEARCHFLAGS, static_cast<std::uintptr_t>(kReplaced.flags));
     raw.Send(Sci::SCI_BEGINUNDOACTION);
     long count = 0;
-    for (std::intptr_t from = 0; count < kReplacements; ++count) {
+    for (std::intptr_t from = 0; count < most; ++count) {
         raw.Send(Sci::SCI_SETTARGETSTART, static_cast<std::uintptr_t>(from));
         raw.Send(Sci::SCI_SETTARGETEND, static_cast<std::uintptr_t>(raw.Send(Sci::SCI_GETLENGTH)));
         if (raw.Send(Sci::SCI_SEARCHINTARGET, sought.size(), sought.data()) < 0)
@@ -157,6 +159,15 @@ double Median(std::vector<double> values)
 {
     std::sort(values.begin(), values.end());
     return values[values.size() / 2];
+}
+
+void Report(benchmark::State& state, const std::vector<double>& ours,
+            const std::vector<double>& theirs)
+{
+    state.counters["ours_ms"] = Median(ours) * 1e3;
+    state.counters["reference_ms"] = Median(theirs) * 1e3;
+    state.counters["ratio"] = Median(ours) / Median(theirs);
+    state.counters["limit"] = kReplaceLimit;
 }
 
 enum class Timed
@@ -175,7 +186,8 @@ void ReplaceAll(benchmark::State& state, Script script, Timed timed)
     for (auto _ : state) {
         const double replace = CpuSeconds([&] { counts[0] = ReplaceOurs(control); });
         const double undo = CpuSeconds([&] { control.Undo(1); });
-        const double rawReplace = CpuSeconds([&] { counts[1] = ReplaceRaw(engines.raw); });
+        const double rawReplace =
+            CpuSeconds([&] { counts[1] = ReplaceRaw(engines.raw, kReplacements); });
         const double rawUndo = CpuSeconds([&] { engines.raw.Send(Sci::SCI_UNDO); });
         ours.push_back(timed == Timed::Replace ? replace : undo);
         theirs.push_back(timed == Timed::Replace ? rawReplace : rawUndo);
@@ -184,10 +196,37 @@ void ReplaceAll(benchmark::State& state, Script script, Timed timed)
     if (control.CanUndo(1) || engines.raw.Send(Sci::SCI_CANUNDO))
         state.SkipWithError("one undo left some of the replacements");
     RequireSame(state, counts[0], counts[1]);
-    state.counters["ours_ms"] = Median(ours) * 1e3;
-    state.counters["reference_ms"] = Median(theirs) * 1e3;
-    state.counters["ratio"] = Median(ours) / Median(theirs);
-    state.counters["limit"] = kReplaceLimit;
+    Report(state, ours, theirs);
+}
+
+// The find manager's own loop over just as many matches, beside the raw engine's.
+void ManagerReplaceAll(benchmark::State& state)
+{
+    const std::string& whole = Sql64(Script::Ascii);
+    std::size_t end = 0;
+    for (long i = 0; i < kReplacements; ++i)
+        end = whole.find(kReplaced.sought, end) + 1;
+    const std::string text = whole.substr(0, whole.find('\n', end) + 1);
+    Engines engines(text);
+    const RawEngine& raw = engines.raw;
+    CZNCoreEditorControlEx& control = engines.editor.control();
+    CFindReplaceManager& manager = *zncoreeditor::GetFindReplaceManager();
+    manager.SetFind(QLatin1String(kReplaced.sought));
+    manager.SetReplace(QString::fromStdString(std::string(kReplacement)));
+    std::vector<double> ours;
+    std::vector<double> theirs;
+    long counts[2] = {};
+    for (auto _ : state) {
+        ours.push_back(CpuSeconds([&] { counts[0] = manager.ReplaceAll(&control, false); }));
+        theirs.push_back(CpuSeconds([&] { counts[1] = ReplaceRaw(raw, LONG_MAX); }));
+        state.SetIterationTime(ours.back());
+        control.Undo(1);
+        raw.Send(Sci::SCI_UNDO);
+    }
+    if (control.CanUndo(1) || counts[0] < kReplacements)
+        state.SkipWithError("not one step of as many replacements");
+    RequireSame(state, counts[0], counts[1]);
+    Report(state, ours, theirs);
 }
 
 const bool kRegistered = [] {
@@ -203,6 +242,7 @@ const bool kRegistered = [] {
            3);
     finish(benchmark::RegisterBenchmark("ReplaceAll/undo", ReplaceAll, Script::Ascii, Timed::Undo),
            3);
+    finish(benchmark::RegisterBenchmark("ReplaceAll/manager", ManagerReplaceAll), 3);
     return true;
 }();
 

@@ -67,7 +67,9 @@ public:
     void FillLocationCombo(QComboBox& combo) const;
     void FillTypeCombo(QComboBox& combo) const;
 
-    // The place of a match, which is the engine's target then, or -1. A start above the end
+    // The place of a match, which is the engine's target then, or -1. A pattern that is none finds
+    // nothing, nor does one that goes on for too long: an attempt after ten million steps back, a
+    // search after two seconds of processor time. A start above the end
     // searches backwards. Without noWrap, and if wrapping is on, the rest of the text comes next:
     // up to the caret, or backwards from the end to the selection's start.
     int FindInRange(CZNCoreEditorControl* control, int start, int end, bool noWrap);
