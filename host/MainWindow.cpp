@@ -61,6 +61,7 @@ MainWindow::MainWindow(Workbench& app)
     connect(m_expanded, &ExpandedScript::SourceChosen, this, &MainWindow::ShowSource);
     connect(m_tabs, &ScriptTabs::Added, this, &MainWindow::OnTabAdded);
     connect(m_tabs, &ScriptTabs::currentChanged, this, &MainWindow::OnCurrentChanged);
+    connect(m_tabs->tabBar(), &QTabBar::tabMoved, this, &MainWindow::KeepSessionSoon);
     connect(m_tabs, &ScriptTabs::tabCloseRequested, this, &MainWindow::CloseTab);
     FileDrops::Take(*this);
     FileDrops::Take(*m_tabs->tabBar());
@@ -276,6 +277,7 @@ void MainWindow::ShowSource(const QString& path, long line)
 
 void MainWindow::OnScriptChanged(ScriptDoc& script)
 {
+    KeepSessionSoon();
     for (const CView* view : script.GetViews()) {
         if (CFrameWnd* frame = view->GetParentFrame())
             frame->OnUpdateFrameTitle();
