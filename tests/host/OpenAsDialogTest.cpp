@@ -1,0 +1,33 @@
+#include "host/OpenAsDialog.h"
+#include "host/Encodings.h"
+
+#include <QComboBox>
+#include <QSet>
+#include <QTemporaryDir>
+
+#include <gtest/gtest.h>
+
+TEST(OpenAsDialog, DetectsTheEncodingUnlessOneIsChosen)
+{
+    const QTemporaryDir folder;
+    const OpenAsDialog dialog(nullptr, folder.path());
+    EXPECT_EQ(dialog.Choice().encoding, -1);
+    EXPECT_EQ(dialog.directory().path(), folder.path());
+}
+
+TEST(OpenAsDialog, OffersEveryEncodingOnceAndAnswersTheChosenOne)
+{
+    const QTemporaryDir folder;
+    const OpenAsDialog dialog(nullptr, folder.path());
+    auto* encodings = dialog.findChild<QComboBox*>(QStringLiteral("encoding"));
+    ASSERT_TRUE(encodings);
+    QSet<int> offered;
+    for (int i = 1; i < encodings->count(); ++i) {
+        encodings->setCurrentIndex(i);
+        offered << dialog.Choice().encoding;
+        EXPECT_EQ(encodings->currentText(), EncodingName(dialog.Choice().encoding, false));
+    }
+    EXPECT_EQ(offered.size(), encodings->count() - 1);
+    for (const EncodingChoice& choice : EncodingChoices())
+        EXPECT_TRUE(offered.contains(choice.encoding)) << choice.name;
+}
