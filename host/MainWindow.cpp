@@ -178,8 +178,7 @@ void MainWindow::CloseTab(int index)
 
 void MainWindow::ApplyView(const ScriptDoc& script)
 {
-    const std::vector<CView*> views = script.GetViews();
-    for (CView* view : views) {
+    for (CView* view : script.GetViews()) {
         auto* shown = dynamic_cast<ScriptView*>(view);
         if (!shown)
             continue;
@@ -265,10 +264,14 @@ void MainWindow::ShowSource(const QString& path, long line)
 {
     ScriptDoc* script = m_expanded->Script();
     CFrameWnd* frame = script ? script->FirstView()->GetParentFrame() : nullptr;
-    if (!path.isEmpty() ? !m_app.OpenDocumentFile(path) : !frame)
-        return;
-    if (path.isEmpty())
+    if (!path.isEmpty()) {
+        if (!m_app.OpenDocumentFile(path))
+            return;
+    } else if (frame) {
         frame->ActivateFrame();
+    } else {
+        return;
+    }
     if (ScriptFrame* current = CurrentFrame()) {
         current->Editor().GotoLine(static_cast<int>(line), 1);
         current->View()->SetFocus();
