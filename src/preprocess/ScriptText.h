@@ -56,6 +56,8 @@ private:
     void StyleTo(long position);
     void StyleBlock(long to);
     void Changed(long at, long removed, long inserted);
+    void ChangedAWord(long at, long removed, long inserted);
+    bool StandsAlone(long position, long length) const;
 
     CZNCoreEditorControlEx& m_control;
     CFindReplaceManager& m_finder;

@@ -150,6 +150,15 @@ TEST_F(BadInput, TakesANameOfFiftyMegabytes)
     control.EmptyUndoBuffer(1);
 }
 
+TEST_F(BadInput, TakesALineOfManyUses)
+{
+    constexpr int kUses = 20000;
+    const QString use = "&&A /* a use */, 'it is &&A too', ";
+    const QString result = "value /* a use */, 'it is value too', ";
+    EXPECT_EQ(Expand("#define &&A value\nselect " + use.repeated(kUses) + "0"),
+              ("--#define &&A value\nselect " + result.repeated(kUses) + "0").toStdString());
+}
+
 TEST_F(BadInput, LeavesAReadOnlyTextAlone)
 {
     Write("a.sql", "a");

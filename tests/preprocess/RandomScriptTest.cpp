@@ -13,6 +13,8 @@ constexpr const char* kPieces[] = {
     "\n", "\n", "--", "/*", "*/", "'", "\"", "#include ", "#include a", "\n#include b\n",
     "\n#include \"c\" \n", "\n#include d\n", "\n#include none\n", "#", "\t", "value",
     "\n#define &&B &&A\n", "\n#define &&AB x&&B\n", "\n#define &&A &&LONGNAME&&B\n",
+    // Uses behind which nothing is styled again.
+    "x &&A, ", "x (&&AB) ", "'x &&B ", "-x &&LONGNAME ", "x.&&A.y ",
     // What no pass has to look at again.
     "\nselect column, other, one more from table\nwhere column = 1 and other = 2 or column = 3\n",
     "\nselect column, other, one more from table\nwhere column = 1 and other = 2 or column = 3\n"};
