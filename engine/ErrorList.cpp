@@ -11,8 +11,6 @@ namespace {
 
 using Sci = QsciScintillaBase;
 
-constexpr int kBefore = modification::BeforeInsert | modification::BeforeDelete;
-
 struct Bounds
 {
     long start;
