@@ -150,6 +150,16 @@ TEST_F(BadInput, TakesANameOfFiftyMegabytes)
     control.EmptyUndoBuffer(1);
 }
 
+TEST_F(BadInput, TakesALineOfManyUses)
+{
+    constexpr int kUses = 20000;
+    const QString use = "&&A /* a use */, 'it is &&A too', t.&&A.c, '&&A', ('&&B'), ";
+    const QString result = "value /* a use */, 'it is value too', t.value.c, 'value', ('b, c'), ";
+    EXPECT_EQ(Expand("#define &&A value\n#define &&B b, c\nselect " + use.repeated(kUses) + "0"),
+              ("--#define &&A value\n--#define &&B b, c\nselect " + result.repeated(kUses) + "0")
+                  .toStdString());
+}
+
 TEST_F(BadInput, LeavesAReadOnlyTextAlone)
 {
     Write("a.sql", "a");

@@ -321,12 +321,17 @@ int PlainPreprocessor::StyleAt(std::size_t at)
     return m_styles[at];
 }
 
+bool PlainPreprocessor::IsDialect() const
+{
+    return m_lexer >= 2 && m_lexer <= 18 && !(m_lexer >= 6 && m_lexer <= 9) &&
+           !(m_lexer >= 11 && m_lexer <= 13);
+}
+
 bool PlainPreprocessor::InComment(std::size_t at)
 {
     const int style = StyleAt(at);
     const bool isGeneric = m_lexer == 0 || m_lexer == 9;
-    const bool isDialect = m_lexer == 3;
-    return (isDialect && (style == 1 || style == 2)) ||
+    return (IsDialect() && (style == 1 || style == 2)) ||
            (isGeneric && (style == 1 || style == 2 || style == 3));
 }
 
@@ -334,8 +339,7 @@ bool PlainPreprocessor::InString(std::size_t at)
 {
     const int style = StyleAt(at);
     const bool isGeneric = m_lexer == 0 || m_lexer == 9;
-    const bool isDialect = m_lexer == 3;
-    return (isDialect && (style == 4 || style == 8)) || (isGeneric && (style == 6 || style == 7));
+    return (IsDialect() && (style == 4 || style == 8)) || (isGeneric && (style == 6 || style == 7));
 }
 
 } // namespace reference

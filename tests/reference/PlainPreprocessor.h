@@ -55,6 +55,7 @@ private:
     int LineOf(std::size_t at) const;
     std::u16string LineAt(std::size_t at) const;
     int StyleAt(std::size_t at);
+    bool IsDialect() const;
     bool InComment(std::size_t at);
     bool InString(std::size_t at);
 
