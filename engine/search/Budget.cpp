@@ -3,7 +3,6 @@
 #include <ctime>
 
 namespace engine::search {
-namespace {
 
 double ThreadSeconds()
 {
@@ -12,14 +11,12 @@ double ThreadSeconds()
     return static_cast<double>(now.tv_sec) + 1e-9 * static_cast<double>(now.tv_nsec);
 }
 
-} // namespace
-
 bool Budget::HasTime()
 {
-    const double now = ThreadSeconds();
+    const double now = m_limit.clock();
     if (m_start < 0)
         m_start = now;
-    m_isSpent = now - m_start > m_seconds;
+    m_isSpent = now - m_start > m_limit.seconds;
     return !m_isSpent;
 }
 

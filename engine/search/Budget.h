@@ -1,17 +1,24 @@
-// Budget: how long one search may go on. Counts processor time of the thread, so that a search ends
-// or is stopped alike on a busy machine.
+// Budget: how long one search may go on.
 #pragma once
 
 #include <cstddef>
 
 namespace engine::search {
 
+// Processor time of the thread, so that a search ends or is stopped alike on a busy machine.
+double ThreadSeconds();
+
 class Budget
 {
 public:
-    static constexpr double kSeconds = 2;
+    struct Limit
+    {
+        double seconds = 2;
+        double (*clock)() = ThreadSeconds;
+    };
 
-    explicit Budget(double seconds = kSeconds) : m_seconds(seconds) {}
+    Budget() = default;
+    explicit Budget(Limit limit) : m_limit(limit) {}
 
     // A step of a match attempt, at a place of its subject. False once the time is spent.
     bool TakeStep(std::size_t place)
@@ -38,7 +45,7 @@ public:
 private:
     bool HasTime();
 
-    double m_seconds;
+    Limit m_limit;
     std::size_t m_place = 0;
     std::size_t m_steps = 0;
     double m_start = -1; // seconds; the first look starts the clock

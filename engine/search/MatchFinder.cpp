@@ -43,7 +43,7 @@ MatchFinder::Finding MatchFinder::Last(long from, long to, const WordRule& words
 void MatchFinder::Begin(const WordRule& words)
 {
     m_words = words;
-    m_budget = Budget(m_seconds);
+    m_budget = Budget(m_limit);
     m_length = m_text.Length();
 }
 

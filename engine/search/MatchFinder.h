@@ -34,11 +34,11 @@ public:
         Range visible; // the same, or up to where the pattern says it ends
     };
 
-    // The seconds of processor time are for each search.
+    // The limit is that of each search.
     MatchFinder(const SearchedText& text, std::unique_ptr<Expression> expression, Rules rules,
-                double seconds)
+                Budget::Limit limit)
         : m_text(text), m_expression(std::move(expression)), m_rules(std::move(rules)),
-          m_seconds(seconds)
+          m_limit(limit)
     {}
 
     // Of the matches that start between two places and end before the second one.
@@ -74,7 +74,7 @@ private:
     const SearchedText& m_text;
     std::unique_ptr<Expression> m_expression;
     Rules m_rules;
-    double m_seconds;
+    Budget::Limit m_limit;
 
     // Of the search under way.
     WordRule m_words;

@@ -87,7 +87,7 @@ bool Searcher::PrepareText(const std::string& text, bool matchCase)
     auto expression = Expression::Compile(text, Expression::Reading::Plain, matchCase);
     if (!expression)
         return false;
-    m_finder.emplace(m_text, std::move(expression), MatchFinder::Rules(), m_seconds);
+    m_finder.emplace(m_text, std::move(expression), MatchFinder::Rules(), m_limit);
     return true;
 }
 
@@ -125,7 +125,7 @@ bool Searcher::PrepareExpression(std::string_view sought, int flags)
     m_usesWords = translation.usesWords;
     m_groupNumbers = translation.groups;
     m_finder.emplace(m_text, std::move(expression),
-                     MatchFinder::Rules{translation.ends, translation.emptyAtLineEnds}, m_seconds);
+                     MatchFinder::Rules{translation.ends, translation.emptyAtLineEnds}, m_limit);
     if (!(flags & flag::Native))
         m_anchored = AnchoredText::Of(sought, posix);
     if (m_anchored && LiteralScan::Suits(m_anchored->text, matchCase)) {

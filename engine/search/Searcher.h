@@ -32,9 +32,9 @@ enum Bit : int
 class Searcher
 {
 public:
-    // The seconds are those of one search for an expression.
-    explicit Searcher(const SearchedText& text, double seconds = Budget::kSeconds)
-        : m_text(text), m_seconds(seconds)
+    // The limit is that of one search for an expression.
+    explicit Searcher(const SearchedText& text, Budget::Limit limit = {})
+        : m_text(text), m_limit(limit)
     {}
 
     // The first match between two places; the last one if they run backwards. Nothing sought is
@@ -82,7 +82,7 @@ private:
     long Aligned(long at) const;
 
     const SearchedText& m_text;
-    double m_seconds;
+    Budget::Limit m_limit;
     long m_length = 0; // of the text that is searched
 
     // What is prepared: a scan for a text, a finder for an expression, or both for a text at edges.

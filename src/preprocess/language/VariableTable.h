@@ -6,7 +6,8 @@
 // of the word's length, but as the longest word of which each is a prefix.
 //
 // Names are in order for the sake of words that go on behind a name. A word that is a name is found
-// by its hash: in order, 10,000 names cost a use nearly 3 us, most of it for memory that is not at hand.
+// by its hash: in order, 10,000 names cost a use nearly 3 us, most of it for memory that is not at
+// hand.
 #pragma once
 
 #include <QHash>
