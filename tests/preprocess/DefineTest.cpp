@@ -139,4 +139,20 @@ TEST_F(Defines, ReplaceASecondUseThatAShorterValueUncovers)
               "--#define &&LONGERNAME 1\n11");
 }
 
+TEST_F(Defines, MayOpenABlockInWhichAClientsLineIsNone)
+{
+    // The line of a remark is a comment where a statement may start, and not within a block.
+    Bind("PL/SQL");
+    EXPECT_EQ(Expand("#define &&A x\nnull; &&A ;\nrem it's &&A"),
+              "--#define &&A x\nnull; x ;\nrem it's &&A");
+    EXPECT_EQ(Expand("#define &&A begin\nnull; &&A ;\nrem it's &&A"),
+              "--#define &&A begin\nnull; begin ;\nrem it's begin");
+}
+
+TEST_F(Defines, MayBeginAClientsLineBehindAComment)
+{
+    Bind("PL/SQL");
+    EXPECT_EQ(Expand("#define &&A rem\n/* */ &&A , &&A"), "--#define &&A rem\n/* */ rem , &&A");
+}
+
 } // namespace
