@@ -31,7 +31,7 @@ constexpr const char* kValues[] = {"value", "1",    "12",   "q",   "n",    "rem"
                                    "begin", "end",  "case", "x y", "it's", "a\"b",
                                    "/* c",  "c */", "\\",   "$t$", "]",    "x, y"};
 
-constexpr int kRounds = 150;
+constexpr int kRounds = 60;
 
 class RandomScripts : public PreprocessTest
 {
@@ -175,7 +175,7 @@ TEST_F(RandomScripts, ComeBackFromTheirBackup)
     Bind("Transact-SQL");
     Reference(); // for its files
     int found = 0;
-    for (int round = 0; round < 10; ++round) {
+    for (int round = 0; round < 4; ++round) {
         QString script = QString::fromStdString("\n" + Definitions() + Script(80));
         const QString filler = QString::fromUtf16(u" x \u00e4 \u4e2d \xD83D\xDE00,\r\n");
         script += filler.repeated(kMostInMemory / filler.size() + 1);
