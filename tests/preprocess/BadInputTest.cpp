@@ -53,6 +53,20 @@ TEST_F(BadInput, HasNoReasonForAFolder)
     ExpectFailure("folder", "");
 }
 
+TEST_F(BadInput, TellsTheLastReasonThatIsNoMissingFile)
+{
+    for (const char* path : {"A/x.sql", "B"})
+        ASSERT_TRUE(QDir(folder.path()).mkpath(path));
+    ASSERT_EQ(chmod(QFile::encodeName(Write("B/x.sql", "x")).constData(), 0), 0);
+    const OrdinaryUser user;
+    const QString a = folder.filePath("A");
+    const QString b = folder.filePath("B");
+    control.SetDatasourceSearchPath(a + ";" + b);
+    ExpectFailure("x.sql", "Permission denied");
+    control.SetDatasourceSearchPath(b + ";" + a);
+    ExpectFailure("x.sql", ""); // of a folder
+}
+
 TEST_F(BadInput, PrefersEveryReasonToAMissingFile)
 {
     QDir(folder.path()).mkdir("A");
@@ -76,6 +90,30 @@ TEST_F(BadInput, TakesNamesOfEveryCharacter)
     EXPECT_EQ(Expand("#include <" + name + ">"),
               ("--#include <" + name + ">\rfound").toStdString());
     ExpectFailure("%1 %2 gone", "No such file or directory");
+}
+
+TEST_F(BadInput, TakesFilesWithEveryAsciiCharacterInTheirNames)
+{
+    for (char16_t unit = 0x21; unit < 0x7F; ++unit) {
+        const QString name = QStringLiteral("a%1b").arg(QChar(unit));
+        if (unit == u'/' || unit == u'\\') // separators of folders
+            continue;
+        Write(name, "found");
+        EXPECT_EQ(Expand("#include " + name), ("--#include " + name + "\rfound").toStdString());
+    }
+}
+
+TEST_F(BadInput, EndsAVariablesNameAtEveryOtherCharacter)
+{
+    for (char16_t unit = 0x20; unit < 0x7F; ++unit) {
+        const QChar character(unit);
+        const QString name = QStringLiteral("&&A%1").arg(character);
+        const bool isPart = character.isLetterOrNumber() || unit == u'_';
+        if (unit == u' ' || unit == u'&') // the name ends before, another begins
+            continue;
+        const QString line = "#define " + name + " 1\n";
+        EXPECT_EQ(Expand(line + name), ((isPart ? "--" + line + "1" : line + name)).toStdString());
+    }
 }
 
 TEST_F(BadInput, TakesValuesOfEveryCharacter)
@@ -152,7 +190,7 @@ TEST_F(BadInput, TakesANameOfFiftyMegabytes)
 
 TEST_F(BadInput, TakesALineOfManyUses)
 {
-    constexpr int kUses = 20000;
+    constexpr int kUses = 5000;
     const QString use = "&&A /* a use */, 'it is &&A too', t.&&A.c, '&&A', ('&&B'), ";
     const QString result = "value /* a use */, 'it is value too', t.value.c, 'value', ('b, c'), ";
     EXPECT_EQ(Expand("#define &&A value\n#define &&B b, c\nselect " + use.repeated(kUses) + "0"),

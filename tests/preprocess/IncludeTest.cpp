@@ -1,4 +1,5 @@
 // Included files over the engine's own styling.
+#include "platform/SpecialFolders.h"
 #include "tests/preprocess/PreprocessFixture.h"
 
 #include <QDir>
@@ -86,6 +87,19 @@ TEST_F(Includes, OfTheSameTextComeOnce)
               "--#include a.sql\ra\n-- #include a.sql \n--#include  a.sql\ra");
 }
 
+TEST_F(Includes, TellTheCaseOfLinesThatCameBefore)
+{
+    Write("a.sql", "a");
+    EXPECT_EQ(Expand("#include a.sql\n#INCLUDE a.sql"), "--#include a.sql\ra\n--#INCLUDE a.sql\ra");
+}
+
+TEST_F(Includes, AreWholeWords)
+{
+    Write("a.sql", "a");
+    EXPECT_EQ(Expand("#includes a.sql\nx#include a.sql"), "#includes a.sql\nx#include a.sql");
+    EXPECT_FALSE(control.GetIncludeOrDefineDirectivesFound());
+}
+
 TEST_F(Includes, ThatFailTwiceGetOneMessage)
 {
     EXPECT_EQ(Expand("#include no.sql\n#include no.sql"), "#include no.sql\n--#include no.sql");
@@ -113,6 +127,23 @@ TEST_F(Includes, LookThroughTheDefaultFoldersLast)
     control.SetDatasourceSearchPath(folder.filePath("A"));
     EXPECT_EQ(Expand("#include x.sql\n#include y.sql"),
               "--#include x.sql\rfirst\n--#include y.sql\rdefault");
+}
+
+TEST_F(Includes, OfTheOwnApplicationHaveFoldersOfTheirOwn)
+{
+    class OwnFolders final : public ISpecialFolders
+    {
+    public:
+        OwnFolders() { SetSpecialFolders(this); }
+        ~OwnFolders() override { SetSpecialFolders(nullptr); }
+        QString AppName() const override { return QStringLiteral("dbglazier"); }
+    };
+    Write("a.sql", "a");
+    control.SetDatasourceSearchPath("");
+    options.paths[option::OwnIncludePath] = folder.path();
+    EXPECT_EQ(Expand("#include a.sql"), "#include a.sql");
+    const OwnFolders folders;
+    EXPECT_EQ(Expand("#include a.sql"), "--#include a.sql\ra");
 }
 
 TEST_F(Includes, LeaveEmptyEntriesOfAListOut)

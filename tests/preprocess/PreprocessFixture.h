@@ -75,6 +75,7 @@ public:
     {
         m_control.reset();
         m_parent.reset();
+        ForgetLanguage();
     }
 
 private:

@@ -31,11 +31,20 @@ constexpr const char* kValues[] = {"value", "1",    "12",   "q",   "n",    "rem"
                                    "begin", "end",  "case", "x y", "it's", "a\"b",
                                    "/* c",  "c */", "\\",   "$t$", "]",    "x, y"};
 
-constexpr int kRounds = 150;
+constexpr int kRounds = 60;
 
 class RandomScripts : public PreprocessTest
 {
 protected:
+    std::string Seed() // and how to come by it again
+    {
+        const char* given = std::getenv("ZN_TEST_SEED");
+        const unsigned seed = given ? static_cast<unsigned>(std::strtoul(given, nullptr, 10))
+                                    : std::random_device{}();
+        m_random.seed(seed);
+        return "repeat with ZN_TEST_SEED=" + std::to_string(seed);
+    }
+
     std::string Piece() { return kPieces[m_random() % std::size(kPieces)]; }
 
     std::string Script(unsigned most)
@@ -101,10 +110,17 @@ protected:
             told.push_back(line);
         EXPECT_EQ(told, lines);
         CompareLines(reference);
+        ExpectOriginal(script);
+    }
+
+    // Unit for unit, and the modified flag is what it is just then.
+    void ExpectOriginal(const QString& script)
+    {
+        const bool modified = m_random() % 2;
+        control.SetModified(modified);
         control.SetOriginalScript();
-        if (reference.found) {
-            EXPECT_EQ(control.GetText(), script);
-        }
+        EXPECT_TRUE(control.GetText() == script);
+        EXPECT_EQ(control.GetModified(), modified);
     }
 
     // Where the first unit of each line, if it is no marker's, came from.
@@ -137,11 +153,7 @@ protected:
         ASSERT_LT(control.GetProperty(u"sql.dialect", nullptr, 1), int(dialect.size()));
         control.GetProperty(u"sql.dialect", dialect.data(), 1);
         m_styler.SetProperty(u"sql.dialect", dialect.data(), 1);
-        const char* given = std::getenv("ZN_TEST_SEED");
-        const unsigned seed = given ? static_cast<unsigned>(std::strtoul(given, nullptr, 10))
-                                    : std::random_device{}();
-        m_random.seed(seed);
-        SCOPED_TRACE("repeat with ZN_TEST_SEED=" + std::to_string(seed));
+        SCOPED_TRACE(Seed());
         for (int round = 0; round < rounds && !HasFailure(); ++round) {
             reference::PlainPreprocessor reference = Reference();
             const QString script = QString::fromStdString("\n" + Definitions() + Script(80));
@@ -154,6 +166,27 @@ protected:
     QWidget m_parent;
     CZNCoreEditorControl m_styler;
 };
+
+// Long enough for a file of their own, in characters of every length.
+TEST_F(RandomScripts, ComeBackFromTheirBackup)
+{
+    constexpr int kMostInMemory = 1024 * 1024;
+    SCOPED_TRACE(Seed());
+    Bind("Transact-SQL");
+    Reference(); // for its files
+    int found = 0;
+    for (int round = 0; round < 4; ++round) {
+        QString script = QString::fromStdString("\n" + Definitions() + Script(80));
+        const QString filler = QString::fromUtf16(u" x \u00e4 \u4e2d \xD83D\xDE00,\r\n");
+        script += filler.repeated(kMostInMemory / filler.size() + 1);
+        script += QString::fromStdString(Script(80));
+        SetScript(script);
+        Expand();
+        found += control.GetIncludeOrDefineDirectivesFound();
+        ExpectOriginal(script);
+    }
+    EXPECT_GT(found, 0);
+}
 
 class RandomScriptsOf : public RandomScripts,
                         public testing::WithParamInterface<std::pair<const char*, int>>
