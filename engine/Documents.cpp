@@ -3,6 +3,7 @@
 #include "engine/Colouring.h"
 #include "engine/ErrorList.h"
 
+#include <algorithm>
 #include <unordered_map>
 
 namespace engine::documents {
@@ -10,7 +11,7 @@ namespace {
 
 struct Record
 {
-    int windows = 0;
+    std::vector<Engine*> windows;
     int references = 0;
     int undoActions = 0;
     std::shared_ptr<Colouring> colouring = std::make_shared<Colouring>();
@@ -33,7 +34,7 @@ Record* Find(Document document)
 void ForgetIfFree(Document document)
 {
     const Record* record = Find(document);
-    if (record && record->windows == 0 && record->references == 0)
+    if (record && record->windows.empty() && record->references == 0)
         All().erase(document);
 }
 
@@ -59,14 +60,25 @@ std::shared_ptr<Colouring> ColouringOf(Document document)
     return All()[document].colouring;
 }
 
-void Shown(Document document)
+void Shown(Document document, Engine& window)
 {
-    ++All()[document].windows;
+    All()[document].windows.push_back(&window);
 }
 
-void Left(Document document)
+void Left(Document document, Engine& window)
 {
-    TakeOne(&Record::windows, document);
+    Record* record = Find(document);
+    if (!record)
+        return;
+    const auto found = std::find(record->windows.begin(), record->windows.end(), &window);
+    if (found != record->windows.end())
+        record->windows.erase(found);
+    ForgetIfFree(document);
+}
+
+const std::vector<Engine*>& Windows(Document document)
+{
+    return All()[document].windows;
 }
 
 ErrorList& Errors(Document document)

@@ -5,14 +5,13 @@
 
 #include <cstdint>
 #include <memory>
+#include <vector>
 
 namespace engine {
 class Colouring;
-}
-
-namespace engine {
+class Engine;
 class ErrorList;
-}
+} // namespace engine
 
 namespace engine::documents {
 
@@ -24,8 +23,10 @@ bool IsKnown(Document document);
 std::shared_ptr<Colouring> ColouringOf(Document document);
 
 // A window begins or ceases to show the document.
-void Shown(Document document);
-void Left(Document document);
+void Shown(Document document, Engine& window);
+void Left(Document document, Engine& window);
+// In the order in which they came.
+const std::vector<Engine*>& Windows(Document document);
 
 // The problems of a document that a window shows.
 ErrorList& Errors(Document document);

@@ -95,7 +95,7 @@ Engine::Engine(QsciScintillaBase& widget)
 
 Engine::~Engine()
 {
-    documents::Left(m_document);
+    documents::Left(m_document, *this);
 }
 
 void Engine::ShowDocument(LPARAM document)
@@ -114,8 +114,8 @@ void Engine::PrepareDocument()
 {
     const LRESULT left = m_document;
     m_document = raw.Send(Sci::SCI_GETDOCPOINTER);
-    documents::Shown(m_document);
-    documents::Left(left);
+    documents::Shown(m_document, *this);
+    documents::Left(left, *this);
     raw.Send(Sci::SCI_SETCODEPAGE, Sci::SC_CP_UTF8);
     text.Reset();
     colouring = documents::ColouringOf(m_document);

@@ -1,5 +1,6 @@
 #include "engine/ScriptAnalysis.h"
 
+#include "engine/Documents.h"
 #include "engine/Engine.h"
 
 #include <algorithm>
@@ -72,7 +73,9 @@ bool ScriptAnalysis::Begin()
         const analysis::ScriptRules rules = Rules();
         if (!rules.dialect)
             return false;
-        m_partitioner = std::make_unique<analysis::Partitioner>(rules, length);
+        m_partitioner = ReadElsewhere(rules);
+        if (!m_partitioner)
+            m_partitioner = std::make_unique<analysis::Partitioner>(rules, length);
         if (!m_bulkChange)
             Follow();
     } else if (m_bulkChange || m_partitioner->Size() != length) {
@@ -80,6 +83,22 @@ bool ScriptAnalysis::Begin()
     }
     ContinueAhead();
     return true;
+}
+
+// What another window of the text has read by the same rules; null if none has.
+std::unique_ptr<analysis::Partitioner>
+ScriptAnalysis::ReadElsewhere(const analysis::ScriptRules& rules) const
+{
+    for (Engine* window : documents::Windows(m_engine.Document())) {
+        ScriptAnalysis& other = window->analysis;
+        if (&other == this || !other.m_partitioner || other.m_bulkChange)
+            continue;
+        other.Settle();
+        if (!other.m_change && other.m_partitioner->Size() == m_engine.raw.Length() &&
+            other.m_partitioner->Rules() == rules)
+            return std::make_unique<analysis::Partitioner>(*other.m_partitioner);
+    }
+    return nullptr;
 }
 
 // The notifications before a change are the ones that cost nothing else.

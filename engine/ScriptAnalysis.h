@@ -73,6 +73,7 @@ private:
     const analysis::SqlDialect* Dialect() const;
     analysis::ScriptRules Rules() const;
     void FoldBySeparator();
+    std::unique_ptr<analysis::Partitioner> ReadElsewhere(const analysis::ScriptRules& rules) const;
     bool Begin();
     void Follow();
     void ChangeBegins(const Change& change);

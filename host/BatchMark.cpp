@@ -2,13 +2,23 @@
 
 #include "editing/ZNCoreEditorControlEx.h"
 
-#include <algorithm>
-
 namespace {
 
 constexpr int kMarker = 10;        // the first that no language uses
 constexpr int kLeftRectangle = 27; // Scintilla's number of the symbol
 constexpr unsigned long kColour = 0xC08A3C;
+
+// Only what changes: taking all marks away walks through all lines of the text. A line that two
+// marked ones were joined to has two marks.
+void MarkLine(CZNCoreEditorControlEx& control, int line, bool isMarked)
+{
+    constexpr int kBit = 1 << kMarker;
+    const bool wasMarked = (control.MarkerGet(line, 1) & kBit) != 0;
+    if (isMarked && !wasMarked)
+        control.MarkerAdd(line, kMarker, 1);
+    while (!isMarked && (control.MarkerGet(line, 1) & kBit))
+        control.MarkerDelete(line, kMarker, 1);
+}
 
 } // namespace
 
@@ -19,18 +29,23 @@ void DefineBatchMark(CZNCoreEditorControlEx& control)
 
 void MarkBatch(CZNCoreEditorControlEx& control)
 {
-    control.MarkerDeleteAll(kMarker, 1);
     const long caret = control.GetCurrentPos(1);
     long start = 0;
     long end = 0;
-    if (!control.DoFindBatch(caret, caret, start, end, 1) || end <= start ||
-        (start == 0 && end >= control.GetLength(1)))
-        return;
-    const int top = control.DocLineFromVisible(control.GetFirstVisibleLine(1), 1);
-    const int bottom =
-        control.DocLineFromVisible(control.GetFirstVisibleLine(1) + control.LinesOnScreen(1), 1);
-    const int first = std::max(top, control.LineFromPosition(start, 1));
-    const int last = std::min(bottom, control.LineFromPosition(end - 1, 1));
-    for (int line = first; line <= last; ++line)
-        control.MarkerAdd(line, kMarker, 1);
+    // Without a separator the answer is all of the text, which would be read for it.
+    const bool isDivided = !control.GetBatchSeparator(1).empty() &&
+                           control.DoFindBatch(caret, caret, start, end, 1) && end > start &&
+                           (start > 0 || end < control.GetLength(1));
+    const int first = isDivided ? control.LineFromPosition(start, 1) : 0;
+    const int last = isDivided ? control.LineFromPosition(end - 1, 1) : -1;
+    const int topShown = control.GetFirstVisibleLine(1);
+    const int top = control.DocLineFromVisible(topShown, 1);
+    const int bottom = control.DocLineFromVisible(topShown + control.LinesOnScreen(1), 1);
+    for (int line = top; line <= bottom; ++line)
+        MarkLine(control, line, line >= first && line <= last);
+}
+
+void ForgetBatchMark(CZNCoreEditorControlEx& control)
+{
+    control.MarkerDeleteAll(kMarker, 1);
 }

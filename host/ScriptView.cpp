@@ -141,6 +141,16 @@ int ScriptView::OnNotify(WPARAM wParam, LPARAM lParam, LRESULT* result)
     return known;
 }
 
+// The bar of the view that was active is not that of this one.
+void ScriptView::OnActivateView(int activate, CView* activated, CView* deactivated)
+{
+    CZNCoreEditorView::OnActivateView(activate, activated, deactivated);
+    if (!activate || !GetSafeHwnd())
+        return;
+    ForgetBatchMark(m_coreEditor);
+    FollowSoon();
+}
+
 // A load or a replacement of all brings thousands of notifications; the window follows once.
 void ScriptView::FollowSoon()
 {

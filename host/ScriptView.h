@@ -22,6 +22,7 @@ public:
     int OnCommand(WPARAM wParam, LPARAM lParam) override;
     int OnNotify(WPARAM wParam, LPARAM lParam, LRESULT* result) override;
     void OnInitialUpdate() override;
+    void OnActivateView(int activate, CView* activated, CView* deactivated) override;
 
     void SelectRange(long start, long end); // and shows it
     void GoToLine(long line);               // from 0, and shows it

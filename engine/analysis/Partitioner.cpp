@@ -48,7 +48,7 @@ std::size_t Partitioner::FirstStale() const
 void Partitioner::MakeStale(std::size_t index, long position)
 {
     const auto mark = [this](std::size_t i) {
-        m_stretches[i].dirty = true;
+        m_stretches.Edit(i).dirty = true;
         m_stretches.Set(Mark::Stale, i, true);
         m_fresh = std::min(m_fresh, i);
     };
@@ -124,14 +124,14 @@ void Partitioner::MeetNeighbours(std::size_t index, long end)
     m_stretches.Merge(index, last);
     if (index + 1 < m_stretches.Count() && m_stretches.StartOf(index + 1) < end) {
         m_stretches.MoveStart(index + 1, end);
-        m_stretches[index + 1].dirty = true;
+        m_stretches.Edit(index + 1).dirty = true;
     }
 }
 
 void Partitioner::Keep(std::size_t index, const StatementMachine& machine,
                        const StatementState& entry)
 {
-    Stretch& stretch = m_stretches[index];
+    Stretch& stretch = m_stretches.Edit(index);
     const long start = m_stretches.StartOf(index);
     stretch.entry = entry;
     stretch.exit = machine.State();

@@ -25,6 +25,7 @@ struct Span
     bool operator==(const Span&) const = default;
 };
 
+// A copy costs a pointer for each stretch: it shares what neither of both has read again.
 class Partitioner
 {
 public:
@@ -38,6 +39,7 @@ public:
     void Inserted(long position, long bytes);
     void Deleted(long position, long bytes);
     long Size() const { return m_stretches.Size(); }
+    const ScriptRules& Rules() const { return m_rules; }
 
     // Reads about that many bytes of what is stale. False if nothing is.
     bool Work(const TextSpans& text, long bytes);

@@ -16,6 +16,8 @@ struct ScriptRules
 {
     const SqlDialect* dialect = nullptr;
     BatchSeparator separator;
+
+    bool operator==(const ScriptRules&) const = default;
 };
 
 // The terminators that a script sets, by number. 0 is ;, which a script has until it says other.

@@ -11,10 +11,18 @@ void Stretches::Reset(long size)
     m_shifted = 0;
     m_shift = 0;
     m_stretches.clear();
-    m_stretches.push_back(std::make_unique<Stretch>());
+    m_stretches.push_back(std::make_shared<Stretch>());
     for (auto& marks : m_marks)
         marks.assign(1, 0);
     Set(Mark::Stale, 0, true);
+}
+
+Stretch& Stretches::Edit(std::size_t index)
+{
+    std::shared_ptr<Stretch>& stretch = m_stretches[index];
+    if (stretch.use_count() > 1)
+        stretch = std::make_shared<Stretch>(*stretch);
+    return *stretch;
 }
 
 std::size_t Stretches::IndexAt(long position) const
@@ -52,7 +60,7 @@ void Stretches::Split(std::size_t index, long position)
     m_shift = 0;
     const auto behind = static_cast<std::ptrdiff_t>(index) + 1;
     m_starts.insert(m_starts.begin() + behind, position);
-    m_stretches.insert(m_stretches.begin() + behind, std::make_unique<Stretch>());
+    m_stretches.insert(m_stretches.begin() + behind, std::make_shared<Stretch>());
     for (auto& marks : m_marks)
         marks.insert(marks.begin() + behind, 0);
     m_shifted = Count();

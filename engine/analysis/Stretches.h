@@ -34,6 +34,7 @@ enum class Mark : std::uint8_t
 };
 inline constexpr std::size_t kMarks = 6;
 
+// A copy shares what neither of both has changed. Not for several threads.
 class Stretches
 {
 public:
@@ -51,8 +52,8 @@ public:
     long LengthOf(std::size_t index) const { return StartOf(index + 1) - StartOf(index); }
     std::size_t IndexAt(long position) const; // the last one for a position at the end
 
-    Stretch& operator[](std::size_t index) { return *m_stretches[index]; }
     const Stretch& operator[](std::size_t index) const { return *m_stretches[index]; }
+    Stretch& Edit(std::size_t index);
 
     void Grow(std::size_t index, long bytes);        // or shrink
     void Split(std::size_t index, long position);    // what is behind the position has to be read
@@ -77,7 +78,7 @@ private:
     std::vector<long> m_starts{0}; // and the end; those behind m_shifted lack m_shift
     std::size_t m_shifted = 0;
     long m_shift = 0;
-    std::vector<std::unique_ptr<Stretch>> m_stretches;
+    std::vector<std::shared_ptr<Stretch>> m_stretches;
     std::array<std::vector<unsigned char>, kMarks> m_marks;
 };
 

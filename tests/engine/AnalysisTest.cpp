@@ -490,3 +490,26 @@ TEST_F(Analysis, EqualsAFreshOneAfterAnyEdits)
         ASSERT_EQ(catalog, CatalogAt(at)) << edit;
     }
 }
+
+// Each window follows the text by itself from there on.
+TEST_F(Analysis, OfAFurtherWindowAgreesThroughEditsInEither)
+{
+    SetText(u"select 1\nGO\nselect 2\n");
+    EXPECT_EQ(Batch(0, 0), u"select 1\n");
+    const EngineUnderTest second;
+    second.Send(msg::SetDocPointer, 0, m_engine.Send(msg::GetDocPointer));
+    second.Send(msg::SetLexer, static_cast<WPARAM>(m_engine.Send(msg::GetLexer)));
+    const auto batchOfSecond = [&] {
+        PositionPair around{0, 0};
+        PositionPair found{};
+        second.Send(msg::DoFindBatch, reinterpret_cast<WPARAM>(&around), &found);
+        return second.Range(found.first, found.second);
+    };
+    EXPECT_EQ(batchOfSecond(), u"select 1\n");
+    m_engine.Send(msg::InsertText, 0, reinterpret_cast<LPARAM>(u"a\n"));
+    EXPECT_EQ(Batch(0, 0), u"a\nselect 1\n");
+    EXPECT_EQ(batchOfSecond(), u"a\nselect 1\n");
+    second.Send(msg::InsertText, 2, reinterpret_cast<LPARAM>(u"GO\n"));
+    EXPECT_EQ(batchOfSecond(), u"a\n");
+    EXPECT_EQ(Batch(0, 0), u"a\n");
+}

@@ -50,6 +50,31 @@ TEST_F(WorkbenchProblems, MarkTheBatchAroundTheCaret)
     EXPECT_EQ(MarkedLines(), QList<int>({3}));
 }
 
+TEST_F(WorkbenchProblems, MarkTheBatchOfTheActivePaneAlone)
+{
+    m_window.show();
+    Open("a.tsql", "select 1\nselect 2\ngo\nselect 3\ngo\n");
+    GoTo(0);
+    Trigger("splitBelow");
+    Frame().View()->SetFocus();
+    GoTo(23);
+    EXPECT_EQ(MarkedLines(), QList<int>({3}));
+    Trigger("otherPane");
+    QApplication::processEvents();
+    EXPECT_EQ(MarkedLines(), QList<int>({0, 1}));
+}
+
+TEST_F(WorkbenchProblems, MarkNoLineTwiceWhenTwoAreJoined)
+{
+    m_window.show();
+    Open("a.tsql", "select 1\nselect 2\ngo\nselect 3\ngo\n");
+    GoTo(0);
+    Editor().SetSel(8, 9, 1);
+    Editor().Clear(1);
+    GoTo(22);
+    EXPECT_EQ(MarkedLines(), QList<int>({2}));
+}
+
 TEST_F(WorkbenchProblems, MarkNothingInAScriptOfOneBatch)
 {
     m_window.show();
