@@ -37,10 +37,11 @@ LRESULT SetEolMode(Engine& engine, WPARAM wParam, LPARAM)
     return 0;
 }
 
+// The conversion steps back over what it has put in, and so never ends where nothing can be.
 LRESULT ConvertEols(Engine& engine, WPARAM wParam, LPARAM)
 {
     const int stock = StockEolMode(wParam);
-    if (stock >= 0)
+    if (stock >= 0 && !engine.raw.Send(Sci::SCI_GETREADONLY))
         engine.raw.Send(Sci::SCI_CONVERTEOLS, static_cast<WPARAM>(stock));
     return 0;
 }

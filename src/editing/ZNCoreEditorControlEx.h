@@ -370,10 +370,13 @@ private:
     template <class TextFor>
     void InsertIntoEachLine(TextFor textFor);
     bool HasBookmark(long line);
+    void ForgetStaleHandles();
     void GotoBookmark(int line);
 
     void ApplyDefaultEncoding();
     void ApplyColorMaxSize();
+
+    std::size_t m_nextAsked = 0; // of the bookmarks' handles
 };
 
 // The text of a control in a dialog, in the direction that the exchange says. Nothing happens

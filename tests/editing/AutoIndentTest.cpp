@@ -236,4 +236,25 @@ TEST_F(ContinuedComment, IsIndentedLikeTheLineAbove)
     EXPECT_EQ(EnterAt(u"  -- one|"), u"  -- one\n  -- |");
 }
 
+// The two markers of "/*/" share their star, and each counts.
+TEST_F(ContinuedComment, CountsMarkersThatOverlap)
+{
+    EXPECT_EQ(EnterAt(u"/*/|"), u"/*/\n|");
+    EXPECT_EQ(EnterAt(u"/*/*|"), u"/*/*\n * |"); // two starts, and the end between them
+    EXPECT_EQ(EnterAt(u"/*/*/|"), u"/*/*/\n|");
+}
+
+TEST_F(ContinuedComment, GoesOnInsideANestedOne)
+{
+    EXPECT_EQ(EnterAt(u"/* /* a */\n* b|"), u"/* /* a */\n* b\n* |");
+    EXPECT_EQ(EnterAt(u"/* a |*/"), u"/* a \n * |*/");
+}
+
+TEST_F(ContinuedComment, IsIndependentOfTheLanguagesMarkers)
+{
+    control.Reset();
+    EXPECT_EQ(EnterAt(u"\t -- a|"), u"\t -- a\n-- |");
+    EXPECT_EQ(EnterAt(u"  /* a|"), u"  /* a\n * |");
+}
+
 } // namespace

@@ -1,24 +1,10 @@
 // Comment markers put in, for every shape of a selection.
-#include "tests/editing/EditingFixture.h"
+#include "tests/editing/CommentFixture.h"
 
 namespace {
 
-class Commenting : public EditingTest
-{
-protected:
-    std::u16string Block(const std::u16string& marked)
-    {
-        Put(marked);
-        EXPECT_TRUE(control.CommentSelection(0, true));
-        return Marked();
-    }
-    std::u16string Lines(const std::u16string& marked)
-    {
-        Put(marked);
-        EXPECT_TRUE(control.CommentSelection(0, false));
-        return Marked();
-    }
-};
+class Commenting : public CommentTest<&CZNCoreEditorControlEx::CommentSelection>
+{};
 
 TEST_F(Commenting, MarkersMayNotBeEmpty)
 {
@@ -64,9 +50,7 @@ TEST_F(Commenting, RightBehindAWordTheNextOneIsTakenToo)
 TEST_F(Commenting, AWordAtTheEndOfTheTextIsWrapped)
 {
     EXPECT_EQ(Block(u"one tw|o"), u"one /*[two]|*/");
-    Put(u"one|");
-    EXPECT_TRUE(control.CommentSelection(0, true));
-    EXPECT_EQ(Text(), u"/*one*/");
+    EXPECT_EQ(BlockText(u"one|"), u"/*one*/");
 }
 
 TEST_F(Commenting, NothingHappensWithoutAWordToTheLeft)
@@ -196,9 +180,7 @@ TEST_F(Commenting, TheWordScanReadsNinetyNineUnitsOfTheLine)
 
 TEST_F(Commenting, APairAtTheCaretStaysWhole)
 {
-    Put(u"ab|\U0001F600 x");
-    ASSERT_TRUE(control.CommentSelection(0, true));
-    EXPECT_EQ(Text(), u"/*ab*/\U0001F600 x");
+    EXPECT_EQ(BlockText(u"ab|\U0001F600 x"), u"/*ab*/\U0001F600 x");
     EXPECT_EQ(TextAfterUndo(), u"ab\U0001F600 x");
 }
 
@@ -211,6 +193,65 @@ TEST_F(Commenting, AReadOnlyTextStays)
     EXPECT_TRUE(control.UnCommentSelection(0, true));
     EXPECT_TRUE(control.UnCommentSelection(0, false));
     EXPECT_EQ(Text(), u"one\ntwo");
+}
+
+TEST_F(Commenting, MarkersAreTakenInTheirOrder)
+{
+    control.Reset();
+    EXPECT_TRUE(control.AddSingleLineComment(QStringLiteral("#")));
+    EXPECT_TRUE(control.AddBlockComment(QStringLiteral("{"), QStringLiteral("}")));
+    EXPECT_TRUE(control.AddBlockComment(QStringLiteral("(*"), QStringLiteral("*)")));
+    Put(u"a[b]|c");
+    EXPECT_TRUE(control.CommentSelection(1, true));
+    EXPECT_EQ(Marked(), u"a(*[b]|*)c");
+    Put(u"(*abc*)|");
+    EXPECT_TRUE(control.UnCommentSelection(1, true));
+    EXPECT_EQ(Text(), u"abc");
+}
+
+TEST_F(Commenting, AnIndexBehindTheMarkersIsMissingForTheBlockFormOnly)
+{
+    Put(u"a[b]|c");
+    EXPECT_FALSE(control.CommentSelection(7, true));
+    EXPECT_FALSE(control.CommentSelection(-2, true));
+    EXPECT_FALSE(control.CommentSelection(-2, false));
+    EXPECT_EQ(Marked(), u"a[b]|c");
+    EXPECT_TRUE(control.CommentSelection(7, false));
+    EXPECT_EQ(Marked(), u"a[-- b]|c");
+}
+
+TEST_F(Commenting, ALineEndBehindTheSelectionMakesItLinesWhereverItBegins)
+{
+    EXPECT_EQ(Block(u"on[e\ntwo\n]|x"), u"on[-- e\n-- two\n]|x");
+    EXPECT_EQ(Block(u"on[e\n]|x"), u"on[-- e\n]|x");
+}
+
+TEST_F(Commenting, WithoutASingleModeALineEndIsCrLf)
+{
+    control.SetEOLMode(0, 1);
+    EXPECT_EQ(Block(u"on[e\r\n]|x"), u"on[-- e\r\n]|x");
+    EXPECT_EQ(Block(u"on[e\n]|x"), u"on/*[e\n]|*/x");
+}
+
+TEST_F(Commenting, AMarkerLongerThanTheTextIsPutAroundIt)
+{
+    control.Reset();
+    const QString marker(300, u'#');
+    control.AddSingleLineComment(marker);
+    control.AddBlockComment(marker, marker);
+    const std::u16string text = marker.toStdU16String();
+    EXPECT_EQ(BlockText(u"a[b]|c"), u"a" + text + u"b" + text + u"c");
+    EXPECT_EQ(TextAfterUndo(), u"abc");
+    Lines(u"[a]|");
+    EXPECT_EQ(Text(), text + u" a");
+}
+
+TEST_F(Commenting, NulAndAstralCharactersAreTextLikeAny)
+{
+    const std::u16string nul(1, u'\0');
+    EXPECT_EQ(Block(u"a[" + nul + u"]|b"), u"a/*[" + nul + u"]|*/b");
+    EXPECT_EQ(Block(u"a[\U0001F600]|b"), u"a/*[\U0001F600]|*/b");
+    EXPECT_EQ(Lines(u"[" + nul + u"a\n\U0001F600]|"), u"[-- " + nul + u"a\n-- \U0001F600]|");
 }
 
 } // namespace

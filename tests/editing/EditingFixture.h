@@ -22,6 +22,7 @@ public:
     using CZNCoreEditorControlEx::AutoIndentIn;
     using CZNCoreEditorControlEx::AutomaticCommenting;
     using CZNCoreEditorControlEx::m_bookmarkHandles;
+    using CZNCoreEditorControlEx::RangeExtendAndGrab;
     using CZNCoreEditorControlEx::SetLineIndentationEx;
 };
 
@@ -165,10 +166,38 @@ public:
 
     std::u16string Text(int pieces)
     {
-        static const std::u16string kPieces[] = {
-            u"a",          u"b1", u" ",  u"  ", u"\t", u"--", u"-- ", u"/*", u"*/", u"**",
-            u"\n",         u"\n", u"\r", u"{",  u"}",  u"(",  u")",   u"é",  u"İ",  u"漢",
-            u"\U0001F600", u"_x", u"*",  u"/",  u"\"", u"10", u"9",   u"'",  u";",  u"\r\n"};
+        static const std::u16string kPieces[] = {u"a",
+                                                 u"b1",
+                                                 u" ",
+                                                 u"  ",
+                                                 u"\t",
+                                                 u"--",
+                                                 u"-- ",
+                                                 u"/*",
+                                                 u"*/",
+                                                 u"**",
+                                                 u"\n",
+                                                 u"\n",
+                                                 u"\r",
+                                                 u"{",
+                                                 u"}",
+                                                 u"(",
+                                                 u")",
+                                                 u"é",
+                                                 u"İ",
+                                                 u"漢",
+                                                 u"\U0001F600",
+                                                 u"_x",
+                                                 u"*",
+                                                 u"/",
+                                                 u"\"",
+                                                 u"10",
+                                                 u"9",
+                                                 u"'",
+                                                 u";",
+                                                 u"\r\n",
+                                                 std::u16string(1, u'\0'),
+                                                 std::u16string(1, char16_t(0xD800))};
         std::u16string text;
         for (int i = Number(pieces + 1); i > 0; --i)
             text += kPieces[static_cast<std::size_t>(Number(std::size(kPieces)))];

@@ -84,4 +84,31 @@ TEST_F(Marking, StaysOutsideTheWalkFromBookmarkToBookmark)
     EXPECT_EQ(Marked(), QList<int>());
 }
 
+TEST_F(Marking, MarksALineOnce)
+{
+    PutPlain(u"a a\nb\n");
+    EXPECT_EQ(control.MarkAll(QStringLiteral("a"), 0), 2);
+    EXPECT_EQ(control.MarkAll(QStringLiteral("a"), 0), 2);
+    control.MarkerDelete(0, 0, 1); // takes one mark away
+    EXPECT_EQ(Marked(), QList<int>());
+}
+
+TEST_F(Marking, SearchesForAnExpressionFromTheStartOn)
+{
+    PutPlain(u"one\ntwo\nten\n");
+    search.SetDown(false);
+    search.SetWholeWord(true);
+    control.GotoPos(6, 1);
+    EXPECT_EQ(control.MarkAll(QStringLiteral("t[a-z]*"), 0), 2);
+    EXPECT_EQ(Marked(), QList<int>({1, 2}));
+    EXPECT_EQ(search.GetFind(), QStringLiteral("t[a-z]*"));
+}
+
+TEST_F(Marking, FindsNothingByAPatternThatIsNone)
+{
+    PutPlain(u"a[b\n");
+    EXPECT_EQ(control.MarkAll(QStringLiteral("["), 0), -1);
+    EXPECT_EQ(Marked(), QList<int>());
+}
+
 } // namespace

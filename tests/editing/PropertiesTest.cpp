@@ -21,6 +21,8 @@ const OperationRow kOperations[] = {
     {"RemoveTrailingSpaces", [](auto& c) { c.RemoveTrailingSpaces(); }},
     {"EnsureFinalNewLine", [](auto& c) { c.EnsureFinalNewLine(); }},
     {"SetEOLCRLF", [](auto& c) { c.SetEOLCRLF(); }},
+    {"SetEOLCR", [](auto& c) { c.SetEOLCR(); }},
+    {"SetEOLLF", [](auto& c) { c.SetEOLLF(); }},
     {"SortLines", [](auto& c) { c.SortLines(true, false, true, 0, -1, -1); }},
     {"SortLinesByNumber", [](auto& c) { c.SortLines(false, true, false, 2, 1, -1); }},
     {"InsertText", [](auto& c) { c.InsertTextIntoLines(1, QStringLiteral("x")); }},
@@ -30,8 +32,10 @@ const OperationRow kOperations[] = {
     {"WordTranspose", [](auto& c) { c.WordTranspose(); }},
     {"WordDelete", [](auto& c) { c.WordDelete(); }},
     {"WordUpperCase", [](auto& c) { c.WordUpperCase(); }},
+    {"WordLowerCase", [](auto& c) { c.WordLowerCase(); }},
     {"WordCapitalize", [](auto& c) { c.WordCapitalize(); }},
     {"NumPlus", [](auto& c) { c.NumPlus(); }},
+    {"NumMinus", [](auto& c) { c.NumMinus(); }},
 };
 
 // Where one undo takes back all that was done.
@@ -77,6 +81,30 @@ TEST_P(EveryOperation, LeavesAReadOnlyTextAlone)
     }
 }
 
+// None and one character, and every selection of them.
+TEST_P(EveryOperation, TakesTheShortestTexts)
+{
+    const std::u16string texts[] = {u"",           u"a",      u" ",
+                                    u"\t",         u"\n",     u"\r\n",
+                                    u"*",          u"1",      std::u16string(1, u'\0'),
+                                    u"\U0001F600", u"\u4e00", std::u16string(1, char16_t(0xDC00))};
+    for (const std::u16string& text : texts) {
+        for (int bounds = 0; bounds < 9; ++bounds) {
+            for (int mode = 0; mode < 4; ++mode) {
+                PutPlain(text);
+                control.SetEOLMode(mode, 1);
+                control.SetSel(bounds % 3, bounds / 3, 1);
+                const std::u16string before = Text();
+                GetParam().run(control);
+                ASSERT_LE(control.GetSelectionEnd(1), control.GetLength(1));
+                if (control.CanUndo(1))
+                    control.Undo(1);
+                ASSERT_EQ(Text(), before);
+            }
+        }
+    }
+}
+
 INSTANTIATE_TEST_SUITE_P(Operations, EveryOperation, testing::ValuesIn(kOperations),
                          [](const auto& row) { return std::string(row.param.name); });
 
@@ -101,34 +129,35 @@ TEST_F(AnyText, LooksTheSameWithBlanksInPlaceOfTabs)
     SCOPED_TRACE(testing::Message() << "seed " << seed);
     RandomText random(seed);
     for (int round = 0; round < 200; ++round) {
-        const std::u16string text = random.Text(40);
         const int width = 1 + random.Number(8);
-        PutPlain(text);
+        PutPlain(random.Text(40));
+        const std::u16string text = Text();
         control.SetTabWidth(width, 1);
         control.ConvertTabToSpaces();
         ASSERT_EQ(Text(), Visible(text, static_cast<std::size_t>(width)));
     }
 }
 
-// A line that already begins with a marker and a blank, or with white space only, is another
-// matter.
 TEST_F(AnyText, OfWholeLinesComesBackFromLineComments)
 {
     const unsigned seed = std::random_device{}();
     SCOPED_TRACE(testing::Message() << "seed " << seed);
     RandomText random(seed);
-    for (int round = 0; round < 200; ++round) {
-        std::u16string text;
-        for (int line = random.Number(8); line >= 0; --line)
-            text += u"a b" + random.Text(0) + std::u16string(random.Number(3), u'\t') + u"x\n";
-        PutPlain(text);
-        control.SelectAll(1);
-        ASSERT_TRUE(control.CommentSelection(0, true));
-        if (Text() == text)
-            FAIL() << "nothing was commented";
-        ASSERT_TRUE(control.UnCommentSelection(0, true));
+    int commented = 0;
+    for (int round = 0; round < 300; ++round) {
+        PutPlain(random.Text(60));
+        control.SetEOLMode(random.Number(4), 1);
+        const int lines = control.GetLineCount(1);
+        const int first = random.Number(lines);
+        const int behind = first + 1 + random.Number(lines - first);
+        control.SetSel(control.PositionFromLine(first, 1), control.PositionFromLine(behind, 1), 1);
+        const std::u16string text = Text();
+        ASSERT_TRUE(control.CommentSelection(0, false));
+        commented += Text() != text;
+        ASSERT_TRUE(control.UnCommentSelection(0, false));
         ASSERT_EQ(Text(), text);
     }
+    EXPECT_GT(commented, 100);
 }
 
 TEST_F(AnyText, IsTrimmedOfNothingButWhatTrails)

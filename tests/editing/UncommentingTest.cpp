@@ -1,24 +1,10 @@
 // Comment markers taken out.
-#include "tests/editing/EditingFixture.h"
+#include "tests/editing/CommentFixture.h"
 
 namespace {
 
-class Uncommenting : public EditingTest
-{
-protected:
-    std::u16string Block(const std::u16string& marked)
-    {
-        Put(marked);
-        EXPECT_TRUE(control.UnCommentSelection(0, true));
-        return Marked();
-    }
-    std::u16string Lines(const std::u16string& marked)
-    {
-        Put(marked);
-        EXPECT_TRUE(control.UnCommentSelection(0, false));
-        return Marked();
-    }
-};
+class Uncommenting : public CommentTest<&CZNCoreEditorControlEx::UnCommentSelection>
+{};
 
 TEST_F(Uncommenting, TheBlankBehindALineMarkerGoesToo)
 {
@@ -81,12 +67,8 @@ TEST_F(Uncommenting, AnEndMarkerSoonBehindTheStartMarkerIsMissed)
 
 TEST_F(Uncommenting, WithoutTheStartMarkerTheEndIsLookedForBehindItsPlace)
 {
-    Put(u"|*/ab*/");
-    EXPECT_TRUE(control.UnCommentSelection(0, true));
-    EXPECT_EQ(Text(), u"*/ab");
-    Put(u"|*/ab");
-    EXPECT_TRUE(control.UnCommentSelection(0, true));
-    EXPECT_EQ(Text(), u"*/ab");
+    EXPECT_EQ(BlockText(u"|*/ab*/"), u"*/ab");
+    EXPECT_EQ(BlockText(u"|*/ab"), u"*/ab");
 }
 
 TEST_F(Uncommenting, WithoutAnEndMarkerTheSelectionRunsToTheEngineslimit)
@@ -106,9 +88,7 @@ TEST_F(Uncommenting, AThreeCharacterMarkerIsSeenOnlyByItsIndentation)
     control.AddSingleLineComment(QStringLiteral("REM"));
     control.AddBlockComment(QStringLiteral("/*"), QStringLiteral("*/"));
     EXPECT_EQ(Block(u"[ REM /*a*/]|"), u"[  /*a*/]|");
-    Put(u"[REM /*a*/]|");
-    EXPECT_TRUE(control.UnCommentSelection(0, true));
-    EXPECT_EQ(Text(), u"REM a");
+    EXPECT_EQ(BlockText(u"[REM /*a*/]|"), u"REM a");
 }
 
 TEST_F(Uncommenting, OverLinesTheMarkersOfEachGo)
@@ -143,20 +123,14 @@ TEST_F(Uncommenting, AMiddleMarkerGoesOnlyWithoutTheOthers)
 TEST_F(Uncommenting, AnEndMarkerInFrontOfTheStartTakesWhatIsBeforeIt)
 {
     // The place of the second removal counts the first one, wherever that was.
-    Put(u"[abcd */ /*\nx]|");
-    EXPECT_TRUE(control.UnCommentSelection(0, true));
-    EXPECT_EQ(Text(), u"abc*/ \nx");
+    EXPECT_EQ(BlockText(u"[abcd */ /*\nx]|"), u"abc*/ \nx");
     EXPECT_EQ(TextAfterUndo(), u"abcd */ /*\nx");
 }
 
 TEST_F(Uncommenting, ALineOfOneMarkerAtTheTextsEndDeletesTheLineOfTheCaret)
 {
-    Put(u"[a\n*/]|");
-    EXPECT_TRUE(control.UnCommentSelection(0, true));
-    EXPECT_EQ(Text(), u"a\n");
-    Put(u"|[a\n*/]");
-    EXPECT_TRUE(control.UnCommentSelection(0, true));
-    EXPECT_EQ(Text(), u"*/");
+    EXPECT_EQ(BlockText(u"[a\n*/]|"), u"a\n");
+    EXPECT_EQ(BlockText(u"|[a\n*/]"), u"*/");
     EXPECT_EQ(TextAfterUndo(), u"a\n*/");
 }
 
@@ -164,14 +138,10 @@ TEST_F(Uncommenting, TheLengthOfTheStartMarkerHoldsForTheEnd)
 {
     control.Reset();
     control.AddBlockComment(QStringLiteral("<!--"), QStringLiteral("-->"));
-    Put(u"[<!--a-->]|");
-    EXPECT_TRUE(control.UnCommentSelection(0, true));
-    EXPECT_EQ(Text(), u"a-->"); // four units are looked for
+    EXPECT_EQ(BlockText(u"[<!--a-->]|"), u"a-->"); // four units are looked for
     control.Reset();
     control.AddBlockComment(QStringLiteral("{"), QStringLiteral("--}"));
-    Put(u"[{a--}]|");
-    EXPECT_TRUE(control.UnCommentSelection(0, true));
-    EXPECT_EQ(Text(), u"a-}");
+    EXPECT_EQ(BlockText(u"[{a--}]|"), u"a-}");
 }
 
 TEST_F(Uncommenting, MissingMarkersGiveFalse)
@@ -189,6 +159,36 @@ TEST_F(Uncommenting, AnEmptyTextStays)
 {
     EXPECT_EQ(Block(u"|"), u"|");
     EXPECT_EQ(Lines(u"|"), u"|");
+}
+
+TEST_F(Uncommenting, OverLinesOfCrLfTheMarkersOfEachGo)
+{
+    control.SetEOLMode(kCrLf, 1);
+    EXPECT_EQ(Block(u"[/* a\r\n\r\n** b\r\n   c */\r\n]|d"), u" a\r\n\r\n b\r\n   c \r\n|d");
+    EXPECT_EQ(TextAfterUndo(), u"/* a\r\n\r\n** b\r\n   c */\r\nd");
+}
+
+// Its three units are those of a marker cut by one and of a line end.
+TEST_F(Uncommenting, InCrLfALastLineOfAMarkerAndOneUnitDeletesTheLineOfTheCaret)
+{
+    control.SetEOLMode(kCrLf, 1);
+    EXPECT_EQ(BlockText(u"|[a\r\n/*b]"), u"/*b");
+    EXPECT_EQ(BlockText(u"|[a\r\n/*bc]"), u"a\r\nbc");
+}
+
+TEST_F(Uncommenting, WithoutASingleModeALineEndIsLf)
+{
+    control.SetEOLMode(0, 1);
+    EXPECT_EQ(BlockText(u"|[a\n*/]"), u"*/");
+}
+
+TEST_F(Uncommenting, SearchFlagsOfAnEarlierSearchDoNotMatter)
+{
+    constexpr int kRegularExpression = 0x200000;
+    control.SetSearchFlags(kRegularExpression, 1);
+    EXPECT_EQ(Block(u"a [/* b */]| c"), u"a [ b ]| c");
+    EXPECT_EQ(Block(u"[/* a\n** b */\n]|d"), u" a\n** b \n|d");
+    EXPECT_EQ(control.GetSearchFlags(1), kRegularExpression);
 }
 
 } // namespace

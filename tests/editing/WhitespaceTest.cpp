@@ -127,6 +127,29 @@ TEST_F(Whitespace, ATextWithNulIsCleanedUpWhole)
     EXPECT_EQ(Text(), u"a" + nul + u"  b" + nul);
 }
 
+TEST_F(Whitespace, NothingIsCleanedUpOnSavingUntilItIsAsked)
+{
+    OpenControlEx fresh;
+    EXPECT_FALSE(fresh.IsSaveConvertTabToSpaces());
+    EXPECT_FALSE(fresh.IsSaveTrimTrailingSpaces());
+    EXPECT_FALSE(fresh.IsEnsureFinalNewLine());
+    fresh.SetSaveConvertTabToSpaces(true);
+    EXPECT_TRUE(fresh.IsSaveConvertTabToSpaces());
+    EXPECT_FALSE(fresh.IsSaveTrimTrailingSpaces());
+    fresh.SetSaveTrimTrailingSpaces(true);
+    EXPECT_TRUE(fresh.IsSaveTrimTrailingSpaces());
+    EXPECT_FALSE(fresh.IsEnsureFinalNewLine());
+    fresh.SetEnsureFinalNewLine(true);
+    EXPECT_TRUE(fresh.IsEnsureFinalNewLine());
+}
+
+TEST_F(Whitespace, TheWidthOfATabIsTheEditors)
+{
+    control.SetTabWidth(3, 1);
+    EXPECT_EQ(Done(u"a\tb", kToSpaces), u"a  b");
+    EXPECT_EQ(Done(u"a  b", kToTabs), u"a\tb");
+}
+
 class Braces : public EditingTest
 {};
 

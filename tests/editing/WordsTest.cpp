@@ -294,73 +294,35 @@ TEST_F(Words, AFileIsInsertedInTheTextsLineEndsAndTheCaretStays)
     EXPECT_EQ(Text(), u"ab");
 }
 
-class Bookmarks : public EditingTest
+TEST_F(Words, ARangeIsReadAsItIsWithoutAWayToGrow)
 {
-protected:
-    int LineAfter(void (CZNCoreEditorControlEx::*operation)())
-    {
-        (control.*operation)();
-        return control.GetCurLineNumber();
-    }
-};
-
-TEST_F(Bookmarks, AreToggled)
-{
-    Put(u"0\n1\n2\n3");
-    EXPECT_FALSE(control.HasBookmarks());
-    control.ToggleBookmark(1);
-    EXPECT_TRUE(control.HasBookmarks());
-    EXPECT_EQ(control.MarkerGet(1, 1) & 1, 1);
-    control.ToggleBookmark(1);
-    EXPECT_FALSE(control.HasBookmarks());
-    EXPECT_EQ(control.MarkerGet(1, 1) & 1, 0);
+    Put(u"ab cd\r\n|");
+    char16_t buffer[20] = u"before";
+    int start = 1;
+    int end = 1;
+    control.RangeExtendAndGrab(buffer, 20, start, end, 7, nullptr, false);
+    EXPECT_EQ(std::u16string(buffer), u"");
+    end = 7;
+    control.RangeExtendAndGrab(buffer, 20, start, end, 7, nullptr, false);
+    EXPECT_EQ(std::u16string(buffer), u"b cd\r\n");
+    control.RangeExtendAndGrab(buffer, 20, start, end, 7, nullptr, true);
+    EXPECT_EQ(std::u16string(buffer), u"b cd");
+    control.RangeExtendAndGrab(buffer, 4, start, end, 7, nullptr, false);
+    EXPECT_EQ(std::u16string(buffer), u"b c");
+    EXPECT_EQ(end, 4);
 }
 
-TEST_F(Bookmarks, AreGoneToInTurn)
+TEST_F(Words, ARangeGrowsNoFurtherThanItsLimit)
 {
-    Put(u"0\n|1\n2\n3\n4");
-    control.ToggleBookmark(1);
-    control.ToggleBookmark(3);
-    EXPECT_EQ(LineAfter(&CZNCoreEditorControlEx::NextBookmark), 3);
-    EXPECT_EQ(LineAfter(&CZNCoreEditorControlEx::NextBookmark), 1);
-    EXPECT_EQ(LineAfter(&CZNCoreEditorControlEx::PreviousBookmark), 3);
-    EXPECT_EQ(LineAfter(&CZNCoreEditorControlEx::PreviousBookmark), 1);
-    EXPECT_EQ(LineAfter(&CZNCoreEditorControlEx::LastBookmark), 3);
-    EXPECT_EQ(LineAfter(&CZNCoreEditorControlEx::FirstBookmark), 1);
-    control.GotoLine(4, 1);
-    EXPECT_EQ(LineAfter(&CZNCoreEditorControlEx::NextBookmark), 1);
-}
-
-TEST_F(Bookmarks, OfAnotherHandCountOnlyBesideOnesOwn)
-{
-    Put(u"|0\n1\n2\n3");
-    control.MarkerAdd(2, 0, 1);
-    EXPECT_FALSE(control.HasBookmarks());
-    EXPECT_EQ(LineAfter(&CZNCoreEditorControlEx::NextBookmark), 0);
-    control.ToggleBookmark(3);
-    EXPECT_EQ(LineAfter(&CZNCoreEditorControlEx::NextBookmark), 2);
-    control.ToggleBookmark(2); // takes the mark away, and keeps the handle of the other
-    EXPECT_EQ(control.m_bookmarkHandles.size(), 1u);
-    control.ClearBookmarks();
-    EXPECT_FALSE(control.HasBookmarks());
-    EXPECT_EQ(control.MarkerNext(0, 1, 1), -1);
-}
-
-TEST_F(Bookmarks, WithoutOneNothingIsGoneTo)
-{
-    Put(u"0\n|1");
-    for (const auto operation :
-         {&CZNCoreEditorControlEx::NextBookmark, &CZNCoreEditorControlEx::PreviousBookmark,
-          &CZNCoreEditorControlEx::FirstBookmark, &CZNCoreEditorControlEx::LastBookmark})
-        EXPECT_EQ(LineAfter(operation), 1);
-}
-
-TEST_F(Bookmarks, OfLinesThatAreNotThereAreNotSet)
-{
-    Put(u"0\n1");
-    control.ToggleBookmark(-1);
-    control.ToggleBookmark(99);
-    EXPECT_FALSE(control.HasBookmarks());
+    Put(u"abcdef|");
+    char16_t buffer[20];
+    int start = 2;
+    int end = 2;
+    control.RangeExtendAndGrab(
+        buffer, 20, start, end, 4, [](char16_t c) { return c != u'a'; }, false);
+    EXPECT_EQ(std::u16string(buffer), u"bcd");
+    EXPECT_EQ(start, 1);
+    EXPECT_EQ(end, 4);
 }
 
 } // namespace

@@ -199,3 +199,51 @@ TEST_F(FindSkipping, EndsForAMatchOfNothing)
                   -1);
     }
 }
+
+TEST_F(FindManager, FindsNulsAndAstralCharacters)
+{
+    const QString nul(1, QChar(0));
+    SetText(QStringLiteral("a\U0001F600b\u4e2dc"));
+    control.InsertText(0, u"x", 1);
+    Seek(u"\U0001F600");
+    EXPECT_EQ(manager.FindInRange(&control, 0, Length(), true), 2);
+    EXPECT_EQ(control.GetTargetEnd(1), 4);
+    Seek(u"\u4e2dC");
+    EXPECT_EQ(manager.FindInRange(&control, Length(), 0, true), 5);
+    const std::u16string text = u"ab" + nul.toStdU16String() + u"c";
+    control.SetTarget(0, Length());
+    control.ReplaceTargetNoProcess(static_cast<int>(text.size()), text.data(), 1);
+    manager.AddFindHistory(QStringLiteral("B") + nul);
+    EXPECT_EQ(manager.FindInRange(&control, 0, Length(), true), 1);
+    EXPECT_EQ(control.GetTargetEnd(1), 3);
+}
+
+// It stands in the text as the replacement character.
+TEST_F(FindManager, FindsALoneSurrogateAsWhatItBecame)
+{
+    const QString lone(1, QChar(0xD800));
+    SetText(QStringLiteral("a") + lone + QStringLiteral("b"));
+    manager.AddFindHistory(lone);
+    EXPECT_EQ(manager.FindInRange(&control, 0, Length(), true), 1);
+    EXPECT_EQ(control.GetTargetEnd(1), 2);
+}
+
+TEST_F(FindManager, FindsNothingWhereAPatternRunsAway)
+{
+    SetText(QString(200, u'a') + u'b');
+    manager.SetRegExp(true);
+    Seek(u"\\(a*\\)*\\(a*\\)*\\(a*\\)*c");
+    EXPECT_EQ(manager.FindNext(&control), -1);
+    EXPECT_EQ(manager.ReplaceAll(&control, false), 0);
+}
+
+TEST_F(FindManager, LeavesTheTargetOnAMatchThatWrapped)
+{
+    SetText(QStringLiteral("one two one"));
+    control.GotoPos(9, 1);
+    Seek(u"two");
+    EXPECT_EQ(manager.FindNext(&control), 4);
+    EXPECT_EQ(control.GetTargetStart(1), 4);
+    EXPECT_EQ(control.GetTargetEnd(1), 7);
+    EXPECT_EQ(control.GetCurrentPos(1), 9) << "the caret is the caller's business";
+}

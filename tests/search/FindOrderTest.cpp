@@ -69,3 +69,46 @@ TEST_F(FindOrder, AnnouncesAReplacementOfAllAroundOneUndoStep)
                                    "ReplaceTargetNoProcess()", "SearchInTarget(one)",
                                    "EndUndoAction", "SetDoingReplaceAll 0"));
 }
+
+TEST_F(FindOrder, WrapsOnceUnderItsOwnFlags)
+{
+    FindTimes(0);
+    recording::AnswerTo(engine::message::GetLength, [](WPARAM, LPARAM) { return 9; });
+    recording::AnswerTo(engine::message::GetCurrentPos, [](WPARAM, LPARAM) { return 5; });
+    recording::AnswerTo(engine::message::GetSelectionStart, [](WPARAM, LPARAM) { return 3; });
+    manager.AddFindHistory(QStringLiteral("one"));
+    EXPECT_EQ(manager.FindInRange(&control, 7, 9, false), -1);
+    EXPECT_THAT(recording::Sentences(),
+                ElementsAre("GetSearchFlags", "SetSearchFlags 0", "SetTargetStart 7",
+                            "SetTargetEnd 9", "SearchInTarget(one)", "GetCurrentPos",
+                            "SetTargetStart 0", "SetTargetEnd 5", "SearchInTarget(one)",
+                            "SetSearchFlags 4"));
+    manager.SetDown(false);
+    EXPECT_EQ(manager.FindInRange(&control, 2, 0, false), -1);
+    const std::vector<std::string> sentences = recording::Sentences();
+    EXPECT_THAT(std::vector<std::string>(sentences.end() - 4, sentences.end()),
+                ElementsAre("SetTargetStart 9", "SetTargetEnd 3", "SearchInTarget(one)",
+                            "SetSearchFlags 4"));
+}
+
+TEST_F(FindOrder, HandsItsOptionsToTheEngine)
+{
+    for (int options = 0; options < 8; ++options) {
+        manager.SetWholeWord(options & 1);
+        manager.SetMatchCase(options & 2);
+        manager.SetRegExp(options & 4);
+        recording::Forget();
+        manager.FindInRange(&control, 0, 1, true);
+        const int flags = (options & 1) * 2 + (options & 2) * 2 + (options & 4 ? 0x200000 : 0);
+        EXPECT_EQ(recording::Sentences().at(1), "SetSearchFlags " + std::to_string(flags));
+    }
+}
+
+TEST_F(FindOrder, ReplacesATargetByTheMessageOfItsKind)
+{
+    manager.AddReplaceHistory(QStringLiteral("x"));
+    manager.SetRegExp(true);
+    manager.ReplaceOne(&control);
+    EXPECT_THAT(recording::Sentences(),
+                ElementsAre("ReplaceTargetRE(x)", "GetCurrentPos", "SetCurrentPos 0"));
+}

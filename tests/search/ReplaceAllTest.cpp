@@ -7,6 +7,24 @@ class Replacing : public FindTest
 {
 protected:
     Replacing() { manager.SetWrap(false); }
+
+    // With the caret at a place.
+    QString After(const char16_t* text, int caret, const char16_t* what, const char16_t* with,
+                  int expected)
+    {
+        SetText(QString::fromUtf16(text));
+        control.GotoPos(caret, 1);
+        EXPECT_EQ(ReplaceAll(what, with), expected);
+        return Text();
+    }
+    QString AfterInSelection(const char16_t* text, int start, int end, const char16_t* what,
+                             const char16_t* with, int expected)
+    {
+        SetText(QString::fromUtf16(text));
+        control.SetSel(start, end, 1);
+        EXPECT_EQ(ReplaceAll(what, with, true), expected);
+        return Text();
+    }
 };
 
 } // namespace
@@ -72,29 +90,20 @@ TEST_F(Replacing, PutsTheLineEndsOfTheTextInWhereItHasOneMode)
 
 TEST_F(Replacing, ReplacesAllBehindTheCaret)
 {
-    SetText(QStringLiteral("one one one"));
-    control.GotoPos(1, 1);
-    EXPECT_EQ(ReplaceAll(u"one", u"seven"), 2);
-    EXPECT_EQ(Text(), u"one seven seven");
+    EXPECT_EQ(After(u"one one one", 1, u"one", u"seven", 2), u"one seven seven");
 }
 
 TEST_F(Replacing, ReplacesAllBeforeTheCaretUpwards)
 {
-    SetText(QStringLiteral("one one one"));
-    control.GotoPos(7, 1);
     manager.SetDown(false);
-    EXPECT_EQ(ReplaceAll(u"one", u"seven"), 2);
-    EXPECT_EQ(Text(), u"seven seven one");
+    EXPECT_EQ(After(u"one one one", 7, u"one", u"seven", 2), u"seven seven one");
 }
 
 // Upwards the search goes on one unit before the match, which a match right before it reaches into.
 TEST_F(Replacing, PassesUpwardsOverAMatchThatTouchesTheLastOne)
 {
-    SetText(QStringLiteral("aaaa"));
-    control.GotoPos(4, 1);
     manager.SetDown(false);
-    EXPECT_EQ(ReplaceAll(u"a", u"b"), 2);
-    EXPECT_EQ(Text(), u"abab");
+    EXPECT_EQ(After(u"aaaa", 4, u"a", u"b", 2), u"abab");
 }
 
 TEST_F(Replacing, CoversTheWholeTextWithWrapping)
@@ -102,11 +111,8 @@ TEST_F(Replacing, CoversTheWholeTextWithWrapping)
     manager.SetWrap(true);
     for (const bool down : {true, false}) {
         for (const int caret : {0, 5, 11}) {
-            SetText(QStringLiteral("one one one"));
-            control.GotoPos(caret, 1);
             manager.SetDown(down);
-            EXPECT_EQ(ReplaceAll(u"one", u"1"), 3);
-            EXPECT_EQ(Text(), u"1 1 1");
+            EXPECT_EQ(After(u"one one one", caret, u"one", u"1", 3), u"1 1 1");
         }
     }
 }
@@ -126,10 +132,8 @@ TEST_F(Replacing, LeavesTheCaretWhereItWas)
 TEST_F(Replacing, StaysInTheSelection)
 {
     manager.SetWrap(true);
-    SetText(QStringLiteral("one one one one"));
-    control.SetSel(4, 11, 1);
-    EXPECT_EQ(ReplaceAll(u"one", u"seven", true), 2);
-    EXPECT_EQ(Text(), u"one seven seven one");
+    EXPECT_EQ(AfterInSelection(u"one one one one", 4, 11, u"one", u"seven", 2),
+              u"one seven seven one");
     EXPECT_EQ(control.GetSelectionStart(1), 4);
     EXPECT_EQ(control.GetSelectionEnd(1), 15);
     EXPECT_EQ(control.GetCurrentPos(1), 15);
@@ -138,10 +142,7 @@ TEST_F(Replacing, StaysInTheSelection)
 TEST_F(Replacing, StaysInTheSelectionUpwards)
 {
     manager.SetDown(false);
-    SetText(QStringLiteral("aabab"));
-    control.SetSel(1, 5, 1);
-    EXPECT_EQ(ReplaceAll(u"a", u"x", true), 2);
-    EXPECT_EQ(Text(), u"axbxb");
+    EXPECT_EQ(AfterInSelection(u"aabab", 1, 5, u"a", u"x", 2), u"axbxb");
     EXPECT_EQ(control.GetCurrentPos(1), 1);
 }
 
@@ -149,29 +150,20 @@ TEST_F(Replacing, EndsAfterOneInASelectionUpwardsWithWrapping)
 {
     manager.SetWrap(true);
     manager.SetDown(false);
-    SetText(QStringLiteral("a a a a"));
-    control.SetSel(0, 5, 1);
-    EXPECT_EQ(ReplaceAll(u"a", u"x", true), 1);
-    EXPECT_EQ(Text(), u"a a x a");
+    EXPECT_EQ(AfterInSelection(u"a a a a", 0, 5, u"a", u"x", 1), u"a a x a");
 }
 
 // The range grows by what the text has shrunk.
 TEST_F(Replacing, ReachesBehindTheSelectionWhereItMakesTheTextShorter)
 {
-    SetText(QStringLiteral("abc abc abc abc"));
-    control.SetSel(0, 7, 1);
-    EXPECT_EQ(ReplaceAll(u"abc", u"ab", true), 3);
-    EXPECT_EQ(Text(), u"ab ab ab abc");
+    EXPECT_EQ(AfterInSelection(u"abc abc abc abc", 0, 7, u"abc", u"ab", 3), u"ab ab ab abc");
 }
 
 TEST_F(Replacing, DoesNotReplaceWhatItHasPutIn)
 {
     for (const bool wrap : {true, false}) {
         manager.SetWrap(wrap);
-        SetText(QStringLiteral("a b a"));
-        control.GotoPos(0, 1);
-        EXPECT_EQ(ReplaceAll(u"a", u"xaax"), 2);
-        EXPECT_EQ(Text(), u"xaax b xaax");
+        EXPECT_EQ(After(u"a b a", 0, u"a", u"xaax", 2), u"xaax b xaax");
     }
 }
 
@@ -213,12 +205,11 @@ class ReplacingNothing : public Replacing
 protected:
     ReplacingNothing() { manager.SetRegExp(true); }
 
+    // From where the direction begins.
     QString After(const char16_t* text, const char16_t* what, const char16_t* with, int expected)
     {
-        SetText(QString::fromUtf16(text));
-        control.GotoPos(manager.GetDown() ? 0 : Length(), 1);
-        EXPECT_EQ(ReplaceAll(what, with), expected);
-        return Text();
+        const auto length = static_cast<int>(std::u16string_view(text).size());
+        return Replacing::After(text, manager.GetDown() ? 0 : length, what, with, expected);
     }
 };
 
@@ -277,10 +268,7 @@ TEST_F(ReplacingNothing, TakesAnEmptyTextForAMatchEverywhere)
 
 TEST_F(ReplacingNothing, EndsInASelection)
 {
-    SetText(QStringLiteral("a\nb\nc"));
-    control.SetSel(0, 3, 1);
-    EXPECT_EQ(ReplaceAll(u"^", u"> ", true), 2);
-    EXPECT_EQ(Text(), u"> a\n> b\nc");
+    EXPECT_EQ(AfterInSelection(u"a\nb\nc", 0, 3, u"^", u"> ", 2), u"> a\n> b\nc");
     control.SetSel(2, 2, 1);
     EXPECT_EQ(ReplaceAll(u"^", u"> ", true), 0);
     control.SetSel(0, 0, 1);
