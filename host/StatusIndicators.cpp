@@ -34,16 +34,41 @@ StatusIndicators::StatusIndicators(QStatusBar* bar)
       m_overtype(AddField("overtype", QStringLiteral("OVR")))
 {}
 
-// As wide as its widest text from the start, so that the fields beside it do not jump.
+// As wide as its widest text from the start, so that the fields beside it do not jump. A label
+// whose text changes has the layout around it made again, and the whole bar painted: the field that
+// it stands in keeps that off.
 QLabel* StatusIndicators::AddField(const char* name, const QString& widest)
 {
-    auto* label = new QLabel(m_bar);
+    constexpr int kMargin = 6;
+    auto* field = new QWidget(m_bar);
+    auto* label = new QLabel(field);
     label->setObjectName(QLatin1String(name));
     label->setAlignment(Qt::AlignCenter);
-    label->setContentsMargins(6, 0, 6, 0);
-    label->setMinimumWidth(label->fontMetrics().horizontalAdvance(widest) + 16);
-    m_bar->addPermanentWidget(label);
+    label->setContentsMargins(kMargin, 0, kMargin, 0);
+    label->setText(widest);
+    FitField(*label);
+    label->clear();
+    m_bar->addPermanentWidget(field);
     return label;
+}
+
+// A field never shrinks again.
+void StatusIndicators::FitField(QLabel& label)
+{
+    QWidget& field = *label.parentWidget();
+    const QSize size = label.sizeHint().expandedTo(field.minimumSize());
+    if (field.minimumSize() == size)
+        return;
+    field.setFixedSize(size);
+    label.resize(size);
+}
+
+void StatusIndicators::Put(QLabel& label, const QString& text)
+{
+    if (label.text() == text)
+        return;
+    label.setText(text);
+    FitField(label);
 }
 
 void StatusIndicators::Show(const ScriptFrame* frame)
@@ -57,12 +82,12 @@ void StatusIndicators::Show(const ScriptFrame* frame)
     }
     const SaveTarget target = script->CurrentTarget();
     CZNCoreEditorControlEx& editor = frame->Editor();
-    m_readOnly->setText(script->IsReadOnly() ? QStringLiteral("Read-only") : QString());
-    m_modified->setText(script->IsModified() ? QStringLiteral("Modified") : QString());
-    m_caret->setText(frame->View()->CaretText());
-    m_catalog->setText(frame->View()->Catalog());
-    m_language->setText(LanguageName(script->Language()));
-    m_encoding->setText(EncodingName(target.encoding, target.mark));
-    m_lineEnds->setText(LineEndText(script->LineEnds()->Kind(), editor.GetEOLMode(1)));
-    m_overtype->setText(editor.GetOvertype(1) ? QStringLiteral("OVR") : QStringLiteral("INS"));
+    Put(*m_readOnly, script->IsReadOnly() ? QStringLiteral("Read-only") : QString());
+    Put(*m_modified, script->IsModified() ? QStringLiteral("Modified") : QString());
+    Put(*m_caret, frame->View()->CaretText());
+    Put(*m_catalog, frame->View()->Catalog());
+    Put(*m_language, LanguageName(script->Language()));
+    Put(*m_encoding, EncodingName(target.encoding, target.mark));
+    Put(*m_lineEnds, LineEndText(script->LineEnds()->Kind(), editor.GetEOLMode(1)));
+    Put(*m_overtype, editor.GetOvertype(1) ? QStringLiteral("OVR") : QStringLiteral("INS"));
 }

@@ -16,6 +16,8 @@ public:
 
 private:
     QLabel* AddField(const char* name, const QString& widest);
+    static void FitField(QLabel& label);
+    static void Put(QLabel& label, const QString& text);
 
     QStatusBar* m_bar;
     QLabel* m_readOnly;
