@@ -4,6 +4,7 @@
 #include "docview/ZNCoreEditorView.h"
 #include "platform/OptionsServer.h"
 #include "platform/Questions.h"
+#include "platform/docview/CommandIds.h"
 #include "platform/docview/FrameWnd.h"
 #include "settings/ConfigFile.h"
 
@@ -88,16 +89,19 @@ void CZNCoreEditorDoc::OnFileRewritten()
 void CZNCoreEditorDoc::ReloadFile()
 {
     RemoveTempCopy(0);
+    bool wasRead = true;
     if (CZNCoreEditorView* view = GetFirstEditView()) {
         CZNCoreEditorControlEx& control = view->GetCoreEditorControlRef();
         const bool isReadOnly = control.GetReadOnly(1);
         if (isReadOnly)
             control.SetReadOnly(0, 1);
-        view->ReloadFile();
+        wasRead = view->ReloadFile();
         if (isReadOnly)
             control.SetReadOnly(1, 1);
     }
     m_changedTime = Now();
+    if (!wasRead && !IsClosed())
+        ReportSaveLoadException(m_strPathName, nullptr, false, IDP_FAILED_TO_OPEN);
 }
 
 void CZNCoreEditorDoc::OnFileReload()

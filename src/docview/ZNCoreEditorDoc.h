@@ -52,7 +52,7 @@ public:
     // Looks whether others have changed the file, and asks what to do. For whoever has got the
     // focus; a host may call it too.
     void CheckLastAccessTime();
-    void ReloadFile();
+    void ReloadFile(); // the user hears if the file cannot be read; the text stays then
     bool IsFileReadOnly() const { return m_fileReadOnly; } // as last seen
 
     // Writes the text into the folder for temporary files, under the file's name, and leaves it

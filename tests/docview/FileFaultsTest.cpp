@@ -247,7 +247,7 @@ TEST_F(FileFault, AReadThatFailsIsToldAndMarksTheText)
     EXPECT_EQ(Text(doc), "");
 }
 
-TEST_F(FileFault, AReloadThatCannotReadKeepsTheTextAndItsAutosave)
+TEST_F(FileFault, AReloadThatCannotReadSaysSoAndKeepsTheTextAndItsAutosave)
 {
     OpenDoc* doc = OpenChanged();
     Control(doc).setAutoSaveOn(true);
@@ -256,6 +256,8 @@ TEST_F(FileFault, AReloadThatCannotReadKeepsTheTextAndItsAutosave)
     QDir().mkdir(Path("a.sql"));
     user.answer = Answer::Yes;
     doc->CheckLastAccessTime();
+    ASSERT_EQ(user.asked.size(), 2) << "the question, and that it came to nothing";
+    EXPECT_EQ(user.asked.back(), QStringLiteral("%1 could not be opened.").arg(Path("a.sql")));
     ExpectChangedTextIn(doc);
     EXPECT_GT(TimerInterval(Control(doc).GetSafeHwnd(), 100), 0u);
 }
