@@ -136,9 +136,8 @@ void CDocTemplate::CloseAllDocuments()
 }
 
 // A document that could not get a view is closed by hand: it has had none whose end would do it.
-CDocument* CMultiDocTemplate::OpenDocumentFile(const QString& path, bool visible)
+CDocument* CDocTemplate::OpenAnother(const QString& path, bool visible)
 {
-    const FrameworkCall call;
     CDocument* document = CreateNewDocument();
     if (!document)
         return nullptr;
@@ -155,23 +154,17 @@ CDocument* CMultiDocTemplate::OpenDocumentFile(const QString& path, bool visible
     return document;
 }
 
+CDocument* CMultiDocTemplate::OpenDocumentFile(const QString& path, bool visible)
+{
+    const FrameworkCall call;
+    return OpenAnother(path, visible);
+}
+
 CDocument* CSingleDocTemplate::OpenDocumentFile(const QString& path, bool visible)
 {
     const FrameworkCall call;
-    if (GetDocuments().empty()) {
-        CDocument* document = CreateNewDocument();
-        if (!document)
-            return nullptr;
-        document->m_bAutoDelete = false;
-        CFrameWnd* frame = CreateNewFrame(document, nullptr);
-        document->m_bAutoDelete = true;
-        if (!frame || !Fill(document, path)) {
-            document->OnCloseDocument();
-            return nullptr;
-        }
-        frame->InitialUpdateFrame(document, visible);
-        return document;
-    }
+    if (GetDocuments().empty())
+        return OpenAnother(path, visible);
     CDocument* document = GetDocuments().front();
     if (!document->SaveModified() || document->IsClosed() || !Fill(document, path))
         return nullptr;

@@ -60,12 +60,15 @@ public:
     void CloseAllDocuments();
 
 protected:
-    CDocument* CreateNewDocument(); // null: the class makes none
+    // A document of its own, in a frame of its own. Null as of OpenDocumentFile.
+    CDocument* OpenAnother(const QString& path, bool visible);
     // New or from the path. False if the document refused, or was closed meanwhile.
     bool Fill(CDocument* document, const QString& path);
     virtual void SetDefaultTitle(CDocument* document);
 
 private:
+    CDocument* CreateNewDocument(); // null: the class makes none
+
     QString m_strings;
     const CRuntimeClass* m_documentClass;
     const CRuntimeClass* m_frameClass;

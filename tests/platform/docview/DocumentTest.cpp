@@ -205,3 +205,17 @@ TEST(SingleDocument, TakesThePlaceOfTheOneBefore)
     EXPECT_EQ(only.OpenDocumentFile(QString(), false), first);
     EXPECT_EQ(only.GetDocuments().size(), 1U);
 }
+
+TEST(SingleDocument, ThatCannotBeOpenedLeavesNothing)
+{
+    User user;
+    CWinApp app;
+    CDocTemplate& only = app.AddDocTemplate(std::make_unique<CSingleDocTemplate>(
+        QString(), NoteDoc::GetThisClass(), NoteFrame::GetThisClass(), NoteView::GetThisClass()));
+    const int before = liveObjects;
+    EXPECT_EQ(only.OpenDocumentFile(QStringLiteral("/nowhere/missing.note"), false), nullptr);
+    EXPECT_EQ(user.asked.size(), 1);
+    EXPECT_TRUE(only.GetDocuments().empty());
+    Settle();
+    EXPECT_EQ(liveObjects, before);
+}
