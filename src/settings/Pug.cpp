@@ -12,6 +12,7 @@ struct Tree
 {
     pugi::xml_document document;
     ElementIndex index;
+    std::uint64_t changes = 0;
 };
 
 namespace {
@@ -156,6 +157,7 @@ bool xml_attribute::set_value(const QString& value)
     if (empty())
         return false;
     m_tree->index.AttributeChanged();
+    ++m_tree->changes;
     return pugi::xml_attribute(m_attribute).set_value(value.toUtf8().constData());
 }
 
@@ -179,6 +181,7 @@ bool xml_node::set_type(xml_node_type type)
     const pugi::xml_node made = parent.insert_child_before(ToPugi(type), old);
     if (!made)
         return false;
+    ++m_tree->changes;
     if (before == node_element || type == node_element)
         m_tree->index.Clear();
     pugi::xml_node(made).set_value(old.value());
@@ -203,6 +206,7 @@ bool xml_node::set_name(const char16_t* name)
     pugi::xml_node node(m_node);
     if (!node)
         return false;
+    ++m_tree->changes;
     m_tree->index.NameChanged(node.name());
     m_tree->index.NameChanged(to.Text());
     return node.set_name(to.Text());
@@ -215,7 +219,14 @@ QString xml_node::value() const
 
 bool xml_node::set_value(const QString& value)
 {
-    return pugi::xml_node(m_node).set_value(value.toUtf8().constData());
+    const QByteArray text = value.toUtf8();
+    pugi::xml_node node(m_node);
+    const bool differs = std::strcmp(node.value(), text.constData()) != 0;
+    if (!node.set_value(text.constData()))
+        return false;
+    if (differs)
+        ++m_tree->changes;
+    return true;
 }
 
 bool xml_node::has_children() const
@@ -250,8 +261,10 @@ xml_node xml_node::child(int index) const
 xml_node xml_node::append_child(xml_node_type type)
 {
     const xml_node made = Of(pugi::xml_node(m_node).append_child(ToPugi(type)).internal_object());
-    if (!made.empty())
-        m_tree->index.NameChanged("");
+    if (made.empty())
+        return made;
+    ++m_tree->changes;
+    m_tree->index.NameChanged("");
     return made;
 }
 
@@ -259,8 +272,10 @@ xml_node xml_node::append_copy(const xml_node& node)
 {
     const xml_node made =
         Of(pugi::xml_node(m_node).append_copy(pugi::xml_node(node.m_node)).internal_object());
-    if (!made.empty())
-        m_tree->index.Clear();
+    if (made.empty())
+        return made;
+    ++m_tree->changes;
+    m_tree->index.Clear();
     return made;
 }
 
@@ -268,6 +283,7 @@ bool xml_node::remove_child(int index)
 {
     if (empty())
         return false;
+    ++m_tree->changes;
     m_tree->index.Clear();
     return pugi::xml_node(m_node).remove_child(pugi::xml_node(child(index).m_node));
 }
@@ -276,6 +292,7 @@ void xml_node::remove_children()
 {
     if (empty())
         return;
+    ++m_tree->changes;
     m_tree->index.Clear();
     pugi::xml_node(m_node).remove_children();
 }
@@ -306,6 +323,7 @@ xml_attribute xml_node::append_attribute(const char16_t* name, const QString& va
     pugi::xml_attribute made = pugi::xml_node(m_node).append_attribute(Name(name).Text());
     if (!made)
         return xml_attribute();
+    ++m_tree->changes;
     m_tree->index.AttributeChanged();
     made.set_value(value.toUtf8().constData());
     return {m_tree, made.internal_object()};
@@ -358,6 +376,7 @@ bool xml_parser::parse(const QString& text)
 
 void xml_parser::clear()
 {
+    ++m_tree->changes;
     m_tree->index.Clear();
     m_tree->document.reset();
 }
@@ -365,6 +384,11 @@ void xml_parser::clear()
 xml_node xml_parser::document() const
 {
     return {m_tree.get(), m_tree->document.internal_object()};
+}
+
+std::uint64_t xml_parser::changes() const
+{
+    return m_tree->changes;
 }
 
 } // namespace pug

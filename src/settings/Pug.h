@@ -8,6 +8,7 @@
 
 #include <QString>
 
+#include <cstdint>
 #include <memory>
 
 namespace pugi {
@@ -120,6 +121,10 @@ public:
     bool parse(const QString& text);
     void clear();
     xml_node document() const; // the root, never empty
+
+    // Grows with every change of the tree, by whatever handle, and by nothing else: a value that is
+    // set to what it is leaves it.
+    std::uint64_t changes() const;
 
 private:
     std::unique_ptr<Tree> m_tree;

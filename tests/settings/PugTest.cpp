@@ -37,6 +37,8 @@ public:
 
     void Change();
     void CompareSearches();
+    QString Dump() const;
+    std::uint64_t Changes() const { return m_parser.changes(); }
 
 private:
     int Below(int count) { return static_cast<int>(m_random() % static_cast<unsigned int>(count)); }
@@ -125,6 +127,53 @@ void RandomTree::CompareSearches()
         ASSERT_EQ(above.first_element_by_attribute(name, attribute, text),
                   PlainByAttribute(above, Text(name), Text(attribute), text));
     }
+}
+
+// All that a tree holds, kinds included.
+QString RandomTree::Dump() const
+{
+    std::vector<xml_node> nodes;
+    Collect(m_parser.document(), nodes);
+    QString dump;
+    for (const xml_node& node : nodes) {
+        dump += QStringLiteral("%1 %2 %3 %4")
+                    .arg(node.type())
+                    .arg(node.children())
+                    .arg(node.name(), node.value());
+        for (auto at = node.first_attribute(); !at.empty(); at = at.next_attribute())
+            dump += u' ' + at.name() + u'=' + at.value();
+        dump += u'\n';
+    }
+    return dump;
+}
+
+TEST(XMLTree, CountsEveryChange)
+{
+    const auto seed = std::random_device{}();
+    std::cout << "seed " << seed << '\n';
+    for (unsigned int tree = 0; tree < 200; ++tree) {
+        RandomTree random(seed + tree);
+        for (int step = 0; step < 100; ++step) {
+            const QString before = random.Dump();
+            const std::uint64_t changes = random.Changes();
+            random.Change();
+            ASSERT_TRUE(random.Changes() != changes || random.Dump() == before)
+                << "tree " << tree << ", step " << step;
+        }
+    }
+}
+
+TEST(XMLTree, CountsNoValueThatWasThere)
+{
+    pug::xml_parser parser;
+    ASSERT_TRUE(parser.parse(kText));
+    xml_node text = parser.document().first_element_by_name(u"b").next_sibling().next_sibling();
+    const std::uint64_t changes = parser.changes();
+    ASSERT_TRUE(text.set_value(QStringLiteral("text")));
+    ASSERT_TRUE(text.set_type(pug::node_pcdata));
+    EXPECT_EQ(parser.changes(), changes);
+    ASSERT_TRUE(text.set_value(QStringLiteral("texts")));
+    EXPECT_GT(parser.changes(), changes);
 }
 
 TEST(XMLTree, SearchesFindWhatAWalkFinds)
