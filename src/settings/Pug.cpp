@@ -12,7 +12,7 @@ struct Tree
 {
     pugi::xml_document document;
     ElementIndex index;
-    std::uint64_t changes = 0;
+    std::uint64_t otherChanges = 0; // that the index is not told of
 };
 
 namespace {
@@ -101,6 +101,8 @@ std::string_view View(const QByteArray& bytes)
 QString Units(const char* text)
 {
     constexpr char kMark[] = "\xEF\xBB\xBF";
+    if (*text != *kMark)
+        return QString::fromUtf8(text);
     QString units;
     for (; std::strncmp(text, kMark, 3) == 0; text += 3)
         units += QChar(QChar::ByteOrderMark);
@@ -157,7 +159,6 @@ bool xml_attribute::set_value(const QString& value)
     if (empty())
         return false;
     m_tree->index.AttributeChanged();
-    ++m_tree->changes;
     return pugi::xml_attribute(m_attribute).set_value(value.toUtf8().constData());
 }
 
@@ -181,7 +182,7 @@ bool xml_node::set_type(xml_node_type type)
     const pugi::xml_node made = parent.insert_child_before(ToPugi(type), old);
     if (!made)
         return false;
-    ++m_tree->changes;
+    ++m_tree->otherChanges;
     if (before == node_element || type == node_element)
         m_tree->index.Clear();
     pugi::xml_node(made).set_value(old.value());
@@ -206,7 +207,6 @@ bool xml_node::set_name(const char16_t* name)
     pugi::xml_node node(m_node);
     if (!node)
         return false;
-    ++m_tree->changes;
     m_tree->index.NameChanged(node.name());
     m_tree->index.NameChanged(to.Text());
     return node.set_name(to.Text());
@@ -225,7 +225,7 @@ bool xml_node::set_value(const QString& value)
     if (!node.set_value(text.constData()))
         return false;
     if (differs)
-        ++m_tree->changes;
+        ++m_tree->otherChanges;
     return true;
 }
 
@@ -261,10 +261,8 @@ xml_node xml_node::child(int index) const
 xml_node xml_node::append_child(xml_node_type type)
 {
     const xml_node made = Of(pugi::xml_node(m_node).append_child(ToPugi(type)).internal_object());
-    if (made.empty())
-        return made;
-    ++m_tree->changes;
-    m_tree->index.NameChanged("");
+    if (!made.empty())
+        m_tree->index.NameChanged("");
     return made;
 }
 
@@ -272,10 +270,8 @@ xml_node xml_node::append_copy(const xml_node& node)
 {
     const xml_node made =
         Of(pugi::xml_node(m_node).append_copy(pugi::xml_node(node.m_node)).internal_object());
-    if (made.empty())
-        return made;
-    ++m_tree->changes;
-    m_tree->index.Clear();
+    if (!made.empty())
+        m_tree->index.Clear();
     return made;
 }
 
@@ -283,7 +279,6 @@ bool xml_node::remove_child(int index)
 {
     if (empty())
         return false;
-    ++m_tree->changes;
     m_tree->index.Clear();
     return pugi::xml_node(m_node).remove_child(pugi::xml_node(child(index).m_node));
 }
@@ -292,7 +287,6 @@ void xml_node::remove_children()
 {
     if (empty())
         return;
-    ++m_tree->changes;
     m_tree->index.Clear();
     pugi::xml_node(m_node).remove_children();
 }
@@ -323,7 +317,6 @@ xml_attribute xml_node::append_attribute(const char16_t* name, const QString& va
     pugi::xml_attribute made = pugi::xml_node(m_node).append_attribute(Name(name).Text());
     if (!made)
         return xml_attribute();
-    ++m_tree->changes;
     m_tree->index.AttributeChanged();
     made.set_value(value.toUtf8().constData());
     return {m_tree, made.internal_object()};
@@ -376,7 +369,6 @@ bool xml_parser::parse(const QString& text)
 
 void xml_parser::clear()
 {
-    ++m_tree->changes;
     m_tree->index.Clear();
     m_tree->document.reset();
 }
@@ -388,7 +380,12 @@ xml_node xml_parser::document() const
 
 std::uint64_t xml_parser::changes() const
 {
-    return m_tree->changes;
+    return m_tree->index.Changes() + m_tree->otherChanges;
+}
+
+std::uint64_t xml_parser::element_changes() const
+{
+    return m_tree->index.Changes();
 }
 
 } // namespace pug

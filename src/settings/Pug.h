@@ -125,6 +125,9 @@ public:
     // Grows with every change of the tree, by whatever handle, and by nothing else: a value that is
     // set to what it is leaves it.
     std::uint64_t changes() const;
+    // The same of the changes that searches for elements may see: what these found stands as long
+    // as this does not grow.
+    std::uint64_t element_changes() const;
 
 private:
     std::unique_ptr<Tree> m_tree;

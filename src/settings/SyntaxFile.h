@@ -204,7 +204,15 @@ private:
     pug::xml_node GetKeywordsNode(int set) const;
     bool SaveCustomDocument();
 
+    struct StyleNodes
+    {
+        pug::xml_node font;
+        pug::xml_node color;
+        std::uint64_t changes = 0; // of elements, when these were found
+    };
+
     std::uint64_t Changes() const;
+    StyleNodes FindStyle(int style);
     bool SetOptions(const LanguageOptions& options);
     bool SetStyleFont(int style, const LanguageOptions& options);
 
@@ -220,6 +228,8 @@ private:
     std::array<QString, kKeywordSets> m_descriptions;
     bool m_keywordsAreStale = false; // cleared since they were read
     bool m_customIsMade = false;     // not read from the custom file
+
+    std::array<StyleNodes, 128> m_foundStyles;
 
     // Options that would change nothing if they were written into the documents as they were after
     // so many changes.
