@@ -122,8 +122,8 @@ public:
     void clear();
     xml_node document() const; // the root, never empty
 
-    // Grows with every change of the tree, by whatever handle, and by nothing else: a value that is
-    // set to what it is leaves it.
+    // Grows with every change of the tree, by whatever handle. A text that is set to what it is
+    // leaves it.
     std::uint64_t changes() const;
     // The same of the changes that searches for elements may see: what these found stands as long
     // as this does not grow.
