@@ -226,8 +226,7 @@ TEST_F(OptionsOfAllLanguages, StandAsIfEveryEditorSetEachOfThem)
     Seed(seed);
     for (int step = 0; step < 60; ++step) {
         Step();
-        for (int reads = 0; reads < 3; ++reads)
-            Compare(AnyLanguage());
+        Compare(AnyLanguage());
         ASSERT_FALSE(HasFailure()) << "step " << step;
     }
     for (int language = 0; language < m_languages.GetLanguageCount(); ++language)
