@@ -5,6 +5,7 @@
 #include "editing/FileTypeManager.h"
 #include "editing/Library.h"
 #include "editing/ZNCoreEditorControlEx.h"
+#include "editing/ZNCoreEditorWidget.h"
 #include "settings/ConfigFile.h"
 #include "settings/SyntaxFile.h"
 
@@ -104,8 +105,22 @@ void WriteOptions(benchmark::State& state, bool parseIncluded)
         write);
 }
 
+// Under the options that the editor before it was made under.
+void MakeEditor(benchmark::State& state)
+{
+    const Editor tidiesUp;
+    const ZNCoreEditorWidget first;
+    std::unique_ptr<ZNCoreEditorWidget> further;
+    const auto make = [&] { further = std::make_unique<ZNCoreEditorWidget>(); };
+    make();
+    MeasureBar(
+        state, 1, "CPU ms over 1: make a further editor, its options and language included",
+        [&] { further = nullptr; }, make);
+}
+
 BENCHMARK(Bind)->Name("Language/bind")->Iterations(1);
 BENCHMARK(Register)->Name("Language/register")->Iterations(1);
+BENCHMARK(MakeEditor)->Name("Language/makeEditor")->Iterations(1);
 BENCHMARK_CAPTURE(WriteOptions, parsed, false)->Name("Language/writeOptions")->Iterations(1);
 BENCHMARK_CAPTURE(WriteOptions, parse, true)->Name("Language/parseAndWriteOptions")->Iterations(1);
 

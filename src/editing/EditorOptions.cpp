@@ -16,7 +16,6 @@ namespace {
 
 constexpr int kDefaultStyle = 32;
 constexpr int kLineNumberStyle = 33;
-constexpr int kLastStyle = 127;
 constexpr int kExtendedMargin = 0;
 constexpr int kNumberMargin = 1;
 constexpr int kMarginRoom = 4; // pixels beside the digits
@@ -29,58 +28,18 @@ int DigitsOf(int lines)
     return lines <= kMostOfThose ? kFewest : static_cast<int>(std::floor(std::log10(lines))) + 1;
 }
 
-// What the options say of every language.
-struct LanguageOptions
+// All but the font, in the order in which the options are asked.
+LanguageOptions Ask(CZNOptionsServer& options)
 {
-    explicit LanguageOptions(CZNOptionsServer& options)
-        : autoIndent(options.GetInt(option::AutoIndent)),
-          tabsToSpaces(options.GetInt(option::TabsToSpaces) != 0),
-          lineNumbers(options.GetInt(option::LineNumbers) != 0),
-          tabWidth(options.GetInt(option::TabWidth)),
-          foldMargin(options.GetInt(option::FoldMargin) != 0)
-    {
-        if (tabWidth <= 0)
-            tabWidth = kUsualTabWidth;
-    }
-
-    // In the order in which the options are asked.
-    int autoIndent;
-    bool tabsToSpaces;
-    bool lineNumbers;
-    int tabWidth;
-    bool foldMargin;
-};
-
-struct FontOptions
-{
-    QString name;
-    int size; // in points; below 1: as the language has it
-    bool bold;
-    bool italic;
-    bool underline;
-};
-
-void Write(const LanguageOptions& options, bool wordWrap, CSyntaxFile& syntax)
-{
-    syntax.SetAutoIndent(options.autoIndent);
-    syntax.SetTabsToSpaces(options.tabsToSpaces);
-    syntax.SetMarginLineNumber(options.lineNumbers);
-    syntax.SetMarginFold(options.foldMargin);
-    syntax.SetTabWidth(options.tabWidth);
-    syntax.SetIndentSize(options.tabWidth);
-    syntax.SetWordWrap(wordWrap);
-}
-
-void Write(const FontOptions& font, CSyntaxFile& syntax)
-{
-    for (int style = 0; style <= kLastStyle; ++style) {
-        syntax.SetStyleFontName(style, font.name);
-        if (font.size > 0)
-            syntax.SetStyleFontSize(style, font.size);
-        syntax.SetStyleFontBold(style, font.bold);
-        syntax.SetStyleFontItalic(style, font.italic);
-        syntax.SetStyleFontUnderline(style, font.underline);
-    }
+    LanguageOptions asked;
+    asked.autoIndent = options.GetInt(option::AutoIndent);
+    asked.tabsToSpaces = options.GetInt(option::TabsToSpaces) != 0;
+    asked.lineNumbers = options.GetInt(option::LineNumbers) != 0;
+    asked.tabWidth = options.GetInt(option::TabWidth);
+    asked.foldMargin = options.GetInt(option::FoldMargin) != 0;
+    if (asked.tabWidth <= 0)
+        asked.tabWidth = kUsualTabWidth;
+    return asked;
 }
 
 } // namespace
@@ -167,9 +126,13 @@ void CZNCoreEditorControlEx::UpdateXmlSettingsFromOptionServerData(QString fontN
     config->SetFileTracking(tracking);
     const int count = config->GetLanguageCount();
     if (count > 0) {
-        const LanguageOptions languageOptions(options);
-        const FontOptions font{fontName, fontSize, bold, italic, underline};
-        const bool wordWrap = GetUseWordWrap();
+        LanguageOptions forAll = Ask(options);
+        forAll.wordWrap = GetUseWordWrap();
+        forAll.fontName = fontName;
+        forAll.fontSize = fontSize;
+        forAll.bold = bold;
+        forAll.italic = italic;
+        forAll.underline = underline;
         for (int language = 0; language < count; ++language) {
             CSyntaxFile* syntax = zncoreeditor::GetFileTypeManager()->GetSyntaxFile(language);
             if (!syntax)
@@ -177,8 +140,7 @@ void CZNCoreEditorControlEx::UpdateXmlSettingsFromOptionServerData(QString fontN
             // The last language's paper is what stays.
             m_backgroundColor =
                 static_cast<COLORREF>(syntax->GetStyleColorBackground(kDefaultStyle));
-            Write(languageOptions, wordWrap, *syntax);
-            Write(font, *syntax);
+            syntax->WriteOptions(forAll);
         }
     }
     InitializeLanguage(m_currentLanguage, 1);

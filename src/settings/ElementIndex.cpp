@@ -55,6 +55,7 @@ void ElementIndex::Fill(const pugi::xml_node& above, std::string_view name,
 
 void ElementIndex::NameChanged(std::string_view name)
 {
+    ++m_changes;
     if (const auto found = m_byName.find(name); found != m_byName.end())
         m_byName.erase(found);
     if (m_list.name == name)
@@ -63,11 +64,13 @@ void ElementIndex::NameChanged(std::string_view name)
 
 void ElementIndex::AttributeChanged()
 {
+    ++m_changes;
     m_list = {};
 }
 
 void ElementIndex::Clear()
 {
+    ++m_changes;
     m_byName.clear();
     m_list = {};
 }

@@ -4,6 +4,7 @@
 
 #include <pugixml.hpp>
 
+#include <cstdint>
 #include <string>
 #include <string_view>
 #include <unordered_map>
@@ -29,6 +30,9 @@ public:
     // Elements have gone, or have come with all that is below them.
     void Clear();
 
+    // How many times one of these three was told.
+    std::uint64_t Changes() const { return m_changes; }
+
 private:
     struct Hash : std::hash<std::string_view>
     {
@@ -48,6 +52,7 @@ private:
 
     Elements m_byName; // an empty node for a name that no element has
     List m_list;
+    std::uint64_t m_changes = 0;
 };
 
 // The first element of a name below a node, by a walk.

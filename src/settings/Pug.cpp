@@ -12,6 +12,7 @@ struct Tree
 {
     pugi::xml_document document;
     ElementIndex index;
+    std::uint64_t otherChanges = 0; // that the index is not told of
 };
 
 namespace {
@@ -100,6 +101,8 @@ std::string_view View(const QByteArray& bytes)
 QString Units(const char* text)
 {
     constexpr char kMark[] = "\xEF\xBB\xBF";
+    if (*text != *kMark)
+        return QString::fromUtf8(text);
     QString units;
     for (; std::strncmp(text, kMark, 3) == 0; text += 3)
         units += QChar(QChar::ByteOrderMark);
@@ -179,6 +182,7 @@ bool xml_node::set_type(xml_node_type type)
     const pugi::xml_node made = parent.insert_child_before(ToPugi(type), old);
     if (!made)
         return false;
+    ++m_tree->otherChanges;
     if (before == node_element || type == node_element)
         m_tree->index.Clear();
     pugi::xml_node(made).set_value(old.value());
@@ -215,7 +219,14 @@ QString xml_node::value() const
 
 bool xml_node::set_value(const QString& value)
 {
-    return pugi::xml_node(m_node).set_value(value.toUtf8().constData());
+    const QByteArray text = value.toUtf8();
+    pugi::xml_node node(m_node);
+    const bool differs = std::strcmp(node.value(), text.constData()) != 0;
+    if (!node.set_value(text.constData()))
+        return false;
+    if (differs)
+        ++m_tree->otherChanges;
+    return true;
 }
 
 bool xml_node::has_children() const
@@ -365,6 +376,16 @@ void xml_parser::clear()
 xml_node xml_parser::document() const
 {
     return {m_tree.get(), m_tree->document.internal_object()};
+}
+
+std::uint64_t xml_parser::changes() const
+{
+    return m_tree->index.Changes() + m_tree->otherChanges;
+}
+
+std::uint64_t xml_parser::element_changes() const
+{
+    return m_tree->index.Changes();
 }
 
 } // namespace pug

@@ -8,6 +8,7 @@
 
 #include <QString>
 
+#include <cstdint>
 #include <memory>
 
 namespace pugi {
@@ -120,6 +121,13 @@ public:
     bool parse(const QString& text);
     void clear();
     xml_node document() const; // the root, never empty
+
+    // Grows with every change of the tree, by whatever handle. A text that is set to what it is
+    // leaves it.
+    std::uint64_t changes() const;
+    // The same of the changes that searches for elements may see: what these found stands as long
+    // as this does not grow.
+    std::uint64_t element_changes() const;
 
 private:
     std::unique_ptr<Tree> m_tree;

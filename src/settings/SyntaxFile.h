@@ -8,8 +8,29 @@
 #include <QMap>
 
 #include <array>
+#include <cstdint>
+#include <optional>
 
 using CMapStringToString = QMap<QString, QString>;
+
+// What a host's options say of every language.
+struct LanguageOptions
+{
+    friend bool operator==(const LanguageOptions&, const LanguageOptions&) = default;
+
+    int autoIndent = 0;
+    bool tabsToSpaces = false;
+    bool lineNumbers = false;
+    bool foldMargin = false;
+    int tabWidth = 0; // columns, of an indentation too
+    bool wordWrap = false;
+    // Of every style.
+    QString fontName;
+    int fontSize = 0; // in points; below 1: as the language has it
+    bool bold = false;
+    bool italic = false;
+    bool underline = false;
+};
 
 // Two files of one name stand behind it: the base file in the library's folder holds every section,
 // the custom file in the user's folder holds the styles, so that a user's colours outlive an update
@@ -135,6 +156,10 @@ public:
     int GetStyleColorBackground(int style);
     bool SetStyleColorBackground(int style, int color);
 
+    // Sets all of it, for the styles 0 to 127. What is written already, and stands as it was
+    // written, costs next to nothing. False if nothing could be set.
+    bool WriteOptions(const LanguageOptions& options);
+
     // Sets 0 to 7. Words stand in the order of the file.
     QString GetKeywordSetDescription(int set);
     QString GetDelimitedKeywordSet(int set, char delimiter);
@@ -179,6 +204,18 @@ private:
     pug::xml_node GetKeywordsNode(int set) const;
     bool SaveCustomDocument();
 
+    struct StyleNodes
+    {
+        pug::xml_node font;
+        pug::xml_node color;
+        std::uint64_t changes = 0; // of elements, when these were found
+    };
+
+    std::uint64_t Changes() const;
+    StyleNodes FindStyle(int style);
+    bool SetOptions(const LanguageOptions& options);
+    bool SetStyleFont(int style, const LanguageOptions& options);
+
     int GetDefaultOf(const char16_t* comment);
     bool SetDefaultOf(const char16_t* comment, int place);
     int GetStyleColor(int style, const char16_t* key);
@@ -191,4 +228,16 @@ private:
     std::array<QString, kKeywordSets> m_descriptions;
     bool m_keywordsAreStale = false; // cleared since they were read
     bool m_customIsMade = false;     // not read from the custom file
+
+    std::array<StyleNodes, 128> m_foundStyles;
+
+    // Options that would change nothing if they were written into the documents as they were after
+    // so many changes.
+    struct SettledOptions
+    {
+        LanguageOptions options;
+        std::uint64_t changes;
+        bool isSet; // whether anything can be set
+    };
+    std::optional<SettledOptions> m_settledOptions;
 };

@@ -25,12 +25,28 @@ pug::xml_node CSyntaxFile::GetStyleNode(int style)
 
 pug::xml_node CSyntaxFile::GetStyleFontNode(int style)
 {
-    return GetStyleNode(style).first_element_by_name(u"Font");
+    return FindStyle(style).font;
 }
 
 pug::xml_node CSyntaxFile::GetStyleColorNode(int style)
 {
-    return GetStyleNode(style).first_element_by_name(u"Color");
+    return FindStyle(style).color;
+}
+
+// Binding a language reads seven values of each style, and finding the style costs more than they.
+CSyntaxFile::StyleNodes CSyntaxFile::FindStyle(int style)
+{
+    const auto find = [&] {
+        const pug::xml_node node = GetStyleNode(style);
+        return StyleNodes{node.first_element_by_name(u"Font"), node.first_element_by_name(u"Color"),
+                          m_customDocument.element_changes()};
+    };
+    if (style < 0 || style >= static_cast<int>(m_foundStyles.size()))
+        return find();
+    StyleNodes& found = m_foundStyles[static_cast<std::size_t>(style)];
+    if (!m_parsed || found.changes != m_customDocument.element_changes())
+        found = find();
+    return found;
 }
 
 QString CSyntaxFile::GetStyleName(int style)

@@ -37,6 +37,10 @@ public:
 
     void Change();
     void CompareSearches();
+    QString Dump() const;
+    std::uint64_t Changes() const { return m_parser.changes(); }
+    std::uint64_t ElementChanges() const { return m_parser.element_changes(); }
+    std::vector<xml_node> FoundElements() const;
 
 private:
     int Below(int count) { return static_cast<int>(m_random() % static_cast<unsigned int>(count)); }
@@ -125,6 +129,88 @@ void RandomTree::CompareSearches()
         ASSERT_EQ(above.first_element_by_attribute(name, attribute, text),
                   PlainByAttribute(above, Text(name), Text(attribute), text));
     }
+}
+
+// All that a tree holds, kinds included.
+QString RandomTree::Dump() const
+{
+    std::vector<xml_node> nodes;
+    Collect(m_parser.document(), nodes);
+    QString dump;
+    for (const xml_node& node : nodes) {
+        dump += QStringLiteral("%1 %2 %3 %4")
+                    .arg(node.type())
+                    .arg(node.children())
+                    .arg(node.name(), node.value());
+        for (auto at = node.first_attribute(); !at.empty(); at = at.next_attribute())
+            dump += u' ' + at.name() + u'=' + at.value();
+        dump += u'\n';
+    }
+    return dump;
+}
+
+TEST(XMLTree, CountsEveryChange)
+{
+    const auto seed = std::random_device{}();
+    std::cout << "seed " << seed << '\n';
+    for (unsigned int tree = 0; tree < 200; ++tree) {
+        RandomTree random(seed + tree);
+        for (int step = 0; step < 100; ++step) {
+            const QString before = random.Dump();
+            const std::uint64_t changes = random.Changes();
+            random.Change();
+            ASSERT_TRUE(random.Changes() != changes || random.Dump() == before)
+                << "tree " << tree << ", step " << step;
+        }
+    }
+}
+
+// What searches by name and by attribute find.
+std::vector<xml_node> RandomTree::FoundElements() const
+{
+    std::vector<xml_node> nodes;
+    Collect(m_parser.document(), nodes);
+    std::vector<xml_node> found;
+    for (const xml_node& above : nodes) {
+        for (const char16_t* name : kNames)
+            found.push_back(PlainByName(above, Text(name)));
+        for (int value = 0; value < 4; ++value)
+            found.push_back(PlainByAttribute(above, QStringLiteral("b"), QStringLiteral("number"),
+                                             QString::number(value)));
+    }
+    return found;
+}
+
+TEST(XMLTree, CountsWhatMayChangeASearch)
+{
+    const auto seed = std::random_device{}();
+    std::cout << "seed " << seed << '\n';
+    for (unsigned int tree = 0; tree < 40; ++tree) {
+        RandomTree random(seed + tree);
+        for (int step = 0; step < 40; ++step) {
+            const auto before = random.FoundElements();
+            const std::uint64_t changes = random.ElementChanges();
+            random.Change();
+            const auto after = random.FoundElements();
+            ASSERT_TRUE(random.ElementChanges() != changes || after == before)
+                << "tree " << tree << ", step " << step;
+        }
+    }
+}
+
+TEST(XMLTree, CountsNoValueThatWasThere)
+{
+    pug::xml_parser parser;
+    ASSERT_TRUE(parser.parse(kText));
+    xml_node text = parser.document().first_element_by_name(u"b").next_sibling().next_sibling();
+    const std::uint64_t changes = parser.changes();
+    ASSERT_TRUE(text.set_value(QStringLiteral("text")));
+    ASSERT_TRUE(text.set_type(pug::node_pcdata));
+    EXPECT_EQ(parser.changes(), changes);
+    const std::uint64_t elementChanges = parser.element_changes();
+    ASSERT_TRUE(text.set_value(QStringLiteral("texts")));
+    EXPECT_GT(parser.changes(), changes);
+    EXPECT_EQ(parser.element_changes(), elementChanges);
 }
 
 TEST(XMLTree, SearchesFindWhatAWalkFinds)
