@@ -4,6 +4,7 @@
 #include "editing/Library.h"
 #include "encoding/FileEncodeConverter.h"
 #include "platform/Units.h"
+#include "script/Arguments.h"
 
 #include <QFile>
 #include <QFileInfo>
@@ -35,9 +36,17 @@ bool FitsSystemCodePage(std::u16string text)
     return std::count(bytes, bytes + size, '?') == asked;
 }
 
+// What is not UTF-8 in a name has become this.
+bool IsNameForeign(const QString& path)
+{
+    return path.contains(QChar::ReplacementCharacter);
+}
+
 QString WhyNotRead(const QString& path)
 {
     const QFileInfo info(path);
+    if (!info.exists() && IsNameForeign(path))
+        return QStringLiteral("a name that is not UTF-8 cannot be opened");
     if (!info.exists())
         return QStringLiteral("the file does not exist");
     if (info.isDir())
@@ -79,8 +88,37 @@ QString ScriptFile::Read(const QString& path)
         !m_control->OpenFile(Units(path), FileEncodeConverter::encUnknown))
         return WhyNotRead(path);
     m_control->EmptyUndoBuffer(1);
-    return m_control->WasCutShort() ? QStringLiteral("the file cannot be read to its end")
-                                    : QString();
+    return m_control->WasCutShort()
+               ? QStringLiteral("not all of it can be read as %1")
+                     .arg(QLatin1String(NameOfEncoding(Control().GetEncoding())))
+               : QString();
+}
+
+int ScriptFile::FirstLineChanged(const QString& path)
+{
+    const qsizetype place = m_control->GetText().indexOf(QChar::ReplacementCharacter);
+    return place < 0 || WritesWhatItRead(path) ? -1 : m_control->LineFromPosition(place, 1);
+}
+
+// The character that stands for what a text cannot hold may also stand in the file itself.
+bool ScriptFile::WritesWhatItRead(const QString& path)
+{
+    const QTemporaryDir folder;
+    const QString copy = folder.filePath(QStringLiteral("copy"));
+    if (!folder.isValid() ||
+        !Write(copy, Control().GetEncoding(), Control().GetWriteEncodingSig()).isEmpty())
+        return false;
+    QFile before(path);
+    QFile after(copy);
+    constexpr qint64 kBlock = 64 * 1024;
+    if (!before.open(QIODevice::ReadOnly) || !after.open(QIODevice::ReadOnly))
+        return false;
+    while (!before.atEnd()) {
+        const QByteArray block = before.read(kBlock);
+        if (block.isEmpty() || block != after.read(kBlock))
+            return false;
+    }
+    return after.atEnd();
 }
 
 QString ScriptFile::Write(const QString& path, int encoding, bool mark)
@@ -95,6 +133,8 @@ QString ScriptFile::Write(const QString& path, int encoding, bool mark)
 QString ScriptFile::WriteToOutput(int encoding, bool mark)
 {
     const QTemporaryDir folder;
+    if (!folder.isValid())
+        return QStringLiteral("no file can be made in the folder for temporary files");
     QFile file(folder.filePath(QStringLiteral("output")));
     if (QString problem = Write(file.fileName(), encoding, mark); !problem.isEmpty())
         return problem;
