@@ -77,9 +77,9 @@ std::span<const EditingMenu::Row> Rows()
 {
     // clang-format off
     static const EditingMenu::Row rows[] = {
-        {"&Comments",   "comment",        "&Comment Out",           "Ctrl+/",        54037},
-        {"&Comments",   "uncomment",      "&Undo Comment Out",      "Ctrl+Shift+/",  54041},
-        {"&Comments",   "commentLines",   "Comment &Lines Out",     nullptr, 0, Do<&Editor::OnEditSingleLineComment>},
+        {"C&omments",   "comment",        "&Comment Out",           "Ctrl+/",        54037},
+        {"C&omments",   "uncomment",      "&Undo Comment Out",      "Ctrl+Shift+/",  54041},
+        {"C&omments",   "commentLines",   "Comment &Lines Out",     nullptr, 0, Do<&Editor::OnEditSingleLineComment>},
         {"&Indentation", "indent",        "&Indent",                nullptr,         54034},
         {"&Indentation", "outdent",       "&Outdent",               nullptr,         54035},
         {"&Indentation", "tabsToSpaces",  "&Tabs to Spaces",        nullptr, 0, Do<&Editor::ConvertTabToSpaces>},
@@ -97,7 +97,7 @@ std::span<const EditingMenu::Row> Rows()
         {"&Words",      "upperCaseWord",  "Upper Case of a W&ord",  nullptr, 0, Do<&Editor::WordUpperCase>},
         {"&Words",      "lowerCaseWord",  "Lower Case of a Wo&rd",  nullptr, 0, Do<&Editor::WordLowerCase>},
         {"&Words",      "capitalizeWord", "Capi&talize a Word",     nullptr, 0, Do<&Editor::WordCapitalize>},
-        {"&Words",      "deleteWord",     "De&lete a Word",         nullptr, 0, Do<&Editor::WordDelete>},
+        {"&Words",      "deleteWord",     "D&elete a Word",         nullptr, 0, Do<&Editor::WordDelete>},
         {"&Words",      "swapCharacters", "Swap &Characters",       nullptr, 0, Do<&Editor::CharTranspose>},
         {"&Words",      "swapWords",      "Swap &Words",            nullptr, 0, Do<&Editor::WordTranspose>},
         {"&Words",      "increase",       "&Increase Number",       "Ctrl+Alt+Right", 54001},

@@ -8,6 +8,8 @@
 #include <QPointer>
 
 class CZNCoreEditorControlEx;
+class QAction;
+class QLabel;
 class QTreeWidget;
 class ScriptDoc;
 class ZNCoreEditorWidget;
@@ -37,10 +39,14 @@ Q_SIGNALS:
 private:
     void OnNotified(const SCNotification& record);
     void ListErrors();
+    void Caption(const QString& what);
     void GoToSourceOf(long line);
 
     ZNCoreEditorWidget* m_editor;
     QTreeWidget* m_errors;
+    QLabel* m_hint; // what to do about the errors
+    QAction* m_goToSource = nullptr;
+    QAction* m_putBack = nullptr;
     QPointer<ScriptDoc> m_script;
     SourceMap m_map;
 };

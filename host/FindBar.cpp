@@ -72,7 +72,7 @@ FindBar::FindBar(std::function<CZNCoreEditorControlEx*()> editor, QWidget* paren
     : QWidget(parent), m_editor(std::move(editor)),
       m_manager(*zncoreeditor::GetFindReplaceManager()), m_find(MakeBox("findText", tr("Find"))),
       m_replace(MakeBox("replaceText", tr("Replace with"))),
-      m_matchCase(MakeOption("matchCase", tr("Match &case"), m_manager.GetMatchCase())),
+      m_matchCase(MakeOption("matchCase", tr("Match ca&se"), m_manager.GetMatchCase())),
       m_wholeWord(MakeOption("wholeWord", tr("&Whole word"), m_manager.GetWholeWord())),
       m_expression(MakeOption("expression", tr("E&xpression"), m_manager.GetRegExp())),
       m_result(new QLabel(this))

@@ -34,6 +34,7 @@
 namespace {
 
 constexpr int kProblemsHeight = 110; // pixels, of some four lines
+constexpr int kExpandedWidth = 460;  // pixels, of some fifty characters
 
 } // namespace
 
@@ -256,6 +257,8 @@ void MainWindow::ExpandScript()
 {
     if (const ScriptFrame* frame = CurrentFrame()) {
         m_expanded->Expand(*frame->Script(), frame->Editor());
+        if (m_expanded->isHidden())
+            resizeDocks({m_expanded}, {kExpandedWidth}, Qt::Horizontal);
         m_expanded->show();
     }
 }

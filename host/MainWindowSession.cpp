@@ -1,5 +1,6 @@
 // MainWindow: what it remembers from one run to the next.
 #include "editing/ZNCoreEditorControlEx.h"
+#include "host/ExpandedScript.h"
 #include "host/MainWindow.h"
 #include "host/ScriptDoc.h"
 #include "host/ScriptFrame.h"
@@ -39,6 +40,7 @@ void MainWindow::ResumeSession()
         restoreGeometry(session.geometry);
     if (!session.state.isEmpty())
         restoreState(session.state);
+    m_expanded->hide(); // what it showed is gone
     for (const SessionFile& file : session.files) {
         if (QFileInfo(file.path).isFile())
             Resume(file);

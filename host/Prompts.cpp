@@ -59,6 +59,8 @@ LoseChanges DialogPrompts::BeforeLosing(QWidget* parent, const QString& name)
     box.setTextFormat(Qt::PlainText); // a name may look like markup
     box.setInformativeText(QStringLiteral("They are lost if you discard them."));
     box.setDefaultButton(QMessageBox::Save);
+    box.button(QMessageBox::Save)->setText(QStringLiteral("&Save"));
+    box.button(QMessageBox::Discard)->setText(QStringLiteral("&Discard"));
     switch (box.exec()) {
     case QMessageBox::Save:
         return LoseChanges::Save;

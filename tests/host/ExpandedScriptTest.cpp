@@ -57,7 +57,34 @@ TEST_F(ExpandedScripts, ListWhatCannotBeIncluded)
     EXPECT_EQ(Errors().topLevelItem(0)->text(0), "2");
     EXPECT_EQ(Errors().topLevelItem(0)->text(1),
               "Unable to open the included file 'gone.sql': No such file or directory");
+    EXPECT_EQ(Errors().topLevelItem(0)->toolTip(1), Errors().topLevelItem(0)->text(1));
     EXPECT_TRUE(Errors().isVisible());
+}
+
+TEST_F(ExpandedScripts, TellWhereFilesAreLookedForIfOneIsMissing)
+{
+    Open("main.sql", "#include gone.sql\n");
+    Trigger("expand");
+    EXPECT_TRUE(m_window.findChild<QLabel*>("includeHint")->isVisible());
+    Write("gone.sql", "part\n");
+    Trigger("expand");
+    EXPECT_FALSE(m_window.findChild<QLabel*>("includeHint")->isVisible());
+}
+
+TEST_F(ExpandedScripts, OfferWhatIsPossible)
+{
+    EXPECT_FALSE(Action("goToSource").isEnabled());
+    EXPECT_FALSE(Action("putOriginalBack").isEnabled());
+    Open("plain.sql", "select 1\n");
+    Trigger("expand");
+    EXPECT_TRUE(Action("goToSource").isEnabled());
+    EXPECT_FALSE(Action("putOriginalBack").isEnabled()); // nothing was expanded
+    Open("main.sql", "#define &&A 1\n");
+    Trigger("expand");
+    EXPECT_TRUE(Action("putOriginalBack").isEnabled());
+    Trigger("putOriginalBack");
+    EXPECT_FALSE(Action("putOriginalBack").isEnabled());
+    EXPECT_EQ(Pane().windowTitle(), QStringLiteral("Original Script – main.sql"));
 }
 
 TEST_F(ExpandedScripts, LeadToTheLineOfAnIncludedFile)

@@ -3,8 +3,10 @@
 #include "platform/docview/ActionUI.h"
 #include "tests/host/WorkbenchTest.h"
 
+#include <QAbstractButton>
 #include <QKeyEvent>
 #include <QMap>
+#include <QMenuBar>
 
 namespace {
 
@@ -49,6 +51,36 @@ protected:
 };
 
 } // namespace
+
+TEST_F(Keys, OfLettersStandForOneEntryInEachMenu)
+{
+    QList<QWidget*> menus = {m_window.menuBar()};
+    for (QMenu* menu : m_window.findChildren<QMenu*>())
+        menus << menu;
+    for (const QWidget* menu : menus) {
+        QMap<QString, QString> letters;
+        for (const QAction* action : menu->actions()) {
+            const QString letter = QKeySequence::mnemonic(action->text()).toString();
+            EXPECT_FALSE(!letter.isEmpty() && letters.contains(letter))
+                << letters[letter].toStdString() << " and " << action->text().toStdString();
+            letters[letter] = action->text();
+        }
+    }
+}
+
+TEST_F(Keys, OfLettersInTheFindBarStandForOneControlAndNoMenu)
+{
+    QMap<QString, QString> letters;
+    for (const QAction* menu : m_window.menuBar()->actions())
+        letters[QKeySequence::mnemonic(menu->text()).toString()] = menu->text();
+    for (const auto* button : m_window.findChild<FindBar*>()->findChildren<QAbstractButton*>()) {
+        const QString letter = QKeySequence::mnemonic(button->text()).toString();
+        EXPECT_FALSE(letter.isEmpty()) << button->text().toStdString();
+        EXPECT_FALSE(letters.contains(letter))
+            << letters[letter].toStdString() << " and " << button->text().toStdString();
+        letters[letter] = button->text();
+    }
+}
 
 TEST_F(Keys, StandForOneActionOfTheMenusEach)
 {

@@ -88,6 +88,9 @@ TEST_F(MainWindows, TellsWhyAScriptDoesNotOpen)
     m_prompts.filesToOpen = QStringList{PathOf("no.sql")};
     Trigger("open");
     EXPECT_EQ(m_prompts.told.size(), 3);
+
+    EXPECT_FALSE(m_app.OpenDocumentFile(PathOf(QStringLiteral("a\uFFFD.sql"))));
+    EXPECT_TRUE(m_prompts.told.last().contains(QStringLiteral("not UTF-8")));
 }
 
 TEST_F(MainWindows, SavesInTheEncodingOfTheFile)

@@ -107,6 +107,17 @@ TEST_F(Memory, BringsBackTheScriptsTheirPlacesAndTheOneInFront)
     EXPECT_EQ(m_window->size(), QSize(900, 500));
 }
 
+TEST_F(Memory, DoesNotShowAnExpandedScriptThatIsNoMore)
+{
+    Start();
+    ASSERT_TRUE(m_app->OpenDocumentFile(Write("a.sql", "#define &&A 1\n")));
+    m_window->findChild<QAction*>("expand")->trigger();
+    ASSERT_TRUE(m_window->findChild<QWidget*>("expandedScript")->isVisible());
+    End();
+    Start();
+    EXPECT_FALSE(m_window->findChild<QWidget*>("expandedScript")->isVisible());
+}
+
 TEST_F(Memory, PassesOverAFileThatIsGone)
 {
     Start();
