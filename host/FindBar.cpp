@@ -105,7 +105,9 @@ FindBar::FindBar(std::function<CZNCoreEditorControlEx*()> editor, QWidget* paren
 
 QComboBox* FindBar::MakeBox(const char* name, const QString& label)
 {
+    constexpr int kLeastLength = 14; // characters
     auto* box = new QComboBox(this);
+    box->setMinimumContentsLength(kLeastLength);
     box->setObjectName(QLatin1String(name));
     box->setEditable(true);
     box->setInsertPolicy(QComboBox::NoInsert);
