@@ -177,6 +177,8 @@ void FindBar::Open()
 
 void FindBar::Close()
 {
+    if (isHidden())
+        return;
     hide();
     m_manager.Save();
     if (Editor* editor = m_editor())
@@ -333,9 +335,12 @@ void FindBar::Count()
     Tell(tr("%n found", nullptr, count));
 }
 
+// A key finds without the bar, which is then shown for what it has to say.
 void FindBar::Tell(const QString& result)
 {
     m_result->setText(result);
+    if (!result.isEmpty())
+        show();
     Update();
 }
 

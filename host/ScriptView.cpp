@@ -5,6 +5,7 @@
 #include "host/FileDrops.h"
 #include "host/ScriptDoc.h"
 #include "host/ScrollRange.h"
+#include "host/WorkbenchCommands.h"
 #include "platform/Mouse.h"
 #include "platform/docview/CommandIds.h"
 #include "platform/docview/FrameWnd.h"
@@ -109,6 +110,19 @@ int ScriptView::OnCommand(WPARAM wParam, LPARAM lParam)
         return 1;
     CFrameWnd* frame = GetParentFrame();
     return frame ? frame->OnCommand(wParam, lParam) : 0;
+}
+
+int ScriptView::PreTranslateMessage(MSG* message)
+{
+    if (message->message == WM_KEYDOWN && message->wParam == Qt::Key_Escape && !HasSomethingToEnd())
+        OnCommand(command::CloseFind, 0);
+    return CZNCoreEditorView::PreTranslateMessage(message);
+}
+
+bool ScriptView::HasSomethingToEnd()
+{
+    return m_incrementalForward || m_incrementalReverse || m_coreEditor.AutoCActive(1) ||
+           m_coreEditor.CallTipActive(1);
 }
 
 // The base may close the view; then nothing is left to follow.

@@ -21,6 +21,8 @@ public:
     // A key's command that is none of these is the frame's.
     int OnCommand(WPARAM wParam, LPARAM lParam) override;
     int OnNotify(WPARAM wParam, LPARAM lParam, LRESULT* result) override;
+    // Escape closes the find bar too, unless it has a list or a search of the editor's to end.
+    int PreTranslateMessage(MSG* message) override;
     void OnInitialUpdate() override;
     void OnActivateView(int activate, CView* activated, CView* deactivated) override;
 
@@ -45,6 +47,7 @@ private:
     void FitScrollRange();
     void ShowAsTheOther(ScriptView& other);
     void CloseFrame();
+    bool HasSomethingToEnd();
 
     bool m_following = false;
     int m_measuredFrom = -1; // the first line on screen when lines were last measured

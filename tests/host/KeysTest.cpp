@@ -174,6 +174,31 @@ TEST_F(Keys, FindThroughTheBar)
     EXPECT_TRUE(m_window.Find().isVisible());
 }
 
+TEST_F(Keys, TellWhatTheyDoNotFind)
+{
+    Open("a.sql", "abc def abc\n");
+    Press(Qt::Key_F3, Qt::ControlModifier);
+    EXPECT_FALSE(m_window.Find().isVisible());
+    Editor().ReplaceSel(u"x", 1);
+    Editor().SetSel(0, 3, 1);
+    Editor().ReplaceSel(u"x", 1);
+    Press(Qt::Key_F3);
+    EXPECT_TRUE(m_window.Find().isVisible());
+    EXPECT_EQ(Status("findResult"), "Not found");
+}
+
+TEST_F(Keys, CloseTheFindBarFromTheText)
+{
+    Open("a.sql", "abc def abc\n");
+    Press(Qt::Key_F, Qt::ControlModifier);
+    Editor().UserListShow(1, u"abc", 1);
+    Press(Qt::Key_Escape);
+    EXPECT_TRUE(m_window.Find().isVisible()) << "the list comes first";
+    Editor().AutoCCancel(1);
+    Press(Qt::Key_Escape);
+    EXPECT_FALSE(m_window.Find().isVisible());
+}
+
 TEST_F(Keys, OfTheKeyTableAloneReachTheBarTooAndSoDoMenusOfAView)
 {
     Open("a.sql", "abc def abc\n");
