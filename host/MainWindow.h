@@ -85,7 +85,7 @@ private:
 
     void KeepSessionSoon();
     void KeepSession();
-    void Resume(const SessionFile& file);
+    bool Resume(const SessionFile& file); // false if it is not opened
 
     Workbench& m_app;
     MainFrame* m_frame; // goes with this window

@@ -55,13 +55,11 @@ void ScriptView::OnInitialUpdate()
     ScriptDoc* script = Script();
     if (!script)
         return;
-    if (ScriptView* first = script->FirstView(); first && first != this)
-        ShowAsTheOther(*first);
     script->OnViewShown();
     FollowSoon();
 }
 
-void ScriptView::ShowAsTheOther(ScriptView& other)
+void ScriptView::ShowAs(ScriptView& other)
 {
     CZNCoreEditorControlEx& editor = other.m_coreEditor;
     const int top = editor.GetFirstVisibleLine(1);
