@@ -132,7 +132,7 @@ void MainWindow::OpenRecent(const QString& path)
 {
     if (QFileInfo::exists(path))
         m_app.OpenDocumentFile(path);
-    else if (GetPrompts().Confirm(this, RecentFileIsGoneQuestion(path), QStringLiteral("Remove")))
+    else if (GetPrompts().Confirm(this, RecentFileIsGoneQuestion(path), QStringLiteral("&Remove")))
         m_app.Recent().Remove(path);
 }
 

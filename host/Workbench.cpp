@@ -77,7 +77,7 @@ ScriptDoc* Workbench::FindOpen(const QString& path) const
 bool Workbench::MayOpen(const QString& path)
 {
     if (!m_guard.IsSuspect(path) ||
-        GetPrompts().Confirm(WindowOf(*this), OpenAgainQuestion(path), QStringLiteral("Open")))
+        GetPrompts().Confirm(WindowOf(*this), OpenAgainQuestion(path), QStringLiteral("&Open")))
         return true;
     m_guard.Acquit(path);
     return false;

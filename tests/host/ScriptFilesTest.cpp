@@ -191,6 +191,24 @@ TEST_F(ScriptFiles, ThatOthersRewriteAreReadAgainOnYes)
     EXPECT_EQ(m_prompts.told.size(), 1);
 }
 
+TEST_F(ScriptFiles, ThatOthersRewriteAreNotReplacedWithoutAQuestion)
+{
+    Open("a.sql", "old");
+    Type(u"x");
+    WriteFromOutside("a.sql", "new");
+    EXPECT_FALSE(Script().DoFileSave());
+    EXPECT_EQ(Read("a.sql"), "new");
+    EXPECT_TRUE(Script().IsModified());
+    ASSERT_EQ(m_prompts.asked.size(), 1);
+    EXPECT_TRUE(m_prompts.asked[0].contains("changed outside"));
+    m_prompts.confirm = true;
+    EXPECT_TRUE(Script().DoFileSave());
+    EXPECT_EQ(Read("a.sql"), "xold");
+    Type(u"y");
+    EXPECT_TRUE(Script().DoFileSave());
+    EXPECT_EQ(m_prompts.asked.size(), 2) << "the own save is no change from outside";
+}
+
 TEST_F(ScriptFiles, ThatOthersRewriteAreNotLostAfterANo)
 {
     Open("a.sql", "old");
