@@ -161,7 +161,10 @@ void MainWindow::BuildMenus()
             menu->addMenu(recent);
     }
     m_find->AddActions(*edit->addMenu(QStringLiteral("Fi&nd")));
-    m_editing = new EditingMenu(*edit, [this] { return CurrentEditor(); });
+    m_editing = new EditingMenu(*edit, [this] {
+        const ScriptFrame* frame = CurrentFrame();
+        return frame ? frame->View() : nullptr;
+    });
 }
 
 bool MainWindow::IsPossible(When when) const
