@@ -9,6 +9,7 @@
 #include <QAction>
 #include <QHeaderView>
 #include <QLabel>
+#include <QShortcut>
 #include <QSplitter>
 #include <QToolBar>
 #include <QTreeWidget>
@@ -65,6 +66,11 @@ ExpandedScript::ExpandedScript(QWidget* parent)
     layout->addWidget(m_hint);
     setWidget(content);
 
+    // The text is read-only, where Enter has nothing else to do.
+    for (const int key : {Qt::Key_Return, Qt::Key_Enter}) {
+        auto* shortcut = new QShortcut(key, m_editor, this, &ExpandedScript::GoToSource);
+        shortcut->setContext(Qt::WidgetWithChildrenShortcut);
+    }
     connect(m_editor, &ZNCoreEditorWidget::notified, this, &ExpandedScript::OnNotified);
     connect(m_errors, &QTreeWidget::itemActivated, this, [this](const QTreeWidgetItem* item) {
         GoToSourceOf(item->data(kLineColumn, kLineRole).value<long>());
@@ -75,6 +81,16 @@ ExpandedScript::ExpandedScript(QWidget* parent)
 ExpandedScript::~ExpandedScript()
 {
     m_editor->disconnect(this);
+}
+
+QWidget* ExpandedScript::TextArea() const
+{
+    return m_editor;
+}
+
+QWidget* ExpandedScript::ErrorArea() const
+{
+    return m_errors;
 }
 
 ScriptDoc* ExpandedScript::Script() const

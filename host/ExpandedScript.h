@@ -29,6 +29,10 @@ public:
     // The script that is shown, null once it is closed.
     ScriptDoc* Script() const;
 
+    // What can have the focus; the errors are shown if there are any.
+    QWidget* TextArea() const;
+    QWidget* ErrorArea() const;
+
     void PutOriginalBack();
     void GoToSource(); // of the caret's line
 

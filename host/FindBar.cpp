@@ -98,6 +98,7 @@ FindBar::FindBar(std::function<CZNCoreEditorControlEx*()> editor, QWidget* paren
         layout->addWidget(button, place % 2, 4 + place / 2);
         ++place;
     }
+    setFocusProxy(m_find);
     m_find->installEventFilter(this);
     m_replace->installEventFilter(this);
     hide();

@@ -27,6 +27,7 @@
 #include <QPointer>
 #include <QTabBar>
 #include <QTimer>
+#include <QTreeWidget>
 #include <QVBoxLayout>
 
 #include <algorithm>
@@ -251,6 +252,26 @@ void MainWindow::NextProblem()
                                      [caret](const ScriptProblem& p) { return p.start > caret; });
     const ScriptProblem& next = behind != problems.end() ? *behind : problems.front();
     frame->View()->SelectRange(next.start, next.end);
+}
+
+// From the script over what is shown around it and back, for somebody without a mouse.
+void MainWindow::NextArea()
+{
+    const QWidgetList areas = {m_tabs, m_find, m_expanded->TextArea(), m_expanded->ErrorArea(),
+                               m_problems->ListArea()};
+    const QWidget* focus = focusWidget();
+    qsizetype at = 0;
+    for (qsizetype i = 0; i < areas.size(); ++i) {
+        if (focus && (areas[i] == focus || areas[i]->isAncestorOf(focus)))
+            at = i;
+    }
+    do
+        at = (at + 1) % areas.size();
+    while (!areas[at]->isVisible());
+    if (areas[at] != m_tabs)
+        areas[at]->setFocus(Qt::TabFocusReason);
+    else if (ScriptFrame* frame = CurrentFrame())
+        frame->BecomeActive();
 }
 
 void MainWindow::ExpandScript()

@@ -60,6 +60,7 @@ public:
     void ChangeAutosave();
     void NextScript();
     void PreviousScript();
+    void NextArea();
 
 private:
     struct Command;

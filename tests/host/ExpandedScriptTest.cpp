@@ -2,10 +2,12 @@
 #include "host/ExpandedScript.h"
 #include "editing/ZNCoreEditorWidget.h"
 #include "host/OptionsDialog.h"
+#include "host/ProblemPane.h"
 #include "platform/OptionsServer.h"
 #include "tests/host/WorkbenchTest.h"
 
 #include <QLineEdit>
+#include <QTest>
 #include <QTreeWidget>
 
 namespace {
@@ -110,6 +112,28 @@ TEST_F(ExpandedScripts, LeadFromAnErrorToItsLine)
     ASSERT_EQ(Errors().topLevelItemCount(), 1);
     Q_EMIT Errors().itemActivated(Errors().topLevelItem(0), 0);
     EXPECT_EQ(Script().Name(), "part.sql");
+    EXPECT_EQ(Editor().LineFromPosition(Editor().GetCurrentPos(1), 1), 1);
+}
+
+TEST_F(ExpandedScripts, AreReachedAndLeftByKeys)
+{
+    Open("main.sql", "\n#include gone.sql\n");
+    Trigger("expand");
+    QWidget* text = Editor().GetSafeHwnd();
+    ASSERT_EQ(m_window.focusWidget(), text);
+    Trigger("nextArea");
+    EXPECT_EQ(m_window.focusWidget(), Result().GetSafeHwnd());
+    Trigger("nextArea");
+    EXPECT_EQ(m_window.focusWidget(), &Errors());
+    Trigger("nextArea");
+    EXPECT_EQ(m_window.focusWidget(), m_window.findChild<ProblemPane*>()->ListArea());
+    Trigger("nextArea");
+    EXPECT_EQ(m_window.focusWidget(), text);
+
+    Trigger("nextArea");
+    Result().GotoLine(1, 1);
+    QTest::keyClick(Result().GetSafeHwnd(), Qt::Key_Return);
+    EXPECT_EQ(m_window.focusWidget(), text);
     EXPECT_EQ(Editor().LineFromPosition(Editor().GetCurrentPos(1), 1), 1);
 }
 
