@@ -51,7 +51,24 @@ QString WhyNotRead(const QString& path)
         return QStringLiteral("the file does not exist");
     if (info.isDir())
         return QStringLiteral("this is a folder");
+    if (!info.isFile())
+        return QStringLiteral("this is no file that can be read");
+    if (!info.isReadable())
+        return QStringLiteral("you may not read this file");
     return QStringLiteral("the file cannot be read");
+}
+
+QString WhyNotWritten(const QString& path)
+{
+    const QFileInfo info(path);
+    const QFileInfo folder(info.absolutePath());
+    if (info.isDir())
+        return QStringLiteral("the file cannot be written: this is a folder");
+    if (!folder.isDir())
+        return QStringLiteral("the file cannot be written: its folder does not exist");
+    if (!folder.isWritable() || (info.exists() && !info.isWritable()))
+        return QStringLiteral("the file cannot be written: you may not write there");
+    return QStringLiteral("the file cannot be written: the disk may be full");
 }
 
 } // namespace
@@ -127,7 +144,7 @@ QString ScriptFile::Write(const QString& path, int encoding, bool mark)
         return WriteToOutput(encoding, mark);
     const bool isWritten = m_control->SaveFile(
         Units(path), static_cast<FileEncodeConverter::encodingType>(encoding), false, mark);
-    return isWritten ? QString() : QStringLiteral("the file cannot be written");
+    return isWritten ? QString() : WhyNotWritten(path);
 }
 
 QString ScriptFile::WriteToOutput(int encoding, bool mark)

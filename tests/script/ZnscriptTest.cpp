@@ -124,7 +124,21 @@ TEST_F(Znscript, WritesTheResultToAFile)
     EXPECT_EQ(outcome.exitCode, 0);
     EXPECT_EQ(outcome.output, "");
     EXPECT_EQ(Read("result.sql"), "--#define &&A 1\r\n1\r\n");
-    EXPECT_EQ(Start({"expand", "--output", "no/where.sql", "main.sql"}).exitCode, 1);
+}
+
+TEST_F(Znscript, TellsWhyTheResultCannotBeWritten)
+{
+    Write("main.sql", "select 1;\n");
+    const auto errorsOf = [this](const QString& output) {
+        const Outcome outcome = Start({"expand", "--output", output, "main.sql"});
+        EXPECT_EQ(outcome.exitCode, 1);
+        return outcome.errors;
+    };
+    EXPECT_EQ(errorsOf("no/where.sql"),
+              "no/where.sql: the file cannot be written: its folder does not exist\n");
+    EXPECT_EQ(errorsOf("."), ".: the file cannot be written: this is a folder\n");
+    EXPECT_EQ(errorsOf("/dev/full"),
+              "/dev/full: the file cannot be written: the disk may be full\n");
 }
 
 TEST_F(Znscript, KnowsTheLanguagesOfTheEditor)
