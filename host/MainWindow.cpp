@@ -120,6 +120,8 @@ bool MainWindow::OpenPlaces(const QStringList& words)
         const ScriptFrame* frame = m_app.OpenDocumentFile(place.path) ? CurrentFrame() : nullptr;
         if (frame && place.line > 0)
             frame->View()->GoToLine(place.line - 1);
+        if (frame && place.column > 1)
+            frame->View()->GoToColumn(place.column - 1);
         if (frame && !first)
             first = frame->GetSafeHwnd();
         opened = opened && frame;

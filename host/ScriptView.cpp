@@ -217,6 +217,17 @@ void ScriptView::GoToLine(long line)
     m_coreEditor.GotoLineEnsureVisible(static_cast<int>(line));
 }
 
+// As tools count them, in characters whatever their width.
+void ScriptView::GoToColumn(long column)
+{
+    const int line = m_coreEditor.LineFromPosition(m_coreEditor.GetCurrentPos(1), 1);
+    const long end = m_coreEditor.GetLineEndPosition(line, 1);
+    long position = m_coreEditor.PositionFromLine(line, 1);
+    for (; column > 0 && position < end; --column)
+        position = m_coreEditor.PositionAfter(position, 1);
+    m_coreEditor.GotoPos(position, 1);
+}
+
 QString ScriptView::CaretText()
 {
     const long caret = m_coreEditor.GetCurrentPos(1);

@@ -28,6 +28,7 @@ public:
 
     void SelectRange(long start, long end); // and shows it
     void GoToLine(long line);               // from 0, and shows it
+    void GoToColumn(long column);           // of the caret's line, from 0, as far as it goes
     void ShowAs(ScriptView& other);         // place, selection and zoom
     QString CaretText();                    // line and column, from 1
     QString Catalog();                      // the database in force at the caret, empty if unknown

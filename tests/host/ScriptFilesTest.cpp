@@ -112,6 +112,10 @@ TEST_F(ScriptFiles, OpenAtTheLineThatTheCommandLineNames)
     EXPECT_TRUE(m_window.OpenPlaces({path + ":3", other}));
     EXPECT_EQ(Script().Name(), "a.sql") << "the first of them is in front";
     EXPECT_EQ(Status("caret"), "Line 3, column 1");
+    EXPECT_TRUE(m_window.OpenPlaces({path + ":2:3:"}));
+    EXPECT_EQ(Editor().GetCurrentPos(1), 6);
+    EXPECT_TRUE(m_window.OpenPlaces({path + ":1:2147483647"}));
+    EXPECT_EQ(Editor().GetCurrentPos(1), 3) << "the line's end";
     EXPECT_FALSE(m_window.OpenPlaces({PathOf("gone.sql:3")}));
     EXPECT_TRUE(m_prompts.told.value(0).contains("gone.sql” does not exist"));
 }
