@@ -35,9 +35,9 @@ QStringList DialogPrompts::FilesToOpen(QWidget* parent, const QString& folder)
         QStringLiteral("SQL scripts (*.sql *.pks *.pkb *.ddl);;All files (*)"));
 }
 
-std::optional<OpenChoice> DialogPrompts::WhatToOpen(QWidget* parent, const QString& folder)
+std::optional<OpenChoice> DialogPrompts::WhatToOpen(QWidget* parent, const QString& place)
 {
-    OpenAsDialog dialog(parent, folder);
+    OpenAsDialog dialog(parent, place);
     if (dialog.exec() != QDialog::Accepted)
         return std::nullopt;
     return dialog.Choice();

@@ -140,6 +140,8 @@ bool ScriptDoc::MayLoseCharacters(SaveTarget& target)
     case LoseCharacters::SaveAnyway:
         return true;
     default:
+        if (ScriptView* view = FirstView(); view && view->GetSafeHwnd()->isVisible())
+            view->SelectRange(lost->position, lost->position + (lost->character > 0xFFFF ? 2 : 1));
         return false;
     }
 }

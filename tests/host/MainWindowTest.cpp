@@ -186,6 +186,8 @@ TEST_F(MainWindows, AsksBeforeCharactersBecomeQuestionMarks)
     EXPECT_TRUE(m_prompts.asked[0].contains(u'\u0142'));
     EXPECT_TRUE(m_prompts.asked[0].contains(QStringLiteral("line 1")));
     EXPECT_EQ(Read("a.sql"), QByteArray("caf\xE9\n"));
+    EXPECT_EQ(Editor().GetSelectionStart(1), 0) << "the character is shown";
+    EXPECT_EQ(Editor().GetSelectionEnd(1), 1);
 
     m_prompts.loseCharacters = LoseCharacters::SaveAnyway;
     EXPECT_TRUE(Script().DoFileSave());
