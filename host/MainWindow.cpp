@@ -25,6 +25,7 @@
 #include <QFileInfo>
 #include <QGuiApplication>
 #include <QPointer>
+#include <QShortcut>
 #include <QTabBar>
 #include <QTimer>
 #include <QTreeWidget>
@@ -65,6 +66,10 @@ MainWindow::MainWindow(Workbench& app)
     connect(m_tabs, &ScriptTabs::currentChanged, this, &MainWindow::OnCurrentChanged);
     connect(m_tabs->tabBar(), &QTabBar::tabMoved, this, &MainWindow::KeepSessionSoon);
     connect(m_tabs, &ScriptTabs::tabCloseRequested, this, &MainWindow::CloseTab);
+    for (QDockWidget* pane : findChildren<QDockWidget*>()) {
+        auto* back = new QShortcut(Qt::Key_Escape, pane, this, &MainWindow::GoToScript);
+        back->setContext(Qt::WidgetWithChildrenShortcut);
+    }
     FileDrops::Take(*this);
     FileDrops::Take(*m_tabs->tabBar());
 
@@ -167,8 +172,7 @@ void MainWindow::Follow(ScriptDoc& script)
 
 void MainWindow::OnCurrentChanged()
 {
-    if (ScriptFrame* frame = CurrentFrame())
-        frame->BecomeActive();
+    GoToScript();
     UpdateAll();
     ListProblems();
     KeepSessionSoon();
@@ -272,7 +276,13 @@ void MainWindow::NextArea()
     while (!areas[at]->isVisible());
     if (areas[at] != m_tabs)
         areas[at]->setFocus(Qt::TabFocusReason);
-    else if (ScriptFrame* frame = CurrentFrame())
+    else
+        GoToScript();
+}
+
+void MainWindow::GoToScript()
+{
+    if (ScriptFrame* frame = CurrentFrame())
         frame->BecomeActive();
 }
 

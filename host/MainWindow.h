@@ -61,6 +61,7 @@ public:
     void NextScript();
     void PreviousScript();
     void NextArea();
+    void GoToScript();
 
 private:
     struct Command;

@@ -130,6 +130,14 @@ TEST_F(ExpandedScripts, AreReachedAndLeftByKeys)
     Trigger("nextArea");
     EXPECT_EQ(m_window.focusWidget(), text);
 
+    for (const int steps : {1, 2, 3}) {
+        for (int i = 0; i < steps; ++i)
+            Trigger("nextArea");
+        ASSERT_NE(m_window.focusWidget(), text);
+        QTest::keyClick(m_window.focusWidget(), Qt::Key_Escape);
+        EXPECT_EQ(m_window.focusWidget(), text) << steps;
+    }
+
     Trigger("nextArea");
     Result().GotoLine(1, 1);
     QTest::keyClick(Result().GetSafeHwnd(), Qt::Key_Return);
