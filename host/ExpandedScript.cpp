@@ -3,6 +3,7 @@
 #include "editing/Library.h"
 #include "editing/ZNCoreEditorWidget.h"
 #include "host/ScriptDoc.h"
+#include "host/ScrollRange.h"
 #include "platform/Units.h"
 #include "preprocess/CompileManager.h"
 
@@ -113,6 +114,8 @@ void ExpandedScript::Expand(ScriptDoc& script, CZNCoreEditorControlEx& editor)
     control.EmptyUndoBuffer(1);
     control.SetReadOnly(1, 1);
     control.GotoPos(0, 1);
+    control.SetScrollWidth(1, 1);
+    FitScrollRange();
     m_map = zncoreeditor::GetCompileManager()->GetSourceMap();
     m_goToSource->setEnabled(true);
     m_putBack->setEnabled(control.GetIncludeOrDefineDirectivesFound());
@@ -157,6 +160,15 @@ void ExpandedScript::OnNotified(const SCNotification& record)
 {
     if (record.nmhdr.code == notify::DoubleClick)
         GoToSource();
+    else if (record.nmhdr.code == notify::UpdateUi)
+        FitScrollRange();
+}
+
+void ExpandedScript::FitScrollRange()
+{
+    CZNCoreEditorControlEx& control = m_editor->control();
+    const int first = control.DocLineFromVisible(control.GetFirstVisibleLine(1), 1);
+    FitScrollWidth(control, first, first + control.LinesOnScreen(1));
 }
 
 void ExpandedScript::GoToSource()

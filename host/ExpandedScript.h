@@ -43,6 +43,7 @@ Q_SIGNALS:
 private:
     void OnNotified(const SCNotification& record);
     void ListErrors();
+    void FitScrollRange(); // to the lines that are shown
     void Caption(const QString& what);
     void GoToSourceOf(long line);
 

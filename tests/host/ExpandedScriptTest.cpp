@@ -40,6 +40,16 @@ TEST_F(ExpandedScripts, StandBesideTheScript)
     EXPECT_FALSE(Errors().isVisible());
 }
 
+TEST_F(ExpandedScripts, ScrollSidewaysAsFarAsTheirLinesReach)
+{
+    Open("main.sql", "#define &&A 1\nselect &&A\n");
+    Trigger("expand");
+    EXPECT_LT(Result().GetScrollWidth(1), 400);
+    Open("long.sql", "#define &&A 1\n" + QByteArray("x").repeated(1000) + " &&A\n");
+    Trigger("expand");
+    EXPECT_GT(Result().GetScrollWidth(1), 4000);
+}
+
 TEST_F(ExpandedScripts, LeaveTheScriptAsItIs)
 {
     Open("main.sql", "#define &&A 1\nselect &&A\n");
