@@ -12,9 +12,10 @@ Arguments ParseArguments(const QStringList& commandLine)
                                         QStringLiteral("Writes a picture of the window and exits."),
                                         QStringLiteral("FILE"));
     parser.addOptions({help, screenshot});
-    parser.addPositionalArgument(QStringLiteral("FILE"),
-                                 QStringLiteral("Scripts to open, each at a line: a.sql:120."),
-                                 QStringLiteral("[FILE[:LINE]...]"));
+    parser.addPositionalArgument(
+        QStringLiteral("FILE"),
+        QStringLiteral("Scripts to open, each at a line and a column: a.sql:120:7."),
+        QStringLiteral("[FILE[:LINE[:COLUMN]]...]"));
 
     Arguments arguments;
     if (!parser.parse(commandLine))

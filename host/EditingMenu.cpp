@@ -1,6 +1,6 @@
 #include "host/EditingMenu.h"
 
-#include "editing/ZNCoreEditorControlEx.h"
+#include "host/ScriptView.h"
 
 #include <QAction>
 #include <QMenu>
@@ -15,10 +15,10 @@ struct EditingMenu::Row
     const char* name; // the action's object name
     const char* text;
     const char* keys = nullptr;
-    UINT command = 0; // of the editor; 0: the operation below
+    UINT command = 0; // of the view or the editor; 0: the operation below
     void (*run)(Editor& editor) = nullptr;
-    bool needsSelection = false;
-    bool changesText = true; // an operation; a command says itself what it needs
+    bool needsSelection = false; // beside what a command says itself
+    bool changesText = false;
 };
 
 namespace {
@@ -40,11 +40,6 @@ template <void (Editor::*Operation)()>
 void Do(Editor& editor)
 {
     (editor.*Operation)();
-}
-
-void SelectToBrace(Editor& editor)
-{
-    editor.JumpToMatchingBrace(true);
 }
 
 const char16_t* LineEndOf(Editor& editor)
@@ -77,41 +72,41 @@ std::span<const EditingMenu::Row> Rows()
 {
     // clang-format off
     static const EditingMenu::Row rows[] = {
-        {"&Comments",   "comment",        "&Comment Out",           "Ctrl+/",        54037},
-        {"&Comments",   "uncomment",      "&Undo Comment Out",      "Ctrl+Shift+/",  54041},
-        {"&Comments",   "commentLines",   "Comment &Lines Out",     nullptr, 0, Do<&Editor::OnEditSingleLineComment>},
-        {"&Indentation", "indent",        "&Indent",                nullptr,         54034},
-        {"&Indentation", "outdent",       "&Outdent",               nullptr,         54035},
-        {"&Indentation", "tabsToSpaces",  "&Tabs to Spaces",        nullptr, 0, Do<&Editor::ConvertTabToSpaces>},
-        {"&Indentation", "spacesToTabs",  "&Spaces to Tabs",        nullptr, 0, Do<&Editor::ConvertSpacesToTab>},
-        {"&Indentation", "trim",          "Trim T&railing Spaces",  nullptr, 0, Do<&Editor::RemoveTrailingSpaces>},
-        {"&Lines",      "sortUp",         "Sort &Ascending",        nullptr, 0, SortLines<true>,  true},
-        {"&Lines",      "sortDown",       "Sort &Descending",       nullptr, 0, SortLines<false>, true},
-        {"&Lines",      "endLastLine",    "&End the Last Line",     nullptr, 0, Do<&Editor::EnsureFinalNewLine>},
+        {"C&omments",   "comment",        "&Comment Out",           "Ctrl+/",        54037},
+        {"C&omments",   "uncomment",      "&Undo Comment Out",      "Ctrl+Shift+/",  54041},
+        {"C&omments",   "commentLines",   "Comment &Lines Out",     nullptr, 53967, nullptr, false, true},
+        {"&Indentation", "indent",        "&Indent",                nullptr,         54034, nullptr, true, true},
+        {"&Indentation", "outdent",       "&Outdent",               nullptr,         54035, nullptr, true, true},
+        {"&Indentation", "tabsToSpaces",  "&Tabs to Spaces",        nullptr, 53921},
+        {"&Indentation", "spacesToTabs",  "&Spaces to Tabs",        nullptr, 53922},
+        {"&Indentation", "trim",          "Trim T&railing Spaces",  nullptr, 53953},
+        {"&Lines",      "sortUp",         "Sort &Ascending",        nullptr, 0, SortLines<true>,  true, true},
+        {"&Lines",      "sortDown",       "Sort &Descending",       nullptr, 0, SortLines<false>, true, true},
+        {"&Lines",      "endLastLine",    "&End the Last Line",     nullptr, 0, Do<&Editor::EnsureFinalNewLine>, false, true},
         {"&Lines",      "endsWindows",    "Ends of &Windows (CR+LF)", nullptr,       54071},
         {"&Lines",      "endsUnix",       "Ends of &Unix (LF)",     nullptr,         54072},
         {"&Lines",      "endsMac",        "Ends of &Mac (CR)",      nullptr,         54073},
-        {"&Words",      "upperCase",      "&Upper Case",            "Ctrl+Shift+U",  54042},
-        {"&Words",      "lowerCase",      "&Lower Case",            "Ctrl+U",        54039},
-        {"&Words",      "capitalize",     "Ca&pitalize",            nullptr, 0, Do<&Editor::Capitalize>, true},
-        {"&Words",      "upperCaseWord",  "Upper Case of a W&ord",  nullptr, 0, Do<&Editor::WordUpperCase>},
-        {"&Words",      "lowerCaseWord",  "Lower Case of a Wo&rd",  nullptr, 0, Do<&Editor::WordLowerCase>},
-        {"&Words",      "capitalizeWord", "Capi&talize a Word",     nullptr, 0, Do<&Editor::WordCapitalize>},
-        {"&Words",      "deleteWord",     "De&lete a Word",         nullptr, 0, Do<&Editor::WordDelete>},
-        {"&Words",      "swapCharacters", "Swap &Characters",       nullptr, 0, Do<&Editor::CharTranspose>},
-        {"&Words",      "swapWords",      "Swap &Words",            nullptr, 0, Do<&Editor::WordTranspose>},
+        {"&Words",      "upperCase",      "&Upper Case",            "Ctrl+Shift+U",  54042, nullptr, true, true},
+        {"&Words",      "lowerCase",      "&Lower Case",            "Ctrl+U",        54039, nullptr, true, true},
+        {"&Words",      "capitalize",     "Ca&pitalize",            nullptr, 0, Do<&Editor::Capitalize>, true, true},
+        {"&Words",      "upperCaseWord",  "Upper Case of a W&ord",  nullptr, 53928},
+        {"&Words",      "lowerCaseWord",  "Lower Case of a Wo&rd",  nullptr, 53929},
+        {"&Words",      "capitalizeWord", "Capi&talize a Word",     nullptr, 53927},
+        {"&Words",      "deleteWord",     "D&elete a Word",         nullptr, 53906},
+        {"&Words",      "swapCharacters", "Swap &Characters",       nullptr, 53930},
+        {"&Words",      "swapWords",      "Swap &Words",            nullptr, 53931},
         {"&Words",      "increase",       "&Increase Number",       "Ctrl+Alt+Right", 54001},
         {"&Words",      "decrease",       "&Decrease Number",       "Ctrl+Alt+Left", 54002},
-        {"&Select",     "selectWord",     "&Word",                  nullptr, 0, Do<&Editor::SelectWord>, false, false},
-        {"&Select",     "selectLine",     "&Line",                  nullptr, 0, Do<&Editor::SelectLine>, false, false},
-        {"&Select",     "selectParagraph", "&Paragraph",            nullptr, 0, Do<&Editor::SelectPara>, false, false},
-        {"&Select",     "selectToBrace",  "To Matching &Brace",     "Ctrl+Shift+]", 0, SelectToBrace, false, false},
-        {"&Select",     "swapEnds",       "&Caret to the Other End", nullptr, 0, Do<&Editor::SwapAnchor>, true, false},
+        {"&Select",     "selectWord",     "&Word",                  nullptr, 53908},
+        {"&Select",     "selectLine",     "&Line",                  nullptr, 53909},
+        {"&Select",     "selectParagraph", "&Paragraph",            nullptr, 53916},
+        {"&Select",     "selectToBrace",  "To Matching &Brace",     "Ctrl+Shift+]", 53961},
+        {"&Select",     "swapEnds",       "&Caret to the Other End", nullptr, 53934},
         {"&Bookmarks",  "bookmark",       "&Toggle",                "Ctrl+F2",       54057},
         {"&Bookmarks",  "nextBookmark",   "&Next",                  "F2",            54056},
         {"&Bookmarks",  "previousBookmark", "&Previous",            "Shift+F2",      54058},
-        {"&Bookmarks",  "firstBookmark",  "&First",                 nullptr, 0, Do<&Editor::FirstBookmark>, false, false},
-        {"&Bookmarks",  "lastBookmark",   "&Last",                  nullptr, 0, Do<&Editor::LastBookmark>, false, false},
+        {"&Bookmarks",  "firstBookmark",  "&First",                 nullptr, 53913},
+        {"&Bookmarks",  "lastBookmark",   "&Last",                  nullptr, 53914},
         {"&Bookmarks",  "clearBookmarks", "&Clear All",             "Ctrl+Shift+F2", 54059},
         {nullptr,       "matchBrace",     "&Matching Brace",        "Ctrl+]",        54040},
         {nullptr,       "insertFile",     "Insert &File...",        nullptr,         54038},
@@ -122,8 +117,8 @@ std::span<const EditingMenu::Row> Rows()
 
 } // namespace
 
-EditingMenu::EditingMenu(QMenu& menu, std::function<CZNCoreEditorControlEx*()> editor)
-    : QObject(&menu), m_editor(std::move(editor))
+EditingMenu::EditingMenu(QMenu& menu, std::function<ScriptView*()> view)
+    : QObject(&menu), m_view(std::move(view))
 {
     menu.addSeparator();
     QMenu* part = &menu;
@@ -149,27 +144,29 @@ void EditingMenu::Update()
         (*action++)->setEnabled(IsPossible(row));
 }
 
+// Asked of the view, so that a command takes the way of one from a key.
 bool EditingMenu::IsPossible(const Row& row) const
 {
-    Editor* editor = m_editor();
-    if (!editor)
+    ScriptView* view = m_view();
+    if (!view)
         return false;
-    if (row.command == 0)
-        return (!row.changesText || !editor->GetReadOnly(1)) &&
-               (!row.needsSelection || editor->IsSelection());
+    Editor& editor = view->GetCoreEditorControlRef();
+    if ((row.changesText && editor.GetReadOnly(1)) || (row.needsSelection && !editor.IsSelection()))
+        return false;
     Rule rule(row.command);
-    editor->OnCmdMsg(row.command, &rule);
+    if (row.command != 0)
+        view->OnCmdMsg(row.command, &rule);
     return rule.isPossible;
 }
 
 void EditingMenu::Run(const Row& row)
 {
-    Editor* editor = m_editor();
-    if (!editor)
+    ScriptView* view = m_view();
+    if (!view)
         return;
     if (row.command != 0)
-        editor->OnCmdMsg(row.command, nullptr);
+        view->OnCmdMsg(row.command, nullptr);
     else
-        row.run(*editor);
+        row.run(view->GetCoreEditorControlRef());
     Update(); // a bookmark is no change of the text, of which the window would hear
 }

@@ -1,5 +1,5 @@
 // What the Edit menu has for lines, words, comments and bookmarks, in menus of their own. Most of
-// it are commands of the editor, which says itself when each is possible.
+// it are commands of the view, which says itself when each is possible.
 #pragma once
 
 #include <QObject>
@@ -7,15 +7,15 @@
 #include <functional>
 #include <vector>
 
-class CZNCoreEditorControlEx;
 class QAction;
 class QMenu;
+class ScriptView;
 
 class EditingMenu final : public QObject
 {
 public:
-    // Appends to the menu. The editor is that of the script in front, null if there is none.
-    EditingMenu(QMenu& menu, std::function<CZNCoreEditorControlEx*()> editor);
+    // Appends to the menu. The view is that of the script in front, null if there is none.
+    EditingMenu(QMenu& menu, std::function<ScriptView*()> view);
 
     void Update();
 
@@ -25,6 +25,6 @@ private:
     bool IsPossible(const Row& row) const;
     void Run(const Row& row);
 
-    std::function<CZNCoreEditorControlEx*()> m_editor;
+    std::function<ScriptView*()> m_view;
     std::vector<QAction*> m_actions; // of the rows, in their order
 };

@@ -3,11 +3,14 @@
 #include "editing/Library.h"
 #include "editing/ZNCoreEditorWidget.h"
 #include "host/ScriptDoc.h"
+#include "host/ScrollRange.h"
 #include "platform/Units.h"
 #include "preprocess/CompileManager.h"
 
 #include <QAction>
 #include <QHeaderView>
+#include <QLabel>
+#include <QShortcut>
 #include <QSplitter>
 #include <QToolBar>
 #include <QTreeWidget>
@@ -22,11 +25,19 @@ constexpr int kLineRole = Qt::UserRole;
 } // namespace
 
 ExpandedScript::ExpandedScript(QWidget* parent)
-    : QDockWidget(parent), m_editor(new ZNCoreEditorWidget(this)), m_errors(new QTreeWidget(this))
+    : QDockWidget(parent), m_editor(new ZNCoreEditorWidget(this)), m_errors(new QTreeWidget(this)),
+      m_hint(new QLabel(this))
 {
     setObjectName(QStringLiteral("expandedScript"));
     setWindowTitle(QStringLiteral("Expanded Script"));
     m_editor->setObjectName(QStringLiteral("expandedText"));
+    m_editor->setAccessibleName(QStringLiteral("Expanded script"));
+    m_hint->setObjectName(QStringLiteral("includeHint"));
+    m_hint->setText(
+        QStringLiteral("Files are looked for in the folders that Tools > Options names."));
+    m_hint->setWordWrap(true);
+    m_hint->setMargin(4);
+    m_hint->hide();
     m_errors->setObjectName(QStringLiteral("includeErrors"));
     m_errors->setAccessibleName(QStringLiteral("Files that could not be included"));
     m_errors->setRootIsDecorated(false);
@@ -37,20 +48,30 @@ ExpandedScript::ExpandedScript(QWidget* parent)
     const auto add = [&](const char* name, const QString& text, void (ExpandedScript::*run)()) {
         QAction* action = bar->addAction(text, this, run);
         action->setObjectName(QLatin1String(name));
+        action->setEnabled(false);
+        return action;
     };
-    add("goToSource", QStringLiteral("Go to Source"), &ExpandedScript::GoToSource);
-    add("putOriginalBack", QStringLiteral("Put Original Back"), &ExpandedScript::PutOriginalBack);
+    m_goToSource = add("goToSource", QStringLiteral("Go to Source"), &ExpandedScript::GoToSource);
+    m_putBack = add("putOriginalBack", QStringLiteral("Put Original Back"),
+                    &ExpandedScript::PutOriginalBack);
     auto* splitter = new QSplitter(Qt::Vertical, this);
     splitter->addWidget(m_editor);
     splitter->addWidget(m_errors);
     splitter->setStretchFactor(0, 1);
+    splitter->setSizes({400, 100});
     auto* content = new QWidget(this);
     auto* layout = new QVBoxLayout(content);
     layout->setContentsMargins(0, 0, 0, 0);
     layout->addWidget(bar);
     layout->addWidget(splitter);
+    layout->addWidget(m_hint);
     setWidget(content);
 
+    // The text is read-only, where Enter has nothing else to do.
+    for (const int key : {Qt::Key_Return, Qt::Key_Enter}) {
+        auto* shortcut = new QShortcut(key, m_editor, this, &ExpandedScript::GoToSource);
+        shortcut->setContext(Qt::WidgetWithChildrenShortcut);
+    }
     connect(m_editor, &ZNCoreEditorWidget::notified, this, &ExpandedScript::OnNotified);
     connect(m_errors, &QTreeWidget::itemActivated, this, [this](const QTreeWidgetItem* item) {
         GoToSourceOf(item->data(kLineColumn, kLineRole).value<long>());
@@ -63,6 +84,16 @@ ExpandedScript::~ExpandedScript()
     m_editor->disconnect(this);
 }
 
+QWidget* ExpandedScript::TextArea() const
+{
+    return m_editor;
+}
+
+QWidget* ExpandedScript::ErrorArea() const
+{
+    return m_errors;
+}
+
 ScriptDoc* ExpandedScript::Script() const
 {
     return m_script && !m_script->IsClosed() ? m_script.data() : nullptr;
@@ -71,7 +102,7 @@ ScriptDoc* ExpandedScript::Script() const
 void ExpandedScript::Expand(ScriptDoc& script, CZNCoreEditorControlEx& editor)
 {
     m_script = &script;
-    setWindowTitle(QStringLiteral("Expanded Script – %1").arg(script.Name()));
+    Caption(QStringLiteral("Expanded Script"));
     m_editor->setLanguage(script.Language());
     CZNCoreEditorControlEx& control = m_editor->control();
     control.SetCarefulFiles(true);
@@ -83,8 +114,17 @@ void ExpandedScript::Expand(ScriptDoc& script, CZNCoreEditorControlEx& editor)
     control.EmptyUndoBuffer(1);
     control.SetReadOnly(1, 1);
     control.GotoPos(0, 1);
+    control.SetScrollWidth(1, 1);
+    FitScrollRange();
     m_map = zncoreeditor::GetCompileManager()->GetSourceMap();
+    m_goToSource->setEnabled(true);
+    m_putBack->setEnabled(control.GetIncludeOrDefineDirectivesFound());
     ListErrors();
+}
+
+void ExpandedScript::Caption(const QString& what)
+{
+    setWindowTitle(m_script ? what + QStringLiteral(" – ") + m_script->Name() : what);
 }
 
 void ExpandedScript::PutOriginalBack()
@@ -95,6 +135,10 @@ void ExpandedScript::PutOriginalBack()
     control.SetReadOnly(1, 1);
     m_map.Clear();
     m_errors->clear();
+    m_errors->hide();
+    m_hint->hide();
+    m_putBack->setEnabled(false);
+    Caption(QStringLiteral("Original Script"));
 }
 
 void ExpandedScript::ListErrors()
@@ -105,15 +149,26 @@ void ExpandedScript::ListErrors()
         auto* item = new QTreeWidgetItem(m_errors);
         item->setText(kLineColumn, QString::number(line + 1));
         item->setText(kTextColumn, message);
+        item->setToolTip(kTextColumn, message);
         item->setData(kLineColumn, kLineRole, QVariant::fromValue<long>(line));
     }
     m_errors->setVisible(!errors.empty());
+    m_hint->setVisible(!errors.empty());
 }
 
 void ExpandedScript::OnNotified(const SCNotification& record)
 {
     if (record.nmhdr.code == notify::DoubleClick)
         GoToSource();
+    else if (record.nmhdr.code == notify::UpdateUi)
+        FitScrollRange();
+}
+
+void ExpandedScript::FitScrollRange()
+{
+    CZNCoreEditorControlEx& control = m_editor->control();
+    const int first = control.DocLineFromVisible(control.GetFirstVisibleLine(1), 1);
+    FitScrollWidth(control, first, first + control.LinesOnScreen(1));
 }
 
 void ExpandedScript::GoToSource()

@@ -8,6 +8,8 @@
 #include <QPointer>
 
 class CZNCoreEditorControlEx;
+class QAction;
+class QLabel;
 class QTreeWidget;
 class ScriptDoc;
 class ZNCoreEditorWidget;
@@ -27,6 +29,10 @@ public:
     // The script that is shown, null once it is closed.
     ScriptDoc* Script() const;
 
+    // What can have the focus; the errors are shown if there are any.
+    QWidget* TextArea() const;
+    QWidget* ErrorArea() const;
+
     void PutOriginalBack();
     void GoToSource(); // of the caret's line
 
@@ -37,10 +43,15 @@ Q_SIGNALS:
 private:
     void OnNotified(const SCNotification& record);
     void ListErrors();
+    void FitScrollRange(); // to the lines that are shown
+    void Caption(const QString& what);
     void GoToSourceOf(long line);
 
     ZNCoreEditorWidget* m_editor;
     QTreeWidget* m_errors;
+    QLabel* m_hint; // what to do about the errors
+    QAction* m_goToSource = nullptr;
+    QAction* m_putBack = nullptr;
     QPointer<ScriptDoc> m_script;
     SourceMap m_map;
 };

@@ -72,7 +72,7 @@ FindBar::FindBar(std::function<CZNCoreEditorControlEx*()> editor, QWidget* paren
     : QWidget(parent), m_editor(std::move(editor)),
       m_manager(*zncoreeditor::GetFindReplaceManager()), m_find(MakeBox("findText", tr("Find"))),
       m_replace(MakeBox("replaceText", tr("Replace with"))),
-      m_matchCase(MakeOption("matchCase", tr("Match &case"), m_manager.GetMatchCase())),
+      m_matchCase(MakeOption("matchCase", tr("Match ca&se"), m_manager.GetMatchCase())),
       m_wholeWord(MakeOption("wholeWord", tr("&Whole word"), m_manager.GetWholeWord())),
       m_expression(MakeOption("expression", tr("E&xpression"), m_manager.GetRegExp())),
       m_result(new QLabel(this))
@@ -98,6 +98,7 @@ FindBar::FindBar(std::function<CZNCoreEditorControlEx*()> editor, QWidget* paren
         layout->addWidget(button, place % 2, 4 + place / 2);
         ++place;
     }
+    setFocusProxy(m_find);
     m_find->installEventFilter(this);
     m_replace->installEventFilter(this);
     hide();
@@ -105,7 +106,9 @@ FindBar::FindBar(std::function<CZNCoreEditorControlEx*()> editor, QWidget* paren
 
 QComboBox* FindBar::MakeBox(const char* name, const QString& label)
 {
+    constexpr int kLeastLength = 14; // characters
     auto* box = new QComboBox(this);
+    box->setMinimumContentsLength(kLeastLength);
     box->setObjectName(QLatin1String(name));
     box->setEditable(true);
     box->setInsertPolicy(QComboBox::NoInsert);
@@ -175,6 +178,8 @@ void FindBar::Open()
 
 void FindBar::Close()
 {
+    if (isHidden())
+        return;
     hide();
     m_manager.Save();
     if (Editor* editor = m_editor())
@@ -331,9 +336,12 @@ void FindBar::Count()
     Tell(tr("%n found", nullptr, count));
 }
 
+// A key finds without the bar, which is then shown for what it has to say.
 void FindBar::Tell(const QString& result)
 {
     m_result->setText(result);
+    if (!result.isEmpty())
+        show();
     Update();
 }
 

@@ -2,6 +2,7 @@
 
 #include "host/FindBar.h"
 #include "host/MainWindow.h"
+#include "host/WorkbenchCommands.h"
 #include "platform/docview/WinApp.h"
 
 #include <QCoreApplication>
@@ -39,7 +40,7 @@ const CommandMap& MainFrame::GetCommandMap() const
         {57636, &RunFind<&FindBar::Open>},         {57640, &RunFind<&FindBar::FindNext>},
         {54063, &RunFind<&FindBar::FindNext>},     {53902, &RunFind<&FindBar::FindPrevious>},
         {53903, &RunFind<&FindBar::FindNextWord>}, {53904, &RunFind<&FindBar::FindPreviousWord>},
-        {57641, &RunFind<&FindBar::Replace>},
+        {57641, &RunFind<&FindBar::Replace>},      {command::CloseFind, &RunFind<&FindBar::Close>},
     };
     static const CommandMap map = {&CFrameWnd::GetCommandMap(), kCommands, {}};
     return map;

@@ -25,8 +25,10 @@
 #include <QFileInfo>
 #include <QGuiApplication>
 #include <QPointer>
+#include <QShortcut>
 #include <QTabBar>
 #include <QTimer>
+#include <QTreeWidget>
 #include <QVBoxLayout>
 
 #include <algorithm>
@@ -34,6 +36,7 @@
 namespace {
 
 constexpr int kProblemsHeight = 110; // pixels, of some four lines
+constexpr int kExpandedWidth = 460;  // pixels, of some fifty characters
 
 } // namespace
 
@@ -63,6 +66,10 @@ MainWindow::MainWindow(Workbench& app)
     connect(m_tabs, &ScriptTabs::currentChanged, this, &MainWindow::OnCurrentChanged);
     connect(m_tabs->tabBar(), &QTabBar::tabMoved, this, &MainWindow::KeepSessionSoon);
     connect(m_tabs, &ScriptTabs::tabCloseRequested, this, &MainWindow::CloseTab);
+    for (QDockWidget* pane : findChildren<QDockWidget*>()) {
+        auto* back = new QShortcut(Qt::Key_Escape, pane, this, &MainWindow::GoToScript);
+        back->setContext(Qt::WidgetWithChildrenShortcut);
+    }
     FileDrops::Take(*this);
     FileDrops::Take(*m_tabs->tabBar());
 
@@ -118,6 +125,8 @@ bool MainWindow::OpenPlaces(const QStringList& words)
         const ScriptFrame* frame = m_app.OpenDocumentFile(place.path) ? CurrentFrame() : nullptr;
         if (frame && place.line > 0)
             frame->View()->GoToLine(place.line - 1);
+        if (frame && place.column > 1)
+            frame->View()->GoToColumn(place.column - 1);
         if (frame && !first)
             first = frame->GetSafeHwnd();
         opened = opened && frame;
@@ -131,7 +140,7 @@ void MainWindow::OpenRecent(const QString& path)
 {
     if (QFileInfo::exists(path))
         m_app.OpenDocumentFile(path);
-    else if (GetPrompts().Confirm(this, RecentFileIsGoneQuestion(path), QStringLiteral("Remove")))
+    else if (GetPrompts().Confirm(this, RecentFileIsGoneQuestion(path), QStringLiteral("&Remove")))
         m_app.Recent().Remove(path);
 }
 
@@ -163,8 +172,7 @@ void MainWindow::Follow(ScriptDoc& script)
 
 void MainWindow::OnCurrentChanged()
 {
-    if (ScriptFrame* frame = CurrentFrame())
-        frame->BecomeActive();
+    GoToScript();
     UpdateAll();
     ListProblems();
     KeepSessionSoon();
@@ -252,10 +260,38 @@ void MainWindow::NextProblem()
     frame->View()->SelectRange(next.start, next.end);
 }
 
+// From the script over what is shown around it and back, for somebody without a mouse.
+void MainWindow::NextArea()
+{
+    const QWidgetList areas = {m_tabs, m_find, m_expanded->TextArea(), m_expanded->ErrorArea(),
+                               m_problems->ListArea()};
+    const QWidget* focus = focusWidget();
+    qsizetype at = 0;
+    for (qsizetype i = 0; i < areas.size(); ++i) {
+        if (focus && (areas[i] == focus || areas[i]->isAncestorOf(focus)))
+            at = i;
+    }
+    do
+        at = (at + 1) % areas.size();
+    while (!areas[at]->isVisible());
+    if (areas[at] != m_tabs)
+        areas[at]->setFocus(Qt::TabFocusReason);
+    else
+        GoToScript();
+}
+
+void MainWindow::GoToScript()
+{
+    if (ScriptFrame* frame = CurrentFrame())
+        frame->BecomeActive();
+}
+
 void MainWindow::ExpandScript()
 {
     if (const ScriptFrame* frame = CurrentFrame()) {
         m_expanded->Expand(*frame->Script(), frame->Editor());
+        if (m_expanded->isHidden())
+            resizeDocks({m_expanded}, {kExpandedWidth}, Qt::Horizontal);
         m_expanded->show();
     }
 }

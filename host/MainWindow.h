@@ -60,6 +60,8 @@ public:
     void ChangeAutosave();
     void NextScript();
     void PreviousScript();
+    void NextArea();
+    void GoToScript();
 
 private:
     struct Command;
@@ -85,7 +87,7 @@ private:
 
     void KeepSessionSoon();
     void KeepSession();
-    void Resume(const SessionFile& file);
+    bool Resume(const SessionFile& file); // false if it is not opened
 
     Workbench& m_app;
     MainFrame* m_frame; // goes with this window

@@ -100,6 +100,7 @@ std::span<const MainWindow::Command> MainWindow::Commands()
         {"&View", "splitBelow",  "Split &Above and Below", Key::UnknownKey, "Ctrl+\\",       command::SplitBelow},
         {"&View", "splitBeside", "Split Side &by Side",    Key::UnknownKey, "Ctrl+Shift+\\", command::SplitBeside},
         {"&View", "otherPane",   "Ot&her Pane",            Key::UnknownKey, "F6",            command::OtherPane},
+        {"&View", "nextArea",    "&Next Area",             Key::UnknownKey, "Shift+F6",      0, When::Script, Run<&W::NextArea>},
         {"&View", "newView",     "New &View",              Key::UnknownKey, nullptr,         ID_WINDOW_NEW},
         {"&View", nullptr},
         {"&View", "nextProblem", "Next Proble&m", Key::UnknownKey, "F8",   0, When::Script, Run<&W::NextProblem>},
@@ -161,7 +162,10 @@ void MainWindow::BuildMenus()
             menu->addMenu(recent);
     }
     m_find->AddActions(*edit->addMenu(QStringLiteral("Fi&nd")));
-    m_editing = new EditingMenu(*edit, [this] { return CurrentEditor(); });
+    m_editing = new EditingMenu(*edit, [this] {
+        const ScriptFrame* frame = CurrentFrame();
+        return frame ? frame->View() : nullptr;
+    });
 }
 
 bool MainWindow::IsPossible(When when) const

@@ -1,5 +1,6 @@
 // MainWindow: what it remembers from one run to the next.
 #include "editing/ZNCoreEditorControlEx.h"
+#include "host/ExpandedScript.h"
 #include "host/MainWindow.h"
 #include "host/ScriptDoc.h"
 #include "host/ScriptFrame.h"
@@ -9,6 +10,8 @@
 #include "host/Workbench.h"
 
 #include <QFileInfo>
+#include <QPointer>
+#include <QSet>
 #include <QTimer>
 
 #include <chrono>
@@ -16,6 +19,13 @@
 namespace {
 
 constexpr std::chrono::seconds kRest(2);
+
+SessionPanes PanesOf(const ScriptFrame& frame)
+{
+    if (!frame.IsSplit())
+        return SessionPanes::One;
+    return frame.SplitOrientation() == Qt::Vertical ? SessionPanes::Below : SessionPanes::Beside;
+}
 
 SessionFile Describe(const ScriptFrame& frame)
 {
@@ -26,6 +36,7 @@ SessionFile Describe(const ScriptFrame& frame)
     file.caretLine = editor.LineFromPosition(editor.GetCurrentPos(1), 1);
     file.firstVisible = editor.DocLineFromVisible(editor.GetFirstVisibleLine(1), 1);
     file.readOnly = frame.Script()->IsReadOnly() && !frame.Script()->IsFileReadOnly();
+    file.panes = PanesOf(frame);
     return file;
 }
 
@@ -39,36 +50,48 @@ void MainWindow::ResumeSession()
         restoreGeometry(session.geometry);
     if (!session.state.isEmpty())
         restoreState(session.state);
-    for (const SessionFile& file : session.files) {
-        if (QFileInfo(file.path).isFile())
-            Resume(file);
+    m_expanded->hide();    // what it showed is gone
+    QSet<QString> refused; // for all of their tabs
+    QPointer<QWidget> front;
+    for (int i = 0; i < session.files.size(); ++i) {
+        const SessionFile& file = session.files[i];
+        if (!QFileInfo(file.path).isFile() || refused.contains(file.path))
+            continue;
+        if (!Resume(file))
+            refused.insert(file.path);
+        else if (i == session.front)
+            front = m_tabs->currentWidget();
     }
-    const QString front =
-        session.front < session.files.size() ? session.files[session.front].path : QString();
-    for (int i = 0; i < TabCount(); ++i) {
-        if (FrameAt(i) && FrameAt(i)->Script()->GetPathName() == front)
-            ShowTab(i);
-    }
+    if (front)
+        m_tabs->setCurrentWidget(front);
     m_keepsSession = true;
     m_sessionTimer->setSingleShot(true);
     m_sessionTimer->setInterval(kRest);
     connect(m_sessionTimer, &QTimer::timeout, this, &MainWindow::KeepSession);
 }
 
-void MainWindow::Resume(const SessionFile& file)
+// A file that is open already gets a further tab.
+bool MainWindow::Resume(const SessionFile& file)
 {
-    if (!m_app.OpenScript(file.path, file.encoding))
-        return;
-    const ScriptFrame* frame = CurrentFrame();
+    ScriptDoc* open = m_app.FindOpen(file.path);
+    if (auto* shown =
+            open ? dynamic_cast<ScriptFrame*>(open->FirstView()->GetParentFrame()) : nullptr)
+        shown->NewView();
+    else if (!m_app.OpenScript(file.path, file.encoding))
+        return false;
+    ScriptFrame* frame = CurrentFrame();
     if (!frame)
-        return;
+        return false;
     CZNCoreEditorControlEx& editor = frame->Editor();
     frame->View()->GoToLine(file.caretLine);
     const int top = editor.VisibleFromDocLine(static_cast<int>(file.firstVisible), 1);
     editor.LineScroll(0, top - editor.GetFirstVisibleLine(1), 1);
     if (file.readOnly)
         editor.SetReadOnly(1, 1);
+    if (file.panes != SessionPanes::One)
+        frame->Split(file.panes == SessionPanes::Below ? Qt::Vertical : Qt::Horizontal);
     frame->Script()->StateChanged();
+    return true;
 }
 
 void MainWindow::KeepSessionSoon()
@@ -77,7 +100,6 @@ void MainWindow::KeepSessionSoon()
         m_sessionTimer->start();
 }
 
-// A script with two tabs is open once.
 void MainWindow::KeepSession()
 {
     Session session;

@@ -3,19 +3,29 @@
 #include "host/Encodings.h"
 
 #include <QComboBox>
+#include <QDir>
+#include <QFileInfo>
 #include <QGridLayout>
 #include <QLabel>
 
-OpenAsDialog::OpenAsDialog(QWidget* parent, const QString& folder)
-    : QFileDialog(parent, QStringLiteral("Open with Encoding"), folder),
+namespace {
+
+const QStringList kScripts = {QStringLiteral("*.sql"), QStringLiteral("*.pks"),
+                              QStringLiteral("*.pkb"), QStringLiteral("*.ddl")};
+
+} // namespace
+
+OpenAsDialog::OpenAsDialog(QWidget* parent, const QString& place)
+    : QFileDialog(parent, QStringLiteral("Open with Encoding"),
+                  QFileInfo(place).isFile() ? QFileInfo(place).path() : place),
       m_encoding(new QComboBox(this))
 {
     // The platform's own dialog has no place for a further row.
     setOption(DontUseNativeDialog);
     setAcceptMode(AcceptOpen);
     setFileMode(ExistingFile);
-    setNameFilters(
-        {QStringLiteral("SQL scripts (*.sql *.pks *.pkb *.ddl)"), QStringLiteral("All files (*)")});
+    setNameFilters({QStringLiteral("SQL scripts (%1)").arg(kScripts.join(u' ')),
+                    QStringLiteral("All files (*)")});
 
     m_encoding->setObjectName(QStringLiteral("encoding"));
     m_encoding->addItem(QStringLiteral("Detect"), -1);
@@ -23,6 +33,12 @@ OpenAsDialog::OpenAsDialog(QWidget* parent, const QString& folder)
     for (const EncodingChoice& choice : EncodingChoices()) {
         if (m_encoding->findData(choice.encoding) < 0)
             m_encoding->addItem(EncodingName(choice.encoding, false), choice.encoding);
+    }
+
+    if (QFileInfo(place).isFile()) {
+        if (!QDir::match(kScripts, QFileInfo(place).fileName()))
+            selectNameFilter(QStringLiteral("All files (*)"));
+        selectFile(QFileInfo(place).fileName());
     }
 
     auto* label = new QLabel(QStringLiteral("&Encoding:"), this);

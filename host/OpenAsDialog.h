@@ -12,7 +12,8 @@ class OpenAsDialog final : public QFileDialog
     Q_OBJECT
 
 public:
-    OpenAsDialog(QWidget* parent, const QString& folder);
+    // Begins in the folder, or with the file.
+    OpenAsDialog(QWidget* parent, const QString& place);
 
     OpenChoice Choice() const;
 

@@ -7,6 +7,7 @@
 #include <QDialogButtonBox>
 #include <QFontComboBox>
 #include <QFormLayout>
+#include <QLabel>
 #include <QLineEdit>
 #include <QSpinBox>
 #include <QVBoxLayout>
@@ -30,6 +31,9 @@ constexpr SwitchRow kSwitches[] = {
     {"foldMargin", u"F&old margin", option::FoldMargin},
     {"continueComments", u"Enter &continues a comment", option::ContinueComments},
 };
+
+constexpr int kPathWidth = 320; // pixels, of two folders
+constexpr int kRounding = 2;    // pixels that a hint may lack on a scaled screen
 
 } // namespace
 
@@ -56,6 +60,7 @@ OptionsDialog::OptionsDialog(QWidget* parent)
 
     m_includePath->setObjectName(QStringLiteral("includePath"));
     m_includePath->setText(options.GetString(option::IncludePath));
+    m_includePath->setMinimumWidth(kPathWidth);
     m_includePath->setPlaceholderText(QStringLiteral("Folders, with ; between them"));
 
     auto* form = new QFormLayout;
@@ -72,6 +77,8 @@ OptionsDialog::OptionsDialog(QWidget* parent)
     connect(buttons, &QDialogButtonBox::rejected, this, &QDialog::reject);
     auto* layout = new QVBoxLayout(this);
     layout->addLayout(form);
+    for (QLabel* label : findChildren<QLabel*>(Qt::FindDirectChildrenOnly))
+        label->setMinimumWidth(label->sizeHint().width() + kRounding);
     layout->addWidget(buttons);
 }
 

@@ -14,6 +14,8 @@ class ProblemPane final : public QDockWidget
 public:
     explicit ProblemPane(QWidget* parent);
 
+    QTreeWidget* ListArea() const { return m_list; } // what can have the focus
+
     void Clear();
     void Add(const ScriptProblem& problem, int line); // the line from 0
 

@@ -35,9 +35,9 @@ QStringList DialogPrompts::FilesToOpen(QWidget* parent, const QString& folder)
         QStringLiteral("SQL scripts (*.sql *.pks *.pkb *.ddl);;All files (*)"));
 }
 
-std::optional<OpenChoice> DialogPrompts::WhatToOpen(QWidget* parent, const QString& folder)
+std::optional<OpenChoice> DialogPrompts::WhatToOpen(QWidget* parent, const QString& place)
 {
-    OpenAsDialog dialog(parent, folder);
+    OpenAsDialog dialog(parent, place);
     if (dialog.exec() != QDialog::Accepted)
         return std::nullopt;
     return dialog.Choice();
@@ -59,6 +59,8 @@ LoseChanges DialogPrompts::BeforeLosing(QWidget* parent, const QString& name)
     box.setTextFormat(Qt::PlainText); // a name may look like markup
     box.setInformativeText(QStringLiteral("They are lost if you discard them."));
     box.setDefaultButton(QMessageBox::Save);
+    box.button(QMessageBox::Save)->setText(QStringLiteral("&Save"));
+    box.button(QMessageBox::Discard)->setText(QStringLiteral("&Discard"));
     switch (box.exec()) {
     case QMessageBox::Save:
         return LoseChanges::Save;

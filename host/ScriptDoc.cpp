@@ -25,6 +25,11 @@ QString WhyNotRead(const QString& path)
 {
     const QFileInfo info(path);
     const QString name = QDir::toNativeSeparators(path);
+    // What is not UTF-8 in a name has become this.
+    if (!info.exists() && path.contains(QChar::ReplacementCharacter))
+        return QStringLiteral("“%1” has a name that is not UTF-8, which cannot be opened. "
+                              "Rename the file.")
+            .arg(name);
     if (!info.exists())
         return QStringLiteral("“%1” does not exist.").arg(name);
     if (info.isDir())

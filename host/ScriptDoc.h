@@ -84,6 +84,7 @@ protected:
 private:
     int SaveTo(const SaveTarget& target);
     bool MayReplaceLongerFile(const SaveTarget& target);
+    bool MayReplaceChangedFile(const SaveTarget& target);
     bool MayLoseCharacters(SaveTarget& target); // the person may choose another encoding
     int WriteTo(const SaveTarget& target);
     void OnReload();

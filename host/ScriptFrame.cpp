@@ -123,6 +123,11 @@ bool ScriptFrame::IsSplit() const
     return OtherPane() != nullptr;
 }
 
+Qt::Orientation ScriptFrame::SplitOrientation() const
+{
+    return m_panes ? m_panes->orientation() : Qt::Horizontal;
+}
+
 void ScriptFrame::Split(Qt::Orientation orientation)
 {
     m_panes->setOrientation(orientation);
@@ -130,13 +135,15 @@ void ScriptFrame::Split(Qt::Orientation orientation)
     if (IsSplit() || !script)
         return;
     const FrameworkCall call;
+    ScriptView* other = View();
     CCreateContext context{ScriptView::GetThisClass(), script, script->GetDocTemplate(), this};
-    CView* view = CreateView(&context);
+    auto* view = dynamic_cast<ScriptView*>(CreateView(&context));
     if (!view)
         return;
     m_panes->addWidget(view->GetSafeHwnd());
     m_panes->setSizes({1, 1}); // parts of the whole
     view->OnInitialUpdate();
+    view->ShowAs(*other);
     SetActiveView(view);
 }
 
@@ -150,7 +157,7 @@ void ScriptFrame::Unsplit()
 
 void ScriptFrame::ToggleSplit(Qt::Orientation orientation)
 {
-    if (IsSplit() && m_panes->orientation() == orientation)
+    if (IsSplit() && SplitOrientation() == orientation)
         Unsplit();
     else
         Split(orientation);
@@ -169,7 +176,10 @@ void ScriptFrame::NewView()
     CFrameWnd* frame = docTemplate ? docTemplate->CreateNewFrame(script, this) : nullptr;
     if (!frame)
         return;
+    ScriptView* other = View();
     frame->InitialUpdateFrame(script, true);
+    if (auto* view = dynamic_cast<ScriptView*>(frame->GetActiveView()))
+        view->ShowAs(*other);
     UpdateTitles(*script);
 }
 
@@ -226,7 +236,7 @@ void ScriptFrame::UpdateSplit(CCmdTarget& target, CCmdUI& ui)
 {
     const auto& frame = static_cast<ScriptFrame&>(target);
     ui.Enable(frame.Script() != nullptr);
-    ui.SetCheck(frame.IsSplit() && frame.m_panes->orientation() == Orientation ? 1 : 0);
+    ui.SetCheck(frame.IsSplit() && frame.SplitOrientation() == Orientation ? 1 : 0);
 }
 
 const CommandMap& ScriptFrame::GetCommandMap() const

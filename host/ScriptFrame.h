@@ -27,7 +27,9 @@ public:
 
     bool IsSplit() const;
     void Split(Qt::Orientation orientation);
-    void Unsplit(); // the active pane stays
+    void Unsplit();                           // the active pane stays
+    Qt::Orientation SplitOrientation() const; // of the panes, if it is split
+    void NewView();                           // in a tab of its own, which comes to the front
 
     using CFrameWnd::OnCmdMsg;
     // As any frame's, then what the frame around it runs: a menu inside a view comes here.
@@ -47,7 +49,6 @@ private:
     ScriptView* Pane(int index) const;
     ScriptView* OtherPane() const;
     void ToggleSplit(Qt::Orientation orientation);
-    void NewView();
     void GoToOtherPane();
     template <Qt::Orientation Orientation>
     static void UpdateSplit(CCmdTarget& target, CCmdUI& ui);

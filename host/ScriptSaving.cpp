@@ -88,7 +88,10 @@ int ScriptDoc::SaveTo(const SaveTarget& target)
                                         .arg(QFileInfo(chosen.path).fileName()));
         return 0;
     }
-    if (!MayReplaceLongerFile(chosen) || !MayLoseCharacters(chosen) || !FirstView())
+    // A question gives the focus back, with which others would be looked for before this is saved.
+    const QScopedValueRollback<bool> checking(m_checkingAccessTime, true);
+    if (!MayReplaceLongerFile(chosen) || !MayReplaceChangedFile(chosen) ||
+        !MayLoseCharacters(chosen) || !FirstView())
         return 0;
     return WriteTo(chosen);
 }
@@ -103,7 +106,22 @@ bool ScriptDoc::MayReplaceLongerFile(const SaveTarget& target)
         QStringLiteral("Only the first part of “%1” could be read. Saving it under its own name "
                        "loses the rest of the file.")
             .arg(Name()),
-        QStringLiteral("Overwrite"));
+        QStringLiteral("&Overwrite"));
+}
+
+// Others are looked for when the focus comes; they may have written since.
+bool ScriptDoc::MayReplaceChangedFile(const SaveTarget& target)
+{
+    CFileStatus status;
+    if (m_lastAccessTime == 0 || !IsSameFile(target.path, m_strPathName) ||
+        !CFile::GetStatus(m_strPathName, status) || status.m_mtime == m_lastAccessTime)
+        return true;
+    return GetPrompts().Confirm(
+        Window(),
+        QStringLiteral("“%1” has been changed outside of the workbench since it was read. Saving "
+                       "it replaces those changes.")
+            .arg(Name()),
+        QStringLiteral("&Overwrite"));
 }
 
 bool ScriptDoc::MayLoseCharacters(SaveTarget& target)
@@ -122,6 +140,8 @@ bool ScriptDoc::MayLoseCharacters(SaveTarget& target)
     case LoseCharacters::SaveAnyway:
         return true;
     default:
+        if (ScriptView* view = FirstView(); view && view->GetSafeHwnd()->isVisible())
+            view->SelectRange(lost->position, lost->position + (lost->character > 0xFFFF ? 2 : 1));
         return false;
     }
 }

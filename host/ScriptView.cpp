@@ -5,6 +5,7 @@
 #include "host/FileDrops.h"
 #include "host/ScriptDoc.h"
 #include "host/ScrollRange.h"
+#include "host/WorkbenchCommands.h"
 #include "platform/Mouse.h"
 #include "platform/docview/CommandIds.h"
 #include "platform/docview/FrameWnd.h"
@@ -54,13 +55,11 @@ void ScriptView::OnInitialUpdate()
     ScriptDoc* script = Script();
     if (!script)
         return;
-    if (ScriptView* first = script->FirstView(); first && first != this)
-        ShowAsTheOther(*first);
     script->OnViewShown();
     FollowSoon();
 }
 
-void ScriptView::ShowAsTheOther(ScriptView& other)
+void ScriptView::ShowAs(ScriptView& other)
 {
     CZNCoreEditorControlEx& editor = other.m_coreEditor;
     const int top = editor.GetFirstVisibleLine(1);
@@ -109,6 +108,19 @@ int ScriptView::OnCommand(WPARAM wParam, LPARAM lParam)
         return 1;
     CFrameWnd* frame = GetParentFrame();
     return frame ? frame->OnCommand(wParam, lParam) : 0;
+}
+
+int ScriptView::PreTranslateMessage(MSG* message)
+{
+    if (message->message == WM_KEYDOWN && message->wParam == Qt::Key_Escape && !HasSomethingToEnd())
+        OnCommand(command::CloseFind, 0);
+    return CZNCoreEditorView::PreTranslateMessage(message);
+}
+
+bool ScriptView::HasSomethingToEnd()
+{
+    return m_incrementalForward || m_incrementalReverse || m_coreEditor.AutoCActive(1) ||
+           m_coreEditor.CallTipActive(1);
 }
 
 // The base may close the view; then nothing is left to follow.
@@ -203,6 +215,17 @@ void ScriptView::SelectRange(long start, long end)
 void ScriptView::GoToLine(long line)
 {
     m_coreEditor.GotoLineEnsureVisible(static_cast<int>(line));
+}
+
+// As tools count them, in characters whatever their width.
+void ScriptView::GoToColumn(long column)
+{
+    const int line = m_coreEditor.LineFromPosition(m_coreEditor.GetCurrentPos(1), 1);
+    const long end = m_coreEditor.GetLineEndPosition(line, 1);
+    long position = m_coreEditor.PositionFromLine(line, 1);
+    for (; column > 0 && position < end; --column)
+        position = m_coreEditor.PositionAfter(position, 1);
+    m_coreEditor.GotoPos(position, 1);
 }
 
 QString ScriptView::CaretText()

@@ -21,11 +21,15 @@ public:
     // A key's command that is none of these is the frame's.
     int OnCommand(WPARAM wParam, LPARAM lParam) override;
     int OnNotify(WPARAM wParam, LPARAM lParam, LRESULT* result) override;
+    // Escape closes the find bar too, unless it has a list or a search of the editor's to end.
+    int PreTranslateMessage(MSG* message) override;
     void OnInitialUpdate() override;
     void OnActivateView(int activate, CView* activated, CView* deactivated) override;
 
     void SelectRange(long start, long end); // and shows it
     void GoToLine(long line);               // from 0, and shows it
+    void GoToColumn(long column);           // of the caret's line, from 0, as far as it goes
+    void ShowAs(ScriptView& other);         // place, selection and zoom
     QString CaretText();                    // line and column, from 1
     QString Catalog();                      // the database in force at the caret, empty if unknown
 
@@ -43,8 +47,8 @@ private:
     void FollowSoon();
     void Follow();
     void FitScrollRange();
-    void ShowAsTheOther(ScriptView& other);
     void CloseFrame();
+    bool HasSomethingToEnd();
 
     bool m_following = false;
     int m_measuredFrom = -1; // the first line on screen when lines were last measured

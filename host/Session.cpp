@@ -8,7 +8,6 @@
 #include <QJsonDocument>
 #include <QJsonObject>
 #include <QSaveFile>
-#include <QSet>
 
 #include <climits>
 
@@ -26,6 +25,7 @@ const QString kEncoding = QStringLiteral("encoding");
 const QString kCaretLine = QStringLiteral("caretLine");
 const QString kFirstVisible = QStringLiteral("firstVisible");
 const QString kReadOnly = QStringLiteral("readOnly");
+const QString kPanes = QStringLiteral("panes");
 
 bool IsEncoding(int number)
 {
@@ -37,6 +37,13 @@ long LineOf(const QJsonValue& value)
 {
     const int line = value.toInt(0);
     return line < 0 ? 0 : line;
+}
+
+SessionPanes PanesOf(const QJsonValue& value)
+{
+    const auto panes = static_cast<SessionPanes>(value.toInt(0));
+    const bool isKnown = panes == SessionPanes::Below || panes == SessionPanes::Beside;
+    return isKnown ? panes : SessionPanes::One;
 }
 
 QByteArray LayoutOf(const QJsonValue& value)
@@ -55,6 +62,7 @@ SessionFile FileOf(const QJsonObject& entry)
     file.caretLine = LineOf(entry[kCaretLine]);
     file.firstVisible = LineOf(entry[kFirstVisible]);
     file.readOnly = entry[kReadOnly].toBool();
+    file.panes = PanesOf(entry[kPanes]);
     return file;
 }
 
@@ -64,7 +72,8 @@ QJsonObject EntryOf(const SessionFile& file)
             {kEncoding, file.encoding},
             {kCaretLine, static_cast<int>(file.caretLine)},
             {kFirstVisible, static_cast<int>(file.firstVisible)},
-            {kReadOnly, file.readOnly}};
+            {kReadOnly, file.readOnly},
+            {kPanes, static_cast<int>(file.panes)}};
 }
 
 } // namespace
@@ -90,12 +99,10 @@ Session Session::FromBytes(const QByteArray& bytes)
     const QJsonObject object = QJsonDocument::fromJson(bytes).object();
     const QJsonArray entries = object[kFiles].toArray();
     const int front = object[kFront].toInt(0);
-    QSet<QString> known;
     for (qsizetype i = 0; i < entries.size() && session.files.size() < kMostFiles; ++i) {
         const SessionFile file = FileOf(entries[i].toObject());
-        if (!places::CanBeFile(file.path) || known.contains(file.path))
+        if (!places::CanBeFile(file.path))
             continue;
-        known.insert(file.path);
         if (i == front)
             session.front = static_cast<int>(session.files.size());
         session.files.append(file);

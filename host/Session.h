@@ -6,6 +6,14 @@
 #include <QList>
 #include <QString>
 
+enum class SessionPanes : int
+{
+    One,
+    Below,
+    Beside,
+};
+
+// A tab. A file with several tabs is there as often.
 struct SessionFile
 {
     QString path;          // absolute
@@ -13,6 +21,7 @@ struct SessionFile
     long caretLine = 0;    // lines count from 0, and may lie behind the end of a file that changed
     long firstVisible = 0; // the line at the top of the window
     bool readOnly = false; // by the user's choice
+    SessionPanes panes = SessionPanes::One;
 
     bool operator==(const SessionFile&) const = default;
 };
@@ -31,8 +40,7 @@ struct Session
 
     QByteArray ToBytes() const;
     // Nothing in the bytes is trusted: what is out of range has its default, an entry without a
-    // usable path is left out, a path that is there twice counts once. Bytes that cannot be read
-    // at all are an empty session.
+    // usable path is left out. Bytes that cannot be read at all are an empty session.
     static Session FromBytes(const QByteArray& bytes);
 
     // In a file of its own, which is replaced as a whole or stays as it was. False if it could not

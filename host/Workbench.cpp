@@ -77,7 +77,7 @@ ScriptDoc* Workbench::FindOpen(const QString& path) const
 bool Workbench::MayOpen(const QString& path)
 {
     if (!m_guard.IsSuspect(path) ||
-        GetPrompts().Confirm(WindowOf(*this), OpenAgainQuestion(path), QStringLiteral("Open")))
+        GetPrompts().Confirm(WindowOf(*this), OpenAgainQuestion(path), QStringLiteral("&Open")))
         return true;
     m_guard.Acquit(path);
     return false;
@@ -130,8 +130,11 @@ void Workbench::OnOpen()
 
 void Workbench::OnOpenAs()
 {
-    const std::optional<OpenChoice> choice =
-        GetPrompts().WhatToOpen(WindowOf(*this), FolderToStartIn(ActiveScript()));
+    // A script that looks wrong is the one that is meant most of the time.
+    const ScriptDoc* script = ActiveScript();
+    const bool hasFile = script && !script->GetPathName().isEmpty();
+    const std::optional<OpenChoice> choice = GetPrompts().WhatToOpen(
+        WindowOf(*this), hasFile ? script->GetPathName() : FolderToStartIn(script));
     if (choice)
         OpenScript(choice->path, choice->encoding);
 }

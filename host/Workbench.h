@@ -33,7 +33,8 @@ public:
     bool CanSaveAll() const;
 
     std::vector<ScriptDoc*> Scripts() const;
-    ScriptDoc* ActiveScript() const; // null if there is none
+    ScriptDoc* ActiveScript() const;                // null if there is none
+    ScriptDoc* FindOpen(const QString& path) const; // null if it is not open
     RecentFiles& Recent() { return m_recent; }
 
 protected:
@@ -43,7 +44,6 @@ private:
     void OnOpen();
     void OnOpenAs();
     bool MayOpen(const QString& path);
-    ScriptDoc* FindOpen(const QString& path) const;
 
     Keeps m_keeps;
     OpenGuard m_guard;

@@ -11,5 +11,6 @@ enum Id : UINT
     SplitBelow, // two panes, one below the other; or one again
     SplitBeside,
     OtherPane, // the focus goes there
+    CloseFind,
 };
 } // namespace command

@@ -125,6 +125,8 @@ QString TakeVariables(const QStringList& definitions, Arguments& arguments)
         if (!IsName(name))
             return QStringLiteral("--define needs NAME=VALUE, and “%1” is not of that form.")
                 .arg(definition);
+        if (equals + 1 == definition.size()) // the table's sign for a name that nobody knows
+            return QStringLiteral("--define needs a value, and “%1” has none.").arg(definition);
         arguments.variables.emplace(QLatin1String("&&") + name, definition.mid(equals + 1));
     }
     return {};
@@ -178,6 +180,20 @@ QString WhatIsWrong(const Arguments& arguments, const CommandRow& command)
     return {};
 }
 
+// The parser puts the options before the command, where they are not understood.
+QString HelpText(const QCommandLineParser& parser, const CommandRow& command)
+{
+    const QString name = QLatin1String(command.name);
+    return parser.helpText()
+        .replace(QCoreApplication::arguments().front(), QLatin1String("znscript"))
+        .replace(QLatin1String("[options] ") + name, name + QLatin1String(" [options]"));
+}
+
+QString Sentence(const QString& text)
+{
+    return text.endsWith(u'.') ? text : text + u'.';
+}
+
 void ParseCommand(const QStringList& commandLine, const CommandRow& command, Arguments& arguments)
 {
     QCommandLineParser parser;
@@ -197,10 +213,9 @@ void ParseCommand(const QStringList& commandLine, const CommandRow& command, Arg
     const bool isParsed = parser.parse(commandLine);
     arguments.files = parser.positionalArguments().mid(1);
     if (parser.isSet(help))
-        arguments.help = parser.helpText().replace(QCoreApplication::arguments().front(),
-                                                   QLatin1String("znscript"));
+        arguments.help = HelpText(parser, command);
     else if (!isParsed)
-        arguments.error = parser.errorText() + u'.';
+        arguments.error = Sentence(parser.errorText());
     else
         arguments.error = TakeOptions(parser, command.options, arguments);
     if (arguments.help.isEmpty() && arguments.error.isEmpty())

@@ -5,6 +5,8 @@
 #include "script/Problems.h"
 #include "script/ScriptFile.h"
 
+#include <set>
+
 namespace {
 
 QString NameOf(const SourceLine& place, const QString& script)
@@ -22,6 +24,25 @@ void ReportFailures(CZNCoreEditorControlEx& control, const QString& script)
         for (const SourceLine& site : map.IncludedFrom(line))
             Report(NameOf(site, script), site.line, QStringLiteral("included from here"));
     }
+}
+
+// An included file may hold what is no text, of which the editor keeps what comes before.
+bool ReportIncludedFiles(CZNCoreEditorControlEx& control)
+{
+    const SourceMap& map = zncoreeditor::GetCompileManager()->GetSourceMap();
+    std::set<QString> paths;
+    for (long line = 0; line < control.GetLineCount(1); ++line)
+        paths.insert(map.Locate(line).path);
+    paths.erase(QString());
+    ScriptFile file;
+    bool areWhole = true;
+    for (const QString& path : paths) {
+        const QString problem = file.Read(path);
+        if (!problem.isEmpty())
+            Report(path, problem);
+        areWhole = areWhole && problem.isEmpty();
+    }
+    return areWhole;
 }
 
 // The line that was commented out ends in a lone carriage return before the text of its file.
@@ -58,6 +79,8 @@ int Expand(const Arguments& arguments)
         ReportFailures(control, script);
         return kProblems;
     }
+    if (!ReportIncludedFiles(control))
+        return kProblems;
     UnifyLineEnds(control, arguments);
     const int encoding = arguments.encoding.value_or(control.GetEncoding());
     if (const int line = file.FirstLineBeyond(encoding); line >= 0) {

@@ -16,6 +16,10 @@ bool ConvertFile(const QString& path, const Arguments& arguments)
         Report(path, problem);
         return false;
     }
+    if (const int line = file.FirstLineChanged(path); line >= 0) {
+        Report(path, line, QStringLiteral("a character is half of a pair, which cannot be kept"));
+        return false;
+    }
     if (const int line = file.FirstLineBeyond(*arguments.encoding); line >= 0) {
         Report(path, line, QStringLiteral("a character is not in windows-1252"));
         return false;

@@ -4,6 +4,7 @@
 #include "editing/Library.h"
 #include "encoding/FileEncodeConverter.h"
 #include "platform/Units.h"
+#include "script/Arguments.h"
 
 #include <QFile>
 #include <QFileInfo>
@@ -35,14 +36,39 @@ bool FitsSystemCodePage(std::u16string text)
     return std::count(bytes, bytes + size, '?') == asked;
 }
 
+// What is not UTF-8 in a name has become this.
+bool IsNameForeign(const QString& path)
+{
+    return path.contains(QChar::ReplacementCharacter);
+}
+
 QString WhyNotRead(const QString& path)
 {
     const QFileInfo info(path);
+    if (!info.exists() && IsNameForeign(path))
+        return QStringLiteral("a name that is not UTF-8 cannot be opened");
     if (!info.exists())
         return QStringLiteral("the file does not exist");
     if (info.isDir())
         return QStringLiteral("this is a folder");
+    if (!info.isFile())
+        return QStringLiteral("this is no file that can be read");
+    if (!info.isReadable())
+        return QStringLiteral("you may not read this file");
     return QStringLiteral("the file cannot be read");
+}
+
+QString WhyNotWritten(const QString& path)
+{
+    const QFileInfo info(path);
+    const QFileInfo folder(info.absolutePath());
+    if (info.isDir())
+        return QStringLiteral("the file cannot be written: this is a folder");
+    if (!folder.isDir())
+        return QStringLiteral("the file cannot be written: its folder does not exist");
+    if (!folder.isWritable() || (info.exists() && !info.isWritable()))
+        return QStringLiteral("the file cannot be written: you may not write there");
+    return QStringLiteral("the file cannot be written: the disk may be full");
 }
 
 } // namespace
@@ -79,8 +105,37 @@ QString ScriptFile::Read(const QString& path)
         !m_control->OpenFile(Units(path), FileEncodeConverter::encUnknown))
         return WhyNotRead(path);
     m_control->EmptyUndoBuffer(1);
-    return m_control->WasCutShort() ? QStringLiteral("the file cannot be read to its end")
-                                    : QString();
+    return m_control->WasCutShort()
+               ? QStringLiteral("not all of it can be read as %1")
+                     .arg(QLatin1String(NameOfEncoding(Control().GetEncoding())))
+               : QString();
+}
+
+int ScriptFile::FirstLineChanged(const QString& path)
+{
+    const qsizetype place = m_control->GetText().indexOf(QChar::ReplacementCharacter);
+    return place < 0 || WritesWhatItRead(path) ? -1 : m_control->LineFromPosition(place, 1);
+}
+
+// The character that stands for what a text cannot hold may also stand in the file itself.
+bool ScriptFile::WritesWhatItRead(const QString& path)
+{
+    const QTemporaryDir folder;
+    const QString copy = folder.filePath(QStringLiteral("copy"));
+    if (!folder.isValid() ||
+        !Write(copy, Control().GetEncoding(), Control().GetWriteEncodingSig()).isEmpty())
+        return false;
+    QFile before(path);
+    QFile after(copy);
+    constexpr qint64 kBlock = 64 * 1024;
+    if (!before.open(QIODevice::ReadOnly) || !after.open(QIODevice::ReadOnly))
+        return false;
+    while (!before.atEnd()) {
+        const QByteArray block = before.read(kBlock);
+        if (block.isEmpty() || block != after.read(kBlock))
+            return false;
+    }
+    return after.atEnd();
 }
 
 QString ScriptFile::Write(const QString& path, int encoding, bool mark)
@@ -89,12 +144,14 @@ QString ScriptFile::Write(const QString& path, int encoding, bool mark)
         return WriteToOutput(encoding, mark);
     const bool isWritten = m_control->SaveFile(
         Units(path), static_cast<FileEncodeConverter::encodingType>(encoding), false, mark);
-    return isWritten ? QString() : QStringLiteral("the file cannot be written");
+    return isWritten ? QString() : WhyNotWritten(path);
 }
 
 QString ScriptFile::WriteToOutput(int encoding, bool mark)
 {
     const QTemporaryDir folder;
+    if (!folder.isValid())
+        return QStringLiteral("no file can be made in the folder for temporary files");
     QFile file(folder.filePath(QStringLiteral("output")));
     if (QString problem = Write(file.fileName(), encoding, mark); !problem.isEmpty())
         return problem;

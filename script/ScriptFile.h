@@ -23,6 +23,10 @@ public:
     // Empty if it is read as a whole, else a sentence that tells why it is not.
     QString Read(const QString& path);
 
+    // The first line, from 0, with a character that a save could not give back as it was read, as
+    // half of a surrogate pair; -1 if there is none. For a file just read.
+    int FirstLineChanged(const QString& path);
+
     // Empty if it is written, else a sentence. An empty path is the standard output.
     QString Write(const QString& path, int encoding, bool mark);
 
@@ -33,6 +37,7 @@ public:
     QString LineEnds();
 
 private:
+    bool WritesWhatItRead(const QString& path);
     QString WriteToOutput(int encoding, bool mark);
 
     QWidget m_parent;

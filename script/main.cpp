@@ -11,7 +11,8 @@
 
 namespace {
 
-// What the editor would ask or tell a person; nobody sits here.
+// What the editor would ask or tell a person; nobody sits here. What it tells is also known from
+// its results, which the commands report with the name of the file.
 class NoPerson final : public IUserQuestions
 {
 public:
@@ -20,8 +21,10 @@ public:
 
     Answer Ask(HWND /*owner*/, const QString& text, Buttons buttons) override
     {
+        if (buttons == Buttons::Ok)
+            return Answer::Ok;
         Report(QStringLiteral("znscript"), text);
-        return buttons == Buttons::YesNo ? Answer::No : Answer::Ok;
+        return Answer::No;
     }
 };
 
@@ -61,6 +64,15 @@ int Run(const Arguments& arguments)
     return kWrongUsage;
 }
 
+// A full disk or a reader that is gone shows at the last of it, if not before.
+int EndOutput(int result)
+{
+    if (result != kSuccess || (std::fflush(stdout) == 0 && !std::ferror(stdout)))
+        return result;
+    Report(QStringLiteral("znscript"), QStringLiteral("the output cannot be written"));
+    return kProblems;
+}
+
 } // namespace
 
 int main(int argc, char** argv)
@@ -74,7 +86,7 @@ int main(int argc, char** argv)
     const Arguments arguments = ParseArguments(QApplication::arguments());
     if (!arguments.help.isEmpty()) {
         std::printf("%s\n", qPrintable(arguments.help.trimmed()));
-        return kSuccess;
+        return EndOutput(kSuccess);
     }
     if (!arguments.error.isEmpty()) {
         Report(QStringLiteral("znscript"), arguments.error);
@@ -86,5 +98,5 @@ int main(int argc, char** argv)
                QStringLiteral("libZNBaseEditor.so has to stand beside libZNCoreEditor.so"));
         return kNoEditor;
     }
-    return Run(arguments);
+    return EndOutput(Run(arguments));
 }

@@ -65,8 +65,10 @@ void CZNCoreEditorView::OnInitialUpdate()
     CZNCoreEditorView* first = document->GetFirstEditView();
     if (first && first != this) {
         CZNCoreEditorControlEx& other = first->GetCoreEditorControlRef();
-        m_coreEditor.LineScroll(0, other.GetFirstVisibleLine(1), 1);
-        m_coreEditor.SetXOffset(other.GetXOffset(1), 1);
+        const int line = other.GetFirstVisibleLine(1);
+        const int offset = other.GetXOffset(1);
+        m_coreEditor.LineScroll(0, line, 1);
+        m_coreEditor.SetXOffset(offset, 1);
         m_coreEditor.InitializeLanguage(other.GetCurrentLanguage(), 0);
     } else {
         m_coreEditor.LineScroll(0, m_coreEditor.GetFirstVisibleLine(1), 1);
@@ -89,11 +91,12 @@ void CZNCoreEditorView::OnActivateView(int activate, CView* activated, CView* de
         m_coreEditor.AutoCCancel(0);
 }
 
+// The message's size may be one that the view has had.
 void CZNCoreEditorView::OnSize(UINT type, int cx, int cy)
 {
     constexpr UINT kNoSize = 6;
     if (cx > 0 && cy > 0 && type != kNoSize && m_coreEditor.GetSafeHwnd())
-        m_coreEditor.GetSafeHwnd()->setGeometry(0, 0, cx, cy);
+        m_coreEditor.GetSafeHwnd()->setGeometry(GetSafeHwnd()->rect());
 }
 
 // The only place where outside changes to the file are looked for.

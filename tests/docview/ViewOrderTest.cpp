@@ -213,7 +213,7 @@ TEST_F(ViewOrder, AFurtherViewTakesPlaceAndLanguageOfTheFirst)
     further->OnInitialUpdate();
     EXPECT_THAT(
         SentOf({"GetFirstVisibleLine", "GetXOffset", "LineScroll", "SetXOffset"}),
-        ElementsAre("GetFirstVisibleLine", "LineScroll 0 12", "GetXOffset", "SetXOffset 30"));
+        ElementsAre("GetFirstVisibleLine", "GetXOffset", "LineScroll 0 12", "SetXOffset 30"));
     EXPECT_EQ(further->GetCoreEditorControl()->GetCurrentLanguage(), 3);
     further->DestroyWindow();
 }

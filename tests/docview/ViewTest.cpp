@@ -104,6 +104,7 @@ TEST_F(View, HasItsControlOverAllOfIt)
     EXPECT_EQ(Control().GetSafeHwnd()->geometry(), QRect(0, 0, 300, 200));
     SendMessage(view->GetSafeHwnd(), WM_SIZE, 6, SizeParam(50, 50));
     SendMessage(view->GetSafeHwnd(), WM_SIZE, 0, SizeParam(0, 50));
+    SendMessage(view->GetSafeHwnd(), WM_SIZE, 0, SizeParam(50, 50));
     EXPECT_EQ(Control().GetSafeHwnd()->geometry(), QRect(0, 0, 300, 200));
 }
 

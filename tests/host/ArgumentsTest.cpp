@@ -48,5 +48,5 @@ TEST(CommandLine, TellsItsOptionsWhenAskedForHelp)
 {
     EXPECT_TRUE(Parse({"--help"}).help.contains(QStringLiteral("--screenshot")));
     EXPECT_TRUE(Parse({"-h"}).help.contains(QStringLiteral("--screenshot")));
-    EXPECT_TRUE(Parse({"-h"}).help.contains(QStringLiteral("[FILE[:LINE]...]")));
+    EXPECT_TRUE(Parse({"-h"}).help.contains(QStringLiteral("[FILE[:LINE[:COLUMN]]...]")));
 }

@@ -1,5 +1,6 @@
 // A workbench in which somebody types into the given script, and which is killed as soon as the
-// copy of that has been written.
+// copy of that has been written. With a second word it is killed as soon as a file that it opens
+// makes it say something.
 #include "editing/ZNCoreEditorControlEx.h"
 #include "host/MainWindow.h"
 #include "host/ScriptFrame.h"
@@ -11,10 +12,38 @@
 
 #include <csignal>
 
+namespace {
+
+class Death final : public IUserQuestions
+{
+public:
+    Answer Ask(HWND /*owner*/, const QString& /*text*/, Buttons /*buttons*/) override
+    {
+        std::raise(SIGKILL);
+        return Answer::No;
+    }
+};
+
+int DieOpening(const QString& path)
+{
+    Death death;
+    SetUserQuestions(&death);
+    Workbench app(Workbench::Keeps::Places);
+    auto* window = new MainWindow(app);
+    window->show();
+    app.OpenDocumentFile(path);
+    SetUserQuestions(nullptr);
+    return 1;
+}
+
+} // namespace
+
 int main(int argc, char** argv)
 {
     QApplication application(argc, argv);
     QApplication::setApplicationName(QStringLiteral("znworkbench"));
+    if (argc > 2)
+        return DieOpening(QApplication::arguments().at(1));
     const ScriptedPrompts prompts;
     Workbench app(Workbench::Keeps::Nothing);
     auto* window = new MainWindow(app);

@@ -28,6 +28,29 @@ TEST_F(EditingMenus, FollowTheRulesOfTheEditor)
     EXPECT_TRUE(Action("nextBookmark").isEnabled());
 }
 
+TEST_F(EditingMenus, AreRuledByTheView)
+{
+    Open("orders.sql", "select (1);\n");
+    Editor().SetSel(0, 0, 1);
+    Q_EMIT Script().StateChanged();
+    EXPECT_FALSE(Action("selectToBrace").isEnabled());
+    EXPECT_FALSE(Action("firstBookmark").isEnabled());
+    EXPECT_FALSE(Action("swapEnds").isEnabled());
+    EXPECT_FALSE(Action("indent").isEnabled()) << "without a selection";
+    Editor().SetSel(0, 7, 1);
+    Trigger("bookmark");
+    Q_EMIT Script().StateChanged();
+    for (const char* name : {"selectToBrace", "firstBookmark", "swapEnds", "indent", "trim"})
+        EXPECT_TRUE(Action(name).isEnabled()) << name;
+    Editor().SetReadOnly(1, 1);
+    Q_EMIT Script().StateChanged();
+    for (const char* name :
+         {"commentLines", "comment", "indent", "upperCase", "trim", "deleteWord"})
+        EXPECT_FALSE(Action(name).isEnabled()) << name;
+    for (const char* name : {"firstBookmark", "nextBookmark", "selectLine", "swapEnds"})
+        EXPECT_TRUE(Action(name).isEnabled()) << name;
+}
+
 TEST_F(EditingMenus, OfferNothingWithoutAScript)
 {
     while (Action("close").isEnabled())

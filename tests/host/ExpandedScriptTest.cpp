@@ -2,10 +2,12 @@
 #include "host/ExpandedScript.h"
 #include "editing/ZNCoreEditorWidget.h"
 #include "host/OptionsDialog.h"
+#include "host/ProblemPane.h"
 #include "platform/OptionsServer.h"
 #include "tests/host/WorkbenchTest.h"
 
 #include <QLineEdit>
+#include <QTest>
 #include <QTreeWidget>
 
 namespace {
@@ -38,6 +40,16 @@ TEST_F(ExpandedScripts, StandBesideTheScript)
     EXPECT_FALSE(Errors().isVisible());
 }
 
+TEST_F(ExpandedScripts, ScrollSidewaysAsFarAsTheirLinesReach)
+{
+    Open("main.sql", "#define &&A 1\nselect &&A\n");
+    Trigger("expand");
+    EXPECT_LT(Result().GetScrollWidth(1), 400);
+    Open("long.sql", "#define &&A 1\n" + QByteArray("x").repeated(1000) + " &&A\n");
+    Trigger("expand");
+    EXPECT_GT(Result().GetScrollWidth(1), 4000);
+}
+
 TEST_F(ExpandedScripts, LeaveTheScriptAsItIs)
 {
     Open("main.sql", "#define &&A 1\nselect &&A\n");
@@ -57,7 +69,34 @@ TEST_F(ExpandedScripts, ListWhatCannotBeIncluded)
     EXPECT_EQ(Errors().topLevelItem(0)->text(0), "2");
     EXPECT_EQ(Errors().topLevelItem(0)->text(1),
               "Unable to open the included file 'gone.sql': No such file or directory");
+    EXPECT_EQ(Errors().topLevelItem(0)->toolTip(1), Errors().topLevelItem(0)->text(1));
     EXPECT_TRUE(Errors().isVisible());
+}
+
+TEST_F(ExpandedScripts, TellWhereFilesAreLookedForIfOneIsMissing)
+{
+    Open("main.sql", "#include gone.sql\n");
+    Trigger("expand");
+    EXPECT_TRUE(m_window.findChild<QLabel*>("includeHint")->isVisible());
+    Write("gone.sql", "part\n");
+    Trigger("expand");
+    EXPECT_FALSE(m_window.findChild<QLabel*>("includeHint")->isVisible());
+}
+
+TEST_F(ExpandedScripts, OfferWhatIsPossible)
+{
+    EXPECT_FALSE(Action("goToSource").isEnabled());
+    EXPECT_FALSE(Action("putOriginalBack").isEnabled());
+    Open("plain.sql", "select 1\n");
+    Trigger("expand");
+    EXPECT_TRUE(Action("goToSource").isEnabled());
+    EXPECT_FALSE(Action("putOriginalBack").isEnabled()); // nothing was expanded
+    Open("main.sql", "#define &&A 1\n");
+    Trigger("expand");
+    EXPECT_TRUE(Action("putOriginalBack").isEnabled());
+    Trigger("putOriginalBack");
+    EXPECT_FALSE(Action("putOriginalBack").isEnabled());
+    EXPECT_EQ(Pane().windowTitle(), QStringLiteral("Original Script – main.sql"));
 }
 
 TEST_F(ExpandedScripts, LeadToTheLineOfAnIncludedFile)
@@ -83,6 +122,36 @@ TEST_F(ExpandedScripts, LeadFromAnErrorToItsLine)
     ASSERT_EQ(Errors().topLevelItemCount(), 1);
     Q_EMIT Errors().itemActivated(Errors().topLevelItem(0), 0);
     EXPECT_EQ(Script().Name(), "part.sql");
+    EXPECT_EQ(Editor().LineFromPosition(Editor().GetCurrentPos(1), 1), 1);
+}
+
+TEST_F(ExpandedScripts, AreReachedAndLeftByKeys)
+{
+    Open("main.sql", "\n#include gone.sql\n");
+    Trigger("expand");
+    QWidget* text = Editor().GetSafeHwnd();
+    ASSERT_EQ(m_window.focusWidget(), text);
+    Trigger("nextArea");
+    EXPECT_EQ(m_window.focusWidget(), Result().GetSafeHwnd());
+    Trigger("nextArea");
+    EXPECT_EQ(m_window.focusWidget(), &Errors());
+    Trigger("nextArea");
+    EXPECT_EQ(m_window.focusWidget(), m_window.findChild<ProblemPane*>()->ListArea());
+    Trigger("nextArea");
+    EXPECT_EQ(m_window.focusWidget(), text);
+
+    for (const int steps : {1, 2, 3}) {
+        for (int i = 0; i < steps; ++i)
+            Trigger("nextArea");
+        ASSERT_NE(m_window.focusWidget(), text);
+        QTest::keyClick(m_window.focusWidget(), Qt::Key_Escape);
+        EXPECT_EQ(m_window.focusWidget(), text) << steps;
+    }
+
+    Trigger("nextArea");
+    Result().GotoLine(1, 1);
+    QTest::keyClick(Result().GetSafeHwnd(), Qt::Key_Return);
+    EXPECT_EQ(m_window.focusWidget(), text);
     EXPECT_EQ(Editor().LineFromPosition(Editor().GetCurrentPos(1), 1), 1);
 }
 

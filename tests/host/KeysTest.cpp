@@ -3,8 +3,10 @@
 #include "platform/docview/ActionUI.h"
 #include "tests/host/WorkbenchTest.h"
 
+#include <QAbstractButton>
 #include <QKeyEvent>
 #include <QMap>
+#include <QMenuBar>
 
 namespace {
 
@@ -49,6 +51,36 @@ protected:
 };
 
 } // namespace
+
+TEST_F(Keys, OfLettersStandForOneEntryInEachMenu)
+{
+    QList<QWidget*> menus = {m_window.menuBar()};
+    for (QMenu* menu : m_window.findChildren<QMenu*>())
+        menus << menu;
+    for (const QWidget* menu : menus) {
+        QMap<QString, QString> letters;
+        for (const QAction* action : menu->actions()) {
+            const QString letter = QKeySequence::mnemonic(action->text()).toString();
+            EXPECT_FALSE(!letter.isEmpty() && letters.contains(letter))
+                << letters[letter].toStdString() << " and " << action->text().toStdString();
+            letters[letter] = action->text();
+        }
+    }
+}
+
+TEST_F(Keys, OfLettersInTheFindBarStandForOneControlAndNoMenu)
+{
+    QMap<QString, QString> letters;
+    for (const QAction* menu : m_window.menuBar()->actions())
+        letters[QKeySequence::mnemonic(menu->text()).toString()] = menu->text();
+    for (const auto* button : m_window.findChild<FindBar*>()->findChildren<QAbstractButton*>()) {
+        const QString letter = QKeySequence::mnemonic(button->text()).toString();
+        EXPECT_FALSE(letter.isEmpty()) << button->text().toStdString();
+        EXPECT_FALSE(letters.contains(letter))
+            << letters[letter].toStdString() << " and " << button->text().toStdString();
+        letters[letter] = button->text();
+    }
+}
 
 TEST_F(Keys, StandForOneActionOfTheMenusEach)
 {
@@ -140,6 +172,31 @@ TEST_F(Keys, FindThroughTheBar)
     EXPECT_FALSE(m_window.Find().isVisible());
     Press(Qt::Key_F, Qt::ControlModifier);
     EXPECT_TRUE(m_window.Find().isVisible());
+}
+
+TEST_F(Keys, TellWhatTheyDoNotFind)
+{
+    Open("a.sql", "abc def abc\n");
+    Press(Qt::Key_F3, Qt::ControlModifier);
+    EXPECT_FALSE(m_window.Find().isVisible());
+    Editor().ReplaceSel(u"x", 1);
+    Editor().SetSel(0, 3, 1);
+    Editor().ReplaceSel(u"x", 1);
+    Press(Qt::Key_F3);
+    EXPECT_TRUE(m_window.Find().isVisible());
+    EXPECT_EQ(Status("findResult"), "Not found");
+}
+
+TEST_F(Keys, CloseTheFindBarFromTheText)
+{
+    Open("a.sql", "abc def abc\n");
+    Press(Qt::Key_F, Qt::ControlModifier);
+    Editor().UserListShow(1, u"abc", 1);
+    Press(Qt::Key_Escape);
+    EXPECT_TRUE(m_window.Find().isVisible()) << "the list comes first";
+    Editor().AutoCCancel(1);
+    Press(Qt::Key_Escape);
+    EXPECT_FALSE(m_window.Find().isVisible());
 }
 
 TEST_F(Keys, OfTheKeyTableAloneReachTheBarTooAndSoDoMenusOfAView)

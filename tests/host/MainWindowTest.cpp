@@ -88,6 +88,9 @@ TEST_F(MainWindows, TellsWhyAScriptDoesNotOpen)
     m_prompts.filesToOpen = QStringList{PathOf("no.sql")};
     Trigger("open");
     EXPECT_EQ(m_prompts.told.size(), 3);
+
+    EXPECT_FALSE(m_app.OpenDocumentFile(PathOf(QStringLiteral("a\uFFFD.sql"))));
+    EXPECT_TRUE(m_prompts.told.last().contains(QStringLiteral("not UTF-8")));
 }
 
 TEST_F(MainWindows, SavesInTheEncodingOfTheFile)
@@ -183,6 +186,8 @@ TEST_F(MainWindows, AsksBeforeCharactersBecomeQuestionMarks)
     EXPECT_TRUE(m_prompts.asked[0].contains(u'\u0142'));
     EXPECT_TRUE(m_prompts.asked[0].contains(QStringLiteral("line 1")));
     EXPECT_EQ(Read("a.sql"), QByteArray("caf\xE9\n"));
+    EXPECT_EQ(Editor().GetSelectionStart(1), 0) << "the character is shown";
+    EXPECT_EQ(Editor().GetSelectionEnd(1), 1);
 
     m_prompts.loseCharacters = LoseCharacters::SaveAnyway;
     EXPECT_TRUE(Script().DoFileSave());

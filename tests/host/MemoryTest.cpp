@@ -107,6 +107,42 @@ TEST_F(Memory, BringsBackTheScriptsTheirPlacesAndTheOneInFront)
     EXPECT_EQ(m_window->size(), QSize(900, 500));
 }
 
+TEST_F(Memory, DoesNotShowAnExpandedScriptThatIsNoMore)
+{
+    Start();
+    ASSERT_TRUE(m_app->OpenDocumentFile(Write("a.sql", "#define &&A 1\n")));
+    m_window->findChild<QAction*>("expand")->trigger();
+    ASSERT_TRUE(m_window->findChild<QWidget*>("expandedScript")->isVisible());
+    End();
+    Start();
+    EXPECT_FALSE(m_window->findChild<QWidget*>("expandedScript")->isVisible());
+}
+
+TEST_F(Memory, BringsBackPanesAndFurtherTabs)
+{
+    Start();
+    ASSERT_TRUE(m_app->OpenDocumentFile(Write("a.sql", QByteArray("x\n").repeated(300))));
+    m_window->CurrentFrame()->Split(Qt::Vertical);
+    m_window->CurrentFrame()->NewView();
+    m_window->CurrentFrame()->View()->GoToLine(200);
+    m_window->CurrentFrame()->Split(Qt::Horizontal);
+    ASSERT_TRUE(m_app->OpenDocumentFile(Write("b.sql", "b\n")));
+    m_window->ShowTab(1);
+    End();
+
+    Start();
+    ASSERT_EQ(m_window->TabCount(), 3);
+    EXPECT_EQ(m_app->Scripts().size(), 2U);
+    EXPECT_EQ(m_window->CurrentFrame()->Caption(), "a.sql:2");
+    EXPECT_EQ(Editor().LineFromPosition(Editor().GetCurrentPos(1), 1), 200);
+    EXPECT_TRUE(m_window->CurrentFrame()->IsSplit());
+    EXPECT_EQ(m_window->CurrentFrame()->SplitOrientation(), Qt::Horizontal);
+    m_window->ShowTab(0);
+    EXPECT_EQ(m_window->CurrentFrame()->SplitOrientation(), Qt::Vertical);
+    m_window->ShowTab(2);
+    EXPECT_FALSE(m_window->CurrentFrame()->IsSplit());
+}
+
 TEST_F(Memory, PassesOverAFileThatIsGone)
 {
     Start();

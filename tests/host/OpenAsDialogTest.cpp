@@ -15,6 +15,19 @@ TEST(OpenAsDialog, DetectsTheEncodingUnlessOneIsChosen)
     EXPECT_EQ(dialog.directory().path(), folder.path());
 }
 
+TEST(OpenAsDialog, BeginsWithTheFileThatItIsGiven)
+{
+    const QTemporaryDir folder;
+    for (const char* name : {"a.sql", "b.txt"}) {
+        const QString path = folder.filePath(QLatin1String(name));
+        QFile file(path);
+        ASSERT_TRUE(file.open(QIODevice::WriteOnly));
+        const OpenAsDialog dialog(nullptr, path);
+        EXPECT_EQ(dialog.Choice().path, path);
+        EXPECT_EQ(dialog.selectedNameFilter().startsWith("All"), path.endsWith(".txt"));
+    }
+}
+
 TEST(OpenAsDialog, OffersEveryEncodingOnceAndAnswersTheChosenOne)
 {
     const QTemporaryDir folder;

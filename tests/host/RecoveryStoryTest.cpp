@@ -13,16 +13,18 @@ namespace {
 class RecoveryStory : public testing::Test
 {
 protected:
-    void SetUp() override
+    void SetUp() override { Recover("select 1;\n", {Path()}); }
+
+    void Recover(const QByteArray& bytes, const QStringList& words)
     {
         ASSERT_FALSE(qEnvironmentVariableIsEmpty("DISPLAY"));
         QFile file(Path());
         ASSERT_TRUE(file.open(QIODevice::WriteOnly));
-        file.write("select 1;\n");
+        file.write(bytes);
         file.close();
         QProcess crashing;
         crashing.setProcessEnvironment(OwnPlaces(m_folder.path()));
-        crashing.start(QStringLiteral(ZN_CRASHING_WORKBENCH), {Path()});
+        crashing.start(QStringLiteral(ZN_CRASHING_WORKBENCH), words);
         ASSERT_TRUE(crashing.waitForFinished(kPatienceInMs));
         ASSERT_EQ(crashing.exitStatus(), QProcess::CrashExit);
 
@@ -69,6 +71,19 @@ protected:
     QProcess m_workbench;
 };
 
+// The file ends within a character, of which the workbench tells while it opens it.
+class DeathStory : public RecoveryStory
+{
+protected:
+    void SetUp() override
+    {
+        Recover(QByteArray("\xFF\xFE"
+                           "a\0b",
+                           5),
+                {Path(), QStringLiteral("opening")});
+    }
+};
+
 } // namespace
 
 TEST_F(RecoveryStory, YesBringsBackWhatWasTyped)
@@ -80,6 +95,15 @@ TEST_F(RecoveryStory, YesBringsBackWhatWasTyped)
     XDoTool({"key", "ctrl+s"});
     EXPECT_TRUE(Eventually([this] { return Read() == "-- typed\nselect 1;\n"; }))
         << Read().toStdString();
+}
+
+TEST_F(DeathStory, AFileThatTheLastRunDiedOnIsOpenedOnlyWhenThePersonSaysSo)
+{
+    XDoTool({"windowfocus", "--sync", Visible("znworkbench").last()});
+    XDoTool({"key", "Escape"});
+    EXPECT_TRUE(Eventually([] { return !Visible("Script 1").isEmpty(); })) << "no empty script";
+    EXPECT_TRUE(Visible("story.sql").isEmpty());
+    EXPECT_EQ(m_workbench.state(), QProcess::Running);
 }
 
 TEST_F(RecoveryStory, NoKeepsWhatIsInTheFile)

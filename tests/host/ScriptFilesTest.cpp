@@ -112,6 +112,10 @@ TEST_F(ScriptFiles, OpenAtTheLineThatTheCommandLineNames)
     EXPECT_TRUE(m_window.OpenPlaces({path + ":3", other}));
     EXPECT_EQ(Script().Name(), "a.sql") << "the first of them is in front";
     EXPECT_EQ(Status("caret"), "Line 3, column 1");
+    EXPECT_TRUE(m_window.OpenPlaces({path + ":2:3:"}));
+    EXPECT_EQ(Editor().GetCurrentPos(1), 6);
+    EXPECT_TRUE(m_window.OpenPlaces({path + ":1:2147483647"}));
+    EXPECT_EQ(Editor().GetCurrentPos(1), 3) << "the line's end";
     EXPECT_FALSE(m_window.OpenPlaces({PathOf("gone.sql:3")}));
     EXPECT_TRUE(m_prompts.told.value(0).contains("gone.sql” does not exist"));
 }
@@ -189,6 +193,24 @@ TEST_F(ScriptFiles, ThatOthersRewriteAreReadAgainOnYes)
     EXPECT_FALSE(Script().IsModified());
     LeaveAndComeBack();
     EXPECT_EQ(m_prompts.told.size(), 1);
+}
+
+TEST_F(ScriptFiles, ThatOthersRewriteAreNotReplacedWithoutAQuestion)
+{
+    Open("a.sql", "old");
+    Type(u"x");
+    WriteFromOutside("a.sql", "new");
+    EXPECT_FALSE(Script().DoFileSave());
+    EXPECT_EQ(Read("a.sql"), "new");
+    EXPECT_TRUE(Script().IsModified());
+    ASSERT_EQ(m_prompts.asked.size(), 1);
+    EXPECT_TRUE(m_prompts.asked[0].contains("changed outside"));
+    m_prompts.confirm = true;
+    EXPECT_TRUE(Script().DoFileSave());
+    EXPECT_EQ(Read("a.sql"), "xold");
+    Type(u"y");
+    EXPECT_TRUE(Script().DoFileSave());
+    EXPECT_EQ(m_prompts.asked.size(), 2) << "the own save is no change from outside";
 }
 
 TEST_F(ScriptFiles, ThatOthersRewriteAreNotLostAfterANo)

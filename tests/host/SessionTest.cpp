@@ -16,7 +16,10 @@ Session Example()
 {
     Session session;
     session.files = {{.path = "/x/a.sql", .encoding = 6, .caretLine = 120, .firstVisible = 100},
-                     {.path = "/x/\u00E9 \"b\".sql", .caretLine = INT_MAX, .readOnly = true}};
+                     {.path = "/x/\u00E9 \"b\".sql",
+                      .caretLine = INT_MAX,
+                      .readOnly = true,
+                      .panes = SessionPanes::Beside}};
     session.front = 1;
     session.geometry = QByteArray("\0\1geometry", 10);
     session.state = "state";
@@ -102,9 +105,10 @@ TEST(SessionData, LeavesOutWhatNoFileIsCalled)
         R"({"front":5,"files":[{"path":"a.sql"},{"path":""},{"path":"/x/\u0000"},{"path":"/x/\ud800"},{"path":"/)" +
         QByteArray(10000, 'x') +
         R"("},{"path":"/x/a.sql"},{"path":"/x/a.sql"},{"path":"/x/b.sql"}]})");
-    ASSERT_EQ(session.files.size(), 2);
+    ASSERT_EQ(session.files.size(), 3);
     EXPECT_EQ(session.files[0].path, "/x/a.sql");
-    EXPECT_EQ(session.files[1].path, "/x/b.sql");
+    EXPECT_EQ(session.files[1].path, "/x/a.sql"); // in a second tab
+    EXPECT_EQ(session.files[2].path, "/x/b.sql");
     EXPECT_EQ(session.front, 0); // that of /x/a.sql, which has moved up
 }
 
@@ -114,7 +118,8 @@ TEST(SessionData, BringsNumbersIntoTheirRange)
     for (const char* members :
          {R"("caretLine":-1,"firstVisible":-5,"encoding":-2)", R"("caretLine":1e30)",
           R"("caretLine":"7","encoding":"6")", R"("encoding":3)", R"("encoding":12)",
-          R"("firstVisible":2147483648)", R"("caretLine":1.5)", R"("readOnly":"yes")"}) {
+          R"("firstVisible":2147483648)", R"("caretLine":1.5)", R"("readOnly":"yes")",
+          R"("panes":3)", R"("panes":-1)", R"("panes":"1")"}) {
         const Session session = Read(WithFile(members));
         ASSERT_EQ(session.files.size(), 1) << members;
         EXPECT_EQ(session.files[0], plain) << members;

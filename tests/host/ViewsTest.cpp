@@ -75,6 +75,19 @@ TEST_F(Views, BeginAtThePlaceOfTheOther)
     EXPECT_GT(Editor().GetMarginWidthN(1, 1), 0);
 }
 
+TEST_F(Views, BeginAtThePlaceOfTheOneThatIsDividedNotOfTheFirst)
+{
+    Open("a.sql", QByteArray("line\n").repeated(400));
+    Trigger("newView");
+    Frame().View()->GoToLine(300);
+    const int top = Editor().GetFirstVisibleLine(1);
+    for (const char* command : {"splitBeside", "newView"}) {
+        Trigger(command);
+        EXPECT_EQ(Editor().LineFromPosition(Editor().GetCurrentPos(1), 1), 300) << command;
+        EXPECT_EQ(Editor().GetFirstVisibleLine(1), top) << command;
+    }
+}
+
 TEST_F(Views, TakeTheFocusFromEachOther)
 {
     Open("a.sql", "one\n");

@@ -205,6 +205,19 @@ TEST_F(WindowStory, AFileThatOthersChangeIsReadAgainOnYes)
         << Read().toStdString();
 }
 
+TEST_F(WindowStory, AFileThatOthersChangeIsNotSavedOverWithoutAYes)
+{
+    Keys({"ctrl+Home"});
+    Type(QStringLiteral("mine "));
+    ASSERT_TRUE(Eventually([this] { return Title().contains(u'*'); }));
+    WriteFromOutside("from outside\n");
+    Keys({"ctrl+s"});
+    ASSERT_NO_FATAL_FAILURE(Answer("alt+o"));
+    EXPECT_TRUE(Eventually([this] { return Read() == "mine select 1;\nselect 2;\n"; }))
+        << Read().toStdString();
+    EXPECT_TRUE(Eventually([this] { return !Title().contains(u'*'); })) << Title().toStdString();
+}
+
 TEST_F(WindowStory, AFileThatOthersDeleteIsKeptOnNoAndSavedAgain)
 {
     QFile::remove(Path());

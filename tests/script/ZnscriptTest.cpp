@@ -19,9 +19,11 @@ struct Outcome
 class Znscript : public testing::Test
 {
 protected:
-    Outcome Start(const QStringList& words) const
+    Outcome Start(const QStringList& words, const QString& output = QString()) const
     {
         QProcess program;
+        if (!output.isEmpty())
+            program.setStandardOutputFile(output);
         QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
         for (const char* name : {"QT_QPA_PLATFORM", "DISPLAY", "WAYLAND_DISPLAY"})
             environment.remove(QLatin1String(name));
@@ -92,6 +94,19 @@ TEST_F(Znscript, TellsFailuresWhereTheUserWroteThem)
                                      "No such file or directory\n");
 }
 
+TEST_F(Znscript, WritesNothingOfAScriptThatIncludesWhatIsNoText)
+{
+    Write("main.sql", "#include cut.sql\n#include whole.sql\n");
+    Write("cut.sql", QByteArray("\xFF\xFE"
+                                "a\0b",
+                                5));
+    Write("whole.sql", "select 1;\n");
+    const Outcome outcome = Start({"expand", "--path", ".", "main.sql"});
+    EXPECT_EQ(outcome.exitCode, 1);
+    EXPECT_EQ(outcome.output, "");
+    EXPECT_EQ(outcome.errors, "./cut.sql: not all of it can be read as utf-16le\n");
+}
+
 TEST_F(Znscript, WritesTheResultInTheEncodingAskedFor)
 {
     Write("main.sql", "\xC3\xA4 \xE2\x82\xAC");
@@ -109,7 +124,21 @@ TEST_F(Znscript, WritesTheResultToAFile)
     EXPECT_EQ(outcome.exitCode, 0);
     EXPECT_EQ(outcome.output, "");
     EXPECT_EQ(Read("result.sql"), "--#define &&A 1\r\n1\r\n");
-    EXPECT_EQ(Start({"expand", "--output", "no/where.sql", "main.sql"}).exitCode, 1);
+}
+
+TEST_F(Znscript, TellsWhyTheResultCannotBeWritten)
+{
+    Write("main.sql", "select 1;\n");
+    const auto errorsOf = [this](const QString& output) {
+        const Outcome outcome = Start({"expand", "--output", output, "main.sql"});
+        EXPECT_EQ(outcome.exitCode, 1);
+        return outcome.errors;
+    };
+    EXPECT_EQ(errorsOf("no/where.sql"),
+              "no/where.sql: the file cannot be written: its folder does not exist\n");
+    EXPECT_EQ(errorsOf("."), ".: the file cannot be written: this is a folder\n");
+    EXPECT_EQ(errorsOf("/dev/full"),
+              "/dev/full: the file cannot be written: the disk may be full\n");
 }
 
 TEST_F(Znscript, KnowsTheLanguagesOfTheEditor)
@@ -140,6 +169,28 @@ TEST_F(Znscript, KeepsAFileThatTheEncodingCannotHold)
     EXPECT_EQ(outcome.errors, "a.sql:2: a character is not in windows-1252\n");
     EXPECT_EQ(Read("a.sql"), "a\nb \xE4\xB8\xAD?\n");
     EXPECT_EQ(Read("b.sql"), "\xE4?"); // the others are converted all the same
+}
+
+TEST_F(Znscript, KeepsAFileThatAConversionWouldChange)
+{
+    const QByteArray half("\xFF\xFE"
+                          "a\0\n\0\x00\xD8"
+                          "b\0",
+                          10);
+    Write("half.sql", half);
+    Write("sign.sql", "\xEF\xBB\xBF\xEF\xBF\xBD");
+    Write("cut.sql", QByteArray("\xFF\xFE"
+                                "a\0b",
+                                5));
+    const Outcome outcome = Start({"convert", "--to", "utf-8", "half.sql", "sign.sql", "cut.sql"});
+    EXPECT_EQ(outcome.exitCode, 1);
+    EXPECT_EQ(outcome.errors, "half.sql:2: a character is half of a pair, which cannot be kept\n"
+                              "cut.sql: not all of it can be read as utf-16le\n");
+    EXPECT_EQ(Read("half.sql"), half.toStdString());
+    EXPECT_EQ(Read("sign.sql"), "\xEF\xBF\xBD"); // the character itself is one like any other
+    EXPECT_EQ(Read("cut.sql"), std::string("\xFF\xFE"
+                                           "a\0b",
+                                           5));
 }
 
 TEST_F(Znscript, DetectsEncodingsAndLineEnds)
@@ -232,6 +283,7 @@ TEST_F(Znscript, RefusesACommandLineThatIsWrong)
           QStringList{"expand", "a", "b"}, QStringList{"expand", "--what", "a"},
           QStringList{"expand", "--define", "A", "a"},
           QStringList{"expand", "--define", "A-B=1", "a"},
+          QStringList{"expand", "--define", "A=", "a"}, QStringList{"expand", "--path"},
           QStringList{"expand", "--encoding", "ebcdic", "a"}, QStringList{"convert", "a"},
           QStringList{"convert", "--to", "utf-8", "--eol", "nel", "a"},
           QStringList{"convert", "--to", "windows-1252", "--mark", "a"}, QStringList{"detect"},
@@ -239,7 +291,26 @@ TEST_F(Znscript, RefusesACommandLineThatIsWrong)
         const Outcome outcome = Start(words);
         EXPECT_EQ(outcome.exitCode, 2) << words.join(' ').toStdString();
         EXPECT_EQ(outcome.errors.find("znscript: "), 0U) << outcome.errors;
+        EXPECT_EQ(outcome.errors.find(".."), std::string::npos) << outcome.errors;
         EXPECT_EQ(outcome.output, "");
+    }
+}
+
+TEST_F(Znscript, HelpsWithACommandLineThatIsRight)
+{
+    const std::string help = Start({"expand", "--help"}).output;
+    EXPECT_EQ(help.find("Usage: znscript expand [options] FILE\n"), 0U) << help;
+}
+
+TEST_F(Znscript, TellsThatItsOutputCannotBeWritten)
+{
+    Write("a.sql", "select 1;\n");
+    for (const QStringList& words :
+         {QStringList{"--help"}, QStringList{"detect", "--help"}, QStringList{"detect", "a.sql"},
+          QStringList{"batches", "a.sql"}, QStringList{"expand", "a.sql"}}) {
+        const Outcome outcome = Start(words, "/dev/full");
+        EXPECT_EQ(outcome.exitCode, 1) << words.join(' ').toStdString();
+        EXPECT_NE(outcome.errors.find("cannot be written\n"), std::string::npos) << outcome.errors;
     }
 }
 
@@ -247,6 +318,8 @@ TEST_F(Znscript, TellsWhatItCannotRead)
 {
     EXPECT_EQ(Start({"expand", "."}).errors, ".: this is a folder\n");
     EXPECT_EQ(Start({"expand", "gone.sql"}).exitCode, 1);
+    EXPECT_EQ(Start({"detect", QStringLiteral("a\uFFFD.sql")}).errors,
+              "a\uFFFD.sql: a name that is not UTF-8 cannot be opened\n");
 }
 
 } // namespace
