@@ -30,19 +30,13 @@ int CZNCoreEditorDoc::SaveTempCopy()
     return written ? 0 : 1;
 }
 
-// A copy that was never written or that others have cleared away is as good as removed: a save that
-// failed for want of it would fail for ever.
+// What keeps the copy from being removed goes to the caller, and the copy still counts as there:
+// also one that was never written, or that others have cleared away. Whoever makes copies has to
+// look after their folder.
 void CZNCoreEditorDoc::RemoveTempCopy(int clearName)
 {
-    if (m_tempCopySaved) {
-        try {
-            CFile::Remove(m_tempPathName);
-        } catch (const CFileException& failure) {
-            if (failure.m_cause != CFileException::fileNotFound &&
-                failure.m_cause != CFileException::badPath)
-                throw;
-        }
-    }
+    if (m_tempCopySaved)
+        CFile::Remove(m_tempPathName);
     m_tempCopySaved = 0;
     if (clearName)
         m_tempPathName.clear();

@@ -57,7 +57,8 @@ public:
 
     // Writes the text into the folder for temporary files, under the file's name, and leaves it
     // modified. Note: 1 if the copy could not be written, 0 if it was, and 0 as well without a
-    // path, a view or a folder.
+    // path, a view or a folder. Raises CFileException, as every open, save and reload from then on, if
+    // others have cleared the copy before away.
     int SaveTempCopy();
     QString GetTempPathName() const { return m_tempPathName; }
 
@@ -73,8 +74,8 @@ public:
 
 protected:
     void SetLastAccessTime();
-    // Raises CFileException if there is a copy that cannot be removed; then it still counts as
-    // there.
+    // Raises CFileException if a copy that counts as there cannot be removed, or is gone; then it
+    // still counts.
     void RemoveTempCopy(int clearName);
 
     void OnFileReload();

@@ -1,5 +1,6 @@
 // The copy of a text that is not the user's file, and what a document tells its views.
 #include "EditDocFixture.h"
+#include "platform/docview/CommandIds.h"
 
 namespace {
 
@@ -99,30 +100,50 @@ TEST_F(TempCopy, ThatCannotBeRemovedRaisesAndStillCounts)
     EXPECT_FALSE(doc->GetTempPathName().isEmpty());
 }
 
-TEST_F(TempCopy, ThatIsGoneKeepsNobodyFromSaving)
+TEST_F(TempCopy, ThatIsGoneRaisesInEveryStepThatRemovesIt)
 {
     OpenDoc* doc = OpenScript();
     Type(doc, "-- ");
     doc->SaveTempCopy();
     QFile::remove(doc->GetTempPathName());
-    EXPECT_EQ(doc->DoFileSave(), 1);
-    EXPECT_FALSE(doc->m_tempCopySaved);
-    EXPECT_EQ(Read(Path("a.sql")), "-- select 1");
+    EXPECT_THROW(doc->OnSaveDocument(Path("a.sql")), CFileException);
+    EXPECT_THROW(doc->SaveTempCopy(), CFileException);
+    EXPECT_THROW(doc->ReloadFile(), CFileException);
+    EXPECT_THROW(doc->OnOpenDocument(Path("a.sql")), CFileException);
+    EXPECT_TRUE(doc->m_tempCopySaved);
+    EXPECT_TRUE(doc->IsModified());
+    EXPECT_EQ(Text(doc), "-- select 1");
+    EXPECT_EQ(Read(Path("a.sql")), "select 1");
 }
 
-// Note: a folder that takes no copy counts as written, as the control tells it.
-TEST_F(TempCopy, ThatWasNeverWrittenKeepsNobodyFromSaving)
+// Note: the copy counts as written, as the control tells it.
+TEST_F(TempCopy, ThatWasNeverWrittenCountsAndRaisesToo)
+{
+    OpenDoc* doc = OpenScript();
+    QDir(folders.folder.path()).mkdir("a.sql");
+    EXPECT_EQ(doc->SaveTempCopy(), 0);
+    EXPECT_TRUE(doc->m_tempCopySaved);
+    EXPECT_THROW(doc->RemoveTempCopy(1), CFileException);
+    EXPECT_TRUE(doc->m_tempCopySaved);
+}
+
+TEST_F(TempCopy, ThatIsGoneIsToldToAUserWhoSaves)
 {
     OpenDoc* doc = OpenScript();
     Type(doc, "-- ");
-    QDir(folders.folder.path()).removeRecursively();
-    EXPECT_EQ(doc->SaveTempCopy(), 0);
-    EXPECT_TRUE(doc->m_tempCopySaved);
-    EXPECT_EQ(doc->DoFileSave(), 1);
-    EXPECT_EQ(Read(Path("a.sql")), "-- select 1");
+    doc->SaveTempCopy();
+    const QString copy = doc->GetTempPathName();
+    QFile::remove(copy);
+    SendMessage(doc->GetFirstEditView()->GetParentFrame()->GetSafeHwnd(), WM_COMMAND, ID_FILE_SAVE,
+                0);
+    ASSERT_EQ(user.asked.size(), 1);
+    EXPECT_TRUE(user.asked[0].contains(copy));
+    EXPECT_TRUE(doc->IsModified());
+    EXPECT_EQ(Text(doc), "-- select 1");
 }
 
-// The name is that of the file alone: of two documents with one name the later copy stands.
+// The name is that of the file alone: of two documents with one name the later copy stands, until
+// the first of them removes it.
 TEST_F(TempCopy, IsSharedByDocumentsOfOneName)
 {
     OpenDoc* first = OpenScript();
@@ -135,8 +156,7 @@ TEST_F(TempCopy, IsSharedByDocumentsOfOneName)
     first->OnCloseDocument();
     Settle();
     EXPECT_FALSE(QFile::exists(second->GetTempPathName()));
-    Type(second, "-- ");
-    EXPECT_EQ(second->DoFileSave(), 1);
+    EXPECT_THROW(second->RemoveTempCopy(0), CFileException);
 }
 
 TEST_F(TempCopy, GoesWithItsDocument)
