@@ -57,8 +57,8 @@ public:
 
     // Writes the text into the folder for temporary files, under the file's name, and leaves it
     // modified. Note: 1 if the copy could not be written, 0 if it was, and 0 as well without a
-    // path, a view or a folder. Raises CFileException, as every open, save and reload from then on, if
-    // others have cleared the copy before away.
+    // path, a view or a folder. Raises CFileException, as every open, save and reload from then on,
+    // if others have cleared the copy before away.
     int SaveTempCopy();
     QString GetTempPathName() const { return m_tempPathName; }
 
