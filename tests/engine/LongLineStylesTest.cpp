@@ -28,8 +28,8 @@ constexpr Dialect kDialects[] = {
     {14, u""}, {15, u""},      {16, u""},          {17, u""},     {18, u""},
 };
 
-constexpr const char16_t* kWords[] = {u"select from begin end if create as prompt rem go",
-                                      u"int date", u"sys.objects", u"error", u"count"};
+constexpr const char16_t* kWords[] = {u"select from begin end if create as prompt rem", u"int date",
+                                      u"sys.objects", u"error", u"count"};
 
 unsigned Seed()
 {
@@ -45,7 +45,7 @@ Sci& Stock(const SqlUnderTest& sql)
     return *static_cast<engine::EngineWindow*>(sql.Window());
 }
 
-void SetUp(const SqlUnderTest& sql, const char16_t* dialect)
+void Prepare(const SqlUnderTest& sql, const char16_t* dialect)
 {
     sql.SetProperty(u"sql.dialect", dialect);
     sql.FoldAlso();
@@ -96,6 +96,14 @@ std::string PlainStyles(const Dialect& dialect, const std::string& text)
     for (char& letter : letters)
         letter = static_cast<char>(letter + 'A');
     return letters;
+}
+
+std::u16string Repeated(std::u16string_view piece, std::size_t times)
+{
+    std::u16string text;
+    while (times-- > 0)
+        text += piece;
+    return text;
 }
 
 // ----- Random long lines
@@ -166,8 +174,8 @@ public:
     LongLines(const Dialect& dialect, unsigned seed)
         : m_dialect(dialect), m_random(seed), m_edited(dialect.lexer), m_fresh(dialect.lexer)
     {
-        SetUp(m_edited, dialect.name);
-        SetUp(m_fresh, dialect.name);
+        Prepare(m_edited, dialect.name);
+        Prepare(m_fresh, dialect.name);
         std::u16string text;
         while (text.size() < 12000)
             text += Piece();
@@ -202,11 +210,7 @@ private:
             return OneOf(kLineEnds);
         if (Pick(12) != 0)
             return OneOf(kPieces);
-        const std::u16string filler = OneOf(kFillers);
-        std::u16string text;
-        for (unsigned i = Pick(4) ? 40 : 900 + Pick(1500); i-- > 0;)
-            text += filler;
-        return text;
+        return Repeated(OneOf(kFillers), Pick(4) ? 40 : 900 + Pick(1500));
     }
 
     // Mostly where the one before was, as a person types and a script is expanded.
@@ -274,3 +278,61 @@ TEST_P(StylesOfLongLines, AreThoseOfAFreshTextAfterEdits)
 }
 
 INSTANTIATE_TEST_SUITE_P(InEveryDialect, StylesOfLongLines, testing::ValuesIn(kDialects));
+
+// ----- What stands close in front of an edit
+
+namespace {
+
+struct Row
+{
+    const char16_t* before; // a place of the line stands behind this
+    std::u16string between;
+    const char16_t* edit;
+    bool isFirst = false; // on its line, behind a comment and in front of blanks
+};
+
+} // namespace
+
+TEST_P(StylesOfLongLines, FollowWhatIsDecidedByTheTextBehind)
+{
+    const Row kRows[] = {
+        {u"-", u"", u"- "},
+        {u"/", u"", u"*"},
+        {u"/", u"*", u"!"},
+        {u"count", u"", u"("},
+        {u"N", u"", u"'x'"},
+        {u"q", u"'", u"[x' ]'"},
+        {u"sys", u".ob", u"jects"},
+        {u"sys", u".objects", u"x"},
+        {u"1", u".", u"5"},
+        {u"@@global", u".", u"error"},
+        {u"a ", u"i", u"nt"},
+        {u"a", Repeated(u" ", 1500), u"int"},
+        {u"$", u"t", u"$"},
+        {u"'a'", u"", u"'b"},
+        {u"x", u"", u"y"},
+        {u"go", Repeated(u" ", 900), u"x", true},
+        {u"go", u" --", u"x", true},
+        {u"delimiter", u" $", u"$ a$$", true},
+        {u"set term", u" ^ ", u"; a^", true},
+        {u"rem", u"", u" x", true},
+    };
+    const Dialect dialect = GetParam();
+    SqlUnderTest sql(dialect.lexer);
+    Prepare(sql, dialect.name);
+    for (const Row& row : kRows) {
+        const std::u16string before = row.before;
+        for (std::size_t end = 2044; end <= 2050; ++end) {
+            const std::size_t pad = end - before.size();
+            const std::u16string front =
+                row.isFirst ? u"/*" + Repeated(u"x", pad - 4) + u"*/" : Repeated(u",", pad);
+            sql.SetText(front + before + row.between +
+                        Repeated(row.isFirst ? u" " : u" , a", row.isFirst ? 3000 : 1000));
+            sql.Style();
+            sql.Insert(static_cast<long>(end + row.between.size()), row.edit);
+            sql.StyleRest();
+            ASSERT_EQ(StylesOf(sql), PlainStyles(dialect, Bytes(sql)))
+                << QString::fromStdU16String(before + row.between + row.edit).toStdString() << end;
+        }
+    }
+}
