@@ -419,6 +419,7 @@ void SqlStyler::TakeComment(const Token& token)
                  : m_palette.blockComment);
     if (!isLine && !token.cut)
         m_state.docComment = false;
+    m_blankStart = -1;
     m_line.isBlank = false;
     OpenFreshBatch();
     if (isLine && m_dialect.terminatorComment && !token.resumed)
