@@ -119,7 +119,7 @@ double RawExpand(const std::string& folder)
 double OurExpand(const std::string& folder)
 {
     ZNCoreEditorWidget editor;
-    BindTransactSql(editor);
+    Bind(editor, "Transact-SQL");
     CZNCompileManager& manager = *zncoreeditor::GetCompileManager();
     manager.SetSearchPath(QString::fromStdString(folder));
     editor.control().SetText(u"#define &&A 1\nselect &&A\n", 1);

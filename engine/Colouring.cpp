@@ -13,6 +13,7 @@ using Sci = QsciScintillaBase;
 
 constexpr long kChunk = 64 * 1024; // bytes that are walked over before they are handed on
 constexpr long kPlaceStep = 1024;  // between places inside a line; each takes 88 bytes
+constexpr long kSmallStep = 64;    // from where there can be none
 constexpr long kNowhere = std::numeric_limits<long>::max();
 constexpr int kGenericLexer = 9;
 
@@ -362,8 +363,11 @@ void Colouring::Walk(const Raw& raw, SqlStyler& styler, long target)
 // False: there is no more to do in the line, or not in this walk.
 bool Colouring::WalkLine(const Raw& raw, SqlStyler& styler, long next, long target)
 {
-    while (!styler.Part(next, StopBehind(raw, m_lines.End()))) {
-        if (!styler.IsPlace())
+    long step = kPlaceStep;
+    while (!styler.Part(next, StopBehind(raw, m_lines.End(), step))) {
+        const bool isPlace = styler.IsPlace();
+        step = isPlace ? kPlaceStep : kSmallStep;
+        if (!isPlace)
             continue;
         const long position = m_lines.End();
         m_lines.places.push_back({position, styler.Place()});
@@ -374,9 +378,9 @@ bool Colouring::WalkLine(const Raw& raw, SqlStyler& styler, long next, long targ
     return true;
 }
 
-long Colouring::StopBehind(const Raw& raw, long position) const
+long Colouring::StopBehind(const Raw& raw, long position, long step) const
 {
-    const long stop = position + kPlaceStep;
+    const long stop = position + step;
     if (m_places.IsEmpty())
         return stop;
     const std::size_t next = m_places.FirstFrom(position + 1, raw.Length());

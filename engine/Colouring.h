@@ -106,7 +106,7 @@ private:
     void StartWalk(const Raw& raw, SqlStyler& styler);
     void Walk(const Raw& raw, SqlStyler& styler, long position);
     bool WalkLine(const Raw& raw, SqlStyler& styler, long next, long position);
-    long StopBehind(const Raw& raw, long position) const;
+    long StopBehind(const Raw& raw, long position, long step) const;
     bool IsOfTail(const SqlPlaces::Place& place, long length) const;
     bool ReachesTail(const Raw& raw, long line, long start, const SqlLineState& state,
                      int number) const;
