@@ -14,114 +14,12 @@ using analysis::SqlWord;
 using analysis::TextSpans;
 using analysis::TokenKind;
 
-struct SqlPalette
-{
-    using ByWordSets = SqlStyler::WordStyles;
-
-    std::uint8_t blockComment, lineComment, docComment, number, string, op, identifier, variable,
-        quotedName, otherQuotedName, statement, dataType, globalVariable, beforeDataType;
-    std::uint8_t clientLine; // 0: the line is coloured as code
-    ByWordSets words;        // by the sets that have the word
-    ByWordSets wordsAfterName;
-    ByWordSets wordsAfterPoint;
-    ByWordSets calledWords; // with a parenthesis directly behind
-};
-
 namespace {
 
-namespace dialect = sqlstyle::dialect;
-namespace generic = sqlstyle::generic;
-
-constexpr int kGenericLexer = 9;
 constexpr int kGlobalVariables = 3; // keyword set
 constexpr long kLongestPointedWord = 120;
 constexpr long kFarthestArgument = 64;           // blanks between a client's word and what it sets
 constexpr long kRoom = 2 * analysis::kLongToken; // a part's last token ends within, behind the stop
-
-struct SetRow
-{
-    int set;
-    std::uint8_t style;
-    bool afterPoint; // told from a name behind a point
-};
-
-// The first row whose set has the word wins.
-constexpr SetRow kDialectSets[] = {
-    {6, dialect::kOperator, false}, {0, dialect::kStatement, false},
-    {4, dialect::kFunction, true},  {2, dialect::kSystemTable, true},
-    {5, dialect::kProcedure, true}, {1, dialect::kDataType, false},
-};
-constexpr SetRow kGenericSets[] = {
-    {0, generic::kKeyword, false},    {7, generic::kFurtherKeyword, false},
-    {4, generic::kFunction, true},    {5, generic::kSystemObject, true},
-    {1, generic::kDataType, false},   {6, generic::kSetting, false},
-    {2, generic::kDocKeyword, false}, {3, generic::kClientCommand, false},
-};
-constexpr int kDataTypeSet = 1;
-constexpr int kFunctionSet = 4;
-
-template <std::size_t Count>
-constexpr SqlPalette::ByWordSets StylesOf(const SetRow (&rows)[Count], int first, bool afterPoint,
-                                          std::uint8_t other)
-{
-    SqlPalette::ByWordSets styles{};
-    for (unsigned sets = 0; sets < styles.size(); ++sets) {
-        styles[sets] = other;
-        for (std::size_t i = Count; i-- > 0;) {
-            if ((sets >> rows[i].set & 1U) && (rows[i].afterPoint || !afterPoint))
-                styles[sets] = rows[i].style;
-        }
-        for (const SetRow& row : rows) {
-            if (row.set == first && (sets >> first & 1U))
-                styles[sets] = row.style;
-        }
-    }
-    return styles;
-}
-
-constexpr SqlPalette kDialectPalette = {
-    .blockComment = dialect::kBlockComment,
-    .lineComment = dialect::kLineComment,
-    .docComment = dialect::kBlockComment,
-    .number = dialect::kNumber,
-    .string = dialect::kString,
-    .op = dialect::kOperator,
-    .identifier = dialect::kIdentifier,
-    .variable = dialect::kVariable,
-    .quotedName = dialect::kQuotedName,
-    .otherQuotedName = dialect::kOtherQuotedName,
-    .statement = dialect::kStatement,
-    .dataType = dialect::kDataType,
-    .globalVariable = dialect::kGlobalVariable,
-    .beforeDataType = dialect::kBeforeDataType,
-    .clientLine = 0,
-    .words = StylesOf(kDialectSets, -1, false, dialect::kIdentifier),
-    .wordsAfterName = StylesOf(kDialectSets, kDataTypeSet, false, dialect::kIdentifier),
-    .wordsAfterPoint = StylesOf(kDialectSets, -1, true, dialect::kIdentifier),
-    .calledWords = StylesOf(kDialectSets, kFunctionSet, false, dialect::kIdentifier),
-};
-
-constexpr SqlPalette kGenericPalette = {
-    .blockComment = generic::kBlockComment,
-    .lineComment = generic::kLineComment,
-    .docComment = generic::kDocComment,
-    .number = generic::kNumber,
-    .string = generic::kString,
-    .op = generic::kOperator,
-    .identifier = generic::kIdentifier,
-    .variable = generic::kIdentifier,
-    .quotedName = generic::kQuotedName,
-    .otherQuotedName = generic::kOtherQuotedName,
-    .statement = generic::kKeyword,
-    .dataType = generic::kDataType,
-    .globalVariable = generic::kIdentifier,
-    .beforeDataType = generic::kText,
-    .clientLine = generic::kClientCommand,
-    .words = StylesOf(kGenericSets, -1, false, generic::kIdentifier),
-    .wordsAfterName = StylesOf(kGenericSets, kDataTypeSet, false, generic::kIdentifier),
-    .wordsAfterPoint = StylesOf(kGenericSets, -1, true, generic::kIdentifier),
-    .calledWords = StylesOf(kGenericSets, kFunctionSet, false, generic::kIdentifier),
-};
 
 // Lines of a client whose text is no code: by first word, between blanks.
 constexpr std::string_view kRemarks = " rem remark ";
@@ -193,9 +91,8 @@ long FoldDepth(const ScanState& scan, const SqlBlockState& blocks, SqlFoldOption
 
 SqlStyler::SqlStyler(int lexer, const analysis::ScriptRules& rules, const SqlVocabulary& vocabulary,
                      analysis::Terminators& terminators, SqlFoldOptions fold)
-    : m_palette(lexer == kGenericLexer ? kGenericPalette : kDialectPalette),
-      m_dialect(*rules.dialect), m_vocabulary(vocabulary), m_terminators(terminators),
-      m_separator(rules.separator), m_fold(fold),
+    : m_palette(PaletteOf(lexer)), m_dialect(*rules.dialect), m_vocabulary(vocabulary),
+      m_terminators(terminators), m_separator(rules.separator), m_fold(fold),
       m_hasCommands(!m_dialect.commandLeads.empty() || !m_dialect.commandWords.empty() ||
                     !m_dialect.delimiterWord.empty()),
       m_blocks(m_dialect), m_scanner(m_dialect, {})
@@ -462,12 +359,12 @@ void SqlStyler::TakeWord(const Token& token)
 }
 
 // A word of several sets is what its place makes likely.
-const SqlStyler::WordStyles&
+const SqlPalette::ByWordSets&
 SqlStyler::StylesFor(const Token& token, const SqlVocabulary::Entry& entry, bool behindPoint) const
 {
     if (behindPoint)
         return m_palette.wordsAfterPoint;
-    if (m_line.afterName && (entry.sets >> kDataTypeSet & 1))
+    if (m_line.afterName && (entry.sets >> SqlPalette::kDataTypeSet & 1))
         return m_palette.wordsAfterName;
     return m_scanner.Text().At(token.end) == '(' ? m_palette.calledWords : m_palette.words;
 }

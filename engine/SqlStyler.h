@@ -4,11 +4,11 @@
 #pragma once
 
 #include "engine/SqlBlocks.h"
+#include "engine/SqlPalette.h"
 #include "engine/SqlVocabulary.h"
 #include "engine/analysis/BatchSeparator.h"
 #include "engine/analysis/StatementState.h"
 
-#include <array>
 #include <span>
 #include <vector>
 
@@ -61,14 +61,9 @@ struct SqlFoldOptions
 // How much stands open at a place. A comment under way counts where it stands over a line's end.
 long FoldDepth(const analysis::ScanState& scan, const SqlBlockState& blocks, SqlFoldOptions fold);
 
-// The colours of a family of lexers: what each kind of token is, and each keyword set.
-struct SqlPalette;
-
 class SqlStyler
 {
 public:
-    using WordStyles = std::array<std::uint8_t, 256>; // by the sets that have the word
-
     // Dialect, terminators and vocabulary are the caller's, and outlive the styler.
     SqlStyler(int lexer, const analysis::ScriptRules& rules, const SqlVocabulary& vocabulary,
               analysis::Terminators& terminators, SqlFoldOptions fold);
@@ -106,8 +101,8 @@ private:
     void Take(const Token& token, const analysis::ScanState& before);
     void TakeComment(const Token& token);
     void TakeWord(const Token& token);
-    const WordStyles& StylesFor(const Token& token, const SqlVocabulary::Entry& entry,
-                                bool behindPoint) const;
+    const SqlPalette::ByWordSets& StylesFor(const Token& token, const SqlVocabulary::Entry& entry,
+                                            bool behindPoint) const;
     void TakeVariable(const Token& token);
     bool TakeSeparator(const Token& token);
     bool TakeCommand(const Token& token);

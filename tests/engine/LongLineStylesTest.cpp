@@ -336,3 +336,28 @@ TEST_P(StylesOfLongLines, FollowWhatIsDecidedByTheTextBehind)
         }
     }
 }
+
+// ----- What is styled again
+
+TEST(LongLines, AreStyledAgainToAPlaceThatIsAsBefore)
+{
+    const SqlUnderTest sql(14, u"select " + Repeated(u"a, ", 100000));
+    const auto end = [&sql] { return static_cast<long>(sql.Send(msg::GetEndStyled)); };
+    const auto styleTo = [&sql, end](long position) {
+        sql.Send(msg::Colorize, static_cast<WPARAM>(end()), LPARAM{position});
+    };
+    sql.Style();
+    sql.Insert(150000, u"x");
+    EXPECT_EQ(end(), 150000);
+    styleTo(150010);
+    EXPECT_EQ(end(), sql.Send(msg::GetLength));
+    // A string that is never closed is styled as far as it is asked for, and so is its end.
+    sql.Insert(150000, u"'");
+    styleTo(150010);
+    EXPECT_LT(end(), 152000);
+    EXPECT_EQ(sql.StyleAt(150010), 4);
+    sql.Erase(150000, 150001);
+    styleTo(153000);
+    EXPECT_EQ(end(), sql.Send(msg::GetLength));
+    EXPECT_EQ(sql.StyleAt(150000), 6);
+}
