@@ -378,13 +378,14 @@ bool Colouring::WalkLine(const Raw& raw, SqlStyler& styler, long next, long targ
     return true;
 }
 
+// At the next place, if one comes soon, so that a tail is not missed by a few bytes.
 long Colouring::StopBehind(const Raw& raw, long position, long step) const
 {
-    const long stop = position + step;
     if (m_places.IsEmpty())
-        return stop;
+        return position + step;
     const std::size_t next = m_places.FirstFrom(position + 1, raw.Length());
-    return next < m_places.Count() ? std::min(stop, m_places.PositionOf(next, raw.Length())) : stop;
+    const long place = next < m_places.Count() ? m_places.PositionOf(next, raw.Length()) : kNowhere;
+    return place <= position + 2 * step ? place : position + step;
 }
 
 bool Colouring::IsOfTail(const SqlPlaces::Place& place, long length) const
