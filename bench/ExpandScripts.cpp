@@ -50,11 +50,22 @@ std::string MakeExpandable(const QTemporaryDir& folder, std::size_t megabytes)
     return script;
 }
 
-void BindTransactSql(ZNCoreEditorWidget& editor)
+std::string MakeLongLine(std::size_t uses)
+{
+    std::string script = "select 0";
+    for (std::size_t use = 0; use < uses; ++use) {
+        std::string column = ", &&NAME as column_" + std::to_string(use);
+        column.resize(48, ' ');
+        script += column;
+    }
+    return script;
+}
+
+void Bind(ZNCoreEditorWidget& editor, const char* language)
 {
     const CFileTypeManager& languages = *zncoreeditor::GetFileTypeManager();
     for (int i = 0; i < languages.GetLanguageCount(); ++i) {
-        if (languages.GetLanguageName(i) == QLatin1String("Transact-SQL"))
+        if (languages.GetLanguageName(i) == QLatin1String(language))
             editor.setLanguage(i);
     }
 }

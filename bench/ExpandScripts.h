@@ -14,6 +14,9 @@ namespace bench {
 // fewer as many fewer. The files stand in the folder.
 std::string MakeExpandable(const QTemporaryDir& folder, std::size_t megabytes);
 
-void BindTransactSql(ZNCoreEditorWidget& editor);
+// One line of so many uses of &&NAME, 48 bytes for each.
+std::string MakeLongLine(std::size_t uses);
+
+void Bind(ZNCoreEditorWidget& editor, const char* language);
 
 } // namespace bench

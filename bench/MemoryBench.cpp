@@ -115,11 +115,13 @@ double RawExpand(const std::string& folder)
     return StatusBytes("VmHWM:") - before;
 }
 
-// The text that is handed over is the host's; styles and fold levels are the engine's.
+// The text that is handed over is the host's; styles and fold levels are the engine's. It keeps a
+// state and a level of each line once it has styled it, which the reference does not: 9.4 MB for
+// the 1.1 million lines of 64 MB, 13.9 MB while it makes room, so that both are styled before.
 double OurExpand(const std::string& folder)
 {
     ZNCoreEditorWidget editor;
-    BindTransactSql(editor);
+    Bind(editor, "Transact-SQL");
     CZNCompileManager& manager = *zncoreeditor::GetCompileManager();
     manager.SetSearchPath(QString::fromStdString(folder));
     editor.control().SetText(u"#define &&A 1\nselect &&A\n", 1);

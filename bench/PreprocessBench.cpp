@@ -5,6 +5,7 @@
 #include "bench/Texts.h"
 #include "editing/ZNCoreEditorWidget.h"
 #include "platform/Units.h"
+#include "preprocess/CompileManager.h"
 
 namespace bench {
 namespace {
@@ -19,7 +20,7 @@ public:
         : m_bytes(MakeExpandable(m_folder, megabytes)), m_script(QString::fromStdString(m_bytes)),
           m_rawExpansion(m_raw, m_folder.path().toStdString())
     {
-        BindTransactSql(m_editor);
+        Bind(m_editor, "Transact-SQL");
         m_editor.control().SetDatasourceSearchPath(m_folder.path());
     }
 
@@ -121,6 +122,44 @@ void ExpandGrowth(benchmark::State& state)
     state.counters["reference_growth"] = raw[1] / raw[0];
     ReportFigure(state, ours[1] / ours[0], kGrowthLimit, "times the time for a megabyte at 16 MB");
 }
+
+// The time for twice the uses in a line of twice the length, in fresh editors.
+void ExpandLongLine(benchmark::State& state, const char* language, const char* value)
+{
+    constexpr double kLimit = 2.6;
+    constexpr std::size_t kUses[] = {8000, 16000};
+    CZNCompileManager& manager = *zncoreeditor::GetCompileManager();
+    manager.SetPredefined({{QStringLiteral("&&NAME"), QLatin1String(value)}});
+    double least[2] = {1e9, 1e9};
+    for (auto _ : state) {
+        for (int round = 0; round < 2 * kGrowthRounds; ++round) {
+            const int i = round % 2;
+            ZNCoreEditorWidget editor;
+            Bind(editor, language);
+            const QString script = QString::fromStdString(MakeLongLine(kUses[i]));
+            editor.control().SetText(Units(script), 1);
+            QString expanded;
+            least[i] =
+                std::min(least[i], CpuSeconds([&] { editor.control().GetWindowTextW(expanded); }));
+            if (expanded.contains(QLatin1String("&&")))
+                std::abort();
+        }
+    }
+    manager.SetPredefined({});
+    state.counters["ours_ms"] = least[1] * 1e3;
+    ReportFigure(state, least[1] / least[0], kLimit, "times the time for half of 16,000 uses");
+}
+
+const bool kRegistered = [] {
+    for (const char* language : {"MySQL", "PL/SQL"}) {
+        for (const auto& [name, value] : {std::pair("Words", "value"), {"Quotes", "it's"}})
+            benchmark::RegisterBenchmark(
+                std::string("ExpandLongLine/").append(name).append("/").append(language).c_str(),
+                ExpandLongLine, language, value)
+                ->Iterations(1);
+    }
+    return true;
+}();
 
 BENCHMARK(ExpandScript)
     ->Arg(2)

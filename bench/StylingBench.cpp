@@ -7,6 +7,7 @@
 
 #include <algorithm>
 #include <cstdlib>
+#include <functional>
 #include <vector>
 
 namespace bench {
@@ -96,30 +97,59 @@ void Colour(benchmark::State& state, Script script, bool fold)
     state.counters["limit"] = kLimit;
 }
 
-// A character at a place of a text that is styled to its end: the character, and all the styles
-// that it has made stale.
-void Typed(benchmark::State& state, const char16_t* text, double part)
+// Microseconds of the characters and of all the styles that each has made stale up to the end of
+// what a window would show, typed at a place of a text that is styled to its end.
+std::vector<double> Type(Ours& ours, const char16_t* text, double part,
+                         const std::function<void(CZNCoreEditorControl&)>& style)
 {
-    constexpr double kLimit = 100;
     constexpr int kKeys = 200;
-    Ours ours(Sql64(Script::Ascii), true);
     ours.Style();
     CZNCoreEditorControl& control = ours.editor.control();
+    const auto place = static_cast<long>(part * static_cast<double>(control.GetLength(1)));
+    control.SetCurrentPos(place, 1); // shows no caret: that lays out all of a line
+    control.SetAnchor(place, 1);
     std::vector<double> times;
-    for (auto _ : state) {
-        control.GotoPos(static_cast<long>(part * static_cast<double>(control.GetLength(1))), 1);
-        for (int i = 0; i < kKeys; ++i) {
-            times.push_back(1e6 * CpuSeconds([&] {
-                                control.AddText(1, text, 1);
-                                // Asks for the styles of the lines that a window would show.
-                                const int line =
-                                    control.LineFromPosition(control.GetCurrentPos(1), 1);
-                                control.GetLastChild(line + 50, 0xFFF, 1);
-                            }));
-        }
+    for (int i = 0; i < kKeys; ++i) {
+        times.push_back(1e6 * CpuSeconds([&] {
+                            control.AddText(1, text, 1);
+                            style(control);
+                        }));
     }
+    return times;
+}
+
+void ReportTyped(benchmark::State& state, const std::vector<double>& times)
+{
+    constexpr double kLimit = 100;
     state.counters["ours_ms"] = MedianOf(times) / 1e3;
     ReportFigure(state, MedianOf(times), kLimit, "us a character and its styles");
+}
+
+void Typed(benchmark::State& state, const char16_t* text, double part)
+{
+    Ours ours(Sql64(Script::Ascii), true);
+    for (auto _ : state) {
+        ReportTyped(state, Type(ours, text, part, [](CZNCoreEditorControl& control) {
+                        const int line = control.LineFromPosition(control.GetCurrentPos(1), 1);
+                        control.GetLastChild(line + 50, 0xFFF, 1); // asks for their styles
+                    }));
+    }
+}
+
+void TypedInOneLine(benchmark::State& state, double part)
+{
+    constexpr std::size_t kLength = 50 * kMegabyte;
+    std::string line = Sql64(Script::Ascii).substr(0, kLength);
+    for (const char c : {'\r', '\n', '-'}) // nor may a comment take all of it
+        std::replace(line.begin(), line.end(), c, ' ');
+    Ours ours(line, true);
+    for (auto _ : state) {
+        ReportTyped(state, Type(ours, u"a", part, [](CZNCoreEditorControl& control) {
+                        control.Colorize(control.GetEndStyled(1), -1, 1);
+                        if (control.GetEndStyled(1) != control.GetLength(1))
+                            std::abort();
+                    }));
+    }
 }
 
 const bool kRegistered = [] {
@@ -134,6 +164,11 @@ const bool kRegistered = [] {
     benchmark::RegisterBenchmark("StyleTyped/middle", Typed, u"a", 0.5)->Iterations(1);
     benchmark::RegisterBenchmark("StyleTyped/end", Typed, u"a", 1.0)->Iterations(1);
     benchmark::RegisterBenchmark("StyleTyped/quote", Typed, u"'", 0.0)->Iterations(1);
+    benchmark::RegisterBenchmark("StyleTypedInOneLine50/start", TypedInOneLine, 0.01)
+        ->Iterations(1);
+    benchmark::RegisterBenchmark("StyleTypedInOneLine50/middle", TypedInOneLine, 0.5)
+        ->Iterations(1);
+    benchmark::RegisterBenchmark("StyleTypedInOneLine50/end", TypedInOneLine, 1.0)->Iterations(1);
     return true;
 }();
 

@@ -4,6 +4,7 @@
 #include "engine/Lexers.h"
 
 #include <algorithm>
+#include <limits>
 
 namespace engine {
 namespace {
@@ -11,6 +12,9 @@ namespace {
 using Sci = QsciScintillaBase;
 
 constexpr long kChunk = 64 * 1024; // bytes that are walked over before they are handed on
+constexpr long kPlaceStep = 1024;  // between places inside a line; each takes 88 bytes
+constexpr long kSmallStep = 64;    // from where there can be none
+constexpr long kNowhere = std::numeric_limits<long>::max();
 constexpr int kGenericLexer = 9;
 
 long StartOfLine(const Raw& raw, long line)
@@ -154,6 +158,8 @@ void Colouring::Restart(const Raw& raw)
         return;
     raw.Send(Sci::SCI_STARTSTYLING, 0);
     m_end = 0;
+    m_places.Clear();
+    m_editLines = -1;
 }
 
 // Each window of a document tells of an edit before it happens, with the text as long as it was.
@@ -165,31 +171,73 @@ bool Colouring::IsRepeated(long length)
     return repeated || !IsSql();
 }
 
-// The tail begins behind the lines that the edit touches: the one behind them too, since an edit
-// between CR and LF makes and unmakes lines.
-void Colouring::EditBegins(const Raw& raw, long start, long end)
+// How far the text is styled. If somebody else has styled, there is no telling what.
+long Colouring::TakeEnd(const Raw& raw)
 {
-    const long styled = static_cast<long>(raw.Send(Sci::SCI_GETENDSTYLED));
-    if (styled != m_end) { // somebody else has styled: there is no telling what
+    const long end = static_cast<long>(raw.Send(Sci::SCI_GETENDSTYLED));
+    if (end != m_end) {
         DropTail();
-        m_end = std::min(styled, start);
-        return;
+        m_places.Replace(m_end + 1, kNowhere, {}, raw.Length());
+        m_end = end;
     }
-    const long after = StartOfLine(raw, LineAt(raw, end) + 2);
-    if (m_tail.IsEmpty())
-        m_tail = {after, m_end};
-    else if (start < m_tail.end)
-        m_tail.start = std::max(m_tail.start, after);
-    else if (start == m_tail.end)
-        m_tail.end = StartOfLine(raw, LineAt(raw, start));
+    return end;
+}
+
+// The last place from which a walk can start to style a position.
+long Colouring::LastPlace(const Raw& raw, long position) const
+{
+    const long lineStart = StartOfLine(raw, LineAt(raw, position));
+    const std::size_t behind = m_places.FirstFrom(position + 1, raw.Length());
+    return behind > 0 ? std::max(lineStart, m_places.PositionOf(behind - 1, raw.Length()))
+                      : lineStart;
+}
+
+// The tail begins behind the edit's end, where what stood there in front of it may stand.
+void Colouring::EditBegins(const Raw& raw, long length, long start, long end)
+{
+    EditEnds(raw);
+    const long styled = m_end;
+    if (TakeEnd(raw) == styled) {
+        if (m_tail.IsEmpty())
+            m_tail = {end + 1, styled};
+        else if (start < m_tail.end)
+            m_tail.start = std::max(m_tail.start, end + 1);
+    }
+    const long firstStale = start - SqlStyler::kReach + 1;
+    m_places.Replace(firstStale, m_tail.IsEmpty() ? kNowhere : std::max(m_tail.start, end + 1), {},
+                     length);
+    if (start >= m_tail.end && firstStale <= m_tail.end)
+        m_tail.end = std::min(m_tail.end, LastPlace(raw, start));
     m_end = std::min(m_end, start);
+    m_editLines = raw.LineCount();
+}
+
+// Where lines were made or unmade, what the engine keeps for them may be another line's: for the
+// one behind them too, since an edit between CR and LF unmakes a line.
+void Colouring::EditEnds(const Raw& raw)
+{
+    if (m_editLines >= 0 && m_editLines != raw.LineCount()) {
+        const long behind = StartOfLine(raw, LineAt(raw, m_editEnd) + 2);
+        m_tail.start = std::max(m_tail.start, behind);
+        m_places.Replace(m_editEnd, behind, {}, raw.Length());
+    }
+    m_editLines = -1;
+}
+
+// A text whose end is gone seems to be styled to its end. Its last line may be an empty one, that
+// is to get a level of its own.
+void Colouring::LeaveSomeToStyle(const Raw& raw, long position)
+{
+    m_end = std::min(m_end, LastPlace(raw, std::max(position - 1, 0L)));
+    raw.Send(Sci::SCI_STARTSTYLING, static_cast<std::uintptr_t>(m_end));
 }
 
 void Colouring::InsertionBegins(const Raw& raw, long length, long position, long bytes)
 {
     if (IsRepeated(length))
         return;
-    EditBegins(raw, position, position);
+    EditBegins(raw, length, position, position);
+    m_editEnd = position + bytes;
     if (position < m_tail.end) {
         m_tail.start += bytes;
         m_tail.end += bytes;
@@ -200,7 +248,10 @@ void Colouring::DeletionBegins(const Raw& raw, long length, long position, long 
 {
     if (IsRepeated(length))
         return;
-    EditBegins(raw, position, position + bytes);
+    EditBegins(raw, length, position, position + bytes);
+    m_editEnd = position;
+    if (position + bytes == length)
+        LeaveSomeToStyle(raw, position);
     if (position < m_tail.end) {
         m_tail.start -= bytes;
         m_tail.end -= bytes;
@@ -217,7 +268,7 @@ void Colouring::Colorize(const Raw& raw, long start, long end)
     }
     const long first = StartOfLine(raw, LineAt(raw, std::max(start, 0L)));
     DropTail();
-    m_end = std::min(static_cast<long>(raw.Send(Sci::SCI_GETENDSTYLED)), first);
+    m_end = std::min(TakeEnd(raw), first);
     raw.Send(Sci::SCI_STARTSTYLING, static_cast<std::uintptr_t>(m_end));
     StyleTo(raw, last);
 }
@@ -228,12 +279,11 @@ void Colouring::StyleTo(const Raw& raw, long position)
         return;
     m_running = true;
     m_vocabulary.Prepare();
-    const long end = static_cast<long>(raw.Send(Sci::SCI_GETENDSTYLED));
-    if (end != m_end)
-        DropTail();
-    if (end == 0 && m_tail.IsEmpty()) {
+    EditEnds(raw);
+    if (TakeEnd(raw) == 0 && m_tail.IsEmpty()) {
         m_states.Clear();
         m_terminators.Clear();
+        m_places.Clear();
     }
     const long target = std::min(position, raw.Length());
     while (StyleChunk(raw, target)) {}
@@ -245,60 +295,106 @@ bool Colouring::StyleChunk(const Raw& raw, long target)
 {
     const unsigned edits = m_edits;
     m_end = static_cast<long>(raw.Send(Sci::SCI_GETENDSTYLED));
-    const long line = LineAt(raw, m_end);
-    const long start = StartOfLine(raw, line);
     const analysis::ScriptRules rules = {m_dialect,
                                          m_separator.value_or(analysis::SeparatorOf(*m_dialect))};
     SqlStyler styler(m_lexer, rules, m_vocabulary, m_terminators, m_foldOptions);
-    styler.Start(TextOf(raw), start,
-                 line > 0 ? m_states.Of(StateNumber(raw, line)) : SqlLineState());
-    m_lines.first = line;
-    m_lines.start = start;
+    StartWalk(raw, styler);
     Walk(raw, styler, target);
-    const long end = start + static_cast<long>(m_lines.styles.size());
     if (m_folds)
         FoldFreshBatch(raw);
     if (!Apply(raw) || m_edits != edits)
         return false;
+    const long end = m_lines.End();
+    m_places.Replace(m_lines.start + 1, end + 1, m_lines.places, raw.Length());
     if (m_lines.agrees) {
         m_end = std::max(end, m_tail.end);
         raw.Send(Sci::SCI_STARTSTYLING, static_cast<std::uintptr_t>(m_end));
         DropTail();
     } else {
         m_end = end;
-        m_tail.start = std::max(m_tail.start, end + 1); // the line's state is that of the front
+        m_tail.start = std::max(m_tail.start, end + 1); // the place's state is that of the front
     }
     return m_end < target;
+}
+
+void Colouring::StartWalk(const Raw& raw, SqlStyler& styler)
+{
+    m_lines.first = LineAt(raw, m_end);
+    m_lines.start = LastPlace(raw, m_end);
+    m_lines.styles.clear();
+    const analysis::TextSpans text = TextOf(raw);
+    if (m_lines.start > StartOfLine(raw, m_lines.first)) {
+        const std::size_t place = m_places.FirstFrom(m_lines.start, raw.Length());
+        styler.Resume(text, m_lines.start, m_places.StateOf(place), m_lines.styles);
+    } else {
+        const long number = m_lines.first > 0 ? StateNumber(raw, m_lines.first) : 0;
+        styler.Start(text, m_lines.start, m_states.Of(number), m_lines.styles);
+    }
 }
 
 void Colouring::Walk(const Raw& raw, SqlStyler& styler, long target)
 {
     const long lineCount = raw.LineCount();
     const long length = raw.Length();
-    m_lines.styles.clear();
     m_lines.levels.clear();
     m_lines.states.clear();
+    m_lines.places.clear();
     m_lines.agrees = false;
     int number = -1;
     for (long line = m_lines.first; line < lineCount;) {
-        const std::size_t done = m_lines.styles.size();
-        const long start = m_lines.start + static_cast<long>(done);
         const long next = line + 1 < lineCount ? StartOfLine(raw, line + 1) : length;
-        m_lines.styles.resize(done + static_cast<std::size_t>(next - start));
         const SqlLineState before = styler.State();
-        styler.Line(next, std::span(m_lines.styles).subspan(done));
+        m_lines.endsInLine = !WalkLine(raw, styler, next, target);
+        if (m_lines.endsInLine)
+            return;
         if (number < 0 || !(before == styler.State()))
             number = m_states.NumberOf(styler.State());
         m_lines.levels.push_back(styler.Level());
         m_lines.states.push_back(number);
         ++line;
         m_lines.agrees = ReachesTail(raw, line, next, styler.State(), number);
-        const long walked = static_cast<long>(m_lines.styles.size());
-        const bool enough = next >= target || walked >= kChunk;
+        const bool enough = next >= target || next - m_lines.start >= kChunk;
         const bool lastIsLeft = line == lineCount - 1 && next == length;
         if (m_lines.agrees || (enough && !IsFresh(styler.State()) && !lastIsLeft))
             return;
     }
+}
+
+// False: there is no more to do in the line, or not in this walk.
+bool Colouring::WalkLine(const Raw& raw, SqlStyler& styler, long next, long target)
+{
+    long step = kPlaceStep;
+    while (!styler.Part(next, StopBehind(raw, m_lines.End(), step))) {
+        const bool isPlace = styler.IsPlace();
+        step = isPlace ? kPlaceStep : kSmallStep;
+        if (!isPlace)
+            continue;
+        const long position = m_lines.End();
+        m_lines.places.push_back({position, styler.Place()});
+        m_lines.agrees = IsOfTail(m_lines.places.back(), raw.Length());
+        if (m_lines.agrees || position >= target || position - m_lines.start >= kChunk)
+            return false;
+    }
+    return true;
+}
+
+// At the next place, if one comes soon, so that a tail is not missed by a few bytes.
+long Colouring::StopBehind(const Raw& raw, long position, long step) const
+{
+    if (m_places.IsEmpty())
+        return position + step;
+    const std::size_t next = m_places.FirstFrom(position + 1, raw.Length());
+    const long place = next < m_places.Count() ? m_places.PositionOf(next, raw.Length()) : kNowhere;
+    return place <= position + 2 * step ? place : position + step;
+}
+
+bool Colouring::IsOfTail(const SqlPlaces::Place& place, long length) const
+{
+    if (m_tail.IsEmpty() || place.position < m_tail.start || place.position > m_tail.end)
+        return false;
+    const std::size_t index = m_places.FirstFrom(place.position, length);
+    return index < m_places.Count() && m_places.PositionOf(index, length) == place.position &&
+           m_places.StateOf(index) == place.state;
 }
 
 // A line whose batch may yet turn out to have one line only decides about lines before it.
@@ -318,8 +414,10 @@ void Colouring::FoldFreshBatch(const Raw& raw)
     bool fresh = m_lines.first > 0 && IsFresh(first);
     bool isBefore = fresh; // the batch's first line
     std::size_t begin = 0; // of the blank lines behind it
-    for (std::size_t i = 0; i < m_lines.states.size(); ++i) {
-        const SqlBlockState& behind = m_states.Of(m_lines.states[i]).blocks;
+    for (std::size_t i = 0; i < m_lines.states.size() + m_lines.endsInLine; ++i) {
+        const SqlBlockState& behind = i < m_lines.states.size()
+                                          ? m_states.Of(m_lines.states[i]).blocks
+                                          : m_lines.places.back().state.state.blocks;
         const bool freshBehind = behind.batch == SqlBlockState::Batch::Fresh;
         if (fresh && !freshBehind) {
             const bool opens = behind.batch == SqlBlockState::Batch::Open;
@@ -346,7 +444,7 @@ void Colouring::FoldBefore(const Raw& raw, bool opens)
     long depthBehind = 0;
     while (line > 0) {
         const SqlLineState& behind = m_states.Of(StateNumber(raw, line));
-        depthBehind = static_cast<long>(behind.blocks.Depth());
+        depthBehind = FoldDepth(behind.scan, behind.blocks, m_foldOptions);
         --line;
         if (line == 0 || !IsFresh(m_states.Of(StateNumber(raw, line))))
             break;

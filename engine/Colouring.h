@@ -2,12 +2,14 @@
 // fold levels that it gives the text. Other languages are the stock engine's.
 //
 // The stock engine knows how far the text is styled from its start. Behind an edit there is mostly
-// a tail that is styled too and only waits for the lines in front of it: once a line of the tail is
-// reached in the state that it was styled from, all of the tail stands.
+// a tail that is styled too and only waits for the text in front of it: once a place of the tail is
+// reached in the state that it was styled from, all of the tail stands. Such places are the starts
+// of lines and, some hundred bytes apart, places inside long lines; at them the walk also ends and
+// is taken up again.
 #pragma once
 
 #include "engine/Raw.h"
-#include "engine/SqlStyler.h"
+#include "engine/SqlPlaces.h"
 
 #include <optional>
 #include <unordered_map>
@@ -67,7 +69,7 @@ public:
     void DropTail() { m_tail = {}; }
 
 private:
-    // Lines that are styled by their states, bytes from the start. Empty: none.
+    // What is styled by the states of its places, in bytes. Empty: nothing.
     struct Range
     {
         long start = 0;
@@ -75,7 +77,7 @@ private:
         bool IsEmpty() const { return start >= end; }
     };
 
-    // What a walk over some lines has made.
+    // What a walk over some lines has made. It may start and end inside of a line.
     struct Lines
     {
         long first = 0; // line
@@ -83,17 +85,29 @@ private:
         std::vector<char> styles;
         std::vector<int> levels;
         std::vector<int> states;                  // at the start of the line behind each
+        std::vector<SqlPlaces::Place> places;     // inside of them
         std::vector<std::pair<long, int>> before; // levels of lines before the first
         bool agrees = false;                      // with what the tail was styled from
+        bool endsInLine = false;                  // at the last place
+
+        long End() const { return start + static_cast<long>(styles.size()); }
     };
 
     void Become(const Raw& raw, int lexer);
     void ChooseDialect(const Raw& raw);
     void Restart(const Raw& raw);
     bool IsRepeated(long length);
-    void EditBegins(const Raw& raw, long start, long end);
+    long TakeEnd(const Raw& raw);
+    long LastPlace(const Raw& raw, long position) const;
+    void EditBegins(const Raw& raw, long length, long start, long end);
+    void EditEnds(const Raw& raw);
+    void LeaveSomeToStyle(const Raw& raw, long position);
     bool StyleChunk(const Raw& raw, long position);
+    void StartWalk(const Raw& raw, SqlStyler& styler);
     void Walk(const Raw& raw, SqlStyler& styler, long position);
+    bool WalkLine(const Raw& raw, SqlStyler& styler, long next, long position);
+    long StopBehind(const Raw& raw, long position, long step) const;
+    bool IsOfTail(const SqlPlaces::Place& place, long length) const;
     bool ReachesTail(const Raw& raw, long line, long start, const SqlLineState& state,
                      int number) const;
     void FoldFreshBatch(const Raw& raw);
@@ -111,6 +125,9 @@ private:
     SqlFoldOptions m_foldOptions;
     long m_end = 0; // of the styles, as this class has left it
     Range m_tail;
+    SqlPlaces m_places;      // those behind the end of styles are the tail's
+    long m_editEnd = 0;      // of the edit that was noted last
+    long m_editLines = -1;   // of the text before it; -1: it has been looked at
     long m_notedLength = -1; // of the text, when an edit was noted last
     unsigned m_edits = 0;
     bool m_running = false;

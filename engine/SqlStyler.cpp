@@ -5,120 +5,21 @@
 #include <algorithm>
 #include <array>
 #include <cstring>
+#include <utility>
 
 namespace engine {
 
 using analysis::ScanState;
 using analysis::SqlWord;
 using analysis::TextSpans;
-
-struct SqlPalette
-{
-    using ByWordSets = SqlStyler::WordStyles;
-
-    std::uint8_t blockComment, lineComment, docComment, number, string, op, identifier, variable,
-        quotedName, otherQuotedName, statement, dataType, globalVariable, beforeDataType;
-    std::uint8_t clientLine; // 0: the line is coloured as code
-    ByWordSets words;        // by the sets that have the word
-    ByWordSets wordsAfterName;
-    ByWordSets wordsAfterPoint;
-    ByWordSets calledWords; // with a parenthesis directly behind
-};
+using analysis::TokenKind;
 
 namespace {
 
-namespace dialect = sqlstyle::dialect;
-namespace generic = sqlstyle::generic;
-
-constexpr int kGenericLexer = 9;
 constexpr int kGlobalVariables = 3; // keyword set
 constexpr long kLongestPointedWord = 120;
-constexpr long kFarthestArgument = 64; // blanks between a client's word and what it sets
-
-struct SetRow
-{
-    int set;
-    std::uint8_t style;
-    bool afterPoint; // told from a name behind a point
-};
-
-// The first row whose set has the word wins.
-constexpr SetRow kDialectSets[] = {
-    {6, dialect::kOperator, false}, {0, dialect::kStatement, false},
-    {4, dialect::kFunction, true},  {2, dialect::kSystemTable, true},
-    {5, dialect::kProcedure, true}, {1, dialect::kDataType, false},
-};
-constexpr SetRow kGenericSets[] = {
-    {0, generic::kKeyword, false},    {7, generic::kFurtherKeyword, false},
-    {4, generic::kFunction, true},    {5, generic::kSystemObject, true},
-    {1, generic::kDataType, false},   {6, generic::kSetting, false},
-    {2, generic::kDocKeyword, false}, {3, generic::kClientCommand, false},
-};
-constexpr int kDataTypeSet = 1;
-constexpr int kFunctionSet = 4;
-
-template <std::size_t Count>
-constexpr SqlPalette::ByWordSets StylesOf(const SetRow (&rows)[Count], int first, bool afterPoint,
-                                          std::uint8_t other)
-{
-    SqlPalette::ByWordSets styles{};
-    for (unsigned sets = 0; sets < styles.size(); ++sets) {
-        styles[sets] = other;
-        for (std::size_t i = Count; i-- > 0;) {
-            if ((sets >> rows[i].set & 1U) && (rows[i].afterPoint || !afterPoint))
-                styles[sets] = rows[i].style;
-        }
-        for (const SetRow& row : rows) {
-            if (row.set == first && (sets >> first & 1U))
-                styles[sets] = row.style;
-        }
-    }
-    return styles;
-}
-
-constexpr SqlPalette kDialectPalette = {
-    .blockComment = dialect::kBlockComment,
-    .lineComment = dialect::kLineComment,
-    .docComment = dialect::kBlockComment,
-    .number = dialect::kNumber,
-    .string = dialect::kString,
-    .op = dialect::kOperator,
-    .identifier = dialect::kIdentifier,
-    .variable = dialect::kVariable,
-    .quotedName = dialect::kQuotedName,
-    .otherQuotedName = dialect::kOtherQuotedName,
-    .statement = dialect::kStatement,
-    .dataType = dialect::kDataType,
-    .globalVariable = dialect::kGlobalVariable,
-    .beforeDataType = dialect::kBeforeDataType,
-    .clientLine = 0,
-    .words = StylesOf(kDialectSets, -1, false, dialect::kIdentifier),
-    .wordsAfterName = StylesOf(kDialectSets, kDataTypeSet, false, dialect::kIdentifier),
-    .wordsAfterPoint = StylesOf(kDialectSets, -1, true, dialect::kIdentifier),
-    .calledWords = StylesOf(kDialectSets, kFunctionSet, false, dialect::kIdentifier),
-};
-
-constexpr SqlPalette kGenericPalette = {
-    .blockComment = generic::kBlockComment,
-    .lineComment = generic::kLineComment,
-    .docComment = generic::kDocComment,
-    .number = generic::kNumber,
-    .string = generic::kString,
-    .op = generic::kOperator,
-    .identifier = generic::kIdentifier,
-    .variable = generic::kIdentifier,
-    .quotedName = generic::kQuotedName,
-    .otherQuotedName = generic::kOtherQuotedName,
-    .statement = generic::kKeyword,
-    .dataType = generic::kDataType,
-    .globalVariable = generic::kIdentifier,
-    .beforeDataType = generic::kText,
-    .clientLine = generic::kClientCommand,
-    .words = StylesOf(kGenericSets, -1, false, generic::kIdentifier),
-    .wordsAfterName = StylesOf(kGenericSets, kDataTypeSet, false, generic::kIdentifier),
-    .wordsAfterPoint = StylesOf(kGenericSets, -1, true, generic::kIdentifier),
-    .calledWords = StylesOf(kGenericSets, kFunctionSet, false, generic::kIdentifier),
-};
+constexpr long kFarthestArgument = 64;           // blanks between a client's word and what it sets
+constexpr long kRoom = 2 * analysis::kLongToken; // a part's last token ends within, behind the stop
 
 // Lines of a client whose text is no code: by first word, between blanks.
 constexpr std::string_view kRemarks = " rem remark ";
@@ -128,6 +29,11 @@ std::uint64_t Mix(std::uint64_t hash, std::uint64_t value)
 {
     hash = (hash ^ value) * 0x9E3779B97F4A7C15U;
     return hash ^ hash >> 29;
+}
+
+bool IsInsideCharacter(unsigned char byte)
+{
+    return (byte & 0xC0U) == 0x80;
 }
 
 bool IsBlankByte(unsigned char byte)
@@ -176,50 +82,98 @@ std::uint64_t SqlLineState::Hash() const
                          number(blocks.ifSeen) << 34 | number(blocks.whileSeen) << 35);
 }
 
+long FoldDepth(const ScanState& scan, const SqlBlockState& blocks, SqlFoldOptions fold)
+{
+    const bool inComment =
+        scan.inside == TokenKind::BlockComment || scan.inside == TokenKind::CodeComment;
+    return static_cast<long>(blocks.Depth()) + (fold.comments && inComment);
+}
+
 SqlStyler::SqlStyler(int lexer, const analysis::ScriptRules& rules, const SqlVocabulary& vocabulary,
                      analysis::Terminators& terminators, SqlFoldOptions fold)
-    : m_palette(lexer == kGenericLexer ? kGenericPalette : kDialectPalette),
-      m_dialect(*rules.dialect), m_vocabulary(vocabulary), m_terminators(terminators),
-      m_separator(rules.separator), m_fold(fold),
+    : m_palette(PaletteOf(lexer)), m_dialect(*rules.dialect), m_vocabulary(vocabulary),
+      m_terminators(terminators), m_separator(rules.separator), m_fold(fold),
       m_hasCommands(!m_dialect.commandLeads.empty() || !m_dialect.commandWords.empty() ||
                     !m_dialect.delimiterWord.empty()),
       m_blocks(m_dialect), m_scanner(m_dialect, {})
 {}
 
-void SqlStyler::Start(TextSpans text, long position, const SqlLineState& state)
+void SqlStyler::Start(TextSpans text, long position, const SqlLineState& state,
+                      std::vector<char>& styles)
 {
     m_scanner = analysis::SqlScanner(m_dialect, text, position, state.scan);
-    m_scanner.CutShortTokens();
     m_scanner.SetTerminator(m_terminators.TextOf(state.blocks.terminator));
     m_state = state;
     m_blocks.state = state.blocks;
+    m_inLine = false;
+    m_buffer = &styles;
+    m_start = position;
 }
 
-void SqlStyler::Line(long next, std::span<char> styles)
+void SqlStyler::Resume(TextSpans text, long position, const SqlPlaceState& place,
+                       std::vector<char>& styles)
 {
-    m_lineStart = m_scanner.Position();
-    m_lineEnd = next;
-    m_styles = styles;
-    m_isBlank = true;
-    m_ignored = false;
-    m_clientLine = false;
-    m_afterName = false;
-    m_afterGlobalName = false;
+    Start(text, position, place.state, styles);
+    m_line = place.line;
+    m_inLine = true;
+    m_readTo = 0;
     m_blankStart = -1;
-    m_isClean = true;
-    m_freshAtStart = m_blocks.state.batch == SqlBlockState::Batch::Fresh;
-    m_startDepth = VisibleDepth();
-    m_least = m_startDepth;
-    while (m_scanner.Position() < next) {
+}
+
+void SqlStyler::BeginLine()
+{
+    m_line = {};
+    m_line.freshAtStart = m_blocks.state.batch == SqlBlockState::Batch::Fresh;
+    m_line.startDepth = VisibleDepth();
+    m_line.leastDepth = m_line.startDepth;
+    m_readTo = 0;
+    m_blankStart = -1;
+    m_inLine = true;
+}
+
+// The part ends with a token, so that only one that is cut anyway is cut by it.
+bool SqlStyler::Part(long next, long stop)
+{
+    const TextSpans& text = m_scanner.Text();
+    while (IsInsideCharacter(text.At(stop)))
+        ++stop;
+    const bool isLast = stop + kRoom >= next;
+    m_lineEnd = next;
+    m_stop = isLast ? next : stop;
+    m_scanner.CutTokensOf(isLast ? 1 : analysis::kLongToken);
+    m_buffer->resize(static_cast<std::size_t>(m_stop + (isLast ? 0 : kRoom) - m_start));
+    m_styles = *m_buffer;
+    if (!m_inLine)
+        BeginLine();
+    while (m_scanner.Position() < m_stop) {
         const ScanState before = m_scanner.State();
-        const Token token = m_scanner.Next(next);
+        const Token token = m_scanner.Next(m_stop);
         if (token.kind == TokenKind::End)
             break;
         Take(token, before);
     }
-    if (m_clientLine && !m_scanner.State().InCode())
-        m_scanner.Restart(next);
-    FinishLine();
+    if (isLast)
+        FinishLine();
+    else
+        m_buffer->resize(static_cast<std::size_t>(m_scanner.Position() - m_start));
+    return isLast;
+}
+
+bool SqlStyler::IsPlace() const
+{
+    const long position = m_scanner.Position();
+    const bool mayOpenBatch =
+        m_line.freshAtStart && m_blocks.state.batch == SqlBlockState::Batch::Fresh;
+    return position >= m_readTo && m_blankStart < 0 && !mayOpenBatch &&
+           !IsInsideCharacter(m_scanner.Text().At(position));
+}
+
+SqlPlaceState SqlStyler::Place() const
+{
+    SqlPlaceState place{.state = m_state, .line = m_line};
+    place.state.scan = m_scanner.State();
+    place.state.blocks = m_blocks.state;
+    return place;
 }
 
 void SqlStyler::Take(const Token& token, const ScanState& before)
@@ -228,7 +182,7 @@ void SqlStyler::Take(const Token& token, const ScanState& before)
     switch (token.kind) {
     case TokenKind::Blank:
         Fill(token.start, token.end, 0);
-        if (m_afterName)
+        if (m_line.afterName && token.start != std::exchange(m_blankEnd, token.end))
             m_blankStart = token.start;
         return;
     case TokenKind::LineEnd:
@@ -244,6 +198,9 @@ void SqlStyler::Take(const Token& token, const ScanState& before)
         return;
     case TokenKind::Variable:
         TakeVariable(token);
+        return;
+    case TokenKind::Command: // goes on from a part before
+        Fill(token.start, token.end, m_line.restStyle);
         return;
     case TokenKind::CodeComment:
         style = m_palette.blockComment;
@@ -262,21 +219,21 @@ void SqlStyler::Take(const Token& token, const ScanState& before)
         break;
     }
     Fill(token.start, token.end, style);
-    const bool wasGlobalName = m_afterGlobalName;
+    const bool wasGlobalName = m_line.afterGlobalName;
     Feed(token, SqlWord::None);
-    m_afterName = token.kind == TokenKind::QuotedName;
+    m_line.afterName = token.kind == TokenKind::QuotedName;
     m_blankStart = -1;
-    m_afterGlobalName = wasGlobalName && token.kind == TokenKind::Operator &&
-                        m_blocks.state.before == SqlBlockState::Before::Point;
+    m_line.afterGlobalName = wasGlobalName && token.kind == TokenKind::Operator &&
+                             m_blocks.state.before == SqlBlockState::Before::Point;
 }
 
 // Words and what else may begin a statement, a batch or a line of the client's.
 void SqlStyler::Feed(const Token& token, SqlWord word)
 {
-    m_isBlank = false;
-    const bool isFirst = m_isClean && !token.resumed;
-    m_isClean = false;
-    if (m_ignored || (isFirst && !m_separator.text.empty() && TakeSeparator(token)))
+    m_line.isBlank = false;
+    const bool isFirst = m_line.isClean && !token.resumed;
+    m_line.isClean = false;
+    if (m_line.ignored || (isFirst && !m_separator.text.empty() && TakeSeparator(token)))
         return;
     OpenFreshBatch();
     if (isFirst) {
@@ -295,24 +252,25 @@ void SqlStyler::Feed(const Token& token, SqlWord word)
 // The batch has code on an earlier line: this one and those behind belong to its fold.
 void SqlStyler::OpenFreshBatch()
 {
-    if (!m_freshAtStart || m_blocks.state.batch != SqlBlockState::Batch::Fresh)
+    if (!m_line.freshAtStart || m_blocks.state.batch != SqlBlockState::Batch::Fresh)
         return;
     m_blocks.state.batch = SqlBlockState::Batch::Open;
-    ++m_startDepth;
-    ++m_least;
+    ++m_line.startDepth;
+    ++m_line.leastDepth;
 }
 
 bool SqlStyler::TakeSeparator(const Token& token)
 {
     const analysis::SeparatorLine line =
         analysis::SeparatorAt(m_dialect, m_scanner.Text(), token.start, m_separator);
+    m_readTo = std::max(line.read, token.start + static_cast<long>(m_separator.text.size()));
     if (!line.found)
         return false;
     m_blocks.CloseBatch();
-    m_ignored = true;
+    m_line.ignored = true;
     if (token.kind == TokenKind::Word)
         Fill(token.start, token.end, m_palette.statement);
-    m_least = 0;
+    m_line.leastDepth = 0;
     return true;
 }
 
@@ -330,17 +288,17 @@ bool SqlStyler::TakeCommand(const Token& token)
     m_blocks.CloseStatement();
     if (!m_separator.text.empty() && m_blocks.state.batch == SqlBlockState::Batch::None)
         m_blocks.state.batch = SqlBlockState::Batch::Fresh;
-    m_ignored = true;
-    m_clientLine = true;
+    m_line.ignored = true;
+    m_line.clientLine = true;
     if (token.kind == TokenKind::Word)
         Fill(token.start, token.end, m_palette.statement);
     const bool isRemark = IsListed(token, kRemarks);
     if (isRemark || m_palette.clientLine != 0 || IsListed(token, kPlainTexts)) {
-        const Token rest = m_scanner.TakeLine(m_lineEnd);
-        const int style = isRemark ? m_palette.lineComment : m_palette.clientLine;
-        Fill(rest.start, rest.end, style);
-        if (isRemark || style != 0)
-            Fill(token.start, token.end, style);
+        const Token rest = m_scanner.TakeLine(m_stop);
+        m_line.restStyle = isRemark ? m_palette.lineComment : m_palette.clientLine;
+        Fill(rest.start, rest.end, m_line.restStyle);
+        if (isRemark || m_line.restStyle != 0)
+            Fill(token.start, token.end, m_line.restStyle);
     }
     return true;
 }
@@ -358,7 +316,8 @@ void SqlStyler::TakeComment(const Token& token)
                  : m_palette.blockComment);
     if (!isLine && !token.cut)
         m_state.docComment = false;
-    m_isBlank = false;
+    m_blankStart = -1;
+    m_line.isBlank = false;
     OpenFreshBatch();
     if (isLine && m_dialect.terminatorComment && !token.resumed)
         TakeTerminatorComment(token);
@@ -367,13 +326,13 @@ void SqlStyler::TakeComment(const Token& token)
 
 void SqlStyler::TakeWord(const Token& token)
 {
-    if (token.resumed) { // of a line without end
+    if (token.resumed) {
         Fill(token.start, token.end, m_palette.identifier);
-        m_isBlank = false;
+        m_line.isBlank = false;
         return;
     }
     using Before = SqlBlockState::Before;
-    const bool behindPoint = m_blocks.state.before == Before::Point && !m_ignored;
+    const bool behindPoint = m_blocks.state.before == Before::Point && !m_line.ignored;
     const SqlVocabulary::Entry* entry = &m_vocabulary.Find(BytesOf(token));
     Token whole = token;
     if (entry->beginsWithPoint && !behindPoint) {
@@ -384,27 +343,28 @@ void SqlStyler::TakeWord(const Token& token)
         else
             whole.end = token.end;
     }
-    const bool isGlobal = m_afterGlobalName && behindPoint && (entry->sets >> kGlobalVariables & 1);
+    const bool isGlobal =
+        m_line.afterGlobalName && behindPoint && (entry->sets >> kGlobalVariables & 1);
     const int style =
         isGlobal ? m_palette.globalVariable : StylesFor(whole, *entry, behindPoint)[entry->sets];
     Fill(token.start, whole.end, style);
-    if (style == m_palette.dataType && m_afterName && m_blankStart >= 0)
+    if (style == m_palette.dataType && m_line.afterName && m_blankStart >= 0)
         Fill(m_blankStart, token.start, m_palette.beforeDataType);
     if (whole.end > token.end)
         m_scanner.Restart(whole.end);
     Feed(whole, entry->shape);
-    m_afterName = style == m_palette.identifier;
-    m_afterGlobalName = false;
+    m_line.afterName = style == m_palette.identifier;
+    m_line.afterGlobalName = false;
     m_blankStart = -1;
 }
 
 // A word of several sets is what its place makes likely.
-const SqlStyler::WordStyles&
+const SqlPalette::ByWordSets&
 SqlStyler::StylesFor(const Token& token, const SqlVocabulary::Entry& entry, bool behindPoint) const
 {
     if (behindPoint)
         return m_palette.wordsAfterPoint;
-    if (m_afterName && (entry.sets >> kDataTypeSet & 1))
+    if (m_line.afterName && (entry.sets >> SqlPalette::kDataTypeSet & 1))
         return m_palette.wordsAfterName;
     return m_scanner.Text().At(token.end) == '(' ? m_palette.calledWords : m_palette.words;
 }
@@ -413,19 +373,23 @@ void SqlStyler::TakeVariable(const Token& token)
 {
     const TextSpans& text = m_scanner.Text();
     int style = m_palette.variable;
-    m_afterGlobalName = false;
-    if (!token.resumed && text.At(token.start) == '@' && text.At(token.start + 1) == '@') {
+    if (token.resumed) {
+        Fill(token.start, token.end, style);
+        return;
+    }
+    m_line.afterGlobalName = false;
+    if (text.At(token.start) == '@' && text.At(token.start + 1) == '@') {
         Token name = token;
         name.start += 2;
         if (m_vocabulary.Find(BytesOf(name)).sets >> kGlobalVariables & 1)
             style = m_palette.globalVariable;
-        m_afterGlobalName = true;
+        m_line.afterGlobalName = true;
     }
     Fill(token.start, token.end, style);
-    const bool isGlobalName = m_afterGlobalName;
+    const bool isGlobalName = m_line.afterGlobalName;
     Feed(token, SqlWord::None);
-    m_afterName = true;
-    m_afterGlobalName = isGlobalName;
+    m_line.afterName = true;
+    m_line.afterGlobalName = isGlobalName;
     m_blankStart = -1;
 }
 
@@ -535,8 +499,8 @@ std::string_view SqlStyler::BytesOf(const Token& token)
 void SqlStyler::Fill(long start, long end, int style)
 {
     const auto size = static_cast<long>(m_styles.size());
-    const long first = std::min(start - m_lineStart, size);
-    const long last = std::min(end - m_lineStart, size);
+    const long first = std::min(start - m_start, size);
+    const long last = std::min(end - m_start, size);
     char* at = m_styles.data() + first;
     for (long i = first; i < last; ++i)
         *at++ = static_cast<char>(style);
@@ -544,15 +508,12 @@ void SqlStyler::Fill(long start, long end, int style)
 
 void SqlStyler::NoteDepth()
 {
-    m_least = std::min(m_least, VisibleDepth());
+    m_line.leastDepth = std::min(m_line.leastDepth, VisibleDepth());
 }
 
-// The comment under way counts where it stands over a line's end.
 long SqlStyler::VisibleDepth() const
 {
-    const TokenKind inside = m_scanner.State().inside;
-    const bool inComment = inside == TokenKind::BlockComment || inside == TokenKind::CodeComment;
-    return static_cast<long>(m_blocks.state.Depth()) + (m_fold.comments && inComment);
+    return FoldDepth(m_scanner.State(), m_blocks.state, m_fold);
 }
 
 // A line where something opens that stays open is a header, as deep as the line ever was: it may
@@ -561,15 +522,20 @@ long SqlStyler::VisibleDepth() const
 void SqlStyler::FinishLine()
 {
     using Batch = SqlBlockState::Batch;
+    m_inLine = false;
+    if (m_line.clientLine && !m_scanner.State().InCode())
+        m_scanner.Restart(m_lineEnd);
     Batch& batch = m_blocks.state.batch;
     const long endDepth = VisibleDepth();
-    const bool opens = endDepth > m_least;
-    const long depth = m_ignored && batch == Batch::None ? 0 : opens ? m_least : m_startDepth;
+    const bool opens = endDepth > m_line.leastDepth;
+    const long depth = m_line.ignored && batch == Batch::None ? 0
+                       : opens                                ? m_line.leastDepth
+                                                              : m_line.startDepth;
     constexpr long kDeepest = sqlstyle::kFoldNumber;
     const long number = std::min(sqlstyle::kFoldBase + depth, kDeepest);
     const bool isHeader = opens && number < kDeepest;
     m_level = static_cast<int>(number) | (isHeader ? sqlstyle::kFoldHeader : 0) |
-              (m_isBlank && m_fold.compact ? sqlstyle::kFoldBlank : 0);
+              (m_line.isBlank && m_fold.compact ? sqlstyle::kFoldBlank : 0);
     m_state.scan = m_scanner.State();
     m_state.blocks = m_blocks.state;
     m_state.docComment = m_state.docComment && !m_state.scan.InCode();

@@ -1,14 +1,16 @@
-// SqlStyler: the styles and the fold levels of an SQL text, line by line in one walk. It knows the
-// text and the state at a line's start, and nothing of windows: who uses it keeps the states.
+// SqlStyler: the styles and the fold levels of an SQL text, line by line in one walk, long lines in
+// parts. It knows the text and the state at the place where it starts, and nothing of windows: who
+// uses it keeps the states.
 #pragma once
 
 #include "engine/SqlBlocks.h"
+#include "engine/SqlPalette.h"
 #include "engine/SqlVocabulary.h"
 #include "engine/analysis/BatchSeparator.h"
 #include "engine/analysis/StatementState.h"
 
-#include <array>
 #include <span>
+#include <vector>
 
 namespace engine {
 
@@ -23,6 +25,31 @@ struct SqlLineState
     std::uint64_t Hash() const;
 };
 
+// What a place inside a line owes to the line besides.
+struct SqlLinePart
+{
+    long startDepth = 0;
+    long leastDepth = 0;
+    std::uint8_t restStyle = 0; // of the client's text that goes on to the line's end
+    bool isBlank = true;
+    bool isClean = true;          // only comments so far
+    bool freshAtStart = false;    // see SqlBlockState::Batch
+    bool ignored = false;         // the rest of the line says nothing of statements
+    bool clientLine = false;      // nothing in it goes on behind its end
+    bool afterName = false;       // a data type may come
+    bool afterGlobalName = false; // behind @@name and a point
+
+    bool operator==(const SqlLinePart&) const = default;
+};
+
+struct SqlPlaceState
+{
+    SqlLineState state;
+    SqlLinePart line;
+
+    bool operator==(const SqlPlaceState&) const = default;
+};
+
 struct SqlFoldOptions
 {
     bool comments = false;
@@ -31,29 +58,38 @@ struct SqlFoldOptions
     bool operator==(const SqlFoldOptions&) const = default;
 };
 
-// The colours of a family of lexers: what each kind of token is, and each keyword set.
-struct SqlPalette;
+// How much stands open at a place. A comment under way counts where it stands over a line's end.
+long FoldDepth(const analysis::ScanState& scan, const SqlBlockState& blocks, SqlFoldOptions fold);
 
 class SqlStyler
 {
 public:
-    using WordStyles = std::array<std::uint8_t, 256>; // by the sets that have the word
-
     // Dialect, terminators and vocabulary are the caller's, and outlive the styler.
     SqlStyler(int lexer, const analysis::ScriptRules& rules, const SqlVocabulary& vocabulary,
               analysis::Terminators& terminators, SqlFoldOptions fold);
 
-    // Goes on at a line's start. The text stays as it is until the next call.
-    void Start(analysis::TextSpans text, long position, const SqlLineState& state);
+    // What stands in front of a place was styled by at most so many bytes from the place on.
+    static constexpr long kReach = 2 * analysis::kLookAhead;
 
-    // Styles the line up to the start of the next, or to the text's end: one byte into styles for
-    // each of the line's.
-    void Line(long next, std::span<char> styles);
+    // Goes on at a line's start, or inside of a line. The styles are those from the position on, a
+    // byte for each of the text's. Text and styles stay as they are until the next call.
+    void Start(analysis::TextSpans text, long position, const SqlLineState& state,
+               std::vector<char>& styles);
+    void Resume(analysis::TextSpans text, long position, const SqlPlaceState& place,
+                std::vector<char>& styles);
+
+    // Styles to the start of the next line, or the text's end; of a long line, to some bytes behind
+    // a stop. False: the line is not done.
+    bool Part(long next, long stop);
+
+    // Inside a line, behind a part of it. A styler can go on at a place if nothing behind it
+    // changes the styles in front.
+    bool IsPlace() const;
+    SqlPlaceState Place() const;
 
     // Of the line that has just been styled: its fold level, as if its batch had no other line
     // (see SqlBlockState::Batch).
     int Level() const { return m_level; }
-    bool IsBlank() const { return m_isBlank; }
 
     // At the start of the next line.
     const SqlLineState& State() const { return m_state; }
@@ -65,8 +101,8 @@ private:
     void Take(const Token& token, const analysis::ScanState& before);
     void TakeComment(const Token& token);
     void TakeWord(const Token& token);
-    const WordStyles& StylesFor(const Token& token, const SqlVocabulary::Entry& entry,
-                                bool behindPoint) const;
+    const SqlPalette::ByWordSets& StylesFor(const Token& token, const SqlVocabulary::Entry& entry,
+                                            bool behindPoint) const;
     void TakeVariable(const Token& token);
     bool TakeSeparator(const Token& token);
     bool TakeCommand(const Token& token);
@@ -83,6 +119,7 @@ private:
     void Fill(long start, long end, int style);
     void NoteDepth();
     long VisibleDepth() const;
+    void BeginLine();
     void FinishLine();
     void OpenFreshBatch();
 
@@ -96,21 +133,17 @@ private:
     SqlBlocks m_blocks;
     analysis::SqlScanner m_scanner;
     SqlLineState m_state;
-    // Of the line
-    long m_lineStart = 0;
+    SqlLinePart m_line;
+    bool m_inLine = false;
+    std::vector<char>* m_buffer = nullptr;
+    std::span<char> m_styles; // the buffer's
+    long m_start = 0;         // of the styles
     long m_lineEnd = 0;
-    std::span<char> m_styles;
-    long m_startDepth = 0;
-    long m_least = 0; // depth
+    long m_stop = 0;        // of the part
+    long m_readTo = 0;      // by whom looks farther than kReach
+    long m_blankStart = -1; // of the blanks behind a name
+    long m_blankEnd = -1;   // of the last blanks
     int m_level = 0;
-    bool m_isBlank = true;
-    bool m_isClean = true;          // only comments so far
-    bool m_freshAtStart = false;    // see SqlBlockState::Batch
-    bool m_ignored = false;         // the rest of the line says nothing of statements
-    bool m_clientLine = false;      // nothing in it goes on behind its end
-    bool m_afterName = false;       // a data type may come
-    bool m_afterGlobalName = false; // behind @@name and a point
-    long m_blankStart = -1;         // of the blanks behind a name
     std::string m_scratch;
 };
 

@@ -83,8 +83,6 @@ void TextIndex::ChangeBegins(Change change)
     m_change = change;
     m_change.lengthBefore = LengthInBytes();
     m_change.underWay = true;
-    if (change.at.value < m_last.byte)
-        m_last = Place();
 }
 
 void TextIndex::InsertionBegins(BytePos at, long bytes)
@@ -110,6 +108,7 @@ void TextIndex::ChangeDone(long insertedUnits) const
         m_lineIndexIsWrong |= change.touchesCrLf;
         m_units -= change.deletedUnits;
         m_bytes -= change.deleted;
+        MovePlaces(change, -change.deletedUnits);
         return;
     }
     m_lineIndexIsWrong |= TouchesCrLf(change.at, change.inserted);
@@ -117,8 +116,19 @@ void TextIndex::ChangeDone(long insertedUnits) const
         insertedUnits >= 0 ? insertedUnits : WalkToByte({0, at}, at + change.inserted).unit;
     m_units += units;
     m_bytes += change.inserted;
-    if (m_last.byte == at) // where the next one is likely to go in
-        m_last = {m_last.unit + units, at + change.inserted};
+    MovePlaces(change, units);
+}
+
+// One where text goes in moves behind it, where the next is likely to go in.
+void TextIndex::MovePlaces(const Change& change, long units) const
+{
+    const long at = change.at.value;
+    for (Place& place : m_places) {
+        if (place.byte >= at + change.deleted)
+            place = {place.unit + units, place.byte + change.inserted - change.deleted};
+        else if (place.byte > at)
+            place = Place();
+    }
 }
 
 void TextIndex::Reset()
@@ -126,7 +136,7 @@ void TextIndex::Reset()
     m_change = Change();
     m_lineIndexIsWrong = true; // what another window knows of an index is not known here
     m_unitsAreKnown = false;
-    m_last = Place();
+    m_places = {};
     m_walked = 0;
 }
 
@@ -229,14 +239,17 @@ UnitPos TextIndex::ToUnits(BytePos position) const
     return {Remember(WalkToByte(from, byte)).unit};
 }
 
-// Of the text's start, its end and the last place that was asked for.
+// Of the text's start, its end and the places that were asked for.
 TextIndex::Place TextIndex::Nearest(long Place::*coordinate, long value) const
 {
     Place nearest;
-    for (const Place& candidate : {Place{Length(), m_raw.Length()}, m_last}) {
+    const auto take = [&](const Place& candidate) {
         if (std::labs(candidate.*coordinate - value) < std::labs(nearest.*coordinate - value))
             nearest = candidate;
-    }
+    };
+    take({Length(), m_raw.Length()});
+    for (const Place& place : m_places)
+        take(place);
     return nearest;
 }
 
@@ -255,8 +268,15 @@ bool TextIndex::WalkPays(long distance) const
 
 TextIndex::Place TextIndex::Remember(Place place) const
 {
-    if (!m_change.underWay || place.byte <= m_change.at.value)
-        m_last = place;
+    if (m_change.underWay && place.byte > m_change.at.value)
+        return place;
+    auto* const near = std::find_if(m_places.begin(), m_places.end(), [place](const Place& other) {
+        return std::labs(other.byte - place.byte) <= kNear;
+    });
+    if (near != m_places.end())
+        *near = place;
+    else
+        m_places[m_oldest++ % m_places.size()] = place;
     return place;
 }
 

@@ -6,6 +6,8 @@
 
 #include "engine/Raw.h"
 
+#include <array>
+
 namespace engine {
 
 struct UnitPos
@@ -66,6 +68,7 @@ private:
     void ChangeBegins(Change change);
     void ChangeDone(long insertedUnits) const; // -1: they are to be counted
     void Settle() const;
+    void MovePlaces(const Change& change, long units) const;
     bool TouchesCrLf(BytePos at, long bytes) const;
     bool HasLineIndex() const;
     void EnsureLineIndex() const;
@@ -84,8 +87,10 @@ private:
     mutable bool m_unitsAreKnown = false;
     mutable long m_units = 0;  // in the text
     mutable long m_bytes = 0;  // likewise; both while no change is under way
-    mutable Place m_last;      // a place that is known
     mutable long m_walked = 0; // bytes, since there was no line index
+    // Places that are known: a caret's, and the ends of its line and of the styles far from it.
+    mutable std::array<Place, 4> m_places;
+    mutable std::size_t m_oldest = 0; // of the places
 };
 
 } // namespace engine

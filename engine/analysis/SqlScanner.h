@@ -95,8 +95,8 @@ public:
         m_state = {};
     }
 
-    // Lets the limit cut tokens of any length that would stand across it, not only long ones.
-    void CutShortTokens() { m_uncut = 1; }
+    // Lets the limit cut tokens of so many bytes that would stand across it, not only long ones.
+    void CutTokensOf(long bytes) { m_uncut = bytes; }
 
     // What ends a statement instead of ;. Empty: ; does. The bytes are the caller's.
     void SetTerminator(std::string_view terminator);

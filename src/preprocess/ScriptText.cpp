@@ -7,64 +7,16 @@
 #include "search/FindReplaceManager.h"
 
 #include <algorithm>
-#include <array>
 #include <cstdlib>
 #include <utility>
 
 namespace {
 
 constexpr int kContainerLexer = 0; // the host styles the text
-constexpr const char16_t* kDialectProperty = u"sql.dialect";
 constexpr int kAllStyleBits = 0x1F;
 constexpr long kSmallBlock = 128; // a change is mostly over within two lines
 constexpr long kLargeBlock = 1024 * 1024;
-
-constexpr long kPeek = 64;         // units read to tell whether a line has begun
-constexpr long kLongestName = 128; // with its points, of those that the lexers know
-
-bool IsApart(QChar unit)
-{
-    return unit != u'\0' && QStringView(u" \t.,;()=").contains(unit);
-}
-
-bool IsQuote(QChar unit)
-{
-    return unit == u'\'' || unit == u'"';
-}
-
-bool IsWordUnit(QChar unit)
-{
-    return unit.unicode() < 0x80 && (unit.isLetterOrNumber() || unit == u'_');
-}
-
-bool IsWord(const QString& text)
-{
-    return std::all_of(text.begin(), text.end(), IsWordUnit);
-}
-
-// Ends no quoted string, and no variable in it has to be told from one outside.
-bool CanBeQuoted(const QString& text)
-{
-    return std::none_of(text.begin(), text.end(), [](QChar unit) {
-        return IsQuote(unit) || unit < u' ' || unit == u'\\' || unit == u'&';
-    });
-}
-
-// Whether a script may have statements end with a text of its choice, which may hold a quote.
-bool HasDelimiters(CZNCoreEditorControlEx& control, int lexer)
-{
-    constexpr int kDb2 = 4, kGeneric = 9, kDb2ForZOs = 10, kMySql = 14, kInterBase = 15;
-    if (lexer != kGeneric) // its dialects are told apart by a property
-        return lexer == kDb2 || lexer == kDb2ForZOs || lexer == kMySql || lexer == kInterBase;
-    std::array<char16_t, 32> name{};
-    const int length = control.GetProperty(kDialectProperty, nullptr, 1);
-    if (length >= static_cast<int>(name.size()))
-        return true;
-    control.GetProperty(kDialectProperty, name.data(), 1);
-    const QStringView dialect(name.data());
-    return !dialect.isEmpty() && dialect != u"sql" && dialect != u"postgresql" &&
-           dialect != u"sqlite";
-}
+constexpr long kPeek = 64; // units read to tell a blank line
 
 // Where a place is after a change.
 long Moved(long place, long at, long removed, long inserted)
@@ -77,7 +29,6 @@ long Moved(long place, long at, long removed, long inserted)
 ScriptText::ScriptText(CZNCoreEditorControlEx& control, SourceMap& map)
     : m_control(control), m_finder(*zncoreeditor::GetFindReplaceManager()), m_map(map),
       m_lexer(control.GetLexer(1)), m_tellsPlaces(TellsCommentsAndStrings(m_lexer)),
-      m_keepsLines(m_tellsPlaces && m_lexer != kContainerLexer && !HasDelimiters(control, m_lexer)),
       m_styled(control.GetEndStyled(1)), m_stale(m_styled), m_known(m_styled), m_block(kSmallBlock)
 {}
 
@@ -129,13 +80,7 @@ ScriptText::Place ScriptText::PlaceOf(long position)
 {
     if (!m_tellsPlaces)
         return Place::Code;
-    if (position >= m_sureEnd)
-        StyleTo(position);
-    return StyledPlaceOf(position);
-}
-
-ScriptText::Place ScriptText::StyledPlaceOf(long position) const
-{
+    StyleTo(position);
     const int style = m_control.GetStyleAt(position, 1);
     if (IsCommentStyle(m_lexer, style))
         return Place::Comment;
@@ -159,17 +104,31 @@ long ScriptText::SettleStyles()
     return std::exchange(m_restyled, 0);
 }
 
+// Behind the line of a position and the blank ones below it: an engine that is asked for the styles
+// of the position goes as far, and into the line behind, to tell whether the batch goes on.
+long ScriptText::BehindLines(long position) const
+{
+    const int lines = m_control.GetLineCount(1);
+    int line = LineOf(position) + 1;
+    while (line < lines) {
+        const long start = LineStart(line);
+        if (!Text(start, std::min(LineEnd(line), start + kPeek)).trimmed().isEmpty())
+            return start;
+        ++line;
+    }
+    return Length();
+}
+
 // From where the engine's styles end, which it keeps true through edits: behind a change it goes on
-// to the old end once a line begins as it did before.
+// to the old end once a place has the state that it had before.
 void ScriptText::StyleBlock(long to)
 {
     const bool isHosts = m_lexer == kContainerLexer;
     const long from = isHosts ? m_styled : m_control.GetEndStyled(1);
-    long end = LineStart(LineOf(std::min(to, Length())) + 1);
-    if (end <= from || end > Length())
-        end = Length();
+    const long lines = BehindLines(std::min(to, Length()));
+    const long end = isHosts ? lines : std::min(to, Length());
     if (m_styled < m_known)
-        m_restyled = std::max(m_restyled, end);
+        m_restyled = std::max(m_restyled, lines);
     m_control.Colorize(from, end, 1);
     m_styled = isHosts ? end : std::max(end, static_cast<long>(m_control.GetEndStyled(1)));
     m_block = std::min(m_block * 2, kLargeBlock);
@@ -180,7 +139,6 @@ void ScriptText::StyleBlock(long to)
 void ScriptText::Changed(long at, long removed, long inserted)
 {
     ++m_changes;
-    m_sureEnd = -1;
     m_firstChange = m_firstChange < 0 ? at : std::min(m_firstChange, at);
     m_restyled = m_lexer == kContainerLexer ? Length() : Moved(m_restyled, at, removed, inserted);
     if (at >= m_known)
@@ -190,50 +148,6 @@ void ScriptText::Changed(long at, long removed, long inserted)
     m_stale =
         wasStale ? std::max(Moved(m_stale, at, removed, inserted), at + inserted) : at + inserted;
     m_styled = std::min(m_styled, at);
-}
-
-// Whether the rest of the line is styled the same with the value in the use's place. A line of many
-// uses would else be styled as many times: 88 s for 16,000 uses in 770 KB. The lines below are
-// styled again all the same, since words tell where statements begin, and with them the lines that
-// are for a client program.
-bool ScriptText::KeepsLine(long position, long length, const QString& value) const
-{
-    if (!m_keepsLines || position < 2 || m_finder.GetRegExp() || m_finder.GetTransform())
-        return false;
-    const QString around =
-        Text(position - 2, position) + Text(position + length, position + length + 1);
-    if (around.size() != 3 || !HasBegun(position))
-        return false;
-    const QChar before = around[1];
-    const QChar behind = around[2];
-    if (IsApart(before) && IsApart(behind) && IsWord(value))
-        return behind != u'.' || !MayPrefixAString(position + length);
-    // Directly in quotes of which the first begins the string, without a prefix.
-    return IsQuote(before) && behind == before && CanBeQuoted(value) && IsApart(around[0]) &&
-           StyledPlaceOf(position) == Place::String &&
-           StyledPlaceOf(position - 1) == Place::String &&
-           StyledPlaceOf(position - 2) == Place::Code;
-}
-
-// Whether the line has something in front of the position, and that is no comment: its first word
-// may make it a client program's, as REM does.
-bool ScriptText::HasBegun(long position) const
-{
-    const long start = LineStart(LineOf(position));
-    const QString front = Text(start, std::min(position, start + kPeek));
-    const auto* const first =
-        std::find_if_not(front.begin(), front.end(), [](QChar unit) { return unit <= u' '; });
-    return first != front.end() && StyledPlaceOf(start + (first - front.begin())) != Place::Comment;
-}
-
-// Whether the names that points join from here on may end in the q of q'...': a lexer that knows
-// them as one name would not see the prefix.
-bool ScriptText::MayPrefixAString(long position) const
-{
-    const QString names = Text(position, std::min(Length(), position + kLongestName));
-    const auto* const end = std::find_if_not(
-        names.begin(), names.end(), [](QChar unit) { return unit == u'.' || IsWordUnit(unit); });
-    return end == names.end() || !IsApart(*end);
 }
 
 void ScriptText::SearchFor(const QString& what, bool matchCase, bool wholeWord)
@@ -254,7 +168,6 @@ int ScriptText::Replace(long position, const QString& what, const QString& with)
 {
     const long length = Length();
     const int lines = m_control.GetLineCount(1);
-    const bool keepsLine = KeepsLine(position, what.size(), with);
     m_finder.SetFind(what);
     m_finder.SetReplace(with);
     m_finder.SetWholeWord(false);
@@ -264,8 +177,6 @@ int ScriptText::Replace(long position, const QString& what, const QString& with)
         const long reach =
             std::min<long>(count == 1 ? what.size() : 2 * what.size(), length - position);
         Changed(position, reach, reach + Length() - length);
-        if (count == 1 && keepsLine)
-            m_sureEnd = LineEnd(LineOf(position));
         m_map.InsertExpansion(LineOf(position), m_control.GetLineCount(1) - lines);
     }
     return count;

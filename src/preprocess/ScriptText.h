@@ -54,19 +54,15 @@ public:
 private:
     int ReplaceAllFrom(long start, long length, const QString& with);
     void StyleTo(long position);
+    long BehindLines(long position) const;
     void StyleBlock(long to);
     void Changed(long at, long removed, long inserted);
-    Place StyledPlaceOf(long position) const;
-    bool KeepsLine(long position, long length, const QString& value) const;
-    bool HasBegun(long position) const;
-    bool MayPrefixAString(long position) const;
 
     CZNCoreEditorControlEx& m_control;
     CFindReplaceManager& m_finder;
     SourceMap& m_map;
     int m_lexer;
     bool m_tellsPlaces;
-    bool m_keepsLines; // of some changes it is known that a line is styled as before
     unsigned m_changes = 0;
     long m_firstChange = -1;
 
@@ -77,5 +73,4 @@ private:
     long m_known;
     long m_restyled = 0; // what was styled again since SettleStyles ends here
     long m_block;
-    long m_sureEnd = -1; // up to here they are right without being styled again
 };

@@ -210,6 +210,20 @@ TEST(SqlStyles, AWordOfSeveralSetsIsWhatItsPlaceMakesLikely)
     EXPECT_EQ(sql.Letters(), "kkkk ffffoio i_tttt vv_tttt kkkk i_tttt o ioiii ioff");
 }
 
+TEST(SqlStyles, BlanksBeforeADataTypeAreOfItsStyleAndCommentsAreNot)
+{
+    const SqlUnderTest sql(3);
+    sql.SetWords(1, u"int");
+    for (const std::size_t blanks : {1, 511, 512, 513, 2000, 5000}) {
+        sql.SetText(u"a" + std::u16string(blanks, u' ') + u"int " + std::u16string(9000, u'x'));
+        sql.Style();
+        EXPECT_EQ(sql.Letters().substr(0, blanks + 4), "i" + std::string(blanks, '_') + "ttt");
+    }
+    sql.SetText(u"a /* b */int, c /* d */ int");
+    sql.Style();
+    EXPECT_EQ(sql.Letters(), "i CCCCCCCttto i CCCCCCC_ttt");
+}
+
 TEST(SqlStyles, AWordMayHavePoints)
 {
     const SqlUnderTest sql(3, u"sys.objects SYS.Objects.x sys.other x.sys.objects sys.");

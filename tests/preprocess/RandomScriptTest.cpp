@@ -14,7 +14,7 @@ constexpr const char* kPieces[] = {
     "\n", "\n", "--", "/*", "*/", "'", "\"", "#include ", "#include a", "\n#include b\n",
     "\n#include \"c\" \n", "\n#include d\n", "\n#include none\n", "#", "\t", "value",
     "\n#define &&B &&A\n", "\n#define &&AB x&&B\n", "\n#define &&A &&LONGNAME&&B\n",
-    // Uses behind which the line is not styled again.
+    // Uses beside what a lexer may read together with their values.
     "x &&A, ", "x (&&AB) ", "'x &&B ", "-x &&LONGNAME ", "x.&&A.y ", "x '&&A' ", "x=\"&&B\",",
     "x '&&AB', ", "'&&A'", "/**/&&A ", "&&A.q",
     // What tells strings, comments and a client program's lines.
@@ -96,6 +96,21 @@ protected:
                 wordCharacters, [this](const std::u16string& text) { return Styles(text); }, files};
     }
 
+    // Most of it in one line, as long as some kilobytes.
+    std::string LongLine()
+    {
+        std::string line;
+        while (line.size() < 6000) {
+            const std::string piece = Piece();
+            const bool endsLine = piece.find('\n') != std::string::npos;
+            if (!endsLine || m_random() % 100 == 0)
+                line += piece;
+            if (m_random() % 40 == 0)
+                line += std::string(m_random() % 1500, " x,*'"[m_random() % 5]);
+        }
+        return line;
+    }
+
     void Compare(reference::PlainPreprocessor& reference, const QString& script)
     {
         reference.Run(script.toStdU16String());
@@ -156,7 +171,8 @@ protected:
         SCOPED_TRACE(Seed());
         for (int round = 0; round < rounds && !HasFailure(); ++round) {
             reference::PlainPreprocessor reference = Reference();
-            const QString script = QString::fromStdString("\n" + Definitions() + Script(80));
+            const std::string body = round % 6 == 5 ? LongLine() : Script(80);
+            const QString script = QString::fromStdString("\n" + Definitions() + body);
             SCOPED_TRACE(script.toStdString());
             Compare(reference, script);
         }
