@@ -53,6 +53,7 @@ ChangeReporter::ChangeReporter(QsciScintillaBase& window, const Raw& raw, TextIn
     : m_window(window), m_raw(raw), m_text(text)
 {
     Reporters().push_back(this);
+    m_raw.Send(Sci::SCI_SETCOMMANDEVENTS, 0); // one more signal for each change, heard by nobody
     SetModEventMask(m_mask);
     Connect();
     ConnectLists();

@@ -94,8 +94,10 @@ void TextIndex::DeletionBegins(BytePos at, long bytes)
 {
     const long units =
         !m_unitsAreKnown || IsAscii() ? bytes : WalkToByte({0, at.value}, at.value + bytes).unit;
-    ChangeBegins(
-        {.at = at, .deleted = bytes, .deletedUnits = units, .touchesCrLf = TouchesCrLf(at, bytes)});
+    ChangeBegins({.at = at,
+                  .deleted = bytes,
+                  .deletedUnits = units,
+                  .touchesCrLf = !m_lineIndexIsWrong && TouchesCrLf(at, bytes)});
 }
 
 void TextIndex::ChangeDone(long insertedUnits) const
@@ -111,7 +113,7 @@ void TextIndex::ChangeDone(long insertedUnits) const
         MovePlaces(change, -change.deletedUnits);
         return;
     }
-    m_lineIndexIsWrong |= TouchesCrLf(change.at, change.inserted);
+    m_lineIndexIsWrong = m_lineIndexIsWrong || TouchesCrLf(change.at, change.inserted);
     const long units =
         insertedUnits >= 0 ? insertedUnits : WalkToByte({0, at}, at + change.inserted).unit;
     m_units += units;
@@ -159,6 +161,8 @@ void TextIndex::EnsureLineIndex() const
     m_raw.Send(Sci::SCI_ALLOCATELINECHARACTERINDEX, Sci::SC_LINECHARACTERINDEX_UTF16);
     m_lineIndexIsWrong = false;
     m_walked = 0;
+    if (m_change.underWay && m_change.deleted > 0) // which is not in the text yet
+        m_change.touchesCrLf = TouchesCrLf(m_change.at, m_change.deleted);
 }
 
 // Of a line that is there, or the one behind the last.

@@ -1,5 +1,6 @@
 #include "engine/Utf.h"
 
+#include "platform/text/AsciiRun.h"
 #include "platform/text/Utf8.h"
 
 #include <algorithm>
@@ -72,6 +73,15 @@ std::u16string ToUtf16(std::string_view text)
 
 void AssignUtf16(std::u16string& to, std::string_view text)
 {
+    if (text.size() < platform::ascii::kChunk) { // most changes of a text are a word
+        unsigned char bytes[platform::ascii::kChunk] = {};
+        char16_t units[platform::ascii::kChunk];
+        std::copy(text.begin(), text.end(), bytes);
+        if (platform::ascii::WidenChunk(bytes, units) == platform::ascii::kChunk) {
+            to.assign(units, text.size());
+            return;
+        }
+    }
     to.resize(text.size());
     to.resize(ToUtf16(text, to.data(), to.size()));
 }
