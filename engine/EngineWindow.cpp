@@ -88,6 +88,10 @@ QByteArray WithLineEnds(const QByteArray& text, int mode)
 
 EngineWindow::EngineWindow(QWidget* parent) : QsciScintillaBase(parent), m_engine(*this)
 {
+    // By name: it takes half as long as a call of a function, and an undo of many changes is told
+    // of each of them.
+    connect(this, SIGNAL(SCN_MODIFIED(int,int,const char*,int,int,int,int,int,int,int)), this,
+            SLOT(OnModified(int,int,const char*,int,int,int,int,int,int,int)));
     setFrameShape(QFrame::NoFrame);
     m_engine.raw.Send(Sci::SCI_USEPOPUP, 0);
     // A style that was never set has no font at all, which cannot be put back after printing.
@@ -109,6 +113,14 @@ EngineWindow::EngineWindow(QWidget* parent) : QsciScintillaBase(parent), m_engin
             this, static_cast<int>(m_engine.Units(SendScintilla(SCI_GETCURRENTPOS))));
         g_assistiveTechnology.tell(&moved);
     });
+}
+
+void EngineWindow::OnModified(int position, int type, const char* /*text*/, int length,
+                              int /*linesAdded*/, int line, int foldNow, int foldPrev, int token,
+                              int annotationLinesAdded)
+{
+    m_engine.reporter.OnModified(position, type, length, line, foldNow, foldPrev, token,
+                                 annotationLinesAdded);
 }
 
 LRESULT EngineWindow::Direct(LRESULT instance, UINT message, WPARAM wParam, LPARAM lParam)

@@ -77,48 +77,52 @@ bool TextIndex::TouchesCrLf(BytePos at, long bytes) const
            (byteAt(at.value) == '\n' || byteAt(at.value + bytes) == '\n');
 }
 
-void TextIndex::ChangeBegins(Change change)
+// In place: copying what has just been written waits until it is in the cache.
+void TextIndex::ChangeBegins(BytePos at)
 {
     ChangeDone();
-    m_change = change;
+    m_change.at = at;
     m_change.lengthBefore = LengthInBytes();
     m_change.underWay = true;
 }
 
 void TextIndex::InsertionBegins(BytePos at, long bytes)
 {
-    ChangeBegins({.at = at, .inserted = bytes});
+    ChangeBegins(at);
+    m_change.inserted = bytes;
+    m_change.deleted = 0;
 }
 
 void TextIndex::DeletionBegins(BytePos at, long bytes)
 {
     const long units =
         !m_unitsAreKnown || IsAscii() ? bytes : WalkToByte({0, at.value}, at.value + bytes).unit;
-    ChangeBegins({.at = at,
-                  .deleted = bytes,
-                  .deletedUnits = units,
-                  .touchesCrLf = !m_lineIndexIsWrong && TouchesCrLf(at, bytes)});
+    ChangeBegins(at);
+    m_change.inserted = 0;
+    m_change.deleted = bytes;
+    m_change.deletedUnits = units;
+    m_change.touchesCrLf = !m_lineIndexIsWrong && TouchesCrLf(at, bytes);
 }
 
 void TextIndex::ChangeDone(long insertedUnits) const
 {
     if (!m_change.underWay)
         return;
-    const Change change = std::exchange(m_change, Change());
-    const long at = change.at.value;
-    if (change.inserted == 0) {
-        m_lineIndexIsWrong |= change.touchesCrLf;
-        m_units -= change.deletedUnits;
-        m_bytes -= change.deleted;
-        MovePlaces(change, -change.deletedUnits);
+    m_change.underWay = false;
+    const long at = m_change.at.value;
+    const long inserted = m_change.inserted;
+    if (inserted == 0) {
+        m_lineIndexIsWrong |= m_change.touchesCrLf;
+        m_units -= m_change.deletedUnits;
+        m_bytes -= m_change.deleted;
+        MovePlaces(m_change, -m_change.deletedUnits);
         return;
     }
-    m_lineIndexIsWrong = m_lineIndexIsWrong || TouchesCrLf(change.at, change.inserted);
-    const long units =
-        insertedUnits >= 0 ? insertedUnits : WalkToByte({0, at}, at + change.inserted).unit;
+    m_lineIndexIsWrong = m_lineIndexIsWrong || TouchesCrLf(m_change.at, inserted);
+    const long units = insertedUnits >= 0 ? insertedUnits : WalkToByte({0, at}, at + inserted).unit;
     m_units += units;
-    m_bytes += change.inserted;
-    MovePlaces(change, units);
+    m_bytes += inserted;
+    MovePlaces(m_change, units);
 }
 
 // One where text goes in moves behind it, where the next is likely to go in.

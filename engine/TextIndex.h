@@ -65,7 +65,7 @@ private:
         bool touchesCrLf = false;
     };
 
-    void ChangeBegins(Change change);
+    void ChangeBegins(BytePos at);
     void ChangeDone(long insertedUnits) const; // -1: they are to be counted
     void Settle() const;
     void MovePlaces(const Change& change, long units) const;

@@ -46,6 +46,9 @@ Q_SIGNALS:
     // Every notification of the engine. The record is good until the slot returns.
     void notified(const SCNotification& record);
 
+protected:
+    void connectNotify(const QMetaMethod& signal) override;
+
 private:
     class NotificationWindow;
 
@@ -58,6 +61,7 @@ private:
     std::unique_ptr<CZNCoreEditorControlEx> m_control;
     std::unique_ptr<NotificationWindow> m_window; // hears what the engine tells its parent
     Lifetime* m_lifetime = nullptr;
+    bool m_tellsChanges = false; // somebody is connected to what tells of each of them
     bool m_modified = false;
     long m_caret = 0;
 };
