@@ -322,7 +322,7 @@ long ChangeReporter::LinesAdded(const Utf16Text& text)
 void ChangeReporter::TellChange(int type)
 {
     const bool isTold = m_change.told;
-    SCNotification record;
+    SCNotification record = m_blank;
     record.position = m_change.unit.value;
     // A handler may make the next change, whose text is not this one.
     Utf16Text text = std::exchange(m_changed, {});

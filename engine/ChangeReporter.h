@@ -101,7 +101,8 @@ private:
     std::shared_ptr<Colouring> m_colouring;
     int m_mask = kDefaultModEventMask;
     Change m_change;
-    long m_lines = -1;        // in the text as it was told last; -1: not known
+    SCNotification m_blank; // to copy one is quicker than to blank it
+    long m_lines = -1;      // in the text as it was told last; -1: not known
     bool m_hasListener = false;
     std::optional<UINT> m_id; // of the window, which gets it once it is made
     std::function<void(bool inserts, long position, long bytes)> m_follow;

@@ -90,8 +90,8 @@ EngineWindow::EngineWindow(QWidget* parent) : QsciScintillaBase(parent), m_engin
 {
     // By name: it takes half as long as a call of a function, and an undo of many changes is told
     // of each of them.
-    connect(this, SIGNAL(SCN_MODIFIED(int,int,const char*,int,int,int,int,int,int,int)), this,
-            SLOT(OnModified(int,int,const char*,int,int,int,int,int,int,int)));
+    connect(this, SIGNAL(SCN_MODIFIED(int, int, const char*, int, int, int, int, int, int, int)),
+            this, SLOT(OnModified(int, int, const char*, int, int, int, int, int, int, int)));
     setFrameShape(QFrame::NoFrame);
     m_engine.raw.Send(Sci::SCI_USEPOPUP, 0);
     // A style that was never set has no font at all, which cannot be put back after printing.
