@@ -247,7 +247,8 @@ void ChangeReporter::OnModified(int position, int type, int length, int line, in
     --s_inside;
 }
 
-// In place, as in TextIndex: copying what has just been written waits until it is in the cache.
+// In place, as in TextIndex: to copy a record of what has just been written one by one, the machine
+// waits for all of it, and an undo of many changes comes this way for each.
 void ChangeReporter::Note(int type, BytePos position, long bytes)
 {
     const bool inserts = type & modification::BeforeInsert;
@@ -411,10 +412,10 @@ void ChangeReporter::Tell(UINT code, SCNotification record)
 
 void ChangeReporter::Send(UINT code, SCNotification& record)
 {
-    if (!m_id)
+    if (m_id == 0)
         m_id = GetDlgCtrlID(&m_window);
-    record.nmhdr = {&m_window, *m_id, code};
-    SendMessage(m_window.parentWidget(), WM_NOTIFY, *m_id, reinterpret_cast<LPARAM>(&record));
+    record.nmhdr = {&m_window, m_id, code};
+    SendMessage(m_window.parentWidget(), WM_NOTIFY, m_id, reinterpret_cast<LPARAM>(&record));
 }
 
 } // namespace engine

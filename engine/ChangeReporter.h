@@ -13,7 +13,6 @@
 
 #include <functional>
 #include <memory>
-#include <optional>
 #include <string>
 #include <vector>
 
@@ -104,7 +103,7 @@ private:
     SCNotification m_blank; // to copy one is quicker than to blank it
     long m_lines = -1;      // in the text as it was told last; -1: not known
     bool m_hasListener = false;
-    std::optional<UINT> m_id; // of the window, which gets it once it is made
+    UINT m_id = 0; // of the window, as soon as it has one
     std::function<void(bool inserts, long position, long bytes)> m_follow;
     Utf16Text m_changed;            // text of a noted deletion; storage otherwise
     std::vector<UINT> m_savePoints; // told behind the change

@@ -88,8 +88,7 @@ QByteArray WithLineEnds(const QByteArray& text, int mode)
 
 EngineWindow::EngineWindow(QWidget* parent) : QsciScintillaBase(parent), m_engine(*this)
 {
-    // By name: it takes half as long as a call of a function, and an undo of many changes is told
-    // of each of them.
+    // By name, which spares two atomic steps for each change: a quarter of what the signal takes.
     connect(this, SIGNAL(SCN_MODIFIED(int, int, const char*, int, int, int, int, int, int, int)),
             this, SLOT(OnModified(int, int, const char*, int, int, int, int, int, int, int)));
     setFrameShape(QFrame::NoFrame);

@@ -77,7 +77,7 @@ bool TextIndex::TouchesCrLf(BytePos at, long bytes) const
            (byteAt(at.value) == '\n' || byteAt(at.value + bytes) == '\n');
 }
 
-// In place: copying what has just been written waits until it is in the cache.
+// In place: see ChangeReporter::Note.
 void TextIndex::ChangeBegins(BytePos at)
 {
     ChangeDone();

@@ -18,8 +18,9 @@ public:
             m_owner.Notify(lParam); // behind it this object may be gone
             return 0;
         }
-        return message == ZNBASEM_ON_EDITCHANGE ? 0 // for each change of a text, and for views
-                                                : CWnd::WindowProc(message, wParam, lParam);
+        if (message == ZNBASEM_ON_EDITCHANGE) // comes with each change; its signal is textChanged
+            return 0;
+        return CWnd::WindowProc(message, wParam, lParam);
     }
 
 private:
