@@ -58,10 +58,10 @@ private:
     void Notify(LPARAM lParam);
     void Announce(const SCNotification& record);
 
+    bool m_tellsChanges = false; // somebody listens to each; before what connects to this widget
     std::unique_ptr<CZNCoreEditorControlEx> m_control;
     std::unique_ptr<NotificationWindow> m_window; // hears what the engine tells its parent
     Lifetime* m_lifetime = nullptr;
-    bool m_tellsChanges = false; // somebody is connected to what tells of each of them
     bool m_modified = false;
     long m_caret = 0;
 };
