@@ -63,7 +63,7 @@ long TextIndex::LengthInBytes() const
 
 bool TextIndex::IsAscii() const
 {
-    return Length() == LengthInBytes();
+    return IsSettledAscii() || Length() == LengthInBytes();
 }
 
 // Whether the change at a place touches a pair of CR and LF: the CR stands before it, the LF is the
@@ -212,7 +212,7 @@ long TextIndex::LineOf(UnitPos position) const
     return static_cast<long>(m_raw.Send(Sci::SCI_LINEFROMPOSITION, Word(ToBytes(position).value)));
 }
 
-BytePos TextIndex::ToBytes(UnitPos position) const
+BytePos TextIndex::BytesOf(UnitPos position) const
 {
     const long unit = std::clamp(position.value, 0L, Length());
     if (IsAscii())
@@ -231,7 +231,7 @@ BytePos TextIndex::ToBytes(UnitPos position) const
     return {Remember(WalkToUnit(from, unit)).byte};
 }
 
-UnitPos TextIndex::ToUnits(BytePos position) const
+UnitPos TextIndex::UnitsOf(BytePos position) const
 {
     if (IsAscii())
         return {std::clamp(position.value, 0L, m_units)};

@@ -6,6 +6,7 @@
 
 #include "engine/Raw.h"
 
+#include <algorithm>
 #include <array>
 
 namespace engine {
@@ -26,8 +27,16 @@ public:
     explicit TextIndex(const Raw& raw) : m_raw(raw) {}
 
     // A position outside the text is clamped. One between the halves of a pair counts as its start.
-    BytePos ToBytes(UnitPos position) const;
-    UnitPos ToUnits(BytePos position) const;
+    BytePos ToBytes(UnitPos position) const
+    {
+        return IsSettledAscii() ? BytePos{std::clamp(position.value, 0L, m_bytes)}
+                                : BytesOf(position);
+    }
+    UnitPos ToUnits(BytePos position) const
+    {
+        return IsSettledAscii() ? UnitPos{std::clamp(position.value, 0L, m_units)}
+                                : UnitsOf(position);
+    }
 
     long LineOf(UnitPos position) const;   // lines count from 0
     UnitPos StartOfLine(long line) const;  // the line behind the last one starts at the text's end
@@ -65,6 +74,12 @@ private:
         bool touchesCrLf = false;
     };
 
+    bool IsSettledAscii() const
+    {
+        return m_unitsAreKnown && !m_change.underWay && m_units == m_bytes;
+    }
+    BytePos BytesOf(UnitPos position) const;
+    UnitPos UnitsOf(BytePos position) const;
     void ChangeBegins(BytePos at);
     void ChangeDone(long insertedUnits) const; // -1: they are to be counted
     void Settle() const;
