@@ -128,6 +128,8 @@ void TextIndex::ChangeDone(long insertedUnits) const
 // One where text goes in moves behind it, where the next is likely to go in.
 void TextIndex::MovePlaces(const Change& change, long units) const
 {
+    if (!m_hasPlaces)
+        return;
     const long at = change.at.value;
     for (Place& place : m_places) {
         if (place.byte >= at + change.deleted)
@@ -143,6 +145,7 @@ void TextIndex::Reset()
     m_lineIndexIsWrong = true; // what another window knows of an index is not known here
     m_unitsAreKnown = false;
     m_places = {};
+    m_hasPlaces = false;
     m_walked = 0;
 }
 
@@ -278,6 +281,7 @@ TextIndex::Place TextIndex::Remember(Place place) const
 {
     if (m_change.underWay && place.byte > m_change.at.value)
         return place;
+    m_hasPlaces = true;
     auto* const near = std::find_if(m_places.begin(), m_places.end(), [place](const Place& other) {
         return std::labs(other.byte - place.byte) <= kNear;
     });

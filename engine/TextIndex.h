@@ -106,6 +106,7 @@ private:
     // Places that are known: a caret's, and the ends of its line and of the styles far from it.
     mutable std::array<Place, 4> m_places;
     mutable std::size_t m_oldest = 0; // of the places
+    mutable bool m_hasPlaces = false; // beside the text's start; never in a text that stays ASCII
 };
 
 } // namespace engine
