@@ -211,6 +211,7 @@ void ManagerReplaceAll(benchmark::State& state)
     const RawEngine& raw = engines.raw;
     CZNCoreEditorControlEx& control = engines.editor.control();
     CFindReplaceManager& manager = *zncoreeditor::GetFindReplaceManager();
+    manager.SetWrap(true); // from the text's start, wherever an undo leaves the caret
     manager.SetFind(QLatin1String(kReplaced.sought));
     manager.SetReplace(QString::fromStdString(std::string(kReplacement)));
     std::vector<double> ours;

@@ -2,7 +2,6 @@
 
 #include "control/EngineMessages.h"
 #include "engine/AssistiveTechnology.h"
-#include "engine/Utf.h"
 #include "platform/Window.h"
 
 #include <QMetaObject>
@@ -53,6 +52,7 @@ ChangeReporter::ChangeReporter(QsciScintillaBase& window, const Raw& raw, TextIn
     : m_window(window), m_raw(raw), m_text(text)
 {
     Reporters().push_back(this);
+    m_raw.Send(Sci::SCI_SETCOMMANDEVENTS, 0); // one more signal for each change, heard by nobody
     SetModEventMask(m_mask);
     Connect();
     ConnectLists();
@@ -98,19 +98,15 @@ void ChangeReporter::WhenSettled(QObject* context, std::function<void()> act)
     ++s_pending;
 }
 
-bool ChangeReporter::HasListener() const
+// It is asked until there is one: what is sent to none does no harm.
+bool ChangeReporter::HasListener()
 {
-    return AttachedWnd(m_window.parentWidget()) != nullptr;
+    m_hasListener = m_hasListener || AttachedWnd(m_window.parentWidget());
+    return m_hasListener;
 }
 
 void ChangeReporter::Connect()
 {
-    QObject::connect(&m_window, &Sci::SCN_MODIFIED, &m_window,
-                     [this](int position, int type, const char*, int length, int, int line,
-                            int foldNow, int foldPrev, int token, int annotationLines) {
-                         OnModified(position, type, length, line, foldNow, foldPrev, token,
-                                    annotationLines);
-                     });
     QObject::connect(&m_window, &Sci::SCN_SAVEPOINTREACHED, &m_window,
                      [this] { OnSavePoint(notify::SavePointReached); });
     QObject::connect(&m_window, &Sci::SCN_SAVEPOINTLEFT, &m_window,
@@ -226,7 +222,7 @@ void ChangeReporter::OnModified(int position, int type, int length, int line, in
         ++s_noting;
         ++s_inside;
         Flush();
-        Note({.type = type, .position = {position}, .bytes = length});
+        Note(type, {position}, length);
         if (m_follow)
             m_follow(type & modification::BeforeInsert, position, length);
         --s_inside;
@@ -251,27 +247,32 @@ void ChangeReporter::OnModified(int position, int type, int length, int line, in
     --s_inside;
 }
 
-void ChangeReporter::Note(Change change)
+// In place, as in TextIndex: to copy a record of what has just been written one by one, the machine
+// waits for all of it, and an undo of many changes comes this way for each.
+void ChangeReporter::Note(int type, BytePos position, long bytes)
 {
-    const int reported = change.type & modification::BeforeInsert ? modification::InsertText
-                                                                  : modification::DeleteText;
-    change.told = (m_mask & (reported | (change.type & kOrigin))) && HasListener();
-    change.spoken = g_assistiveTechnology.listens();
-    if (change.told || change.spoken) {
-        change.unit = m_text.ToUnits(change.position);
-        change.lines = m_raw.LineCount();
-        if (reported == modification::DeleteText)
-            AssignUtf16(m_text16, BytesOf(change));
+    const bool inserts = type & modification::BeforeInsert;
+    const int reported = inserts ? modification::InsertText : modification::DeleteText;
+    m_change.position = position;
+    m_change.bytes = bytes;
+    m_change.told = (m_mask & (reported | (type & kOrigin))) && HasListener();
+    m_change.spoken = g_assistiveTechnology.listens();
+    if (m_change.told || m_change.spoken) {
+        m_change.unit = m_text.ToUnits(position);
+        if (m_lines < 0)
+            m_lines = m_raw.LineCount();
+        if (!inserts)
+            ReadChange(m_changed);
     }
     const long length = m_text.LengthInBytes();
-    if (reported == modification::InsertText) {
-        m_text.InsertionBegins(change.position, change.bytes);
-        m_colouring->InsertionBegins(m_raw, length, change.position.value, change.bytes);
+    if (inserts) {
+        m_text.InsertionBegins(position, bytes);
+        m_colouring->InsertionBegins(m_raw, length, position.value, bytes);
     } else {
-        m_text.DeletionBegins(change.position, change.bytes);
-        m_colouring->DeletionBegins(m_raw, length, change.position.value, change.bytes);
+        m_text.DeletionBegins(position, bytes);
+        m_colouring->DeletionBegins(m_raw, length, position.value, bytes);
     }
-    m_change = change;
+    m_change.type = type;
     ++s_pending;
     if (s_depth == 0)
         QMetaObject::invokeMethod(
@@ -282,56 +283,77 @@ void ChangeReporter::Flush()
 {
     if (!m_change.type)
         return;
-    const Change change = std::exchange(m_change, Change());
+    const int type = std::exchange(m_change.type, 0);
     --s_pending;
-    if (change.told || change.spoken)
-        TellChange(change);
-    else
+    if (m_change.told || m_change.spoken) {
+        TellChange(type);
+    } else {
         m_text.ChangeDone();
+        m_lines = -1;
+    }
+    if (m_savePoints.empty())
+        return;
     for (const UINT code : std::exchange(m_savePoints, {})) {
         SCNotification record;
         Send(code, record);
     }
 }
 
-std::string_view ChangeReporter::BytesOf(const Change& change) const
+// While it stands in the text. Gives its bytes.
+std::string_view ChangeReporter::ReadChange(Utf16Text& text)
 {
-    return m_raw.Bytes(change.position.value, change.position.value + change.bytes);
+    const long start = m_change.position.value;
+    const long front = start > 0;
+    std::string_view bytes = m_raw.Bytes(start - front, start + m_change.bytes);
+    m_change.isBehindCr = front && bytes.front() == '\r';
+    bytes.remove_prefix(static_cast<std::size_t>(front));
+    text.Assign(bytes);
+    return bytes;
 }
 
-void ChangeReporter::TellChange(const Change& change)
+// Asks the stock engine, except where it is plain to see that there are none.
+long ChangeReporter::LinesAdded(const Utf16Text& text)
 {
-    SCNotification record;
-    record.position = change.unit.value;
-    record.linesAdded = m_raw.LineCount() - change.lines;
+    if (text.IsPlain() && !m_change.isBehindCr)
+        return 0;
+    const long before = std::exchange(m_lines, m_raw.LineCount());
+    return m_lines - before;
+}
+
+void ChangeReporter::TellChange(int type)
+{
+    const bool isTold = m_change.told;
+    SCNotification record = m_blank;
+    record.position = m_change.unit.value;
     // A handler may make the next change, whose text is not this one.
-    std::u16string text = std::exchange(m_text16, {});
-    if (change.type & modification::BeforeInsert) {
+    Utf16Text text = std::exchange(m_changed, {});
+    if (type & modification::BeforeInsert) {
         record.modificationType = modification::InsertText;
-        const std::string_view bytes = BytesOf(change);
-        AssignUtf16(text, bytes);
-        m_text.InsertionDone(
-            CountUnits(bytes)); // of half a character that is not what the text has
+        const std::string_view bytes = ReadChange(text);
+        // Of half a character that is not what the text has.
+        const long units = text.IsPlain() ? m_change.bytes : CountUnits(bytes);
+        m_text.InsertionDone(units);
     } else {
         record.modificationType = modification::DeleteText;
         m_text.ChangeDone();
     }
-    record.modificationType |= change.type & kOrigin;
-    record.text = text.c_str();
-    record.length = static_cast<long>(text.size());
-    if (change.spoken)
-        Speak(change, text);
-    if (change.told)
+    record.linesAdded = LinesAdded(text);
+    record.modificationType |= type & kOrigin;
+    record.text = text.Data();
+    record.length = static_cast<long>(text.Size());
+    if (m_change.spoken)
+        Speak(record);
+    if (isTold)
         Send(notify::Modified, record);
-    if (m_text16.empty())
-        m_text16 = std::move(text); // for its storage
+    if (m_changed.Size() == 0)
+        m_changed = std::move(text); // for its storage
 }
 
-void ChangeReporter::Speak(const Change& change, const std::u16string& text) const
+void ChangeReporter::Speak(const SCNotification& record) const
 {
-    const auto position = static_cast<int>(change.unit.value);
-    const QString spoken = QString::fromStdU16String(text);
-    if (change.type & modification::BeforeInsert) {
+    const auto position = static_cast<int>(record.position);
+    const QString spoken = QStringView(record.text, record.length).toString();
+    if (record.modificationType & modification::InsertText) {
         QAccessibleTextInsertEvent event(&m_window, position, spoken);
         g_assistiveTechnology.tell(&event);
     } else {
@@ -390,9 +412,10 @@ void ChangeReporter::Tell(UINT code, SCNotification record)
 
 void ChangeReporter::Send(UINT code, SCNotification& record)
 {
-    const UINT id = GetDlgCtrlID(&m_window);
-    record.nmhdr = {&m_window, id, code};
-    SendMessage(m_window.parentWidget(), WM_NOTIFY, id, reinterpret_cast<LPARAM>(&record));
+    if (m_id == 0)
+        m_id = GetDlgCtrlID(&m_window);
+    record.nmhdr = {&m_window, m_id, code};
+    SendMessage(m_window.parentWidget(), WM_NOTIFY, m_id, reinterpret_cast<LPARAM>(&record));
 }
 
 } // namespace engine

@@ -9,6 +9,7 @@
 #include "control/EngineMessages.h"
 #include "engine/Colouring.h"
 #include "engine/TextIndex.h"
+#include "engine/Utf.h"
 
 #include <functional>
 #include <memory>
@@ -26,7 +27,11 @@ public:
     ChangeReporter& operator=(const ChangeReporter&) = delete;
 
     // Of the document: it hears of changes before they happen, and what styles are needed.
-    void SetColouring(std::shared_ptr<Colouring> colouring) { m_colouring = std::move(colouring); }
+    void SetColouring(std::shared_ptr<Colouring> colouring)
+    {
+        m_colouring = std::move(colouring);
+        m_lines = -1;
+    }
 
     // Called for each change behind what is noted, while the text is as it was.
     void SetFollower(std::function<void(bool inserts, long position, long bytes)> follow)
@@ -54,6 +59,10 @@ public:
     // from there: at once, or when the changes under way are told.
     static void WhenSettled(QObject* context, std::function<void()> act);
 
+    // What the stock engine says of a modification, which the window hands on.
+    void OnModified(int position, int type, int length, int line, int foldNow, int foldPrev,
+                    int token, int annotationLinesAdded);
+
     // Fills in the sender and sends the record, after what waits.
     void Tell(UINT code, SCNotification record = {});
 
@@ -64,7 +73,7 @@ private:
         BytePos position;
         long bytes = 0;
         UnitPos unit;
-        long lines = 0;      // before the change
+        bool isBehindCr = false;
         bool told = false;   // to the parent
         bool spoken = false; // to assistive technology
     };
@@ -72,18 +81,17 @@ private:
     void Connect();
     void ConnectLists();
     void ConnectMouse();
-    void OnModified(int position, int type, int length, int line, int foldNow, int foldPrev,
-                    int token, int annotationLinesAdded);
     void OnSavePoint(UINT code);
     void OnStyleNeeded(int position);
     void OnMacroRecord(UINT number, unsigned long wParam, void* lParam);
-    void Note(Change change);
+    void Note(int type, BytePos position, long bytes);
     void Flush();
-    void TellChange(const Change& change);
-    std::string_view BytesOf(const Change& change) const;
-    void Speak(const Change& change, const std::u16string& text) const;
+    void TellChange(int type);
+    std::string_view ReadChange(Utf16Text& text);
+    long LinesAdded(const Utf16Text& text);
+    void Speak(const SCNotification& record) const;
     void Send(UINT code, SCNotification& record);
-    bool HasListener() const;
+    bool HasListener();
     long Units(long position) const { return m_text.ToUnits({position}).value; }
 
     QsciScintillaBase& m_window;
@@ -92,8 +100,12 @@ private:
     std::shared_ptr<Colouring> m_colouring;
     int m_mask = kDefaultModEventMask;
     Change m_change;
+    SCNotification m_blank; // to copy one is quicker than to blank it
+    long m_lines = -1;      // in the text as it was told last; -1: not known
+    bool m_hasListener = false;
+    UINT m_id = 0; // of the window, as soon as it has one
     std::function<void(bool inserts, long position, long bytes)> m_follow;
-    std::u16string m_text16;        // of a noted deletion; storage otherwise
+    Utf16Text m_changed;            // text of a noted deletion; storage otherwise
     std::vector<UINT> m_savePoints; // told behind the change
 
     static int s_pending;

@@ -118,6 +118,7 @@ void Engine::PrepareDocument()
     documents::Left(left, *this);
     raw.Send(Sci::SCI_SETCODEPAGE, Sci::SC_CP_UTF8);
     text.Reset();
+    readOnly = {};
     colouring = documents::ColouringOf(m_document);
     reporter.SetColouring(colouring);
     errors = &documents::Errors(m_document);

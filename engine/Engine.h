@@ -45,6 +45,13 @@ struct PrintStyle
     std::string font; // UTF-8
 };
 
+// Whether the text can be edited, as of a version; 0: none.
+struct ReadOnly
+{
+    unsigned version = 0;
+    bool value = false;
+};
+
 class Engine
 {
 public:
@@ -82,6 +89,7 @@ public:
 
     // What the stock engine has no place for.
     ErrorLook errorLook;              // as set in this window
+    ReadOnly readOnly;                // as it was asked last
     bool noSingleEol = false;         // line-end mode 0
     bool usePopUp = true;             // the window shows a menu of its own
     bool reconciler = true;           // the analysis follows the text

@@ -88,6 +88,9 @@ QByteArray WithLineEnds(const QByteArray& text, int mode)
 
 EngineWindow::EngineWindow(QWidget* parent) : QsciScintillaBase(parent), m_engine(*this)
 {
+    // By name, which spares two atomic steps for each change: a quarter of what the signal takes.
+    connect(this, SIGNAL(SCN_MODIFIED(int, int, const char*, int, int, int, int, int, int, int)),
+            this, SLOT(OnModified(int, int, const char*, int, int, int, int, int, int, int)));
     setFrameShape(QFrame::NoFrame);
     m_engine.raw.Send(Sci::SCI_USEPOPUP, 0);
     // A style that was never set has no font at all, which cannot be put back after printing.
@@ -109,6 +112,14 @@ EngineWindow::EngineWindow(QWidget* parent) : QsciScintillaBase(parent), m_engin
             this, static_cast<int>(m_engine.Units(SendScintilla(SCI_GETCURRENTPOS))));
         g_assistiveTechnology.tell(&moved);
     });
+}
+
+void EngineWindow::OnModified(int position, int type, const char* /*text*/, int length,
+                              int /*linesAdded*/, int line, int foldNow, int foldPrev, int token,
+                              int annotationLinesAdded)
+{
+    m_engine.reporter.OnModified(position, type, length, line, foldNow, foldPrev, token,
+                                 annotationLinesAdded);
 }
 
 LRESULT EngineWindow::Direct(LRESULT instance, UINT message, WPARAM wParam, LPARAM lParam)

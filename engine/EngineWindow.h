@@ -38,6 +38,10 @@ protected:
     void wheelEvent(QWheelEvent* event) override;
     QMimeData* toMimeData(const QByteArray& text, bool rectangular) const override;
 
+private Q_SLOTS:
+    void OnModified(int position, int type, const char* text, int length, int linesAdded, int line,
+                    int foldNow, int foldPrev, int token, int annotationLinesAdded);
+
 private:
     void EndComposition();
     void TypeText(const QString& text);

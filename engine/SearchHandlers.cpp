@@ -64,8 +64,9 @@ LRESULT SearchInTarget(Engine& engine, WPARAM wParam, LPARAM lParam)
     if (!found)
         return -1;
     target.start = found->start;
-    target.end = found->end;
-    return engine.Units(found->start);
+    const long start = engine.Units(target.start);
+    target.end = found->end; // apart from the start: reading both at once would wait for them
+    return start;
 }
 
 LRESULT FindText(Engine& engine, WPARAM wParam, LPARAM lParam)

@@ -37,6 +37,23 @@ LRESULT SetEolMode(Engine& engine, WPARAM wParam, LPARAM)
     return 0;
 }
 
+// Asked before each of the changes of an undo is told, so that the answer is kept. A document may
+// stand in several windows, so that one counter serves for all.
+unsigned readOnlyVersion = 1;
+
+LRESULT SetReadOnly(Engine& engine, WPARAM wParam, LPARAM)
+{
+    ++readOnlyVersion;
+    return engine.raw.Send(Sci::SCI_SETREADONLY, wParam);
+}
+
+LRESULT GetReadOnly(Engine& engine, WPARAM, LPARAM)
+{
+    if (engine.readOnly.version != readOnlyVersion)
+        engine.readOnly = {readOnlyVersion, engine.raw.Send(Sci::SCI_GETREADONLY) != 0};
+    return engine.readOnly.value;
+}
+
 // The conversion steps back over what it has put in, and so never ends where nothing can be.
 LRESULT ConvertEols(Engine& engine, WPARAM wParam, LPARAM)
 {
@@ -186,6 +203,8 @@ LRESULT IsAutoCHwnd(Engine& engine, WPARAM wParam, LPARAM)
 }
 
 constexpr HandlerRow kRows[] = {
+    {message::SetReadOnly, SetReadOnly},
+    {message::GetReadOnly, GetReadOnly},
     {message::GetEOLMode, GetEolMode},
     {message::SetEOLMode, SetEolMode},
     {message::ConvertEOLs, ConvertEols},

@@ -63,7 +63,7 @@ long TextIndex::LengthInBytes() const
 
 bool TextIndex::IsAscii() const
 {
-    return Length() == LengthInBytes();
+    return IsSettledAscii() || Length() == LengthInBytes();
 }
 
 // Whether the change at a place touches a pair of CR and LF: the CR stands before it, the LF is the
@@ -77,51 +77,59 @@ bool TextIndex::TouchesCrLf(BytePos at, long bytes) const
            (byteAt(at.value) == '\n' || byteAt(at.value + bytes) == '\n');
 }
 
-void TextIndex::ChangeBegins(Change change)
+// In place: see ChangeReporter::Note.
+void TextIndex::ChangeBegins(BytePos at)
 {
     ChangeDone();
-    m_change = change;
+    m_change.at = at;
     m_change.lengthBefore = LengthInBytes();
     m_change.underWay = true;
 }
 
 void TextIndex::InsertionBegins(BytePos at, long bytes)
 {
-    ChangeBegins({.at = at, .inserted = bytes});
+    ChangeBegins(at);
+    m_change.inserted = bytes;
+    m_change.deleted = 0;
 }
 
 void TextIndex::DeletionBegins(BytePos at, long bytes)
 {
     const long units =
         !m_unitsAreKnown || IsAscii() ? bytes : WalkToByte({0, at.value}, at.value + bytes).unit;
-    ChangeBegins(
-        {.at = at, .deleted = bytes, .deletedUnits = units, .touchesCrLf = TouchesCrLf(at, bytes)});
+    ChangeBegins(at);
+    m_change.inserted = 0;
+    m_change.deleted = bytes;
+    m_change.deletedUnits = units;
+    m_change.touchesCrLf = !m_lineIndexIsWrong && TouchesCrLf(at, bytes);
 }
 
 void TextIndex::ChangeDone(long insertedUnits) const
 {
     if (!m_change.underWay)
         return;
-    const Change change = std::exchange(m_change, Change());
-    const long at = change.at.value;
-    if (change.inserted == 0) {
-        m_lineIndexIsWrong |= change.touchesCrLf;
-        m_units -= change.deletedUnits;
-        m_bytes -= change.deleted;
-        MovePlaces(change, -change.deletedUnits);
+    m_change.underWay = false;
+    const long at = m_change.at.value;
+    const long inserted = m_change.inserted;
+    if (inserted == 0) {
+        m_lineIndexIsWrong |= m_change.touchesCrLf;
+        m_units -= m_change.deletedUnits;
+        m_bytes -= m_change.deleted;
+        MovePlaces(m_change, -m_change.deletedUnits);
         return;
     }
-    m_lineIndexIsWrong |= TouchesCrLf(change.at, change.inserted);
-    const long units =
-        insertedUnits >= 0 ? insertedUnits : WalkToByte({0, at}, at + change.inserted).unit;
+    m_lineIndexIsWrong = m_lineIndexIsWrong || TouchesCrLf(m_change.at, inserted);
+    const long units = insertedUnits >= 0 ? insertedUnits : WalkToByte({0, at}, at + inserted).unit;
     m_units += units;
-    m_bytes += change.inserted;
-    MovePlaces(change, units);
+    m_bytes += inserted;
+    MovePlaces(m_change, units);
 }
 
 // One where text goes in moves behind it, where the next is likely to go in.
 void TextIndex::MovePlaces(const Change& change, long units) const
 {
+    if (!m_hasPlaces)
+        return;
     const long at = change.at.value;
     for (Place& place : m_places) {
         if (place.byte >= at + change.deleted)
@@ -137,6 +145,7 @@ void TextIndex::Reset()
     m_lineIndexIsWrong = true; // what another window knows of an index is not known here
     m_unitsAreKnown = false;
     m_places = {};
+    m_hasPlaces = false;
     m_walked = 0;
 }
 
@@ -159,6 +168,8 @@ void TextIndex::EnsureLineIndex() const
     m_raw.Send(Sci::SCI_ALLOCATELINECHARACTERINDEX, Sci::SC_LINECHARACTERINDEX_UTF16);
     m_lineIndexIsWrong = false;
     m_walked = 0;
+    if (m_change.underWay && m_change.deleted > 0) // which is not in the text yet
+        m_change.touchesCrLf = TouchesCrLf(m_change.at, m_change.deleted);
 }
 
 // Of a line that is there, or the one behind the last.
@@ -204,7 +215,7 @@ long TextIndex::LineOf(UnitPos position) const
     return static_cast<long>(m_raw.Send(Sci::SCI_LINEFROMPOSITION, Word(ToBytes(position).value)));
 }
 
-BytePos TextIndex::ToBytes(UnitPos position) const
+BytePos TextIndex::BytesOf(UnitPos position) const
 {
     const long unit = std::clamp(position.value, 0L, Length());
     if (IsAscii())
@@ -223,7 +234,7 @@ BytePos TextIndex::ToBytes(UnitPos position) const
     return {Remember(WalkToUnit(from, unit)).byte};
 }
 
-UnitPos TextIndex::ToUnits(BytePos position) const
+UnitPos TextIndex::UnitsOf(BytePos position) const
 {
     if (IsAscii())
         return {std::clamp(position.value, 0L, m_units)};
@@ -270,6 +281,7 @@ TextIndex::Place TextIndex::Remember(Place place) const
 {
     if (m_change.underWay && place.byte > m_change.at.value)
         return place;
+    m_hasPlaces = true;
     auto* const near = std::find_if(m_places.begin(), m_places.end(), [place](const Place& other) {
         return std::labs(other.byte - place.byte) <= kNear;
     });

@@ -6,6 +6,7 @@
 
 #include "engine/Raw.h"
 
+#include <algorithm>
 #include <array>
 
 namespace engine {
@@ -26,8 +27,16 @@ public:
     explicit TextIndex(const Raw& raw) : m_raw(raw) {}
 
     // A position outside the text is clamped. One between the halves of a pair counts as its start.
-    BytePos ToBytes(UnitPos position) const;
-    UnitPos ToUnits(BytePos position) const;
+    BytePos ToBytes(UnitPos position) const
+    {
+        return IsSettledAscii() ? BytePos{std::clamp(position.value, 0L, m_bytes)}
+                                : BytesOf(position);
+    }
+    UnitPos ToUnits(BytePos position) const
+    {
+        return IsSettledAscii() ? UnitPos{std::clamp(position.value, 0L, m_units)}
+                                : UnitsOf(position);
+    }
 
     long LineOf(UnitPos position) const;   // lines count from 0
     UnitPos StartOfLine(long line) const;  // the line behind the last one starts at the text's end
@@ -65,7 +74,13 @@ private:
         bool touchesCrLf = false;
     };
 
-    void ChangeBegins(Change change);
+    bool IsSettledAscii() const
+    {
+        return m_unitsAreKnown && !m_change.underWay && m_units == m_bytes;
+    }
+    BytePos BytesOf(UnitPos position) const;
+    UnitPos UnitsOf(BytePos position) const;
+    void ChangeBegins(BytePos at);
     void ChangeDone(long insertedUnits) const; // -1: they are to be counted
     void Settle() const;
     void MovePlaces(const Change& change, long units) const;
@@ -91,6 +106,7 @@ private:
     // Places that are known: a caret's, and the ends of its line and of the styles far from it.
     mutable std::array<Place, 4> m_places;
     mutable std::size_t m_oldest = 0; // of the places
+    mutable bool m_hasPlaces = false; // beside the text's start; never in a text that stays ASCII
 };
 
 } // namespace engine

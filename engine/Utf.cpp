@@ -1,5 +1,6 @@
 #include "engine/Utf.h"
 
+#include "platform/text/AsciiRun.h"
 #include "platform/text/Utf8.h"
 
 #include <algorithm>
@@ -10,6 +11,24 @@ namespace {
 const unsigned char* BytesOf(std::string_view text)
 {
     return reinterpret_cast<const unsigned char*>(text.data());
+}
+
+// Most changes of a text are a plain word. False if this is none: then the units are of no use.
+bool WidenPlainWord(const unsigned char* bytes, std::size_t count, char16_t* units)
+{
+    using namespace platform::ascii;
+    if (count > kChunk)
+        return false;
+    if (count >= kHalfChunk) { // the halves overlap
+        const std::size_t second = count - kHalfChunk;
+        return WidenPlainHalf(bytes, units) && WidenPlainHalf(bytes + second, units + second);
+    }
+    bool plain = true;
+    for (std::size_t i = 0; i < count; ++i) {
+        plain &= bytes[i] >= ' ' && bytes[i] < 0x80;
+        units[i] = bytes[i];
+    }
+    return plain;
 }
 
 } // namespace
@@ -65,15 +84,20 @@ std::size_t ToUtf16(std::string_view text, char16_t* buffer, std::size_t capacit
 
 std::u16string ToUtf16(std::string_view text)
 {
-    std::u16string result;
-    AssignUtf16(result, text);
+    std::u16string result(text.size(), u'\0');
+    result.resize(ToUtf16(text, result.data(), result.size()));
     return result;
 }
 
-void AssignUtf16(std::u16string& to, std::string_view text)
+void Utf16Text::Assign(std::string_view text)
 {
-    to.resize(text.size());
-    to.resize(ToUtf16(text, to.data(), to.size()));
+    const std::size_t bytes = text.size();
+    if (m_units.size() <= bytes)
+        m_units.resize(bytes + 1);
+    char16_t* units = m_units.data();
+    m_isPlain = WidenPlainWord(BytesOf(text), bytes, units);
+    m_size = m_isPlain ? bytes : ToUtf16(text, units, bytes);
+    units[m_size] = u'\0';
 }
 
 } // namespace engine

@@ -6,6 +6,7 @@
 #include <memory>
 #include <string>
 #include <string_view>
+#include <vector>
 
 namespace engine {
 
@@ -33,6 +34,24 @@ private:
     std::size_t m_size = 0;
 };
 
+// UTF-16 made of a text of the stock engine's, terminated. Its storage stays for the next one.
+class Utf16Text
+{
+public:
+    void Assign(std::string_view text);
+
+    const char16_t* Data() const { return m_units.empty() ? u"" : m_units.data(); }
+    std::size_t Size() const { return m_size; } // units, without the terminator
+
+    // Whether this is ASCII without control characters. A text beyond sixteen bytes never says so.
+    bool IsPlain() const { return m_isPlain; }
+
+private:
+    std::vector<char16_t> m_units;
+    std::size_t m_size = 0;
+    bool m_isPlain = true;
+};
+
 // Up to the terminator; empty for null.
 std::u16string_view TerminatedText(const char16_t* text);
 
@@ -44,6 +63,5 @@ long CountUnits(std::string_view text);
 // units written.
 std::size_t ToUtf16(std::string_view text, char16_t* buffer, std::size_t capacity);
 std::u16string ToUtf16(std::string_view text);
-void AssignUtf16(std::u16string& to, std::string_view text); // keeps its storage
 
 } // namespace engine

@@ -30,6 +30,19 @@ std::string_view ThirdForm(char letter)
     return letter == 'k' ? kKelvin : letter == 's' ? kLongS : std::string_view();
 }
 
+#ifdef __SSE2__
+// Where the anchor's byte stands among the sixteen at a place.
+template <class Anchor>
+__m128i Standing(const Anchor& anchor, const char* at)
+{
+    const auto load = [](const void* from) {
+        return _mm_loadu_si128(static_cast<const __m128i*>(from));
+    };
+    const __m128i masked = _mm_or_si128(load(at), load(anchor.masks.data()));
+    return _mm_cmpeq_epi8(masked, load(anchor.bytes.data()));
+}
+#endif
+
 // How common a byte is in scripts and prose; what is not named is rare.
 int Commonness(char byte)
 {
@@ -72,8 +85,11 @@ bool LiteralScan::IsFixed(std::size_t i) const
 void LiteralScan::ChooseAnchors()
 {
     const auto anchorAt = [this](std::size_t i) {
-        return Anchor{i, static_cast<unsigned char>(m_sought[i]),
+        Anchor anchor{i, static_cast<unsigned char>(m_sought[i]),
                       static_cast<unsigned char>(m_masks[i])};
+        anchor.bytes.fill(anchor.byte);
+        anchor.masks.fill(anchor.mask);
+        return anchor;
     };
     const auto distance = [](std::size_t from, std::size_t to) {
         return static_cast<std::ptrdiff_t>(to) - static_cast<std::ptrdiff_t>(from);
@@ -126,22 +142,33 @@ bool LiteralScan::AnchorsAt(std::string_view bytes, std::size_t place) const
            stands(m_third, bytes[place + static_cast<std::size_t>(m_thirdDistance)]);
 }
 
+#ifdef __SSE2__
+
 unsigned LiteralScan::AnchorsAtSixteen(const char* place) const
 {
-#ifdef __SSE2__
-    const auto standing = [](const Anchor& anchor, const char* at) {
-        const __m128i block = _mm_loadu_si128(reinterpret_cast<const __m128i*>(at));
-        const __m128i masked = _mm_or_si128(block, _mm_set1_epi8(static_cast<char>(anchor.mask)));
-        return _mm_cmpeq_epi8(masked, _mm_set1_epi8(static_cast<char>(anchor.byte)));
-    };
     const __m128i both =
-        _mm_and_si128(standing(m_first, place), standing(m_second, place + m_distance));
+        _mm_and_si128(Standing(m_first, place), Standing(m_second, place + m_distance));
     const auto bits = static_cast<unsigned>(_mm_movemask_epi8(both));
     if (bits == 0)
         return 0;
     return bits &
-           static_cast<unsigned>(_mm_movemask_epi8(standing(m_third, place + m_thirdDistance)));
+           static_cast<unsigned>(_mm_movemask_epi8(Standing(m_third, place + m_thirdDistance)));
+}
+
+bool LiteralScan::LackAnchors(const char* place) const
+{
+    const char* next = place + kBlock;
+    const __m128i one =
+        _mm_and_si128(Standing(m_first, place), Standing(m_second, place + m_distance));
+    const __m128i other =
+        _mm_and_si128(Standing(m_first, next), Standing(m_second, next + m_distance));
+    return _mm_movemask_epi8(_mm_or_si128(one, other)) == 0;
+}
+
 #else
+
+unsigned LiteralScan::AnchorsAtSixteen(const char* place) const
+{
     unsigned bits = 0;
     const auto stands = [](const Anchor& anchor, char byte) {
         return (static_cast<unsigned char>(byte) | anchor.mask) == anchor.byte;
@@ -152,62 +179,64 @@ unsigned LiteralScan::AnchorsAtSixteen(const char* place) const
             bits |= 1U << i;
     }
     return bits;
-#endif
 }
 
-std::optional<Hit> LiteralScan::First(std::string_view bytes, std::size_t from) const
+bool LiteralScan::LackAnchors(const char* place) const
+{
+    return AnchorsAtSixteen(place) == 0 && AnchorsAtSixteen(place + kBlock) == 0;
+}
+
+#endif
+
+Hit LiteralScan::First(std::string_view bytes, std::size_t from) const
 {
     if (from > bytes.size())
-        return std::nullopt;
+        return {};
     bytes.remove_prefix(from);
     const auto [first, end] = PlacesIn(bytes);
-    const auto moved = [from](std::optional<Hit> hit) {
-        if (hit)
-            hit = Hit{hit->start + from, hit->end + from};
-        return hit;
-    };
+    const auto moved = [from](Hit hit) { return Hit{hit.start + from, hit.end + from}; };
     std::size_t place = first;
     for (; place + kBlock <= end; place += kBlock) {
+        while (place + 3 * kBlock <= end && LackAnchors(bytes.data() + place))
+            place += 2 * kBlock;
         for (unsigned bits = AnchorsAtSixteen(bytes.data() + place); bits; bits &= bits - 1) {
             const auto bit = static_cast<std::size_t>(std::countr_zero(bits));
-            if (const auto hit = MatchAround(bytes, place + bit))
+            if (const Hit hit = MatchAround(bytes, place + bit))
                 return moved(hit);
         }
     }
     for (; place < end; ++place) {
         if (!AnchorsAt(bytes, place))
             continue;
-        if (const auto hit = MatchAround(bytes, place))
+        if (const Hit hit = MatchAround(bytes, place))
             return moved(hit);
     }
-    return std::nullopt;
+    return {};
 }
 
-std::optional<Hit> LiteralScan::Last(std::string_view bytes, std::size_t before) const
+Hit LiteralScan::Last(std::string_view bytes, std::size_t before) const
 {
     // What starts before the place has no byte behind this one.
     if (before < bytes.size())
         bytes = bytes.substr(0, before + std::min(m_longest - 1, bytes.size() - before));
     const auto [first, end] = PlacesIn(bytes);
-    const auto fits = [before](const std::optional<Hit>& hit) {
-        return hit && hit->start < before;
-    };
+    const auto fits = [before](Hit hit) { return hit && hit.start < before; };
     std::size_t place = end;
     for (; place >= first + kBlock; place -= kBlock) {
         for (unsigned bits = AnchorsAtSixteen(bytes.data() + place - kBlock); bits;) {
             const auto bit = static_cast<unsigned>(std::bit_width(bits)) - 1;
             bits &= ~(1U << bit);
-            if (const auto hit = MatchAround(bytes, place - kBlock + bit); fits(hit))
+            if (const Hit hit = MatchAround(bytes, place - kBlock + bit); fits(hit))
                 return hit;
         }
     }
     for (; place > first; --place) {
         if (!AnchorsAt(bytes, place - 1))
             continue;
-        if (const auto hit = MatchAround(bytes, place - 1); fits(hit))
+        if (const Hit hit = MatchAround(bytes, place - 1); fits(hit))
             return hit;
     }
-    return std::nullopt;
+    return {};
 }
 
 // Whether the text stands at a place in forms of one byte. The place may be before the bytes.
@@ -224,27 +253,27 @@ bool LiteralScan::AsciiMatches(std::string_view bytes, std::size_t start) const
 }
 
 // The match whose first anchor stands at the place.
-std::optional<Hit> LiteralScan::MatchAround(std::string_view bytes, std::size_t place) const
+Hit LiteralScan::MatchAround(std::string_view bytes, std::size_t place) const
 {
     if (m_matchCase) {
         const std::size_t start = place - m_first.offset;
         if (std::memcmp(bytes.data() + start, m_sought.data(), m_sought.size()) != 0)
-            return std::nullopt;
+            return {};
         return Hit{start, start + m_sought.size()};
     }
     if (AsciiMatches(bytes, place - m_first.offset))
         return Hit{place - m_first.offset, place - m_first.offset + m_sought.size()};
     if (m_longest == m_sought.size())
-        return std::nullopt;
+        return {};
     std::size_t start = place;
     for (std::size_t i = m_first.offset; i > 0; --i) {
         if (!TakeBackward(bytes, start, m_sought[i - 1]))
-            return std::nullopt;
+            return {};
     }
     std::size_t end = place;
     for (std::size_t i = m_first.offset; i < m_sought.size(); ++i) {
         if (!TakeForward(bytes, end, m_sought[i]))
-            return std::nullopt;
+            return {};
     }
     return Hit{start, end};
 }

@@ -4,18 +4,20 @@
 // outside ASCII, the signs for kelvin and the long s, so a match may have more bytes than the text.
 #pragma once
 
+#include <array>
 #include <cstddef>
-#include <optional>
 #include <string>
 #include <string_view>
 
 namespace engine::search {
 
-// Bytes of a match, from its first to behind its last.
+// Bytes of a match, from its first to behind its last. False: none. It travels in two registers:
+// there may be one for every line of a text.
 struct Hit
 {
     std::size_t start = 0;
     std::size_t end = 0;
+    explicit operator bool() const { return start < end; }
 };
 
 class LiteralScan
@@ -27,9 +29,9 @@ public:
     LiteralScan(std::string_view sought, bool matchCase);
 
     // The first match in the bytes that does not start before a place.
-    std::optional<Hit> First(std::string_view bytes, std::size_t from) const;
+    Hit First(std::string_view bytes, std::size_t from) const;
     // The last match in the bytes that starts before a place.
-    std::optional<Hit> Last(std::string_view bytes, std::size_t before) const;
+    Hit Last(std::string_view bytes, std::size_t before) const;
 
     std::size_t LongestMatch() const { return m_longest; }
 
@@ -39,6 +41,8 @@ private:
         std::size_t offset = 0; // in the text
         unsigned char byte = 0;
         unsigned char mask = 0; // over a byte before it is compared: 0x20 for a letter of any case
+        std::array<unsigned char, 16> bytes{}; // sixteen times
+        std::array<unsigned char, 16> masks{}; // likewise
     };
 
     // Where the first anchor may stand.
@@ -54,8 +58,9 @@ private:
     Places PlacesIn(std::string_view bytes) const;
     bool AnchorsAt(std::string_view bytes, std::size_t place) const;
     unsigned AnchorsAtSixteen(const char* place) const; // a bit for each place
+    bool LackAnchors(const char* place) const;          // thirty-two places; not all that do say so
     bool AsciiMatches(std::string_view bytes, std::size_t start) const;
-    std::optional<Hit> MatchAround(std::string_view bytes, std::size_t place) const;
+    Hit MatchAround(std::string_view bytes, std::size_t place) const;
     bool TakeForward(std::string_view bytes, std::size_t& at, char letter) const;
     bool TakeBackward(std::string_view bytes, std::size_t& at, char letter) const;
 

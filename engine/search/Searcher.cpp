@@ -10,6 +10,11 @@ namespace {
 
 constexpr int kFlagsThatPrepare = flag::MatchCase | flag::Expression | flag::Posix | flag::Native;
 
+bool IsEmpty(Range range)
+{
+    return range.start >= range.end;
+}
+
 char EscapedControl(char letter)
 {
     switch (letter) {
@@ -56,7 +61,10 @@ std::optional<Range> Searcher::Find(std::string_view sought, int flags, long fro
     m_flags = flags;
     // What is sought starts with a whole character, so that only the upper place matters.
     (from <= to ? to : from) = Aligned(std::max(from, to));
-    return m_scan ? FindText(from, to) : FindMatch(from, to);
+    if (!m_scan)
+        return FindMatch(from, to);
+    const Range found = FindText(from, to);
+    return IsEmpty(found) ? std::nullopt : std::optional(found);
 }
 
 // The groups of the expression before are kept aside for as long as texts are searched.
@@ -166,43 +174,41 @@ long Searcher::Aligned(long at) const
 // Texts as they stand. The two pieces of the text are scanned one by one, and between them a copy
 // of the few bytes in which a match can cross the gap.
 
-std::optional<Range> Searcher::FindText(long from, long to)
+Range Searcher::FindText(long from, long to)
 {
     m_isDoubtful = false;
-    const auto found = from <= to ? FirstText(from, to) : LastText(to, from);
+    const Range found = from <= to ? FirstText(from, to) : LastText(to, from);
     if (m_isDoubtful)
-        return FindMatch(from <= to ? found->start : from, to);
+        return FindMatch(from <= to ? found.start : from, to).value_or(Range());
     if (m_flags & flag::Expression) {
         m_groupsAre = Groups::None;
-        m_groups[0] = found.value_or(Range());
+        m_groups[0] = found;
     }
     return found;
 }
 
-std::optional<Range> Searcher::FirstText(long from, long to)
+Range Searcher::FirstText(long from, long to)
 {
     const long gap = m_text.Gap();
     if (gap <= from || gap >= to)
         return FirstTextIn(m_text.Bytes(from, to), from, to);
-    if (const auto hit = FirstTextIn(m_text.Bytes(from, gap), from, to))
-        return hit;
+    if (const Range match = FirstTextIn(m_text.Bytes(from, gap), from, to); !IsEmpty(match))
+        return match;
     const long reach = static_cast<long>(m_scan->LongestMatch()) - 1;
-    if (const auto hit = FirstTextIn(AroundGap(from, gap, to), std::max(from, gap - reach), to))
-        return hit;
-    return FirstTextIn(m_text.Bytes(gap, to), gap, to);
+    const Range match = FirstTextIn(AroundGap(from, gap, to), std::max(from, gap - reach), to);
+    return IsEmpty(match) ? FirstTextIn(m_text.Bytes(gap, to), gap, to) : match;
 }
 
-std::optional<Range> Searcher::LastText(long from, long to)
+Range Searcher::LastText(long from, long to)
 {
     const long gap = m_text.Gap();
     if (gap <= from || gap >= to)
         return LastTextIn(m_text.Bytes(from, to), from, to);
-    if (const auto hit = LastTextIn(m_text.Bytes(gap, to), gap, to))
-        return hit;
+    if (const Range match = LastTextIn(m_text.Bytes(gap, to), gap, to); !IsEmpty(match))
+        return match;
     const long reach = static_cast<long>(m_scan->LongestMatch()) - 1;
-    if (const auto hit = LastTextIn(AroundGap(from, gap, to), std::max(from, gap - reach), to))
-        return hit;
-    return LastTextIn(m_text.Bytes(from, gap), from, to);
+    const Range match = LastTextIn(AroundGap(from, gap, to), std::max(from, gap - reach), to);
+    return IsEmpty(match) ? LastTextIn(m_text.Bytes(from, gap), from, to) : match;
 }
 
 std::string Searcher::AroundGap(long from, long gap, long to) const
@@ -213,26 +219,24 @@ std::string Searcher::AroundGap(long from, long gap, long to) const
     return around;
 }
 
-std::optional<Range> Searcher::FirstTextIn(std::string_view bytes, long base, long to)
+Range Searcher::FirstTextIn(std::string_view bytes, long base, long to)
 {
-    auto hit = m_scan->First(bytes, 0);
-    for (; hit; hit = m_scan->First(bytes, hit->start + 1)) {
-        const Range match{base + static_cast<long>(hit->start), base + static_cast<long>(hit->end)};
+    for (Hit hit = m_scan->First(bytes, 0); hit; hit = m_scan->First(bytes, hit.start + 1)) {
+        const Range match{base + static_cast<long>(hit.start), base + static_cast<long>(hit.end)};
         if (Suits(match, to, bytes, base))
             return match;
     }
-    return std::nullopt;
+    return {};
 }
 
-std::optional<Range> Searcher::LastTextIn(std::string_view bytes, long base, long to)
+Range Searcher::LastTextIn(std::string_view bytes, long base, long to)
 {
-    auto hit = m_scan->Last(bytes, bytes.size());
-    for (; hit; hit = m_scan->Last(bytes, hit->start)) {
-        const Range match{base + static_cast<long>(hit->start), base + static_cast<long>(hit->end)};
+    for (Hit hit = m_scan->Last(bytes, bytes.size()); hit; hit = m_scan->Last(bytes, hit.start)) {
+        const Range match{base + static_cast<long>(hit.start), base + static_cast<long>(hit.end)};
         if (Suits(match, to, bytes, base))
             return match;
     }
-    return std::nullopt;
+    return {};
 }
 
 // Whether a match of the text has the edges and the words that are asked for. Beside characters

@@ -65,11 +65,12 @@ private:
     bool WordsAreTheSame();
     std::string WordItem() const;
 
-    std::optional<Range> FindText(long from, long to);
-    std::optional<Range> FirstText(long from, long to);
-    std::optional<Range> LastText(long from, long to);
-    std::optional<Range> FirstTextIn(std::string_view bytes, long base, long to);
-    std::optional<Range> LastTextIn(std::string_view bytes, long base, long to);
+    // An empty range: none.
+    Range FindText(long from, long to);
+    Range FirstText(long from, long to);
+    Range LastText(long from, long to);
+    Range FirstTextIn(std::string_view bytes, long base, long to);
+    Range LastTextIn(std::string_view bytes, long base, long to);
     std::string AroundGap(long from, long gap, long to) const;
     bool Suits(Range match, long to, std::string_view bytes, long base);
     WordRule Words() const

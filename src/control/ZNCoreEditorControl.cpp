@@ -6,6 +6,8 @@
 #include "platform/Timer.h"
 #include "platform/text/CodePage.h"
 
+#include <QWidget>
+
 #include <algorithm>
 #include <string>
 
@@ -146,9 +148,10 @@ int CZNCoreEditorControl::HandleNotify(LPARAM lParam)
 void CZNCoreEditorControl::OnModified(const SCNotification& record)
 {
     if (m_bModified && (record.modificationType & kUserEdit)) {
-        const HWND parent = GetParent(GetSafeHwnd());
+        const HWND window = GetSafeHwnd();
+        const HWND parent = window ? window->parentWidget() : nullptr;
         if (parent && GetReadOnly(1) == 0)
-            SendMessage(parent, ZNBASEM_ON_EDITCHANGE, reinterpret_cast<WPARAM>(GetSafeHwnd()), 1);
+            SendMessage(parent, ZNBASEM_ON_EDITCHANGE, reinterpret_cast<WPARAM>(window), 1);
     }
     if (record.modificationType & modification::ChangeFold)
         FoldChanged(static_cast<int>(record.line), record.foldLevelNow, record.foldLevelPrev);

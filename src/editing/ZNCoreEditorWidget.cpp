@@ -1,5 +1,6 @@
 #include "editing/ZNCoreEditorWidget.h"
 
+#include <QMetaMethod>
 #include <QVBoxLayout>
 
 #include <utility>
@@ -17,6 +18,8 @@ public:
             m_owner.Notify(lParam); // behind it this object may be gone
             return 0;
         }
+        if (message == ZNBASEM_ON_EDITCHANGE) // comes with each change; its signal is textChanged
+            return 0;
         return CWnd::WindowProc(message, wParam, lParam);
     }
 
@@ -119,12 +122,23 @@ void ZNCoreEditorWidget::setText(const QString& text)
 // signal, and nothing is touched behind the last one.
 void ZNCoreEditorWidget::Notify(LPARAM lParam)
 {
+    const auto& record = *reinterpret_cast<const SCNotification*>(lParam);
+    if (record.nmhdr.code == notify::Modified && !m_tellsChanges) {
+        m_control->HandleNotify(lParam);
+        return;
+    }
     const Lifetime alive(*this);
     m_control->HandleNotify(lParam);
-    const auto& record = *reinterpret_cast<const SCNotification*>(lParam);
     Q_EMIT notified(record);
     if (alive)
         Announce(record);
+}
+
+// Two signals that nobody hears would be a tenth of what an undo of many changes takes.
+void ZNCoreEditorWidget::connectNotify(const QMetaMethod& signal)
+{
+    m_tellsChanges |= signal == QMetaMethod::fromSignal(&ZNCoreEditorWidget::notified) ||
+                      signal == QMetaMethod::fromSignal(&ZNCoreEditorWidget::textChanged);
 }
 
 void ZNCoreEditorWidget::Announce(const SCNotification& record)

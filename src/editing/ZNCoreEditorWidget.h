@@ -46,6 +46,9 @@ Q_SIGNALS:
     // Every notification of the engine. The record is good until the slot returns.
     void notified(const SCNotification& record);
 
+protected:
+    void connectNotify(const QMetaMethod& signal) override;
+
 private:
     class NotificationWindow;
 
@@ -55,6 +58,7 @@ private:
     void Notify(LPARAM lParam);
     void Announce(const SCNotification& record);
 
+    bool m_tellsChanges = false; // somebody listens to each; before what connects to this widget
     std::unique_ptr<CZNCoreEditorControlEx> m_control;
     std::unique_ptr<NotificationWindow> m_window; // hears what the engine tells its parent
     Lifetime* m_lifetime = nullptr;

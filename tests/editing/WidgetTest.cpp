@@ -56,6 +56,24 @@ TEST(EditorWidget, TellsOfChangesAndSavePoints)
     EXPECT_FALSE(editor.isModified());
 }
 
+TEST(EditorWidget, TellsOfChangesAsSoonAsSomebodyListens)
+{
+    ZNCoreEditorWidget editor;
+    editor.setText(QStringLiteral("before"));
+    QSignalSpy changed(&editor, &ZNCoreEditorWidget::textChanged);
+    editor.control().AppendText(1, u"x", 1);
+    EXPECT_EQ(changed.count(), 1);
+
+    ZNCoreEditorWidget other;
+    other.setText(QStringLiteral("before"));
+    long heard = 0;
+    QObject::connect(
+        &other, &ZNCoreEditorWidget::notified, &other,
+        [&heard](const SCNotification& record) { heard += record.nmhdr.code == notify::Modified; });
+    other.control().AppendText(1, u"x", 1);
+    EXPECT_EQ(heard, 1);
+}
+
 TEST(EditorWidget, TellsWhereTheCaretWent)
 {
     ZNCoreEditorWidget editor;

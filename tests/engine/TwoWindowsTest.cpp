@@ -331,3 +331,45 @@ TEST_F(TwoWindows, AWindowThatComesLaterDoesNotTrustALineIndexFromBefore)
                   6000 + 90000 / static_cast<long>(line.size()));
     }
 }
+
+TEST_F(TwoWindows, BothKnowWhetherTheTextIsReadOnly)
+{
+    EXPECT_EQ(m_second->Send(msg::GetReadOnly), 0);
+    m_first.Send(msg::SetReadOnly, 1);
+    EXPECT_EQ(m_first.Send(msg::GetReadOnly), 1);
+    EXPECT_EQ(m_second->Send(msg::GetReadOnly), 1);
+    m_second->Send(msg::SetDocPointer);
+    EXPECT_EQ(m_second->Send(msg::GetReadOnly), 0);
+    EXPECT_EQ(m_first.Send(msg::GetReadOnly), 1);
+    m_second->Send(msg::SetDocPointer, 0, m_first.Send(msg::GetDocPointer));
+    EXPECT_EQ(m_second->Send(msg::GetReadOnly), 1);
+    m_second->Send(msg::SetReadOnly, 0);
+    EXPECT_EQ(m_first.Send(msg::GetReadOnly), 0);
+}
+
+// A change between CR and LF adds a line without having an end of one, and takes it again.
+TEST_F(TwoWindows, BothCountTheLinesOfEveryChange)
+{
+    for (const std::u16string around : {u"", u"\r", u"\n", u"\r\n", u"ab", u"a\n", u"\rb"}) {
+        for (const std::u16string text :
+             {u"x", u"words of it", u"\r", u"\n", u"longer than\r\nmost", u"\u00e9", u"a\rb",
+              u"a long text of no line's end"}) {
+            m_first.SetText(around);
+            m_first.Parent().heard.clear();
+            m_second->Parent().heard.clear();
+            const long lines = m_first.Send(msg::GetLineCount);
+            m_first.Insert(around.empty() ? 0 : 1, text);
+            const long more = m_first.Send(msg::GetLineCount) - lines;
+            m_first.Send(msg::Undo);
+            m_first.Send(msg::Redo);
+            ASSERT_EQ(m_first.Send(msg::GetLineCount), lines + more);
+            for (EngineUnderTest* engine : {&m_first, m_second.get()}) {
+                const auto news = engine->Parent().Of(notify::Modified);
+                ASSERT_EQ(news.size(), 3u);
+                EXPECT_EQ(news[0].record.linesAdded, more);
+                EXPECT_EQ(news[1].record.linesAdded, -more);
+                EXPECT_EQ(news[2].record.linesAdded, more);
+            }
+        }
+    }
+}

@@ -12,6 +12,7 @@
 namespace platform::ascii {
 
 constexpr std::size_t kChunk = 16;
+constexpr std::size_t kHalfChunk = 8;
 
 #if defined(__SSE2__)
 
@@ -33,6 +34,16 @@ inline std::size_t WidenChunk(const unsigned char* bytes, char16_t* units)
     Store(units + 8, _mm_unpackhi_epi8(chunk, _mm_setzero_si128()));
     const int high = _mm_movemask_epi8(chunk);
     return high == 0 ? kChunk : static_cast<std::size_t>(__builtin_ctz(high));
+}
+
+// Writes the 8 bytes as 8 units. True if they are plain: ASCII without control characters. If not,
+// the units are of no use.
+inline bool WidenPlainHalf(const unsigned char* bytes, char16_t* units)
+{
+    const __m128i chunk = _mm_loadl_epi64(reinterpret_cast<const __m128i*>(bytes));
+    Store(units, _mm_unpacklo_epi8(chunk, _mm_setzero_si128()));
+    const __m128i odd = _mm_cmplt_epi8(chunk, _mm_set1_epi8(' ')); // from 80 up they are negative
+    return (_mm_movemask_epi8(odd) & 0xFF) == 0;
 }
 
 // True if the 16 units are ASCII; only then are their 16 bytes written.
@@ -83,6 +94,16 @@ inline std::size_t WidenChunk(const unsigned char* bytes, char16_t* units)
         ascii += ascii == i && bytes[i] < 0x80;
     }
     return ascii;
+}
+
+inline bool WidenPlainHalf(const unsigned char* bytes, char16_t* units)
+{
+    bool plain = true;
+    for (std::size_t i = 0; i < kHalfChunk; ++i) {
+        plain &= bytes[i] >= ' ' && bytes[i] < 0x80;
+        units[i] = bytes[i];
+    }
+    return plain;
 }
 
 inline bool NarrowChunk(const char16_t* units, unsigned char* bytes)
