@@ -49,6 +49,20 @@ Text Widen(const std::string& text)
     return Text(text.begin(), text.end());
 }
 
+// std::regex recurses for each character. The end of a line is a value, whatever stands there, so
+// that the expressions get the line's head alone.
+constexpr std::size_t kHead = 2000;
+
+std::string HeadOf(const Text& line)
+{
+    return Narrow(line.substr(0, kHead));
+}
+
+Text BehindHead(const Text& line)
+{
+    return line.size() > kHead ? line.substr(kHead) : Text();
+}
+
 char16_t Lower(char16_t unit)
 {
     return unit >= u'A' && unit <= u'Z' ? static_cast<char16_t>(unit + 32) : unit;
@@ -107,7 +121,7 @@ void PlainPreprocessor::ExpandDefines(Table& table, std::size_t start)
         const bool inComment = InComment(hit);
         const bool inString = !inComment && InString(hit);
         const bool isDefine = !inComment && !inString &&
-                              std::regex_match(Narrow(line), std::regex("(^#define\\s+).*$"));
+                              std::regex_match(HeadOf(line), std::regex("(^#define\\s+).*$"));
         if (isDefine && !VisitDefinition(table, hit, previous, commentLength))
             return;
         if (!isDefine && !inComment)
@@ -122,12 +136,13 @@ bool PlainPreprocessor::VisitDefinition(Table& table, std::size_t hit, Text& pre
     const std::size_t start = LineStart(hit);
     const Text line = TrimLeft(LineAt(hit));
     found = true;
-    const std::string copy = Narrow(line.substr(0, line.find(m_marker)));
+    const Text cut = line.substr(0, line.find(m_marker));
+    const std::string head = HeadOf(cut);
     std::smatch parts;
-    if (!std::regex_match(copy, parts, std::regex("(^#define\\s+)(&&[a-zA-Z0-9_]+\\s+)(.+$)")))
+    if (!std::regex_match(head, parts, std::regex("(^#define\\s+)(&&[a-zA-Z0-9_]+\\s+)(.+$)")))
         return false;
     const Text name = Trim(Widen(parts[2]));
-    const Text value = Trim(Widen(parts[3]));
+    const Text value = Trim(Widen(parts[3]) + BehindHead(cut));
     const auto commentOut = [&] {
         Insert(start, m_marker, {-1, 0});
         commentLength = m_marker.size();
