@@ -7,7 +7,6 @@
 #include <QJsonArray>
 #include <QJsonDocument>
 #include <QJsonObject>
-#include <QSet>
 
 #include <algorithm>
 #include <cstdint>
@@ -46,7 +45,7 @@ private:
     {
         QJsonObject file;
         file.insert("path", Next() % 8 ? QJsonValue(Path()) : Value());
-        for (const char* name : {"encoding", "caretLine", "firstVisible", "readOnly"}) {
+        for (const char* name : {"encoding", "caretLine", "firstVisible", "readOnly", "panes"}) {
             if (Next() % 2)
                 file.insert(QLatin1String(name), Value());
         }
@@ -98,12 +97,11 @@ void Check(const QByteArray& bytes)
     const Session session = Session::FromBytes(bytes);
     Demand(session.files.size() <= Session::kMostFiles);
     Demand(session.front >= 0 && session.front <= std::max<qsizetype>(0, session.files.size() - 1));
-    QSet<QString> paths;
     for (const SessionFile& file : session.files) {
-        Demand(places::CanBeFile(file.path) && !paths.contains(file.path));
+        Demand(places::CanBeFile(file.path));
         Demand(file.encoding >= -1 && file.encoding <= 11);
         Demand(file.caretLine >= 0 && file.firstVisible >= 0);
-        paths.insert(file.path);
+        Demand(file.panes >= SessionPanes::One && file.panes <= SessionPanes::Beside);
     }
     Demand(Session::FromBytes(session.ToBytes()) == session);
 }
