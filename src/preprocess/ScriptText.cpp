@@ -182,15 +182,15 @@ int ScriptText::Replace(long position, const QString& what, const QString& with)
     return count;
 }
 
-// What the finder does in a selection, with the same end. It is left to the finder only where it is
-// set to more than plain texts, as whoever searched last may have left it: it shows the caret after
-// each, which lays out the line, in seconds for one of megabytes.
+// What the finder does in a selection, with the same end, and with the options that whoever
+// searched last has left it. The finder shows the caret after each, which lays out the line, in
+// seconds for one of megabytes.
 int ScriptText::ReplaceAllFrom(long start, long length, const QString& with)
 {
-    if (m_finder.GetRegExp() || m_finder.GetTransform()) {
-        m_control.SetSel(start, start + length, 1);
-        return m_finder.ReplaceAll(&m_control, true);
-    }
+    const bool isExpression = m_finder.GetRegExp();
+    const QString text =
+        m_finder.GetTransform() ? CFindReplaceManager::DecodeEscapes(Units(with)) : with;
+    const int units = static_cast<int>(text.size());
     long end = start + length;
     int count = 0;
     m_control.SetDoingReplaceAll(true, 1);
@@ -199,7 +199,8 @@ int ScriptText::ReplaceAllFrom(long start, long length, const QString& with)
     while (hit >= 0) {
         ++count;
         const long taken = m_control.GetTargetEnd(1) - m_control.GetTargetStart(1);
-        const long put = m_control.ReplaceTarget(static_cast<int>(with.size()), Units(with), 1);
+        const long put = isExpression ? m_control.ReplaceTargetRE(units, Units(text), 1)
+                                      : m_control.ReplaceTarget(units, Units(text), 1);
         end += std::labs(put - taken);
         hit = Find(hit + put, std::min(end, Length()));
     }

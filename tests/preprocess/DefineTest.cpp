@@ -1,4 +1,5 @@
 // Definitions and variables over the engine's own styling.
+#include "search/FindReplaceManager.h"
 #include "tests/preprocess/PreprocessFixture.h"
 
 namespace {
@@ -89,6 +90,17 @@ TEST_F(Defines, ReplaceUsesBelowAndCommentTheLineOut)
     EXPECT_EQ(Expand("#define &&A 1\nselect &&A"), "--#define &&A 1\nselect 1");
     EXPECT_TRUE(control.GetIncludeOrDefineDirectivesFound());
     EXPECT_FALSE(control.HasPreprocessorErrors());
+}
+
+TEST_F(Defines, AreReplacedWithTheOptionsThatTheLastSearchLeft)
+{
+    CFindReplaceManager& finder = *zncoreeditor::GetFindReplaceManager();
+    finder.SetTransform(true);
+    EXPECT_EQ(Expand("#define &&A x\\ty\n&&A &&A"), "--#define &&A x\\ty\nx\ty x\ty");
+    finder.SetTransform(false);
+    finder.SetRegExp(true);
+    EXPECT_EQ(Expand("#define &&A .*$\n&&A &&A"), "--#define &&A .*$\n.*$ .*$");
+    finder.SetRegExp(false);
 }
 
 TEST_F(Defines, DoNotCountInAString)
