@@ -212,6 +212,11 @@ void ManagerReplaceAll(benchmark::State& state)
     CZNCoreEditorControlEx& control = engines.editor.control();
     CFindReplaceManager& manager = *zncoreeditor::GetFindReplaceManager();
     manager.SetWrap(true); // from the text's start, wherever an undo leaves the caret
+    manager.SetDown(true);
+    manager.SetWholeWord(false);
+    manager.SetMatchCase(false);
+    manager.SetRegExp(false);
+    manager.SetTransform(false);
     manager.SetFind(QLatin1String(kReplaced.sought));
     manager.SetReplace(QString::fromStdString(std::string(kReplacement)));
     std::vector<double> ours;
