@@ -83,12 +83,6 @@ Editor& Ready(Script script)
     return *editor;
 }
 
-double MedianOf(std::vector<double> values)
-{
-    std::sort(values.begin(), values.end());
-    return values.empty() ? 0 : values[values.size() / 2];
-}
-
 void FirstLook(benchmark::State& state, Script script)
 {
     Editor& editor = Ready(script);

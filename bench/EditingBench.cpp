@@ -23,12 +23,6 @@ constexpr int kFewLines = 250000;
 constexpr int kManyLines = 1000000;
 constexpr int kSortedLines = 100000;
 
-double MedianOf(std::vector<double> values)
-{
-    std::sort(values.begin(), values.end());
-    return values[values.size() / 2];
-}
-
 // Limit 0: none was set.
 void Report(benchmark::State& state, const std::vector<double>& ours,
             const std::vector<double>& theirs, double limit)

@@ -2,7 +2,6 @@
 #include "bench/Pair.h"
 #include "editing/ZNCoreEditorWidget.h"
 
-#include <algorithm>
 #include <cstdlib>
 #include <string>
 #include <vector>
@@ -13,12 +12,6 @@ namespace {
 constexpr int kFewMarks = 100000;
 constexpr int kManyMarks = 500000;
 constexpr double kGrowthLimit = 1.5;
-
-double MedianOf(std::vector<double> values)
-{
-    std::sort(values.begin(), values.end());
-    return values[values.size() / 2];
-}
 
 // A match on each line.
 struct Editor

@@ -14,13 +14,13 @@ double Now()
     return static_cast<double>(now.tv_sec) + 1e-9 * static_cast<double>(now.tv_nsec);
 }
 
-double Median(std::vector<double> values)
+} // namespace
+
+double MedianOf(std::vector<double> values)
 {
     std::sort(values.begin(), values.end());
     return values.empty() ? 0 : values[values.size() / 2];
 }
-
-} // namespace
 
 double CpuSeconds(const std::function<void()>& work)
 {
@@ -39,8 +39,8 @@ void MeasurePair(benchmark::State& state, const std::function<void()>& ours,
         referenceTimes.push_back(CpuSeconds(reference));
         state.SetIterationTime(oursTimes.back());
     }
-    const double mine = Median(oursTimes);
-    const double theirs = Median(referenceTimes);
+    const double mine = MedianOf(oursTimes);
+    const double theirs = MedianOf(referenceTimes);
     state.counters["ours_ms"] = mine * 1e3;
     state.counters["reference_ms"] = theirs * 1e3;
     state.counters["ratio"] = theirs > 0 ? mine / theirs : 0;
@@ -66,7 +66,7 @@ void MeasureBar(benchmark::State& state, double barInMilliseconds, const char* l
             times.push_back(CpuSeconds(work) * 1e3);
         }
     }
-    const double median = Median(times);
+    const double median = MedianOf(times);
     state.counters["ours_ms"] = median;
     state.counters["reference_ms"] = barInMilliseconds;
     ReportFigure(state, median / barInMilliseconds, 1, label);

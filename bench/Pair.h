@@ -5,11 +5,15 @@
 #include <benchmark/benchmark.h>
 
 #include <functional>
+#include <vector>
 
 namespace bench {
 
 // CPU seconds of the process that the work takes.
 double CpuSeconds(const std::function<void()>& work);
+
+// 0 if there are none.
+double MedianOf(std::vector<double> values);
 
 // Runs both as often as the benchmark iterates and reports the medians as the counters ours_ms,
 // reference_ms and ratio, and with a limit above 0 the counter limit.

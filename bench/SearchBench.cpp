@@ -155,18 +155,12 @@ long ReplaceRaw(const RawEngine& raw, long most)
     return count;
 }
 
-double Median(std::vector<double> values)
-{
-    std::sort(values.begin(), values.end());
-    return values[values.size() / 2];
-}
-
 void Report(benchmark::State& state, const std::vector<double>& ours,
             const std::vector<double>& theirs)
 {
-    state.counters["ours_ms"] = Median(ours) * 1e3;
-    state.counters["reference_ms"] = Median(theirs) * 1e3;
-    state.counters["ratio"] = Median(ours) / Median(theirs);
+    state.counters["ours_ms"] = MedianOf(ours) * 1e3;
+    state.counters["reference_ms"] = MedianOf(theirs) * 1e3;
+    state.counters["ratio"] = MedianOf(ours) / MedianOf(theirs);
     state.counters["limit"] = kReplaceLimit;
 }
 

@@ -70,12 +70,6 @@ struct Stock
     RawEngine raw;
 };
 
-double MedianOf(std::vector<double> values)
-{
-    std::sort(values.begin(), values.end());
-    return values[values.size() / 2];
-}
-
 void Colour(benchmark::State& state, Script script, bool fold)
 {
     constexpr double kLimit = 1.0;

@@ -69,12 +69,6 @@ struct Editor
     int painted = 0;
 };
 
-double MedianOf(std::vector<double> values)
-{
-    std::sort(values.begin(), values.end());
-    return values[values.size() / 2];
-}
-
 // Microseconds of each character. The parent hears of every one of them.
 std::vector<double> TypeMany(Editor& editor, Place place, Way way)
 {
