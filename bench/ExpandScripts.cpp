@@ -50,7 +50,7 @@ std::string MakeExpandable(const QTemporaryDir& folder, std::size_t megabytes)
     return script;
 }
 
-std::string MakeLongLine(std::size_t uses)
+std::string MakeLongLine(std::size_t uses, bool hasBlankLines)
 {
     std::string script = "select 0";
     for (std::size_t use = 0; use < uses; ++use) {
@@ -58,7 +58,7 @@ std::string MakeLongLine(std::size_t uses)
         column.resize(48, ' ');
         script += column;
     }
-    return script;
+    return hasBlankLines ? script + std::string(uses, '\n') : script;
 }
 
 void Bind(ZNCoreEditorWidget& editor, const char* language)

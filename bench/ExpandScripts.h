@@ -14,8 +14,9 @@ namespace bench {
 // fewer as many fewer. The files stand in the folder.
 std::string MakeExpandable(const QTemporaryDir& folder, std::size_t megabytes);
 
-// One line of so many uses of &&NAME, 48 bytes for each.
-std::string MakeLongLine(std::size_t uses);
+// One line of so many uses of &&NAME, 48 bytes for each, and as many blank lines below it as there
+// are uses, or none.
+std::string MakeLongLine(std::size_t uses, bool hasBlankLines);
 
 void Bind(ZNCoreEditorWidget& editor, const char* language);
 

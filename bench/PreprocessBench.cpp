@@ -124,7 +124,8 @@ void ExpandGrowth(benchmark::State& state)
 }
 
 // The time for twice the uses in a line of twice the length, in fresh editors.
-void ExpandLongLine(benchmark::State& state, const char* language, const char* value)
+void ExpandLongLine(benchmark::State& state, const char* language, const char* value,
+                    bool hasBlankLines)
 {
     constexpr double kLimit = 2.6;
     constexpr std::size_t kUses[] = {8000, 16000};
@@ -136,7 +137,7 @@ void ExpandLongLine(benchmark::State& state, const char* language, const char* v
             const int i = round % 2;
             ZNCoreEditorWidget editor;
             Bind(editor, language);
-            const QString script = QString::fromStdString(MakeLongLine(kUses[i]));
+            const QString script = QString::fromStdString(MakeLongLine(kUses[i], hasBlankLines));
             editor.control().SetText(Units(script), 1);
             QString expanded;
             least[i] =
@@ -150,12 +151,28 @@ void ExpandLongLine(benchmark::State& state, const char* language, const char* v
     ReportFigure(state, least[1] / least[0], kLimit, "times the time for half of 16,000 uses");
 }
 
+struct LongLine
+{
+    const char* name;
+    const char* value;
+    bool hasBlankLines;
+};
+
+constexpr LongLine kLongLines[] = {
+    {"Words", "value", false},
+    {"Quotes", "it's", false}, // each changes the styles of the rest
+    {"AboveBlankLines", "value", true},
+};
+
 const bool kRegistered = [] {
     for (const char* language : {"MySQL", "PL/SQL"}) {
-        for (const auto& [name, value] : {std::pair("Words", "value"), {"Quotes", "it's"}})
-            benchmark::RegisterBenchmark(
-                std::string("ExpandLongLine/").append(name).append("/").append(language).c_str(),
-                ExpandLongLine, language, value)
+        for (const LongLine& line : kLongLines)
+            benchmark::RegisterBenchmark(std::string("ExpandLongLine/")
+                                             .append(line.name)
+                                             .append("/")
+                                             .append(language)
+                                             .c_str(),
+                                         ExpandLongLine, language, line.value, line.hasBlankLines)
                 ->Iterations(1);
     }
     return true;

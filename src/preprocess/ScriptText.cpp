@@ -105,18 +105,29 @@ long ScriptText::SettleStyles()
 }
 
 // Behind the line of a position and the blank ones below it: an engine that is asked for the styles
-// of the position goes as far, and into the line behind, to tell whether the batch goes on.
-long ScriptText::BehindLines(long position) const
+// of the position goes as far, and into the line behind, to tell whether the batch goes on. A line
+// of many uses asks for each of them, with the same lines below it.
+long ScriptText::BehindLines(long position)
 {
+    const long length = Length();
     const int lines = m_control.GetLineCount(1);
     int line = LineOf(position) + 1;
-    while (line < lines) {
-        const long start = LineStart(line);
-        if (!Text(start, std::min(LineEnd(line), start + kPeek)).trimmed().isEmpty())
-            return start;
-        ++line;
+    if (line >= lines)
+        return length;
+    const long below = length - LineStart(line);
+    if (below != m_below) {
+        m_below = below;
+        while (line < lines && IsBlankLine(line))
+            ++line;
+        m_behindBlank = line < lines ? length - LineStart(line) : 0;
     }
-    return Length();
+    return length - m_behindBlank;
+}
+
+bool ScriptText::IsBlankLine(int line) const
+{
+    const long start = LineStart(line);
+    return Text(start, std::min(LineEnd(line), start + kPeek)).trimmed().isEmpty();
 }
 
 // From where the engine's styles end, which it keeps true through edits: behind a change it goes on
@@ -139,6 +150,8 @@ void ScriptText::StyleBlock(long to)
 void ScriptText::Changed(long at, long removed, long inserted)
 {
     ++m_changes;
+    if (Length() - at - inserted < m_below)
+        m_below = -1;
     m_firstChange = m_firstChange < 0 ? at : std::min(m_firstChange, at);
     m_restyled = m_lexer == kContainerLexer ? Length() : Moved(m_restyled, at, removed, inserted);
     if (at >= m_known)

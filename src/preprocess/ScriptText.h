@@ -54,7 +54,8 @@ public:
 private:
     int ReplaceAllFrom(long start, long length, const QString& with);
     void StyleTo(long position);
-    long BehindLines(long position) const;
+    long BehindLines(long position);
+    bool IsBlankLine(int line) const;
     void StyleBlock(long to);
     void Changed(long at, long removed, long inserted);
 
@@ -73,4 +74,8 @@ private:
     long m_known;
     long m_restyled = 0; // what was styled again since SettleStyles ends here
     long m_block;
+
+    // What BehindLines has found last, both as units from the text's end.
+    long m_below = -1; // the start of the line below; -1: nothing
+    long m_behindBlank = 0;
 };
