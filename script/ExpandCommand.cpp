@@ -5,8 +5,6 @@
 #include "script/Problems.h"
 #include "script/ScriptFile.h"
 
-#include <set>
-
 namespace {
 
 QString NameOf(const SourceLine& place, const QString& script)
@@ -27,16 +25,11 @@ void ReportFailures(CZNCoreEditorControlEx& control, const QString& script)
 }
 
 // An included file may hold what is no text, of which the editor keeps what comes before.
-bool ReportIncludedFiles(CZNCoreEditorControlEx& control)
+bool ReportIncludedFiles()
 {
-    const SourceMap& map = zncoreeditor::GetCompileManager()->GetSourceMap();
-    std::set<QString> paths;
-    for (long line = 0; line < control.GetLineCount(1); ++line)
-        paths.insert(map.Locate(line).path);
-    paths.erase(QString());
     ScriptFile file;
     bool areWhole = true;
-    for (const QString& path : paths) {
+    for (const QString& path : zncoreeditor::GetCompileManager()->GetSourceMap().Files()) {
         const QString problem = file.Read(path);
         if (!problem.isEmpty())
             Report(path, problem);
@@ -79,7 +72,7 @@ int Expand(const Arguments& arguments)
         ReportFailures(control, script);
         return kProblems;
     }
-    if (!ReportIncludedFiles(control))
+    if (!ReportIncludedFiles())
         return kProblems;
     UnifyLineEnds(control, arguments);
     const int encoding = arguments.encoding.value_or(control.GetEncoding());

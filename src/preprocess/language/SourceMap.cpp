@@ -77,6 +77,15 @@ std::vector<SourceLine> SourceMap::IncludedFrom(long line) const
     return sites;
 }
 
+std::set<QString> SourceMap::Files() const
+{
+    std::set<QString> paths;
+    for (const File& file : m_files)
+        paths.insert(file.path);
+    paths.erase(QString()); // the script
+    return paths;
+}
+
 long SourceMap::Find(const QString& path, long line) const
 {
     for (std::size_t i = 0; i < m_runs.size(); ++i) {

@@ -6,6 +6,7 @@
 
 #include <QString>
 
+#include <set>
 #include <vector>
 
 struct SourceLine
@@ -35,6 +36,9 @@ public:
 
     // The include lines that brought it here, the innermost first; empty for the script's own.
     std::vector<SourceLine> IncludedFrom(long line) const;
+
+    // The files that were included, each once, in the order of their names.
+    std::set<QString> Files() const;
 
     // The expanded line that came from there, the first of several; -1 if there is none.
     long Find(const QString& path, long line) const;

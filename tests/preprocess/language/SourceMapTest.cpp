@@ -29,6 +29,18 @@ TEST(SourceMap, PutsAFileBelowItsLine)
     EXPECT_EQ(map.Find("a", 3), -1);
 }
 
+TEST(SourceMap, NamesEachFileOnce)
+{
+    SourceMap map;
+    EXPECT_TRUE(map.Files().empty());
+    map.InsertFile(0, 3, "b", 0);
+    map.InsertFile(2, 2, "a", 0);
+    map.InsertFile(7, 3, "b", 0);
+    EXPECT_EQ(map.Files(), (std::set<QString>{"a", "b"}));
+    map.Clear();
+    EXPECT_TRUE(map.Files().empty());
+}
+
 TEST(SourceMap, TellsNestedIncludesFromTheInside)
 {
     SourceMap map;
