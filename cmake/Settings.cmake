@@ -33,5 +33,7 @@ endif()
 
 find_program(ZN_CCACHE ccache)
 if(ZN_CCACHE AND NOT CMAKE_CXX_COMPILER_LAUNCHER)
-    set(CMAKE_CXX_COMPILER_LAUNCHER ${ZN_CCACHE})
+    # Paths below the tree do not count, so that one clone finds what another has compiled.
+    set(CMAKE_CXX_COMPILER_LAUNCHER ${CMAKE_COMMAND} -E env CCACHE_BASEDIR=${CMAKE_SOURCE_DIR}
+        CCACHE_NOHASHDIR=1 ${ZN_CCACHE})
 endif()
