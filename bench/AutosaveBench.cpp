@@ -2,8 +2,8 @@
 #include "bench/Pair.h"
 #include "bench/Texts.h"
 #include "editing/ZNCoreEditorWidget.h"
-#include "platform/SpecialFolders.h"
-#include "platform/Timer.h"
+#include "platform/system/SpecialFolders.h"
+#include "platform/windows/Timer.h"
 
 #include <QDir>
 #include <QFileInfo>

@@ -3,10 +3,10 @@
 #include "bench/Pair.h"
 #include "bench/Texts.h"
 #include "editing/ZNCoreEditorControlEx.h"
-#include "host/MainWindow.h"
-#include "host/ScriptDoc.h"
-#include "host/ScriptFrame.h"
-#include "host/Workbench.h"
+#include "host/script/ScriptDoc.h"
+#include "host/script/ScriptFrame.h"
+#include "host/window/MainWindow.h"
+#include "host/window/Workbench.h"
 #include "platform/docview/DocTemplate.h"
 
 #include <QApplication>

@@ -1,9 +1,9 @@
 #include "bench/ExpandScripts.h"
 
 #include "bench/Texts.h"
-#include "editing/FileTypeManager.h"
-#include "editing/Library.h"
 #include "editing/ZNCoreEditorWidget.h"
+#include "editing/language/FileTypeManager.h"
+#include "editing/language/Library.h"
 
 #include <fstream>
 

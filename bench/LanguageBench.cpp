@@ -2,10 +2,10 @@
 // and the engine's part of it.
 #include "bench/Pair.h"
 
-#include "editing/FileTypeManager.h"
-#include "editing/Library.h"
 #include "editing/ZNCoreEditorControlEx.h"
 #include "editing/ZNCoreEditorWidget.h"
+#include "editing/language/FileTypeManager.h"
+#include "editing/language/Library.h"
 #include "settings/ConfigFile.h"
 #include "settings/SyntaxFile.h"
 

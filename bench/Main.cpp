@@ -1,5 +1,5 @@
 #include "bench/MemoryBench.h"
-#include "platform/Questions.h"
+#include "platform/windows/Questions.h"
 
 #include <QApplication>
 

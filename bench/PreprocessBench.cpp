@@ -4,7 +4,7 @@
 #include "bench/RawExpansion.h"
 #include "bench/Texts.h"
 #include "editing/ZNCoreEditorWidget.h"
-#include "platform/Units.h"
+#include "platform/base/Units.h"
 #include "preprocess/CompileManager.h"
 
 namespace bench {

@@ -1,7 +1,7 @@
 #include "host/FileLanguages.h"
 
-#include "editing/FileTypeManager.h"
-#include "editing/Library.h"
+#include "editing/language/FileTypeManager.h"
+#include "editing/language/Library.h"
 
 #include <QDir>
 #include <QFileInfo>

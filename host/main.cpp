@@ -1,9 +1,9 @@
 // znworkbench: an example host. It opens SQL scripts in tabs, edits and saves them.
 #include "control/ZNCoreEditorControl.h"
-#include "host/Arguments.h"
-#include "host/MainWindow.h"
-#include "host/Screenshot.h"
-#include "host/Workbench.h"
+#include "host/window/Arguments.h"
+#include "host/window/MainWindow.h"
+#include "host/window/Screenshot.h"
+#include "host/window/Workbench.h"
 
 #include <QApplication>
 

@@ -1,6 +1,6 @@
 // znscript batches: the batches of scripts, as the editor's analysis tells them apart.
 #include "host/FileLanguages.h"
-#include "platform/Units.h"
+#include "platform/base/Units.h"
 #include "script/Arguments.h"
 #include "script/Commands.h"
 #include "script/Problems.h"

@@ -1,9 +1,9 @@
 #include "script/ScriptFile.h"
 
-#include "editing/FileTypeManager.h"
-#include "editing/Library.h"
+#include "editing/language/FileTypeManager.h"
+#include "editing/language/Library.h"
 #include "encoding/FileEncodeConverter.h"
-#include "platform/Units.h"
+#include "platform/base/Units.h"
 #include "script/Arguments.h"
 
 #include <QFile>

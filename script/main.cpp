@@ -1,6 +1,6 @@
 // znscript: scripts in build and deployment pipelines. It shows nothing and needs no display.
 #include "control/ZNCoreEditorControl.h"
-#include "platform/Questions.h"
+#include "platform/windows/Questions.h"
 #include "script/Arguments.h"
 #include "script/Commands.h"
 #include "script/Problems.h"

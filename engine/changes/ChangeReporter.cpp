@@ -1,8 +1,8 @@
-#include "engine/ChangeReporter.h"
+#include "engine/changes/ChangeReporter.h"
 
 #include "control/EngineMessages.h"
-#include "engine/AssistiveTechnology.h"
-#include "platform/Window.h"
+#include "engine/changes/AssistiveTechnology.h"
+#include "platform/windows/Window.h"
 
 #include <QMetaObject>
 #include <QPointer>

@@ -7,9 +7,9 @@
 #pragma once
 
 #include "control/EngineMessages.h"
-#include "engine/Colouring.h"
-#include "engine/TextIndex.h"
-#include "engine/Utf.h"
+#include "engine/colours/Colouring.h"
+#include "engine/text/TextIndex.h"
+#include "engine/text/Utf.h"
 
 #include <functional>
 #include <memory>

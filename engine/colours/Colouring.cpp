@@ -1,7 +1,7 @@
-#include "engine/Colouring.h"
+#include "engine/colours/Colouring.h"
 
 #include "control/SqlStyles.h"
-#include "engine/Lexers.h"
+#include "engine/colours/Lexers.h"
 
 #include <algorithm>
 #include <limits>

@@ -8,8 +8,8 @@
 // is taken up again.
 #pragma once
 
-#include "engine/Raw.h"
-#include "engine/SqlPlaces.h"
+#include "engine/colours/SqlPlaces.h"
+#include "engine/text/Raw.h"
 
 #include <optional>
 #include <unordered_map>

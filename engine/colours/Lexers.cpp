@@ -1,4 +1,4 @@
-#include "engine/Lexers.h"
+#include "engine/colours/Lexers.h"
 
 #include <Qsci/qsciscintillabase.h>
 

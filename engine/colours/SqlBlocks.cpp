@@ -1,4 +1,4 @@
-#include "engine/SqlBlocks.h"
+#include "engine/colours/SqlBlocks.h"
 
 #include <utility>
 

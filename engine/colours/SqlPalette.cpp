@@ -1,4 +1,4 @@
-#include "engine/SqlPalette.h"
+#include "engine/colours/SqlPalette.h"
 
 #include "control/SqlStyles.h"
 

@@ -1,4 +1,4 @@
-#include "engine/SqlPlaces.h"
+#include "engine/colours/SqlPlaces.h"
 
 namespace engine {
 

@@ -5,7 +5,7 @@
 // Positions count bytes of a text that has the length that every call says.
 #pragma once
 
-#include "engine/SqlStyler.h"
+#include "engine/colours/SqlStyler.h"
 
 #include <vector>
 

@@ -1,4 +1,4 @@
-#include "engine/SqlStyler.h"
+#include "engine/colours/SqlStyler.h"
 
 #include "control/SqlStyles.h"
 

@@ -3,11 +3,11 @@
 // uses it keeps the states.
 #pragma once
 
-#include "engine/SqlBlocks.h"
-#include "engine/SqlPalette.h"
-#include "engine/SqlVocabulary.h"
 #include "engine/analysis/BatchSeparator.h"
 #include "engine/analysis/StatementState.h"
+#include "engine/colours/SqlBlocks.h"
+#include "engine/colours/SqlPalette.h"
+#include "engine/colours/SqlVocabulary.h"
 
 #include <span>
 #include <vector>

@@ -1,4 +1,4 @@
-#include "engine/SqlVocabulary.h"
+#include "engine/colours/SqlVocabulary.h"
 
 #include <bit>
 #include <cstring>

@@ -1,7 +1,7 @@
-#include "engine/Documents.h"
+#include "engine/core/Documents.h"
 
-#include "engine/Colouring.h"
-#include "engine/ErrorList.h"
+#include "engine/colours/Colouring.h"
+#include "engine/core/ErrorList.h"
 
 #include <algorithm>
 #include <unordered_map>

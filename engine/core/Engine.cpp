@@ -1,9 +1,9 @@
-#include "engine/Engine.h"
+#include "engine/core/Engine.h"
 
-#include "engine/Documents.h"
-#include "engine/ErrorList.h"
-#include "engine/Fences.h"
-#include "engine/Handlers.h"
+#include "engine/core/Documents.h"
+#include "engine/core/ErrorList.h"
+#include "engine/core/Fences.h"
+#include "engine/core/Handlers.h"
 
 #include <array>
 

@@ -4,15 +4,15 @@
 #pragma once
 
 #include "control/EngineMessages.h"
-#include "engine/ChangeReporter.h"
-#include "engine/Colouring.h"
-#include "engine/ErrorMarks.h"
-#include "engine/Raw.h"
-#include "engine/ScriptAnalysis.h"
-#include "engine/StoredText.h"
-#include "engine/TextIndex.h"
-#include "engine/Utf.h"
+#include "engine/changes/ChangeReporter.h"
+#include "engine/colours/Colouring.h"
+#include "engine/core/ScriptAnalysis.h"
+#include "engine/errors/ErrorMarks.h"
 #include "engine/search/Searcher.h"
+#include "engine/text/Raw.h"
+#include "engine/text/StoredText.h"
+#include "engine/text/TextIndex.h"
+#include "engine/text/Utf.h"
 
 #include <memory>
 #include <optional>

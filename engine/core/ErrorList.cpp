@@ -1,6 +1,6 @@
-#include "engine/ErrorList.h"
+#include "engine/core/ErrorList.h"
 
-#include "engine/Engine.h"
+#include "engine/core/Engine.h"
 
 #include <algorithm>
 #include <climits>

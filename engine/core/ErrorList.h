@@ -4,8 +4,8 @@
 #pragma once
 
 #include "control/ErrorInfo.h"
-#include "engine/ErrorMarks.h"
-#include "engine/RangeList.h"
+#include "engine/errors/ErrorMarks.h"
+#include "engine/errors/RangeList.h"
 
 #include <unordered_map>
 

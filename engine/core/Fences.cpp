@@ -1,6 +1,6 @@
-#include "engine/Fences.h"
+#include "engine/core/Fences.h"
 
-#include "engine/Engine.h"
+#include "engine/core/Engine.h"
 
 #include <algorithm>
 

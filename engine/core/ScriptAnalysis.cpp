@@ -1,7 +1,7 @@
-#include "engine/ScriptAnalysis.h"
+#include "engine/core/ScriptAnalysis.h"
 
-#include "engine/Documents.h"
-#include "engine/Engine.h"
+#include "engine/core/Documents.h"
+#include "engine/core/Engine.h"
 
 #include <algorithm>
 #include <new>

@@ -1,4 +1,4 @@
-#include "engine/ErrorMarks.h"
+#include "engine/errors/ErrorMarks.h"
 
 #include "control/ErrorInfo.h"
 

@@ -2,7 +2,7 @@
 // markers in the margin. Positions count bytes.
 #pragma once
 
-#include "engine/Raw.h"
+#include "engine/text/Raw.h"
 
 #include <array>
 

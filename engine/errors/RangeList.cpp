@@ -1,4 +1,4 @@
-#include "engine/RangeList.h"
+#include "engine/errors/RangeList.h"
 
 #include <algorithm>
 #include <iterator>

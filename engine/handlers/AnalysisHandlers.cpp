@@ -1,8 +1,8 @@
 // Messages of the script analysis but for the error list. What their numbers mean stands in
 // control/Analysis.h.
 #include "control/PartitionInfo.h"
-#include "engine/Engine.h"
-#include "engine/Handlers.h"
+#include "engine/core/Engine.h"
+#include "engine/core/Handlers.h"
 
 #include <algorithm>
 

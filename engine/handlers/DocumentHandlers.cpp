@@ -1,7 +1,7 @@
 // Messages about the text as a whole: which one a window shows, and how its changes are grouped.
-#include "engine/Documents.h"
-#include "engine/Engine.h"
-#include "engine/Handlers.h"
+#include "engine/core/Documents.h"
+#include "engine/core/Engine.h"
+#include "engine/core/Handlers.h"
 
 namespace engine {
 namespace {

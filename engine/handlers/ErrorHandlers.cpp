@@ -1,7 +1,7 @@
 // Messages of the error list.
-#include "engine/Engine.h"
-#include "engine/ErrorList.h"
-#include "engine/Handlers.h"
+#include "engine/core/Engine.h"
+#include "engine/core/ErrorList.h"
+#include "engine/core/Handlers.h"
 
 namespace engine {
 namespace {

@@ -1,6 +1,6 @@
 // Messages that carry an image: XPM, as one text or as an array of lines.
-#include "engine/Engine.h"
-#include "engine/Handlers.h"
+#include "engine/core/Engine.h"
+#include "engine/core/Handlers.h"
 
 #include <QPixmap>
 

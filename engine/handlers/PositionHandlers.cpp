@@ -1,6 +1,6 @@
 // Messages about places in the text that need more than a position translated.
-#include "engine/Engine.h"
-#include "engine/Handlers.h"
+#include "engine/core/Engine.h"
+#include "engine/core/Handlers.h"
 
 #include <algorithm>
 

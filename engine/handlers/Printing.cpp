@@ -1,6 +1,6 @@
 // Printing: the range on paper, and how styles differ there.
-#include "engine/Engine.h"
-#include "engine/Handlers.h"
+#include "engine/core/Engine.h"
+#include "engine/core/Handlers.h"
 
 #include <QPainter>
 

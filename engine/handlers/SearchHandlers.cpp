@@ -1,7 +1,7 @@
 // Messages that search: over the target, from the anchor and in a range. What is found in between,
 // the target and its flags are this engine's own.
-#include "engine/Engine.h"
-#include "engine/Handlers.h"
+#include "engine/core/Engine.h"
+#include "engine/core/Handlers.h"
 
 #include <algorithm>
 #include <new>

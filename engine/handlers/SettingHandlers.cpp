@@ -1,7 +1,7 @@
 // Messages that set and ask what this engine holds in its own way: line ends, lexers, the mask of
 // notifications.
-#include "engine/Engine.h"
-#include "engine/Handlers.h"
+#include "engine/core/Engine.h"
+#include "engine/core/Handlers.h"
 
 #include <QWidget>
 

@@ -1,7 +1,7 @@
 // Messages that carry text in or out.
 #include "control/Completion.h"
-#include "engine/Engine.h"
-#include "engine/Handlers.h"
+#include "engine/core/Engine.h"
+#include "engine/core/Handlers.h"
 
 #include <algorithm>
 #include <array>

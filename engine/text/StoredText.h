@@ -1,9 +1,9 @@
 // StoredText: the text of a window as the search sees it.
 #pragma once
 
-#include "engine/Raw.h"
-#include "engine/TextIndex.h"
 #include "engine/search/SearchedText.h"
+#include "engine/text/Raw.h"
+#include "engine/text/TextIndex.h"
 
 namespace engine {
 

@@ -1,6 +1,6 @@
-#include "engine/TextIndex.h"
+#include "engine/text/TextIndex.h"
 
-#include "engine/Utf.h"
+#include "engine/text/Utf.h"
 
 #include <algorithm>
 #include <cstdlib>

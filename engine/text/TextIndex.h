@@ -4,7 +4,7 @@
 // is made, once it pays, and tells the line.
 #pragma once
 
-#include "engine/Raw.h"
+#include "engine/text/Raw.h"
 
 #include <algorithm>
 #include <array>

@@ -1,4 +1,4 @@
-#include "engine/Utf.h"
+#include "engine/text/Utf.h"
 
 #include "platform/text/AsciiRun.h"
 #include "platform/text/Utf8.h"

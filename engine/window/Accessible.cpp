@@ -1,4 +1,4 @@
-#include "engine/Accessible.h"
+#include "engine/window/Accessible.h"
 
 #include <QAccessible>
 #include <QTextBoundaryFinder>

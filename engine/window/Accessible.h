@@ -2,7 +2,7 @@
 // line index, so that no answer costs the length of the text; offsets count UTF-16 units.
 #pragma once
 
-#include "engine/EngineWindow.h"
+#include "engine/window/EngineWindow.h"
 
 #include <QAccessibleWidget>
 

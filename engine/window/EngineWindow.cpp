@@ -1,8 +1,8 @@
-#include "engine/EngineWindow.h"
+#include "engine/window/EngineWindow.h"
 
-#include "engine/Accessible.h"
-#include "engine/AssistiveTechnology.h"
-#include "platform/Window.h"
+#include "engine/changes/AssistiveTechnology.h"
+#include "engine/window/Accessible.h"
+#include "platform/windows/Window.h"
 
 #include <QContextMenuEvent>
 #include <QCoreApplication>

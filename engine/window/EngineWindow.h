@@ -3,8 +3,8 @@
 // stock engine goes on with the message or the event that it was told from.
 #pragma once
 
-#include "engine/Engine.h"
-#include "engine/InputMethod.h"
+#include "engine/core/Engine.h"
+#include "engine/window/InputMethod.h"
 
 #include <QMimeData>
 

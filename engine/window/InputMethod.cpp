@@ -1,4 +1,4 @@
-#include "engine/InputMethod.h"
+#include "engine/window/InputMethod.h"
 
 #include <QFontMetrics>
 #include <QPainter>

@@ -3,7 +3,7 @@
 // step, is told to nobody, and is gone without a trace when it is given up.
 #pragma once
 
-#include "engine/Engine.h"
+#include "engine/core/Engine.h"
 
 #include <QInputMethodEvent>
 #include <QVariant>

@@ -1,5 +1,5 @@
 // The engine module. Loading it makes its window class known; nothing else is reached by name.
-#include "engine/EngineWindow.h"
+#include "engine/window/EngineWindow.h"
 
 namespace {
 

@@ -1,7 +1,7 @@
 // The numbers of the workbench's own commands, from the range that is a host's.
 #pragma once
 
-#include "platform/Types.h"
+#include "platform/base/Types.h"
 
 namespace command {
 enum Id : UINT

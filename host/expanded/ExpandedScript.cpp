@@ -1,10 +1,10 @@
-#include "host/ExpandedScript.h"
+#include "host/expanded/ExpandedScript.h"
 
-#include "editing/Library.h"
 #include "editing/ZNCoreEditorWidget.h"
-#include "host/ScriptDoc.h"
-#include "host/ScrollRange.h"
-#include "platform/Units.h"
+#include "editing/language/Library.h"
+#include "host/script/ScriptDoc.h"
+#include "host/script/ScrollRange.h"
+#include "platform/base/Units.h"
 #include "preprocess/CompileManager.h"
 
 #include <QAction>

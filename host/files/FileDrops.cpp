@@ -1,4 +1,4 @@
-#include "host/FileDrops.h"
+#include "host/files/FileDrops.h"
 
 #include "platform/docview/WinApp.h"
 

@@ -1,4 +1,4 @@
-#include "host/FilePlace.h"
+#include "host/files/FilePlace.h"
 
 #include <QFileInfo>
 

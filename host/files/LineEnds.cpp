@@ -1,8 +1,8 @@
-#include "host/LineEnds.h"
+#include "host/files/LineEnds.h"
 
 #include "control/ZNCoreEditorControl.h"
-#include "host/Encodings.h"
-#include "host/TextPieces.h"
+#include "host/files/Encodings.h"
+#include "host/files/TextPieces.h"
 
 #include <algorithm>
 #include <chrono>

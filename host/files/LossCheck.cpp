@@ -1,8 +1,8 @@
-#include "host/LossCheck.h"
+#include "host/files/LossCheck.h"
 
 #include "control/ZNCoreEditorControl.h"
 #include "encoding/FileEncodeConverter.h"
-#include "host/TextPieces.h"
+#include "host/files/TextPieces.h"
 
 #include <QChar>
 

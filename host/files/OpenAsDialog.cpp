@@ -1,6 +1,6 @@
-#include "host/OpenAsDialog.h"
+#include "host/files/OpenAsDialog.h"
 
-#include "host/Encodings.h"
+#include "host/files/Encodings.h"
 
 #include <QComboBox>
 #include <QDir>

@@ -1,7 +1,7 @@
 // Open with a choice of encoding below the file's name.
 #pragma once
 
-#include "host/Prompts.h"
+#include "host/files/Prompts.h"
 
 #include <QFileDialog>
 

@@ -1,6 +1,6 @@
-#include "host/OpenGuard.h"
+#include "host/files/OpenGuard.h"
 
-#include "host/Places.h"
+#include "host/files/Places.h"
 
 #include <QDir>
 #include <QDirIterator>

@@ -1,6 +1,6 @@
-#include "host/Places.h"
+#include "host/files/Places.h"
 
-#include "platform/SpecialFolders.h"
+#include "platform/system/SpecialFolders.h"
 
 #include <QDir>
 

@@ -1,7 +1,7 @@
-#include "host/Prompts.h"
+#include "host/files/Prompts.h"
 
-#include "host/OpenAsDialog.h"
-#include "host/SaveAsDialog.h"
+#include "host/files/OpenAsDialog.h"
+#include "host/files/SaveAsDialog.h"
 
 #include <QFileDialog>
 #include <QMessageBox>

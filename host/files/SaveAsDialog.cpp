@@ -1,6 +1,6 @@
-#include "host/SaveAsDialog.h"
+#include "host/files/SaveAsDialog.h"
 
-#include "host/Encodings.h"
+#include "host/files/Encodings.h"
 
 #include <QComboBox>
 #include <QFileInfo>

@@ -1,7 +1,7 @@
 // Save As with a choice of encoding and byte-order mark below the file's name.
 #pragma once
 
-#include "host/Prompts.h"
+#include "host/files/Prompts.h"
 
 #include <QFileDialog>
 

@@ -1,4 +1,4 @@
-#include "host/TextPieces.h"
+#include "host/files/TextPieces.h"
 
 #include "control/ZNCoreEditorControl.h"
 

@@ -1,4 +1,4 @@
-#include "host/FindBar.h"
+#include "host/finding/FindBar.h"
 
 #include "editing/ZNCoreEditorControlEx.h"
 #include "search/FindReplaceManager.h"

@@ -1,6 +1,6 @@
-#include "host/OptionsDialog.h"
+#include "host/options/OptionsDialog.h"
 
-#include "platform/OptionsServer.h"
+#include "platform/services/OptionsServer.h"
 
 #include <QCheckBox>
 #include <QComboBox>

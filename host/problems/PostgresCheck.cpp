@@ -1,6 +1,6 @@
-#include "host/PostgresCheck.h"
+#include "host/problems/PostgresCheck.h"
 
-#include "host/Utf8Place.h"
+#include "host/files/Utf8Place.h"
 
 #include <pg_query.h>
 

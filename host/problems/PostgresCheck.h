@@ -1,7 +1,7 @@
 // PostgreSQL's own parser.
 #pragma once
 
-#include "host/SyntaxCheck.h"
+#include "host/problems/SyntaxCheck.h"
 
 class PostgresCheck final : public SyntaxCheck
 {

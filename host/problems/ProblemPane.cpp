@@ -1,6 +1,6 @@
-#include "host/ProblemPane.h"
+#include "host/problems/ProblemPane.h"
 
-#include "host/SyntaxCheck.h"
+#include "host/problems/SyntaxCheck.h"
 
 #include <QHeaderView>
 #include <QStyle>

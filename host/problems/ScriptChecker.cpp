@@ -1,9 +1,9 @@
-#include "host/ScriptChecker.h"
+#include "host/problems/ScriptChecker.h"
 
 #include "control/Analysis.h"
 #include "control/ErrorInfo.h"
 #include "editing/ZNCoreEditorControlEx.h"
-#include "platform/Units.h"
+#include "platform/base/Units.h"
 
 #include <chrono>
 #include <utility>

@@ -1,7 +1,7 @@
 // Checks the script of an editor whenever it has come to rest, and marks what is wrong with it.
 #pragma once
 
-#include "host/SyntaxCheck.h"
+#include "host/problems/SyntaxCheck.h"
 
 #include <QObject>
 #include <QTimer>

@@ -1,6 +1,6 @@
-#include "host/SqliteCheck.h"
+#include "host/problems/SqliteCheck.h"
 
-#include "host/Utf8Place.h"
+#include "host/files/Utf8Place.h"
 
 #include <sqlite3.h>
 

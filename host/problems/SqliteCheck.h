@@ -1,7 +1,7 @@
 // SQLite's own parser, over an empty database in memory that learns the script's tables.
 #pragma once
 
-#include "host/SyntaxCheck.h"
+#include "host/problems/SyntaxCheck.h"
 
 class SqliteCheck final : public SyntaxCheck
 {

@@ -1,7 +1,7 @@
-#include "host/SyntaxCheck.h"
+#include "host/problems/SyntaxCheck.h"
 
-#include "host/PostgresCheck.h"
-#include "host/SqliteCheck.h"
+#include "host/problems/PostgresCheck.h"
+#include "host/problems/SqliteCheck.h"
 
 std::unique_ptr<SyntaxCheck> SyntaxCheckFor(const QString& language)
 {

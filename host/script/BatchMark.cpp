@@ -1,4 +1,4 @@
-#include "host/BatchMark.h"
+#include "host/script/BatchMark.h"
 
 #include "editing/ZNCoreEditorControlEx.h"
 

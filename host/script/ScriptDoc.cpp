@@ -1,16 +1,16 @@
 // ScriptDoc: open, language, views. Saving stands in ScriptSaving.
-#include "host/ScriptDoc.h"
+#include "host/script/ScriptDoc.h"
 
-#include "editing/FileTypeManager.h"
-#include "editing/Library.h"
-#include "host/AutosaveSettings.h"
+#include "editing/language/FileTypeManager.h"
+#include "editing/language/Library.h"
 #include "host/FileLanguages.h"
-#include "host/LineEnds.h"
-#include "host/ScriptChecker.h"
-#include "host/ScriptView.h"
-#include "platform/OptionsServer.h"
-#include "platform/Questions.h"
+#include "host/files/LineEnds.h"
+#include "host/problems/ScriptChecker.h"
+#include "host/script/ScriptView.h"
+#include "host/session/AutosaveSettings.h"
 #include "platform/docview/CommandIds.h"
+#include "platform/services/OptionsServer.h"
+#include "platform/windows/Questions.h"
 
 #include <QDir>
 #include <QFileInfo>

@@ -3,7 +3,7 @@
 #pragma once
 
 #include "docview/ZNCoreEditorDoc.h"
-#include "host/Prompts.h"
+#include "host/files/Prompts.h"
 
 #include <QObject>
 

@@ -1,13 +1,13 @@
-#include "host/ScriptFrame.h"
+#include "host/script/ScriptFrame.h"
 
-#include "host/ScriptDoc.h"
-#include "host/ScriptTabs.h"
-#include "host/ScriptView.h"
-#include "host/WorkbenchCommands.h"
-#include "platform/Disposal.h"
+#include "host/commands/WorkbenchCommands.h"
+#include "host/script/ScriptDoc.h"
+#include "host/script/ScriptTabs.h"
+#include "host/script/ScriptView.h"
 #include "platform/docview/CommandIds.h"
 #include "platform/docview/CreateContext.h"
 #include "platform/docview/DocTemplate.h"
+#include "platform/windows/Disposal.h"
 
 #include <QDir>
 #include <QSplitter>

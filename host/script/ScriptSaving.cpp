@@ -1,8 +1,8 @@
 // ScriptDoc: what is asked before its file is written, and before its text goes.
-#include "host/Encodings.h"
-#include "host/LossCheck.h"
-#include "host/ScriptDoc.h"
-#include "host/ScriptView.h"
+#include "host/files/Encodings.h"
+#include "host/files/LossCheck.h"
+#include "host/script/ScriptDoc.h"
+#include "host/script/ScriptView.h"
 #include "platform/docview/DocTemplate.h"
 #include "platform/docview/FrameWnd.h"
 

@@ -1,7 +1,7 @@
-#include "host/ScriptTabs.h"
+#include "host/script/ScriptTabs.h"
 
-#include "platform/Wnd.h"
 #include "platform/docview/WinApp.h"
+#include "platform/windows/Wnd.h"
 
 #include <QTabBar>
 

@@ -1,14 +1,14 @@
-#include "host/ScriptView.h"
+#include "host/script/ScriptView.h"
 
 #include "control/EngineRecords.h"
-#include "host/BatchMark.h"
-#include "host/FileDrops.h"
-#include "host/ScriptDoc.h"
-#include "host/ScrollRange.h"
-#include "host/WorkbenchCommands.h"
-#include "platform/Mouse.h"
+#include "host/commands/WorkbenchCommands.h"
+#include "host/files/FileDrops.h"
+#include "host/script/BatchMark.h"
+#include "host/script/ScriptDoc.h"
+#include "host/script/ScrollRange.h"
 #include "platform/docview/CommandIds.h"
 #include "platform/docview/FrameWnd.h"
+#include "platform/windows/Mouse.h"
 
 #include <QTimer>
 

@@ -1,4 +1,4 @@
-#include "host/ScrollRange.h"
+#include "host/script/ScrollRange.h"
 
 #include "control/ZNCoreEditorControl.h"
 

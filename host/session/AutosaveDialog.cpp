@@ -1,4 +1,4 @@
-#include "host/AutosaveDialog.h"
+#include "host/session/AutosaveDialog.h"
 
 #include <QCheckBox>
 #include <QDialogButtonBox>

@@ -1,7 +1,7 @@
 // The dialog for autosave: its switch and its minutes.
 #pragma once
 
-#include "host/AutosaveSettings.h"
+#include "host/session/AutosaveSettings.h"
 
 #include <QDialog>
 

@@ -1,7 +1,7 @@
-#include "host/AutosaveSettings.h"
+#include "host/session/AutosaveSettings.h"
 
 #include "control/ZNCoreEditorControl.h"
-#include "host/Places.h"
+#include "host/files/Places.h"
 
 namespace {
 

@@ -1,6 +1,6 @@
-#include "host/Session.h"
+#include "host/session/Session.h"
 
-#include "host/Places.h"
+#include "host/files/Places.h"
 
 #include <QFile>
 #include <QFileInfo>

@@ -1,4 +1,4 @@
-#include "host/Arguments.h"
+#include "host/window/Arguments.h"
 
 #include <QCommandLineParser>
 

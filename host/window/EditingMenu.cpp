@@ -1,6 +1,6 @@
-#include "host/EditingMenu.h"
+#include "host/window/EditingMenu.h"
 
-#include "host/ScriptView.h"
+#include "host/script/ScriptView.h"
 
 #include <QAction>
 #include <QMenu>

@@ -1,7 +1,7 @@
-#include "host/LanguageMenu.h"
+#include "host/window/LanguageMenu.h"
 
-#include "editing/FileTypeManager.h"
-#include "editing/Library.h"
+#include "editing/language/FileTypeManager.h"
+#include "editing/language/Library.h"
 
 #include <QActionGroup>
 

@@ -1,8 +1,8 @@
-#include "host/MainFrame.h"
+#include "host/window/MainFrame.h"
 
-#include "host/FindBar.h"
-#include "host/MainWindow.h"
-#include "host/WorkbenchCommands.h"
+#include "host/commands/WorkbenchCommands.h"
+#include "host/finding/FindBar.h"
+#include "host/window/MainWindow.h"
 #include "platform/docview/WinApp.h"
 
 #include <QCoreApplication>

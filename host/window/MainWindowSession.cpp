@@ -1,13 +1,13 @@
 // MainWindow: what it remembers from one run to the next.
 #include "editing/ZNCoreEditorControlEx.h"
-#include "host/ExpandedScript.h"
-#include "host/MainWindow.h"
-#include "host/ScriptDoc.h"
-#include "host/ScriptFrame.h"
-#include "host/ScriptTabs.h"
-#include "host/ScriptView.h"
-#include "host/Session.h"
-#include "host/Workbench.h"
+#include "host/expanded/ExpandedScript.h"
+#include "host/script/ScriptDoc.h"
+#include "host/script/ScriptFrame.h"
+#include "host/script/ScriptTabs.h"
+#include "host/script/ScriptView.h"
+#include "host/session/Session.h"
+#include "host/window/MainWindow.h"
+#include "host/window/Workbench.h"
 
 #include <QFileInfo>
 #include <QPointer>

@@ -1,6 +1,6 @@
-#include "host/RecentMenu.h"
+#include "host/window/RecentMenu.h"
 
-#include "host/RecentFiles.h"
+#include "host/files/RecentFiles.h"
 
 #include <QDir>
 

@@ -1,10 +1,10 @@
-#include "host/Screenshot.h"
+#include "host/window/Screenshot.h"
 
-#include "host/MainWindow.h"
-#include "host/Prompts.h"
-#include "host/Workbench.h"
-#include "platform/Questions.h"
-#include "platform/SpecialFolders.h"
+#include "host/files/Prompts.h"
+#include "host/window/MainWindow.h"
+#include "host/window/Workbench.h"
+#include "platform/system/SpecialFolders.h"
+#include "platform/windows/Questions.h"
 
 #include <QApplication>
 #include <QPixmap>

@@ -1,13 +1,13 @@
-#include "host/StatusIndicators.h"
+#include "host/window/StatusIndicators.h"
 
-#include "editing/FileTypeManager.h"
-#include "editing/Library.h"
 #include "editing/ZNCoreEditorControlEx.h"
-#include "host/Encodings.h"
-#include "host/LineEnds.h"
-#include "host/ScriptDoc.h"
-#include "host/ScriptFrame.h"
-#include "host/ScriptView.h"
+#include "editing/language/FileTypeManager.h"
+#include "editing/language/Library.h"
+#include "host/files/Encodings.h"
+#include "host/files/LineEnds.h"
+#include "host/script/ScriptDoc.h"
+#include "host/script/ScriptFrame.h"
+#include "host/script/ScriptView.h"
 
 #include <QLabel>
 #include <QStatusBar>

@@ -1,14 +1,14 @@
-#include "host/Workbench.h"
+#include "host/window/Workbench.h"
 
-#include "host/Places.h"
-#include "host/Prompts.h"
-#include "host/ScriptDoc.h"
-#include "host/ScriptFrame.h"
-#include "host/ScriptView.h"
-#include "host/WorkbenchCommands.h"
-#include "platform/Disposal.h"
+#include "host/commands/WorkbenchCommands.h"
+#include "host/files/Places.h"
+#include "host/files/Prompts.h"
+#include "host/script/ScriptDoc.h"
+#include "host/script/ScriptFrame.h"
+#include "host/script/ScriptView.h"
 #include "platform/docview/CommandIds.h"
 #include "platform/docview/DocTemplate.h"
+#include "platform/windows/Disposal.h"
 
 #include <QDir>
 #include <QFileInfo>

@@ -2,8 +2,8 @@
 // before, and keeps the list of recent files.
 #pragma once
 
-#include "host/OpenGuard.h"
-#include "host/RecentFiles.h"
+#include "host/files/OpenGuard.h"
+#include "host/files/RecentFiles.h"
 #include "platform/docview/WinApp.h"
 
 #include <QSettings>

@@ -2,7 +2,7 @@
 #pragma once
 
 #include "common/Export.h"
-#include "platform/ResourceLoader.h"
+#include "platform/services/ResourceLoader.h"
 
 #include <QString>
 

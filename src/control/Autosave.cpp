@@ -14,10 +14,10 @@
 #include "control/FileAccess.h"
 #include "control/FilePolicy.h"
 #include "control/ZNCoreEditorControl.h"
-#include "platform/Profile.h"
-#include "platform/Questions.h"
-#include "platform/SpecialFolders.h"
-#include "platform/Units.h"
+#include "platform/base/Units.h"
+#include "platform/system/Profile.h"
+#include "platform/system/SpecialFolders.h"
+#include "platform/windows/Questions.h"
 
 #include <QDir>
 #include <QDirIterator>

@@ -1,6 +1,6 @@
 // Bookmarks of the control: marker 0, and ten numbered ones that are kept by their marker handles.
 #include "control/ZNCoreEditorControl.h"
-#include "platform/SystemColors.h"
+#include "platform/system/SystemColors.h"
 
 namespace {
 

@@ -3,7 +3,7 @@
 // Scintilla, with text in char16_t.
 #pragma once
 
-#include "platform/Types.h"
+#include "platform/base/Types.h"
 
 class QPainter;
 

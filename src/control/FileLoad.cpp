@@ -6,7 +6,7 @@
 #include "control/FileAccess.h"
 #include "control/FileBlocks.h"
 #include "control/LineEnds.h"
-#include "platform/Questions.h"
+#include "platform/windows/Questions.h"
 
 #include <climits>
 #include <new>

@@ -2,9 +2,9 @@
 
 #include "control/CopyClaim.h"
 #include "control/LineEnds.h"
-#include "platform/Module.h"
-#include "platform/Timer.h"
+#include "platform/system/Module.h"
 #include "platform/text/CodePage.h"
+#include "platform/windows/Timer.h"
 
 #include <QWidget>
 

@@ -6,7 +6,7 @@
 #include "common/Export.h"
 #include "control/EngineMessages.h"
 #include "encoding/FileEncodeConverter.h"
-#include "platform/Wnd.h"
+#include "platform/windows/Wnd.h"
 
 #include <QString>
 

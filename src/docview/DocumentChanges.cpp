@@ -2,10 +2,10 @@
 #include "docview/ZNCoreEditorDoc.h"
 
 #include "docview/ZNCoreEditorView.h"
-#include "platform/OptionsServer.h"
-#include "platform/Questions.h"
 #include "platform/docview/CommandIds.h"
 #include "platform/docview/FrameWnd.h"
+#include "platform/services/OptionsServer.h"
+#include "platform/windows/Questions.h"
 #include "settings/ConfigFile.h"
 
 #include <QScopedValueRollback>

@@ -2,7 +2,7 @@
 #include "docview/ZNCoreEditorDoc.h"
 
 #include "docview/ZNCoreEditorView.h"
-#include "platform/Questions.h"
+#include "platform/windows/Questions.h"
 
 // The attributes of a file that is gone read as all ones, so as read-only.
 void CZNCoreEditorDoc::OnFileReadonly()

@@ -2,7 +2,7 @@
 #include "docview/ZNCoreEditorDoc.h"
 
 #include "docview/ZNCoreEditorView.h"
-#include "platform/SpecialFolders.h"
+#include "platform/system/SpecialFolders.h"
 
 #include <QDir>
 #include <QFileInfo>

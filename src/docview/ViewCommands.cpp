@@ -2,8 +2,8 @@
 #include "docview/ZNCoreEditorView.h"
 
 #include "common/Globals.h"
-#include "editing/FileTypeManager.h"
-#include "editing/Library.h"
+#include "editing/language/FileTypeManager.h"
+#include "editing/language/Library.h"
 #include "settings/SyntaxFile.h"
 
 namespace {

@@ -3,7 +3,7 @@
 
 #include "control/EngineRecords.h"
 #include "docview/ZNCoreEditorDoc.h"
-#include "platform/Mouse.h"
+#include "platform/windows/Mouse.h"
 
 #include <algorithm>
 

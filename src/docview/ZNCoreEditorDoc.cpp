@@ -3,7 +3,7 @@
 #include "docview/ZNCoreEditorDoc.h"
 
 #include "docview/ZNCoreEditorView.h"
-#include "editing/Library.h"
+#include "editing/language/Library.h"
 #include "platform/docview/CommandIds.h"
 #include "platform/docview/DocTemplate.h"
 

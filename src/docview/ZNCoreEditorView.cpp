@@ -3,7 +3,7 @@
 #include "docview/ZNCoreEditorView.h"
 
 #include "docview/ZNCoreEditorDoc.h"
-#include "editing/KeyTable.h"
+#include "editing/language/KeyTable.h"
 
 namespace {
 

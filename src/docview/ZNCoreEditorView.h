@@ -3,8 +3,8 @@
 #pragma once
 
 #include "editing/ZNCoreEditorControlEx.h"
-#include "platform/Accelerators.h"
 #include "platform/docview/View.h"
+#include "platform/windows/Accelerators.h"
 
 #include <QString>
 

@@ -1,9 +1,9 @@
 // CZNCoreEditorControlEx: commands by number, and when each is possible.
 #include "editing/ZNCoreEditorControlEx.h"
 
-#include "platform/Questions.h"
-#include "platform/Units.h"
-#include "platform/Window.h"
+#include "platform/base/Units.h"
+#include "platform/windows/Questions.h"
+#include "platform/windows/Window.h"
 
 namespace {
 

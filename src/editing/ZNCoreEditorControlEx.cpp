@@ -1,13 +1,13 @@
 #include "editing/ZNCoreEditorControlEx.h"
 
 #include "editing/FindDialogs.h"
-#include "editing/KeyTable.h"
-#include "platform/DataExchange.h"
-#include "platform/DeviceContext.h"
-#include "platform/OptionsServer.h"
-#include "platform/SystemColors.h"
-#include "platform/Units.h"
-#include "platform/WindowEvents.h"
+#include "editing/language/KeyTable.h"
+#include "platform/base/Units.h"
+#include "platform/services/OptionsServer.h"
+#include "platform/system/SystemColors.h"
+#include "platform/windows/DataExchange.h"
+#include "platform/windows/DeviceContext.h"
+#include "platform/windows/WindowEvents.h"
 
 #include <QCursor>
 

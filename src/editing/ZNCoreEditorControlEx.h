@@ -5,7 +5,7 @@
 #pragma once
 
 #include "control/ZNCoreEditorControl.h"
-#include "platform/Accelerators.h"
+#include "platform/windows/Accelerators.h"
 
 #include <QString>
 

@@ -1,6 +1,6 @@
 #include "prefs/RegProfile.h"
 
-#include "platform/Registry.h"
+#include "platform/system/Registry.h"
 
 #include <algorithm>
 

@@ -1,10 +1,10 @@
 #include "preprocess/CompileManager.h"
 
 #include "common/Globals.h"
-#include "editing/ScriptPreprocessor.h"
 #include "editing/ZNCoreEditorControlEx.h"
-#include "platform/OptionsServer.h"
-#include "platform/SpecialFolders.h"
+#include "editing/operations/ScriptPreprocessor.h"
+#include "platform/services/OptionsServer.h"
+#include "platform/system/SpecialFolders.h"
 #include "preprocess/DefinePasses.h"
 #include "preprocess/ScriptText.h"
 #include "preprocess/language/Directives.h"

@@ -1,7 +1,7 @@
 #include "preprocess/ScriptText.h"
 
 #include "editing/ZNCoreEditorControlEx.h"
-#include "platform/Units.h"
+#include "platform/base/Units.h"
 #include "preprocess/language/SourceMap.h"
 #include "preprocess/language/Styles.h"
 #include "search/FindReplaceManager.h"

@@ -1,7 +1,7 @@
 #include "search/FindReplaceManager.h"
 
 #include "control/ZNCoreEditorControl.h"
-#include "platform/Units.h"
+#include "platform/base/Units.h"
 #include "prefs/RegProfile.h"
 
 #include <QComboBox>

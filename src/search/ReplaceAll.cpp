@@ -1,6 +1,6 @@
 // Replacing, of CFindReplaceManager.
 #include "control/ZNCoreEditorControl.h"
-#include "platform/Units.h"
+#include "platform/base/Units.h"
 #include "search/FindReplaceManager.h"
 
 #include <algorithm>

@@ -2,7 +2,7 @@
 // Knows no setting by name and no window. The GUI thread owns it.
 #pragma once
 
-#include "platform/Object.h"
+#include "platform/base/Object.h"
 #include "settings/Pug.h"
 
 // The file is read by the first operation that needs it, and again by every later one as long as it

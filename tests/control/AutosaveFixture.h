@@ -2,9 +2,9 @@
 // them, ticks by hand and an answer to the question.
 #pragma once
 
-#include "platform/Profile.h"
-#include "platform/SpecialFolders.h"
-#include "platform/Timer.h"
+#include "platform/system/Profile.h"
+#include "platform/system/SpecialFolders.h"
+#include "platform/windows/Timer.h"
 #include "tests/control/ControlFixture.h"
 
 #include <QDir>

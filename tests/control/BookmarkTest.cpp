@@ -1,5 +1,5 @@
 // What bookmarks send to the engine, and where they stand on it.
-#include "platform/SystemColors.h"
+#include "platform/system/SystemColors.h"
 #include "tests/control/ControlFixture.h"
 #include "tests/control/RecordingEngine.h"
 

@@ -3,7 +3,7 @@
 #pragma once
 
 #include "control/ZNCoreEditorControl.h"
-#include "platform/Questions.h"
+#include "platform/windows/Questions.h"
 
 #include <QStringList>
 #include <QTemporaryDir>

@@ -1,7 +1,7 @@
 #include "tests/control/RecordingEngine.h"
 
 #include "control/EngineMessages.h"
-#include "platform/Window.h"
+#include "platform/windows/Window.h"
 
 #include <QWidget>
 

@@ -4,14 +4,14 @@
 
 #include "docview/ZNCoreEditorDoc.h"
 #include "docview/ZNCoreEditorView.h"
-#include "editing/Library.h"
-#include "platform/OptionsServer.h"
-#include "platform/Questions.h"
-#include "platform/SpecialFolders.h"
+#include "editing/language/Library.h"
 #include "platform/docview/CreateContext.h"
 #include "platform/docview/DocTemplate.h"
 #include "platform/docview/FrameWnd.h"
 #include "platform/docview/WinApp.h"
+#include "platform/services/OptionsServer.h"
+#include "platform/system/SpecialFolders.h"
+#include "platform/windows/Questions.h"
 #include "settings/ConfigFile.h"
 
 #include <QApplication>

@@ -2,8 +2,8 @@
 // handles its files with care, as a host that edits users' files sets it.
 #include "EditDocFixture.h"
 
-#include "platform/Profile.h"
-#include "platform/Timer.h"
+#include "platform/system/Profile.h"
+#include "platform/windows/Timer.h"
 #include "tests/settings/FullDisk.h"
 #include "tests/settings/OrdinaryUser.h"
 

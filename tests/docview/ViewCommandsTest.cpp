@@ -1,7 +1,7 @@
 // The table of the view's commands: what each runs, and when it is possible.
 #include "ViewFixture.h"
 
-#include "editing/FileTypeManager.h"
+#include "editing/language/FileTypeManager.h"
 
 #include <QClipboard>
 

@@ -2,8 +2,8 @@
 #include "tests/docview/OpenView.h"
 
 #include "docview/ZNCoreEditorDoc.h"
-#include "platform/Mouse.h"
 #include "platform/docview/CreateContext.h"
+#include "platform/windows/Mouse.h"
 #include "tests/control/RecordingEngine.h"
 
 #include <gmock/gmock.h>

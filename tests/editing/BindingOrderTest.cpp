@@ -1,10 +1,10 @@
 // The messages that bind a language, in their order. They are written down by an engine that does
 // nothing else.
 #include "common/Globals.h"
-#include "editing/FileTypeManager.h"
-#include "editing/Library.h"
 #include "editing/ZNCoreEditorControlEx.h"
-#include "platform/OptionsServer.h"
+#include "editing/language/FileTypeManager.h"
+#include "editing/language/Library.h"
+#include "platform/services/OptionsServer.h"
 #include "tests/control/RecordingEngine.h"
 #include "tests/editing/Languages.h"
 

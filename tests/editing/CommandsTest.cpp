@@ -1,8 +1,8 @@
 // Commands by number: what each does, and when it is possible.
 #include "tests/editing/EditingFixture.h"
 
-#include "editing/FileTypeManager.h"
-#include "editing/Library.h"
+#include "editing/language/FileTypeManager.h"
+#include "editing/language/Library.h"
 #include "settings/SyntaxFile.h"
 
 #include <fstream>

@@ -1,14 +1,14 @@
 // The extended control over the engine itself.
-#include "editing/FileTypeManager.h"
 #include "editing/FindDialogs.h"
-#include "editing/Library.h"
 #include "editing/ZNCoreEditorControlEx.h"
-#include "platform/DataExchange.h"
-#include "platform/DeviceContext.h"
-#include "platform/OptionsServer.h"
-#include "platform/SystemColors.h"
-#include "platform/Units.h"
-#include "platform/WindowEvents.h"
+#include "editing/language/FileTypeManager.h"
+#include "editing/language/Library.h"
+#include "platform/base/Units.h"
+#include "platform/services/OptionsServer.h"
+#include "platform/system/SystemColors.h"
+#include "platform/windows/DataExchange.h"
+#include "platform/windows/DeviceContext.h"
+#include "platform/windows/WindowEvents.h"
 #include "tests/editing/Languages.h"
 
 #include <QApplication>

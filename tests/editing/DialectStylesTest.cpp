@@ -1,8 +1,8 @@
 // Every shipped SQL language, bound as a host binds it: a sample of the dialect, and under each
 // line its styles as letters (tests/reference/StyleLetters.h).
-#include "editing/FileTypeManager.h"
-#include "editing/Library.h"
 #include "editing/ZNCoreEditorControlEx.h"
+#include "editing/language/FileTypeManager.h"
+#include "editing/language/Library.h"
 #include "settings/SyntaxFile.h"
 #include "tests/reference/StyleLetters.h"
 

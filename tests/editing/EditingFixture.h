@@ -4,7 +4,7 @@
 #pragma once
 
 #include "editing/ZNCoreEditorControlEx.h"
-#include "platform/OptionsServer.h"
+#include "platform/services/OptionsServer.h"
 #include "tests/control/ControlFixture.h"
 
 #include <QApplication>

@@ -1,7 +1,7 @@
 // A host that comes up, tells how the library did, changes one setting and goes.
-#include "editing/FileTypeManager.h"
-#include "editing/Library.h"
 #include "editing/ZNCoreEditorControlEx.h"
+#include "editing/language/FileTypeManager.h"
+#include "editing/language/Library.h"
 #include "settings/ConfigFile.h"
 
 #include <QApplication>

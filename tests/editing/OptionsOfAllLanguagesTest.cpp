@@ -1,9 +1,9 @@
 // The host's options in the settings of all languages, whoever made editors before: they are those
 // of a registry in which every editor sets every option anew.
-#include "editing/FileTypeManager.h"
-#include "editing/Library.h"
 #include "editing/ZNCoreEditorControlEx.h"
-#include "platform/OptionsServer.h"
+#include "editing/language/FileTypeManager.h"
+#include "editing/language/Library.h"
+#include "platform/services/OptionsServer.h"
 #include "settings/ConfigFile.h"
 #include "settings/SyntaxFile.h"
 #include "tests/control/ControlFixture.h"

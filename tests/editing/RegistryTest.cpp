@@ -1,9 +1,9 @@
 // The registry of languages over the settings files.
 #include "common/Globals.h"
-#include "editing/FileTypeManager.h"
-#include "editing/Library.h"
-#include "platform/Exceptions.h"
-#include "platform/SpecialFolders.h"
+#include "editing/language/FileTypeManager.h"
+#include "editing/language/Library.h"
+#include "platform/system/Exceptions.h"
+#include "platform/system/SpecialFolders.h"
 #include "tests/editing/Languages.h"
 
 namespace {

@@ -1,6 +1,6 @@
 // An engine window as assistive technology sees it.
-#include "engine/Accessible.h"
-#include "engine/AssistiveTechnology.h"
+#include "engine/window/Accessible.h"
+#include "engine/changes/AssistiveTechnology.h"
 #include "tests/engine/EngineFixture.h"
 
 #include <gtest/gtest.h>

@@ -1,6 +1,6 @@
 #include "tests/engine/EngineFixture.h"
 
-#include "engine/EngineWindow.h"
+#include "engine/window/EngineWindow.h"
 
 #include <QWidget>
 

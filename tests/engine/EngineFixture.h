@@ -2,7 +2,7 @@
 #pragma once
 
 #include "control/EngineMessages.h"
-#include "platform/Wnd.h"
+#include "platform/windows/Wnd.h"
 
 #include <string>
 #include <vector>

@@ -1,7 +1,7 @@
 // The colours of long lines, which are made in parts: each part is coloured as it is in one walk
 // over the whole line, and an edit is followed from near its place to near its place.
-#include "engine/EngineWindow.h"
-#include "engine/SqlStyler.h"
+#include "engine/colours/SqlStyler.h"
+#include "engine/window/EngineWindow.h"
 #include "tests/engine/SqlUnderTest.h"
 
 #include <QString>

@@ -1,5 +1,5 @@
 // Ranges that follow an edited text, beside the plainest way to do it.
-#include "engine/RangeList.h"
+#include "engine/errors/RangeList.h"
 
 #include <gtest/gtest.h>
 

@@ -1,5 +1,5 @@
 // The engine's search against the stock engine's own, on what both know.
-#include "engine/Utf.h"
+#include "engine/text/Utf.h"
 #include "tests/engine/EngineFixture.h"
 #include "tests/engine/StockSearch.h"
 

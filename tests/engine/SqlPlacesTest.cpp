@@ -1,5 +1,5 @@
 // Places that follow a text's edits, beside a plain list of them.
-#include "engine/SqlPlaces.h"
+#include "engine/colours/SqlPlaces.h"
 
 #include <gtest/gtest.h>
 

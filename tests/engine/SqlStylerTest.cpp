@@ -1,7 +1,7 @@
 // The colours of SQL: what each lexer number takes for what, and that an edit changes what it must
 // and no more.
-#include "engine/EngineWindow.h"
-#include "engine/SqlVocabulary.h"
+#include "engine/colours/SqlVocabulary.h"
+#include "engine/window/EngineWindow.h"
 #include "tests/engine/SqlUnderTest.h"
 
 #include <gtest/gtest.h>

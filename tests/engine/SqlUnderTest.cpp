@@ -1,6 +1,6 @@
 #include "tests/engine/SqlUnderTest.h"
 
-#include "engine/EngineWindow.h"
+#include "engine/window/EngineWindow.h"
 #include "tests/reference/StyleLetters.h"
 
 #include <QString>

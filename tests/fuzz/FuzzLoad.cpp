@@ -2,7 +2,7 @@
 // again. The first byte chooses the encoding that is asked for and whether the text is written too,
 // the second how far the others are moved towards the seam of two blocks.
 #include "control/ZNCoreEditorControl.h"
-#include "platform/Questions.h"
+#include "platform/windows/Questions.h"
 
 #include <QApplication>
 

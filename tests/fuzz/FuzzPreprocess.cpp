@@ -1,10 +1,10 @@
 // Any script, with files to include: expanded through the real engine, and put back. NUL characters
 // of the input part it into the script and its files, "a" to "d". The first byte chooses the
 // language.
-#include "editing/FileTypeManager.h"
-#include "editing/Library.h"
 #include "editing/ZNCoreEditorControlEx.h"
-#include "platform/Questions.h"
+#include "editing/language/FileTypeManager.h"
+#include "editing/language/Library.h"
+#include "platform/windows/Questions.h"
 #include "preprocess/CompileManager.h"
 
 #include <QApplication>

@@ -1,8 +1,8 @@
 // Whatever a session's file has in it, what is read of it is within its bounds and is read the same
 // once it has been written. The bytes are read as they are, and as choices of what stands where a
 // session has its members, since nothing else gets past the reader of the format.
-#include "host/Places.h"
-#include "host/Session.h"
+#include "host/files/Places.h"
+#include "host/session/Session.h"
 
 #include <QJsonArray>
 #include <QJsonDocument>

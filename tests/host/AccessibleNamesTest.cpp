@@ -1,8 +1,8 @@
 // What a screen reader says of the workbench: everything that takes keys has a name.
-#include "host/AutosaveDialog.h"
-#include "host/OpenAsDialog.h"
-#include "host/OptionsDialog.h"
-#include "host/SaveAsDialog.h"
+#include "host/files/OpenAsDialog.h"
+#include "host/files/SaveAsDialog.h"
+#include "host/options/OptionsDialog.h"
+#include "host/session/AutosaveDialog.h"
 #include "tests/host/WorkbenchTest.h"
 
 #include <QAbstractButton>

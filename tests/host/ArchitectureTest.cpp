@@ -1,4 +1,6 @@
 // Reads the #include lines of the tree and compares them with the rooms of docs/architecture.md.
+#include "tests/SourceTree.h"
+
 #include <QDir>
 #include <QDirIterator>
 #include <QFile>
@@ -23,7 +25,7 @@ Rooms RoomsOfThePage()
     static const QRegularExpression row(QStringLiteral("^ {4}([A-Za-z/]+) +\\(([^)]*)\\)"),
                                         QRegularExpression::MultilineOption);
     Rooms rooms;
-    const QString page = ReadText(QStringLiteral(ZN_SOURCE_DIR "/docs/architecture.md"));
+    const QString page = ReadText(QString::fromStdString(InSourceTree("docs/architecture.md")));
     for (auto at = row.globalMatch(page); at.hasNext();) {
         const QRegularExpressionMatch match = at.next();
         rooms[match.captured(1)] =
@@ -45,7 +47,7 @@ std::map<QString, QString> Sources()
             sources[prefix + QDir(folder).relativeFilePath(path)] = path;
         }
     };
-    const QString root = QStringLiteral(ZN_SOURCE_DIR "/");
+    const QString root = QString::fromStdString(InSourceTree(""));
     collect(root + "src", {});
     collect(root + "engine", QStringLiteral("engine/"));
     collect(root + "host", QStringLiteral("host/"));
@@ -122,7 +124,7 @@ TEST(Architecture, EverySourceStandsInARoomOfThePage)
 TEST(Architecture, EveryRoomIncludesOnlyRoomsAboveItOnThePage)
 {
     // Lowest first: what a room includes has been listed before it.
-    const QString page = ReadText(QStringLiteral(ZN_SOURCE_DIR "/docs/architecture.md"));
+    const QString page = ReadText(QString::fromStdString(InSourceTree("docs/architecture.md")));
     for (const auto& [room, allowed] : RoomsOfThePage()) {
         const auto place = page.indexOf(QStringLiteral("\n    ") + room + ' ');
         for (const QString& entry : allowed) {

@@ -1,8 +1,8 @@
 // Autosave in the workbench: what a killed one leaves is offered by the next, and the settings
 // reach every script.
 #include "editing/ZNCoreEditorWidget.h"
-#include "host/AutosaveDialog.h"
-#include "platform/Timer.h"
+#include "host/session/AutosaveDialog.h"
+#include "platform/windows/Timer.h"
 #include "tests/host/WorkbenchTest.h"
 
 #include <QCheckBox>

@@ -2,10 +2,10 @@
 // copy of that has been written. With a second word it is killed as soon as a file that it opens
 // makes it say something.
 #include "editing/ZNCoreEditorControlEx.h"
-#include "host/MainWindow.h"
-#include "host/ScriptFrame.h"
-#include "host/Workbench.h"
-#include "platform/Timer.h"
+#include "host/script/ScriptFrame.h"
+#include "host/window/MainWindow.h"
+#include "host/window/Workbench.h"
+#include "platform/windows/Timer.h"
 #include "tests/host/ScriptedPrompts.h"
 
 #include <QApplication>

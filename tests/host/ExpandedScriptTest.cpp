@@ -1,9 +1,9 @@
 // The workbench shows a script expanded, and leads back to where its lines were written.
-#include "host/ExpandedScript.h"
+#include "host/expanded/ExpandedScript.h"
 #include "editing/ZNCoreEditorWidget.h"
-#include "host/OptionsDialog.h"
-#include "host/ProblemPane.h"
-#include "platform/OptionsServer.h"
+#include "host/options/OptionsDialog.h"
+#include "host/problems/ProblemPane.h"
+#include "platform/services/OptionsServer.h"
 #include "tests/host/WorkbenchTest.h"
 
 #include <QLineEdit>

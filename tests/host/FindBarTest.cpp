@@ -1,5 +1,5 @@
 // The find bar over an editor of its own: what it finds, selects, replaces and says.
-#include "host/FindBar.h"
+#include "host/finding/FindBar.h"
 
 #include "editing/ZNCoreEditorControlEx.h"
 #include "editing/ZNCoreEditorWidget.h"

@@ -1,5 +1,5 @@
 // What a key stands for in the workbench: menus, then the view's key table, then the engine.
-#include "host/FindBar.h"
+#include "host/finding/FindBar.h"
 #include "platform/docview/ActionUI.h"
 #include "tests/host/WorkbenchTest.h"
 

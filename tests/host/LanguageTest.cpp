@@ -1,10 +1,10 @@
 // Languages and options in the workbench.
-#include "editing/FileTypeManager.h"
-#include "editing/Library.h"
+#include "editing/language/FileTypeManager.h"
+#include "editing/language/Library.h"
 #include "host/FileLanguages.h"
-#include "host/LanguageMenu.h"
-#include "host/OptionsDialog.h"
-#include "platform/OptionsServer.h"
+#include "host/options/OptionsDialog.h"
+#include "host/window/LanguageMenu.h"
+#include "platform/services/OptionsServer.h"
 #include "tests/host/WorkbenchTest.h"
 
 #include <QCheckBox>

@@ -1,4 +1,4 @@
-#include "host/LineEnds.h"
+#include "host/files/LineEnds.h"
 
 #include "editing/ZNCoreEditorWidget.h"
 

@@ -1,4 +1,4 @@
-#include "host/LossCheck.h"
+#include "host/files/LossCheck.h"
 
 #include "editing/ZNCoreEditorWidget.h"
 

@@ -1,9 +1,9 @@
 // What the workbench remembers from one run to the next: the session, recent files, and a file that
 // it died on.
-#include "host/Places.h"
-#include "host/RecentMenu.h"
-#include "host/Session.h"
-#include "platform/SpecialFolders.h"
+#include "host/files/Places.h"
+#include "host/session/Session.h"
+#include "host/window/RecentMenu.h"
+#include "platform/system/SpecialFolders.h"
 #include "tests/host/WorkbenchTest.h"
 
 #include <QDir>

@@ -1,4 +1,4 @@
-#include "host/OpenGuard.h"
+#include "host/files/OpenGuard.h"
 
 #include <QDir>
 #include <QFile>

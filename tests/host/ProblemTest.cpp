@@ -2,8 +2,8 @@
 #include "control/Analysis.h"
 #include "control/ErrorInfo.h"
 #include "editing/ZNCoreEditorControlEx.h"
-#include "host/ProblemPane.h"
-#include "host/ScriptChecker.h"
+#include "host/problems/ProblemPane.h"
+#include "host/problems/ScriptChecker.h"
 #include "tests/host/WorkbenchTest.h"
 
 #include <QTreeWidget>

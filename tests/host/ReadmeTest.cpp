@@ -1,4 +1,6 @@
 // What README.md shows is what builds, and what it names is there.
+#include "tests/SourceTree.h"
+
 #include <QFile>
 #include <QFileInfo>
 #include <QRegularExpression>
@@ -9,7 +11,7 @@ namespace {
 
 QString ReadText(const QString& name)
 {
-    QFile file(QStringLiteral(ZN_SOURCE_DIR "/") + name);
+    QFile file(QString::fromStdString(InSourceTree("")) + name);
     return file.open(QIODevice::ReadOnly) ? QString::fromUtf8(file.readAll()) : QString();
 }
 
@@ -30,7 +32,7 @@ TEST(Readme, LinksOnlyToWhatIsThere)
     int count = 0;
     for (auto at = link.globalMatch(page); at.hasNext(); ++count) {
         const QString target = at.next().captured(1);
-        EXPECT_TRUE(QFileInfo::exists(QStringLiteral(ZN_SOURCE_DIR "/") + target))
+        EXPECT_TRUE(QFileInfo::exists(QString::fromStdString(InSourceTree("")) + target))
             << target.toStdString();
     }
     EXPECT_GT(count, 0);

@@ -1,6 +1,6 @@
-#include "host/RecentFiles.h"
+#include "host/files/RecentFiles.h"
 
-#include "host/Places.h"
+#include "host/files/Places.h"
 
 #include <QDir>
 #include <QFile>

@@ -1,5 +1,7 @@
 // The sample scripts have the bytes that samples/README.md claims: a checkout or an editor that
 // "repairs" line ends or encodings shows here.
+#include "tests/SourceTree.h"
+
 #include <QDir>
 #include <QFile>
 #include <QStringDecoder>
@@ -40,7 +42,7 @@ constexpr std::array kSamples{
 
 QDir Folder()
 {
-    return QDir(QStringLiteral(ZN_SOURCE_DIR "/samples"));
+    return QDir(QString::fromStdString(InSourceTree("samples")));
 }
 
 struct EndCounts

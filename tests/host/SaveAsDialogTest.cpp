@@ -1,5 +1,5 @@
-#include "host/SaveAsDialog.h"
-#include "host/Encodings.h"
+#include "host/files/SaveAsDialog.h"
+#include "host/files/Encodings.h"
 
 #include <QComboBox>
 #include <QTemporaryDir>

@@ -1,4 +1,6 @@
 // The program as it is started for a picture.
+#include "tests/SourceTree.h"
+
 #include <QDir>
 #include <QFile>
 #include <QFileInfo>
@@ -37,7 +39,7 @@ Outcome Start(const QStringList& words, const QString& scale = QStringLiteral("1
 
 QString Sample(const char* name)
 {
-    return QStringLiteral(ZN_SOURCE_DIR "/samples/") + QLatin1String(name);
+    return QString::fromStdString(InSourceTree("samples/")) + QLatin1String(name);
 }
 
 // How many colours the picture has: an empty window has few.

@@ -1,5 +1,5 @@
 // A script and its file: opened, saved, reloaded, and changed by others meanwhile.
-#include "host/LineEnds.h"
+#include "host/files/LineEnds.h"
 #include "tests/host/WorkbenchTest.h"
 
 #include <QAbstractScrollArea>

@@ -1,8 +1,8 @@
 // Prompts that answer what a test has set, and remember what was asked and told.
 #pragma once
 
-#include "host/Prompts.h"
-#include "platform/Questions.h"
+#include "host/files/Prompts.h"
+#include "platform/windows/Questions.h"
 
 class ScriptedPrompts final : public Prompts, public IUserQuestions
 {

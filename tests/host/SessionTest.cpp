@@ -1,4 +1,4 @@
-#include "host/Session.h"
+#include "host/session/Session.h"
 
 #include <QDir>
 #include <QFile>

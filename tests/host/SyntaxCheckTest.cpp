@@ -1,5 +1,5 @@
 // The parsers of the databases, over statements.
-#include "host/SyntaxCheck.h"
+#include "host/problems/SyntaxCheck.h"
 
 #include <QStringList>
 

@@ -1,7 +1,7 @@
 // Several views of one script: panes of a tab, and tabs of their own.
-#include "host/ScriptChecker.h"
-#include "host/ScriptTabs.h"
-#include "platform/Timer.h"
+#include "host/problems/ScriptChecker.h"
+#include "host/script/ScriptTabs.h"
+#include "platform/windows/Timer.h"
 #include "tests/host/WorkbenchTest.h"
 
 namespace {

@@ -2,12 +2,12 @@
 #pragma once
 
 #include "editing/ZNCoreEditorControlEx.h"
-#include "host/MainWindow.h"
-#include "host/ScriptDoc.h"
-#include "host/ScriptFrame.h"
-#include "host/ScriptView.h"
-#include "host/Workbench.h"
-#include "platform/Disposal.h"
+#include "host/script/ScriptDoc.h"
+#include "host/script/ScriptFrame.h"
+#include "host/script/ScriptView.h"
+#include "host/window/MainWindow.h"
+#include "host/window/Workbench.h"
+#include "platform/windows/Disposal.h"
 #include "tests/host/ScriptedPrompts.h"
 
 #include <QAction>

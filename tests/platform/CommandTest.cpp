@@ -1,6 +1,6 @@
-#include "platform/Accelerators.h"
-#include "platform/CmdTarget.h"
-#include "platform/Wnd.h"
+#include "platform/windows/Accelerators.h"
+#include "platform/windows/CmdTarget.h"
+#include "platform/windows/Wnd.h"
 
 #include <gtest/gtest.h>
 

@@ -1,5 +1,5 @@
 // Files with share modes, and what the system knows of them.
-#include "platform/File.h"
+#include "platform/system/File.h"
 
 #include <QFile>
 #include <QTemporaryDir>

@@ -1,4 +1,4 @@
-#include "platform/Font.h"
+#include "platform/system/Font.h"
 
 #include <gtest/gtest.h>
 

@@ -1,4 +1,4 @@
-#include "platform/Module.h"
+#include "platform/system/Module.h"
 
 #include <gtest/gtest.h>
 

@@ -1,5 +1,5 @@
 // What is known of the mouse at this moment.
-#include "platform/Mouse.h"
+#include "platform/windows/Mouse.h"
 
 #include <QTest>
 #include <QWidget>

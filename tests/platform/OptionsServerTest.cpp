@@ -1,4 +1,4 @@
-#include "platform/OptionsServer.h"
+#include "platform/services/OptionsServer.h"
 
 #include <gtest/gtest.h>
 

@@ -1,6 +1,6 @@
 // The application profile over a file, and what other programs and accidents do to the file.
-#include "platform/Profile.h"
-#include "platform/SpecialFolders.h"
+#include "platform/system/Profile.h"
+#include "platform/system/SpecialFolders.h"
 
 #include <QDir>
 #include <QElapsedTimer>

@@ -1,4 +1,4 @@
-#include "platform/Questions.h"
+#include "platform/windows/Questions.h"
 
 #include <QApplication>
 #include <QMessageBox>

@@ -1,4 +1,4 @@
-#include "platform/ResourceLoader.h"
+#include "platform/services/ResourceLoader.h"
 
 #include <QFile>
 #include <QTemporaryDir>

@@ -1,4 +1,4 @@
-#include "platform/SpecialFolders.h"
+#include "platform/system/SpecialFolders.h"
 
 #include <QCoreApplication>
 #include <QDir>

@@ -1,6 +1,6 @@
-#include "platform/Timer.h"
+#include "platform/windows/Timer.h"
 
-#include "platform/Wnd.h"
+#include "platform/windows/Wnd.h"
 
 #include <QTest>
 

@@ -1,8 +1,8 @@
 // What Qt tells a widget, as the messages that a CWnd gets.
-#include "platform/WindowEvents.h"
+#include "platform/windows/WindowEvents.h"
 
-#include "platform/Accelerators.h"
-#include "platform/Wnd.h"
+#include "platform/windows/Accelerators.h"
+#include "platform/windows/Wnd.h"
 
 #include <QApplication>
 #include <QLineEdit>

@@ -1,4 +1,4 @@
-#include "platform/Window.h"
+#include "platform/windows/Window.h"
 
 #include <QWidget>
 

@@ -1,4 +1,4 @@
-#include "platform/Wnd.h"
+#include "platform/windows/Wnd.h"
 
 #include <gtest/gtest.h>
 

@@ -1,7 +1,7 @@
 // What dialogs remember: every kind of value, and what stands when the store refuses.
 #include "prefs/RegProfile.h"
-#include "platform/Registry.h"
-#include "platform/SpecialFolders.h"
+#include "platform/system/Registry.h"
+#include "platform/system/SpecialFolders.h"
 
 #include <QDir>
 #include <QFile>

@@ -1,6 +1,7 @@
 // Whole scripts beside what comes of them: golden/NAME/in.sql and out.sql, with the files that
 // in.sql includes in the same folder. A carriage return that the expansion puts in stands as "\r"
 // and a line's end. A difference is written to out.new beside them.
+#include "tests/SourceTree.h"
 #include "tests/preprocess/PreprocessFixture.h"
 
 #include <QDir>
@@ -27,7 +28,7 @@ class GoldenScripts : public PreprocessTest
 
 TEST_F(GoldenScripts, ExpandToWhatStandsBesideThem)
 {
-    const QDir golden(ZN_SOURCE_DIR "/tests/preprocess/golden");
+    const QDir golden(QString::fromStdString(InSourceTree("tests/preprocess/golden")));
     const QStringList names = golden.entryList(QDir::Dirs | QDir::NoDotAndDotDot);
     ASSERT_GE(names.size(), 5);
     for (const QString& name : names) {

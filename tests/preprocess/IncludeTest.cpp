@@ -1,5 +1,5 @@
 // Included files over the engine's own styling.
-#include "platform/SpecialFolders.h"
+#include "platform/system/SpecialFolders.h"
 #include "tests/preprocess/PreprocessFixture.h"
 
 #include <QDir>

@@ -1,5 +1,5 @@
 // What the script was before a run: kept, and put back.
-#include "platform/SpecialFolders.h"
+#include "platform/system/SpecialFolders.h"
 #include "tests/preprocess/PreprocessFixture.h"
 
 #include <QDir>

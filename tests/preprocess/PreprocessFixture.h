@@ -2,10 +2,10 @@
 // include.
 #pragma once
 
-#include "editing/FileTypeManager.h"
-#include "editing/Library.h"
 #include "editing/ZNCoreEditorControlEx.h"
-#include "platform/OptionsServer.h"
+#include "editing/language/FileTypeManager.h"
+#include "editing/language/Library.h"
+#include "platform/services/OptionsServer.h"
 #include "preprocess/CompileManager.h"
 
 #include <QFile>

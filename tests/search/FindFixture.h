@@ -2,8 +2,8 @@
 #pragma once
 
 #include "editing/ZNCoreEditorControlEx.h"
-#include "platform/Registry.h"
-#include "platform/Units.h"
+#include "platform/base/Units.h"
+#include "platform/system/Registry.h"
 #include "search/FindReplaceManager.h"
 
 #include <QWidget>

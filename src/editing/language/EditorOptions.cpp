@@ -1,10 +1,10 @@
 // CZNCoreEditorControlEx: the language, and the host's options on their way into it.
 #include "editing/ZNCoreEditorControlEx.h"
 
-#include "editing/FileTypeManager.h"
-#include "editing/Library.h"
-#include "platform/Font.h"
-#include "platform/OptionsServer.h"
+#include "editing/language/FileTypeManager.h"
+#include "editing/language/Library.h"
+#include "platform/services/OptionsServer.h"
+#include "platform/system/Font.h"
 #include "settings/ConfigFile.h"
 #include "settings/Number.h"
 #include "settings/SyntaxFile.h"

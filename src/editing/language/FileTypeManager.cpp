@@ -1,8 +1,8 @@
-#include "editing/FileTypeManager.h"
+#include "editing/language/FileTypeManager.h"
 
 #include "common/Globals.h"
-#include "platform/Exceptions.h"
-#include "platform/SpecialFolders.h"
+#include "platform/system/Exceptions.h"
+#include "platform/system/SpecialFolders.h"
 #include "settings/ConfigFile.h"
 #include "settings/SyntaxFile.h"
 

@@ -1,4 +1,4 @@
-#include "editing/KeyTable.h"
+#include "editing/language/KeyTable.h"
 
 #include <Qt>
 

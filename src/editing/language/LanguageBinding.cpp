@@ -1,11 +1,11 @@
 // CFileTypeManager::SetCoreEditorProperties: one language's settings as a fixed sequence of
 // messages.
-#include "editing/FileTypeManager.h"
+#include "editing/language/FileTypeManager.h"
 
 #include "common/Globals.h"
-#include "editing/Library.h"
 #include "editing/ZNCoreEditorControlEx.h"
-#include "platform/Units.h"
+#include "editing/language/Library.h"
+#include "platform/base/Units.h"
 #include "settings/ConfigFile.h"
 #include "settings/SyntaxFile.h"
 

@@ -1,7 +1,7 @@
-#include "editing/Library.h"
+#include "editing/language/Library.h"
 
 #include "common/Globals.h"
-#include "editing/FileTypeManager.h"
+#include "editing/language/FileTypeManager.h"
 #include "settings/ConfigFile.h"
 
 namespace zncoreeditor {

@@ -2,9 +2,9 @@
 // the language.
 #include "editing/ZNCoreEditorControlEx.h"
 
-#include "editing/EditScopes.h"
+#include "editing/operations/EditScopes.h"
 #include "editing/text/Comments.h"
-#include "platform/OptionsServer.h"
+#include "platform/services/OptionsServer.h"
 
 #include <QStringView>
 

@@ -1,13 +1,13 @@
 // CZNCoreEditorControlEx: comment markers, and putting them in.
 #include "editing/ZNCoreEditorControlEx.h"
 
-#include "editing/EditScopes.h"
-#include "editing/FileTypeManager.h"
-#include "editing/Library.h"
-#include "editing/LineEndText.h"
-#include "editing/TextWindow.h"
+#include "editing/language/FileTypeManager.h"
+#include "editing/language/Library.h"
+#include "editing/operations/EditScopes.h"
+#include "editing/operations/LineEndText.h"
+#include "editing/operations/TextWindow.h"
 #include "editing/text/Comments.h"
-#include "platform/Units.h"
+#include "platform/base/Units.h"
 #include "settings/SyntaxFile.h"
 
 #include <algorithm>

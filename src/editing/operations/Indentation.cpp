@@ -2,8 +2,8 @@
 // and takes braces in strings and comments for code.
 #include "editing/ZNCoreEditorControlEx.h"
 
-#include "editing/EditScopes.h"
-#include "editing/TextWindow.h"
+#include "editing/operations/EditScopes.h"
+#include "editing/operations/TextWindow.h"
 #include "editing/text/Spaces.h"
 
 #include <algorithm>

@@ -1,12 +1,12 @@
 // CZNCoreEditorControlEx: sorting lines, and putting text into each of them.
 #include "editing/ZNCoreEditorControlEx.h"
 
-#include "editing/EditScopes.h"
-#include "editing/LineEndText.h"
+#include "editing/operations/EditScopes.h"
+#include "editing/operations/LineEndText.h"
 #include "editing/text/LineOrder.h"
 #include "editing/text/Numbers.h"
 #include "editing/text/SortedArrayEx.h"
-#include "platform/Units.h"
+#include "platform/base/Units.h"
 
 #include <QChar>
 

@@ -1,8 +1,8 @@
 // CZNCoreEditorControlEx: a script on its way to its consumer.
 #include "editing/ZNCoreEditorControlEx.h"
 
-#include "editing/ScriptPreprocessor.h"
-#include "platform/Units.h"
+#include "editing/operations/ScriptPreprocessor.h"
+#include "platform/base/Units.h"
 
 namespace {
 

@@ -2,7 +2,7 @@
 #include "editing/ZNCoreEditorControlEx.h"
 
 #include "control/FileAccess.h"
-#include "editing/EditScopes.h"
+#include "editing/operations/EditScopes.h"
 #include "platform/text/StringUtils.h"
 
 #include <algorithm>

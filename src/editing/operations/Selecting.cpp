@@ -1,7 +1,7 @@
 // CZNCoreEditorControlEx: what can be selected by a single operation, and file names.
 #include "editing/ZNCoreEditorControlEx.h"
 
-#include "editing/TextWindow.h"
+#include "editing/operations/TextWindow.h"
 
 #include <algorithm>
 #include <array>

@@ -1,4 +1,4 @@
-#include "editing/TextWindow.h"
+#include "editing/operations/TextWindow.h"
 
 #include "control/ZNCoreEditorControl.h"
 

@@ -1,8 +1,8 @@
 // CZNCoreEditorControlEx: small changes of words, characters and numbers at the caret.
 #include "editing/ZNCoreEditorControlEx.h"
 
-#include "editing/EditScopes.h"
-#include "editing/TextWindow.h"
+#include "editing/operations/EditScopes.h"
+#include "editing/operations/TextWindow.h"
 #include "editing/text/Capitals.h"
 #include "editing/text/Numbers.h"
 

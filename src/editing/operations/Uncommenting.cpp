@@ -1,9 +1,9 @@
 // CZNCoreEditorControlEx: taking comment markers out.
 #include "editing/ZNCoreEditorControlEx.h"
 
-#include "editing/EditScopes.h"
-#include "editing/LineEndText.h"
-#include "editing/TextWindow.h"
+#include "editing/operations/EditScopes.h"
+#include "editing/operations/LineEndText.h"
+#include "editing/operations/TextWindow.h"
 #include "editing/text/Comments.h"
 
 #include <QChar>

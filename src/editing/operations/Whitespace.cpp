@@ -1,7 +1,7 @@
 // CZNCoreEditorControlEx: white space and line ends, on command and on save.
 #include "editing/ZNCoreEditorControlEx.h"
 
-#include "editing/EditScopes.h"
+#include "editing/operations/EditScopes.h"
 #include "editing/text/Spaces.h"
 
 namespace {

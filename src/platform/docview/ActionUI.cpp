@@ -1,7 +1,7 @@
 #include "platform/docview/ActionUI.h"
 
-#include "platform/Accelerators.h"
-#include "platform/Window.h"
+#include "platform/windows/Accelerators.h"
+#include "platform/windows/Window.h"
 
 #include <QMenu>
 #include <QPointer>

@@ -1,7 +1,7 @@
 // ActionUI: a CCmdUI over a QAction, so that menus and toolbars follow the update handlers.
 #pragma once
 
-#include "platform/CmdTarget.h"
+#include "platform/windows/CmdTarget.h"
 
 #include <QAction>
 #include <QList>

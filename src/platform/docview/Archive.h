@@ -1,7 +1,7 @@
 // CArchive: the way of a document's contents to or from its file, for Serialize.
 #pragma once
 
-#include "platform/File.h"
+#include "platform/system/File.h"
 
 class CArchive
 {

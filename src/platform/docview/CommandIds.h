@@ -1,7 +1,7 @@
 // The numbers of the framework's own commands and texts.
 #pragma once
 
-#include "platform/Types.h"
+#include "platform/base/Types.h"
 
 inline constexpr UINT ID_FILE_NEW = 57600;
 inline constexpr UINT ID_FILE_OPEN = 57601;

@@ -1,10 +1,10 @@
 #include "platform/docview/DocTemplate.h"
 
-#include "platform/Disposal.h"
 #include "platform/docview/CreateContext.h"
 #include "platform/docview/Document.h"
 #include "platform/docview/FrameWnd.h"
 #include "platform/docview/View.h"
+#include "platform/windows/Disposal.h"
 
 #include <QFileInfo>
 

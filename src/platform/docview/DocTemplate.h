@@ -2,7 +2,7 @@
 // it.
 #pragma once
 
-#include "platform/CmdTarget.h"
+#include "platform/windows/CmdTarget.h"
 
 #include <QString>
 

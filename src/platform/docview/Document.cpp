@@ -1,12 +1,12 @@
 // CDocument: identity, views and life. Its files stand in DocumentFiles.
 #include "platform/docview/Document.h"
 
-#include "platform/Disposal.h"
 #include "platform/docview/CommandIds.h"
 #include "platform/docview/DocTemplate.h"
 #include "platform/docview/FrameWnd.h"
 #include "platform/docview/View.h"
 #include "platform/docview/WinApp.h"
+#include "platform/windows/Disposal.h"
 
 #include <QFileInfo>
 

@@ -2,8 +2,8 @@
 // stands behind it.
 #pragma once
 
-#include "platform/CmdTarget.h"
-#include "platform/File.h"
+#include "platform/system/File.h"
+#include "platform/windows/CmdTarget.h"
 
 #include <QString>
 

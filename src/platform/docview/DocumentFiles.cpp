@@ -1,12 +1,12 @@
 // CDocument: its file, opened, saved and reported on.
 #include "platform/docview/Document.h"
 
-#include "platform/Questions.h"
-#include "platform/Shell.h"
 #include "platform/docview/Archive.h"
 #include "platform/docview/CommandIds.h"
 #include "platform/docview/DocTemplate.h"
 #include "platform/docview/WinApp.h"
+#include "platform/system/Shell.h"
+#include "platform/windows/Questions.h"
 
 #include <QUrlQuery>
 

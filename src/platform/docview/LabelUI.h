@@ -1,7 +1,7 @@
 // LabelUI: a CCmdUI over a QLabel, so that the panes of a status bar follow the update handlers.
 #pragma once
 
-#include "platform/CmdTarget.h"
+#include "platform/windows/CmdTarget.h"
 
 class QLabel;
 

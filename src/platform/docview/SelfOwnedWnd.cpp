@@ -1,6 +1,6 @@
 #include "platform/docview/SelfOwnedWnd.h"
 
-#include "platform/Disposal.h"
+#include "platform/windows/Disposal.h"
 
 CSelfOwnedWnd::~CSelfOwnedWnd()
 {

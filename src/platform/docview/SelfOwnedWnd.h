@@ -1,7 +1,7 @@
 // CSelfOwnedWnd: an object that belongs to nobody and goes with its window, as views and frames do.
 #pragma once
 
-#include "platform/Wnd.h"
+#include "platform/windows/Wnd.h"
 
 // Made with new. When the window is destroyed, by DestroyWindow or by Qt, it is detached at once:
 // its handle reads as null and no message comes any more. The object and the widget are deleted

@@ -1,9 +1,9 @@
 #include "platform/docview/View.h"
 
-#include "platform/WindowEvents.h"
 #include "platform/docview/CreateContext.h"
 #include "platform/docview/Document.h"
 #include "platform/docview/FrameWnd.h"
+#include "platform/windows/WindowEvents.h"
 
 #include <QApplication>
 

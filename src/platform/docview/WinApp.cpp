@@ -1,13 +1,13 @@
 #include "platform/docview/WinApp.h"
 
-#include "platform/Disposal.h"
-#include "platform/Questions.h"
-#include "platform/Wnd.h"
 #include "platform/docview/CommandIds.h"
 #include "platform/docview/DocTemplate.h"
 #include "platform/docview/Document.h"
 #include "platform/docview/FrameWnd.h"
 #include "platform/docview/View.h"
+#include "platform/windows/Disposal.h"
+#include "platform/windows/Questions.h"
+#include "platform/windows/Wnd.h"
 
 #include <QStringList>
 

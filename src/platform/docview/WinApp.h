@@ -1,7 +1,7 @@
 // CWinApp: the application's end of the framework. QApplication stands beside it and runs the loop.
 #pragma once
 
-#include "platform/CmdTarget.h"
+#include "platform/windows/CmdTarget.h"
 
 #include <QPointer>
 #include <QString>

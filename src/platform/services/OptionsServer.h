@@ -3,7 +3,7 @@
 #pragma once
 
 #include "common/Export.h"
-#include "platform/Font.h"
+#include "platform/system/Font.h"
 
 #include <QString>
 

@@ -2,7 +2,7 @@
 #pragma once
 
 #include "common/Export.h"
-#include "platform/Types.h"
+#include "platform/base/Types.h"
 
 #include <QHash>
 #include <QString>

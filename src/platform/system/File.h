@@ -3,8 +3,8 @@
 #pragma once
 
 #include "common/Export.h"
-#include "platform/Exceptions.h"
-#include "platform/Types.h"
+#include "platform/base/Types.h"
+#include "platform/system/Exceptions.h"
 
 #include <QString>
 

@@ -2,7 +2,7 @@
 #pragma once
 
 #include "common/Export.h"
-#include "platform/Types.h"
+#include "platform/base/Types.h"
 
 // Loads a shared library by its bare name, without prefix, ending or folder: it is looked for
 // beside this library first. Null if it cannot be loaded. What it registers, it registers while it

@@ -1,7 +1,7 @@
-#include "platform/Profile.h"
+#include "platform/system/Profile.h"
 
-#include "platform/SettingsFile.h"
-#include "platform/SpecialFolders.h"
+#include "platform/system/SettingsFile.h"
+#include "platform/system/SpecialFolders.h"
 
 #include <QSettings>
 

@@ -1,6 +1,6 @@
-#include "platform/Registry.h"
+#include "platform/system/Registry.h"
 
-#include "platform/SettingsFile.h"
+#include "platform/system/SettingsFile.h"
 
 #include <QStringList>
 

@@ -1,6 +1,6 @@
-#include "platform/SettingsFile.h"
+#include "platform/system/SettingsFile.h"
 
-#include "platform/SpecialFolders.h"
+#include "platform/system/SpecialFolders.h"
 
 #include <QDir>
 #include <QFile>

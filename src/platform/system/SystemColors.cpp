@@ -1,4 +1,4 @@
-#include "platform/SystemColors.h"
+#include "platform/system/SystemColors.h"
 
 #include <QColor>
 #include <QGuiApplication>

@@ -2,7 +2,7 @@
 #pragma once
 
 #include "common/Export.h"
-#include "platform/Types.h"
+#include "platform/base/Types.h"
 
 inline constexpr int COLOR_WINDOW = 5;
 inline constexpr int COLOR_HIGHLIGHT = 13;

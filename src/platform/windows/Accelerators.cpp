@@ -1,6 +1,6 @@
-#include "platform/Accelerators.h"
+#include "platform/windows/Accelerators.h"
 
-#include "platform/Window.h"
+#include "platform/windows/Window.h"
 
 int TranslateAccelerator(HWND window, HACCEL table, const MSG& message)
 {

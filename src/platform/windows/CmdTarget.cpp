@@ -1,4 +1,4 @@
-#include "platform/CmdTarget.h"
+#include "platform/windows/CmdTarget.h"
 
 CCmdUI::~CCmdUI() = default;
 

@@ -2,8 +2,8 @@
 // screen, a menu item for one, while it is brought up to date.
 #pragma once
 
-#include "platform/Object.h"
-#include "platform/Types.h"
+#include "platform/base/Object.h"
+#include "platform/base/Types.h"
 
 #include <QString>
 

@@ -1,4 +1,4 @@
-#include "platform/DeviceContext.h"
+#include "platform/windows/DeviceContext.h"
 
 #include <QColor>
 #include <QPainter>

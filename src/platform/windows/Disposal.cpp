@@ -1,6 +1,6 @@
-#include "platform/Disposal.h"
+#include "platform/windows/Disposal.h"
 
-#include "platform/Object.h"
+#include "platform/base/Object.h"
 
 #include <QAbstractEventDispatcher>
 #include <QCoreApplication>

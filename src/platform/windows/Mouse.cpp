@@ -1,4 +1,4 @@
-#include "platform/Mouse.h"
+#include "platform/windows/Mouse.h"
 
 #include <QGuiApplication>
 

@@ -1,6 +1,6 @@
-#include "platform/Questions.h"
+#include "platform/windows/Questions.h"
 
-#include "platform/Disposal.h"
+#include "platform/windows/Disposal.h"
 
 #include <QApplication>
 #include <QFileDialog>

@@ -1,4 +1,4 @@
-#include "platform/Timer.h"
+#include "platform/windows/Timer.h"
 
 #include <QTimer>
 #include <QWidget>

@@ -2,7 +2,7 @@
 #pragma once
 
 #include "common/Export.h"
-#include "platform/Window.h"
+#include "platform/windows/Window.h"
 
 inline constexpr UINT WM_TIMER = 0x0113; // wParam: the timer's number
 

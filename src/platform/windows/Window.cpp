@@ -1,10 +1,10 @@
-#include "platform/Window.h"
+#include "platform/windows/Window.h"
 
-#include "platform/Disposal.h"
-#include "platform/Exceptions.h"
-#include "platform/Questions.h"
-#include "platform/WindowEvents.h"
-#include "platform/Wnd.h"
+#include "platform/system/Exceptions.h"
+#include "platform/windows/Disposal.h"
+#include "platform/windows/Questions.h"
+#include "platform/windows/WindowEvents.h"
+#include "platform/windows/Wnd.h"
 
 #include <QAbstractScrollArea>
 #include <QPointer>

@@ -4,7 +4,7 @@
 #pragma once
 
 #include "common/Export.h"
-#include "platform/Types.h"
+#include "platform/base/Types.h"
 
 inline constexpr UINT WM_CREATE = 0x0001;
 inline constexpr UINT WM_DESTROY = 0x0002;  // from CWnd::DestroyWindow alone

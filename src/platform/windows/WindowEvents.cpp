@@ -1,9 +1,9 @@
-#include "platform/WindowEvents.h"
+#include "platform/windows/WindowEvents.h"
 
-#include "platform/Accelerators.h"
-#include "platform/Disposal.h"
-#include "platform/Window.h"
-#include "platform/Wnd.h"
+#include "platform/windows/Accelerators.h"
+#include "platform/windows/Disposal.h"
+#include "platform/windows/Window.h"
+#include "platform/windows/Wnd.h"
 
 #include <QApplication>
 #include <QKeyEvent>

@@ -1,7 +1,7 @@
 // Turns what Qt tells a widget into the framework's messages: keys on their way, the focus lost.
 #pragma once
 
-#include "platform/Types.h"
+#include "platform/base/Types.h"
 
 inline constexpr UINT WM_KILLFOCUS = 0x0008; // wParam: the window that gets the focus, or null
 

@@ -1,7 +1,7 @@
-#include "platform/Wnd.h"
+#include "platform/windows/Wnd.h"
 
-#include "platform/Accelerators.h"
-#include "platform/Timer.h"
+#include "platform/windows/Accelerators.h"
+#include "platform/windows/Timer.h"
 
 #include <QApplication>
 #include <QString>

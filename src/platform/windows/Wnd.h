@@ -2,8 +2,8 @@
 #pragma once
 
 #include "common/Export.h"
-#include "platform/CmdTarget.h"
-#include "platform/Window.h"
+#include "platform/windows/CmdTarget.h"
+#include "platform/windows/Window.h"
 
 #include <QPointer>
 #include <QWidget>

@@ -1,4 +1,5 @@
 // What the sample scripts are divided into, line by line, beside what it should be.
+#include "tests/SourceTree.h"
 #include "tests/engine/analysis/ScriptUnderTest.h"
 
 #include <gtest/gtest.h>
@@ -10,8 +11,8 @@
 namespace engine::analysis {
 namespace {
 
-constexpr const char* kFolder = ZN_SOURCE_DIR "/samples/";
-constexpr const char* kGolden = ZN_SOURCE_DIR "/tests/golden/analysis/";
+const std::string kFolder = InSourceTree("samples/");
+const std::string kGolden = InSourceTree("tests/golden/analysis/");
 
 struct SampleScript
 {

@@ -1,8 +1,8 @@
 // Embeds the editor both ways, as a widget and as document and view, and tells what came of it.
 #include "docview/ZNCoreEditorDoc.h"
 #include "docview/ZNCoreEditorView.h"
-#include "editing/Library.h"
 #include "editing/ZNCoreEditorWidget.h"
+#include "editing/language/Library.h"
 #include "platform/docview/DocTemplate.h"
 #include "platform/docview/FrameWnd.h"
 #include "platform/docview/WinApp.h"

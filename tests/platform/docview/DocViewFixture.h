@@ -2,8 +2,6 @@
 // who answers as told.
 #pragma once
 
-#include "platform/Disposal.h"
-#include "platform/Questions.h"
 #include "platform/docview/Archive.h"
 #include "platform/docview/CommandIds.h"
 #include "platform/docview/DocTemplate.h"
@@ -11,6 +9,8 @@
 #include "platform/docview/FrameWnd.h"
 #include "platform/docview/View.h"
 #include "platform/docview/WinApp.h"
+#include "platform/windows/Disposal.h"
+#include "platform/windows/Questions.h"
 
 #include <QCoreApplication>
 #include <QFile>

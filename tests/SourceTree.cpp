@@ -1,0 +1,6 @@
+#include "tests/SourceTree.h"
+
+std::string InSourceTree(const std::string& path)
+{
+    return std::string(ZN_SOURCE_DIR "/") + path;
+}
