@@ -58,9 +58,10 @@ const Answerers& AllAnswerers()
                                ? Answerer::Way::Pass
                                : Answerer::Way::Translate;
         }
-        for (const auto handlers : {TextHandlers(), PositionHandlers(), SettingHandlers(),
-                                    PrintHandlers(), DocumentHandlers(), ImageHandlers(),
-                                    ErrorHandlers(), AnalysisHandlers(), SearchHandlers()}) {
+        for (const auto handlers :
+             {TextHandlers(), CaseHandlers(), PositionHandlers(), SettingHandlers(),
+              PrintHandlers(), DocumentHandlers(), ImageHandlers(), ErrorHandlers(),
+              AnalysisHandlers(), SearchHandlers()}) {
             for (const HandlerRow& row : handlers) {
                 Answerer& answerer = all[row.number - kFirstNumber];
                 answerer.handler = row.run;

@@ -20,6 +20,7 @@ struct HandlerRow
 
 std::span<const HandlerRow> AnalysisHandlers(); // AnalysisHandlers.cpp
 std::span<const HandlerRow> TextHandlers();     // TextHandlers.cpp
+std::span<const HandlerRow> CaseHandlers();     // CaseHandlers.cpp
 std::span<const HandlerRow> DocumentHandlers(); // DocumentHandlers.cpp
 std::span<const HandlerRow> ErrorHandlers();    // ErrorHandlers.cpp
 std::span<const HandlerRow> ImageHandlers();    // Images.cpp

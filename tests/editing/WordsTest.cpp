@@ -79,9 +79,51 @@ TEST_F(Words, AreCapitalisedInTheSelection)
 TEST_F(Words, LoseLettersAbove7FInCapitals)
 {
     EXPECT_EQ(Done(u"[\u00e9t\u0161]|", &CZNCoreEditorControlEx::Capitalize), u"\uffc9ta|");
-    const std::u16string nul(1, u'\0');
-    EXPECT_EQ(Done(u"[\u0101b c]|", &CZNCoreEditorControlEx::Capitalize), nul + u"b C|");
+}
+
+TEST_F(Words, KeepTheLetterThatNarrowingWouldMakeANul)
+{
+    EXPECT_EQ(Done(u"[\u0101b c]|", &CZNCoreEditorControlEx::Capitalize), u"\u0101b C|");
     EXPECT_EQ(TextAfterUndo(), u"\u0101b c");
+    EXPECT_EQ(Done(u"\u0100|b", &CZNCoreEditorControlEx::CharTranspose), u"b|\u0100");
+    EXPECT_EQ(Done(u"\U0001F600|bc", &CZNCoreEditorControlEx::CharTranspose), u"b|\U0001F600c");
+    EXPECT_EQ(TextAfterUndo(), u"\U0001F600bc");
+}
+
+// Reference: the full case mappings that the Unicode Character Database lists.
+TEST_F(Words, ChangeTheirCaseByUnicodesRules)
+{
+    struct Pair
+    {
+        const char16_t* lower;
+        const char16_t* upper;
+    };
+    for (const auto& [lower, upper] :
+         {Pair{u"\u043f\u0440\u0438", u"\u041f\u0420\u0418"},
+          Pair{u"\u00e5\u00f8\u0153", u"\u00c5\u00d8\u0152"},
+          Pair{u"\u03bb\u03cc\u03b3\u03bf\u03c2", u"\u039b\u038c\u0393\u039f\u03a3"},
+          Pair{u"\U00010428a", u"\U00010400A"}}) {
+        PutPlain(u"a " + std::u16string(lower) + u" b");
+        control.SetSel(3, 3, 1);
+        control.WordUpperCase();
+        EXPECT_EQ(Text(), u"a " + std::u16string(upper) + u" b");
+        control.WordLowerCase();
+        EXPECT_EQ(Text(), u"a " + std::u16string(lower) + u" b");
+    }
+}
+
+TEST_F(Words, GrowWithTheirCaseAndStaySelected)
+{
+    Put(u"x [stra\u00dfe]| y");
+    control.UpperCase(1);
+    EXPECT_EQ(Marked(), u"x [STRASSE]| y");
+    EXPECT_EQ(TextAfterUndo(), u"x stra\u00dfe y");
+    Put(u"x |[\ufb01n] y"); // a ligature, from the far end
+    control.UpperCase(1);
+    EXPECT_EQ(Marked(), u"x |[FIN] y");
+    Put(u"[A\u0130]|"); // one letter becomes two units
+    control.LowerCase(1);
+    EXPECT_EQ(Text(), u"ai\u0307");
 }
 
 TEST_F(Words, ExchangeTheirHalves)

@@ -45,7 +45,7 @@ void CZNCoreEditorControlEx::Capitalize()
     const UndoStep step(*this);
     Clear(1);
     const long caret = GetCurrentPos(1);
-    ReplaceBetween(caret, caret, text); // counted: narrowing makes NULs
+    ReplaceBetween(caret, caret, text); // counted: the text may hold NULs
     GotoPos(caret + static_cast<long>(text.size()), 1);
 }
 
@@ -62,10 +62,13 @@ void CZNCoreEditorControlEx::CharTranspose()
         CharRight(1);
     if (caret == end)
         CharLeft(1);
-    const auto before = static_cast<char16_t>(GetCharAt(GetCurrentPos(1) - 1, 1));
+    const long moved = GetCurrentPos(1);
+    const std::u16string before = TextBetween(PositionBefore(moved, 1), moved);
+    const char16_t narrowed = before.empty() ? u'\0' : capitals::Narrowed(before.back());
     const UndoStep step(*this);
     DeleteBack(1);
-    InsertChar(GetCurrentPos(1) + 1, capitals::Narrowed(before));
+    const long place = GetCurrentPos(1) + 1;
+    ReplaceBetween(place, place, narrowed ? std::u16string(1, narrowed) : before);
     SetCurrentPos(caret, 1);
     SetSel(caret, caret, 1);
 }

@@ -17,7 +17,10 @@ std::u16string Capitalized(std::u16string_view text)
         if (QChar::isSpace(c)) {
             startsWord = true;
         } else if (QChar::isLetter(c)) {
-            c = Narrowed(static_cast<char16_t>(startsWord ? QChar::toUpper(c) : QChar::toLower(c)));
+            const auto mapped =
+                static_cast<char16_t>(startsWord ? QChar::toUpper(c) : QChar::toLower(c));
+            if (const char16_t narrowed = Narrowed(mapped)) // no NUL where there was a letter
+                c = narrowed;
             startsWord = false;
         }
     }

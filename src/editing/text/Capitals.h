@@ -12,7 +12,7 @@ char16_t Narrowed(char16_t c);
 
 // The first letter behind white space in upper case, the others in lower case. What is no letter
 // stays, and leaves it open whether the word has begun. Letters are narrowed: those above 7F do not
-// survive.
+// survive, but where a NUL would be left the letter stays as it is.
 std::u16string Capitalized(std::u16string_view text);
 
 } // namespace capitals
