@@ -199,6 +199,22 @@ TEST(EncodingDetection, AsksTheStatisticsWhenOnlyAZeroByteSpeaks)
     EXPECT_EQ(DetectOnly(Swapped(BytesOf(text), 2)), 4);
 }
 
+TEST(EncodingDetection, SeesTheOrderByTheSideOfTheZeroBytes)
+{
+    std::u16string text; // without a blank or a line end
+    while (text.size() < 4095)
+        text += u"sales_order_line,";
+    text.resize(4095);
+    for (const std::size_t at : {0u, 2000u, 4094u}) {
+        for (const char16_t letter : {u'\u4e00', u'\u9f8d', u'\u0100', u'\uff01', u'\u3000'}) {
+            std::u16string mixed = text;
+            mixed.insert(at, 1, letter);
+            EXPECT_EQ(DetectOnly(BytesOf(mixed)), 2) << std::hex << int{letter} << " at " << at;
+            EXPECT_EQ(DetectOnly(Swapped(BytesOf(mixed), 2)), 4) << std::hex << int{letter};
+        }
+    }
+}
+
 TEST(EncodingDetection, KnowsUtf32OfBothOrders)
 {
     EXPECT_EQ(DetectOnly(BytesOf(U"a b")), 8);

@@ -118,6 +118,12 @@ bool Low(std::uint32_t c)
 
 bool VariesLikeSwappedText(const Bytes& b)
 {
+    std::size_t zerosAtEven = 0, zerosAtOdd = 0;
+    for (std::size_t i = 0; i < b.size(); ++i)
+        if (b[i] == 0)
+            ++(i % 2 == 0 ? zerosAtEven : zerosAtOdd);
+    if (zerosAtEven != zerosAtOdd)
+        return zerosAtEven > zerosAtOdd;
     long first = 0, second = 0;
     for (std::size_t i = 2; i < b.size(); ++i)
         (i % 2 == 0 ? first : second) += std::abs(int{b[i]} - int{b[i - 2]});

@@ -196,19 +196,26 @@ int MaxByteCount(int codePage, std::size_t unitCount)
     return page == nullptr ? 0 : IntOrZero(page->MaxBytes(unitCount));
 }
 
-// In UTF-16 text the high bytes hardly change from unit to unit while the low bytes do. So the
-// bytes are swapped when those in front of each pair vary less than a third of those behind.
+// The letters that most scripts are written in have a high byte of zero, so the side on which zero
+// bytes prevail is that of the high bytes. Where neither does, high bytes hardly change from unit
+// to unit while low bytes do: the bytes are swapped when those in front of each pair vary less than
+// a third of those behind.
 bool IsTextUnicode(const void* bytes, int byteCount, int* tests)
 {
     const auto* at = static_cast<const unsigned char*>(bytes);
+    long zeros = 0; // in front, less those behind
     long front = 0;
     long behind = 0;
-    for (int i = 2; i + 1 < byteCount; i += 2) {
+    for (int i = 0; i + 1 < byteCount; i += 2) {
+        zeros += (at[i] == 0) - (at[i + 1] == 0);
+        if (i == 0)
+            continue;
         front += std::abs(at[i] - at[i - 2]);
         behind += std::abs(at[i + 1] - at[i - 1]);
     }
+    const bool isSwapped = zeros > 0 || (zeros == 0 && front * 3 < behind);
     const int asked = *tests;
-    *tests &= front * 3 < behind ? IS_TEXT_UNICODE_REVERSE_STATISTICS : 0;
+    *tests &= isSwapped ? IS_TEXT_UNICODE_REVERSE_STATISTICS : 0;
     return asked != 0 && *tests == asked;
 }
 
