@@ -1,5 +1,6 @@
 // The editor as plain Qt hosts see it.
 #include "editing/ZNCoreEditorWidget.h"
+#include "platform/text/CodePage.h"
 
 #include <QApplication>
 #include <QFile>
@@ -119,6 +120,25 @@ TEST(EditorWidget, OpensAndSavesFiles)
     QFile second(copy);
     ASSERT_TRUE(first.open(QIODevice::ReadOnly) && second.open(QIODevice::ReadOnly));
     EXPECT_EQ(first.readAll(), second.readAll());
+}
+
+// Only what the library exports is linked here.
+TEST(EditorWidget, ReadsFilesInTheCodePageThatTheHostSets)
+{
+    const QTemporaryDir folder;
+    const QString path = folder.filePath(QStringLiteral("a.sql"));
+    {
+        QFile file(path);
+        ASSERT_TRUE(file.open(QIODevice::WriteOnly));
+        file.write("\xEF\xF0\xE8");
+    }
+    ASSERT_EQ(platform::GetSystemCodePage(), 1252);
+    platform::SetSystemCodePage(1251);
+    ZNCoreEditorWidget editor;
+    const bool opened = editor.openFile(path);
+    platform::SetSystemCodePage(1252);
+    ASSERT_TRUE(opened);
+    EXPECT_EQ(editor.text(), QStringLiteral("\u043f\u0440\u0438"));
 }
 
 TEST(EditorWidget, MayBeDeletedByASlot)
