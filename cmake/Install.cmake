@@ -15,7 +15,8 @@ function(zn_install)
     set_target_properties(znworkbench znscript PROPERTIES
         INSTALL_RPATH "$ORIGIN/../${ZN_INSTALLED_LIBRARIES}")
     install(FILES ${CMAKE_SOURCE_DIR}/data/ZNCoreEditor.xml DESTINATION ${ZN_INSTALLED_LIBRARIES})
-    install(DIRECTORY ${CMAKE_SOURCE_DIR}/data/Syntax DESTINATION ${ZN_INSTALLED_LIBRARIES}
+    install(DIRECTORY ${CMAKE_SOURCE_DIR}/data/Syntax ${CMAKE_SOURCE_DIR}/data/Schemes
+            DESTINATION ${ZN_INSTALLED_LIBRARIES}
             FILES_MATCHING PATTERN "*.xml")
     install(DIRECTORY ${CMAKE_SOURCE_DIR}/src/ DESTINATION ${ZN_INSTALLED_HEADERS}
             FILES_MATCHING PATTERN "*.h" PATTERN "*.def")

@@ -6,6 +6,7 @@
 #include "host/script/BatchMark.h"
 #include "host/script/ScriptDoc.h"
 #include "host/script/ScrollRange.h"
+#include "looks/Schemes.h"
 #include "platform/docview/CommandIds.h"
 #include "platform/docview/FrameWnd.h"
 #include "platform/windows/Mouse.h"
@@ -35,6 +36,7 @@ int ScriptView::OnCreate(CCreateContext* context)
     m_coreEditor.SetEncoding(FileEncodeConverter::encUTF8);
     m_coreEditor.SetWriteEncodingSig(false);
     m_coreEditor.SetScrollWidth(1, 1);
+    m_coreEditor.SetScheme(zncoreeditor::kDesktopScheme);
     DefineBatchMark(m_coreEditor);
     m_coreEditor.GetSafeHwnd()->setAccessibleName(QStringLiteral("Script"));
     FileDrops::Take(*m_coreEditor.GetSafeHwnd());

@@ -7,6 +7,7 @@
 #include "control/ZNCoreEditorControl.h"
 #include "platform/windows/Accelerators.h"
 
+#include <QPointer>
 #include <QString>
 
 #include <deque>
@@ -16,6 +17,8 @@
 #include <vector>
 
 class CDC;
+class ColourScheme;
+class CSyntaxFile;
 class CFont;
 class CWnd;
 class CZNCoreEditorControlEx;
@@ -78,6 +81,13 @@ public:
     void SetDefaultBackgroundColor(COLORREF color) { m_defaultBackgroundColor = color; }
     // A size below 1 and a null face stay as they are.
     void SetAStyle(int style, COLORREF fore, COLORREF back, int size, const char16_t* face);
+    // The colours of a scheme (looks/Schemes.h) over those of the settings, and its margins. A
+    // style that a person has coloured stays. Empty, as from the start: the settings alone.
+    void SetScheme(const QString& name);
+    const QString& SchemeName() const { return m_scheme; }
+    const ColourScheme* Scheme() const; // the one in force; null for the settings alone
+    void ApplyScheme();                 // once more, behind what has written over it
+    void ApplyScheme(const ColourScheme& scheme, CSyntaxFile& syntax);
     virtual bool GetUseWordWrap();
     virtual void SetVisibleLineNumber(bool visible);
     bool IsVisibleLineNumber() const { return m_visibleLineNumber; }
@@ -376,7 +386,9 @@ private:
     void ApplyDefaultEncoding();
     void ApplyColorMaxSize();
 
-    std::size_t m_nextAsked = 0; // of the bookmarks' handles
+    QString m_scheme;
+    QPointer<QObject> m_desktopWatch; // goes with the window
+    std::size_t m_nextAsked = 0;      // of the bookmarks' handles
 };
 
 // The text of a control in a dialog, in the direction that the exchange says. Nothing happens

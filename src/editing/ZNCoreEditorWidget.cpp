@@ -1,5 +1,7 @@
 #include "editing/ZNCoreEditorWidget.h"
 
+#include "looks/Schemes.h"
+
 #include <QMetaMethod>
 #include <QVBoxLayout>
 
@@ -70,6 +72,7 @@ ZNCoreEditorWidget::ZNCoreEditorWidget(QWidget* parent)
     setFocusProxy(editor);
     editor->setAccessibleName(tr("Text editor"));
     m_control->SubclassWindow(editor);
+    m_control->SetScheme(zncoreeditor::kDesktopScheme);
 }
 
 // The engine's window goes first, while there is still somebody to hear its last notifications.
@@ -101,6 +104,16 @@ int ZNCoreEditorWidget::language() const
 void ZNCoreEditorWidget::setLanguage(int language)
 {
     m_control->InitializeLanguage(language, 1);
+}
+
+QString ZNCoreEditorWidget::scheme() const
+{
+    return m_control->SchemeName();
+}
+
+void ZNCoreEditorWidget::setScheme(const QString& name)
+{
+    m_control->SetScheme(name);
 }
 
 QString ZNCoreEditorWidget::text()

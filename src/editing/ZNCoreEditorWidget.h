@@ -15,6 +15,7 @@ class ZN_API ZNCoreEditorWidget : public QWidget
 {
     Q_OBJECT
     Q_PROPERTY(QString text READ text WRITE setText NOTIFY textChanged)
+    Q_PROPERTY(QString scheme READ scheme WRITE setScheme)
     Q_PROPERTY(bool modified READ isModified NOTIFY modificationChanged)
 
 public:
@@ -32,6 +33,11 @@ public:
     // keywords, comments, indentation.
     int language() const;
     void setLanguage(int language);
+
+    // Colours by what they are for (looks/Schemes.h). "Desktop", as from the start: light or dark,
+    // as the desktop is; empty: those of the language's settings.
+    QString scheme() const;
+    void setScheme(const QString& name);
 
     QString text();
     void setText(const QString& text);             // undoable; the save point stays where it was

@@ -19,6 +19,7 @@ constexpr int kLineNumberStyle = 33;
 constexpr int kExtendedMargin = 0;
 constexpr int kNumberMargin = 1;
 constexpr int kMarginRoom = 4; // pixels beside the digits
+constexpr int kSchemeRoom = 8; // beside those, with the margins of a scheme
 constexpr int kUsualTabWidth = 4;
 
 int DigitsOf(int lines)
@@ -201,7 +202,8 @@ void CZNCoreEditorControlEx::SetLineNumberWidth()
 {
     int width = 0;
     if (m_visibleLineNumber)
-        width = TextWidth(kLineNumberStyle, u"9", 1) * DigitsOf(GetLineCount(1)) + kMarginRoom;
+        width = TextWidth(kLineNumberStyle, u"9", 1) * DigitsOf(GetLineCount(1)) + kMarginRoom +
+                (m_scheme.isEmpty() ? 0 : kSchemeRoom);
     SetMarginWidthN(kNumberMargin, width, 1);
 }
 

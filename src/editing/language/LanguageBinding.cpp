@@ -5,6 +5,7 @@
 #include "common/Globals.h"
 #include "editing/ZNCoreEditorControlEx.h"
 #include "editing/language/Library.h"
+#include "looks/ColourScheme.h"
 #include "platform/base/Units.h"
 #include "settings/ConfigFile.h"
 #include "settings/SyntaxFile.h"
@@ -257,6 +258,8 @@ void CFileTypeManager::SetCoreEditorProperties(CConfigFile* config, CSyntaxFile*
     control->SetBraces(syntax->GetBraces());
     const QString wordCharacters = syntax->GetWordCharacters();
     control->SetWordChars(Units(wordCharacters));
+    if (const ColourScheme* scheme = control->Scheme())
+        control->ApplyScheme(*scheme, *syntax);
     // Once more: the width of the margin follows from the styles and the text that stand by then.
     control->SetVisibleLineNumber(syntax->GetMarginLineNumber());
     InvalidateWindow(control->GetSafeHwnd());

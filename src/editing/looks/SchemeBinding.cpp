@@ -1,0 +1,111 @@
+// CZNCoreEditorControlEx: the colours of a scheme, over those of the language's settings.
+#include "editing/ZNCoreEditorControlEx.h"
+
+#include "editing/language/FileTypeManager.h"
+#include "editing/language/Library.h"
+#include "editing/looks/DesktopWatch.h"
+#include "looks/Schemes.h"
+#include "settings/SyntaxFile.h"
+
+#include <QApplication>
+#include <QStyle>
+
+namespace {
+
+constexpr int kDefaultStyle = 32;
+constexpr int kLineNumberStyle = 33;
+constexpr int kGuideStyle = 37;
+constexpr int kLastPredefinedStyle = 38;
+constexpr int kLastStyle = 127;
+
+using Pair = ColourScheme::Pair;
+
+// A style that is coloured as in the light scheme is as it was delivered, and takes the scheme's
+// colours; any other was coloured by a person, and stays.
+class StyleColours
+{
+public:
+    StyleColours(const ColourScheme& scheme, CSyntaxFile& syntax)
+        : m_scheme(scheme), m_delivered(zncoreeditor::FindScheme(QStringLiteral("Light"))),
+          m_syntax(syntax), m_language(syntax.GetFilename().section(u'/', -1)),
+          m_text(scheme.OfRole(QStringLiteral("text")).value_or(Pair{}))
+    {}
+
+    Pair Of(int style) const
+    {
+        const QString name = m_syntax.GetStyleName(style);
+        if (name.isEmpty())
+            return m_text;
+        const QString role = zncoreeditor::GetStyleRoles().RoleOf(m_language, name);
+        const Pair own = {static_cast<COLORREF>(m_syntax.GetStyleColorForeground(style)),
+                          static_cast<COLORREF>(m_syntax.GetStyleColorBackground(style))};
+        const bool isDelivered = !m_delivered || m_delivered->OfRole(role) == own;
+        return isDelivered ? m_scheme.OfRole(role).value_or(own) : own;
+    }
+
+private:
+    const ColourScheme& m_scheme;
+    const ColourScheme* m_delivered;
+    CSyntaxFile& m_syntax;
+    QString m_language;
+    Pair m_text;
+};
+
+void ApplyStyles(const ColourScheme& scheme, CSyntaxFile& syntax, CZNCoreEditorControlEx& control)
+{
+    const StyleColours colours(scheme, syntax);
+    const bool highlight = syntax.GetSyntaxHighlighting();
+    for (int style = 0; style <= kLastStyle; ++style) {
+        const bool isPredefined = style >= kDefaultStyle && style <= kLastPredefinedStyle;
+        Pair pair = colours.Of(highlight || isPredefined ? style : kDefaultStyle);
+        if (style == kGuideStyle) // lines, no text
+            pair = {scheme.Of(Drawn::Guide), scheme.Of(Drawn::Ground)};
+        if (style == kLineNumberStyle)
+            pair.back = scheme.Of(Drawn::Margin);
+        control.StyleSetFore(style, pair.fore, 1);
+        control.StyleSetBack(style, pair.back, 1);
+    }
+}
+
+} // namespace
+
+void CZNCoreEditorControlEx::SetScheme(const QString& name)
+{
+    m_scheme = name;
+    if (!name.isEmpty() && !m_desktopWatch && GetSafeHwnd())
+        m_desktopWatch = new DesktopWatch(*GetSafeHwnd(), [this] { ApplyScheme(); });
+    if (name.isEmpty())
+        InitializeLanguage(m_currentLanguage, 1);
+    else
+        ApplyScheme();
+}
+
+const ColourScheme* CZNCoreEditorControlEx::Scheme() const
+{
+    return m_scheme.isEmpty() ? nullptr : zncoreeditor::FindScheme(m_scheme);
+}
+
+void CZNCoreEditorControlEx::ApplyScheme()
+{
+    const ColourScheme* scheme = Scheme();
+    CSyntaxFile* syntax = zncoreeditor::GetFileTypeManager()->GetSyntaxFile(m_currentLanguage);
+    if (scheme && syntax && syntax->Parse() && GetSafeHwnd())
+        ApplyScheme(*scheme, *syntax);
+}
+
+void CZNCoreEditorControlEx::ApplyScheme(const ColourScheme& scheme, CSyntaxFile& syntax)
+{
+    ApplyStyles(scheme, syntax, *this);
+    m_backgroundColor = scheme.Of(Drawn::Ground);
+    SetFoldMarginColor(1, scheme.Of(Drawn::Margin), 1);
+    SetFoldMarginHiColor(1, scheme.Of(Drawn::Margin), 1);
+    SetCaretFore(scheme.Of(Drawn::Caret), 1);
+    SetCaretWidth(QApplication::style()->pixelMetric(QStyle::PM_TextCursorWidth) + 1, 1);
+    SetCaretPeriod(QApplication::cursorFlashTime() / 2, 1);
+    SetCaretLineBack(scheme.Of(Drawn::CurrentLine), 1);
+    SetSelFore(0, 0, 1);
+    SetSelBack(1, scheme.Of(Drawn::Selection), 1);
+    SetEdgeColor(scheme.Of(Drawn::RightEdge), 1);
+    SetWhitespaceFore(1, scheme.Of(Drawn::Whitespace), 1);
+    SetLineNumberWidth();
+}

@@ -1,0 +1,20 @@
+// The schemes that stand beside the library, and the one that fits the desktop.
+#pragma once
+
+#include "looks/ColourScheme.h"
+#include "looks/StyleRoles.h"
+
+#include <QStringList>
+
+namespace zncoreeditor {
+
+// An editor that is given this name has the light or the dark scheme, as the desktop is.
+inline constexpr QLatin1String kDesktopScheme("Desktop");
+
+ZN_API QStringList SchemeNames();
+// Null for a name that is unknown. The scheme lives as long as the process.
+ZN_API const ColourScheme* FindScheme(const QString& name);
+ZN_API const StyleRoles& GetStyleRoles();
+ZN_API bool IsDesktopDark(); // by the palette of the application
+
+} // namespace zncoreeditor

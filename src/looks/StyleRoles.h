@@ -1,0 +1,20 @@
+// StyleRoles: which role each style of a language has, read from Roles.xml, which tells the rules.
+#pragma once
+
+#include "common/Export.h"
+
+#include <QHash>
+#include <QString>
+
+class ZN_API StyleRoles
+{
+public:
+    StyleRoles() = default; // no style has a role
+    explicit StyleRoles(const QString& path);
+
+    // Language: its file's name without the folder. Empty for a style that has no role.
+    QString RoleOf(const QString& language, const QString& style) const;
+
+private:
+    QHash<QString, QString> m_roles; // by the style's name, with the language in front or without
+};

@@ -1,0 +1,171 @@
+// The schemes that ship with the library, against the language files: read here by other means than
+// the library's own.
+#include "looks/Schemes.h"
+#include "tests/SourceTree.h"
+
+#include <QDir>
+
+#include <gtest/gtest.h>
+#include <pugixml.hpp>
+
+#include <cmath>
+
+namespace {
+
+struct Style
+{
+    QString language; // its file
+    int number;
+    QString name;
+    COLORREF fore;
+    COLORREF back;
+};
+
+COLORREF ColourOf(const char* rrggbb)
+{
+    const unsigned long rgb = std::strtoul(rrggbb, nullptr, 16);
+    return static_cast<COLORREF>((rgb & 0xFF) << 16 | (rgb & 0xFF00) | rgb >> 16);
+}
+
+std::vector<Style> StylesOfAllLanguages()
+{
+    std::vector<Style> styles;
+    const QDir folder(QString::fromStdString(InSourceTree("data/Syntax")));
+    for (const QString& file : folder.entryList({QStringLiteral("*.xml")})) {
+        pugi::xml_document document;
+        document.load_file(folder.filePath(file).toUtf8().constData());
+        for (const pugi::xml_node style :
+             document.child("Syntax").child("StyleInformation").children("Style")) {
+            const pugi::xml_node colour = style.child("Color");
+            styles.push_back({file, style.attribute("number").as_int(),
+                              QString::fromUtf8(style.child_value("Name")),
+                              ColourOf(colour.child_value("Foreground")),
+                              ColourOf(colour.child_value("Background"))});
+        }
+    }
+    return styles;
+}
+
+double Luminance(COLORREF colour)
+{
+    const auto part = [colour](int shift) {
+        const double value = (colour >> shift & 0xFF) / 255.0;
+        return value <= 0.03928 ? value / 12.92 : std::pow((value + 0.055) / 1.055, 2.4);
+    };
+    return 0.2126 * part(0) + 0.7152 * part(8) + 0.0722 * part(16);
+}
+
+double Contrast(COLORREF one, COLORREF other)
+{
+    const double a = Luminance(one) + 0.05;
+    const double b = Luminance(other) + 0.05;
+    return std::max(a / b, b / a);
+}
+
+std::string Named(const Style& style, const ColourScheme& scheme)
+{
+    return (scheme.Name() + u' ' + style.language + u' ' + style.name).toStdString();
+}
+
+const ColourScheme& Scheme(const char* name)
+{
+    return *zncoreeditor::FindScheme(QLatin1String(name));
+}
+
+TEST(ContrastItself, IsThatOfTheGuidelines)
+{
+    EXPECT_NEAR(Contrast(0x000000, 0xFFFFFF), 21, 0.01);
+    EXPECT_NEAR(Contrast(0x767676, 0xFFFFFF), 4.54, 0.01);
+}
+
+TEST(ShippedSchemes, AreLightAndDark)
+{
+    EXPECT_TRUE(zncoreeditor::SchemeNames().contains(QStringLiteral("Light")));
+    EXPECT_FALSE(Scheme("Light").IsDark());
+    EXPECT_TRUE(Scheme("Dark").IsDark());
+    EXPECT_GT(Luminance(Scheme("Light").Of(Drawn::Ground)), 0.9);
+    EXPECT_LT(Luminance(Scheme("Dark").Of(Drawn::Ground)), 0.05);
+}
+
+TEST(ShippedSchemes, HaveARoleForEveryStyleOfEveryLanguage)
+{
+    const std::vector<Style> styles = StylesOfAllLanguages();
+    ASSERT_GT(styles.size(), 800U);
+    for (const Style& style : styles) {
+        const QString role = zncoreeditor::GetStyleRoles().RoleOf(style.language, style.name);
+        for (const char* name : {"Light", "Dark"})
+            EXPECT_TRUE(Scheme(name).OfRole(role)) << Named(style, Scheme(name));
+    }
+}
+
+// Where they differ, a style that nobody touched would be taken for one that a person coloured.
+TEST(LightScheme, HasTheColoursOfTheLanguageFiles)
+{
+    for (const Style& style : StylesOfAllLanguages()) {
+        const QString role = zncoreeditor::GetStyleRoles().RoleOf(style.language, style.name);
+        const ColourScheme::Pair pair = Scheme("Light").OfRole(role).value_or(ColourScheme::Pair{});
+        EXPECT_EQ(pair.fore, style.fore) << Named(style, Scheme("Light"));
+        EXPECT_EQ(pair.back, style.back) << Named(style, Scheme("Light"));
+    }
+}
+
+TEST(ShippedSchemes, CanBeReadInEveryStyleOfEveryLanguage)
+{
+    for (const char* name : {"Light", "Dark"}) {
+        for (const Style& style : StylesOfAllLanguages()) {
+            const QString role = zncoreeditor::GetStyleRoles().RoleOf(style.language, style.name);
+            const ColourScheme::Pair pair =
+                Scheme(name).OfRole(role).value_or(ColourScheme::Pair{});
+            EXPECT_GE(Contrast(pair.fore, pair.back), 4.5) << Named(style, Scheme(name));
+        }
+    }
+}
+
+TEST(ShippedSchemes, CanBeReadOnTheCurrentLineAndInTheMargin)
+{
+    for (const char* name : {"Light", "Dark"}) {
+        const ColourScheme& scheme = Scheme(name);
+        for (const char* role : {"text", "comment", "keyword", "string", "number", "inactive"}) {
+            const auto pair = scheme.OfRole(QLatin1String(role)).value_or(ColourScheme::Pair{});
+            EXPECT_GE(Contrast(pair.fore, scheme.Of(Drawn::CurrentLine)), 4.5) << name << role;
+        }
+        const auto digits =
+            scheme.OfRole(QStringLiteral("lineNumber")).value_or(ColourScheme::Pair{});
+        EXPECT_GE(Contrast(digits.fore, scheme.Of(Drawn::Margin)), 4.5) << name;
+        EXPECT_GE(Contrast(scheme.Of(Drawn::CurrentLineNumber), scheme.Of(Drawn::Margin)), 4.5);
+    }
+}
+
+TEST(RolesOfStyles, AreThoseOfTheWholeNameThenOfItsLastPart)
+{
+    const StyleRoles& roles = zncoreeditor::GetStyleRoles();
+    EXPECT_EQ(roles.RoleOf(QStringLiteral("Messages.xml"), QStringLiteral("Tag")), "quotedName");
+    EXPECT_EQ(roles.RoleOf(QStringLiteral("HTML.xml"), QStringLiteral("Tag")), "keyword");
+    EXPECT_EQ(roles.RoleOf({}, QStringLiteral("JavaScript: line comment")), "comment");
+    EXPECT_EQ(roles.RoleOf({}, QStringLiteral("Inactive: Keyword")), "inactive");
+    EXPECT_EQ(roles.RoleOf({}, QStringLiteral("Nothing that is known")), "");
+}
+
+TEST(SchemeFile, IsRefusedWithoutOneOfItsColours)
+{
+    const QString light = QString::fromStdString(InSourceTree("data/Schemes/Light.xml"));
+    ASSERT_TRUE(ColourScheme::Read(light));
+    QFile file(light);
+    ASSERT_TRUE(file.open(QIODevice::ReadOnly));
+    QByteArray text = file.readAll();
+    text.replace("\"caret\"", "\"carrot\"");
+    QFile broken(QDir::temp().filePath(QStringLiteral("zn-broken-scheme.xml")));
+    ASSERT_TRUE(broken.open(QIODevice::WriteOnly));
+    broken.write(text);
+    broken.close();
+    EXPECT_FALSE(ColourScheme::Read(broken.fileName()));
+    broken.remove();
+}
+
+TEST(SchemeFile, IsNothingWhereThereIsNone)
+{
+    EXPECT_FALSE(ColourScheme::Read(QStringLiteral("/nowhere/at/all.xml")));
+    EXPECT_EQ(zncoreeditor::FindScheme(QStringLiteral("Mauve")), nullptr);
+}
+
+} // namespace
