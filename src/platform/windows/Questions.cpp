@@ -20,13 +20,9 @@ class MessageBoxes final : public IUserQuestions
 public:
     Answer Ask(HWND owner, const QString& text, Buttons buttons) override
     {
-        QMessageBox box(DialogParent(owner));
-        box.setIcon(buttons == Buttons::Ok ? QMessageBox::Warning : QMessageBox::Question);
-        box.setWindowTitle(QGuiApplication::applicationDisplayName());
-        box.setTextFormat(Qt::PlainText); // a path may look like markup
-        box.setText(text);
-        box.setStandardButtons(StandardButtons(buttons));
-        switch (box.exec()) {
+        const bool isQuestion = buttons != Buttons::Ok;
+        switch (Show(owner, text, isQuestion ? QMessageBox::Question : QMessageBox::Warning,
+                     StandardButtons(buttons))) {
         case QMessageBox::Yes:
             return Answer::Yes;
         case QMessageBox::Ok:
@@ -38,7 +34,38 @@ public:
         }
     }
 
+    void Tell(HWND owner, const QString& text, MessageKind kind) override
+    {
+        Show(owner, text, IconOf(kind), QMessageBox::Ok);
+    }
+
 private:
+    static int Show(HWND owner, const QString& text, QMessageBox::Icon icon,
+                    QMessageBox::StandardButtons buttons)
+    {
+        QMessageBox box(DialogParent(owner));
+        box.setIcon(icon);
+        box.setWindowTitle(QGuiApplication::applicationDisplayName());
+        box.setTextFormat(Qt::PlainText); // a path may look like markup
+        box.setText(text);
+        box.setStandardButtons(buttons);
+        return box.exec();
+    }
+
+    static QMessageBox::Icon IconOf(MessageKind kind)
+    {
+        switch (kind) {
+        case MessageKind::Plain:
+            return QMessageBox::NoIcon;
+        case MessageKind::Information:
+            return QMessageBox::Information;
+        case MessageKind::Stop:
+            return QMessageBox::Critical;
+        default:
+            return QMessageBox::Warning;
+        }
+    }
+
     static QMessageBox::StandardButtons StandardButtons(Buttons buttons)
     {
         switch (buttons) {
@@ -66,6 +93,11 @@ IUserQuestions& Questions()
 
 } // namespace
 
+void IUserQuestions::Tell(HWND owner, const QString& text, MessageKind /*kind*/)
+{
+    Ask(owner, text, Buttons::Ok);
+}
+
 QString IUserQuestions::AskOpenFile(HWND owner, const QString& filters)
 {
     return QFileDialog::getOpenFileName(owner ? owner->window() : QApplication::activeWindow(),
@@ -77,6 +109,17 @@ QString IUserQuestions::AskSaveFile(HWND owner, const QString& path, const QStri
     return QFileDialog::getSaveFileName(DialogParent(owner), QString(), path, filters);
 }
 
+QString IUserQuestions::BrowseForFile(HWND owner, const QString& title, const QString& start,
+                                      const QString& filters)
+{
+    return QFileDialog::getOpenFileName(DialogParent(owner), title, start, filters);
+}
+
+QString IUserQuestions::BrowseForFolder(HWND owner, const QString& title, const QString& start)
+{
+    return QFileDialog::getExistingDirectory(DialogParent(owner), title, start);
+}
+
 void SetUserQuestions(IUserQuestions* questions)
 {
     Current() = questions;
@@ -85,10 +128,10 @@ void SetUserQuestions(IUserQuestions* questions)
 // What the user closes while a question stands is kept until it is answered: whoever asked goes on
 // with it then.
 
-void ShowMessage(HWND owner, const QString& text)
+void ShowMessage(HWND owner, const QString& text, MessageKind kind)
 {
     const FrameworkCall asking;
-    Questions().Ask(owner, text, Buttons::Ok);
+    Questions().Tell(owner, text, kind);
 }
 
 bool AskYesNo(HWND owner, const QString& text)
@@ -113,4 +156,17 @@ QString AskSaveFile(HWND owner, const QString& path, const QString& filters)
 {
     const FrameworkCall asking;
     return Questions().AskSaveFile(owner, path, filters);
+}
+
+QString BrowseForFile(HWND owner, const QString& title, const QString& start,
+                      const QString& filters)
+{
+    const FrameworkCall asking;
+    return Questions().BrowseForFile(owner, title, start, filters);
+}
+
+QString BrowseForFolder(HWND owner, const QString& title, const QString& start)
+{
+    const FrameworkCall asking;
+    return Questions().BrowseForFolder(owner, title, start);
 }

@@ -21,6 +21,15 @@ enum class Answer
     Cancel
 };
 
+// How a message looks; what it says is heard by a screen reader in any case.
+enum class MessageKind
+{
+    Plain,
+    Information,
+    Warning,
+    Stop
+};
+
 class ZN_API IUserQuestions
 {
 public:
@@ -29,19 +38,31 @@ public:
     // Shows the text until it is answered. The owner may be null.
     virtual Answer Ask(HWND owner, const QString& text, Buttons buttons) = 0;
 
+    // Shows a message until it is answered; by default a question that only Ok answers.
+    virtual void Tell(HWND owner, const QString& text, MessageKind kind);
+
     // The path of a file to open, empty if the user thought better of it. The filters are names
     // with patterns, "Scripts (*.sql)", parted by ";;". A dialog, unless a host overrides it.
     virtual QString AskOpenFile(HWND owner, const QString& filters);
 
     // The path to save under, empty if the user thought better of it; path is the proposal.
     virtual QString AskSaveFile(HWND owner, const QString& path, const QString& filters);
+
+    // The path of a file that exists, or of a folder, asked for under a title; start is the folder
+    // to begin in. Empty if the user thought better of it.
+    virtual QString BrowseForFile(HWND owner, const QString& title, const QString& start,
+                                  const QString& filters);
+    virtual QString BrowseForFolder(HWND owner, const QString& title, const QString& start);
 };
 
 // The service takes effect at once and stays the caller's; null brings back the message boxes.
 ZN_API void SetUserQuestions(IUserQuestions* questions);
 
-ZN_API void ShowMessage(HWND owner, const QString& text);
+ZN_API void ShowMessage(HWND owner, const QString& text, MessageKind kind = MessageKind::Warning);
 ZN_API bool AskYesNo(HWND owner, const QString& text); // true for Yes
 ZN_API Answer AskYesNoCancel(HWND owner, const QString& text);
 ZN_API QString AskOpenFile(HWND owner, const QString& filters);
 ZN_API QString AskSaveFile(HWND owner, const QString& path, const QString& filters);
+ZN_API QString BrowseForFile(HWND owner, const QString& title, const QString& start,
+                             const QString& filters);
+ZN_API QString BrowseForFolder(HWND owner, const QString& title, const QString& start);

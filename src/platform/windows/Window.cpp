@@ -148,6 +148,23 @@ UINT GetDlgCtrlID(HWND window)
     return record ? record->id : 0;
 }
 
+void SetDlgCtrlID(HWND window, UINT id)
+{
+    if (window)
+        RecordOf(window).id = id;
+}
+
+HWND GetDlgItem(HWND window, UINT id)
+{
+    if (!IsWindow(window) || id == 0)
+        return nullptr;
+    for (QWidget* child : window->findChildren<QWidget*>()) {
+        if (GetDlgCtrlID(child) == id)
+            return child;
+    }
+    return nullptr;
+}
+
 bool IsWindow(HWND window)
 {
     return window && LiveRecord(window);

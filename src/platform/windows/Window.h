@@ -54,6 +54,12 @@ ZN_API HWND CreateWindowOfClass(const char16_t* className, unsigned long style, 
 
 ZN_API UINT GetDlgCtrlID(HWND window); // the child identifier, 0 if it has none
 
+// Gives a widget that was made elsewhere a child identifier, and with it a handle that is live.
+ZN_API void SetDlgCtrlID(HWND window, UINT id);
+
+// The window with the identifier, at any depth below this one; null if there is none.
+ZN_API HWND GetDlgItem(HWND window, UINT id);
+
 // Whether the handle names a window that was made by class or attached, and that still lives.
 // Any value may be asked about.
 ZN_API bool IsWindow(HWND window);
