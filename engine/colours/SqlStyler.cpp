@@ -25,6 +25,11 @@ constexpr long kRoom = 2 * analysis::kLongToken; // a part's last token ends wit
 constexpr std::string_view kRemarks = " rem remark ";
 constexpr std::string_view kPlainTexts = " prompt host ";
 
+// Where a bare # begins a comment, a line that begins with one of these is none: the pre-processor
+// has still to deal with it. Told in the letters that it goes by.
+constexpr std::string_view kIncludeWord = "#include"; // of any case, whole
+constexpr std::string_view kDefineWord = "#define";   // with a blank behind it
+
 std::uint64_t Mix(std::uint64_t hash, std::uint64_t value)
 {
     hash = (hash ^ value) * 0x9E3779B97F4A7C15U;
@@ -307,6 +312,8 @@ void SqlStyler::TakeComment(const Token& token)
 {
     const TextSpans& text = m_scanner.Text();
     const bool isLine = token.kind == TokenKind::LineComment;
+    if (isLine && TakeDirective(token))
+        return;
     if (!isLine && !token.resumed)
         m_state.docComment = text.At(token.start + 2) == '*' && text.At(token.start + 3) != '/';
     const bool isDoc = !isLine && m_state.docComment;
@@ -322,6 +329,37 @@ void SqlStyler::TakeComment(const Token& token)
     if (isLine && m_dialect.terminatorComment && !token.resumed)
         TakeTerminatorComment(token);
     NoteDepth();
+}
+
+// The bytes of the directive's word that a comment is, 0 for a real comment.
+long SqlStyler::DirectiveWord(const Token& token) const
+{
+    const TextSpans& text = m_scanner.Text();
+    if (!m_dialect.hashComments || !m_line.isBlank || text.At(token.start) != '#')
+        return 0;
+    const auto includeLength = static_cast<long>(kIncludeWord.size());
+    const auto defineLength = static_cast<long>(kDefineWord.size());
+    if (token.Length() >= includeLength &&
+        LowerCopy(text, token.start, token.start + includeLength) == kIncludeWord &&
+        !analysis::BytesOf(m_dialect).inWord[text.At(token.start + includeLength)])
+        return includeLength;
+    return text.Has(token.start, kDefineWord) && token.Length() > defineLength &&
+                   IsBlankByte(text.At(token.start + defineLength))
+               ? defineLength
+               : 0;
+}
+
+bool SqlStyler::TakeDirective(const Token& token)
+{
+    const long word = token.resumed ? 0 : DirectiveWord(token);
+    m_line.directive = m_line.directive || word > 0;
+    if (!m_line.directive)
+        return false;
+    Fill(token.start, token.start + word, m_palette.statement);
+    Fill(token.start + word, token.end, 0);
+    m_blankStart = -1;
+    m_line.isBlank = false;
+    return true;
 }
 
 void SqlStyler::TakeWord(const Token& token)

@@ -35,6 +35,7 @@ struct SqlLinePart
     bool isClean = true;          // only comments so far
     bool freshAtStart = false;    // see SqlBlockState::Batch
     bool ignored = false;         // the rest of the line says nothing of statements
+    bool directive = false;       // the line is the pre-processor's
     bool clientLine = false;      // nothing in it goes on behind its end
     bool afterName = false;       // a data type may come
     bool afterGlobalName = false; // behind @@name and a point
@@ -100,6 +101,8 @@ private:
 
     void Take(const Token& token, const analysis::ScanState& before);
     void TakeComment(const Token& token);
+    long DirectiveWord(const Token& token) const;
+    bool TakeDirective(const Token& token);
     void TakeWord(const Token& token);
     const SqlPalette::ByWordSets& StylesFor(const Token& token, const SqlVocabulary::Entry& entry,
                                             bool behindPoint) const;

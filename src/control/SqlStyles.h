@@ -13,6 +13,9 @@
 // procedures and functions are told from names, and the global variables of set 3 only behind @@,
 // or behind @@name and a point.
 //
+// Directives. Where a bare # begins a comment, a line that begins with the pre-processor's #include
+// or #define is none: its word has the style of statements, the rest that of text.
+//
 // Folds. With the property fold at 1: BEGIN to END, CASE to END, the declarations and the body of a
 // routine, IF and loops where the dialect ends them by name, parentheses over lines, the lines of a
 // batch behind its first (its separator stays outside), and with fold.comment at 1 block comments

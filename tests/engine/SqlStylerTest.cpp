@@ -113,6 +113,10 @@ TEST(SqlStyles, EachDialectHasItsOwnForms)
         {14, u"`a b` 'it\\'s' x",  "QQQQQ sssssss i"},
         {14, u"\"a\\\"b\" x",      "ssssss i"},
         {14, u"1--1 -- c",         "noon cccc"},
+        // and a directive of the pre-processor's is no comment
+        {14, u"#include a.sql",    "kkkkkkkk      "},
+        {14, u" #define &&A it's\n#x", " kkkkkkk         \ncc"},
+        {14, u"x #include a\n#Define &&A 1\n#includes", "i cccccccccc\nccccccccccccc\nccccccccc"},
         // Oracle: quoting strings
         {5,  u"q'[it's]' x",       "sssssssss i"},
         {5,  u"nq'{a'b}' x",       "sssssssss i"},

@@ -100,6 +100,22 @@ TEST_F(Includes, AreWholeWords)
     EXPECT_FALSE(control.GetIncludeOrDefineDirectivesFound());
 }
 
+// There a bare # begins a comment, and -- does only with a blank behind it.
+TEST_F(Includes, AreSeenInMySqlAtTheFrontOfALine)
+{
+    Bind("MySQL");
+    Write("a.sql", "one &&B # &&B\n#note");
+    EXPECT_EQ(Expand("#define &&B two\n  #INCLUDE <a.sql> -- c\n&&B"),
+              "-- #define &&B two\n--   #INCLUDE <a.sql> -- c\rone two # &&B\n#note\ntwo");
+    EXPECT_TRUE(control.GetIncludeOrDefineDirectivesFound());
+    for (const char* comment : {"# #include a.sql", "x #include a.sql", "#includes a.sql",
+                                "/* #include a.sql\n#include a.sql */", "-- #include a.sql",
+                                "#define", "##define &&A 1", "/* */ #include a.sql"}) {
+        EXPECT_EQ(Expand(comment), comment);
+        EXPECT_FALSE(control.GetIncludeOrDefineDirectivesFound()) << comment;
+    }
+}
+
 TEST_F(Includes, ThatFailTwiceGetOneMessage)
 {
     EXPECT_EQ(Expand("#include no.sql\n#include no.sql"), "#include no.sql\n--#include no.sql");
