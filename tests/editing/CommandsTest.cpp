@@ -227,7 +227,7 @@ TEST_F(Commands, DoNothingToCommentsOfAnUnknownLanguage)
 
 TEST_F(Commands, UncommentNothingForALanguageWithoutALineDefault)
 {
-    const int language = LanguageWith(0, -1);
+    const int language = LanguageWith(-1, -1);
     ASSERT_GE(language, 0);
     control.SetCurrentLanguage(language);
     EXPECT_EQ(After(54041, u"[/* a */]|"), u"[/* a */]|");
