@@ -383,6 +383,8 @@ void ChangeReporter::OnStyleNeeded(int position)
 
 void ChangeReporter::OnMacroRecord(UINT number, unsigned long wParam, void* lParam)
 {
+    if (m_listen && !m_listen(number))
+        return;
     const auto* row = std::find_if(std::begin(kMessageRows), std::end(kMessageRows),
                                    [number](const MessageRow& r) { return r.number == number; });
     if (row == std::end(kMessageRows))

@@ -39,6 +39,13 @@ public:
         m_follow = std::move(follow);
     }
 
+    // Called before each command that can be recorded for a macro, while the stock engine tells of
+    // them. False: it is not told.
+    void SetCommandListener(std::function<bool(UINT number)> listen)
+    {
+        m_listen = std::move(listen);
+    }
+
     int ModEventMask() const { return m_mask; }
     void SetModEventMask(int mask);
 
@@ -105,6 +112,7 @@ private:
     bool m_hasListener = false;
     UINT m_id = 0; // of the window, as soon as it has one
     std::function<void(bool inserts, long position, long bytes)> m_follow;
+    std::function<bool(UINT number)> m_listen;
     Utf16Text m_changed;            // text of a noted deletion; storage otherwise
     std::vector<UINT> m_savePoints; // told behind the change
 

@@ -149,7 +149,6 @@ void Colouring::SetSeparator(const Raw& raw, std::optional<analysis::BatchSepara
     Restart(raw);
 }
 
-// All of the text is to be styled afresh.
 void Colouring::Restart(const Raw& raw)
 {
     DropTail();

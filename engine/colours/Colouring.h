@@ -65,6 +65,9 @@ public:
     // Styles from the line of start on, whatever was there.
     void Colorize(const Raw& raw, long start, long end);
 
+    // All of the text is to be styled afresh, if it is SQL.
+    void Restart(const Raw& raw);
+
     // What stands behind the end of styles is somebody else's.
     void DropTail() { m_tail = {}; }
 
@@ -95,7 +98,6 @@ private:
 
     void Become(const Raw& raw, int lexer);
     void ChooseDialect(const Raw& raw);
-    void Restart(const Raw& raw);
     bool IsRepeated(long length);
     long TakeEnd(const Raw& raw);
     long LastPlace(const Raw& raw, long position) const;

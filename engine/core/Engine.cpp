@@ -4,6 +4,7 @@
 #include "engine/core/ErrorList.h"
 #include "engine/core/Fences.h"
 #include "engine/core/Handlers.h"
+#include "engine/text/Characters.h"
 
 #include <array>
 
@@ -61,7 +62,7 @@ const Answerers& AllAnswerers()
         for (const auto handlers :
              {TextHandlers(), CaseHandlers(), PositionHandlers(), SettingHandlers(),
               PrintHandlers(), DocumentHandlers(), ImageHandlers(), ErrorHandlers(),
-              AnalysisHandlers(), SearchHandlers()}) {
+              AnalysisHandlers(), SearchHandlers(), ListHandlers(), MarginTextHandlers()}) {
             for (const HandlerRow& row : handlers) {
                 Answerer& answerer = all[row.number - kFirstNumber];
                 answerer.handler = row.run;
@@ -91,7 +92,14 @@ Engine::Engine(QsciScintillaBase& widget)
       stored(raw, text), searcher(stored)
 {
     PrepareDocument();
-    FollowEdits(*this);
+    reporter.SetFollower([this](bool inserts, long position, long bytes) {
+        EditBegins({inserts, position, bytes});
+    });
+    reporter.SetCommandListener([this](UINT number) {
+        wholeCharacters.OnCommand(number);
+        return recording;
+    });
+    SettleErrorsWhenShown(*this);
 }
 
 Engine::~Engine()
@@ -138,6 +146,9 @@ LRESULT Engine::Perform(UINT message, WPARAM wParam, LPARAM lParam)
     const Answerer& answerer = answerers[slot];
     const ChangeReporter::Scope scope;
     LRESULT result = 0;
+    const bool keepsWhole = text.MayHaveNoncharacters();
+    if (keepsWhole)
+        wholeCharacters.Begin();
     switch (answerer.way) {
     case Answerer::Way::None:
         return 0;
@@ -152,9 +163,18 @@ LRESULT Engine::Perform(UINT message, WPARAM wParam, LPARAM lParam)
         result = answerer.handler(*this, wParam, lParam);
         break;
     }
+    if (keepsWhole)
+        wholeCharacters.End();
     if (ChangeReporter::AnyPending()) // from here on the window may be gone
         ChangeReporter::FlushAll();
     return result;
+}
+
+void Engine::EditBegins(const TextEdit& edit)
+{
+    target.Follow(edit);
+    searcher.TextChanges([&edit](long place) { return edit.Moved(place); });
+    errors->NoteChange(*this, edit.inserts, edit.position, edit.bytes);
 }
 
 long Engine::Bytes(LPARAM position) const
@@ -174,8 +194,22 @@ long Engine::CaretPosition() const
 
 void Engine::ReplaceTarget(std::string_view bytes)
 {
-    raw.Send(Sci::SCI_SETTARGETRANGE, static_cast<WPARAM>(target.start), target.end);
+    LendTarget();
     raw.Send(Sci::SCI_REPLACETARGET, bytes.size(), bytes.data());
+    TakeTarget();
+}
+
+// Another change may have put half of a character on either side.
+void Engine::LendTarget() const
+{
+    const auto whole = [this](long position) {
+        return CharacterStart(raw, std::clamp(position, 0L, raw.Length()));
+    };
+    raw.Send(Sci::SCI_SETTARGETRANGE, static_cast<WPARAM>(whole(target.start)), whole(target.end));
+}
+
+void Engine::TakeTarget()
+{
     target.start = static_cast<long>(raw.Send(Sci::SCI_GETTARGETSTART));
     target.end = static_cast<long>(raw.Send(Sci::SCI_GETTARGETEND));
 }

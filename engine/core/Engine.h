@@ -7,10 +7,12 @@
 #include "engine/changes/ChangeReporter.h"
 #include "engine/colours/Colouring.h"
 #include "engine/core/ScriptAnalysis.h"
+#include "engine/core/WholeCharacters.h"
 #include "engine/errors/ErrorMarks.h"
 #include "engine/search/Searcher.h"
 #include "engine/text/Raw.h"
 #include "engine/text/StoredText.h"
+#include "engine/text/TextEdit.h"
 #include "engine/text/TextIndex.h"
 #include "engine/text/Utf.h"
 
@@ -24,12 +26,18 @@ namespace engine {
 class ErrorList;
 
 // What SearchInTarget searches and ReplaceTarget replaces. The stock engine learns of it when it
-// is to replace it. Bytes, which stay when the text changes.
+// is to replace it. Bytes, which go along with the text when it changes.
 struct SearchTarget
 {
     long start = 0;
     long end = 0;
     int flags = 0;
+
+    void Follow(const TextEdit& edit)
+    {
+        start = edit.Moved(start);
+        end = edit.Moved(end);
+    }
 
     // What was sought last: a loop over all matches brings the same text for each of them.
     std::u16string sought;
@@ -75,6 +83,10 @@ public:
     // Replaces the target by the bytes, which it is then.
     void ReplaceTarget(std::string_view bytes);
 
+    // The stock engine's own target, for what it does with one: set before, taken over behind.
+    void LendTarget() const;
+    void TakeTarget();
+
     QsciScintillaBase& window;
     const Raw raw;
     std::shared_ptr<Colouring> colouring; // of the document
@@ -86,6 +98,7 @@ public:
     const StoredText stored;
     search::Searcher searcher;
     SearchTarget target;
+    WholeCharacters wholeCharacters{*this};
 
     // What the stock engine has no place for.
     ErrorLook errorLook;              // as set in this window
@@ -98,6 +111,7 @@ public:
     std::set<std::string> properties; // of the lexer, set so far
     PrintStyle print;
     long searchAnchor = 0;    // bytes; stays when the text changes
+    int status = 0;           // as it was set; the stock engine's own tells of failures
     bool recording = false;   // of a macro
     std::string callTip;      // UTF-8
     int lengthForEncode = -1; // bytes; -1: up to the terminator
@@ -105,6 +119,7 @@ public:
 private:
     // After the window got another document: the index belongs to the document.
     void PrepareDocument();
+    void EditBegins(const TextEdit& edit); // while the text is as it was
     LRESULT Translate(const MessageRow& row, WPARAM wParam, LPARAM lParam);
 
     LRESULT m_document = 0;

@@ -1,6 +1,7 @@
 #include "engine/core/ErrorList.h"
 
 #include "engine/core/Engine.h"
+#include "engine/text/Characters.h"
 
 #include <algorithm>
 #include <climits>
@@ -47,13 +48,9 @@ Bounds WithACharacter(const Raw& raw, Bounds bounds)
 {
     const Bounds line = TextOfLine(raw, LineOf(raw, bounds.start));
     if (bounds.start < line.end)
-        return {bounds.start,
-                static_cast<long>(
-                    raw.Send(Sci::SCI_POSITIONAFTER, static_cast<std::uintptr_t>(bounds.start)))};
+        return {bounds.start, BehindCharacter(raw, bounds.start)};
     if (line.start < line.end)
-        return {static_cast<long>(
-                    raw.Send(Sci::SCI_POSITIONBEFORE, static_cast<std::uintptr_t>(line.end))),
-                line.end};
+        return {BeforeCharacter(raw, line.end), line.end};
     return bounds;
 }
 
@@ -332,11 +329,8 @@ void ErrorList::RedrawAfter(const Change& change, const Engine& engine) const
     }
 }
 
-void FollowEdits(Engine& engine)
+void SettleErrorsWhenShown(Engine& engine)
 {
-    engine.reporter.SetFollower([&engine](bool inserts, long position, long bytes) {
-        engine.errors->NoteChange(engine, inserts, position, bytes);
-    });
     QsciScintillaBase& window = engine.window;
     QObject::connect(&window, &Sci::SCN_UPDATEUI, &window,
                      [&engine](int) { engine.errors->Settle(engine); });

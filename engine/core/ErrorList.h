@@ -77,7 +77,7 @@ private:
     Change m_change;
 };
 
-// Lets the list of the engine's text follow the edits of its window.
-void FollowEdits(Engine& engine);
+// Brings the list up to date when the engine's window is shown.
+void SettleErrorsWhenShown(Engine& engine);
 
 } // namespace engine

@@ -46,6 +46,18 @@ bool IsLine(const Engine& engine, WPARAM& wParam, LPARAM&)
     return line >= 0 && line < engine.raw.LineCount();
 }
 
+// What is hidden or folded is asked by line, and the tables abort on a negative one.
+bool IsNotBeforeText(const Engine&, WPARAM& wParam, LPARAM&)
+{
+    return Number(wParam) >= 0;
+}
+
+bool MakesNarrow(const Engine&, WPARAM& wParam, LPARAM&)
+{
+    wParam = static_cast<WPARAM>(std::clamp(Number(wParam), 0L, kWidestIndentation));
+    return true;
+}
+
 bool IsNarrowIndentation(const Engine& engine, WPARAM& wParam, LPARAM& lParam)
 {
     lParam = std::clamp(Number(static_cast<WPARAM>(lParam)), 0L, kWidestIndentation);
@@ -121,6 +133,18 @@ constexpr FenceRow kRows[] = {
     {message::GetLineState, IsLine},
     {message::WrapCount, IsLine},
     {message::SetLineIndentation, IsNarrowIndentation},
+    {message::SetTabWidth, MakesNarrow},
+    {message::SetIndent, MakesNarrow},
+    {message::VisibleFromDocLine, IsNotBeforeText},
+    {message::GetLineVisible, IsNotBeforeText},
+    {message::EnsureVisible, IsNotBeforeText},
+    {message::EnsureVisibleEnforcePolicy, IsNotBeforeText},
+    {message::ToggleFold, IsNotBeforeText},
+    {message::GetFoldLevel, IsNotBeforeText},
+    {message::SetFoldLevel, IsNotBeforeText},
+    {message::GetFoldExpanded, IsNotBeforeText},
+    {message::SetFoldExpanded, IsNotBeforeText},
+    {message::TextHeight, IsNotBeforeText},
     {message::SetEndAtLastLine, MakesFlag},
     {message::SetCaretSticky, IsCaretSticky},
     {message::SetScrollWidth, MakesPositive},

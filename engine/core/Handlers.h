@@ -18,15 +18,17 @@ struct HandlerRow
     Handler run;
 };
 
-std::span<const HandlerRow> AnalysisHandlers(); // AnalysisHandlers.cpp
-std::span<const HandlerRow> TextHandlers();     // TextHandlers.cpp
-std::span<const HandlerRow> CaseHandlers();     // CaseHandlers.cpp
-std::span<const HandlerRow> DocumentHandlers(); // DocumentHandlers.cpp
-std::span<const HandlerRow> ErrorHandlers();    // ErrorHandlers.cpp
-std::span<const HandlerRow> ImageHandlers();    // Images.cpp
-std::span<const HandlerRow> PositionHandlers(); // PositionHandlers.cpp
-std::span<const HandlerRow> SearchHandlers();   // SearchHandlers.cpp
-std::span<const HandlerRow> SettingHandlers();  // SettingHandlers.cpp
-std::span<const HandlerRow> PrintHandlers();    // Printing.cpp
+std::span<const HandlerRow> AnalysisHandlers();   // AnalysisHandlers.cpp
+std::span<const HandlerRow> TextHandlers();       // TextHandlers.cpp
+std::span<const HandlerRow> CaseHandlers();       // CaseHandlers.cpp
+std::span<const HandlerRow> DocumentHandlers();   // DocumentHandlers.cpp
+std::span<const HandlerRow> ErrorHandlers();      // ErrorHandlers.cpp
+std::span<const HandlerRow> ImageHandlers();      // Images.cpp
+std::span<const HandlerRow> ListHandlers();       // ListHandlers.cpp
+std::span<const HandlerRow> MarginTextHandlers(); // MarginTexts.cpp
+std::span<const HandlerRow> PositionHandlers();   // PositionHandlers.cpp
+std::span<const HandlerRow> SearchHandlers();     // SearchHandlers.cpp
+std::span<const HandlerRow> SettingHandlers();    // SettingHandlers.cpp
+std::span<const HandlerRow> PrintHandlers();      // Printing.cpp
 
 } // namespace engine

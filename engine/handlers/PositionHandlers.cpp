@@ -1,6 +1,7 @@
 // Messages about places in the text that need more than a position translated.
 #include "engine/core/Engine.h"
 #include "engine/core/Handlers.h"
+#include "engine/text/Characters.h"
 
 #include <algorithm>
 
@@ -25,8 +26,8 @@ LRESULT GetCharAt(Engine& engine, WPARAM wParam, LPARAM)
         static_cast<unsigned char>(engine.raw.Send(Sci::SCI_GETCHARAT, static_cast<WPARAM>(byte)));
     if (lead < 0x80)
         return lead;
-    const auto end = engine.raw.Send(Sci::SCI_POSITIONAFTER, static_cast<WPARAM>(byte));
-    const std::u16string character = ToUtf16(engine.raw.Bytes(byte, static_cast<long>(end)));
+    const std::u16string character =
+        ToUtf16(engine.raw.Bytes(byte, BehindCharacter(engine.raw, byte)));
     const long offset = unit - engine.text.ToUnits({byte}).value;
     return character[static_cast<std::size_t>(
         std::min<long>(offset, static_cast<long>(character.size()) - 1))];

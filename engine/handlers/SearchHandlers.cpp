@@ -24,7 +24,7 @@ std::u16string_view CountedText(WPARAM length, LPARAM text)
 template <long SearchTarget::*Edge>
 LRESULT SetTargetEdge(Engine& engine, WPARAM wParam, LPARAM)
 {
-    engine.target.*Edge = engine.Bytes(static_cast<LPARAM>(wParam));
+    engine.target.*Edge = std::max(0L, engine.Bytes(static_cast<LPARAM>(wParam)));
     return 0;
 }
 
@@ -140,6 +140,7 @@ LRESULT SetRecording(Engine& engine, WPARAM, LPARAM)
 {
     engine.raw.Send(Number);
     engine.recording = Recording;
+    engine.wholeCharacters.RecordingBecame(Recording);
     return 0;
 }
 

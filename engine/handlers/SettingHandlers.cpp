@@ -1,5 +1,6 @@
 // Messages that set and ask what this engine holds in its own way: line ends, lexers, the mask of
 // notifications.
+#include "engine/core/Documents.h"
 #include "engine/core/Engine.h"
 #include "engine/core/Handlers.h"
 
@@ -119,6 +120,9 @@ LRESULT SetLexerLanguage(Engine& engine, WPARAM, LPARAM lParam)
 // The stock engine has no words for SQL, which it takes for the container's.
 LRESULT SetKeyWords(Engine& engine, WPARAM wParam, LPARAM lParam)
 {
+    constexpr WPARAM kSets = 9; // those of a lexer are found by number, whichever it is
+    if (wParam >= kSets)
+        return 0;
     const Utf8Text words(TerminatedText(reinterpret_cast<const char16_t*>(lParam)));
     if (engine.colouring->IsSql())
         engine.colouring->SetKeyWords(engine.raw, static_cast<int>(wParam), words.View());
@@ -131,12 +135,40 @@ LRESULT Colorize(Engine& engine, WPARAM wParam, LPARAM lParam)
 {
     const long start = engine.Bytes(static_cast<LPARAM>(wParam));
     const long end = engine.Bytes(lParam);
+    if (end >= 0 && end < start)
+        return 0;
     const std::shared_ptr<Colouring> colouring = engine.colouring;
     if (colouring->IsSql())
         colouring->Colorize(engine.raw, start, end);
     else
         engine.raw.Send(Sci::SCI_COLOURISE, static_cast<WPARAM>(start), end);
     return 0;
+}
+
+// All of the text, when it is next seen; folds that depend on styles come with them.
+LRESULT Restyle(Engine& engine, WPARAM, LPARAM)
+{
+    const std::shared_ptr<Colouring> colouring = engine.colouring;
+    colouring->Restart(engine.raw);
+    if (!colouring->IsSql())
+        engine.raw.Send(Sci::SCI_STARTSTYLING, 0);
+    for (const Engine* shown : documents::Windows(engine.Document()))
+        shown->window.viewport()->update();
+    return 0;
+}
+
+// The stock engine takes a status that a host has set for a failure of its own.
+LRESULT SetStatus(Engine& engine, WPARAM wParam, LPARAM)
+{
+    engine.raw.Send(Sci::SCI_SETSTATUS, 0);
+    engine.status = static_cast<int>(wParam);
+    return 0;
+}
+
+LRESULT GetStatus(Engine& engine, WPARAM, LPARAM)
+{
+    const LRESULT failure = engine.raw.Send(Sci::SCI_GETSTATUS);
+    return failure != 0 ? failure : engine.status;
 }
 
 // Styles of the host's own: what stands behind them is the host's too.
@@ -223,6 +255,9 @@ constexpr HandlerRow kRows[] = {
     {message::Colorize, Colorize},
     {message::StartStyling, StartStyling},
     {message::ClearDocumentStyle, ClearDocumentStyle},
+    {message::SetStatus, SetStatus},
+    {message::GetStatus, GetStatus},
+    {kRestyle, Restyle},
     {message::UsePopUp, UsePopUp},
     {message::IsAutoCHwnd, IsAutoCHwnd},
 };

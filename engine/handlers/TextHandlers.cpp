@@ -1,10 +1,11 @@
 // Messages that carry text in or out.
-#include "control/Completion.h"
 #include "engine/core/Engine.h"
 #include "engine/core/Handlers.h"
+#include "engine/text/Characters.h"
 
 #include <algorithm>
 #include <array>
+#include <limits>
 #include <new>
 
 namespace engine {
@@ -33,9 +34,17 @@ void ThrowIfOutOfMemory(Engine& engine)
     }
 }
 
+// The stock engine counts positions in ints.
+void ThrowIfTooLong(const Engine& engine, std::size_t bytes)
+{
+    if (bytes > static_cast<std::size_t>(std::numeric_limits<int>::max() - engine.raw.Length()))
+        throw std::bad_alloc();
+}
+
 LRESULT SendCounted(Engine& engine, UINT number, WPARAM wParam, LPARAM lParam)
 {
     const Utf8Text text(CountedText(wParam, lParam));
+    ThrowIfTooLong(engine, text.Size());
     const LRESULT result = engine.raw.Send(number, text.Size(), text.Data());
     ThrowIfOutOfMemory(engine);
     return result;
@@ -71,6 +80,35 @@ LRESULT ReplaceTarget(Engine& engine, WPARAM wParam, LPARAM lParam)
     return engine.Units(engine.target.end) - engine.Units(engine.target.start);
 }
 
+// The stock engine keeps a target of its own, which goes stale.
+LRESULT LinesJoin(Engine& engine, WPARAM, LPARAM)
+{
+    engine.LendTarget();
+    engine.raw.Send(Sci::SCI_LINESJOIN);
+    engine.TakeTarget();
+    return 0;
+}
+
+// The stock engine may divide a line between the bytes of a noncharacter, so that lines in which
+// there is one stay as they are. A negative width is that of the window, as 0 is.
+LRESULT LinesSplit(Engine& engine, WPARAM wParam, LPARAM)
+{
+    engine.LendTarget();
+    const auto lineOf = [&engine](UINT edge) {
+        return static_cast<long>(
+            engine.raw.Send(Sci::SCI_LINEFROMPOSITION, static_cast<WPARAM>(engine.raw.Send(edge))));
+    };
+    const long first = engine.text.StartInBytes(lineOf(Sci::SCI_GETTARGETSTART)).value;
+    const long last = engine.text.StartInBytes(lineOf(Sci::SCI_GETTARGETEND) + 1).value;
+    if (engine.text.MayHaveNoncharacters() && first < last &&
+        HasNoncharacter(engine.raw.Bytes(first, last)))
+        return 0;
+    engine.raw.Send(Sci::SCI_LINESSPLIT,
+                    static_cast<WPARAM>(std::max(static_cast<int>(wParam), 0)));
+    engine.TakeTarget();
+    return 0;
+}
+
 // Pairs of unit and style; the stock engine wants a style for each byte.
 LRESULT AddStyledText(Engine& engine, WPARAM wParam, LPARAM lParam)
 {
@@ -102,21 +140,22 @@ LRESULT AddStyledText(Engine& engine, WPARAM wParam, LPARAM lParam)
     return 0;
 }
 
-// Writes the text between two places and a terminator; gives the units without it. The caller's
-// buffer holds the units and no more; the converter is far faster where it has one for each byte.
-long Read(const Engine& engine, BytePos from, BytePos to, char16_t* buffer)
+// Writes the text between two places, at most so many units of it, and a terminator; gives the
+// units without it. The caller's buffer holds these and no more; the converter is far faster where
+// it has a unit for each byte.
+long Read(const Engine& engine, BytePos from, BytePos to, long room, char16_t* buffer)
 {
     std::array<char16_t, kChunk> scratch;
     long done = 0;
-    for (long start = from.value; start < to.value;) {
+    for (long start = from.value; start < to.value && done < room;) {
         long stop = std::min(to.value, start + kChunk);
-        if (stop < to.value) // between characters
-            stop = static_cast<long>(
-                engine.raw.Send(Sci::SCI_POSITIONBEFORE, static_cast<WPARAM>(stop)));
-        const std::size_t units =
-            ToUtf16(engine.raw.Bytes(start, stop), scratch.data(), scratch.size());
-        std::copy_n(scratch.data(), units, buffer + done);
-        done += static_cast<long>(units);
+        if (stop < to.value)
+            stop = CharacterStart(engine.raw, stop);
+        const auto units = static_cast<long>(
+            ToUtf16(engine.raw.Bytes(start, stop), scratch.data(), scratch.size()));
+        const long taken = std::min(units, room - done);
+        std::copy_n(scratch.data(), taken, buffer + done);
+        done += taken;
         start = stop;
     }
     buffer[done] = u'\0';
@@ -130,13 +169,13 @@ BytePos StartOfRange(const Engine& engine, UnitPos position)
     const BytePos byte = engine.text.ToBytes(position);
     if (engine.text.IsAscii() || engine.text.ToUnits(byte).value >= position.value)
         return byte;
-    return {static_cast<long>(
-        engine.raw.Send(Sci::SCI_POSITIONAFTER, static_cast<WPARAM>(byte.value)))};
+    return {BehindCharacter(engine.raw, byte.value)};
 }
 
 long Read(const Engine& engine, UnitPos from, UnitPos to, char16_t* buffer)
 {
-    return Read(engine, StartOfRange(engine, from), engine.text.ToBytes(to), buffer);
+    return Read(engine, StartOfRange(engine, from), engine.text.ToBytes(to), to.value - from.value,
+                buffer);
 }
 
 LRESULT GetText(Engine& engine, WPARAM wParam, LPARAM lParam)
@@ -156,9 +195,10 @@ LRESULT GetLine(Engine& engine, WPARAM wParam, LPARAM lParam)
     if (line < 0 || line >= engine.raw.LineCount())
         return 0;
     auto* buffer = reinterpret_cast<char16_t*>(lParam);
+    const long room = engine.text.LengthOfLine(line);
     return buffer ? Read(engine, engine.text.StartInBytes(line), engine.text.StartInBytes(line + 1),
-                         buffer)
-                  : engine.text.LengthOfLine(line);
+                         room, buffer)
+                  : room;
 }
 
 // Fills the buffer with at most length - 1 units of the caret's line; gives the caret's place in
@@ -178,19 +218,28 @@ LRESULT GetCurLine(Engine& engine, WPARAM wParam, LPARAM lParam)
     return caret - start;
 }
 
-LRESULT GetSelText(Engine& engine, WPARAM, LPARAM lParam)
+// Rectangles and selections of several pieces have more text than there is between the ends that
+// the window tells. A caller who does not say his room, in units with the terminator, has room for
+// that; asked without a buffer, the answer is what all of it takes.
+LRESULT GetSelText(Engine& engine, WPARAM wParam, LPARAM lParam)
 {
-    auto* buffer = reinterpret_cast<char16_t*>(lParam);
     const auto size =
         static_cast<std::size_t>(std::max<LRESULT>(engine.raw.Send(Sci::SCI_GETSELTEXT), 1));
     std::string bytes(size, '\0'); // with its terminator
     engine.raw.Send(Sci::SCI_GETSELTEXT, 0, bytes.data());
     bytes.pop_back();
-    const std::u16string text = ToUtf16(bytes);
-    if (buffer) {
-        std::copy(text.begin(), text.end(), buffer);
-        buffer[text.size()] = u'\0';
-    }
+    std::u16string text = ToUtf16(bytes);
+    auto* buffer = reinterpret_cast<char16_t*>(lParam);
+    if (!buffer)
+        return static_cast<LRESULT>(text.size()) + 1;
+    const auto edge = [&engine](UINT number) {
+        return engine.Units(static_cast<long>(engine.raw.Send(number)));
+    };
+    const long room = wParam > 0
+                          ? static_cast<long>(wParam) - 1
+                          : edge(Sci::SCI_GETSELECTIONEND) - edge(Sci::SCI_GETSELECTIONSTART);
+    text.resize(std::min(text.size(), static_cast<std::size_t>(std::max(room, 0L))));
+    std::copy_n(text.c_str(), text.size() + 1, buffer);
     return static_cast<LRESULT>(text.size()) + 1;
 }
 
@@ -220,8 +269,7 @@ LRESULT GetStyledText(Engine& engine, WPARAM, LPARAM lParam)
         engine.text.ToBytes({range->chrg.cpMax < 0 ? length : range->chrg.cpMax}).value;
     char16_t* out = range->lpstrText;
     for (long byte = start; byte < end;) {
-        const auto next =
-            static_cast<long>(engine.raw.Send(Sci::SCI_POSITIONAFTER, static_cast<WPARAM>(byte)));
+        const long next = BehindCharacter(engine.raw, byte);
         const auto style =
             static_cast<char16_t>(engine.raw.Send(Sci::SCI_GETSTYLEAT, static_cast<WPARAM>(byte)));
         for (const char16_t unit : ToUtf16(engine.raw.Bytes(byte, next))) {
@@ -288,33 +336,6 @@ LRESULT EncodedFromUtf8(Engine& engine, WPARAM wParam, LPARAM lParam)
     return static_cast<LRESULT>(text.size());
 }
 
-using Proposals = std::vector<std::shared_ptr<znsqlassist::SQLCompletionProposal>>;
-
-LRESULT AutoCShow(Engine& engine, WPARAM wParam, LPARAM lParam)
-{
-    const auto* config = reinterpret_cast<const AutoCompleteConfig*>(wParam);
-    const auto* proposals = reinterpret_cast<const Proposals*>(lParam);
-    if (!config || !proposals || proposals->empty())
-        return 0;
-    const auto separator = static_cast<char>(engine.raw.Send(Sci::SCI_AUTOCGETSEPARATOR));
-    const auto typeSeparator = static_cast<char>(engine.raw.Send(Sci::SCI_AUTOCGETTYPESEPARATOR));
-    std::string list;
-    for (const auto& proposal : *proposals) {
-        if (!proposal)
-            continue;
-        if (!list.empty())
-            list += separator;
-        list += Utf8Text(proposal->Text()).View();
-        if (proposal->Image() >= 0)
-            list += typeSeparator + std::to_string(proposal->Image());
-    }
-    const auto caret = static_cast<long>(engine.raw.Send(Sci::SCI_GETCURRENTPOS));
-    const long typed = std::max<long>(config->typedLength, 0);
-    const long start = engine.Bytes(std::max(0L, engine.Units(caret) - typed));
-    engine.raw.Send(Sci::SCI_AUTOCSHOW, static_cast<WPARAM>(caret - start), list.c_str());
-    return 0;
-}
-
 constexpr HandlerRow kRows[] = {
     {message::AddTextNoProcess, EnterCounted<Sci::SCI_ADDTEXT>},
     {message::AppendText, EnterCounted<Sci::SCI_APPENDTEXT>},
@@ -324,6 +345,8 @@ constexpr HandlerRow kRows[] = {
     {message::InsertText, InsertText},
     {message::ReplaceTargetNoProcess, ReplaceTarget},
     {message::AddStyledText, AddStyledText},
+    {message::LinesJoin, LinesJoin},
+    {message::LinesSplit, LinesSplit},
     {message::GetText, GetText},
     {message::GetLine, GetLine},
     {message::GetCurLine, GetCurLine},
@@ -335,7 +358,6 @@ constexpr HandlerRow kRows[] = {
     {message::TargetAsUTF8, TargetAsUtf8},
     {message::SetLengthForEncode, SetLengthForEncode},
     {message::EncodedFromUTF8, EncodedFromUtf8},
-    {message::AutoCShow, AutoCShow},
 };
 
 } // namespace

@@ -45,6 +45,21 @@ public:
     // its groups took, \a \b \f \n \r \t \v and \\ the characters.
     std::string Substituted(std::string_view replacement);
 
+    // Before the text changes: what the groups took goes along with it. Moved gives a place's
+    // place behind the change.
+    template <typename Move>
+    void TextChanges(Move moved)
+    {
+        const bool onlyMatch = m_groupsAre == Groups::None;
+        if (!onlyMatch)
+            KeepGroups();
+        for (Range& group : m_groups) {
+            group = {moved(group.start), moved(group.end)};
+            if (onlyMatch)
+                return;
+        }
+    }
+
     // How many searches went on for too long.
     long Stopped() const { return m_stopped; }
 

@@ -1,5 +1,6 @@
 #include "engine/text/TextIndex.h"
 
+#include "engine/text/Characters.h"
 #include "engine/text/Utf.h"
 
 #include <algorithm>
@@ -25,17 +26,6 @@ std::uintptr_t Word(long value)
     return static_cast<std::uintptr_t>(value);
 }
 
-bool IsContinuation(char byte)
-{
-    return (byte & 0xC0) == 0x80;
-}
-
-long WidthOf(char lead)
-{
-    const auto byte = static_cast<unsigned char>(lead);
-    return byte < 0x80 ? 1 : byte < 0xE0 ? 2 : byte < 0xF0 ? 3 : 4;
-}
-
 } // namespace
 
 // While a change is under way the text is the older one until its length differs.
@@ -52,6 +42,9 @@ long TextIndex::Length() const
         m_bytes = m_raw.Length();
         m_units = WalkToByte({}, m_bytes).unit;
         m_unitsAreKnown = true;
+        m_hasNoncharacters = false;
+        if (m_units != m_bytes)
+            LookForNoncharacters(0, m_bytes);
     }
     return m_units;
 }
@@ -115,6 +108,7 @@ void TextIndex::ChangeDone(long insertedUnits) const
         m_lineIndexIsWrong |= m_change.touchesCrLf;
         m_units -= m_change.deletedUnits;
         m_bytes -= m_change.deleted;
+        m_hasNoncharacters = m_hasNoncharacters && m_bytes > 0;
         MovePlaces(m_change, -m_change.deletedUnits);
         return;
     }
@@ -122,7 +116,20 @@ void TextIndex::ChangeDone(long insertedUnits) const
     const long units = insertedUnits >= 0 ? insertedUnits : WalkToByte({0, at}, at + inserted).unit;
     m_units += units;
     m_bytes += inserted;
+    if (units != inserted)
+        LookForNoncharacters(at, at + inserted);
     MovePlaces(m_change, units);
+}
+
+// Around as well, for the case that the bytes make a character with what stands beside them.
+void TextIndex::LookForNoncharacters(long start, long end) const
+{
+    start = std::max(0L, start - kLongestCharacter);
+    end = std::min(m_raw.Length(), end + kLongestCharacter);
+    for (; start < end && !m_hasNoncharacters; start += kWindow) {
+        const long stop = std::min(end, start + kWindow + kLongestCharacter);
+        m_hasNoncharacters = HasNoncharacter(m_raw.Bytes(start, stop));
+    }
 }
 
 // One where text goes in moves behind it, where the next is likely to go in.

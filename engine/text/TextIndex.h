@@ -47,6 +47,14 @@ public:
 
     bool IsAscii() const;
 
+    // Whether there are any, or were when the text was last empty.
+    bool MayHaveNoncharacters() const
+    {
+        if (!m_unitsAreKnown)
+            Length();
+        return m_hasNoncharacters;
+    }
+
     // A change of the text: announced while the text is as it was, done once it is in. What is
     // asked in between is answered for the text as it stands at that moment.
     void InsertionBegins(BytePos at, long bytes);
@@ -82,6 +90,7 @@ private:
     UnitPos UnitsOf(BytePos position) const;
     void ChangeBegins(BytePos at);
     void ChangeDone(long insertedUnits) const; // -1: they are to be counted
+    void LookForNoncharacters(long start, long end) const;
     void Settle() const;
     void MovePlaces(const Change& change, long units) const;
     bool TouchesCrLf(BytePos at, long bytes) const;
@@ -100,6 +109,7 @@ private:
     mutable Change m_change;
     mutable bool m_lineIndexIsWrong = false;
     mutable bool m_unitsAreKnown = false;
+    mutable bool m_hasNoncharacters = false;
     mutable long m_units = 0;  // in the text
     mutable long m_bytes = 0;  // likewise; both while no change is under way
     mutable long m_walked = 0; // bytes, since there was no line index

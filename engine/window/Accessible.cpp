@@ -1,5 +1,7 @@
 #include "engine/window/Accessible.h"
 
+#include "engine/text/Characters.h"
+
 #include <QAccessible>
 #include <QTextBoundaryFinder>
 
@@ -217,7 +219,7 @@ void Accessible::setSelection(int, int startOffset, int endOffset)
 QRect Accessible::characterRect(int offset) const
 {
     const long at = m_engine.Bytes(Offset(offset));
-    const long next = Ask(Sci::SCI_POSITIONAFTER, at);
+    const long next = CharacterEnd(m_engine.raw, Ask(Sci::SCI_POSITIONAFTER, at));
     const long line = Ask(Sci::SCI_LINEFROMPOSITION, at);
     const auto x = [this](long position) {
         return static_cast<int>(Ask(Sci::SCI_POINTXFROMPOSITION, 0, position));

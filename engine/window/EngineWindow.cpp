@@ -23,12 +23,20 @@ using Sci = QsciScintillaBase;
 
 // Tells what an event of the user's has changed, once the event is over.
 template <typename Handle>
-bool TellAfter(Handle handle)
+bool TellAfter(Engine& engine, Handle handle)
 {
     bool handled = false;
     {
         const ChangeReporter::Scope scope;
-        handled = handle();
+        if (engine.text.MayHaveNoncharacters()) {
+            const QPointer<QObject> alive(&engine.window);
+            engine.wholeCharacters.Begin();
+            handled = handle();
+            if (alive)
+                engine.wholeCharacters.End();
+        } else {
+            handled = handle();
+        }
     }
     if (ChangeReporter::AnyPending())
         ChangeReporter::FlushAll();
@@ -114,6 +122,12 @@ EngineWindow::EngineWindow(QWidget* parent) : QsciScintillaBase(parent), m_engin
     });
 }
 
+// The stock engine tells of a list that it takes down with it.
+EngineWindow::~EngineWindow()
+{
+    disconnect(this, nullptr, this, nullptr);
+}
+
 void EngineWindow::OnModified(int position, int type, const char* /*text*/, int length,
                               int /*linesAdded*/, int line, int foldNow, int foldPrev, int token,
                               int annotationLinesAdded)
@@ -139,12 +153,12 @@ LRESULT EngineWindow::Procedure(HWND window, UINT message, WPARAM wParam, LPARAM
 
 bool EngineWindow::event(QEvent* event)
 {
-    return TellAfter([&] { return QsciScintillaBase::event(event); });
+    return TellAfter(m_engine, [&] { return QsciScintillaBase::event(event); });
 }
 
 bool EngineWindow::viewportEvent(QEvent* event)
 {
-    return TellAfter([&] { return QsciScintillaBase::viewportEvent(event); });
+    return TellAfter(m_engine, [&] { return QsciScintillaBase::viewportEvent(event); });
 }
 
 QMimeData* EngineWindow::toMimeData(const QByteArray& text, bool rectangular) const
@@ -161,6 +175,7 @@ void EngineWindow::TypeText(const QString& text)
         m_engine.reporter.Tell(notify::ModifyAttemptReadOnly);
         return;
     }
+    m_engine.wholeCharacters.BeforeTyping();
     QInputMethodEvent commit;
     commit.setCommitString(text);
     QsciScintillaBase::inputMethodEvent(&commit);
@@ -261,6 +276,8 @@ void EngineWindow::keyPressEvent(QKeyEvent* event)
         event->accept();
         return;
     }
+    if (!text.isEmpty() && text.front().isPrint() && !isCommand)
+        m_engine.wholeCharacters.BeforeTyping();
     QsciScintillaBase::keyPressEvent(event);
 }
 

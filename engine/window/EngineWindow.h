@@ -16,6 +16,7 @@ class EngineWindow : public QsciScintillaBase
 
 public:
     explicit EngineWindow(QWidget* parent);
+    ~EngineWindow() override;
 
     // The function for direct calls; the instance is a pointer to the window.
     static LRESULT Direct(LRESULT instance, UINT message, WPARAM wParam, LPARAM lParam);

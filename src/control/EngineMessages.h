@@ -170,9 +170,11 @@ inline constexpr int kDefaultModEventMask =
     modification::InsertText | modification::DeleteText | modification::ChangeFold;
 
 // Messages outside the table, which have no operation of the control.
-inline constexpr UINT kRestyle = 2494;       // the text's styles are stale
+inline constexpr UINT kRestyle = 2494; // the text's styles are stale
+// What stands beside the lines in margin 0, in place of what stood there. A text ends at its first
+// line end.
 inline constexpr UINT kExtendedTexts = 4011; // wParam: std::map<int, std::u16string>*, by line
-inline constexpr UINT kExtendedText = 4012;  // wParam: UTF-16, lParam: how many units
+inline constexpr UINT kExtendedText = 4012;  // wParam: UTF-16, a line for each; lParam: its units
 
 inline constexpr const char16_t* kWindowClass = u"ZNBaseEditorWin";
 inline constexpr const char16_t* kModule = u"ZNBaseEditor";

@@ -162,13 +162,18 @@ QString CZNCoreEditorControl::GetSelText()
 {
     const long start = GetSelectionStart(1);
     const long end = GetSelectionEnd(1);
-    long units = std::max(0L, end - start);
+    LRESULT room = std::max(0L, end - start) + 1;
     // The text of a rectangle has a line end of its own for each line, the last one too.
-    if (SelectionIsRectangle(1))
-        units += 2L * (LineFromPosition(end, 1) - LineFromPosition(start, 1) + 1);
-    std::vector<char16_t> buffer(static_cast<std::size_t>(units) + 1, 0);
-    GetSelText(buffer.data(), 1);
-    return QString::fromUtf16(buffer.data());
+    WPARAM told = 0;
+    if (SelectionIsRectangle(1)) {
+        room = std::max(room, Call(engine::message::GetSelText, 0, 0, 1));
+        told = static_cast<WPARAM>(room);
+    }
+    std::u16string buffer(static_cast<std::size_t>(room), u'\0');
+    Call(engine::message::GetSelText, told, Address(buffer.data()), 1);
+    const std::u16string_view text = buffer.c_str();
+    return QString(reinterpret_cast<const QChar*>(text.data()),
+                   static_cast<qsizetype>(text.size()));
 }
 
 void CZNCoreEditorControl::AddText(int length, const char16_t* text, int direct)

@@ -211,7 +211,11 @@ TEST(MessageWalk, NumbersOutsideTheTableAnswerNothing)
 {
     EngineUnderTest engine;
     engine.SetText(kMixed);
-    std::map<UINT, bool> known{{msg::GetDirectFunction, true}, {msg::GetDirectPointer, true}};
+    std::map<UINT, bool> known{{msg::GetDirectFunction, true},
+                               {msg::GetDirectPointer, true},
+                               {engine::kRestyle, true},
+                               {engine::kExtendedTexts, true},
+                               {engine::kExtendedText, true}};
     for (const MessageRow& row : engine::kMessageRows)
         known[row.number] = true;
     for (UINT number = 0; number <= 5000; ++number) {

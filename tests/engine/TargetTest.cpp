@@ -1,0 +1,138 @@
+// The target and the groups of an expression go along with the text.
+#include "tests/engine/EngineFixture.h"
+
+#include <gtest/gtest.h>
+
+namespace msg = engine::message;
+
+namespace {
+
+class Targets : public testing::Test
+{
+protected:
+    void SetTarget(long start, long end)
+    {
+        m_engine.Send(msg::SetTargetStart, static_cast<WPARAM>(start));
+        m_engine.Send(msg::SetTargetEnd, static_cast<WPARAM>(end));
+    }
+    std::pair<long, long> Target() const
+    {
+        return {m_engine.Send(msg::GetTargetStart), m_engine.Send(msg::GetTargetEnd)};
+    }
+    void InsertAt(long position, const char16_t* text)
+    {
+        m_engine.Send(msg::InsertText, static_cast<WPARAM>(position), text);
+    }
+
+    EngineUnderTest m_engine;
+};
+
+using Places = std::pair<long, long>;
+
+} // namespace
+
+TEST_F(Targets, GoAlongWithInsertions)
+{
+    m_engine.SetText(u"one two three");
+    SetTarget(4, 7);
+    InsertAt(0, u"\u00e9\u00e9");
+    EXPECT_EQ(Target(), Places(6, 9));
+    InsertAt(7, u"--");
+    EXPECT_EQ(Target(), Places(6, 11));
+    InsertAt(11, u"!");
+    EXPECT_EQ(Target(), Places(6, 11));
+}
+
+TEST_F(Targets, ShrinkWithWhatIsDeleted)
+{
+    m_engine.SetText(u"one two three");
+    SetTarget(4, 7);
+    m_engine.Send(msg::SetSel, 2, 5);
+    m_engine.Send(msg::Clear);
+    EXPECT_EQ(Target(), Places(2, 4));
+    m_engine.Send(msg::ClearAll);
+    EXPECT_EQ(Target(), Places(0, 0));
+}
+
+TEST_F(Targets, CutNoCharacterOfANewText)
+{
+    const std::u16string emoji = u"\U0001F600\U0001F601\U0001F602";
+    m_engine.SetText(u"abcdefghijkl");
+    SetTarget(3, 6);
+    m_engine.SetText(emoji);
+    m_engine.Send(msg::ReplaceTargetNoProcess, 0, u"");
+    EXPECT_EQ(m_engine.Text(), emoji);
+}
+
+TEST_F(Targets, AreKeptInTheText)
+{
+    m_engine.SetText(u"abc");
+    SetTarget(-1, 100);
+    EXPECT_EQ(Target(), Places(0, 3));
+    m_engine.Send(msg::ReplaceTargetNoProcess, 1, u"x");
+    EXPECT_EQ(m_engine.Text(), u"x");
+}
+
+TEST_F(Targets, GoAlongInTheOtherWindowOfAText)
+{
+    EngineUnderTest second;
+    m_engine.SetText(u"one two");
+    second.Send(msg::SetDocPointer, 0, m_engine.Send(msg::GetDocPointer));
+    SetTarget(4, 7);
+    second.Send(msg::InsertText, 0, u"- ");
+    EXPECT_EQ(Target(), Places(6, 9));
+}
+
+TEST_F(Targets, OfAnExpressionKeepTheirGroups)
+{
+    m_engine.SetText(u" key = value");
+    SetTarget(0, 12);
+    m_engine.Send(msg::SetSearchFlags, 0x00200000); // a regular expression
+    ASSERT_EQ(m_engine.Send(msg::SearchInTarget, static_cast<WPARAM>(-1),
+                            u"\\(k[a-z]*\\) = \\(v[a-z]*\\)"),
+              1);
+    InsertAt(0, u"\u4e2d\u6587 ");
+    m_engine.Send(msg::ReplaceTargetRE, static_cast<WPARAM>(-1), u"\\2 = \\1");
+    EXPECT_EQ(m_engine.Text(), u"\u4e2d\u6587  value = key");
+}
+
+TEST_F(Targets, OfAnExpressionWhoseMatchWasCutPutInWhatIsLeft)
+{
+    m_engine.SetText(u"abc\u00e9\u00e9\u00e9");
+    SetTarget(0, 6);
+    m_engine.Send(msg::SetSearchFlags, 0x00200000);
+    ASSERT_EQ(m_engine.Send(msg::SearchInTarget, static_cast<WPARAM>(-1), u"\u00e9*$"), 3);
+    m_engine.SetText(u"\U0001F600\U0001F601");
+    m_engine.Send(msg::ReplaceTargetRE, static_cast<WPARAM>(-1), u"<\\0>");
+    EXPECT_EQ(m_engine.Text(), u"<>\U0001F600\U0001F601");
+}
+
+TEST_F(Targets, SayWhichLinesAreJoinedAndSplit)
+{
+    m_engine.SetText(u"one\ntwo\nthree\nfour");
+    SetTarget(4, 13);
+    m_engine.Send(msg::LinesJoin);
+    EXPECT_EQ(m_engine.Text(), u"one\ntwo three\nfour");
+    EXPECT_EQ(Target(), Places(4, 13));
+    const LRESULT width = m_engine.Send(msg::TextWidth, 0, u"three ");
+    m_engine.Send(msg::LinesSplit, static_cast<WPARAM>(width));
+    EXPECT_EQ(m_engine.Text(), u"one\ntwo \nthree\nfour");
+}
+
+TEST_F(Targets, LeftBehindByATextDoNotHaveItsLinesJoined)
+{
+    m_engine.SetText(u"a\nb\nc\nd\ne");
+    SetTarget(0, 9);
+    m_engine.Send(msg::LinesJoin);
+    m_engine.SetText(u"x\ny");
+    m_engine.Send(msg::LinesJoin);
+    EXPECT_EQ(m_engine.Text(), u"x\ny");
+}
+
+TEST_F(Targets, LeaveLinesWithNoncharactersUnsplit)
+{
+    m_engine.SetText(u"one\xFFFFtwo three");
+    SetTarget(0, 5);
+    m_engine.Send(msg::LinesSplit, 1);
+    EXPECT_EQ(m_engine.Text(), u"one\xFFFFtwo three");
+}
