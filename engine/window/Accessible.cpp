@@ -112,7 +112,7 @@ QString Accessible::Read(Piece piece) const
     if (end <= start)
         return {};
     m_bytesRead += end - start;
-    return QString::fromStdU16String(ToUtf16(m_engine.raw.Bytes(start, end)));
+    return QStringView(ToUtf16(m_engine.raw.Bytes(start, end))).toString();
 }
 
 QString Accessible::text(int startOffset, int endOffset) const

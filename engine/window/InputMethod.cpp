@@ -47,7 +47,7 @@ InputMethod::Surroundings InputMethod::Around() const
 
 QString InputMethod::Text(long start, long end) const
 {
-    return QString::fromStdU16String(ToUtf16(m_engine.raw.Bytes(start, end)));
+    return QStringView(ToUtf16(m_engine.raw.Bytes(start, end))).toString();
 }
 
 int InputMethod::Units(long start, long end) const

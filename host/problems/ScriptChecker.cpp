@@ -57,7 +57,7 @@ std::vector<ScriptStatement> ScriptChecker::Statements() const
     std::vector<ScriptStatement> statements;
     for (const PartitionInfo& part : parts) {
         if (part.pszText)
-            statements.push_back({part.nFirst, QString::fromUtf16(part.pszText)});
+            statements.push_back({part.nFirst, FromUnits(part.pszText)});
     }
     return statements;
 }

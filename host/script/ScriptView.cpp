@@ -241,7 +241,7 @@ QString ScriptView::CaretText()
 QString ScriptView::Catalog()
 {
     const long caret = m_coreEditor.GetCurrentPos(1);
-    return QString::fromStdU16String(m_coreEditor.GetCatalogForOffset(static_cast<int>(caret), 1));
+    return QStringView(m_coreEditor.GetCatalogForOffset(static_cast<int>(caret), 1)).toString();
 }
 
 void ScriptView::CloseFrame()

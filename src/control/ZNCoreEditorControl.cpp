@@ -2,6 +2,7 @@
 
 #include "control/CopyClaim.h"
 #include "control/LineEnds.h"
+#include "platform/base/Units.h"
 #include "platform/system/Module.h"
 #include "platform/text/CodePage.h"
 #include "platform/windows/Timer.h"
@@ -170,10 +171,10 @@ QString CZNCoreEditorControl::GetSelText()
         told = static_cast<WPARAM>(room);
     }
     std::u16string buffer(static_cast<std::size_t>(room), u'\0');
-    Call(engine::message::GetSelText, told, Address(buffer.data()), 1);
-    const std::u16string_view text = buffer.c_str();
-    return QString(reinterpret_cast<const QChar*>(text.data()),
-                   static_cast<qsizetype>(text.size()));
+    const LRESULT written = Call(engine::message::GetSelText, told, Address(buffer.data()), 1) - 1;
+    if (m_bCarefulFiles && written > 0) // a NUL is a character as any other
+        return FromUnits({buffer.data(), static_cast<std::size_t>(std::min(written, room - 1))});
+    return FromUnits(buffer.c_str());
 }
 
 void CZNCoreEditorControl::AddText(int length, const char16_t* text, int direct)

@@ -31,7 +31,7 @@ QStringList ReadHistory(CRegProfile& profile, const char16_t* entry)
 {
     char16_t buffer[CRegProfile::kBufferUnits];
     QStringList items =
-        QString::fromUtf16(profile.GetProfileString(kSection, entry, buffer, u"")).split(kItemEnd);
+        FromUnits(profile.GetProfileString(kSection, entry, buffer, u"")).split(kItemEnd);
     if (items.last().isEmpty()) // behind the last separator
         items.removeLast();
     return items;

@@ -66,6 +66,17 @@ TEST_F(Editing, SelectedTextCountsUnits)
     EXPECT_EQ(range.cpMax, 5);
 }
 
+TEST_F(Editing, ASelectionIsReadBehindANulByACarefulHostAlone)
+{
+    const char16_t text[] = u"a\0b";
+    control.ClearAll(1);
+    control.AddTextNoProcess(3, text, 1);
+    control.SelectAll(1);
+    EXPECT_EQ(control.GetSelText(), QStringLiteral("a"));
+    control.SetCarefulFiles(true);
+    EXPECT_EQ(control.GetSelText().toStdU16String(), std::u16string(text, 3));
+}
+
 TEST_F(Editing, SelectedTextOfARectangleFitsItsBuffer)
 {
     control.SetEOLMode(1, 1);

@@ -233,6 +233,24 @@ TEST_F(Words, ALineIsReadWithItsEnd)
     EXPECT_EQ(control.GetLineText(-1), QString());
 }
 
+TEST_F(Words, TextMayBeginWithWhatLooksLikeAMark)
+{
+    for (const char16_t mark : {u'\xFEFF', u'\xFFFE'}) {
+        const std::u16string text = mark + std::u16string(u"ab");
+        PutPlain(text);
+        control.SetWordChars(text.c_str());
+        QString word;
+        control.GetWordFromPos(0, word, 0);
+        EXPECT_EQ(word.toStdU16String(), text.substr(0, 1));
+        EXPECT_TRUE(control.IsWordChar(mark));
+        EXPECT_EQ(control.GetLineText(0).toStdU16String(), text);
+        control.SetSel(0, 3, 1);
+        EXPECT_EQ(control.GetSelText().toStdU16String(), text);
+        EXPECT_EQ(control.GetFindString().toStdU16String(), text);
+        EXPECT_EQ(control.SelectionFilename().toStdU16String(), text);
+    }
+}
+
 TEST_F(Words, ALoneSurrogateIsReadAsTheReplacementCharacter)
 {
     PutPlain(std::u16string(u"a") + char16_t(0xD800) + u"b");

@@ -98,6 +98,15 @@ TEST_F(AccessibleText, GivesAnyRangeInUnits)
     EXPECT_EQ(m_face->text(-7, 4).toStdU16String(), kText.substr(0, 4));
 }
 
+TEST_F(AccessibleText, GivesACharacterThatLooksLikeAMark)
+{
+    for (const char16_t mark : {u'\xFEFF', u'\xFFFE'}) {
+        const std::u16string text = mark + std::u16string(u"ab");
+        m_engine.SetText(text);
+        EXPECT_EQ(m_face->text(0, 3).toStdU16String(), text);
+    }
+}
+
 TEST_F(AccessibleText, GivesLinesWordsAndCharacters)
 {
     m_engine.SetText(kText);

@@ -89,6 +89,15 @@ TEST_F(InputMethods, SurroundingTextIsTheLineOfTheCaret)
     EXPECT_EQ(AskText(Qt::ImTextAfterCursor), u"eite");
 }
 
+TEST_F(InputMethods, SurroundingTextMayBeginWithWhatLooksLikeAMark)
+{
+    for (const char16_t mark : {u'\xFEFF', u'\xFFFE'}) {
+        const std::u16string line = mark + std::u16string(u"ab");
+        Start(line, 3, 3);
+        EXPECT_EQ(Ask(Qt::ImSurroundingText).toString().toStdU16String(), line);
+    }
+}
+
 TEST_F(InputMethods, AnAnchorOnAnotherLineIsClampedToTheLine)
 {
     Start(u"one\ntwo\nthree", 0, 6);

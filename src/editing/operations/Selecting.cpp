@@ -2,6 +2,7 @@
 #include "editing/ZNCoreEditorControlEx.h"
 
 #include "editing/operations/TextWindow.h"
+#include "platform/base/Units.h"
 
 #include <algorithm>
 #include <array>
@@ -48,7 +49,7 @@ QString CZNCoreEditorControlEx::SelectionFilename()
 {
     std::array<char16_t, 1000> buffer;
     SelectionExtend(buffer.data(), static_cast<int>(buffer.size()), IsFilenameChar, true);
-    return QString::fromUtf16(buffer.data());
+    return FromUnits(buffer.data());
 }
 
 void CZNCoreEditorControlEx::SelectionExtend(char16_t* buffer, int length, bool (*accept)(char16_t),

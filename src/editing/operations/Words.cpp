@@ -1,5 +1,6 @@
 // CZNCoreEditorControlEx: access to words, lines and the selection.
 #include "editing/ZNCoreEditorControlEx.h"
+#include "platform/base/Units.h"
 
 namespace {
 
@@ -42,13 +43,13 @@ QString CZNCoreEditorControlEx::GetLineText(int line)
 {
     const long length = LineLength(line, 1); // 0 for a line that is not there
     const long start = length > 0 ? PositionFromLine(line, 1) : 0;
-    return QString::fromStdU16String(TextBetween(start, start + length));
+    return FromUnits(TextBetween(start, start + length));
 }
 
 int CZNCoreEditorControlEx::GetWordFromPos(long position, QString& word, int onlyWordChars)
 {
-    word = QString::fromStdU16String(TextBetween(WordStartPosition(position, onlyWordChars, 1),
-                                                 WordEndPosition(position, onlyWordChars, 1)));
+    word = FromUnits(TextBetween(WordStartPosition(position, onlyWordChars, 1),
+                                 WordEndPosition(position, onlyWordChars, 1)));
     return 1;
 }
 
@@ -61,7 +62,7 @@ int CZNCoreEditorControlEx::GetWordFromPos(const CPoint& point, QString& word, i
 
 void CZNCoreEditorControlEx::SetWordChars(const char16_t* characters)
 {
-    m_wordChars = QString::fromUtf16(characters);
+    m_wordChars = FromUnits(characters ? characters : u"");
     CZNCoreEditorControl::SetWordChars(characters, 1);
 }
 
@@ -102,7 +103,7 @@ QString CZNCoreEditorControlEx::GetFindString()
     }
     const auto [start, end] = GetSelection();
     if (end - start <= kLongestFindString)
-        found = QString::fromStdU16String(TextBetween(start, end));
+        found = FromUnits(TextBetween(start, end));
     return found.contains(u'\r') || found.contains(u'\n') ? QString() : found;
 }
 
