@@ -220,6 +220,21 @@ LRESULT UsePopUp(Engine& engine, WPARAM wParam, LPARAM)
     return 0;
 }
 
+// Further carets and selections look as the main one does.
+template <UINT Number, UINT OfOthers>
+LRESULT SetSelectionColour(Engine& engine, WPARAM use, LPARAM colour)
+{
+    if (use)
+        engine.raw.Send(OfOthers, static_cast<WPARAM>(colour));
+    return engine.raw.Send(Number, use, colour);
+}
+
+LRESULT SetCaretFore(Engine& engine, WPARAM colour, LPARAM lParam)
+{
+    engine.raw.Send(Sci::SCI_SETADDITIONALCARETFORE, colour);
+    return engine.raw.Send(Sci::SCI_SETCARETFORE, colour, lParam);
+}
+
 // Whether the window is the list that completion shows, or stands in it.
 LRESULT IsAutoCHwnd(Engine& engine, WPARAM wParam, LPARAM)
 {
@@ -258,6 +273,9 @@ constexpr HandlerRow kRows[] = {
     {message::SetStatus, SetStatus},
     {message::GetStatus, GetStatus},
     {kRestyle, Restyle},
+    {message::SetSelFore, SetSelectionColour<Sci::SCI_SETSELFORE, Sci::SCI_SETADDITIONALSELFORE>},
+    {message::SetSelBack, SetSelectionColour<Sci::SCI_SETSELBACK, Sci::SCI_SETADDITIONALSELBACK>},
+    {message::SetCaretFore, SetCaretFore},
     {message::UsePopUp, UsePopUp},
     {message::IsAutoCHwnd, IsAutoCHwnd},
 };

@@ -218,26 +218,36 @@ LRESULT GetCurLine(Engine& engine, WPARAM wParam, LPARAM lParam)
     return caret - start;
 }
 
-// Rectangles and selections of several pieces have more text than there is between the ends that
-// the window tells. A caller who does not say his room, in units with the terminator, has room for
-// that; asked without a buffer, the answer is what all of it takes.
-LRESULT GetSelText(Engine& engine, WPARAM wParam, LPARAM lParam)
+// What the stock engine makes of a rectangle or of several pieces; NULs are blanks in it.
+std::u16string PiecesText(const Engine& engine)
 {
     const auto size =
         static_cast<std::size_t>(std::max<LRESULT>(engine.raw.Send(Sci::SCI_GETSELTEXT), 1));
     std::string bytes(size, '\0'); // with its terminator
     engine.raw.Send(Sci::SCI_GETSELTEXT, 0, bytes.data());
     bytes.pop_back();
-    std::u16string text = ToUtf16(bytes);
+    return ToUtf16(bytes);
+}
+
+// Rectangles and selections of several pieces have more text than there is between the ends that
+// the window tells. A caller who does not say his room, in units with the terminator, has room for
+// that: of several pieces he gets the one with these ends. Asked without a buffer, the answer is
+// what all of it takes.
+LRESULT GetSelText(Engine& engine, WPARAM wParam, LPARAM lParam)
+{
     auto* buffer = reinterpret_cast<char16_t*>(lParam);
+    const BytePos start = {static_cast<long>(engine.raw.Send(Sci::SCI_GETSELECTIONSTART))};
+    const BytePos end = {static_cast<long>(engine.raw.Send(Sci::SCI_GETSELECTIONEND))};
+    const long between = engine.Units(end.value) - engine.Units(start.value);
+    const bool isRectangle = engine.raw.Send(Sci::SCI_SELECTIONISRECTANGLE) != 0;
+    const bool hasPieces = isRectangle || engine.raw.Send(Sci::SCI_GETSELECTIONS) > 1;
+    const long room = wParam > 0 ? static_cast<long>(wParam) - 1 : between;
+    const bool isOnePiece = !hasPieces || (!isRectangle && buffer && wParam == 0);
+    if (isOnePiece)
+        return (buffer ? Read(engine, start, end, room, buffer) : between) + 1;
+    std::u16string text = PiecesText(engine);
     if (!buffer)
         return static_cast<LRESULT>(text.size()) + 1;
-    const auto edge = [&engine](UINT number) {
-        return engine.Units(static_cast<long>(engine.raw.Send(number)));
-    };
-    const long room = wParam > 0
-                          ? static_cast<long>(wParam) - 1
-                          : edge(Sci::SCI_GETSELECTIONEND) - edge(Sci::SCI_GETSELECTIONSTART);
     text.resize(std::min(text.size(), static_cast<std::size_t>(std::max(room, 0L))));
     std::copy_n(text.c_str(), text.size() + 1, buffer);
     return static_cast<LRESULT>(text.size()) + 1;

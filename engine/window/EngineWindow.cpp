@@ -15,6 +15,7 @@
 #include <QWheelEvent>
 
 #include <cstdlib>
+#include <utility>
 
 namespace engine {
 namespace {
@@ -260,18 +261,62 @@ void EngineWindow::focusOutEvent(QFocusEvent* event)
     QsciScintillaBase::focusOutEvent(event);
 }
 
+// The stock handler takes Control for columns, where Alt is the window manager's. Here Alt makes
+// columns, and Control sets one more caret.
 void EngineWindow::mousePressEvent(QMouseEvent* event)
 {
     EndComposition();
-    QsciScintillaBase::mousePressEvent(event);
+    const Qt::KeyboardModifiers held = event->modifiers();
+    const bool isLeft = event->button() == Qt::LeftButton;
+    m_addsCaret = isLeft && held == Qt::ControlModifier && m_carets.Add(event->pos());
+    if (m_addsCaret)
+        return;
+    const bool isColumn = isLeft && held.testFlag(Qt::AltModifier);
+    if (!isColumn && !held.testFlag(Qt::ControlModifier)) {
+        QsciScintillaBase::mousePressEvent(event);
+        return;
+    }
+    Qt::KeyboardModifiers told = held & ~(Qt::AltModifier | Qt::ControlModifier);
+    told.setFlag(Qt::ControlModifier, isColumn || !m_carets.IsInText(event->pos()));
+    QMouseEvent press(event->type(), event->position(), event->globalPosition(), event->button(),
+                      event->buttons(), told);
+    QsciScintillaBase::mousePressEvent(&press);
+    event->setAccepted(press.isAccepted());
 }
 
-// The stock handler takes a pair of surrogates for something that cannot be printed.
+void EngineWindow::mouseMoveEvent(QMouseEvent* event)
+{
+    if (m_addsCaret && event->buttons().testFlag(Qt::LeftButton))
+        m_carets.Extend(event->pos());
+    else
+        QsciScintillaBase::mouseMoveEvent(event);
+}
+
+void EngineWindow::mouseReleaseEvent(QMouseEvent* event)
+{
+    if (!std::exchange(m_addsCaret, false))
+        QsciScintillaBase::mouseReleaseEvent(event);
+}
+
+// The stock handler types the character of a key that no command took, whatever is held with it,
+// and takes a pair of surrogates for something that cannot be printed. AltGr counts as none of the
+// modifiers that make a command.
 void EngineWindow::keyPressEvent(QKeyEvent* event)
 {
     const QString text = event->text();
-    const bool isCommand = event->modifiers() & (Qt::ControlModifier | Qt::MetaModifier);
-    if (!text.isEmpty() && text.front().isHighSurrogate() && !isCommand) {
+    const bool isCommand =
+        event->modifiers() & (Qt::ControlModifier | Qt::AltModifier | Qt::MetaModifier);
+    if (event->key() == Qt::Key_Escape)
+        m_carets.Drop();
+    if (isCommand && !text.isEmpty()) {
+        QKeyEvent command(event->type(), event->key(), event->modifiers(), event->nativeScanCode(),
+                          event->nativeVirtualKey(), event->nativeModifiers(), {},
+                          event->isAutoRepeat());
+        QsciScintillaBase::keyPressEvent(&command);
+        event->setAccepted(command.isAccepted());
+        return;
+    }
+    if (!text.isEmpty() && text.front().isHighSurrogate()) {
         TypeText(text);
         event->accept();
         return;

@@ -4,6 +4,7 @@
 #pragma once
 
 #include "engine/core/Engine.h"
+#include "engine/window/Carets.h"
 #include "engine/window/InputMethod.h"
 
 #include <QMimeData>
@@ -34,7 +35,9 @@ protected:
     void inputMethodEvent(QInputMethodEvent* event) override;
     QVariant inputMethodQuery(Qt::InputMethodQuery query) const override;
     void keyPressEvent(QKeyEvent* event) override;
+    void mouseMoveEvent(QMouseEvent* event) override;
     void mousePressEvent(QMouseEvent* event) override;
+    void mouseReleaseEvent(QMouseEvent* event) override;
     void paintEvent(QPaintEvent* event) override;
     void wheelEvent(QWheelEvent* event) override;
     QMimeData* toMimeData(const QByteArray& text, bool rectangular) const override;
@@ -50,7 +53,9 @@ private:
 
     Engine m_engine;
     InputMethod m_inputMethod{m_engine};
-    int m_turn = 0; // of the wheel, beyond its last whole step
+    Carets m_carets{m_engine.raw};
+    bool m_addsCaret = false; // the button that is down
+    int m_turn = 0;           // of the wheel, beyond its last whole step
 };
 
 // Makes the window class known. Once for the process.

@@ -23,7 +23,12 @@ namespace {
 class Hands : public testing::Test
 {
 protected:
-    Hands() { QApplication::clipboard()->clear(); }
+    Hands()
+    {
+        QApplication::clipboard()->clear();
+        m_engine.Window()->resize(600, 400);
+        m_engine.Send(msg::StyleSetFont, 0, u"DejaVu Sans Mono"); // columns of one width
+    }
 
     void Start(const std::u16string& text, long anchor = 0, long caret = 0)
     {
@@ -52,6 +57,29 @@ protected:
     {
         return {static_cast<int>(m_engine.Send(msg::PointXFromPosition, 0, LPARAM{position})) + 1,
                 static_cast<int>(m_engine.Send(msg::PointYFromPosition, 0, LPARAM{position})) + 3};
+    }
+
+    // As a keyboard sends it, with the character that the key would type alone.
+    bool PressWithText(int key, Qt::KeyboardModifiers held, const QString& text) const
+    {
+        QKeyEvent press(QEvent::KeyPress, key, held, text);
+        QApplication::sendEvent(m_engine.Window(), &press);
+        return press.isAccepted();
+    }
+
+    void Mouse(QEvent::Type type, long position, Qt::KeyboardModifiers held) const
+    {
+        const QPointF at = PointOf(position);
+        QMouseEvent event(type, at, Viewport()->mapToGlobal(at), Qt::LeftButton,
+                          type == QEvent::MouseButtonRelease ? Qt::NoButton : Qt::LeftButton, held);
+        QApplication::sendEvent(Viewport(), &event);
+    }
+
+    void Drag(long from, long to, Qt::KeyboardModifiers held) const
+    {
+        Mouse(QEvent::MouseButtonPress, from, held);
+        Mouse(QEvent::MouseMove, to, held);
+        Mouse(QEvent::MouseButtonRelease, to, held);
     }
 
     bool Drop(const QMimeData& data, long position, Qt::DropAction action) const
@@ -181,6 +209,113 @@ TEST_F(Hands, ARectangleIsCopiedAndPastedAsARectangle)
     m_engine.Send(msg::GotoPos, 2);
     m_engine.Send(msg::Paste);
     EXPECT_EQ(m_engine.Text(), u"b\u00e9a\nd\u00fcc\n\u4e2d\u4e2d");
+}
+
+TEST_F(Hands, AKeyThatNoCommandTakesTypesNothingWithControlOrAlt)
+{
+    Start(u"ab", 1, 1);
+    EXPECT_FALSE(PressWithText(Qt::Key_1, Qt::AltModifier, "1"));
+    EXPECT_FALSE(PressWithText(Qt::Key_Semicolon, Qt::ControlModifier, ";"));
+    EXPECT_FALSE(PressWithText(Qt::Key_K, Qt::ControlModifier | Qt::AltModifier, "k"));
+    EXPECT_FALSE(PressWithText(Qt::Key_K, Qt::MetaModifier, "k"));
+    EXPECT_FALSE(
+        PressWithText(Qt::Key_X, Qt::AltModifier, QString::fromStdU16String(u"\U0001F600")));
+    EXPECT_EQ(m_engine.Text(), u"ab");
+    EXPECT_TRUE(Changes().empty());
+}
+
+TEST_F(Hands, AKeyOfAltGrTypes)
+{
+    Start(u"");
+    EXPECT_TRUE(PressWithText(Qt::Key_At, Qt::NoModifier, "@"));
+    EXPECT_TRUE(PressWithText(Qt::Key_BraceLeft, Qt::GroupSwitchModifier, "{"));
+    EXPECT_TRUE(PressWithText(Qt::Key_A, Qt::ShiftModifier, "A"));
+    EXPECT_EQ(m_engine.Text(), u"@{A");
+}
+
+TEST_F(Hands, ACommandOfTheKeyboardRunsWhateverItsKeyWouldType)
+{
+    Start(u"abc");
+    EXPECT_TRUE(PressWithText(Qt::Key_A, Qt::ControlModifier, "\x01"));
+    EXPECT_TRUE(PressWithText(Qt::Key_X, Qt::ControlModifier, "x"));
+    EXPECT_EQ(m_engine.Text(), u"");
+}
+
+TEST_F(Hands, DraggingWithAltSelectsAColumn)
+{
+    Start(u"abcd\n\u00e9fgh\nijkl");
+    Drag(1, 13, Qt::AltModifier);
+    EXPECT_EQ(m_engine.Send(msg::SelectionIsRectangle), 1);
+    Press(Qt::Key_X);
+    EXPECT_EQ(m_engine.Text(), u"axd\n\u00e9xh\nixl");
+    Press(Qt::Key_Backspace);
+    EXPECT_EQ(m_engine.Text(), u"ad\n\u00e9h\nil");
+}
+
+TEST_F(Hands, AColumnOfNoWidthTypesAndPastesInEveryLine)
+{
+    Start(u"ab\ncd\nef");
+    Press(Qt::Key_Right);
+    Press(Qt::Key_Down, Qt::AltModifier | Qt::ShiftModifier);
+    Press(Qt::Key_Down, Qt::AltModifier | Qt::ShiftModifier);
+    QTest::keyClicks(m_engine.Window(), "xy");
+    EXPECT_EQ(m_engine.Text(), u"axyb\ncxyd\nexyf");
+    SetClipboard(u"12");
+    Press(Qt::Key_V, Qt::ControlModifier);
+    EXPECT_EQ(m_engine.Text(), u"axy12b\ncxy12d\nexy12f");
+    Press(Qt::Key_Backspace);
+    EXPECT_EQ(m_engine.Text(), u"axy1b\ncxy1d\nexy1f");
+}
+
+TEST_F(Hands, AColumnReachesOverShortLines)
+{
+    Start(u"abc\n\ndef");
+    Press(Qt::Key_End);
+    Press(Qt::Key_Down, Qt::AltModifier | Qt::ShiftModifier);
+    Press(Qt::Key_Down, Qt::AltModifier | Qt::ShiftModifier);
+    Press(Qt::Key_X);
+    EXPECT_EQ(m_engine.Text(), u"abcx\n   x\ndefx");
+}
+
+TEST_F(Hands, AClickWithControlAddsACaretAndEscapeTakesItAway)
+{
+    Start(u"ab cd ef", 1, 1);
+    for (const long place : {4, 7}) {
+        Mouse(QEvent::MouseButtonPress, place, Qt::ControlModifier);
+        Mouse(QEvent::MouseButtonRelease, place, Qt::ControlModifier);
+    }
+    Press(Qt::Key_X);
+    EXPECT_EQ(m_engine.Text(), u"axb cxd exf");
+    Mouse(QEvent::MouseButtonPress, 6, Qt::ControlModifier);
+    Mouse(QEvent::MouseButtonRelease, 6, Qt::ControlModifier);
+    Press(Qt::Key_Backspace);
+    EXPECT_EQ(m_engine.Text(), u"ab cxd ef");
+    Press(Qt::Key_Escape);
+    Press(Qt::Key_Y);
+    EXPECT_EQ(m_engine.Text().size(), 10u);
+}
+
+TEST_F(Hands, AClickWithControlAddsACaretToThoseOfAColumn)
+{
+    Start(u"ab\ncd\nef gh");
+    Press(Qt::Key_Right);
+    Press(Qt::Key_Down, Qt::AltModifier | Qt::ShiftModifier);
+    Mouse(QEvent::MouseButtonPress, 10, Qt::ControlModifier);
+    Mouse(QEvent::MouseButtonRelease, 10, Qt::ControlModifier);
+    QTest::keyClicks(m_engine.Window(), "xy");
+    EXPECT_EQ(m_engine.Text(), u"axyb\ncxyd\nef gxyh");
+}
+
+TEST_F(Hands, OfSeveralSelectionsTheTextOfTheLastOneIsGiven)
+{
+    Start(u"ab\u00e9cd");
+    Drag(0, 4, {});
+    Drag(1, 3, Qt::ControlModifier);
+    Drag(4, 5, Qt::ControlModifier);
+    char16_t text[] = u"....";
+    EXPECT_EQ(m_engine.Send(msg::GetSelText, 0, text), 2);
+    EXPECT_EQ(std::u16string(text), u"d");
+    EXPECT_EQ(text[2], u'.');
 }
 
 TEST_F(Hands, CaretKeysMoveOverWholeCharacters)

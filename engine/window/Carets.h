@@ -1,0 +1,37 @@
+// Carets: several of them in one window, set with the mouse. Typing, pasting and deleting act on
+// each; columns are the stock engine's.
+#pragma once
+
+#include "engine/text/Raw.h"
+
+#include <QPoint>
+
+namespace engine {
+
+class Carets
+{
+public:
+    explicit Carets(const Raw& raw);
+
+    // Points are the viewport's. In the text they are not in the margins.
+    bool IsInText(QPoint point) const;
+
+    // One more caret, which is the main one then; a caret that stands there goes. False: the point
+    // is none of the text's.
+    bool Add(QPoint point);
+
+    // The selection of the main caret goes to the point.
+    void Extend(QPoint point);
+
+    // Of several the main one stays.
+    void Drop();
+
+private:
+    long PositionAt(QPoint point) const;
+    void DissolveColumn();
+    bool Remove(long position);
+
+    const Raw& m_raw;
+};
+
+} // namespace engine
