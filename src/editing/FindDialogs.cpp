@@ -3,6 +3,7 @@
 namespace {
 
 IFindDialogs* g_dialogs = nullptr;
+GotoDialog g_gotoDialog = nullptr;
 
 } // namespace
 
@@ -16,4 +17,14 @@ IFindDialogs* GetFindDialogs()
 void SetFindDialogs(IFindDialogs* dialogs)
 {
     g_dialogs = dialogs;
+}
+
+GotoDialog GetGotoDialog()
+{
+    return g_gotoDialog;
+}
+
+void SetGotoDialog(GotoDialog dialog)
+{
+    g_gotoDialog = dialog;
 }

@@ -416,6 +416,8 @@ public:
 
     void Serve(CZNCoreEditorControlEx& control) override { served.push_back(&control); }
     void Forget(CZNCoreEditorControlEx& control) override { forgotten.push_back(&control); }
+    bool ShowFind(CZNCoreEditorControlEx&, const QString&, bool) override { return false; }
+    bool ShowReplace(CZNCoreEditorControlEx&, const QString&, bool) override { return false; }
 
     std::vector<CZNCoreEditorControlEx*> served;
     std::vector<CZNCoreEditorControlEx*> forgotten;
