@@ -90,6 +90,7 @@ constexpr CommandEntry kCommands[] = {
 #define ZN_OWN(id, handler, update) {id, Run<&View::handler>},
 #define ZN_OWN_PLAIN(id, handler) {id, Run<&View::handler>},
 #define ZN_OWN_RULED(id, handler, update, rule) {id, Run<&View::handler>},
+#define ZN_AGAIN(id, handler) {id, Run<&View::handler>},
 #define ZN_INDICATOR(id, update)
 #include "docview/ViewCommands.def"
 };
@@ -101,6 +102,7 @@ constexpr UpdateEntry kUpdates[] = {
 #define ZN_OWN(id, handler, update) {id, Update<&View::update>},
 #define ZN_OWN_PLAIN(id, handler)
 #define ZN_OWN_RULED(id, handler, update, rule) {id, Update<&View::update>},
+#define ZN_AGAIN(id, handler)
 #define ZN_INDICATOR(id, update) {id, Update<&View::update>},
 #include "docview/ViewCommands.def"
 };
@@ -129,6 +131,7 @@ constexpr UpdateEntry kUpdates[] = {
 #define ZN_OWN(id, handler, update)
 #define ZN_OWN_PLAIN(id, handler)
 #define ZN_OWN_RULED(id, handler, update, rule) ZN_RULE(id, update, rule)
+#define ZN_AGAIN(id, handler)
 #define ZN_INDICATOR(id, update)
 #include "docview/ViewCommands.def"
 

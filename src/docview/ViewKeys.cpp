@@ -1,5 +1,5 @@
-// CZNCoreEditorView: keys and commands on their way in, and the incremental search that owns the
-// keyboard while it runs.
+// CZNCoreEditorView: keys and commands on their way in. An incremental search owns the keyboard
+// while it runs.
 #include "docview/ZNCoreEditorView.h"
 
 namespace {
@@ -8,17 +8,6 @@ constexpr UINT kFirstCommand = 53890;
 constexpr UINT kLastCommand = 54069;
 constexpr UINT kIncrementalForward = 54024;
 constexpr UINT kIncrementalReverse = 54025;
-
-constexpr UINT kBackspace = 8;
-constexpr UINT kEnter = 13;
-constexpr UINT kEscape = 27;
-
-// A character that a text can be searched for.
-bool IsSearchable(char16_t unit)
-{
-    const QChar c(unit);
-    return c == u' ' || c == u'\t' || c.isSurrogate() || (c.isPrint() && !c.isSpace());
-}
 
 constexpr LPARAM kWord = 0xFFFF;
 
@@ -58,34 +47,4 @@ bool CZNCoreEditorView::HandleCommand(UINT id)
     if (id >= kFirstCommand && id <= kLastCommand)
         StopIncrementalSearch();
     return false;
-}
-
-bool CZNCoreEditorView::HandleInputCharacter(UINT character, UINT /*repeat*/, UINT /*flags*/)
-{
-    if (!IsSearching())
-        return false;
-    if (character == kBackspace)
-        return HandleDeleteBack();
-    if (character == kEscape || character == kEnter ||
-        !IsSearchable(static_cast<char16_t>(character))) {
-        StopIncrementalSearch();
-        return true;
-    }
-    m_searchText += QChar(static_cast<char16_t>(character));
-    return true;
-}
-
-bool CZNCoreEditorView::HandleDeleteBack()
-{
-    if (!IsSearching() || m_searchText.isEmpty())
-        return false;
-    m_searchText.chop(1);
-    return true;
-}
-
-void CZNCoreEditorView::StopIncrementalSearch()
-{
-    m_incrementalForward = false;
-    m_incrementalReverse = false;
-    m_coreEditor.SetReadOnly(m_savedReadOnly, 1);
 }

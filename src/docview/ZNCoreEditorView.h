@@ -50,6 +50,12 @@ public:
     // What is typed during an incremental search: true if the search has used it up.
     bool HandleInputCharacter(UINT character, UINT repeat, UINT flags);
     bool HandleDeleteBack();
+    void UpdateStatusMessage(); // composes the line of status, and tells who listens (SearchStatus)
+    // How many matches the text of the search has, and at most so many.
+    int CountIncrementalMatches(int most);
+    // Starts a search, goes to its next match, or turns it round.
+    void FindIncrementalForward();
+    void FindIncrementalReverse();
     void StopIncrementalSearch(); // the text is as writable as it was before the search
 
     // Commands and their rules, one pair for each row of the table
@@ -65,6 +71,7 @@ public:
 #define ZN_OWN_RULED(id, handler, update, rule)                                                    \
     void handler();                                                                                \
     void update(CCmdUI& ui);
+#define ZN_AGAIN(id, handler)
 #define ZN_INDICATOR(id, update) void update(CCmdUI& ui);
 #include "docview/ViewCommands.def"
 
@@ -108,6 +115,9 @@ private:
     {
         return m_incrementalForward || m_incrementalReverse;
     }
+    void StartIncremental(bool forward);
+    void FindIncremental(bool next);
+    void SayNotFound();
     void RefreshBraces();
     void OnUpdateUi(const CZNCoreEditorDoc& document);
     bool IsBraceAt(long position);

@@ -139,12 +139,12 @@ TEST_F(ViewKeys, ThatAreInNoTableReachTheText)
 
 TEST_F(ViewKeys, DuringASearchAreItsOwn)
 {
-    Put("abc", 0, 0);
-    Search();
+    Put("ab \tc", 0, 0);
+    view->OnCmdMsg(54024, nullptr);
     Type("b ");
     EXPECT_TRUE(view->HandleInputCharacter(u'\t', 1, 0));
     EXPECT_EQ(view->m_searchText, "b \t");
-    EXPECT_EQ(Control().GetText(), "abc");
+    EXPECT_EQ(Control().GetText(), "ab \tc");
     Press(Qt::Key_Backspace);
     EXPECT_EQ(view->m_searchText, "b ");
     EXPECT_TRUE(IsSearching());

@@ -1,0 +1,82 @@
+#include "docview/Goto.h"
+
+#include "docview/ZNCoreEditorView.h"
+#include "editing/FindDialogs.h"
+
+#include <QGridLayout>
+#include <QLabel>
+#include <QLineEdit>
+#include <QPushButton>
+
+namespace {
+
+// The digits that the text begins with, behind blanks and a sign; 0 for none. What no int holds
+// becomes the last one that it does.
+int NumberAtStart(const QString& text)
+{
+    qsizetype at = 0;
+    while (at < text.size() && text[at].isSpace())
+        ++at;
+    const bool isNegative = at < text.size() && text[at] == u'-';
+    if (at < text.size() && (isNegative || text[at] == u'+'))
+        ++at;
+    constexpr long kLargest = 0x7FFFFFFF;
+    constexpr int kBase = 10;
+    long number = 0;
+    for (; at < text.size() && text[at] >= u'0' && text[at] <= u'9'; ++at)
+        number = std::min(number * kBase + (text[at].unicode() - u'0'), kLargest);
+    return static_cast<int>(isNegative ? -number : number);
+}
+
+void AskForLine(HWND parent, int line, int lineCount)
+{
+    CGoto(AttachedWnd(parent), line, lineCount).DoModal();
+}
+
+[[maybe_unused]] const bool isKnown = (SetGotoDialog(AskForLine), true);
+
+} // namespace
+
+void CGoto::OnBuild(QWidget* window)
+{
+    window->setWindowTitle(QStringLiteral("Goto"));
+    auto* grid = new QGridLayout(window);
+    auto* line = AddControl(kLine, new QLineEdit);
+    auto* label = new QLabel(QStringLiteral("Goto Line :"));
+    label->setBuddy(line);
+    line->setAccessibleName(QStringLiteral("Goto Line"));
+    auto* range = AddControl(kRange, new QLabel);
+    auto* go = AddControl(IDOK, new QPushButton(QStringLiteral("&Go")));
+    go->setDefault(true);
+    grid->addWidget(label, 0, 0);
+    grid->addWidget(line, 0, 1);
+    grid->addWidget(range, 0, 2);
+    auto* buttons = new QHBoxLayout;
+    buttons->addStretch();
+    buttons->addWidget(go);
+    buttons->addWidget(AddControl(IDCANCEL, new QPushButton(QStringLiteral("&Cancel"))));
+    grid->addLayout(buttons, 1, 0, 1, 3);
+}
+
+bool CGoto::OnInitDialog()
+{
+    auto* line = GetDlgItem<QLineEdit>(kLine);
+    line->setText(QString::number(m_currentLine + 1));
+    line->setFocus();
+    line->selectAll();
+    GetDlgItem<QLabel>(kRange)->setText(QStringLiteral("(1 - %1)").arg(m_lineCount));
+    line->setAccessibleDescription(GetDlgItem<QLabel>(kRange)->text());
+    return false;
+}
+
+// Lines that the text has not are the engine's to refuse.
+void CGoto::OnOK()
+{
+    const int line = NumberAtStart(GetDlgItem<QLineEdit>(kLine)->text());
+    EndDialog(IDOK);
+    auto* view = dynamic_cast<CZNCoreEditorView*>(m_view);
+    if (!view || !view->GetSafeHwnd())
+        return;
+    view->GetCoreEditorControl()->GotoLineEnsureVisible(line - 1);
+    view->SetFocus();
+}
