@@ -8,7 +8,6 @@ int main(int argc, char** argv)
     ZNCoreEditorWidget editor;
     QObject::connect(&editor, &ZNCoreEditorWidget::modificationChanged, &editor,
                      &QWidget::setWindowModified);
-    editor.control().SetCarefulFiles(true);
     editor.openFile(QApplication::arguments().value(1));
     editor.resize(800, 600);
     editor.show();

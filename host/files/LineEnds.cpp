@@ -1,8 +1,8 @@
 #include "host/files/LineEnds.h"
 
+#include "control/TextPieces.h"
 #include "control/ZNCoreEditorControl.h"
 #include "host/files/Encodings.h"
-#include "host/files/TextPieces.h"
 
 #include <algorithm>
 #include <chrono>

@@ -1,6 +1,6 @@
 // ScriptDoc: what is asked before its file is written, and before its text goes.
+#include "control/LossCheck.h"
 #include "host/files/Encodings.h"
-#include "host/files/LossCheck.h"
 #include "host/script/ScriptDoc.h"
 #include "host/script/ScriptView.h"
 #include "platform/docview/DocTemplate.h"

@@ -116,7 +116,9 @@ bool Session::Store(const QString& path) const
 {
     QSaveFile file(path);
     const QByteArray bytes = ToBytes();
-    return file.open(QFile::WriteOnly) && file.write(bytes) == bytes.size() && file.commit();
+    // A commit forgets what went wrong when it wrote the last bytes.
+    return file.open(QFile::WriteOnly) && file.write(bytes) == bytes.size() && file.flush() &&
+           file.commit();
 }
 
 // A pipe or a device under that name would never end.

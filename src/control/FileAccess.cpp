@@ -4,6 +4,7 @@
 
 #include <algorithm>
 #include <array>
+#include <cerrno>
 
 #include <fcntl.h>
 #include <sys/stat.h>
@@ -28,11 +29,17 @@ FilePointer OpenForReading(const char16_t* path)
     if (descriptor < 0)
         return nullptr;
     struct stat status;
-    if (fstat(descriptor, &status) == 0 && S_ISREG(status.st_mode)) {
-        if (std::FILE* file = fdopen(descriptor, "rb"))
-            return FilePointer(file);
-    }
+    int reason = 0;
+    if (fstat(descriptor, &status) != 0)
+        reason = errno;
+    else if (!S_ISREG(status.st_mode))
+        reason = EISDIR;
+    else if (std::FILE* file = fdopen(descriptor, "rb"))
+        return FilePointer(file);
+    else
+        reason = errno;
     close(descriptor);
+    errno = reason;
     return nullptr;
 }
 

@@ -18,8 +18,8 @@ QByteArray NativePath(const char16_t* path);
 // Whether something stands at the path.
 bool PathExists(const char16_t* path);
 
-// Null for whatever is not a regular file or cannot be read: a folder, a device and a pipe are
-// refused, since a read from them fails late or never ends.
+// Null for whatever is not a regular file or cannot be read, with the reason in errno: a folder, a
+// device and a pipe are refused, as EISDIR, since a read from them fails late or never ends.
 FilePointer OpenForReading(const char16_t* path);
 
 // Whether every byte from where the file stands is ASCII. The file is at its start afterwards.

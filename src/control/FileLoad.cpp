@@ -6,8 +6,10 @@
 #include "control/FileAccess.h"
 #include "control/FileBlocks.h"
 #include "control/LineEnds.h"
+#include "platform/file/TargetFile.h"
 #include "platform/windows/Questions.h"
 
+#include <cerrno>
 #include <climits>
 #include <new>
 
@@ -54,27 +56,54 @@ const FilePolicy& CZNCoreEditorControl::Policy() const
     return m_bCarefulFiles ? kCarefulFiles : kPlainFiles;
 }
 
+// Without an engine a load would leave nothing under the file's name, and a save would empty it.
+bool CZNCoreEditorControl::CanHoldText() const
+{
+    return m_hEditorDllHandle &&
+           (!Policy().needsWindow || (GetSafeHwnd() && m_pDirectFunction != nullptr));
+}
+
+bool CZNCoreEditorControl::Fails(FileProblem problem, const char16_t* path)
+{
+    m_fileResult = {problem, path ? QString::fromUtf16(path) : QString()};
+    return false;
+}
+
 // Without care, a file that is there but cannot be read has cost the old document its autosave
 // copy; the text stands as it was.
 bool CZNCoreEditorControl::OpenFile(const char16_t* path, Encoding encoding)
 {
+    if (!CanHoldText())
+        return Fails(FileProblem::NoEngine, path);
     if (!PathExists(path))
-        return false;
+        return Fails(FileResult::OfRead(errno), path);
     const bool opensFirst = Policy().opensFirst;
     if (!opensFirst)
         CleanUpAutoSave();
     FilePointer file = OpenForReading(path);
     if (!file)
-        return false;
-    if (opensFirst)
+        return Fails(FileResult::OfRead(errno), path);
+    m_fileResult = {};
+    if (opensFirst) {
         CleanUpAutoSave();
+        TargetFile::RemoveAbandoned(NativePath(path));
+    }
+    const bool wasReadOnly = Policy().opensReadOnly && GetReadOnly(1) != 0;
+    if (wasReadOnly)
+        SetReadOnly(0, 1);
     ClearAll(1);
     SetUndoCollection(0, 1);
     ReadInFileContents(file.release(), encoding, false);
     SetSel(0, 0, 1);
     SetUndoCollection(1, 1);
+    if (Policy().forgetsHistory)
+        EmptyUndoBuffer(1);
+    if (wasReadOnly)
+        SetReadOnly(1, 1);
     SetSavePoint(1);
     m_strFileName = QString::fromUtf16(path);
+    if (m_bCutShort)
+        Fails(FileProblem::CutShort, path);
     OfferAutoSaveCopy(encoding);
     SetAutoSave(m_bAutoSaveOn, m_nAutoSaveMinutes);
     return true;
@@ -162,6 +191,7 @@ void CZNCoreEditorControl::ReplaceTextWithFile(const char16_t* path, Encoding en
     FileBlocks blocks(file.get(), Policy().replace);
     int selector = lineends::kAsItIs;
     bool ranOut = false;
+    BeginUndoAction(1);
     try {
         bool hadMark = false;
         blocks.Start(encoding, hadMark);
@@ -176,6 +206,7 @@ void CZNCoreEditorControl::ReplaceTextWithFile(const char16_t* path, Encoding en
         ranOut = true;
         ShowText(GetHwnd(), kNoMemoryText);
     }
+    EndUndoAction(1);
     m_bCutShort = m_bCutShort || blocks.HasRest() || ranOut;
     SetEnableReconciler(true, 1);
     file.reset();

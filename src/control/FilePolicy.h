@@ -24,6 +24,9 @@ struct FilePolicy
     bool passesUnwritten; // an empty autosave copy was begun and never written
     bool sparesClaimed;   // the copy of a control that is alive is nobody else's
     bool keepsUtf8;       // a copy that could be in UTF-8 is, if its file is
+    bool needsWindow;     // without a window of the engine there is no text to load or to save
+    bool opensReadOnly;   // a load reaches a text that is read-only, and leaves it so
+    bool forgetsHistory;  // what was undone before a load cannot be undone behind it
 };
 
 // A character over the end of a block may lose bytes: later blocks are converted without the tail
@@ -41,6 +44,9 @@ inline constexpr FilePolicy kPlainFiles = {
     .passesUnwritten = false,
     .sparesClaimed = false,
     .keepsUtf8 = false,
+    .needsWindow = false,
+    .opensReadOnly = false,
+    .forgetsHistory = false,
 };
 
 inline constexpr FilePolicy kCarefulFiles = {
@@ -55,4 +61,7 @@ inline constexpr FilePolicy kCarefulFiles = {
     .passesUnwritten = true,
     .sparesClaimed = true,
     .keepsUtf8 = true,
+    .needsWindow = true,
+    .opensReadOnly = true,
+    .forgetsHistory = true,
 };

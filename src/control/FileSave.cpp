@@ -96,6 +96,9 @@ private:
 bool CZNCoreEditorControl::SaveFile(const char16_t* path, Encoding encoding, bool commit,
                                     bool writeMark)
 {
+    m_fileResult = {};
+    if (!CanHoldText())
+        return Fails(FileProblem::NoEngine, path);
     const bool writesFirst = Policy().writesFirst;
     if (commit && !writesFirst)
         CleanUpAutoSave();
@@ -141,9 +144,15 @@ bool CZNCoreEditorControl::WriteToFile(const char16_t* path, Encoding encoding, 
         encoding = EncodingForSave();
     const QByteArray name = NativePath(path);
     TargetFile target;
-    if (!(Policy().replacesTarget ? target.OpenBeside(name) : target.OpenInPlace(name)))
+    if (!(Policy().replacesTarget ? target.OpenBeside(name) : target.OpenInPlace(name))) {
+        Fails(FileResult::OfWrite(target.Error()), path);
         return !Policy().reportsUnopened;
-    return WriteText(target, encoding, writeMark) && target.Close();
+    }
+    const bool isConverted = WriteText(target, encoding, writeMark);
+    if (isConverted && target.Close())
+        return true;
+    return Fails(target.Error() ? FileResult::OfWrite(target.Error()) : FileProblem::NotConverted,
+                 path);
 }
 
 // Lines are gathered up to a buffer's length and converted together: a line end never stands within

@@ -55,10 +55,22 @@ struct EnteredText
 
 } // namespace
 
+// Each control tries again; the log has room for one reason.
+const QString& CZNCoreEditorControl::LoadEngine()
+{
+    static QString problem;
+    if (m_hEditorDllHandle)
+        return problem;
+    const bool isTold = !problem.isEmpty();
+    m_hEditorDllHandle = LoadModule(engine::kModule, &problem);
+    if (!m_hEditorDllHandle && !isTold)
+        qWarning("ZNCoreEditor: the editing engine cannot be loaded: %s", qUtf8Printable(problem));
+    return problem;
+}
+
 CZNCoreEditorControl::CZNCoreEditorControl() : m_copyClaim(std::make_unique<CopyClaim>())
 {
-    if (!m_hEditorDllHandle)
-        m_hEditorDllHandle = LoadModule(engine::kModule);
+    LoadEngine();
     m_bFirstInstance = refs == 0 ? 1 : 0;
     ++refs;
 }

@@ -5,6 +5,7 @@
 
 #include "common/Export.h"
 #include "control/EngineMessages.h"
+#include "control/FileResult.h"
 #include "encoding/FileEncodeConverter.h"
 #include "platform/windows/Wnd.h"
 
@@ -92,7 +93,9 @@ public:
     const QString& GetFileName() const { return m_strFileName; }
 
     // Replaces the text by the file's; encoding -1 means detect. False for a file that is missing
-    // or cannot be read; true also for one that was cut short.
+    // or cannot be read, and without an engine; true also for one that was cut short. A text that
+    // is read-only stays as it is, though the result is true; with care it is replaced all the
+    // same.
     virtual bool OpenFile(const char16_t* path, FileEncodeConverter::encodingType encoding);
     // With commit the file becomes the one behind the text; without it this is an export that
     // changes nothing here. False if a write failed. A target that cannot be opened gives true,
@@ -104,10 +107,14 @@ public:
     // if the file cannot be read or is empty.
     void ReplaceTextWithFile(const char16_t* path, FileEncodeConverter::encodingType encoding);
 
-    // Care for files, off by default: a load carries every character over the seams of its blocks,
-    // a save replaces the target as a whole or not at all and tells every failure.
+    // Care for files, off by default: a load carries every character over the seams of its blocks
+    // and begins a history of its own, a save replaces the target as a whole or not at all and
+    // tells every failure.
     void SetCarefulFiles(bool careful) { m_bCarefulFiles = careful; }
     bool GetCarefulFiles() const { return m_bCarefulFiles; }
+    // What the last OpenFile or SaveFile met, also where its result does not tell. A load that was
+    // cut short is a problem, and its result is true.
+    const FileResult& GetFileResult() const { return m_fileResult; }
     // Whether the file holds more than was loaded, so that a save over it would lose the rest.
     bool WasCutShort() const { return m_bCutShort; }
     // Puts the other control's file behind this one's text, with all that is known of it. For the
@@ -204,7 +211,9 @@ public:
     void GotoLineEnsureVisible(int line);
 
     static HINSTANCE m_hEditorDllHandle; // the engine, null until the first control; never released
-    static int refs;                     // live controls
+    // Loads the engine unless it is there. What the loader said, empty if there is an engine.
+    static const QString& LoadEngine();
+    static int refs; // live controls
 
 protected:
     virtual void CleanUpAutoSave();    // stops the timer and deletes the copy
@@ -252,6 +261,8 @@ private:
     void FreeLineOfNumberedBookmarks(int line, int firstMarker);
     bool FoldsAreToOpen(int lines);
     const FilePolicy& Policy() const;
+    bool CanHoldText() const;
+    bool Fails(FileProblem problem, const char16_t* path); // false always
     void RecordEncoding(FileEncodeConverter::encodingType found);
     void AdoptEncoding(FileEncodeConverter::encodingType found, bool hadMark);
     void EnterBlocks(FileBlocks& blocks, int selector, bool replacesTarget);
@@ -264,6 +275,7 @@ private:
     int ConvertTCharToUtf8(const char16_t* text, std::vector<char>& out) const;
 
     bool m_bCarefulFiles = false;
+    FileResult m_fileResult;
     bool m_bCutShort = false;
     std::unique_ptr<CopyClaim> m_copyClaim; // on the autosave file
 };

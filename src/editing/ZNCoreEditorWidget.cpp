@@ -2,6 +2,7 @@
 
 #include "looks/Schemes.h"
 
+#include <QLabel>
 #include <QMetaMethod>
 #include <QVBoxLayout>
 
@@ -61,13 +62,23 @@ ZNCoreEditorWidget::ZNCoreEditorWidget(QWidget* parent)
     : QWidget(parent), m_control(std::make_unique<CZNCoreEditorControlEx>()),
       m_window(std::make_unique<NotificationWindow>(*this))
 {
+    m_control->SetCarefulFiles(true);
     auto* layout = new QVBoxLayout(this);
     layout->setContentsMargins(0, 0, 0, 0);
     const HWND editor = CreateWindowOfClass(
         engine::kWindowClass, WS_CHILD | WS_CLIPCHILDREN | WS_HSCROLL | WS_VSCROLL | WS_VISIBLE,
         RECT{0, 0, 100, 100}, this);
-    if (!editor)
+    if (!editor) {
+        auto* problem = new QLabel(tr("The editor cannot be shown, since its engine could not be "
+                                      "loaded.\n%1")
+                                       .arg(CZNCoreEditorControl::LoadEngine()),
+                                   this);
+        problem->setWordWrap(true);
+        problem->setAlignment(Qt::AlignCenter);
+        problem->setTextInteractionFlags(Qt::TextSelectableByMouse);
+        layout->addWidget(problem);
         return;
+    }
     layout->addWidget(editor);
     setFocusProxy(editor);
     editor->setAccessibleName(tr("Text editor"));
@@ -82,6 +93,23 @@ ZNCoreEditorWidget::~ZNCoreEditorWidget()
     m_window.reset();
     if (m_lifetime)
         m_lifetime->End();
+}
+
+FileResult ZNCoreEditorWidget::open(const QString& path)
+{
+    openFile(path);
+    return m_control->GetFileResult();
+}
+
+FileResult ZNCoreEditorWidget::save(const QString& path)
+{
+    saveFile(path);
+    return m_control->GetFileResult();
+}
+
+std::optional<LostCharacter> ZNCoreEditorWidget::lostBySaving()
+{
+    return FindLostCharacter(*m_control, m_control->GetEncoding());
 }
 
 bool ZNCoreEditorWidget::openFile(const QString& path)

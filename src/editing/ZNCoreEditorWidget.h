@@ -1,16 +1,20 @@
 // ZNCoreEditorWidget: the control for hosts that are written in plain Qt.
 #pragma once
 
+#include "control/FileResult.h"
+#include "control/LossCheck.h"
 #include "editing/ZNCoreEditorControlEx.h"
 
 #include <QString>
 #include <QWidget>
 
 #include <memory>
+#include <optional>
 
 // An editor that sits in a layout and handles its control's notifications by itself. The control
 // is reached for everything that has no signal or slot here; its operations take 1 for `direct`.
-// Without an engine the widget stays empty, and so does every answer.
+// Files are handled with care, unless control().SetCarefulFiles(false). Without an engine the
+// widget shows why there is none, and every answer is empty.
 class ZN_API ZNCoreEditorWidget : public QWidget
 {
     Q_OBJECT
@@ -24,9 +28,16 @@ public:
 
     CZNCoreEditorControlEx& control() { return *m_control; }
 
-    // The encoding and the mark are found in the file. False if it is missing or cannot be read.
+    // The encoding and the mark are found in the file. A result that is a problem tells it to a
+    // person by Reason; one that is cut short has brought the text before the place.
+    FileResult open(const QString& path);
+    // In the encoding and with the mark of the file that was opened.
+    FileResult save(const QString& path);
+    // The first character that a save as it stands would turn into a question mark; ask before it.
+    std::optional<LostCharacter> lostBySaving();
+    // The same without a reason. False if the file is missing or cannot be read, true if it was cut
+    // short; false if it could not be written.
     bool openFile(const QString& path);
-    // In the encoding and with the mark of the file that was opened. False if a write failed.
     bool saveFile(const QString& path);
 
     // The language by its number in the registry (zncoreeditor::GetFileTypeManager): colours,

@@ -1,10 +1,13 @@
 #include "settings/XMLFile.h"
 
-#include "settings/DiskFile.h"
+#include "platform/file/DiskFile.h"
 #include "settings/Number.h"
 #include "settings/XMLWriter.h"
 
 #include "platform/text/StringUtils.h"
+
+#include <QDir>
+#include <QFileInfo>
 
 #include <new>
 
@@ -108,8 +111,10 @@ bool CXMLFile::Parse()
 {
     if (m_filename.isEmpty())
         return false;
-    if (!m_parsed)
-        m_parsed = ReadDocument(m_filename, m_document);
+    if (m_parsed)
+        return true;
+    m_readsCopy = !m_userCopy.isEmpty() && ReadDocument(m_userCopy, m_document);
+    m_parsed = m_readsCopy || ReadDocument(m_filename, m_document);
     return m_parsed;
 }
 
@@ -117,9 +122,26 @@ bool CXMLFile::Save()
 {
     if (!m_parsed)
         return false;
-    if (m_modified && !WriteDocument(m_filename, m_document))
+    if (m_modified &&
+        !(m_userCopy.isEmpty() ? WriteDocument(m_filename, m_document) : SaveUserCopy()))
         return false;
     m_modified = false;
+    return true;
+}
+
+// A setting that was set to what it was is no change.
+bool CXMLFile::SaveUserCopy()
+{
+    if (!m_readsCopy && QFileInfo::exists(m_userCopy))
+        return false;
+    pug::xml_parser before;
+    if (ReadDocument(m_readsCopy ? m_userCopy : m_filename, before) &&
+        WriteXML(before.document()) == WriteXML(m_document.document()))
+        return true;
+    QDir().mkpath(QFileInfo(m_userCopy).path());
+    if (!WriteDocument(m_userCopy, m_document))
+        return false;
+    m_readsCopy = true;
     return true;
 }
 

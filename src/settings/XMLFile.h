@@ -52,6 +52,11 @@ public:
     // A document that is in memory stays, and is saved under the new name.
     void SetFilename(const QString& filename) { m_filename = filename; }
     const QString& GetFilename() const { return m_filename; }
+    // For a file of the installation, which is then never written: once the user has a copy under
+    // this path, Parse reads that instead, and the first Save with a change makes it. A copy that
+    // is there and cannot be parsed stays as it is, and Save gives false.
+    void SetUserCopy(const QString& path) { m_userCopy = path; }
+    const QString& GetUserCopy() const { return m_userCopy; } // empty: the file itself is written
     bool GetModified() const { return m_modified; }
     void SetModified(bool modified) { m_modified = modified; }
 
@@ -91,4 +96,10 @@ protected:
     bool m_parsed = false;
     bool m_modified = false;
     pug::xml_parser m_document;
+
+private:
+    bool SaveUserCopy();
+
+    QString m_userCopy;
+    bool m_readsCopy = false; // the document came from the user's copy
 };

@@ -126,11 +126,21 @@ public:
         for (auto child = parent.first_child(); !child.empty(); child = child.next_sibling()) {
             Tabs(depth);
             Node(child, depth);
-            Break();
+            if (depth > 0 || !IsMark(child))
+                Break();
         }
     }
 
 private:
+    // A byte-order mark, as either kind of code page reads it: with a line end behind it, the file
+    // would grow by one each time.
+    static bool IsMark(const pug::xml_node& node)
+    {
+        return node.type() == pug::node_pcdata &&
+               (node.value().startsWith(QStringView(u"\u00EF\u00BB\u00BF")) ||
+                node.value().startsWith(QChar(QChar::ByteOrderMark)));
+    }
+
     void Node(const pug::xml_node& node, int depth)
     {
         switch (node.type()) {

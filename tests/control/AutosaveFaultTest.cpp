@@ -1,8 +1,8 @@
 // Autosave where folder, disk, copy or profile are not as they should be: the document in memory
 // and the file on disk stay as they are, and a later tick makes up for it.
 #include "tests/control/AutosaveFixture.h"
-#include "tests/settings/FullDisk.h"
-#include "tests/settings/OrdinaryUser.h"
+#include "tests/platform/file/FullDisk.h"
+#include "tests/platform/file/OrdinaryUser.h"
 
 #include <sys/stat.h>
 

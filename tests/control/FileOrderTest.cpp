@@ -243,9 +243,11 @@ TEST_F(FileOrder, ReplacingTheTextKeepsUndoNameAndSavePoint)
     control.m_strFileName = QStringLiteral("name");
     SetMode(3);
     control.ReplaceTextWithFile(WriteFile("a.sql", "a\r\nb\r").c_str(), kDetect);
-    EXPECT_EQ(Sentences(), (Strings{"SelectAll", "TargetFromSelection", "SetEnableReconciler 0",
-                                    "GetEOLMode", "ReplaceTargetNoProcess(a\nb)", "DocumentEnd",
-                                    "AddTextNoProcess(\n)", "SetEnableReconciler 1"}));
+    EXPECT_EQ(
+        Sentences(),
+        (Strings{"BeginUndoAction", "SelectAll", "TargetFromSelection", "SetEnableReconciler 0",
+                 "GetEOLMode", "ReplaceTargetNoProcess(a\nb)", "DocumentEnd",
+                 "AddTextNoProcess(\n)", "EndUndoAction", "SetEnableReconciler 1"}));
     EXPECT_EQ(control.GetFileName(), QStringLiteral("name"));
     EXPECT_TRUE(control.autoSaveCalls.empty());
 }

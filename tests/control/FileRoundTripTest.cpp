@@ -150,9 +150,48 @@ TEST_F(Files, ReplacingTheTextIsOneUndoAwayFromTheOld)
     control.EmptyUndoBuffer(1);
     control.ReplaceTextWithFile(WriteFile("in.sql", std::string(20'000, 'n')).c_str(), kDetect);
     EXPECT_EQ(control.GetLength(1), 20'000);
-    for (int i = 0; i < 10 && control.CanUndo(1); ++i)
-        control.Undo(1);
+    control.Undo(1);
     EXPECT_EQ(Text(), u"old text");
+    EXPECT_FALSE(control.CanUndo(1));
+    control.Redo(1);
+    EXPECT_EQ(control.GetLength(1), 20'000);
+    EXPECT_FALSE(control.CanRedo(1));
+}
+
+TEST_F(Files, AReadOnlyTextKeepsItsNameOverTheOldTextUnlessCareIsTaken)
+{
+    control.SetText(u"old text", 1);
+    control.SetReadOnly(1, 1);
+    EXPECT_TRUE(Open("in the file"));
+    EXPECT_EQ(Text(), u"old text");
+    control.SetCarefulFiles(true);
+    EXPECT_TRUE(Open("in the file"));
+    EXPECT_EQ(Text(), u"in the file");
+    EXPECT_EQ(control.GetReadOnly(1), 1);
+    EXPECT_EQ(control.GetModify(1), 0);
+}
+
+TEST_F(Files, WithCareALoadBeginsANewHistory)
+{
+    control.SetCarefulFiles(true);
+    EXPECT_TRUE(Open("one"));
+    control.AppendText(1, u"x", 1);
+    EXPECT_TRUE(Open("two"));
+    EXPECT_FALSE(control.CanUndo(1));
+    control.AppendText(1, u"y", 1);
+    control.Undo(1);
+    EXPECT_EQ(Text(), u"two");
+    EXPECT_EQ(control.GetModify(1), 0);
+}
+
+TEST_F(Files, WithCareNothingIsOpenedOrSavedWithoutAWindow)
+{
+    CZNCoreEditorControl bare;
+    bare.SetCarefulFiles(true);
+    const std::u16string path = WriteFile("in.sql", "ten bytes.");
+    EXPECT_FALSE(bare.OpenFile(path.c_str(), kDetect));
+    EXPECT_FALSE(bare.SaveFile(path.c_str(), true));
+    EXPECT_EQ(ReadFile("in.sql"), "ten bytes.");
 }
 
 TEST_F(Files, ReplacingByNothingLeavesTheText)

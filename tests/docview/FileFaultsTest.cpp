@@ -4,8 +4,8 @@
 
 #include "platform/system/Profile.h"
 #include "platform/windows/Timer.h"
-#include "tests/settings/FullDisk.h"
-#include "tests/settings/OrdinaryUser.h"
+#include "tests/platform/file/FullDisk.h"
+#include "tests/platform/file/OrdinaryUser.h"
 
 #include <climits>
 #include <cstdio>

@@ -46,16 +46,30 @@ protected:
         QProcess host;
         QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
         environment.insert(QStringLiteral("LD_LIBRARY_PATH"), m_folder.path());
+        environment.insert(QStringLiteral("XDG_DATA_HOME"), Path(QStringLiteral("home")));
         host.setProcessEnvironment(environment);
         host.start(QCoreApplication::applicationDirPath() + QStringLiteral("/library_probe"),
                    arguments);
         EXPECT_TRUE(host.waitForFinished(60000));
         EXPECT_EQ(host.exitStatus(), QProcess::NormalExit);
         EXPECT_EQ(host.exitCode(), 0) << host.readAllStandardError().toStdString();
+        m_errors = QString::fromLocal8Bit(host.readAllStandardError());
         return QString::fromLocal8Bit(host.readAllStandardOutput());
     }
 
+    static QByteArray Read(const QString& path)
+    {
+        QFile file(path);
+        return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray("(no file)");
+    }
+
+    QString UserCopy(const QString& name) const
+    {
+        return Path(QStringLiteral("home/Marrowfield/") + name);
+    }
+
     QTemporaryDir m_folder;
+    mutable QString m_errors; // of the last run
 };
 
 constexpr char kConfig[] =
@@ -93,13 +107,76 @@ TEST_F(LibraryInAFolder, LeavesABrokenConfigurationAsItIs)
     EXPECT_EQ(ReadConfig(), broken);
 }
 
-TEST_F(LibraryInAFolder, SavesAChangedConfigurationWhenItGoes)
+TEST_F(LibraryInAFolder, LeavesWhatWasInstalledAndPutsChangesIntoTheUsersCopies)
+{
+    WriteConfig(kConfig);
+    const QString installed = Path(QStringLiteral("Syntax/SQL.xml"));
+    const QByteArray syntax = Read(installed);
+    Run({QStringLiteral("change")});
+    EXPECT_EQ(ReadConfig(), kConfig);
+    EXPECT_EQ(Read(installed), syntax);
+    const QByteArray saved = Read(UserCopy(QStringLiteral("ZNCoreEditor.xml")));
+    EXPECT_TRUE(saved.contains("<RightEdgeColumn>77</RightEdgeColumn>")) << saved.constData();
+    EXPECT_TRUE(saved.contains("<SyntaxFile>SQL.xml</SyntaxFile>")) << saved.constData();
+    EXPECT_TRUE(QFile::exists(UserCopy(QStringLiteral("Base/SQL.xml"))));
+}
+
+TEST_F(LibraryInAFolder, ReadsTheUsersCopyFromThenOn)
 {
     WriteConfig(kConfig);
     Run({QStringLiteral("change")});
-    const QByteArray saved = ReadConfig();
-    EXPECT_TRUE(saved.contains("<RightEdgeColumn>77</RightEdgeColumn>")) << saved.constData();
-    EXPECT_TRUE(saved.contains("<SyntaxFile>SQL.xml</SyntaxFile>")) << saved.constData();
+    QByteArray twice = Read(UserCopy(QStringLiteral("ZNCoreEditor.xml")));
+    WriteConfig("<broken");
+    EXPECT_TRUE(Run().contains(QStringLiteral("configured 1\n")));
+    EXPECT_EQ(Read(UserCopy(QStringLiteral("ZNCoreEditor.xml"))), twice);
+}
+
+TEST_F(LibraryInAFolder, WritesNothingForAnEditorThatChangedNothing)
+{
+    WriteConfig(kConfig);
+    Run();
+    EXPECT_EQ(ReadConfig(), kConfig);
+    EXPECT_FALSE(QFile::exists(UserCopy(QStringLiteral("ZNCoreEditor.xml"))));
+    EXPECT_FALSE(QFile::exists(UserCopy(QStringLiteral("Base/SQL.xml"))));
+}
+
+TEST_F(LibraryInAFolder, LeavesACopyThatItCannotRead)
+{
+    WriteConfig(kConfig);
+    QDir(m_folder.path()).mkpath(QStringLiteral("home/Marrowfield"));
+    const QString copy = UserCopy(QStringLiteral("ZNCoreEditor.xml"));
+    QFile file(copy);
+    ASSERT_TRUE(file.open(QIODevice::WriteOnly));
+    file.write("<mine");
+    file.close();
+    EXPECT_TRUE(Run({QStringLiteral("change")}).contains(QStringLiteral("configured 1\n")));
+    EXPECT_EQ(Read(copy), QByteArray("<mine"));
+}
+
+// The module may be missing, or the library that it needs.
+TEST_F(LibraryInAFolder, WithoutAnEngineOpensAndSavesNothingAndTellsWhy)
+{
+    const QString engine = Path(QStringLiteral("libZNBaseEditor.so"));
+    const QString script = Path(QStringLiteral("script.sql"));
+    QFile file(script);
+    ASSERT_TRUE(file.open(QIODevice::WriteOnly));
+    file.write("ten bytes.");
+    file.close();
+    for (const QByteArray& module : {QByteArray(), QByteArray("no module")}) {
+        ASSERT_TRUE(!QFile::exists(engine) || QFile::remove(engine));
+        if (QFile put(engine); !module.isEmpty()) {
+            ASSERT_TRUE(put.open(QIODevice::WriteOnly));
+            put.write(module);
+        }
+        const QString told = Run({script});
+        EXPECT_TRUE(told.contains(QStringLiteral("opened 0\nsaved 0\n"))) << told.toStdString();
+        EXPECT_TRUE(told.contains(QStringLiteral("engine 0 "))) << told.toStdString();
+        EXPECT_TRUE(told.contains(QStringLiteral("widget 0 The editor"))) << told.toStdString();
+        EXPECT_EQ(m_errors.count(QStringLiteral("engine cannot be loaded")), 1);
+        EXPECT_TRUE(m_errors.contains(QStringLiteral("libZNBaseEditor.so")))
+            << m_errors.toStdString();
+        EXPECT_EQ(Read(script), QByteArray("ten bytes."));
+    }
 }
 
 } // namespace

@@ -1,6 +1,7 @@
 // The editor as plain Qt hosts see it.
 #include "editing/ZNCoreEditorWidget.h"
 #include "platform/text/CodePage.h"
+#include "tests/platform/file/FullDisk.h"
 
 #include <QApplication>
 #include <QFile>
@@ -139,6 +140,39 @@ TEST(EditorWidget, ReadsFilesInTheCodePageThatTheHostSets)
     platform::SetSystemCodePage(1252);
     ASSERT_TRUE(opened);
     EXPECT_EQ(editor.text(), QStringLiteral("\u043f\u0440\u0438"));
+}
+
+TEST(EditorWidget, HandlesFilesWithCareAndSaysWhatFailed)
+{
+    const QTemporaryDir folder;
+    ZNCoreEditorWidget editor;
+    EXPECT_TRUE(editor.control().GetCarefulFiles());
+    const QString path = folder.filePath(QStringLiteral("a.sql"));
+    EXPECT_EQ(editor.open(path).problem, FileProblem::Missing);
+    EXPECT_EQ(editor.open(folder.path()).problem, FileProblem::NoFile);
+    editor.setText(QStringLiteral("text"));
+    EXPECT_TRUE(editor.save(path));
+    EXPECT_TRUE(editor.save(path).Reason().isEmpty());
+    const FileResult elsewhere = editor.save(folder.filePath(QStringLiteral("no/a.sql")));
+    EXPECT_EQ(elsewhere.problem, FileProblem::NoFolder);
+    EXPECT_EQ(elsewhere.Reason(), QStringLiteral("The folder does not exist."));
+    {
+        const FullDisk full(2);
+        EXPECT_EQ(editor.save(path).problem, FileProblem::NoRoom);
+    }
+    EXPECT_TRUE(editor.open(path));
+    EXPECT_EQ(editor.text(), QStringLiteral("text"));
+}
+
+TEST(EditorWidget, TellsWhatASaveWouldLose)
+{
+    ZNCoreEditorWidget editor;
+    editor.setText(QStringLiteral("a\u0416"));
+    editor.control().SetEncoding(FileEncodeConverter::encUTF8);
+    EXPECT_FALSE(editor.lostBySaving());
+    editor.control().SetEncoding(FileEncodeConverter::encANSI);
+    ASSERT_TRUE(editor.lostBySaving());
+    EXPECT_EQ(editor.lostBySaving()->position, 1);
 }
 
 TEST(EditorWidget, MayBeDeletedByASlot)

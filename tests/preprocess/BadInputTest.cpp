@@ -1,6 +1,6 @@
 // Files, lines and definitions that no one would write on purpose.
+#include "tests/platform/file/OrdinaryUser.h"
 #include "tests/preprocess/PreprocessFixture.h"
-#include "tests/settings/OrdinaryUser.h"
 
 #include <QDir>
 

@@ -1,7 +1,7 @@
 // A language by its two files: routing, styles, keywords, lexer.
-#include "FullDisk.h"
-#include "OrdinaryUser.h"
 #include "SettingsFolder.h"
+#include "tests/platform/file/FullDisk.h"
+#include "tests/platform/file/OrdinaryUser.h"
 
 #include "settings/SyntaxFile.h"
 

@@ -1,8 +1,8 @@
 // What is no settings file reads as empty, and is never written over.
-#include "FullDisk.h"
 #include "OpenXMLFile.h"
-#include "OrdinaryUser.h"
 #include "SettingsFolder.h"
+#include "tests/platform/file/FullDisk.h"
+#include "tests/platform/file/OrdinaryUser.h"
 
 #include <QDir>
 

@@ -101,7 +101,7 @@ TEST_F(XMLFile, LoadsWithAByteOrderMarkAsTextBeforeTheFirstElement)
     EXPECT_EQ(file.GetIntFromXMLFile(u"Editor", u"Width"), 12);
     ASSERT_TRUE(file.SetIntToXMLFile(u"Editor", u"Width", 13));
     EXPECT_TRUE(file.Save());
-    EXPECT_TRUE(Get("a").startsWith("\xEF\xBB\xBF\r\n<Root>\r\n"));
+    EXPECT_TRUE(Get("a").startsWith("\xEF\xBB\xBF<Root>\r\n"));
 }
 
 TEST_F(XMLFile, LoadsAMarkAsTextInCodePage65001Too)
@@ -112,7 +112,24 @@ TEST_F(XMLFile, LoadsAMarkAsTextInCodePage65001Too)
     EXPECT_TRUE(file.SetIntToXMLFile(u"Editor", u"Width", 13));
     EXPECT_TRUE(file.Save());
     platform::SetSystemCodePage(1252);
-    EXPECT_TRUE(Get("a").startsWith("\xEF\xBB\xBF\r\n<Root>\r\n"));
+    EXPECT_TRUE(Get("a").startsWith("\xEF\xBB\xBF<Root>\r\n"));
+}
+
+TEST_F(XMLFile, WithAMarkKeepsItsLengthAtEachSave)
+{
+    for (const char* behind : {"", "\n", "\r\n"}) {
+        Put("a", QByteArray("\xEF\xBB\xBF") + behind +
+                     "<R>\r\n\t<S>\r\n\t\t<K>1</K>\r\n\t</S>\r\n</R>\r\n");
+        QByteArray before;
+        for (int value = 2; value < 5; ++value) {
+            OpenXMLFile file(PathOf("a"));
+            ASSERT_TRUE(file.SetIntToXMLFile(u"S", u"K", value));
+            ASSERT_TRUE(file.Save());
+            EXPECT_TRUE(before.isEmpty() || Get("a").size() == before.size());
+            before = Get("a");
+        }
+        EXPECT_EQ(before.count('\n'), *behind ? 6 : 5);
+    }
 }
 
 TEST_F(XMLFile, IsReadAndWrittenInTheSystemsCodePage)

@@ -85,7 +85,12 @@ TEST(XMLWriter, NamesAnElementWithoutAName)
 
 TEST(XMLWriter, PutsTextBeforeTheFirstElementOnALineOfItsOwn)
 {
-    EXPECT_EQ(Rewritten("\xEF\xBB\xBF<a/>"), "\u00EF\u00BB\u00BF\r\n<a/>\r\n");
+    EXPECT_EQ(Rewritten("text<a/>"), "text\r\n<a/>\r\n");
+}
+
+TEST(XMLWriter, LeavesAMarkWhereItIs)
+{
+    EXPECT_EQ(Rewritten("\xEF\xBB\xBF<a/>"), "\u00EF\u00BB\u00BF<a/>\r\n");
 }
 
 } // namespace

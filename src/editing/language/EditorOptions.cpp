@@ -124,7 +124,10 @@ void CZNCoreEditorControlEx::UpdateXmlSettingsFromOptionServerData(QString fontN
     CConfigFile* config = zncoreeditor::GetConfigFile();
     if (!config)
         return;
+    // It belongs to the options: an editor that comes up has changed no setting of the user's.
+    const bool wasModified = config->GetModified();
     config->SetFileTracking(tracking);
+    config->SetModified(wasModified);
     const int count = config->GetLanguageCount();
     if (count > 0) {
         LanguageOptions forAll = Ask(options);

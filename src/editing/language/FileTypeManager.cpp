@@ -1,12 +1,14 @@
 #include "editing/language/FileTypeManager.h"
 
 #include "common/Globals.h"
+#include "editing/language/UserFolder.h"
 #include "platform/system/Exceptions.h"
 #include "platform/system/SpecialFolders.h"
 #include "settings/ConfigFile.h"
 #include "settings/SyntaxFile.h"
 
 #include <QDir>
+#include <QFileInfo>
 
 namespace {
 
@@ -16,10 +18,9 @@ constexpr QChar kSeparator = u'/';
 // failure to make it shows when the colours are saved.
 QString CustomSyntaxFolder()
 {
-    const QString data = znutils::CSpecialFolders::GetLocalAppDataPath(true);
-    if (data.isEmpty())
-        return data;
-    const QString folder = data + QStringLiteral("/Marrowfield/Syntax");
+    if (znutils::CSpecialFolders::GetLocalAppDataPath(true).isEmpty())
+        return QString();
+    const QString folder = UserSettingsPath(QStringLiteral("Syntax"));
     QDir().mkpath(folder);
     return folder + kSeparator;
 }
@@ -69,6 +70,7 @@ void CFileTypeManager::LoadSyntaxFile(int language, const QString& baseName,
         return;
     file->SetFilename(baseName);
     file->SetCustomFilename(customName);
+    file->SetUserCopy(UserSettingsPath(QStringLiteral("Base/") + QFileInfo(baseName).fileName()));
 }
 
 QString CFileTypeManager::GetLanguageName(int language) const

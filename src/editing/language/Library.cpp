@@ -1,12 +1,16 @@
 #include "editing/language/Library.h"
 
 #include "common/Globals.h"
+#include "control/ZNCoreEditorControl.h"
 #include "editing/language/FileTypeManager.h"
+#include "editing/language/UserFolder.h"
 #include "settings/ConfigFile.h"
 
 namespace zncoreeditor {
 
 namespace {
+
+const QString kConfigName = QStringLiteral("ZNCoreEditor.xml");
 
 // Attached with the process, detached with it: the one object of this kind.
 class Attached
@@ -14,7 +18,8 @@ class Attached
 public:
     Attached()
     {
-        config.SetFilename(GetAppPath() + QStringLiteral("ZNCoreEditor.xml"));
+        config.SetFilename(GetAppPath() + kConfigName);
+        config.SetUserCopy(UserSettingsPath(kConfigName));
         configured = config.Parse();
         if (configured)
             languages.Init(&config);
@@ -50,7 +55,9 @@ CFileTypeManager* GetFileTypeManager()
 
 Startup GetStartup()
 {
-    return {Library().configured, Library().config.GetFilename()};
+    const QString& problem = CZNCoreEditorControl::LoadEngine();
+    return {Library().configured, Library().config.GetFilename(),
+            CZNCoreEditorControl::m_hEditorDllHandle != nullptr, problem};
 }
 
 } // namespace zncoreeditor

@@ -14,12 +14,16 @@ ZN_API CConfigFile* GetConfigFile();
 ZN_API CFileTypeManager* GetFileTypeManager();
 
 // How the library came up. The configuration is read when the library is loaded, from
-// "ZNCoreEditor.xml" in GetAppPath(); it is saved, if it changed, when the library is unloaded.
-// Without it every editor runs on empty settings.
+// "ZNCoreEditor.xml" in GetAppPath() or the user's copy of it; if it changed, the copy is written
+// when the library is unloaded. Without it every editor runs on empty settings. The engine is
+// loaded by the first editor, or by the first question after it; without it nothing is edited,
+// opened or saved.
 struct Startup
 {
     bool configured = false; // the configuration was read, and the languages are known
     QString configFile;      // where it was looked for
+    bool hasEngine = false;
+    QString engineProblem; // what the loader said, if there is no engine
 };
 ZN_API Startup GetStartup();
 

@@ -2,7 +2,6 @@
 
 #include <QFile>
 #include <QFileInfo>
-#include <QString>
 
 #include <dlfcn.h>
 
@@ -19,16 +18,20 @@ QByteArray OwnFolder()
 
 } // namespace
 
-HINSTANCE LoadModule(const char16_t* name)
+HINSTANCE LoadModule(const char16_t* name, QString* problem)
 {
     constexpr int kMode = RTLD_NOW | RTLD_LOCAL;
     const QByteArray file = "lib" + QString::fromUtf16(name).toUtf8() + ".so";
     // What a program has linked under this name comes first. The folder is written out, since a
     // sanitizer's dlopen does not know the search path of its caller.
     void* module = dlopen(file.constData(), kMode | RTLD_NOLOAD);
-    if (!module)
-        module = dlopen((OwnFolder() + file).constData(), kMode);
-    if (!module)
-        module = dlopen(file.constData(), kMode);
+    QString said;
+    const QByteArray beside = OwnFolder() + file;
+    if (!module && !(module = dlopen(beside.constData(), kMode)))
+        said = QString::fromLocal8Bit(dlerror());
+    if (!module && !(module = dlopen(file.constData(), kMode)) && !QFile::exists(beside))
+        said = QString::fromLocal8Bit(dlerror());
+    if (problem)
+        *problem = module ? QString() : said;
     return static_cast<HINSTANCE>(module);
 }

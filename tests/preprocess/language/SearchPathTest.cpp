@@ -1,5 +1,5 @@
 #include "preprocess/language/SearchPath.h"
-#include "tests/settings/OrdinaryUser.h"
+#include "tests/platform/file/OrdinaryUser.h"
 
 #include <QFile>
 #include <QTemporaryDir>

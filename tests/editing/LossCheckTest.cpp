@@ -1,4 +1,4 @@
-#include "host/files/LossCheck.h"
+#include "control/LossCheck.h"
 
 #include "editing/ZNCoreEditorWidget.h"
 

@@ -1,4 +1,4 @@
-#include "host/files/TextPieces.h"
+#include "control/TextPieces.h"
 
 #include "control/ZNCoreEditorControl.h"
 

@@ -2,6 +2,8 @@
 // The conversion of the save itself decides, so that question and file agree in every code page.
 #pragma once
 
+#include "common/Export.h"
+
 #include <QString>
 
 #include <memory>
@@ -19,7 +21,7 @@ struct LostCharacter
 };
 
 // Finds the first character that the encoding, a number of FileEncodeConverter, does not have.
-class LossFinder
+class ZN_API LossFinder
 {
 public:
     explicit LossFinder(int encoding);
@@ -37,12 +39,12 @@ private:
 
 // The first character of the editor's text that is lost; nothing if none is. 64 million characters
 // take 0.14 s, and 0.38 s if none of them is ASCII.
-std::optional<LostCharacter> FindLostCharacter(CZNCoreEditorControl& editor, int encoding);
+ZN_API std::optional<LostCharacter> FindLostCharacter(CZNCoreEditorControl& editor, int encoding);
 
 // The character as a sentence can show it: in quotes if it has a form of its own, and its number.
-QString DescribeCharacter(char32_t character);
+ZN_API QString DescribeCharacter(char32_t character);
 
 // What is lost and where, and that UTF-8 would keep it. The answers to it are the caller's: save as
 // UTF-8, save all the same, do not save.
-QString LossQuestion(const QString& fileName, const QString& encodingName,
-                     const LostCharacter& lost);
+ZN_API QString LossQuestion(const QString& fileName, const QString& encodingName,
+                            const LostCharacter& lost);

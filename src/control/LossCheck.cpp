@@ -1,8 +1,8 @@
-#include "host/files/LossCheck.h"
+#include "control/LossCheck.h"
 
+#include "control/TextPieces.h"
 #include "control/ZNCoreEditorControl.h"
 #include "encoding/FileEncodeConverter.h"
-#include "host/files/TextPieces.h"
 
 #include <QChar>
 

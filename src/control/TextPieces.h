@@ -2,12 +2,14 @@
 // take 128 MB. The text must not change in between.
 #pragma once
 
+#include "common/Export.h"
+
 #include <string_view>
 #include <vector>
 
 class CZNCoreEditorControl;
 
-class TextPieces
+class ZN_API TextPieces
 {
 public:
     // Positions and lengths count units. The editor outlives the pieces.

@@ -1,9 +1,8 @@
 // Whole files on the disk: after a failure the old bytes stand there, with nothing beside them.
-#include "FullDisk.h"
-#include "OrdinaryUser.h"
-#include "SettingsFolder.h"
-
-#include "settings/DiskFile.h"
+#include "platform/file/DiskFile.h"
+#include "tests/platform/file/FullDisk.h"
+#include "tests/platform/file/OrdinaryUser.h"
+#include "tests/settings/SettingsFolder.h"
 
 #include <QDir>
 #include <QFileInfo>

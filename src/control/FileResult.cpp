@@ -1,0 +1,72 @@
+#include "control/FileResult.h"
+
+#include <cerrno>
+
+namespace {
+
+struct Row
+{
+    FileProblem problem;
+    const char* sentence;
+};
+
+constexpr Row kSentences[] = {
+    {FileProblem::NoEngine, "The editing engine could not be loaded."},
+    {FileProblem::Missing, "The file does not exist."},
+    {FileProblem::NoFile, "This is a folder or a device, not a file with a text."},
+    {FileProblem::NotReadable, "The file cannot be read. Check that you may read it."},
+    {FileProblem::CutShort, "Only the first part of the file could be read."},
+    {FileProblem::NoFolder, "The folder does not exist."},
+    {FileProblem::NotWritable, "You may not write there."},
+    {FileProblem::NoRoom, "The disk is full."},
+    {FileProblem::NotConverted, "The encoding cannot hold all of the text."},
+    {FileProblem::NotWritten, "The file could not be written."},
+};
+
+} // namespace
+
+FileProblem FileResult::OfRead(int error)
+{
+    switch (error) {
+    case ENOENT:
+    case ENOTDIR:
+        return FileProblem::Missing;
+    case EISDIR:
+    case ENXIO:
+        return FileProblem::NoFile;
+    default:
+        return FileProblem::NotReadable;
+    }
+}
+
+FileProblem FileResult::OfWrite(int error)
+{
+    switch (error) {
+    case ENOENT:
+    case ENOTDIR:
+        return FileProblem::NoFolder;
+    case EISDIR:
+    case ENXIO:
+        return FileProblem::NoFile;
+    case EACCES:
+    case EPERM:
+    case EROFS:
+    case ETXTBSY:
+        return FileProblem::NotWritable;
+    case ENOSPC:
+    case EDQUOT:
+    case EFBIG:
+        return FileProblem::NoRoom;
+    default:
+        return FileProblem::NotWritten;
+    }
+}
+
+QString FileResult::Reason() const
+{
+    for (const Row& row : kSentences) {
+        if (row.problem == problem)
+            return QString::fromLatin1(row.sentence);
+    }
+    return QString();
+}

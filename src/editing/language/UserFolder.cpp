@@ -1,0 +1,9 @@
+#include "editing/language/UserFolder.h"
+
+#include "platform/system/SpecialFolders.h"
+
+QString UserSettingsPath(const QString& relative)
+{
+    const QString data = znutils::CSpecialFolders::GetLocalAppDataPath(false);
+    return data.isEmpty() ? data : data + QStringLiteral("/Marrowfield/") + relative;
+}

@@ -1,0 +1,7 @@
+// Where the settings of a user are kept, beside those that were installed with the library.
+#pragma once
+
+#include <QString>
+
+// A path below the user's folder, which may not exist. Empty if the user has none.
+QString UserSettingsPath(const QString& relative);
