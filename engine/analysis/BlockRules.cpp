@@ -15,7 +15,16 @@ BlockRules::BlockRules(const SqlDialect& dialect, Controls controls)
     : m_dialect(dialect), m_controls(controls)
 {}
 
-bool BlockRules::Open(BlockState& state, SqlWord word) const
+bool BlockRules::Open(BlockState& state, const TextSpans& text, const Token& token,
+                      SqlWord word) const
+{
+    if (token.kind != TokenKind::Operator || text.At(token.start) != '<')
+        return OpenWord(state, word);
+    state.head = Head::Label;
+    return true;
+}
+
+bool BlockRules::OpenWord(BlockState& state, SqlWord word) const
 {
     switch (word) {
     case SqlWord::Create:
@@ -29,6 +38,8 @@ bool BlockRules::Open(BlockState& state, SqlWord word) const
     case SqlWord::Begin:
         if (m_dialect.begin != Begin::Transaction)
             state.pending = Pending::Begin;
+        else if (m_dialect.beginNotAtomic)
+            state.pending = Pending::BeginAtStart;
         return true;
     case SqlWord::Execute:
         state.head = m_dialect.executeBlock ? Head::Execute : Head::Plain;
@@ -38,6 +49,12 @@ bool BlockRules::Open(BlockState& state, SqlWord word) const
         return true;
     case SqlWord::Set:
         state.head = m_dialect.setTerm ? Head::Set : Head::Plain;
+        return true;
+    case SqlWord::With:
+        state.head = m_dialect.withFunctions ? Head::With : Head::Plain;
+        return true;
+    case SqlWord::Explain:
+        state.head = Head::Explain;
         return true;
     default:
         return false;
@@ -57,6 +74,9 @@ bool BlockRules::Continue(BlockState& state, const TextSpans& text, const Token&
             ++state.parentheses;
         else if (byte == ')' && state.parentheses > 0)
             --state.parentheses;
+        else if (byte == '>' && state.head == Head::Label)
+            state.head = Head::LabelEnd;
+        state.rowset = state.rowset && (state.parentheses > 0 || byte != ')');
     }
     return false;
 }
@@ -64,9 +84,10 @@ bool BlockRules::Continue(BlockState& state, const TextSpans& text, const Token&
 bool BlockRules::TakeTerminator(BlockState& state, bool isOfScript) const
 {
     SettlePending(state, TokenKind::Terminator, SqlWord::None);
+    KeepCaseBody(state);
     if (isOfScript || !HoldsTerminator(state))
         return false;
-    if (!m_dialect.parenthesesHold)
+    if (!m_dialect.parenthesesHold && !state.rowset)
         state.parentheses = 0; // one that was never closed ends here
     state.cases = 0;           // no expression goes on behind it
     state.routineHeader = false;
@@ -74,6 +95,15 @@ bool BlockRules::TakeTerminator(BlockState& state, bool isOfScript) const
     state.whileSeen = false;
     state.before = Before::Other;
     return true;
+}
+
+// No expression has a terminator in it: the CASE that is open is the body of a routine.
+void BlockRules::KeepCaseBody(BlockState& state) const
+{
+    if (!m_dialect.endNamesBlock || m_dialect.setTerm || !state.InHeader() || state.blocks > 0 ||
+        state.parentheses > 0 || state.declarations > 0)
+        return;
+    state.controls += std::exchange(state.cases, 0U);
 }
 
 void BlockRules::NoteBefore(BlockState& state, const TextSpans& text, const Token& token) const
@@ -86,8 +116,8 @@ void BlockRules::NoteBefore(BlockState& state, const TextSpans& text, const Toke
 bool BlockRules::HoldsTerminator(const BlockState& state) const
 {
     return (m_dialect.routine == Routine::Batch && state.InRoutine()) ||
-           (m_dialect.parenthesesHold && state.parentheses > 0) || state.declarations > 0 ||
-           state.blocks > 0 || state.controls > 0;
+           ((m_dialect.parenthesesHold || state.rowset) && state.parentheses > 0) ||
+           state.declarations > 0 || state.blocks > 0 || state.controls > 0;
 }
 
 // True at TERM of SET TERM.
@@ -104,8 +134,41 @@ bool BlockRules::ReadHead(BlockState& state, SqlWord word) const
         state.head = word == SqlWord::Block ? Head::Routine : Head::Plain;
         return false;
     case Head::Copy:
-        if (word == SqlWord::Stdin)
-            state.head = Head::CopyData;
+        if (word == SqlWord::From && state.parentheses == 0)
+            state.head = Head::CopyFrom;
+        return false;
+    case Head::CopyFrom: // the server takes either word
+        state.head =
+            word == SqlWord::Stdin || word == SqlWord::Stdout ? Head::CopyData : Head::Plain;
+        return false;
+    case Head::Java:
+        state.head = word == SqlWord::Source ? Head::JavaSource : Head::Plain;
+        return false;
+    case Head::Label:
+        return false;
+    case Head::LabelEnd:
+        ReadFirstWord(state, word);
+        return false;
+    case Head::With:
+        if (word != SqlWord::Function && word != SqlWord::Procedure) {
+            ReadFirstWord(state, word);
+            return false;
+        }
+        state.head = Head::WithBody;
+        state.declarations = 1;
+        state.routineHeader = true;
+        return false;
+    case Head::WithBody:
+        if (word == SqlWord::Select && state.declarations == 1 && state.blocks == 0) {
+            state.declarations = 0;
+            state.head = Head::Plain;
+        } else if (word != SqlWord::None) {
+            ReadWord(state, word);
+        }
+        return false;
+    case Head::Explain:
+        if (word != SqlWord::Query && word != SqlWord::Plan)
+            ReadFirstWord(state, word);
         return false;
     case Head::Set:
         state.head = Head::Plain;
@@ -115,6 +178,14 @@ bool BlockRules::ReadHead(BlockState& state, SqlWord word) const
             ReadWord(state, word);
         return false;
     }
+}
+
+// The first one of a statement in a statement.
+void BlockRules::ReadFirstWord(BlockState& state, SqlWord word) const
+{
+    state.head = Head::Plain;
+    if (word != SqlWord::None && !OpenWord(state, word))
+        ReadWord(state, word);
 }
 
 void BlockRules::ReadCreate(BlockState& state, SqlWord word) const
@@ -130,6 +201,15 @@ void BlockRules::ReadCreate(BlockState& state, SqlWord word) const
     case SqlWord::Temporary:
     case SqlWord::Aggregate:
     case SqlWord::Constraint:
+        return;
+    case SqlWord::And: // OR REPLACE AND COMPILE NOFORCE JAVA SOURCE
+    case SqlWord::Compile:
+    case SqlWord::Resolve:
+    case SqlWord::Noforce:
+        state.head = m_dialect.javaSource ? Head::Create : Head::Plain;
+        return;
+    case SqlWord::Java:
+        state.head = m_dialect.javaSource ? Head::Java : Head::Plain;
         return;
     case SqlWord::Event:
         state.head = m_dialect.routine == Routine::Batch ? Head::Plain : Head::Routine;
@@ -186,6 +266,9 @@ void BlockRules::ReadWord(BlockState& state, SqlWord word) const
     case SqlWord::Statement: // BEFORE STATEMENT IS
     case SqlWord::Row:
         state.routineHeader = state.routineHeader || (state.declarations > 0 && state.blocks == 0);
+        return;
+    case SqlWord::Openrowset:
+        state.rowset = m_dialect.rowsetTerminators;
         return;
     default:
         if (CountsControls(state))
@@ -260,16 +343,31 @@ void BlockRules::ReadControl(BlockState& state, SqlWord word) const
 
 bool BlockRules::Settle(BlockState& state, TokenKind kind, SqlWord word) const
 {
+    const bool isAtEnd = kind == TokenKind::Terminator || kind == TokenKind::LineEnd;
     switch (std::exchange(state.pending, Pending::None)) {
     case Pending::None:
         return false;
     case Pending::Begin:
-        if (!BeginsBlock(state, kind, word))
-            return false;
-        if (state.blocks++ == 0) {
-            state.cases = 0;
-            state.declarations -= state.declarations > 0;
-        }
+        return SettleBegin(state, kind, word);
+    case Pending::BeginBackup:
+        if (!isAtEnd)
+            OpenBlock(state);
+        return false;
+    case Pending::BeginNew:
+        if (word != SqlWord::Stripe)
+            OpenBlock(state);
+        return false;
+    case Pending::BeginDeclare:
+        if (word == SqlWord::Section)
+            state.pending = Pending::BeginSection;
+        return false;
+    case Pending::BeginSection:
+        if (isAtEnd)
+            CloseBlock(state);
+        return false;
+    case Pending::BeginAtStart:
+        if (word == SqlWord::Not)
+            OpenBlock(state);
         return false;
     case Pending::Is:
         if (kind == TokenKind::Terminator || kind == TokenKind::String || word == SqlWord::Null ||
@@ -277,7 +375,8 @@ bool BlockRules::Settle(BlockState& state, TokenKind kind, SqlWord word) const
             --state.declarations;
             return false;
         }
-        state.head = Head::Body;
+        if (state.head != Head::WithBody)
+            state.head = Head::Body;
         state.routineHeader = false;
         return false;
     case Pending::Repeat: // with parentheses it is a function
@@ -287,11 +386,47 @@ bool BlockRules::Settle(BlockState& state, TokenKind kind, SqlWord word) const
     case Pending::End:
         break;
     }
+    return SettleEnd(state, word);
+}
+
+bool BlockRules::SettleBegin(BlockState& state, TokenKind kind, SqlWord word) const
+{
+    if (!BeginsBlock(state, kind, word))
+        return false;
+    const bool isPartOfClause = m_dialect.routine != Routine::Batch;
+    if (word == SqlWord::Backup && isPartOfClause) {
+        state.pending = Pending::BeginBackup;
+        return true;
+    }
+    if (word == SqlWord::New && isPartOfClause) {
+        state.pending = Pending::BeginNew;
+        return true;
+    }
+    OpenBlock(state);
+    if (word == SqlWord::Declare && state.blocks == 1 && state.declarations == 0)
+        state.pending = Pending::BeginDeclare;
+    return false;
+}
+
+void BlockRules::OpenBlock(BlockState& state) const
+{
+    if (state.blocks++ > 0)
+        return;
+    state.cases = 0;
+    state.declarations -= state.declarations > 0;
+}
+
+bool BlockRules::SettleEnd(BlockState& state, SqlWord word) const
+{
     if (m_dialect.endNamesBlock && IsControl(word)) {
         CloseControl(state);
         return true;
     }
-    if (word != SqlWord::Conversation)
+    const bool closesCaseBody =
+        word == SqlWord::Case && state.blocks == 0 && state.cases == 0 && state.controls > 0;
+    if (closesCaseBody)
+        --state.controls;
+    else if (word != SqlWord::Conversation)
         CloseBlock(state);
     return word == SqlWord::Case;
 }

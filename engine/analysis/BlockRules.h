@@ -18,8 +18,16 @@ struct BlockState
         CreateType, // a type: it has a body if BODY comes
         Execute,    // EXECUTE: a body if BLOCK comes
         Set,        // SET: TERM may come
-        Copy,       // COPY: STDIN may come
+        Copy,       // COPY: FROM may come
+        CopyFrom,   // from where comes next
         CopyData,   // data stand behind the terminator
+        Java,       // CREATE JAVA: SOURCE may come
+        JavaSource, // what stands behind is none of SQL
+        Label,      // <<, a label
+        LabelEnd,   // behind it
+        With,       // WITH: the declaration of a function may come
+        WithBody,   // and has come
+        Explain,    // EXPLAIN: CREATE may come
         Routine,    // the header of a routine
         Trigger,    // the header of a trigger
         Body,       // behind the IS or the DECLARE of a routine
@@ -30,6 +38,11 @@ struct BlockState
     {
         None,
         Begin,
+        BeginBackup,
+        BeginNew,
+        BeginDeclare,
+        BeginSection, // BEGIN DECLARE SECTION
+        BeginAtStart, // a transaction, or NOT ATOMIC
         End,
         Is,
         Repeat,
@@ -56,6 +69,7 @@ struct BlockState
     bool routineHeader = false; // of a routine in declarations
     bool ifSeen = false;        // its THEN comes
     bool whileSeen = false;     // its DO comes
+    bool rowset = false;        // OPENROWSET, whose parentheses may hold terminators
 
     bool operator==(const BlockState&) const = default;
 
@@ -78,8 +92,8 @@ public:
 
     BlockRules(const SqlDialect& dialect, Controls controls);
 
-    // The first word of a statement. False: it is read as any other.
-    bool Open(BlockState& state, SqlWord word) const;
+    // The first token of a statement. False: it is read as any other.
+    bool Open(BlockState& state, const TextSpans& text, const Token& token, SqlWord word) const;
 
     // Decides what the word before has meant. True if the token at hand belongs to it.
     bool SettlePending(BlockState& state, TokenKind kind, SqlWord word) const
@@ -101,11 +115,17 @@ private:
     using Pending = BlockState::Pending;
     using Before = BlockState::Before;
 
+    bool OpenWord(BlockState& state, SqlWord word) const;
     bool ReadHead(BlockState& state, SqlWord word) const;
+    void ReadFirstWord(BlockState& state, SqlWord word) const;
     void ReadCreate(BlockState& state, SqlWord word) const;
     void ReadWord(BlockState& state, SqlWord word) const;
     void ReadControl(BlockState& state, SqlWord word) const;
     bool Settle(BlockState& state, TokenKind kind, SqlWord word) const;
+    void OpenBlock(BlockState& state) const;
+    bool SettleBegin(BlockState& state, TokenKind kind, SqlWord word) const;
+    bool SettleEnd(BlockState& state, SqlWord word) const;
+    void KeepCaseBody(BlockState& state) const;
     void CloseBlock(BlockState& state) const;
     void CloseControl(BlockState& state) const;
     bool BeginsBlock(const BlockState& state, TokenKind kind, SqlWord word) const;

@@ -1,164 +1,108 @@
-// The client program's lines in a script, and what they and some comments set: the terminator, the
-// catalog. Arguments are looked for a few bytes behind the word only, see kLookAhead.
+// What the statement machine makes of the client program's lines in a script and of comments that
+// speak to the client: statements of their own, the terminator, the catalog.
 #include "engine/analysis/StatementMachine.h"
 
 #include <algorithm>
 
 namespace engine::analysis {
-namespace {
 
-constexpr long kFarthestArgument = 64; // blanks between a client's word and what it sets
-
-bool IsBlank(unsigned char byte)
-{
-    return byte <= ' ';
-}
-
-// Behind the blanks of the line.
-long SkipBlanks(const TextSpans& text, long position)
-{
-    const long stop = position + kFarthestArgument;
-    while (position < stop && (text.At(position) == ' ' || text.At(position) == '\t'))
-        ++position;
-    return position;
-}
-
-long EndOfArgument(const TextSpans& text, long position)
-{
-    const long stop =
-        std::min(position + static_cast<long>(Terminators::kLongest) + 1, text.Size());
-    while (position < stop && !IsBlank(text.At(position)))
-        ++position;
-    return position;
-}
-
-} // namespace
-
-std::uint16_t Terminators::NumberOf(std::string_view text)
-{
-    if (text == ";")
-        return 0;
-    const auto found = std::find(m_texts.begin(), m_texts.end(), text);
-    if (found == m_texts.end()) {
-        m_texts.emplace_back(text);
-        return static_cast<std::uint16_t>(m_texts.size());
-    }
-    return static_cast<std::uint16_t>(found - m_texts.begin() + 1);
-}
-
-std::string_view Terminators::TextOf(std::uint16_t number) const
-{
-    return number == 0 ? std::string_view() : m_texts[number - 1U];
-}
-
-bool StatementMachine::EqualsWord(const Token& token, std::string_view word) const
-{
-    if (token.kind != TokenKind::Word || token.Length() != static_cast<long>(word.size()))
-        return false;
-    long at = token.start;
-    return std::all_of(word.begin(), word.end(), [&](char letter) {
-        return (m_scanner.Text().At(at++) | 0x20) == static_cast<unsigned char>(letter);
-    });
-}
-
-// A line of the client's ends where the line does.
-bool StatementMachine::TakeCommand(const Token& token)
+// Of a statement's first token, or of one inside where the client has a say.
+bool StatementMachine::TakeClient(const Token& token)
 {
     const TextSpans& text = m_scanner.Text();
-    const bool byLead = m_dialect.commandLeads.find(static_cast<char>(text.At(token.start))) !=
-                        std::string_view::npos;
-    const bool isDelimiter =
-        !m_dialect.delimiterWord.empty() && EqualsWord(token, m_dialect.delimiterWord);
-    if (!byLead && !isDelimiter && !IsListed(token, m_dialect.commandWords))
+    const bool isInside = m_state.phase == Phase::Open;
+    const ClientLine line =
+        isInside ? ClientLineInStatement(m_dialect, text, token, m_state.lineIsClean)
+                 : ClientLineAt(m_dialect, text, token, m_state.lineIsClean, m_state.terminator);
+    m_read = std::max(m_read, line.read);
+    if (line.kind == ClientWord::None || (line.kind == ClientWord::Inner && !isInside))
         return false;
-    if (isDelimiter)
-        TakeDelimiter(token);
-    else if (byLead && !m_dialect.connectCommands.empty())
-        NoteConnect(token.end);
-    const Token line = m_scanner.TakeLine(m_limit);
-    m_lastEnd = line.end;
-    m_state.Forget(Phase::Ended);
+    isInside ? TakeInStatement(token, line) : TakeClientLine(token, line);
     return true;
 }
 
-// Whether the word is one of a list, each of which stands between blanks.
-bool StatementMachine::IsListed(const Token& token, std::string_view list) const
+// A line of the client's is a statement of its own.
+void StatementMachine::TakeClientLine(const Token& token, const ClientLine& line)
 {
-    if (list.empty() || token.kind != TokenKind::Word || token.Length() > 16)
-        return false;
-    std::string word(1, ' ');
-    word += m_scanner.Text().Copy(token.start, token.end);
-    word += ' ';
-    std::transform(word.begin(), word.end(), word.begin(),
-                   [](char c) { return c >= 'A' && c <= 'Z' ? static_cast<char>(c | 0x20) : c; });
-    return list.find(word) != std::string_view::npos;
-}
-
-// \c name: the argument behind the command's word.
-void StatementMachine::NoteConnect(long position)
-{
-    const TextSpans& text = m_scanner.Text();
-    Token word{.kind = TokenKind::Word, .start = position, .end = position};
-    while (word.Length() < 16 && BytesOf(m_dialect).inWord[text.At(word.end)])
-        ++word.end;
-    if (!IsListed(word, m_dialect.connectCommands))
+    if (line.kind == ClientWord::Comment) {
+        m_scanner.TakeLine(m_limit);
         return;
-    const long name = SkipBlanks(text, word.end);
-    if (name > word.end && !IsBlank(text.At(name)) && text.At(name) != '-')
-        Note(Event::Connect, name);
-}
-
-void StatementMachine::SetTerminator(long start, long end)
-{
-    const std::string text = m_scanner.Text().Copy(start, end);
-    if (text.empty() || text.size() > Terminators::kLongest)
-        return;
-    m_state.terminator = m_terminators.NumberOf(text);
-    m_scanner.SetTerminator(m_terminators.TextOf(m_state.terminator));
-}
-
-void StatementMachine::TakeDelimiter(const Token& token)
-{
-    const long start = SkipBlanks(m_scanner.Text(), token.end);
-    if (start > token.end)
-        SetTerminator(start, EndOfArgument(m_scanner.Text(), start));
-}
-
-// SET TERM new old. The old one may stand directly behind.
-void StatementMachine::TakeTerm()
-{
-    const TextSpans& text = m_scanner.Text();
-    std::string_view old = m_terminators.TextOf(m_state.terminator);
-    if (old.empty())
-        old = ";";
-    const long start = SkipBlanks(text, m_scanner.Position());
-    const long blank = EndOfArgument(text, start);
-    long end = std::min(start + 1, blank);
-    while (end < blank && !text.Has(end, old))
-        ++end;
-    const long behind = SkipBlanks(text, end);
-    const bool closed = text.Has(behind, old);
-    m_lastEnd = closed ? behind + static_cast<long>(old.size()) : end;
-    m_read = std::max(m_read, m_lastEnd + kLookAhead);
-    m_scanner.Restart(m_lastEnd);
-    SetTerminator(start, end);
+    }
+    Note(Event::Start, token.start);
+    m_scanner.Restart(line.behind);
+    Apply(line);
+    TakeRestOf(line);
     m_state.Forget(Phase::Ended);
 }
 
-// --#SET TERMINATOR new
-void StatementMachine::TakeTerminatorComment(const Token& token)
+void StatementMachine::TakeInStatement(const Token& token, const ClientLine& line)
 {
-    static constexpr std::string_view kStart = "--#set terminator";
-    const TextSpans& text = m_scanner.Text();
-    const long behind = token.start + static_cast<long>(kStart.size());
-    if (behind >= token.end)
+    const bool isBetween = !line.isEscape && m_state.blocks == 0 && m_state.parentheses == 0 &&
+                           m_state.declarations == 0 && !m_state.InRoutine();
+    if (line.kind == ClientWord::Cut || isBetween) {
+        CloseStatement();
+        TakeClientLine(token, line);
         return;
-    std::string start = text.Copy(token.start, behind);
-    std::transform(start.begin(), start.end(), start.begin(),
-                   [](char c) { return c >= 'A' && c <= 'Z' ? static_cast<char>(c | 0x20) : c; });
-    const long argument = SkipBlanks(text, behind);
-    if (start == kStart && argument > behind)
-        SetTerminator(argument, std::min(EndOfArgument(text, argument), token.end));
+    }
+    m_scanner.Restart(line.behind);
+    Apply(line);
+    if (line.kind == ClientWord::Inner)
+        m_lastEnd = line.behind;
+    else
+        TakeRestOf(line);
+    if (line.kind == ClientWord::Send)
+        m_state.Forget(Phase::Ended);
+}
+
+void StatementMachine::TakeRestOf(const ClientLine& line)
+{
+    const bool isShort = line.kind == ClientWord::Alone ||
+                         (line.kind == ClientWord::Send && line.rest.stopsAtTerminator);
+    m_lastEnd = isShort ? line.behind : m_scanner.TakeLine(m_limit, line.rest).end;
+}
+
+void StatementMachine::Apply(const ClientLine& line)
+{
+    if (line.kind == ClientWord::Delimiter)
+        SetTerminator(DelimiterAt(m_scanner.Text(), line.behind));
+    else if (line.kind == ClientWord::Connect)
+        NoteArgument(Event::Connect, line.behind);
+    else if (line.kind == ClientWord::Variable)
+        NoteArgument(Event::Variable, line.behind);
+}
+
+// \c - keeps what it is.
+void StatementMachine::NoteArgument(Event::Kind kind, long behind)
+{
+    const TextSpans& text = m_scanner.Text();
+    const long start = SkipBlanks(text, behind);
+    if (start > behind && text.At(start) > ' ' && text.At(start) != '-')
+        Note(kind, start);
+}
+
+void StatementMachine::SetTerminator(const TerminatorChange& change)
+{
+    m_read = std::max(m_read, change.read);
+    if (!change.found)
+        return;
+    m_state.terminator = change.terminator;
+    m_scanner.SetTerminator(m_state.terminator.Text());
+}
+
+void StatementMachine::TakeTerm()
+{
+    const TerminatorChange change =
+        SetTermAt(m_scanner.Text(), m_scanner.Position(), m_state.terminator);
+    m_lastEnd = change.end;
+    m_scanner.Restart(m_lastEnd);
+    SetTerminator(change);
+    m_state.Forget(Phase::Ended);
+}
+
+void StatementMachine::TakeComment(const Token& token)
+{
+    if (m_dialect.terminatorComment && !token.resumed)
+        SetTerminator(TerminatorInComment(m_scanner.Text(), token, !m_state.hasBegun));
 }
 
 } // namespace engine::analysis

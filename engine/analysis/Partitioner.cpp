@@ -17,6 +17,8 @@ Mark GroupOf(Event::Kind kind)
         return Mark::Separators;
     case Event::Start:
         return Mark::Starts;
+    case Event::Variable:
+        return Mark::Variables;
     default:
         return Mark::Catalogs;
     }
@@ -32,7 +34,6 @@ Partitioner::Partitioner(ScriptRules rules, long size, long stretch)
 
 void Partitioner::Reset(long size)
 {
-    m_terminators.Clear();
     m_stretches.Reset(size);
     m_fresh = 0;
 }
@@ -65,8 +66,6 @@ void Partitioner::MakeStale(std::size_t index, long position)
 
 void Partitioner::Inserted(long position, long bytes)
 {
-    if (m_terminators.NearlyFull())
-        Reset(Size());
     const std::size_t index = m_stretches.IndexAt(position);
     m_stretches.Grow(index, bytes);
     MakeStale(index, position);
@@ -101,10 +100,13 @@ long Partitioner::Read(const TextSpans& text, std::size_t index)
     while (index + 1 < m_stretches.Count() && m_stretches.LengthOf(index) < m_stretch / 4 &&
            m_stretches.LengthOf(index) + m_stretches.LengthOf(index + 1) <= 2 * m_stretch)
         m_stretches.Merge(index, index + 1);
-    const StatementState entry = index > 0 ? m_stretches[index - 1].exit : StatementState();
+    StatementState entry;
+    entry.terminator = m_rules.terminator;
+    if (index > 0)
+        entry = m_stretches[index - 1].exit;
     const long start = m_stretches.StartOf(index);
     const long length = m_stretches.LengthOf(index);
-    StatementMachine machine(m_rules, m_terminators, text, start, entry);
+    StatementMachine machine(m_rules, text, start, entry);
     machine.Run(start + (length > 2 * m_stretch ? m_stretch : length));
     MeetNeighbours(index, machine.Position());
     Keep(index, machine, entry);
@@ -140,7 +142,7 @@ void Partitioner::Keep(std::size_t index, const StatementMachine& machine,
     stretch.reach = machine.Reach() - machine.Position();
     stretch.dirty = false;
     for (const Mark mark :
-         {Mark::Stale, Mark::Starts, Mark::Ends, Mark::Separators, Mark::Catalogs})
+         {Mark::Stale, Mark::Starts, Mark::Ends, Mark::Separators, Mark::Catalogs, Mark::Variables})
         m_stretches.Set(mark, index, false);
     for (const Event& event : stretch.events)
         m_stretches.Set(GroupOf(event.GetKind()), index, true);

@@ -53,7 +53,8 @@ public:
     // line belongs to the batch before it.
     Span BatchAt(const TextSpans& text, long position);
 
-    // What the last USE before a position has chosen, unquoted.
+    // What the last USE before a position has chosen, unquoted, with the values that the client's
+    // variables have there.
     std::optional<std::string> CatalogAt(const TextSpans& text, long position);
 
     // Every statement that has bytes in [start, end), in order.
@@ -87,10 +88,12 @@ private:
     Found NextInBatch(const TextSpans& text, long position);
     long BatchStart(const TextSpans& text, long position, Found* onLine) const;
     std::optional<std::string> NameAt(const TextSpans& text, Place place, long position) const;
+    std::string Substituted(const TextSpans& text, const std::string& name, Place place) const;
+    std::optional<std::string> ValueOf(const TextSpans& text, const std::string& variable,
+                                       Place before) const;
 
     ScriptRules m_rules;
     long m_stretch;
-    Terminators m_terminators;
     Stretches m_stretches;
     mutable std::size_t m_fresh = 0; // no stretch before this one is stale
 };

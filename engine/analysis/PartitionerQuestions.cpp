@@ -106,13 +106,62 @@ std::optional<std::string> Partitioner::NameAt(const TextSpans& text, Place plac
                                                long position) const
 {
     const long start = PositionOf(place);
-    const Span span = EventAt(place).GetKind() == Event::Use
-                          ? Span{start, SqlScanner(*m_rules.dialect, text, start).Next().end}
-                          : ArgumentAt(text, start);
+    Span span = ArgumentAt(text, start);
+    if (EventAt(place).GetKind() == Event::Use) {
+        const long variables =
+            m_rules.dialect->variables ? EndOfVariables(*m_rules.dialect, text, start) : -1;
+        span.end = std::max(variables, SqlScanner(*m_rules.dialect, text, start).Next().end);
+    }
     if (span.end > position)
         return std::nullopt;
-    const std::string name = text.Copy(span.start, span.end);
-    return IsQuoted(name) ? Unquoted(name) : name;
+    std::string name = text.Copy(span.start, span.end);
+    if (IsQuoted(name))
+        name = Unquoted(name);
+    return m_rules.dialect->variables ? Substituted(text, name, place) : name;
+}
+
+// With $(name) replaced by what was set before the place. What has no value stays.
+std::string Partitioner::Substituted(const TextSpans& text, const std::string& name,
+                                     Place place) const
+{
+    std::string result;
+    for (std::size_t at = 0; at < name.size();) {
+        const std::size_t close = name.compare(at, 2, "$(") == 0 ? name.find(')', at) : name.npos;
+        const auto value = close != name.npos
+                               ? ValueOf(text, name.substr(at + 2, close - at - 2), place)
+                               : std::nullopt;
+        if (value) {
+            result += *value;
+            at = close + 1;
+        } else {
+            result += name[at++];
+        }
+    }
+    return result;
+}
+
+// Variables of the client differ by their letters, not by case. One that is set to nothing has no
+// value.
+std::optional<std::string> Partitioner::ValueOf(const TextSpans& text, const std::string& variable,
+                                                Place before) const
+{
+    const auto same = [](char a, char b) {
+        const auto lower = [](char c) { return c >= 'A' && c <= 'Z' ? c | 0x20 : c; };
+        return lower(a) == lower(b);
+    };
+    for (Found set = Before(Mark::Variables, before); set; set = Before(Mark::Variables, *set)) {
+        const Span name = ArgumentAt(text, PositionOf(*set));
+        const std::string written = text.Copy(name.start, name.end);
+        if (!std::equal(written.begin(), written.end(), variable.begin(), variable.end(), same))
+            continue;
+        const Span value = ArgumentAt(text, SkipBlanks(text, name.end));
+        const unsigned char first = text.At(value.start);
+        if (first <= ' ')
+            return std::nullopt;
+        const std::string argument = text.Copy(value.start, value.end);
+        return IsQuoted(argument) ? Unquoted(argument) : argument;
+    }
+    return std::nullopt;
 }
 
 std::optional<std::string> Partitioner::CatalogAt(const TextSpans& text, long position)

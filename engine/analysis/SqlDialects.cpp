@@ -10,6 +10,8 @@ namespace {
 constexpr SqlDialect kGeneric = {
     .name = "sql",
     .escapeStrings = true,
+    .stringPrefixes = "bnx",
+    .unicodeStrings = true,
     .quotingStrings = true,
     .dollarStrings = true,
     .backticks = true,
@@ -20,6 +22,7 @@ constexpr SqlDialect kGeneric = {
     .routine = Routine::Mixed,
     .begin = Begin::BlockOrTransaction,
     .hasUse = true,
+    .withFunctions = true,
 };
 
 constexpr SqlDialect kTransactSql = {
@@ -35,24 +38,20 @@ constexpr SqlDialect kTransactSql = {
     .elseFollowsTerminator = true,
     .hasUse = true,
     .useIsReserved = true,
-    .commandLeads = ":!",
+    .rowsetTerminators = true,
+    .variables = true,
+    .client = &kSqlcmd,
 };
 
-constexpr SqlDialect kAse = {
-    .name = "ase",
-    .nestedComments = true,
-    .doubleQuoteStrings = true,
-    .brackets = true,
-    .wordMarks = "$#@",
-    .wordLeads = "#",
-    .variableLeads = "@",
-    .separator = "GO",
-    .routine = Routine::Batch,
-    .endNamesBlock = false,
-    .elseFollowsTerminator = true,
-    .hasUse = true,
-    .useIsReserved = true,
-};
+constexpr SqlDialect kAse = [] {
+    SqlDialect dialect = kTransactSql;
+    dialect.name = "ase";
+    dialect.doubleQuoteStrings = true;
+    dialect.rowsetTerminators = false;
+    dialect.variables = false;
+    dialect.client = &kAseIsql;
+    return dialect;
+}();
 
 constexpr SqlDialect kIq = {
     .name = "iq",
@@ -68,20 +67,20 @@ constexpr SqlDialect kIq = {
 constexpr SqlDialect kDb2 = {
     .name = "db2",
     .nestedComments = true,
+    .stringPrefixes = "gnx",
+    .unicodeStrings = true,
     .wordMarks = "$#@",
     .wordLeads = "$#@",
     .variableLeads = ":",
     .terminatorComment = true,
+    .client = &kDb2Clp,
 };
 
-constexpr SqlDialect kDb2ForZOs = {
-    .name = "db2-zos",
-    .nestedComments = true,
-    .wordMarks = "$#@",
-    .wordLeads = "$#@",
-    .variableLeads = ":",
-    .terminatorComment = true,
-};
+constexpr SqlDialect kDb2ForZOs = [] {
+    SqlDialect dialect = kDb2;
+    dialect.name = "db2-zos";
+    return dialect;
+}();
 
 constexpr SqlDialect kOracle = {
     .name = "oracle",
@@ -91,10 +90,9 @@ constexpr SqlDialect kOracle = {
     .separator = "/",
     .routine = Routine::Declarations,
     .declareOpens = true,
-    .commandLeads = "@",
-    .commandWords = " accept btitle clear column conn connect define disconnect exec execute host "
-                    "pause print prompt rem remark set show spool start ttitle undefine variable "
-                    "whenever ",
+    .javaSource = true,
+    .withFunctions = true,
+    .client = &kSqlPlus,
 };
 
 constexpr SqlDialect kMySql = {
@@ -103,6 +101,7 @@ constexpr SqlDialect kMySql = {
     .hashComments = true,
     .codeComments = true,
     .backslashes = true,
+    .stringPrefixes = "bnx",
     .doubleQuoteStrings = true,
     .backticks = true,
     .wordMarks = "$",
@@ -110,12 +109,13 @@ constexpr SqlDialect kMySql = {
     .variableLeads = "@",
     .begin = Begin::Transaction,
     .hasUse = true,
-    .commandWords = " source ",
-    .delimiterWord = "delimiter",
+    .beginNotAtomic = true,
+    .client = &kMySqlClient,
 };
 
 constexpr SqlDialect kInterBase = {
     .name = "interbase",
+    .stringPrefixes = "nx",
     .quotingStrings = true,
     .wordMarks = "$",
     .variableLeads = ":",
@@ -129,6 +129,8 @@ constexpr SqlDialect kPostgreSql = {
     .name = "postgresql",
     .nestedComments = true,
     .escapeStrings = true,
+    .stringPrefixes = "bnx",
+    .unicodeStrings = true,
     .dollarStrings = true,
     .wordMarks = "$",
     .variableLeads = ":",
@@ -136,31 +138,35 @@ constexpr SqlDialect kPostgreSql = {
     .parenthesesHold = true,
     .onlyAtomicBlocks = true,
     .copyData = true,
-    .commandLeads = "\\",
-    .connectCommands = " c connect ",
+    .client = &kPsql,
 };
 
 constexpr SqlDialect kSqlite = {
     .name = "sqlite",
+    .stringPrefixes = "x",
     .backticks = true,
     .brackets = true,
     .wordMarks = "$",
     .variableLeads = "@:$?",
     .begin = Begin::Transaction,
-    .commandLeads = ".",
+    .client = &kSqliteShell,
 };
+
+// By their numbers.
+constexpr const SqlDialect* kDialects[] = {&kGeneric,   &kTransactSql, &kAse,    &kIq,
+                                           &kDb2,       &kDb2ForZOs,   &kOracle, &kMySql,
+                                           &kInterBase, &kPostgreSql,  &kSqlite};
 
 struct LexerRow
 {
-    int lexer; // none has -1: such a dialect is chosen by name
+    int lexer;
     const SqlDialect* dialect;
 };
 
 constexpr LexerRow kLexers[] = {
-    {0, &kGeneric},     {9, &kGeneric},      {2, &kAse},          {3, &kTransactSql},
-    {4, &kDb2},         {5, &kOracle},       {10, &kDb2ForZOs},   {14, &kMySql},
-    {15, &kInterBase},  {16, &kTransactSql}, {17, &kTransactSql}, {18, &kIq},
-    {-1, &kPostgreSql}, {-1, &kSqlite},
+    {0, &kGeneric},    {9, &kGeneric},      {2, &kAse},          {3, &kTransactSql},
+    {4, &kDb2},        {5, &kOracle},       {10, &kDb2ForZOs},   {14, &kMySql},
+    {15, &kInterBase}, {16, &kTransactSql}, {17, &kTransactSql}, {18, &kIq},
 };
 
 constexpr bool IsLetter(int byte)
@@ -241,31 +247,35 @@ bool SameName(std::string_view one, std::string_view other)
 
 const SqlDialect* DialectOfLexer(int lexer)
 {
-    const auto* row = std::find_if(std::begin(kLexers), std::end(kLexers), [lexer](const auto& r) {
-        return r.lexer == lexer && lexer >= 0;
-    });
+    const auto* row = std::find_if(std::begin(kLexers), std::end(kLexers),
+                                   [lexer](const auto& r) { return r.lexer == lexer; });
     return row != std::end(kLexers) ? row->dialect : nullptr;
 }
 
 const SqlDialect* DialectByName(std::string_view name)
 {
-    const auto* row = std::find_if(std::begin(kLexers), std::end(kLexers), [name](const auto& r) {
-        return SameName(r.dialect->name, name);
-    });
-    return row != std::end(kLexers) ? row->dialect : nullptr;
+    const auto* found =
+        std::find_if(std::begin(kDialects), std::end(kDialects),
+                     [name](const SqlDialect* dialect) { return SameName(dialect->name, name); });
+    return found != std::end(kDialects) ? *found : nullptr;
+}
+
+const SqlDialect* DialectByNumber(int number)
+{
+    return number >= 0 && number < static_cast<int>(std::size(kDialects)) ? kDialects[number]
+                                                                          : nullptr;
 }
 
 const ByteTable& BytesOf(const SqlDialect& dialect)
 {
     static const auto tables = [] {
-        std::array<ByteTable, std::size(kLexers)> all;
-        std::transform(std::begin(kLexers), std::end(kLexers), all.begin(),
-                       [](const LexerRow& row) { return MakeTable(*row.dialect); });
+        std::array<ByteTable, std::size(kDialects)> all;
+        std::transform(std::begin(kDialects), std::end(kDialects), all.begin(),
+                       [](const SqlDialect* row) { return MakeTable(*row); });
         return all;
     }();
-    const auto* row = std::find_if(std::begin(kLexers), std::end(kLexers),
-                                   [&](const auto& r) { return r.dialect == &dialect; });
-    return tables[static_cast<std::size_t>(row - std::begin(kLexers))];
+    const auto* found = std::find(std::begin(kDialects), std::end(kDialects), &dialect);
+    return tables[static_cast<std::size_t>(found - std::begin(kDialects))];
 }
 
 } // namespace engine::analysis

@@ -3,6 +3,8 @@
 // batches (StatementMachine).
 #pragma once
 
+#include "engine/analysis/ClientPrograms.h"
+
 #include <array>
 #include <cstdint>
 #include <string_view>
@@ -58,20 +60,22 @@ struct SqlDialect
 
     // Tokens
     Dashes dashes = Dashes::Comment;
-    bool hashComments = false;       // # to the line's end
-    bool slashComments = false;      // // to the line's end
-    bool nestedComments = false;     // /* /* */ */
-    bool codeComments = false;       // /*! */ is code to the server
-    bool backslashes = false;        // \' does not end a string
-    bool escapeStrings = false;      // E'..': backslashes in this one
-    bool quotingStrings = false;     // q'[..]', nq'[..]'
-    bool dollarStrings = false;      // $$..$$, $tag$..$tag$
-    bool doubleQuoteStrings = false; // ".." is a string; else a name
-    bool backticks = false;          // `..` is a name
-    bool brackets = false;           // [..] is a name
-    std::string_view wordMarks;      // in a word beside letters, digits and _
-    std::string_view wordLeads;      // those that a word may begin with
-    std::string_view variableLeads;  // of variables, and of :names
+    bool hashComments = false;             // # to the line's end
+    bool slashComments = false;            // // to the line's end
+    bool nestedComments = false;           // /* /* */ */
+    bool codeComments = false;             // /*! */ is code to the server
+    bool backslashes = false;              // \' does not end a string
+    bool escapeStrings = false;            // E'..': backslashes in this one
+    std::string_view stringPrefixes = "n"; // letters directly before a string
+    bool unicodeStrings = false;           // U&'..', U&".."
+    bool quotingStrings = false;           // q'[..]', nq'[..]'
+    bool dollarStrings = false;            // $$..$$, $tag$..$tag$
+    bool doubleQuoteStrings = false;       // ".." is a string; else a name
+    bool backticks = false;                // `..` is a name
+    bool brackets = false;                 // [..] is a name
+    std::string_view wordMarks;            // in a word beside letters, digits and _
+    std::string_view wordLeads;            // those that a word may begin with
+    std::string_view variableLeads;        // of variables, and of :names
 
     // Statements and batches
     std::string_view separator; // of batches; empty: none
@@ -87,13 +91,14 @@ struct SqlDialect
     bool useIsReserved = false;         // first on its line it begins a statement anywhere
     bool executeBlock = false;          // EXECUTE BLOCK has a body as a routine has
     bool copyData = false;              // lines of data behind COPY ... FROM STDIN;
+    bool javaSource = false;            // CREATE JAVA SOURCE goes on to its separator
+    bool rowsetTerminators = false;     // ; in the parentheses of OPENROWSET
+    bool beginNotAtomic = false;        // BEGIN NOT ATOMIC opens a block
+    bool withFunctions = false;         // WITH FUNCTION declares them
     bool setTerm = false;               // SET TERM new old
-    bool terminatorComment = false;     // --#SET TERMINATOR new
-    // Lines of the client program, where a statement starts: by first byte, by first word.
-    std::string_view commandLeads;
-    std::string_view commandWords;    // each between blanks, lower case
-    std::string_view delimiterWord;   // changes the terminator
-    std::string_view connectCommands; // choose the catalog; after a lead
+    bool terminatorComment = false;     // --#SET TERMINATOR new, -tdnew in a first comment
+    bool variables = false;             // $(name) in names, set by the client
+    const ClientProgram* client = &kNoClient;
 };
 
 // The row of a lexer number. Null for a lexer that is none of SQL's.
@@ -101,6 +106,9 @@ const SqlDialect* DialectOfLexer(int lexer);
 
 // The row by its name, letters of any case. Null for an unknown one.
 const SqlDialect* DialectByName(std::string_view name);
+
+// The row by its number in control/Analysis.h. Null outside.
+const SqlDialect* DialectByNumber(int number);
 
 // What the dialect's bytes begin and which of them go on in a word.
 struct ByteTable

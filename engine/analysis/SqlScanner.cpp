@@ -127,35 +127,22 @@ Token SqlScanner::AnyToken(long limit)
     return ScanOperator();
 }
 
-Token SqlScanner::TakeLine(long limit)
-{
-    m_limit = limit;
-    return LineRest(Begin(TokenKind::Command), m_position);
-}
-
-Token SqlScanner::TakeData(long limit)
-{
-    m_limit = limit;
-    m_state.close = Close::Sequence;
-    m_state.value = '\n' | '\\' << 8 | '.' << 16;
-    m_state.length = 3;
-    return Quoted(Begin(TokenKind::String), m_position);
-}
-
 Token SqlScanner::Resume()
 {
     Token token = Begin(m_state.inside);
     token.resumed = true;
     switch (token.kind) {
     case TokenKind::LineComment:
-    case TokenKind::Command:
         return LineRest(token, m_position);
+    case TokenKind::Command:
+        return CommandRest(token, m_position);
     case TokenKind::BlockComment:
     case TokenKind::CodeComment:
         return BlockComment(token, m_position);
     case TokenKind::String:
     case TokenKind::QuotedName:
-        return Quoted(token, m_position);
+        return m_state.close == Close::Line ? LinesRest(token, m_position)
+                                            : Quoted(token, m_position);
     default:
         return WordRest(token, m_position);
     }
@@ -240,23 +227,35 @@ Token SqlScanner::WordRest(Token token, long from)
 
 Token SqlScanner::ScanWord()
 {
-    const Token token = Begin(TokenKind::Word);
-    const long start = m_position;
-    const Token word = WordRest(token, start + 1);
-    if (word.Length() > 2 || m_text.At(word.end) != '\'')
-        return word;
-    const int first = m_text.At(start) | 32;
-    m_position = start;
-    if (word.Length() == 1 && first == 'e' && m_dialect->escapeStrings)
-        return OpenQuote(TokenKind::String, 1, Close::Escaped, '\'');
-    if (word.Length() == 1 && first == 'n')
-        return OpenQuote(TokenKind::String, 1,
-                         m_dialect->backslashes ? Close::Escaped : Close::Doubled, '\'');
-    if (m_dialect->quotingStrings && word.Length() == 1 && first == 'q')
-        return OpenQuotingString(1);
-    if (m_dialect->quotingStrings && word.Length() == 2 && first == 'n' &&
-        (m_text.At(start + 1) | 32) == 'q')
+    const Token word = WordRest(Begin(TokenKind::Word), m_position + 1);
+    const unsigned char next = m_text.At(word.end);
+    return word.Length() <= 2 && (next == '\'' || next == '&') ? PrefixedString(word) : word;
+}
+
+// The string that a word is the prefix of, or the word.
+Token SqlScanner::PrefixedString(const Token& word)
+{
+    m_position = word.start;
+    const auto first = static_cast<char>(m_text.At(word.start) | 32);
+    const unsigned char next = m_text.At(word.end);
+    const Close close = m_dialect->backslashes ? Close::Escaped : Close::Doubled;
+    const unsigned char quote = m_text.At(word.end + 1);
+    if (next == '&') {
+        if (m_dialect->unicodeStrings && word.Length() == 1 && first == 'u' &&
+            (quote == '\'' || quote == '"'))
+            return OpenQuote(quote == '"' ? TokenKind::QuotedName : TokenKind::String, 2,
+                             Close::Doubled, static_cast<char>(quote));
+    } else if (word.Length() == 1) {
+        if (first == 'e' && m_dialect->escapeStrings)
+            return OpenQuote(TokenKind::String, 1, Close::Escaped, '\'');
+        if (m_dialect->stringPrefixes.find(first) != std::string_view::npos)
+            return OpenQuote(TokenKind::String, 1, close, '\'');
+        if (first == 'q' && m_dialect->quotingStrings)
+            return OpenQuotingString(1);
+    } else if (m_dialect->quotingStrings && first == 'n' &&
+               (m_text.At(word.start + 1) | 32) == 'q') {
         return OpenQuotingString(2);
+    }
     m_position = word.end;
     return word;
 }

@@ -54,12 +54,13 @@ struct ScanState
         Escaped,   // the same, and a backslash takes the next byte with it
         Sequence,  // the bytes in value, length of them
         DollarTag, // the tag with the hash in value
+        Line,      // a line of the bytes in value alone, length of them
     };
 
     TokenKind inside = TokenKind::End; // End: nothing
     Close close = Close::Doubled;
     std::uint8_t length = 0;
-    std::uint64_t value = 0; // of a block comment how deep it is
+    std::uint64_t value = 0; // of a block comment how deep it is; of a Command see CommandRest
 
     bool InCode() const { return inside == TokenKind::End; }
     bool operator==(const ScanState&) const = default;
@@ -83,10 +84,12 @@ public:
     }
 
     // The rest of the line behind the last token, as a Command.
-    Token TakeLine(long limit = kNoLimit);
+    Token TakeLine(long limit = kNoLimit, ClientRest rest = {});
 
-    // Lines of data up to one that begins with \., as a String.
-    Token TakeData(long limit = kNoLimit);
+    // Lines that are none of SQL's, as a String: of data up to one that is \., this one included;
+    // of foreign source up to one that is a slash, this one left out.
+    Token TakeData(long limit = kNoLimit) { return TakeLines("\\.", limit); }
+    Token TakeSource(long limit = kNoLimit) { return TakeLines("/", limit); }
 
     // Goes on between tokens, behind what the caller has read by itself.
     void Restart(long position)
@@ -123,7 +126,7 @@ private:
             const auto* const stop = start + kLongToken;
             while (m_bytes->inWord[*at] && at < stop)
                 ++at;
-            if (*at == '\'' || at == stop) // a string's prefix, a long token
+            if (*at == '\'' || *at == '&' || at == stop) // a string's prefix, a long token
                 return {};
             kind = TokenKind::Word;
         } else if (first == ByteClass::Blank) {
@@ -157,7 +160,12 @@ private:
     Token ScanOperator();
     Token OpenQuote(TokenKind kind, long prefix, Close close, char closer);
     Token OpenQuotingString(long prefix);
+    Token TakeLines(std::string_view last, long limit);
     Token LineRest(Token token, long from);
+    Token CommandRest(Token token, long from);
+    Token PrefixedString(const Token& word);
+    Token LinesRest(Token token, long from);
+    long EndIfLastLine(long lineEnd) const;
     Token BlockComment(Token token, long from);
     Token Quoted(Token token, long from);
     Token WordRest(Token token, long from);

@@ -6,21 +6,11 @@
 namespace engine::analysis {
 namespace {
 
-// In the order of SqlWord, None left out.
 constexpr std::string_view kWords[] = {
-    "aggregate", "alter",       "as",        "atomic",     "begin",        "block",
-    "body",      "case",        "compound",  "constraint", "conversation", "copy",
-    "create",    "declare",     "deferred",  "definer",    "dialog",       "distributed",
-    "do",        "editionable", "else",      "elseif",     "end",          "event",
-    "exclusive", "execute",     "external",  "for",        "function",     "if",
-    "immediate", "is",          "isolation", "language",   "loop",         "noneditionable",
-    "not",       "null",        "or",        "package",    "proc",         "procedure",
-    "read",      "recreate",    "repeat",    "replace",    "row",          "set",
-    "statement", "stdin",       "temp",      "temporary",  "term",         "then",
-    "tran",      "transaction", "trigger",   "type",       "use",          "when",
-    "while",     "work",
+#define ZN_SQL_WORD(name, text) text,
+#include "engine/analysis/SqlWords.def"
+#undef ZN_SQL_WORD
 };
-static_assert(std::size(kWords) == static_cast<std::size_t>(SqlWord::Work));
 
 constexpr std::size_t kSlots = 256;
 
@@ -73,6 +63,11 @@ bool Equals(const TextSpans& text, long start, std::string_view word)
 }
 
 } // namespace
+
+std::span<const std::string_view> SqlWordTexts()
+{
+    return kWords;
+}
 
 SqlWord WordOf(const TextSpans& text, const Token& token)
 {

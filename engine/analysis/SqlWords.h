@@ -4,74 +4,21 @@
 
 #include "engine/analysis/SqlScanner.h"
 
+#include <span>
+#include <string_view>
+
 namespace engine::analysis {
 
 enum class SqlWord : std::uint8_t
 {
     None, // any other word
-    Aggregate,
-    Alter,
-    As,
-    Atomic,
-    Begin,
-    Block,
-    Body,
-    Case,
-    Compound,
-    Constraint,
-    Conversation,
-    Copy,
-    Create,
-    Declare,
-    Deferred,
-    Definer,
-    Dialog,
-    Distributed,
-    Do,
-    Editionable,
-    Else,
-    Elseif,
-    End,
-    Event,
-    Exclusive,
-    Execute,
-    External,
-    For,
-    Function,
-    If,
-    Immediate,
-    Is,
-    Isolation,
-    Language,
-    Loop,
-    Noneditionable,
-    Not,
-    Null,
-    Or,
-    Package,
-    Proc,
-    Procedure,
-    Read,
-    Recreate,
-    Repeat,
-    Replace,
-    Row,
-    Set,
-    Statement,
-    Stdin,
-    Temp,
-    Temporary,
-    Term,
-    Then,
-    Tran,
-    Transaction,
-    Trigger,
-    Type,
-    Use,
-    When,
-    While,
-    Work,
+#define ZN_SQL_WORD(name, text) name,
+#include "engine/analysis/SqlWords.def"
+#undef ZN_SQL_WORD
 };
+
+// All of them but None, in their order.
+std::span<const std::string_view> SqlWordTexts();
 
 // The word that a token is, in any letter case.
 SqlWord WordOf(const TextSpans& text, const Token& token);

@@ -7,13 +7,13 @@
 
 namespace engine::analysis {
 
-StatementMachine::StatementMachine(const ScriptRules& rules, Terminators& terminators,
-                                   TextSpans text, long start, const StatementState& state)
+StatementMachine::StatementMachine(const ScriptRules& rules, TextSpans text, long start,
+                                   const StatementState& state)
     : m_rules(rules), m_dialect(*rules.dialect),
-      m_blocks(m_dialect, BlockRules::Controls::BodiesAlone), m_terminators(terminators),
+      m_blocks(m_dialect, BlockRules::Controls::BodiesAlone),
       m_scanner(m_dialect, text, start, state.scan), m_state(state), m_start(start)
 {
-    m_scanner.SetTerminator(m_terminators.TextOf(state.terminator));
+    m_scanner.SetTerminator(m_state.terminator.Text());
 }
 
 void StatementMachine::Run(long limit)
@@ -58,10 +58,10 @@ void StatementMachine::Take(const Token& token)
         return;
     switch (token.kind) {
     case TokenKind::LineComment:
-        if (m_dialect.terminatorComment && !token.resumed)
-            TakeTerminatorComment(token);
+        TakeComment(token);
         return;
     case TokenKind::BlockComment:
+        TakeComment(token);
         if (!m_state.lineIsClean &&
             FindEither(m_scanner.Text(), token.start, token.end, '\r', '\n') < token.end)
             m_state.lineIsClean = true;
@@ -74,6 +74,7 @@ void StatementMachine::Take(const Token& token)
         break;
     }
     m_state.lineIsClean = false;
+    m_state.hasBegun = true;
 }
 
 bool StatementMachine::TakeSeparator(const Token& token)
@@ -87,6 +88,7 @@ bool StatementMachine::TakeSeparator(const Token& token)
     Note(Event::Separator, token.start);
     m_state.Forget(Phase::None);
     m_state.lineIsClean = false;
+    m_state.hasBegun = true;
     m_scanner.Restart(line.end);
     return true;
 }
@@ -102,7 +104,7 @@ void StatementMachine::TakeTerminator(const Token& token)
     }
     const bool data = m_state.head == StatementState::Head::CopyData;
     m_lastEnd = token.end;
-    if (m_blocks.TakeTerminator(m_state, m_state.terminator != 0))
+    if (m_blocks.TakeTerminator(m_state, m_state.terminator.IsOwn()))
         return;
     m_state.Forget(Phase::Ended);
     if (data)
@@ -127,6 +129,8 @@ void StatementMachine::TakePart(const Token& token)
     } else if (m_state.phase == Phase::Open && SplitsAtUse(word)) {
         CloseStatement();
     }
+    if (TakeClient(token))
+        return;
     m_lastEnd = token.end;
     if (m_state.phase == Phase::None)
         OpenStatement(token, word);
@@ -158,11 +162,9 @@ void StatementMachine::OpenStatement(const Token& token, SqlWord word)
 {
     Note(Event::Start, token.start);
     m_state.Forget(Phase::Open);
-    if (m_state.lineIsClean && TakeCommand(token))
-        return;
     if (word == SqlWord::Use)
         m_state.nameExpected = m_dialect.hasUse;
-    else if (!m_blocks.Open(m_state, word))
+    else if (!m_blocks.Open(m_state, m_scanner.Text(), token, word))
         Continue(token, word);
 }
 
@@ -174,6 +176,10 @@ void StatementMachine::Continue(const Token& token, SqlWord word)
     const bool isName = m_state.nameExpected;
     if (m_blocks.Continue(m_state, m_scanner.Text(), token, isName ? SqlWord::None : word))
         TakeTerm();
+    if (m_state.head == StatementState::Head::JavaSource) {
+        m_lastEnd = m_scanner.TakeSource(m_limit).end;
+        m_state.head = StatementState::Head::Plain;
+    }
     if (isName)
         ReadName(token);
     else
@@ -183,9 +189,17 @@ void StatementMachine::Continue(const Token& token, SqlWord word)
 void StatementMachine::ReadName(const Token& token)
 {
     m_state.nameExpected = false;
+    const long variables =
+        m_dialect.variables ? EndOfVariables(m_dialect, m_scanner.Text(), token.start) : -1;
     const bool isName = token.kind == TokenKind::Word || token.kind == TokenKind::QuotedName;
-    if (!isName || token.Length() >= kLongToken) // of a longer one only the front may be at hand
+    if (variables > token.end) {
+        m_lastEnd = variables;
+        m_read = std::max(m_read, variables + kLookAhead);
+        m_scanner.Restart(variables);
+    } else if (!isName ||
+               token.Length() >= kLongToken) { // of a longer one the front may be at hand
         return;
+    }
     Note(Event::Use, token.start);
     if (m_state.blocks > 0)
         return;

@@ -22,6 +22,7 @@ public:
         Start,      // of a statement
         Use,        // the first byte of the name of a catalog
         Connect,    // the same in a line of the client's
+        Variable,   // the first byte of the name of a client's variable that gets a value
     };
 
     Event(Kind kind, long distance) : m_bits(static_cast<std::uint32_t>(distance) << 3 | kind) {}
@@ -37,8 +38,10 @@ private:
 class StatementMachine
 {
 public:
-    StatementMachine(const ScriptRules& rules, Terminators& terminators, TextSpans text, long start,
+    StatementMachine(const ScriptRules& rules, TextSpans text, long start,
                      const StatementState& state);
+    StatementMachine(const StatementMachine&) = delete; // the scanner points at the state
+    StatementMachine& operator=(const StatementMachine&) = delete;
 
     // Reads up to the limit, or to the end of the token that stands across it.
     void Run(long limit);
@@ -63,23 +66,23 @@ private:
     void TakeRest(const Token& token);
     void OpenStatement(const Token& token, SqlWord word);
     void CloseStatement();
-    bool TakeCommand(const Token& token);
-    bool IsListed(const Token& token, std::string_view list) const;
-    void NoteConnect(long position);
-    void TakeDelimiter(const Token& token);
+    bool TakeClient(const Token& token);
+    void TakeClientLine(const Token& token, const ClientLine& line);
+    void TakeInStatement(const Token& token, const ClientLine& line);
+    void TakeRestOf(const ClientLine& line);
+    void Apply(const ClientLine& line);
+    void NoteArgument(Event::Kind kind, long behind);
     void TakeTerm();
-    void TakeTerminatorComment(const Token& token);
-    void SetTerminator(long start, long end);
+    void TakeComment(const Token& token);
+    void SetTerminator(const TerminatorChange& change);
     void Continue(const Token& token, SqlWord word);
     void ReadName(const Token& token);
     bool SplitsAtUse(SqlWord word) const;
-    bool EqualsWord(const Token& token, std::string_view word) const;
     void Note(Event::Kind kind, long position);
 
     const ScriptRules& m_rules;
     const SqlDialect& m_dialect;
     BlockRules m_blocks;
-    Terminators& m_terminators;
     SqlScanner m_scanner;
     StatementState m_state; // its scan state is the scanner's
     long m_start;

@@ -5,9 +5,7 @@
 #include "engine/analysis/BatchSeparator.h"
 #include "engine/analysis/BlockRules.h"
 #include "engine/analysis/SqlScanner.h"
-
-#include <deque>
-#include <string>
+#include "engine/analysis/Terminator.h"
 
 namespace engine::analysis {
 
@@ -16,24 +14,9 @@ struct ScriptRules
 {
     const SqlDialect* dialect = nullptr;
     BatchSeparator separator;
+    Terminator terminator; // until the script sets another
 
     bool operator==(const ScriptRules&) const = default;
-};
-
-// The terminators that a script sets, by number. 0 is ;, which a script has until it says other.
-class Terminators
-{
-public:
-    // The most bytes a terminator may have; a longer text sets none.
-    static constexpr std::size_t kLongest = 15;
-
-    std::uint16_t NumberOf(std::string_view text);
-    std::string_view TextOf(std::uint16_t number) const; // empty for ;
-    bool NearlyFull() const { return m_texts.size() > 0xF000; }
-    void Clear() { m_texts.clear(); }
-
-private:
-    std::deque<std::string> m_texts;
 };
 
 struct StatementState : BlockState
@@ -46,11 +29,12 @@ struct StatementState : BlockState
     };
 
     ScanState scan;
-    std::uint16_t terminator = 0;
+    Terminator terminator;
     Phase phase = Phase::None;
     bool lineIsClean = true;      // blanks and comments only, so far
     bool nameExpected = false;    // behind USE
     bool takesTerminator = false; // of phase Ended
+    bool hasBegun = false;        // there was something else than blanks and comments
 
     bool operator==(const StatementState&) const = default;
 

@@ -30,9 +30,10 @@ enum class Mark : std::uint8_t
     Ends,
     Separators,
     Catalogs,
+    Variables,
     Tokens,
 };
-inline constexpr std::size_t kMarks = 6;
+inline constexpr std::size_t kMarks = 7;
 
 // A copy shares what neither of both has changed. Not for several threads.
 class Stretches

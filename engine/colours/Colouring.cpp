@@ -2,6 +2,7 @@
 
 #include "control/SqlStyles.h"
 #include "engine/colours/Lexers.h"
+#include "engine/colours/SqlRules.h"
 
 #include <algorithm>
 #include <limits>
@@ -15,7 +16,6 @@ constexpr long kChunk = 64 * 1024; // bytes that are walked over before they are
 constexpr long kPlaceStep = 1024;  // between places inside a line; each takes 88 bytes
 constexpr long kSmallStep = 64;    // from where there can be none
 constexpr long kNowhere = std::numeric_limits<long>::max();
-constexpr int kGenericLexer = 9;
 
 long StartOfLine(const Raw& raw, long line)
 {
@@ -63,11 +63,11 @@ bool IsFresh(const SqlLineState& state)
 
 } // namespace
 
-void SqlLineStates::Clear()
+void SqlLineStates::Clear(const SqlLineState& first)
 {
-    m_states.assign(1, SqlLineState());
+    m_states.assign(1, first);
     m_numbers.clear();
-    m_numbers.emplace(SqlLineState(), 0);
+    m_numbers.emplace(first, 0);
 }
 
 int SqlLineStates::NumberOf(const SqlLineState& state)
@@ -108,19 +108,10 @@ void Colouring::Become(const Raw& raw, int lexer)
     Restart(raw);
 }
 
-// Dialects without a number of their own share one and say by a property which they are.
 void Colouring::ChooseDialect(const Raw& raw)
 {
-    m_dialect = IsSqlLexer(m_lexer) ? analysis::DialectOfLexer(m_lexer) : nullptr;
-    if (m_lexer != kGenericLexer)
-        return;
-    char name[32] = {};
-    const auto key = reinterpret_cast<std::uintptr_t>(sqlstyle::kDialectProperty);
-    if (raw.Send(Sci::SCI_GETPROPERTY, key) >= static_cast<std::intptr_t>(sizeof name))
-        return;
-    raw.Send(Sci::SCI_GETPROPERTY, key, name);
-    if (const analysis::SqlDialect* chosen = analysis::DialectByName(name))
-        m_dialect = chosen;
+    m_dialect = IsSqlLexer(m_lexer) ? DialectOf(raw, m_lexer) : nullptr;
+    m_terminator = TerminatorOf(raw);
 }
 
 void Colouring::SetKeyWords(const Raw& raw, int set, std::string_view words)
@@ -134,10 +125,12 @@ void Colouring::ReadProperties(const Raw& raw)
     const analysis::SqlDialect* dialect = m_dialect;
     const bool folds = m_folds;
     const SqlFoldOptions options = m_foldOptions;
+    const analysis::Terminator terminator = m_terminator;
     ChooseDialect(raw);
     m_folds = IsOn(raw, "fold");
     m_foldOptions = {.comments = IsOn(raw, "fold.comment"), .compact = IsOn(raw, "fold.compact")};
-    if (m_dialect != dialect || m_folds != folds || m_foldOptions != options)
+    if (m_dialect != dialect || m_folds != folds || m_foldOptions != options ||
+        m_terminator != terminator)
         Restart(raw);
 }
 
@@ -280,8 +273,9 @@ void Colouring::StyleTo(const Raw& raw, long position)
     m_vocabulary.Prepare();
     EditEnds(raw);
     if (TakeEnd(raw) == 0 && m_tail.IsEmpty()) {
-        m_states.Clear();
-        m_terminators.Clear();
+        SqlLineState first;
+        first.blocks.terminator = m_terminator;
+        m_states.Clear(first);
         m_places.Clear();
     }
     const long target = std::min(position, raw.Length());
@@ -294,9 +288,9 @@ bool Colouring::StyleChunk(const Raw& raw, long target)
 {
     const unsigned edits = m_edits;
     m_end = static_cast<long>(raw.Send(Sci::SCI_GETENDSTYLED));
-    const analysis::ScriptRules rules = {m_dialect,
-                                         m_separator.value_or(analysis::SeparatorOf(*m_dialect))};
-    SqlStyler styler(m_lexer, rules, m_vocabulary, m_terminators, m_foldOptions);
+    const analysis::ScriptRules rules = {
+        m_dialect, m_separator.value_or(analysis::SeparatorOf(*m_dialect)), m_terminator};
+    SqlStyler styler(m_lexer, rules, m_vocabulary, m_foldOptions);
     StartWalk(raw, styler);
     Walk(raw, styler, target);
     if (m_folds)

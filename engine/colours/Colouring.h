@@ -22,9 +22,9 @@ namespace engine {
 class SqlLineStates
 {
 public:
-    SqlLineStates() { Clear(); }
+    SqlLineStates() { Clear({}); }
 
-    void Clear();
+    void Clear(const SqlLineState& first);
     int NumberOf(const SqlLineState& state);
     const SqlLineState& Of(long number) const;
 
@@ -121,7 +121,7 @@ private:
     const analysis::SqlDialect* m_dialect = nullptr; // null: not SQL
     std::optional<analysis::BatchSeparator> m_separator;
     SqlVocabulary m_vocabulary;
-    analysis::Terminators m_terminators;
+    analysis::Terminator m_terminator; // at the text's start
     SqlLineStates m_states;
     bool m_folds = false;
     SqlFoldOptions m_foldOptions;

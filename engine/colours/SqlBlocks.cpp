@@ -14,9 +14,10 @@ SqlBlocks::SqlBlocks(const analysis::SqlDialect& dialect)
 
 void SqlBlocks::CloseBatch()
 {
-    const std::uint16_t terminator = state.terminator;
+    const analysis::Terminator terminator = state.terminator;
     state = {};
     state.terminator = terminator;
+    state.hasBegun = true;
 }
 
 void SqlBlocks::CloseStatement()
@@ -35,19 +36,28 @@ void SqlBlocks::TakeLineEnd()
 
 void SqlBlocks::Take(const analysis::TextSpans& text, const analysis::Token& token, SqlWord word)
 {
-    m_atSetTerm = false;
+    m_behind = Behind::Code;
     if (token.resumed)
         return;
+    state.hasBegun = true;
     if (token.kind == TokenKind::Terminator) {
-        if (!m_rules.TakeTerminator(state, state.terminator != 0))
-            CloseStatement();
+        const bool data = state.head == SqlBlockState::Head::CopyData;
+        if (m_rules.TakeTerminator(state, state.terminator.IsOwn()))
+            return;
+        CloseStatement();
+        m_behind = data ? Behind::Data : Behind::Code;
         return;
     }
     if (state.before == SqlBlockState::Before::Point)
         word = SqlWord::None;
-    if (std::exchange(state.inStatement, true) || !m_rules.Open(state, word))
-        m_atSetTerm = m_rules.Continue(state, text, token, word);
+    if ((std::exchange(state.inStatement, true) || !m_rules.Open(state, text, token, word)) &&
+        m_rules.Continue(state, text, token, word))
+        m_behind = Behind::Terminators;
     m_rules.NoteBefore(state, text, token);
+    if (state.head == SqlBlockState::Head::JavaSource) {
+        state.head = SqlBlockState::Head::Plain;
+        m_behind = Behind::Source;
+    }
 }
 
 } // namespace engine

@@ -15,9 +15,10 @@ struct SqlBlockState : analysis::BlockState
         Open,  // and something on another
     };
 
-    std::uint16_t terminator = 0;
+    analysis::Terminator terminator;
     Batch batch = Batch::None;
     bool inStatement = false;
+    bool hasBegun = false; // there was something else than blanks and comments
 
     bool operator==(const SqlBlockState&) const = default;
 
@@ -45,12 +46,19 @@ public:
     // A line of the client's stands between statements.
     void CloseStatement();
 
-    // The word that has just been taken is TERM of SET TERM.
-    bool AtSetTerm() const { return m_atSetTerm; }
+    // What stands behind the token that has just been taken, and is read by other rules.
+    enum class Behind
+    {
+        Code,
+        Terminators, // of SET TERM
+        Data,        // of COPY
+        Source,      // of CREATE JAVA
+    };
+    Behind WhatIsBehind() const { return m_behind; }
 
 private:
     analysis::BlockRules m_rules;
-    bool m_atSetTerm = false;
+    Behind m_behind = Behind::Code;
 };
 
 } // namespace engine

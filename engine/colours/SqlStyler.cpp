@@ -18,17 +18,7 @@ namespace {
 
 constexpr int kGlobalVariables = 3; // keyword set
 constexpr long kLongestPointedWord = 120;
-constexpr long kFarthestArgument = 64;           // blanks between a client's word and what it sets
 constexpr long kRoom = 2 * analysis::kLongToken; // a part's last token ends within, behind the stop
-
-// Lines of a client whose text is no code: by first word, between blanks.
-constexpr std::string_view kRemarks = " rem remark ";
-constexpr std::string_view kPlainTexts = " prompt host ";
-
-// Where a bare # begins a comment, a line that begins with one of these is none: the pre-processor
-// has still to deal with it. Told in the letters that it goes by.
-constexpr std::string_view kIncludeWord = "#include"; // of any case, whole
-constexpr std::string_view kDefineWord = "#define";   // with a blank behind it
 
 std::uint64_t Mix(std::uint64_t hash, std::uint64_t value)
 {
@@ -41,50 +31,24 @@ bool IsInsideCharacter(unsigned char byte)
     return (byte & 0xC0U) == 0x80;
 }
 
-bool IsBlankByte(unsigned char byte)
-{
-    return byte <= ' ';
-}
-
-// Behind the blanks of the line.
-long SkipBlanks(const TextSpans& text, long position, long stop)
-{
-    stop = std::min(stop, position + kFarthestArgument);
-    while (position < stop && (text.At(position) == ' ' || text.At(position) == '\t'))
-        ++position;
-    return position;
-}
-
-long EndOfArgument(const TextSpans& text, long position, long stop)
-{
-    stop = std::min(stop, position + static_cast<long>(analysis::Terminators::kLongest) + 1);
-    while (position < stop && !IsBlankByte(text.At(position)))
-        ++position;
-    return position;
-}
-
-std::string LowerCopy(const TextSpans& text, long start, long end)
-{
-    std::string copy = text.Copy(start, end);
-    std::transform(copy.begin(), copy.end(), copy.begin(),
-                   [](char c) { return c >= 'A' && c <= 'Z' ? static_cast<char>(c | 0x20) : c; });
-    return copy;
-}
-
 } // namespace
 
 std::uint64_t SqlLineState::Hash() const
 {
     const auto number = [](auto value) { return static_cast<std::uint64_t>(value); };
     std::uint64_t hash = Mix(scan.value, number(scan.inside) | number(scan.close) << 8 |
-                                             number(scan.length) << 16 | number(docComment) << 24);
+                                             number(scan.length) << 16 | number(docComment) << 24 |
+                                             number(clientLine) << 25 | number(restStyle) << 32);
     hash = Mix(hash, number(blocks.declarations) << 32 | blocks.blocks);
     hash = Mix(hash, number(blocks.cases) << 32 | blocks.controls);
-    hash = Mix(hash, number(blocks.parentheses) << 32 | blocks.terminator);
+    hash = Mix(hash, number(blocks.parentheses) << 32);
+    for (const char c : blocks.terminator.Text())
+        hash = Mix(hash, static_cast<unsigned char>(c));
     return Mix(hash, number(blocks.batch) | number(blocks.head) << 8 |
                          number(blocks.pending) << 16 | number(blocks.before) << 24 |
                          number(blocks.inStatement) << 32 | number(blocks.routineHeader) << 33 |
-                         number(blocks.ifSeen) << 34 | number(blocks.whileSeen) << 35);
+                         number(blocks.ifSeen) << 34 | number(blocks.whileSeen) << 35 |
+                         number(blocks.rowset) << 36 | number(blocks.hasBegun) << 37);
 }
 
 long FoldDepth(const ScanState& scan, const SqlBlockState& blocks, SqlFoldOptions fold)
@@ -95,21 +59,18 @@ long FoldDepth(const ScanState& scan, const SqlBlockState& blocks, SqlFoldOption
 }
 
 SqlStyler::SqlStyler(int lexer, const analysis::ScriptRules& rules, const SqlVocabulary& vocabulary,
-                     analysis::Terminators& terminators, SqlFoldOptions fold)
+                     SqlFoldOptions fold)
     : m_palette(PaletteOf(lexer)), m_dialect(*rules.dialect), m_vocabulary(vocabulary),
-      m_terminators(terminators), m_separator(rules.separator), m_fold(fold),
-      m_hasCommands(!m_dialect.commandLeads.empty() || !m_dialect.commandWords.empty() ||
-                    !m_dialect.delimiterWord.empty()),
-      m_blocks(m_dialect), m_scanner(m_dialect, {})
+      m_separator(rules.separator), m_fold(fold), m_blocks(m_dialect), m_scanner(m_dialect, {})
 {}
 
 void SqlStyler::Start(TextSpans text, long position, const SqlLineState& state,
                       std::vector<char>& styles)
 {
     m_scanner = analysis::SqlScanner(m_dialect, text, position, state.scan);
-    m_scanner.SetTerminator(m_terminators.TextOf(state.blocks.terminator));
     m_state = state;
     m_blocks.state = state.blocks;
+    m_scanner.SetTerminator(m_blocks.state.terminator.Text());
     m_inLine = false;
     m_buffer = &styles;
     m_start = position;
@@ -128,6 +89,11 @@ void SqlStyler::Resume(TextSpans text, long position, const SqlPlaceState& place
 void SqlStyler::BeginLine()
 {
     m_line = {};
+    m_line.restStyle = m_state.restStyle;
+    if (m_state.clientLine) {
+        m_line.clientLine = m_line.ignored = true;
+        m_line.isClean = false;
+    }
     m_line.freshAtStart = m_blocks.state.batch == SqlBlockState::Batch::Fresh;
     m_line.startDepth = VisibleDepth();
     m_line.leastDepth = m_line.startDepth;
@@ -241,16 +207,13 @@ void SqlStyler::Feed(const Token& token, SqlWord word)
     if (m_line.ignored || (isFirst && !m_separator.text.empty() && TakeSeparator(token)))
         return;
     OpenFreshBatch();
-    if (isFirst) {
-        if (m_hasCommands && !m_blocks.state.inStatement && TakeCommand(token))
-            return;
-    }
+    if (TakeClient(token, isFirst))
+        return;
     SqlBlockState::Batch& batch = m_blocks.state.batch;
     if (!m_separator.text.empty() && batch == SqlBlockState::Batch::None)
         batch = SqlBlockState::Batch::Fresh;
     m_blocks.Take(m_scanner.Text(), token, word);
-    if (m_blocks.AtSetTerm())
-        TakeSetTerm();
+    TakeWhatIsBehind();
     NoteDepth();
 }
 
@@ -272,39 +235,11 @@ bool SqlStyler::TakeSeparator(const Token& token)
     if (!line.found)
         return false;
     m_blocks.CloseBatch();
+    m_scanner.SetTerminator(m_blocks.state.terminator.Text());
     m_line.ignored = true;
     if (token.kind == TokenKind::Word)
         Fill(token.start, token.end, m_palette.statement);
     m_line.leastDepth = 0;
-    return true;
-}
-
-bool SqlStyler::TakeCommand(const Token& token)
-{
-    const TextSpans& text = m_scanner.Text();
-    const bool byLead = m_dialect.commandLeads.find(static_cast<char>(text.At(token.start))) !=
-                        std::string_view::npos;
-    const bool isDelimiter =
-        !m_dialect.delimiterWord.empty() && EqualsWord(token, m_dialect.delimiterWord);
-    if (!byLead && !isDelimiter && !IsListed(token, m_dialect.commandWords))
-        return false;
-    if (isDelimiter)
-        TakeDelimiter(token);
-    m_blocks.CloseStatement();
-    if (!m_separator.text.empty() && m_blocks.state.batch == SqlBlockState::Batch::None)
-        m_blocks.state.batch = SqlBlockState::Batch::Fresh;
-    m_line.ignored = true;
-    m_line.clientLine = true;
-    if (token.kind == TokenKind::Word)
-        Fill(token.start, token.end, m_palette.statement);
-    const bool isRemark = IsListed(token, kRemarks);
-    if (isRemark || m_palette.clientLine != 0 || IsListed(token, kPlainTexts)) {
-        const Token rest = m_scanner.TakeLine(m_stop);
-        m_line.restStyle = isRemark ? m_palette.lineComment : m_palette.clientLine;
-        Fill(rest.start, rest.end, m_line.restStyle);
-        if (isRemark || m_line.restStyle != 0)
-            Fill(token.start, token.end, m_line.restStyle);
-    }
     return true;
 }
 
@@ -326,40 +261,9 @@ void SqlStyler::TakeComment(const Token& token)
     m_blankStart = -1;
     m_line.isBlank = false;
     OpenFreshBatch();
-    if (isLine && m_dialect.terminatorComment && !token.resumed)
-        TakeTerminatorComment(token);
+    if (m_dialect.terminatorComment && !token.resumed)
+        SetTerminator(analysis::TerminatorInComment(text, token, !m_blocks.state.hasBegun));
     NoteDepth();
-}
-
-// The bytes of the directive's word that a comment is, 0 for a real comment.
-long SqlStyler::DirectiveWord(const Token& token) const
-{
-    const TextSpans& text = m_scanner.Text();
-    if (!m_dialect.hashComments || !m_line.isBlank || text.At(token.start) != '#')
-        return 0;
-    const auto includeLength = static_cast<long>(kIncludeWord.size());
-    const auto defineLength = static_cast<long>(kDefineWord.size());
-    if (token.Length() >= includeLength &&
-        LowerCopy(text, token.start, token.start + includeLength) == kIncludeWord &&
-        !analysis::BytesOf(m_dialect).inWord[text.At(token.start + includeLength)])
-        return includeLength;
-    return text.Has(token.start, kDefineWord) && token.Length() > defineLength &&
-                   IsBlankByte(text.At(token.start + defineLength))
-               ? defineLength
-               : 0;
-}
-
-bool SqlStyler::TakeDirective(const Token& token)
-{
-    const long word = token.resumed ? 0 : DirectiveWord(token);
-    m_line.directive = m_line.directive || word > 0;
-    if (!m_line.directive)
-        return false;
-    Fill(token.start, token.start + word, m_palette.statement);
-    Fill(token.start + word, token.end, 0);
-    m_blankStart = -1;
-    m_line.isBlank = false;
-    return true;
 }
 
 void SqlStyler::TakeWord(const Token& token)
@@ -448,77 +352,11 @@ long SqlStyler::EndOfPointedWord(const Token& token) const
 
 int SqlStyler::QuotedNameStyle(const Token& token, const ScanState& before) const
 {
-    const unsigned char quote =
-        token.resumed ? static_cast<unsigned char>(before.value) : m_scanner.Text().At(token.start);
+    const TextSpans& text = m_scanner.Text();
+    const bool hasPrefix = (text.At(token.start) | 0x20) == 'u'; // U&"
+    const unsigned char quote = token.resumed ? static_cast<unsigned char>(before.value)
+                                              : text.At(token.start + (hasPrefix ? 2 : 0));
     return quote == '"' ? m_palette.quotedName : m_palette.otherQuotedName;
-}
-
-bool SqlStyler::EqualsWord(const Token& token, std::string_view word) const
-{
-    return token.kind == TokenKind::Word && token.Length() == static_cast<long>(word.size()) &&
-           LowerCopy(m_scanner.Text(), token.start, token.end) == word;
-}
-
-// Whether the word is one of a list, each of which stands between blanks.
-bool SqlStyler::IsListed(const Token& token, std::string_view list) const
-{
-    if (list.empty() || token.kind != TokenKind::Word || token.Length() > 16)
-        return false;
-    std::string word(1, ' ');
-    word += LowerCopy(m_scanner.Text(), token.start, token.end);
-    word += ' ';
-    return list.find(word) != std::string_view::npos;
-}
-
-void SqlStyler::SetTerminator(long start, long end)
-{
-    const std::string text = m_scanner.Text().Copy(start, end);
-    if (text.empty() || text.size() > analysis::Terminators::kLongest || m_terminators.NearlyFull())
-        return;
-    m_blocks.state.terminator = m_terminators.NumberOf(text);
-    m_scanner.SetTerminator(m_terminators.TextOf(m_blocks.state.terminator));
-}
-
-void SqlStyler::TakeDelimiter(const Token& token)
-{
-    const TextSpans& text = m_scanner.Text();
-    const long start = SkipBlanks(text, token.end, m_lineEnd);
-    if (start > token.end)
-        SetTerminator(start, EndOfArgument(text, start, m_lineEnd));
-}
-
-// SET TERM new old. The old one may stand directly behind.
-void SqlStyler::TakeSetTerm()
-{
-    const TextSpans& text = m_scanner.Text();
-    std::string_view old = m_terminators.TextOf(m_blocks.state.terminator);
-    if (old.empty())
-        old = ";";
-    const long termEnd = m_scanner.Position();
-    const long start = SkipBlanks(text, termEnd, m_lineEnd);
-    const long blank = EndOfArgument(text, start, m_lineEnd);
-    long end = std::min(start + 1, blank);
-    while (end < blank && !text.Has(end, old))
-        ++end;
-    const long behind = SkipBlanks(text, end, m_lineEnd);
-    const long stop = text.Has(behind, old) ? behind + static_cast<long>(old.size()) : end;
-    Fill(termEnd, stop, m_palette.op);
-    m_scanner.Restart(stop);
-    SetTerminator(start, end);
-    m_blocks.CloseStatement();
-}
-
-// --#SET TERMINATOR new
-void SqlStyler::TakeTerminatorComment(const Token& token)
-{
-    static constexpr std::string_view kStart = "--#set terminator";
-    const TextSpans& text = m_scanner.Text();
-    const long behind = token.start + static_cast<long>(kStart.size());
-    if (behind >= token.end || LowerCopy(text, token.start, behind) != kStart)
-        return;
-    const long argument = SkipBlanks(text, behind, token.end);
-    if (argument > behind)
-        SetTerminator(argument, EndOfArgument(text, argument, token.end));
 }
 
 // Good until the next call.
@@ -561,8 +399,11 @@ void SqlStyler::FinishLine()
 {
     using Batch = SqlBlockState::Batch;
     m_inLine = false;
-    if (m_line.clientLine && !m_scanner.State().InCode())
+    const bool inText = m_scanner.State().inside == TokenKind::Command;
+    if (m_line.clientLine && !m_scanner.State().InCode() && !inText)
         m_scanner.Restart(m_lineEnd);
+    m_state.clientLine = m_line.clientLine && m_dialect.client->goesOnAtDash && EndsInDash();
+    m_state.restStyle = inText ? m_line.restStyle : std::uint8_t{0};
     Batch& batch = m_blocks.state.batch;
     const long endDepth = VisibleDepth();
     const bool opens = endDepth > m_line.leastDepth;

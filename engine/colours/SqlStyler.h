@@ -19,7 +19,9 @@ struct SqlLineState
 {
     analysis::ScanState scan;
     SqlBlockState blocks;
-    bool docComment = false; // the block comment under way is one
+    bool docComment = false;    // the block comment under way is one
+    bool clientLine = false;    // the line before was the client's and goes on
+    std::uint8_t restStyle = 0; // of the client's text under way
 
     bool operator==(const SqlLineState&) const = default;
     std::uint64_t Hash() const;
@@ -65,9 +67,9 @@ long FoldDepth(const analysis::ScanState& scan, const SqlBlockState& blocks, Sql
 class SqlStyler
 {
 public:
-    // Dialect, terminators and vocabulary are the caller's, and outlive the styler.
+    // Dialect and vocabulary are the caller's, and outlive the styler.
     SqlStyler(int lexer, const analysis::ScriptRules& rules, const SqlVocabulary& vocabulary,
-              analysis::Terminators& terminators, SqlFoldOptions fold);
+              SqlFoldOptions fold);
 
     // What stands in front of a place was styled by at most so many bytes from the place on.
     static constexpr long kReach = 2 * analysis::kLookAhead;
@@ -108,14 +110,12 @@ private:
                                             bool behindPoint) const;
     void TakeVariable(const Token& token);
     bool TakeSeparator(const Token& token);
-    bool TakeCommand(const Token& token);
-    void TakeDelimiter(const Token& token);
-    void TakeSetTerm();
-    void TakeTerminatorComment(const Token& token);
-    void SetTerminator(long start, long end);
+    bool TakeClient(const Token& token, bool isFirst);
+    void TakeClientLine(const Token& token, const analysis::ClientLine& line, bool isInside);
+    void TakeClientText(const Token& token, const analysis::ClientLine& line);
+    void TakeWhatIsBehind();
+    void SetTerminator(const analysis::TerminatorChange& change);
     void Feed(const Token& token, analysis::SqlWord word);
-    bool IsListed(const Token& token, std::string_view list) const;
-    bool EqualsWord(const Token& token, std::string_view word) const;
     std::string_view BytesOf(const Token& token);
     long EndOfPointedWord(const Token& token) const;
     int QuotedNameStyle(const Token& token, const analysis::ScanState& before) const;
@@ -124,15 +124,14 @@ private:
     long VisibleDepth() const;
     void BeginLine();
     void FinishLine();
+    bool EndsInDash() const;
     void OpenFreshBatch();
 
     const SqlPalette& m_palette;
     const analysis::SqlDialect& m_dialect;
     const SqlVocabulary& m_vocabulary;
-    analysis::Terminators& m_terminators;
     analysis::BatchSeparator m_separator;
     SqlFoldOptions m_fold;
-    bool m_hasCommands;
     SqlBlocks m_blocks;
     analysis::SqlScanner m_scanner;
     SqlLineState m_state;

@@ -7,14 +7,6 @@
 namespace engine {
 namespace {
 
-// The words of SqlWord.
-constexpr std::string_view kShapingWords =
-    "aggregate alter as atomic begin block body case compound constraint conversation create "
-    "declare deferred definer dialog distributed do editionable else elseif end event exclusive "
-    "execute external for function if immediate is isolation language loop noneditionable not "
-    "null or package proc procedure read recreate repeat replace row set statement temp temporary "
-    "term then tran transaction trigger type use when while work";
-
 constexpr std::array<unsigned char, 256> kLower = [] {
     std::array<unsigned char, 256> table{};
     for (std::size_t i = 0; i < table.size(); ++i)
@@ -81,16 +73,15 @@ void SqlVocabulary::Prepare()
     const auto countWord = [&count](std::string_view word) {
         count += 1 + (word.find('.') != std::string_view::npos);
     };
-    EachWord(kShapingWords, countWord);
+    for (const std::string_view word : analysis::SqlWordTexts())
+        countWord(word);
     for (const std::string& words : m_sets)
         EachWord(words, countWord);
     m_text.clear();
     m_slots.assign(std::bit_ceil(2 * count + 1), Slot());
-    EachWord(kShapingWords, [this](std::string_view word) {
-        const analysis::Token token{.kind = analysis::TokenKind::Word,
-                                    .end = static_cast<long>(word.size())};
-        Add(word).shape = analysis::WordOf(analysis::TextSpans(word), token);
-    });
+    auto shape = static_cast<std::uint8_t>(analysis::SqlWord::None);
+    for (const std::string_view word : analysis::SqlWordTexts())
+        Add(word).shape = static_cast<analysis::SqlWord>(++shape);
     for (std::size_t set = 0; set < m_sets.size(); ++set) {
         EachWord(m_sets[set], [this, set](std::string_view word) {
             Add(word).sets |= static_cast<std::uint8_t>(1U << set);

@@ -1,5 +1,6 @@
 #include "engine/core/ScriptAnalysis.h"
 
+#include "engine/colours/SqlRules.h"
 #include "engine/core/Documents.h"
 #include "engine/core/Engine.h"
 
@@ -17,13 +18,6 @@ constexpr int kBefore = modification::BeforeInsert | modification::BeforeDelete;
 // A millisecond of reading, so that the window answers between two pieces.
 constexpr long kIdlePiece = 128 * 1024;
 
-// In the order of partitioner::Dialect.
-constexpr std::string_view kDialects[] = {"sql",       "transact-sql", "ase",    "iq",
-                                          "db2",       "db2-zos",      "oracle", "mysql",
-                                          "interbase", "postgresql",   "sqlite"};
-
-constexpr const char* kDialectProperty = "sql.dialect";
-
 } // namespace
 
 ScriptAnalysis::ScriptAnalysis(Engine& engine) : m_engine(engine)
@@ -32,22 +26,10 @@ ScriptAnalysis::ScriptAnalysis(Engine& engine) : m_engine(engine)
     QObject::connect(&m_idle, &QTimer::timeout, &m_idle, [this] { WorkAhead(); });
 }
 
-// Only where dialects share a lexer is the property asked: it stays behind when the lexer changes.
 const analysis::SqlDialect* ScriptAnalysis::Dialect() const
 {
-    const auto number = static_cast<std::size_t>(m_settings.dialect);
-    if (number < std::size(kDialects))
-        return analysis::DialectByName(kDialects[number]);
-    const auto* dialect = analysis::DialectOfLexer(m_engine.colouring->Lexer());
-    if (!dialect || dialect->name != kDialects[partitioner::GenericSql])
-        return dialect;
-    char name[32] = {};
-    const Raw& raw = m_engine.raw;
-    const auto key = reinterpret_cast<WPARAM>(kDialectProperty);
-    if (raw.Send(Sci::SCI_GETPROPERTY, key) < static_cast<LRESULT>(sizeof name))
-        raw.Send(Sci::SCI_GETPROPERTY, key, static_cast<const void*>(name));
-    const auto* named = analysis::DialectByName(name);
-    return named ? named : dialect;
+    const auto* dialect = analysis::DialectByNumber(m_settings.dialect);
+    return dialect ? dialect : DialectOf(m_engine.raw, m_engine.colouring->Lexer());
 }
 
 analysis::ScriptRules ScriptAnalysis::Rules() const
@@ -55,7 +37,8 @@ analysis::ScriptRules ScriptAnalysis::Rules() const
     const auto* dialect = Dialect();
     if (!dialect)
         return {};
-    return {dialect, m_settings.separator.value_or(analysis::SeparatorOf(*dialect))};
+    return {dialect, m_settings.separator.value_or(analysis::SeparatorOf(*dialect)),
+            TerminatorOf(m_engine.raw)};
 }
 
 // Makes ready for a question. False if there is no analysis.

@@ -34,6 +34,7 @@
 namespace engine::sqlstyle {
 
 inline constexpr const char* kDialectProperty = "sql.dialect";
+inline constexpr const char* kTerminatorProperty = "sql.terminator"; // see control/Analysis.h
 
 // Styles of every SQL lexer number but 9.
 namespace dialect {

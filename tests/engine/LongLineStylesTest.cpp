@@ -81,9 +81,7 @@ std::string PlainStyles(const Dialect& dialect, const std::string& text)
     for (int set = 0; set < static_cast<int>(std::size(kWords)); ++set)
         vocabulary.SetWords(set, QString::fromUtf16(kWords[set]).toStdString());
     vocabulary.Prepare();
-    analysis::Terminators terminators;
-    engine::SqlStyler styler(dialect.lexer, {rules, analysis::SeparatorOf(*rules)}, vocabulary,
-                             terminators, {});
+    engine::SqlStyler styler(dialect.lexer, {rules, analysis::SeparatorOf(*rules)}, vocabulary, {});
     std::vector<char> styles;
     styler.Start(std::string_view(text), 0, {}, styles);
     for (std::size_t at = 0; at < text.size();) {
@@ -137,6 +135,18 @@ constexpr const char16_t* kPieces[] = {
     u"end ",
     u"case when x then ",
     u"DELIMITER $$ ",
+    u"delimiter 'x y' ",
+    u"\\gset ",
+    u"\\g ",
+    u"\\; ",
+    u"\\echo 'a ",
+    u"\\! ",
+    u" set x -",
+    u"copy t from stdin;",
+    u"create java source ",
+    u"#include ",
+    u"U&'",
+    u"X'",
     u"SET TERM ^ ; ",
     u"SET TERM ;^ ",
     u"^",

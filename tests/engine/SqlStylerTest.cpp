@@ -182,6 +182,36 @@ TEST(SqlStyles, LinesOfTheClientEndWithTheLine)
 
 // ----- Words
 
+TEST(SqlStyles, AClientsLineLeavesTheNextOneAlone)
+{
+    const std::pair<int, const char16_t*> kLines[] = {
+        {5, u"col a heading 'x"}, {5, u"describe it's"},  {5, u"ho echo it's"},
+        {5, u"! it's"},           {5, u"set x -\n it's"}, {5, u"pro it's -\n it's"},
+        {5, u"@it's.sql"},        {14, u"source it's"},   {14, u"\\! it's"},
+        {14, u"--it's"},          {14, u"tee it's"},      {14, u"delimiter ;"},
+        {3, u":r it's"},          {3, u"!!echo it's"},    {3, u"quit"},
+        {2, u":r it's"},          {4, u"echo it's"},      {4, u"! it's"},
+        {4, u"? it's"},
+    };
+    for (const auto& [lexer, line] : kLines) {
+        for (const auto* next : {u"'x' y", u"/* c */ 1"}) {
+            const std::string letters = Letters(lexer, line + std::u16string(u"\n") + next);
+            const std::string behind = letters.substr(letters.rfind('\n') + 1);
+            EXPECT_EQ(behind, Letters(lexer, next)) << lexer << ": " << letters;
+        }
+    }
+}
+
+TEST(SqlStyles, DataAndForeignSourceAreStrings)
+{
+    EXPECT_EQ(Letters(5, u"create java source a as\n// it's\n/\n1"),
+              "iiiiii iiii iiiiiisssss\nsssssss\no\nn");
+    EXPECT_EQ(Letters(5, u"U&'x'"), "iosss");
+    EXPECT_EQ(Letters(9, u"U&\"&x\" \"&&x\""), "qqqqqq qqqqq");
+    EXPECT_EQ(Letters(4, u"U&'x' x'0' b"), "sssss ssss i");
+    EXPECT_EQ(Letters(14, u"b'1' x'0' u&'x'"), "ssss ssss iosss");
+}
+
 TEST(SqlStyles, EachKeywordSetHasItsStyle)
 {
     // clang-format off

@@ -3,8 +3,10 @@
 #include "tests/reference/PlainPreprocessor.h"
 #include "tests/reference/PlainStyles.h"
 
+#include <algorithm>
 #include <array>
 #include <cstdlib>
+#include <iterator>
 #include <random>
 #include <span>
 
@@ -48,7 +50,7 @@ constexpr const char* kPlainPieces[] = {
 // clang-format on
 
 constexpr const char* kPlainValues[] = {"value", "1",    "q",    "n",    "x y",
-                                        "it's",  "a\"b", "/* x", "x */", "$t$"};
+                                        "it's",  "z\"b", "/* x", "x */", "$t$"};
 
 constexpr int kRounds = 60;
 
@@ -249,9 +251,15 @@ class RandomScriptsOf : public RandomScripts,
 
 TEST_P(RandomScriptsOf, ADialectExpandAsTheReferenceDoesThatReadsTheTextItself)
 {
-    m_pieces = kPlainPieces;
-    m_values = kPlainValues;
     const std::string language = GetParam().first;
+    // Where the client has a say in what it is.
+    const std::string clients = language == "PostgreSQL" ? "\\" : language == "MySQL" ? "--" : "?";
+    std::vector<const char*> pieces;
+    std::copy_if(
+        std::begin(kPlainPieces), std::end(kPlainPieces), std::back_inserter(pieces),
+        [&](const std::string& piece) { return piece.find(clients) == std::string::npos; });
+    m_pieces = pieces;
+    m_values = kPlainValues;
     Bind(GetParam().first);
     control.SetEOLMode(3, 1); // LF
     CompareRounds([&](const std::u16string& text) { return PlainStyles(language, text); }, kRounds);

@@ -28,6 +28,12 @@ void ScriptUnderTest::SetSeparator(BatchSeparator separator)
     m_partitioner = Partitioner(m_rules, static_cast<long>(m_text.size()));
 }
 
+void ScriptUnderTest::SetTerminator(const std::string& terminator)
+{
+    m_rules.terminator = Terminator(terminator);
+    m_partitioner = Partitioner(m_rules, static_cast<long>(m_text.size()));
+}
+
 void ScriptUnderTest::Insert(long position, const std::string& bytes)
 {
     m_text.insert(static_cast<std::size_t>(position), bytes);

@@ -22,6 +22,7 @@ public:
     // Shorter stretches: more places where one meets the next.
     void SetStretch(long bytes);
     void SetSeparator(BatchSeparator separator);
+    void SetTerminator(const std::string& terminator); // that the script begins with
     void Insert(long position, const std::string& bytes);
     void Erase(long position, long bytes);
 
