@@ -2,6 +2,7 @@
 
 #include "engine/changes/AssistiveTechnology.h"
 #include "engine/window/Accessible.h"
+#include "platform/windows/ScrollBars.h"
 #include "platform/windows/Window.h"
 
 #include <QContextMenuEvent>
@@ -149,6 +150,10 @@ LRESULT EngineWindow::Procedure(HWND window, UINT message, WPARAM wParam, LPARAM
         return reinterpret_cast<LRESULT>(&EngineWindow::Direct);
     if (message == message::GetDirectPointer)
         return reinterpret_cast<LRESULT>(self);
+    if (message == WM_HSCROLL || message == WM_VSCROLL) {
+        self->m_scrollReports.Scroll(message, wParam);
+        return 0;
+    }
     return self->m_engine.Perform(message, wParam, lParam);
 }
 

@@ -6,6 +6,7 @@
 #include "engine/core/Engine.h"
 #include "engine/window/Carets.h"
 #include "engine/window/InputMethod.h"
+#include "engine/window/ScrollReports.h"
 
 #include <QMimeData>
 
@@ -54,6 +55,7 @@ private:
     Engine m_engine;
     InputMethod m_inputMethod{m_engine};
     Carets m_carets{m_engine.raw};
+    ScrollReports m_scrollReports{*this};
     bool m_addsCaret = false; // the button that is down
     int m_turn = 0;           // of the wheel, beyond its last whole step
 };

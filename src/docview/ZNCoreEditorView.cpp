@@ -4,6 +4,7 @@
 
 #include "docview/ZNCoreEditorDoc.h"
 #include "editing/language/KeyTable.h"
+#include "platform/windows/ScrollBars.h"
 
 namespace {
 
@@ -183,6 +184,27 @@ const MessageMap& CZNCoreEditorView::GetMessageMap() const
              CWnd* window = AttachedWnd(reinterpret_cast<HWND>(w));
              static_cast<View&>(t).OnContextMenu(window, PointOf(l));
              return 1;
+         }},
+        {WM_HSCROLL,
+         [](CWnd& t, WPARAM w, LPARAM l) -> LRESULT {
+             static_cast<View&>(t).OnHScroll(ScrollCodeOf(w), ScrollPositionOf(w),
+                                             AttachedWnd(reinterpret_cast<HWND>(l)));
+             return 0;
+         }},
+        {WM_VSCROLL,
+         [](CWnd& t, WPARAM w, LPARAM l) -> LRESULT {
+             static_cast<View&>(t).OnVScroll(ScrollCodeOf(w), ScrollPositionOf(w),
+                                             AttachedWnd(reinterpret_cast<HWND>(l)));
+             return 0;
+         }},
+        {kGetScrollInfo,
+         [](CWnd& t, WPARAM w, LPARAM l) {
+             return static_cast<View&>(t).OnGetScrollInfoMsg(reinterpret_cast<SCROLLINFO*>(w), l);
+         }},
+        {kSetScrollInfo,
+         [](CWnd& t, WPARAM w, LPARAM l) {
+             return static_cast<View&>(t).OnSetScrollInfoMsg(reinterpret_cast<const SCROLLINFO*>(w),
+                                                             l);
          }},
         {ZNBASEM_ON_EDITCHANGE,
          [](CWnd& t, WPARAM w, LPARAM l) { return static_cast<View&>(t).OnEditChange(w, l); }},

@@ -10,8 +10,10 @@
 
 #include <map>
 #include <string>
+#include <vector>
 
 class CZNCoreEditorDoc;
+struct SCROLLINFO;
 
 // Without a document, or with one of another class, everything that needs one does nothing.
 class ZN_API CZNCoreEditorView : public CView, public CZNCoreEditorControlExCallback
@@ -34,6 +36,17 @@ public:
     void OnInitialUpdate() override;
     void OnActivateView(int activate, CView* activated, CView* deactivated) override;
     void OnUpdate(CView* sender, std::intptr_t hint, CObject* object) override;
+
+    // Printing: the text alone. A selection is what the dialog begins with.
+    int OnPreparePrinting(CPrintInfo* info) override;
+    void OnBeginPrinting(CDC* dc, CPrintInfo* info) override;
+    // Raises CInvalidArgException for a page that is not there.
+    void OnPrint(CDC* dc, CPrintInfo* info) override;
+    void OnEndPrinting(CDC* dc, CPrintInfo* info) override;
+
+    // Opens what the caret stands on, an address by the desktop and a file by the application.
+    // False if it stands on nothing; whether there is such a thing is not looked at.
+    bool OpenSelected();
 
     // What a host shows in the margin of its own, as the control's.
     virtual void SetExtendedMargin(bool on);
@@ -89,6 +102,11 @@ protected:
     LRESULT OnMouseWheel(UINT flags, int delta, CPoint point);
     void OnContextMenu(CWnd* window, CPoint point);
     LRESULT OnEditChange(WPARAM wParam, LPARAM lParam);
+    // What the engine asks and tells of a scroll bar. flags: kScrollVertical, kScrollRedraw.
+    LRESULT OnGetScrollInfoMsg(SCROLLINFO* record, LPARAM flags);
+    LRESULT OnSetScrollInfoMsg(const SCROLLINFO* record, LPARAM flags);
+    void OnHScroll(UINT code, UINT position, CWnd* bar); // of the view's own bars
+    void OnVScroll(UINT code, UINT position, CWnd* bar);
 
     const MessageMap& GetMessageMap() const override;
     const CommandMap& GetCommandMap() const override;
@@ -99,6 +117,7 @@ protected:
     bool m_incrementalReverse = false;
     bool m_incrementalMatchCase = false;
     bool m_incrementalFound = false;
+    std::vector<unsigned> m_pageStarts; // by page, and the end behind the last one
     QString m_searchText;
     QString m_lastSearchText;
     int m_savedSelStart = 0;
@@ -123,4 +142,7 @@ private:
     bool IsBraceAt(long position);
     void UpdateLineEnd(CCmdUI& ui, int mode);
     void ToggleMargin(int margin, int width);
+    void ApplyPrintStyle(bool isBeginning);
+    void RepaintNeighbours(bool isVertical);
+    void ScrollByBar(UINT message, UINT code, UINT position, CWnd* bar);
 };

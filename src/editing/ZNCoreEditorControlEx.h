@@ -20,6 +20,8 @@ class CDC;
 class ColourScheme;
 class CSyntaxFile;
 class CFont;
+class CPrinterDC;
+class CPrintInfo;
 class CWnd;
 class CZNCoreEditorControlEx;
 struct CDataExchange;
@@ -64,6 +66,23 @@ public:
     // The selected text in the system's code page, without a mark. False if the file cannot be
     // opened; an empty selection makes an empty file.
     bool SaveSelection(const char16_t* path);
+
+    // Export. The first two do nothing and make no file. The third writes the head of a PDF without
+    // the text, and tells the user if it cannot; the last finds nothing to put onto the clipboard.
+    void SaveToRTF(const char16_t* path, int start, int end);
+    void SaveToHTML(const char16_t* path);
+    void SaveToPDF(const char16_t* path);
+    void CopyAsRTF();
+
+    // Printing: the text alone, on all that the device can print on, without margins of its own.
+    void Print(); // asks for a printer, prints on it and returns
+    // Asks for a printer and begins a document on it, which ends at once. 0 if the user thought
+    // better of it, else what StartDoc gave.
+    virtual int OnPreparePrinting(CPrintInfo* info);
+    virtual void OnBeginPrinting(CDC* dc, CPrintInfo* info); // finds where the pages begin
+    // Draws the info's page. Raises CInvalidArgException for a page that is not there.
+    virtual void OnPrint(CDC* dc, CPrintInfo* info);
+    virtual void OnEndPrinting(CDC* dc, CPrintInfo* info);
 
     // Language and appearance
     virtual void Reset();                             // forgets the comment markers
@@ -304,6 +323,15 @@ protected:
     LRESULT OnSetText(WPARAM wParam, LPARAM lParam);
 
     bool DoSave(const char16_t* path, int start, int end);
+
+    // Cuts the first control word off a text of them; it is copied into control, of 128 bytes with
+    // its terminator, and style goes on to the next one. Empty at the text's end.
+    void GetRTFNextControl(char** style, char* control);
+    // Into delta the control words of current that are others than last's, of six, and a blank
+    // behind them; then last becomes current. What does not fit is cut off.
+    void GetRTFStyleChange(char* delta, unsigned int deltaSize, char* last, unsigned int lastSize,
+                           char* current);
+
     // Text of the range, cut to the buffer's length, its last line end taken away if so wished. An
     // empty range first grows by the units that accept takes, up to the limit.
     void RangeExtendAndGrab(char16_t* buffer, int length, int& start, int& end, int limit,
@@ -340,6 +368,7 @@ protected:
     COLORREF m_defaultBackgroundColor = kSystemWindow;
     QString m_datasourceSearchPath;
     std::deque<int> m_bookmarkHandles;
+    std::vector<unsigned> m_pageStarts; // by page, and the end behind the last one
 
     static constexpr COLORREF kSystemWindow = 0xFFFFFFFF;
 
@@ -385,6 +414,8 @@ private:
 
     void ApplyDefaultEncoding();
     void ApplyColorMaxSize();
+    // Chooses a printer and begins a document on it. Not 1 if the user thought better of it.
+    int BeginPrintJob(CPrinterDC& dc, CPrintInfo& info, int& goesOn);
 
     QString m_scheme;
     QPointer<QObject> m_desktopWatch; // goes with the window

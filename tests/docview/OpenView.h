@@ -21,6 +21,7 @@ public:
     using CZNCoreEditorView::m_incrementalForward;
     using CZNCoreEditorView::m_incrementalReverse;
     using CZNCoreEditorView::m_initialized;
+    using CZNCoreEditorView::m_pageStarts;
     using CZNCoreEditorView::m_savedReadOnly;
     using CZNCoreEditorView::m_searchText;
 

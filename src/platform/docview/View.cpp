@@ -1,5 +1,6 @@
 #include "platform/docview/View.h"
 
+#include "platform/docview/CommandIds.h"
 #include "platform/docview/CreateContext.h"
 #include "platform/docview/Document.h"
 #include "platform/docview/FrameWnd.h"
@@ -147,5 +148,15 @@ const MessageMap& CView::GetMessageMap() const
          }},
     };
     static const MessageMap map = {&CSelfOwnedWnd::GetMessageMap(), kEntries};
+    return map;
+}
+
+const CommandMap& CView::GetCommandMap() const
+{
+    static constexpr CommandEntry kCommands[] = {
+        {ID_FILE_PRINT, [](CCmdTarget& t) { static_cast<CView&>(t).OnFilePrint(); }},
+        {ID_FILE_PRINT_DIRECT, [](CCmdTarget& t) { static_cast<CView&>(t).OnFilePrintDirect(); }},
+    };
+    static const CommandMap map = {&CSelfOwnedWnd::GetCommandMap(), kCommands, {}};
     return map;
 }

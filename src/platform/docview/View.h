@@ -5,8 +5,11 @@
 
 #include <cstdint>
 
+class CDC;
 class CDocument;
 class CFrameWnd;
+class CPrintInfo;
+class QPrinter;
 
 // Made by a frame, with new. It leaves its document when its window goes.
 class ZN_API CView : public CSelfOwnedWnd
@@ -37,6 +40,17 @@ public:
     virtual void OnActivateView(int activate, CView* activated, CView* deactivated);
     virtual void OnUpdate(CView* sender, std::intptr_t hint, CObject* object);
 
+    // Printing. A view prepares, finds its pages in OnBeginPrinting and says in the info how many
+    // there are, and draws the info's page.
+    virtual int OnPreparePrinting(CPrintInfo* info); // 0: nothing is printed
+    virtual void OnBeginPrinting(CDC* dc, CPrintInfo* info);
+    virtual void OnPrint(CDC* dc, CPrintInfo* info);
+    virtual void OnEndPrinting(CDC* dc, CPrintInfo* info);
+    int DoPreparePrinting(CPrintInfo* info); // asks for a printer; 0 if the user thought better
+    void OnFilePrint();
+    void OnFilePrintDirect();         // on the printer that is used unasked
+    void PrintPages(QPrinter& paper); // all of them, as if it were paper
+
     void PostNcDestroy() override;
 
 protected:
@@ -47,9 +61,15 @@ protected:
     void OnSetFocus(HWND /*previous*/) {}
 
     const MessageMap& GetMessageMap() const override;
+    const CommandMap& GetCommandMap() const override;
 
 private:
     friend class CDocument; // sets m_pDocument as it adds and removes
 
+    void PrintWith(CPrintInfo& info);
+
     CDocument* m_pDocument = nullptr;
 };
+
+// Shows the view's pages on the screen, until the user has seen them.
+ZN_API void BCGPPrintPreview(CView* view);

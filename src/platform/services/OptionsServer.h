@@ -64,6 +64,9 @@ enum Key : int
     WordWrap = 50453,            // int: not 0 for long lines wrapped
     OwnIncludePath = 50467,      // string: folders for included files, in the application DBGlazier
     IncludePath = 50468,         // string: the same in every other application
+    PrintColours = 50512,        // bool: printed in colours, else black on white
+    PrintGround = 50513,         // bool: the colours' grounds are printed too
+    PrintOwnFont = 50514,        // bool: printed in the print font, else in the editor's
     DefaultTextType = 50637,     // int: znutils::TextType of files without a mark
     ContinueComments = 50827     // bool: Enter continues a comment
 };

@@ -6,15 +6,32 @@
 
 class QPainter;
 
+// What GetDeviceCaps tells.
+inline constexpr int HORZRES = 8;  // the width, in device pixels
+inline constexpr int VERTRES = 10; // the height
+inline constexpr int LOGPIXELSX = 88;
+inline constexpr int LOGPIXELSY = 90;
+
 class ZN_API CDC
 {
 public:
-    explicit CDC(QPainter& painter) : m_painter(painter) {}
+    explicit CDC(QPainter& painter) : m_painter(&painter) {}
+    virtual ~CDC();
+    CDC(const CDC&) = delete;
+    CDC& operator=(const CDC&) = delete;
 
     void FillSolidRect(const RECT& rect, COLORREF color);
 
-    QPainter& Painter() { return m_painter; }
+    QPainter& Painter() { return *m_painter; }
+    virtual QPainter* GetSafeHdc() const { return m_painter; } // null if there is none
 
-private:
-    QPainter& m_painter;
+    // 0 for what it does not know, and for a context without a device.
+    int GetDeviceCaps(int index) const;
+
+    bool m_bPrinting = false; // on paper, or as if it were
+
+protected:
+    CDC() = default;
+
+    QPainter* m_painter = nullptr;
 };

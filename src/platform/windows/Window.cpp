@@ -235,6 +235,21 @@ void InvalidateWindow(HWND window)
         window->update();
 }
 
+void RedrawWindow(HWND window, const RECT* rect, UINT flags)
+{
+    if (!IsWindow(window) || !(flags & RDW_INVALIDATE))
+        return;
+    const QRect area =
+        rect ? QRect(QPoint(static_cast<int>(rect->left), static_cast<int>(rect->top)),
+                     QPoint(static_cast<int>(rect->right) - 1, static_cast<int>(rect->bottom) - 1))
+             : window->rect();
+    window->update(area);
+    if (!(flags & RDW_ALLCHILDREN))
+        return;
+    for (QWidget* inside : window->findChildren<QWidget*>())
+        inside->update(area.translated(-inside->mapTo(window, QPoint(0, 0))));
+}
+
 void UpdateWindow(HWND window)
 {
     if (!IsWindow(window))

@@ -127,6 +127,11 @@ ZN_API RECT GetClientRect(HWND window);
 // The whole window is painted again, once the event loop comes to it.
 ZN_API void InvalidateWindow(HWND window);
 
+inline constexpr UINT RDW_INVALIDATE = 0x01;
+inline constexpr UINT RDW_ALLCHILDREN = 0x40;
+// The rectangle, all of the window if it is null, is painted again once the event loop comes to it.
+ZN_API void RedrawWindow(HWND window, const RECT* rect, UINT flags);
+
 // Paints at once what waits to be painted.
 ZN_API void UpdateWindow(HWND window);
 

@@ -1,0 +1,10 @@
+// CZNCoreEditorSplitter: panes of editors, with the bars between them as the host's look has them.
+#pragma once
+
+#include "platform/docview/SplitterWnd.h"
+
+class ZN_API CZNCoreEditorSplitter : public CSplitterWnd
+{
+public:
+    void OnDrawSplitter(CDC* dc, ESplitType type, const RECT& rect) override;
+};

@@ -1,0 +1,120 @@
+#include "platform/printing/PrintService.h"
+
+#include "platform/printing/PrintJob.h"
+#include "platform/windows/Disposal.h"
+#include "platform/windows/Questions.h"
+
+#include <QPrintDialog>
+#include <QPrintPreviewDialog>
+#include <QPrinter>
+#include <QPrinterInfo>
+#include <QWidget>
+
+namespace {
+
+IPrintService*& HostService()
+{
+    static IPrintService* service = nullptr;
+    return service;
+}
+
+std::unique_ptr<QPrinter> PdfPrinter(HWND owner)
+{
+    const QString question =
+        QStringLiteral("No printer is set up. Do you want to save the pages as a PDF instead?");
+    if (!AskYesNo(owner, question))
+        return nullptr;
+    QString path = AskSaveFile(owner, QString(), QStringLiteral("PDF (*.pdf)"));
+    if (path.isEmpty())
+        return nullptr;
+    auto printer = std::make_unique<QPrinter>(QPrinter::HighResolution);
+    printer->setOutputFormat(QPrinter::PdfFormat);
+    printer->setOutputFileName(path);
+    return printer;
+}
+
+void SetUp(QPrintDialog& dialog, const PRINTDLG& record)
+{
+    dialog.setOption(QPrintDialog::PrintSelection, !(record.Flags & PD_NOSELECTION));
+    dialog.setOption(QPrintDialog::PrintPageRange, !(record.Flags & PD_NOPAGENUMS));
+    dialog.setOption(QPrintDialog::PrintToFile, !(record.Flags & PD_HIDEPRINTTOFILE));
+    if (record.Flags & PD_SELECTION)
+        dialog.setPrintRange(QPrintDialog::Selection);
+}
+
+void TakeChoice(const QPrintDialog& dialog, PRINTDLG& record)
+{
+    record.Flags &= ~(PD_SELECTION | PD_PAGENUMS);
+    if (dialog.printRange() == QPrintDialog::Selection)
+        record.Flags |= PD_SELECTION;
+    if (dialog.printRange() == QPrintDialog::PageRange) {
+        record.Flags |= PD_PAGENUMS;
+        record.nFromPage = static_cast<std::uint16_t>(dialog.fromPage());
+        record.nToPage = static_cast<std::uint16_t>(dialog.toPage());
+    }
+}
+
+} // namespace
+
+IPrintService::~IPrintService() = default;
+
+std::unique_ptr<QPrinter> IPrintService::ChoosePrinter(HWND owner, PRINTDLG& record)
+{
+    if (QPrinterInfo::availablePrinterNames().isEmpty())
+        return PdfPrinter(owner);
+    const FrameworkCall asking;
+    auto printer = std::make_unique<QPrinter>(QPrinter::HighResolution);
+    QPrintDialog dialog(printer.get(), owner ? owner->window() : nullptr);
+    SetUp(dialog, record);
+    if (dialog.exec() != QDialog::Accepted)
+        return nullptr;
+    TakeChoice(dialog, record);
+    return printer;
+}
+
+std::unique_ptr<QPrinter> IPrintService::DefaultPrinter()
+{
+    const QPrinterInfo info = QPrinterInfo::defaultPrinter();
+    return info.isNull() ? nullptr : std::make_unique<QPrinter>(info, QPrinter::HighResolution);
+}
+
+std::unique_ptr<PrintJob> IPrintService::MakeJob(std::unique_ptr<QPrinter> printer)
+{
+    return MakePrintJob(std::move(printer));
+}
+
+void IPrintService::Preview(HWND owner, const QString& title,
+                            const std::function<void(QPrinter& printer)>& print)
+{
+    const FrameworkCall showing;
+    QPrinter printer(QPrinter::HighResolution);
+    QPrintPreviewDialog dialog(&printer, owner ? owner->window() : nullptr);
+    dialog.setWindowTitle(title);
+    QObject::connect(&dialog, &QPrintPreviewDialog::paintRequested, &dialog,
+                     [&](QPrinter* paper) { print(*paper); });
+    dialog.exec();
+}
+
+bool IPrintService::OnPage(HWND /*owner*/, UINT /*page*/, UINT /*lastPage*/)
+{
+    return true;
+}
+
+void IPrintService::OnDone(HWND owner, bool succeeded, const QString& file)
+{
+    if (succeeded)
+        return;
+    ShowMessage(owner, file.isEmpty() ? QStringLiteral("The document could not be printed.")
+                                      : QStringLiteral("%1 could not be written.").arg(file));
+}
+
+void SetPrintService(IPrintService* service)
+{
+    HostService() = service;
+}
+
+IPrintService& GetPrintService()
+{
+    static IPrintService own;
+    return HostService() ? *HostService() : own;
+}
