@@ -47,6 +47,7 @@ int ChangeReporter::s_pending = 0;
 int ChangeReporter::s_depth = 0;
 int ChangeReporter::s_noting = 0;
 int ChangeReporter::s_inside = 0;
+int ChangeReporter::s_telling = 0;
 
 ChangeReporter::ChangeReporter(QsciScintillaBase& window, const Raw& raw, TextIndex& text)
     : m_window(window), m_raw(raw), m_text(text)
@@ -63,6 +64,8 @@ ChangeReporter::~ChangeReporter()
 {
     std::erase(Reporters(), this);
     if (m_change.type)
+        --s_pending;
+    if (m_asksOver)
         --s_pending;
 }
 
@@ -86,6 +89,19 @@ void ChangeReporter::FlushAll()
         if (each.context)
             each.act();
     }
+    for (std::size_t i = 0; s_depth + s_telling == 0 && s_pending > 0 && i < Reporters().size();
+         ++i)
+        Reporters()[i]->TellOver();
+}
+
+void ChangeReporter::TellOver()
+{
+    if (!m_asksOver)
+        return;
+    m_asksOver = false;
+    --s_pending;
+    SCNotification record;
+    Send(notify::Over, record);
 }
 
 void ChangeReporter::WhenSettled(QObject* context, std::function<void()> act)
@@ -417,7 +433,15 @@ void ChangeReporter::Send(UINT code, SCNotification& record)
     if (m_id == 0)
         m_id = GetDlgCtrlID(&m_window);
     record.nmhdr = {&m_window, m_id, code};
-    SendMessage(m_window.parentWidget(), WM_NOTIFY, m_id, reinterpret_cast<LPARAM>(&record));
+    const bool isNews = code != notify::Over;
+    s_telling += isNews;
+    const LRESULT answer =
+        SendMessage(m_window.parentWidget(), WM_NOTIFY, m_id, reinterpret_cast<LPARAM>(&record));
+    s_telling -= isNews;
+    if (answer != notify::kTellWhenOver || m_asksOver)
+        return;
+    m_asksOver = true;
+    ++s_pending;
 }
 
 } // namespace engine

@@ -49,7 +49,8 @@ public:
     int ModEventMask() const { return m_mask; }
     void SetModEventMask(int mask);
 
-    // Tells what waits, in every window of the process: a document may stand in several.
+    // Tells what waits, in every window of the process: a document may stand in several. While no
+    // Scope lives, also that a message or an event is over, to who has asked for that.
     static void FlushAll();
     static bool AnyPending() { return s_pending > 0; }
 
@@ -93,6 +94,7 @@ private:
     void OnMacroRecord(UINT number, unsigned long wParam, void* lParam);
     void Note(int type, BytePos position, long bytes);
     void Flush();
+    void TellOver();
     void TellChange(int type);
     std::string_view ReadChange(Utf16Text& text);
     long LinesAdded(const Utf16Text& text);
@@ -110,7 +112,8 @@ private:
     SCNotification m_blank; // to copy one is quicker than to blank it
     long m_lines = -1;      // in the text as it was told last; -1: not known
     bool m_hasListener = false;
-    UINT m_id = 0; // of the window, as soon as it has one
+    bool m_asksOver = false; // the parent wants to hear when this is over
+    UINT m_id = 0;           // of the window, as soon as it has one
     std::function<void(bool inserts, long position, long bytes)> m_follow;
     std::function<bool(UINT number)> m_listen;
     Utf16Text m_changed;            // text of a noted deletion; storage otherwise
@@ -119,7 +122,8 @@ private:
     static int s_pending;
     static int s_depth;
     static int s_noting;
-    static int s_inside; // notifications that come from inside a change
+    static int s_telling; // notifications under way
+    static int s_inside;  // notifications that come from inside a change
 };
 
 } // namespace engine

@@ -144,27 +144,29 @@ LRESULT Engine::Perform(UINT message, WPARAM wParam, LPARAM lParam)
     if (slot >= kNumbers)
         return 0;
     const Answerer& answerer = answerers[slot];
-    const ChangeReporter::Scope scope;
     LRESULT result = 0;
-    const bool keepsWhole = text.MayHaveNoncharacters();
-    if (keepsWhole)
-        wholeCharacters.Begin();
-    switch (answerer.way) {
-    case Answerer::Way::None:
-        return 0;
-    case Answerer::Way::Pass:
-        result = raw.Send(message, wParam, lParam);
-        break;
-    case Answerer::Way::Translate:
-        if (!answerer.fence || answerer.fence(*this, wParam, lParam))
-            result = Translate(*answerer.row, wParam, lParam);
-        break;
-    case Answerer::Way::Handle:
-        result = answerer.handler(*this, wParam, lParam);
-        break;
+    {
+        const ChangeReporter::Scope scope;
+        const bool keepsWhole = text.MayHaveNoncharacters();
+        if (keepsWhole)
+            wholeCharacters.Begin();
+        switch (answerer.way) {
+        case Answerer::Way::None:
+            return 0;
+        case Answerer::Way::Pass:
+            result = raw.Send(message, wParam, lParam);
+            break;
+        case Answerer::Way::Translate:
+            if (!answerer.fence || answerer.fence(*this, wParam, lParam))
+                result = Translate(*answerer.row, wParam, lParam);
+            break;
+        case Answerer::Way::Handle:
+            result = answerer.handler(*this, wParam, lParam);
+            break;
+        }
+        if (keepsWhole)
+            wholeCharacters.End();
     }
-    if (keepsWhole)
-        wholeCharacters.End();
     if (ChangeReporter::AnyPending()) // from here on the window may be gone
         ChangeReporter::FlushAll();
     return result;

@@ -123,7 +123,13 @@ enum Code : UINT
     AutoCCompleted = 2030,
     MarginRightClick = 2031,
     AutoCSelectionChange = 2032,
+    // Beyond Scintilla's: what the parent heard is over, and the engine's window may go.
+    Over = 2900,
 };
+
+// A parent's answer to a notification that it may come in the middle of: it is told Over, once, as
+// soon as the message or the event is done that all this came from.
+inline constexpr std::intptr_t kTellWhenOver = 0x4F766572;
 } // namespace notify
 
 // Bits of SCNotification::modificationType (Scintilla's values).

@@ -2,6 +2,8 @@
 
 #include "looks/Schemes.h"
 
+#include "platform/windows/Disposal.h"
+
 #include <QLabel>
 #include <QMetaMethod>
 #include <QVBoxLayout>
@@ -17,10 +19,8 @@ public:
 
     LRESULT WindowProc(UINT message, WPARAM wParam, LPARAM lParam) override
     {
-        if (message == WM_NOTIFY && m_owner.m_control->IsBaseEditorNotify(lParam)) {
-            m_owner.Notify(lParam); // behind it this object may be gone
-            return 0;
-        }
+        if (message == WM_NOTIFY && m_owner.m_control->IsBaseEditorNotify(lParam))
+            return m_owner.Notify(lParam);    // behind it this object may be gone
         if (message == ZNBASEM_ON_EDITCHANGE) // comes with each change; its signal is textChanged
             return 0;
         return CWnd::WindowProc(message, wParam, lParam);
@@ -86,25 +86,51 @@ ZNCoreEditorWidget::ZNCoreEditorWidget(QWidget* parent)
     m_control->SetScheme(zncoreeditor::kDesktopScheme);
 }
 
-// The engine's window goes first, while there is still somebody to hear its last notifications.
+// The engine's window goes first, while there is still somebody to hear its last notifications. If
+// it is what has led here, or the control is, both are taken out and stay until that is over.
 ZNCoreEditorWidget::~ZNCoreEditorWidget()
 {
-    m_control->DestroyWindow();
-    m_window.reset();
-    if (m_lifetime)
+    if (m_lifetime) {
+        const HWND editor = m_control->Detach();
+        if (editor)
+            editor->setParent(nullptr);
+        Disposal::Later(m_control.release(), editor);
         m_lifetime->End();
+    } else {
+        m_control->DestroyWindow();
+    }
+    m_window.reset();
+}
+
+template <typename Operate>
+auto ZNCoreEditorWidget::Run(Operate operate)
+{
+    const Lifetime alive(*this);
+    ++m_operations;
+    const auto result = operate(*m_control);
+    if (alive) {
+        --m_operations;
+        TellChanges();
+    }
+    return result;
 }
 
 FileResult ZNCoreEditorWidget::open(const QString& path)
 {
-    openFile(path);
-    return m_control->GetFileResult();
+    const std::u16string name = path.toStdU16String();
+    return Run([&](CZNCoreEditorControlEx& control) {
+        control.OpenFile(name.c_str(), FileEncodeConverter::encUnknown);
+        return control.GetFileResult();
+    });
 }
 
 FileResult ZNCoreEditorWidget::save(const QString& path)
 {
-    saveFile(path);
-    return m_control->GetFileResult();
+    const std::u16string name = path.toStdU16String();
+    return Run([&](CZNCoreEditorControlEx& control) {
+        control.SaveFile(name.c_str(), true);
+        return control.GetFileResult();
+    });
 }
 
 std::optional<LostCharacter> ZNCoreEditorWidget::lostBySaving()
@@ -115,13 +141,16 @@ std::optional<LostCharacter> ZNCoreEditorWidget::lostBySaving()
 bool ZNCoreEditorWidget::openFile(const QString& path)
 {
     const std::u16string name = path.toStdU16String();
-    return m_control->OpenFile(name.c_str(), FileEncodeConverter::encUnknown);
+    return Run([&](CZNCoreEditorControlEx& control) {
+        return control.OpenFile(name.c_str(), FileEncodeConverter::encUnknown);
+    });
 }
 
 bool ZNCoreEditorWidget::saveFile(const QString& path)
 {
     const std::u16string name = path.toStdU16String();
-    return m_control->SaveFile(name.c_str(), true);
+    return Run(
+        [&](CZNCoreEditorControlEx& control) { return control.SaveFile(name.c_str(), true); });
 }
 
 int ZNCoreEditorWidget::language() const
@@ -152,27 +181,31 @@ QString ZNCoreEditorWidget::text()
 void ZNCoreEditorWidget::setText(const QString& text)
 {
     const std::u16string units = text.toStdU16String();
-    m_control->BeginUndoAction(1);
-    m_control->ClearAll(1);
-    m_control->AddTextNoProcess(static_cast<int>(units.size()), units.c_str(), 1);
-    m_control->SetSel(0, 0, 1);
-    m_control->EndUndoAction(1);
+    Run([&](CZNCoreEditorControlEx& control) {
+        control.BeginUndoAction(1);
+        control.ClearAll(1);
+        control.AddTextNoProcess(static_cast<int>(units.size()), units.c_str(), 1);
+        control.SetSel(0, 0, 1);
+        control.EndUndoAction(1);
+        return 0;
+    });
 }
 
-// Slots may change the text or delete this widget: the control has its turn before the first
-// signal, and nothing is touched behind the last one.
-void ZNCoreEditorWidget::Notify(LPARAM lParam)
+LRESULT ZNCoreEditorWidget::Notify(LPARAM lParam)
 {
     const auto& record = *reinterpret_cast<const SCNotification*>(lParam);
     if (record.nmhdr.code == notify::Modified && !m_tellsChanges) {
         m_control->HandleNotify(lParam);
-        return;
+        return 0;
     }
     const Lifetime alive(*this);
+    if (record.nmhdr.code == notify::Over) {
+        TellChanges();
+        return 0;
+    }
     m_control->HandleNotify(lParam);
     Q_EMIT notified(record);
-    if (alive)
-        Announce(record);
+    return alive ? Note(record) : 0;
 }
 
 // Two signals that nobody hears would be a tenth of what an undo of many changes takes.
@@ -182,32 +215,53 @@ void ZNCoreEditorWidget::connectNotify(const QMetaMethod& signal)
                       signal == QMetaMethod::fromSignal(&ZNCoreEditorWidget::textChanged);
 }
 
-void ZNCoreEditorWidget::Announce(const SCNotification& record)
+LRESULT ZNCoreEditorWidget::Note(const SCNotification& record)
 {
     constexpr int kTextChange = modification::InsertText | modification::DeleteText;
     switch (record.nmhdr.code) {
     case notify::Modified:
-        if (record.modificationType & kTextChange)
-            Q_EMIT textChanged();
-        break;
+        m_textChanged |= (record.modificationType & kTextChange) != 0;
+        return notify::kTellWhenOver;
     case notify::SavePointLeft:
     case notify::SavePointReached:
         m_modified = record.nmhdr.code == notify::SavePointLeft;
-        Q_EMIT modificationChanged(m_modified);
-        break;
+        return notify::kTellWhenOver;
     case notify::CharAdded:
-        Q_EMIT charAdded(static_cast<char32_t>(record.ch));
-        break;
-    case notify::UpdateUi: {
-        const Lifetime alive(*this);
-        const long caret = m_control->GetCurrentPos(1);
-        if (caret != std::exchange(m_caret, caret))
-            Q_EMIT cursorPositionChanged(caret);
-        if (alive)
-            Q_EMIT updateUi();
-        break;
-    }
+        m_added.push_back(static_cast<char32_t>(record.ch));
+        return notify::kTellWhenOver;
+    case notify::UpdateUi:
+        if (!std::exchange(m_isUpdated, true))
+            QMetaObject::invokeMethod(
+                this, [this] { TellUpdate(); }, Qt::QueuedConnection);
+        return 0;
     default:
-        break;
+        return 0;
     }
+}
+
+// Slots may change the text or delete this widget: nothing is touched behind the last signal, and
+// what is told is taken before.
+void ZNCoreEditorWidget::TellChanges()
+{
+    if (m_operations > 0)
+        return;
+    const Lifetime alive(*this);
+    const std::u32string added = std::exchange(m_added, {});
+    if (std::exchange(m_textChanged, false))
+        Q_EMIT textChanged();
+    if (alive && m_modified != std::exchange(m_toldModified, m_modified))
+        Q_EMIT modificationChanged(m_modified);
+    for (std::size_t i = 0; alive && i < added.size(); ++i)
+        Q_EMIT charAdded(added[i]);
+}
+
+void ZNCoreEditorWidget::TellUpdate()
+{
+    const Lifetime alive(*this);
+    m_isUpdated = false;
+    const long caret = m_control->GetCurrentPos(1);
+    if (caret != std::exchange(m_caret, caret))
+        Q_EMIT cursorPositionChanged(caret);
+    if (alive)
+        Q_EMIT updateUi();
 }

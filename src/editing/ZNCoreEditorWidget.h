@@ -10,6 +10,7 @@
 
 #include <memory>
 #include <optional>
+#include <string>
 
 // An editor that sits in a layout and handles its control's notifications by itself. The control
 // is reached for everything that has no signal or slot here; its operations take 1 for `direct`.
@@ -55,12 +56,16 @@ public:
     bool isModified() const { return m_modified; } // whether the text differs from the save point
 
 Q_SIGNALS:
+    // Each comes once for an operation, a message of the control or an event, when that is over:
+    // the text is whole, and a slot may delete the widget.
     void textChanged();
     void modificationChanged(bool modified);
+    void charAdded(char32_t character);
+    // From the event loop, when what they tell of has been painted.
     void cursorPositionChanged(long position);
     void updateUi();
-    void charAdded(char32_t character);
-    // Every notification of the engine. The record is good until the slot returns.
+    // Every notification of the engine, at once: in the middle of a change or a painting. The
+    // record is good until the slot returns, which may delete the widget by deleteLater.
     void notified(const SCNotification& record);
 
 protected:
@@ -72,8 +77,14 @@ private:
     // Whether the widget was deleted while this one stood on the stack.
     class Lifetime;
 
-    void Notify(LPARAM lParam);
-    void Announce(const SCNotification& record);
+    // A call of this widget's, behind which it tells what has changed.
+    template <typename Operate>
+    auto Run(Operate operate);
+
+    LRESULT Notify(LPARAM lParam);
+    LRESULT Note(const SCNotification& record);
+    void TellChanges();
+    void TellUpdate();
 
     bool m_tellsChanges = false; // somebody listens to each; before what connects to this widget
     std::unique_ptr<CZNCoreEditorControlEx> m_control;
@@ -81,4 +92,11 @@ private:
     Lifetime* m_lifetime = nullptr;
     bool m_modified = false;
     long m_caret = 0;
+
+    // What is to be told.
+    int m_operations = 0; // under way
+    bool m_textChanged = false;
+    bool m_toldModified = false;
+    bool m_isUpdated = false;
+    std::u32string m_added;
 };
