@@ -1,0 +1,106 @@
+// CFileSearch: a search through files, without a window, on threads of its own. It finds in a file
+// what the find manager finds in an editor that has opened it with care.
+#pragma once
+
+#include "common/Export.h"
+
+#include <QByteArray>
+#include <QString>
+#include <QStringList>
+
+#include <memory>
+#include <vector>
+
+// A text that an editor holds; it is searched in the place of its file.
+struct OpenText
+{
+    QString path; // empty: it has no file
+    QString text;
+};
+
+struct FileSearchRequest
+{
+    QString text;
+    bool wholeWord = false;
+    bool matchCase = false;
+    bool regExp = false;
+    bool countOnly = false; // matches are counted, and not described
+
+    bool openOnly = false; // the open texts, and no files
+    std::vector<OpenText> open;
+    QStringList folders;
+    QString types; // patterns of names, parted by ';' or ','; none: all files
+    bool subFolders = true;
+
+    int threads = 0; // 0: as many as the machine has processors
+};
+
+// Lines count from 0, columns and lengths UTF-16 units.
+struct FileMatch
+{
+    long line = 0;
+    long column = 0;
+    long length = 0;     // over line ends, too
+    long textColumn = 0; // where in the line the text begins
+    QString text;        // the line, or of a long one what is around the match
+};
+
+// A file may come several times, with the matches that follow.
+struct FoundFile
+{
+    QString path;
+    QByteArray name; // the path as the file system has it, which need not be UTF-8
+    bool isOpen = false;
+    std::vector<FileMatch> matches;
+    long count = 0; // of the matches, described or not
+};
+
+enum class FileNote
+{
+    Binary,     // zeros in what is no text
+    Unreadable, // it may not be read, is gone, or ended early
+    NotAFile,   // a device, a pipe, a socket
+    Loop,       // a link to a folder that is searched already
+    RanAway,    // the expression went on for too long: what is left of the text is not searched
+};
+
+struct FileSearchTotals
+{
+    long files = 0; // searched to their end
+    long found = 0; // of them with matches
+    long long bytes = 0;
+    long long matches = 0;
+    long failures = 0; // files and folders that could not be read
+    long skipped = 0;  // what is no text, no file, or searched already
+    bool isStopped = false;
+};
+
+// Called on threads of the search, one call at a time.
+class ZN_API IFileSearchListener
+{
+public:
+    virtual ~IFileSearchListener();
+
+    virtual void OnFound(FoundFile&& file) = 0;
+    virtual void OnNote(FileNote note, const QString& path) = 0; // RanAway comes once
+    virtual void OnDone(const FileSearchTotals& totals) = 0;     // the last call
+};
+
+class ZN_API CFileSearch
+{
+public:
+    // The listener stays the caller's, and outlives the search.
+    CFileSearch(FileSearchRequest request, IFileSearchListener& listener);
+    CFileSearch(const CFileSearch&) = delete;
+    CFileSearch& operator=(const CFileSearch&) = delete;
+    ~CFileSearch(); // stops, and waits for the last call
+
+    void Start();
+    void Stop(); // returns at once; what is found already is still told
+    void Wait();
+    FileSearchTotals Totals() const; // so far, from any thread
+
+private:
+    class Job;
+    std::unique_ptr<Job> m_job;
+};

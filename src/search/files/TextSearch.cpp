@@ -1,0 +1,303 @@
+#include "search/files/TextSearch.h"
+
+#include "platform/text/Utf8.h"
+
+#include <QChar>
+
+#include <algorithm>
+#include <cctype>
+#include <cstring>
+
+namespace {
+
+using engine::search::Budget;
+namespace flag = engine::search::flag;
+
+enum class WordClass
+{
+    Space,
+    NewLine,
+    Word,
+    Punctuation,
+};
+
+WordClass ClassOf(char32_t character)
+{
+    if (character < 0x80) {
+        if (character == '\r' || character == '\n')
+            return WordClass::NewLine;
+        if (character <= ' ')
+            return WordClass::Space;
+        const auto byte = static_cast<unsigned char>(character);
+        return std::isalnum(byte) || byte == '_' ? WordClass::Word : WordClass::Punctuation;
+    }
+    switch (QChar::category(character)) {
+    case QChar::Separator_Line:
+    case QChar::Separator_Paragraph:
+        return WordClass::NewLine;
+    case QChar::Separator_Space:
+    case QChar::Other_Control:
+    case QChar::Other_Format:
+    case QChar::Other_Surrogate:
+    case QChar::Other_PrivateUse:
+    case QChar::Other_NotAssigned:
+        return WordClass::Space;
+    case QChar::Punctuation_Connector:
+    case QChar::Punctuation_Dash:
+    case QChar::Punctuation_Open:
+    case QChar::Punctuation_Close:
+    case QChar::Punctuation_InitialQuote:
+    case QChar::Punctuation_FinalQuote:
+    case QChar::Punctuation_Other:
+    case QChar::Symbol_Math:
+    case QChar::Symbol_Currency:
+    case QChar::Symbol_Modifier:
+    case QChar::Symbol_Other:
+        return WordClass::Punctuation;
+    default:
+        return WordClass::Word;
+    }
+}
+
+bool IsInside(char byte)
+{
+    return (static_cast<unsigned char>(byte) & 0xC0) == 0x80;
+}
+
+// The character that begins at a place of well-formed text.
+char32_t CharacterAt(std::string_view text, std::size_t at)
+{
+    const auto lead = static_cast<unsigned char>(text[at]);
+    const std::size_t length = platform::utf8::LengthByLead(lead);
+    if (length <= 1 || at + length > text.size())
+        return lead;
+    char32_t character = lead & (0xFFU >> (length + 1));
+    for (std::size_t i = 1; i < length; ++i)
+        character = character << 6 | (static_cast<unsigned char>(text[at + i]) & 0x3F);
+    return character;
+}
+
+WordClass ClassAt(std::string_view text, std::size_t at)
+{
+    return ClassOf(CharacterAt(text, at));
+}
+
+WordClass ClassBefore(std::string_view text, std::size_t at)
+{
+    do
+        --at;
+    while (at > 0 && IsInside(text[at]));
+    return ClassAt(text, at);
+}
+
+bool CanBeEdge(WordClass kind)
+{
+    return kind == WordClass::Word || kind == WordClass::Punctuation;
+}
+
+bool IsStart(std::string_view text, std::size_t at)
+{
+    if (at >= text.size())
+        return false;
+    if (at == 0)
+        return true;
+    const WordClass kind = ClassAt(text, at);
+    return CanBeEdge(kind) && kind != ClassBefore(text, at);
+}
+
+bool IsEnd(std::string_view text, std::size_t at)
+{
+    if (at == 0)
+        return false;
+    if (at >= text.size())
+        return true;
+    const WordClass kind = ClassBefore(text, at);
+    return CanBeEdge(kind) && kind != ClassAt(text, at);
+}
+
+long UnitsIn(std::string_view text)
+{
+    return static_cast<long>(platform::utf8::UnitCount(
+        reinterpret_cast<const unsigned char*>(text.data()), text.size()));
+}
+
+QString TextOf(std::string_view text)
+{
+    return QString::fromUtf8(text.data(), static_cast<qsizetype>(text.size()));
+}
+
+// A search that is stopped has no time left, whenever it began to count.
+thread_local const std::atomic<bool>* t_stop = nullptr;
+thread_local double t_passed = 0;
+
+double Clock()
+{
+    constexpr double kEnough = 1000;
+    if (t_stop && t_stop->load(std::memory_order_relaxed))
+        t_passed += kEnough;
+    return engine::search::ThreadSeconds() + t_passed;
+}
+
+constexpr double kSeconds = 2;
+constexpr double kBriefSeconds = 0.1;
+
+} // namespace
+
+bool PieceText::IsWord(long start, long end) const
+{
+    return IsStart(bytes, static_cast<std::size_t>(start)) &&
+           IsEnd(bytes, static_cast<std::size_t>(end));
+}
+
+std::string PieceText::WordCharacters() const
+{
+    std::string words;
+    for (int c = 0; c < 0x80; ++c) {
+        if (ClassOf(static_cast<char32_t>(c)) == WordClass::Word)
+            words += static_cast<char>(c);
+    }
+    return words;
+}
+
+TextSearch::TextSearch(const FileSearchRequest& request, const std::atomic<bool>& stop)
+    : m_request(request), m_stop(stop), m_sought(request.text.toUtf8().toStdString()),
+      m_flags((request.wholeWord ? flag::WholeWord : 0) |
+              (request.matchCase ? flag::MatchCase : 0) | (request.regExp ? flag::Expression : 0)),
+      m_searcher(m_text, {kSeconds, Clock})
+{}
+
+void TextSearch::Begin()
+{
+    t_stop = &m_stop;
+    if (m_ranAway && !m_isBrief) {
+        m_isBrief = true;
+        std::destroy_at(&m_searcher);
+        std::construct_at(&m_searcher, m_text, Budget::Limit{kBriefSeconds, Clock});
+    }
+    m_text.bytes.clear();
+    m_place = {};
+    m_from = 0;
+    m_count = 0;
+    m_ranAway = false;
+    m_lineText.clear();
+    m_lineFrom = m_lineTo = 0;
+}
+
+// Line ends are CR LF, LF and CR. Counting them needs the byte behind the place.
+void TextSearch::MoveTo(std::size_t at)
+{
+    const char* text = m_text.bytes.data();
+    const std::size_t size = m_text.bytes.size();
+    const auto isEnd = [&](std::size_t i) {
+        return text[i] == '\n' || (text[i] == '\r' && !(i + 1 < size && text[i + 1] == '\n'));
+    };
+    long ends = 0;
+    for (std::size_t i = m_place.at; i < at; ++i)
+        ends += text[i] == '\n' || text[i] == '\r';
+    if (ends > 0) {
+        const char* carriage =
+            static_cast<const char*>(std::memchr(text + m_place.at, '\r', at - m_place.at));
+        for (; carriage && carriage < text + at; ++carriage) {
+            const auto i = static_cast<std::size_t>(carriage - text);
+            ends -= *carriage == '\r' && !isEnd(i);
+        }
+    }
+    if (ends > 0) {
+        m_place.line += ends;
+        std::size_t last = at;
+        while (!isEnd(last - 1))
+            --last;
+        m_place.lineStart = last;
+        m_place.column = UnitsIn(std::string_view(text + last, at - last));
+    } else {
+        m_place.column += UnitsIn(std::string_view(text + m_place.at, at - m_place.at));
+    }
+    m_place.at = at;
+}
+
+FileMatch TextSearch::Describe(std::size_t start, std::size_t end)
+{
+    // A cut of a long line begins at a step of it, so that matches near each other share one text.
+    constexpr std::size_t kStep = 128;
+    constexpr std::size_t kLongest = 512;
+    const std::string_view text = m_text.bytes;
+    MoveTo(start);
+    FileMatch match;
+    match.line = m_place.line;
+    match.column = m_place.column;
+    match.length = UnitsIn(text.substr(start, end - start));
+    std::size_t from = m_place.lineStart;
+    if (start - from > kStep) {
+        from += (start - from) / kStep * kStep - kStep / 2;
+        while (from < start && IsInside(text[from]))
+            ++from;
+    }
+    std::size_t to = std::min(text.size(), from + kLongest);
+    to = std::min(text.substr(0, to).find_first_of("\r\n", start), to);
+    while (to > start && to < text.size() && IsInside(text[to]))
+        --to;
+    if (m_lineText.isNull() || from != m_lineFrom || to != m_lineTo) {
+        m_lineText = TextOf(text.substr(from, to - from));
+        m_lineFrom = from;
+        m_lineTo = to;
+    }
+    match.text = m_lineText;
+    match.textColumn = m_place.column - UnitsIn(text.substr(from, start - from));
+    return match;
+}
+
+void TextSearch::Drop(std::size_t bytes)
+{
+    MoveTo(bytes);
+    m_text.bytes.erase(0, bytes);
+    m_place.at = 0;
+    m_place.lineStart = 0;
+    m_from -= static_cast<long>(bytes);
+    m_lineText = QString();
+    m_lineFrom = m_lineTo = 0;
+}
+
+// What starts near the end of a piece waits for the next one. A match of nothing is not found again
+// at its place.
+long TextSearch::Search(bool isLast, long skip, std::vector<FileMatch>& matches)
+{
+    const std::size_t size = m_text.bytes.size();
+    std::size_t cut = size;
+    if (!isLast) {
+        cut = size > kOverlap ? size - kOverlap : 0;
+        while (cut > 0 && IsInside(m_text.bytes[cut]))
+            --cut;
+    }
+    const long before = m_count;
+    while (!m_stop.load(std::memory_order_relaxed) && !m_ranAway &&
+           m_from <= static_cast<long>(size)) {
+        const long stopped = m_searcher.Stopped();
+        const auto found = m_searcher.Find(m_sought, m_flags, m_from, static_cast<long>(size));
+        m_ranAway = m_searcher.Stopped() != stopped;
+        if (!found || (!isLast && found->start >= static_cast<long>(cut)))
+            break;
+        if (m_count++ >= skip && !m_request.countOnly)
+            matches.push_back(Describe(static_cast<std::size_t>(found->start),
+                                       static_cast<std::size_t>(found->end)));
+        m_from = found->end;
+        if (found->end == found->start) {
+            ++m_from;
+            while (m_from < static_cast<long>(size) &&
+                   IsInside(m_text.bytes[static_cast<std::size_t>(m_from)]))
+                ++m_from;
+        }
+    }
+    if (!isLast) {
+        m_from = std::max(m_from, static_cast<long>(cut));
+        // Enough stays in front for what looks back.
+        if (cut > kOverlap) {
+            std::size_t drop = cut - kOverlap;
+            while (drop > 0 && IsInside(m_text.bytes[drop]))
+                --drop;
+            drop = std::max(drop, m_place.at);
+            if (drop <= static_cast<std::size_t>(m_from))
+                Drop(drop);
+        }
+    }
+    return m_count - before;
+}
