@@ -34,6 +34,7 @@ enum Option : unsigned
     Mark = 64,
     Eol = 128,
     Separator = 256,
+    Terminator = 512,
 };
 
 struct OptionRow
@@ -54,6 +55,7 @@ constexpr OptionRow kOptions[] = {
     {To,        "to",        "ENCODING",   "The encoding that the files get."},
     {Mark,      "mark",      nullptr,      "The files get a byte-order mark."},
     {Separator, "separator", "TEXT",       "What stands alone on a line between two batches; that of the language if it is not given, none if it is empty."},
+    {Terminator, "terminator", "TEXT",     "What ends a statement until the script says other; a semicolon if it is not given."},
     {Eol,       "eol",       "MODE",       "The line ends that the result gets: lf, crlf or cr."},
 };
 
@@ -68,7 +70,7 @@ struct CommandRow
 constexpr CommandRow kCommands[] = {
     {"expand",  Path | Define | Encoding | Mark | Output | Language | Eol, "FILE",
      "Writes a script with its #include and #define lines and its && variables expanded."},
-    {"batches", Language | Separator, "FILE...",
+    {"batches", Language | Separator | Terminator, "FILE...",
      "Lists the batches of scripts, a line for each, by the line that they start on."},
     {"convert", To | Mark | Eol, "FILE...", "Brings files to an encoding, each in its place."},
     {"detect",  0, "FILE...", "Tells the encoding and the line ends of files, a line for each."},
@@ -154,6 +156,8 @@ QString TakeOptions(const QCommandLineParser& parser, unsigned options, Argument
         arguments.language = parser.value(QStringLiteral("language"));
     if (options & Separator && parser.isSet(QStringLiteral("separator")))
         arguments.separator = parser.value(QStringLiteral("separator"));
+    if (options & Terminator)
+        arguments.terminator = parser.value(QStringLiteral("terminator"));
     if (options & Mark)
         arguments.mark = parser.isSet(QStringLiteral("mark"));
     if (options & Define)
@@ -175,6 +179,9 @@ QString WhatIsWrong(const Arguments& arguments, const CommandRow& command)
         return QStringLiteral("%1 takes one file.").arg(arguments.command);
     if (command.options & To && !arguments.encoding)
         return QStringLiteral("%1 needs --to ENCODING.").arg(arguments.command);
+    const QByteArray terminator = arguments.terminator.toUtf8();
+    if (terminator.size() > 15 || terminator.contains(' ') || terminator.contains('\t'))
+        return QStringLiteral("--terminator takes up to 15 bytes without a blank.");
     if (arguments.mark && arguments.encoding == 0)
         return QStringLiteral("windows-1252 has no byte-order mark.");
     return {};

@@ -23,6 +23,7 @@ struct Arguments
     std::optional<int> lineEnds;          // a mode of the editor; none: those of the file
     bool mark = false;
     QString language;                 // empty: that of the command or of the file's name
+    QString terminator;               // of statements; empty: ;
     std::optional<QString> separator; // of batches; none: that of the language
     QString output;                   // empty: the standard output
 

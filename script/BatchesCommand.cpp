@@ -57,6 +57,8 @@ bool ListBatchesOf(const QString& path, const Arguments& arguments)
     }
     if (arguments.separator)
         file.Control().SetBatchSeparator(Units(*arguments.separator), 0, 1);
+    if (!arguments.terminator.isEmpty())
+        file.Control().SetStatementTerminator(Units(arguments.terminator), 1);
     if (ListBatches(file.Control(), path))
         return true;
     Report(path, QStringLiteral("its language has no batches; --language names another"));

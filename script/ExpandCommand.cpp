@@ -40,11 +40,10 @@ bool ReportIncludedFiles()
 
 // The line that was commented out ends in a lone carriage return before the text of its file.
 // Where that counts as no line end, the comment would take in the file's first line.
-void UnifyLineEnds(CZNCoreEditorControlEx& control, const Arguments& arguments)
+void UnifyLineEnds(CZNCoreEditorControlEx& control, int lineEnds)
 {
-    if (arguments.lineEnds)
-        control.SetEOLMode(*arguments.lineEnds, 1);
-    control.ConvertEOLs(control.GetEOLMode(1), 1);
+    control.SetEOLMode(lineEnds, 1);
+    control.ConvertEOLs(lineEnds, 1);
 }
 
 } // namespace
@@ -64,6 +63,7 @@ int Expand(const Arguments& arguments)
         return kProblems;
     }
     CZNCoreEditorControlEx& control = file.Control();
+    const int lineEnds = arguments.lineEnds.value_or(file.LineEndMode());
     control.SetDatasourceSearchPath(arguments.searchPath);
     zncoreeditor::GetCompileManager()->SetPredefined(arguments.variables);
     QString text;
@@ -74,7 +74,7 @@ int Expand(const Arguments& arguments)
     }
     if (!ReportIncludedFiles())
         return kProblems;
-    UnifyLineEnds(control, arguments);
+    UnifyLineEnds(control, lineEnds);
     const int encoding = arguments.encoding.value_or(control.GetEncoding());
     if (const int line = file.FirstLineBeyond(encoding); line >= 0) {
         const SourceLine place = zncoreeditor::GetCompileManager()->GetSourceMap().Locate(line);

@@ -182,21 +182,35 @@ int ScriptFile::FirstLineBeyond(int encoding)
     return -1;
 }
 
-QString ScriptFile::LineEnds()
+ScriptFile::LineEndCounts ScriptFile::CountLineEnds()
 {
     const QString text = m_control->GetText();
-    unsigned kinds = 0; // 1: LF, 2: CR, 4: CR LF
+    LineEndCounts counts;
     for (qsizetype i = 0; i < text.size(); ++i) {
-        if (text[i] == u'\n')
-            kinds |= 1;
-        else if (text[i] != u'\r')
-            continue;
-        else if (i + 1 < text.size() && text[i + 1] == u'\n')
-            kinds |= 4;
-        else
-            kinds |= 2;
-        if (text[i] == u'\r' && i + 1 < text.size() && text[i + 1] == u'\n')
+        if (text[i] == u'\n') {
+            ++counts.lf;
+        } else if (text[i] == u'\r' && i + 1 < text.size() && text[i + 1] == u'\n') {
+            ++counts.crlf;
             ++i;
+        } else if (text[i] == u'\r') {
+            ++counts.cr;
+        }
     }
-    return QLatin1String(kNames[kinds]);
+    return counts;
+}
+
+QString ScriptFile::LineEnds()
+{
+    const LineEndCounts counts = CountLineEnds();
+    return QLatin1String(kNames[(counts.lf > 0) | (counts.cr > 0) << 1 | (counts.crlf > 0) << 2]);
+}
+
+int ScriptFile::LineEndMode()
+{
+    const LineEndCounts counts = CountLineEnds();
+    if (counts.lf == 0 && counts.cr == 0 && counts.crlf == 0)
+        return m_control->GetEOLMode(1);
+    if (counts.crlf >= counts.lf && counts.crlf >= counts.cr)
+        return 1;
+    return counts.lf >= counts.cr ? 3 : 2;
 }

@@ -36,7 +36,19 @@ public:
     // The line ends of the text by name; "mixed" and "none" among them.
     QString LineEnds();
 
+    // The engine's number of those that most lines have. A load looks at the first lines alone, and
+    // at none behind an empty first one.
+    int LineEndMode();
+
 private:
+    struct LineEndCounts
+    {
+        int lf = 0;
+        int cr = 0;
+        int crlf = 0;
+    };
+
+    LineEndCounts CountLineEnds();
     bool WritesWhatItRead(const QString& path);
     QString WriteToOutput(int encoding, bool mark);
 

@@ -15,8 +15,17 @@ bool StatementMachine::TakeClient(const Token& token)
         isInside ? ClientLineInStatement(m_dialect, text, token, m_state.lineIsClean)
                  : ClientLineAt(m_dialect, text, token, m_state.lineIsClean, m_state.terminator);
     m_read = std::max(m_read, line.read);
-    if (line.kind == ClientWord::None || (line.kind == ClientWord::Inner && !isInside))
+    if (line.kind == ClientWord::None)
         return false;
+    if (line.kind == ClientWord::Inner) {
+        if (!isInside) {
+            Note(Event::Start, token.start);
+            m_state.Forget(Phase::Open);
+        }
+        m_scanner.Restart(line.behind);
+        m_lastEnd = line.behind;
+        return true;
+    }
     isInside ? TakeInStatement(token, line) : TakeClientLine(token, line);
     return true;
 }
@@ -46,10 +55,7 @@ void StatementMachine::TakeInStatement(const Token& token, const ClientLine& lin
     }
     m_scanner.Restart(line.behind);
     Apply(line);
-    if (line.kind == ClientWord::Inner)
-        m_lastEnd = line.behind;
-    else
-        TakeRestOf(line);
+    TakeRestOf(line);
     if (line.kind == ClientWord::Send)
         m_state.Forget(Phase::Ended);
 }

@@ -30,7 +30,7 @@ enum class ClientWord : std::uint8_t
     Alone,     // an escape with nothing behind it
     Send,      // ends the statement that it stands behind
     Cut,       // the same, and is none of it
-    Inner,     // a terminator that ends nothing
+    Inner,     // what stands behind the escape is read as no more than a part of the statement
 };
 
 struct ClientCommand

@@ -83,6 +83,7 @@ const ClientProgram kAseIsql = {.leads = ":!", .words = kAseWords, .leadWords = 
 const ClientProgram kMySqlClient = {.words = kMySqlWords,
                                     .leadWords = kMySqlEscapes,
                                     .escape = '\\',
+                                    .escaped = Inner,
                                     .wordsLackTerminator = true,
                                     .dashesBegin = true};
 const ClientProgram kPsql = {

@@ -47,11 +47,10 @@ bool SqlStyler::TakeClient(const Token& token, bool isFirst)
     case ClientWord::None:
         return false;
     case ClientWord::Inner:
-        if (isInside) {
-            Fill(token.start, line.behind, m_palette.op);
-            m_scanner.Restart(line.behind);
-        }
-        return isInside;
+        Fill(token.start, line.behind, m_palette.op);
+        m_scanner.Restart(line.behind);
+        m_blocks.state.inStatement = true;
+        return true;
     default:
         TakeClientLine(token, line, isInside);
         return true;

@@ -36,8 +36,9 @@
 // null: the dialect's. GetBatchSeparator gives the one that holds, null for none.
 //
 // Catalogs. GetCatalogForOffset gives what the last USE before a place has chosen (\c and \connect
-// in PostgreSQL), without its quotes, in force behind the name; else what SetCurrentCatalog has
-// set; else null. With CatalogFixed that text holds everywhere. Null or empty takes it back.
+// in PostgreSQL), without its quotes and with the values of :setvar for $(name), in force behind
+// the name; else what SetCurrentCatalog has set; else null. With CatalogFixed that text holds
+// everywhere. Null or empty takes it back.
 //
 // Statements end at the dialect's terminator, at a line of DELIMITER, SET TERM or
 // --#SET TERMINATOR in scripts that change it, or at a separator. A terminator in a block body
@@ -46,6 +47,10 @@
 // \, SQL*Plus' PROMPT, sqlcmd's :) is a statement of its own. The data behind COPY ... FROM STDIN
 // belong to it. Unbalanced text is read as it stands: a block that is not closed goes on to the
 // next separator or to the text's end.
+//
+// SetStatementTerminator of the control says what ends a statement until the script says other; it
+// is the lexer property sql.terminator, so that windows of one document share it. In DB2 a comment
+// in front of the first statement may say so too, by -td@ as on the client's command line.
 //
 // Dialects. The lexer says which one. For generic SQL (lexers 0 and 9) the lexer property
 // sql.dialect does ("postgresql", "sqlite"), and SetServerIdentifier says more than both.

@@ -2,10 +2,12 @@
 // is released, in the form of delete that fits its new.
 #include "control/ZNCoreEditorControl.h"
 
+#include <algorithm>
 #include <memory>
 
 namespace {
 
+constexpr const char16_t* kTerminatorProperty = u"sql.terminator";
 constexpr int kSquiggle = 1;
 constexpr int kErrorIndicator = 0;
 constexpr int kWarningIndicator = 1;
@@ -113,6 +115,20 @@ void CZNCoreEditorControl::SetDoingReplaceAll(bool bulk, int direct)
 int CZNCoreEditorControl::GetIsReconcilerEnabled()
 {
     return static_cast<int>(Call(engine::message::GetIsReconcilerEnabled, 0, 0, 1));
+}
+
+void CZNCoreEditorControl::SetStatementTerminator(const char16_t* text, int direct)
+{
+    SetProperty(kTerminatorProperty, text ? text : u"", direct);
+}
+
+std::u16string CZNCoreEditorControl::GetStatementTerminator(int direct)
+{
+    const int length = std::max(GetProperty(kTerminatorProperty, nullptr, direct), 0);
+    std::u16string text(static_cast<std::size_t>(length) + 1, u'\0'); // and its end
+    GetProperty(kTerminatorProperty, text.data(), direct);
+    text.resize(static_cast<std::size_t>(length));
+    return text.empty() ? u";" : text;
 }
 
 int CZNCoreEditorControl::DefineErrorIndicators()

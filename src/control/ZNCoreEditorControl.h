@@ -187,6 +187,11 @@ public:
 
     // Errors: indicator 0, red; warnings: indicator 1, yellow. Always 0.
     int DefineErrorIndicators();
+
+    // What ends a statement until the script says other, in every window of the document: at most
+    // 15 bytes of UTF-8 without a blank. Null or empty: ;. Another language leaves it.
+    void SetStatementTerminator(const char16_t* text, int direct);
+    std::u16string GetStatementTerminator(int direct);
     void DefineMarker(int marker, int symbol, unsigned long fore, unsigned long back);
 
     // Bookmarks: marker 0, and the numbers 0 to 9 on the markers from firstMarker on, one of them

@@ -513,3 +513,16 @@ TEST_F(Analysis, OfAFurtherWindowAgreesThroughEditsInEither)
     EXPECT_EQ(batchOfSecond(), u"a\n");
     EXPECT_EQ(Batch(0, 0), u"a\n");
 }
+TEST_F(Analysis, EndsStatementsByTheTerminatorThatAPropertySets)
+{
+    SetText(u"select '1; select' 2@ x;@");
+    EXPECT_THAT(All(), ElementsAre(u"select '1; select' 2@ x;", u"@"));
+    const auto set = [&](const char16_t* text) {
+        m_engine.Send(msg::SetProperty, reinterpret_cast<WPARAM>(u"sql.terminator"),
+                      reinterpret_cast<LPARAM>(text));
+    };
+    set(u"@");
+    EXPECT_THAT(All(), ElementsAre(u"select '1; select' 2@", u"x;@"));
+    set(u"");
+    EXPECT_THAT(All(), ElementsAre(u"select '1; select' 2@ x;", u"@"));
+}

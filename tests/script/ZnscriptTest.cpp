@@ -322,4 +322,23 @@ TEST_F(Znscript, TellsWhatItCannotRead)
               "a\uFFFD.sql: a name that is not UTF-8 cannot be opened\n");
 }
 
+TEST_F(Znscript, KeepsTheLineEndsOfAScriptThatBeginsWithAnEmptyLine)
+{
+    Write("part.sql", "part\nmore\n");
+    Write("crlf.sql", "\r\n#define &&A 1\r\n#include part.sql\r\n&&A\r\n");
+    EXPECT_EQ(Start({"expand", "--path", folder.path(), "crlf.sql"}).output,
+              "\r\n--#define &&A 1\r\n--#include part.sql\r\npart\r\nmore\r\n\r\n1\r\n");
+    Write("lf.sql", "\n\n1\r\n2\n");
+    EXPECT_EQ(Start({"expand", "lf.sql"}).output, "\n\n1\n2\n");
+}
+
+TEST_F(Znscript, DividesByATerminatorOfItsCommandLine)
+{
+    const QStringList words = {"batches", "--language", "DB2", "--separator", "GO"};
+    Write("b.sql", "select 1; select 2; select 3@ select 4@");
+    EXPECT_EQ(Start(words + QStringList{"--terminator", "@", "b.sql"}).output,
+              "b.sql:1: lines 1-1, 2 statements\n");
+    EXPECT_EQ(Start(words + QStringList{"--terminator", "a b", "b.sql"}).exitCode, 2);
+}
+
 } // namespace
