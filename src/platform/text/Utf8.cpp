@@ -2,6 +2,8 @@
 
 #include "platform/text/AsciiRun.h"
 
+#include <cstring>
+
 namespace platform::utf8 {
 namespace {
 
@@ -71,19 +73,19 @@ inline Decoded Decode(const unsigned char* at, std::size_t left, char16_t* units
     return {4, 2};
 }
 
-// Sixteen units below 800, without a branch: in Latin text the accents come at no foreseeable
-// place. Writes one byte more than it counts, so that there has to be a unit behind them.
-unsigned char* ShortToBytes(const char16_t* units, unsigned char* out)
+// The last bytes of a text, too few for a chunk: filled up with NULs they are one. Nothing is taken
+// if they are not all ASCII and characters of two bytes. In a file's lines they are a fifth of it.
+ascii::Taken ShortTailToUnits(const unsigned char* bytes, std::size_t count, char16_t* units)
 {
-    for (std::size_t i = 0; i < ascii::kChunk; ++i) {
-        const unsigned int unit = units[i];
-        const unsigned int two = (unit + 0x780) >> 11; // 1 from 80 up
-        const unsigned int lead = (0xC0 | unit >> 6) ^ unit;
-        out[0] = static_cast<unsigned char>(unit ^ (lead & (0 - two)));
-        out[1] = static_cast<unsigned char>(0x80 | (unit & 0x3F));
-        out += 1 + two;
-    }
-    return out;
+    unsigned char chunk[ascii::kChunk] = {};
+    char16_t widened[ascii::kChunk];
+    std::memcpy(chunk, bytes, count);
+    const ascii::Taken taken = ascii::WidenShortChunk(chunk, widened);
+    if (taken.bytes == 0)
+        return taken;
+    const std::size_t written = taken.units - (ascii::kChunk - count);
+    std::memcpy(units, widened, written * sizeof *units);
+    return {count, written};
 }
 
 } // namespace
@@ -97,13 +99,25 @@ Extent ToUnitsWhileWellFormed(const unsigned char* bytes, std::size_t byteCount,
         // There are never fewer units of room left than bytes to read.
         while (static_cast<std::size_t>(end - at) >= ascii::kChunk) {
             const std::size_t taken = ascii::WidenChunk(at, out);
-            at += taken;
-            out += taken;
+            ascii::Taken all{taken, taken};
             if (taken < ascii::kChunk)
+                all = ascii::WidenShortChunk(at, out);
+            const bool isShort = all.bytes > 0;
+            at += isShort ? all.bytes : taken;
+            out += isShort ? all.units : taken;
+            if (!isShort)
                 break;
         }
         if (at == end)
             break;
+        const auto left = static_cast<std::size_t>(end - at);
+        if (left < ascii::kChunk && (*at & 0xC0) != 0x80) {
+            const ascii::Taken tail = ShortTailToUnits(at, left, out);
+            at += tail.bytes;
+            out += tail.units;
+            if (at == end)
+                break;
+        }
         if (*at < 0x80) {
             *out++ = *at++;
             continue;
@@ -195,7 +209,7 @@ std::size_t ToBytes(const char16_t* units, std::size_t unitCount, unsigned char*
         const bool more = static_cast<std::size_t>(end - at) > ascii::kChunk;
         const char16_t* const stop = more ? at + ascii::kChunk : end;
         if (more && !ascii::HasUnitWithin(at, 0x800, 0xF7FF)) {
-            out = ShortToBytes(at, out);
+            out += ascii::NarrowShortChunk(at, out); // there is a unit behind them
             at = stop;
             continue;
         }
