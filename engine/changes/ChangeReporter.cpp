@@ -75,6 +75,17 @@ void ChangeReporter::SetModEventMask(int mask)
     m_raw.Send(Sci::SCI_SETMODEVENTMASK, static_cast<std::uintptr_t>((mask & kHarmless) | kBefore));
 }
 
+// A change that is noted while another is may be told behind the message that makes it, when its
+// text is gone. Short texts are read as quickly.
+ChangeReporter::Source::Source(ChangeReporter& reporter, std::u16string_view text,
+                               std::size_t bytes)
+    : m_reporter(reporter)
+{
+    constexpr std::size_t kWorthwhile = 64;
+    if (s_noting == 0 && text.size() >= kWorthwhile && !HasSurrogates(text))
+        reporter.m_offered = {text, static_cast<long>(bytes)};
+}
+
 void ChangeReporter::FlushAll()
 {
     if (s_noting > 0)
@@ -271,6 +282,9 @@ void ChangeReporter::Note(int type, BytePos position, long bytes)
     const int reported = inserts ? modification::InsertText : modification::DeleteText;
     m_change.position = position;
     m_change.bytes = bytes;
+    m_change.source = {};
+    if (inserts && m_offered.bytes == bytes)
+        m_change.source = std::exchange(m_offered, {}).text;
     m_change.told = (m_mask & (reported | (type & kOrigin))) && HasListener();
     m_change.spoken = g_assistiveTechnology.listens();
     if (m_change.told || m_change.spoken) {
@@ -328,9 +342,9 @@ std::string_view ChangeReporter::ReadChange(Utf16Text& text)
 }
 
 // Asks the stock engine, except where it is plain to see that there are none.
-long ChangeReporter::LinesAdded(const Utf16Text& text)
+long ChangeReporter::LinesAdded(bool isPlain)
 {
-    if (text.IsPlain() && !m_change.isBehindCr)
+    if (isPlain && !m_change.isBehindCr)
         return 0;
     const long before = std::exchange(m_lines, m_raw.LineCount());
     return m_lines - before;
@@ -343,7 +357,11 @@ void ChangeReporter::TellChange(int type)
     record.position = m_change.unit.value;
     // A handler may make the next change, whose text is not this one.
     Utf16Text text = std::exchange(m_changed, {});
-    if (type & modification::BeforeInsert) {
+    const std::u16string_view source = std::exchange(m_change.source, {});
+    if (!source.empty()) {
+        record.modificationType = modification::InsertText;
+        m_text.InsertionDone(static_cast<long>(source.size()));
+    } else if (type & modification::BeforeInsert) {
         record.modificationType = modification::InsertText;
         const std::string_view bytes = ReadChange(text);
         // Of half a character that is not what the text has.
@@ -353,10 +371,10 @@ void ChangeReporter::TellChange(int type)
         record.modificationType = modification::DeleteText;
         m_text.ChangeDone();
     }
-    record.linesAdded = LinesAdded(text);
+    record.linesAdded = LinesAdded(source.empty() && text.IsPlain());
     record.modificationType |= type & kOrigin;
-    record.text = text.Data();
-    record.length = static_cast<long>(text.Size());
+    record.text = source.empty() ? text.Data() : source.data();
+    record.length = static_cast<long>(source.empty() ? text.Size() : source.size());
     if (m_change.spoken)
         Speak(record);
     if (isTold)

@@ -30,6 +30,7 @@ void ThrowIfOutOfMemory(Engine& engine)
 {
     if (engine.raw.Send(Sci::SCI_GETSTATUS) == Sci::SC_STATUS_BADALLOC) {
         engine.raw.Send(Sci::SCI_SETSTATUS, 0);
+        engine.reporter.ForgetSource();
         throw std::bad_alloc();
     }
 }
@@ -43,8 +44,10 @@ void ThrowIfTooLong(const Engine& engine, std::size_t bytes)
 
 LRESULT SendCounted(Engine& engine, UINT number, WPARAM wParam, LPARAM lParam)
 {
-    const Utf8Text text(CountedText(wParam, lParam));
+    const std::u16string_view units = CountedText(wParam, lParam);
+    const Utf8Text text(units);
     ThrowIfTooLong(engine, text.Size());
+    const ChangeReporter::Source source(engine.reporter, units, text.Size());
     const LRESULT result = engine.raw.Send(number, text.Size(), text.Data());
     ThrowIfOutOfMemory(engine);
     return result;

@@ -53,6 +53,18 @@ void Utf8Text::Assign(std::u16string_view text)
     m_data = out;
 }
 
+bool HasSurrogates(std::u16string_view text)
+{
+    using namespace platform::ascii;
+    std::size_t at = 0;
+    for (; at + kChunk <= text.size(); at += kChunk) {
+        if (HasUnitWithin(text.data() + at, 0xD800, 0x7FF))
+            return true;
+    }
+    return std::any_of(text.begin() + static_cast<std::ptrdiff_t>(at), text.end(),
+                       [](char16_t unit) { return (unit & 0xF800) == 0xD800; });
+}
+
 std::u16string_view TerminatedText(const char16_t* text)
 {
     return text ? std::u16string_view(text) : std::u16string_view();

@@ -52,6 +52,8 @@ private:
     bool m_isPlain = true;
 };
 
+bool HasSurrogates(std::u16string_view text);
+
 // Up to the terminator; empty for null.
 std::u16string_view TerminatedText(const char16_t* text);
 
