@@ -21,6 +21,9 @@ public:
     bool Start(FileEncodeConverter::encodingType requested, bool& hadMark);
     FileEncodeConverter::encodingType InputType() const { return m_converter.GetInputType(); }
 
+    // UTF-8 bytes that the whole file will make, by its first block. Behind Start.
+    long long EstimatedUtf8(long long fileSize);
+
     // Lends the text of the block until Advance; false behind the last one. Lengths count units;
     // a block may have none and not be the last.
     bool Text(const char16_t*& text, long& length);

@@ -28,16 +28,13 @@ void ShowText(HWND owner, UINT id)
 }
 
 // Storage for a long text is asked for at once, since growing to it step by step takes as long as
-// the load. The figure is that of a text which is mostly ASCII; others grow behind it.
-int BytesToAllocate(long long fileSize, Encoding encoding)
+// the load. One byte more than the text has, since room that would be used up is grown before. 0 for
+// a text that is short, or beyond what the engine holds.
+int BytesToAllocate(long long bytes)
 {
     constexpr long long kWorthwhile = 1024 * 1024;
     constexpr long long kMost = INT_MAX / 2;
-    if (encoding == FileEncodeConverter::encUTF16LE || encoding == FileEncodeConverter::encUTF16BE)
-        fileSize /= 2;
-    if (encoding == FileEncodeConverter::encUTF32LE || encoding == FileEncodeConverter::encUTF32BE)
-        fileSize /= 4;
-    return fileSize >= kWorthwhile && fileSize <= kMost ? static_cast<int>(fileSize) : 0;
+    return bytes >= kWorthwhile && bytes <= kMost ? static_cast<int>(bytes) + 1 : 0;
 }
 
 bool IsUnicode(int encoding)
@@ -123,7 +120,7 @@ void CZNCoreEditorControl::ReadInFileContents(std::FILE* file, Encoding encoding
             RecordEncoding(blocks.InputType());
             SetDoingReplaceAll(true, 1);
             SetEnableReconciler(false, 1);
-            if (const int bytes = BytesToAllocate(SizeOf(file), blocks.InputType()))
+            if (const int bytes = BytesToAllocate(blocks.EstimatedUtf8(SizeOf(file))))
                 Allocate(bytes, 1);
             EnterBlocks(blocks, selector, false);
         }

@@ -51,6 +51,35 @@ Loaded Load(std::string bytes, const SeamRule& rule, FileEncodeConverter::encodi
     return TakeAll(blocks);
 }
 
+long long Estimated(const std::string& bytes, FileEncodeConverter::encodingType encoding)
+{
+    const std::unique_ptr<std::FILE, CloseFile> file(std::tmpfile());
+    std::fwrite(bytes.data(), 1, bytes.size(), file.get());
+    std::rewind(file.get());
+    FileBlocks blocks(file.get(), {true, true, true});
+    bool hadMark = false;
+    blocks.Start(encoding, hadMark);
+    return blocks.EstimatedUtf8(static_cast<long long>(bytes.size()));
+}
+
+TEST(FileBlocks, TellHowMuchRoomTheWholeTextTakes)
+{
+    std::string wide;
+    std::string ansi;
+    for (int i = 0; i < 100000; ++i) {
+        wide += i % 10 == 0 ? std::string("\xE9\0", 2) : std::string("a\0", 2);
+        ansi += i % 10 == 0 ? '\xE9' : 'a';
+    }
+    for (const long long told :
+         {Estimated(wide, kUtf16), Estimated(ansi, FileEncodeConverter::encANSI)}) {
+        EXPECT_GE(told, 110000);
+        EXPECT_LE(told, 112000);
+    }
+    EXPECT_EQ(Estimated(std::string(50000, 'a'), FileEncodeConverter::encANSI), 50000);
+    EXPECT_EQ(Estimated(std::string(50000, '\xE9'), kUtf8), 50000); // the file's own size
+    EXPECT_EQ(Estimated("", kUtf16), 0);
+}
+
 const std::string kAcute = "\xC3\xA9"; // two bytes
 
 // The text of a file to which something happens behind its first block.
