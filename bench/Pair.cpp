@@ -2,6 +2,9 @@
 
 #include <algorithm>
 #include <ctime>
+#include <string>
+#include <string_view>
+#include <utility>
 #include <vector>
 
 namespace bench {
@@ -12,6 +15,33 @@ double Now()
     timespec now{};
     clock_gettime(CLOCK_PROCESS_CPUTIME_ID, &now);
     return static_cast<double>(now.tv_sec) + 1e-9 * static_cast<double>(now.tv_nsec);
+}
+
+// Work of the kind that editing is, the same each time: small texts made, compared and moved.
+void Yardstick()
+{
+    std::vector<std::string> words;
+    unsigned state = 1;
+    for (int i = 0; i < 4000; ++i) {
+        state = state * 1664525 + 1013904223;
+        words.push_back("word " + std::to_string(state >> 8) + " of a script");
+    }
+    std::sort(words.begin(), words.end());
+    benchmark::DoNotOptimize(words.data());
+}
+
+// What it takes, in milliseconds, on the machine that the limits in units of time were set on.
+constexpr double kYardstick = 0.45;
+
+// How much slower this machine is at this moment.
+double SlownessOf(std::vector<double> yardsticks)
+{
+    return MedianOf(std::move(yardsticks)) * 1e3 / kYardstick;
+}
+
+bool IsTime(std::string_view unit)
+{
+    return unit.starts_with("us ") || unit.starts_with("ns ");
 }
 
 } // namespace
@@ -39,6 +69,12 @@ void MeasurePair(benchmark::State& state, const std::function<void()>& ours,
         referenceTimes.push_back(CpuSeconds(reference));
         state.SetIterationTime(oursTimes.back());
     }
+    std::vector<double> ratios;
+    for (std::size_t i = 0; i < oursTimes.size(); ++i)
+        ratios.push_back(oursTimes[i] / referenceTimes[i]);
+    const auto [lowest, highest] = std::minmax_element(ratios.begin(), ratios.end());
+    state.counters["lowest"] = *lowest;
+    state.counters["highest"] = *highest;
     const double mine = MedianOf(oursTimes);
     const double theirs = MedianOf(referenceTimes);
     state.counters["ours_ms"] = mine * 1e3;
@@ -50,8 +86,11 @@ void MeasurePair(benchmark::State& state, const std::function<void()>& ours,
 
 void ReportFigure(benchmark::State& state, double value, double limit, const char* unit)
 {
+    std::vector<double> yardsticks;
+    for (int i = 0; IsTime(unit) && i < 9; ++i)
+        yardsticks.push_back(CpuSeconds(Yardstick));
     state.counters["ratio"] = value;
-    state.counters["limit"] = limit;
+    state.counters["limit"] = yardsticks.empty() ? limit : limit * SlownessOf(yardsticks);
     state.SetLabel(unit);
 }
 
@@ -60,16 +99,22 @@ void MeasureBar(benchmark::State& state, double barInMilliseconds, const char* l
 {
     constexpr int kRounds = 9;
     std::vector<double> times;
+    std::vector<double> yardsticks;
     for (auto _ : state) {
         for (int round = 0; round < kRounds; ++round) {
             prepare();
             times.push_back(CpuSeconds(work) * 1e3);
+            yardsticks.push_back(CpuSeconds(Yardstick));
         }
     }
     const double median = MedianOf(times);
+    const double bar = barInMilliseconds * SlownessOf(yardsticks);
+    const auto [lowest, highest] = std::minmax_element(times.begin(), times.end());
+    state.counters["lowest"] = *lowest / bar;
+    state.counters["highest"] = *highest / bar;
     state.counters["ours_ms"] = median;
-    state.counters["reference_ms"] = barInMilliseconds;
-    ReportFigure(state, median / barInMilliseconds, 1, label);
+    state.counters["reference_ms"] = bar;
+    ReportFigure(state, median / bar, 1, label);
 }
 
 } // namespace bench

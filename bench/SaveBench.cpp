@@ -12,7 +12,7 @@ namespace {
 
 using Sci = QsciScintillaBase;
 
-constexpr double kSaveLimit = 1.5;
+constexpr double kSaveLimit = 1.1;
 constexpr double kCarefulLimit = 1.1;
 
 void WriteLines(const RawEngine& raw, const std::string& path)
