@@ -28,8 +28,8 @@ void ShowText(HWND owner, UINT id)
 }
 
 // Storage for a long text is asked for at once, since growing to it step by step takes as long as
-// the load. One byte more than the text has, since room that would be used up is grown before. 0 for
-// a text that is short, or beyond what the engine holds.
+// the load. One byte more than the text has, since room that would be used up is grown before. 0
+// for a text that is short, or beyond what the engine holds.
 int BytesToAllocate(long long bytes)
 {
     constexpr long long kWorthwhile = 1024 * 1024;
