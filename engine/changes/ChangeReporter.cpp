@@ -409,10 +409,20 @@ void ChangeReporter::OnSavePoint(UINT code)
 void ChangeReporter::OnStyleNeeded(int position)
 {
     const std::shared_ptr<Colouring> colouring = m_colouring; // a handler may change documents
-    if (colouring->IsSql())
+    if (colouring->IsSql()) {
         colouring->StyleTo(m_raw, position);
-    else
-        Tell(notify::StyleNeeded, {.position = Units(position)});
+        return;
+    }
+    const std::intptr_t styled = m_raw.Send(Sci::SCI_GETENDSTYLED);
+    Tell(notify::StyleNeeded, {.position = Units(position)});
+    // The stock engine asks before each paint until somebody has styled, and compares all of the
+    // caret's line with what it has laid out whenever it has asked: where that is long, it takes no
+    // for an answer.
+    const auto caret = static_cast<std::uintptr_t>(m_raw.Send(Sci::SCI_GETCURRENTPOS));
+    const auto line = static_cast<std::uintptr_t>(m_raw.Send(Sci::SCI_LINEFROMPOSITION, caret));
+    if (m_raw.Send(Sci::SCI_LINELENGTH, line) >= AlikeStyles::kLongLine &&
+        m_raw.Send(Sci::SCI_GETENDSTYLED) == styled)
+        m_raw.Send(Sci::SCI_STARTSTYLING, static_cast<std::uintptr_t>(position));
 }
 
 void ChangeReporter::OnMacroRecord(UINT number, unsigned long wParam, void* lParam)

@@ -333,9 +333,12 @@ void Colouring::Walk(const Raw& raw, SqlStyler& styler, long target)
     m_lines.states.clear();
     m_lines.places.clear();
     m_lines.agrees = false;
+    m_lines.hasLongLine = false;
     int number = -1;
+    long start = StartOfLine(raw, m_lines.first);
     for (long line = m_lines.first; line < lineCount;) {
         const long next = line + 1 < lineCount ? StartOfLine(raw, line + 1) : length;
+        m_lines.hasLongLine |= next - std::exchange(start, next) >= AlikeStyles::kLongLine;
         const SqlLineState before = styler.State();
         m_lines.endsInLine = !WalkLine(raw, styler, next, target);
         if (m_lines.endsInLine)
@@ -469,8 +472,39 @@ bool Colouring::Apply(const Raw& raw)
         return false;
     if (static_cast<long>(raw.Send(Sci::SCI_GETENDSTYLED)) != m_lines.start)
         raw.Send(Sci::SCI_STARTSTYLING, static_cast<std::uintptr_t>(m_lines.start));
+    if (m_lines.hasLongLine)
+        LayAlikeInLongLines(raw);
     raw.Send(Sci::SCI_SETSTYLINGEX, m_lines.styles.size(), m_lines.styles.data());
     return m_edits == edits;
+}
+
+void Colouring::LayAlikeInLongLines(const Raw& raw)
+{
+    const long lineCount = raw.LineCount();
+    long line = m_lines.first;
+    for (long start = StartOfLine(raw, line); start < m_lines.End(); ++line) {
+        const long next = line + 1 < lineCount ? StartOfLine(raw, line + 1) : raw.Length();
+        const long from = std::max(start, m_lines.start);
+        const long to = std::min(next, m_lines.End());
+        if (next - std::exchange(start, next) >= AlikeStyles::kLongLine)
+            m_alike.Lay(std::span(m_lines.styles)
+                            .subspan(static_cast<std::size_t>(from - m_lines.start),
+                                     static_cast<std::size_t>(to - from)),
+                        raw.Bytes(from, to));
+        if (next == raw.Length())
+            break;
+    }
+    m_alike.Match(raw);
+}
+
+void Colouring::LayAlike(const Raw& raw, long start, std::span<char> styles)
+{
+    const auto end = static_cast<std::uintptr_t>(raw.Send(Sci::SCI_GETENDSTYLED));
+    m_alike.Lay(styles, raw.Bytes(start, start + static_cast<long>(styles.size())));
+    raw.Send(Sci::SCI_STARTSTYLING, static_cast<std::uintptr_t>(start));
+    raw.Send(Sci::SCI_SETSTYLINGEX, styles.size(), styles.data());
+    raw.Send(Sci::SCI_STARTSTYLING, end);
+    m_alike.Match(raw);
 }
 
 bool Colouring::ApplyLevels(const Raw& raw)

@@ -8,6 +8,7 @@
 // is taken up again.
 #pragma once
 
+#include "engine/colours/AlikeStyles.h"
 #include "engine/colours/SqlPlaces.h"
 #include "engine/text/Raw.h"
 
@@ -68,6 +69,11 @@ public:
     // All of the text is to be styled afresh, if it is SQL.
     void Restart(const Raw& raw);
 
+    // Gives a stretch of a long line these styles, by turns with their alikes. How far the text is
+    // styled stays.
+    void LayAlike(const Raw& raw, long start, std::span<char> styles);
+    const AlikeStyles& Alike() const { return m_alike; }
+
     // What stands behind the end of styles is somebody else's.
     void DropTail() { m_tail = {}; }
 
@@ -92,6 +98,7 @@ private:
         std::vector<std::pair<long, int>> before; // levels of lines before the first
         bool agrees = false;                      // with what the tail was styled from
         bool endsInLine = false;                  // at the last place
+        bool hasLongLine = false;
 
         long End() const { return start + static_cast<long>(styles.size()); }
     };
@@ -115,6 +122,7 @@ private:
     void FoldFreshBatch(const Raw& raw);
     void FoldBefore(const Raw& raw, bool opens);
     bool Apply(const Raw& raw);
+    void LayAlikeInLongLines(const Raw& raw);
     bool ApplyLevels(const Raw& raw);
 
     int m_lexer = 0;
@@ -127,6 +135,7 @@ private:
     SqlFoldOptions m_foldOptions;
     long m_end = 0; // of the styles, as this class has left it
     Range m_tail;
+    AlikeStyles m_alike;
     SqlPlaces m_places;      // those behind the end of styles are the tail's
     long m_editEnd = 0;      // of the edit that was noted last
     long m_editLines = -1;   // of the text before it; -1: it has been looked at

@@ -6,6 +6,7 @@
 #include "control/EngineMessages.h"
 #include "engine/changes/ChangeReporter.h"
 #include "engine/colours/Colouring.h"
+#include "engine/core/LongLines.h"
 #include "engine/core/ScriptAnalysis.h"
 #include "engine/core/WholeCharacters.h"
 #include "engine/errors/ErrorMarks.h"
@@ -98,6 +99,7 @@ public:
     const StoredText stored;
     search::Searcher searcher;
     SearchTarget target;
+    LongLines longLines{*this};
     WholeCharacters wholeCharacters{*this};
 
     // What the stock engine has no place for.

@@ -271,6 +271,17 @@ LRESULT GetTextRange(Engine& engine, WPARAM, LPARAM lParam)
     return Read(engine, UnitPos{start}, UnitPos{end}, range->lpstrText);
 }
 
+int StyleAt(const Engine& engine, long byte)
+{
+    return engine.colouring->Alike().Plain(
+        static_cast<int>(engine.raw.Send(Sci::SCI_GETSTYLEAT, static_cast<WPARAM>(byte))));
+}
+
+LRESULT GetStyleAt(Engine& engine, WPARAM wParam, LPARAM)
+{
+    return StyleAt(engine, engine.Bytes(static_cast<LPARAM>(wParam)));
+}
+
 LRESULT GetStyledText(Engine& engine, WPARAM, LPARAM lParam)
 {
     const auto* range = reinterpret_cast<const TextRange*>(lParam);
@@ -283,8 +294,7 @@ LRESULT GetStyledText(Engine& engine, WPARAM, LPARAM lParam)
     char16_t* out = range->lpstrText;
     for (long byte = start; byte < end;) {
         const long next = BehindCharacter(engine.raw, byte);
-        const auto style =
-            static_cast<char16_t>(engine.raw.Send(Sci::SCI_GETSTYLEAT, static_cast<WPARAM>(byte)));
+        const auto style = static_cast<char16_t>(StyleAt(engine, byte));
         for (const char16_t unit : ToUtf16(engine.raw.Bytes(byte, next))) {
             *out++ = unit;
             *out++ = style;
@@ -365,6 +375,7 @@ constexpr HandlerRow kRows[] = {
     {message::GetCurLine, GetCurLine},
     {message::GetSelText, GetSelText},
     {message::GetTextRange, GetTextRange},
+    {message::GetStyleAt, GetStyleAt},
     {message::GetStyledText, GetStyledText},
     {message::GetProperty, GetProperty<Sci::SCI_GETPROPERTY>},
     {message::GetPropertyExpanded, GetProperty<Sci::SCI_GETPROPERTYEXPANDED>},

@@ -82,6 +82,11 @@ long Accessible::Ask(UINT number, long wParam, LPARAM lParam) const
     return static_cast<long>(m_engine.raw.Send(number, static_cast<WPARAM>(wParam), lParam));
 }
 
+long Accessible::StyleAt(long position) const
+{
+    return m_engine.colouring->Alike().Plain(static_cast<int>(Ask(Sci::SCI_GETSTYLEAT, position)));
+}
+
 long Accessible::Offset(int offset) const
 {
     const long length = m_engine.text.Length();
@@ -247,13 +252,12 @@ void Accessible::scrollToSubstring(int startIndex, int endIndex)
 QString Accessible::attributes(int offset, int* startOffset, int* endOffset) const
 {
     const long at = m_engine.Bytes(Offset(offset));
-    const long style = Ask(Sci::SCI_GETSTYLEAT, at);
+    const long style = StyleAt(at);
     long start = at;
-    while (start > std::max(0L, at - kLongRun) && Ask(Sci::SCI_GETSTYLEAT, start - 1) == style)
+    while (start > std::max(0L, at - kLongRun) && StyleAt(start - 1) == style)
         --start;
     long end = at;
-    while (end < std::min(m_engine.raw.Length(), at + kLongRun) &&
-           Ask(Sci::SCI_GETSTYLEAT, end) == style)
+    while (end < std::min(m_engine.raw.Length(), at + kLongRun) && StyleAt(end) == style)
         ++end;
     *startOffset = static_cast<int>(m_engine.Units(start));
     *endOffset = static_cast<int>(m_engine.Units(end));

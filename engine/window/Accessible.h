@@ -57,6 +57,7 @@ private:
         long end = 0;
     };
 
+    long StyleAt(long position) const;
     long Ask(UINT number, long wParam = 0, LPARAM lParam = 0) const;
     long Offset(int offset) const; // resolved: the end, the caret, or clamped
     Piece LineAt(long offset) const;

@@ -2,7 +2,7 @@
 // each; columns are the stock engine's.
 #pragma once
 
-#include "engine/text/Raw.h"
+#include "engine/core/Engine.h"
 
 #include <QPoint>
 

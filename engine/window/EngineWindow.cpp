@@ -270,6 +270,7 @@ void EngineWindow::focusOutEvent(QFocusEvent* event)
 // columns, and Control sets one more caret.
 void EngineWindow::mousePressEvent(QMouseEvent* event)
 {
+    m_engine.longLines.Prepare();
     EndComposition();
     const Qt::KeyboardModifiers held = event->modifiers();
     const bool isLeft = event->button() == Qt::LeftButton;
@@ -313,6 +314,11 @@ void EngineWindow::keyPressEvent(QKeyEvent* event)
         event->modifiers() & (Qt::ControlModifier | Qt::AltModifier | Qt::MetaModifier);
     if (event->key() == Qt::Key_Escape)
         m_carets.Drop();
+    if (TypeInLongLine(*event)) {
+        event->accept();
+        return;
+    }
+    m_engine.longLines.Prepare();
     if (isCommand && !text.isEmpty()) {
         QKeyEvent command(event->type(), event->key(), event->modifiers(), event->nativeScanCode(),
                           event->nativeVirtualKey(), event->nativeModifiers(), {},
@@ -329,6 +335,17 @@ void EngineWindow::keyPressEvent(QKeyEvent* event)
     if (!text.isEmpty() && text.front().isPrint() && !isCommand)
         m_engine.wholeCharacters.BeforeTyping();
     QsciScintillaBase::keyPressEvent(event);
+}
+
+bool EngineWindow::TypeInLongLine(const QKeyEvent& event)
+{
+    const Qt::KeyboardModifiers held = event.modifiers() & ~Qt::KeypadModifier;
+    if (event.key() == Qt::Key_Backspace || event.key() == Qt::Key_Delete)
+        return held == Qt::NoModifier && m_engine.longLines.Erase(event.key() == Qt::Key_Backspace);
+    const QList<uint> characters = event.text().toUcs4();
+    return !(held & (Qt::ControlModifier | Qt::AltModifier | Qt::MetaModifier)) &&
+           characters.size() == 1 && QChar::isPrint(characters.front()) &&
+           m_engine.longLines.Type(event.text().toUtf8().toStdString(), characters.front());
 }
 
 // With Control or Shift a turn is first the parent's. Fine wheels turn by less than a step at a
@@ -368,6 +385,7 @@ bool EngineWindow::IsTurnTaken(const QWheelEvent& event, int step)
 
 void EngineWindow::paintEvent(QPaintEvent* event)
 {
+    m_engine.longLines.Prepare();
     QsciScintillaBase::paintEvent(event);
     if (m_inputMethod.IsComposing()) {
         QPainter painter(viewport());

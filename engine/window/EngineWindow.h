@@ -50,6 +50,7 @@ private Q_SLOTS:
 private:
     void EndComposition();
     void TypeText(const QString& text);
+    bool TypeInLongLine(const QKeyEvent& event);
     bool IsTurnTaken(const QWheelEvent& event, int step);
 
     Engine m_engine;

@@ -1,0 +1,40 @@
+// AlikeStyles: styles that look alike, laid by turns over the long runs of one style in long lines.
+// The stock engine keeps the widths of pieces of text below thirty bytes alone, and a piece ends
+// where the style does: without them a typed character measures all of such a line again, 0.5 s for
+// a megabyte. A style and its alike differ in one bit, which nobody outside sees.
+#pragma once
+
+#include "engine/text/Raw.h"
+
+#include <bitset>
+#include <span>
+
+namespace engine {
+
+class AlikeStyles
+{
+public:
+    static constexpr long kLongLine = 16 * 1024; // bytes
+
+    // Lays them over styles of a long line, as long as the text's bytes; the ends are where styles
+    // may change. Braces keep theirs: they match others of the same style.
+    void Lay(std::span<char> styles, std::string_view bytes);
+
+    // What a style of the text stands for, which the stock engine tells with its sign.
+    int Plain(int style) const
+    {
+        return (style & kBit) && m_used[static_cast<std::size_t>(style & (kBit - 1))]
+                   ? style & (kBit - 1)
+                   : style;
+    }
+
+    // Gives the alikes their styles' looks in this window.
+    void Match(const Raw& raw) const;
+
+private:
+    static constexpr int kBit = 0x80;
+
+    std::bitset<kBit> m_used;
+};
+
+} // namespace engine
