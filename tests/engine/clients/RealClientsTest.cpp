@@ -8,6 +8,8 @@
 #include <algorithm>
 #include <cstdlib>
 #include <filesystem>
+#include <fstream>
+#include <iterator>
 #include <random>
 #include <regex>
 #include <span>
@@ -127,7 +129,60 @@ std::vector<std::string> DividedBySqlite(const std::string& script)
     return statements;
 }
 
+// How many statements Firebird's client would have sent: it has no database, and says so for each.
+long AsksForADatabase(const std::string& script)
+{
+    std::string folder = (std::filesystem::temp_directory_path() / "isqlXXXXXX").string();
+    if (!mkdtemp(folder.data()))
+        return -1;
+    std::ofstream(folder + "/a.sql", std::ios::binary) << script;
+    const std::string output = folder + "/output";
+    const std::string command =
+        "isql-fb -e -i " + folder + "/a.sql >" + output + " 2>&1 </dev/null";
+    const bool started = std::system(command.c_str()) >= 0;
+    std::ifstream file(output);
+    const std::string text{std::istreambuf_iterator<char>(file), std::istreambuf_iterator<char>()};
+    std::filesystem::remove_all(folder);
+    if (!started || text.find("not found") != std::string::npos)
+        return -1;
+    long count = 0;
+    for (auto at = text.find("Use CONNECT"); at != std::string::npos;
+         at = text.find("Use CONNECT", at + 1))
+        ++count;
+    return count;
+}
+
 } // namespace
+
+TEST_F(RealClients, OfFirebirdCountTheSameStatements)
+{
+    constexpr const char* kPieces[] = {"w% ",       "w% , ",       "'w;^%''' ", "\"w;^%\" ",
+                                       "-- c;^'\n", "/* c;^' */ ", "\n",        "(w%) "};
+    const long without = AsksForADatabase("");
+    ASSERT_GE(without, 0);
+    for (int round = 0; round < 40 && !HasFatalFailure(); ++round) {
+        std::string script;
+        std::string terminator = ";";
+        long changes = 0;
+        for (int i = 0; i < 60; ++i) {
+            script += kPieces[m_random() % std::size(kPieces)];
+            if (m_random() % 3 == 0)
+                script += " a" + terminator + (m_random() % 2 ? "\n" : " ");
+            if (m_random() % 12 == 0) {
+                const std::string next = terminator == ";" ? "^" : ";";
+                script += " a" + terminator + "\nset term " + next + ' ' + terminator + '\n';
+                terminator = next;
+                ++changes;
+            }
+        }
+        script += " a" + terminator + '\n';
+        ScriptUnderTest ours("interbase", script);
+        ASSERT_EQ(static_cast<long>(ours.Statements().size()) - changes,
+                  AsksForADatabase(script) - without)
+            << "seed " << m_seed << "\n"
+            << script;
+    }
+}
 
 TEST_F(RealClients, OfMySqlSendTheSameStatements)
 {
