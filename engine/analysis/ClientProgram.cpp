@@ -117,7 +117,7 @@ ClientLine WordLine(const SqlDialect& dialect, const TextSpans& text, const Toke
     return line;
 }
 
-// Behind the word that stands behind a lead: letters and what belongs to them, or one byte.
+// Behind the word that stands behind a lead: letters and what belongs to them, or one character.
 long EndOfLeadWord(const ClientProgram& client, const TextSpans& text, long start)
 {
     const bool isLetter = client.escape == 0 || client.escapesMeet;
@@ -125,7 +125,12 @@ long EndOfLeadWord(const ClientProgram& client, const TextSpans& text, long star
     while (isLetter && end < start + kLongestCommand &&
            (IsLetter(text.At(end)) || (end > start && text.At(end) == '+')))
         ++end;
-    return end == start && !IsBlank(text.At(start)) ? start + 1 : end;
+    if (end > start || IsBlank(text.At(start)))
+        return end;
+    do // a whole character
+        ++end;
+    while ((text.At(end) & 0xC0) == 0x80);
+    return end;
 }
 
 ClientLine LeadLine(const ClientProgram& client, const TextSpans& text, const Token& token)
