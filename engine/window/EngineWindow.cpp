@@ -2,6 +2,7 @@
 
 #include "engine/changes/AssistiveTechnology.h"
 #include "engine/window/Accessible.h"
+#include "engine/window/StyleLooks.h"
 #include "platform/windows/ScrollBars.h"
 #include "platform/windows/Window.h"
 
@@ -150,6 +151,8 @@ LRESULT EngineWindow::Procedure(HWND window, UINT message, WPARAM wParam, LPARAM
         return reinterpret_cast<LRESULT>(&EngineWindow::Direct);
     if (message == message::GetDirectPointer)
         return reinterpret_cast<LRESULT>(self);
+    if (message == kGetStyleLook)
+        return GetStyleLook(self->m_engine, wParam, reinterpret_cast<StyleLook*>(lParam));
     if (message == WM_HSCROLL || message == WM_VSCROLL) {
         self->m_scrollReports.Scroll(message, wParam);
         return 0;

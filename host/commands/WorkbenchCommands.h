@@ -12,5 +12,9 @@ enum Id : UINT
     SplitBeside,
     OtherPane, // the focus goes there
     CloseFind,
+    SavePdf = 32850,
+    SaveHtml,
+    CopyWithColours,
+    PreviousPane, // the focus goes there
 };
 } // namespace command

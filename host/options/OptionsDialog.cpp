@@ -13,10 +13,12 @@
 #include <QVBoxLayout>
 
 #include <algorithm>
+#include <cstdlib>
 
 namespace {
 
 constexpr int kPointsPerInch = 72;
+constexpr int kPrintPixels = 96; // to the inch, in the height of a print font
 
 struct SwitchRow
 {
@@ -30,6 +32,9 @@ constexpr SwitchRow kSwitches[] = {
     {"lineNumbers", u"&Line numbers", option::LineNumbers},
     {"foldMargin", u"F&old margin", option::FoldMargin},
     {"continueComments", u"Enter &continues a comment", option::ContinueComments},
+    {"printColours", u"&Print in colours", option::PrintColours},
+    {"printGround", u"Print the &grounds of colours", option::PrintGround},
+    {"printOwnFont", u"Print in a font of its o&wn", option::PrintOwnFont},
 };
 
 constexpr int kPathWidth = 320; // pixels, of two folders
@@ -39,6 +44,7 @@ constexpr int kRounding = 2;    // pixels that a hint may lack on a scaled scree
 
 OptionsDialog::OptionsDialog(QWidget* parent)
     : QDialog(parent), m_font(new QFontComboBox(this)), m_points(new QSpinBox(this)),
+      m_printFont(new QFontComboBox(this)), m_printPoints(new QSpinBox(this)),
       m_tabWidth(new QSpinBox(this)), m_autoIndent(new QComboBox(this)),
       m_includePath(new QLineEdit(this))
 {
@@ -50,6 +56,12 @@ OptionsDialog::OptionsDialog(QWidget* parent)
     m_points->setRange(5, 72);
     m_points->setSuffix(QStringLiteral(" pt"));
     ReadFont();
+    m_printFont->setObjectName(QStringLiteral("printFont"));
+    m_printFont->setFontFilters(QFontComboBox::MonospacedFonts);
+    m_printPoints->setObjectName(QStringLiteral("printPoints"));
+    m_printPoints->setRange(4, 72);
+    m_printPoints->setSuffix(QStringLiteral(" pt"));
+    ReadPrintFont();
     m_tabWidth->setObjectName(QStringLiteral("tabWidth"));
     m_tabWidth->setRange(1, 32);
     m_tabWidth->setValue(options.GetInt(option::TabWidth));
@@ -71,6 +83,9 @@ OptionsDialog::OptionsDialog(QWidget* parent)
     form->addRow(QStringLiteral("Folders of i&ncluded files"), m_includePath);
     for (const SwitchRow& row : kSwitches)
         form->addRow(AddSwitch(row.name, QString::fromUtf16(row.text), row.key));
+
+    form->addRow(QStringLiteral("P&rint font"), m_printFont);
+    form->addRow(QStringLiteral("Print si&ze"), m_printPoints);
 
     auto* buttons = new QDialogButtonBox(QDialogButtonBox::Ok | QDialogButtonBox::Cancel, this);
     connect(buttons, &QDialogButtonBox::accepted, this, &QDialog::accept);
@@ -101,6 +116,29 @@ void OptionsDialog::ReadFont()
         -MulDiv(static_cast<int>(font.lfHeight), kPointsPerInch, ScreenPixelsPerInch()));
 }
 
+// What has not been chosen is proposed as the editor's font, a little smaller.
+void OptionsDialog::ReadPrintFont()
+{
+    constexpr int kProposed = 9; // points
+    LOGFONT font;
+    const bool isChosen = CZNOptionsServer::GetObjectW()->GetLOGFONT(option::PrintFont, &font);
+    m_printFont->setCurrentFont(isChosen ? QFont(QString::fromUtf16(font.lfFaceName))
+                                         : m_font->currentFont());
+    m_printPoints->setValue(
+        isChosen ? MulDiv(static_cast<int>(std::labs(font.lfHeight)), kPointsPerInch, kPrintPixels)
+                 : kProposed);
+}
+
+void OptionsDialog::StorePrintFont() const
+{
+    LOGFONT font;
+    const std::u16string face = m_printFont->currentFont().family().toStdU16String();
+    face.copy(font.lfFaceName, std::size(font.lfFaceName) - 1);
+    font.lfHeight = -MulDiv(m_printPoints->value(), kPrintPixels, kPointsPerInch);
+    font.lfWeight = FW_NORMAL;
+    CZNOptionsServer::GetObjectW()->SetLOGFONT(option::PrintFont, &font);
+}
+
 void OptionsDialog::Store() const
 {
     CZNOptionsServer& options = *CZNOptionsServer::GetObjectW();
@@ -111,6 +149,7 @@ void OptionsDialog::Store() const
     face.copy(font.lfFaceName, std::size(font.lfFaceName) - 1);
     font.lfHeight = -MulDiv(m_points->value(), ScreenPixelsPerInch(), kPointsPerInch);
     options.SetLOGFONT(option::EditorFont, &font);
+    StorePrintFont();
     options.SetInt(option::TabWidth, m_tabWidth->value());
     options.SetInt(option::AutoIndent, m_autoIndent->currentIndex());
     options.SetString(option::IncludePath, m_includePath->text());

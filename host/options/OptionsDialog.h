@@ -21,10 +21,14 @@ public:
 
 private:
     void ReadFont();
+    void ReadPrintFont();
+    void StorePrintFont() const;
     QCheckBox* AddSwitch(const char* name, const QString& text, int key);
 
     QFontComboBox* m_font;
     QSpinBox* m_points;
+    QFontComboBox* m_printFont;
+    QSpinBox* m_printPoints;
     QSpinBox* m_tabWidth;
     QComboBox* m_autoIndent;
     QLineEdit* m_includePath;

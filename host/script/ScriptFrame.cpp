@@ -10,7 +10,6 @@
 #include "platform/windows/Disposal.h"
 
 #include <QDir>
-#include <QSplitter>
 
 #include <algorithm>
 #include <vector>
@@ -60,38 +59,16 @@ HWND ScriptFrame::MakeWidget()
 
 bool ScriptFrame::OnCreateClient(CCreateContext* context)
 {
-    m_panes = new QSplitter(GetSafeHwnd());
-    constexpr int kHandle = 7; // pixels, wide enough to be seen between two texts
-    m_panes->setChildrenCollapsible(false);
-    m_panes->setHandleWidth(kHandle);
-    RecalcLayout(m_panes);
-    const CView* view = CreateView(context);
-    if (!view)
+    constexpr int kMost = 2; // rows, and columns
+    if (!m_panes.Create(GetSafeHwnd(), kMost, kMost, *context))
         return false;
-    m_panes->addWidget(view->GetSafeHwnd());
+    RecalcLayout(m_panes.GetSafeHwnd());
     return true;
-}
-
-ScriptView* ScriptFrame::Pane(int index) const
-{
-    return m_panes ? dynamic_cast<ScriptView*>(AttachedWnd(m_panes->widget(index))) : nullptr;
 }
 
 ScriptView* ScriptFrame::View() const
 {
-    auto* active = dynamic_cast<ScriptView*>(GetActiveView());
-    if (active)
-        return active;
-    return Pane(0) ? Pane(0) : Pane(1);
-}
-
-ScriptView* ScriptFrame::OtherPane() const
-{
-    for (int i = 0; m_panes && i < m_panes->count(); ++i) {
-        if (Pane(i) && Pane(i) != View())
-            return Pane(i);
-    }
-    return nullptr;
+    return dynamic_cast<ScriptView*>(m_panes.GetActivePane());
 }
 
 ScriptDoc* ScriptFrame::Script() const
@@ -120,53 +97,54 @@ QString ScriptFrame::Caption() const
 
 bool ScriptFrame::IsSplit() const
 {
-    return OtherPane() != nullptr;
+    return IsSplit(Qt::Vertical) || IsSplit(Qt::Horizontal);
 }
 
-Qt::Orientation ScriptFrame::SplitOrientation() const
+bool ScriptFrame::IsSplit(Qt::Orientation orientation) const
 {
-    return m_panes ? m_panes->orientation() : Qt::Horizontal;
+    return (orientation == Qt::Vertical ? m_panes.GetRowCount() : m_panes.GetColumnCount()) > 1;
 }
 
 void ScriptFrame::Split(Qt::Orientation orientation)
 {
-    m_panes->setOrientation(orientation);
-    ScriptDoc* script = Script();
-    if (IsSplit() || !script)
+    if (IsSplit(orientation) || !Script())
         return;
-    const FrameworkCall call;
-    ScriptView* other = View();
-    CCreateContext context{ScriptView::GetThisClass(), script, script->GetDocTemplate(), this};
-    auto* view = dynamic_cast<ScriptView*>(CreateView(&context));
-    if (!view)
-        return;
-    m_panes->addWidget(view->GetSafeHwnd());
-    m_panes->setSizes({1, 1}); // parts of the whole
-    view->OnInitialUpdate();
-    view->ShowAs(*other);
-    SetActiveView(view);
+    if (orientation == Qt::Vertical)
+        m_panes.SplitRow(0);
+    else
+        m_panes.SplitColumn(0);
 }
 
-void ScriptFrame::Unsplit()
+void ScriptFrame::Unsplit(Qt::Orientation orientation)
 {
-    if (ScriptView* other = OtherPane())
-        other->DestroyWindow();
-    if (ScriptView* view = View())
-        view->SetFocus();
+    int row = 0;
+    int column = 0;
+    if (!m_panes.GetActivePane(&row, &column))
+        return;
+    if (orientation == Qt::Vertical)
+        m_panes.DeleteRow(1 - row);
+    else
+        m_panes.DeleteColumn(1 - column);
 }
 
 void ScriptFrame::ToggleSplit(Qt::Orientation orientation)
 {
-    if (IsSplit() && SplitOrientation() == orientation)
-        Unsplit();
+    if (IsSplit(orientation))
+        Unsplit(orientation);
     else
         Split(orientation);
 }
 
-void ScriptFrame::GoToOtherPane()
+void ScriptPanes::OnPaneMade(CView& made, CView& divided)
 {
-    if (ScriptView* other = OtherPane())
-        other->SetFocus();
+    CZNCoreEditorSplitter::OnPaneMade(made, divided);
+    auto* view = dynamic_cast<ScriptView*>(&made);
+    auto* from = dynamic_cast<ScriptView*>(&divided);
+    if (!view || !from || !view->GetSafeHwnd())
+        return;
+    view->ShowAs(*from);
+    if (CFrameWnd* frame = view->GetParentFrame())
+        frame->SetActiveView(view);
 }
 
 void ScriptFrame::NewView()
@@ -236,7 +214,7 @@ void ScriptFrame::UpdateSplit(CCmdTarget& target, CCmdUI& ui)
 {
     const auto& frame = static_cast<ScriptFrame&>(target);
     ui.Enable(frame.Script() != nullptr);
-    ui.SetCheck(frame.IsSplit() && frame.SplitOrientation() == Orientation ? 1 : 0);
+    ui.SetCheck(frame.IsSplit(Orientation) ? 1 : 0);
 }
 
 const CommandMap& ScriptFrame::GetCommandMap() const
@@ -247,11 +225,13 @@ const CommandMap& ScriptFrame::GetCommandMap() const
         {ID_WINDOW_NEW, [](CCmdTarget& t) { static_cast<Frame&>(t).NewView(); }},
         {command::SplitBelow,   [](CCmdTarget& t) { static_cast<Frame&>(t).ToggleSplit(Qt::Vertical); }},
         {command::SplitBeside,  [](CCmdTarget& t) { static_cast<Frame&>(t).ToggleSplit(Qt::Horizontal); }},
-        {command::OtherPane,    [](CCmdTarget& t) { static_cast<Frame&>(t).GoToOtherPane(); }},
+        {command::PreviousPane, [](CCmdTarget& t) { static_cast<Frame&>(t).m_panes.ActivateNext(true); }},
+        {command::OtherPane,    [](CCmdTarget& t) { static_cast<Frame&>(t).m_panes.ActivateNext(); }},
     };
     static constexpr UpdateEntry kUpdates[] = {
         {command::SplitBelow,  &UpdateSplit<Qt::Vertical>},
         {command::SplitBeside, &UpdateSplit<Qt::Horizontal>},
+        {command::PreviousPane, [](CCmdTarget& t, CCmdUI& ui) { ui.Enable(static_cast<Frame&>(t).IsSplit()); }},
         {command::OtherPane,   [](CCmdTarget& t, CCmdUI& ui) { ui.Enable(static_cast<Frame&>(t).IsSplit()); }},
     };
     // clang-format on

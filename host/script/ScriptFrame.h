@@ -1,15 +1,21 @@
-// ScriptFrame: a tab of the main window, with one view of a script or two panes of it.
+// ScriptFrame: a tab of the main window, with panes of a script.
 #pragma once
 
+#include "docview/ZNCoreEditorSplitter.h"
 #include "platform/docview/FrameWnd.h"
 
-#include <QPointer>
 #include <QString>
 
 class CZNCoreEditorControlEx;
-class QSplitter;
 class ScriptDoc;
 class ScriptView;
+
+// A pane that is made shows the place of the one that is divided.
+class ScriptPanes final : public CZNCoreEditorSplitter
+{
+protected:
+    void OnPaneMade(CView& made, CView& divided) override;
+};
 
 class ScriptFrame final : public CFrameWnd
 {
@@ -25,11 +31,11 @@ public:
     CZNCoreEditorControlEx& Editor() const;
     QString Caption() const; // the name, which of several tabs, and what is to be known of it
 
-    bool IsSplit() const;
-    void Split(Qt::Orientation orientation);
-    void Unsplit();                           // the active pane stays
-    Qt::Orientation SplitOrientation() const; // of the panes, if it is split
-    void NewView();                           // in a tab of its own, which comes to the front
+    bool IsSplit() const; // in either direction
+    bool IsSplit(Qt::Orientation orientation) const;
+    void Split(Qt::Orientation orientation);   // two rows, or columns, of what is one so far
+    void Unsplit(Qt::Orientation orientation); // the row or column of the active pane stays
+    void NewView();                            // in a tab of its own, which comes to the front
 
     using CFrameWnd::OnCmdMsg;
     // As any frame's, then what the frame around it runs: a menu inside a view comes here.
@@ -46,12 +52,9 @@ protected:
     const CommandMap& GetCommandMap() const override;
 
 private:
-    ScriptView* Pane(int index) const;
-    ScriptView* OtherPane() const;
     void ToggleSplit(Qt::Orientation orientation);
-    void GoToOtherPane();
     template <Qt::Orientation Orientation>
     static void UpdateSplit(CCmdTarget& target, CCmdUI& ui);
 
-    QPointer<QSplitter> m_panes;
+    ScriptPanes m_panes;
 };

@@ -4,6 +4,7 @@
 #include "host/commands/WorkbenchCommands.h"
 #include "host/files/FileDrops.h"
 #include "host/script/BatchMark.h"
+#include "host/script/NameAtCaret.h"
 #include "host/script/ScriptDoc.h"
 #include "host/script/ScrollRange.h"
 #include "looks/Schemes.h"
@@ -40,6 +41,7 @@ int ScriptView::OnCreate(CCreateContext* context)
     DefineBatchMark(m_coreEditor);
     m_coreEditor.GetSafeHwnd()->setAccessibleName(QStringLiteral("Script"));
     FileDrops::Take(*m_coreEditor.GetSafeHwnd());
+    new NameClicks(*this); // goes with the editor's window
     if (ScriptDoc* script = Script())
         script->OnViewMade(*this);
     return 0;
@@ -268,6 +270,12 @@ const MessageMap& ScriptView::GetMessageMap() const
              static_cast<View&>(t).OnSetFocus(reinterpret_cast<HWND>(w));
              return 0;
          }},
+        {WM_CONTEXTMENU,
+         [](CWnd& t, WPARAM w, LPARAM l) -> LRESULT {
+             static_cast<View&>(t).OnContextMenu(AttachedWnd(reinterpret_cast<HWND>(w)),
+                                                 PointOf(l));
+             return 1;
+         }},
     };
     static const MessageMap map = {&CZNCoreEditorView::GetMessageMap(), kEntries};
     return map;
@@ -277,12 +285,20 @@ const MessageMap& ScriptView::GetMessageMap() const
 const CommandMap& ScriptView::GetCommandMap() const
 {
     constexpr UINT kDelete = 53899;
+    constexpr UINT kOpenAtCaret = 54026;
     using View = ScriptView;
     // clang-format off
     static constexpr CommandEntry kCommands[] = {
         {ID_FILE_CLOSE, [](CCmdTarget& t) { static_cast<View&>(t).CloseFrame(); }},
+        {command::SavePdf, [](CCmdTarget& t) { static_cast<View&>(t).SaveAsPdf(); }},
+        {command::SaveHtml, [](CCmdTarget& t) { static_cast<View&>(t).SaveAsHtml(); }},
+        {command::CopyWithColours, [](CCmdTarget& t) { static_cast<View&>(t).CopyWithColours(); }},
+        {kOpenAtCaret, [](CCmdTarget& t) { static_cast<View&>(t).OpenAtCaret(); }},
     };
     static constexpr UpdateEntry kUpdates[] = {
+        {command::CopyWithColours, [](CCmdTarget& t, CCmdUI& ui) {
+            ui.Enable(static_cast<View&>(t).m_coreEditor.IsSelection());
+        }},
         {kDelete, [](CCmdTarget& t, CCmdUI& ui) {
             auto& editor = static_cast<View&>(t).m_coreEditor;
             ui.Enable(editor.IsSelection() && !editor.GetReadOnly(1));

@@ -24,8 +24,11 @@ public:
     // Escape closes the find bar too, unless it has a list or a search of the editor's to end.
     int PreTranslateMessage(MSG* message) override;
     void OnInitialUpdate() override;
+    // All of a selection, and finding the pages can be stopped.
+    void OnBeginPrinting(CDC* dc, CPrintInfo* info) override;
     void OnActivateView(int activate, CView* activated, CView* deactivated) override;
 
+    void OpenNamed(const QString& name); // a file or an address; the person hears if there is none
     void SelectRange(long start, long end); // and shows it
     void GoToLine(long line);               // from 0, and shows it
     void GoToColumn(long column);           // of the caret's line, from 0, as far as it goes
@@ -37,6 +40,7 @@ protected:
     int OnCreate(CCreateContext* context);
     void OnDestroy();
     void OnSetFocus(HWND previous);
+    void OnContextMenu(CWnd* window, CPoint point);
 
     const MessageMap& GetMessageMap() const override;
     const CommandMap& GetCommandMap() const override;
@@ -48,6 +52,10 @@ private:
     void Follow();
     void FitScrollRange();
     void CloseFrame();
+    void SaveAsPdf();
+    void SaveAsHtml();
+    void CopyWithColours();
+    void OpenAtCaret();
     bool HasSomethingToEnd();
 
     bool m_following = false;

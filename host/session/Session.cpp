@@ -42,7 +42,7 @@ long LineOf(const QJsonValue& value)
 SessionPanes PanesOf(const QJsonValue& value)
 {
     const auto panes = static_cast<SessionPanes>(value.toInt(0));
-    const bool isKnown = panes == SessionPanes::Below || panes == SessionPanes::Beside;
+    const bool isKnown = panes >= SessionPanes::One && panes <= SessionPanes::Four;
     return isKnown ? panes : SessionPanes::One;
 }
 

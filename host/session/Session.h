@@ -11,6 +11,7 @@ enum class SessionPanes : int
     One,
     Below,
     Beside,
+    Four,
 };
 
 // A tab. A file with several tabs is there as often.

@@ -22,9 +22,10 @@ constexpr std::chrono::seconds kRest(2);
 
 SessionPanes PanesOf(const ScriptFrame& frame)
 {
-    if (!frame.IsSplit())
-        return SessionPanes::One;
-    return frame.SplitOrientation() == Qt::Vertical ? SessionPanes::Below : SessionPanes::Beside;
+    const bool isBelow = frame.IsSplit(Qt::Vertical);
+    if (frame.IsSplit(Qt::Horizontal))
+        return isBelow ? SessionPanes::Four : SessionPanes::Beside;
+    return isBelow ? SessionPanes::Below : SessionPanes::One;
 }
 
 SessionFile Describe(const ScriptFrame& frame)
@@ -88,8 +89,10 @@ bool MainWindow::Resume(const SessionFile& file)
     editor.LineScroll(0, top - editor.GetFirstVisibleLine(1), 1);
     if (file.readOnly)
         editor.SetReadOnly(1, 1);
-    if (file.panes != SessionPanes::One)
-        frame->Split(file.panes == SessionPanes::Below ? Qt::Vertical : Qt::Horizontal);
+    if (file.panes == SessionPanes::Below || file.panes == SessionPanes::Four)
+        frame->Split(Qt::Vertical);
+    if (file.panes == SessionPanes::Beside || file.panes == SessionPanes::Four)
+        frame->Split(Qt::Horizontal);
     frame->Script()->StateChanged();
     return true;
 }

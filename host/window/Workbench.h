@@ -4,6 +4,7 @@
 
 #include "host/files/OpenGuard.h"
 #include "host/files/RecentFiles.h"
+#include "host/printing/WorkbenchPrinter.h"
 #include "platform/docview/WinApp.h"
 
 #include <QSettings>
@@ -47,6 +48,7 @@ private:
 
     Keeps m_keeps;
     OpenGuard m_guard;
+    WorkbenchPrinter m_printer;
     QSettings m_settings;
     RecentFiles m_recent;
 };

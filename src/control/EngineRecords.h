@@ -52,6 +52,21 @@ struct RangeToFormat
     CharacterRange chrg;
 };
 
+// How a style looks on the screen. Sent to the engine's window by SendMessage: wParam is the style,
+// lParam the record, the answer 1 if there is such a style. It stands outside the numbered
+// messages, since those only set.
+struct StyleLook
+{
+    COLORREF fore = 0;
+    COLORREF back = 0xFFFFFF;
+    bool bold = false;
+    bool italic = false;
+    bool underline = false;
+    double points = 0;
+    char16_t face[64] = {}; // terminated, cut if it is longer
+};
+inline constexpr UINT kGetStyleLook = 0x8500;
+
 struct NotifyHeader
 {
     HWND hwndFrom = nullptr;   // the engine window

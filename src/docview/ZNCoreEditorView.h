@@ -108,6 +108,8 @@ protected:
     void OnHScroll(UINT code, UINT position, CWnd* bar); // of the view's own bars
     void OnVScroll(UINT code, UINT position, CWnd* bar);
 
+    void ApplyPrintStyle(bool isBeginning); // of the options; isBeginning: once for each job
+
     const MessageMap& GetMessageMap() const override;
     const CommandMap& GetCommandMap() const override;
 
@@ -142,7 +144,6 @@ private:
     bool IsBraceAt(long position);
     void UpdateLineEnd(CCmdUI& ui, int mode);
     void ToggleMargin(int margin, int width);
-    void ApplyPrintStyle(bool isBeginning);
     void RepaintNeighbours(bool isVertical);
     void ScrollByBar(UINT message, UINT code, UINT position, CWnd* bar);
 };

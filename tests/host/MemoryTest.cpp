@@ -136,9 +136,9 @@ TEST_F(Memory, BringsBackPanesAndFurtherTabs)
     EXPECT_EQ(m_window->CurrentFrame()->Caption(), "a.sql:2");
     EXPECT_EQ(Editor().LineFromPosition(Editor().GetCurrentPos(1), 1), 200);
     EXPECT_TRUE(m_window->CurrentFrame()->IsSplit());
-    EXPECT_EQ(m_window->CurrentFrame()->SplitOrientation(), Qt::Horizontal);
+    EXPECT_FALSE(m_window->CurrentFrame()->IsSplit(Qt::Vertical));
     m_window->ShowTab(0);
-    EXPECT_EQ(m_window->CurrentFrame()->SplitOrientation(), Qt::Vertical);
+    EXPECT_TRUE(m_window->CurrentFrame()->IsSplit(Qt::Vertical));
     m_window->ShowTab(2);
     EXPECT_FALSE(m_window->CurrentFrame()->IsSplit());
 }

@@ -4,6 +4,8 @@
 #include "platform/windows/Timer.h"
 #include "tests/host/WorkbenchTest.h"
 
+#include <algorithm>
+
 namespace {
 
 class Views : public WorkbenchTest
@@ -51,14 +53,30 @@ TEST_F(Views, OfAScriptWithoutAFileShowOneTextToo)
     EXPECT_EQ(Texts(), (QStringList{"shared", "shared", "shared"}));
 }
 
-TEST_F(Views, TurnWithoutBeingMadeAnew)
+TEST_F(Views, OfATabSplitBothWaysAreFour)
 {
-    Open("a.sql", "one\n");
+    Open("a.sql", QByteArray("line\n").repeated(400));
     Trigger("splitBelow");
-    const std::vector<CView*> before = Script().GetViews();
     Trigger("splitBeside");
-    EXPECT_EQ(Script().GetViews(), before);
+    EXPECT_EQ(Script().GetViews().size(), 4u);
+    EXPECT_TRUE(Action("splitBelow").isChecked());
     EXPECT_TRUE(Action("splitBeside").isChecked());
+    Editor().LineScroll(0, 100, 1);
+    std::vector<int> places;
+    for (CView* view : Script().GetViews())
+        places.push_back(
+            dynamic_cast<ScriptView*>(view)->GetCoreEditorControl()->GetFirstVisibleLine(1));
+    EXPECT_EQ(std::ranges::count(places, 0), 3) << "each has its own place";
+    const ScriptView* active = Frame().View();
+    for (int i = 0; i < 4; ++i)
+        Trigger("otherPane");
+    EXPECT_EQ(Frame().View(), active);
+    Trigger("previousPane");
+    EXPECT_NE(Frame().View(), active);
+    Trigger("splitBelow");
+    EXPECT_EQ(Script().GetViews().size(), 2u);
+    Trigger("splitBeside");
+    EXPECT_EQ(Script().GetViews().size(), 1u);
 }
 
 TEST_F(Views, BeginAtThePlaceOfTheOther)

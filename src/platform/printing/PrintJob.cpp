@@ -50,8 +50,16 @@ protected:
             return m_like.physicalDpiX();
         case PdmPhysicalDpiY:
             return m_like.physicalDpiY();
+        case PdmDevicePixelRatio:
+            return 1;
+        case PdmDevicePixelRatioScaled:
+            return static_cast<int>(devicePixelRatioFScale());
+        case PdmDepth:
+            return m_like.depth();
+        case PdmNumColors:
+            return m_like.colorCount();
         default:
-            return QPaintDevice::metric(what);
+            return 0;
         }
     }
 

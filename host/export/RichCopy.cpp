@@ -1,0 +1,46 @@
+#include "host/export/RichCopy.h"
+
+#include "editing/ZNCoreEditorControlEx.h"
+#include "host/export/HtmlText.h"
+#include "host/export/RtfText.h"
+#include "host/files/Prompts.h"
+
+#include <QBuffer>
+#include <QClipboard>
+#include <QDir>
+#include <QGuiApplication>
+#include <QMimeData>
+#include <QSaveFile>
+
+#include <memory>
+
+void CopyWithColours(CZNCoreEditorControlEx& editor)
+{
+    const CharacterRange range = editor.GetSelection();
+    if (editor.SelectionIsRectangle(1) || range.cpMin >= range.cpMax) {
+        editor.Copy(1);
+        return;
+    }
+    auto data = std::make_unique<QMimeData>();
+    data->setText(editor.GetSelText());
+    QBuffer html;
+    html.open(QIODevice::WriteOnly);
+    WriteHtml(editor, range.cpMin, range.cpMax, QString(), html);
+    data->setHtml(QString::fromUtf8(html.data()));
+    const QByteArray rtf = RtfOf(editor, range.cpMin, range.cpMax);
+    data->setData(QStringLiteral("text/rtf"), rtf);
+    data->setData(QStringLiteral("application/rtf"), rtf);
+    QGuiApplication::clipboard()->setMimeData(data.release());
+}
+
+bool SaveAsHtml(CZNCoreEditorControlEx& editor, const QString& title, const QString& path,
+                QWidget* window)
+{
+    QSaveFile file(path);
+    const bool isSaved = file.open(QIODevice::WriteOnly) &&
+                         WriteHtml(editor, 0, editor.GetLength(1), title, file) && file.commit();
+    if (!isSaved)
+        GetPrompts().Tell(window, QStringLiteral("%1 could not be written: %2")
+                                      .arg(QDir::toNativeSeparators(path), file.errorString()));
+    return isSaved;
+}

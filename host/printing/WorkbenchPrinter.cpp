@@ -1,0 +1,128 @@
+#include "host/printing/WorkbenchPrinter.h"
+
+#include "platform/docview/View.h"
+#include "platform/windows/Questions.h"
+
+#include <QCoreApplication>
+#include <QPrintPreviewDialog>
+#include <QPrintPreviewWidget>
+#include <QPrinter>
+#include <QPrinterInfo>
+#include <QProgressDialog>
+#include <QScreen>
+
+#include <algorithm>
+
+namespace {
+
+constexpr qint64 kPatience = 1000;   // milliseconds without a word
+constexpr qint64 kBetweenLooks = 50; // milliseconds from one look at the Stop button to the next
+
+WorkbenchPrinter* current = nullptr;
+
+} // namespace
+
+WorkbenchPrinter::WorkbenchPrinter()
+{
+    current = this;
+    SetPrintService(this);
+}
+
+WorkbenchPrinter::~WorkbenchPrinter()
+{
+    SetPrintService(nullptr);
+    current = nullptr;
+    delete m_progress;
+}
+
+void WorkbenchPrinter::SavePdf(CView& view, const QString& path)
+{
+    if (!current)
+        return;
+    current->m_pdf = path;
+    view.OnFilePrint();
+    if (current)
+        current->m_pdf.clear();
+}
+
+// Into a PDF goes the whole text: nobody has been asked whether the selection alone is meant.
+std::unique_ptr<QPrinter> WorkbenchPrinter::ChoosePrinter(HWND owner, PRINTDLG& record)
+{
+    m_begun.invalidate();
+    if (m_pdf.isEmpty())
+        return IPrintService::ChoosePrinter(owner, record);
+    record.Flags &= ~PD_SELECTION;
+    auto printer = std::make_unique<QPrinter>(QPrinter::HighResolution);
+    printer->setOutputFormat(QPrinter::PdfFormat);
+    printer->setOutputFileName(m_pdf);
+    return printer;
+}
+
+void WorkbenchPrinter::Preview(HWND owner, const QString& title,
+                               const std::function<void(QPrinter& printer)>& print)
+{
+    QPrinter printer(QPrinter::HighResolution);
+    QPrintPreviewDialog dialog(&printer, owner ? owner->window() : nullptr);
+    dialog.setWindowTitle(title + QStringLiteral(" – print preview"));
+    QObject::connect(&dialog, &QPrintPreviewDialog::paintRequested, &dialog,
+                     [&](QPrinter* paper) { print(*paper); });
+    if (owner)
+        dialog.resize(owner->window()->size() * 9 / 10);
+    dialog.exec();
+}
+
+bool WorkbenchPrinter::GoesOn(QWidget* owner, const QString& step, int done, int all)
+{
+    return !current || current->Step(owner, step, done, all);
+}
+
+bool WorkbenchPrinter::Step(QWidget* owner, const QString& step, int done, int all)
+{
+    if (!m_begun.isValid()) {
+        m_begun.start();
+        m_shown.start();
+        m_isStopped = false;
+    }
+    if (m_begun.elapsed() < kPatience || m_shown.elapsed() < kBetweenLooks)
+        return !m_isStopped;
+    if (!m_progress) {
+        m_progress = new QProgressDialog(owner ? owner->window() : nullptr);
+        m_progress->setObjectName(QStringLiteral("printProgress"));
+        m_progress->setWindowTitle(QStringLiteral("Printing"));
+        m_progress->setCancelButtonText(QStringLiteral("&Stop"));
+        m_progress->setWindowModality(Qt::WindowModal);
+        m_progress->setAutoClose(false);
+        m_progress->setAutoReset(false);
+        m_progress->setMinimumDuration(0);
+        m_progress->setMinimumWidth(m_progress->fontMetrics().averageCharWidth() * 50);
+    }
+    m_progress->setLabelText(step);
+    m_progress->setMaximum(all);
+    m_progress->setValue(std::min(done, all));
+    m_progress->show();
+    QCoreApplication::processEvents();
+    m_shown.restart();
+    m_isStopped = m_isStopped || !m_progress || m_progress->wasCanceled();
+    return !m_isStopped;
+}
+
+void WorkbenchPrinter::EndSteps()
+{
+    delete m_progress;
+    m_begun.invalidate();
+}
+
+bool WorkbenchPrinter::OnPage(HWND owner, UINT page, UINT lastPage)
+{
+    return Step(owner, QStringLiteral("Page %1 of %2").arg(page).arg(lastPage),
+                static_cast<int>(page) - 1, static_cast<int>(lastPage));
+}
+
+// Who has stopped a job knows that it has not succeeded.
+void WorkbenchPrinter::OnDone(HWND owner, bool succeeded, const QString& file)
+{
+    EndSteps();
+    if (!m_isStopped)
+        IPrintService::OnDone(owner, succeeded, file);
+    m_isStopped = false;
+}

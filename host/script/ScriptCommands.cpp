@@ -1,0 +1,121 @@
+// ScriptView: what it prints, writes and opens on a person's word.
+#include "host/script/ScriptView.h"
+
+#include "host/export/RichCopy.h"
+#include "host/files/FilePlace.h"
+#include "host/files/Prompts.h"
+#include "host/printing/WorkbenchPrinter.h"
+#include "host/script/NameAtCaret.h"
+#include "host/script/ScriptDoc.h"
+#include "platform/docview/ActionUI.h"
+#include "platform/docview/FrameWnd.h"
+#include "platform/docview/WinApp.h"
+#include "platform/system/Shell.h"
+#include "platform/windows/Questions.h"
+
+#include <QApplication>
+#include <QDir>
+#include <QFileInfo>
+#include <QMenu>
+#include <QUrl>
+
+namespace {
+
+constexpr UINT kOpenAtCaret = 54026;
+
+// A path with the ending, beside the script or in the folder that the process stands in.
+QString ProposalFor(const ScriptDoc& script, const QString& ending)
+{
+    const QString path = script.GetPathName();
+    const QFileInfo file(path.isEmpty() ? QDir::current().filePath(script.Name()) : path);
+    return file.dir().filePath(file.completeBaseName() + ending);
+}
+
+QString AskPath(QWidget* window, const ScriptDoc& script, const QString& ending,
+                const QString& filter)
+{
+    QString path = AskSaveFile(window, ProposalFor(script, ending), filter);
+    if (!path.isEmpty() && QFileInfo(path).suffix().isEmpty())
+        path += ending;
+    return path;
+}
+
+} // namespace
+
+void ScriptView::SaveAsPdf()
+{
+    const ScriptDoc* script = Script();
+    const QString path = script ? AskPath(GetSafeHwnd(), *script, QStringLiteral(".pdf"),
+                                          QStringLiteral("PDF (*.pdf)"))
+                                : QString();
+    if (!path.isEmpty() && GetSafeHwnd())
+        WorkbenchPrinter::SavePdf(*this, path);
+}
+
+void ScriptView::SaveAsHtml()
+{
+    const ScriptDoc* script = Script();
+    const QString path = script ? AskPath(GetSafeHwnd(), *script, QStringLiteral(".html"),
+                                          QStringLiteral("HTML (*.html *.htm)"))
+                                : QString();
+    if (!path.isEmpty() && Script())
+        ::SaveAsHtml(m_coreEditor, script->Name(), path, GetSafeHwnd());
+}
+
+void ScriptView::CopyWithColours()
+{
+    ::CopyWithColours(m_coreEditor);
+}
+
+void ScriptView::OpenAtCaret()
+{
+    const QString name = m_coreEditor.SelectionFilename();
+    if (name.isEmpty())
+        GetPrompts().Tell(GetSafeHwnd(),
+                          QStringLiteral("No file name and no address stands at the caret."));
+    else
+        OpenNamed(name);
+}
+
+// A file is looked for as it is named, folders included, before its name alone is looked for beside
+// the script, as the library does.
+void ScriptView::OpenNamed(const QString& name)
+{
+    const ScriptDoc* script = Script();
+    if (!script)
+        return;
+    if (IsAddress(name)) {
+        if (!OpenInShell(QUrl(name)))
+            GetPrompts().Tell(GetSafeHwnd(), QStringLiteral("Nothing opens %1.").arg(name));
+        return;
+    }
+    const FilePlace place = FindNamed(name, script->GetPathName());
+    if (place.path.isEmpty()) {
+        GetPrompts().Tell(GetSafeHwnd(), QStringLiteral("There is no file %1.").arg(name));
+        return;
+    }
+    CWinApp* app = GetApp();
+    CDocument* opened = app ? app->OpenDocumentFile(place.path) : nullptr;
+    const auto* other = dynamic_cast<ScriptDoc*>(opened);
+    if (other && place.line > 0)
+        other->FirstView()->GoToLine(place.line - 1);
+}
+
+// The menu of the base, and what the caret stands on.
+void ScriptView::OnContextMenu(CWnd* window, CPoint point)
+{
+    CZNCoreEditorView::OnContextMenu(window, point);
+    auto* menu = qobject_cast<QMenu*>(QApplication::activePopupWidget());
+    const ScriptDoc* script = GetSafeHwnd() ? Script() : nullptr;
+    if (!menu || !script || menu->actions().isEmpty())
+        return;
+    const QString name = m_coreEditor.SelectionFilename();
+    if (name.isEmpty() ||
+        (!IsAddress(name) && FindNamed(name, script->GetPathName()).path.isEmpty()))
+        return;
+    auto* open = new QAction(QStringLiteral("Open &Document"), menu);
+    SetCommand(*open, kOpenAtCaret, GetSafeHwnd());
+    QAction* first = menu->actions().constFirst();
+    menu->insertAction(first, open);
+    menu->insertSeparator(first);
+}

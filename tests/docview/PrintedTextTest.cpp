@@ -1,0 +1,228 @@
+// The text of what was printed, read back from the PDF, and the picture of its pages.
+#include "ViewFixture.h"
+
+#include "platform/printing/PrintInfo.h"
+#include "platform/printing/PrintJob.h"
+#include "platform/printing/PrintService.h"
+
+#include <QBuffer>
+#include <QPageSize>
+#include <QPrinter>
+#include <QProcess>
+
+#include <random>
+
+#include <sys/resource.h>
+
+#include <csignal>
+
+namespace {
+
+class Pdf final : public IPrintService
+{
+public:
+    Pdf() { SetPrintService(this); }
+    ~Pdf() override { SetPrintService(nullptr); }
+    std::unique_ptr<QPrinter> ChoosePrinter(HWND /*owner*/, PRINTDLG& record) override
+    {
+        if (!selection)
+            record.Flags &= ~PD_SELECTION;
+        auto printer = std::make_unique<QPrinter>(QPrinter::HighResolution);
+        printer->setOutputFormat(QPrinter::PdfFormat);
+        printer->setOutputFileName(path);
+        printer->setPageSize(QPageSize(millimetres, QPageSize::Millimeter));
+        printer->setPageMargins({5, 5, 5, 5}, QPageLayout::Millimeter);
+        return printer;
+    }
+    bool OnPage(HWND, UINT /*page*/, UINT lastPage) override
+    {
+        pages = lastPage;
+        return true;
+    }
+    void OnDone(HWND owner, bool succeeded, const QString& file) override
+    {
+        done = succeeded;
+        IPrintService::OnDone(owner, succeeded, file);
+    }
+    QString path;
+    QSizeF millimetres{210, 297};
+    bool selection = false;
+    UINT pages = 0;
+    bool done = false;
+};
+
+class PrintedText : public ViewTest
+{
+protected:
+    PrintedText() { pdf.path = Path("printed.pdf"); }
+
+    QString Printed()
+    {
+        Control().SetMarginWidthN(1, 0, 1); // numbers of lines would be printed too
+        view->OnFilePrint();
+        QProcess reader;
+        reader.start("pdftotext", {"-raw", "-enc", "UTF-8", pdf.path, "-"});
+        EXPECT_TRUE(reader.waitForFinished()) << "pdftotext is in poppler-utils";
+        return QString::fromUtf8(reader.readAllStandardOutput());
+    }
+    // Where lines are wrapped, and what blanks there are, is the reader's guess.
+    static QString Solid(QString text)
+    {
+        text.removeIf(
+            [](QChar unit) { return unit.isSpace() || unit.category() == QChar::Other_Control; });
+        return text.normalized(QString::NormalizationForm_KC);
+    }
+
+    Pdf pdf;
+};
+
+class NoMoreThan
+{
+public:
+    explicit NoMoreThan(rlim_t bytes)
+    {
+        std::signal(SIGXFSZ, SIG_IGN);
+        getrlimit(RLIMIT_FSIZE, &m_before);
+        rlimit limit = m_before;
+        limit.rlim_cur = bytes;
+        setrlimit(RLIMIT_FSIZE, &limit);
+    }
+    ~NoMoreThan() { setrlimit(RLIMIT_FSIZE, &m_before); }
+
+private:
+    rlimit m_before;
+};
+
+} // namespace
+
+TEST_F(PrintedText, IsEveryCharacterOnceOverRandomTextsAndPapers)
+{
+    const unsigned seed = std::random_device{}();
+    SCOPED_TRACE(seed);
+    std::mt19937 random(seed);
+    const auto number = [&](int from, int to) {
+        return std::uniform_int_distribution<int>(from, to)(random);
+    };
+    static const QString kLetters =
+        QString::fromUtf8("abcxyzABCXYZ0123456789+-*/(),.;=<>_äöüéñßαβγδжщюя");
+    for (int round = 0; round < 6; ++round) {
+        QString text;
+        for (int line = number(1, 120); line > 0; --line) {
+            for (int word = number(0, round == 0 ? 60 : 8); word > 0; --word) {
+                for (int letter = number(1, 9); letter > 0; --letter)
+                    text += kLetters[number(0, int(kLetters.size()) - 1)];
+                text += number(0, 9) ? u' ' : u'\t';
+            }
+            text += u'\n';
+        }
+        pdf.millimetres = QSizeF(number(60, 220), number(60, 300));
+        Control().PrintStyleSetSize(number(4, 20), 1);
+        Put(text, 0, 0);
+        EXPECT_EQ(Solid(Printed()), Solid(text)) << "round " << round;
+        EXPECT_TRUE(pdf.done);
+    }
+}
+
+// The engine draws the lines that a range touches as wholes.
+TEST_F(PrintedText, OfASelectionIsItsLines)
+{
+    pdf.selection = true;
+    Put("before\nselected;\nbehind\n", 7, 17);
+    EXPECT_EQ(Solid(Printed()), "selected;");
+    EXPECT_EQ(pdf.pages, 1u);
+}
+
+TEST_F(PrintedText, OfAnEmptyTextIsAPageWithoutAWord)
+{
+    Put("", 0, 0);
+    EXPECT_EQ(Solid(Printed()), "");
+    EXPECT_EQ(pdf.pages, 1u);
+    EXPECT_TRUE(Read(pdf.path).startsWith("%PDF"));
+}
+
+TEST_F(PrintedText, OnPaperSmallerThanACharacterComesToAnEnd)
+{
+    pdf.millimetres = QSizeF(11, 11);
+    Control().PrintStyleSetSize(72, 1);
+    Put("abc def", 0, 0);
+    Printed();
+    EXPECT_TRUE(pdf.done);
+}
+
+TEST_F(PrintedText, IsNotThereWhereTheDiskIsFull)
+{
+    QString text;
+    for (int line = 0; line < 2000; ++line)
+        text += QString::number(line * 7919) + u'\n';
+    Put(text, 0, 0);
+    {
+        const NoMoreThan limit(20000);
+        view->OnFilePrint();
+    }
+    EXPECT_FALSE(pdf.done);
+    EXPECT_FALSE(QFile::exists(pdf.path));
+    EXPECT_EQ(QDir(folder.path()).entryList(QDir::Files), QStringList());
+    EXPECT_EQ(user.asked, QStringList{pdf.path + " could not be written."});
+}
+
+TEST_F(PrintedText, LeavesTheFileThatWasThereWhereItFails)
+{
+    Write("printed.pdf", "before");
+    Put(QString("some text\n").repeated(3000), 0, 0);
+    {
+        const NoMoreThan limit(2000);
+        view->OnFilePrint();
+    }
+    EXPECT_FALSE(pdf.done);
+    EXPECT_EQ(Read(pdf.path), "before");
+}
+
+TEST_F(PrintedText, IntoAFolderThatIsNotThereIsTold)
+{
+    pdf.path = Path("no/such.pdf");
+    Put("text", 0, 0);
+    view->OnFilePrint();
+    EXPECT_EQ(user.asked, QStringList{pdf.path + " could not be written."});
+}
+
+TEST(PrintJobs, WriteNothingBeforeTheirFirstPage)
+{
+    QBuffer buffer;
+    buffer.open(QIODevice::WriteOnly);
+    QPrinter layout(QPrinter::HighResolution);
+    const auto job = MakePdfJob(buffer, layout);
+    EXPECT_GT(job->StartDoc("x"), 0);
+    QPainter* measuring = job->Painter();
+    EXPECT_GT(measuring->device()->width(), 1000);
+    EXPECT_EQ(measuring->device()->logicalDpiX(), layout.resolution());
+    measuring->drawText(100, 100, "no ink");
+    EXPECT_EQ(buffer.size(), 0);
+    EXPECT_GT(job->StartPage(), 0);
+    EXPECT_EQ(job->Painter()->device()->logicalDpiX(), layout.resolution());
+    EXPECT_GT(job->EndPage(), 0);
+    EXPECT_GT(job->EndDoc(), 0);
+    EXPECT_TRUE(buffer.data().endsWith("%%EOF\n"));
+}
+
+TEST(PrintJobs, WithoutAPageLeaveNoFile)
+{
+    const QTemporaryDir folder;
+    auto printer = std::make_unique<QPrinter>();
+    printer->setOutputFormat(QPrinter::PdfFormat);
+    printer->setOutputFileName(folder.filePath("a.pdf"));
+    const auto job = MakePrintJob(std::move(printer));
+    EXPECT_EQ(job->File(), folder.filePath("a.pdf"));
+    EXPECT_GT(job->StartDoc("x"), 0);
+    EXPECT_GT(job->EndDoc(), 0);
+    EXPECT_TRUE(QDir(folder.path()).isEmpty());
+    EXPECT_EQ(MakePrintJob(nullptr), nullptr);
+}
+
+TEST(PrintInfos, KeepPagesInSixteenBits)
+{
+    CPrintInfo info;
+    EXPECT_EQ(info.GetMinPage(), 1u);
+    info.SetMaxPage(0x12345);
+    EXPECT_EQ(info.GetMaxPage(), 0x2345u);
+    EXPECT_EQ(info.GetToPage(), 0x2345u);
+}

@@ -1,0 +1,202 @@
+// Printing, PDFs, rich copies and HTML from the workbench's menus.
+#include "host/printing/WorkbenchPrinter.h"
+#include "tests/host/WorkbenchTest.h"
+
+#include <QClipboard>
+#include <QElapsedTimer>
+#include <QMimeData>
+#include <QPrintPreviewDialog>
+#include <QPrintPreviewWidget>
+#include <QPrinter>
+#include <QPrinterInfo>
+#include <QProcess>
+#include <QProgressDialog>
+#include <QTextDocument>
+#include <QTimer>
+
+namespace {
+
+class PathPrompts final : public IUserQuestions
+{
+public:
+    PathPrompts() { SetUserQuestions(this); }
+    ~PathPrompts() override { SetUserQuestions(nullptr); }
+    Answer Ask(HWND, const QString& text, Buttons) override
+    {
+        told << text;
+        return Answer::Yes;
+    }
+    QString AskSaveFile(HWND, const QString& proposal, const QString&) override
+    {
+        proposed = proposal;
+        return path;
+    }
+    QString path;
+    QString proposed;
+    QStringList told;
+};
+
+class PrintingScripts : public WorkbenchTest
+{
+protected:
+    QString TextOfPdf(const QString& path)
+    {
+        QProcess reader;
+        reader.start("pdftotext", {"-layout", path, "-"});
+        EXPECT_TRUE(reader.waitForFinished());
+        return QString::fromUtf8(reader.readAllStandardOutput()).simplified();
+    }
+    PathPrompts m_paths;
+};
+
+} // namespace
+
+TEST_F(PrintingScripts, SavesAllOfAScriptAsAPdf)
+{
+    Open("a.sql", "select 1 from first;\nselect 2 from second;\n");
+    Editor().SetSel(7, 8, 1);
+    m_paths.path = PathOf("out");
+    Trigger("savePdf");
+    EXPECT_EQ(m_paths.proposed, PathOf("a.pdf"));
+    EXPECT_TRUE(TextOfPdf(PathOf("out.pdf")).contains("select 1 from first; "));
+    EXPECT_TRUE(TextOfPdf(PathOf("out.pdf")).contains("select 2 from second;"));
+    EXPECT_TRUE(m_paths.told.isEmpty());
+    m_paths.path.clear();
+    Trigger("savePdf");
+    EXPECT_EQ(QDir(m_folder.path()).entryList(QDir::Files).size(), 2);
+}
+
+TEST_F(PrintingScripts, OffersAPdfWhereThereIsNoPrinter)
+{
+    if (!QPrinterInfo::availablePrinterNames().isEmpty())
+        GTEST_SKIP() << "this machine has a printer";
+    Open("a.sql", "select 1 from first;\n");
+    m_paths.path = PathOf("instead.pdf");
+    Trigger("print");
+    ASSERT_EQ(m_paths.told.size(), 1);
+    EXPECT_TRUE(m_paths.told[0].startsWith("No printer is set up."));
+    EXPECT_TRUE(TextOfPdf(PathOf("instead.pdf")).contains("select 1 from first;"));
+}
+
+TEST_F(PrintingScripts, PrintsTheLinesOfASelection)
+{
+    struct Selection final : IPrintService
+    {
+        std::unique_ptr<QPrinter> ChoosePrinter(HWND, PRINTDLG& record) override
+        {
+            EXPECT_TRUE(record.Flags & PD_SELECTION);
+            auto printer = std::make_unique<QPrinter>();
+            printer->setOutputFormat(QPrinter::PdfFormat);
+            printer->setOutputFileName(path);
+            return printer;
+        }
+        QString path;
+    } service;
+    SetPrintService(&service);
+    Open("a.sql", "first;\nsecond;\nthird;\n");
+    Editor().SetSel(7, 15, 1);
+    service.path = PathOf("part.pdf");
+    Trigger("print");
+    Editor().SetSel(0, 1, 1);
+    const QString ofLines = service.path;
+    service.path = PathOf("character.pdf");
+    Trigger("print");
+    EXPECT_TRUE(TextOfPdf(service.path).contains("first;"));
+    service.path = ofLines;
+    SetPrintService(nullptr);
+    EXPECT_TRUE(TextOfPdf(service.path).contains("second;"));
+    EXPECT_FALSE(TextOfPdf(service.path).contains("first;"));
+    EXPECT_FALSE(TextOfPdf(service.path).contains("third;"));
+}
+
+TEST_F(PrintingScripts, ShowsPagesBesideEachOther)
+{
+    Open("a.sql", QByteArray("select 1 from first;\n").repeated(200));
+    int pages = 0;
+    QTimer::singleShot(0, [&] {
+        auto* dialog = qobject_cast<QPrintPreviewDialog*>(QApplication::activeModalWidget());
+        ASSERT_TRUE(dialog);
+        auto* preview = dialog->findChild<QPrintPreviewWidget*>();
+        pages = preview->pageCount();
+        preview->setViewMode(QPrintPreviewWidget::FacingPagesView);
+        preview->setZoomFactor(2);
+        EXPECT_EQ(preview->pageCount(), pages);
+        dialog->reject();
+    });
+    Trigger("printPreview");
+    EXPECT_GE(pages, 3);
+}
+
+TEST_F(PrintingScripts, ShowsTheStepOfALongJobAndStopsIt)
+{
+    QElapsedTimer clock;
+    clock.start();
+    bool goesOn = true;
+    while (goesOn && clock.elapsed() < 5000) {
+        goesOn = WorkbenchPrinter::GoesOn(&m_window, "Page 3 of 9", 2, 9);
+        auto* box = m_window.findChild<QProgressDialog*>("printProgress");
+        EXPECT_EQ(box != nullptr, box && clock.elapsed() >= 1000);
+        if (box) {
+            EXPECT_EQ(box->labelText(), "Page 3 of 9");
+            box->cancel();
+        }
+    }
+    EXPECT_FALSE(goesOn);
+    EXPECT_GE(clock.elapsed(), 1000);
+    GetPrintService().OnDone(&m_window, false, "a.pdf");
+    EXPECT_FALSE(m_window.findChild<QProgressDialog*>("printProgress"));
+    EXPECT_TRUE(m_paths.told.isEmpty()) << "who stops a job knows it";
+}
+
+TEST_F(PrintingScripts, CopiesColoursBesideThePlainText)
+{
+    Open("a.sql", "-- <b> & \xC3\xA4\nselect 'x';\n");
+    m_window.SetLanguage(3);
+    EXPECT_FALSE(Action("copyWithColours").isEnabled());
+    Editor().SelectAll(1);
+    QApplication::processEvents();
+    Trigger("copyWithColours");
+    const QMimeData* data = QGuiApplication::clipboard()->mimeData();
+    EXPECT_EQ(data->text(), Text());
+    QTextDocument page;
+    page.setHtml(data->html());
+    EXPECT_EQ(page.toPlainText().trimmed(), Text().trimmed());
+    EXPECT_TRUE(data->html().contains("<span style=\"color:#"));
+    EXPECT_TRUE(data->data("text/rtf").startsWith("{\\rtf1\\ansi"));
+    EXPECT_TRUE(data->data("text/rtf").contains("<b> & \\u228?"));
+    EXPECT_TRUE(data->hasFormat("application/rtf"));
+}
+
+TEST_F(PrintingScripts, SavesHtmlThatReadsAsTheScript)
+{
+    QByteArray text;
+    for (int line = 0; line < 3000; ++line)
+        text += "select 'a<b>&\xF0\x9F\x98\x80' from t" + QByteArray::number(line) + ";\r\n";
+    Open("a.sql", text);
+    m_window.SetLanguage(3);
+    m_paths.path = PathOf("a.html");
+    Trigger("saveHtml");
+    QTextDocument page;
+    page.setHtml(QString::fromUtf8(Read("a.html")));
+    EXPECT_EQ(page.toPlainText().trimmed(),
+              QString::fromUtf8(text).replace("\r\n", "\n").trimmed());
+    m_paths.path = PathOf("no/such.html");
+    Trigger("saveHtml");
+    ASSERT_EQ(m_prompts.told.size(), 1);
+    EXPECT_TRUE(m_prompts.told[0].contains("no/such.html could not be written"));
+}
+
+TEST_F(PrintingScripts, OpensWhatTheCaretStandsOn)
+{
+    Write("b.sql", "one\ntwo\nthree\n");
+    Open("a.sql", "b.sql:3 nothing.sql\n");
+    Editor().SetSel(3, 3, 1);
+    Trigger("openAtCaret");
+    ASSERT_EQ(m_window.TabCount(), 2);
+    EXPECT_EQ(Script().GetPathName(), PathOf("b.sql"));
+    EXPECT_EQ(Editor().GetCurLineNumber(), 2);
+    m_window.ShowTab(0);
+    Editor().SetSel(12, 12, 1);
+    Trigger("openAtCaret");
+    EXPECT_EQ(m_prompts.told, QStringList{"There is no file nothing.sql."});
+}
