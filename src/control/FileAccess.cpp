@@ -5,6 +5,7 @@
 #include <algorithm>
 #include <array>
 #include <cerrno>
+#include <climits>
 
 #include <fcntl.h>
 #include <sys/stat.h>
@@ -34,6 +35,8 @@ FilePointer OpenForReading(const char16_t* path)
         reason = errno;
     else if (!S_ISREG(status.st_mode))
         reason = EISDIR;
+    else if (status.st_size > INT_MAX) // positions are ints
+        reason = EFBIG;
     else if (std::FILE* file = fdopen(descriptor, "rb"))
         return FilePointer(file);
     else

@@ -19,7 +19,8 @@ QByteArray NativePath(const char16_t* path);
 bool PathExists(const char16_t* path);
 
 // Null for whatever is not a regular file or cannot be read, with the reason in errno: a folder, a
-// device and a pipe are refused, as EISDIR, since a read from them fails late or never ends.
+// device and a pipe are refused, as EISDIR, since a read from them fails late or never ends. A file
+// of more than 2 GB is refused as EFBIG.
 FilePointer OpenForReading(const char16_t* path);
 
 // Whether every byte from where the file stands is ASCII. The file is at its start afterwards.

@@ -15,6 +15,7 @@ constexpr Row kSentences[] = {
     {FileProblem::Missing, "The file does not exist."},
     {FileProblem::NoFile, "This is a folder or a device, not a file with a text."},
     {FileProblem::NotReadable, "The file cannot be read. Check that you may read it."},
+    {FileProblem::TooLarge, "The file has more than 2 GB, which is more than can be edited."},
     {FileProblem::CutShort, "Only the first part of the file could be read."},
     {FileProblem::NoFolder, "The folder does not exist."},
     {FileProblem::NotWritable, "You may not write there."},
@@ -34,6 +35,8 @@ FileProblem FileResult::OfRead(int error)
     case EISDIR:
     case ENXIO:
         return FileProblem::NoFile;
+    case EFBIG:
+        return FileProblem::TooLarge;
     default:
         return FileProblem::NotReadable;
     }

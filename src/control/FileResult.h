@@ -12,6 +12,7 @@ enum class FileProblem : int
     Missing,      // nothing has that name
     NoFile,       // a folder, a device or a pipe has it
     NotReadable,  // it may not be read, or the reading failed
+    TooLarge,     // it has more bytes than the engine can count
     CutShort,     // its text is there up to a place that could not be read, and no further
     NoFolder,     // the folder it is to be put into is missing
     NotWritable,  // it may not be written
