@@ -249,9 +249,10 @@ void ChangeReporter::OnModified(int position, int type, int length, int line, in
         ++s_noting;
         ++s_inside;
         Flush();
-        Note(type, {position}, length);
+        // It may move marks, of which a host can be told: before there is a change that waits.
         if (m_follow)
             m_follow(type & modification::BeforeInsert, position, length);
+        Note(type, {position}, length);
         --s_inside;
         --s_noting;
         return;

@@ -33,7 +33,7 @@ public:
         m_lines = -1;
     }
 
-    // Called for each change behind what is noted, while the text is as it was.
+    // Called for each change before it is noted, while the text is as it was.
     void SetFollower(std::function<void(bool inserts, long position, long bytes)> follow)
     {
         m_follow = std::move(follow);

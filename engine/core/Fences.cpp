@@ -10,6 +10,8 @@ namespace {
 using Sci = QsciScintillaBase;
 
 constexpr long kStyles = 256;
+constexpr long kFarthestColumn = 700 * 1000;   // a click so far out is no place, and aborts
+constexpr long kMostColumns = 10 * 1000;       // of one scroll
 constexpr long kWidestIndentation = 64 * 1024; // columns; it is made of real characters
 
 long Number(std::uintptr_t value)
@@ -88,7 +90,27 @@ bool MakesNotNegative(const Engine&, WPARAM& wParam, LPARAM&)
     return true;
 }
 
-// Words end nowhere before the text.
+long FarthestRight(const Engine& engine)
+{
+    const LRESULT width = engine.raw.Send(Sci::SCI_TEXTWIDTH, Sci::STYLE_DEFAULT, " ");
+    return kFarthestColumn * std::max(1L, static_cast<long>(width));
+}
+
+bool MakesNear(const Engine& engine, WPARAM& wParam, LPARAM&)
+{
+    wParam = static_cast<WPARAM>(std::clamp(Number(wParam), 0L, FarthestRight(engine)));
+    return true;
+}
+
+bool MakesShortScroll(const Engine& engine, WPARAM& wParam, LPARAM&)
+{
+    const bool isFar = engine.raw.Send(Sci::SCI_GETXOFFSET) > FarthestRight(engine);
+    wParam =
+        static_cast<WPARAM>(std::clamp(Number(wParam), -kMostColumns, isFar ? 0 : kMostColumns));
+    return true;
+}
+
+// Words and selections end nowhere before the text.
 bool MakesPosition(const Engine&, WPARAM& wParam, LPARAM&)
 {
     wParam = static_cast<WPARAM>(std::max(static_cast<LPARAM>(wParam), LPARAM{0}));
@@ -148,7 +170,16 @@ constexpr FenceRow kRows[] = {
     {message::SetEndAtLastLine, MakesFlag},
     {message::SetCaretSticky, IsCaretSticky},
     {message::SetScrollWidth, MakesPositive},
+    {message::SetXOffset, MakesNear},
+    {message::LineScroll, MakesShortScroll},
+    {message::SetCaretPeriod, MakesNotNegative},
+    {message::SetMouseDwellTime, MakesNotNegative},
     {message::Allocate, MakesNotNegative},
+    {message::GotoPos, MakesPosition},
+    {message::SetAnchor, MakesPosition},
+    {message::SetCurrentPos, MakesPosition},
+    {message::SetSelectionStart, MakesPosition},
+    {message::SetSelectionEnd, MakesPosition},
     {message::WordStartPosition, MakesPosition},
     {message::WordEndPosition, MakesPosition},
     {message::AutoCComplete, IsListShown},

@@ -63,7 +63,7 @@ LRESULT SetStyling(Engine& engine, WPARAM wParam, LPARAM lParam)
 {
     const auto from = static_cast<long>(engine.raw.Send(Sci::SCI_GETENDSTYLED));
     const long length = std::max(0L, static_cast<long>(static_cast<int>(wParam)));
-    const long to = engine.Bytes(engine.Units(from) + length);
+    const long to = std::max(from, engine.Bytes(engine.Units(from) + length));
     return engine.raw.Send(Sci::SCI_SETSTYLING, static_cast<WPARAM>(to - from), lParam);
 }
 
@@ -77,6 +77,8 @@ LRESULT SetStylingEx(Engine& engine, WPARAM wParam, LPARAM lParam)
     if (!styles || length <= 0)
         return 0;
     const long to = engine.Bytes(start + length);
+    if (to <= from) // the styles end inside of a character
+        return 0;
     std::string expanded;
     expanded.reserve(static_cast<std::size_t>(to - from));
     long unit = -1;

@@ -131,6 +131,18 @@ LRESULT SetKeyWords(Engine& engine, WPARAM wParam, LPARAM lParam)
     return 0;
 }
 
+// The stock engine's lexers are made to begin where a line does, and to see the whole of it.
+void ColorizeLines(const Engine& engine, long start, long end)
+{
+    const auto lineOf = [&engine](long position) {
+        return static_cast<long>(
+            engine.raw.Send(Sci::SCI_LINEFROMPOSITION, static_cast<WPARAM>(position)));
+    };
+    const long from = engine.text.StartInBytes(lineOf(start)).value;
+    const long to = end < 0 ? end : engine.text.StartInBytes(lineOf(end) + 1).value;
+    engine.raw.Send(Sci::SCI_COLOURISE, static_cast<WPARAM>(from), to);
+}
+
 LRESULT Colorize(Engine& engine, WPARAM wParam, LPARAM lParam)
 {
     const long start = engine.Bytes(static_cast<LPARAM>(wParam));
@@ -141,7 +153,7 @@ LRESULT Colorize(Engine& engine, WPARAM wParam, LPARAM lParam)
     if (colouring->IsSql())
         colouring->Colorize(engine.raw, start, end);
     else
-        engine.raw.Send(Sci::SCI_COLOURISE, static_cast<WPARAM>(start), end);
+        ColorizeLines(engine, std::max(start, 0L), end);
     return 0;
 }
 

@@ -150,6 +150,79 @@ TEST(HostileCalls, ARectangleIsReadIntoTheRoomThatItsEndsTell)
     EXPECT_EQ(buffer, u"a\r\nb\r\nc\r\n" + std::u16string(u"\0#", 2));
 }
 
+TEST(HostileCalls, SelectionsStayInTheText)
+{
+    EngineUnderTest engine;
+    engine.SetText(u"text");
+    for (const UINT number : {msg::SetAnchor, msg::SetCurrentPos, msg::SetSelectionStart,
+                              msg::SetSelectionEnd, msg::GotoPos}) {
+        engine.Send(msg::SetSel, 2, LPARAM{3});
+        engine.Send(number, kMinusOne);
+        EXPECT_GE(engine.Send(msg::GetAnchor), 0) << number;
+        EXPECT_GE(engine.Send(msg::GetCurrentPos), 0) << number;
+    }
+}
+
+TEST(HostileCalls, ColoursOfAPieceOfALineAreThoseOfTheLine)
+{
+    EngineUnderTest engine;
+    engine.Send(msg::SetLexerLanguage, 0, u"cpp");
+    engine.SetText(u"int a;\n/* a comment */ int b;\n");
+    engine.Send(msg::Colorize, 0, LPARAM{-1});
+    const LRESULT comment = engine.Send(msg::GetStyleAt, 12);
+    const LRESULT code = engine.Send(msg::GetStyleAt, 25);
+    ASSERT_NE(comment, code);
+    engine.Send(msg::Colorize, 13, LPARAM{15});
+    EXPECT_EQ(engine.Send(msg::GetStyleAt, 12), comment);
+    EXPECT_EQ(engine.Send(msg::GetStyleAt, 25), code);
+    EXPECT_EQ(engine.Send(msg::GetEndStyled), 30);
+}
+
+TEST(HostileCalls, StylesThatEndInsideACharacterGoOnBehindIt)
+{
+    EngineUnderTest engine;
+    engine.SetText(u"\U0001F600\U0001F600ab");
+    engine.Send(msg::StartStyling, 0, LPARAM{0});
+    for (int i = 0; i < 3; ++i) {
+        engine.Send(msg::SetStyling, 1, LPARAM{1});
+        engine.Send(msg::SetStylingEx, 1, "\1");
+        EXPECT_LE(engine.Send(msg::GetEndStyled), 6);
+    }
+    EXPECT_EQ(engine.Text(), u"\U0001F600\U0001F600ab");
+}
+
+TEST(HostileCalls, MarksThatMoveAreNotToldInTheMiddleOfAnEdit)
+{
+    constexpr int kEverything = 0x7FFFF;
+    EngineUnderTest engine;
+    engine.Send(msg::SetModEventMask, kEverything);
+    engine.SetText(u"a\nb\nc\nd\n");
+    engine.Send(msg::ErrorsSetMarkNum, 2);
+    engine.Send(msg::ErrorsSetIndic, 0);
+    ErrorInfo error;
+    for (const long start : {0L, 2L, 4L, 6L}) {
+        error.nStart = start;
+        error.nEnd = start + 1;
+        engine.Send(msg::ErrorAdd, 1, &error);
+    }
+    engine.Send(msg::ErrorsShow);
+    engine.Parent().heard.clear();
+    std::u16string mirror = engine.Text();
+    for (int i = 0; i < 20; ++i) {
+        engine.Send(msg::InsertText, static_cast<WPARAM>(i % 5), u"\n\u4e2d\n");
+        engine.Send(msg::Undo);
+        engine.Send(msg::Redo);
+    }
+    for (const Heard& each : engine.Parent().Of(notify::Modified)) {
+        const auto at = static_cast<std::size_t>(each.record.position);
+        if (each.record.modificationType & modification::InsertText)
+            mirror.insert(at, each.text);
+        else if (each.record.modificationType & modification::DeleteText)
+            mirror.erase(at, each.text.size());
+    }
+    EXPECT_EQ(mirror, engine.Text());
+}
+
 TEST(HostileCalls, AWindowThatGoesWithAnOpenListTellsNobody)
 {
     auto engine = std::make_unique<EngineUnderTest>();
