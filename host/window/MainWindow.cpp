@@ -61,6 +61,7 @@ MainWindow::MainWindow(Workbench& app)
     });
     addDockWidget(Qt::RightDockWidgetArea, m_expanded);
     m_expanded->hide();
+    BuildResults();
     connect(m_expanded, &ExpandedScript::SourceChosen, this, &MainWindow::ShowSource);
     connect(m_tabs, &ScriptTabs::Added, this, &MainWindow::OnTabAdded);
     connect(m_tabs, &ScriptTabs::currentChanged, this, &MainWindow::OnCurrentChanged);

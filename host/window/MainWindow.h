@@ -4,7 +4,9 @@
 
 #include <QMainWindow>
 
+#include <memory>
 #include <span>
+#include <vector>
 
 class CZNCoreEditorControlEx;
 class EditingMenu;
@@ -14,6 +16,7 @@ class LanguageMenu;
 class MainFrame;
 class ProblemPane;
 class QTimer;
+class ResultsPane;
 class ScriptDoc;
 class ScriptFrame;
 class ScriptTabs;
@@ -55,6 +58,10 @@ public:
     void ShowLineEnds(bool show);
     void WrapLines(bool wrap);
     void NextProblem();
+    void FindInFiles();
+    void NextResult(); // of the pane that a search was shown in last
+    void PreviousResult();
+    void StopSearch();
     void ExpandScript();
     void ChangeOptions();
     void ChangeAutosave();
@@ -66,6 +73,7 @@ public:
 private:
     struct Command;
     enum class When;
+    class SearchLine;
     static std::span<const Command> Commands();
 
     void BuildMenus();
@@ -84,6 +92,9 @@ private:
     void ListProblems();
     void ShowSource(const QString& path, long line);
     void UpdateTitle();
+    void BuildResults();
+    std::shared_ptr<void> MakeSearchLine();
+    void ShowMatch(const QString& path, long line, long column, long length);
 
     void KeepSessionSoon();
     void KeepSession();
@@ -96,6 +107,9 @@ private:
     LanguageMenu* m_languages = nullptr;
     ProblemPane* m_problems;
     ExpandedScript* m_expanded;
+    std::vector<ResultsPane*> m_results; // two of them
+    ResultsPane* m_shownResults = nullptr;
+    std::shared_ptr<void> m_searchLine; // what a search as one types says
     EditingMenu* m_editing = nullptr;
     FindBar* m_find = nullptr;
     QTimer* m_sessionTimer;

@@ -96,6 +96,15 @@ std::span<const MainWindow::Command> MainWindow::Commands()
         {"&Edit", nullptr},
         {"&Edit", "selectAll", "Select &All",   Key::SelectAll,    nullptr,  57642},
 
+        {"Searc&h", "findDialog",     "Find with a &Dialog...",    Key::UnknownKey, "Ctrl+Alt+F", 53895},
+        {"Searc&h", "replaceDialog",  "&Replace with a Dialog...", Key::UnknownKey, "Ctrl+Alt+R", 53896},
+        {"Searc&h", "goToLine",       "&Go to Line...",            Key::UnknownKey, "Ctrl+G",     54049},
+        {"Searc&h", nullptr},
+        {"Searc&h", "findInFiles",    "Find in &Files...", Key::UnknownKey, "Ctrl+Shift+F", 0, When::Always, Run<&W::FindInFiles>},
+        {"Searc&h", "nextResult",     "&Next Result",      Key::UnknownKey, "F4",           0, When::Always, Run<&W::NextResult>},
+        {"Searc&h", "previousResult", "&Previous Result",  Key::UnknownKey, "Shift+F4",     0, When::Always, Run<&W::PreviousResult>},
+        {"Searc&h", "stopSearch",     "&Stop Search",      Key::UnknownKey, nullptr,        0, When::Always, Run<&W::StopSearch>},
+
         {"&View", "zoomIn",    "Zoom &In",      Key::ZoomIn,       "Ctrl+=", 53962},
         {"&View", "zoomOut",   "Zoom &Out",     Key::ZoomOut,      nullptr,  53963},
         {"&View", "zoomReset", "&Reset Zoom",   Key::UnknownKey,   "Ctrl+0", 53964},

@@ -1,0 +1,144 @@
+// MainWindow: searches through files, and what a search as one types shows in the status bar.
+#include "docview/SearchStatus.h"
+#include "docview/ZNCoreEditorView.h"
+#include "editing/ZNCoreEditorControlEx.h"
+#include "host/finding/ResultsPane.h"
+#include "host/script/ScriptDoc.h"
+#include "host/script/ScriptFrame.h"
+#include "host/script/ScriptView.h"
+#include "host/window/MainFrame.h"
+#include "host/window/MainWindow.h"
+#include "host/window/Workbench.h"
+#include "search/FindReplaceManager.h"
+#include "search/dialogs/FindInFilesDlg.h"
+
+#include <QPointer>
+#include <QStatusBar>
+
+namespace {
+
+QString NameOf(const ScriptDoc& script)
+{
+    const QString path = script.GetPathName();
+    return path.isEmpty() ? script.GetTitle() : path;
+}
+
+} // namespace
+
+// Counting costs a pass through the text for each character, which a long text is spared.
+class MainWindow::SearchLine final : public ISearchStatus
+{
+public:
+    explicit SearchLine(QStatusBar* bar) : m_bar(bar) { SetSearchStatus(this); }
+    ~SearchLine() override { SetSearchStatus(nullptr); }
+
+    void Show(CZNCoreEditorView& view, const SearchStatus& status) override
+    {
+        constexpr int kMost = 1000;
+        constexpr long kLongText = 4 * 1024 * 1024;
+        if (!m_bar)
+            return;
+        if (status.text.isEmpty()) {
+            m_bar->clearMessage();
+            return;
+        }
+        QString text = status.text;
+        if (status.isFound && view.GetCoreEditorControl()->GetLength(1) < kLongText) {
+            const int count = view.CountIncrementalMatches(kMost);
+            if (count > 0)
+                text += count < kMost ? tr("   %1 matches").arg(count)
+                                      : tr("   %1 matches and more").arg(count);
+        }
+        m_bar->showMessage(text);
+    }
+
+private:
+    QPointer<QStatusBar> m_bar;
+};
+
+std::shared_ptr<void> MainWindow::MakeSearchLine()
+{
+    return std::make_shared<SearchLine>(statusBar());
+}
+
+void MainWindow::BuildResults()
+{
+    for (const char* title : {"Find Results", "Find Results 2"}) {
+        auto* pane = new ResultsPane(QLatin1String(title), this);
+        addDockWidget(Qt::BottomDockWidgetArea, pane);
+        pane->hide();
+        connect(pane, &ResultsPane::Chosen, this, &MainWindow::ShowMatch);
+        m_results.push_back(pane);
+    }
+    tabifyDockWidget(m_results[0], m_results[1]);
+    m_shownResults = m_results[0];
+    m_searchLine = MakeSearchLine();
+}
+
+void MainWindow::FindInFiles()
+{
+    CFindInFilesDlg dialog(m_frame);
+    if (CZNCoreEditorControlEx* editor = CurrentEditor())
+        dialog.m_text = editor->GetFindString();
+    if (dialog.DoModal() != IDOK)
+        return;
+    constexpr int kInOpenFiles = 2;
+    const CFindReplaceManager& manager = *zncoreeditor::GetFindReplaceManager();
+    FileSearchRequest request;
+    request.text = manager.GetFind();
+    request.wholeWord = manager.GetWholeWord();
+    request.matchCase = manager.GetMatchCase();
+    request.regExp = manager.GetRegExp();
+    request.countOnly = manager.GetCountOnly();
+    request.subFolders = manager.GetSubFolders();
+    request.types = manager.GetFileType();
+    request.folders = dialog.m_aFolders;
+    request.openOnly = manager.GetFindIn() == kInOpenFiles;
+    for (const ScriptDoc* script : m_app.Scripts())
+        request.open.push_back(
+            {NameOf(*script), script->FirstView()->GetCoreEditorControlRef().GetText()});
+    m_shownResults = m_results[manager.GetOutputPane2() ? 1 : 0];
+    m_shownResults->Search(std::move(request));
+    m_shownResults->show();
+    m_shownResults->raise();
+}
+
+void MainWindow::NextResult()
+{
+    m_shownResults->GoOn(true);
+}
+
+void MainWindow::PreviousResult()
+{
+    m_shownResults->GoOn(false);
+}
+
+void MainWindow::StopSearch()
+{
+    for (ResultsPane* pane : m_results)
+        pane->Stop();
+}
+
+// A place that the script has no longer is the nearest that it has.
+void MainWindow::ShowMatch(const QString& path, long line, long column, long length)
+{
+    bool isOpen = false;
+    for (const ScriptDoc* script : m_app.Scripts()) {
+        if (NameOf(*script) != path)
+            continue;
+        if (CFrameWnd* frame = script->FirstView()->GetParentFrame())
+            frame->ActivateFrame();
+        isOpen = true;
+        break;
+    }
+    if (!isOpen && !m_app.OpenDocumentFile(path))
+        return;
+    const ScriptFrame* frame = CurrentFrame();
+    if (!frame)
+        return;
+    CZNCoreEditorControlEx& editor = frame->Editor();
+    const long start = editor.PositionFromLine(static_cast<int>(line), 1);
+    const long from =
+        std::min(start < 0 ? editor.GetLength(1) : start + column, editor.GetLength(1));
+    frame->View()->SelectRange(from, std::min(from + length, editor.GetLength(1)));
+}
