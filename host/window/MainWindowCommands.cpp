@@ -15,7 +15,7 @@
 #include "host/window/MainWindow.h"
 #include "host/window/RecentMenu.h"
 #include "host/window/Workbench.h"
-#include "platform/docview/ActionUI.h"
+#include "platform/windows/ActionUI.h"
 #include "platform/docview/CommandIds.h"
 
 #include <QAction>

@@ -1,7 +1,7 @@
 // What a document notices of what others do to its file, and what it asks.
 #include "EditDocFixture.h"
 
-#include "platform/docview/ActionUI.h"
+#include "platform/windows/ActionUI.h"
 
 #include <QTest>
 

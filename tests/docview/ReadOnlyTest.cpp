@@ -1,7 +1,7 @@
 // Files that may not be written, and the switch between writable and read-only.
 #include "EditDocFixture.h"
 
-#include "platform/docview/ActionUI.h"
+#include "platform/windows/ActionUI.h"
 
 namespace {
 

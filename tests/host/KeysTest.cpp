@@ -1,6 +1,6 @@
 // What a key stands for in the workbench: menus, then the view's key table, then the engine.
 #include "host/finding/FindBar.h"
-#include "platform/docview/ActionUI.h"
+#include "platform/windows/ActionUI.h"
 #include "tests/host/WorkbenchTest.h"
 
 #include <QAbstractButton>

@@ -1,4 +1,4 @@
-#include "platform/docview/ActionUI.h"
+#include "platform/windows/ActionUI.h"
 
 #include "platform/windows/Accelerators.h"
 #include "platform/windows/Window.h"

@@ -1,7 +1,7 @@
 // Which way a command goes, and what menus show of it.
 #include "DocViewFixture.h"
 
-#include "platform/docview/ActionUI.h"
+#include "platform/windows/ActionUI.h"
 #include "platform/docview/CreateContext.h"
 #include "platform/docview/LabelUI.h"
 #include "platform/system/Shell.h"
