@@ -1,8 +1,11 @@
 // How a number stands in a settings file.
 #pragma once
 
-#include <QString>
+#include "platform/text/Integer.h"
 
-// Leading blanks and a sign are taken, and the first other character ends the number; without a
-// digit it is 0. What an int does not hold becomes the nearest that it does.
-int TextToInt(QStringView text);
+#include <QStringView>
+
+inline int TextToInt(QStringView text)
+{
+    return IntegerOf({text.utf16(), static_cast<std::size_t>(text.size())});
+}

@@ -1,6 +1,7 @@
 // Numbers and capitals in plain text.
 #include "editing/text/Numbers.h"
 #include "editing/text/Capitals.h"
+#include "platform/text/Integer.h"
 
 #include <gtest/gtest.h>
 
@@ -10,19 +11,19 @@ namespace {
 
 TEST(NumbersInText, AreReadAsFarAsTheyGo)
 {
-    EXPECT_EQ(numbers::IntegerOf(u"007"), 7);
-    EXPECT_EQ(numbers::IntegerOf(u" \t-12x"), -12);
-    EXPECT_EQ(numbers::IntegerOf(u"+3"), 3);
-    EXPECT_EQ(numbers::IntegerOf(u"x"), 0);
-    EXPECT_EQ(numbers::IntegerOf(u"-"), 0);
-    EXPECT_EQ(numbers::IntegerOf(u"\u0661"), 0);
+    EXPECT_EQ(IntegerOf(u"007"), 7);
+    EXPECT_EQ(IntegerOf(u" \t-12x"), -12);
+    EXPECT_EQ(IntegerOf(u"+3"), 3);
+    EXPECT_EQ(IntegerOf(u"x"), 0);
+    EXPECT_EQ(IntegerOf(u"-"), 0);
+    EXPECT_EQ(IntegerOf(u"\u0661"), 0);
 }
 
 TEST(NumbersInText, StopAtTheLargest)
 {
-    EXPECT_EQ(numbers::IntegerOf(u"2147483648"), INT_MAX);
-    EXPECT_EQ(numbers::IntegerOf(u"-2147483649"), INT_MIN);
-    EXPECT_EQ(numbers::IntegerOf(u"99999999999999999999999"), INT_MAX);
+    EXPECT_EQ(IntegerOf(u"2147483648"), INT_MAX);
+    EXPECT_EQ(IntegerOf(u"-2147483649"), INT_MIN);
+    EXPECT_EQ(IntegerOf(u"99999999999999999999999"), INT_MAX);
 }
 
 TEST(NumbersInText, ArePaddedWithZeros)

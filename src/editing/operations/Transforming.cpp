@@ -5,6 +5,7 @@
 #include "editing/operations/TextWindow.h"
 #include "editing/text/Capitals.h"
 #include "editing/text/Numbers.h"
+#include "platform/text/Integer.h"
 
 void CZNCoreEditorControlEx::WordDelete()
 {
@@ -142,7 +143,7 @@ void CZNCoreEditorControlEx::NumMinus()
 void CZNCoreEditorControlEx::AddToSelectedNumber(int step)
 {
     const auto [start, end] = GetSelection();
-    const int number = numbers::Sum(numbers::IntegerOf(TextBetween(start, end)), step);
+    const int number = numbers::Sum(IntegerOf(TextBetween(start, end)), step);
     const std::u16string text = numbers::TextOf(number);
     ReplaceSel(text.c_str(), 1);
     const long behind = GetSelectionEnd(1);

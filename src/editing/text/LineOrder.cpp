@@ -1,6 +1,6 @@
 #include "editing/text/LineOrder.h"
 
-#include "editing/text/Numbers.h"
+#include "platform/text/Integer.h"
 
 #include <QChar>
 #include <QLocale>
@@ -49,7 +49,7 @@ LeadingNumber NumberOf(std::u16string_view part)
     const auto isDigit = [](char16_t c) { return (c & 0xFF) >= u'0' && (c & 0xFF) <= u'9'; };
     const auto count = static_cast<std::size_t>(
         std::find_if_not(part.begin(), part.end(), isDigit) - part.begin());
-    return {count > 0, numbers::IntegerOf(part.substr(0, count))};
+    return {count > 0, IntegerOf(part.substr(0, count))};
 }
 
 // 0 also where one of the two is missing.

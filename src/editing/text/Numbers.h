@@ -6,10 +6,6 @@
 
 namespace numbers {
 
-// The number that the text begins with, behind white space and with a sign; what follows does not
-// matter. 0 if there is none; one that does not fit is the nearest that does.
-int IntegerOf(std::u16string_view text);
-
 std::u16string TextOf(int number);
 
 // With zeros in front up to the width, the sign included. A negative width fills up with blanks
