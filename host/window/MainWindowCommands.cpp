@@ -15,8 +15,8 @@
 #include "host/window/MainWindow.h"
 #include "host/window/RecentMenu.h"
 #include "host/window/Workbench.h"
-#include "platform/windows/ActionUI.h"
 #include "platform/docview/CommandIds.h"
+#include "platform/windows/ActionUI.h"
 
 #include <QAction>
 #include <QKeySequence>

@@ -126,18 +126,6 @@ void CZNCoreEditorControlEx::OnKillFocus(HWND newFocus)
     AutoCCancel(1);
 }
 
-// A view around the editor has a menu of its own, which a key opens where the pointer is.
-LRESULT CZNCoreEditorControlEx::OnContextMenu(CWnd* window, CPoint point)
-{
-    if (m_pCallback && m_pCallback->OnBeforeContextMenu(window, point))
-        return 1;
-    const QPoint pointer = QCursor::pos();
-    if (point.x == -1 && point.y == -1)
-        point = {pointer.x(), pointer.y()};
-    return SendMessage(GetParent(GetSafeHwnd()), WM_CONTEXTMENU,
-                       reinterpret_cast<WPARAM>(GetSafeHwnd()), PointParam(point));
-}
-
 LRESULT CZNCoreEditorControlEx::OnAppRegistryChange(WPARAM /*wParam*/, LPARAM /*lParam*/)
 {
     SetEditorOptions();

@@ -24,8 +24,11 @@ class CPrinterDC;
 class CPrintInfo;
 class CWnd;
 class CZNCoreEditorControlEx;
+class QMenu;
+class QPoint;
 struct CDataExchange;
 struct LOGFONT;
+struct MacroHolder;
 
 // What a control asks its surroundings.
 class ZN_API CZNCoreEditorControlExCallback
@@ -239,62 +242,30 @@ public:
     // How many matches; -1 for none. The search keeps these settings.
     int MarkAll(const QString& text, int matchCase);
 
+    // Sends the messages from the node on, each with the node's text (Macro.h); null does nothing.
+    void PerformMacro(MacroHolder* node);
+
     // Commands, and when they are possible
     bool CanCut();
     bool CanCopy();
-    void OnEditCut();
-    void OnEditCopy();
-    void OnEditPaste();
-    void OnEditUndo();
-    void OnEditRedo();
-    void OnEditSelectall();
-    void OnEditClear();
-    void OnEditComments();
+    // A pair for each row of the table: the command, and what brings its item up to date.
+#define ZN_COMMAND(id, handler, action, update, rule, menu)                                        \
+    void handler();                                                                                \
+    void update(CCmdUI& ui);
+#define ZN_PLAIN(id, handler, action, menu) void handler();
+#define ZN_OWN(id, handler, update, rule, menu)                                                    \
+    void handler();                                                                                \
+    void update(CCmdUI& ui);
+#define ZN_OWN_PLAIN(id, handler, menu) void handler();
+#define ZN_AGAIN(id, handler, update, menu)
+#define ZN_AGAIN_PLAIN(id, handler, menu)
+#define ZN_RULE(id, update, rule) void update(CCmdUI& ui);
+#include "editing/ControlCommands.def"
+    // For a host's own numbers; no table has them.
     void OnEditSingleLineComment();
-    void OnEditSingleLineUncomment();
-    void OnEditMatchToken();
-    void OnEditInsertFile();
-    void OnEditIndent();
-    void OnEditOutdent();
-    void OnEditUppercase();
-    void OnEditLowercase();
-    void OnLineEndingsWindows();
-    void OnLineEndingsUnix();
-    void OnLineEndingsMac();
-    void OnBookmarknext();
-    void OnBookmarkset();
-    void OnBookmarkprev();
-    void OnBookmarkdelete();
-    void OnMacrohelperNumplus();
-    void OnMacrohelperNumminus();
-    void OnLineNumbers();
-    void OnViewZoomlevelZoomin();
-    void OnViewZoomlevelZoomout();
-    void OnViewZoomlevelZoomdefault();
-    void OnUpdateEditCut(CCmdUI& ui);
-    void OnUpdateEditCopy(CCmdUI& ui);
-    void OnUpdateEditPaste(CCmdUI& ui);
-    void OnUpdateEditUndo(CCmdUI& ui);
-    void OnUpdateEditRedo(CCmdUI& ui);
-    void OnUpdateEditClear(CCmdUI& ui);
-    void OnUpdateEditSingleLineComment(CCmdUI& ui);
-    void OnUpdateEditSingleLineUncomment(CCmdUI& ui);
-    void OnUpdateEditMatchToken(CCmdUI& ui);
-    void OnUpdateEditInsertFile(CCmdUI& ui);
-    void OnUpdateEditIndent(CCmdUI& ui);
-    void OnUpdateEditOutdent(CCmdUI& ui);
-    void OnUpdateEditUppercase(CCmdUI& ui);
-    void OnUpdateEditLowercase(CCmdUI& ui);
-    void OnUpdateLineEndingsWindows(CCmdUI& ui);
-    void OnUpdateLineEndingsUnix(CCmdUI& ui);
-    void OnUpdateLineEndingsMac(CCmdUI& ui);
-    void OnUpdateBookmarknext(CCmdUI& ui);
-    void OnUpdateBookmarkset(CCmdUI& ui);
-    void OnUpdateBookmarkprev(CCmdUI& ui);
-    void OnUpdateBookmarkdelete(CCmdUI& ui);
-    void OnUpdateMacrohelperNumplus(CCmdUI& ui);
-    void OnUpdateMacrohelperNumminus(CCmdUI& ui);
     void OnUpdateLineNumbers(CCmdUI& ui);
+    // Enables the items that stand for commands of the control, in submenus too, and leaves others.
+    void SetDefaultMenuState(QMenu& menu);
 
     // Pre-processing of scripts: the text with its directives expanded, in place and handed over.
     void GetWindowTextW(QString& text);
@@ -302,8 +273,14 @@ public:
     // found no directive.
     void SetOriginalScript();
     bool GetIncludeOrDefineDirectivesFound() const;
-    bool HasPreprocessorErrors() const { return m_hasPreprocessorErrors; }
-    void SetPreprocessorErrors(bool errors) { m_hasPreprocessorErrors = errors; }
+    bool HasPreprocessorErrors() const
+    {
+        return m_hasPreprocessorErrors;
+    }
+    void SetPreprocessorErrors(bool errors)
+    {
+        m_hasPreprocessorErrors = errors;
+    }
     // By the line of the expanded text.
     std::map<int, QString> GetIncludeDirectiveErrorMessageAndLine() const
     {
@@ -312,7 +289,10 @@ public:
     // The first message of a line stays.
     void SetIncludeDirectiveErrorMessageAndLine(const QString& message, int line);
     // Folders for included files, separated by ";".
-    void SetDatasourceSearchPath(const QString& path) { m_datasourceSearchPath = path; }
+    void SetDatasourceSearchPath(const QString& path)
+    {
+        m_datasourceSearchPath = path;
+    }
 
 protected:
     int OnCreate(CCreateContext* context); // 0, or -1 if there is no window
@@ -412,6 +392,7 @@ private:
     void ForgetStaleHandles();
     void GotoBookmark(int line);
 
+    QPoint MenuPlace(CPoint point);
     void ApplyDefaultEncoding();
     void ApplyColorMaxSize();
     // Chooses a printer and begins a document on it. Not 1 if the user thought better of it.

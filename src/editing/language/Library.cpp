@@ -41,6 +41,8 @@ Attached& Library()
 
 [[maybe_unused]] const Attached& g_attachedAtLoad = Library();
 
+void (*g_preferencesDialog)() = nullptr;
+
 } // namespace
 
 CConfigFile* GetConfigFile()
@@ -51,6 +53,18 @@ CConfigFile* GetConfigFile()
 CFileTypeManager* GetFileTypeManager()
 {
     return &Library().languages;
+}
+
+void OnConfigurePreferences()
+{
+    if (g_preferencesDialog)
+        g_preferencesDialog();
+    GetFileTypeManager()->Init(GetConfigFile());
+}
+
+void SetPreferencesDialog(void (*run)())
+{
+    g_preferencesDialog = run;
 }
 
 Startup GetStartup()

@@ -27,4 +27,10 @@ struct Startup
 };
 ZN_API Startup GetStartup();
 
+// Runs the dialog of the preferences, and takes the list of languages anew whatever came of it.
+ZN_API void OnConfigurePreferences();
+
+// The dialog, which the room that has it sets; null: there is none, and nothing is asked.
+ZN_API void SetPreferencesDialog(void (*run)());
+
 } // namespace zncoreeditor

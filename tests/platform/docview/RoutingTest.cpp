@@ -1,11 +1,11 @@
 // Which way a command goes, and what menus show of it.
 #include "DocViewFixture.h"
 
-#include "platform/windows/ActionUI.h"
 #include "platform/docview/CreateContext.h"
 #include "platform/docview/LabelUI.h"
 #include "platform/system/Shell.h"
 #include "platform/windows/Accelerators.h"
+#include "platform/windows/ActionUI.h"
 
 #include <QAction>
 #include <QApplication>

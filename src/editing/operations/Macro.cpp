@@ -1,0 +1,88 @@
+// The macro of the process, and CZNCoreEditorControlEx: playing one.
+#include "editing/operations/Macro.h"
+
+#include "editing/ZNCoreEditorControlEx.h"
+
+#include <memory>
+
+namespace {
+
+constexpr int kReplaceSel = 2170; // how the engine reports a typed character
+
+MacroHolder* s_macroHead = nullptr;
+MacroHolder* s_macroTail = nullptr; // null: to be looked for
+int s_macroRecording = 0;
+
+// A recording of hours is not walked at each message.
+MacroHolder* Tail()
+{
+    if (!s_macroTail)
+        s_macroTail = s_macroHead;
+    while (s_macroTail && s_macroTail->m_next)
+        s_macroTail = s_macroTail->m_next;
+    return s_macroTail;
+}
+
+} // namespace
+
+// From the front, so that a long macro does not fill the stack.
+MacroHolder::~MacroHolder()
+{
+    while (m_next) {
+        const std::unique_ptr<MacroHolder> first(m_next);
+        m_next = std::exchange(first->m_next, nullptr);
+    }
+}
+
+MacroHolder* GetMacroHead()
+{
+    return s_macroHead;
+}
+
+void SetMacroHead(MacroHolder* head)
+{
+    s_macroHead = head;
+    s_macroTail = nullptr;
+}
+
+int IsMacroRecording()
+{
+    return s_macroRecording;
+}
+
+void SetMacroRecording(int recording)
+{
+    s_macroRecording = recording;
+}
+
+void FreeMacro()
+{
+    delete s_macroHead;
+    SetMacroHead(nullptr);
+}
+
+void AppendToMacro(int message, WPARAM wParam, LPARAM lParam)
+{
+    auto* node = new MacroHolder;
+    node->m_message = message;
+    node->m_wParam = wParam;
+    node->m_lParam = lParam;
+    if (message == kReplaceSel && lParam) {
+        const auto* text = reinterpret_cast<const char16_t*>(lParam);
+        if (text[0] && !text[1])
+            node->m_text[0] = text[0];
+    }
+    if (MacroHolder* tail = Tail())
+        tail->m_next = node;
+    else
+        s_macroHead = node;
+    s_macroTail = node;
+}
+
+// Whatever the message, the node's own text goes along: what needs another gets an empty one.
+void CZNCoreEditorControlEx::PerformMacro(MacroHolder* node)
+{
+    for (; node; node = node->m_next)
+        Call(static_cast<UINT>(node->m_message), node->m_wParam,
+             reinterpret_cast<LPARAM>(node->m_text), 1);
+}
