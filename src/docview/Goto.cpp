@@ -1,5 +1,6 @@
 #include "docview/Goto.h"
 
+#include "common/TextUtil.h"
 #include "docview/ZNCoreEditorView.h"
 #include "editing/FindDialogs.h"
 
@@ -9,24 +10,6 @@
 #include <QPushButton>
 
 namespace {
-
-// The digits that the text begins with, behind blanks and a sign; 0 for none. What no int holds
-// becomes the last one that it does.
-int NumberAtStart(const QString& text)
-{
-    qsizetype at = 0;
-    while (at < text.size() && text[at].isSpace())
-        ++at;
-    const bool isNegative = at < text.size() && text[at] == u'-';
-    if (at < text.size() && (isNegative || text[at] == u'+'))
-        ++at;
-    constexpr long kLargest = 0x7FFFFFFF;
-    constexpr int kBase = 10;
-    long number = 0;
-    for (; at < text.size() && text[at] >= u'0' && text[at] <= u'9'; ++at)
-        number = std::min(number * kBase + (text[at].unicode() - u'0'), kLargest);
-    return static_cast<int>(isNegative ? -number : number);
-}
 
 void AskForLine(HWND parent, int line, int lineCount)
 {
@@ -72,7 +55,7 @@ bool CGoto::OnInitDialog()
 // Lines that the text has not are the engine's to refuse.
 void CGoto::OnOK()
 {
-    const int line = NumberAtStart(GetDlgItem<QLineEdit>(kLine)->text());
+    const int line = CTextUtil().TextToInt(GetDlgItem<QLineEdit>(kLine)->text());
     EndDialog(IDOK);
     auto* view = dynamic_cast<CZNCoreEditorView*>(m_view);
     if (!view || !view->GetSafeHwnd())

@@ -3,6 +3,7 @@
 
 #include "control/EngineRecords.h"
 #include "docview/ZNCoreEditorDoc.h"
+#include "editing/operations/Macro.h"
 #include "platform/windows/Mouse.h"
 
 #include <algorithm>
@@ -39,6 +40,8 @@ int CZNCoreEditorView::OnNotify(WPARAM wParam, LPARAM lParam, LRESULT* result)
             document->DocumentChanged();
         return 1;
     case notify::MacroRecord:
+        AppendToMacro(record.message, record.wParam, record.lParam);
+        return 1;
     case notify::UserListSelection:
         return 1;
     default:

@@ -2,17 +2,20 @@
 // between what the host commands, what the engine tells, and the document that knows the file.
 #pragma once
 
+#include "common/TextUtil.h"
 #include "editing/ZNCoreEditorControlEx.h"
 #include "platform/docview/View.h"
 #include "platform/windows/Accelerators.h"
 
 #include <QString>
+#include <QStringList>
 
 #include <map>
 #include <string>
 #include <vector>
 
 class CZNCoreEditorDoc;
+struct AutoCompleteConfig;
 struct SCROLLINFO;
 
 // Without a document, or with one of another class, everything that needs one does nothing.
@@ -71,6 +74,18 @@ public:
     void FindIncrementalReverse();
     void StopIncrementalSearch(); // the text is as writable as it was before the search
 
+    // Puts a template in place of the selection, which comes back at the template's "^!", in one
+    // undo step. "^#" and "#^" enclose what the user is asked for; an answer that is refused costs
+    // its line. The lines are joined by line feeds, whatever the text has, and stand below the
+    // caret's column. An empty last line is taken off the array.
+    void InsertStringArray(QStringList& lines);
+    // The line with the user's answers; empty if one was refused or a marker is not closed.
+    QString GetInputValues(const char16_t* text);
+
+    // The macro of the process (Macro.h)
+    int IsRecording() const; // in whichever view
+    int CanPlay() const;     // not while one is recorded
+
     // Commands and their rules, one pair for each row of the table
 #define ZN_COMMAND(id, handler, action, update, rule)                                              \
     void handler();                                                                                \
@@ -90,6 +105,7 @@ public:
 
     // For a host's own numbers; no table here has them.
     void OnEditClear();
+    void OnEditCodecomplete();
     void OnUpdateLineCol(CCmdUI& ui); // "Ln 1, Col 1"
 
 protected:
@@ -101,6 +117,14 @@ protected:
     void OnSetFocus(HWND previous);
     LRESULT OnMouseWheel(UINT flags, int delta, CPoint point);
     void OnContextMenu(CWnd* window, CPoint point);
+    // The words of the text that begin with the word, whatever their case, put behind those of the
+    // list; the one at the caret is left out. Of a word its first 77 units.
+    void GetWordsNear(const char16_t* word, int length, QStringList& list);
+    // What OnEditCodelist has found, for a host to show; does nothing here.
+    virtual void ShowCodeList(const AutoCompleteConfig& config,
+                              const std::vector<QString>& candidates);
+    void DoAutoComplete();
+    void CodeFillUp(const char16_t* text); // does nothing
     LRESULT OnEditChange(WPARAM wParam, LPARAM lParam);
     // What the engine asks and tells of a scroll bar. flags: kScrollVertical, kScrollRedraw.
     LRESULT OnGetScrollInfoMsg(SCROLLINFO* record, LPARAM flags);
@@ -114,6 +138,7 @@ protected:
     const CommandMap& GetCommandMap() const override;
 
     CZNCoreEditorControlEx m_coreEditor;
+    CTextUtil m_textUtil;
     int m_initialized = 0; // the document's contents have been shown
     bool m_incrementalForward = false;
     bool m_incrementalReverse = false;
@@ -143,6 +168,9 @@ private:
     void OnUpdateUi(const CZNCoreEditorDoc& document);
     bool IsBraceAt(long position);
     void UpdateLineEnd(CCmdUI& ui, int mode);
+    QStringList KeywordsLike(const QString& word);
+    void GoToCaretMarker(long start, long end);
+    void PlayMacro(int times);
     void ToggleMargin(int margin, int width);
     void RepaintNeighbours(bool isVertical);
     void ScrollByBar(UINT message, UINT code, UINT position, CWnd* bar);

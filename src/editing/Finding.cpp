@@ -31,14 +31,16 @@ void CZNCoreEditorControlEx::OnSearchFind()
 {
     IFindDialogs* dialogs = GetFindDialogs();
     if (!dialogs || !dialogs->ShowFind(*this, GetFindString(), IsInModalDialog(GetSafeHwnd())))
-        ShowMessage(GetSafeHwnd(), zncoreeditor::GetResourceLoader().LoadString(kNoFindDialog));
+        ShowMessage(GetSafeHwnd(), zncoreeditor::GetResourceLoader().LoadString(kNoFindDialog),
+                    MessageKind::Stop);
 }
 
 void CZNCoreEditorControlEx::OnSearchFindreplace()
 {
     IFindDialogs* dialogs = GetFindDialogs();
     if (!dialogs || !dialogs->ShowReplace(*this, GetFindString(), IsInModalDialog(GetSafeHwnd())))
-        ShowMessage(GetSafeHwnd(), zncoreeditor::GetResourceLoader().LoadString(kNoReplaceDialog));
+        ShowMessage(GetSafeHwnd(), zncoreeditor::GetResourceLoader().LoadString(kNoReplaceDialog),
+                    MessageKind::Stop);
 }
 
 // A match before the caret is told and not selected.

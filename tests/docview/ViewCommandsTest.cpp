@@ -110,8 +110,9 @@ constexpr Row kRows[] = {
 
 // Commands that these rows leave out: they have tests of their own, below and in those of
 // searching, opening and printing.
-const std::set<UINT> kApart = {57637, 57644, 53992, 54000, 53895, 53896, 54063, 53901, 57640,
-                               53902, 53903, 53904, 54049, 53905, 54024, 54025, 54026, 57609};
+const std::set<UINT> kApart = {57637, 57644, 53938, 53939, 53952, 53989, 53992, 54000,
+                               53895, 53896, 54063, 53901, 57640, 53902, 53903, 53904,
+                               54049, 53905, 54024, 54025, 54026, 57609};
 const std::set<UINT> kIndicators = {54003, 54006, 53893};
 
 // What a command can change.

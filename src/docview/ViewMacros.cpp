@@ -1,0 +1,70 @@
+// CZNCoreEditorView: the macro that it records and plays.
+#include "docview/ZNCoreEditorView.h"
+
+#include "docview/dialogs/InputBox.h"
+#include "editing/operations/Macro.h"
+
+int CZNCoreEditorView::IsRecording() const
+{
+    return IsMacroRecording();
+}
+
+int CZNCoreEditorView::CanPlay() const
+{
+    return GetMacroHead() && !IsMacroRecording() ? 1 : 0;
+}
+
+// The flag is the process's: it may have been set for another view, which is gone.
+void CZNCoreEditorView::OnToolsRecordmacro()
+{
+    if (IsMacroRecording()) {
+        m_coreEditor.StopRecord(1);
+        SetMacroRecording(0);
+        return;
+    }
+    FreeMacro();
+    m_coreEditor.StartRecord(1);
+    SetMacroRecording(1);
+}
+
+void CZNCoreEditorView::OnToolsPlayrecording()
+{
+    if (CanPlay())
+        PlayMacro(1);
+}
+
+void CZNCoreEditorView::OnToolsRepeatcommand()
+{
+    if (!GetMacroHead())
+        return;
+    CInputBox box(QStringLiteral("Enter no of times to repeat"), QString(), 0,
+                  QStringLiteral("Repeat Macro"), nullptr);
+    if (box.DoModal() == IDOK)
+        PlayMacro(m_textUtil.TextToInt(box.m_value));
+}
+
+void CZNCoreEditorView::PlayMacro(int times)
+{
+    if (times <= 0)
+        return;
+    m_coreEditor.BeginUndoAction(1);
+    for (int i = 0; i < times; ++i)
+        m_coreEditor.PerformMacro(GetMacroHead());
+    m_coreEditor.EndUndoAction(1);
+}
+
+void CZNCoreEditorView::OnUpdateToolsRecordmacro(CCmdUI& ui)
+{
+    ui.SetText(IsMacroRecording() ? QStringLiteral("Stop Record\tCtrl+Shift+R")
+                                  : QStringLiteral("Record Macro\tCtrl+Shift+R"));
+}
+
+void CZNCoreEditorView::OnUpdateToolsPlayrecording(CCmdUI& ui)
+{
+    ui.Enable(CanPlay());
+}
+
+void CZNCoreEditorView::OnUpdateToolsRepeatcommand(CCmdUI& ui)
+{
+    ui.Enable(CanPlay());
+}

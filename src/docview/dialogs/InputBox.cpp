@@ -1,0 +1,63 @@
+#include "docview/dialogs/InputBox.h"
+
+#include "platform/windows/Questions.h"
+
+#include <QDialogButtonBox>
+#include <QLabel>
+#include <QLineEdit>
+#include <QPushButton>
+#include <QVBoxLayout>
+
+namespace {
+
+constexpr int kWidestPrompt = 60; // characters, before it is broken into lines
+
+} // namespace
+
+CInputBox::CInputBox(const QString& prompt, const QString& value, int allowEmpty,
+                     const QString& title, CWnd* parent)
+    : CDialog(parent), m_value(value), m_prompt(prompt), m_allowEmpty(allowEmpty), m_title(title)
+{}
+
+void CInputBox::OnBuild(QWidget* window)
+{
+    window->setWindowTitle(m_title.isEmpty() ? QStringLiteral("Input") : m_title);
+    auto* layout = new QVBoxLayout(window);
+    auto* prompt = AddControl(kPrompt, new QLabel(m_prompt, window));
+    prompt->setTextFormat(Qt::PlainText);
+    if (m_prompt.size() > kWidestPrompt) {
+        prompt->setWordWrap(true);
+        prompt->setMinimumWidth(prompt->fontMetrics().averageCharWidth() * kWidestPrompt);
+    }
+    auto* value = AddControl(kValue, new QLineEdit(window));
+    value->setAccessibleName(m_prompt.isEmpty() ? window->windowTitle() : m_prompt);
+    auto* buttons = new QDialogButtonBox(QDialogButtonBox::Ok | QDialogButtonBox::Cancel, window);
+    AddControl(IDOK, buttons->button(QDialogButtonBox::Ok))->setDefault(true);
+    AddControl(IDCANCEL, buttons->button(QDialogButtonBox::Cancel));
+    layout->addWidget(prompt);
+    layout->addWidget(value);
+    layout->addWidget(buttons);
+}
+
+bool CInputBox::OnInitDialog()
+{
+    CDialog::OnInitDialog();
+    GetDlgItem(kValue)->setFocus();
+    return false;
+}
+
+void CInputBox::DoDataExchange(CDataExchange* exchange)
+{
+    DDX_Text(exchange, kValue, m_value);
+}
+
+void CInputBox::OnOK()
+{
+    UpdateData();
+    if (!m_allowEmpty && m_value.isEmpty()) {
+        ShowMessage(GetSafeHwnd(), m_prompt + QStringLiteral(" Cannot be empty"));
+        GetDlgItem(kValue)->setFocus();
+        return;
+    }
+    EndDialog(IDOK);
+}
