@@ -7,10 +7,10 @@
 #include "host/printing/WorkbenchPrinter.h"
 #include "host/script/NameAtCaret.h"
 #include "host/script/ScriptDoc.h"
-#include "platform/docview/ActionUI.h"
 #include "platform/docview/FrameWnd.h"
 #include "platform/docview/WinApp.h"
 #include "platform/system/Shell.h"
+#include "platform/windows/ActionUI.h"
 #include "platform/windows/Questions.h"
 
 #include <QApplication>
