@@ -62,7 +62,8 @@ const Answerers& AllAnswerers()
         for (const auto handlers :
              {TextHandlers(), CaseHandlers(), PositionHandlers(), SettingHandlers(),
               PrintHandlers(), DocumentHandlers(), ImageHandlers(), ErrorHandlers(),
-              AnalysisHandlers(), SearchHandlers(), ListHandlers(), MarginTextHandlers()}) {
+              AnalysisHandlers(), SearchHandlers(), ListHandlers(), MarginTextHandlers(),
+              LookHandlers()}) {
             for (const HandlerRow& row : handlers) {
                 Answerer& answerer = all[row.number - kFirstNumber];
                 answerer.handler = row.run;
@@ -89,7 +90,7 @@ long ClampedLine(const Raw& raw, long line)
 
 Engine::Engine(QsciScintillaBase& widget)
     : window(widget), raw(widget), text(raw), reporter(widget, raw, text), analysis(*this),
-      stored(raw, text), searcher(stored)
+      stored(raw, text), searcher(stored), looks(widget, raw, stored)
 {
     PrepareDocument();
     reporter.SetFollower([this](bool inserts, long position, long bytes) {

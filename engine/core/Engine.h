@@ -10,6 +10,7 @@
 #include "engine/core/ScriptAnalysis.h"
 #include "engine/core/WholeCharacters.h"
 #include "engine/errors/ErrorMarks.h"
+#include "engine/looks/LookPainter.h"
 #include "engine/search/Searcher.h"
 #include "engine/text/Raw.h"
 #include "engine/text/StoredText.h"
@@ -98,6 +99,7 @@ public:
     ErrorList* errors = nullptr; // of the text that the window shows
     const StoredText stored;
     search::Searcher searcher;
+    LookPainter looks;
     SearchTarget target;
     LongLines longLines{*this};
     WholeCharacters wholeCharacters{*this};

@@ -30,5 +30,6 @@ std::span<const HandlerRow> PositionHandlers();   // PositionHandlers.cpp
 std::span<const HandlerRow> SearchHandlers();     // SearchHandlers.cpp
 std::span<const HandlerRow> SettingHandlers();    // SettingHandlers.cpp
 std::span<const HandlerRow> PrintHandlers();      // Printing.cpp
+std::span<const HandlerRow> LookHandlers();       // LookHandlers.cpp
 
 } // namespace engine

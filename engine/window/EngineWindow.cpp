@@ -113,6 +113,7 @@ EngineWindow::EngineWindow(QWidget* parent) : QsciScintillaBase(parent), m_engin
     m_engine.raw.Send(Sci::SCI_SETMARGINWIDTHN, 1, 0L);
     setAccessibleName(tr("Text editor"));
     connect(this, &Sci::SCN_UPDATEUI, this, [this](int updated) {
+        m_engine.looks.Updated(updated);
         if (!(updated & Sci::SC_UPDATE_SELECTION))
             return;
         if (hasFocus()) // the method's list of candidates follows the caret
@@ -167,6 +168,8 @@ bool EngineWindow::event(QEvent* event)
 
 bool EngineWindow::viewportEvent(QEvent* event)
 {
+    if (event->type() == QEvent::Leave)
+        m_engine.looks.MouseLeft();
     return TellAfter(m_engine, [&] { return QsciScintillaBase::viewportEvent(event); });
 }
 
@@ -263,10 +266,17 @@ void EngineWindow::contextMenuEvent(QContextMenuEvent* event)
     event->accept();
 }
 
+void EngineWindow::focusInEvent(QFocusEvent* event)
+{
+    QsciScintillaBase::focusInEvent(event);
+    m_engine.looks.FocusChanged(true);
+}
+
 void EngineWindow::focusOutEvent(QFocusEvent* event)
 {
     EndComposition();
     QsciScintillaBase::focusOutEvent(event);
+    m_engine.looks.FocusChanged(false);
 }
 
 // The stock handler takes Control for columns, where Alt is the window manager's. Here Alt makes
@@ -275,6 +285,8 @@ void EngineWindow::mousePressEvent(QMouseEvent* event)
 {
     m_engine.longLines.Prepare();
     EndComposition();
+    if (m_engine.looks.MousePressed(*event))
+        return;
     const Qt::KeyboardModifiers held = event->modifiers();
     const bool isLeft = event->button() == Qt::LeftButton;
     m_addsCaret = isLeft && held == Qt::ControlModifier && m_carets.Add(event->pos());
@@ -299,6 +311,7 @@ void EngineWindow::mouseMoveEvent(QMouseEvent* event)
         m_carets.Extend(event->pos());
     else
         QsciScintillaBase::mouseMoveEvent(event);
+    m_engine.looks.MouseMoved(event->position().toPoint());
 }
 
 void EngineWindow::mouseReleaseEvent(QMouseEvent* event)
@@ -390,6 +403,11 @@ void EngineWindow::paintEvent(QPaintEvent* event)
 {
     m_engine.longLines.Prepare();
     QsciScintillaBase::paintEvent(event);
+    if (m_engine.looks.IsOn()) {
+        QPainter painter(viewport());
+        painter.setClipRegion(event->region());
+        m_engine.looks.Paint(painter, *event);
+    }
     if (m_inputMethod.IsComposing()) {
         QPainter painter(viewport());
         m_inputMethod.Draw(painter);

@@ -2,6 +2,8 @@
 // while it runs.
 #include "docview/ZNCoreEditorView.h"
 
+#include "editing/hands/Hands.h"
+
 namespace {
 
 constexpr UINT kFirstCommand = 53890;
@@ -16,7 +18,8 @@ constexpr LPARAM kWord = 0xFFFF;
 int CZNCoreEditorView::PreTranslateMessage(MSG* message)
 {
     if (message->message >= WM_KEYFIRST && message->message <= WM_KEYLAST && m_accelerators &&
-        TranslateAccelerator(GetSafeHwnd(), m_accelerators, *message))
+        (TranslateAccelerator(GetSafeHwnd(), m_accelerators, *message) ||
+         TranslateAccelerator(GetSafeHwnd(), HandKeyTable(), *message)))
         return 1;
     if (!IsSearching())
         return CView::PreTranslateMessage(message);
@@ -34,6 +37,8 @@ int CZNCoreEditorView::OnCmdMsg(UINT id, int code, void* extra, CommandHandlerIn
 {
     if (code == CN_COMMAND && !extra)
         HandleCommand(id);
+    if (FindHand(id))
+        return m_coreEditor.OnCmdMsg(id, code, extra, info);
     return CView::OnCmdMsg(id, code, extra, info);
 }
 
@@ -44,7 +49,7 @@ bool CZNCoreEditorView::HandleCommand(UINT id)
         return false;
     if (id == kIncrementalForward || id == kIncrementalReverse)
         return true;
-    if (id >= kFirstCommand && id <= kLastCommand)
+    if ((id >= kFirstCommand && id <= kLastCommand) || FindHand(id))
         StopIncrementalSearch();
     return false;
 }

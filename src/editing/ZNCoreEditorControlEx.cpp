@@ -1,6 +1,8 @@
 #include "editing/ZNCoreEditorControlEx.h"
 
+#include "control/EngineLooks.h"
 #include "editing/FindDialogs.h"
+#include "editing/hands/Hands.h"
 #include "editing/language/KeyTable.h"
 #include "platform/base/Units.h"
 #include "platform/services/OptionsServer.h"
@@ -22,7 +24,10 @@ CZNCoreEditorControlEx::CZNCoreEditorControlEx(CZNCoreEditorControlExCallback* c
     : m_pCallback(callback), m_backgroundColor(GetSysColor(COLOR_WINDOW))
 {}
 
-CZNCoreEditorControlEx::~CZNCoreEditorControlEx() = default;
+CZNCoreEditorControlEx::~CZNCoreEditorControlEx()
+{
+    delete m_desktopWatch.data(); // the window may stay
+}
 
 int CZNCoreEditorControlEx::OnCreate(CCreateContext* /*context*/)
 {
@@ -60,7 +65,8 @@ void CZNCoreEditorControlEx::ApplyDefaultEncoding()
 int CZNCoreEditorControlEx::PreTranslateMessage(MSG* message)
 {
     if (m_hAccelerators && message->message >= WM_KEYFIRST && message->message <= WM_KEYLAST &&
-        TranslateAccelerator(GetSafeHwnd(), m_hAccelerators, *message))
+        (TranslateAccelerator(GetSafeHwnd(), m_hAccelerators, *message) ||
+         TranslateAccelerator(GetSafeHwnd(), HandKeyTable(), *message)))
         return 1;
     return CZNCoreEditorControl::PreTranslateMessage(message);
 }
@@ -89,6 +95,14 @@ int CZNCoreEditorControlEx::HandleNotify(LPARAM lParam)
     case notify::Modified:
         if (record.linesAdded != 0 && m_visibleLineNumber)
             SetLineNumberWidth();
+        if (!m_scheme.isEmpty())
+            MarkChangedLines(record);
+        break;
+    case notify::SavePointReached:
+        if (m_isSaving)
+            MarkChangedAsSaved();
+        else if (!m_scheme.isEmpty())
+            MarkerDeleteAll(engine::lookmarker::kLineChanged, 1);
         break;
     case notify::Zoom:
         SetLineNumberWidth();

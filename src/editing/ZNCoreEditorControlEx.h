@@ -56,6 +56,9 @@ public:
     int HandleNotify(LPARAM lParam) override;
     using CZNCoreEditorControl::SetFocus;
     CWnd* SetFocus() override;
+    using CZNCoreEditorControl::OnCmdMsg;
+    // The commands of the tables, and those of hands/Hands.h.
+    int OnCmdMsg(UINT id, int code, void* extra, CommandHandlerInfo* info) override;
     void OnFillBackground(CDC* dc);
 
     // Files
@@ -193,6 +196,8 @@ public:
     void SelectLine(); // with its line end
     void SelectPara();
     void SwapAnchor();
+    // Those that grew into the one that stands: anchor and caret, the last one behind.
+    std::vector<CharacterRange>& GrownSelections() { return m_grownSelections; }
     void SelectionFromTarget();
     // The selected name of a file, or the one around the caret, as far as 999 units.
     QString SelectionFilename();
@@ -394,10 +399,15 @@ private:
 
     QPoint MenuPlace(CPoint point);
     void ApplyDefaultEncoding();
+    void MarkChangedLines(const SCNotification& record);
+    void MarkChangedAsSaved();
+    void ForgetChangedLines();
     void ApplyColorMaxSize();
     // Chooses a printer and begins a document on it. Not 1 if the user thought better of it.
     int BeginPrintJob(CPrinterDC& dc, CPrintInfo& info, int& goesOn);
 
+    std::vector<CharacterRange> m_grownSelections;
+    bool m_isSaving = false;
     QString m_scheme;
     QPointer<QObject> m_desktopWatch; // goes with the window
     std::size_t m_nextAsked = 0;      // of the bookmarks' handles

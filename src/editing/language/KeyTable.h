@@ -1,6 +1,7 @@
 // The key table of an editor that stands alone, and of a view around one.
 #pragma once
 
+#include "common/Export.h"
 #include "platform/windows/Accelerators.h"
 
-HACCEL EditorKeyTable();
+ZN_API HACCEL EditorKeyTable();

@@ -1,6 +1,7 @@
 // CZNCoreEditorControlEx: the colours of a scheme, over those of the language's settings.
 #include "editing/ZNCoreEditorControlEx.h"
 
+#include "control/EngineLooks.h"
 #include "editing/language/FileTypeManager.h"
 #include "editing/language/Library.h"
 #include "editing/looks/DesktopWatch.h"
@@ -67,6 +68,35 @@ void ApplyStyles(const ColourScheme& scheme, CSyntaxFile& syntax, CZNCoreEditorC
     }
 }
 
+// The engine draws these itself, sharp at every scale.
+void TakeIcons(const ColourScheme& scheme, CZNCoreEditorControlEx& control)
+{
+    constexpr int kEmpty = 5; // Scintilla's number of the symbol
+    constexpr int kFirstFolder = 25;
+    constexpr int kLastFolder = 31;
+    namespace marker = engine::lookmarker;
+    for (const int each : {marker::kBookmark, marker::kError, marker::kWarning,
+                           marker::kLineChanged, marker::kLineSaved})
+        control.MarkerDefine(each, kEmpty, 1);
+    for (int folder = kFirstFolder; folder <= kLastFolder; ++folder)
+        control.MarkerDefine(folder, kEmpty, 1);
+    engine::Looks looks;
+    looks.margin = scheme.Of(Drawn::Margin);
+    looks.fold = scheme.Of(Drawn::Fold);
+    looks.foldHot = scheme.Of(Drawn::FoldHot);
+    looks.foldedLine = scheme.Of(Drawn::FoldedLine);
+    looks.bookmark = scheme.Of(Drawn::Bookmark);
+    looks.error = scheme.Of(Drawn::Error);
+    looks.warning = scheme.Of(Drawn::Warning);
+    looks.lineChanged = scheme.Of(Drawn::LineChanged);
+    looks.lineSaved = scheme.Of(Drawn::LineSaved);
+    looks.occurrence = scheme.Of(Drawn::Occurrence);
+    looks.match = scheme.Of(Drawn::Match);
+    looks.selection = scheme.Of(Drawn::Selection);
+    looks.selectionWithoutFocus = scheme.Of(Drawn::SelectionWithoutFocus);
+    control.Call(engine::kSetLooks, 0, reinterpret_cast<LPARAM>(&looks), 1);
+}
+
 } // namespace
 
 void CZNCoreEditorControlEx::SetScheme(const QString& name)
@@ -74,6 +104,10 @@ void CZNCoreEditorControlEx::SetScheme(const QString& name)
     m_scheme = name;
     if (!name.isEmpty() && !m_desktopWatch && GetSafeHwnd())
         m_desktopWatch = new DesktopWatch(*GetSafeHwnd(), [this] { ApplyScheme(); });
+    if (name.isEmpty() && GetSafeHwnd()) {
+        Call(engine::kSetLooks, 0, 0, 1);
+        SetMarginLeft(1, 1);
+    }
     if (name.isEmpty())
         InitializeLanguage(m_currentLanguage, 1);
     else
@@ -107,5 +141,8 @@ void CZNCoreEditorControlEx::ApplyScheme(const ColourScheme& scheme, CSyntaxFile
     SetSelBack(1, scheme.Of(Drawn::Selection), 1);
     SetEdgeColor(scheme.Of(Drawn::RightEdge), 1);
     SetWhitespaceFore(1, scheme.Of(Drawn::Whitespace), 1);
+    constexpr int kAir = 6; // pixels between the margins and the text
+    SetMarginLeft(kAir, 1);
+    TakeIcons(scheme, *this);
     SetLineNumberWidth();
 }

@@ -29,7 +29,10 @@ bool IsPair(char16_t first, char16_t second)
 bool CZNCoreEditorControlEx::OpenFile(const char16_t* path,
                                       FileEncodeConverter::encodingType encoding)
 {
-    return CZNCoreEditorControl::OpenFile(path, encoding);
+    const bool opened = CZNCoreEditorControl::OpenFile(path, encoding);
+    if (opened && !m_scheme.isEmpty())
+        ForgetChangedLines();
+    return opened;
 }
 
 bool CZNCoreEditorControlEx::SaveFile(const char16_t* path, bool setSavePoint)
@@ -52,9 +55,11 @@ bool CZNCoreEditorControlEx::SaveFile(const char16_t* path, bool setSavePoint)
             EnsureFinalNewLine();
         EndUndoAction(1);
     }
+    m_isSaving = setSavePoint; // the save point that comes is that of the file
     const bool saved = CZNCoreEditorControl::SaveFile(path, setSavePoint);
     if (setSavePoint && saved)
         SetSavePoint(1);
+    m_isSaving = false;
     SetSelectionStart(PositionFromLine(start.line, 1) + start.column, 1);
     SetSelectionEnd(
         std::min<long>(PositionFromLine(end.line, 1) + end.column, GetLineEndPosition(end.line, 1)),

@@ -1,0 +1,36 @@
+// Messages of what the engine draws by itself (control/EngineLooks.h).
+#include "control/EngineLooks.h"
+
+#include "engine/core/Engine.h"
+#include "engine/core/Handlers.h"
+
+namespace engine {
+namespace {
+
+LRESULT SetLooks(Engine& engine, WPARAM, LPARAM lParam)
+{
+    engine.looks.Set(reinterpret_cast<const Looks*>(lParam));
+    engine.looks.SetAnyCase(engine.colouring->IsSql());
+    return 0;
+}
+
+LRESULT ShowMatches(Engine& engine, WPARAM wParam, LPARAM lParam)
+{
+    const Utf8Text sought(TerminatedText(reinterpret_cast<const char16_t*>(lParam)));
+    engine.looks.ShowMatches(std::string(sought.View()), static_cast<int>(wParam));
+    return 0;
+}
+
+constexpr HandlerRow kRows[] = {
+    {kSetLooks, SetLooks},
+    {kShowMatches, ShowMatches},
+};
+
+} // namespace
+
+std::span<const HandlerRow> LookHandlers()
+{
+    return kRows;
+}
+
+} // namespace engine

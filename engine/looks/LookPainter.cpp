@@ -1,0 +1,279 @@
+#include "engine/looks/LookPainter.h"
+
+#include "engine/looks/Icons.h"
+
+#include <QMouseEvent>
+#include <QPaintEvent>
+#include <QPainter>
+#include <QScrollBar>
+
+#include <algorithm>
+#include <chrono>
+
+namespace engine {
+namespace {
+
+using Sci = QsciScintillaBase;
+using WPARAM = std::uintptr_t;
+
+constexpr int kOccurrenceIndicator = 28;
+constexpr int kMatchIndicator = 29;
+constexpr int kNumberMargin = 1;
+constexpr int kSymbolMargin = 2;
+constexpr int kFoldMargin = 3;
+constexpr int kLastMargin = 4;
+constexpr std::chrono::milliseconds kRest(350);
+constexpr long kLongestWord = 200; // bytes
+constexpr unsigned Bit(int marker)
+{
+    return 1U << marker;
+}
+
+} // namespace
+
+LookPainter::LookPainter(QsciScintillaBase& window, const Raw& raw, const StoredText& text)
+    : m_window(window), m_raw(raw), m_text(text), m_occurrences(raw, text, kOccurrenceIndicator,
+                                                                [this] {
+                                                                    if (m_marks)
+                                                                        m_marks->Soon();
+                                                                }),
+      m_matches(raw, text, kMatchIndicator, [this] {
+          if (m_marks)
+              m_marks->Soon();
+      })
+{
+    m_rest.setSingleShot(true);
+    QObject::connect(&m_rest, &QTimer::timeout, &window, [this] { LookForOccurrences(); });
+}
+
+QColor LookPainter::Colour(COLORREF colour) const
+{
+    return QColor(static_cast<int>(colour & 0xFF), static_cast<int>(colour >> 8 & 0xFF),
+                  static_cast<int>(colour >> 16 & 0xFF));
+}
+
+void LookPainter::Set(const Looks* looks)
+{
+    m_looks = looks ? std::optional<Looks>(*looks) : std::nullopt;
+    m_window.viewport()->setMouseTracking(true);
+    if (!m_looks) {
+        m_occurrences.Clear();
+        m_matches.Clear();
+        delete m_marks;
+        m_marks = nullptr;
+        m_window.viewport()->update();
+        return;
+    }
+    const auto indicator = [this](int number, COLORREF colour, int alpha, int outline) {
+        const auto n = static_cast<WPARAM>(number);
+        m_raw.Send(Sci::SCI_INDICSETSTYLE, n, long{Sci::INDIC_STRAIGHTBOX});
+        m_raw.Send(Sci::SCI_INDICSETFORE, n, static_cast<std::intptr_t>(colour));
+        m_raw.Send(Sci::SCI_INDICSETALPHA, n, alpha);
+        m_raw.Send(Sci::SCI_INDICSETOUTLINEALPHA, n, outline);
+        m_raw.Send(Sci::SCI_INDICSETUNDER, n, 1);
+    };
+    indicator(kOccurrenceIndicator, m_looks->occurrence, 45, 90);
+    indicator(kMatchIndicator, m_looks->match, 75, 180);
+    if (!m_marks)
+        m_marks = new ScrollMarks(*m_window.verticalScrollBar(), m_raw);
+    m_marks->SetLayers({
+        {Colour(m_looks->lineSaved), lookmarker::kLineSaved, nullptr, true},
+        {Colour(m_looks->lineChanged), lookmarker::kLineChanged, nullptr, true},
+        {Colour(m_looks->occurrence), -1, &m_occurrences.Lines()},
+        {Colour(m_looks->match), -1, &m_matches.Lines()},
+        {Colour(m_looks->bookmark), lookmarker::kBookmark},
+        {Colour(m_looks->warning), lookmarker::kWarning},
+        {Colour(m_looks->error), lookmarker::kError},
+    });
+    FocusChanged(m_window.hasFocus());
+    m_window.viewport()->update();
+}
+
+void LookPainter::ShowMatches(const std::string& sought, int flags)
+{
+    m_matches.Show(IsOn() ? sought : std::string(), flags);
+}
+
+LookPainter::Margins LookPainter::Places() const
+{
+    const auto width = [this](int margin) {
+        return static_cast<int>(m_raw.Send(Sci::SCI_GETMARGINWIDTHN, static_cast<WPARAM>(margin)));
+    };
+    Margins places{};
+    places.symbols = width(0) + width(kNumberMargin);
+    places.folds = places.symbols + width(kSymbolMargin);
+    places.text = places.folds;
+    for (int margin = kFoldMargin; margin <= kLastMargin; ++margin)
+        places.text += width(margin);
+    return places;
+}
+
+// A line that is wrapped has its icons in its first row.
+void LookPainter::Paint(QPainter& painter, const QPaintEvent& event)
+{
+    if (!m_looks)
+        return;
+    painter.setRenderHint(QPainter::Antialiasing);
+    const Margins places = Places();
+    const auto height = static_cast<int>(m_raw.Send(Sci::SCI_TEXTHEIGHT));
+    const long top = static_cast<long>(m_raw.Send(Sci::SCI_GETFIRSTVISIBLELINE));
+    const long first = top + std::max(0, event.rect().top()) / height;
+    const long last = top + event.rect().bottom() / height;
+    long before = -1;
+    for (long row = first; row <= last; ++row) {
+        const auto line =
+            static_cast<long>(m_raw.Send(Sci::SCI_DOCLINEFROMVISIBLE, static_cast<WPARAM>(row)));
+        const bool isFirstRow =
+            m_raw.Send(Sci::SCI_VISIBLEFROMDOCLINE, static_cast<WPARAM>(line)) == row;
+        if (line == before || !isFirstRow)
+            continue;
+        before = line;
+        PaintLine(painter, places, line, static_cast<int>(row - top) * height, height);
+    }
+}
+
+void LookPainter::PaintLine(QPainter& painter, const Margins& places, long line, int top,
+                            int height)
+{
+    const auto marks =
+        static_cast<unsigned>(m_raw.Send(Sci::SCI_MARKERGET, static_cast<WPARAM>(line)));
+    const int symbolWidth = places.folds - places.symbols;
+    const qreal side = std::min(height * 0.72, symbolWidth * 0.72);
+    const QPointF middle(places.symbols + symbolWidth / 2.0, top + height / 2.0);
+    if (symbolWidth > 0 && marks & Bit(lookmarker::kError))
+        icons::Error(painter, middle, side, Colour(m_looks->error));
+    else if (symbolWidth > 0 && marks & Bit(lookmarker::kWarning))
+        icons::Warning(painter, middle, side, Colour(m_looks->warning));
+    else if (symbolWidth > 0 && marks & Bit(lookmarker::kBookmark))
+        icons::Bookmark(painter, middle, side, Colour(m_looks->bookmark));
+    constexpr int kBar = 3;
+    const bool isChanged = marks & Bit(lookmarker::kLineChanged);
+    if ((isChanged || marks & Bit(lookmarker::kLineSaved)) && places.text > kBar)
+        painter.fillRect(places.text - kBar, top, kBar, height,
+                         Colour(isChanged ? m_looks->lineChanged : m_looks->lineSaved));
+    PaintFold(painter, places, line, top, height);
+}
+
+void LookPainter::PaintFold(QPainter& painter, const Margins& places, long line, int top,
+                            int height)
+{
+    const auto level = m_raw.Send(Sci::SCI_GETFOLDLEVEL, static_cast<WPARAM>(line));
+    if (!(level & Sci::SC_FOLDLEVELHEADERFLAG))
+        return;
+    const bool isOpen = m_raw.Send(Sci::SCI_GETFOLDEXPANDED, static_cast<WPARAM>(line)) != 0;
+    const QColor colour = Colour(!isOpen || m_isFoldMarginHot ? m_looks->foldHot : m_looks->fold);
+    constexpr int kForBar = 3;
+    const int width = places.text - places.folds - kForBar;
+    if (width > 0)
+        icons::Chevron(painter, QPointF(places.folds + width / 2.0, top + height / 2.0),
+                       std::min(height * 0.85, width + 2.0), colour, isOpen);
+    const QRect mark = HiddenMark(line);
+    if (mark.isEmpty())
+        return;
+    painter.setPen(QPen(Colour(m_looks->fold), 1));
+    painter.setBrush(Colour(m_looks->foldedLine));
+    painter.drawRoundedRect(QRectF(mark).adjusted(0.5, 0.5, -0.5, -0.5), 3, 3);
+    painter.setPen(Qt::NoPen);
+    painter.setBrush(Colour(m_looks->foldHot));
+    for (const int dot : {-1, 0, 1})
+        painter.drawEllipse(QRectF(mark).center() + QPointF(dot * mark.width() / 4.0, 0),
+                            height / 14.0, height / 14.0);
+}
+
+// Behind the text of a line that is folded, as a button that opens it.
+QRect LookPainter::HiddenMark(long line) const
+{
+    const auto number = static_cast<WPARAM>(line);
+    if (!(m_raw.Send(Sci::SCI_GETFOLDLEVEL, number) & Sci::SC_FOLDLEVELHEADERFLAG) ||
+        m_raw.Send(Sci::SCI_GETFOLDEXPANDED, number))
+        return {};
+    const auto end = m_raw.Send(Sci::SCI_GETLINEENDPOSITION, number);
+    const auto x = static_cast<int>(m_raw.Send(Sci::SCI_POINTXFROMPOSITION, 0, end));
+    const auto y = static_cast<int>(m_raw.Send(Sci::SCI_POINTYFROMPOSITION, 0, end));
+    const auto height = static_cast<int>(m_raw.Send(Sci::SCI_TEXTHEIGHT));
+    return {x + height / 3, y + height / 5, height * 5 / 4, height * 3 / 5 + 1};
+}
+
+void LookPainter::MouseMoved(const QPoint& place)
+{
+    if (!m_looks)
+        return;
+    const Margins places = Places();
+    const bool isHot = place.x() >= places.folds && place.x() < places.text;
+    if (std::exchange(m_isFoldMarginHot, isHot) != isHot)
+        m_window.viewport()->update(places.folds, 0, places.text - places.folds,
+                                    m_window.viewport()->height());
+}
+
+void LookPainter::MouseLeft()
+{
+    MouseMoved({-1, -1});
+}
+
+bool LookPainter::MousePressed(const QMouseEvent& event)
+{
+    if (!m_looks || event.button() != Qt::LeftButton)
+        return false;
+    const QPoint place = event.position().toPoint();
+    const auto height = static_cast<int>(m_raw.Send(Sci::SCI_TEXTHEIGHT));
+    const auto row = m_raw.Send(Sci::SCI_GETFIRSTVISIBLELINE) + place.y() / height;
+    const auto line =
+        static_cast<long>(m_raw.Send(Sci::SCI_DOCLINEFROMVISIBLE, static_cast<WPARAM>(row)));
+    if (place.x() < Places().text || !HiddenMark(line).contains(place))
+        return false;
+    m_raw.Send(Sci::SCI_TOGGLEFOLD, static_cast<WPARAM>(line));
+    return true;
+}
+
+void LookPainter::FocusChanged(bool hasFocus)
+{
+    if (m_looks)
+        m_raw.Send(Sci::SCI_SETSELBACK, 1,
+                   static_cast<std::intptr_t>(hasFocus ? m_looks->selection
+                                                       : m_looks->selectionWithoutFocus));
+}
+
+void LookPainter::Updated(int updated)
+{
+    if (!m_looks)
+        return;
+    if (updated & Sci::SC_UPDATE_V_SCROLL) {
+        m_occurrences.Refresh();
+        m_matches.Refresh();
+    }
+    if (updated & (Sci::SC_UPDATE_SELECTION | Sci::SC_UPDATE_CONTENT))
+        m_rest.start(kRest);
+    if (updated & Sci::SC_UPDATE_CONTENT)
+        m_marks->Soon();
+}
+
+void LookPainter::TextChanged()
+{
+    if (m_looks)
+        m_matches.SearchAnewSoon();
+}
+
+// The word at the caret, or the one that is selected, if there is another of it in sight or below.
+void LookPainter::LookForOccurrences()
+{
+    if (!m_looks)
+        return;
+    const long caret = static_cast<long>(m_raw.Send(Sci::SCI_GETCURRENTPOS));
+    const long start =
+        static_cast<long>(m_raw.Send(Sci::SCI_WORDSTARTPOSITION, static_cast<WPARAM>(caret), 1));
+    const long end =
+        static_cast<long>(m_raw.Send(Sci::SCI_WORDENDPOSITION, static_cast<WPARAM>(caret), 1));
+    const long from = static_cast<long>(m_raw.Send(Sci::SCI_GETSELECTIONSTART));
+    const long to = static_cast<long>(m_raw.Send(Sci::SCI_GETSELECTIONEND));
+    const bool isOfTheWord = from == to || (from >= start && to <= end);
+    const bool isWord = end - start > 1 && end - start <= kLongestWord && isOfTheWord;
+    std::string word;
+    if (isWord)
+        word = m_raw.Bytes(start, end);
+    const int flags = search::flag::WholeWord | (m_anyCase ? 0 : search::flag::MatchCase);
+    if (word == m_occurrences.Sought())
+        m_occurrences.SearchAnewSoon();
+    m_occurrences.Show(std::move(word), flags);
+}
+
+} // namespace engine

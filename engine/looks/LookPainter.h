@@ -1,0 +1,67 @@
+// LookPainter: what the engine draws by itself beside and over its text (control/EngineLooks.h),
+// and what the mouse finds there. It works in the engine's window; positions count bytes.
+#pragma once
+
+#include "control/EngineLooks.h"
+#include "engine/looks/Highlights.h"
+#include "engine/looks/ScrollMarks.h"
+#include "engine/text/Raw.h"
+#include "engine/text/StoredText.h"
+
+#include <QTimer>
+
+#include <optional>
+
+class QMouseEvent;
+class QPaintEvent;
+class QPainter;
+
+namespace engine {
+
+class LookPainter
+{
+public:
+    LookPainter(QsciScintillaBase& window, const Raw& raw, const StoredText& text);
+
+    void Set(const Looks* looks); // null: nothing more
+    bool IsOn() const { return m_looks.has_value(); }
+    void ShowMatches(const std::string& sought, int flags); // UTF-8; empty: none
+    // Words that differ in their letters' case are the same.
+    void SetAnyCase(bool anyCase) { m_anyCase = anyCase; }
+
+    // The window's events, behind the stock engine's part of them but for the press.
+    void Paint(QPainter& painter, const QPaintEvent& event);
+    void MouseMoved(const QPoint& place);
+    void MouseLeft();
+    bool MousePressed(const QMouseEvent& event); // true: that was all
+    void FocusChanged(bool hasFocus);
+    void Updated(int updated); // SCN_UPDATEUI
+    void TextChanged();
+
+private:
+    struct Margins
+    {
+        int symbols; // left edges
+        int folds;
+        int text;
+    };
+    Margins Places() const;
+    void PaintLine(QPainter& painter, const Margins& places, long line, int top, int height);
+    void PaintFold(QPainter& painter, const Margins& places, long line, int top, int height);
+    QRect HiddenMark(long line) const; // of a folded line; empty for another
+    void LookForOccurrences();
+    QColor Colour(COLORREF colour) const;
+
+    QsciScintillaBase& m_window;
+    const Raw& m_raw;
+    const StoredText& m_text;
+    std::optional<Looks> m_looks;
+    Highlights m_occurrences;
+    Highlights m_matches;
+    ScrollMarks* m_marks = nullptr; // goes with the scroll bar
+    QTimer m_rest;
+    bool m_isFoldMarginHot = false;
+    bool m_anyCase = false;
+};
+
+} // namespace engine

@@ -1,0 +1,82 @@
+// znpictures FOLDER NAME LIGHT|DARK: pictures of the workbench with a script in it, for somebody to
+// look at: the window, folds, problems, changed lines, the find bar. tools/pictures makes all of
+// them, at three scales.
+#include "editing/ZNCoreEditorControlEx.h"
+#include "host/finding/FindBar.h"
+#include "host/window/MainWindow.h"
+#include "host/window/Workbench.h"
+
+#include <QApplication>
+#include <QComboBox>
+#include <QDir>
+#include <QElapsedTimer>
+#include <QPalette>
+#include <QPixmap>
+#include <QStyleFactory>
+
+namespace {
+
+// As desktops paint themselves that are dark.
+QPalette DarkPalette()
+{
+    QPalette palette(QColor(0x2B, 0x2F, 0x36));
+    palette.setColor(QPalette::Base, QColor(0x1E, 0x22, 0x27));
+    palette.setColor(QPalette::AlternateBase, QColor(0x25, 0x29, 0x2F));
+    palette.setColor(QPalette::Highlight, QColor(0x2F, 0x5C, 0x99));
+    palette.setColor(QPalette::Disabled, QPalette::Text, QColor(0x7A, 0x80, 0x88));
+    palette.setColor(QPalette::Disabled, QPalette::ButtonText, QColor(0x7A, 0x80, 0x88));
+    palette.setColor(QPalette::Disabled, QPalette::WindowText, QColor(0x7A, 0x80, 0x88));
+    return palette;
+}
+
+void Rest(int milliseconds)
+{
+    QElapsedTimer time;
+    for (time.start(); time.elapsed() < milliseconds;)
+        QApplication::processEvents(QEventLoop::WaitForMoreEvents, 20);
+}
+
+// Something to see of each kind.
+void Furnish(CZNCoreEditorControlEx& editor)
+{
+    editor.ToggleBookmark(3);
+    editor.MarkerAdd(5, 2, 1);
+    editor.MarkerAdd(8, 9, 1);
+    editor.GotoPos(editor.GetLineEndPosition(11, 1), 1);
+    editor.ReplaceSel(u" -- changed", 1);
+    editor.Colorize(0, -1, 1);
+    editor.ToggleFold(16, 1);
+    editor.GotoPos(editor.PositionFromLine(13, 1) + 24, 1);
+}
+
+} // namespace
+
+int main(int argc, char** argv)
+{
+    QApplication application(argc, argv);
+    QApplication::setStyle(QStyleFactory::create(QStringLiteral("Fusion")));
+    const QStringList words = QApplication::arguments();
+    constexpr int kWords = 4;
+    if (words.size() < kWords)
+        return 2;
+    const QDir folder(words[1]);
+    if (words[3] == QLatin1String("DARK"))
+        QApplication::setPalette(DarkPalette());
+    Workbench app(Workbench::Keeps::Nothing);
+    auto* window = new MainWindow(app);
+    window->resize(1100, 680);
+    window->OpenPlaces(words.mid(kWords));
+    window->show();
+    Rest(300);
+    window->ShowTab(0);
+    if (CZNCoreEditorControlEx* editor = window->CurrentEditor())
+        Furnish(*editor);
+    Rest(1500);
+    window->grab().save(folder.filePath(words[2] + QStringLiteral("-window.png")));
+    window->Find().Open();
+    if (auto* sought = window->Find().findChild<QComboBox*>(QStringLiteral("findText")))
+        sought->setEditText(QStringLiteral("stock"));
+    Rest(1000);
+    window->grab().save(folder.filePath(words[2] + QStringLiteral("-find.png")));
+    return 0;
+}

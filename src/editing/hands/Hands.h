@@ -1,0 +1,38 @@
+// Hands: the gestures of people who edit all day, as commands with numbers of the library's own.
+// The rows stand in Hands.def; menus, keys and docs/keys.md are made from them.
+#pragma once
+
+#include "common/Export.h"
+#include "platform/windows/Accelerators.h"
+
+#include <span>
+
+class CZNCoreEditorControlEx;
+struct CommandMap;
+
+enum class HandNeeds
+{
+    Nothing,
+    Writable,
+    WritableSelection,
+};
+
+struct HandRow
+{
+    UINT number;
+    const char* name; // one word
+    const char* menu;
+    const char* text; // in the menu, with the letter that is underlined
+    int key;          // Qt::Key, 0: none
+    int modifiers;    // Qt::KeyboardModifiers
+    HandNeeds needs;
+    void (*run)(CZNCoreEditorControlEx& editor);
+};
+
+ZN_API std::span<const HandRow> Hands();
+// Null for a number that is none of theirs.
+ZN_API const HandRow* FindHand(UINT number);
+ZN_API bool IsPossible(const HandRow& row, CZNCoreEditorControlEx& editor);
+
+// For a window that offers keys to TranslateAccelerator: behind the table of the editor.
+ZN_API HACCEL HandKeyTable();

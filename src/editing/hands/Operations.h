@@ -1,0 +1,56 @@
+// The operations behind the rows of Hands.def. Each that changes the text is one undo step.
+#pragma once
+
+class CZNCoreEditorControlEx;
+
+namespace hands {
+
+using Editor = CZNCoreEditorControlEx;
+
+// The lines of the selection, or the caret's; one that is only reached at its column 0 is left out.
+struct LineRange
+{
+    int first;
+    int last;
+};
+LineRange SelectedLines(Editor& editor);
+
+// Comments.cpp. Lines that are all comments lose their marker, others get one: twice is as before.
+void ToggleComment(Editor& editor);
+
+// LineHands.cpp
+void MoveLinesUp(Editor& editor);
+void MoveLinesDown(Editor& editor);
+void Duplicate(Editor& editor); // the selection, behind itself; without one the line
+void JoinLines(Editor& editor); // with the next one if one line is selected
+void DeleteLines(Editor& editor);
+void PasteIndented(Editor& editor); // the first line where the caret is, the others below it
+
+// SelectionHands.cpp
+void SelectLines(Editor& editor);
+void GrowSelection(Editor& editor); // word, what brackets hold, brackets, statement, batch, all
+void ShrinkSelection(Editor& editor);
+void SelectStatement(Editor& editor);
+void SurroundByParentheses(Editor& editor);
+void SurroundByQuotes(Editor& editor);
+void SurroundByDoubleQuotes(Editor& editor);
+void SurroundByBrackets(Editor& editor);
+void SurroundByBraces(Editor& editor);
+
+// PlaceHands.cpp
+void NextStatement(Editor& editor);
+void PreviousStatement(Editor& editor);
+void NextBatch(Editor& editor);
+void PreviousBatch(Editor& editor);
+void FoldHere(Editor& editor);
+void UnfoldHere(Editor& editor);
+void FoldEverything(Editor& editor);
+void UnfoldEverything(Editor& editor);
+void FoldFromDepth(Editor& editor, int depth); // 0: all; what is not so deep is open
+template <int Level>
+void FoldToLevel(Editor& editor)
+{
+    FoldFromDepth(editor, Level);
+}
+
+} // namespace hands

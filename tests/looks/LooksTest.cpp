@@ -1,0 +1,226 @@
+// What an editor with a scheme draws beside and over its text.
+#include "control/EngineLooks.h"
+#include "editing/ZNCoreEditorWidget.h"
+#include "looks/Schemes.h"
+#include "tests/control/ControlFixture.h"
+
+#include <QApplication>
+#include <QElapsedTimer>
+#include <QImage>
+#include <QMouseEvent>
+#include <QScrollBar>
+#include <QTemporaryDir>
+#include <QTest>
+#include <Qsci/qsciscintillabase.h>
+
+#include <gtest/gtest.h>
+
+namespace {
+
+using Sci = QsciScintillaBase;
+
+constexpr int kTransactSql = 3;
+constexpr int kChanged = 1 << engine::lookmarker::kLineChanged;
+constexpr int kSaved = 1 << engine::lookmarker::kLineSaved;
+constexpr int kOccurrences = 28;
+constexpr int kMatches = 29;
+
+template <class Condition>
+bool Becomes(Condition condition)
+{
+    QElapsedTimer time;
+    for (time.start(); !condition() && time.elapsed() < 5000;)
+        QApplication::processEvents(QEventLoop::WaitForMoreEvents, 20);
+    return condition();
+}
+
+class LooksTest : public testing::Test
+{
+protected:
+    LooksTest()
+    {
+        face.setScheme(QStringLiteral("Light"));
+        face.setLanguage(kTransactSql);
+        face.resize(500, 300);
+        face.show();
+        QApplication::processEvents();
+    }
+
+    // Nothing of what was there before can be undone.
+    void Put(const QString& text)
+    {
+        control.SetUndoCollection(0, 1);
+        face.setText(text);
+        control.SetUndoCollection(1, 1);
+        control.EmptyUndoBuffer(1);
+        control.SetSavePoint(1);
+        QApplication::processEvents();
+    }
+
+    Sci& Window() { return *static_cast<Sci*>(control.GetSafeHwnd()); }
+
+    int CountOf(Drawn what, QRect area = {})
+    {
+        const COLORREF colour = zncoreeditor::FindScheme(QStringLiteral("Light"))->Of(what);
+        const QRgb wanted =
+            qRgb(static_cast<int>(colour & 0xFF), static_cast<int>(colour >> 8 & 0xFF),
+                 static_cast<int>(colour >> 16 & 0xFF));
+        const QImage image = Window().grab().toImage().convertToFormat(QImage::Format_RGB32);
+        area = area.isNull() ? image.rect() : area & image.rect();
+        int count = 0;
+        for (int y = area.top(); y <= area.bottom(); ++y) {
+            for (int x = area.left(); x <= area.right(); ++x)
+                count += image.pixel(x, y) == wanted;
+        }
+        return count;
+    }
+
+    bool IsMarked(int indicator, long position)
+    {
+        return Window().SendScintilla(Sci::SCI_INDICATORVALUEAT,
+                                      static_cast<unsigned long>(indicator), position) != 0;
+    }
+
+    ZNCoreEditorWidget face;
+    CZNCoreEditorControlEx& control = face.control();
+};
+
+TEST_F(LooksTest, DrawIconsForBookmarksAndProblems)
+{
+    Put(QStringLiteral("a\nb\nc\n"));
+    EXPECT_EQ(CountOf(Drawn::Bookmark), 0);
+    control.MarkerAdd(0, 0, 1);
+    control.MarkerAdd(1, engine::lookmarker::kError, 1);
+    control.MarkerAdd(2, engine::lookmarker::kWarning, 1);
+    EXPECT_GT(CountOf(Drawn::Bookmark), 20);
+    EXPECT_GT(CountOf(Drawn::Error), 20);
+    EXPECT_GT(CountOf(Drawn::Warning), 20);
+}
+
+TEST_F(LooksTest, AreThoseOfTheSettingsWithoutAScheme)
+{
+    Put(QStringLiteral("a\nb\n"));
+    control.MarkerAdd(0, 0, 1);
+    face.setScheme(QString());
+    EXPECT_EQ(CountOf(Drawn::Bookmark), 0);
+    const QImage image = Window().grab().toImage().convertToFormat(QImage::Format_RGB32);
+    int cyan = 0;
+    for (int x = 0; x < 100; ++x)
+        cyan += image.pixel(x, 8) == qRgb(0x0E, 0xFA, 0xF3);
+    EXPECT_GT(cyan, 5);
+}
+
+TEST_F(LooksTest, ShowLinesThatChangedUntilTheyAreAsTheyWere)
+{
+    Put(QStringLiteral("one\ntwo\nthree\n"));
+    EXPECT_EQ(CountOf(Drawn::LineChanged), 0);
+    control.GotoPos(5, 1);
+    control.ReplaceSel(u"x\ny", 1);
+    EXPECT_FALSE(control.MarkerGet(0, 1) & kChanged);
+    EXPECT_TRUE(control.MarkerGet(1, 1) & kChanged);
+    EXPECT_TRUE(control.MarkerGet(2, 1) & kChanged);
+    EXPECT_FALSE(control.MarkerGet(3, 1) & kChanged);
+    EXPECT_GT(CountOf(Drawn::LineChanged), 20);
+    control.Undo(1);
+    EXPECT_EQ(control.MarkerNext(0, kChanged, 1), -1);
+}
+
+TEST_F(LooksTest, ShowLinesThatWereSavedSinceTheyChanged)
+{
+    QTemporaryDir folder;
+    const QString path = folder.filePath(QStringLiteral("a.sql"));
+    Put(QStringLiteral("one\ntwo\n"));
+    control.ReplaceSel(u"x", 1);
+    ASSERT_TRUE(face.saveFile(path));
+    EXPECT_EQ(control.MarkerGet(0, 1) & (kSaved | kChanged), kSaved);
+    EXPECT_GT(CountOf(Drawn::LineSaved), 20);
+    control.ReplaceSel(u"y", 1);
+    EXPECT_TRUE(control.MarkerGet(0, 1) & kChanged);
+    ASSERT_TRUE(face.openFile(path));
+    EXPECT_EQ(control.MarkerNext(0, kSaved | kChanged, 1), -1);
+}
+
+TEST_F(LooksTest, OpenAFoldAtTheMarkBehindIt)
+{
+    Put(QStringLiteral("begin\n  select 1;\n  select 2;\nend\n"));
+    control.Colorize(0, -1, 1);
+    ASSERT_TRUE(control.GetFoldLevel(0, 1) & 0x2000);
+    control.ToggleFold(0, 1);
+    ASSERT_FALSE(control.GetLineVisible(1, 1));
+    EXPECT_GT(CountOf(Drawn::FoldedLine), 50);
+    const long end = control.GetLineEndPosition(0, 1);
+    const int height = control.TextHeight(0, 1);
+    const QPoint place(control.PointXFromPosition(end, 1) + height, height / 2);
+    QTest::mouseClick(Window().viewport(), Qt::LeftButton, {}, place);
+    EXPECT_TRUE(control.GetLineVisible(1, 1));
+    EXPECT_EQ(CountOf(Drawn::FoldedLine), 0);
+}
+
+TEST_F(LooksTest, MakeFoldMarksStrongUnderTheMouse)
+{
+    Put(QStringLiteral("begin\n  select 1;\nend\n"));
+    control.Colorize(0, -1, 1);
+    EXPECT_EQ(CountOf(Drawn::FoldHot, QRect(0, 0, 90, 200)), 0);
+    const int x = control.PointXFromPosition(0, 1) - 12;
+    QMouseEvent move(QEvent::MouseMove, QPointF(x, 5), QPointF(x, 5), Qt::NoButton, {}, {});
+    QApplication::sendEvent(Window().viewport(), &move);
+    EXPECT_GT(CountOf(Drawn::FoldHot, QRect(0, 0, 90, 200)), 0);
+    QEvent leave(QEvent::Leave);
+    QApplication::sendEvent(Window().viewport(), &leave);
+    EXPECT_EQ(CountOf(Drawn::FoldHot, QRect(0, 0, 90, 200)), 0);
+}
+
+TEST_F(LooksTest, LightUpTheWordAtTheCaretOnceItRests)
+{
+    Put(QStringLiteral("stock from Stock where stocks\n"));
+    control.GotoPos(2, 1);
+    EXPECT_TRUE(Becomes([&] { return IsMarked(kOccurrences, 0); }));
+    EXPECT_TRUE(IsMarked(kOccurrences, 12)); // any case in SQL
+    EXPECT_FALSE(IsMarked(kOccurrences, 7));
+    EXPECT_FALSE(IsMarked(kOccurrences, 24)); // whole words alone
+    control.GotoPos(7, 1);
+    EXPECT_TRUE(Becomes([&] { return IsMarked(kOccurrences, 7); }));
+    EXPECT_FALSE(IsMarked(kOccurrences, 0));
+}
+
+TEST_F(LooksTest, ShowTheMatchesThatAreAskedForAndFollowTheText)
+{
+    Put(QStringLiteral("aa b aa\n"));
+    control.Call(engine::kShowMatches, 0, reinterpret_cast<LPARAM>(u"aa"), 1);
+    EXPECT_TRUE(IsMarked(kMatches, 0));
+    EXPECT_TRUE(IsMarked(kMatches, 5));
+    EXPECT_FALSE(IsMarked(kMatches, 3));
+    control.GotoPos(3, 1);
+    control.ReplaceSel(u"aa", 1);
+    EXPECT_TRUE(Becomes([&] { return IsMarked(kMatches, 3); }));
+    control.Call(engine::kShowMatches, 0, 0, 1);
+    EXPECT_FALSE(IsMarked(kMatches, 0));
+}
+
+TEST_F(LooksTest, MarkTheScrollBarWhereSomethingIs)
+{
+    Put(QStringLiteral("line\n").repeated(400));
+    const auto marks = [this](Drawn what) {
+        const QScrollBar& bar = *Window().verticalScrollBar();
+        const QRect area(bar.mapTo(&Window(), QPoint(0, 0)), bar.size());
+        return CountOf(what, area);
+    };
+    EXPECT_EQ(marks(Drawn::Bookmark), 0);
+    control.MarkerAdd(200, 0, 1);
+    control.GotoPos(20, 1);
+    control.ReplaceSel(u"needle", 1);
+    EXPECT_TRUE(Becomes([&] { return marks(Drawn::Bookmark) > 0; }));
+    EXPECT_GT(marks(Drawn::LineChanged), 0);
+    control.Call(engine::kShowMatches, 0, reinterpret_cast<LPARAM>(u"needle"), 1);
+    EXPECT_TRUE(Becomes([&] { return marks(Drawn::Match) > 0; }));
+}
+
+TEST_F(LooksTest, KeepWhatAHostIsFillingWithAnIndicator)
+{
+    Put(QStringLiteral("aa aa\n"));
+    Window().SendScintilla(Sci::SCI_SETINDICATORCURRENT, 8UL);
+    control.Call(engine::kShowMatches, 0, reinterpret_cast<LPARAM>(u"aa"), 1);
+    EXPECT_EQ(Window().SendScintilla(Sci::SCI_GETINDICATORCURRENT), 8);
+}
+
+} // namespace
