@@ -1,5 +1,7 @@
 #include "looks/ColourScheme.h"
 
+#include "looks/Colours.h"
+
 #include <QFile>
 
 #include <pugixml.hpp>
@@ -30,18 +32,6 @@ constexpr const char* kDrawnNames[] = {
     "match",
 };
 static_assert(std::size(kDrawnNames) == static_cast<std::size_t>(Drawn::Count));
-
-// From RRGGBB; nothing for anything else.
-std::optional<COLORREF> ColourOf(const char* text)
-{
-    constexpr int kDigits = 6;
-    bool isNumber = false;
-    const QByteArray digits(text);
-    const unsigned rgb = digits.toUInt(&isNumber, 16);
-    if (!isNumber || digits.size() != kDigits)
-        return std::nullopt;
-    return (rgb & 0xFFU) << 16 | (rgb & 0xFF00U) | rgb >> 16;
-}
 
 } // namespace
 

@@ -2,6 +2,7 @@
 #include "tests/engine/EngineFixture.h"
 
 #include "control/Completion.h"
+#include "control/EngineLooks.h"
 
 #include <QWidget>
 
@@ -211,11 +212,10 @@ TEST(MessageWalk, NumbersOutsideTheTableAnswerNothing)
 {
     EngineUnderTest engine;
     engine.SetText(kMixed);
-    std::map<UINT, bool> known{{msg::GetDirectFunction, true},
-                               {msg::GetDirectPointer, true},
-                               {engine::kRestyle, true},
-                               {engine::kExtendedTexts, true},
-                               {engine::kExtendedText, true}};
+    std::map<UINT, bool> known{{msg::GetDirectFunction, true}, {msg::GetDirectPointer, true},
+                               {engine::kRestyle, true},       {engine::kExtendedTexts, true},
+                               {engine::kExtendedText, true},  {engine::kSetLooks, true},
+                               {engine::kShowMatches, true}};
     for (const MessageRow& row : engine::kMessageRows)
         known[row.number] = true;
     for (UINT number = 0; number <= 5000; ++number) {

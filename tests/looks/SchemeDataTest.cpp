@@ -1,5 +1,6 @@
 // The schemes that ship with the library, against the language files: read here by other means than
 // the library's own.
+#include "looks/DeliveredColours.h"
 #include "looks/Schemes.h"
 #include "tests/SourceTree.h"
 
@@ -98,15 +99,20 @@ TEST(ShippedSchemes, HaveARoleForEveryStyleOfEveryLanguage)
     }
 }
 
-// Where they differ, a style that nobody touched would be taken for one that a person coloured.
-TEST(LightScheme, HasTheColoursOfTheLanguageFiles)
+TEST(DeliveredColours, AreThoseOfTheLanguageFile)
 {
+    std::size_t compared = 0;
     for (const Style& style : StylesOfAllLanguages()) {
-        const QString role = zncoreeditor::GetStyleRoles().RoleOf(style.language, style.name);
-        const ColourScheme::Pair pair = Scheme("Light").OfRole(role).value_or(ColourScheme::Pair{});
-        EXPECT_EQ(pair.fore, style.fore) << Named(style, Scheme("Light"));
-        EXPECT_EQ(pair.back, style.back) << Named(style, Scheme("Light"));
+        if (style.language != QLatin1String("TransactSQL.xml"))
+            continue;
+        const auto delivered = ReadDeliveredColours(
+            QString::fromStdString(InSourceTree("data/Syntax/TransactSQL.xml")));
+        EXPECT_EQ(delivered.value(style.number).fore, style.fore) << style.number;
+        EXPECT_EQ(delivered.value(style.number).back, style.back) << style.number;
+        ++compared;
     }
+    EXPECT_GT(compared, 20U);
+    EXPECT_TRUE(ReadDeliveredColours(QStringLiteral("/nowhere.xml")).isEmpty());
 }
 
 TEST(ShippedSchemes, CanBeReadInEveryStyleOfEveryLanguage)

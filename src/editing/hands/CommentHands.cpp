@@ -19,8 +19,10 @@ QString FromIndent(Editor& editor, int line)
                   editor.GetLineEndPosition(line, 1));
 }
 
-void ToggleLines(Editor& editor, const LineRange& lines, const QString& marker)
+// A marker may be one with a blank behind it alone.
+void ToggleLines(Editor& editor, const LineRange& lines, const QString& ownMarker)
 {
+    const QString marker = ownMarker.trimmed();
     const QString withBlank = marker + u' ';
     bool areComments = true;
     bool haveBlanks = true;

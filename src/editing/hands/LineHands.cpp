@@ -31,14 +31,14 @@ void CarryOver(Editor& editor, int line, const LineRange& block)
     if (isAbove) {
         const long next = editor.PositionFromLine(block.first, 1);
         const QString lineEnd = TextOf(editor, end, next);
-        editor.InsertText(editor.GetLineEndPosition(block.last, 1), Units(lineEnd + text), 1);
+        Insert(editor, editor.GetLineEndPosition(block.last, 1), lineEnd + text);
         Replace(editor, start, next, {});
         shift = start - next;
     } else {
         const long before = editor.GetLineEndPosition(block.last, 1);
         const QString lineEnd = TextOf(editor, before, start);
         Replace(editor, before, end, {});
-        editor.InsertText(editor.PositionFromLine(block.first, 1), Units(text + lineEnd), 1);
+        Insert(editor, editor.PositionFromLine(block.first, 1), text + lineEnd);
         shift = end - before;
     }
     editor.SetSel(anchor + shift, caret + shift, 1);
@@ -70,7 +70,7 @@ void Duplicate(Editor& editor)
     const long end = editor.GetSelectionEnd(1);
     const bool caretInFront = editor.GetCurrentPos(1) < end;
     const UndoStep step(editor);
-    editor.InsertText(end, Units(TextOf(editor, start, end)), 1);
+    Insert(editor, end, TextOf(editor, start, end));
     const long behind = end + (end - start);
     editor.SetSel(caretInFront ? behind : end, caretInFront ? end : behind, 1);
 }

@@ -5,6 +5,7 @@
 #include "editing/language/FileTypeManager.h"
 #include "editing/language/Library.h"
 #include "editing/looks/DesktopWatch.h"
+#include "looks/DeliveredColours.h"
 #include "looks/Schemes.h"
 #include "settings/SyntaxFile.h"
 
@@ -21,14 +22,23 @@ constexpr int kLastStyle = 127;
 
 using Pair = ColourScheme::Pair;
 
-// A style that is coloured as in the light scheme is as it was delivered, and takes the scheme's
-// colours; any other was coloured by a person, and stays.
+const QHash<int, Pair>& DeliveredColours(const QString& file)
+{
+    static QHash<QString, QHash<int, Pair>> all;
+    auto found = all.find(file);
+    if (found == all.end())
+        found = all.insert(file, ReadDeliveredColours(file));
+    return *found;
+}
+
+// A style that is coloured as it was delivered takes the scheme's colours; any other was coloured
+// by a person, and stays.
 class StyleColours
 {
 public:
     StyleColours(const ColourScheme& scheme, CSyntaxFile& syntax)
-        : m_scheme(scheme), m_delivered(zncoreeditor::FindScheme(QStringLiteral("Light"))),
-          m_syntax(syntax), m_language(syntax.GetFilename().section(u'/', -1)),
+        : m_scheme(scheme), m_delivered(DeliveredColours(syntax.GetFilename())), m_syntax(syntax),
+          m_language(syntax.GetFilename().section(u'/', -1)),
           m_text(scheme.OfRole(QStringLiteral("text")).value_or(Pair{}))
     {}
 
@@ -40,13 +50,15 @@ public:
         const QString role = zncoreeditor::GetStyleRoles().RoleOf(m_language, name);
         const Pair own = {static_cast<COLORREF>(m_syntax.GetStyleColorForeground(style)),
                           static_cast<COLORREF>(m_syntax.GetStyleColorBackground(style))};
-        const bool isDelivered = !m_delivered || m_delivered->OfRole(role) == own;
-        return isDelivered ? m_scheme.OfRole(role).value_or(own) : own;
+        const auto delivered = m_delivered.constFind(style);
+        return delivered == m_delivered.constEnd() || *delivered == own
+                   ? m_scheme.OfRole(role).value_or(own)
+                   : own;
     }
 
 private:
     const ColourScheme& m_scheme;
-    const ColourScheme* m_delivered;
+    const QHash<int, Pair>& m_delivered;
     CSyntaxFile& m_syntax;
     QString m_language;
     Pair m_text;
