@@ -1,5 +1,6 @@
 #include "host/finding/FindBar.h"
 
+#include "control/EngineLooks.h"
 #include "editing/ZNCoreEditorControlEx.h"
 #include "search/FindReplaceManager.h"
 
@@ -12,6 +13,8 @@
 #include <QLineEdit>
 #include <QMenu>
 #include <QPushButton>
+#include <QStyle>
+#include <QToolButton>
 
 #include <span>
 #include <string_view>
@@ -30,6 +33,11 @@ struct FindBar::Row
 };
 
 namespace {
+
+// As the engine searches.
+constexpr int kWholeWord = 2;
+constexpr int kMatchCase = 4;
+constexpr int kExpression = 0x200000;
 
 std::span<const FindBar::Row> Rows()
 {
@@ -98,6 +106,17 @@ FindBar::FindBar(std::function<CZNCoreEditorControlEx*()> editor, QWidget* paren
         layout->addWidget(button, place % 2, 4 + place / 2);
         ++place;
     }
+    auto* close = new QToolButton(this);
+    close->setObjectName(QStringLiteral("closeFind"));
+    close->setIcon(style()->standardIcon(QStyle::SP_TitleBarCloseButton));
+    close->setToolTip(tr("Close"));
+    close->setAccessibleName(tr("Close"));
+    close->setAutoRaise(true);
+    connect(close, &QToolButton::clicked, this, &FindBar::Close);
+    layout->addWidget(close, 0, layout->columnCount());
+    for (QCheckBox* option : {m_matchCase, m_wholeWord, m_expression})
+        connect(option, &QCheckBox::toggled, this, &FindBar::ShowMatches);
+    connect(m_find, &QComboBox::editTextChanged, this, &FindBar::ShowMatches);
     setFocusProxy(m_find);
     m_find->installEventFilter(this);
     m_replace->installEventFilter(this);
@@ -172,8 +191,48 @@ void FindBar::Open()
     m_replace->setEditText(replacement);
     m_result->clear();
     show();
+    ShowMatches();
     m_find->setFocus();
     m_find->lineEdit()->selectAll();
+}
+
+// All that would be found, lit in the text and on the scroll bar; nothing while the bar is closed.
+void FindBar::ShowMatches()
+{
+    Editor* editor = m_editor();
+    if (!editor)
+        return;
+    const std::u16string sought =
+        isHidden() ? std::u16string() : m_find->currentText().toStdU16String();
+    const int flags = (m_wholeWord->isChecked() ? kWholeWord : 0) |
+                      (m_matchCase->isChecked() ? kMatchCase : 0) |
+                      (m_expression->isChecked() ? kExpression : 0);
+    editor->Call(engine::kShowMatches, static_cast<WPARAM>(flags),
+                 sought.empty() ? 0 : reinterpret_cast<LPARAM>(sought.c_str()), 1);
+}
+
+// Which of how many the selection is, where there are not too many to count at once.
+QString FindBar::Place(Editor& editor)
+{
+    constexpr int kMost = 1000;
+    constexpr int kLongest = 4'000'000; // units
+    const auto length = static_cast<int>(editor.GetLength(1));
+    const long selected = editor.GetSelectionStart(1);
+    if (length > kLongest)
+        return {};
+    int all = 0;
+    int place = 0;
+    for (int from = 0; from <= length && all <= kMost; ++all) {
+        const int found = m_manager.FindInRange(&editor, from, length, true);
+        if (found < 0)
+            break;
+        if (found <= selected)
+            place = all + 1;
+        const auto end = static_cast<int>(editor.GetTargetEnd(1));
+        from =
+            end > found ? end : std::max(end + 1, static_cast<int>(editor.PositionAfter(end, 1)));
+    }
+    return all > kMost ? tr("more than %1").arg(kMost) : tr("%1 of %2").arg(place).arg(all);
 }
 
 void FindBar::Close()
@@ -181,6 +240,7 @@ void FindBar::Close()
     if (isHidden())
         return;
     hide();
+    ShowMatches();
     m_manager.Save();
     if (Editor* editor = m_editor())
         editor->SetFocus();
@@ -218,7 +278,19 @@ void FindBar::Find(bool down)
     if (!Prepare())
         Open();
     else
-        Tell(SelectNext(*editor, down) ? QString() : tr("Not found"));
+        TellFound(*editor, SelectNext(*editor, down));
+}
+
+void FindBar::TellFound(Editor& editor, bool isFound)
+{
+    if (!isFound) {
+        Tell(tr("Not found"));
+        return;
+    }
+    Tell({});
+    if (isVisible())
+        m_result->setText(Place(editor));
+    ShowMatches();
 }
 
 void FindBar::FindNextWord()
@@ -288,7 +360,7 @@ void FindBar::Replace()
         const long caret = editor->GetCurrentPos(1);
         editor->SetSel(caret, caret, 1);
     }
-    Tell(SelectNext(*editor, true) ? QString() : tr("Not found"));
+    TellFound(*editor, SelectNext(*editor, true));
 }
 
 void FindBar::ReplaceAll()

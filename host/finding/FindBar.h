@@ -55,6 +55,9 @@ private:
     void FindWord(bool down);
     bool SelectNext(CZNCoreEditorControlEx& editor, bool down);
     void Tell(const QString& result);
+    void TellFound(CZNCoreEditorControlEx& editor, bool isFound);
+    QString Place(CZNCoreEditorControlEx& editor);
+    void ShowMatches();
 
     std::function<CZNCoreEditorControlEx*()> m_editor;
     CFindReplaceManager& m_manager;

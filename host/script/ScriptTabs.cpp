@@ -3,14 +3,100 @@
 #include "platform/docview/WinApp.h"
 #include "platform/windows/Wnd.h"
 
+#include <QClipboard>
+#include <QContextMenuEvent>
+#include <QDesktopServices>
+#include <QFileInfo>
+#include <QGuiApplication>
+#include <QMenu>
+#include <QMouseEvent>
 #include <QTabBar>
+#include <QToolButton>
+#include <QUrl>
 
-ScriptTabs::ScriptTabs(QWidget* parent) : QTabWidget(parent)
+ScriptTabs::ScriptTabs(QWidget* parent) : QTabWidget(parent), m_list(new QMenu(this))
 {
     setTabsClosable(true);
     setMovable(true);
     setDocumentMode(true);
-    tabBar()->setElideMode(Qt::ElideMiddle);
+    setUsesScrollButtons(true);
+    tabBar()->setElideMode(Qt::ElideNone);
+    tabBar()->setExpanding(false);
+    tabBar()->installEventFilter(this);
+    auto* list = new QToolButton(this);
+    list->setObjectName(QStringLiteral("tabList"));
+    list->setAccessibleName(tr("List of tabs"));
+    list->setToolTip(tr("List of tabs"));
+    list->setArrowType(Qt::DownArrow);
+    list->setAutoRaise(true);
+    list->setPopupMode(QToolButton::InstantPopup);
+    list->setStyleSheet(QStringLiteral("QToolButton::menu-indicator { image: none; }"));
+    list->setMenu(m_list);
+    connect(m_list, &QMenu::aboutToShow, this, &ScriptTabs::FillList);
+    setCornerWidget(list);
+}
+
+void ScriptTabs::FillList()
+{
+    m_list->clear();
+    for (int i = 0; i < count(); ++i) {
+        QAction* action = m_list->addAction(tabText(i), this, [this, i] { setCurrentIndex(i); });
+        action->setCheckable(true);
+        action->setChecked(i == currentIndex());
+    }
+}
+
+// The middle button closes a tab, the right one opens its menu.
+bool ScriptTabs::eventFilter(QObject* watched, QEvent* event)
+{
+    if (event->type() == QEvent::MouseButtonRelease) {
+        const auto& mouse = static_cast<const QMouseEvent&>(*event);
+        const int index = tabBar()->tabAt(mouse.position().toPoint());
+        if (mouse.button() == Qt::MiddleButton && index >= 0) {
+            Q_EMIT tabCloseRequested(index);
+            return true;
+        }
+    }
+    if (event->type() == QEvent::ContextMenu) {
+        const auto& menu = static_cast<const QContextMenuEvent&>(*event);
+        const int index = tabBar()->tabAt(menu.pos());
+        if (index >= 0)
+            ShowMenu(index, menu.globalPos());
+        return true;
+    }
+    return QTabWidget::eventFilter(watched, event);
+}
+
+void ScriptTabs::ShowMenu(int index, const QPoint& place)
+{
+    auto* menu = new QMenu(this);
+    menu->setObjectName(QStringLiteral("tabMenu"));
+    menu->setAttribute(Qt::WA_DeleteOnClose);
+    const QString path = tabToolTip(index);
+    const bool isFile = QFileInfo(path).isAbsolute();
+    menu->addAction(tr("&Close"), this, [this, index] { Q_EMIT tabCloseRequested(index); });
+    menu->addAction(tr("Close &Others"), this, [this, index] { CloseOthers(index); })
+        ->setEnabled(count() > 1);
+    menu->addSeparator();
+    menu->addAction(tr("Copy &Path"), this, [path] { QGuiApplication::clipboard()->setText(path); })
+        ->setEnabled(isFile);
+    menu->addAction(tr("Open &Folder"), this,
+                    [path] {
+                        QDesktopServices::openUrl(
+                            QUrl::fromLocalFile(QFileInfo(path).absolutePath()));
+                    })
+        ->setEnabled(isFile);
+    menu->popup(place);
+}
+
+// From the end, so that the places of those that are still to be asked stay.
+void ScriptTabs::CloseOthers(int index)
+{
+    const QWidget* kept = widget(index);
+    for (int i = count() - 1; i >= 0; --i) {
+        if (widget(i) != kept)
+            Q_EMIT tabCloseRequested(i);
+    }
 }
 
 ScriptTabs* ScriptTabs::OfMainWindow()

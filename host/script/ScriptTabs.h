@@ -3,6 +3,8 @@
 
 #include <QTabWidget>
 
+class QMenu;
+
 class ScriptTabs final : public QTabWidget
 {
     Q_OBJECT
@@ -16,6 +18,18 @@ public:
     void Show(QWidget* page); // adds it if it has no tab yet
     void Remove(QWidget* page);
     void SetCaption(QWidget* page, const QString& caption, const QString& toolTip);
+
+    // What the menu of a tab, or a click on it, asks for.
+    void CloseOthers(int index);
+    void ShowMenu(int index, const QPoint& place); // on the screen
+
+protected:
+    bool eventFilter(QObject* watched, QEvent* event) override;
+
+private:
+    void FillList();
+
+    QMenu* m_list; // of all tabs
 
 Q_SIGNALS:
     void Added(QWidget* page);

@@ -235,9 +235,11 @@ void ScriptView::GoToColumn(long column)
 QString ScriptView::CaretText()
 {
     const long caret = m_coreEditor.GetCurrentPos(1);
-    return QStringLiteral("Line %1, column %2")
-        .arg(m_coreEditor.LineFromPosition(caret, 1) + 1)
-        .arg(m_coreEditor.GetColumn(caret, 1) + 1);
+    const QString place = QStringLiteral("Line %1, column %2")
+                              .arg(m_coreEditor.LineFromPosition(caret, 1) + 1)
+                              .arg(m_coreEditor.GetColumn(caret, 1) + 1);
+    const long selected = m_coreEditor.GetSelectionEnd(1) - m_coreEditor.GetSelectionStart(1);
+    return selected > 0 ? place + QStringLiteral(" (%1 selected)").arg(selected) : place;
 }
 
 QString ScriptView::Catalog()

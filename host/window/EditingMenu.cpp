@@ -1,5 +1,6 @@
 #include "host/window/EditingMenu.h"
 
+#include "editing/hands/Hands.h"
 #include "host/script/ScriptView.h"
 
 #include <QAction>
@@ -72,8 +73,8 @@ std::span<const EditingMenu::Row> Rows()
 {
     // clang-format off
     static const EditingMenu::Row rows[] = {
-        {"C&omments",   "comment",        "&Comment Out",           "Ctrl+/",        54037},
-        {"C&omments",   "uncomment",      "&Undo Comment Out",      "Ctrl+Shift+/",  54041},
+        {"C&omments",   "comment",        "&Comment Out",           nullptr,         54037},
+        {"C&omments",   "uncomment",      "&Uncomment",             "Ctrl+Shift+/",  54041},
         {"C&omments",   "commentLines",   "Comment &Lines Out",     nullptr, 53967, nullptr, false, true},
         {"&Indentation", "indent",        "&Indent",                nullptr,         54034, nullptr, true, true},
         {"&Indentation", "outdent",       "&Outdent",               nullptr,         54035, nullptr, true, true},
@@ -83,9 +84,9 @@ std::span<const EditingMenu::Row> Rows()
         {"&Lines",      "sortUp",         "Sort &Ascending",        nullptr, 0, SortLines<true>,  true, true},
         {"&Lines",      "sortDown",       "Sort &Descending",       nullptr, 0, SortLines<false>, true, true},
         {"&Lines",      "endLastLine",    "&End the Last Line",     nullptr, 0, Do<&Editor::EnsureFinalNewLine>, false, true},
-        {"&Lines",      "endsWindows",    "Ends of &Windows (CR+LF)", nullptr,       54071},
-        {"&Lines",      "endsUnix",       "Ends of &Unix (LF)",     nullptr,         54072},
-        {"&Lines",      "endsMac",        "Ends of &Mac (CR)",      nullptr,         54073},
+        {"&Lines",      "endsWindows",    "Convert Line Ends to C&R+LF (Windows)", nullptr, 54071},
+        {"&Lines",      "endsUnix",       "Convert Line Ends to L&F (Unix)", nullptr, 54072},
+        {"&Lines",      "endsMac",        "Convert Line Ends to CR (&Mac)", nullptr, 54073},
         {"&Words",      "upperCase",      "&Upper Case",            "Ctrl+Shift+U",  54042, nullptr, true, true},
         {"&Words",      "lowerCase",      "&Lower Case",            "Ctrl+U",        54039, nullptr, true, true},
         {"&Words",      "capitalize",     "Ca&pitalize",            nullptr, 0, Do<&Editor::Capitalize>, true, true},
@@ -135,6 +136,32 @@ EditingMenu::EditingMenu(QMenu& menu, std::function<ScriptView*()> view)
         connect(action, &QAction::triggered, this, [this, &row] { Run(row); });
         m_actions.push_back(action);
     }
+    AddHands(menu);
+}
+
+// Into the parts that are there already, or into one of their own.
+void EditingMenu::AddHands(QMenu& menu)
+{
+    for (const HandRow& row : Hands()) {
+        const QString title = QLatin1String(row.menu);
+        QMenu* part = nullptr;
+        for (QAction* each : menu.actions()) {
+            if (each->menu() && each->menu()->title() == title)
+                part = each->menu();
+        }
+        if (!part)
+            part = menu.addMenu(title);
+        QAction* action = part->addAction(QLatin1String(row.text));
+        action->setObjectName(QLatin1String(row.name));
+        action->setData(row.number);
+        if (row.key)
+            action->setShortcut(QKeySequence(row.key | row.modifiers));
+        connect(action, &QAction::triggered, this, [this, &row] {
+            if (ScriptView* view = m_view())
+                view->OnCmdMsg(row.number, nullptr);
+        });
+        m_hands.push_back(action);
+    }
 }
 
 void EditingMenu::Update()
@@ -142,6 +169,10 @@ void EditingMenu::Update()
     auto action = m_actions.begin();
     for (const Row& row : Rows())
         (*action++)->setEnabled(IsPossible(row));
+    ScriptView* view = m_view();
+    auto hand = m_hands.begin();
+    for (const HandRow& row : Hands())
+        (*hand++)->setEnabled(view && ::IsPossible(row, view->GetCoreEditorControlRef()));
 }
 
 // Asked of the view, so that a command takes the way of one from a key.

@@ -22,9 +22,11 @@ public:
     struct Row; // one of the menus' entries
 
 private:
+    void AddHands(QMenu& menu);
     bool IsPossible(const Row& row) const;
     void Run(const Row& row);
 
     std::function<ScriptView*()> m_view;
     std::vector<QAction*> m_actions; // of the rows, in their order
+    std::vector<QAction*> m_hands;   // of those of editing/hands, likewise
 };

@@ -75,6 +75,7 @@ MainWindow::MainWindow(Workbench& app)
     FileDrops::Take(*m_tabs->tabBar());
 
     BuildMenus();
+    connect(m_status, &StatusIndicators::Chosen, this, &MainWindow::OpenField);
     connect(QGuiApplication::clipboard(), &QClipboard::dataChanged, this,
             &MainWindow::UpdateCommands);
     resize(1100, 720);

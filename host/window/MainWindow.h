@@ -63,6 +63,8 @@ public:
     void PreviousResult();
     void StopSearch();
     void ExpandScript();
+    void ShowCommands();
+    void OpenField(const QString& field);
     void ChangeOptions();
     void ChangeAutosave();
     void NextScript();

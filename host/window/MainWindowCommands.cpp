@@ -9,6 +9,7 @@
 #include "host/script/ScriptDoc.h"
 #include "host/script/ScriptFrame.h"
 #include "host/script/ScriptTabs.h"
+#include "host/window/CommandPalette.h"
 #include "host/window/EditingMenu.h"
 #include "host/window/LanguageMenu.h"
 #include "host/window/MainFrame.h"
@@ -19,6 +20,7 @@
 #include "platform/windows/ActionUI.h"
 
 #include <QAction>
+#include <QCursor>
 #include <QKeySequence>
 #include <QMenu>
 #include <QMenuBar>
@@ -127,6 +129,7 @@ std::span<const MainWindow::Command> MainWindow::Commands()
 
         {"&Tools", "expand",   "&Expanded Script", Key::UnknownKey, "F9",    0, When::Script, Run<&W::ExpandScript>},
         {"&Tools", nullptr},
+        {"&Tools", "commands", "&Commands...",  Key::UnknownKey,   "Ctrl+Shift+A", 0, When::Always, Run<&W::ShowCommands>},
         {"&Tools", "options",  "&Options...",   Key::Preferences,  "Ctrl+,", 0, When::Always, Run<&W::ChangeOptions>},
         {"&Tools", "autosave", "&Autosave...",  Key::UnknownKey,   nullptr,  0, When::Always, Run<&W::ChangeAutosave>},
     };
@@ -227,6 +230,49 @@ void MainWindow::WrapLines(bool wrap)
 {
     m_wrapLines = wrap;
     ApplyViewToAll();
+}
+
+void MainWindow::ShowCommands()
+{
+    auto* palette = new CommandPalette(*menuBar(), this);
+    const QPoint top = mapToGlobal(QPoint((width() - palette->width()) / 2, menuBar()->height()));
+    palette->move(top);
+    palette->show();
+}
+
+// Of a field of the status bar that was clicked: what changes the thing it shows.
+void MainWindow::OpenField(const QString& field)
+{
+    struct Way
+    {
+        const char* field;
+        const char* action;
+    };
+    static constexpr Way kWays[] = {
+        {"caret", "goToLine"},
+        {"encoding", "openAs"},
+        {"readOnly", "readOnlySwitch"},
+        {"modified", "save"},
+    };
+    if (field == QLatin1String("language")) {
+        m_languages->popup(QCursor::pos());
+        return;
+    }
+    if (field == QLatin1String("lineEnds")) {
+        auto* menu = new QMenu(this);
+        menu->setAttribute(Qt::WA_DeleteOnClose);
+        for (const char* name : {"endsWindows", "endsUnix", "endsMac"}) {
+            if (auto* action = findChild<QAction*>(QLatin1String(name)))
+                menu->addAction(action);
+        }
+        menu->popup(QCursor::pos());
+        return;
+    }
+    for (const Way& way : kWays) {
+        auto* action = findChild<QAction*>(QLatin1String(way.action));
+        if (field == QLatin1String(way.field) && action)
+            action->trigger();
+    }
 }
 
 void MainWindow::NextScript()

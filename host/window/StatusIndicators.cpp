@@ -9,6 +9,7 @@
 #include "host/script/ScriptFrame.h"
 #include "host/script/ScriptView.h"
 
+#include <QEvent>
 #include <QLabel>
 #include <QStatusBar>
 
@@ -24,20 +25,26 @@ QString LanguageName(int language)
 } // namespace
 
 StatusIndicators::StatusIndicators(QStatusBar* bar)
-    : QObject(bar), m_bar(bar), m_readOnly(AddField("readOnly", QStringLiteral("Read-only"))),
-      m_modified(AddField("modified", QStringLiteral("Modified"))),
-      m_caret(AddField("caret", QStringLiteral("Line 99999, column 999"))),
-      m_catalog(AddField("catalog", QStringLiteral("production_db"))),
-      m_language(AddField("language", QStringLiteral("InterBase/Firebird"))),
-      m_encoding(AddField("encoding", QStringLiteral("UTF-16 LE with mark"))),
-      m_lineEnds(AddField("lineEnds", QStringLiteral("CR LF"))),
-      m_overtype(AddField("overtype", QStringLiteral("OVR")))
+    : QObject(bar), m_bar(bar),
+      m_readOnly(AddField("readOnly", QStringLiteral("Read-only"),
+                          QT_TR_NOOP("Whether the script can be changed"))),
+      m_modified(AddField("modified", QStringLiteral("Modified"), QT_TR_NOOP("Save"))),
+      m_caret(
+          AddField("caret", QStringLiteral("Line 99999, column 999"), QT_TR_NOOP("Go to a line"))),
+      m_catalog(AddField("catalog", QStringLiteral("production_db"),
+                         QT_TR_NOOP("The database in force at the caret"))),
+      m_language(AddField("language", QStringLiteral("InterBase/Firebird"),
+                          QT_TR_NOOP("The language of the script"))),
+      m_encoding(AddField("encoding", QStringLiteral("UTF-16 LE with mark"),
+                          QT_TR_NOOP("Open with another encoding"))),
+      m_lineEnds(AddField("lineEnds", QStringLiteral("CR LF"), QT_TR_NOOP("Convert line ends"))),
+      m_overtype(AddField("overtype", QStringLiteral("OVR"), QT_TR_NOOP("Whether typing replaces")))
 {}
 
 // As wide as its widest text from the start, so that the fields beside it do not jump. A label
 // whose text changes has the layout around it made again, and the whole bar painted: the field that
 // it stands in keeps that off.
-QLabel* StatusIndicators::AddField(const char* name, const QString& widest)
+QLabel* StatusIndicators::AddField(const char* name, const QString& widest, const char* toolTip)
 {
     constexpr int kMargin = 6;
     auto* field = new QWidget(m_bar);
@@ -45,11 +52,21 @@ QLabel* StatusIndicators::AddField(const char* name, const QString& widest)
     label->setObjectName(QLatin1String(name));
     label->setAlignment(Qt::AlignCenter);
     label->setContentsMargins(kMargin, 0, kMargin, 0);
+    label->setToolTip(tr(toolTip));
+    label->installEventFilter(this);
     label->setText(widest);
     FitField(*label);
     label->clear();
     m_bar->addPermanentWidget(field);
     return label;
+}
+
+bool StatusIndicators::eventFilter(QObject* watched, QEvent* event)
+{
+    if (event->type() == QEvent::MouseButtonRelease &&
+        !static_cast<QLabel*>(watched)->text().isEmpty())
+        Q_EMIT Chosen(watched->objectName());
+    return QObject::eventFilter(watched, event);
 }
 
 // A field never shrinks again.

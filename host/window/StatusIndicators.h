@@ -9,13 +9,21 @@ class ScriptFrame;
 
 class StatusIndicators final : public QObject
 {
+    Q_OBJECT
+
 public:
     explicit StatusIndicators(QStatusBar* bar);
 
     void Show(const ScriptFrame* frame); // null: all empty
 
+Q_SIGNALS:
+    void Chosen(const QString& field); // by its object name, with the mouse
+
+protected:
+    bool eventFilter(QObject* watched, QEvent* event) override;
+
 private:
-    QLabel* AddField(const char* name, const QString& widest);
+    QLabel* AddField(const char* name, const QString& widest, const char* toolTip);
     static void FitField(QLabel& label);
     static void Put(QLabel& label, const QString& text);
 

@@ -74,6 +74,8 @@ TEST_F(Keys, OfLettersInTheFindBarStandForOneControlAndNoMenu)
     for (const QAction* menu : m_window.menuBar()->actions())
         letters[QKeySequence::mnemonic(menu->text()).toString()] = menu->text();
     for (const auto* button : m_window.findChild<FindBar*>()->findChildren<QAbstractButton*>()) {
+        if (button->text().isEmpty()) // Escape closes the bar
+            continue;
         const QString letter = QKeySequence::mnemonic(button->text()).toString();
         EXPECT_FALSE(letter.isEmpty()) << button->text().toStdString();
         EXPECT_FALSE(letters.contains(letter))

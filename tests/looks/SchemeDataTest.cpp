@@ -146,7 +146,9 @@ TEST(RolesOfStyles, AreThoseOfTheWholeNameThenOfItsLastPart)
 {
     const StyleRoles& roles = zncoreeditor::GetStyleRoles();
     EXPECT_EQ(roles.RoleOf(QStringLiteral("Messages.xml"), QStringLiteral("Tag")), "quotedName");
-    EXPECT_EQ(roles.RoleOf(QStringLiteral("HTML.xml"), QStringLiteral("Tag")), "keyword");
+    EXPECT_EQ(roles.RoleOf(QStringLiteral("HTML.xml"), QStringLiteral("Tag")),
+              roles.RoleOf({}, QStringLiteral("Tag")));
+    EXPECT_NE(roles.RoleOf({}, QStringLiteral("Tag")), "quotedName");
     EXPECT_EQ(roles.RoleOf({}, QStringLiteral("JavaScript: line comment")), "comment");
     EXPECT_EQ(roles.RoleOf({}, QStringLiteral("Inactive: Keyword")), "inactive");
     EXPECT_EQ(roles.RoleOf({}, QStringLiteral("Nothing that is known")), "");

@@ -1,0 +1,113 @@
+#include "host/window/CommandPalette.h"
+
+#include <QAction>
+#include <QKeyEvent>
+#include <QLineEdit>
+#include <QListWidget>
+#include <QMenu>
+#include <QMenuBar>
+#include <QVBoxLayout>
+
+#include <algorithm>
+
+namespace {
+
+constexpr int kEntry = Qt::UserRole; // its place among the entries
+
+QString Plain(QString text)
+{
+    return text.remove(u'&').remove(QStringLiteral("..."));
+}
+
+} // namespace
+
+CommandPalette::CommandPalette(const QMenuBar& menus, QWidget* parent)
+    : QDialog(parent, Qt::Popup), m_words(new QLineEdit(this)), m_list(new QListWidget(this))
+{
+    setAttribute(Qt::WA_DeleteOnClose);
+    setObjectName(QStringLiteral("commandPalette"));
+    setAccessibleName(tr("Commands"));
+    m_words->setPlaceholderText(tr("Type what a command is called"));
+    m_words->setAccessibleName(tr("Command"));
+    m_words->installEventFilter(this);
+    m_list->setAccessibleName(tr("Commands"));
+    m_list->setUniformItemSizes(true);
+    auto* layout = new QVBoxLayout(this);
+    layout->addWidget(m_words);
+    layout->addWidget(m_list);
+    Collect(menus.actions(), {});
+    connect(m_words, &QLineEdit::textChanged, this, &CommandPalette::Filter);
+    connect(m_list, &QListWidget::itemClicked, this, &CommandPalette::Choose);
+    Filter({});
+    constexpr QSize kSize(560, 360);
+    resize(kSize);
+    m_words->setFocus();
+}
+
+void CommandPalette::Collect(const QList<QAction*>& actions, const QString& path)
+{
+    for (QAction* action : actions) {
+        const QString name = path + Plain(action->text());
+        if (action->menu())
+            Collect(action->menu()->actions(), name + QStringLiteral(" \u203A "));
+        else if (!action->isSeparator())
+            m_entries.push_back({name, action});
+    }
+}
+
+// Each word has to stand somewhere in the name. What cannot be done comes in grey.
+void CommandPalette::Filter(const QString& words)
+{
+    const QStringList wanted = words.split(u' ', Qt::SkipEmptyParts);
+    m_list->clear();
+    for (std::size_t i = 0; i < m_entries.size(); ++i) {
+        const Entry& entry = m_entries[i];
+        const bool fits =
+            entry.action && std::all_of(wanted.begin(), wanted.end(), [&](auto& word) {
+                return entry.name.contains(word, Qt::CaseInsensitive);
+            });
+        if (!fits)
+            continue;
+        const QString keys = entry.action->shortcut().toString(QKeySequence::NativeText);
+        auto* item = new QListWidgetItem(
+            keys.isEmpty() ? entry.name : entry.name + QStringLiteral("    ") + keys, m_list);
+        item->setData(kEntry, static_cast<int>(i));
+        if (!entry.action->isEnabled())
+            item->setForeground(palette().brush(QPalette::Disabled, QPalette::Text));
+    }
+    m_list->setCurrentRow(0);
+}
+
+// The palette is gone before the command runs, so that it finds the focus where it was.
+void CommandPalette::Choose()
+{
+    const QListWidgetItem* item = m_list->currentItem();
+    if (!item)
+        return;
+    const QPointer<QAction> action =
+        m_entries[static_cast<std::size_t>(item->data(kEntry).toInt())].action;
+    close();
+    if (action && action->isEnabled())
+        QMetaObject::invokeMethod(action.data(), &QAction::trigger, Qt::QueuedConnection);
+}
+
+// The keys that walk through the list do so from the line above it.
+bool CommandPalette::eventFilter(QObject* watched, QEvent* event)
+{
+    if (event->type() != QEvent::KeyPress)
+        return QDialog::eventFilter(watched, event);
+    const auto& key = static_cast<const QKeyEvent&>(*event);
+    switch (key.key()) {
+    case Qt::Key_Return:
+    case Qt::Key_Enter:
+        Choose();
+        return true;
+    case Qt::Key_Up:
+    case Qt::Key_Down:
+        m_list->setCurrentRow(std::clamp(m_list->currentRow() + (key.key() == Qt::Key_Up ? -1 : 1),
+                                         0, m_list->count() - 1));
+        return true;
+    default:
+        return QDialog::eventFilter(watched, event);
+    }
+}

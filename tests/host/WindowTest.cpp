@@ -1,0 +1,128 @@
+// What the window offers around the script: tabs, the palette, fields that open, the find bar's
+// lights.
+#include "host/finding/FindBar.h"
+#include "host/script/ScriptTabs.h"
+#include "host/window/CommandPalette.h"
+#include "tests/host/WorkbenchTest.h"
+
+#include <QClipboard>
+#include <QComboBox>
+#include <QLineEdit>
+#include <QListWidget>
+#include <QMenu>
+#include <QTabBar>
+#include <QTest>
+#include <QToolButton>
+
+namespace {
+
+class Windows : public WorkbenchTest
+{
+protected:
+    ScriptTabs& Tabs() { return *m_window.findChild<ScriptTabs*>(); }
+    void Rest()
+    {
+        QApplication::processEvents();
+        Disposal::Run();
+    }
+};
+
+TEST_F(Windows, CloseATabByTheMiddleButton)
+{
+    Open("one.sql", "1\n");
+    Open("two.sql", "2\n");
+    const int before = m_window.TabCount();
+    QTest::mouseClick(Tabs().tabBar(), Qt::MiddleButton, {}, Tabs().tabBar()->tabRect(0).center());
+    Rest();
+    EXPECT_EQ(m_window.TabCount(), before - 1);
+}
+
+TEST_F(Windows, CloseAllTabsButOne)
+{
+    Open("one.sql", "1\n");
+    Open("two.sql", "2\n");
+    Open("three.sql", "3\n");
+    Tabs().CloseOthers(1);
+    Rest();
+    ASSERT_EQ(m_window.TabCount(), 1);
+    EXPECT_EQ(Script().Name(), QStringLiteral("two.sql"));
+}
+
+TEST_F(Windows, CopyThePathOfATab)
+{
+    Open("one.sql", "1\n");
+    Tabs().ShowMenu(Tabs().currentIndex(), QPoint(10, 10));
+    const auto* menu = Tabs().findChild<QMenu*>(QStringLiteral("tabMenu"));
+    ASSERT_NE(menu, nullptr);
+    for (QAction* action : menu->actions()) {
+        if (action->text() == QLatin1String("Copy &Path"))
+            action->trigger();
+    }
+    EXPECT_EQ(QApplication::clipboard()->text(), PathOf("one.sql"));
+}
+
+TEST_F(Windows, ShowWholeNamesOnTabsAndAListOfThem)
+{
+    Open("a_name_that_is_really_quite_long_for_a_script.sql", "1\n");
+    EXPECT_EQ(Tabs().tabBar()->elideMode(), Qt::ElideNone);
+    const auto* list = m_window.findChild<QToolButton*>(QStringLiteral("tabList"));
+    ASSERT_NE(list, nullptr);
+    Q_EMIT list->menu()->aboutToShow();
+    EXPECT_EQ(list->menu()->actions().size(), m_window.TabCount());
+}
+
+TEST_F(Windows, FindACommandByWordsOfItsName)
+{
+    Open("one.sql", "a\nb\n");
+    Editor().GotoPos(0, 1);
+    m_window.ShowCommands();
+    auto* palette = static_cast<CommandPalette*>(
+        m_window.findChild<QDialog*>(QStringLiteral("commandPalette")));
+    ASSERT_NE(palette, nullptr);
+    palette->findChild<QLineEdit*>()->setText(QStringLiteral("down lines"));
+    const auto* list = palette->findChild<QListWidget*>();
+    ASSERT_EQ(list->count(), 1);
+    EXPECT_TRUE(list->item(0)->text().endsWith(QStringLiteral("Alt+Down")));
+    QTest::keyClick(palette->findChild<QLineEdit*>(), Qt::Key_Return);
+    Rest();
+    EXPECT_EQ(Text(), QStringLiteral("b\na\n"));
+}
+
+TEST_F(Windows, CountWhatIsSelected)
+{
+    Open("one.sql", "select\n");
+    Editor().SetSel(0, 4, 1);
+    Q_EMIT Script().StateChanged();
+    EXPECT_EQ(Status("caret"), QStringLiteral("Line 1, column 5 (4 selected)"));
+}
+
+TEST_F(Windows, SayWhichMatchIsSelected)
+{
+    Open("one.sql", "x a x a x\n");
+    Editor().GotoPos(0, 1);
+    m_window.Find().Open();
+    m_window.Find().findChild<QComboBox*>(QStringLiteral("findText"))->setEditText("a");
+    m_window.Find().FindNext();
+    const auto* result = m_window.Find().findChild<QLabel*>(QStringLiteral("findResult"));
+    EXPECT_EQ(result->text(), QStringLiteral("1 of 2"));
+    m_window.Find().FindNext();
+    EXPECT_EQ(result->text(), QStringLiteral("2 of 2"));
+    m_window.Find().findChild<QToolButton*>(QStringLiteral("closeFind"))->click();
+    EXPECT_TRUE(m_window.Find().isHidden());
+}
+
+TEST_F(Windows, OfferEveryGestureInTheMenus)
+{
+    Open("one.sql", "select 1;\n");
+    Trigger("toggleComment");
+    EXPECT_EQ(Text(), QStringLiteral("-- select 1;\n"));
+    Trigger("toggleComment");
+    EXPECT_EQ(Text(), QStringLiteral("select 1;\n"));
+    EXPECT_FALSE(Action("surroundQuotes").isEnabled());
+    Editor().SetReadOnly(1, 1);
+    Q_EMIT Script().StateChanged();
+    EXPECT_FALSE(Action("toggleComment").isEnabled());
+    EXPECT_TRUE(Action("growSelection").isEnabled());
+}
+
+} // namespace
