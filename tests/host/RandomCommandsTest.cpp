@@ -48,12 +48,13 @@ protected:
     void Command()
     {
         QList<QAction*> possible;
+        // Those that ask wait for somebody, but for the few whose questions the test answers.
+        static const QStringList kAnswered = {"open", "openAs", "saveAs", "find"};
         for (QAction* action : m_window.findChildren<QAction*>()) {
             const QString name = action->objectName();
+            const bool asks = action->text().endsWith("...") && !kAnswered.contains(name);
             if (action->isEnabled() && !action->menu() && !name.isEmpty() && name != "quit" &&
-                name != "options" && name != "autosave" && name != "insertFile" &&
-                name != "goToLine" && name != "commands" &&
-                name != "findInFiles") // wait for somebody
+                !asks)
                 possible << action;
         }
         QAction* chosen = possible[Below(static_cast<int>(possible.size()))];
