@@ -58,13 +58,16 @@ std::string Bytes(const SqlUnderTest& sql)
     return QString::fromStdU16String(sql.Text()).toStdString();
 }
 
+// The alikes that stand for a style in a long line as that style.
 std::string StylesOf(const SqlUnderTest& sql)
 {
+    constexpr long kAlike = 0x7F;
     std::string styles;
     const long length = Stock(sql).SendScintilla(Sci::SCI_GETLENGTH);
     for (long i = 0; i < length; ++i)
         styles += static_cast<char>(
-            'A' + Stock(sql).SendScintilla(Sci::SCI_GETSTYLEAT, static_cast<unsigned long>(i)));
+            'A' + (Stock(sql).SendScintilla(Sci::SCI_GETSTYLEAT, static_cast<unsigned long>(i)) &
+                   kAlike));
     return styles;
 }
 
