@@ -107,6 +107,8 @@ private:
             Mark(EndOfBlockComment(), Stretch::Comment);
         else if (unit == u'\'' || unit == u'"')
             Mark(EndOfString(m_at + 1, unit, m_facts.backslash), Stretch::String);
+        else if (unit == u'\\' && m_facts.backslash && next > u' ')
+            m_at += 2; // what stands behind an escape of the client begins no string
         else if (IsOneOf(unit, m_facts.names))
             Mark(EndOfString(m_at + 1, unit == u'[' ? u']' : unit, false), Stretch::Code);
         else if (unit == u'$' && !IsVariable() && m_facts.dollar && EndOfTag(m_at) > 0)
