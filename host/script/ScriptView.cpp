@@ -17,6 +17,8 @@
 #include <chrono>
 #include <utility>
 
+#include <algorithm>
+
 const CRuntimeClass* ScriptView::GetThisClass()
 {
     static const CRuntimeClass own = {"ScriptView", CZNCoreEditorView::GetThisClass(),
@@ -102,7 +104,11 @@ void ScriptView::LookAtFile()
 
 int ScriptView::OnCmdMsg(UINT id, int code, void* extra, CommandHandlerInfo* info)
 {
-    return CZNCoreEditorView::OnCmdMsg(id, code, extra, info) ||
+    // The find bar's, which the frame has: the editor itself would open the dialogs.
+    constexpr UINT kOfTheFindBar[] = {57636, 57640, 57641};
+    if (CZNCoreEditorView::OnCmdMsg(id, code, extra, info))
+        return 1;
+    return std::ranges::find(kOfTheFindBar, id) == std::end(kOfTheFindBar) &&
            m_coreEditor.OnCmdMsg(id, code, extra, info);
 }
 
