@@ -91,8 +91,7 @@ bool NameClicks::eventFilter(QObject* /*watched*/, QEvent* event)
         (!IsAddress(name) && FindNamed(name, m_view.Script()->GetPathName()).path.isEmpty()))
         return false;
     m_isTaken = true;
-    const QString path = name;
     QMetaObject::invokeMethod(
-        this, [this, path] { m_view.OpenNamed(path); }, Qt::QueuedConnection);
+        this, [this, name] { m_view.OpenNamed(name); }, Qt::QueuedConnection);
     return true;
 }

@@ -14,10 +14,9 @@
 
 #include <QTimer>
 
+#include <algorithm>
 #include <chrono>
 #include <utility>
-
-#include <algorithm>
 
 const CRuntimeClass* ScriptView::GetThisClass()
 {
