@@ -19,7 +19,7 @@ namespace {
 
 QString NameOf(const ScriptDoc& script)
 {
-    const QString path = script.GetPathName();
+    const QString& path = script.GetPathName();
     return path.isEmpty() ? script.GetTitle() : path;
 }
 
