@@ -119,7 +119,7 @@ TEST(SessionData, BringsNumbersIntoTheirRange)
          {R"("caretLine":-1,"firstVisible":-5,"encoding":-2)", R"("caretLine":1e30)",
           R"("caretLine":"7","encoding":"6")", R"("encoding":3)", R"("encoding":12)",
           R"("firstVisible":2147483648)", R"("caretLine":1.5)", R"("readOnly":"yes")",
-          R"("panes":3)", R"("panes":-1)", R"("panes":"1")"}) {
+          R"("panes":4)", R"("panes":-1)", R"("panes":"1")"}) {
         const Session session = Read(WithFile(members));
         ASSERT_EQ(session.files.size(), 1) << members;
         EXPECT_EQ(session.files[0], plain) << members;
