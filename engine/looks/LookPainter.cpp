@@ -32,11 +32,11 @@ constexpr unsigned Bit(int marker)
 } // namespace
 
 LookPainter::LookPainter(QsciScintillaBase& window, const Raw& raw, const StoredText& text)
-    : m_window(window), m_raw(raw), m_text(text), m_occurrences(raw, text, kOccurrenceIndicator,
-                                                                [this] {
-                                                                    if (m_marks)
-                                                                        m_marks->Soon();
-                                                                }),
+    : m_window(window), m_raw(raw), m_occurrences(raw, text, kOccurrenceIndicator,
+                                                  [this] {
+                                                      if (m_marks)
+                                                          m_marks->Soon();
+                                                  }),
       m_matches(raw, text, kMatchIndicator, [this] {
           if (m_marks)
               m_marks->Soon();

@@ -54,7 +54,6 @@ private:
 
     QsciScintillaBase& m_window;
     const Raw& m_raw;
-    const StoredText& m_text;
     std::optional<Looks> m_looks;
     Highlights m_occurrences;
     Highlights m_matches;
