@@ -85,7 +85,8 @@ void PdfWriter::NextLine()
 {
     xPos = marginLeft;
     yPos -= leading;
-    if (Family(fontSet).descent * fontSize / 1000 + marginBottom > yPos)
+    const int descent = Family(fontSet).descent * fontSize / 1000; // in whole points
+    if (descent + marginBottom > yPos)
         return;
     if (!firstLine) {
         pageData += u"T*\n";
