@@ -26,7 +26,7 @@ constexpr UINT kOpenAtCaret = 54026;
 // A path with the ending, beside the script or in the folder that the process stands in.
 QString ProposalFor(const ScriptDoc& script, const QString& ending)
 {
-    const QString path = script.GetPathName();
+    const QString& path = script.GetPathName();
     const QFileInfo file(path.isEmpty() ? QDir::current().filePath(script.Name()) : path);
     return file.dir().filePath(file.completeBaseName() + ending);
 }
@@ -54,11 +54,13 @@ void ScriptView::SaveAsPdf()
 
 void ScriptView::SaveAsHtml()
 {
+    const ScriptDoc* asked = Script();
+    const QString path = asked ? AskPath(GetSafeHwnd(), *asked, QStringLiteral(".html"),
+                                         QStringLiteral("HTML (*.html *.htm)"))
+                               : QString();
+    // The script may have gone while the dialog was open.
     const ScriptDoc* script = Script();
-    const QString path = script ? AskPath(GetSafeHwnd(), *script, QStringLiteral(".html"),
-                                          QStringLiteral("HTML (*.html *.htm)"))
-                                : QString();
-    if (!path.isEmpty() && Script())
+    if (script && !path.isEmpty())
         ::SaveAsHtml(m_coreEditor, script->Name(), path, GetSafeHwnd());
 }
 
