@@ -35,7 +35,10 @@ bool ReportIncludedFiles()
             Report(path, problem);
         areWhole = areWhole && problem.isEmpty();
     }
-    return areWhole;
+    const QStringList& cut = zncoreeditor::GetCompileManager()->GetCutFiles();
+    if (areWhole && !cut.isEmpty())
+        Report(cut.front(), QStringLiteral("not all of it could be read"));
+    return areWhole && cut.isEmpty();
 }
 
 // The line that was commented out ends in a lone carriage return before the text of its file.

@@ -67,6 +67,14 @@ namespace {
 
 const QString kSection = QStringLiteral("Backup");
 
+// What cannot be asked may hold a text.
+bool IsUnwritten(const QString& path)
+{
+    struct stat status;
+    return lstat(QFile::encodeName(path).constData(), &status) == 0 && S_ISREG(status.st_mode) &&
+           status.st_size == 0;
+}
+
 QString NameOf(const QString& path)
 {
     return path.mid(path.lastIndexOf(u'/') + 1);
@@ -109,7 +117,10 @@ QString MakeCopyFile(const QString& folder)
 
 void WriteNote(const QString& copyPath, const QString& documentPath)
 {
-    ApplicationProfile().WriteString(kSection, NameOf(copyPath), Units(documentPath));
+    IApplicationProfile& profile = ApplicationProfile();
+    const QString name = NameOf(copyPath);
+    if (profile.GetString(kSection, name, QString()) != documentPath)
+        profile.WriteString(kSection, name, Units(documentPath));
 }
 
 void RemoveNote(const QString& copyPath)
@@ -166,7 +177,7 @@ void RemoveUnwritten()
         QDir(folder).entryInfoList(patterns, QDir::Files | QDir::Hidden | QDir::NoSymLinks);
     for (const QFileInfo& file : files) {
         const bool isPart = file.fileName().startsWith(u'.');
-        if (!isPart && file.size() > 0)
+        if (!isPart && !IsUnwritten(file.filePath()))
             continue;
         const QString copy = folder + (isPart ? CopyOfPart(file.fileName()) : file.fileName());
         CopyClaim claim;
@@ -224,7 +235,14 @@ void CZNCoreEditorControl::DeleteAutoSaveFile()
     autosave::RemoveNote(m_strAutoSaveFile);
     autosave::RemoveCopy(m_strAutoSaveFile);
     m_strAutoSaveFile.clear();
+    m_bHasWrittenCopy = false;
     m_copyClaim->Release();
+}
+
+// The engine tells whether the text is as it was read or saved; that the file is, the file tells.
+bool CZNCoreEditorControl::DiffersFromFile()
+{
+    return GetModify(1) != 0 || m_fileStamp != StampOf(Units(m_strFileName));
 }
 
 // The timer fires once: killed here and set again behind the write, so that ticks cannot pile up
@@ -233,8 +251,12 @@ void CZNCoreEditorControl::OnTimer(UINT id)
 {
     if (id == kTimer) {
         KillTimer(kTimer);
-        if (m_bModified && GetReadOnly(1) == 0 && GetLineCount(1) > 0 && !m_strFileName.isEmpty())
-            WriteAutoSaveCopy();
+        if (m_bModified && GetReadOnly(1) == 0 && GetLineCount(1) > 0 && !m_strFileName.isEmpty()) {
+            if (!Policy().sparesEqual || DiffersFromFile())
+                WriteAutoSaveCopy(m_strFileName);
+            else if (m_bHasWrittenCopy) // everything was undone
+                DeleteAutoSaveFile();
+        }
         SetAutoSave(m_bAutoSaveOn, m_nAutoSaveMinutes);
     }
     CWnd::OnTimer(id);
@@ -243,14 +265,14 @@ void CZNCoreEditorControl::OnTimer(UINT id)
 // Whatever fails here is tried again at the next tick. The note is there before the first text is,
 // so that no copy is ever without one. With care the copy is empty until it is complete; without it
 // the note may name a copy that is cut short.
-void CZNCoreEditorControl::WriteAutoSaveCopy()
+void CZNCoreEditorControl::WriteAutoSaveCopy(const QString& documentPath)
 {
     try {
         MakeAutoSaveFile();
         if (m_strAutoSaveFile.isEmpty())
             return;
-        autosave::WriteNote(m_strAutoSaveFile, m_strFileName);
-        WriteToFile(Units(m_strAutoSaveFile));
+        autosave::WriteNote(m_strAutoSaveFile, documentPath);
+        m_bHasWrittenCopy = WriteToFile(Units(m_strAutoSaveFile)) || m_bHasWrittenCopy;
     } catch (const std::bad_alloc&) {
         // The longest line needs a buffer, for which there may be memory later.
     }
@@ -262,6 +284,11 @@ void CZNCoreEditorControl::MakeAutoSaveFile()
     const QString folder = autosave::BackupFolder(true);
     if (m_strAutoSaveDir.isEmpty())
         m_strAutoSaveDir = folder;
+    // A copy among the temporary files is found by nobody; it moves as soon as it can.
+    const bool isLost =
+        !m_strAutoSaveDir.isEmpty() && !m_strAutoSaveFile.startsWith(m_strAutoSaveDir);
+    if (Policy().keepsCopies && isLost)
+        DeleteAutoSaveFile();
     if (m_strAutoSaveFile.isEmpty())
         m_strAutoSaveFile = autosave::MakeCopyFile(m_strAutoSaveDir);
     if (!m_strAutoSaveFile.isEmpty() && !m_strAutoSaveDir.isEmpty())
@@ -272,6 +299,7 @@ void CZNCoreEditorControl::MakeAutoSaveFile()
 void CZNCoreEditorControl::LeaveAutoSaveCopy()
 {
     m_strAutoSaveFile.clear();
+    m_bHasWrittenCopy = false;
     m_copyClaim->Release();
 }
 
@@ -283,15 +311,26 @@ void CZNCoreEditorControl::OfferAutoSaveCopy(Encoding encoding)
     if (Policy().passesUnwritten)
         autosave::RemoveUnwritten();
     const QString name = autosave::FindCopy(m_strFileName, [this](const QString& copyPath) {
-        return m_copyClaim->Take(copyPath) || !Policy().sparesClaimed;
+        if (!m_copyClaim->Take(copyPath) && Policy().sparesClaimed)
+            return false;
+        if (!Policy().sparesEqual || !HaveSameBytes(Units(copyPath), Units(m_strFileName)))
+            return true;
+        m_strAutoSaveFile = copyPath;
+        DeleteAutoSaveFile();
+        return false;
     });
     if (name.isEmpty())
         return;
-    if (m_strAutoSaveDir.isEmpty())
-        m_strAutoSaveDir = autosave::BackupFolder(true);
+    for (const bool create : {true, false}) {
+        if (m_strAutoSaveDir.isEmpty())
+            m_strAutoSaveDir = autosave::BackupFolder(create);
+    }
     m_strAutoSaveFile = m_strAutoSaveDir + name;
-    if (GetReadOnly(1) != 0)
+    if (GetReadOnly(1) != 0) {
+        if (Policy().keepsCopies)
+            LeaveAutoSaveCopy();
         return;
+    }
     const QString question = zncoreeditor::GetResourceLoader().FormatString(
         kRecoveryText, {znutils::CSpecialFolders::GetSimpleAppName(), m_strFileName});
     const HostOfEditor host(*this);
@@ -303,7 +342,8 @@ void CZNCoreEditorControl::OfferAutoSaveCopy(Encoding encoding)
 }
 
 // The save point stays with the file on disk, and one undo brings its text back. A copy that cannot
-// be opened stays for later.
+// be opened stays for later. With care one that was loaded goes on as this control's own, so that
+// its text is never in memory alone.
 void CZNCoreEditorControl::LoadAutoSaveCopy(Encoding encoding)
 {
     FilePointer file = OpenForReading(Units(m_strAutoSaveFile));
@@ -321,10 +361,12 @@ void CZNCoreEditorControl::LoadAutoSaveCopy(Encoding encoding)
     EndUndoAction(1);
     if (keepsUtf8)
         m_nEncoding = FileEncodeConverter::encUTF8;
+    const bool isWhole = !m_bCutShort;
     // A complete copy of a text that was cut short does not bring back the rest of its file.
     m_bCutShort = m_bCutShort || fileWasCutShort;
-    if (host.IsStillThere())
+    if (!host.IsStillThere() || (Policy().keepsCopies && !isWhole))
+        LeaveAutoSaveCopy(); // closed under the message that it is cut short, or there is more in
+                             // it
+    else if (!Policy().keepsCopies)
         DeleteAutoSaveFile();
-    else
-        LeaveAutoSaveCopy(); // closed under the message that it is cut short
 }

@@ -16,6 +16,33 @@ QByteArray NativePath(const char16_t* path)
     return path ? QFile::encodeName(QString::fromUtf16(path)) : QByteArray();
 }
 
+FileStamp StampOf(const char16_t* path)
+{
+    struct stat status;
+    if (stat(NativePath(path).constData(), &status) != 0)
+        return {};
+    return {status.st_size, status.st_mtim.tv_sec, status.st_mtim.tv_nsec};
+}
+
+bool HaveSameBytes(const char16_t* path, const char16_t* otherPath)
+{
+    const FilePointer one = OpenForReading(path);
+    const FilePointer other = OpenForReading(otherPath);
+    std::array<char, 8192> first;
+    std::array<char, 8192> second;
+    while (one && other) {
+        const std::size_t count = std::fread(first.data(), 1, first.size(), one.get());
+        if (std::fread(second.data(), 1, second.size(), other.get()) != count ||
+            !std::equal(first.begin(), first.begin() + static_cast<std::ptrdiff_t>(count),
+                        second.begin()) ||
+            std::ferror(one.get()) || std::ferror(other.get()))
+            return false;
+        if (count == 0)
+            return true;
+    }
+    return false;
+}
+
 bool PathExists(const char16_t* path)
 {
     struct stat status;

@@ -99,6 +99,7 @@ bool CZNCoreEditorControl::OpenFile(const char16_t* path, Encoding encoding)
         SetReadOnly(1, 1);
     SetSavePoint(1);
     m_strFileName = QString::fromUtf16(path);
+    m_fileStamp = StampOf(path);
     if (m_bCutShort)
         Fails(FileProblem::CutShort, path);
     OfferAutoSaveCopy(encoding);
@@ -144,6 +145,7 @@ void CZNCoreEditorControl::AdoptFile(const CZNCoreEditorControl& other)
     m_nEncoding = other.m_nEncoding;
     m_bWriteEncodingSig = other.m_bWriteEncodingSig;
     m_bCutShort = other.m_bCutShort;
+    m_fileStamp = other.m_fileStamp;
     m_bModified = other.m_bModified;
 }
 

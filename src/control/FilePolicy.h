@@ -26,6 +26,8 @@ struct FilePolicy
     bool keepsUtf8;       // a copy that could be in UTF-8 is, if its file is
     bool needsWindow;     // without a window of the engine there is no text to load or to save
     bool opensReadOnly;   // a load reaches a text that is read-only, and leaves it so
+    bool sparesEqual;     // no copy is written, or offered, of a text that is the file's
+    bool keepsCopies;     // a copy goes once its text is saved or given up, and not before
     bool forgetsHistory;  // what was undone before a load cannot be undone behind it
 };
 
@@ -46,6 +48,8 @@ inline constexpr FilePolicy kPlainFiles = {
     .keepsUtf8 = false,
     .needsWindow = false,
     .opensReadOnly = false,
+    .sparesEqual = false,
+    .keepsCopies = false,
     .forgetsHistory = false,
 };
 
@@ -63,5 +67,7 @@ inline constexpr FilePolicy kCarefulFiles = {
     .keepsUtf8 = true,
     .needsWindow = true,
     .opensReadOnly = true,
+    .sparesEqual = true,
+    .keepsCopies = true,
     .forgetsHistory = true,
 };

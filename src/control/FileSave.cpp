@@ -6,6 +6,8 @@
 #include "control/FilePolicy.h"
 #include "platform/file/TargetFile.h"
 
+#include <QFile>
+
 #include <algorithm>
 
 namespace {
@@ -110,6 +112,7 @@ bool CZNCoreEditorControl::SaveFile(const char16_t* path, Encoding encoding, boo
     if (written) {
         SetSavePoint(1);
         m_strFileName = QString::fromUtf16(path);
+        m_fileStamp = StampOf(path);
         if (IsFileEncoding(encoding))
             m_nEncoding = encoding;
         m_bWriteEncodingSig = writeMark;
@@ -149,6 +152,9 @@ bool CZNCoreEditorControl::WriteToFile(const char16_t* path, Encoding encoding, 
         return !Policy().reportsUnopened;
     }
     const bool isConverted = WriteText(target, encoding, writeMark);
+    // A process that dies while it writes over a file leaves the text in a copy that is offered.
+    if (isConverted && target.WritesOver() && name != QFile::encodeName(m_strAutoSaveFile))
+        WriteAutoSaveCopy(QString::fromUtf16(path));
     if (isConverted && target.Close())
         return true;
     return Fails(target.Error() ? FileResult::OfWrite(target.Error()) : FileProblem::NotConverted,

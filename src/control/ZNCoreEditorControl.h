@@ -5,6 +5,7 @@
 
 #include "common/Export.h"
 #include "control/EngineMessages.h"
+#include "control/FileAccess.h"
 #include "control/FileResult.h"
 #include "encoding/FileEncodeConverter.h"
 #include "platform/windows/Wnd.h"
@@ -229,6 +230,11 @@ protected:
     // text to the engine's line-end mode.
     void ReadInFileContents(std::FILE* file, FileEncodeConverter::encodingType encoding,
                             bool convertEOLs);
+    // What the last read left over, of whichever file.
+    void SetCutShort(bool cutShort)
+    {
+        m_bCutShort = cutShort;
+    }
     // Counts each kind until one reaches 10; maxLines 0 means all lines.
     void CountLineEnds(int& cr, int& lf, int& crlf, int maxLines);
 
@@ -255,7 +261,8 @@ protected:
     bool m_bWriteEncodingSig = true;
 
 private:
-    void WriteAutoSaveCopy();
+    bool DiffersFromFile();
+    void WriteAutoSaveCopy(const QString& documentPath);
     void MakeAutoSaveFile();
     void OfferAutoSaveCopy(FileEncodeConverter::encodingType encoding);
     void LoadAutoSaveCopy(FileEncodeConverter::encodingType encoding);
@@ -281,6 +288,8 @@ private:
 
     bool m_bCarefulFiles = false;
     FileResult m_fileResult;
+    FileStamp m_fileStamp;          // of the file behind the text when it was read or written
+    bool m_bHasWrittenCopy = false; // the autosave file has a text of this control's
     bool m_bCutShort = false;
     std::unique_ptr<CopyClaim> m_copyClaim; // on the autosave file
 };

@@ -226,6 +226,8 @@ public:
 
     // Files and search
     bool InsertFile(const char16_t* path, FileEncodeConverter::encodingType encoding);
+    // Of a file that is open, which is closed here. False if not all of it is in the text.
+    bool InsertFile(std::FILE* file, FileEncodeConverter::encodingType encoding);
     // The place of the text in the range, which may run backwards; -1 if it is not there. By the
     // search flags in force; the target is left at the match.
     int FindInTarget(const char16_t* text, int length, int start, int end);

@@ -17,6 +17,8 @@
 #include <cerrno>
 #include <vector>
 
+#include <unistd.h>
+
 namespace {
 
 enum TextId : UINT
@@ -100,6 +102,7 @@ void CZNCompileManager::PreProcess(CZNCoreEditorControlEx* control, QString scri
     SaveOriginalScript(script);
     script = QString(); // a long one is held by the file alone
     m_map.Clear();
+    m_cutFiles.clear();
     if (control->GetReadOnly(1))
         return; // nothing can be expanded in place
     Run run(*this, *control);
@@ -171,7 +174,13 @@ long CZNCompileManager::ExpandInclude(const QString& line, long lineEnd)
     const QString marker = text.CommentMarker();
     const QString path =
         FindIncludeFile(directive::IncludedName(line, m_run->includeWord.size(), marker));
-    return path.isEmpty() ? -1 : text.InsertFileBehind(lineEnd, marker, path);
+    if (path.isEmpty())
+        return -1;
+    bool isWhole = true;
+    const long inserted = text.InsertFileBehind(lineEnd, marker, path, m_opened.release(), isWhole);
+    if (!isWhole)
+        m_cutFiles << path;
+    return inserted;
 }
 
 // A message that a search left behind, found or not, stays for the next one.
@@ -197,9 +206,15 @@ QString CZNCompileManager::FindInFolders(const QString& folders, const QString& 
 
 bool CZNCompileManager::CanOpenFile(const QString& path, const QString& name)
 {
-    const int error = WhyNotReadable(path);
-    if (error == 0)
+    int error = 0;
+    const int file = OpenScript(path, error);
+    m_opened.reset(file < 0 ? nullptr : fdopen(file, "rb"));
+    if (m_opened)
         return true;
+    if (file >= 0) {
+        error = errno;
+        close(file);
+    }
     // That a file is missing tells least, so it gives way to every other reason.
     if (error != ENOENT || m_errorMessage.isEmpty())
         m_errorMessage = CannotOpen(name, error);

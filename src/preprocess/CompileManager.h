@@ -4,9 +4,11 @@
 #pragma once
 
 #include "common/Export.h"
+#include "control/FileAccess.h"
 #include "preprocess/language/SourceMap.h"
 
 #include <QString>
+#include <QStringList>
 
 #include <map>
 #include <memory>
@@ -50,8 +52,12 @@ public:
     // read. The script's own folder is not looked in.
     QString FindIncludeFile(QString name);
     // False, with the message at hand, if it cannot be read; the name is the one the message tells.
+    // The file stays open until the next one, for the include that reads it.
     bool CanOpenFile(const QString& path, const QString& name);
     QString GetDefaultSearchPath() const;
+
+    // The files of the last run that are in its result only up to a place that could not be read.
+    const QStringList& GetCutFiles() const { return m_cutFiles; }
 
     // Where the lines of the last run's result came from.
     const SourceMap& GetSourceMap() const { return m_map; }
@@ -72,6 +78,8 @@ private:
     QString m_originalScript;
     QString m_backupFile;
     QString m_errorMessage;
+    FilePointer m_opened; // what CanOpenFile has opened
+    QStringList m_cutFiles;
     std::set<QString> m_doneIncludes;
     std::map<QString, QString> m_predefined;
     SourceMap m_map;

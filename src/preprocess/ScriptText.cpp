@@ -232,7 +232,8 @@ void ScriptText::Insert(long position, const QString& text)
 
 // A file that begins with a line feed completes the carriage return to one line end; its first
 // line is then not there.
-long ScriptText::InsertFileBehind(long lineEnd, const QString& markerInFront, const QString& path)
+long ScriptText::InsertFileBehind(long lineEnd, const QString& markerInFront, const QString& path,
+                                  std::FILE* file, bool& isWhole)
 {
     const long length = Length();
     const int line = LineOf(lineEnd);
@@ -246,7 +247,7 @@ long ScriptText::InsertFileBehind(long lineEnd, const QString& markerInFront, co
     // The script's own file keeps its encoding, whatever the included one is in.
     const int encoding = m_control.GetEncoding();
     const bool hasMark = m_control.GetWriteEncodingSig();
-    m_control.InsertFile(Units(path), FileEncodeConverter::encUnknown);
+    isWhole = m_control.InsertFile(file, FileEncodeConverter::encUnknown);
     m_control.SetEncoding(encoding);
     m_control.SetWriteEncodingSig(hasMark);
     m_control.SetModified(modified);

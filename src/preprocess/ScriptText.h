@@ -4,6 +4,8 @@
 
 #include <QString>
 
+#include <cstdio>
+
 class CZNCoreEditorControlEx;
 class CFindReplaceManager;
 class SourceMap;
@@ -46,8 +48,10 @@ public:
     int Replace(long position, const QString& what, const QString& with);
 
     void Insert(long position, const QString& text);
-    // Below the line that ends here, as one that ends in a lone carriage return. The length put in.
-    long InsertFileBehind(long lineEnd, const QString& markerInFront, const QString& path);
+    // The open file, which is closed here, below the line that ends here, as one that ends in a
+    // lone carriage return. The length put in, and whether all of the file is.
+    long InsertFileBehind(long lineEnd, const QString& markerInFront, const QString& path,
+                          std::FILE* file, bool& isWhole);
 
     unsigned Changes() const { return m_changes; } // counts up with each
 

@@ -1,6 +1,8 @@
 // What a crash has left is found by the file's path, offered, and loaded or kept.
 #include "tests/control/AutosaveFixture.h"
 
+#include <QDateTime>
+
 #include <ctime>
 
 #include <fcntl.h>
@@ -312,7 +314,7 @@ TEST_F(Unwritten, PartsGoAndLeaveTheCopyThatWasWrittenBefore)
     Write(BackupFolder() + QStringLiteral(".~ZN2.tmp.abc.tmp"), "sel");
     ASSERT_TRUE(Open("select 1;"));
     EXPECT_EQ(editor.Text(), u"select 2;");
-    EXPECT_EQ(Everything(), QStringList(QStringLiteral("~ZN2.tmp")));
+    EXPECT_EQ(Everything(), (QStringList{QStringLiteral("~ZN1.tmp"), QStringLiteral("~ZN2.tmp")}));
     EXPECT_EQ(Note(QStringLiteral("~ZN2.tmp")), PathOf("other.sql"));
 }
 
@@ -458,4 +460,108 @@ TEST_F(TwoControls, KeepTheirClaimWhenTheFolderIsClearedAndMadeAgain)
     ASSERT_EQ(OnlyCopy(), firstCopy);
     ASSERT_TRUE(second.control->OpenFile(PathOf("doc.sql").toStdU16String().c_str(), kDetect));
     EXPECT_TRUE(questions.asked.isEmpty());
+}
+
+TEST_F(Recovery, WithCareACopyThatIsTheFileGoesWithoutAWord)
+{
+    Plant("~ZN1.tmp", "select 1;");
+    control().SetCarefulFiles(true);
+    ASSERT_TRUE(Open("select 1;"));
+    EXPECT_TRUE(questions.asked.isEmpty());
+    EXPECT_TRUE(Copies().isEmpty());
+    EXPECT_EQ(Note(QStringLiteral("~ZN1.tmp")), QString());
+    EXPECT_TRUE(control().m_strAutoSaveFile.isEmpty());
+}
+
+TEST_F(Recovery, WithCareACopyThatWasLoadedStaysUntilItsTextIsSaved)
+{
+    const QString copy = Plant("~ZN1.tmp", "select 2;");
+    control().SetCarefulFiles(true);
+    questions.answer = Answer::Yes;
+    ASSERT_TRUE(Open("select 1;"));
+    EXPECT_EQ(editor.Text(), u"select 2;");
+    EXPECT_EQ(Read(copy), QByteArray("select 2;"));
+    EXPECT_EQ(Note(QStringLiteral("~ZN1.tmp")), PathOf("doc.sql"));
+    ASSERT_TRUE(control().SaveFile(PathOf("doc.sql").toStdU16String().c_str(), true));
+    EXPECT_TRUE(Copies().isEmpty());
+}
+
+TEST_F(Recovery, WithCareACopyThatCannotBeReadToItsEndStays)
+{
+    const QByteArray cut("\xFF\xFEx\0y", 5);
+    const QString copy = Plant("~ZN1.tmp", cut);
+    control().SetCarefulFiles(true);
+    questions.answer = Answer::Yes;
+    ASSERT_TRUE(Open("select 1;"));
+    EXPECT_EQ(editor.Text(), u"x");
+    EXPECT_TRUE(questions.asked.contains(kTruncated));
+    editor.Close();
+    EXPECT_EQ(Read(copy), cut);
+    EXPECT_EQ(Note(QStringLiteral("~ZN1.tmp")), PathOf("doc.sql"));
+}
+
+TEST_F(Recovery, WithCareACopyOfAReadOnlyTextIsLeftForLater)
+{
+    const QString copy = Plant("~ZN1.tmp", "select 2;");
+    control().SetCarefulFiles(true);
+    control().SetReadOnly(1, 1);
+    ASSERT_TRUE(Open("select 1;"));
+    EXPECT_TRUE(questions.asked.isEmpty());
+    editor.Close();
+    EXPECT_EQ(Read(copy), QByteArray("select 2;"));
+}
+
+TEST_F(Recovery, WithCareATextThatIsTheFilesGetsNoCopy)
+{
+    control().SetCarefulFiles(true);
+    ASSERT_TRUE(Open("select 1;"));
+    control().SetModified(true);
+    editor.Tick();
+    EXPECT_TRUE(Copies().isEmpty());
+    editor.Type(u"x");
+    editor.Tick();
+    EXPECT_EQ(Copies().size(), 1);
+    control().Undo(1);
+    control().SetModified(true);
+    editor.Tick();
+    EXPECT_TRUE(Copies().isEmpty());
+}
+
+// The file may have gone, or another may have written it.
+TEST_F(Recovery, WithCareATextWhoseFileIsAnotherGetsItsCopy)
+{
+    control().SetCarefulFiles(true);
+    ASSERT_TRUE(Open("select 1;"));
+    ASSERT_TRUE(QFile::remove(PathOf("doc.sql")));
+    control().SetModified(true);
+    editor.Tick();
+    EXPECT_EQ(Read(OnlyCopy()), QByteArray("select 1;"));
+}
+
+TEST_F(Recovery, WithCareACopyMovesToItsFolderOnceThereIsOne)
+{
+    control().SetCarefulFiles(true);
+    ASSERT_TRUE(Open("select 1;"));
+    editor.Type(u"x");
+    folders.hasData = false;
+    editor.Tick();
+    const QString lost = control().m_strAutoSaveFile;
+    EXPECT_EQ(QFileInfo(lost).path(), folder.path());
+    folders.hasData = true;
+    editor.Tick();
+    EXPECT_EQ(Read(OnlyCopy()), QByteArray("xselect 1;"));
+    EXPECT_FALSE(QFile::exists(lost));
+}
+
+TEST_F(Recovery, ANoteIsWrittenOnce)
+{
+    ASSERT_TRUE(Open("select 1;"));
+    editor.Type(u"x");
+    editor.Tick();
+    const QString profile = PathOf("config/bench/profile.ini");
+    const QDateTime written = QFileInfo(profile).lastModified();
+    editor.Type(u"y");
+    editor.Tick();
+    EXPECT_EQ(QFileInfo(profile).lastModified(), written);
+    EXPECT_EQ(Read(OnlyCopy()), QByteArray("xyselect 1;"));
 }

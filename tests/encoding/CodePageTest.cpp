@@ -186,6 +186,20 @@ TEST(CodePages, ReplaceWhatIsNoCharacter)
 }
 
 // The room ends where its memory ends, for a sanitizer to watch.
+// The first and the last of each half, before and behind what makes a pair of them or does not.
+TEST(CodePages, TellHalvesFromPairsAtTheirLimits)
+{
+    const std::string lone = "\xEF\xBF\xBD";
+    EXPECT_EQ(ToBytes(65001, std::u16string{0xD800, 0xDC00}), "\xF0\x90\x80\x80");
+    EXPECT_EQ(ToBytes(65001, std::u16string{0xDBFF, 0xDFFF}), "\xF4\x8F\xBF\xBF");
+    EXPECT_EQ(ToBytes(65001, std::u16string{0xD7FF, 0xE000}), "\xED\x9F\xBF\xEE\x80\x80");
+    EXPECT_EQ(ToBytes(65001, std::u16string{0xD800, 0xE000}), lone + "\xEE\x80\x80");
+    EXPECT_EQ(ToBytes(65001, std::u16string{0xD800, 0xDBFF}), lone + lone);
+    EXPECT_EQ(ToBytes(65001, std::u16string{0xDC00, 0xDC00}), lone + lone);
+    EXPECT_EQ(ToBytes(65001, std::u16string{0xD800, u'a'}), lone + "a");
+    EXPECT_EQ(ToBytes(65001, std::u16string{0xD800, 0xD800, 0xDC00}), lone + "\xF0\x90\x80\x80");
+}
+
 TEST(CodePages, FillExactlyTheRoomThatWasMeasured)
 {
     const unsigned int seed = std::random_device{}();

@@ -4,6 +4,7 @@
 
 #include <gtest/gtest.h>
 
+#include <cstring>
 #include <iostream>
 #include <random>
 
@@ -501,4 +502,31 @@ TEST(ByteSwaps, LeaveWhatMakesNoWholeGroup)
     EXPECT_EQ(fours, (Bytes{4, 3, 2, 1, 5, 6, 7}));
     OpenConverter::InternalSwapUTF32CharBuffer(fours.data(), 3);
     EXPECT_EQ(fours, (Bytes{4, 3, 2, 1, 5, 6, 7}));
+}
+
+// A pair is one word; every half that has no other is a word of its own.
+TEST(Utf32Conversion, TellsHalvesFromPairsAtTheirLimits)
+{
+    const auto words = [](const std::u16string& text) {
+        Converter converter;
+        converter.SetInputType(encUTF16LE);
+        converter.SetOutputType(encUTF32LE);
+        std::u16string units = text + u".";
+        auto length = static_cast<unsigned int>(units.size() * 2);
+        unsigned int remaining = 0;
+        converter.Convert(reinterpret_cast<unsigned char*>(units.data()), length, remaining);
+        unsigned char* bytes = nullptr;
+        unsigned int size = 0;
+        converter.GetConverted(&bytes, size);
+        std::u32string found(size / 4, U'\0');
+        std::memcpy(found.data(), bytes, found.size() * 4);
+        found.pop_back();
+        return found;
+    };
+    EXPECT_EQ(words({0xD800, 0xDC00}), std::u32string({0x10000}));
+    EXPECT_EQ(words({0xDBFF, 0xDFFF}), std::u32string({0x10FFFF}));
+    EXPECT_EQ(words({0xD7FF, 0xDC00}), std::u32string({0xD7FF, 0xDC00}));
+    EXPECT_EQ(words({0xD800, u'a'}), std::u32string({0xD800, U'a'}));
+    EXPECT_EQ(words({0xD800, 0xDBFF}), std::u32string({0xD800, 0xDBFF}));
+    EXPECT_EQ(words({0xD800, 0xE000}), std::u32string({0xD800, 0xE000}));
 }

@@ -1,10 +1,12 @@
 // The application profile over a file, and what other programs and accidents do to the file.
 #include "platform/system/Profile.h"
 #include "platform/system/SpecialFolders.h"
+#include "tests/platform/file/FullDisk.h"
+#include "tests/platform/file/OrdinaryUser.h"
 
 #include <QDir>
-#include <QElapsedTimer>
 #include <QFile>
+#include <QSettings>
 #include <QTemporaryDir>
 
 #include <gtest/gtest.h>
@@ -178,17 +180,57 @@ TEST_F(Profile, LosesNothingWhenTwoProcessesWriteByTurnsAndAtOnce)
     }
 }
 
-TEST_F(Profile, IsNotHeldUpByTheLockOfAProcessThatDied)
+TEST_F(Profile, ThatCannotBeReadIsNotWrittenOver)
 {
-    PutFile("");
-    QFile lock(Path() + QStringLiteral(".lock"));
-    ASSERT_TRUE(lock.open(QIODevice::WriteOnly)); // killed before it wrote its number
-    lock.close();
-    QElapsedTimer clock;
-    clock.start();
     EXPECT_TRUE(Set(QStringLiteral("s"), QStringLiteral("e"), QStringLiteral("v")));
-    EXPECT_LT(clock.elapsed(), 10000); // QSettings would wait for 30 seconds
+    ASSERT_TRUE(QFile::setPermissions(Path(), QFile::WriteOwner));
+    {
+        const OrdinaryUser ordinary;
+        EXPECT_FALSE(Set(QStringLiteral("s"), QStringLiteral("f"), QStringLiteral("w")));
+        EXPECT_EQ(Get(QStringLiteral("s"), QStringLiteral("e")), kNone);
+    }
     EXPECT_EQ(Get(QStringLiteral("s"), QStringLiteral("e")), QStringLiteral("v"));
+    EXPECT_EQ(Get(QStringLiteral("s"), QStringLiteral("f")), kNone);
+}
+
+TEST_F(Profile, StaysWholeOnAFullDiskAndSaysSo)
+{
+    EXPECT_TRUE(Set(QStringLiteral("s"), QStringLiteral("e"), QStringLiteral("v")));
+    {
+        const FullDisk full(3);
+        EXPECT_FALSE(Set(QStringLiteral("s"), QStringLiteral("f"), QStringLiteral("w")));
+    }
+    EXPECT_EQ(Get(QStringLiteral("s"), QStringLiteral("e")), QStringLiteral("v"));
+}
+
+// A file that others have written, and one that others are to read.
+TEST_F(Profile, IsReadAndWrittenAsQSettingsDoes)
+{
+    const QStringList texts = {QStringLiteral("plain"),
+                               QStringLiteral("a;b,c=d"),
+                               QStringLiteral(" x "),
+                               QStringLiteral("\"q\"\\"),
+                               QStringLiteral("@at"),
+                               QStringLiteral("\u00e9\n\tz"),
+                               QStringLiteral("\x01"
+                                              "f"),
+                               QString()};
+    const auto key = [](int i) { return QStringLiteral("Back up/~%1.t").arg(i); };
+    {
+        PutFile("");
+        QSettings theirs(Path(), QSettings::IniFormat);
+        for (int i = 0; i < texts.size(); ++i)
+            theirs.setValue(key(i), texts[i]);
+    }
+    for (int i = 0; i < texts.size(); ++i) {
+        const QString entry = QStringLiteral("~%1.t").arg(i);
+        EXPECT_EQ(Get(QStringLiteral("Back up"), entry), texts[i]);
+        EXPECT_TRUE(Set(QStringLiteral("Back up"), entry, texts[texts.size() - 1 - i]));
+    }
+    const QSettings theirs(Path(), QSettings::IniFormat);
+    for (int i = 0; i < texts.size(); ++i)
+        EXPECT_EQ(theirs.value(key(i)).toString(), texts[texts.size() - 1 - i]);
+    EXPECT_EQ(theirs.allKeys().size(), texts.size());
 }
 
 TEST_F(Profile, OfAHostTakesTheFilesPlace)

@@ -187,6 +187,19 @@ TEST_F(ConfigFile, RemovesALanguageAndClosesTheGap)
     EXPECT_EQ(config.GetLanguageName(2), "");
 }
 
+TEST_F(ConfigFile, NumbersAllLanguagesBehindARemovedOneAnew)
+{
+    Open("<Languages count=\"4\"><Language number=\"0\"><Name>a</Name></Language>"
+         "<Language number=\"1\"><Name>b</Name></Language>"
+         "<Language number=\"2\"><Name>c</Name></Language>"
+         "<Language number=\"3\"><Name>d</Name></Language></Languages>");
+    EXPECT_TRUE(config.RemoveLanguage(0));
+    EXPECT_EQ(config.GetLanguageName(0), "b");
+    EXPECT_EQ(config.GetLanguageName(1), "c");
+    EXPECT_EQ(config.GetLanguageName(2), "d");
+    EXPECT_EQ(config.GetLanguageName(3), "");
+}
+
 TEST_F(ConfigFile, RemovesTheLanguageByItsPlaceAndNotByItsNode)
 {
     Open("<Languages count=\"2\"><Language number=\"1\"><Name>a</Name></Language>"

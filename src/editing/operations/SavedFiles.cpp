@@ -86,12 +86,22 @@ bool CZNCoreEditorControlEx::InsertFile(const char16_t* path,
     std::FILE* file = std::fopen(NativePath(path).constData(), "rb");
     if (!file)
         return false;
+    InsertFile(file, encoding);
+    return true;
+}
+
+// That the inserted file was cut short says nothing of the file behind the text.
+bool CZNCoreEditorControlEx::InsertFile(std::FILE* file, FileEncodeConverter::encodingType encoding)
+{
+    const bool wasCutShort = WasCutShort();
     const long caret = GetCurrentPos(1);
     const UndoStep step(*this);
     ReadInFileContents(file, encoding, true);
     GotoPos(caret, 1);
     SetSel(caret, caret, 1);
-    return true;
+    const bool isWhole = !WasCutShort();
+    SetCutShort(wasCutShort);
+    return isWhole;
 }
 
 bool CZNCoreEditorControlEx::SaveSelection(const char16_t* path)

@@ -3,8 +3,6 @@
 #include "platform/system/SettingsFile.h"
 #include "platform/system/SpecialFolders.h"
 
-#include <QSettings>
-
 IApplicationProfile::~IApplicationProfile() = default;
 
 namespace {
@@ -17,21 +15,17 @@ public:
     QString GetString(const QString& section, const QString& entry,
                       const QString& fallback) override
     {
-        const QSettings file(Path(), QSettings::IniFormat);
-        const QVariant value = file.value(Key(section, entry));
-        return value.typeId() == QMetaType::QString ? value.toString() : fallback;
+        return settingsfile::ReadValue(Path(), Key(section, entry)).value_or(fallback);
     }
 
     bool WriteString(const QString& section, const QString& entry, const char16_t* value) override
     {
-        const QString path = Path();
-        const settingsfile::WriteGuard guard(path);
-        QSettings file(path, QSettings::IniFormat);
-        if (value)
-            file.setValue(Key(section, entry), QString::fromUtf16(value));
-        else
-            settingsfile::RemoveValue(file, Key(section, entry));
-        return settingsfile::Flush(file);
+        using settingsfile::Outcome;
+        const QString key = Key(section, entry);
+        const Outcome outcome =
+            value ? settingsfile::WriteValue(Path(), key, QString::fromUtf16(value))
+                  : settingsfile::RemoveValue(Path(), key);
+        return outcome != Outcome::Failed;
     }
 
 private:

@@ -8,7 +8,7 @@ IRegistry::~IRegistry() = default;
 
 namespace {
 
-// QSettings gives every value of a file back as text, so the kind stands in front of it.
+// Every value of a file is a text, so the kind stands in front of it.
 const QString kNumber = QStringLiteral("dword:");
 const QString kText = QStringLiteral("sz:");
 const QString kBytes = QStringLiteral("hex:");
@@ -65,46 +65,36 @@ class RegistryFiles final : public IRegistry
 {
 public:
     // A key without values needs nothing on disk.
-    bool OpenKey(const QString& key) override
-    {
-        const QSettings file(Place(key).path, QSettings::IniFormat);
-        return file.status() != QSettings::AccessError;
-    }
+    bool OpenKey(const QString& key) override { return settingsfile::CanRead(Place(key).path); }
 
     std::optional<RegistryValue> Read(const QString& key, const QString& name) override
     {
         const Place place(key);
-        const QSettings file(place.path, QSettings::IniFormat);
-        const QVariant value = file.value(place.group + settingsfile::Segment(name));
-        return value.typeId() == QMetaType::QString ? FromText(value.toString()) : std::nullopt;
+        const std::optional<QString> stored =
+            settingsfile::ReadValue(place.path, place.group + settingsfile::Segment(name));
+        return stored ? FromText(*stored) : std::nullopt;
     }
 
     bool Write(const QString& key, const QString& name, const RegistryValue& value) override
     {
         const Place place(key);
-        const settingsfile::WriteGuard guard(place.path);
-        QSettings file(place.path, QSettings::IniFormat);
-        file.setValue(place.group + settingsfile::Segment(name), std::visit(AsText{}, value));
-        return settingsfile::Flush(file);
+        return settingsfile::WriteValue(place.path, place.group + settingsfile::Segment(name),
+                                        std::visit(AsText{}, value)) == settingsfile::Outcome::Done;
     }
 
     bool DeleteKey(const QString& key) override
     {
         const Place place(key);
-        if (place.group.isEmpty())
-            return false; // a product's own key stays
-        const settingsfile::WriteGuard guard(place.path);
-        QSettings file(place.path, QSettings::IniFormat);
-        return settingsfile::RemoveGroup(file, place.group.chopped(1)) && settingsfile::Flush(file);
+        return !place.group.isEmpty() && // a product's own key stays
+               settingsfile::RemoveGroup(place.path, place.group.chopped(1)) ==
+                   settingsfile::Outcome::Done;
     }
 
     bool DeleteValue(const QString& key, const QString& name) override
     {
         const Place place(key);
-        const settingsfile::WriteGuard guard(place.path);
-        QSettings file(place.path, QSettings::IniFormat);
-        return settingsfile::RemoveValue(file, place.group + settingsfile::Segment(name)) &&
-               settingsfile::Flush(file);
+        return settingsfile::RemoveValue(place.path, place.group + settingsfile::Segment(name)) ==
+               settingsfile::Outcome::Done;
     }
 };
 

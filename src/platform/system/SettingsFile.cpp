@@ -1,11 +1,14 @@
 #include "platform/system/SettingsFile.h"
 
+#include "platform/file/DiskFile.h"
+#include "platform/system/SettingsText.h"
 #include "platform/system/SpecialFolders.h"
 
 #include <QDir>
 #include <QFile>
-#include <QHash>
-#include <QVariant>
+
+#include <cerrno>
+#include <functional>
 
 #include <fcntl.h>
 #include <sys/file.h>
@@ -15,14 +18,57 @@ namespace settingsfile {
 
 namespace {
 
-QHash<QString, QVariant> ValuesBelow(QSettings& settings, const QString& group)
+// Held while a file is read, changed and written, one process after the other.
+class WriteGuard
 {
-    QHash<QString, QVariant> values;
-    settings.beginGroup(group);
-    for (const QString& key : settings.allKeys())
-        values.insert(key, settings.value(key));
-    settings.endGroup();
-    return values;
+public:
+    explicit WriteGuard(const QString& path)
+    {
+        constexpr int kPatience = 500;        // tries, for a process that is stopped meanwhile
+        constexpr useconds_t kBetween = 2000; // microseconds
+        const qsizetype name = path.lastIndexOf(u'/') + 1;
+        QDir().mkpath(path.left(name));
+        const QString guard = path.left(name) + u'.' + path.mid(name) + QLatin1String(".guard");
+        m_file = open(QFile::encodeName(guard).constData(), O_RDWR | O_CREAT | O_CLOEXEC, 0600);
+        for (int i = 0; m_file >= 0 && i < kPatience; ++i) {
+            if (flock(m_file, LOCK_EX | LOCK_NB) == 0)
+                return;
+            usleep(kBetween);
+        }
+    }
+    WriteGuard(const WriteGuard&) = delete;
+    WriteGuard& operator=(const WriteGuard&) = delete;
+    ~WriteGuard()
+    {
+        if (m_file >= 0)
+            close(m_file);
+    }
+
+private:
+    int m_file = -1;
+};
+
+// Nothing if there is a file that cannot be read.
+std::optional<SettingsText> Load(const QString& path)
+{
+    errno = 0;
+    if (const std::optional<QByteArray> bytes = ReadWholeFile(path))
+        return SettingsText(*bytes);
+    if (errno == ENOENT || errno == ENOTDIR)
+        return SettingsText(QByteArray());
+    return std::nullopt;
+}
+
+// The change tells whether there was anything to do.
+Outcome Change(const QString& path, const std::function<bool(SettingsText&)>& change)
+{
+    const WriteGuard guard(path);
+    std::optional<SettingsText> text = Load(path);
+    if (!text)
+        return Outcome::Failed;
+    if (!change(*text))
+        return Outcome::NothingThere;
+    return WriteWholeFile(path, text->Bytes()) ? Outcome::Done : Outcome::Failed;
 }
 
 } // namespace
@@ -42,55 +88,33 @@ QString Segment(const QString& name)
     return segment.replace(u'\\', QLatin1String("%5C"));
 }
 
-bool RemoveValue(QSettings& settings, const QString& key)
+bool CanRead(const QString& path)
 {
-    if (!settings.contains(key))
-        return false;
-    const QHash<QString, QVariant> below = ValuesBelow(settings, key);
-    settings.remove(key);
-    for (auto at = below.begin(); at != below.end(); ++at)
-        settings.setValue(key + u'/' + at.key(), at.value());
-    return true;
+    return Load(path).has_value();
 }
 
-bool RemoveGroup(QSettings& settings, const QString& key)
+std::optional<QString> ReadValue(const QString& path, const QString& key)
 {
-    if (ValuesBelow(settings, key).isEmpty())
-        return false;
-    const QVariant own = settings.value(key);
-    settings.remove(key);
-    if (own.isValid())
-        settings.setValue(key, own);
-    return true;
+    const std::optional<SettingsText> text = Load(path);
+    return text ? text->Value(key) : std::nullopt;
 }
 
-WriteGuard::WriteGuard(const QString& path)
+Outcome WriteValue(const QString& path, const QString& key, const QString& value)
 {
-    constexpr int kPatience = 500;        // tries, for a process that is stopped meanwhile
-    constexpr useconds_t kBetween = 2000; // microseconds
-    const qsizetype name = path.lastIndexOf(u'/') + 1;
-    QDir().mkpath(path.left(name));
-    const QString guard = path.left(name) + u'.' + path.mid(name) + QLatin1String(".guard");
-    m_file = open(QFile::encodeName(guard).constData(), O_RDWR | O_CREAT | O_CLOEXEC, 0600);
-    for (int i = 0; m_file >= 0 && i < kPatience; ++i) {
-        if (flock(m_file, LOCK_EX | LOCK_NB) == 0) {
-            unlink(QFile::encodeName(path + QLatin1String(".lock")).constData());
-            return;
-        }
-        usleep(kBetween);
-    }
+    return Change(path, [&](SettingsText& text) {
+        text.SetValue(key, value);
+        return true;
+    });
 }
 
-WriteGuard::~WriteGuard()
+Outcome RemoveValue(const QString& path, const QString& key)
 {
-    if (m_file >= 0)
-        close(m_file);
+    return Change(path, [&](SettingsText& text) { return text.RemoveValue(key); });
 }
 
-bool Flush(QSettings& settings)
+Outcome RemoveGroup(const QString& path, const QString& group)
 {
-    settings.sync();
-    return settings.status() != QSettings::AccessError;
+    return Change(path, [&](SettingsText& text) { return text.RemoveGroup(group); });
 }
 
 } // namespace settingsfile

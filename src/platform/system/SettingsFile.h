@@ -1,9 +1,12 @@
-// What profile and registry share: a QSettings file of the user's, and names that it takes as they
-// are. QSettings locks the file while it writes and merges what others have written since.
+// What profile and registry share: texts by key in a file of the user's, one line for each, in
+// sections. The form is that of QSettings, which reads such files and has written those that are
+// there; it takes a file that it cannot read for an empty one and forgets an error of its last
+// write, so the files are read and written here.
 #pragma once
 
-#include <QSettings>
 #include <QString>
+
+#include <optional>
 
 namespace settingsfile {
 
@@ -13,28 +16,20 @@ QString PathOf(const QString& relative);
 // A name as one segment of a key. A slash would begin a group, and no segment may be empty.
 QString Segment(const QString& name);
 
-// A value is under the key; removing it leaves the values of the group with the same name, which
-// QSettings would take along. False if there was no value.
-bool RemoveValue(QSettings& settings, const QString& key);
-// The reverse: the group goes and a value under the same key stays. False if there was no group.
-bool RemoveGroup(QSettings& settings, const QString& key);
+// Keys are segments with slashes between them. Nothing for a key that is not there, that holds
+// something else than one text, or whose file cannot be read.
+std::optional<QString> ReadValue(const QString& path, const QString& key);
+bool CanRead(const QString& path); // true also if there is no file
 
-// Held while a file is written, one process after the other. QSettings has a lock of its own, a
-// file with the writer's number in it; a process that is killed before it has put its number there
-// would make the next writer wait for 30 seconds. Under this guard such a file is a dead one's.
-class WriteGuard
+// Each is on disk when it returns. What others write at the same time is kept.
+enum class Outcome
 {
-public:
-    explicit WriteGuard(const QString& path);
-    WriteGuard(const WriteGuard&) = delete;
-    WriteGuard& operator=(const WriteGuard&) = delete;
-    ~WriteGuard();
-
-private:
-    int m_file = -1;
+    Done,
+    NothingThere, // nothing had to be removed
+    Failed,       // the file could not be read or written, and is as it was
 };
-
-// Writes at once, so that a process that dies later has lost nothing. False if it cannot be done.
-bool Flush(QSettings& settings);
+Outcome WriteValue(const QString& path, const QString& key, const QString& value);
+Outcome RemoveValue(const QString& path, const QString& key); // not the group of that name
+Outcome RemoveGroup(const QString& path, const QString& group);
 
 } // namespace settingsfile

@@ -41,18 +41,20 @@ QString FileIn(const QString& folder, const QString& name)
     return path.replace(u'\\', u'/');
 }
 
-int WhyNotReadable(const QString& path)
+int OpenScript(const QString& path, int& reason)
 {
     // A name with a NUL would be cut there by the system.
+    reason = ENOENT;
     if (path.contains(QChar(u'\0')))
-        return ENOENT;
+        return -1;
     // Without O_NONBLOCK the opening of a pipe waits for its writer.
     const int file =
         open(QFile::encodeName(path).constData(), O_RDONLY | O_CLOEXEC | O_NOCTTY | O_NONBLOCK);
-    if (file < 0)
-        return errno;
     struct stat status;
-    const int reason = fstat(file, &status) == 0 ? WhyNotReadable(status) : errno;
-    close(file);
-    return reason;
+    reason = file < 0 || fstat(file, &status) != 0 ? errno : WhyNotReadable(status);
+    if (reason == 0)
+        return file;
+    if (file >= 0)
+        close(file);
+    return -1;
 }

@@ -11,6 +11,7 @@ QStringList FoldersOf(const QString& list);
 // separator is understood.
 QString FileIn(const QString& folder, const QString& name);
 
-// 0 if the file can be read, else the number of the reason as the system gives it: EISDIR for a
-// folder, EINVAL for what is no file, EFBIG for one that is larger than an editor's text can be.
-int WhyNotReadable(const QString& path);
+// The file, open to be read; the caller closes it. -1 if it cannot be read, and the number of the
+// reason as the system gives it: EISDIR for a folder, EINVAL for what is no file, EFBIG for one
+// that is larger than an editor's text can be.
+int OpenScript(const QString& path, int& reason);

@@ -3,6 +3,7 @@
 
 #include <gtest/gtest.h>
 
+#include <cerrno>
 #include <csignal>
 #include <filesystem>
 #include <fstream>
@@ -14,6 +15,7 @@
 #include <sys/resource.h>
 #include <sys/stat.h>
 #include <sys/wait.h>
+#include <sys/xattr.h>
 #include <unistd.h>
 
 namespace {
@@ -265,6 +267,63 @@ TEST_F(TargetFiles, AKilledProcessLeavesTheOldFileOrTheNewOne)
         ASSERT_TRUE(found == texts[0] || found == texts[1]) << found.size();
     }
     EXPECT_EQ(killed, 60);
+}
+
+TEST_F(TargetFiles, BesideKeepsTheUsersAttributes)
+{
+    Put("a", "old");
+    if (setxattr(PathOf("a").constData(), "user.note", "mine", 4, 0) != 0)
+        GTEST_SKIP() << "no attributes here";
+    TargetFile file;
+    ASSERT_TRUE(file.OpenBeside(PathOf("a")));
+    EXPECT_FALSE(file.WritesOver());
+    ASSERT_TRUE(WriteAll(file, "new"));
+    char value[8] = {};
+    EXPECT_EQ(getxattr(PathOf("a").constData(), "user.note", value, sizeof value), 4);
+    EXPECT_STREQ(value, "mine");
+    EXPECT_EQ(Get("a"), "new");
+}
+
+TEST_F(TargetFiles, BesideWritesOverAFileThatHasAnotherName)
+{
+    Put("a", "old");
+    ASSERT_EQ(link(PathOf("a").constData(), PathOf("b").constData()), 0);
+    TargetFile file;
+    ASSERT_TRUE(file.OpenBeside(PathOf("a")));
+    EXPECT_TRUE(file.WritesOver());
+    EXPECT_EQ(Get("b"), "old");
+    ASSERT_TRUE(WriteAll(file, "new"));
+    EXPECT_EQ(Get("b"), "new");
+    EXPECT_EQ(Entries(), 2u);
+}
+
+// A part that somebody writes right now stays, and so does what only looks like one.
+TEST_F(TargetFiles, BesideTakesAwayWhatADeadProcessLeft)
+{
+    Put(".a.zn1k2.tmp", "part");
+    Put(".a.tmp", "a user's");
+    Put(".ab.zn1k2.tmp", "of another file");
+    TargetFile alive;
+    ASSERT_TRUE(alive.OpenBeside(PathOf("a")));
+    EXPECT_EQ(Entries(), 3u);
+    TargetFile file;
+    ASSERT_TRUE(file.OpenBeside(PathOf("a")));
+    EXPECT_EQ(Entries(), 4u);
+    ASSERT_TRUE(WriteAll(file, "second"));
+    ASSERT_TRUE(WriteAll(alive, "first"));
+    EXPECT_EQ(Get("a"), "first");
+    EXPECT_EQ(Entries(), 3u);
+}
+
+TEST_F(TargetFiles, TellTheReasonOfAFailure)
+{
+    fs::create_directory(folder / "b");
+    TargetFile file;
+    EXPECT_FALSE(file.OpenBeside(PathOf("b")));
+    EXPECT_EQ(file.Error(), EISDIR);
+    TargetFile other;
+    EXPECT_FALSE(other.OpenBeside(PathOf("no/a")));
+    EXPECT_EQ(other.Error(), ENOENT);
 }
 
 } // namespace

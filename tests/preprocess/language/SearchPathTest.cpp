@@ -10,8 +10,20 @@
 #include <climits>
 
 #include <sys/stat.h>
+#include <unistd.h>
 
 namespace {
+
+// 0 if it can be read.
+int WhyNotReadable(const QString& path)
+{
+    int reason = -1;
+    const int file = OpenScript(path, reason);
+    EXPECT_EQ(file >= 0, reason == 0);
+    if (file >= 0)
+        close(file);
+    return reason;
+}
 
 QByteArray Native(const QString& path)
 {

@@ -1,0 +1,33 @@
+// The text of a settings file: sections in brackets, "name=value" below them. Lines that nobody
+// asks about stay as they are. Knows no file.
+#pragma once
+
+#include <QByteArray>
+#include <QList>
+#include <QString>
+
+#include <optional>
+
+class SettingsText
+{
+public:
+    explicit SettingsText(const QByteArray& bytes);
+    QByteArray Bytes() const;
+
+    // Keys are segments with slashes between them: the first is the section, a single one stands
+    // in "General". Nothing for a list or a value of another kind than text.
+    std::optional<QString> Value(const QString& key) const;
+    void SetValue(const QString& key, const QString& value);
+    bool RemoveValue(const QString& key); // false if there was none
+    bool RemoveGroup(const QString& group);
+
+private:
+    struct Line
+    {
+        QByteArray text;
+        QByteArray section;
+        QByteArray name; // empty for what is no value
+    };
+
+    QList<Line> m_lines;
+};
