@@ -285,8 +285,8 @@ void CZNCoreEditorControl::MakeAutoSaveFile()
     if (m_strAutoSaveDir.isEmpty())
         m_strAutoSaveDir = folder;
     // A copy among the temporary files is found by nobody; it moves as soon as it can.
-    const bool isLost =
-        !m_strAutoSaveDir.isEmpty() && !m_strAutoSaveFile.startsWith(m_strAutoSaveDir);
+    const bool isLost = !m_strAutoSaveDir.isEmpty() && !m_strAutoSaveFile.isEmpty() &&
+                        !m_strAutoSaveFile.startsWith(m_strAutoSaveDir);
     if (Policy().keepsCopies && isLost)
         DeleteAutoSaveFile();
     if (m_strAutoSaveFile.isEmpty())

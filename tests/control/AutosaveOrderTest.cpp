@@ -116,6 +116,11 @@ protected:
         questions.whileAsked = [] { Happened("question"); };
     }
 
+    static void SayModified()
+    {
+        AnswerTo(engine::message::GetModify, [](WPARAM, LPARAM) { return 1; });
+    }
+
     static void HoldText()
     {
         AnswerTo(engine::message::GetLineCount, [](WPARAM, LPARAM) { return 1; });
@@ -209,17 +214,19 @@ TEST_F(AutosaveOrder, ATickNotesTheCopyBeforeItWritesIt)
 {
     HoldChangedDocument();
     EXPECT_EQ(Tick(),
-              (Strings{"GetReadOnly", "GetLineCount", "note Backup, empty copy", "GetLineCount",
-                       "LineLength 0", "GetLine 0", "SetAutoSave 0 1", std::to_string(WM_TIMER)}));
+              (Strings{"GetReadOnly", "GetLineCount", "read Backup", "note Backup, empty copy",
+                       "GetLineCount", "LineLength 0", "GetLine 0", "SetAutoSave 0 1",
+                       std::to_string(WM_TIMER)}));
 }
 
 TEST_F(AutosaveOrder, ACarefulTickNotesTheCopyBeforeItWritesItToo)
 {
     control.SetCarefulFiles(true);
     HoldChangedDocument();
-    EXPECT_EQ(Tick(),
-              (Strings{"GetReadOnly", "GetLineCount", "note Backup, empty copy", "GetLineCount",
-                       "LineLength 0", "GetLine 0", "SetAutoSave 0 1", std::to_string(WM_TIMER)}));
+    SayModified();
+    EXPECT_EQ(Tick(), (Strings{"GetReadOnly", "GetLineCount", "GetModify", "read Backup",
+                               "note Backup, empty copy", "GetLineCount", "LineLength 0",
+                               "GetLine 0", "SetAutoSave 0 1", std::to_string(WM_TIMER)}));
 }
 
 TEST_F(AutosaveOrder, ATickAsksTheEngineNothingIfNothingChanged)
@@ -261,6 +268,7 @@ TEST_F(AutosaveOrder, ACarefulSaveTakesTheCopyAwayOnceItHasWritten)
 {
     control.SetCarefulFiles(true);
     HoldChangedDocument();
+    SayModified();
     Tick();
     EXPECT_TRUE(control.SaveFile(PathOf("doc.sql").toStdU16String().c_str(), true));
     EXPECT_EQ(TakeEvents(),
