@@ -213,10 +213,9 @@ TEST_F(AutosaveOrder, AReadOnlyTextIsNotAskedAbout)
 TEST_F(AutosaveOrder, ATickNotesTheCopyBeforeItWritesIt)
 {
     HoldChangedDocument();
-    EXPECT_EQ(Tick(),
-              (Strings{"GetReadOnly", "GetLineCount", "read Backup", "note Backup, empty copy",
-                       "GetLineCount", "LineLength 0", "GetLine 0", "SetAutoSave 0 1",
-                       std::to_string(WM_TIMER)}));
+    EXPECT_EQ(Tick(), (Strings{"GetReadOnly", "GetLineCount", "read Backup",
+                               "note Backup, empty copy", "GetLineCount", "LineLength 0",
+                               "GetLine 0", "SetAutoSave 0 1", std::to_string(WM_TIMER)}));
 }
 
 TEST_F(AutosaveOrder, ACarefulTickNotesTheCopyBeforeItWritesItToo)
