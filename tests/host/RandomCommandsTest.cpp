@@ -2,6 +2,8 @@
 // show one text, and a script that counts as saved is in its file.
 #include "tests/host/WorkbenchTest.h"
 
+#include <QApplication>
+#include <QClipboard>
 #include <QDateTime>
 #include <QDir>
 #include <QMenu>
@@ -17,6 +19,9 @@ protected:
     int Below(int end) { return static_cast<int>(m_random() % static_cast<unsigned>(end)); }
 
     QString AnyName() { return QStringLiteral("%1.sql").arg(Below(4)); }
+
+    // A test before this one may have left letters there that are two bytes in a file.
+    RandomCommands() { QApplication::clipboard()->clear(); }
 
     // ASCII alone, so that a file's text is its bytes without marks and zeros.
     static QByteArray TextOfFile(const QString& path)
