@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // The script analysis on 64 MB: the first look, one typed character, the questions, the memory.
 // All but the memory is measured through the control, translation of positions included.
 #include "bench/Pair.h"

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // The tick that writes an autosave copy of 64 MB beside SaveFile of the same text.
 #include "bench/Pair.h"
 #include "bench/Texts.h"

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // Documents and views in the workbench, with its tabs and status bar: a further view of a large
 // text, a key on its whole way, and many documents at once.
 #include "bench/Pair.h"

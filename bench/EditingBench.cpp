@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // Operations over very many lines beside the raw engine doing the same edits, and sorting beside
 // std::sort of the same strings.
 #include "bench/Pair.h"

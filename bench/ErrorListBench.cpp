@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // The error list: 10,000 problems added and shown, and what they cost a typed character.
 #include "bench/Pair.h"
 #include "bench/Texts.h"

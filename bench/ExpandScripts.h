@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // Scripts to expand, with the files that they include.
 #pragma once
 

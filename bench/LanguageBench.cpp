@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // What languages cost a running editor, beside a bar in CPU milliseconds: the files, their settings
 // and the engine's part of it.
 #include "bench/Pair.h"

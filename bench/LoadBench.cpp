@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // OpenFile beside the raw engine taking the same text in blocks of 8 KB.
 #include "bench/Pair.h"
 #include "bench/RawEngine.h"

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // A character typed in the middle of a very long line, key and paint together, and the memory that
 // it takes.
 #include "bench/Pair.h"

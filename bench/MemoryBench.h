@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // Peak memory is measured in processes of their own, since a peak is one for the process.
 #pragma once
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // A measured pair: ours and the reference, by turns, in CPU time, so that neither what the caches
 // hold nor what else the machine does favours one of them.
 #pragma once

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // The expansion of a script beside reading and writing its text.
 #include "bench/ExpandScripts.h"
 #include "bench/Pair.h"

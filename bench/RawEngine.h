@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // The stock engine, as fast as it can be had: notifications masked, storage allocated ahead.
 #pragma once
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // The edits of an expansion, made by the stock engine: what the scripts of ExpandScripts.h come to
 // take in it, with the same pieces searched, styled and replaced in the same order. It does not
 // fold: that triples its time at 16 MB.

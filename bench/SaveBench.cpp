@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // SaveFile beside reading every line out of the raw engine and writing it with one fwrite each.
 #include "bench/Pair.h"
 #include "bench/RawEngine.h"

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // Searching and replacing through the control beside the raw engine's own search, on the same text
 // and with the same matches.
 #include "bench/Pair.h"

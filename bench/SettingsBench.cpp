@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // What the settings of the languages cost, beside a bar in CPU milliseconds: no engine is in it.
 #include "bench/Pair.h"
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // The colours and folds of 64 MB of SQL beside the stock engine's own lexer, and what a typed
 // character costs to colour.
 #include "bench/Pair.h"

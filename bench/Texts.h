@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // Scripts to measure with: generated, the same every time.
 #pragma once
 

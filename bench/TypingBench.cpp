@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // One typed character, and undo and redo of very many changes.
 #include "bench/Pair.h"
 #include "bench/RawEngine.h"

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // What a wrapper's call costs above the raw engine's direct call.
 #include "bench/Pair.h"
 #include "bench/RawEngine.h"

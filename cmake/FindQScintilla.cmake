@@ -1,3 +1,4 @@
+# SPDX-License-Identifier: GPL-3.0-or-later
 # Finds QScintilla for Qt 6, which ships neither a CMake configuration nor a pkg-config file.
 # Gives the target QScintilla::QScintilla.
 find_path(QScintilla_INCLUDE_DIR Qsci/qsciscintillabase.h

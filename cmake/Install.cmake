@@ -1,3 +1,4 @@
+# SPDX-License-Identifier: GPL-3.0-or-later
 # What a host developer gets: the libraries with the settings that have to stand beside them, the
 # headers, and the package that find_package(ZNCoreEditor) reads.
 include(GNUInstallDirs)

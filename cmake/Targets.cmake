@@ -1,3 +1,4 @@
+# SPDX-License-Identifier: GPL-3.0-or-later
 # zn_room(NAME SOURCES... [LINKS...]): one folder of src/ as a static library. A room may include
 # what it links and nothing else, so the links are the architecture.
 function(zn_room name)

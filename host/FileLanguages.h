@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // Which language a script is in, by the name of its file.
 #pragma once
 

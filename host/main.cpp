@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // znworkbench: an example host. It opens SQL scripts in tabs, edits and saves them.
 #include "control/ZNCoreEditorControl.h"
 #include "host/window/Arguments.h"

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // What znscript was asked to do, from its command line.
 #pragma once
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // znscript batches: the batches of scripts, as the editor's analysis tells them apart.
 #include "host/FileLanguages.h"
 #include "platform/base/Units.h"

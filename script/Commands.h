@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // The commands of znscript. Each gives the program's exit code.
 #pragma once
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // znscript expand: a script as it is to be run.
 #include "preprocess/CompileManager.h"
 #include "script/Arguments.h"

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // znscript convert and detect: files in their encodings.
 #include "script/Arguments.h"
 #include "script/Commands.h"

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // Problems on the standard error, a line for each: file:line: message.
 #pragma once
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // A file in an editor that nobody sees: read, changed, written.
 #pragma once
 

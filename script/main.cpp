@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // znscript: scripts in build and deployment pipelines. It shows nothing and needs no display.
 #include "control/ZNCoreEditorControl.h"
 #include "platform/windows/Questions.h"

@@ -1,1 +1,2 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // The shared library itself; what it exports stands in its rooms.

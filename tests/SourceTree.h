@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // Where the tree stands that the tests were built from.
 #pragma once
 

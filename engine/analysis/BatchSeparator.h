@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // BatchSeparator: the word that stands alone on a line between two batches, and what may stand
 // beside it: blanks, comments, a repeat count.
 #pragma once

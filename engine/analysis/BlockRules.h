@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // BlockRules: which words open and close blocks in a statement, by dialect. Partitions and folds
 // go by them. The rules keep nothing themselves: all that was read stands in a BlockState.
 #pragma once

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // The first of a few bytes in a run of text, sixteen bytes at a step: what long comments, strings
 // and blanks are read with.
 #pragma once

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // What the statement machine makes of the client program's lines in a script and of comments that
 // speak to the client: statements of their own, the terminator, the catalog.
 #include "engine/analysis/StatementMachine.h"

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // ClientProgram: what a script says to the program that sends it, and not to the server. The words
 // of each program are rows of a table; what stands at a place of a script is told for statements
 // and for colours alike.

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // Facts from the manuals of the programs.
 #include "engine/analysis/ClientPrograms.h"
 

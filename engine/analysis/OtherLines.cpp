@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // SqlScanner: lines that are none of SQL's, as the client program's and data.
 #include "engine/analysis/ByteSearch.h"
 #include "engine/analysis/SqlScanner.h"

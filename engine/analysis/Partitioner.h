@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // Partitioner: the statements, batches and catalogs of a script that is being edited.
 //
 // It reads no text before it is asked, and then as far as the question needs. A change makes the

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // What a Partitioner answers.
 #include "engine/analysis/ByteSearch.h"
 #include "engine/analysis/Partitioner.h"

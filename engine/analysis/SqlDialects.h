@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // SqlDialects: how each dialect of SQL is read, as data. One row for a dialect: the first columns
 // say how its text falls into tokens (SqlScanner), the others how tokens make statements and
 // batches (StatementMachine).

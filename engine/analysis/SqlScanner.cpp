@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 #include "engine/analysis/SqlScanner.h"
 
 #include "engine/analysis/ByteSearch.h"

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // SqlScanner: the text of a script as tokens, in the dialect's own rules.
 //
 // It starts at any place where its state is known, and it may be cut at any place: a token longer

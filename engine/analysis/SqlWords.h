@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // SqlWords: the few words that shape statements and blocks, told from all others by their length
 // and first letter before they are compared.
 #pragma once

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // StatementMachine: reads a stretch of a script and notes where statements start and end, where
 // batches are separated and where the catalog changes. It begins and stops at any place.
 #pragma once

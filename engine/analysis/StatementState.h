@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // StatementState: all that a place in a script owes to the text before it. Equal states read the
 // same text the same way, which is what lets an edit be followed by reading a few kilobytes.
 #pragma once

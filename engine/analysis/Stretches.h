@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // Stretches: a script cut into stretches of some kilobytes, with what the statement machine noted
 // in each. Starts are kept so that a change in one stretch costs nothing in those behind it but a
 // shift that moves with the place of the changes.

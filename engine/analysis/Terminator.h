@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // Terminator: what ends a statement. It is ; until a script says other, and is kept by value where
 // it holds: a script may name as many as it likes.
 #pragma once

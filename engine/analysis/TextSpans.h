@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // TextSpans: a text of UTF-8 bytes as it lies in memory, two runs with a gap between them. It is
 // read in place; positions count bytes over both runs.
 #pragma once

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // Who is told of changes and caret moves besides the parent. Qt's own, which is there only where a
 // desktop runs; a test puts its own in place.
 #pragma once

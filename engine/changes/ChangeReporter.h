@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // ChangeReporter: tells the parent window what happens in an engine window, in UTF-16 units.
 //
 // Text changes are noted before they happen and told once they are in the text: at the next

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // AlikeStyles: styles that look alike, laid by turns over the long runs of one style in long lines.
 // The stock engine keeps the widths of pieces of text below thirty bytes alone, and a piece ends
 // where the style does: without them a typed character measures all of such a line again, 0.5 s for

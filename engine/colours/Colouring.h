@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // Colouring: the language of a document and, if it is a dialect of SQL, the styles, line states and
 // fold levels that it gives the text. Other languages are the stock engine's.
 //

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // This engine's lexer numbers and the stock lexers behind them.
 #pragma once
 

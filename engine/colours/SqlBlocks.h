@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // SqlBlocks: what stands open at a place of a script - blocks, parentheses, the batch. It is fed
 // with tokens in order.
 #pragma once

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // What a SqlStyler makes of lines that are not the server's: the client program's, the
 // pre-processor's, and what comments and statements put in the place of SQL's own rules.
 #include "engine/colours/SqlStyler.h"

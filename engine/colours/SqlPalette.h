@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // SqlPalette: the colours of a family of SQL lexers: what each kind of token is, and each keyword
 // set.
 #pragma once

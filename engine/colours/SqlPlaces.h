@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // SqlPlaces: places inside long lines where a styler can go on, in order. They follow the text as
 // it is edited: those in front of the last edit count from the text's start and those behind it
 // from its end, so that an edit costs as much as there is between it and the one before.

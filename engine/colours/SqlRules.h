@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // How a document's SQL is read, as its lexer and its lexer properties say.
 #pragma once
 

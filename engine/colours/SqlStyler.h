@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // SqlStyler: the styles and the fold levels of an SQL text, line by line in one walk, long lines in
 // parts. It knows the text and the state at the place where it starts, and nothing of windows: who
 // uses it keeps the states.

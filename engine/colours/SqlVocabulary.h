@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // SqlVocabulary: the words of a language's keyword sets, and those that shape statements. A look-up
 // is one hash over the word and, nearly always, one comparison.
 #pragma once

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // The stock engine's texts by pointer: who holds them, and how many undo actions stand open in
 // each. The stock engine trusts the pointers and the counts that it is given, and aborts if they
 // are wrong; here what is not known, or would go below nothing, is ignored.

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // Engine: one window's text behind the numbered messages. Every position is translated between the
 // UTF-16 units of the channel and the bytes of the stock engine, by the rows of the message table.
 // Messages whose meaning is this engine's own stand in Handlers.h.

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // ErrorList: the problems of one text, in the order of the text, and their marks in it. What the
 // messages mean is told in control/ErrorInfo.h. The operations work through any engine whose window
 // shows the text.

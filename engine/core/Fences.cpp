@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 #include "engine/core/Fences.h"
 
 #include "engine/core/Engine.h"

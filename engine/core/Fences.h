@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // What the stock engine must not be asked: parameters on which it aborts, crashes, runs for ever or
 // takes all memory.
 #pragma once

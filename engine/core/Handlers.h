@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // The messages that are not answered by translating their row: text in and out, records, and what
 // means something else here than in the stock engine.
 #pragma once

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // LongLines: what a window does to stay quick where the line of the caret, or one on the screen,
 // has many thousand bytes. The stock engine lays such a line out as a whole for each character, and
 // twice if its colours come in between.

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // ScriptAnalysis: the partitioner of one window, in units of the channel. It hears of the text's
 // changes from the first question on, and reads what nobody has asked about yet in idle time.
 #pragma once

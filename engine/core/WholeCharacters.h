@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // WholeCharacters: keeps the moves and deletions of the stock engine to whole characters in a text
 // that has noncharacters, whose bytes it takes one by one. Text without them never comes here.
 #pragma once

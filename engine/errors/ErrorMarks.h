@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // ErrorMarks: how the problems of a text look, and the drawing of it: indicators below the text,
 // markers in the margin. Positions count bytes.
 #pragma once

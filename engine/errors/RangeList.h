@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // RangeList: ranges of a text in the order of their starts, which follow the text as it is edited.
 // They stand in chunks that each carry an offset, so an edit touches the ranges around it and one
 // number of each other chunk. Positions count bytes.

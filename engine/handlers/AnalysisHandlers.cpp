@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // Messages of the script analysis but for the error list. What their numbers mean stands in
 // control/Analysis.h.
 #include "control/PartitionInfo.h"

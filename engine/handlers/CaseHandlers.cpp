@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // Upper and lower case of what is selected, by Unicode's rules: a text may grow or shrink by it.
 // The stock engine knows the letters of ASCII.
 #include "engine/core/Engine.h"

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // Messages about the text as a whole: which one a window shows, and how its changes are grouped.
 #include "engine/core/Documents.h"
 #include "engine/core/Engine.h"

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // Messages of the error list.
 #include "engine/core/Engine.h"
 #include "engine/core/ErrorList.h"

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // Messages that carry an image: XPM, as one text or as an array of lines.
 #include "engine/core/Engine.h"
 #include "engine/core/Handlers.h"

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // Messages that show a list at the caret.
 #include "control/Completion.h"
 #include "engine/core/Engine.h"

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // Messages of what the engine draws by itself (control/EngineLooks.h).
 #include "control/EngineLooks.h"
 

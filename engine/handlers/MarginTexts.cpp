@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // Texts of a host's own beside the lines, in margin 0. They go along with their lines.
 #include "engine/core/Engine.h"
 #include "engine/core/Handlers.h"

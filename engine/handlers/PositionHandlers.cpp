@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // Messages about places in the text that need more than a position translated.
 #include "engine/core/Engine.h"
 #include "engine/core/Handlers.h"

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // Printing: the range on paper, and how styles differ there.
 #include "engine/core/Engine.h"
 #include "engine/core/Handlers.h"

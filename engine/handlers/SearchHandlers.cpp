@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // Messages that search: over the target, from the anchor and in a range. What is found in between,
 // the target and its flags are this engine's own.
 #include "engine/core/Engine.h"

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // Messages that set and ask what this engine holds in its own way: line ends, lexers, the mask of
 // notifications.
 #include "engine/core/Documents.h"

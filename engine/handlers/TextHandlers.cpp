@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // Messages that carry text in or out.
 #include "engine/core/Engine.h"
 #include "engine/core/Handlers.h"

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // Highlights: an indicator over everything that a search finds: at once where the text is seen, the
 // rest in slices while nothing else is to be done, for the scroll bar.
 #pragma once

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // The icons of the margins as shapes, so that they are sharp at every scale. Each fills the square
 // around the middle given, whose side is in device-independent pixels.
 #pragma once

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // LookPainter: what the engine draws by itself beside and over its text (control/EngineLooks.h),
 // and what the mouse finds there. It works in the engine's window; positions count bytes.
 #pragma once

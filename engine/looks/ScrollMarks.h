@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // ScrollMarks: a layer over the vertical scroll bar that shows where in the text something is.
 #pragma once
 

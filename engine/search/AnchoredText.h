@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // AnchoredText: a pattern that is a plain text, at the edges of lines and words that it names. Such
 // texts are looked for as texts are, and their edges where they stand.
 #pragma once

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // Budget: how long one search may go on.
 #pragma once
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 #include "engine/search/CharacterClass.h"
 
 #include "engine/search/PatternText.h"

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // CharacterClass: what stands between [ and ] in a pattern of the engine.
 #pragma once
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // Expression: a compiled pattern of PCRE2, run over UTF-8 that may be ill-formed.
 // What it may cost is bounded: a quick run gives up early, a careful one when the time of its
 // search is spent.

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // ExpressionTranslator: the engine's pattern syntax in that of PCRE2.
 // Knows no text, no engine and no compiled expression. What it gives may still fail to compile.
 //

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // LiteralScan: finds one text in bytes of UTF-8, with case or, if the text is ASCII, without.
 // It looks at two of the text's rarer bytes at sixteen places at once, at a third one where both
 // stand, and compares the rest where that stands, too. Without case K and S have a third form

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // MatchFinder: finds the matches of one expression in a text, in both directions.
 //
 // A search goes through the text in short windows, each as the start of an unfinished subject: what

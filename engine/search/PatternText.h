@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // Reading the text of a pattern, and writing characters into another.
 #pragma once
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // SearchedText: what the search asks of a text. Positions count bytes of UTF-8.
 #pragma once
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // Searcher: finds texts and expressions in a text, in place and in both directions.
 //
 // A search backwards finds the match that starts last. What is sought is prepared once for as long

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // WordRule: whether a match has to be a word, or to start as one.
 #pragma once
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // Where characters begin and end in the stored text, by their first bytes alone. The stock engine
 // takes the bytes of a noncharacter (U+FFFE, U+FDD0, U+1FFFF and their like) for characters of
 // their own, so that its answers may lie inside of one.

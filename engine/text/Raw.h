@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // The stock engine by number, over its direct function. Positions and lengths count bytes of UTF-8.
 #pragma once
 

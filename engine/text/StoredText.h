@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // StoredText: the text of a window as the search sees it.
 #pragma once
 

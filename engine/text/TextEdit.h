@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // One change of the stored text, and what it does to a place in it. Bytes.
 #pragma once
 

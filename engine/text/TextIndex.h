@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // TextIndex: positions in UTF-16 units to positions in bytes and back, for the text of one window.
 // Text that is all ASCII costs one comparison. In other text a place is reached from the nearest
 // place that is known; for one that is far from all of these the stock engine's UTF-16 line index

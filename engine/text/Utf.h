@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // Text as it crosses the channel: UTF-16 of the caller's to the UTF-8 that the stock engine holds.
 // A lone surrogate enters as U+FFFD, one unit for one unit, so positions stay right.
 #pragma once

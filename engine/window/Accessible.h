@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // Accessible: an engine window as assistive technology sees it. It answers by line, through the
 // line index, so that no answer costs the length of the text; offsets count UTF-16 units.
 #pragma once

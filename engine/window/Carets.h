@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // Carets: several of them in one window, set with the mouse. Typing, pasting and deleting act on
 // each; columns are the stock engine's.
 #pragma once

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // EngineWindow: the widget of the window class, an editor that is driven by numbered messages.
 // A parent that closes the window from inside one of its notifications does so by deleteLater: the
 // stock engine goes on with the message or the event that it was told from.

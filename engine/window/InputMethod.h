@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // InputMethod: what an input method asks of an engine window, and the composition that it shows.
 // A composition is drawn over the text at the caret and never stands in it: so it is in no undo
 // step, is told to nobody, and is gone without a trace when it is given up.

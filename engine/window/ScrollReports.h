@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // ScrollReports: tells the window around an engine what becomes of its scroll bars, and does what
 // that window's own bars ask for.
 #pragma once

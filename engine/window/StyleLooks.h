@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // How the styles of an engine look on the screen.
 #pragma once
 

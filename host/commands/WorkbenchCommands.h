@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // The numbers of the workbench's own commands, from the range that is a host's.
 #pragma once
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // A script as it is handed to a server, beside the script itself: its directives and variables
 // expanded, what could not be included by line, and the way from each line to where it was written.
 #pragma once

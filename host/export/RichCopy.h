@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // Scripts on their way to a mail or a page: with their colours on the clipboard, and as HTML files.
 #pragma once
 

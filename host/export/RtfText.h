@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // A script as rich text, in the colours and fonts of the screen.
 #pragma once
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // The text of an editor with its styles, piece by piece, and how the styles look on the screen.
 #pragma once
 

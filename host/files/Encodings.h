@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // The encodings that a script can be saved in, as a person chooses them and as the status bar names
 // them. Numbers are those of the control's GetEncoding.
 #pragma once

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // Files that are dragged onto a widget are opened, instead of their names being put into a text.
 #pragma once
 

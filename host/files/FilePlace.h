@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // A file as a command line or a tool's message names it, with the place in it to show: a.sql:120.
 #pragma once
 

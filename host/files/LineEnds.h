@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // Which line ends a text has, and an object that keeps the answer up to date for a status bar.
 #pragma once
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 #include "host/files/OpenAsDialog.h"
 
 #include "host/files/Encodings.h"

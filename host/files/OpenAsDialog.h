@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // Open with a choice of encoding below the file's name.
 #pragma once
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // OpenGuard: remembers which files were being opened when a workbench died, so that a file which
 // brings it down is not opened at the next start without a question.
 //

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // Where the workbench keeps what it remembers of a user.
 #pragma once
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // What the workbench asks and tells a person. An interface, so that a run without anyone in front
 // of it (a picture, a test) answers by itself. The questions of the editor's own documents go
 // through IUserQuestions.

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // The files that were opened last, as the File menu lists them. Kept in the user's settings, which
 // several windows share: each call looks at what the others have written.
 #pragma once

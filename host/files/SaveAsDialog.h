@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // Save As with a choice of encoding and byte-order mark below the file's name.
 #pragma once
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // Places in the UTF-8 form of a text, as places in the text.
 #pragma once
 

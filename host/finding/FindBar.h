@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // FindBar: finding and replacing from the keyboard, in a bar below the text. What is sought and how
 // is the find manager's, which all windows of the process share.
 #pragma once

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // ResultsModel: files, and below each the matches in it.
 #pragma once
 

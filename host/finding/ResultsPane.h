@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // ResultsPane: what a search through files found, as a tree by file. A double click and Enter lead
 // to a match. The search itself runs on threads of its own; what it finds comes in small portions.
 #pragma once

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // The options of all editors: font, indentation, margins. They are kept by the options server.
 #pragma once
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // znpictures FOLDER NAME LIGHT|DARK: pictures of the workbench with a script in it, for somebody to
 // look at: the window, folds, problems, changed lines, the find bar. tools/pictures makes all of
 // them, at three scales.

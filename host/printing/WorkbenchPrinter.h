@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // How the workbench prints: Qt's dialogs, a PDF by a command, and a box that shows the page of a
 // job that takes more than a moment and stops it.
 #pragma once

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // PostgreSQL's own parser.
 #pragma once
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // The list of what is wrong with a script. A double click or Enter leads there.
 #pragma once
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // Checks the script of an editor whenever it has come to rest, and marks what is wrong with it.
 #pragma once
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // SQLite's own parser, over an empty database in memory that learns the script's tables.
 #pragma once
 

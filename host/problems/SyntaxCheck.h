@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // A check of a script's statements by the parser of the database that they are for.
 #pragma once
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // A bar in the margin beside the batch that the caret stands in.
 #pragma once
 

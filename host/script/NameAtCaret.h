@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // Names of files and addresses that stand in a script, and what they lead to.
 #pragma once
 

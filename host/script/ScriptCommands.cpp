@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // ScriptView: what it prints, writes and opens on a person's word.
 #include "host/script/ScriptView.h"
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // ScriptDoc: open, language, views. Saving stands in ScriptSaving.
 #include "host/script/ScriptDoc.h"
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // ScriptDoc: one script, the file behind it, and what is known of its text. It asks before
 // anything is lost, and tells whoever shows it of each change.
 #pragma once

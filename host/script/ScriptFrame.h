@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // ScriptFrame: a tab of the main window, with panes of a script.
 #pragma once
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // ScriptView: its pages. The finding of them can be stopped as the printing can.
 #include "host/script/ScriptView.h"
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // ScriptDoc: what is asked before its file is written, and before its text goes.
 #include "control/LossCheck.h"
 #include "host/files/Encodings.h"

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // The tabs of the main window. A page is the window of a frame around scripts.
 #pragma once
 

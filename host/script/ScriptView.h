@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // ScriptView: an editor for a script, with what the workbench adds to it: the bar beside the batch,
 // a scroll range that fits, files that are dropped on it.
 #pragma once

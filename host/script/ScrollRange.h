@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // The range of the horizontal scroll bar, measured as lines come into view.
 #pragma once
 

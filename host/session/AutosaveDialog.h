@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // The dialog for autosave: its switch and its minutes.
 #pragma once
 

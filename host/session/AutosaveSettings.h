@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // Whether and how often the workbench writes copies of what is not saved yet. Kept in the user's
 // settings of the workbench.
 #pragma once

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // What was open in the window: read at the start, written whenever it changes. Data alone: it opens
 // no file and knows no window.
 #pragma once

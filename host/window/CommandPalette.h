@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // CommandPalette: every command of the menus by its name, with its keys. It goes when it is closed.
 #pragma once
 

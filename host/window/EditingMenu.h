@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // What the Edit menu has for lines, words, comments and bookmarks, in menus of their own. Most of
 // it are commands of the view, which says itself when each is possible.
 #pragma once

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // The menu of languages: every language of the registry, the present one marked.
 #pragma once
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // MainFrame: the frame around all tabs, attached to the main window.
 #pragma once
 

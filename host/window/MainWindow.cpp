@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // MainWindow: tabs and what is shown of them. The menus stand in MainWindowCommands, what is
 // remembered between two runs in MainWindowSession.
 #include "host/window/MainWindow.h"

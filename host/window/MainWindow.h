@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // The workbench's window: the tabs, the menus that act on the script in front, the status bar. The
 // scripts are the application's documents.
 #pragma once

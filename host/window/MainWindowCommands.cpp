@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // The menus of the workbench: what each command is called, its keys, and when it is possible.
 //
 // Keys: a menu's shortcut comes first, then the key table of the view with the focus, then the

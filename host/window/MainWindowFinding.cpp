@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // MainWindow: searches through files, and what a search as one types shows in the status bar.
 #include "docview/SearchStatus.h"
 #include "docview/ZNCoreEditorView.h"

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // MainWindow: what it remembers from one run to the next.
 #include "editing/ZNCoreEditorControlEx.h"
 #include "host/expanded/ExpandedScript.h"

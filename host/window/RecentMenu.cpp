@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 #include "host/window/RecentMenu.h"
 
 #include "host/files/RecentFiles.h"

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 #include "host/window/Screenshot.h"
 
 #include "host/files/Prompts.h"

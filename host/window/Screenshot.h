@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // A picture of the workbench's window without anyone in front of it.
 #pragma once
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 #include "host/window/Workbench.h"
 
 #include "host/commands/WorkbenchCommands.h"

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // Workbench: the application's end of the framework. It opens scripts, with the questions that come
 // before, and keeps the list of recent files.
 #pragma once

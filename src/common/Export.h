@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // ZN_API marks what the shared libraries export; everything else stays hidden in them.
 #pragma once
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // CPathParts: a path in four parts. Either kind of separator parts them; of a UNC path,
 // \\server\share, all in front of the fourth separator is the drive.
 #pragma once

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // CTextUtil: small functions over text, without any state. Views and dialogs hold one.
 #pragma once
 

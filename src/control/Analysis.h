@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // The script analysis as a host uses it: what the numbers of the partitioner's messages mean.
 //
 // An editor window whose lexer is one of SQL's divides its script into statements, batches and

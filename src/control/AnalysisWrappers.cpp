@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // The script analysis as the control offers it: what the engine allocates becomes a value here and
 // is released, in the form of delete that fits its new.
 #include "control/ZNCoreEditorControl.h"

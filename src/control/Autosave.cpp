@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // The autosave side of CZNCoreEditorControl, and what it keeps on disk.
 //
 // Two hosts may edit one file at the same time, each with a copy of its own. While its control

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // Autosave copies on disk and their notes in the application profile. Knows no control and no text.
 #pragma once
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // Bookmarks of the control: marker 0, and ten numbered ones that are kept by their marker handles.
 #include "control/ZNCoreEditorControl.h"
 #include "platform/system/SystemColors.h"

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // What AutoCShow lists: proposals, and how they are shown.
 #pragma once
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // CopyClaim: tells the autosave copy of a control that is alive from one that a crash has left.
 #pragma once
 

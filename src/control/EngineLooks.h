@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // What an engine draws by itself beside and over its text, in which colours: icons in the margins,
 // fold marks, bars at changed lines, highlights, marks on the scroll bar. Nothing, until it is
 // told.

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // The engine's message table: what each parameter and each result is, and the C++ type it has in
 // the operations of the control. The rows stand in EngineMessages.def.
 //

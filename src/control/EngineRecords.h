@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // The records that cross the channel to the engine by pointer, and its notification codes.
 // Positions and lengths count UTF-16 units, lines count from 0. The layouts follow those of
 // Scintilla, with text in char16_t.

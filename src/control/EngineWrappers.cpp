@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // The bodies of the wrappers: each hands its parameters to Call and answers in its row's type.
 #include "control/ZNCoreEditorControl.h"
 

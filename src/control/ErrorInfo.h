@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // ErrorInfo: one problem of a script, and what the messages of the engine's error list mean.
 //
 // The list belongs to the text, as the marks do: two windows that show one text show one list, and

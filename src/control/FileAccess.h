@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // Files by their wide path, as a load needs them.
 #pragma once
 

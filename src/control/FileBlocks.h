@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // FileBlocks: a file as UTF-16, block after block. Knows the converter and the seams between
 // blocks; knows no engine and no window.
 #pragma once

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // The load side of CZNCoreEditorControl: a file goes into the engine block by block, so that
 // memory stays flat beside the engine's own copy.
 #include "control/ZNCoreEditorControl.h"

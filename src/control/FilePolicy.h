@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // The few points in which a load and a save differ when files are handled with care.
 #pragma once
 

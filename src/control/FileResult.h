@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // What became of a file that was to be opened or saved.
 #pragma once
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // The save side of CZNCoreEditorControl: lines go from the engine through the converter into the
 // target, so that no more than a block, or the longest line, is held beside the engine's text.
 #include "control/ZNCoreEditorControl.h"

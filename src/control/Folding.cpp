@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // Folding of the control: the look of the margin, the walks over headers and their children, and
 // what a click does. The engine keeps levels and visibility; which lines go together is told here.
 #include "control/ZNCoreEditorControl.h"

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // Line ends of text on its way into the engine. Knows no window; lengths count UTF-16 units.
 #pragma once
 

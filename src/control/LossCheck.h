@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // What a save in an encoding would turn into question marks.
 // The conversion of the save itself decides, so that question and file agree in every code page.
 #pragma once

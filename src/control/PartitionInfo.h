@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // PartitionInfo: one part of a script, as the engine's partitioner hands it out. What the two
 // numbers and the text mean stands with the partitioner's messages in EngineMessages.h.
 #pragma once

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // What a host must know of the colouring and folding of SQL, which is the engine's own for the
 // lexer numbers 2, 3, 4, 5, 9, 10, 14, 15, 16, 17 and 18.
 //

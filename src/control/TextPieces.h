@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // The text of an editor, piece by piece, for whoever looks at all of it: a copy of 64 MB would
 // take 128 MB. The text must not change in between.
 #pragma once

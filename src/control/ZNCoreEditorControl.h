@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // CZNCoreEditorControl: an editor window of the engine, its whole command surface, load and save.
 // Everything that reaches the engine goes through Call. Positions and lengths count UTF-16 units,
 // lines count from 0. Created, used and destroyed on the GUI thread.

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // CZNCoreEditorView: the words that might complete the one at the caret.
 #include "control/Completion.h"
 #include "control/EngineRecords.h"

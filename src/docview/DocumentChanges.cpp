@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // CZNCoreEditorDoc: what others do to the file, and when a host has to parse.
 #include "docview/ZNCoreEditorDoc.h"
 

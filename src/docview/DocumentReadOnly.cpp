@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // CZNCoreEditorDoc: the switch between writable and read-only, of the editor and of the file.
 #include "docview/ZNCoreEditorDoc.h"
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 #include "docview/Goto.h"
 
 #include "common/TextUtil.h"

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // CGoto: the dialog that asks for a line and goes there.
 #pragma once
 

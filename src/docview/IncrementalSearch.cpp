@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // CZNCoreEditorView: the search that owns the keyboard and goes on with every character.
 #include "control/EngineRecords.h"
 #include "docview/SearchStatus.h"

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // What an incremental search has to say, for a host that shows it. Nobody listens by default.
 #pragma once
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // CZNCoreEditorDoc: a copy of the text that is not the user's file.
 #include "docview/ZNCoreEditorDoc.h"
 

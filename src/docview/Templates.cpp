@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // CZNCoreEditorView: code that a host inserts, with values that the user is asked for.
 #include "docview/ZNCoreEditorView.h"
 #include "docview/dialogs/InputBox.h"

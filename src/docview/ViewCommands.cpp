@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // CZNCoreEditorView: the table of its commands, and the handlers that only hand on.
 #include "docview/ZNCoreEditorView.h"
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // CZNCoreEditorView: keys and commands on their way in. An incremental search owns the keyboard
 // while it runs.
 #include "docview/ZNCoreEditorView.h"

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // CZNCoreEditorView: the macro that it records and plays.
 #include "docview/ZNCoreEditorView.h"
 

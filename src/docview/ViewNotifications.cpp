@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // CZNCoreEditorView: what the engine and the control tell it.
 #include "docview/ZNCoreEditorView.h"
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // CZNCoreEditorView: opening what the caret stands on.
 #include "docview/ZNCoreEditorView.h"
 

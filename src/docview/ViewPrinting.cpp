@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // CZNCoreEditorView: printing. It keeps pages of its own and leaves those of its control alone.
 #include "docview/ZNCoreEditorView.h"
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // CZNCoreEditorView: its scroll bars, which mirror those of the engine.
 #include "docview/ZNCoreEditorView.h"
 

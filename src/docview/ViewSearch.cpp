@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // CZNCoreEditorView: the searches that go on without a dialog, with the settings that are the
 // process's, and the way to a line.
 #include "common/Globals.h"

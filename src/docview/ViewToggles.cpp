@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // CZNCoreEditorView: commands that switch something, and show how it stands.
 #include "docview/ZNCoreEditorView.h"
 

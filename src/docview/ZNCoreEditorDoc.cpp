@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // CZNCoreEditorDoc: open, save, title. Outside changes stand in DocumentChanges, the read-only
 // switch in DocumentReadOnly, the temporary copy in TempCopy.
 #include "docview/ZNCoreEditorDoc.h"

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // CZNCoreEditorDoc: the document of one edited file. It holds no text, which the views' engine has;
 // it owns what is known of the file and the order of everything in open, save and reload.
 // Times are seconds since the epoch.

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // CZNCoreEditorSplitter: panes of editors, with the bars between them as the host's look has them.
 #pragma once
 

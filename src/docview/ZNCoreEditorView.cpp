@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // CZNCoreEditorView: life, messages and keys. What the engine tells stands in ViewNotifications,
 // the commands in ViewCommands and ViewToggles, the menu in ViewMenu.
 #include "docview/ZNCoreEditorView.h"

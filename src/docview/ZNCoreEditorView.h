@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // CZNCoreEditorView: the view of an edited file. It owns the control that fills it and stands
 // between what the host commands, what the engine tells, and the document that knows the file.
 #pragma once

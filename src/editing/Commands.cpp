@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // CZNCoreEditorControlEx: the table of its commands, and the handlers that decide something.
 #include "editing/ControlRules.h"
 #include "editing/ZNCoreEditorControlEx.h"

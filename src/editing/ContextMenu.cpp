@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // The context menus as data, and CZNCoreEditorControlEx: showing one where no view does.
 #include "editing/ContextMenu.h"
 

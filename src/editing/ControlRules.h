@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // When commands of the control are possible: the names that ControlCommands.def uses.
 #pragma once
 

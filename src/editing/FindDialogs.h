@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // What an editor has to do with dialogs that it does not know: the rooms that have them set them
 // here.
 #pragma once

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // CZNCoreEditorControlEx: the commands that find, and the one that goes to a line.
 #include "common/Globals.h"
 #include "editing/FindDialogs.h"

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // CZNCoreEditorControlEx: the editor that a view, a dialog or a host holds. It binds itself to a
 // language of the registry and to the host's options, reacts to what is typed, and carries the
 // editing operations of a programmer's editor. Positions count UTF-16 units, lines count from 0.

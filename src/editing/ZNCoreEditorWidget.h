@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // ZNCoreEditorWidget: the control for hosts that are written in plain Qt.
 #pragma once
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // ByteVector: a byte vector that leaves the bytes it grows by as they are. A conversion sizes it
 // for the most that may come out and cuts it to what did, block after block; clearing that room
 // first would cost as much as the conversion.

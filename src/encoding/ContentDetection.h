@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // What bytes without a byte-order mark look like, from their content alone. A judgement of the
 // first block of a file: the end of the block may cut a character.
 #pragma once

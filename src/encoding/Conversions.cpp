@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // The conversions of FileEncodeConverter, one for each pair of text forms. Each takes whole
 // characters only and tells how many bytes behind them it left.
 #include "encoding/FileEncodeConverter.h"

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // FileEncodeConverter: the bytes of a file to UTF-16 and back, block by block.
 // Knows encodings and byte-order marks; knows no window, no path and no setting. All lengths count
 // bytes.

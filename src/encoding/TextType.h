@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // TextType: the encodings of text as the utility functions number them, mark included.
 #pragma once
 

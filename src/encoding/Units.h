@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // Units and words as they stand in bytes, and what a UTF-16 unit can be.
 #pragma once
 

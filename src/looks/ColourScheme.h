@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // ColourScheme: colours by what they are for, read from a file of the folder Schemes beside the
 // library. Knows no editor and no window.
 #pragma once

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // The colours that a language file was delivered with, to be told from those that a person chose.
 #pragma once
 

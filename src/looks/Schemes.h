@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // The schemes that stand beside the library, and the one that fits the desktop.
 #pragma once
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // StyleRoles: which role each style of a language has, read from Roles.xml, which tells the rules.
 #pragma once
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // CRegProfile: what dialogs remember, as values under the library's key of the user's registry.
 // Knows no window.
 #pragma once

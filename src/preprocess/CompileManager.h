@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // CZNCompileManager: expands "#include", "#define" and "&&" variables in the text of an editor,
 // before a script is handed to its consumer, and keeps what the script was. One run at a time, on
 // the GUI thread; a run moves the caret, the selection and the settings of the search.

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // The passes of one run that read definitions and replace variables. Each walks the hits of "&&"
 // from a place to the text's end.
 //

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // The text that the pre-processor works on: a control's, read, searched and changed in place, with
 // styles that are those of the text as it stands. Positions count UTF-16 units, lines from 0.
 #pragma once

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // CFindReplaceManager: the one holder of what is searched for and how, and the searches themselves,
 // on whichever editor is passed in. Knows no dialog. Positions count UTF-16 units.
 #pragma once

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // Replacing, of CFindReplaceManager.
 #include "control/ZNCoreEditorControl.h"
 #include "platform/base/Units.h"

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 #include "settings/ConfigFile.h"
 
 #include "settings/Number.h"

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // CConfigFile: the settings that hold for every editor and every language, and the list of
 // languages. Knows no file but its own and no default: what the file lacks reads as "", 0 or false.
 #pragma once

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // ElementIndex: the elements that searches of one document have found, by name and by attribute.
 // Knows nothing of what the elements mean. Names and values are UTF-8, as in the tree.
 #pragma once

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // The names that a syntax file may give its lexer.
 #pragma once
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // The document tree of the settings files: nodes and attributes by handle, a parser that owns them.
 // Knows neither files nor settings. The tree is pugixml's, which no user of this header sees.
 // A handle is as cheap as two pointers, may be empty, and is safe to ask and to set when it is: it

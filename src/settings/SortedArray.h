@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // CSortedArray: elements in the order in which they came, until it is asked to sort them.
 #pragma once
 

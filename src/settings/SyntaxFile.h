@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // CSyntaxFile: one language: lexer, keywords, editing behaviour, comments, braces and styles.
 // Knows no editor. The GUI thread owns it.
 #pragma once

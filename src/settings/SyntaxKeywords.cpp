@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // The keyword sets of a syntax file.
 #include "settings/SyntaxFile.h"
 

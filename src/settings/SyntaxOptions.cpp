@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // The host's options on their way into a syntax file.
 // Every editor that is made brings them for every language, and they are mostly those that the
 // editor before it brought.

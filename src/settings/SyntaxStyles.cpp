@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // The styles of a syntax file, which stand in the custom document.
 #include "settings/SyntaxFile.h"
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // CXMLFile: one XML document in memory, and typed settings by section, key and attribute.
 // Knows no setting by name and no window. The GUI thread owns it.
 #pragma once

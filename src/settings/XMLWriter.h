@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // The text of a document tree: a tab for each level, a line for each node, lines end in CR LF.
 // Nothing is escaped: what stands in a value stands in the text.
 #pragma once

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // The operations of the script analysis: what they send, and what becomes of memory that the
 // engine hands over.
 #include "tests/control/ControlFixture.h"

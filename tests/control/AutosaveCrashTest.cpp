@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // A process that edits a script is killed again and again around its autosave write. What it leaves
 // is offered by the next open, and is one of the texts that it had.
 #include "tests/control/AutosaveFixture.h"

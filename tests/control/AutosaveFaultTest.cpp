@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // Autosave where folder, disk, copy or profile are not as they should be: the document in memory
 // and the file on disk stay as they are, and a later tick makes up for it.
 #include "tests/control/AutosaveFixture.h"

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // What the tests of autosave share: folders and a profile of their own, copies as a crash leaves
 // them, ticks by hand and an answer to the question.
 #pragma once

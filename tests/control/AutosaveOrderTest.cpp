@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // What happens in which order around a tick and around a recovery: engine messages, calls of what a
 // subclass may take part in, the profile and the question, in one list.
 #include "tests/control/AutosaveFixture.h"

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // When a copy is written, where it stands and when it goes.
 #include "tests/control/AutosaveFixture.h"
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // What bookmarks send to the engine, and where they stand on it.
 #include "platform/system/SystemColors.h"
 #include "tests/control/ControlFixture.h"

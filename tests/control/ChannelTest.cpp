@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // The channel to the engine and the life of a control, seen by a recording engine.
 #include "tests/control/ControlFixture.h"
 #include "tests/control/RecordingEngine.h"

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // What the tests of the control share: a parent that hears notifications, files in a folder of
 // their own, and answers to questions.
 #pragma once

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // The control over the real engine: text entry, selection, notifications.
 #include "tests/control/ControlFixture.h"
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // Files as UTF-16, block by block: what a seam does to a character, with and without care.
 #include "control/FileBlocks.h"
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // The order of messages around a load and a save, and what stands after each failure.
 #include "tests/control/ControlFixture.h"
 #include "tests/control/RecordingEngine.h"

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // Load and save through the real engine.
 #include "tests/control/ControlFixture.h"
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // Bookmarks and folding over the real engine: what is to be seen afterwards.
 #include "tests/control/ControlFixture.h"
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // What the folding operations send to the engine, in which order.
 #include "tests/control/ControlFixture.h"
 #include "tests/control/RecordingEngine.h"

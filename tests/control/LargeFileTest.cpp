@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // Files that are too large for the engine, which counts positions in ints.
 #include "tests/control/ControlFixture.h"
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // What the control makes of the engine's notifications.
 #include "tests/control/ControlFixture.h"
 #include "tests/control/RecordingEngine.h"

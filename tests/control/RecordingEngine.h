@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // RecordingEngine: stands where the engine module is looked for, does nothing to any text and
 // writes down every message. A test tells it what to answer.
 #pragma once

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // What a crash has left is found by the file's path, offered, and loaded or kept.
 #include "tests/control/AutosaveFixture.h"
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // A walk over the message table: every wrapper by both paths.
 #include "tests/control/ControlFixture.h"
 #include "tests/control/RecordingEngine.h"

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // A view that is closed while the engine's own code is on the stack.
 #include "EditDocFixture.h"
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // A document of the editor with its view over the engine itself, real files, a clock that is set by
 // hand and a user who answers as told.
 #pragma once

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // What becomes of a document when its file does not behave: no crash, and no text lost. The control
 // handles its files with care, as a host that edits users' files sets it.
 #include "EditDocFixture.h"

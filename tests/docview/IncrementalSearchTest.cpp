@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // The search that goes on with every character typed.
 #include "tests/docview/ViewFixture.h"
 

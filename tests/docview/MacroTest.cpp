@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // The macro: what is recorded, and what playing it does.
 #include "ViewFixture.h"
 

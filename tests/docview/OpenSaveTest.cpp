@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // How a document of the editor opens, saves and names its file, and how that fails.
 #include "EditDocFixture.h"
 

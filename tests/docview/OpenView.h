@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // A view with what it keeps for its subclasses opened.
 #pragma once
 

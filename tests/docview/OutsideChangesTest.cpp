@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // What a document notices of what others do to its file, and what it asks.
 #include "EditDocFixture.h"
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // Paths taken apart and put together.
 #include "common/PathParts.h"
 

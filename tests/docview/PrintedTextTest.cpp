@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // The text of what was printed, read back from the PDF, and the picture of its pages.
 #include "ViewFixture.h"
 

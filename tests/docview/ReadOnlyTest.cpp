@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // Files that may not be written, and the switch between writable and read-only.
 #include "EditDocFixture.h"
 

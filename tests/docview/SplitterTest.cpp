@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // Panes in rows and columns: how they are made, numbered, drawn and taken away.
 #include "ViewFixture.h"
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // The copy of a text that is not the user's file, and what a document tells its views.
 #include "EditDocFixture.h"
 #include "platform/docview/CommandIds.h"

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // Code that a host inserts, and the words that are looked for to complete one.
 #include "ViewFixture.h"
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // The marks in a document's title.
 #include "EditDocFixture.h"
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // The table of the view's commands: what each runs, and when it is possible.
 #include "ViewFixture.h"
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // Views of the editor over the engine itself, with what they keep for their subclasses opened.
 #pragma once
 

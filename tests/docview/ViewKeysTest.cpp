@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // Keys on their way through a view: its key table, and the search that owns the keyboard.
 #include "ViewFixture.h"
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // The menu of a right click. All views of a process share the one that the first click chose, so
 // each case has a process of its own.
 #include "ViewFixture.h"

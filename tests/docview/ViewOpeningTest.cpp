@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // Opening what the caret stands on.
 #include "ViewFixture.h"
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // What a view sends where the order counts, on an engine that writes it down.
 #include "tests/docview/OpenView.h"
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // What a view sends when it is printed, and how the framework leads it from page to page.
 #include "control/EngineRecords.h"
 #include "docview/ZNCoreEditorDoc.h"

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // The bars of a view, and what its neighbours in a splitter do.
 #include "ViewFixture.h"
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // Searches without a dialog, which go on with the process's settings, and the way to a line.
 #include "tests/docview/ViewFixture.h"
 

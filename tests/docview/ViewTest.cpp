@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // The view over the engine: notifications, sizes, the wheel, the line that a host shows.
 #include "ViewFixture.h"
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // What Enter and braces do to the indentation, and Enter to a comment, with keys as they are typed.
 #include "tests/editing/EditingFixture.h"
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // The messages that bind a language, in their order. They are written down by an engine that does
 // nothing else.
 #include "common/Globals.h"

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // Bookmarks: set and taken away one by one, and gone to in turn.
 #include "tests/editing/EditingFixture.h"
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // Commands by number: what each does, and when it is possible.
 #include "tests/editing/EditingFixture.h"
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // What the tests of comment markers share: one operation on a marked text.
 #pragma once
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // Comment markers put in, for every shape of a selection.
 #include "tests/editing/CommentFixture.h"
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // What is commented, decided on plain text.
 #include "editing/text/Comments.h"
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // The context menu of a control that stands in no view: its items, and when each is possible.
 #include "editing/ContextMenu.h"
 #include "platform/windows/ActionUI.h"

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // The extended control over the engine itself.
 #include "editing/FindDialogs.h"
 #include "editing/ZNCoreEditorControlEx.h"

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // Every shipped SQL language, bound as a host binds it: a sample of the dialect, and under each
 // line its styles as letters (tests/reference/StyleLetters.h).
 #include "editing/ZNCoreEditorControlEx.h"

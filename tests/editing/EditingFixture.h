@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // An extended control over the engine, with a language of the test's own making. Texts show the
 // selection in themselves: "a[bc]|d" has bc selected with the caret behind it, "a|[bc]d" with the
 // caret in front, "a|b" has none.

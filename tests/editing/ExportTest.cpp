@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // What the export operations leave behind, which is little.
 #include "editing/export/RtfClipboard.h"
 #include "platform/windows/Questions.h"

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // The commands that find: which dialog they open, and what they say.
 #include "editing/FindDialogs.h"
 #include "search/FindReplaceManager.h"

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // The gestures of hands/Hands.def, by their numbers.
 #include "EditingFixture.h"
 

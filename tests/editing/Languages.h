@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // Languages made for a test: settings files in a folder of their own, and a registry over them.
 #pragma once
 

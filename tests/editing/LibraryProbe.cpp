@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // A host that comes up, tells how the library did, and goes: before it does, it changes one setting
 // of each kind, or opens and saves a file.
 #include "editing/ZNCoreEditorControlEx.h"

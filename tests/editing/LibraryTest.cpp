@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // The library's start and stop, in a process of its own with a copy of the library.
 #include "common/Globals.h"
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // The orders of lines, and the array that keeps them.
 #include "editing/text/LineOrder.h"
 #include "editing/text/SortedArrayEx.h"

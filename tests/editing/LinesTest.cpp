@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // Lines sorted, and text put into each of them.
 #include "tests/editing/EditingFixture.h"
 #include "tests/reference/BinaryInsertion.h"

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // Bookmarks on all matches.
 #include "search/FindReplaceManager.h"
 #include "tests/editing/EditingFixture.h"

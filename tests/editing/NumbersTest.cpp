@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // Numbers and capitals in plain text.
 #include "editing/text/Numbers.h"
 #include "editing/text/Capitals.h"

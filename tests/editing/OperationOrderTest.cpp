@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // What the editing operations send where the order counts, on an engine that writes it down.
 #include "editing/ZNCoreEditorControlEx.h"
 #include "tests/control/RecordingEngine.h"

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // The host's options in the settings of all languages, whoever made editors before: they are those
 // of a registry in which every editor sets every option anew.
 #include "editing/ZNCoreEditorControlEx.h"

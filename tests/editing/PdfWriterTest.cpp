@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // What a PDF begins with, and the small operations of its writer.
 #include "editing/export/PdfWriter.h"
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // What the control sends when it prints, on an engine that writes it down, and what it asks of the
 // printer.
 #include "control/EngineRecords.h"

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // What holds for every text and every selection.
 #include "tests/editing/EditingFixture.h"
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // The registry of languages over the settings files.
 #include "common/Globals.h"
 #include "editing/language/FileTypeManager.h"

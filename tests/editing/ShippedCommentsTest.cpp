@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // Commenting and uncommenting by command in the shipped languages, bound as a host binds them.
 #include "editing/language/FileTypeManager.h"
 #include "editing/language/Library.h"

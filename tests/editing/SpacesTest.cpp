@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // White space of one line.
 #include "editing/text/Spaces.h"
 

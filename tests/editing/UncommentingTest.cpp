@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // Comment markers taken out.
 #include "tests/editing/CommentFixture.h"
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // Clean-ups, line ends and braces.
 #include "tests/editing/EditingFixture.h"
 

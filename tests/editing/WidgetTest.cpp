@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // The editor as plain Qt hosts see it.
 #include "editing/ZNCoreEditorWidget.h"
 #include "platform/text/CodePage.h"

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // Words, characters and numbers at the caret; what single operations select.
 #include "tests/editing/EditingFixture.h"
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // The converter with its protected side open, and blocks that end where their memory ends, so that
 // a sanitizer sees a read behind them.
 #pragma once

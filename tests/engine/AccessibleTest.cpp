@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // An engine window as assistive technology sees it.
 #include "engine/window/Accessible.h"
 #include "engine/changes/AssistiveTechnology.h"

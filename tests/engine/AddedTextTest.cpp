@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // What is told of text that a message brings in.
 #include "tests/engine/EngineFixture.h"
 

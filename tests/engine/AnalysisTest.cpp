@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // The partitioner's messages over a real engine window: units, settings, switches, ownership.
 #include "control/Analysis.h"
 #include "control/PartitionInfo.h"

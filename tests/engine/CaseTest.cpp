@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // Case by Unicode's rules in what is selected, however it is selected.
 #include "tests/engine/EngineFixture.h"
 

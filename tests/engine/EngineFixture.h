@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // An engine window as a host sees it: by class name and number, with a parent that listens.
 #pragma once
 

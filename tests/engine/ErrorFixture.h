@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // What the tests of the error list share: a script with its problems, and what is to be seen of
 // them in the stock engine.
 #pragma once

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // The error list by message: what is listed, where it stands, and whose it is.
 #include "tests/engine/ErrorFixture.h"
 

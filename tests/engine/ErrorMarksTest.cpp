@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // What is to be seen of the problems in a text, and that it follows the text's edits.
 #include "tests/engine/ErrorFixture.h"
 

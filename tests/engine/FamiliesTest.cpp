@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // Families of messages that mean something of this engine's own, on mixed text.
 #include "control/Completion.h"
 #include "tests/engine/EngineFixture.h"

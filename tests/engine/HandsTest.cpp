@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // What a person does with keyboard, mouse, menu and clipboard, and what the parent hears of it.
 #include "tests/engine/EngineFixture.h"
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // What a host may say and a stock engine does not survive.
 #include "tests/engine/EngineFixture.h"
 

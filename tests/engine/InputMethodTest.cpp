@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // What an input method asks, and what a composition does and leaves alone.
 #include "tests/engine/EngineFixture.h"
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // The colours of long lines, which are made in parts: each part is coloured as it is in one walk
 // over the whole line, and an edit is followed from near its place to near its place.
 #include "engine/colours/SqlStyler.h"

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // Typing in lines of many thousand bytes: what is told, undone and shown is what it is in others.
 #include "tests/engine/EngineFixture.h"
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // What stands beside the lines in a host's own margin, and a text that is to be styled anew.
 #include "tests/engine/EngineFixture.h"
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // Every row of the message table on the real engine, with whatever a caller may pass.
 #include "tests/engine/EngineFixture.h"
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // Noncharacters are characters: every move, deletion and read takes them whole.
 #include "tests/engine/EngineFixture.h"
 

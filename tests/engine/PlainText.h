@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // A text to search without an engine: in one string, with a gap that moves as an engine's does.
 #pragma once
 

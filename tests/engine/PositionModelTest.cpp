@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // The engine against a plain UTF-16 string: whatever is edited, positions, lines, columns, texts,
 // targets and notifications agree.
 #include "tests/engine/EngineFixture.h"

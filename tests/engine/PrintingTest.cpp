@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // FormatRange: pages that cover the text, and what differs on paper.
 #include "tests/engine/EngineFixture.h"
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // Ranges that follow an edited text, beside the plainest way to do it.
 #include "engine/errors/RangeList.h"
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // Patterns that would run away, long lines, the gap of the text, and texts that are no UTF-8.
 #include "engine/search/Budget.h"
 #include "engine/search/Searcher.h"

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // The messages that search, against a plain UTF-16 string: positions count units, whatever stands
 // in the text.
 #include "tests/engine/EngineFixture.h"

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // The engine's search against the stock engine's own, on what both know.
 #include "engine/text/Utf.h"
 #include "tests/engine/EngineFixture.h"

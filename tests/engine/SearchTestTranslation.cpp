@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // The engine's pattern syntax in PCRE2's, row by row.
 #include "engine/search/Expression.h"
 #include "engine/search/ExpressionTranslator.h"

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // The ways a search takes to be quick, against the plain way: the expression run once over the
 // whole text in one piece.
 #include "engine/search/Budget.h"

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // The folds of SQL as pictures: in front of each line its depth, and H where it is a header.
 #include "tests/engine/SqlUnderTest.h"
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // Places that follow a text's edits, beside a plain list of them.
 #include "engine/colours/SqlPlaces.h"
 

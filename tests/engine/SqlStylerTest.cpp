@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // The colours of SQL: what each lexer number takes for what, and that an edit changes what it must
 // and no more.
 #include "engine/colours/SqlVocabulary.h"

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // An SQL text in an engine window, its styles as letters and its folds as a picture.
 #pragma once
 

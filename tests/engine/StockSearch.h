@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // The stock engine's own search, as it comes: over bytes of UTF-8.
 #pragma once
 

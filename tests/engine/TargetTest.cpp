@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // The target and the groups of an expression go along with the text.
 #include "tests/engine/EngineFixture.h"
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // Two windows on one text, and parents that act from inside a notification.
 #include "tests/engine/EngineFixture.h"
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // Runs a piece of work in a process of its own and fails one of its system calls on files, or kills
 // the process there. A place is the number of such a call among those that concern one folder.
 #pragma once

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // Each system call on the files of a piece of work fails once, at each place, and the process is
 // killed there once. What has to come of it: the work is done, or it tells that it is not and the
 // files are as they were. After a kill they are as before or as they should be.

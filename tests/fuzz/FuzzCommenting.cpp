@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // Any text with any selection, commented and uncommented by any marker: an undo brings the text
 // back, and what is selected lies in the text. The first bytes choose the line ends, the markers,
 // the operation and the selection; the rest is the text, a unit for each byte or two.

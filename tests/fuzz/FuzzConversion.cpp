@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // Any bytes between every pair of encodings, as a stream cut into blocks of any size. The first
 // bytes choose the pair, the code page and the cuts. Each block fills its memory to the last byte.
 #include "encoding/FileEncodeConverter.h"

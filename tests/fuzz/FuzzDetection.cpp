@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // Any first block, detected and requested in every encoding. The block fills its memory to the last
 // byte, so that a read behind it is caught.
 #include "encoding/FileEncodeConverter.h"

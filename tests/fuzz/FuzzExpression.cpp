@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // Any pattern over any text, forwards and backwards, with a gap anywhere. What is found lies in the
 // range that was searched, and is the same wherever the gap is.
 #include "engine/search/PatternText.h"

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // Any bytes as a file: loaded through the real engine with and without care, written and loaded
 // again. The first byte chooses the encoding that is asked for and whether the text is written too,
 // the second how far the others are moved towards the seam of two blocks.

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // Any script in any dialect, edited anyhow: behind every edit what is kept equals what a fresh look
 // at the text gives, and every answer lies in the text.
 #include "tests/engine/analysis/ScriptUnderTest.h"

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // Any script, with files to include: expanded through the real engine, and put back. NUL characters
 // of the input part it into the script and its files, "a" to "d". The first byte chooses the
 // language.

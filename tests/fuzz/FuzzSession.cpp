@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // Whatever a session's file has in it, what is read of it is within its bounds and is read the same
 // once it has been written. The bytes are read as they are, and as choices of what stands where a
 // session has its members, since nothing else gets past the reader of the format.

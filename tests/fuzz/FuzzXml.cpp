@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // Any bytes as a settings file: what was parsed and is written parses to the same tree, but for
 // what a line for each node changes. Those are blanks around a text that stands beside other nodes
 // and between the parts of a document type, and the kind of line ends.

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // What a screen reader says of the workbench: everything that takes keys has a name.
 #include "host/files/OpenAsDialog.h"
 #include "host/files/SaveAsDialog.h"

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // Reads the #include lines of the tree and compares them with the rooms of docs/architecture.md.
 #include "tests/SourceTree.h"
 

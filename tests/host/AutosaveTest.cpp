@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // Autosave in the workbench: what a killed one leaves is offered by the next, and the settings
 // reach every script.
 #include "editing/ZNCoreEditorWidget.h"

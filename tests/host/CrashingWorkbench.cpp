@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // A workbench in which somebody types into the given script, and which is killed as soon as the
 // copy of that has been written. With a second word it is killed as soon as a file that it opens
 // makes it say something.

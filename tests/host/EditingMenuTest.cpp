@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // The workbench's menus for comments, lines, words and bookmarks.
 #include "editing/ZNCoreEditorControlEx.h"
 #include "tests/host/WorkbenchTest.h"

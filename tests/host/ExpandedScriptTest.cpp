@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // The workbench shows a script expanded, and leads back to where its lines were written.
 #include "host/expanded/ExpandedScript.h"
 #include "editing/ZNCoreEditorWidget.h"

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // The find bar over an editor of its own: what it finds, selects, replaces and says.
 #include "host/finding/FindBar.h"
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // Find in Files as the window has it: from the dialog to the place in the script.
 #include "tests/host/WorkbenchTest.h"
 

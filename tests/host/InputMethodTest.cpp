@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // Composition with an input method, by the events that one sends.
 #include "tests/host/WorkbenchTest.h"
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // docs/keys.md, which is made from the menus: with ZN_WRITE_KEYS set this test writes it.
 #include "tests/SourceTree.h"
 #include "tests/host/WorkbenchTest.h"

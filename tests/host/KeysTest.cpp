@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // What a key stands for in the workbench: menus, then the view's key table, then the engine.
 #include "host/finding/FindBar.h"
 #include "platform/windows/ActionUI.h"

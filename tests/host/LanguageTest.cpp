@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // Languages and options in the workbench.
 #include "editing/language/FileTypeManager.h"
 #include "editing/language/Library.h"

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // What the workbench remembers from one run to the next: the session, recent files, and a file that
 // it died on.
 #include "host/files/Places.h"

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // The environment of a program whose settings and data are a test's own.
 #pragma once
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // Printing, PDFs, rich copies and HTML from the workbench's menus.
 #include "host/printing/WorkbenchPrinter.h"
 #include "tests/host/WorkbenchTest.h"

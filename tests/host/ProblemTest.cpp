@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // Batches, catalogs and problems in the workbench.
 #include "control/Analysis.h"
 #include "control/ErrorInfo.h"

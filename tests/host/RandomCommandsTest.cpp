@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // Whatever a person and others do in whatever order: the workbench stays up, the panes of a script
 // show one text, and a script that counts as saved is in its file.
 #include "tests/host/WorkbenchTest.h"

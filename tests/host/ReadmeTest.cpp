@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // What README.md shows is what builds, and what it names is there.
 #include "tests/SourceTree.h"
 
@@ -19,7 +20,8 @@ QString ReadText(const QString& name)
 
 TEST(Readme, ShowsTheEmbeddingExampleAsItBuilds)
 {
-    const QString example = ReadText(QStringLiteral("host/example/main.cpp"));
+    const QString file = ReadText(QStringLiteral("host/example/main.cpp"));
+    const QString example = file.section(QLatin1Char('\n'), 1); // behind the licence's mark
     ASSERT_FALSE(example.isEmpty());
     EXPECT_TRUE(ReadText(QStringLiteral("README.md"))
                     .contains(QStringLiteral("```cpp\n") + example + QStringLiteral("```")));

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // A workbench is killed while a script has changes; the next one is the real program on a real
 // display, and the question is answered with its keys.
 #include "tests/host/OwnPlaces.h"

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // The sample scripts have the bytes that samples/README.md claims: a checkout or an editor that
 // "repairs" line ends or encodings shows here.
 #include "tests/SourceTree.h"

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // The program as it is started for a picture.
 #include "tests/SourceTree.h"
 

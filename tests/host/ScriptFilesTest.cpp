@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // A script and its file: opened, saved, reloaded, and changed by others meanwhile.
 #include "host/files/LineEnds.h"
 #include "tests/host/WorkbenchTest.h"

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // Prompts that answer what a test has set, and remember what was asked and told.
 #pragma once
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // The parsers of the databases, over statements.
 #include "host/problems/SyntaxCheck.h"
 

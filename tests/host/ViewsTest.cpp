@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // Several views of one script: panes of a tab, and tabs of their own.
 #include "host/problems/ScriptChecker.h"
 #include "host/script/ScriptTabs.h"

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // The real program on a real display, driven with real keys and a real mouse.
 #include "tests/host/OwnPlaces.h"
 #include "tests/host/XDoTool.h"

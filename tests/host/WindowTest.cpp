@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // What the window offers around the script: tabs, the palette, fields that open, the find bar's
 // lights.
 #include "host/finding/FindBar.h"

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // A workbench window with scripted prompts and a folder of its own.
 #pragma once
 

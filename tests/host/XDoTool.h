@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // The display's toolbox: windows by name, keys and clicks, as a person would use them.
 #pragma once
 

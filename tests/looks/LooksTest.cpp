@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // What an editor with a scheme draws beside and over its text.
 #include "control/EngineLooks.h"
 #include "editing/ZNCoreEditorWidget.h"

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // The schemes that ship with the library, against the language files: read here by other means than
 // the library's own.
 #include "looks/DeliveredColours.h"

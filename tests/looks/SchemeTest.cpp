@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // Schemes on an editor.
 #include "editing/ZNCoreEditorWidget.h"
 #include "editing/language/FileTypeManager.h"

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 #include "platform/windows/Accelerators.h"
 #include "platform/windows/CmdTarget.h"
 #include "platform/windows/Wnd.h"

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // Files with share modes, and what the system knows of them.
 #include "platform/system/File.h"
 

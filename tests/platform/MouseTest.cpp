@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // What is known of the mouse at this moment.
 #include "platform/windows/Mouse.h"
 

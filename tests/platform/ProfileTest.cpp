@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // The application profile over a file, and what other programs and accidents do to the file.
 #include "platform/system/Profile.h"
 #include "platform/system/SpecialFolders.h"

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // What Qt tells a widget, as the messages that a CWnd gets.
 #include "platform/windows/WindowEvents.h"
 

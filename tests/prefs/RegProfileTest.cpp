@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // What dialogs remember: every kind of value, and what stands when the store refuses.
 #include "prefs/RegProfile.h"
 #include "platform/system/Registry.h"

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // Files, lines and definitions that no one would write on purpose.
 #include "tests/platform/file/OrdinaryUser.h"
 #include "tests/preprocess/PreprocessFixture.h"

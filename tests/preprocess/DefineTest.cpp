@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // Definitions and variables over the engine's own styling.
 #include "search/FindReplaceManager.h"
 #include "tests/preprocess/PreprocessFixture.h"

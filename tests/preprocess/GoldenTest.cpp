@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // Whole scripts beside what comes of them: golden/NAME/in.sql and out.sql, with the files that
 // in.sql includes in the same folder. A carriage return that the expansion puts in stands as "\r"
 // and a line's end. A difference is written to out.new beside them.

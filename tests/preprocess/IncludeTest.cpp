@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // Included files over the engine's own styling.
 #include "platform/system/SpecialFolders.h"
 #include "tests/preprocess/PreprocessFixture.h"

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // What the script was before a run: kept, and put back.
 #include "platform/system/SpecialFolders.h"
 #include "tests/preprocess/PreprocessFixture.h"

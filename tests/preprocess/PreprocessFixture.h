@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // An editor over the real engine, bound to a language of the registry, and a folder of files to
 // include.
 #pragma once

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // Random scripts with includes, beside the plain reference.
 #include "tests/preprocess/PreprocessFixture.h"
 #include "tests/reference/PlainPreprocessor.h"

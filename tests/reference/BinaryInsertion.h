@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // Sorting by binary insertion into a plain array, as slow as it is plain.
 #pragma once
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // The pre-processor in its plainest form, over a string: every pass from its start to the text's
 // end, every prefix a key of its own, the styles of the whole text anew for each question.
 #pragma once

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // Where the comments and strings of a script stand, told byte by byte from the text's start, and
 // by facts that the databases' manuals state. Client programs' lines are not known here.
 #pragma once

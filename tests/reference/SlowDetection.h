@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // The encoding of a block, decided slowly and in plain steps over decoded arrays. What the
 // converter decides has to agree with it on any bytes.
 #pragma once

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // Text in every encoding of a file, written out character by character.
 #pragma once
 

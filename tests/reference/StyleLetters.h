@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // Styles of SQL as letters, so that a test can show a line of text and a line of styles under it.
 #pragma once
 

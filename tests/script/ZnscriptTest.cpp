@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // The program as a pipeline starts it, without a display.
 #include <QDir>
 #include <QFile>

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // What the tests of the find manager share: a registry in memory, and an editor to search in.
 #pragma once
 

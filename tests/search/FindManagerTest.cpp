@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // Searches of the find manager: ranges, wrapping, styles.
 #include "tests/search/FindFixture.h"
 

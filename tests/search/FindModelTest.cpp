@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // Positions of literal searches against a plain model: a string that is walked unit by unit.
 #include "tests/search/FindFixture.h"
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // The messages of the find manager, in their order.
 #include "control/ZNCoreEditorControl.h"
 #include "tests/control/RecordingEngine.h"

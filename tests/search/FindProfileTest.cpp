@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // What the find manager holds, and what it keeps from one run to the next.
 #include "tests/search/FindFixture.h"
 

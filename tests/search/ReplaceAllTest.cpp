@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // Replacements of the find manager, one and all: what they leave in the text, and that they end.
 #include "tests/search/FindFixture.h"
 

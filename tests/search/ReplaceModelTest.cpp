@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // Replacements of all against a plain model that walks a string. The texts put in hold nothing of
 // what is sought, and are as long as it or longer, so that each match is replaced once.
 #include "tests/search/FindFixture.h"

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // The settings of every editor by name, the list of languages and the list of words.
 #include "SettingsFolder.h"
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // CXMLFile with its protected operations in reach.
 #pragma once
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // Searches of a document by nothing but a walk from child to child.
 #pragma once
 

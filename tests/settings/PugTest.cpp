@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // The tree: what is remembered of searches is what a walk finds, whatever has been changed.
 #include "PlainSearch.h"
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // A language by its two files: routing, styles, keywords, lexer.
 #include "SettingsFolder.h"
 #include "tests/platform/file/FullDisk.h"

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // The host's options in a syntax file: however often they are written, and whatever happens in
 // between, the documents are those that setting every option anew would leave.
 #include "SettingsFolder.h"

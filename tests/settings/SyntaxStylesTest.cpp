@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // Styles by their number: what is read is what a plain search of the custom document finds.
 #include "PlainSearch.h"
 #include "SettingsFolder.h"

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // What is no settings file reads as empty, and is never written over.
 #include "OpenXMLFile.h"
 #include "SettingsFolder.h"

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // Sections, keys and attributes as typed settings, and the states of a file.
 #include "OpenXMLFile.h"
 #include "SettingsFolder.h"

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // The exact text of every kind of node.
 #include "settings/XMLWriter.h"
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // The words that completion works with, and the markers of templates. Text alone: knows no window.
 #pragma once
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // CZNCoreEditorControlEx: export, as far as it goes.
 //
 // There is no exporter behind these operations and none is to be put there: hosts have come to rely

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // PdfObjectTracker: the numbers of a PDF's objects, and where each begins in the file.
 #pragma once
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // PdfWriter: what a PDF begins with, its header and its four fonts.
 //
 // This is all that SaveToPDF writes, whatever the document holds. It is no exporter that waits for

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // A file of rich text on its way to the clipboard.
 #pragma once
 

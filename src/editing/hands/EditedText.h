@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // What the operations read of an editor's text, and how they put something in its place. Positions
 // count UTF-16 units.
 #pragma once

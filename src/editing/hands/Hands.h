@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // Hands: the gestures of people who edit all day, as commands with numbers of the library's own.
 // The rows stand in Hands.def; menus, keys and docs/keys.md are made from them.
 #pragma once

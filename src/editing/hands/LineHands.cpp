@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 #include "editing/hands/EditedText.h"
 #include "editing/hands/Operations.h"
 #include "editing/operations/EditScopes.h"

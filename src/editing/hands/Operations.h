@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // The operations behind the rows of Hands.def. Each that changes the text is one undo step.
 #pragma once
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 #include "control/PartitionInfo.h"
 #include "editing/ZNCoreEditorControlEx.h"
 #include "editing/hands/Operations.h"

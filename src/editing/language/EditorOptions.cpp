@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // CZNCoreEditorControlEx: the language, and the host's options on their way into it.
 #include "editing/ZNCoreEditorControlEx.h"
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // CFileTypeManager: the registry of languages, and the place where settings reach an editor.
 // One for the process (zncoreeditor::GetFileTypeManager); the GUI thread owns it.
 #pragma once

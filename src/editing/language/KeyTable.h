@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // The key table of an editor that stands alone, and of a view around one.
 #pragma once
 

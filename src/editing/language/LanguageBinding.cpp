@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // CFileTypeManager::SetCoreEditorProperties: one language's settings as a fixed sequence of
 // messages.
 #include "editing/language/FileTypeManager.h"

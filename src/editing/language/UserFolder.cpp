@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 #include "editing/language/UserFolder.h"
 
 #include "platform/system/SpecialFolders.h"

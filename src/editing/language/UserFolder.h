@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // Where the settings of a user are kept, beside those that were installed with the library.
 #pragma once
 

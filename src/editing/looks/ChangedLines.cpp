@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // CZNCoreEditorControlEx: which lines have changed since the file was read, and since it was saved.
 // They are known by markers, so they move with their lines and all views of a text have them.
 #include "editing/ZNCoreEditorControlEx.h"

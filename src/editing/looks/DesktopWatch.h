@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // DesktopWatch: hears that the desktop has changed its colours. It goes with the window.
 #pragma once
 

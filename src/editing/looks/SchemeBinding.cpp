@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // CZNCoreEditorControlEx: the colours of a scheme, over those of the language's settings.
 #include "editing/ZNCoreEditorControlEx.h"
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // CZNCoreEditorControlEx: bookmarks, the engine's marker 0.
 #include "editing/ZNCoreEditorControlEx.h"
 

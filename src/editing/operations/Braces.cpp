@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // CZNCoreEditorControlEx: braces and what they match.
 #include "editing/ZNCoreEditorControlEx.h"
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // CZNCoreEditorControlEx: Enter inside a comment. The characters are those of SQL and C, whatever
 // the language.
 #include "editing/ZNCoreEditorControlEx.h"

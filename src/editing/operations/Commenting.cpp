@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // CZNCoreEditorControlEx: comment markers, and putting them in.
 #include "editing/ZNCoreEditorControlEx.h"
 

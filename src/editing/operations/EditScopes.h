@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // What an editing operation sets up for its time and puts back behind itself.
 #pragma once
 

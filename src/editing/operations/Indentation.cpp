@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // CZNCoreEditorControlEx: indentation while the user types. Runs inside the engine's notification,
 // and takes braces in strings and comments for code.
 #include "editing/ZNCoreEditorControlEx.h"

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // CZNCoreEditorControlEx: sorting lines, and putting text into each of them.
 #include "editing/ZNCoreEditorControlEx.h"
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // The macro of the process, and CZNCoreEditorControlEx: playing one.
 #include "editing/operations/Macro.h"
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // The macro: messages that the engine has reported while somebody edited, to be sent again. There
 // is one for the process, recorded in any control and played in any other. GUI thread only.
 #pragma once

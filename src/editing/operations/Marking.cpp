@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // CZNCoreEditorControlEx: bookmarks on whatever a search finds.
 #include "editing/ZNCoreEditorControlEx.h"
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // CZNCoreEditorControlEx: a script on its way to its consumer.
 #include "editing/ZNCoreEditorControlEx.h"
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // The options of printing, put on an editor. The control and the view print for themselves and have
 // this in common.
 #pragma once

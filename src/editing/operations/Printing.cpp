@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // CZNCoreEditorControlEx: printing. The engine lays the pages out and draws them; here is kept
 // where each of them begins.
 #include "editing/ZNCoreEditorControlEx.h"

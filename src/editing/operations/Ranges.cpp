@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // CZNCoreEditorControlEx: what its operations share to read, replace and select a range.
 #include "editing/ZNCoreEditorControlEx.h"
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // What an editor asks of the pre-processor of scripts, which works on one editor at a time. The
 // room that has it sets it here.
 #pragma once

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // CZNCoreEditorControlEx: what can be selected by a single operation, and file names.
 #include "editing/ZNCoreEditorControlEx.h"
 

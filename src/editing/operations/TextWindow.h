@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // TextWindow: the text around a place, for a walk from unit to unit. It is read in pieces, since a
 // message for each unit would make a walk through a long line slow.
 #pragma once

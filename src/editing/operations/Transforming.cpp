@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // CZNCoreEditorControlEx: small changes of words, characters and numbers at the caret.
 #include "editing/ZNCoreEditorControlEx.h"
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // CZNCoreEditorControlEx: taking comment markers out.
 #include "editing/ZNCoreEditorControlEx.h"
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // CZNCoreEditorControlEx: white space and line ends, on command and on save.
 #include "editing/ZNCoreEditorControlEx.h"
 

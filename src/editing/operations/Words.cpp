@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // CZNCoreEditorControlEx: access to words, lines and the selection.
 #include "editing/ZNCoreEditorControlEx.h"
 #include "platform/base/Units.h"

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // Upper and lower case at the starts of words. Knows no window; works unit by unit.
 #pragma once
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // What is commented, and how: the decisions that need the text alone. Knows no window and no
 // language; markers and positions are handed in. Lengths count UTF-16 units.
 #pragma once

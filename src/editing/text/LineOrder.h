@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // The orders in which lines can be sorted. Each looks at a part of the line, from a column to
 // another: both -1 mean the whole line, a start of -1 is 0, and an end of -1 or equal to the start
 // is the line's end. Knows no window; columns count UTF-16 units.

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // Numbers in text, decimal. Knows no window and no locale.
 #pragma once
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // CSortedArrayEx: elements kept in the order of a comparison, each put in where a binary search
 // says.
 #pragma once

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // White space of one line of text: tabs against blanks, what trails. Knows no window.
 // Lengths count UTF-16 units, each of which is one column wide.
 #pragma once

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // CObject: the root of the classes that can be identified at run time, and never copied.
 #pragma once
 

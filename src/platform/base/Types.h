@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // The plain types of the framework layer: message parameters, handles, rectangles.
 // No Qt header is needed to name them.
 #pragma once

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // QString as the UTF-16 units that the editor's operations take.
 #pragma once
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // The exchange of single values between a dialog's controls and its members.
 #include "platform/dialogs/Dialog.h"
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // CDialog: a window of controls, modal or modeless; a QDialog with a layout stands behind it.
 // Every control has a number, by which the dialog's code, a host's and a test find it.
 #pragma once

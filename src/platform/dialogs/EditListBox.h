@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // CZNBaseEditListBox: a list whose items are added, written, moved and removed in place; a
 // QListWidget with buttons beside it.
 #pragma once

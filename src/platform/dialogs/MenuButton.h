@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // CMenuButton: a button that opens a menu and tells what was chosen; a QPushButton.
 #pragma once
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // CMyComboBox: an edit with the list of what was used before; an editable QComboBox.
 #pragma once
 

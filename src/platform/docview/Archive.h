@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // CArchive: the way of a document's contents to or from its file, for Serialize.
 #pragma once
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // What a document template hands to the windows that it makes.
 #pragma once
 

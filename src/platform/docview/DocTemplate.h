@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // CDocTemplate: what kind of document, frame and view belong together. No Qt class stands behind
 // it.
 #pragma once

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // CDocument: identity, views and life. Its files stand in DocumentFiles.
 #include "platform/docview/Document.h"
 

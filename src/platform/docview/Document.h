@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // CDocument: what a host opens, changes and saves, shown by any number of views. No Qt class
 // stands behind it.
 #pragma once

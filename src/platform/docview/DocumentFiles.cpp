@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // CDocument: its file, opened, saved and reported on.
 #include "platform/docview/Document.h"
 

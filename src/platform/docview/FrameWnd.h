@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // CFrameWnd: the window around views. A plain QWidget stands behind it, or the QMainWindow that it
 // is attached to.
 #pragma once

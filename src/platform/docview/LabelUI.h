@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // LabelUI: a CCmdUI over a QLabel, so that the panes of a status bar follow the update handlers.
 #pragma once
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 #include "platform/docview/SelfOwnedWnd.h"
 
 #include "platform/windows/Disposal.h"

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // CSelfOwnedWnd: an object that belongs to nobody and goes with its window, as views and frames do.
 #pragma once
 

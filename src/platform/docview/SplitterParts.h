@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // What a CSplitterWnd is put together from: splitters whose bars it draws, and the boxes that new
 // bars are drawn out of.
 #pragma once

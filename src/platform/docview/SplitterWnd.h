@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // CSplitterWnd: panes of views in rows and columns. A QSplitter for the rows stands behind it, with
 // one for the columns in each row.
 #pragma once

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // CView: a window that shows a document. A plain QWidget stands behind it.
 #pragma once
 

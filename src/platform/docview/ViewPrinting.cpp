@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // CView: the way of a document to paper, from the command to the last page.
 #include "platform/docview/View.h"
 

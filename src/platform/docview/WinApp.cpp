@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 #include "platform/docview/WinApp.h"
 
 #include "platform/docview/CommandIds.h"

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // CWinApp: the application's end of the framework. QApplication stands beside it and runs the loop.
 #pragma once
 

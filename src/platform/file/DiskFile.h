@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // Whole files in one go, as the settings files are read and written.
 #pragma once
 

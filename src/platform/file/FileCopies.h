@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // What of a file has to come along when another takes its place, and how one is written over when
 // none can. File descriptors stay the caller's; false leaves the reason in errno.
 #pragma once

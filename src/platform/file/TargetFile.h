@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // TargetFile: the file that a save writes, in place or beside its target.
 #pragma once
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // CPrintDialog: asks for a printer and what of a document to print on it. QPrintDialog stands
 // behind it, through the print service.
 #pragma once

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // CPrintInfo: what a document and the framework tell each other while it is printed.
 #pragma once
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // PrintJob: one document on its way to a printer or into a PDF. QPrinter stands behind it, and
 // QPdfWriter where it goes into a file.
 #pragma once

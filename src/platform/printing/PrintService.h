@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // What printing asks of its surroundings: a printer, a place to show its pages, and whether to go
 // on. A host replaces it, and a test answers.
 #pragma once

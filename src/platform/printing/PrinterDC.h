@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // CPrinterDC: the device context of a print job.
 #pragma once
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // The host's options, asked for by number. The default keeps them in a file of the user's; a host
 // that has options of its own derives from it and sets that.
 #pragma once

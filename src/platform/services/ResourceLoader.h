@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // Texts of the user interface by number. The default reads a table; a host may bring its own.
 #pragma once
 

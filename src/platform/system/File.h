@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // CFile: a file by its wide path, and what the system knows about one. The system's own calls
 // stand behind it, since share modes and attributes are no matter of QFile.
 #pragma once

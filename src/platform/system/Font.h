@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // Fonts as the framework describes them, and the resolution that their heights are measured at.
 #pragma once
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // The application profile: texts by section and entry that outlive the process. By default a file
 // of the user's for the application, written whole. Sections and entries may hold any character
 // and differ by case; two applications that write at the same time lose nothing of each other's.

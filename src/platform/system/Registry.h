@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // The registry of the user's settings: values of three kinds by key and name. A key is a path of
 // names with '\' between them, below the place where every product keeps its own; the first two
 // are company and product. By default each product has a file of the user's.

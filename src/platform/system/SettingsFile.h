@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // What profile and registry share: texts by key in a file of the user's, one line for each, in
 // sections. The form is that of QSettings, which reads such files and has written those that are
 // there; it takes a file that it cannot read for an empty one and forgets an error of its last

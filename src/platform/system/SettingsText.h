@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // The text of a settings file: sections in brackets, "name=value" below them. Lines that nobody
 // asks about stay as they are. Knows no file.
 #pragma once

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // The desktop's way to open things: files by their program, mails by the mail program.
 #pragma once
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // The folders that an application has for each user, and temporary files in them. The places come
 // from one service, by default the desktop's base directories.
 // Knows Qt Core alone. Folders are given without a separator at their end.

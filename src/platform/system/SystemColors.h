@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // The colours of the desktop, by the framework's numbers.
 #pragma once
 

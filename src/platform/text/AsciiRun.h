@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // Sixteen characters at a time: runs of ASCII, units without surrogates, and text below U+0800,
 // whose accents come at no foreseeable place, so that it is converted without a branch. Nearly all
 // script text is one of these, so these loops decide how fast a file loads and saves; everything

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // The code pages other than UTF-8, by number, and what one of them maps.
 // ICU knows the mappings. It is asked once for each page that is used; the tables made then answer
 // every conversion, so that text never goes through a converter call by call.

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 #include "platform/text/StringUtils.h"
 
 #include "platform/text/CodePage.h"

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // StringUtils: whole texts between the system's code page and UTF-16.
 #pragma once
 

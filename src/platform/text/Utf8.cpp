@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 #include "platform/text/Utf8.h"
 
 #include "platform/text/AsciiRun.h"

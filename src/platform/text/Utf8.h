@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // UTF-8 and UTF-16, both ways, without tables and without ICU.
 // Counts of bytes on the one side, of UTF-16 units on the other. Ill-formed UTF-8 becomes U+FFFD,
 // one for each maximal part of a character; a lone surrogate becomes the bytes EF BF BD.

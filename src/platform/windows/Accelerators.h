@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // Key tables: keys that become commands before a window sees them.
 #pragma once
 

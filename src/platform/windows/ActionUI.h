@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // ActionUI: a CCmdUI over a QAction, so that menus and toolbars follow the update handlers.
 #pragma once
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // CCmdTarget: an object that answers commands by number. CCmdUI: what stands for a command on the
 // screen, a menu item for one, while it is brought up to date.
 #pragma once

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // What passes between a dialog's controls and its values.
 #pragma once
 

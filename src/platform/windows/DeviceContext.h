@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // CDC: what is drawn on. A QPainter stands behind it and stays whose it was.
 #pragma once
 

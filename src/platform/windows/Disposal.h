@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // The end of objects and windows that may be given up while their own code is running: closed in
 // one of their notifications, or while a question of theirs stands. They are kept until no call of
 // the framework is in progress and the outermost event loop has control.

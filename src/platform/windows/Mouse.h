@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // The mouse as it is at this moment. QGuiApplication stands behind it.
 #pragma once
 

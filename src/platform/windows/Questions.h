@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // Messages and questions to the user. All of them go through one service, which a host replaces to
 // show boxes of its own, and a test to answer.
 #pragma once

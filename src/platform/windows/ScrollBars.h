@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // The scroll bars of windows by record, as the framework has them. A QScrollBar stands behind each.
 #pragma once
 

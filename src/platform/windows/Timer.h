@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // Timers of a window, by number. A QTimer that belongs to the window's widget stands behind each.
 #pragma once
 

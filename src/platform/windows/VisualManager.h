@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // CBCGPVisualManager: how the parts of windows look that the framework draws itself. By default as
 // the palette of the window; a host that has a look of its own derives from it and sets that.
 #pragma once

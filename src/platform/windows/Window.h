@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // Windows by handle: classes by name, creation, the synchronous send.
 // Behind a handle stands a QWidget; behind a class, a function that makes one.
 // All of it belongs to the GUI thread.

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // Turns what Qt tells a widget into the framework's messages: keys on their way, the focus lost.
 #pragma once
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // CWnd: an object for a window. It exists with or without one; a QWidget stands behind the handle.
 #pragma once
 

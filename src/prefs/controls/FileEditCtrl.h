@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // CFileEditCtrl: an edit for paths with a button that browses for one; CFECFileDialog, what the
 // button opens for files. Behind them stand a QLineEdit and the service that browses.
 #pragma once

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // The directive language of scripts, a line at a time: "#include" with a file's name, "#define"
 // with a variable and its value. The words come from the table of texts, so a translation may
 // change them. Knows text alone. A blank is what QChar calls a space.

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // Lists of folders as data sources and options hold them, and the files that a name may mean.
 #pragma once
 

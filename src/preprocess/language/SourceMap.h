@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // Where the lines of an expanded script came from. Lines count from 0. The script itself is the
 // file without a path.
 #pragma once

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // Which styles of a lexer are those of comments and of strings. Numbers of the engine.
 #pragma once
 

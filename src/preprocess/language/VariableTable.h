@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // The variables of one run: names, with their ampersands, and values. A lookup enters what it asks
 // for with an empty value, and nothing that is entered is ever replaced; a name that was used
 // before its definition can therefore not be defined any more. Names differ by case.

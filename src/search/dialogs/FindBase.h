@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // CFindBase: what the dialogs Find and Find & Replace have in common. They work on one editor at a
 // time, and know no document.
 #pragma once

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // The numbers of the controls in the dialogs for finding, and what these dialogs share.
 #pragma once
 

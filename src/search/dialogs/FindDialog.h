@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // CFindDialog and CFindReplace: the modeless dialogs "Find" and "Find & Replace", at most one of
 // each in the process.
 #pragma once

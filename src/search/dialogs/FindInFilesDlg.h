@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // CFindInFilesDlg: the modal dialog "Find In Files". It gathers what to search for and where: the
 // options go to the manager, the folders are its own. The search is the caller's.
 #pragma once

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // The menus beside the boxes for a search text and its replacement, and the way of an item's text
 // into the box.
 #pragma once

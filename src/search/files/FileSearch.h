@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // CFileSearch: a search through files, without a window, on threads of its own. It finds in a file
 // what the find manager finds in an editor that has opened it with care.
 #pragma once

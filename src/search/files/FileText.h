@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // FileText: a file as UTF-8, piece after piece, with the encoding that an editor would detect.
 #pragma once
 

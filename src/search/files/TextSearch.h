@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // TextSearch: the matches in a text that comes piece after piece. Keeps one piece and what it needs
 // of the one before; knows no file. Positions count bytes of UTF-8 inside, UTF-16 units outside.
 #pragma once

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // A separator line: what may stand beside the word, and where the batch behind it starts.
 #include "engine/analysis/BatchSeparator.h"
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // Lines that a script's client program reads itself, by tables that were written from the programs'
 // manuals, and what they set: terminators, catalogs.
 #include "tests/engine/analysis/ScriptUnderTest.h"

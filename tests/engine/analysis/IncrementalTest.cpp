@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // What is kept through edits is what a fresh look at the text gives.
 #include "tests/engine/analysis/ScriptUnderTest.h"
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // What the sample scripts are divided into, line by line, beside what it should be.
 #include "tests/SourceTree.h"
 #include "tests/engine/analysis/ScriptUnderTest.h"

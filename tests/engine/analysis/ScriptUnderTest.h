@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // A script that is edited and asked about, with its text in two runs as the engine has it.
 #pragma once
 

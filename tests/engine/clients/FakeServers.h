@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // Servers of a test's own, that a database's client program takes for real: they answer every
 // statement with success and note its text.
 #pragma once

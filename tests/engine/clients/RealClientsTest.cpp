@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // Random scripts, divided here and by the client programs themselves.
 #include "tests/engine/analysis/ScriptUnderTest.h"
 #include "tests/engine/clients/FakeServers.h"

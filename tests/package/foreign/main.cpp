@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // Embeds the editor both ways, as a widget and as document and view, and tells what came of it.
 #include "docview/ZNCoreEditorDoc.h"
 #include "docview/ZNCoreEditorView.h"

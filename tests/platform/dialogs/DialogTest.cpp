@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // Dialogs: numbered controls, values in and out, and how they end.
 #include "platform/dialogs/Dialog.h"
 #include "platform/dialogs/EditListBox.h"

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // A small application: documents that hold bytes, views that write down what they hear, and a user
 // who answers as told.
 #pragma once

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // What a document promises about its file, its views and its title.
 #include "DocViewFixture.h"
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // Nobody is left with a pointer to what is gone: views, frames and documents may be closed at any
 // moment, by anybody.
 #include "DocViewFixture.h"

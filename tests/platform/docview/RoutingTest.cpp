@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // Which way a command goes, and what menus show of it.
 #include "DocViewFixture.h"
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // Whole files on the disk: after a failure the old bytes stand there, with nothing beside them.
 #include "platform/file/DiskFile.h"
 #include "tests/platform/file/FullDisk.h"

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // For its lifetime no file can grow beyond a number of bytes, as on a disk that is full.
 #pragma once
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // For its lifetime the thread has to keep to the permissions of files, even if it is root's.
 #pragma once
 

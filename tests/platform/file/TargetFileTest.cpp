@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // Writing in place and beside: what stands on the disk after every failure.
 #include "platform/file/TargetFile.h"
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // A printer without paper: it answers as a test tells it and writes down what it was asked.
 #pragma once
 

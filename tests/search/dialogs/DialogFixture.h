@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // The dialogs for finding over a real editor, with a user who closes each message.
 #pragma once
 

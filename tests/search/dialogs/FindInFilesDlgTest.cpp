@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // The dialog that gathers a search over files.
 #include "tests/search/dialogs/DialogFixture.h"
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // A search through files, and what it makes of odd ones.
 #include "search/files/FileSearch.h"
 #include "tests/search/FindFixture.h"
