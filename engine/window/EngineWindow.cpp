@@ -400,8 +400,18 @@ bool EngineWindow::IsTurnTaken(const QWheelEvent& event, int step)
                        PointParam({at.x(), at.y()})) != 0;
 }
 
+// A deletion of the lines above hidden ones leaves a hidden line in front, which the stock engine
+// takes for a shown one and stops at.
+void EngineWindow::ShowFirstLine()
+{
+    const Raw& raw = m_engine.raw;
+    if (raw.Send(Sci::SCI_GETALLLINESVISIBLE) == 0 && raw.Send(Sci::SCI_GETLINEVISIBLE, 0) == 0)
+        raw.Send(Sci::SCI_SHOWLINES);
+}
+
 void EngineWindow::paintEvent(QPaintEvent* event)
 {
+    ShowFirstLine();
     m_engine.longLines.Prepare();
     QsciScintillaBase::paintEvent(event);
     if (m_engine.looks.IsOn()) {

@@ -50,6 +50,7 @@ private Q_SLOTS:
                     int foldNow, int foldPrev, int token, int annotationLinesAdded);
 
 private:
+    void ShowFirstLine();
     void EndComposition();
     void TypeText(const QString& text);
     bool TypeInLongLine(const QKeyEvent& event);

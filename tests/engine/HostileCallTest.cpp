@@ -35,6 +35,16 @@ TEST(HostileCalls, ANegativeLineIsNotSoughtAmongHiddenOnes)
     EXPECT_EQ(engine.Send(msg::GetLineVisible, 3), 1);
 }
 
+TEST(HostileCalls, HiddenLinesThatComeToTheFrontArePaintedAndBegin)
+{
+    EngineUnderTest engine;
+    FoldThreeLines(engine);
+    engine.Erase(0, 2);
+    engine.Window()->grab();
+    EXPECT_EQ(engine.Send(msg::GetLineVisible, 0), 1);
+    EXPECT_EQ(engine.Send(msg::GetLineVisible, 1), 0);
+}
+
 TEST(HostileCalls, ARangeThatRunsBackwardsIsNotColoured)
 {
     EngineUnderTest engine;
