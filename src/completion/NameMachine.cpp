@@ -1,0 +1,743 @@
+#include "completion/NameMachine.h"
+
+#include <algorithm>
+
+namespace completion {
+namespace {
+
+using engine::analysis::Routine;
+using engine::analysis::TextSpans;
+using engine::analysis::Token;
+using engine::analysis::TokenKind;
+using W = NameWord;
+
+constexpr std::uint8_t kDeepest = 63;
+constexpr std::uint8_t kPatience = 12;
+constexpr long kNear = 64;
+
+bool IsOneOf(NameWord word, std::initializer_list<NameWord> words)
+{
+    return std::find(words.begin(), words.end(), word) != words.end();
+}
+
+struct Created
+{
+    NameWord word;
+    NameKind kind;
+};
+constexpr Created kCreated[] = {
+    {W::Table, NameKind::Table},         {W::View, NameKind::View},
+    {W::Procedure, NameKind::Procedure}, {W::Proc, NameKind::Procedure},
+    {W::Function, NameKind::Function},   {W::Trigger, NameKind::Trigger},
+    {W::Index, NameKind::Index},         {W::Type, NameKind::Type},
+    {W::Sequence, NameKind::Sequence},   {W::Package, NameKind::Package},
+    {W::Schema, NameKind::Schema},
+};
+
+const Created* FindCreated(NameWord word)
+{
+    const auto* row = std::find_if(std::begin(kCreated), std::end(kCreated),
+                                   [word](const Created& each) { return each.word == word; });
+    return row != std::end(kCreated) ? row : nullptr;
+}
+
+// Words of the list that dialects also take for names.
+bool MayBeName(NameWord word)
+{
+    return IsOneOf(word, {W::Other,  W::Type,      W::Package, W::Sequence,     W::Schema,
+                          W::Body,   W::Key,       W::Block,   W::Option,       W::Only,
+                          W::Offset, W::Output,    W::Start,   W::Undo,         W::Window,
+                          W::Ignore, W::Immediate, W::Returns, W::Materialized, W::Concurrently});
+}
+
+bool IsRoutineKind(NameKind kind)
+{
+    return kind == NameKind::Procedure || kind == NameKind::Function;
+}
+
+} // namespace
+
+long DollarTag(const TextSpans& text, const Token& token)
+{
+    if (token.kind != TokenKind::String || text.At(token.start) != '$' || token.resumed)
+        return 0;
+    for (long at = token.start + 1; at < token.end; ++at) {
+        if (text.At(at) == '$')
+            return at + 1 - token.start;
+    }
+    return 0;
+}
+
+std::string PlainName(const TextSpans& text, long start, long end)
+{
+    std::string name = text.Copy(start, end);
+    const char first = name.empty() ? '\0' : name.front();
+    if (first != '"' && first != '[' && first != '`')
+        return name;
+    const char last = first == '[' ? ']' : first;
+    name.erase(0, 1);
+    if (!name.empty() && name.back() == last)
+        name.pop_back();
+    for (std::size_t at = name.find(last); at != std::string::npos; at = name.find(last, at + 1)) {
+        if (at + 1 < name.size() && name[at + 1] == last)
+            name.erase(at + 1, 1);
+    }
+    return name;
+}
+
+void NameMachine::Take(const TextSpans& text, const Token& token, std::vector<NameEvent>& events)
+{
+    m_text = &text;
+    m_events = &events;
+    m_beganPart = false;
+    switch (token.kind) {
+    case TokenKind::Blank:
+    case TokenKind::LineEnd:
+    case TokenKind::LineComment:
+    case TokenKind::BlockComment:
+    case TokenKind::CodeComment:
+    case TokenKind::End:
+        return;
+    case TokenKind::Terminator:
+    case TokenKind::Command:
+        EndStatement();
+        return;
+    case TokenKind::Word: {
+        if (token.resumed || token.cut) {
+            m_state.previous = W::Other;
+            return;
+        }
+        const std::string_view run = text.RunAt(token.start);
+        const auto length = static_cast<std::size_t>(token.Length());
+        TakeWord(token, run.size() >= length ? NameWordOf(run.substr(0, length))
+                                             : NameWordOf(text.Copy(token.start, token.end)));
+        return;
+    }
+    case TokenKind::QuotedName:
+        if (!token.resumed && !token.cut)
+            TakeName(token);
+        m_state.previous = W::Other;
+        return;
+    case TokenKind::Variable:
+        TakeVariable(token);
+        m_state.previous = W::Other;
+        return;
+    case TokenKind::Operator:
+        if (token.Length() == 1) {
+            TakeOperator(static_cast<char>(text.At(token.start)));
+            return;
+        }
+        [[fallthrough]];
+    default:
+        if (DollarTag(text, token) != 0 || m_state.step == Step::AfterTable)
+            m_state.step = Step::Code;
+        m_state.previous = DollarTag(text, token) != 0 ? W::Begins : W::Other;
+        return;
+    }
+}
+
+void NameMachine::TakeWord(const Token& token, NameWord word)
+{
+    // What stands behind a point is a name, whatever it says.
+    const bool isPart = token.start > 0 && m_text->At(token.start - 1) == '.';
+    if (isPart)
+        word = W::Other;
+    m_atStart = false;
+    if (!ReadStep(token, word))
+        ReadClause(token, word);
+    m_state.previous =
+        m_atStart || IsOneOf(word, {W::Begin, W::Else, W::Loop, W::Do}) ? W::Begins : word;
+}
+
+void NameMachine::TakeName(const Token& token)
+{
+    ReadStep(token, W::Other);
+}
+
+// True if the step has taken the word; else it is to be read as any other.
+bool NameMachine::ReadStep(const Token& token, NameWord word)
+{
+    State& s = m_state;
+    const bool isLast = s.step == Step::Code || NextByte(token.end) != '.';
+    switch (s.step) {
+    case Step::Code:
+        return false;
+    case Step::AfterCreate:
+        ReadCreated(word);
+        return true;
+    case Step::ObjectName:
+        if (IsOneOf(word, {W::If, W::Not, W::Exists, W::Body, W::Concurrently, W::Only}))
+            return true;
+        if (!MayBeName(word)) {
+            s.step = Step::Code;
+            return false;
+        }
+        if (isLast) {
+            Emit(s.object, token);
+            s.listDone = false;
+            s.step = s.object == NameKind::Table || s.object == NameKind::View ||
+                             IsRoutineKind(s.object) || s.object == NameKind::Package ||
+                             s.object == NameKind::Cursor || s.object == NameKind::Type
+                         ? Step::Header
+                         : Step::Code;
+        }
+        return true;
+    case Step::Header:
+        if (word == W::As || word == W::Is) {
+            EnterBody();
+            return true;
+        }
+        if (IsOneOf(word, {W::Select, W::Insert, W::Delete, W::Begin, W::Declare, W::With}) &&
+            !(word == W::With && IsRoutineKind(s.object))) {
+            s.step = Step::Code;
+            s.previous = W::Begins;
+            return false;
+        }
+        return true;
+    case Step::Items:
+        if (s.itemBegins && s.depth == s.listDepth)
+            ReadItem(token, word);
+        return true;
+    case Step::BareParameters:
+        if (word == W::As || word == W::Begin)
+            EnterBody();
+        return true;
+    case Step::TableName:
+        if (IsOneOf(word, {W::Into, W::Only, W::Lateral, W::Table, W::Ignore, W::Top, W::Or,
+                           W::Replace, W::If, W::Exists, W::From}))
+            return true;
+        if (!MayBeName(word)) {
+            s.step = Step::Code;
+            return false;
+        }
+        if (!isLast)
+            return true;
+        if (NextByte(token.end) == '(') {
+            if (s.verb != W::Insert)
+                return true; // what a function gives, and its parenthesis comes
+            Emit(NameKind::InsertUse, token);
+            s.step = Step::AfterInsert;
+            return true;
+        }
+        Emit(NameKind::TableUse, token);
+        s.isDerived = false;
+        s.step = Step::AfterTable;
+        return true;
+    case Step::AfterTable:
+        if (word == W::As) {
+            s.step = Step::AfterAs;
+            return true;
+        }
+        s.step = Step::Code;
+        if (!MayBeName(word))
+            return false;
+        Emit(s.isDerived ? NameKind::DerivedAlias : NameKind::Alias, token);
+        return true;
+    case Step::AfterAs:
+        s.step = Step::Code;
+        if (!MayBeName(word))
+            return false;
+        Emit(s.isDerived ? NameKind::DerivedAlias : NameKind::Alias, token);
+        return true;
+    case Step::CteName:
+        if (word == W::Recursive)
+            return true;
+        s.step = Step::Code;
+        if (!MayBeName(word))
+            return false;
+        Emit(NameKind::Cte, token);
+        s.step = Step::AfterCte;
+        s.listDone = false;
+        return true;
+    case Step::AfterCte:
+        s.step = word == W::As ? Step::AfterCteAs : Step::Code;
+        return word == W::As;
+    case Step::AfterCteAs:
+        if (IsOneOf(word, {W::Not, W::Materialized}))
+            return true;
+        s.step = Step::Code;
+        return false;
+    case Step::Declare:
+        s.step = Step::Code;
+        if (!MayBeName(word))
+            return false;
+        Emit(NameKind::Variable, token);
+        s.step = Step::AfterDeclared;
+        return true;
+    case Step::AfterDeclared:
+        if (word == W::Table) {
+            s.step = Step::Header;
+            s.object = NameKind::Table;
+            s.listDone = false;
+            return true;
+        }
+        if (!IsHead(word))
+            return true;
+        s.step = Step::Code;
+        return false;
+    case Step::CallName:
+        if (IsOneOf(word, {W::Procedure, W::Function, W::If, W::Exists}))
+            return true;
+        s.step = Step::Code;
+        if (!MayBeName(word) || IsOneOf(word, {W::Immediate, W::Block}))
+            return false;
+        if (isLast)
+            Emit(NameKind::RoutineUse, token);
+        else
+            s.step = Step::CallName;
+        return true;
+    case Step::AddColumn:
+        if (IsOneOf(word, {W::Column, W::If, W::Not, W::Exists}))
+            return true;
+        s.step = Step::Code;
+        if (!MayBeName(word))
+            return false;
+        Emit(NameKind::Column, token);
+        return true;
+    case Step::AfterInsert:
+        s.step = Step::Code;
+        return false;
+    }
+    return false;
+}
+
+void NameMachine::ReadCreated(NameWord word)
+{
+    State& s = m_state;
+    if (const Created* row = FindCreated(word)) {
+        s.object = row->kind;
+        s.step = Step::ObjectName;
+        // ALTER of these gives nothing anew.
+        if (s.verb == W::Alter && row->kind == NameKind::Table)
+            s.step = Step::TableName;
+        return;
+    }
+    if (s.patience-- == 0 || word == W::Select)
+        s.step = Step::Code;
+}
+
+void NameMachine::ReadItem(const Token& token, NameWord word)
+{
+    State& s = m_state;
+    if (IsRoutineKind(s.object)) {
+        if (IsOneOf(word, {W::In, W::Out, W::Inout, W::Variadic}))
+            return;
+        const char next = NextByte(token.end);
+        s.itemBegins = false;
+        if (MayBeName(word) && next != ',' && next != ')' && next != '(')
+            Emit(NameKind::Parameter, token);
+        return;
+    }
+    s.itemBegins = false;
+    const bool isQuoted = m_text->At(token.start) == '"' || m_text->At(token.start) == '[' ||
+                          m_text->At(token.start) == '`';
+    if (isQuoted || (word != W::Key && MayBeName(word)) ||
+        (word == W::Key && NextByte(token.end) != '('))
+        Emit(NameKind::Column, token);
+}
+
+// What follows is code, and in some dialects declarations first.
+void NameMachine::EnterBody()
+{
+    State& s = m_state;
+    const bool isRoutine = IsRoutineKind(s.object) || s.object == NameKind::Package;
+    s.step = Step::Code;
+    m_atStart = true;
+    s.declares = isRoutine && (m_dialect->routine == Routine::Declarations ||
+                               m_dialect->routine == Routine::Mixed);
+    s.verb = W::Other;
+}
+
+bool NameMachine::IsHead(NameWord word) const
+{
+    const State& s = m_state;
+    if (s.depth > 0 || IsOneOf(s.verb, {W::Grant, W::Revoke, W::Deny}))
+        return false;
+    switch (word) {
+    case W::Insert:
+    case W::Update:
+    case W::Delete:
+        return !IsOneOf(s.previous,
+                        {W::On, W::For, W::After, W::Before, W::Of, W::Or, W::Comma, W::Into}) &&
+               !(s.previous == W::Then && s.verb == W::Merge) &&
+               !(s.previous == W::Begins && s.verb == W::Merge);
+    case W::Execute:
+        return s.previous != W::With && s.previous != W::On;
+    case W::Exec:
+    case W::Call:
+    case W::Select:
+    case W::Merge:
+    case W::Declare:
+    case W::Fetch:
+    case W::Drop:
+    case W::Truncate:
+    case W::Print:
+    case W::Return:
+    case W::Use:
+    case W::While:
+    case W::Begin:
+    case W::Grant:
+    case W::Revoke:
+    case W::Deny:
+    case W::Create:
+    case W::Alter:
+    case W::Lock:
+        return true;
+    case W::With:
+        return IsOneOf(s.previous, {W::Begins, W::As, W::Open});
+    case W::Replace:
+        return s.previous == W::Begins;
+    default:
+        return false;
+    }
+}
+
+// A statement, or a query beside another one.
+void NameMachine::Begin(NameWord word)
+{
+    State& s = m_state;
+    m_beganPart = true;
+    if (!IsOneOf(word, {W::Select, W::With, W::Begin}))
+        s.verb = word == W::Replace ? W::Insert : word;
+    else if (word == W::Begin || s.verb == W::Fetch)
+        s.verb = W::Other;
+    Set(s.froms, false);
+}
+
+// PL/SQL and its kin: what stands first in a statement is declared by it.
+bool NameMachine::ReadDeclaration(const Token& token, NameWord word)
+{
+    State& s = m_state;
+    if (!s.declares || s.previous != W::Begins || s.depth > 0)
+        return false;
+    if (word == W::Begin || word == W::End) {
+        s.declares = false;
+        return false;
+    }
+    if (IsOneOf(word, {W::Procedure, W::Function, W::Type, W::Cursor})) {
+        s.object = word == W::Procedure  ? NameKind::Procedure
+                   : word == W::Function ? NameKind::Function
+                   : word == W::Type     ? NameKind::Type
+                                         : NameKind::Cursor;
+        s.step = Step::ObjectName;
+        return true;
+    }
+    const char next = NextByte(token.end);
+    if (word == W::Other && next != '(' && next != '.' && next != ':' && next != ';' && next != ')')
+        Emit(NameKind::Variable, token);
+    return word == W::Other || word == W::Pragma;
+}
+
+void NameMachine::ReadClause(const Token& token, NameWord word)
+{
+    State& s = m_state;
+    if (word == W::Other) {
+        s.afterCte = false;
+        ReadDeclaration(token, word);
+        return;
+    }
+    if (ReadDeclaration(token, word))
+        return;
+    s.afterCte = false;
+    if (IsHead(word))
+        Begin(word);
+    const bool isQuery = s.depth == 0 || Has(s.selects);
+    switch (word) {
+    case W::Create:
+    case W::Alter:
+        if (!m_beganPart)
+            return;
+        s.step = Step::AfterCreate;
+        s.patience = kPatience;
+        return;
+    case W::Select:
+        Set(s.selects, true);
+        Set(s.froms, false);
+        return;
+    case W::From:
+        if (s.previous == W::Distinct || s.verb == W::Fetch || !isQuery ||
+            IsOneOf(s.verb, {W::Grant, W::Revoke, W::Deny}))
+            return;
+        s.step = Step::TableName;
+        Set(s.froms, true);
+        return;
+    case W::Join:
+    case W::Apply:
+    case W::StraightJoin:
+        s.step = Step::TableName;
+        Set(s.froms, true);
+        return;
+    case W::Using:
+        if (s.verb == W::Merge && s.depth == 0)
+            s.step = Step::TableName;
+        return;
+    case W::Insert:
+    case W::Update:
+    case W::Merge:
+    case W::Replace:
+        if (m_beganPart && NextByte(token.end) != '(')
+            s.step = Step::TableName;
+        return;
+    case W::Into:
+        if (m_dialect->brackets && Has(s.selects))
+            s.step = Step::TableName;
+        return;
+    case W::Table:
+        if (IsOneOf(s.verb, {W::Truncate, W::Drop, W::Lock}))
+            s.step = Step::TableName;
+        return;
+    case W::Truncate:
+        if (m_beganPart && NextByte(token.end) != '(')
+            s.step = Step::TableName;
+        return;
+    case W::View:
+        if (s.verb == W::Drop)
+            s.step = Step::TableName;
+        return;
+    case W::References:
+        s.step = Step::TableName;
+        return;
+    case W::Procedure:
+    case W::Proc:
+    case W::Function:
+        if (s.verb == W::Drop)
+            s.step = Step::CallName;
+        return;
+    case W::Exec:
+    case W::Execute:
+    case W::Call:
+        if (m_beganPart)
+            s.step = Step::CallName;
+        return;
+    case W::Declare: {
+        const bool marksVariables = NextByte(token.end) == '@';
+        if (marksVariables || (m_dialect->routine == Routine::Block && !m_dialect->dollarStrings) ||
+            m_dialect->routine == Routine::Batch) {
+            s.step = Step::Declare;
+        } else {
+            s.declares = true;
+            m_atStart = true;
+        }
+        return;
+    }
+    case W::With:
+        if (m_beganPart || (s.depth > 0 && s.previous == W::Open))
+            s.step = Step::CteName;
+        return;
+    case W::Add:
+        if (s.verb == W::Alter)
+            s.step = Step::AddColumn;
+        return;
+    case W::Go:
+        if (m_dialect->separator == "GO")
+            EndStatement();
+        return;
+    case W::Where:
+    case W::Group:
+    case W::Order:
+    case W::Having:
+    case W::On:
+    case W::Set:
+    case W::Union:
+    case W::Except:
+    case W::Intersect:
+    case W::Minus:
+    case W::Values:
+    case W::Limit:
+    case W::Window:
+    case W::Connect:
+    case W::Start:
+        Set(s.froms, false);
+        return;
+    default:
+        return;
+    }
+}
+
+void NameMachine::TakeVariable(const Token& token)
+{
+    State& s = m_state;
+    switch (s.step) {
+    case Step::Declare:
+        Emit(NameKind::Variable, token);
+        s.step = Step::AfterDeclared;
+        return;
+    case Step::Header:
+        if (!IsRoutineKind(s.object) || s.listDone)
+            return;
+        Emit(NameKind::Parameter, token);
+        s.step = Step::BareParameters;
+        s.listDepth = s.depth;
+        s.itemBegins = false;
+        return;
+    case Step::BareParameters:
+    case Step::Items:
+        if (s.itemBegins && s.depth == s.listDepth)
+            Emit(NameKind::Parameter, token);
+        s.itemBegins = false;
+        return;
+    case Step::TableName:
+        Emit(NameKind::TableUse, token);
+        s.isDerived = false;
+        s.step = Step::AfterTable;
+        return;
+    case Step::AfterTable:
+    case Step::AfterAs:
+        s.step = Step::Code;
+        return;
+    default:
+        return;
+    }
+}
+
+void NameMachine::TakeOperator(char byte)
+{
+    State& s = m_state;
+    switch (byte) {
+    case '(':
+        OpenParenthesis();
+        s.previous = W::Open;
+        return;
+    case ')':
+        CloseParenthesis();
+        s.previous = W::Other;
+        return;
+    case ',':
+        TakeComma();
+        s.previous = W::Comma;
+        return;
+    case '.':
+        return;
+    default:
+        if (s.step == Step::AfterTable || s.step == Step::AfterAs || s.step == Step::TableName)
+            s.step = Step::Code;
+        s.previous = W::Other;
+        return;
+    }
+}
+
+void NameMachine::OpenParenthesis()
+{
+    State& s = m_state;
+    const Step step = s.step;
+    s.depth = std::min<std::uint8_t>(static_cast<std::uint8_t>(s.depth + 1), kDeepest);
+    Set(s.froms, false);
+    Set(s.selects, false);
+    Set(s.derived, step == Step::TableName);
+    Set(s.ctes, step == Step::AfterCteAs);
+    switch (step) {
+    case Step::Header:
+        if (s.listDone)
+            return;
+        [[fallthrough]];
+    case Step::AfterInsert:
+    case Step::AfterCte:
+        if (step != Step::Header)
+            s.object = step == Step::AfterCte ? NameKind::Cte : NameKind::Table;
+        s.step = Step::Items;
+        s.listDepth = s.depth;
+        s.itemBegins = true;
+        return;
+    case Step::Items:
+    case Step::BareParameters:
+    case Step::AfterDeclared:
+        return;
+    default:
+        s.step = Step::Code;
+        return;
+    }
+}
+
+void NameMachine::CloseParenthesis()
+{
+    State& s = m_state;
+    const bool wasDerived = Has(s.derived);
+    const bool wasCte = Has(s.ctes);
+    const bool closesList = s.step == Step::Items && s.depth == s.listDepth;
+    if (s.depth > 0)
+        --s.depth;
+    if (closesList) {
+        s.listDone = true;
+        s.step = s.object == NameKind::Cte                               ? Step::AfterCte
+                 : IsRoutineKind(s.object) || s.object == NameKind::View ? Step::Header
+                                                                         : Step::Code;
+    } else if (wasDerived) {
+        s.isDerived = true;
+        s.step = Step::AfterTable;
+    } else if (s.step != Step::Items && s.step != Step::BareParameters &&
+               s.step != Step::AfterDeclared && s.step != Step::Header) {
+        s.step = Step::Code;
+    }
+    s.afterCte = wasCte;
+}
+
+void NameMachine::TakeComma()
+{
+    State& s = m_state;
+    if (s.afterCte) {
+        s.afterCte = false;
+        s.step = Step::CteName;
+        return;
+    }
+    switch (s.step) {
+    case Step::Items:
+    case Step::BareParameters:
+        s.itemBegins = s.itemBegins || s.depth == s.listDepth;
+        return;
+    case Step::AfterDeclared:
+        if (s.depth == 0)
+            s.step = Step::Declare;
+        return;
+    case Step::Code:
+    case Step::AfterTable:
+    case Step::AfterAs:
+        s.step = Has(s.froms) ? Step::TableName : Step::Code;
+        return;
+    default:
+        return;
+    }
+}
+
+void NameMachine::EndStatement()
+{
+    const bool declares = m_state.declares;
+    m_state = {};
+    m_state.declares = declares;
+    m_beganPart = true;
+    m_atStart = true;
+}
+
+bool NameMachine::WantsOwnName() const
+{
+    const State& s = m_state;
+    switch (s.step) {
+    case Step::ObjectName:
+    case Step::AfterAs:
+    case Step::CteName:
+    case Step::Declare:
+        return true;
+    case Step::Items:
+        return s.itemBegins && s.depth == s.listDepth;
+    case Step::Code:
+        return s.previous == W::As && Has(s.selects);
+    default:
+        return false;
+    }
+}
+
+void NameMachine::Emit(NameKind kind, const Token& token)
+{
+    m_events->push_back({kind, token.start, token.end});
+}
+
+char NameMachine::NextByte(long position) const
+{
+    for (const long stop = position + kNear; position < stop; ++position) {
+        const auto byte = m_text->At(position);
+        if (byte > ' ' || byte == 0)
+            return static_cast<char>(byte);
+    }
+    return 0;
+}
+
+} // namespace completion

@@ -1,0 +1,133 @@
+// NameMachine: the names that a script gives to things and uses, found token by token. It keeps a
+// few bytes between tokens, so that a script can be read on from any place whose state is known.
+// Positions count bytes.
+#pragma once
+
+#include "completion/NameKind.h"
+#include "completion/NameWords.h"
+#include "engine/analysis/SqlScanner.h"
+
+#include <string>
+#include <vector>
+
+namespace completion {
+
+// Where the name stands, quotes included.
+struct NameEvent
+{
+    NameKind kind = NameKind::Table;
+    long start = 0;
+    long end = 0;
+};
+
+struct NameState
+{
+    // What the next name is.
+    enum class Step : std::uint8_t
+    {
+        Code,
+        AfterCreate, // what is created comes
+        ObjectName,
+        Header,         // behind the name of what is created, before its list
+        Items,          // in the list: columns, parameters
+        BareParameters, // without parentheses
+        TableName,
+        AfterTable, // an alias may come
+        AfterAs,
+        AfterInsert, // the list of columns
+        CteName,
+        AfterCte,
+        AfterCteAs,
+        Declare,
+        AfterDeclared,
+        CallName,
+        AddColumn,
+    };
+
+    Step step = Step::Code;
+    NameKind object = NameKind::Table;
+    NameWord verb = NameWord::Other; // that the statement began with
+    NameWord previous = NameWord::Begins;
+    std::uint8_t patience = 0; // words until what is created has to be named
+    std::uint8_t depth = 0;    // of parentheses
+    std::uint8_t listDepth = 0;
+    bool itemBegins = false;
+    bool listDone = false;
+    bool isDerived = false;    // AfterTable: what stood there was no table's name
+    bool afterCte = false;     // behind the parenthesis of one, where a comma brings another
+    bool declares = false;     // statements declare variables until BEGIN
+    std::uint64_t froms = 0;   // by depth, a bit each: commas part tables
+    std::uint64_t selects = 0; // a query
+    std::uint64_t derived = 0; // the parenthesis stands for a table
+    std::uint64_t ctes = 0;    // the parenthesis is the query of a name
+
+    bool operator==(const NameState&) const = default;
+};
+
+class NameMachine
+{
+public:
+    using Token = engine::analysis::Token;
+    using TextSpans = engine::analysis::TextSpans;
+
+    using Step = NameState::Step;
+    using State = NameState;
+
+    explicit NameMachine(const engine::analysis::SqlDialect& dialect, State state = {})
+        : m_dialect(&dialect), m_state(state)
+    {}
+
+    // Takes the next token; blanks and comments may come or not. What it names goes behind
+    // `events`. A few bytes behind it are looked at too, less than the scanner's kLookAhead.
+    void Take(const TextSpans& text, const Token& token, std::vector<NameEvent>& events);
+
+    const State& Now() const { return m_state; }
+    bool BeganPart() const { return m_beganPart; } // the last token did: a statement, a query
+
+    // What a name in this place would be.
+    bool WantsTable() const { return m_state.step == Step::TableName; }
+    bool WantsRoutine() const { return m_state.step == Step::CallName; }
+    bool WantsOwnName() const; // one that nothing has yet
+
+private:
+    void TakeWord(const Token& token, NameWord word);
+    void TakeName(const Token& token);
+    void TakeVariable(const Token& token);
+    void TakeOperator(char byte);
+    void OpenParenthesis();
+    void CloseParenthesis();
+    void TakeComma();
+    void EndStatement();
+    bool ReadStep(const Token& token, NameWord word);
+    void ReadClause(const Token& token, NameWord word);
+    bool ReadDeclaration(const Token& token, NameWord word);
+    void ReadCreated(NameWord word);
+    void ReadItem(const Token& token, NameWord word);
+    void EnterBody();
+    bool IsHead(NameWord word) const;
+    void Begin(NameWord word);
+    void Emit(NameKind kind, const Token& token);
+    char NextByte(long position) const; // that is no blank, 0 if there is none near
+    bool Has(std::uint64_t bits) const { return (bits >> m_state.depth) & 1; }
+    void Set(std::uint64_t& bits, bool on) const
+    {
+        const std::uint64_t bit = std::uint64_t{1} << m_state.depth;
+        bits = on ? bits | bit : bits & ~bit;
+    }
+
+    const engine::analysis::SqlDialect* m_dialect;
+    State m_state;
+    const TextSpans* m_text = nullptr;
+    std::vector<NameEvent>* m_events = nullptr;
+    bool m_beganPart = false;
+    bool m_atStart = false; // what stands behind the word begins a statement
+};
+
+// The length of the tag that a text in dollars begins or ends with, 0 for any other token: what
+// stands between two of them is read as code.
+long DollarTag(const engine::analysis::TextSpans& text, const engine::analysis::Token& token);
+
+// The name at the place in UTF-8, its quotes taken off and doubled ones made one.
+std::string PlainName(const engine::analysis::TextSpans& text, long start, long end);
+
+} // namespace completion

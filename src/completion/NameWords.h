@@ -1,0 +1,23 @@
+// The words of NameMachine, looked up by their text.
+#pragma once
+
+#include <cstdint>
+#include <string_view>
+
+namespace completion {
+
+enum class NameWord : std::uint8_t
+{
+    Other,  // any other token
+    Begins, // nothing stands before in the statement
+    Open,   // (
+    Comma,
+#define ZN_NAME_WORD(name, text) name,
+#include "completion/NameWords.def"
+#undef ZN_NAME_WORD
+};
+
+// Letters of any case. Other for a word that is none of them.
+NameWord NameWordOf(std::string_view word);
+
+} // namespace completion

@@ -1,0 +1,90 @@
+#include "completion/ScriptNames.h"
+
+#include "completion/NameMachine.h"
+#include "completion/Utf8Text.h"
+
+namespace completion {
+namespace {
+
+using engine::analysis::SqlScanner;
+using engine::analysis::TextSpans;
+using engine::analysis::Token;
+using engine::analysis::TokenKind;
+
+QString NameAt(const TextSpans& text, const NameEvent& event)
+{
+    const std::string name = PlainName(text, event.start, event.end);
+    return QString::fromUtf8(name.data(), static_cast<qsizetype>(name.size()));
+}
+
+// What a column, a parameter or an alias belongs to: the last name of the right kind.
+class Parents
+{
+public:
+    QString Of(const ScriptName& name)
+    {
+        switch (name.kind) {
+        case NameKind::Column:
+            return m_table;
+        case NameKind::Parameter:
+            return m_routine;
+        case NameKind::Alias:
+            return m_used;
+        case NameKind::Procedure:
+        case NameKind::Function:
+            m_routine = name.name;
+            return {};
+        case NameKind::TableUse:
+        case NameKind::InsertUse:
+            m_used = name.name;
+            m_table = name.name;
+            return {};
+        case NameKind::Table:
+        case NameKind::View:
+        case NameKind::Cte:
+        case NameKind::Variable:
+        case NameKind::Type:
+            m_table = name.name;
+            return {};
+        default:
+            return {};
+        }
+    }
+
+private:
+    QString m_table;
+    QString m_routine;
+    QString m_used;
+};
+
+} // namespace
+
+std::vector<ScriptName> NamesIn(std::u16string_view text, int dialect)
+{
+    const auto* row = engine::analysis::DialectByNumber(dialect);
+    if (!row)
+        return {};
+    const std::string utf8 = ToUtf8(text);
+    const TextSpans spans(utf8);
+    UnitCounter units(utf8);
+    SqlScanner scanner(*row, spans);
+    NameMachine machine(*row);
+    Parents parents;
+    std::vector<NameEvent> events;
+    std::vector<ScriptName> names;
+    for (Token token = scanner.Next(); token.kind != TokenKind::End; token = scanner.Next()) {
+        events.clear();
+        machine.Take(spans, token, events);
+        if (const long tag = DollarTag(spans, token))
+            scanner.Restart(token.start + tag);
+        for (const NameEvent& event : events) {
+            ScriptName name{event.kind, NameAt(spans, event), {}, units.At(event.start), 0};
+            name.end = units.At(event.end);
+            name.parent = parents.Of(name);
+            names.push_back(std::move(name));
+        }
+    }
+    return names;
+}
+
+} // namespace completion

@@ -1,0 +1,28 @@
+// The names that stand in a piece of SQL: what it creates, with columns and parameters, and what it
+// uses. Text alone: knows no window.
+#pragma once
+
+#include "common/Export.h"
+#include "completion/NameKind.h"
+
+#include <QString>
+
+#include <string_view>
+#include <vector>
+
+namespace completion {
+
+struct ScriptName
+{
+    NameKind kind = NameKind::Table;
+    QString name;   // without its quotes
+    QString parent; // the table of a column or an alias, the routine of a parameter; or empty
+    long start = 0; // of the name with its quotes, in units of the text
+    long end = 0;
+};
+
+// In their order, in a dialect of control/Analysis.h (partitioner::Dialect); nothing for a number
+// that is none. A text that begins in the midst of a comment or a string is read as code.
+ZN_API std::vector<ScriptName> NamesIn(std::u16string_view text, int dialect);
+
+} // namespace completion
