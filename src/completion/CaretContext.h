@@ -1,0 +1,30 @@
+// CaretContext: what stands around a caret: the word that is being typed, what it may be, and the
+// tables and names that its statement has. Text alone.
+#pragma once
+
+#include "completion/Proposals.h"
+#include "completion/ScriptIndex.h"
+#include "completion/ScriptNames.h"
+
+namespace completion {
+
+struct ScopedTable
+{
+    QString name; // empty for what a query in parentheses gives
+    QString alias;
+};
+
+struct CaretContext
+{
+    ProposalQuery query;
+    QChar quote;                     // that the word begins with, none if it is not quoted
+    std::vector<ScopedTable> tables; // of the statement, before the caret and behind it
+    // Variables, parameters, cursors, common tables and their columns, from some way before the
+    // caret up to it. Their places count from that.
+    std::vector<ScriptName> locals;
+};
+
+// The text is that of the index, which is fresh around the caret.
+CaretContext ContextAt(const ScriptIndex& index, const ScriptIndex::Read& read, long caret);
+
+} // namespace completion
