@@ -24,6 +24,7 @@ constexpr SqlDialect kGeneric = {
     .begin = Begin::BlockOrTransaction,
     .hasUse = true,
     .withFunctions = true,
+    .statementsFold = true,
 };
 
 constexpr SqlDialect kTransactSql = {
@@ -139,6 +140,7 @@ constexpr SqlDialect kPostgreSql = {
     .parenthesesHold = true,
     .onlyAtomicBlocks = true,
     .copyData = true,
+    .statementsFold = true,
     .client = &kPsql,
 };
 
@@ -150,6 +152,7 @@ constexpr SqlDialect kSqlite = {
     .wordMarks = "$",
     .variableLeads = "@:$?",
     .begin = Begin::Transaction,
+    .statementsFold = true,
     .client = &kSqliteShell,
 };
 

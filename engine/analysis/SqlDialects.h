@@ -99,6 +99,7 @@ struct SqlDialect
     bool setTerm = false;               // SET TERM new old
     bool terminatorComment = false;     // --#SET TERMINATOR new, -tdnew in a first comment
     bool variables = false;             // $(name) in names, set by the client
+    bool statementsFold = false;        // those of several lines; else what stands in them alone
     const ClientProgram* client = &kNoClient;
 };
 

@@ -31,16 +31,6 @@ long LineAt(const Raw& raw, long position)
         raw.Send(Sci::SCI_LINEFROMPOSITION, static_cast<std::uintptr_t>(position)));
 }
 
-long StateNumber(const Raw& raw, long line)
-{
-    return static_cast<long>(raw.Send(Sci::SCI_GETLINESTATE, static_cast<std::uintptr_t>(line)));
-}
-
-int FoldLevel(const Raw& raw, long line)
-{
-    return static_cast<int>(raw.Send(Sci::SCI_GETFOLDLEVEL, static_cast<std::uintptr_t>(line)));
-}
-
 bool IsOn(const Raw& raw, const char* property)
 {
     return raw.Send(Sci::SCI_GETPROPERTYINT, reinterpret_cast<std::uintptr_t>(property)) != 0;
@@ -63,27 +53,6 @@ bool IsFresh(const SqlLineState& state)
 }
 
 } // namespace
-
-void SqlLineStates::Clear(const SqlLineState& first)
-{
-    m_states.assign(1, first);
-    m_numbers.clear();
-    m_numbers.emplace(first, 0);
-}
-
-int SqlLineStates::NumberOf(const SqlLineState& state)
-{
-    const auto [found, isNew] = m_numbers.emplace(state, static_cast<int>(m_states.size()));
-    if (isNew)
-        m_states.push_back(state);
-    return found->second;
-}
-
-const SqlLineState& SqlLineStates::Of(long number) const
-{
-    const auto index = static_cast<std::size_t>(number);
-    return m_states[number >= 0 && index < m_states.size() ? index : 0];
-}
 
 void Colouring::SetLexer(const Raw& raw, int lexer)
 {
@@ -112,6 +81,7 @@ void Colouring::Become(const Raw& raw, int lexer)
 void Colouring::ChooseDialect(const Raw& raw)
 {
     m_dialect = IsSqlLexer(m_lexer) ? DialectOf(raw, m_lexer) : nullptr;
+    m_foldOptions.statements = m_dialect && m_dialect->statementsFold;
     m_terminator = TerminatorOf(raw);
 }
 
@@ -129,7 +99,8 @@ void Colouring::ReadProperties(const Raw& raw)
     const analysis::Terminator terminator = m_terminator;
     ChooseDialect(raw);
     m_folds = IsOn(raw, "fold");
-    m_foldOptions = {.comments = IsOn(raw, "fold.comment"), .compact = IsOn(raw, "fold.compact")};
+    m_foldOptions.comments = IsOn(raw, "fold.comment");
+    m_foldOptions.compact = IsOn(raw, "fold.compact");
     if (m_dialect != dialect || m_folds != folds || m_foldOptions != options ||
         m_terminator != terminator)
         Restart(raw);
@@ -221,7 +192,9 @@ void Colouring::EditEnds(const Raw& raw)
 // is to get a level of its own.
 void Colouring::LeaveSomeToStyle(const Raw& raw, long position)
 {
-    m_end = std::min(m_end, LastPlace(raw, std::max(position - 1, 0L)));
+    const long place = LastPlace(raw, std::max(position - 1, 0L));
+    m_tail.end = std::min(m_tail.end, place);
+    m_end = std::min(m_end, place);
     raw.Send(Sci::SCI_STARTSTYLING, static_cast<std::uintptr_t>(m_end));
 }
 
@@ -294,8 +267,11 @@ bool Colouring::StyleChunk(const Raw& raw, long target)
     SqlStyler styler(m_lexer, rules, m_vocabulary, m_foldOptions);
     StartWalk(raw, styler);
     Walk(raw, styler, target);
+    if (m_folds && TurnsFirstBatch(raw))
+        return true;
     if (m_folds)
-        FoldFreshBatch(raw);
+        m_lines.folds.FoldFreshBatch(raw, m_states, m_lines.states, BlocksBehind(),
+                                     m_lines.endsInLine, m_foldOptions);
     if (!Apply(raw) || m_edits != edits)
         return false;
     const long end = m_lines.End();
@@ -321,7 +297,7 @@ void Colouring::StartWalk(const Raw& raw, SqlStyler& styler)
         const std::size_t place = m_places.FirstFrom(m_lines.start, raw.Length());
         styler.Resume(text, m_lines.start, m_places.StateOf(place), m_lines.styles);
     } else {
-        const long number = m_lines.first > 0 ? StateNumber(raw, m_lines.first) : 0;
+        const long number = m_lines.first > 0 ? SqlLineStates::NumberAt(raw, m_lines.first) : 0;
         styler.Start(text, m_lines.start, m_states.Of(number), m_lines.styles);
     }
 }
@@ -330,7 +306,7 @@ void Colouring::Walk(const Raw& raw, SqlStyler& styler, long target)
 {
     const long lineCount = raw.LineCount();
     const long length = raw.Length();
-    m_lines.levels.clear();
+    m_lines.folds.Begin(m_lines.first);
     m_lines.states.clear();
     m_lines.places.clear();
     m_lines.agrees = false;
@@ -346,7 +322,7 @@ void Colouring::Walk(const Raw& raw, SqlStyler& styler, long target)
             return;
         if (number < 0 || !(before == styler.State()))
             number = m_states.NumberOf(styler.State());
-        m_lines.levels.push_back(styler.Level());
+        m_lines.folds.Add(styler.Level());
         m_lines.states.push_back(number);
         ++line;
         m_lines.agrees = ReachesTail(raw, line, next, styler.State(), number);
@@ -399,61 +375,28 @@ bool Colouring::ReachesTail(const Raw& raw, long line, long start, const SqlLine
                             int number) const
 {
     return !m_tail.IsEmpty() && start >= m_tail.start && start <= m_tail.end &&
-           line < raw.LineCount() && !IsFresh(state) && StateNumber(raw, line) == number;
+           line < raw.LineCount() && !IsFresh(state) &&
+           SqlLineStates::NumberAt(raw, line) == number;
 }
 
-// The first line of a batch is a header once there is something on another line of it. Between the
-// two are blank lines only.
-void Colouring::FoldFreshBatch(const Raw& raw)
+// What stands open behind the lines.
+const SqlBlockState& Colouring::BlocksBehind() const
 {
-    m_lines.before.clear();
-    const SqlLineState& first = m_states.Of(StateNumber(raw, m_lines.first));
-    bool fresh = m_lines.first > 0 && IsFresh(first);
-    bool isBefore = fresh; // the batch's first line
-    std::size_t begin = 0; // of the blank lines behind it
-    for (std::size_t i = 0; i < m_lines.states.size() + m_lines.endsInLine; ++i) {
-        const SqlBlockState& behind = i < m_lines.states.size()
-                                          ? m_states.Of(m_lines.states[i]).blocks
-                                          : m_lines.places.back().state.state.blocks;
-        const bool freshBehind = behind.batch == SqlBlockState::Batch::Fresh;
-        if (fresh && !freshBehind) {
-            const bool opens = behind.batch == SqlBlockState::Batch::Open;
-            for (std::size_t blank = begin; blank < i; ++blank)
-                m_lines.levels[blank] += opens;
-            if (isBefore)
-                FoldBefore(raw, opens);
-            else if (opens)
-                m_lines.levels[begin - 1] |= sqlstyle::kFoldHeader;
-        } else if (!fresh && freshBehind) {
-            begin = i + 1;
-            isBefore = false;
-        }
-        fresh = freshBehind;
-    }
-    if (fresh && isBefore)
-        FoldBefore(raw, false);
+    return m_lines.endsInLine ? m_lines.places.back().state.state.blocks
+                              : m_states.Of(m_lines.states.back()).blocks;
 }
 
-// The same for a batch whose first line stands before the lines that were walked over.
-void Colouring::FoldBefore(const Raw& raw, bool opens)
+// Whether the first batch folds is not known before a separator or the text's end is met: the lines
+// in front of it are then styled again.
+bool Colouring::TurnsFirstBatch(const Raw& raw)
 {
-    long line = m_lines.first;
-    long depthBehind = 0;
-    while (line > 0) {
-        const SqlLineState& behind = m_states.Of(StateNumber(raw, line));
-        depthBehind = FoldDepth(behind.scan, behind.blocks, m_foldOptions);
-        --line;
-        if (line == 0 || !IsFresh(m_states.Of(StateNumber(raw, line))))
-            break;
-        const int level = sqlstyle::kFoldBase + static_cast<int>(depthBehind) + opens;
-        m_lines.before.emplace_back(line, std::min(level, sqlstyle::kFoldNumber) |
-                                              (m_foldOptions.compact ? sqlstyle::kFoldBlank : 0));
-    }
-    const int level = FoldLevel(raw, line);
-    const int number = level & sqlstyle::kFoldNumber;
-    const bool isHeader = opens || sqlstyle::kFoldBase + depthBehind > number;
-    m_lines.before.emplace_back(line, isHeader ? level | sqlstyle::kFoldHeader
-                                               : level & ~sqlstyle::kFoldHeader);
+    const bool divided = BlocksBehind().divided;
+    const bool isKnown = divided || (!m_lines.endsInLine && m_lines.End() == raw.Length());
+    if (!isKnown || divided == m_foldOptions.firstBatch)
+        return false;
+    m_foldOptions.firstBatch = divided;
+    Restart(raw);
+    return true;
 }
 
 // Hands the lines on to the stock engine, the styles last: they say how far the text is done. False
@@ -464,12 +407,12 @@ bool Colouring::Apply(const Raw& raw)
     const long lineCount = raw.LineCount();
     long line = m_lines.first;
     for (const int number : m_lines.states) {
-        if (++line < lineCount && StateNumber(raw, line) != number)
+        if (++line < lineCount && SqlLineStates::NumberAt(raw, line) != number)
             raw.Send(Sci::SCI_SETLINESTATE, static_cast<std::uintptr_t>(line), long{number});
         if (m_edits != edits)
             return false;
     }
-    if (m_folds && !ApplyLevels(raw))
+    if (m_folds && !m_lines.folds.Apply(raw, m_edits))
         return false;
     if (static_cast<long>(raw.Send(Sci::SCI_GETENDSTYLED)) != m_lines.start)
         raw.Send(Sci::SCI_STARTSTYLING, static_cast<std::uintptr_t>(m_lines.start));
@@ -506,26 +449,6 @@ void Colouring::LayAlike(const Raw& raw, long start, std::span<char> styles)
     raw.Send(Sci::SCI_SETSTYLINGEX, styles.size(), styles.data());
     raw.Send(Sci::SCI_STARTSTYLING, end);
     m_alike.Match(raw);
-}
-
-bool Colouring::ApplyLevels(const Raw& raw)
-{
-    const unsigned edits = m_edits;
-    const auto set = [&](long line, int level) {
-        if (FoldLevel(raw, line) != level)
-            raw.Send(Sci::SCI_SETFOLDLEVEL, static_cast<std::uintptr_t>(line), long{level});
-        return m_edits == edits;
-    };
-    for (const auto& [line, level] : m_lines.before) {
-        if (!set(line, level))
-            return false;
-    }
-    long line = m_lines.first;
-    for (const int level : m_lines.levels) {
-        if (!set(line++, level))
-            return false;
-    }
-    return true;
 }
 
 } // namespace engine

@@ -10,35 +10,12 @@
 #pragma once
 
 #include "engine/colours/AlikeStyles.h"
+#include "engine/colours/FoldLevels.h"
 #include "engine/colours/SqlPlaces.h"
-#include "engine/text/Raw.h"
 
 #include <optional>
-#include <unordered_map>
-#include <utility>
 
 namespace engine {
-
-// The states of a document's lines by number, as the stock engine keeps numbers. 0 is the state at
-// the text's start.
-class SqlLineStates
-{
-public:
-    SqlLineStates() { Clear({}); }
-
-    void Clear(const SqlLineState& first);
-    int NumberOf(const SqlLineState& state);
-    const SqlLineState& Of(long number) const;
-
-private:
-    struct HashOf
-    {
-        std::size_t operator()(const SqlLineState& state) const { return state.Hash(); }
-    };
-
-    std::vector<SqlLineState> m_states;
-    std::unordered_map<SqlLineState, int, HashOf> m_numbers;
-};
 
 class Colouring
 {
@@ -93,12 +70,11 @@ private:
         long first = 0; // line
         long start = 0; // byte
         std::vector<char> styles;
-        std::vector<int> levels;
-        std::vector<int> states;                  // at the start of the line behind each
-        std::vector<SqlPlaces::Place> places;     // inside of them
-        std::vector<std::pair<long, int>> before; // levels of lines before the first
-        bool agrees = false;                      // with what the tail was styled from
-        bool endsInLine = false;                  // at the last place
+        std::vector<int> states;              // at the start of the line behind each
+        std::vector<SqlPlaces::Place> places; // inside of them
+        FoldLevels folds;
+        bool agrees = false;     // with what the tail was styled from
+        bool endsInLine = false; // at the last place
         bool hasLongLine = false;
 
         long End() const { return start + static_cast<long>(styles.size()); }
@@ -120,11 +96,10 @@ private:
     bool IsOfTail(const SqlPlaces::Place& place, long length) const;
     bool ReachesTail(const Raw& raw, long line, long start, const SqlLineState& state,
                      int number) const;
-    void FoldFreshBatch(const Raw& raw);
-    void FoldBefore(const Raw& raw, bool opens);
+    bool TurnsFirstBatch(const Raw& raw);
+    const SqlBlockState& BlocksBehind() const;
     bool Apply(const Raw& raw);
     void LayAlikeInLongLines(const Raw& raw);
-    bool ApplyLevels(const Raw& raw);
 
     int m_lexer = 0;
     const analysis::SqlDialect* m_dialect = nullptr; // null: not SQL

@@ -15,17 +15,19 @@ SqlBlocks::SqlBlocks(const analysis::SqlDialect& dialect)
 
 void SqlBlocks::CloseBatch()
 {
-    const analysis::Terminator terminator = state.terminator;
-    state = {};
-    state.terminator = terminator;
-    state.hasBegun = true;
+    CloseStatement();
+    state.batch = SqlBlockState::Batch::None;
+    state.divided = true;
 }
 
 void SqlBlocks::CloseStatement()
 {
-    const SqlBlockState::Batch batch = state.batch;
-    CloseBatch();
-    state.batch = batch;
+    SqlBlockState behind;
+    behind.terminator = state.terminator;
+    behind.batch = state.batch;
+    behind.hasBegun = true;
+    behind.divided = state.divided;
+    state = behind;
 }
 
 // IS may have its declarations on the next line.

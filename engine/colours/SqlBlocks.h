@@ -20,13 +20,12 @@ struct SqlBlockState : analysis::BlockState
     Batch batch = Batch::None;
     bool inStatement = false;
     bool hasBegun = false; // there was something else than blanks and comments
+    bool divided = false;  // a separator stands above
 
     bool operator==(const SqlBlockState&) const = default;
 
-    std::uint32_t Depth() const
-    {
-        return declarations + blocks + cases + controls + parentheses + (batch == Batch::Open);
-    }
+    // What stands open in the statement.
+    std::uint32_t Depth() const { return declarations + blocks + cases + controls + parentheses; }
 };
 
 class SqlBlocks

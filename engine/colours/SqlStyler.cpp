@@ -49,14 +49,8 @@ std::uint64_t SqlLineState::Hash() const
                          number(blocks.pending) << 16 | number(blocks.before) << 24 |
                          number(blocks.inStatement) << 32 | number(blocks.routineHeader) << 33 |
                          number(blocks.ifSeen) << 34 | number(blocks.whileSeen) << 35 |
-                         number(blocks.rowset) << 36 | number(blocks.hasBegun) << 37);
-}
-
-long FoldDepth(const ScanState& scan, const SqlBlockState& blocks, SqlFoldOptions fold)
-{
-    const bool inComment =
-        scan.inside == TokenKind::BlockComment || scan.inside == TokenKind::CodeComment;
-    return static_cast<long>(blocks.Depth()) + (fold.comments && inComment);
+                         number(blocks.rowset) << 36 | number(blocks.hasBegun) << 37 |
+                         number(blocks.divided) << 38);
 }
 
 SqlStyler::SqlStyler(int lexer, const analysis::ScriptRules& rules, const SqlVocabulary& vocabulary,
@@ -224,8 +218,9 @@ void SqlStyler::OpenFreshBatch()
     if (!m_line.freshAtStart || m_blocks.state.batch != SqlBlockState::Batch::Fresh)
         return;
     m_blocks.state.batch = SqlBlockState::Batch::Open;
-    ++m_line.startDepth;
-    ++m_line.leastDepth;
+    const bool folds = BatchFolds(m_blocks.state, m_fold);
+    m_line.startDepth += folds;
+    m_line.leastDepth += folds;
 }
 
 bool SqlStyler::TakeSeparator(const Token& token)
@@ -411,11 +406,7 @@ void SqlStyler::FinishLine()
     const long depth = m_line.ignored && batch == Batch::None ? 0
                        : opens                                ? m_line.leastDepth
                                                               : m_line.startDepth;
-    constexpr long kDeepest = sqlstyle::kFoldNumber;
-    const long number = std::min(sqlstyle::kFoldBase + depth, kDeepest);
-    const bool isHeader = opens && number < kDeepest;
-    m_level = static_cast<int>(number) | (isHeader ? sqlstyle::kFoldHeader : 0) |
-              (m_line.isBlank && m_fold.compact ? sqlstyle::kFoldBlank : 0);
+    m_level = FoldLevelOf(depth, opens, m_line.isBlank && m_fold.compact);
     m_state.scan = m_scanner.State();
     m_state.blocks = m_blocks.state;
     m_state.docComment = m_state.docComment && !m_state.scan.InCode();

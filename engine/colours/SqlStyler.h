@@ -6,7 +6,7 @@
 
 #include "engine/analysis/BatchSeparator.h"
 #include "engine/analysis/StatementState.h"
-#include "engine/colours/SqlBlocks.h"
+#include "engine/colours/SqlFolds.h"
 #include "engine/colours/SqlPalette.h"
 #include "engine/colours/SqlVocabulary.h"
 
@@ -54,17 +54,6 @@ struct SqlPlaceState
     bool operator==(const SqlPlaceState&) const = default;
 };
 
-struct SqlFoldOptions
-{
-    bool comments = false;
-    bool compact = false;
-
-    bool operator==(const SqlFoldOptions&) const = default;
-};
-
-// How much stands open at a place. A comment under way counts where it stands over a line's end.
-long FoldDepth(const analysis::ScanState& scan, const SqlBlockState& blocks, SqlFoldOptions fold);
-
 class SqlStyler
 {
 public:
@@ -92,7 +81,7 @@ public:
     SqlPlaceState Place() const;
 
     // Of the line that has just been styled: its fold level, as if its batch had no other line
-    // (see SqlBlockState::Batch).
+    // (see FoldLevels).
     int Level() const { return m_level; }
 
     // At the start of the next line.

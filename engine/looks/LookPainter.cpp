@@ -55,6 +55,9 @@ QColor LookPainter::Colour(COLORREF colour) const
 
 void LookPainter::Set(const Looks* looks)
 {
+    // Hidden lines have a button to show them, and without looks a line.
+    if (m_looks.has_value() != (looks != nullptr))
+        m_raw.Send(Sci::SCI_SETFOLDFLAGS, looks ? 0 : Sci::SC_FOLDFLAG_LINEAFTER_CONTRACTED);
     m_looks = looks ? std::optional<Looks>(*looks) : std::nullopt;
     m_window.viewport()->setMouseTracking(true);
     if (!m_looks) {

@@ -18,10 +18,12 @@
 // or #define is none: its word has the style of statements, the rest that of text.
 //
 // Folds. With the property fold at 1: BEGIN to END, CASE to END, the declarations and the body of a
-// routine, IF and loops where the dialect ends them by name, parentheses over lines, the lines of a
-// batch behind its first (its separator stays outside), and with fold.comment at 1 block comments
-// over lines. With fold.compact at 1 blank lines carry bit 0x1000. The level's number stays within
-// 0xFFF; deeper lines share the last one. With fold at 0 levels stay as they are.
+// routine, IF and loops where the dialect ends them by name, parentheses over lines, with lexer
+// number 9 the lines of a statement behind its first, where a separator divides the script the
+// lines of a batch behind its first (its separator stays outside), and with fold.comment at 1 block
+// comments over lines. A separator that stands behind the lines that are styled is not known yet.
+// With fold.compact at 1 blank lines carry bit 0x1000. The level's number stays within 0xFFF;
+// deeper lines share the last one. With fold at 0 levels stay as they are.
 //
 // Sharing. The lexer, its words, its properties and what they make of the text belong to the
 // document, so windows that show one document show it in one language. What is coloured first is

@@ -1,7 +1,10 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 // The folds of SQL as pictures: in front of each line its depth, and H where it is a header.
+#include "control/EngineLooks.h"
+#include "engine/window/EngineWindow.h"
 #include "tests/engine/SqlUnderTest.h"
 
+#include <QImage>
 #include <QString>
 
 #include <gtest/gtest.h>
@@ -51,16 +54,16 @@ TEST(SqlFolds, ATransactionIsNoBlock)
     ExpectFolds(kMySql, "0  |begin;\n"
                         "0  |select 1;\n"
                         "0  |commit;\n");
-    ExpectFolds(kTransactSql, "0H |select 0\n"
-                              "1  |begin tran\n"
-                              "1  |select 1\n"
-                              "1H |begin try\n"
-                              "2  |select 2\n"
-                              "2  |end try\n"
-                              "1H |begin catch\n"
-                              "2  |end catch\n"
-                              "1  |begin distributed transaction\n"
-                              "1  |end conversation @h\n");
+    ExpectFolds(kTransactSql, "0  |select 0\n"
+                              "0  |begin tran\n"
+                              "0  |select 1\n"
+                              "0H |begin try\n"
+                              "1  |select 2\n"
+                              "1  |end try\n"
+                              "0H |begin catch\n"
+                              "1  |end catch\n"
+                              "0  |begin distributed transaction\n"
+                              "0  |end conversation @h\n");
     ExpectFolds(kGeneric,
                 "0  |begin;\n"
                 "0  |select 1;\n",
@@ -253,6 +256,80 @@ TEST(SqlFolds, ABatchOfOneLineIsNoFold)
     ExpectFolds(kIq, "0  |select 1\n");
 }
 
+TEST(SqlFolds, AScriptWithoutSeparatorsIsNoFold)
+{
+    ExpectFolds(kTransactSql, "0  |use shop\n"
+                              "0  |declare @n int\n"
+                              "0H |begin\n"
+                              "1  |  select @n\n"
+                              "1  |end\n"
+                              "0  |select 2\n");
+    ExpectFolds(kOracle, "0  |select 1 from dual;\n"
+                         "0  |\n"
+                         "0  |select 2 from dual;\n");
+}
+
+TEST(SqlFolds, StatementsOfGenericSqlFoldBehindTheirFirstLines)
+{
+    const char* const kPicture = "0  |-- orders\n"
+                                 "0H |select a,\n"
+                                 "1  |       b\n"
+                                 "1  |\n"
+                                 "1  |  from t;\n"
+                                 "0  |\n"
+                                 "0  |drop table t;\n"
+                                 "0H |create table u (\n"
+                                 "2  |  a int -- one\n"
+                                 "0H |); insert into u values (1); update u\n"
+                                 "1  |  set a = 2;\n"
+                                 "0  |select 1;\n";
+    for (const auto* dialect : {u"sql", u"postgresql", u"sqlite"})
+        ExpectFolds(kGeneric, kPicture, dialect);
+}
+
+TEST(SqlFolds, BlocksOfGenericSqlFoldInTheirStatements)
+{
+    ExpectFolds(kGeneric, "0H |create procedure p()\n"
+                          "1H |begin\n"
+                          "2  |  select 1;\n"
+                          "2H |  if a then\n"
+                          "3  |    select 2;\n"
+                          "3  |  end if;\n"
+                          "2  |end;\n"
+                          "0  |select 3;\n");
+}
+
+TEST(SqlFolds, ABatchOfGenericSqlFoldsWhereASeparatorDividesTheScript)
+{
+    ExpectFolds(kGeneric, "0H |use shop;\n"
+                          "1H |select 1,\n"
+                          "2  |  2;\n"
+                          "1  |drop table t;\n"
+                          "0  |GO\n"
+                          "0H |select 3;\n"
+                          "1  |select 4;\n"
+                          "0  |GO\n"
+                          "0  |select 5;\n");
+}
+
+TEST(SqlFolds, TheFirstBatchFollowsTheFirstSeparator)
+{
+    const SqlUnderTest sql(kGeneric, u"select 1;\nselect 2;\n\nselect 3;\n");
+    const char* const kWhole = "0  |select 1;\n0  |select 2;\n0  |\n0  |select 3;\n0  |\n";
+    sql.FoldAlso();
+    sql.Style();
+    EXPECT_EQ(sql.Folds(), kWhole);
+    sql.Insert(20, u"go");
+    sql.StyleRest();
+    EXPECT_EQ(sql.Folds(), "0H |select 1;\n1  |select 2;\n0  |go\n0  |select 3;\n0  |\n");
+    sql.Insert(22, u"od");
+    sql.StyleRest();
+    EXPECT_EQ(sql.Folds(), "0  |select 1;\n0  |select 2;\n0H |good\n1  |select 3;\n0  |\n");
+    sql.Erase(20, 24);
+    sql.StyleRest();
+    EXPECT_EQ(sql.Folds(), kWhole);
+}
+
 TEST(SqlFolds, ASeparatorClosesWhatStandsOpen)
 {
     ExpectFolds(kTransactSql, "0H |begin\n"
@@ -274,11 +351,11 @@ TEST(SqlFolds, ASeparatorInAStringIsNone)
 TEST(SqlFolds, ALineMayEndABlockAndBeginAnother)
 {
     ExpectFolds(kTransactSql, "0H |if 1 = 1 begin\n"
-                              "2  |  select 1\n"
-                              "1H |end else begin\n"
-                              "2  |  select 2\n"
-                              "2  |end\n"
-                              "1  |select 3\n");
+                              "1  |  select 1\n"
+                              "0H |end else begin\n"
+                              "1  |  select 2\n"
+                              "1  |end\n"
+                              "0  |select 3\n");
 }
 
 TEST(SqlFolds, TheFirstLineOfABatchFollowsTheLinesBehindIt)
@@ -293,6 +370,35 @@ TEST(SqlFolds, TheFirstLineOfABatchFollowsTheLinesBehindIt)
     sql.Erase(10, 11);
     sql.StyleRest();
     EXPECT_EQ(sql.Folds(), "0  |select 1\n0  |\n0  |\n0  |go\n0  |\n");
+}
+
+// ----- What a person sees
+
+TEST(SqlFolds, HiddenLinesShowALineBelowTheirHeader)
+{
+    const SqlUnderTest sql(kMySql, u"(\n1\n2\n)\n");
+    sql.FoldAlso();
+    sql.Style();
+    auto& window = *static_cast<engine::EngineWindow*>(sql.Window());
+    window.resize(300, 200);
+    const int height = static_cast<int>(sql.Send(msg::TextHeight));
+    const auto isCrossed = [&] {
+        const QImage picture = window.viewport()->grab().toImage();
+        for (int x = 100; x < 200; ++x)
+            if (picture.pixelColor(x, height - 1) == picture.pixelColor(x, height / 2))
+                return false;
+        return true;
+    };
+    EXPECT_FALSE(isCrossed());
+    sql.Send(msg::ToggleFold, 0);
+    EXPECT_TRUE(isCrossed());
+    const engine::Looks looks; // which have a button instead
+    sql.Send(engine::kSetLooks, 0, reinterpret_cast<LPARAM>(&looks));
+    EXPECT_FALSE(isCrossed());
+    sql.Send(engine::kSetLooks, 0, LPARAM{0});
+    EXPECT_TRUE(isCrossed());
+    sql.Send(msg::ToggleFold, 0);
+    EXPECT_FALSE(isCrossed());
 }
 
 // ----- The properties
@@ -321,8 +427,7 @@ TEST(SqlFolds, ABoundedLevelHoldsAnyDepth)
         text += u"(\n";
     for (long i = 0; i < kNested; ++i)
         text += u")\n";
-    const SqlUnderTest sql(kGeneric, text);
-    sql.SetProperty(u"sql.dialect", u"sqlite");
+    const SqlUnderTest sql(kDb2, text);
     sql.FoldAlso();
     sql.Style();
     const std::vector<int> levels = sql.Levels();
