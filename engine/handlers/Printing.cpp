@@ -75,29 +75,172 @@ private:
     std::vector<std::string> m_fonts;
 };
 
+// Takes text out of the layout for as long as it lives, by a style that is not shown. The stock
+// engine lays out and draws whole lines only, and counts wrongly from the middle of a wrapped one.
+class HiddenText
+{
+public:
+    // The text has to be styled as far as it is laid out: nothing is styled meanwhile.
+    explicit HiddenText(Engine& engine)
+        : m_raw(engine.raw), m_styled(m_raw.Send(Sci::SCI_GETENDSTYLED)),
+          m_wasVisible(m_raw.Send(Sci::SCI_STYLEGETVISIBLE, kHidden))
+    {
+        m_raw.Send(Sci::SCI_STYLESETVISIBLE, kHidden, LPARAM{0});
+    }
+
+    ~HiddenText()
+    {
+        for (const Piece& piece : m_pieces) {
+            m_raw.Send(Sci::SCI_STARTSTYLING, static_cast<WPARAM>(piece.start));
+            m_raw.Send(Sci::SCI_SETSTYLINGEX, piece.styles.size(), piece.styles.data());
+        }
+        m_raw.Send(Sci::SCI_STYLESETVISIBLE, kHidden, m_wasVisible);
+        m_raw.Send(Sci::SCI_STARTSTYLING, static_cast<WPARAM>(m_styled));
+    }
+
+    HiddenText(const HiddenText&) = delete;
+    HiddenText& operator=(const HiddenText&) = delete;
+
+    void Hide(long start, long end)
+    {
+        if (start >= end)
+            return;
+        // A byte and its style each, and two terminators.
+        std::string cells(2 * static_cast<std::size_t>(end - start) + 2, '\0');
+        struct
+        {
+            long start, end;
+            char* cells;
+        } range{start, end, cells.data()};
+        m_raw.Send(Sci::SCI_GETSTYLEDTEXT, 0, &range);
+        Piece& piece = m_pieces.emplace_back(Piece{start, {}});
+        for (std::size_t i = 1; i < cells.size() - 2; i += 2)
+            piece.styles.push_back(cells[i]);
+        m_raw.Send(Sci::SCI_STARTSTYLING, static_cast<WPARAM>(start));
+        m_raw.Send(Sci::SCI_SETSTYLING, piece.styles.size(), kHidden);
+        m_raw.Send(Sci::SCI_STARTSTYLING, static_cast<WPARAM>(m_raw.Length()));
+    }
+
+private:
+    struct Piece
+    {
+        long start;
+        std::string styles;
+    };
+
+    static constexpr int kHidden = Sci::STYLE_INDENTGUIDE; // no text has it, and no page shows it
+
+    const Raw& m_raw;
+    const LRESULT m_styled;
+    const LRESULT m_wasVisible;
+    std::vector<Piece> m_pieces;
+};
+
 QRect ToRect(const RECT& rect)
 {
     return {static_cast<int>(rect.left), static_cast<int>(rect.top),
             static_cast<int>(rect.right - rect.left), static_cast<int>(rect.bottom - rect.top)};
 }
 
-// Lays the range out in the rectangle, and draws it if wParam is set. Gives the position of the
-// first unit that found no room.
+long LineOf(const Raw& raw, long position)
+{
+    return raw.Send(Sci::SCI_LINEFROMPOSITION, static_cast<WPARAM>(position));
+}
+
+long StartOf(const Raw& raw, long line)
+{
+    return line < raw.LineCount() ? raw.Send(Sci::SCI_POSITIONFROMLINE, static_cast<WPARAM>(line))
+                                  : raw.Length();
+}
+
+// One page.
+class Page
+{
+public:
+    Page(Engine& engine, const RangeToFormat& format) : m_engine(engine), m_format(format) {}
+
+    // Lays out the text between two places, and gives the first that found no room.
+    long Put(bool draw, long start, long end) const
+    {
+        for (long window = kWindow;; window *= 2) {
+            const long seen = WindowEnd(start, end, window);
+            if (seen >= end)
+                return PutAll(draw, start, end);
+            const long next = PutAll(false, start, seen);
+            if (next < seen)
+                return draw && next > start ? PutAll(true, start, next) : next;
+        }
+    }
+
+private:
+    static constexpr long kWindow = 8 * 1024; // bytes; about what a page of A4 holds
+    static constexpr long kLong = 32 * 1024;
+
+    // A page shows little of a line of megabytes, all of which would be measured for it.
+    long WindowEnd(long start, long end, long window) const
+    {
+        if (end - start <= window)
+            return end;
+        const Raw& raw = m_engine.raw;
+        const long cut = raw.Send(Sci::SCI_POSITIONBEFORE, static_cast<WPARAM>(start + window));
+        const long line = LineOf(raw, cut);
+        const bool isLong = StartOf(raw, line + 1) - StartOf(raw, line) > kLong;
+        return isLong && cut > start ? cut : end;
+    }
+
+    long PutAll(bool draw, long start, long end) const
+    {
+        const Raw& raw = m_engine.raw;
+        const long first = StartOf(raw, LineOf(raw, start));
+        const long lastLine = LineOf(raw, end - 1);
+        const long rest = StartOf(raw, lastLine + 1);
+        if (start == first && end == rest)
+            return Lay(draw, first, end);
+        // A line is a dot high at least.
+        const long most = LineOf(raw, start) + (m_format.rc.bottom - m_format.rc.top);
+        Style(std::min(rest, StartOf(raw, most + 1)));
+        HiddenText hidden(m_engine);
+        hidden.Hide(first, start);
+        if (lastLine <= most)
+            hidden.Hide(end, rest);
+        return std::clamp(Lay(draw, first, end), start, end);
+    }
+
+    void Style(long end) const
+    {
+        const LRESULT styled = m_engine.raw.Send(Sci::SCI_GETENDSTYLED);
+        if (styled < end)
+            m_engine.raw.Send(Sci::SCI_COLOURISE, static_cast<WPARAM>(styled), end);
+    }
+
+    // From a line's start. The stock engine takes the line in which the range ends as a whole.
+    long Lay(bool draw, long start, long end) const
+    {
+        const long next = m_engine.window.SendScintilla(Sci::SCI_FORMATRANGE, draw, m_format.hdc,
+                                                        ToRect(m_format.rc), start, end - 1);
+        return std::clamp(next, start, end);
+    }
+
+    Engine& m_engine;
+    const RangeToFormat& m_format;
+};
+
+// Lays the range out in the rectangle, and draws it if wParam is set. The character at the range's
+// end belongs to it, as the line there does for the stock engine. Gives the position of the first
+// unit that is not on the page.
 LRESULT FormatRange(Engine& engine, WPARAM wParam, LPARAM lParam)
 {
     const auto* format = reinterpret_cast<const RangeToFormat*>(lParam);
     if (!format || !format->hdc) // also the way to say that printing is over
         return 0;
     const long start = engine.Bytes(std::max(format->chrg.cpMin, 0));
-    const long end =
-        format->chrg.cpMax < 0 ? engine.raw.Length() : engine.Bytes(format->chrg.cpMax);
-    if (end <= start)
+    const long last = engine.Bytes(std::max(format->chrg.cpMax, -1));
+    const long end = last < 0 ? engine.raw.Length()
+                              : engine.raw.Send(Sci::SCI_POSITIONAFTER, static_cast<WPARAM>(last));
+    if (end <= start || (last >= 0 && last < start))
         return engine.Units(start);
     const PrintStyles styles(engine);
-    const long next = engine.window.SendScintilla(Sci::SCI_FORMATRANGE, wParam != 0, format->hdc,
-                                                  ToRect(format->rc), start, end);
-    // The stock engine ends behind the line in which the range ends.
-    return engine.Units(std::clamp(next, start, end));
+    return engine.Units(Page(engine, *format).Put(wParam != 0, start, end));
 }
 
 LRESULT SetBold(Engine& engine, WPARAM wParam, LPARAM)

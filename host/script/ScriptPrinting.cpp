@@ -10,21 +10,18 @@
 
 #include <algorithm>
 
-// The engine draws the lines of a range as wholes, so that a selection that reaches the next line
-// at its column 0 has to end before that. The base takes a selection of one character for none, and
-// finds pages without a word.
+// The character at a range's end belongs to it. The base takes a selection of one character for
+// none, and finds pages without a word.
 void ScriptView::OnBeginPrinting(CDC* dc, CPrintInfo* info)
 {
-    const auto length = static_cast<int>(m_coreEditor.GetLength(1));
-    CharacterRange range{0, length};
-    if (info->m_pPD->PrintSelection()) {
+    CharacterRange range{0, static_cast<int>(m_coreEditor.GetLength(1))};
+    if (info->m_pPD->PrintSelection())
         range = m_coreEditor.GetSelection();
-        range.cpMax = std::max(range.cpMax - 1, std::min(range.cpMin + 1, range.cpMax));
-    }
+    range.cpMax = std::max(range.cpMax - 1, range.cpMin);
     ApplyPrintStyle(true);
     RangeToFormat record = PrintRecord(dc, PrintableArea(*dc));
     m_pageStarts.clear();
-    for (int start = range.cpMin; start < range.cpMax;) {
+    for (int start = range.cpMin; start <= range.cpMax;) {
         m_pageStarts.push_back(static_cast<unsigned>(start));
         record.chrg = {start, range.cpMax};
         const auto next = static_cast<int>(m_coreEditor.FormatRange(0, &record, 1));

@@ -11,6 +11,7 @@
 #include <QPrinter>
 #include <QProcess>
 
+#include <algorithm>
 #include <random>
 
 #include <sys/resource.h>
@@ -124,13 +125,66 @@ TEST_F(PrintedText, IsEveryCharacterOnceOverRandomTextsAndPapers)
     }
 }
 
-// The engine draws the lines that a range touches as wholes.
-TEST_F(PrintedText, OfASelectionIsItsLines)
+TEST_F(PrintedText, OfASelectionIsNoMoreAndNoLess)
 {
     pdf.selection = true;
-    Put("before\nselected;\nbehind\n", 7, 17);
-    EXPECT_EQ(Solid(Printed()), "selected;");
+    Put("before\nselected;\nbehind\n", 9, 19);
+    EXPECT_EQ(Solid(Printed()), "lected;be");
     EXPECT_EQ(pdf.pages, 1u);
+}
+
+TEST_F(PrintedText, OfRandomSelectionsIsThatText)
+{
+    const unsigned seed = std::random_device{}();
+    SCOPED_TRACE(seed);
+    std::mt19937 random(seed);
+    const auto number = [&](int from, int to) {
+        return std::uniform_int_distribution<int>(from, to)(random);
+    };
+    pdf.selection = true;
+    pdf.millimetres = QSizeF(80, 60);
+    for (int round = 0; round < 6; ++round) {
+        QString text;
+        while (text.size() < 3000)
+            text += QString::number(random()) + (number(0, number(1, 99)) == 0 ? u'\n' : u' ');
+        const int start = number(0, 2000);
+        const int end = start + number(2, round % 2 ? 900 : 40);
+        Put(text, start, end);
+        EXPECT_EQ(Solid(Printed()), Solid(text.mid(start, end - start))) << start << ' ' << end;
+    }
+}
+
+TEST_F(PrintedText, OfALineOfManyPagesIsAllOfIt)
+{
+    Put(QString("long_line ").repeated(5000), 0, 0);
+    EXPECT_EQ(Solid(Printed()).size(), 45000);
+    EXPECT_GT(pdf.pages, 5u);
+}
+
+TEST_F(PrintedText, OfALongLineAmongOthersIsAllOfIt)
+{
+    QString text("first\n");
+    for (int word = 0; word < 12000; ++word)
+        text += QString::number(word) + u' ';
+    text += "\nlast";
+    Put(text, 0, 0);
+    EXPECT_EQ(Solid(Printed()), Solid(text));
+}
+
+// The order of what is read from the right is the reader's guess, too.
+TEST_F(PrintedText, IsWholeFromTheRightAndWithCombiningMarks)
+{
+    QString text = QString::fromUtf8("abc \u05e9\u05dc\u05d5\u05dd def\n"
+                                     "\u0645\u0631\u062d\u0628\u0627 123\n"
+                                     "e\u0301 o\u0308 n\u0303 x\u0323\u0302\n");
+    Put(text, 0, 0);
+    QString printed = Printed();
+    printed.removeIf([](QChar unit) { return unit.category() == QChar::Other_Format; });
+    printed = Solid(printed);
+    text = Solid(text);
+    std::ranges::sort(printed);
+    std::ranges::sort(text);
+    EXPECT_EQ(printed, text);
 }
 
 TEST_F(PrintedText, OfAnEmptyTextIsAPageWithoutAWord)

@@ -130,10 +130,42 @@ TEST_F(Printing, ALineThatDoesNotFitIsWrappedAcrossPages)
     EXPECT_EQ(Pages(false).back(), static_cast<long>(line.size()));
 }
 
-TEST_F(Printing, ARangeEndsWhereItIsAskedTo)
+TEST_F(Printing, TheCharacterAtARangesEndBelongsToIt)
 {
     m_engine.SetText(ManyLines(5));
-    EXPECT_EQ(Format(false, 0, 14), 14);
+    EXPECT_EQ(Format(false, 0, 14), 15);
+    EXPECT_EQ(Format(false, 0, 1), 3) << "a pair is one character";
+    EXPECT_EQ(Format(false, 4, 4), 5);
+}
+
+TEST_F(Printing, OfPartsOfLinesLeavesTheStylesAsTheyWere)
+{
+    m_engine.SetText(ManyLines(40));
+    m_engine.Send(msg::StartStyling, 0);
+    m_engine.Send(msg::SetStyling, 30, 3);
+    m_engine.Send(msg::SetSavePoint);
+    Format(true, 5, 20);
+    Format(true, 14, 400);
+    EXPECT_EQ(m_engine.Send(msg::GetEndStyled), 30);
+    EXPECT_EQ(m_engine.Send(msg::GetStyleAt, 4), 3);
+    EXPECT_EQ(m_engine.Send(msg::GetStyleAt, 21), 3);
+    EXPECT_EQ(m_engine.Send(msg::GetStyleAt, 31), 0);
+    EXPECT_EQ(m_engine.Send(msg::GetModify), 0);
+}
+
+// What is in front of a page does not move what is on it: the same line, begun at a page's start.
+TEST_F(Printing, APageFromTheMiddleOfALineLooksAsTheRestAlone)
+{
+    std::u16string line;
+    for (int i = 0; i < 3000; ++i)
+        line += u"\u00e9\u4e2d w\U0001F600rd ";
+    m_engine.SetText(line);
+    const long second = Format(false, 0);
+    Clear();
+    Format(true, static_cast<int>(second));
+    const QImage inTheLine = m_paper;
+    m_engine.SetText(line.substr(static_cast<std::size_t>(second)));
+    EXPECT_EQ(Drawn(), inTheLine);
 }
 
 TEST_F(Printing, NothingIsFormattedWithoutRecordOrPainter)
@@ -185,8 +217,6 @@ TEST_F(Printing, PrintStylesHoldOnPaperOnly)
     m_engine.Send(msg::PrintStyleSetItalic, 0);
     m_engine.Send(msg::PrintStyleSetFont, 0, u"DejaVu Serif");
     EXPECT_NE(Drawn(), plain);
-    screen.save("/tmp/ew_a.png");
-    m_engine.Window()->grab().save("/tmp/ew_b.png");
     EXPECT_EQ(m_engine.Window()->grab().toImage(), screen);
 }
 
