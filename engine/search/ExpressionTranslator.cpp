@@ -25,9 +25,11 @@ bool ExpressionTranslator::TakeAll(std::string_view pattern)
     m_numbered = m_capturing = 0;
     m_result = {};
     while (!AtEnd()) {
+        m_token = m_at;
         if (!TakeOne())
             return false;
     }
+    m_token = m_at;
     return m_open.empty();
 }
 

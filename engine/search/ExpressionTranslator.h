@@ -38,6 +38,8 @@ public:
 
     // The pattern is UTF-8. Nothing if it is none of the syntax.
     std::optional<Translation> Translate(std::string_view pattern);
+    // Where it is none: the byte that cannot be read, or the end, where something is missing.
+    std::size_t Stopped() const { return m_token; }
 
 private:
     // What stands before, which decides what may follow.
@@ -85,6 +87,7 @@ private:
     Syntax m_syntax;
     std::string_view m_pattern;
     std::size_t m_at = 0;
+    std::size_t m_token = 0; // the start of what is taken
     Last m_last = Last::BranchStart;
     std::vector<Group> m_open;
     bool m_hasBranches = false;

@@ -2,22 +2,47 @@
 #include "host/finding/ResultsModel.h"
 
 #include <algorithm>
-#include <iterator>
 
 namespace {
+
+// The number inside an index: 0 for a file and for the head of the notes, 1 for a note, and for a
+// match that of its file's row and 2.
+constexpr quintptr kTop = 0;
+constexpr quintptr kNote = 1;
+constexpr quintptr kFirstFile = 2;
 
 QString LineNumber(const FileMatch& match)
 {
     return QString::number(match.line + 1) + QStringLiteral(":  ");
 }
 
+// Its part of the line that is shown.
+QString MatchedText(const FileMatch& match)
+{
+    return match.text.mid(match.column - match.textColumn, match.length);
+}
+
+QString OnOneLine(QString text)
+{
+    return text.replace(u'\n', QChar(0x21B5)).remove(u'\r');
+}
+
+// Lines before a change may have become more or fewer.
+bool IsSame(const FileMatch& a, const FileMatch& b)
+{
+    return a.text == b.text && a.column == b.column && a.length == b.length &&
+           a.replacement == b.replacement;
+}
+
 } // namespace
 
-void ResultsModel::Clear()
+void ResultsModel::Clear(bool replaces)
 {
     beginResetModel();
     m_files.clear();
     m_rows.clear();
+    m_notes.clear();
+    m_replaces = replaces;
     endResetModel();
 }
 
@@ -25,81 +50,222 @@ void ResultsModel::Add(FoundFile&& file)
 {
     const auto known = m_rows.constFind(file.path);
     if (known == m_rows.constEnd()) {
-        const int row = static_cast<int>(m_files.size());
+        const int row = FileCount();
         beginInsertRows({}, row, row);
         m_rows.insert(file.path, row);
-        m_files.push_back(std::move(file));
+        std::vector<bool> left(file.matches.size());
+        m_files.push_back({std::move(file), std::move(left)});
         endInsertRows();
         return;
     }
-    FoundFile& into = m_files[static_cast<std::size_t>(*known)];
-    into.count += file.count;
-    const QModelIndex top = index(*known, 0, {});
+    Entry& into = m_files[static_cast<std::size_t>(*known)];
+    into.found.count += file.count;
+    const QModelIndex top = Top(*known);
     if (!file.matches.empty()) {
-        const int first = static_cast<int>(into.matches.size());
+        const int first = static_cast<int>(into.found.matches.size());
         beginInsertRows(top, first, first + static_cast<int>(file.matches.size()) - 1);
-        std::ranges::move(file.matches, std::back_inserter(into.matches));
+        std::ranges::move(file.matches, std::back_inserter(into.found.matches));
+        into.left.resize(into.found.matches.size());
         endInsertRows();
     }
     Q_EMIT dataChanged(top, top);
 }
 
+void ResultsModel::AddNotes(const QStringList& notes)
+{
+    if (notes.isEmpty())
+        return;
+    const int row = FileCount();
+    if (m_notes.isEmpty()) {
+        beginInsertRows({}, row, row);
+        m_notes = {QString()}; // the head counts the others
+        endInsertRows();
+    }
+    const int first = static_cast<int>(m_notes.size()) - 1;
+    beginInsertRows(Top(row), first, first + static_cast<int>(notes.size()) - 1);
+    m_notes += notes;
+    endInsertRows();
+    Q_EMIT dataChanged(Top(row), Top(row));
+}
+
+int ResultsModel::SetMatches(int row, std::vector<FileMatch> matches)
+{
+    Entry& entry = m_files[static_cast<std::size_t>(row)];
+    std::vector<FileMatch>& old = entry.found.matches;
+    const auto [oldEnd, newEnd] = std::ranges::mismatch(old, matches, IsSame);
+    const auto first = oldEnd - old.begin();
+    auto same = std::min(old.size(), matches.size()) - static_cast<std::size_t>(first);
+    std::size_t behind = 0;
+    while (behind < same &&
+           IsSame(old[old.size() - 1 - behind], matches[matches.size() - 1 - behind]))
+        ++behind;
+    const int gone = static_cast<int>(old.size() - behind) - static_cast<int>(first);
+    const int made = static_cast<int>(matches.size() - behind) - static_cast<int>(first);
+    const QModelIndex top = Top(row);
+    if (gone > 0) {
+        beginRemoveRows(top, static_cast<int>(first), static_cast<int>(first) + gone - 1);
+        old.erase(old.begin() + first, old.begin() + first + gone);
+        entry.left.erase(entry.left.begin() + first, entry.left.begin() + first + gone);
+        endRemoveRows();
+    }
+    if (made > 0) {
+        beginInsertRows(top, static_cast<int>(first), static_cast<int>(first) + made - 1);
+        entry.left.insert(entry.left.begin() + first, static_cast<std::size_t>(made), false);
+        old.insert(old.begin() + first, static_cast<std::size_t>(made), {});
+        std::ranges::copy(matches.begin() + first, matches.begin() + first + made,
+                          old.begin() + first);
+        endInsertRows();
+    }
+    old = std::move(matches); // lines are others
+    entry.found.count = static_cast<long>(old.size());
+    entry.leftCount = std::ranges::count(entry.left, true);
+    Q_EMIT dataChanged(top, top);
+    return static_cast<int>(first);
+}
+
 const FoundFile* ResultsModel::FileAt(const QModelIndex& index) const
 {
-    if (!index.isValid())
+    if (!index.isValid() || IsNote(index))
         return nullptr;
-    const std::size_t row =
-        index.internalId() ? index.internalId() - 1 : static_cast<std::size_t>(index.row());
-    return &m_files[row];
+    return &File(index.internalId() == kTop ? index.row()
+                                            : static_cast<int>(index.internalId() - kFirstFile));
 }
 
 const FileMatch* ResultsModel::MatchAt(const QModelIndex& index) const
 {
-    if (!index.isValid() || index.internalId() == 0)
+    if (!index.isValid() || index.internalId() < kFirstFile)
         return nullptr;
     return &FileAt(index)->matches[static_cast<std::size_t>(index.row())];
 }
 
-// The number inside an index is 0 for a file, and for a match that of its file's row and 1.
+const std::vector<bool>& ResultsModel::Left(int row) const
+{
+    return m_files[static_cast<std::size_t>(row)].left;
+}
+
+bool ResultsModel::IsNote(const QModelIndex& index) const
+{
+    return index.internalId() == kNote ||
+           (index.internalId() == kTop && index.row() == FileCount());
+}
+
 QModelIndex ResultsModel::index(int row, int column, const QModelIndex& parent) const
 {
+    if (!parent.isValid())
+        return createIndex(row, column, kTop);
     return createIndex(row, column,
-                       parent.isValid() ? static_cast<quintptr>(parent.row()) + 1 : quintptr{0});
+                       IsNote(parent) ? kNote : static_cast<quintptr>(parent.row()) + kFirstFile);
 }
 
 QModelIndex ResultsModel::parent(const QModelIndex& index) const
 {
-    if (!index.isValid() || index.internalId() == 0)
+    if (!index.isValid() || index.internalId() == kTop)
         return {};
-    return createIndex(static_cast<int>(index.internalId()) - 1, 0, quintptr{0});
+    return Top(index.internalId() == kNote ? FileCount()
+                                           : static_cast<int>(index.internalId() - kFirstFile));
 }
 
 int ResultsModel::rowCount(const QModelIndex& parent) const
 {
     if (!parent.isValid())
-        return static_cast<int>(m_files.size());
-    return parent.internalId() ? 0 : static_cast<int>(FileAt(parent)->matches.size());
+        return FileCount() + (m_notes.isEmpty() ? 0 : 1);
+    if (parent.internalId() != kTop)
+        return 0;
+    return IsNote(parent) ? static_cast<int>(m_notes.size()) - 1
+                          : static_cast<int>(FileAt(parent)->matches.size());
 }
 
 QVariant ResultsModel::data(const QModelIndex& index, int role) const
 {
-    const FoundFile* file = FileAt(index);
-    if (!file)
+    if (!index.isValid())
         return {};
-    const FileMatch* match = MatchAt(index);
-    if (!match) {
-        if (role == Qt::DisplayRole)
-            return QStringLiteral("%1  (%2)").arg(file->path, QString::number(file->count));
-        return role == MatchStart ? QVariant(-1) : QVariant();
+    if (IsNote(index)) {
+        const bool isHead = index.internalId() == kTop;
+        if (role == MatchStart)
+            return -1;
+        if (role != Qt::DisplayRole)
+            return {};
+        return isHead ? tr("Not searched or not replaced  (%1)").arg(m_notes.size() - 1)
+                      : m_notes[index.row() + 1];
     }
+    const bool isFile = index.internalId() == kTop;
+    const int row = isFile ? index.row() : static_cast<int>(index.internalId() - kFirstFile);
+    const Entry& entry = m_files[static_cast<std::size_t>(row)];
+    return isFile ? FileData(entry, role)
+                  : MatchData(entry, static_cast<std::size_t>(index.row()), role);
+}
+
+QVariant ResultsModel::FileData(const Entry& entry, int role) const
+{
     switch (role) {
     case Qt::DisplayRole:
-        return LineNumber(*match) + match->text;
+        return QStringLiteral("%1  (%2)").arg(entry.found.path, QString::number(entry.found.count));
+    case Qt::CheckStateRole:
+        if (!m_replaces)
+            return {};
+        return entry.leftCount == 0                                      ? Qt::Checked
+               : entry.leftCount == static_cast<long>(entry.left.size()) ? Qt::Unchecked
+                                                                         : Qt::PartiallyChecked;
     case MatchStart:
-        return static_cast<int>(LineNumber(*match).size() + match->column - match->textColumn);
-    case MatchLength:
-        return static_cast<int>(match->length);
+        return -1;
     default:
         return {};
     }
+}
+
+QVariant ResultsModel::MatchData(const Entry& entry, std::size_t row, int role) const
+{
+    const FileMatch& match = entry.found.matches[row];
+    const QString replacement = OnOneLine(match.replacement);
+    const auto end = static_cast<qsizetype>(match.column - match.textColumn + match.length);
+    switch (role) {
+    case Qt::DisplayRole:
+        if (!m_replaces)
+            return QString(LineNumber(match) + match.text);
+        return QString(LineNumber(match) + match.text.left(end) + replacement +
+                       match.text.mid(end));
+    case Qt::AccessibleTextRole:
+        if (!m_replaces)
+            return {};
+        return tr("%1%2: \"%3\" becomes \"%4\"")
+            .arg(LineNumber(match), match.text, MatchedText(match), match.replacement);
+    case Qt::CheckStateRole:
+        return m_replaces ? QVariant(entry.left[row] ? Qt::Unchecked : Qt::Checked) : QVariant();
+    case MatchStart:
+        return static_cast<int>(LineNumber(match).size() + match.column - match.textColumn);
+    case MatchLength:
+        return static_cast<int>(MatchedText(match).size());
+    case ReplacementLength:
+        return m_replaces ? static_cast<int>(replacement.size()) : -1;
+    default:
+        return {};
+    }
+}
+
+bool ResultsModel::setData(const QModelIndex& index, const QVariant& value, int role)
+{
+    if (role != Qt::CheckStateRole || !m_replaces || !FileAt(index))
+        return false;
+    const bool isFile = index.internalId() == kTop;
+    const int row = isFile ? index.row() : static_cast<int>(index.internalId() - kFirstFile);
+    Entry& entry = m_files[static_cast<std::size_t>(row)];
+    const bool isLeft = value.toInt() == Qt::Unchecked;
+    if (isFile)
+        entry.left.assign(entry.left.size(), isLeft);
+    else
+        entry.left[static_cast<std::size_t>(index.row())] = isLeft;
+    entry.leftCount = std::ranges::count(entry.left, true);
+    const QModelIndex top = Top(row);
+    Q_EMIT dataChanged(top, top);
+    const int count = rowCount(top);
+    if (count > 0)
+        Q_EMIT dataChanged(this->index(0, 0, top), this->index(count - 1, 0, top));
+    return true;
+}
+
+Qt::ItemFlags ResultsModel::flags(const QModelIndex& index) const
+{
+    Qt::ItemFlags flags = Qt::ItemIsEnabled | Qt::ItemIsSelectable;
+    flags.setFlag(Qt::ItemIsUserCheckable, m_replaces && FileAt(index));
+    return flags;
 }

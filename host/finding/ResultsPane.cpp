@@ -1,17 +1,23 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "host/finding/ResultsPane.h"
 
+#include "editing/ZNCoreEditorControlEx.h"
+#include "host/finding/FileReplacer.h"
+#include "host/finding/FoundTexts.h"
 #include "host/finding/ResultsModel.h"
 
 #include <QApplication>
 #include <QBoxLayout>
+#include <QElapsedTimer>
 #include <QLabel>
+#include <QLineEdit>
 #include <QPainter>
 #include <QPushButton>
 #include <QStyledItemDelegate>
 #include <QTimer>
 #include <QTreeView>
 
+#include <algorithm>
 #include <deque>
 #include <mutex>
 
@@ -24,10 +30,14 @@ public:
         const std::lock_guard lock(m_lock);
         m_found.push_back(std::move(file));
     }
-    void OnNote(FileNote note, const QString& /*path*/) override
+    void OnNote(FileNote note, const QString& path) override
     {
         const std::lock_guard lock(m_lock);
         m_ranAway = m_ranAway || note == FileNote::RanAway;
+        if (note == FileNote::NoExpression)
+            m_fault = path;
+        else
+            m_notes += path + QStringLiteral(": ") + Reason(note);
     }
     void OnDone(const FileSearchTotals& /*totals*/) override
     {
@@ -35,6 +45,19 @@ public:
         m_isDone = true;
     }
 
+    // At most so many.
+    QStringList TakeNotes(qsizetype most)
+    {
+        const std::lock_guard lock(m_lock);
+        const QStringList notes = m_notes.mid(0, most);
+        m_notes.remove(0, notes.size());
+        return notes;
+    }
+    QString Fault() const
+    {
+        const std::lock_guard lock(m_lock);
+        return m_fault;
+    }
     bool Take(FoundFile& file)
     {
         const std::lock_guard lock(m_lock);
@@ -47,7 +70,7 @@ public:
     bool IsDone() const
     {
         const std::lock_guard lock(m_lock);
-        return m_isDone && m_found.empty();
+        return m_isDone && m_found.empty() && m_notes.isEmpty();
     }
     bool RanAway() const
     {
@@ -57,7 +80,25 @@ public:
 
 private:
     mutable std::mutex m_lock;
+    static QString Reason(FileNote note)
+    {
+        switch (note) {
+        case FileNote::Binary:
+            return ResultsPane::tr("no text");
+        case FileNote::Unreadable:
+            return ResultsPane::tr("could not be read");
+        case FileNote::NotAFile:
+            return ResultsPane::tr("a device or a pipe");
+        case FileNote::Loop:
+            return ResultsPane::tr("a folder that has been searched already");
+        default:
+            return ResultsPane::tr("the expression went on for too long");
+        }
+    }
+
     std::deque<FoundFile> m_found;
+    QStringList m_notes;
+    QString m_fault;
     bool m_isDone = false;
     bool m_ranAway = false;
 };
@@ -65,9 +106,13 @@ private:
 namespace {
 
 constexpr int kPortionEvery = 30; // milliseconds
-constexpr int kPortion = 2000;    // matches, so that the window never stands still for long
+constexpr int kPortionTakes = 15; // milliseconds, so that the window never stands still for long
+constexpr int kNotesAtOnce = 1000;
+constexpr int kMostExpanded = 1000;      // matches of a file that are shown unasked
+constexpr int kRest = 300;               // milliseconds without a change
+constexpr long kShortText = 1024 * 1024; // units that are searched in no time
 
-// Lights the match in its line.
+// Lights the match in its line, and what it would become.
 class MatchDelegate final : public QStyledItemDelegate
 {
 public:
@@ -77,28 +122,43 @@ public:
                const QModelIndex& index) const override
     {
         const int start = index.data(ResultsModel::MatchStart).toInt();
-        const QString text = index.data(Qt::DisplayRole).toString();
         if (start >= 0 && !(option.state & QStyle::State_Selected)) {
-            const int margin = QApplication::style()->pixelMetric(QStyle::PM_FocusFrameHMargin) + 1;
-            const int from = option.fontMetrics.horizontalAdvance(text.left(start));
-            const int width = option.fontMetrics.horizontalAdvance(
-                text.mid(start, index.data(ResultsModel::MatchLength).toInt()));
-            QColor light = option.palette.color(QPalette::Highlight);
-            light.setAlpha(90);
-            const QRect place(option.rect.left() + margin + from, option.rect.top(), width,
-                              option.rect.height());
-            painter->fillRect(place.intersected(option.rect), light);
+            const int length = index.data(ResultsModel::MatchLength).toInt();
+            const int replacement = index.data(ResultsModel::ReplacementLength).toInt();
+            const bool replaces = replacement >= 0;
+            Light(*painter, option, index, start, length,
+                  replaces ? QColor(220, 60, 60) : option.palette.color(QPalette::Highlight));
+            if (replaces)
+                Light(*painter, option, index, start + length, replacement, QColor(60, 180, 80));
         }
         QStyledItemDelegate::paint(painter, option, index);
+    }
+
+private:
+    void Light(QPainter& painter, const QStyleOptionViewItem& option, const QModelIndex& index,
+               int start, int length, QColor light) const
+    {
+        QStyleOptionViewItem item = option;
+        initStyleOption(&item, index);
+        const QWidget* widget = option.widget;
+        const QStyle* style = widget ? widget->style() : QApplication::style();
+        const int margin = style->pixelMetric(QStyle::PM_FocusFrameHMargin, nullptr, widget) + 1;
+        const QRect text = style->subElementRect(QStyle::SE_ItemViewItemText, &item, widget);
+        const int from = option.fontMetrics.horizontalAdvance(item.text.left(start));
+        const int width = option.fontMetrics.horizontalAdvance(item.text.mid(start, length));
+        light.setAlpha(90);
+        const QRect place(text.left() + margin + from, text.top(), width, text.height());
+        painter.fillRect(place.intersected(option.rect), light);
     }
 };
 
 } // namespace
 
-ResultsPane::ResultsPane(const QString& title, QWidget* parent)
+ResultsPane::ResultsPane(const QString& title, IFoundTexts& texts, QWidget* parent)
     : QDockWidget(title, parent), m_model(new ResultsModel(this)), m_tree(new QTreeView(this)),
       m_state(new QLabel(this)), m_stop(new QPushButton(tr("&Stop"), this)),
-      m_timer(new QTimer(this))
+      m_timer(new QTimer(this)), m_replaces(new QPushButton(tr("Re&place..."), this)),
+      m_texts(texts), m_rest(new QTimer(this))
 {
     setObjectName(title.simplified().remove(u' '));
     auto* inside = new QWidget(this);
@@ -106,21 +166,61 @@ ResultsPane::ResultsPane(const QString& title, QWidget* parent)
     rows->setContentsMargins({});
     auto* top = new QHBoxLayout;
     top->addWidget(m_state, 1);
+    top->addWidget(m_replaces);
     top->addWidget(m_stop);
     rows->addLayout(top);
+    rows->addWidget(BuildReplaceRow());
     rows->addWidget(m_tree);
     setWidget(inside);
     m_state->setTextFormat(Qt::PlainText);
+    m_state->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Preferred);
     m_tree->setAccessibleName(title);
     m_tree->setHeaderHidden(true);
     m_tree->setUniformRowHeights(true);
     m_tree->setModel(m_model);
     m_tree->setItemDelegate(new MatchDelegate(m_tree));
     m_stop->setEnabled(false);
+    m_rest->setSingleShot(true);
+    m_rest->setInterval(kRest);
     connect(m_stop, &QPushButton::clicked, this, &ResultsPane::Stop);
     connect(m_tree, &QTreeView::activated, this, &ResultsPane::Choose);
     connect(m_timer, &QTimer::timeout, this, &ResultsPane::TakePortion);
+    connect(m_rest, &QTimer::timeout, this, &ResultsPane::RefreshShort);
     ShowState();
+}
+
+QWidget* ResultsPane::BuildReplaceRow()
+{
+    m_replaceRow = new QWidget(this);
+    auto* row = new QHBoxLayout(m_replaceRow);
+    row->setContentsMargins({});
+    m_replacement = new QLineEdit(m_replaceRow);
+    auto* label = new QLabel(tr("Replace &with"), m_replaceRow);
+    label->setBuddy(m_replacement);
+    m_replacement->setObjectName(QStringLiteral("replacement"));
+    m_replacement->setAccessibleDescription(
+        tr("What the matches are to become. Enter shows it for each of them"));
+    auto* preview = new QPushButton(tr("Pre&view"), m_replaceRow);
+    m_replace = new QPushButton(tr("&Replace Checked"), m_replaceRow);
+    row->addWidget(label);
+    row->addWidget(m_replacement, 1);
+    row->addWidget(preview);
+    row->addWidget(m_replace);
+    m_replaceRow->hide();
+    m_replace->setEnabled(false);
+    m_replaces->setCheckable(true);
+    const auto show = [this] { Preview(m_replacement->text()); };
+    connect(m_replacement, &QLineEdit::returnPressed, this, show);
+    connect(preview, &QPushButton::clicked, this, show);
+    connect(m_replacement, &QLineEdit::textEdited, m_replace,
+            [this] { m_replace->setEnabled(false); });
+    connect(m_replace, &QPushButton::clicked, this, &ResultsPane::ReplaceChosen);
+    connect(m_replaces, &QPushButton::toggled, this, [this](bool on) {
+        m_replaceRow->setVisible(on);
+        if (on)
+            m_replacement->setFocus();
+    });
+    return m_replaceRow;
 }
 
 ResultsPane::~ResultsPane()
@@ -131,49 +231,89 @@ ResultsPane::~ResultsPane()
 void ResultsPane::Search(FileSearchRequest request)
 {
     m_search.reset();
-    m_model->Clear();
-    m_sought = request.text;
+    EndReplacing();
+    m_model->Clear(request.replaces);
+    m_changed.clear();
+    m_outcome.clear();
+    m_request = request;
+    m_request.open.clear();
     m_inbox = std::make_unique<ResultsInbox>();
     m_search = std::make_unique<CFileSearch>(std::move(request), *m_inbox);
     m_search->Start();
     m_timer->start(kPortionEvery);
     m_stop->setEnabled(true);
+    m_replace->setEnabled(false);
+    m_replaces->setEnabled(false);
     ShowState();
+}
+
+void ResultsPane::Preview(const QString& replacement)
+{
+    if (m_request.text.isEmpty() || m_search)
+        return;
+    FileSearchRequest request = m_request;
+    request.countOnly = false;
+    request.replaces = true;
+    request.replacement = replacement;
+    request.open = m_texts.All();
+    Search(std::move(request));
 }
 
 void ResultsPane::Stop()
 {
     if (m_search)
         m_search->Stop();
+    if (m_replacer)
+        m_nextFile = m_model->FileCount();
 }
 
 void ResultsPane::TakePortion()
 {
-    FoundFile file;
-    for (long taken = 0; taken < kPortion && m_inbox->Take(file);) {
-        taken += 1 + static_cast<long>(file.matches.size());
-        const bool isFirst = !HasResults();
-        m_model->Add(std::move(file));
-        if (isFirst)
-            m_tree->expand(m_model->index(0, 0, {}));
-    }
+    TakeFound();
     ShowState();
     if (!m_inbox->IsDone())
         return;
     m_timer->stop();
     m_search.reset();
     m_stop->setEnabled(false);
+    m_replaces->setEnabled(true);
+    m_replace->setEnabled(m_request.replaces && HasResults());
+}
+
+void ResultsPane::TakeFound()
+{
+    QElapsedTimer clock;
+    clock.start();
+    m_model->AddNotes(m_inbox->TakeNotes(kNotesAtOnce));
+    FoundFile file;
+    while (clock.elapsed() < kPortionTakes && m_inbox->Take(file)) {
+        const int known = m_model->RowOf(file.path);
+        const bool isFirst = m_model->FileCount() == 0;
+        // A tree lays all open rows out again for each that comes.
+        if (known == 0 && m_tree->isExpanded(m_model->index(0, 0, {})) &&
+            m_model->File(0).matches.size() > kMostExpanded)
+            m_tree->collapse(m_model->index(0, 0, {}));
+        m_model->Add(std::move(file));
+        if (isFirst && m_model->File(0).matches.size() <= kMostExpanded)
+            m_tree->expand(m_model->index(0, 0, {}));
+    }
 }
 
 void ResultsPane::ShowState()
 {
-    if (!m_search) {
+    if (m_search)
+        m_state->setText(StateOf(m_search->Totals()));
+    else if (m_request.text.isEmpty())
         m_state->setText(tr("No search"));
-        return;
-    }
-    const FileSearchTotals totals = m_search->Totals();
+    m_state->setToolTip(m_state->text());
+}
+
+QString ResultsPane::StateOf(const FileSearchTotals& totals) const
+{
+    if (const QString fault = m_inbox->Fault(); !fault.isEmpty())
+        return tr("'%1': %2").arg(m_request.text, fault);
     QString text = tr("'%1': %2 matches in %3 of %4 files")
-                       .arg(m_sought, QString::number(totals.matches),
+                       .arg(m_request.text, QString::number(totals.matches),
                             QString::number(totals.found), QString::number(totals.files));
     if (totals.failures > 0)
         text += tr(", %1 not read").arg(totals.failures);
@@ -183,30 +323,157 @@ void ResultsPane::ShowState()
         text += tr(". The expression went on for too long in some of them");
     if (totals.isStopped)
         text += tr(". Stopped");
-    m_state->setText(m_inbox->IsDone() ? text : tr("Searching: ") + text);
+    return m_inbox->IsDone() ? text : tr("Searching: ") + text;
+}
+
+// A file at a time, so that the window goes on.
+void ResultsPane::ReplaceChosen()
+{
+    if (m_search || m_replacer || !m_request.replaces)
+        return;
+    m_replacer = std::make_unique<FileReplacer>(m_request);
+    m_nextFile = m_filesReplaced = 0;
+    m_replaced = 0;
+    m_notReplaced.clear();
+    m_replace->setEnabled(false);
+    m_stop->setEnabled(true);
+    QTimer::singleShot(0, this, &ResultsPane::ReplaceInNext);
+}
+
+void ResultsPane::ReplaceInNext()
+{
+    if (!m_replacer)
+        return;
+    if (m_nextFile >= m_model->FileCount()) {
+        EndReplacing();
+        return;
+    }
+    const int row = m_nextFile++;
+    const FoundFile& file = m_model->File(row);
+    const std::vector<bool>& left = m_model->Left(row);
+    if (std::ranges::find(left, false) != left.end()) {
+        CZNCoreEditorControlEx* editor = m_texts.EditorOf(file.path);
+        if (editor)
+            Refresh(file.path);
+        const FileReplacer::Outcome outcome = m_replacer->Replace(file, left, editor);
+        m_replaced += outcome.replaced;
+        m_filesReplaced += outcome.replaced > 0;
+        if (!outcome.reason.isEmpty())
+            m_notReplaced += tr("%1: %2").arg(file.path, outcome.reason);
+        else
+            CheckFile(row);
+    }
+    m_state->setText(tr("Replacing: %1 of %2 files").arg(m_nextFile).arg(m_model->FileCount()));
+    QTimer::singleShot(0, this, &ResultsPane::ReplaceInNext);
+}
+
+void ResultsPane::EndReplacing()
+{
+    if (!m_replacer)
+        return;
+    m_replacer.reset();
+    m_stop->setEnabled(false);
+    m_model->AddNotes(m_notReplaced);
+    m_outcome = tr("%1 matches replaced in %2 files").arg(m_replaced).arg(m_filesReplaced);
+    if (!m_notReplaced.isEmpty())
+        m_outcome += tr(". %1 files were left as they are, see the end of the list")
+                         .arg(m_notReplaced.size());
+    m_state->setText(m_outcome);
+    m_state->setToolTip(m_outcome);
+}
+
+void ResultsPane::OnTextChanged(const QString& path)
+{
+    if (m_model->RowOf(path) < 0 || m_request.countOnly)
+        return;
+    m_changed.insert(path);
+    m_rest->start();
+}
+
+// A long text is looked at when somebody wants to see a match of it.
+void ResultsPane::RefreshShort()
+{
+    const QSet<QString> changed = m_changed;
+    for (const QString& path : changed) {
+        CZNCoreEditorControlEx* editor = m_texts.EditorOf(path);
+        if (!editor || editor->GetLength(1) <= kShortText)
+            Refresh(path);
+    }
+}
+
+void ResultsPane::Refresh(const QString& path)
+{
+    if (!m_changed.remove(path) || m_search)
+        return;
+    if (const int row = m_model->RowOf(path); row >= 0)
+        CheckFile(row);
+}
+
+// Finds the matches of a text that is open again. Where the current one has gone, the way on is
+// from the one before it.
+void ResultsPane::CheckFile(int row)
+{
+    CZNCoreEditorControlEx* editor = m_texts.EditorOf(m_model->File(row).path);
+    if (!editor)
+        return;
+    const QPersistentModelIndex current = m_tree->currentIndex();
+    const QModelIndex top = m_model->index(row, 0, {});
+    const bool wasHere = current.isValid() && current.parent() == top;
+    const int first = m_model->SetMatches(row, MatchesIn(editor->GetText(), m_request));
+    if (wasHere && !current.isValid())
+        m_tree->setCurrentIndex(first > 0 ? m_model->index(first - 1, 0, top) : top);
 }
 
 bool ResultsPane::HasResults() const
 {
-    return m_model->rowCount({}) > 0;
+    return m_model->FileCount() > 0;
 }
 
+// What the file held when it was searched may be elsewhere in what is opened.
 void ResultsPane::Choose(const QModelIndex& index)
 {
     const FoundFile* file = m_model->FileAt(index);
     const FileMatch* match = m_model->MatchAt(index);
-    if (match)
-        Q_EMIT Chosen(file->path, match->line, match->column, match->length);
-    else if (file)
+    if (!file)
+        return;
+    if (!match) {
         m_tree->setExpanded(index, true);
+        return;
+    }
+    const QString path = file->path;
+    const FileMatch found = *match;
+    const int row = index.row();
+    QPersistentModelIndex place = index;
+    const bool wasOpen = m_texts.EditorOf(path) != nullptr;
+    if (!m_texts.Open(path))
+        return;
+    const bool isListed = !m_search && !m_request.countOnly;
+    if (wasOpen)
+        Refresh(path);
+    else if (isListed)
+        CheckFile(m_model->RowOf(path));
+    if (!place.isValid()) { // it is another by now, or none
+        const QModelIndex top = m_model->index(m_model->RowOf(path), 0, {});
+        const int count = m_model->rowCount(top);
+        if (count > 0)
+            place = m_model->index(std::min(row, count - 1), 0, top);
+        m_tree->setCurrentIndex(count > 0 ? QModelIndex(place) : top);
+    }
+    const FileMatch* now = m_model->MatchAt(place);
+    const FileMatch& shown = now ? *now : found;
+    Q_EMIT Chosen(shown.line, shown.column, now ? shown.length : 0);
 }
 
 void ResultsPane::GoOn(bool forward)
 {
-    const int files = m_model->rowCount({});
+    const QSet<QString> changed = m_changed;
+    for (const QString& path : changed)
+        Refresh(path);
+    const int files = m_model->FileCount();
     const QModelIndex current = m_tree->currentIndex();
     const bool isMatch = m_model->MatchAt(current) != nullptr;
     int file = isMatch ? current.parent().row() : current.isValid() ? current.row() : 0;
+    file = std::min(file, files - 1);
     int match = isMatch ? current.row() : -1;
     for (int passed = 0; passed <= files; ++passed) {
         const QModelIndex top = m_model->index(file, 0, {});

@@ -239,6 +239,7 @@ void ScriptDoc::OnTextChanged()
         return;
     m_checker->CheckSoon();
     m_lineEnds->TextChanged();
+    Q_EMIT TextChanged();
 }
 
 // A No ends the tracking: the text that is kept is not to be lost without a further question. A Yes

@@ -75,7 +75,8 @@ public:
     void OnFocus(); // what others did to the file has been asked about
 
 Q_SIGNALS:
-    void StateChanged();    // text, caret, modified flag, zoom: anything that a window shows
+    void StateChanged(); // text, caret, modified flag, zoom: anything that a window shows
+    void TextChanged();
     void LanguageChanged(); // the looks are those of the language again, in all views
     void ProblemsChanged();
 

@@ -159,6 +159,7 @@ void MainWindow::Follow(ScriptDoc& script)
 {
     script.disconnect(this);
     connect(&script, &ScriptDoc::StateChanged, this, [this, &script] { OnScriptChanged(script); });
+    connect(&script, &ScriptDoc::TextChanged, this, [this, &script] { TellResults(script); });
     connect(&script, &ScriptDoc::ProblemsChanged, this, [this, &script] {
         const ScriptFrame* frame = CurrentFrame();
         if (frame && frame->Script() == &script)

@@ -77,6 +77,7 @@ private:
     struct Command;
     enum class When;
     class SearchLine;
+    class FoundTexts;
     static std::span<const Command> Commands();
 
     void BuildMenus();
@@ -96,8 +97,9 @@ private:
     void ShowSource(const QString& path, long line);
     void UpdateTitle();
     void BuildResults();
+    void TellResults(const ScriptDoc& script); // that its text has changed
     std::shared_ptr<void> MakeSearchLine();
-    void ShowMatch(const QString& path, long line, long column, long length);
+    void ShowMatch(long line, long column, long length);
 
     void KeepSessionSoon();
     void KeepSession();
@@ -110,6 +112,7 @@ private:
     LanguageMenu* m_languages = nullptr;
     ProblemPane* m_problems;
     ExpandedScript* m_expanded;
+    std::shared_ptr<FoundTexts> m_foundTexts;
     std::vector<ResultsPane*> m_results; // two of them
     ResultsPane* m_shownResults = nullptr;
     std::shared_ptr<void> m_searchLine; // what a search as one types says

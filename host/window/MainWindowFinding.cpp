@@ -3,6 +3,7 @@
 #include "docview/SearchStatus.h"
 #include "docview/ZNCoreEditorView.h"
 #include "editing/ZNCoreEditorControlEx.h"
+#include "host/finding/FoundTexts.h"
 #include "host/finding/ResultsPane.h"
 #include "host/script/ScriptDoc.h"
 #include "host/script/ScriptFrame.h"
@@ -57,6 +58,51 @@ private:
     QPointer<QStatusBar> m_bar;
 };
 
+class MainWindow::FoundTexts final : public IFoundTexts
+{
+public:
+    explicit FoundTexts(MainWindow& window) : m_window(window) {}
+
+    CZNCoreEditorControlEx* EditorOf(const QString& path) const override
+    {
+        const ScriptDoc* script = Of(path);
+        return script ? &script->FirstView()->GetCoreEditorControlRef() : nullptr;
+    }
+
+    CZNCoreEditorControlEx* Open(const QString& path) override
+    {
+        if (const ScriptDoc* script = Of(path)) {
+            if (CFrameWnd* frame = script->FirstView()->GetParentFrame())
+                frame->ActivateFrame();
+        } else if (!m_window.m_app.OpenDocumentFile(path)) {
+            return nullptr;
+        }
+        const ScriptFrame* frame = m_window.CurrentFrame();
+        return frame ? &frame->Editor() : nullptr;
+    }
+
+    std::vector<OpenText> All() const override
+    {
+        std::vector<OpenText> texts;
+        for (const ScriptDoc* script : m_window.m_app.Scripts())
+            texts.push_back(
+                {NameOf(*script), script->FirstView()->GetCoreEditorControlRef().GetText()});
+        return texts;
+    }
+
+private:
+    const ScriptDoc* Of(const QString& path) const
+    {
+        for (const ScriptDoc* script : m_window.m_app.Scripts()) {
+            if (NameOf(*script) == path && script->FirstView())
+                return script;
+        }
+        return nullptr;
+    }
+
+    MainWindow& m_window;
+};
+
 std::shared_ptr<void> MainWindow::MakeSearchLine()
 {
     return std::make_shared<SearchLine>(statusBar());
@@ -64,8 +110,9 @@ std::shared_ptr<void> MainWindow::MakeSearchLine()
 
 void MainWindow::BuildResults()
 {
+    m_foundTexts = std::make_shared<FoundTexts>(*this);
     for (const char* title : {"Find Results", "Find Results 2"}) {
-        auto* pane = new ResultsPane(QLatin1String(title), this);
+        auto* pane = new ResultsPane(QLatin1String(title), *m_foundTexts, this);
         addDockWidget(Qt::BottomDockWidgetArea, pane);
         pane->hide();
         connect(pane, &ResultsPane::Chosen, this, &MainWindow::ShowMatch);
@@ -95,9 +142,7 @@ void MainWindow::FindInFiles()
     request.types = manager.GetFileType();
     request.folders = dialog.m_aFolders;
     request.openOnly = manager.GetFindIn() == kInOpenFiles;
-    for (const ScriptDoc* script : m_app.Scripts())
-        request.open.push_back(
-            {NameOf(*script), script->FirstView()->GetCoreEditorControlRef().GetText()});
+    request.open = m_foundTexts->All();
     m_shownResults = m_results[manager.GetOutputPane2() ? 1 : 0];
     m_shownResults->Search(std::move(request));
     m_shownResults->show();
@@ -120,20 +165,17 @@ void MainWindow::StopSearch()
         pane->Stop();
 }
 
-// A place that the script has no longer is the nearest that it has.
-void MainWindow::ShowMatch(const QString& path, long line, long column, long length)
+void MainWindow::TellResults(const ScriptDoc& script)
 {
-    bool isOpen = false;
-    for (const ScriptDoc* script : m_app.Scripts()) {
-        if (NameOf(*script) != path)
-            continue;
-        if (CFrameWnd* frame = script->FirstView()->GetParentFrame())
-            frame->ActivateFrame();
-        isOpen = true;
-        break;
-    }
-    if (!isOpen && !m_app.OpenDocumentFile(path))
-        return;
+    const QString name = NameOf(script);
+    for (ResultsPane* pane : m_results)
+        pane->OnTextChanged(name);
+}
+
+// In the script that has come to the front. A place that it has no longer is the nearest that it
+// has.
+void MainWindow::ShowMatch(long line, long column, long length)
+{
     const ScriptFrame* frame = CurrentFrame();
     if (!frame)
         return;

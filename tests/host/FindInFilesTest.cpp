@@ -13,6 +13,8 @@
 #include <QTimer>
 #include <QTreeView>
 
+#include <unistd.h>
+
 namespace {
 
 constexpr UINT kFindBox = 28139;
@@ -43,6 +45,23 @@ protected:
         });
         Action("findInFiles").trigger();
         ASSERT_TRUE(QTest::qWaitFor([this] { return !Pane().IsSearching(); }));
+    }
+    void Replace(const char* replacement)
+    {
+        Pane().Preview(QLatin1String(replacement));
+        ASSERT_TRUE(QTest::qWaitFor([this] { return !Pane().IsSearching(); }));
+        Pane().ReplaceChosen();
+        ASSERT_TRUE(QTest::qWaitFor([this] { return !Pane().IsReplacing(); }));
+    }
+    QAbstractItemModel& Model() const { return *Pane().ListArea()->model(); }
+    QModelIndex File(int row) const { return Model().index(row, 0); }
+    QModelIndex Match(int file, int row) const { return Model().index(row, 0, File(file)); }
+    QStringList Rows(int file) const
+    {
+        QStringList rows;
+        for (int row = 0; row < Model().rowCount(File(file)); ++row)
+            rows += Match(file, row).data().toString();
+        return rows;
     }
     ResultsPane& Pane() const
     {
@@ -87,4 +106,126 @@ TEST_F(FindInFilesInWindow, ShowsASearchAsOneTypesInTheStatusBar)
     EXPECT_EQ(m_window.statusBar()->currentMessage(), "Incremental search: a   2 matches");
     Frame().View()->StopIncrementalSearch();
     EXPECT_EQ(m_window.statusBar()->currentMessage(), "");
+}
+
+TEST_F(FindInFilesInWindow, FollowsTheTextsThatAreEdited)
+{
+    Open("a.sql", "one\ntwo one\nthe one\n");
+    Search("one");
+    EXPECT_EQ(Rows(0), QStringList({"1:  one", "2:  two one", "3:  the one"}));
+    Trigger("nextResult");
+    Trigger("nextResult");
+    Editor().SetText(u"\nfirst\none\nTWO\nthe one\n", 1); // the second is gone
+    Trigger("nextResult");
+    EXPECT_EQ(Rows(0), QStringList({"3:  one", "5:  the one"}));
+    EXPECT_EQ(Editor().GetCurLineNumber(), 4);
+    Editor().Undo(1);
+    EXPECT_TRUE(QTest::qWaitFor([this] { return Rows(0).size() == 3; })) << "once the text rests";
+}
+
+TEST_F(FindInFilesInWindow, LooksAgainIntoAFileThatOthersHaveChanged)
+{
+    Write("a.sql", "one\ntwo\n");
+    Search("two");
+    Write("a.sql", "zero\none\nand two\n");
+    Trigger("nextResult");
+    EXPECT_EQ(Rows(0), QStringList("3:  and two"));
+    EXPECT_EQ(Editor().GetSelectionStart(1), 13);
+    Write("a.sql", "nothing of it\n");
+    m_window.ShowTab(0);
+    Script().OnCloseDocument();
+    Trigger("nextResult");
+    EXPECT_EQ(Rows(0), QStringList());
+}
+
+TEST_F(FindInFilesInWindow, ShowsMatchesOfATextThatHasBeenClosed)
+{
+    Open("a.sql", "one");
+    Editor().SetText(u"edited one", 1);
+    Search("one");
+    EXPECT_EQ(Rows(0), QStringList("1:  edited one"));
+    Script().OnCloseDocument();
+    Trigger("nextResult");
+    EXPECT_EQ(Rows(0), QStringList("1:  one")) << "as the file has it";
+    EXPECT_EQ(Editor().GetSelectionStart(1), 0);
+}
+
+TEST_F(FindInFilesInWindow, ListsWhatWasNotSearched)
+{
+    Write("a.sql", QByteArray("one\0\0\0\1", 7));
+    Search("one");
+    ASSERT_EQ(Model().rowCount(), 1);
+    EXPECT_EQ(File(0).data().toString(), "Not searched or not replaced  (1)");
+    EXPECT_EQ(Rows(0), QStringList(PathOf("a.sql") + ": no text"));
+    Trigger("nextResult");
+    EXPECT_EQ(m_window.TabCount(), 0);
+}
+
+TEST_F(FindInFilesInWindow, ReplacesWhatIsNotLeftOut)
+{
+    Write("a.sql", "one\r\none one\r\n");
+    Open("b.sql", "one, one");
+    Search("one");
+    Pane().Preview("three");
+    ASSERT_TRUE(QTest::qWaitFor([this] { return !Pane().IsSearching(); }));
+    const int closed = File(0).data().toString().contains("a.sql") ? 0 : 1;
+    EXPECT_EQ(Rows(closed), QStringList({"1:  onethree", "2:  onethree one", "2:  one onethree"}));
+    Model().setData(Match(closed, 1), Qt::Unchecked, Qt::CheckStateRole);
+    EXPECT_EQ(File(closed).data(Qt::CheckStateRole), Qt::PartiallyChecked);
+    Model().setData(Match(1 - closed, 0), Qt::Unchecked, Qt::CheckStateRole);
+    Pane().ReplaceChosen();
+    ASSERT_TRUE(QTest::qWaitFor([this] { return !Pane().IsReplacing(); }));
+    EXPECT_EQ(Read("a.sql"), "three\r\none three\r\n");
+    EXPECT_EQ(Text(), "one, three");
+    EXPECT_EQ(Read("b.sql"), "one, one") << "what is open is not saved";
+    Editor().Undo(1);
+    EXPECT_EQ(Text(), "one, one");
+}
+
+TEST_F(FindInFilesInWindow, ReplacesInTheFilesOwnEncoding)
+{
+    Write("a.sql", "stra\xDF"
+                   "e one\n");
+    Write("b.sql", QByteArray("\xFF\xFEo\0n\0e\0", 8));
+    Search("one");
+    Replace("two");
+    EXPECT_EQ(Read("a.sql"), "stra\xDF"
+                             "e two\n");
+    EXPECT_EQ(Read("b.sql"), QByteArray("\xFF\xFEt\0w\0o\0", 8));
+}
+
+TEST_F(FindInFilesInWindow, ReportsWhatWasNotReplaced)
+{
+    Write("changed.sql", "one");
+    Write("latin.sql", "\xE4\xF6\xFC one");
+    Write("sealed.sql", "\u00e4 one");
+    QFile::setPermissions(PathOf("sealed.sql"), QFile::ReadOwner);
+    Write("well.sql", "\u00e4 one");
+    Search("one");
+    Pane().Preview(QString::fromUtf8("\u0436"));
+    ASSERT_TRUE(QTest::qWaitFor([this] { return !Pane().IsSearching(); }));
+    Write("changed.sql", "no, one");
+    Pane().ReplaceChosen();
+    ASSERT_TRUE(QTest::qWaitFor([this] { return !Pane().IsReplacing(); }));
+    EXPECT_EQ(Read("changed.sql"), "no, one");
+    EXPECT_EQ(Read("latin.sql"), "\xE4\xF6\xFC one");
+    EXPECT_EQ(Read("well.sql"), "\u00e4 \u0436");
+    QStringList notes = Rows(4);
+    notes.sort();
+    const bool mayAll = geteuid() == 0; // what is sealed is not sealed for that one
+    ASSERT_EQ(notes.size(), mayAll ? 2 : 3) << notes.join('\n').toStdString();
+    EXPECT_EQ(notes[0], PathOf("changed.sql") + ": its text is another one by now");
+    EXPECT_TRUE(notes[1].startsWith(PathOf("latin.sql") + ": its encoding does not have"));
+}
+
+TEST_F(FindInFilesInWindow, TellsWhatIsWrongWithAnExpression)
+{
+    CFindReplaceManager& manager = *zncoreeditor::GetFindReplaceManager();
+    manager.SetRegExp(true);
+    Search("\\(one");
+    manager.SetRegExp(false);
+    const auto labels = Pane().findChildren<QLabel*>();
+    EXPECT_TRUE(std::ranges::any_of(labels, [](const QLabel* label) {
+        return label->text() == "'\\(one': The expression is not complete.";
+    }));
 }

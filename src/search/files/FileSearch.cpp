@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "search/files/FileSearch.h"
 
+#include "search/files/ExpressionFault.h"
 #include "search/files/FileText.h"
 #include "search/files/TextSearch.h"
 
@@ -132,11 +133,13 @@ private:
     mutable std::mutex m_listenerLock;
     FileSearchTotals m_totals;
     bool m_saidRunAway = false;
+    QString m_fault; // of the expression
 };
 
 void CFileSearch::Job::Start()
 {
     std::vector<Task> tasks;
+    m_fault = m_request.regExp ? ExpressionFault(m_request.text) : QString();
     for (const QString& folder : m_request.openOnly ? QStringList() : m_request.folders)
         tasks.push_back({Task::Folder, QFile::encodeName(folder).toStdString()});
     for (std::size_t i = m_request.open.size(); i-- > 0;) {
@@ -148,6 +151,8 @@ void CFileSearch::Job::Start()
         if (m_request.openOnly)
             tasks.push_back({Task::Open, {}, i});
     }
+    if (!m_fault.isEmpty())
+        tasks.clear();
     Add(tasks);
     const int threads = m_request.threads > 0
                             ? m_request.threads
@@ -203,6 +208,8 @@ void CFileSearch::Job::Run()
         return;
     const std::lock_guard lock(m_listenerLock);
     m_totals.isStopped = m_stop;
+    if (!m_fault.isEmpty())
+        m_listener.OnNote(FileNote::NoExpression, m_fault);
     m_listener.OnDone(m_totals);
 }
 
@@ -306,7 +313,7 @@ void CFileSearch::Job::SearchFile(const std::string& name, TextSearch& search)
         search.Begin();
         bool isLast = false;
         while (!isLast && !m_stop && !search.RanAway()) {
-            isLast = !file.Read(search.Buffer(), TextSearch::kPiece);
+            isLast = !file.Read(search.Buffer(), search.Piece());
             if (file.NeedsConversion())
                 break;
             FoundFile found;
@@ -379,6 +386,17 @@ void CFileSearch::Job::NoteRunAway(const QString& path)
         return;
     m_saidRunAway = true;
     m_listener.OnNote(FileNote::RanAway, path);
+}
+
+std::vector<FileMatch> MatchesIn(const QString& text, const FileSearchRequest& request)
+{
+    const std::atomic<bool> stop = false;
+    TextSearch search(request, stop);
+    search.Begin();
+    search.Buffer() = text.toUtf8().toStdString();
+    std::vector<FileMatch> matches;
+    search.Search(true, 0, matches);
+    return matches;
 }
 
 CFileSearch::CFileSearch(FileSearchRequest request, IFileSearchListener& listener)

@@ -26,6 +26,8 @@ struct FileSearchRequest
     bool matchCase = false;
     bool regExp = false;
     bool countOnly = false; // matches are counted, and not described
+    bool replaces = false;  // each match tells what it would become
+    QString replacement;    // an expression's has \\1 to \\9
 
     bool openOnly = false; // the open texts, and no files
     std::vector<OpenText> open;
@@ -44,6 +46,9 @@ struct FileMatch
     long length = 0;     // over line ends, too
     long textColumn = 0; // where in the line the text begins
     QString text;        // the line, or of a long one what is around the match
+    QString replacement; // where the request replaces
+
+    bool operator==(const FileMatch&) const = default;
 };
 
 // A file may come several times, with the matches that follow.
@@ -58,11 +63,12 @@ struct FoundFile
 
 enum class FileNote
 {
-    Binary,     // zeros in what is no text
-    Unreadable, // it may not be read, is gone, or ended early
-    NotAFile,   // a device, a pipe, a socket
-    Loop,       // a link to a folder that is searched already
-    RanAway,    // the expression went on for too long: what is left of the text is not searched
+    Binary,       // zeros in what is no text
+    Unreadable,   // it may not be read, is gone, or ended early
+    NotAFile,     // a device, a pipe, a socket
+    Loop,         // a link to a folder that is searched already
+    NoExpression, // what is sought is none: in the place of the path stands why
+    RanAway,      // the expression went on for too long: what is left of the text is not searched
 };
 
 struct FileSearchTotals
@@ -83,9 +89,14 @@ public:
     virtual ~IFileSearchListener();
 
     virtual void OnFound(FoundFile&& file) = 0;
-    virtual void OnNote(FileNote note, const QString& path) = 0; // RanAway comes once
-    virtual void OnDone(const FileSearchTotals& totals) = 0;     // the last call
+    // RanAway comes once, NoExpression alone.
+    virtual void OnNote(FileNote note, const QString& path) = 0;
+    virtual void OnDone(const FileSearchTotals& totals) = 0; // the last call
 };
+
+// All matches in one text, found on the calling thread. What is open and which files are meant
+// plays no part.
+ZN_API std::vector<FileMatch> MatchesIn(const QString& text, const FileSearchRequest& request);
 
 class ZN_API CFileSearch
 {

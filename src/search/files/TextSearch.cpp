@@ -139,6 +139,9 @@ double Clock()
     return engine::search::ThreadSeconds() + t_passed;
 }
 
+constexpr std::size_t kTextOverlap = 256 * 1024;        // bytes, and the text sought
+constexpr std::size_t kExpressionOverlap = 1024 * 1024; // bytes
+constexpr std::size_t kLongestMatch = 8 * 1024 * 1024;  // that waits for its end
 constexpr double kSeconds = 2;
 constexpr double kBriefSeconds = 0.1;
 
@@ -162,6 +165,8 @@ std::string PieceText::WordCharacters() const
 
 TextSearch::TextSearch(const FileSearchRequest& request, const std::atomic<bool>& stop)
     : m_request(request), m_stop(stop), m_sought(request.text.toUtf8().toStdString()),
+      m_replacement(request.replacement.toUtf8().toStdString()),
+      m_overlap(request.regExp ? kExpressionOverlap : kTextOverlap + m_sought.size()),
       m_flags((request.wholeWord ? flag::WholeWord : 0) |
               (request.matchCase ? flag::MatchCase : 0) | (request.regExp ? flag::Expression : 0)),
       m_searcher(m_text, {kSeconds, Clock})
@@ -244,6 +249,9 @@ FileMatch TextSearch::Describe(std::size_t start, std::size_t end)
     }
     match.text = m_lineText;
     match.textColumn = m_place.column - UnitsIn(text.substr(from, start - from));
+    if (m_request.replaces)
+        match.replacement = m_request.regExp ? TextOf(m_searcher.Substituted(m_replacement))
+                                             : m_request.replacement;
     return match;
 }
 
@@ -265,7 +273,7 @@ long TextSearch::Search(bool isLast, long skip, std::vector<FileMatch>& matches)
     const std::size_t size = m_text.bytes.size();
     std::size_t cut = size;
     if (!isLast) {
-        cut = size > kOverlap ? size - kOverlap : 0;
+        cut = size > m_overlap ? size - m_overlap : 0;
         while (cut > 0 && IsInside(m_text.bytes[cut]))
             --cut;
     }
@@ -277,6 +285,12 @@ long TextSearch::Search(bool isLast, long skip, std::vector<FileMatch>& matches)
         m_ranAway = m_searcher.Stopped() != stopped;
         if (!found || (!isLast && found->start >= static_cast<long>(cut)))
             break;
+        // It may go on in the next piece.
+        if (!isLast && found->end == static_cast<long>(size) &&
+            size - static_cast<std::size_t>(found->start) < kLongestMatch) {
+            cut = static_cast<std::size_t>(found->start);
+            break;
+        }
         if (m_count++ >= skip && !m_request.countOnly)
             matches.push_back(Describe(static_cast<std::size_t>(found->start),
                                        static_cast<std::size_t>(found->end)));
@@ -291,8 +305,8 @@ long TextSearch::Search(bool isLast, long skip, std::vector<FileMatch>& matches)
     if (!isLast) {
         m_from = std::max(m_from, static_cast<long>(cut));
         // Enough stays in front for what looks back.
-        if (cut > kOverlap) {
-            std::size_t drop = cut - kOverlap;
+        if (cut > kTextOverlap) {
+            std::size_t drop = cut - kTextOverlap;
             while (drop > 0 && IsInside(m_text.bytes[drop]))
                 --drop;
             drop = std::max(drop, m_place.at);

@@ -30,11 +30,9 @@ public:
 class TextSearch
 {
 public:
-    // Bytes of a piece. A match that is longer than the overlap may be lost between two pieces.
-    static constexpr std::size_t kPiece = 1024 * 1024;
-    static constexpr std::size_t kOverlap = 64 * 1024;
-
     TextSearch(const FileSearchRequest& request, const std::atomic<bool>& stop);
+
+    std::size_t Piece() const { return 4 * m_overlap; } // bytes that are best appended at once
 
     // Starts on another text. Appends its next piece to Buffer; Search finds what can be found.
     void Begin();
@@ -62,6 +60,10 @@ private:
     const FileSearchRequest& m_request;
     const std::atomic<bool>& m_stop;
     std::string m_sought;
+    std::string m_replacement;
+    // Of a piece, what the next one has again. An expression's match that is longer may be lost
+    // where two pieces meet.
+    std::size_t m_overlap;
     int m_flags;
     PieceText m_text;
     engine::search::Searcher m_searcher;

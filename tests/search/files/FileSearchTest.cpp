@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 // A search through files, and what it makes of odd ones.
 #include "search/files/FileSearch.h"
+#include "platform/windows/Questions.h"
+#include "search/files/ExpressionFault.h"
 #include "tests/search/FindFixture.h"
 
 #include <QDir>
@@ -104,6 +106,53 @@ TEST_F(FileSearches, TellPlacesInUnitsAndTheTextOfTheLine)
     EXPECT_EQ(matches[0].text, QString::fromUtf8("\xC3\xA4\xF0\x9F\x98\x80two two"));
     EXPECT_EQ(found.totals.matches, 3);
     EXPECT_EQ(found.totals.files, 1);
+}
+
+TEST_F(FileSearches, FindWhatIsLongerThanAPieceOfTheFile)
+{
+    QByteArray text("x\n");
+    text +=
+        QByteArray(3900000, ' ') + "<" + QByteArray(700000, 'a') + ">" + QByteArray(9000000, ' ');
+    text += "<" + QByteArray(5000000, 'b') + ">";
+    const QString path = Write("long.sql", text);
+    FileSearchRequest request = For("<[^>]*a>");
+    request.regExp = true;
+    Collector found = Search(request);
+    ASSERT_EQ(found.totals.matches, 1);
+    EXPECT_EQ(found.files.at(path).matches[0].length, 700002);
+    request.text = "<b+";
+    found = Search(request);
+    ASSERT_EQ(found.totals.matches, 1);
+    EXPECT_EQ(found.files.at(path).matches[0].length, 5000001);
+}
+
+TEST_F(FileSearches, SayWhatIsWrongWithAnExpression)
+{
+    Write("a.sql", "(a");
+    FileSearchRequest request = For("\\(a");
+    request.regExp = true;
+    const Collector found = Search(request);
+    const std::pair<FileNote, QString> fault{FileNote::NoExpression,
+                                             "The expression is not complete."};
+    EXPECT_THAT(found.notes, ElementsAre(fault));
+    EXPECT_EQ(found.totals.matches, 0);
+    EXPECT_EQ(ExpressionFault("a\\(b\\)[0-9]+"), "");
+    EXPECT_EQ(ExpressionFault(QString::fromUtf8("\u00e4b\\9c")),
+              "The expression cannot be read from character 3 on.");
+}
+
+TEST_F(FileSearches, TellWhatAMatchWouldBecome)
+{
+    const QString path = Write("a.sql", "ab cb\n");
+    FileSearchRequest request = For("\\([a-z]\\)b");
+    request.regExp = true;
+    request.replaces = true;
+    request.replacement = "b\\1";
+    const std::vector<FileMatch> matches = Search(request).files.at(path).matches;
+    ASSERT_EQ(matches.size(), 2u);
+    EXPECT_EQ(matches[0].replacement, "ba");
+    EXPECT_EQ(matches[1].replacement, "bc");
+    EXPECT_EQ(MatchesIn("ab cb\n", request), matches);
 }
 
 TEST_F(FileSearches, FindInWhateverEncodingAnEditorWouldDetect)
@@ -266,12 +315,22 @@ TEST_F(FileSearches, FindHundredsOfThousandsInOneLine)
     EXPECT_EQ(found.files.at(path).matches.back().column, 299999);
 }
 
+// A file that ends within a character, as it is read, is told by the editor in a box.
+class SilentQuestions final : public IUserQuestions
+{
+public:
+    SilentQuestions() { SetUserQuestions(this); }
+    ~SilentQuestions() override { SetUserQuestions(nullptr); }
+    Answer Ask(HWND, const QString&, Buttons) override { return Answer::Yes; }
+};
+
 // What the manager finds in an editor that has the file open.
 class FileSearchAgainstEditor : public FindTest
 {
 protected:
     std::vector<std::array<long, 3>> Expected(const QString& path)
     {
+        const SilentQuestions questions;
         control.SetCarefulFiles(true);
         EXPECT_TRUE(control.OpenFile(Units(path), FileEncodeConverter::encUnknown));
         std::vector<std::array<long, 3>> places;
