@@ -2,6 +2,7 @@
 #include "engine/core/Documents.h"
 
 #include "engine/colours/Colouring.h"
+#include "engine/core/EraseRun.h"
 #include "engine/core/ErrorList.h"
 
 #include <algorithm>
@@ -17,6 +18,7 @@ struct Record
     int undoActions = 0;
     std::shared_ptr<Colouring> colouring = std::make_shared<Colouring>();
     ErrorList errors;
+    EraseRun eraseRun;
 };
 
 std::unordered_map<Document, Record>& All()
@@ -92,6 +94,11 @@ void Created(Document document)
     ++All()[document].references;
 }
 
+EraseRun& EraseRunOf(Document document)
+{
+    return All()[document].eraseRun;
+}
+
 bool AddReference(Document document)
 {
     Record* record = Find(document);
@@ -113,6 +120,12 @@ void BeginUndoAction(Document document)
 bool EndUndoAction(Document document)
 {
     return TakeOne(&Record::undoActions, document);
+}
+
+bool HasUndoActions(Document document)
+{
+    const Record* record = Find(document);
+    return record && record->undoActions > 0;
 }
 
 void DropUndoActions(Document document)

@@ -11,6 +11,7 @@
 namespace engine {
 class Colouring;
 class Engine;
+class EraseRun;
 class ErrorList;
 } // namespace engine
 
@@ -32,6 +33,9 @@ const std::vector<Engine*>& Windows(Document document);
 // The problems of a document that a window shows.
 ErrorList& Errors(Document document);
 
+// The run of Backspace or Delete over a document that a window shows.
+EraseRun& EraseRunOf(Document document);
+
 // References of hosts. Release gives false if hosts hold none.
 void Created(Document document);
 bool AddReference(Document document);
@@ -40,6 +44,7 @@ bool Release(Document document);
 // Undo actions that hosts have begun and not ended. End gives false if there is none.
 void BeginUndoAction(Document document);
 bool EndUndoAction(Document document);
+bool HasUndoActions(Document document);
 void DropUndoActions(Document document);
 
 } // namespace engine::documents

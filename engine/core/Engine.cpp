@@ -2,6 +2,7 @@
 #include "engine/core/Engine.h"
 
 #include "engine/core/Documents.h"
+#include "engine/core/EraseRun.h"
 #include "engine/core/ErrorList.h"
 #include "engine/core/Fences.h"
 #include "engine/core/Handlers.h"
@@ -145,6 +146,8 @@ LRESULT Engine::Perform(UINT message, WPARAM wParam, LPARAM lParam)
     const UINT slot = message - kFirstNumber;
     if (slot >= kNumbers)
         return 0;
+    if (EraseRun::AnyIsOpen() && EraseRun::IsEndedBy(message))
+        EndEraseRun();
     const Answerer& answerer = answerers[slot];
     LRESULT result = 0;
     {
@@ -176,9 +179,42 @@ LRESULT Engine::Perform(UINT message, WPARAM wParam, LPARAM lParam)
 
 void Engine::EditBegins(const TextEdit& edit)
 {
+    if (EraseRun::AnyIsOpen())
+        documents::EraseRunOf(m_document).EditBegins(raw, edit);
     target.Follow(edit);
     searcher.TextChanges([&edit](long place) { return edit.Moved(place); });
     errors->NoteChange(*this, edit.inserts, edit.position, edit.bytes);
+}
+
+// One caret, behind what a line begins with: Backspace may take more of that.
+void Engine::EraseKeyBegins(bool back)
+{
+    const auto ask = [this](unsigned message, long value = 0) {
+        return static_cast<long>(raw.Send(message, static_cast<std::uintptr_t>(value)));
+    };
+    const long caret = ask(Sci::SCI_GETCURRENTPOS);
+    const long from = back ? ask(Sci::SCI_POSITIONBEFORE, caret) : caret;
+    const long to = back ? caret : ask(Sci::SCI_POSITIONAFTER, caret);
+    const bool isPlain = ask(Sci::SCI_GETANCHOR) == caret && ask(Sci::SCI_GETSELECTIONS) == 1 &&
+                         !ask(Sci::SCI_SELECTIONISRECTANGLE) && !ask(Sci::SCI_GETREADONLY) &&
+                         !documents::HasUndoActions(m_document);
+    const long line = ask(Sci::SCI_LINEFROMPOSITION, caret);
+    const bool mayUnindent = back && ask(Sci::SCI_GETBACKSPACEUNINDENTS) &&
+                             caret <= ask(Sci::SCI_GETLINEINDENTPOSITION, line);
+    if (isPlain && !mayUnindent && from < to)
+        documents::EraseRunOf(m_document).KeyBegins(raw, from, to);
+    else
+        EndEraseRun();
+}
+
+void Engine::EraseKeyEnds()
+{
+    documents::EraseRunOf(m_document).KeyEnds();
+}
+
+void Engine::EndEraseRun()
+{
+    documents::EraseRunOf(m_document).Close(raw);
 }
 
 long Engine::Bytes(LPARAM position) const

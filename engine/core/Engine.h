@@ -83,6 +83,11 @@ public:
     long Units(long position) const;
     long CaretPosition() const; // units
 
+    // Around a key: Backspace and Delete over letters are one undo step. Other keys may end it.
+    void EraseKeyBegins(bool back);
+    void EraseKeyEnds();
+    void EndEraseRun();
+
     // Replaces the target by the bytes, which it is then.
     void ReplaceTarget(std::string_view bytes);
 

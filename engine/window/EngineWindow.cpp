@@ -78,6 +78,21 @@ bool CanDo(Engine& engine, const MenuRow& row)
     return row.canDo == 0 || engine.Perform(row.canDo, 0, 0) != 0;
 }
 
+bool IsEraseKey(const QKeyEvent& event)
+{
+    return (event.key() == Qt::Key_Backspace || event.key() == Qt::Key_Delete) &&
+           (event.modifiers() & ~Qt::KeypadModifier) == Qt::NoModifier;
+}
+
+// A key that changes no text: the caret's, or a modifier alone.
+bool OnlyMoves(const QKeyEvent& event)
+{
+    const bool isCommand =
+        event.modifiers() & (Qt::ControlModifier | Qt::AltModifier | Qt::MetaModifier);
+    const bool moves = event.key() >= Qt::Key_Home && event.key() <= Qt::Key_PageDown;
+    return (moves && !isCommand) || (event.key() >= Qt::Key_Shift && event.key() <= Qt::Key_Alt);
+}
+
 QByteArray WithLineEnds(const QByteArray& text, int mode)
 {
     const char* eol = mode == 1 ? "\r\n" : mode == 2 ? "\r" : "\n";
@@ -170,6 +185,8 @@ bool EngineWindow::event(QEvent* event)
 
 bool EngineWindow::viewportEvent(QEvent* event)
 {
+    if (event->type() == QEvent::Drop)
+        m_engine.EndEraseRun();
     if (event->type() == QEvent::Leave)
         m_engine.looks.MouseLeft();
     return TellAfter(m_engine, [&] { return QsciScintillaBase::viewportEvent(event); });
@@ -197,6 +214,7 @@ void EngineWindow::TypeText(const QString& text)
 
 void EngineWindow::inputMethodEvent(QInputMethodEvent* event)
 {
+    m_engine.EndEraseRun();
     const bool changesText = !event->commitString().isEmpty() || event->replacementLength() > 0;
     if (changesText)
         m_engine.Perform(message::BeginUndoAction, 0, 0);
@@ -285,6 +303,7 @@ void EngineWindow::focusOutEvent(QFocusEvent* event)
 // columns, and Control sets one more caret.
 void EngineWindow::mousePressEvent(QMouseEvent* event)
 {
+    m_engine.EndEraseRun();
     m_engine.longLines.Prepare();
     EndComposition();
     if (m_engine.looks.MousePressed(*event))
@@ -322,10 +341,23 @@ void EngineWindow::mouseReleaseEvent(QMouseEvent* event)
         QsciScintillaBase::mouseReleaseEvent(event);
 }
 
+void EngineWindow::keyPressEvent(QKeyEvent* event)
+{
+    const QPointer<EngineWindow> alive(this);
+    const bool erases = IsEraseKey(*event);
+    if (erases)
+        m_engine.EraseKeyBegins(event->key() == Qt::Key_Backspace);
+    else if (!OnlyMoves(*event))
+        m_engine.EndEraseRun();
+    PressKey(event);
+    if (erases && alive)
+        m_engine.EraseKeyEnds();
+}
+
 // The stock handler types the character of a key that no command took, whatever is held with it,
 // and takes a pair of surrogates for something that cannot be printed. AltGr counts as none of the
 // modifiers that make a command.
-void EngineWindow::keyPressEvent(QKeyEvent* event)
+void EngineWindow::PressKey(QKeyEvent* event)
 {
     const QString text = event->text();
     const bool isCommand =

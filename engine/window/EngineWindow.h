@@ -53,6 +53,7 @@ private:
     void ShowFirstLine();
     void EndComposition();
     void TypeText(const QString& text);
+    void PressKey(QKeyEvent* event);
     bool TypeInLongLine(const QKeyEvent& event);
     bool IsTurnTaken(const QWheelEvent& event, int step);
 
