@@ -104,8 +104,6 @@ void CZNCompileManager::PreProcess(CZNCoreEditorControlEx* control, QString scri
     script = QString(); // a long one is held by the file alone
     m_map.Clear();
     m_cutFiles.clear();
-    if (control->GetReadOnly(1))
-        return; // nothing can be expanded in place
     Run run(*this, *control);
     m_run = &run;
     ExpandDefines(0, run.text.Length());

@@ -39,7 +39,8 @@ public:
     }
 
     // Expands the script in place; it is the control's text. Nothing happens to an empty one, and
-    // what is known of the run before stays.
+    // what is known of the run before stays. A read-only one stays as it is: its directives count
+    // as found, and files that it cannot include are told.
     void PreProcess(CZNCoreEditorControlEx* control, QString script);
 
     // Whether the last run found a directive outside comments and strings.

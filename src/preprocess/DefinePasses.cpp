@@ -178,8 +178,7 @@ bool DefinePasses::ResolveReference(long hit, const directive::Definition& defin
 
 void DefinePasses::CommentOut(long lineStart)
 {
-    m_text.Insert(lineStart, m_marker);
-    m_commentLength = m_marker.size();
+    m_commentLength = m_text.Insert(lineStart, m_marker);
 }
 
 // A use may stand in a string.

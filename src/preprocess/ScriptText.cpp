@@ -29,8 +29,9 @@ long Moved(long place, long at, long removed, long inserted)
 
 ScriptText::ScriptText(CZNCoreEditorControlEx& control, SourceMap& map)
     : m_control(control), m_finder(*zncoreeditor::GetFindReplaceManager()), m_map(map),
-      m_lexer(control.GetLexer(1)), m_tellsPlaces(TellsCommentsAndStrings(m_lexer)),
-      m_styled(control.GetEndStyled(1)), m_stale(m_styled), m_known(m_styled), m_block(kSmallBlock)
+      m_isReadOnly(control.GetReadOnly(1) != 0), m_lexer(control.GetLexer(1)),
+      m_tellsPlaces(TellsCommentsAndStrings(m_lexer)), m_styled(control.GetEndStyled(1)),
+      m_stale(m_styled), m_known(m_styled), m_block(kSmallBlock)
 {}
 
 ScriptText::~ScriptText()
@@ -180,6 +181,8 @@ long ScriptText::Find(long from, long to) const
 
 int ScriptText::Replace(long position, const QString& what, const QString& with)
 {
+    if (m_isReadOnly)
+        return 0;
     const long length = Length();
     const int lines = m_control.GetLineCount(1);
     m_finder.SetFind(what);
@@ -225,10 +228,13 @@ int ScriptText::ReplaceAllFrom(long start, long length, const QString& with)
     return count;
 }
 
-void ScriptText::Insert(long position, const QString& text)
+long ScriptText::Insert(long position, const QString& text)
 {
+    if (m_isReadOnly)
+        return 0;
     m_control.InsertText(position, Units(text), 1);
     Changed(position, 0, text.size());
+    return text.size();
 }
 
 // A file that begins with a line feed completes the carriage return to one line end; its first
@@ -236,6 +242,11 @@ void ScriptText::Insert(long position, const QString& text)
 long ScriptText::InsertFileBehind(long lineEnd, const QString& markerInFront, const QString& path,
                                   std::FILE* file, bool& isWhole)
 {
+    isWhole = true;
+    if (m_isReadOnly) {
+        std::fclose(file);
+        return 0;
+    }
     const long length = Length();
     const int line = LineOf(lineEnd);
     const int lines = m_control.GetLineCount(1);

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 // The text that the pre-processor works on: a control's, read, searched and changed in place, with
-// styles that are those of the text as it stands. Positions count UTF-16 units, lines from 0.
+// styles that are those of the text as it stands. A read-only text is looked at and not changed.
+// Positions count UTF-16 units, lines from 0.
 #pragma once
 
 #include <QString>
@@ -48,7 +49,8 @@ public:
     // over what follows, so there may be several.
     int Replace(long position, const QString& what, const QString& with);
 
-    void Insert(long position, const QString& text);
+    // The length put in.
+    long Insert(long position, const QString& text);
     // The open file, which is closed here, below the line that ends here, as one that ends in a
     // lone carriage return. The length put in, and whether all of the file is.
     long InsertFileBehind(long lineEnd, const QString& markerInFront, const QString& path,
@@ -67,6 +69,7 @@ private:
     CZNCoreEditorControlEx& m_control;
     CFindReplaceManager& m_finder;
     SourceMap& m_map;
+    bool m_isReadOnly;
     int m_lexer;
     bool m_tellsPlaces;
     unsigned m_changes = 0;

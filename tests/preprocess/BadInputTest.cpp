@@ -199,14 +199,36 @@ TEST_F(BadInput, TakesALineOfManyUses)
                   .toStdString());
 }
 
-TEST_F(BadInput, LeavesAReadOnlyTextAlone)
+TEST_F(BadInput, LooksAtAReadOnlyTextAndLeavesItAlone)
 {
-    Write("a.sql", "a");
-    const QString script = "#define &&A 1\n&&A\n#include a.sql\n";
+    Write("a.sql", "#include nested\n");
+    const QString script = "#define &&A 1\n#define &&B 2&&A\n&&A '&&B'\n#include a.sql\n"
+                           "#include a.sql\n#include missing.sql\nselect 1\n";
     SetScript(script);
+    control.EmptyUndoBuffer(1);
+    control.SetSel(3, 7, 1);
+    control.SetModified(false);
     control.SetReadOnly(1, 1);
     EXPECT_EQ(Expand(), script);
+    EXPECT_TRUE(control.GetIncludeOrDefineDirectivesFound());
+    EXPECT_TRUE(control.HasPreprocessorErrors());
+    EXPECT_EQ(Errors(), (std::map<int, QString>{{5, Missing("missing.sql")}}));
+    EXPECT_EQ(control.GetAnchor(1), 3);
+    EXPECT_EQ(control.GetCurrentPos(1), 7);
+    EXPECT_FALSE(control.GetModified());
+    EXPECT_FALSE(control.CanUndo(1));
+    control.SetOriginalScript();
+    EXPECT_EQ(control.GetText(), script);
+    control.SetReadOnly(0, 1);
+}
+
+TEST_F(BadInput, FindsNoDirectivesInAReadOnlyTextWithoutThem)
+{
+    SetScript("-- #include a.sql\nselect '#include b.sql'\n");
+    control.SetReadOnly(1, 1);
+    Expand();
     EXPECT_FALSE(control.GetIncludeOrDefineDirectivesFound());
+    EXPECT_FALSE(control.HasPreprocessorErrors());
     control.SetReadOnly(0, 1);
 }
 
