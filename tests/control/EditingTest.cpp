@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 // The control over the real engine: text entry, selection, notifications.
+#include "control/Analysis.h"
 #include "tests/control/ControlFixture.h"
 
 #include <QApplication>
@@ -164,6 +165,27 @@ TEST_F(Editing, AControlOutlivesItsWindow)
         control.SaveFile(PathOf("out").c_str(), FileEncodeConverter::encUTF8, false, false));
     EXPECT_EQ(ReadFile("out"), "");
     EXPECT_TRUE(control.OpenFile(WriteFile("in", "text").c_str(), kDetect));
+}
+
+TEST_F(Editing, TheTerminatorThatIsSetIsGivenBackAndEndsStatements)
+{
+    constexpr int kDb2 = 4;
+    control.SetLexer(kDb2, 1);
+    control.SetText(u"select 1; select 2; select 3@ select 4@", 1);
+    const auto statements = [this] {
+        std::vector<PartitionInfo> parts;
+        control.PartitionGetAll(parts, 0, partitioner::ToEnd, 1);
+        return parts.size();
+    };
+    EXPECT_EQ(control.GetStatementTerminator(1), u";");
+    control.SetStatementTerminator(u"@", 1);
+    EXPECT_EQ(control.GetStatementTerminator(1), u"@");
+    EXPECT_EQ(control.GetStatementTerminator(0), u"@");
+    EXPECT_EQ(statements(), 2u);
+    control.SetStatementTerminator(nullptr, 1);
+    EXPECT_EQ(control.GetStatementTerminator(1), u";");
+    control.SetText(u"select 1@ select 2@", 1);
+    EXPECT_EQ(statements(), 1u);
 }
 
 } // namespace
