@@ -1,37 +1,70 @@
 # SPDX-License-Identifier: GPL-3.0-or-later
-# What a host developer gets: the libraries with the settings that have to stand beside them, the
-# headers, and the package that find_package(ZNCoreEditor) reads.
+# What a host gets, as three components: Runtime (the libraries, and the folder with the engine's module
+# and the settings beside them), Development (headers, find_package, pkg-config), Tools (the programs).
 include(GNUInstallDirs)
 include(CMakePackageConfigHelpers)
 
-# One folder for all that the library looks for beside itself.
-set(ZN_INSTALLED_LIBRARIES ${CMAKE_INSTALL_LIBDIR}/ZNCoreEditor)
-set(ZN_INSTALLED_HEADERS ${CMAKE_INSTALL_INCLUDEDIR}/ZNCoreEditor)
+# What the library looks for: beside itself, or in this folder beside itself.
+set(ZN_INSTALLED_FOLDER ${CMAKE_INSTALL_LIBDIR}/ZNCoreEditor)
+# Where a host's #include <ZNCoreEditor/...> begins.
+set(ZN_STAGED_HEADERS ${PROJECT_BINARY_DIR}/include)
+
+# zn_stage_headers(TARGET): the public headers under ZN_STAGED_HEADERS, made with the target.
+function(zn_stage_headers target)
+    configure_file(${PROJECT_SOURCE_DIR}/cmake/Version.h.in ${ZN_STAGED_HEADERS}/ZNCoreEditor/Version.h @ONLY)
+    file(GLOB_RECURSE headers CONFIGURE_DEPENDS ${PROJECT_SOURCE_DIR}/src/*.h ${PROJECT_SOURCE_DIR}/src/*.def)
+    set(script ${PROJECT_SOURCE_DIR}/cmake/StageHeaders.cmake)
+    set(stamp ${PROJECT_BINARY_DIR}/staged_headers)
+    add_custom_command(OUTPUT ${stamp}
+        COMMAND ${CMAKE_COMMAND} -D FROM=${PROJECT_SOURCE_DIR}/src
+                -D TO=${ZN_STAGED_HEADERS}/ZNCoreEditor -P ${script}
+        COMMAND ${CMAKE_COMMAND} -E touch ${stamp}
+        DEPENDS ${headers} ${script}
+        COMMENT "Laying out the public headers")
+    add_custom_target(public_headers DEPENDS ${stamp})
+    add_dependencies(${target} public_headers)
+endfunction()
 
 function(zn_install)
     install(TARGETS ZNCoreEditor ZNPlatform EXPORT ZNCoreEditor
-            LIBRARY DESTINATION ${ZN_INSTALLED_LIBRARIES})
-    install(TARGETS ZNBaseEditor LIBRARY DESTINATION ${ZN_INSTALLED_LIBRARIES})
-    install(TARGETS znworkbench znscript RUNTIME DESTINATION ${CMAKE_INSTALL_BINDIR})
-    set_target_properties(znworkbench znscript PROPERTIES
-        INSTALL_RPATH "$ORIGIN/../${ZN_INSTALLED_LIBRARIES}")
-    install(FILES ${CMAKE_SOURCE_DIR}/data/ZNCoreEditor.xml DESTINATION ${ZN_INSTALLED_LIBRARIES})
-    install(DIRECTORY ${CMAKE_SOURCE_DIR}/data/Syntax ${CMAKE_SOURCE_DIR}/data/Schemes
-            DESTINATION ${ZN_INSTALLED_LIBRARIES}
+            LIBRARY DESTINATION ${CMAKE_INSTALL_LIBDIR} COMPONENT Runtime NAMELINK_COMPONENT Development)
+    set_target_properties(ZNCoreEditor ZNPlatform PROPERTIES INSTALL_RPATH "$ORIGIN")
+    install(TARGETS ZNBaseEditor LIBRARY DESTINATION ${ZN_INSTALLED_FOLDER} COMPONENT Runtime)
+    set_target_properties(ZNBaseEditor PROPERTIES INSTALL_RPATH "$ORIGIN/..")
+    install(FILES ${PROJECT_SOURCE_DIR}/data/ZNCoreEditor.xml
+            DESTINATION ${ZN_INSTALLED_FOLDER} COMPONENT Runtime)
+    install(DIRECTORY ${PROJECT_SOURCE_DIR}/data/Syntax ${PROJECT_SOURCE_DIR}/data/Schemes
+            DESTINATION ${ZN_INSTALLED_FOLDER} COMPONENT Runtime
             FILES_MATCHING PATTERN "*.xml")
-    install(DIRECTORY ${CMAKE_SOURCE_DIR}/src/ DESTINATION ${ZN_INSTALLED_HEADERS}
-            FILES_MATCHING PATTERN "*.h" PATTERN "*.def")
+    install(FILES ${PROJECT_SOURCE_DIR}/LICENSE ${PROJECT_SOURCE_DIR}/docs/licences.md
+            DESTINATION ${CMAKE_INSTALL_DOCDIR} COMPONENT Runtime)
 
-    set(package ${ZN_INSTALLED_LIBRARIES}/cmake)
+    # A build need not have made all of the programs.
+    foreach(program IN ITEMS znworkbench znscript)
+        if(TARGET ${program})
+            set_target_properties(${program} PROPERTIES
+                INSTALL_RPATH "$ORIGIN/../${CMAKE_INSTALL_LIBDIR}")
+            install(TARGETS ${program} RUNTIME DESTINATION ${CMAKE_INSTALL_BINDIR}
+                    COMPONENT Tools OPTIONAL)
+        endif()
+    endforeach()
+
+    install(DIRECTORY ${ZN_STAGED_HEADERS}/ZNCoreEditor
+            DESTINATION ${CMAKE_INSTALL_INCLUDEDIR} COMPONENT Development)
+    set(package ${CMAKE_INSTALL_LIBDIR}/cmake/ZNCoreEditor)
     install(EXPORT ZNCoreEditor NAMESPACE ZNCoreEditor:: DESTINATION ${package}
-            FILE ZNCoreEditorTargets.cmake)
-    file(WRITE ${CMAKE_BINARY_DIR}/ZNCoreEditorConfig.cmake
-         "include(CMakeFindDependencyMacro)\n"
-         "find_dependency(Qt6 6.4 COMPONENTS Core Gui Widgets)\n"
-         "include(\${CMAKE_CURRENT_LIST_DIR}/ZNCoreEditorTargets.cmake)\n")
-    write_basic_package_version_file(${CMAKE_BINARY_DIR}/ZNCoreEditorConfigVersion.cmake
+            FILE ZNCoreEditorTargets.cmake COMPONENT Development)
+    configure_package_config_file(${PROJECT_SOURCE_DIR}/cmake/ZNCoreEditorConfig.cmake.in
+        ${PROJECT_BINARY_DIR}/ZNCoreEditorConfig.cmake INSTALL_DESTINATION ${package})
+    write_basic_package_version_file(${PROJECT_BINARY_DIR}/ZNCoreEditorConfigVersion.cmake
                                      COMPATIBILITY SameMinorVersion)
-    install(FILES ${CMAKE_BINARY_DIR}/ZNCoreEditorConfig.cmake
-                  ${CMAKE_BINARY_DIR}/ZNCoreEditorConfigVersion.cmake
-            DESTINATION ${package})
+    install(FILES ${PROJECT_BINARY_DIR}/ZNCoreEditorConfig.cmake
+                  ${PROJECT_BINARY_DIR}/ZNCoreEditorConfigVersion.cmake
+            DESTINATION ${package} COMPONENT Development)
+
+    file(RELATIVE_PATH ZN_PREFIX_FROM_PKGCONFIG /${CMAKE_INSTALL_LIBDIR}/pkgconfig /)
+    configure_file(${PROJECT_SOURCE_DIR}/cmake/zncoreeditor.pc.in
+                   ${PROJECT_BINARY_DIR}/zncoreeditor.pc @ONLY)
+    install(FILES ${PROJECT_BINARY_DIR}/zncoreeditor.pc
+            DESTINATION ${CMAKE_INSTALL_LIBDIR}/pkgconfig COMPONENT Development)
 endfunction()

@@ -10,15 +10,19 @@ set(CMAKE_AUTOMOC ON)
 set(CMAKE_AUTORCC ON)
 
 # Programs in bin/, libraries in lib/: the engine module is found beside the platform library.
-set(CMAKE_RUNTIME_OUTPUT_DIRECTORY ${CMAKE_BINARY_DIR}/bin)
-set(CMAKE_LIBRARY_OUTPUT_DIRECTORY ${CMAKE_BINARY_DIR}/lib)
-set(CMAKE_ARCHIVE_OUTPUT_DIRECTORY ${CMAKE_BINARY_DIR}/lib)
+set(CMAKE_RUNTIME_OUTPUT_DIRECTORY ${PROJECT_BINARY_DIR}/bin)
+set(CMAKE_LIBRARY_OUTPUT_DIRECTORY ${PROJECT_BINARY_DIR}/lib)
+set(CMAKE_ARCHIVE_OUTPUT_DIRECTORY ${PROJECT_BINARY_DIR}/lib)
 set(CMAKE_BUILD_RPATH_USE_ORIGIN ON)
 set(CMAKE_BUILD_RPATH "$ORIGIN;$ORIGIN/../lib")
 set(CMAKE_INSTALL_RPATH "$ORIGIN;$ORIGIN/../lib")
 
 # A designated initializer leaves the other members to their defaults on purpose.
-add_compile_options(-Wall -Wextra -Wpedantic -Wshadow -Werror -Wno-missing-field-initializers)
+if(ZN_WARNINGS_ARE_ERRORS)
+    set(warnings_are_errors -Werror)
+endif()
+add_compile_options(-Wall -Wextra -Wpedantic -Wshadow ${warnings_are_errors}
+                    -Wno-missing-field-initializers)
 add_compile_definitions(QT_NO_KEYWORDS)
 
 if(ZN_SANITIZE)
@@ -35,6 +39,6 @@ endif()
 find_program(ZN_CCACHE ccache)
 if(ZN_CCACHE AND NOT CMAKE_CXX_COMPILER_LAUNCHER)
     # Paths below the tree do not count, so that one clone finds what another has compiled.
-    set(CMAKE_CXX_COMPILER_LAUNCHER ${CMAKE_COMMAND} -E env CCACHE_BASEDIR=${CMAKE_SOURCE_DIR}
+    set(CMAKE_CXX_COMPILER_LAUNCHER ${CMAKE_COMMAND} -E env CCACHE_BASEDIR=${PROJECT_SOURCE_DIR}
         CCACHE_NOHASHDIR=1 ${ZN_CCACHE})
 endif()

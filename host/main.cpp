@@ -57,7 +57,8 @@ int main(int argc, char** argv)
     }
     if (!EngineIsThere()) {
         Print(stderr, QStringLiteral("The editing engine cannot be loaded: libZNBaseEditor.so has "
-                                     "to stand beside libZNCoreEditor.so."));
+                                     "to stand beside libZNCoreEditor.so, or in the folder "
+                                     "ZNCoreEditor there."));
         return 3;
     }
     if (!arguments.screenshot.isEmpty())

@@ -48,12 +48,10 @@ bool ListBatches(CZNCoreEditorControlEx& control, const QString& path)
 bool ListBatchesOf(const QString& path, const Arguments& arguments)
 {
     ScriptFile file;
-    if (!arguments.language.isEmpty())
-        file.SetLanguage(arguments.language);
-    else if (path == kStandardInput)
-        file.SetLanguage(QStringLiteral("SQL"));
-    else
+    if (arguments.language.isEmpty())
         file.SetLanguage(LanguageOfFile(path));
+    else
+        file.SetLanguage(arguments.language);
     if (const QString problem = file.Read(path); !problem.isEmpty()) {
         Report(path, problem);
         return false;

@@ -96,7 +96,8 @@ int main(int argc, char** argv)
     const NoPerson nobody;
     if (!EngineIsThere()) {
         Report(QStringLiteral("znscript"),
-               QStringLiteral("libZNBaseEditor.so has to stand beside libZNCoreEditor.so"));
+               QStringLiteral("libZNBaseEditor.so has to stand beside libZNCoreEditor.so, or in "
+                              "the folder ZNCoreEditor there"));
         return kNoEditor;
     }
     return EndOutput(Run(arguments));

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-#include "editing/ZNCoreEditorWidget.h"
+#include <ZNCoreEditor/ZNCoreEditorWidget.h>
 
 #include <QApplication>
 

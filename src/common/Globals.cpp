@@ -34,7 +34,9 @@ QString GetAppPath()
     Dl_info info{};
     if (!dladdr(reinterpret_cast<const void*>(&GetAppPath), &info) || !info.dli_fname)
         return QString();
-    return QFileInfo(QFile::decodeName(info.dli_fname)).absolutePath() + u'/';
+    const QString own = QFileInfo(QFile::decodeName(info.dli_fname)).absolutePath() + u'/';
+    const QString beside = own + QStringLiteral("ZNCoreEditor/");
+    return QFileInfo(beside).isDir() ? beside : own;
 }
 
 } // namespace zncoreeditor

@@ -15,7 +15,8 @@ ZN_API const IZNBaseResourceLoader& GetResourceLoader();
 // The loader takes effect at once and stays the caller's; null brings back the library's own.
 ZN_API void SetResourceLoader(const IZNBaseResourceLoader* loader);
 
-// The folder of this library, with a separator at its end.
+// The folder of this library, with a separator at its end: the one where it stands, or the folder
+// "ZNCoreEditor" there, where an installed library has what belongs to it.
 ZN_API QString GetAppPath();
 
 } // namespace zncoreeditor

@@ -2,28 +2,14 @@
 // Files by their wide path, as a load needs them.
 #pragma once
 
-#include <cstdio>
-#include <memory>
+#include "control/FilePointer.h"
+#include "control/FileStamp.h"
 
 #include <QByteArray>
-
-struct FileCloser
-{
-    void operator()(std::FILE* file) const { std::fclose(file); }
-};
-using FilePointer = std::unique_ptr<std::FILE, FileCloser>;
 
 // The path as the platform takes it, empty for null.
 QByteArray NativePath(const char16_t* path);
 
-// What tells that a file is still the one that it was. All 0 if there is none.
-struct FileStamp
-{
-    long long size = 0;
-    long long seconds = 0;
-    long long nanoseconds = 0;
-    bool operator==(const FileStamp&) const = default;
-};
 FileStamp StampOf(const char16_t* path);
 
 // False also if one of them cannot be read.

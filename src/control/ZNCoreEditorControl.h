@@ -6,8 +6,8 @@
 
 #include "common/Export.h"
 #include "control/EngineMessages.h"
-#include "control/FileAccess.h"
 #include "control/FileResult.h"
+#include "control/FileStamp.h"
 #include "encoding/FileEncodeConverter.h"
 #include "platform/windows/Wnd.h"
 

@@ -23,4 +23,4 @@ public:
 };
 
 ZN_API void SetSearchStatus(ISearchStatus* listener); // stays the caller's; null: nobody listens
-ISearchStatus* GetSearchStatus();
+ZN_API ISearchStatus* GetSearchStatus();

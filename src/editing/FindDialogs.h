@@ -27,11 +27,11 @@ public:
                              bool forceNew) = 0;
 };
 
-IFindDialogs* GetFindDialogs();                    // null: there are none
+ZN_API IFindDialogs* GetFindDialogs();             // null: there are none
 ZN_API void SetFindDialogs(IFindDialogs* dialogs); // stays the caller's
 
 // Asks for a line of so many, the current one proposed, lines counted from 0; moves the editor of
 // the parent if that is a view. Null: there is no such dialog.
 using GotoDialog = void (*)(HWND parent, int line, int lineCount);
-GotoDialog GetGotoDialog();
+ZN_API GotoDialog GetGotoDialog();
 ZN_API void SetGotoDialog(GotoDialog dialog);

@@ -2,12 +2,16 @@
 #include "prefs/RegProfile.h"
 
 #include "platform/system/Registry.h"
+#include "platform/system/SpecialFolders.h"
 
 #include <algorithm>
 
 namespace {
 
-const QString kBaseKey = QStringLiteral("Marrowfield\\ZNCoreEditor");
+QString BaseKey()
+{
+    return SettingsFolderName() + QStringLiteral("\\ZNCoreEditor");
+}
 
 QString FromUnits(const char16_t* text)
 {
@@ -24,13 +28,13 @@ std::optional<Kind> ValueOf(const QString& key, const char16_t* entry)
 
 } // namespace
 
-CRegProfile::CRegProfile() : m_open(Registry().OpenKey(kBaseKey)) {}
+CRegProfile::CRegProfile() : m_open(Registry().OpenKey(BaseKey())) {}
 
 bool CRegProfile::OpenSection(const char16_t* section, QString& key)
 {
     if (!m_open)
-        m_open = Registry().OpenKey(kBaseKey);
-    key = kBaseKey;
+        m_open = Registry().OpenKey(BaseKey());
+    key = BaseKey();
     if (const QString below = FromUnits(section); !below.isEmpty())
         key += u'\\' + below;
     return m_open && Registry().OpenKey(key);

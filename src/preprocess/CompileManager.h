@@ -5,7 +5,7 @@
 #pragma once
 
 #include "common/Export.h"
-#include "control/FileAccess.h"
+#include "control/FilePointer.h"
 #include "preprocess/language/SourceMap.h"
 
 #include <QString>

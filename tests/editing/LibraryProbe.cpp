@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 // A host that comes up, tells how the library did, and goes: before it does, it changes one setting
-// of each kind, or opens and saves a file.
+// of each kind, or opens and saves a file. A second argument is the folder of its settings.
 #include "editing/ZNCoreEditorControlEx.h"
 #include "editing/ZNCoreEditorWidget.h"
 #include "editing/language/FileTypeManager.h"
@@ -17,6 +17,8 @@
 int main(int argc, char** argv)
 {
     QApplication application(argc, argv);
+    if (const QString folder = QApplication::arguments().value(2); !folder.isEmpty())
+        std::printf("folder %d\n", zncoreeditor::SetSettingsFolder(folder) ? 1 : 0);
     const zncoreeditor::Startup startup = zncoreeditor::GetStartup();
     CZNCoreEditorControlEx control;
     control.SubclassWindow(

@@ -141,6 +141,19 @@ TEST_F(LibraryInAFolder, WritesNothingForAnEditorThatChangedNothing)
     EXPECT_FALSE(QFile::exists(UserCopy(QStringLiteral("Base/SQL.xml"))));
 }
 
+TEST_F(LibraryInAFolder, KeepsSettingsInTheFolderThatTheHostNames)
+{
+    WriteConfig(kConfig);
+    const QString copy = Path(QStringLiteral("home/Mine/ZNCoreEditor.xml"));
+    EXPECT_TRUE(Run({QStringLiteral("change"), QStringLiteral("Mine")})
+                    .contains(QStringLiteral("folder 1\n")));
+    EXPECT_TRUE(Read(copy).contains("<RightEdgeColumn>77</RightEdgeColumn>"));
+    EXPECT_FALSE(QFile::exists(UserCopy(QStringLiteral("ZNCoreEditor.xml"))));
+    WriteConfig("<broken"); // the copy is read there from then on
+    EXPECT_TRUE(Run({QString(), QStringLiteral("Mine")}).contains(QStringLiteral("languages 1\n")));
+    EXPECT_TRUE(Run({QString(), QStringLiteral("a/b")}).contains(QStringLiteral("folder 0\n")));
+}
+
 TEST_F(LibraryInAFolder, LeavesACopyThatItCannotRead)
 {
     WriteConfig(kConfig);

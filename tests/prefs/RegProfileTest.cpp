@@ -112,6 +112,16 @@ protected:
 
 } // namespace
 
+TEST_F(RegProfile, StandsBelowTheSettingsFolderOfTheHost)
+{
+    ScriptedRegistry registry;
+    const QString usual = SettingsFolderName();
+    SetSettingsFolderName(QStringLiteral("Mine"));
+    CRegProfile().WriteProfileInt(kSearch, u"Entry", 1);
+    SetSettingsFolderName(usual);
+    EXPECT_EQ(registry.opened.last(), QStringLiteral("Mine\\ZNCoreEditor\\Preferences\\Search"));
+}
+
 TEST_F(RegProfile, KeepsNumbersOfTheWholeRange)
 {
     EXPECT_EQ(m_profile.GetProfileInt(kSearch, u"WholeWord", 7), 7);

@@ -5,6 +5,7 @@
 #include "control/ZNCoreEditorControl.h"
 #include "editing/language/FileTypeManager.h"
 #include "editing/language/UserFolder.h"
+#include "platform/system/SpecialFolders.h"
 #include "settings/ConfigFile.h"
 
 namespace zncoreeditor {
@@ -20,14 +21,19 @@ public:
     Attached()
     {
         config.SetFilename(GetAppPath() + kConfigName);
+        Read();
+    }
+    Attached(const Attached&) = delete;
+    Attached& operator=(const Attached&) = delete;
+    ~Attached() { config.Save(); } // writes if something changed
+
+    void Read()
+    {
         config.SetUserCopy(UserSettingsPath(kConfigName));
         configured = config.Parse();
         if (configured)
             languages.Init(&config);
     }
-    Attached(const Attached&) = delete;
-    Attached& operator=(const Attached&) = delete;
-    ~Attached() { config.Save(); } // writes if something changed
 
     CConfigFile config;
     CFileTypeManager languages;
@@ -54,6 +60,17 @@ CConfigFile* GetConfigFile()
 CFileTypeManager* GetFileTypeManager()
 {
     return &Library().languages;
+}
+
+bool SetSettingsFolder(const QString& name)
+{
+    if (name.isEmpty() || name.contains(u'/') || name.contains(u'\\') ||
+        name == QLatin1String(".") || name == QLatin1String(".."))
+        return false;
+    SetSettingsFolderName(name);
+    Library().config.Clear();
+    Library().Read();
+    return true;
 }
 
 void OnConfigurePreferences()

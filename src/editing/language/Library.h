@@ -28,6 +28,11 @@ struct Startup
 };
 ZN_API Startup GetStartup();
 
+// Keeps the settings of the user in a folder of this name from here on, in place of the one that
+// all hosts of the library share, and reads them there. Before the first editor; false, and nothing
+// is changed, for a name that is empty or holds a separator.
+ZN_API bool SetSettingsFolder(const QString& name);
+
 // Runs the dialog of the preferences, and takes the list of languages anew whatever came of it.
 ZN_API void OnConfigurePreferences();
 

@@ -6,5 +6,5 @@
 QString UserSettingsPath(const QString& relative)
 {
     const QString data = znutils::CSpecialFolders::GetLocalAppDataPath(false);
-    return data.isEmpty() ? data : data + QStringLiteral("/Marrowfield/") + relative;
+    return data.isEmpty() ? data : data + u'/' + SettingsFolderName() + u'/' + relative;
 }

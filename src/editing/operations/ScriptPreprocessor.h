@@ -24,5 +24,5 @@ public:
     virtual void GetOriginalScript(QString& script) = 0;
 };
 
-IScriptPreprocessor* GetScriptPreprocessor();                         // null: there is none
+ZN_API IScriptPreprocessor* GetScriptPreprocessor();                  // null: there is none
 ZN_API void SetScriptPreprocessor(IScriptPreprocessor* preprocessor); // stays the caller's

@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "platform/services/OptionsServer.h"
 
+#include "platform/system/SpecialFolders.h"
+
 #include <QFontDatabase>
 #include <QFontInfo>
 #include <QSettings>
@@ -123,10 +125,9 @@ void SetOptionsServer(CZNOptionsServer* server)
 
 QSettings& CZNOptionsServer::Store()
 {
-    if (!m_store)
+    if (!m_store || m_store->organizationName() != SettingsFolderName())
         m_store = std::make_unique<QSettings>(QSettings::IniFormat, QSettings::UserScope,
-                                              QStringLiteral("Marrowfield"),
-                                              QStringLiteral("ZNCoreEditor"));
+                                              SettingsFolderName(), QStringLiteral("ZNCoreEditor"));
     return *m_store;
 }
 

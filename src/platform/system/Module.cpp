@@ -27,11 +27,17 @@ HINSTANCE LoadModule(const char16_t* name, QString* problem)
     // sanitizer's dlopen does not know the search path of its caller.
     void* module = dlopen(file.constData(), kMode | RTLD_NOLOAD);
     QString said;
-    const QByteArray beside = OwnFolder() + file;
-    if (!module && !(module = dlopen(beside.constData(), kMode)))
-        said = QString::fromLocal8Bit(dlerror());
-    if (!module && !(module = dlopen(file.constData(), kMode)) && !QFile::exists(beside))
-        said = QString::fromLocal8Bit(dlerror());
+    const QByteArray folder = OwnFolder();
+    bool isThere = false;
+    for (const QByteArray& place : {folder + file, folder + "ZNCoreEditor/" + file, file}) {
+        if (module)
+            break;
+        module = dlopen(place.constData(), kMode);
+        // What is wrong with a module that is there tells more than where another is missing.
+        if (!module && !isThere)
+            said = QString::fromLocal8Bit(dlerror());
+        isThere |= place != file && QFile::exists(QFile::decodeName(place));
+    }
     if (problem)
         *problem = module ? QString() : said;
     return static_cast<HINSTANCE>(module);

@@ -125,6 +125,26 @@ QString ISpecialFolders::AppName() const
     return QCoreApplication::applicationName();
 }
 
+namespace {
+
+QString& FolderName()
+{
+    static QString name = QStringLiteral("Marrowfield");
+    return name;
+}
+
+} // namespace
+
+void SetSettingsFolderName(const QString& name)
+{
+    FolderName() = name;
+}
+
+const QString& SettingsFolderName()
+{
+    return FolderName();
+}
+
 void SetSpecialFolders(const ISpecialFolders* folders)
 {
     Current() = folders;

@@ -26,6 +26,12 @@ public:
 // The service takes effect at once and stays the caller's; null brings back the default.
 ZN_API void SetSpecialFolders(const ISpecialFolders* folders);
 
+// The folder that settings of the library are kept in, below the user's for each kind: a name
+// without a separator. "Marrowfield", which all hosts share, unless a host sets its own: see
+// zncoreeditor::SetSettingsFolder.
+ZN_API void SetSettingsFolderName(const QString& name);
+ZN_API const QString& SettingsFolderName();
+
 namespace znutils {
 
 // Folders that are created are for their user alone. A folder that is there stays as it is.

@@ -4,18 +4,13 @@
 // a page are made at its first use, on the one thread that uses them.
 #pragma once
 
-#include "common/Export.h"
+#include "platform/text/SystemCodePage.h"
 
 #include <cstddef>
 
 namespace platform {
 
 constexpr int IS_TEXT_UNICODE_REVERSE_STATISTICS = 0x20;
-
-// The code page that 0 means; windows-1252 unless a host or a user sets another.
-// Known to the host of the library; each program or library that links this room has its own.
-ZN_API void SetSystemCodePage(int codePage);
-ZN_API int GetSystemCodePage();
 
 // Converts bytes to units and gives the units written, or with unitCapacity 0 the units it would
 // write. A byteCount of -1 takes the bytes up to and with their terminator. 0 for an unknown code

@@ -3,6 +3,7 @@
 // time, and know no document.
 #pragma once
 
+#include "common/Export.h"
 #include "platform/dialogs/Dialog.h"
 
 class CMyComboBox;
@@ -11,7 +12,7 @@ class CZNCoreEditorControlEx;
 class QGridLayout;
 class QVBoxLayout;
 
-class CFindBase : public CDialog
+class ZN_API CFindBase : public CDialog
 {
 public:
     ~CFindBase() override;

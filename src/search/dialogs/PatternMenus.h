@@ -8,8 +8,8 @@
 
 class CMyComboBox;
 
-MenuTexts ExpressionItems();
-MenuTexts ReplacementItems();
+ZN_API MenuTexts ExpressionItems();
+ZN_API MenuTexts ReplacementItems();
 
 // Types what stands behind the row's tab where the caret of the box was, and gives it the focus. A
 // character of the code 1 is not typed: it says where the caret goes. False for a row without a

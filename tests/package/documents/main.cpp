@@ -1,12 +1,13 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 // Embeds the editor both ways, as a widget and as document and view, and tells what came of it.
-#include "docview/ZNCoreEditorDoc.h"
-#include "docview/ZNCoreEditorView.h"
-#include "editing/ZNCoreEditorWidget.h"
-#include "editing/language/Library.h"
-#include "platform/docview/DocTemplate.h"
-#include "platform/docview/FrameWnd.h"
-#include "platform/docview/WinApp.h"
+#include <ZNCoreEditor/Version.h>
+#include <ZNCoreEditor/docview/ZNCoreEditorDoc.h>
+#include <ZNCoreEditor/docview/ZNCoreEditorView.h>
+#include <ZNCoreEditor/editing/ZNCoreEditorWidget.h>
+#include <ZNCoreEditor/editing/language/Library.h>
+#include <ZNCoreEditor/platform/docview/DocTemplate.h>
+#include <ZNCoreEditor/platform/docview/FrameWnd.h>
+#include <ZNCoreEditor/platform/docview/WinApp.h>
 
 #include <QApplication>
 
@@ -20,6 +21,7 @@ int main(int argc, char** argv)
     ZNCoreEditorWidget widget;
     const bool opened = widget.openFile(path);
     widget.setLanguage(3);
+    std::printf("version: %s\n", zncoreeditor::GetVersion());
     std::printf("widget: opened %d, %ld units, configured %d\n", opened,
                 static_cast<long>(widget.control().GetLength(1)),
                 zncoreeditor::GetStartup().configured);
