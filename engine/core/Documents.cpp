@@ -16,6 +16,7 @@ struct Record
     std::vector<Engine*> windows;
     int references = 0;
     int undoActions = 0;
+    bool hasStaleHistory = false;
     std::shared_ptr<Colouring> colouring = std::make_shared<Colouring>();
     ErrorList errors;
     EraseRun eraseRun;
@@ -131,6 +132,11 @@ bool HasUndoActions(Document document)
 void DropUndoActions(Document document)
 {
     All()[document].undoActions = 0;
+}
+
+bool& HasStaleHistory(Document document)
+{
+    return All()[document].hasStaleHistory;
 }
 
 } // namespace engine::documents

@@ -47,4 +47,7 @@ bool EndUndoAction(Document document);
 bool HasUndoActions(Document document);
 void DropUndoActions(Document document);
 
+// Whether steps stand in the history that are about another text.
+bool& HasStaleHistory(Document document);
+
 } // namespace engine::documents

@@ -64,8 +64,8 @@ const Answerers& AllAnswerers()
         for (const auto handlers :
              {TextHandlers(), CaseHandlers(), PositionHandlers(), SettingHandlers(),
               PrintHandlers(), DocumentHandlers(), ImageHandlers(), ErrorHandlers(),
-              AnalysisHandlers(), SearchHandlers(), ListHandlers(), MarginTextHandlers(),
-              LookHandlers()}) {
+              AnalysisHandlers(), SearchHandlers(), LineHandlers(), ListHandlers(),
+              MarginTextHandlers(), LookHandlers()}) {
             for (const HandlerRow& row : handlers) {
                 Answerer& answerer = all[row.number - kFirstNumber];
                 answerer.handler = row.run;
@@ -177,10 +177,32 @@ LRESULT Engine::Perform(UINT message, WPARAM wParam, LPARAM lParam)
     return result;
 }
 
+// The stock engine cannot hide the first line, and aborts or runs for ever when a deletion has made
+// a hidden line the first.
+void Engine::KeepFirstLineVisible(const TextEdit& edit) const
+{
+    if (edit.inserts || edit.position > 0 || raw.Send(Sci::SCI_GETALLLINESVISIBLE))
+        return;
+    const auto next = raw.Send(Sci::SCI_LINEFROMPOSITION, static_cast<WPARAM>(edit.bytes));
+    raw.Send(Sci::SCI_SHOWLINES, static_cast<WPARAM>(next), next);
+}
+
+// What changes while no undo is collected moves the text away from below the steps that were, and
+// the stock engine would stop half-way in one of them, for ever read-only. Text that is put in
+// behind all other, as a load does, harms none.
+void Engine::NoteUncollected(const TextEdit& edit) const
+{
+    if (!raw.Send(Sci::SCI_GETUNDOCOLLECTION) && !(edit.inserts && edit.position == raw.Length()) &&
+        (raw.Send(Sci::SCI_CANUNDO) || raw.Send(Sci::SCI_CANREDO)))
+        documents::HasStaleHistory(m_document) = true;
+}
+
 void Engine::EditBegins(const TextEdit& edit)
 {
     if (EraseRun::AnyIsOpen())
         documents::EraseRunOf(m_document).EditBegins(raw, edit);
+    NoteUncollected(edit);
+    KeepFirstLineVisible(edit);
     target.Follow(edit);
     searcher.TextChanges([&edit](long place) { return edit.Moved(place); });
     errors->NoteChange(*this, edit.inserts, edit.position, edit.bytes);

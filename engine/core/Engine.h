@@ -7,6 +7,7 @@
 #include "control/EngineMessages.h"
 #include "engine/changes/ChangeReporter.h"
 #include "engine/colours/Colouring.h"
+#include "engine/core/Columns.h"
 #include "engine/core/LongLines.h"
 #include "engine/core/ScriptAnalysis.h"
 #include "engine/core/WholeCharacters.h"
@@ -107,6 +108,7 @@ public:
     search::Searcher searcher;
     LookPainter looks;
     SearchTarget target;
+    const Columns columns{raw};
     LongLines longLines{*this};
     WholeCharacters wholeCharacters{*this};
 
@@ -130,6 +132,8 @@ private:
     // After the window got another document: the index belongs to the document.
     void PrepareDocument();
     void EditBegins(const TextEdit& edit); // while the text is as it was
+    void KeepFirstLineVisible(const TextEdit& edit) const;
+    void NoteUncollected(const TextEdit& edit) const;
     LRESULT Translate(const MessageRow& row, WPARAM wParam, LPARAM lParam);
 
     LRESULT m_document = 0;

@@ -11,8 +11,13 @@ namespace {
 using Sci = QsciScintillaBase;
 
 constexpr long kStyles = 256;
-constexpr long kFarthestColumn = 700 * 1000;   // a click so far out is no place, and aborts
-constexpr long kMostColumns = 10 * 1000;       // of one scroll
+constexpr long kFarthestColumn = 700 * 1000; // a click so far out is no place, and aborts
+constexpr long kMostColumns = 10 * 1000;     // of one scroll
+constexpr long kWidestMargin = 32 * 1024;    // pixels
+constexpr long kWidestWrap = 1000;           // columns
+constexpr long kLargestFont = 256;           // points
+constexpr long kMostZoom = 100;              // points
+constexpr long kMarkers = 32;
 constexpr long kWidestIndentation = 64 * 1024; // columns; it is made of real characters
 
 long Number(std::uintptr_t value)
@@ -58,6 +63,13 @@ bool IsNotBeforeText(const Engine&, WPARAM& wParam, LPARAM&)
 bool MakesNarrow(const Engine&, WPARAM& wParam, LPARAM&)
 {
     wParam = static_cast<WPARAM>(std::clamp(Number(wParam), 0L, kWidestIndentation));
+    return true;
+}
+
+// Lines that go on are moved by so much, however narrow the window.
+bool MakesWrapIndentation(const Engine&, WPARAM& wParam, LPARAM&)
+{
+    wParam = static_cast<WPARAM>(std::clamp(Number(wParam), 0L, kWidestWrap));
     return true;
 }
 
@@ -118,6 +130,62 @@ bool MakesPosition(const Engine&, WPARAM& wParam, LPARAM&)
     return true;
 }
 
+// The stock engine leaves the rectangle to be one of long ago.
+bool BeginsColumns(const Engine& engine, WPARAM&, LPARAM&)
+{
+    engine.columns.Begin();
+    return engine.columns.HaveRoom();
+}
+
+bool MakesSelectionMode(const Engine& engine, WPARAM& wParam, LPARAM&)
+{
+    if (wParam != Sci::SC_SEL_RECTANGLE && wParam != Sci::SC_SEL_THIN)
+        return true;
+    engine.columns.Begin();
+    return engine.columns.HaveRoom();
+}
+
+bool HasRoomForColumns(const Engine& engine, WPARAM&, LPARAM&)
+{
+    return engine.columns.HaveRoom();
+}
+
+// Of a rectangle the stock engine would cut the columns up to where its last line ends.
+bool DissolvesColumns(const Engine& engine, WPARAM&, LPARAM&)
+{
+    engine.columns.Dissolve();
+    return true;
+}
+
+// A size that is below none is a very large one.
+bool MakesFontSize(const Engine& engine, WPARAM& wParam, LPARAM& lParam)
+{
+    lParam = std::clamp(Number(static_cast<WPARAM>(lParam)), 1L, kLargestFont);
+    return IsStyle(engine, wParam, lParam);
+}
+
+bool MakesZoom(const Engine&, WPARAM& wParam, LPARAM&)
+{
+    wParam = static_cast<WPARAM>(std::clamp(Number(wParam), -kMostZoom, kMostZoom));
+    return true;
+}
+
+// What stands beside the text moves it, further than a place can be counted.
+bool MakesMargin(const Engine&, WPARAM&, LPARAM& lParam)
+{
+    lParam = std::clamp(Number(static_cast<WPARAM>(lParam)), 0L, kWidestMargin);
+    return true;
+}
+
+// 32 bits of a line tell its markers: a number beyond shows as one of them, and never goes away.
+// A line that is none has no marker added, and tells so.
+bool IsMarker(const Engine&, WPARAM& wParam, LPARAM& lParam)
+{
+    if (lParam < 0 || lParam >= kMarkers)
+        wParam = static_cast<WPARAM>(-1);
+    return true;
+}
+
 // A list that is not shown has no rows to ask.
 bool IsListShown(const Engine& engine, WPARAM&, LPARAM&)
 {
@@ -142,7 +210,7 @@ constexpr FenceRow kRows[] = {
     {message::StyleSetBack, IsStyle},
     {message::StyleSetBold, IsStyle},
     {message::StyleSetItalic, IsStyle},
-    {message::StyleSetSize, IsStyle},
+    {message::StyleSetSize, MakesFontSize},
     {message::StyleSetFont, IsStyleWithFont},
     {message::StyleSetEOLFilled, IsStyle},
     {message::StyleSetUnderline, IsStyle},
@@ -158,6 +226,7 @@ constexpr FenceRow kRows[] = {
     {message::SetLineIndentation, IsNarrowIndentation},
     {message::SetTabWidth, MakesNarrow},
     {message::SetIndent, MakesNarrow},
+    {message::SetWrapStartIndent, MakesWrapIndentation},
     {message::VisibleFromDocLine, IsNotBeforeText},
     {message::GetLineVisible, IsNotBeforeText},
     {message::EnsureVisible, IsNotBeforeText},
@@ -173,6 +242,22 @@ constexpr FenceRow kRows[] = {
     {message::SetScrollWidth, MakesPositive},
     {message::SetXOffset, MakesNear},
     {message::LineScroll, MakesShortScroll},
+    {message::SetZoom, MakesZoom},
+    {message::SetMarginLeft, MakesMargin},
+    {message::SetMarginRight, MakesMargin},
+    {message::SetMarginWidthN, MakesMargin},
+    {message::MarkerAdd, IsMarker},
+    {message::LineCut, DissolvesColumns},
+    {message::LineDownRectExtend, HasRoomForColumns},
+    {message::LineUpRectExtend, HasRoomForColumns},
+    {message::CharLeftRectExtend, HasRoomForColumns},
+    {message::CharRightRectExtend, HasRoomForColumns},
+    {message::HomeRectExtend, HasRoomForColumns},
+    {message::VCHomeRectExtend, HasRoomForColumns},
+    {message::LineEndRectExtend, HasRoomForColumns},
+    {message::PageUpRectExtend, BeginsColumns},
+    {message::PageDownRectExtend, BeginsColumns},
+    {message::SetSelectionMode, MakesSelectionMode},
     {message::SetCaretPeriod, MakesNotNegative},
     {message::SetMouseDwellTime, MakesNotNegative},
     {message::Allocate, MakesNotNegative},

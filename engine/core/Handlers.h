@@ -25,6 +25,7 @@ std::span<const HandlerRow> CaseHandlers();       // CaseHandlers.cpp
 std::span<const HandlerRow> DocumentHandlers();   // DocumentHandlers.cpp
 std::span<const HandlerRow> ErrorHandlers();      // ErrorHandlers.cpp
 std::span<const HandlerRow> ImageHandlers();      // Images.cpp
+std::span<const HandlerRow> LineHandlers();       // LineHandlers.cpp
 std::span<const HandlerRow> ListHandlers();       // ListHandlers.cpp
 std::span<const HandlerRow> MarginTextHandlers(); // MarginTexts.cpp
 std::span<const HandlerRow> PositionHandlers();   // PositionHandlers.cpp

@@ -27,6 +27,7 @@ void WholeCharacters::Begin()
     if (!m_listens)
         m_engine.raw.Send(Sci::SCI_STARTRECORD);
     m_listens = true;
+    Round(true); // the stock engine may have counted the columns of a rectangle anew
 }
 
 long WholeCharacters::Rounded(long position, bool down) const
@@ -36,8 +37,12 @@ long WholeCharacters::Rounded(long position, bool down) const
 
 void WholeCharacters::End()
 {
+    Round(Get(Sci::SCI_GETCURRENTPOS) < m_caret);
+}
+
+void WholeCharacters::Round(bool down) const
+{
     const Raw& raw = m_engine.raw;
-    const bool down = Get(Sci::SCI_GETCURRENTPOS) < m_caret;
     const auto round = [&](UINT get, UINT set, long selection) {
         const long position = Get(get, selection);
         const long whole = Rounded(position, down);
@@ -114,6 +119,8 @@ void WholeCharacters::OnCommand(UINT number)
         Cover(Side::BeforeInLine);
     else if (number == message::Clear)
         Cover(Side::Behind);
+    else if (number == message::LineCut)
+        m_engine.columns.Dissolve();
 }
 
 void WholeCharacters::BeforeTyping()

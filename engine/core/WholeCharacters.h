@@ -39,6 +39,7 @@ private:
 
     long Get(UINT number, long selection = 0) const;
     long Rounded(long position, bool down) const;
+    void Round(bool down) const;
     bool IsEmpty() const;
     long Reach(long caret, Side side) const;
     bool CutsAny(Side side) const;

@@ -4,6 +4,8 @@
 #include "engine/core/Engine.h"
 #include "engine/core/Handlers.h"
 
+#include <utility>
+
 namespace engine {
 namespace {
 
@@ -54,6 +56,15 @@ LRESULT EndUndoAction(Engine& engine, WPARAM, LPARAM)
     return 0;
 }
 
+// A text that was modified stays so, by a step that does nothing.
+void ForgetHistory(Engine& engine)
+{
+    const bool isModified = engine.raw.Send(Sci::SCI_GETMODIFY) != 0;
+    engine.raw.Send(Sci::SCI_EMPTYUNDOBUFFER);
+    if (isModified)
+        engine.raw.Send(Sci::SCI_ADDUNDOACTION);
+}
+
 // The stock engine forgets here how many actions stand open, so a setting that is no change must
 // not come to it: it may do so inside an action of its own.
 LRESULT SetUndoCollection(Engine& engine, WPARAM wParam, LPARAM)
@@ -64,6 +75,8 @@ LRESULT SetUndoCollection(Engine& engine, WPARAM wParam, LPARAM)
     ChangeReporter::WhenSettled(&engine.window, [&engine, collect] {
         documents::DropUndoActions(engine.Document());
         engine.raw.Send(Sci::SCI_SETUNDOCOLLECTION, collect);
+        if (collect && std::exchange(documents::HasStaleHistory(engine.Document()), false))
+            ForgetHistory(engine);
     });
     return 0;
 }

@@ -84,35 +84,6 @@ LRESULT ReplaceTarget(Engine& engine, WPARAM wParam, LPARAM lParam)
     return engine.Units(engine.target.end) - engine.Units(engine.target.start);
 }
 
-// The stock engine keeps a target of its own, which goes stale.
-LRESULT LinesJoin(Engine& engine, WPARAM, LPARAM)
-{
-    engine.LendTarget();
-    engine.raw.Send(Sci::SCI_LINESJOIN);
-    engine.TakeTarget();
-    return 0;
-}
-
-// The stock engine may divide a line between the bytes of a noncharacter, so that lines in which
-// there is one stay as they are. A negative width is that of the window, as 0 is.
-LRESULT LinesSplit(Engine& engine, WPARAM wParam, LPARAM)
-{
-    engine.LendTarget();
-    const auto lineOf = [&engine](UINT edge) {
-        return static_cast<long>(
-            engine.raw.Send(Sci::SCI_LINEFROMPOSITION, static_cast<WPARAM>(engine.raw.Send(edge))));
-    };
-    const long first = engine.text.StartInBytes(lineOf(Sci::SCI_GETTARGETSTART)).value;
-    const long last = engine.text.StartInBytes(lineOf(Sci::SCI_GETTARGETEND) + 1).value;
-    if (engine.text.MayHaveNoncharacters() && first < last &&
-        HasNoncharacter(engine.raw.Bytes(first, last)))
-        return 0;
-    engine.raw.Send(Sci::SCI_LINESSPLIT,
-                    static_cast<WPARAM>(std::max(static_cast<int>(wParam), 0)));
-    engine.TakeTarget();
-    return 0;
-}
-
 // Pairs of unit and style; the stock engine wants a style for each byte.
 LRESULT AddStyledText(Engine& engine, WPARAM wParam, LPARAM lParam)
 {
@@ -134,11 +105,11 @@ LRESULT AddStyledText(Engine& engine, WPARAM wParam, LPARAM lParam)
     }
     // In two steps: the stock message styles what a read-only text did not take, and aborts.
     const long before = engine.raw.Length();
-    const LRESULT from = engine.raw.Send(Sci::SCI_GETCURRENTPOS);
     engine.raw.Send(Sci::SCI_ADDTEXT, bytes.size(), bytes.data());
     ThrowIfOutOfMemory(engine);
     if (engine.raw.Length() == before + static_cast<long>(bytes.size()) && !bytes.empty()) {
-        engine.raw.Send(Sci::SCI_STARTSTYLING, static_cast<WPARAM>(from));
+        const LRESULT behind = engine.raw.Send(Sci::SCI_GETCURRENTPOS);
+        engine.raw.Send(Sci::SCI_STARTSTYLING, static_cast<WPARAM>(behind) - bytes.size());
         engine.raw.Send(Sci::SCI_SETSTYLINGEX, styles.size(), styles.data());
     }
     return 0;
@@ -293,10 +264,14 @@ LRESULT GetStyledText(Engine& engine, WPARAM, LPARAM lParam)
     const long end =
         engine.text.ToBytes({range->chrg.cpMax < 0 ? length : range->chrg.cpMax}).value;
     char16_t* out = range->lpstrText;
+    const long room = 2 * ((range->chrg.cpMax < 0 ? length : range->chrg.cpMax) -
+                           std::max(0L, long{range->chrg.cpMin}));
     for (long byte = start; byte < end;) {
         const long next = BehindCharacter(engine.raw, byte);
         const auto style = static_cast<char16_t>(StyleAt(engine, byte));
         for (const char16_t unit : ToUtf16(engine.raw.Bytes(byte, next))) {
+            if (out - range->lpstrText >= room)
+                break;
             *out++ = unit;
             *out++ = style;
         }
@@ -369,8 +344,6 @@ constexpr HandlerRow kRows[] = {
     {message::InsertText, InsertText},
     {message::ReplaceTargetNoProcess, ReplaceTarget},
     {message::AddStyledText, AddStyledText},
-    {message::LinesJoin, LinesJoin},
-    {message::LinesSplit, LinesSplit},
     {message::GetText, GetText},
     {message::GetLine, GetLine},
     {message::GetCurLine, GetCurLine},

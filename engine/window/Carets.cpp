@@ -81,6 +81,11 @@ bool Carets::Remove(long position)
     return false;
 }
 
+void Carets::Place(QPoint point)
+{
+    m_raw.Send(Sci::SCI_SETEMPTYSELECTION, static_cast<std::uintptr_t>(PositionAt(point)));
+}
+
 void Carets::Extend(QPoint point)
 {
     const auto main = static_cast<std::uintptr_t>(m_raw.Send(Sci::SCI_GETMAINSELECTION));

@@ -21,6 +21,9 @@ public:
     // is none of the text's.
     bool Add(QPoint point);
 
+    // One caret, at the point.
+    void Place(QPoint point);
+
     // The selection of the main caret goes to the point.
     void Extend(QPoint point);
 

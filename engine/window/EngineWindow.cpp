@@ -93,6 +93,11 @@ bool OnlyMoves(const QKeyEvent& event)
     return (moves && !isCommand) || (event.key() >= Qt::Key_Shift && event.key() <= Qt::Key_Alt);
 }
 
+bool MakesColumns(const QKeyEvent& event)
+{
+    return event.modifiers().testFlags(Qt::AltModifier | Qt::ShiftModifier);
+}
+
 QByteArray WithLineEnds(const QByteArray& text, int mode)
 {
     const char* eol = mode == 1 ? "\r\n" : mode == 2 ? "\r" : "\n";
@@ -313,6 +318,10 @@ void EngineWindow::mousePressEvent(QMouseEvent* event)
     m_addsCaret = isLeft && held == Qt::ControlModifier && m_carets.Add(event->pos());
     if (m_addsCaret)
         return;
+    if (IsFar(event->pos())) {
+        PressFar(*event);
+        return;
+    }
     const bool isColumn = isLeft && held.testFlag(Qt::AltModifier);
     if (!isColumn && !held.testFlag(Qt::ControlModifier)) {
         QsciScintillaBase::mousePressEvent(event);
@@ -326,19 +335,49 @@ void EngineWindow::mousePressEvent(QMouseEvent* event)
     event->setAccepted(press.isAccepted());
 }
 
+// So far to the right the stock engine aborts, whether a button is pressed or not.
+bool EngineWindow::IsFar(QPoint point) const
+{
+    return !m_engine.columns.HaveRoomAt(point.x()) && m_carets.IsInText(point);
+}
+
+void EngineWindow::PressFar(const QMouseEvent& event)
+{
+    setFocus();
+    if (event.button() != Qt::LeftButton)
+        return;
+    m_engine.columns.Dissolve();
+    if (!event.modifiers().testFlag(Qt::ShiftModifier))
+        m_carets.Place(event.pos());
+    else
+        m_carets.Extend(event.pos());
+}
+
+void EngineWindow::mouseDoubleClickEvent(QMouseEvent* event)
+{
+    if (IsFar(event->pos()))
+        PressFar(*event);
+    else
+        QsciScintillaBase::mouseDoubleClickEvent(event);
+}
+
 void EngineWindow::mouseMoveEvent(QMouseEvent* event)
 {
-    if (m_addsCaret && event->buttons().testFlag(Qt::LeftButton))
+    const bool isFar = IsFar(event->pos());
+    if ((m_addsCaret || isFar) && event->buttons().testFlag(Qt::LeftButton))
         m_carets.Extend(event->pos());
-    else
+    else if (!isFar)
         QsciScintillaBase::mouseMoveEvent(event);
     m_engine.looks.MouseMoved(event->position().toPoint());
 }
 
 void EngineWindow::mouseReleaseEvent(QMouseEvent* event)
 {
-    if (!std::exchange(m_addsCaret, false))
-        QsciScintillaBase::mouseReleaseEvent(event);
+    if (std::exchange(m_addsCaret, false))
+        return;
+    if (IsFar(event->pos()))
+        m_engine.columns.Dissolve();
+    QsciScintillaBase::mouseReleaseEvent(event);
 }
 
 void EngineWindow::keyPressEvent(QKeyEvent* event)
@@ -369,6 +408,14 @@ void EngineWindow::PressKey(QKeyEvent* event)
         return;
     }
     m_engine.longLines.Prepare();
+    if (MakesColumns(*event)) {
+        if (event->key() == Qt::Key_PageUp || event->key() == Qt::Key_PageDown)
+            m_engine.columns.Begin();
+        if (!m_engine.columns.HaveRoom()) {
+            event->accept();
+            return;
+        }
+    }
     if (isCommand && !text.isEmpty()) {
         QKeyEvent command(event->type(), event->key(), event->modifiers(), event->nativeScanCode(),
                           event->nativeVirtualKey(), event->nativeModifiers(), {},
@@ -433,18 +480,8 @@ bool EngineWindow::IsTurnTaken(const QWheelEvent& event, int step)
                        PointParam({at.x(), at.y()})) != 0;
 }
 
-// A deletion of the lines above hidden ones leaves a hidden line in front, which the stock engine
-// takes for a shown one and stops at.
-void EngineWindow::ShowFirstLine()
-{
-    const Raw& raw = m_engine.raw;
-    if (raw.Send(Sci::SCI_GETALLLINESVISIBLE) == 0 && raw.Send(Sci::SCI_GETLINEVISIBLE, 0) == 0)
-        raw.Send(Sci::SCI_SHOWLINES);
-}
-
 void EngineWindow::paintEvent(QPaintEvent* event)
 {
-    ShowFirstLine();
     m_engine.longLines.Prepare();
     QsciScintillaBase::paintEvent(event);
     if (m_engine.looks.IsOn()) {

@@ -38,6 +38,7 @@ protected:
     void inputMethodEvent(QInputMethodEvent* event) override;
     QVariant inputMethodQuery(Qt::InputMethodQuery query) const override;
     void keyPressEvent(QKeyEvent* event) override;
+    void mouseDoubleClickEvent(QMouseEvent* event) override;
     void mouseMoveEvent(QMouseEvent* event) override;
     void mousePressEvent(QMouseEvent* event) override;
     void mouseReleaseEvent(QMouseEvent* event) override;
@@ -50,10 +51,11 @@ private Q_SLOTS:
                     int foldNow, int foldPrev, int token, int annotationLinesAdded);
 
 private:
-    void ShowFirstLine();
     void EndComposition();
     void TypeText(const QString& text);
     void PressKey(QKeyEvent* event);
+    bool IsFar(QPoint point) const;
+    void PressFar(const QMouseEvent& event);
     bool TypeInLongLine(const QKeyEvent& event);
     bool IsTurnTaken(const QWheelEvent& event, int step);
 

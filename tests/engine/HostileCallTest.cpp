@@ -4,10 +4,12 @@
 
 #include "control/Completion.h"
 
+#include <QTest>
 #include <QWidget>
 
 #include <gtest/gtest.h>
 
+#include <climits>
 #include <memory>
 
 namespace msg = engine::message;
@@ -245,4 +247,159 @@ TEST(HostileCalls, AWindowThatGoesWithAnOpenListTellsNobody)
     parent.heard.clear();
     delete engine->Window();
     EXPECT_TRUE(parent.heard.empty());
+}
+
+TEST(HostileCalls, AHiddenLineThatBecomesTheFirstIsShown)
+{
+    EngineUnderTest engine;
+    EngineUnderTest other;
+    other.Send(msg::SetDocPointer, 0, engine.Send(msg::GetDocPointer));
+    engine.Window()->show();
+    FoldThreeLines(engine);
+    other.Send(msg::HideLines, 1, 3);
+    engine.Erase(0, 2);
+    for (const EngineUnderTest* each : {&engine, &other}) {
+        EXPECT_EQ(each->Send(msg::GetLineVisible, 0), 1);
+        EXPECT_EQ(each->Send(msg::GetLineVisible, 1), 0);
+        each->Window()->grab();
+        each->Send(msg::GotoPos, 3);
+        each->Send(msg::ParaUp); // which ran for ever
+        EXPECT_EQ(each->Send(msg::GetCurrentPos), 0);
+    }
+    engine.Send(msg::Undo);
+    EXPECT_EQ(engine.Send(msg::GetLineVisible, 0), 1);
+}
+
+TEST(HostileCalls, LinesAreSplitWhileStylesWaitAndColumnsAreSelected)
+{
+    EngineUnderTest engine;
+    engine.Window()->show();
+    engine.SetText(u"one two three four five six seven eight\nnine ten\n");
+    engine.Send(msg::LineDownRectExtend);
+    engine.Send(msg::CharRightRectExtend);
+    engine.Send(msg::SetTargetStart, 0);
+    engine.Send(msg::SetTargetEnd, 10);
+    engine.Send(msg::StyleSetSize, 32, LPARAM{20});
+    engine.Send(msg::LinesSplit, 100);
+    EXPECT_GT(engine.Send(msg::GetLineCount), 3);
+}
+
+TEST(HostileCalls, AMarkerOfNoNumberIsNotAdded)
+{
+    EngineUnderTest engine;
+    engine.SetText(u"a\nb\n");
+    for (const LPARAM number : {LPARAM{INT_MIN}, LPARAM{-1}, LPARAM{32}, LPARAM{64}}) {
+        EXPECT_EQ(engine.Send(msg::MarkerAdd, 1, number), -1);
+        EXPECT_EQ(engine.Send(msg::MarkerGet, 1), 0) << number;
+    }
+    EXPECT_GT(engine.Send(msg::MarkerAdd, 1, LPARAM{31}), 0);
+}
+
+TEST(HostileCalls, ColumnsOfALineThatIsTooLongAreNotSelected)
+{
+    EngineUnderTest engine;
+    engine.SetText(std::u16string(900 * 1000, u'a') + u"\nb\n");
+    engine.Send(msg::GotoPos, 900 * 1000);
+    for (const UINT number : {msg::LineDownRectExtend, msg::PageDownRectExtend})
+        engine.Send(number);
+    QTest::keyClick(engine.Window(), Qt::Key_Down, Qt::AltModifier | Qt::ShiftModifier);
+    EXPECT_EQ(engine.Send(msg::GetCurrentPos), 900 * 1000);
+    EXPECT_EQ(engine.Send(msg::SelectionIsRectangle), 0);
+}
+
+TEST(HostileCalls, AClickFarToTheRightOfEveryLineIsAtAnEnd)
+{
+    EngineUnderTest engine;
+    engine.Window()->show();
+    engine.SetText(u"a\nb\n");
+    auto* viewport = engine.Window()->findChild<QWidget*>(QStringLiteral("qt_scrollarea_viewport"));
+    for (const UINT number : {msg::SetMarginLeft, msg::SetMarginRight})
+        engine.Send(number, 0, LPARAM{INT_MIN});
+    engine.Send(msg::SetXOffset, INT_MAX);
+    engine.Send(msg::StyleSetSize, 0, LPARAM{1});
+    ASSERT_GT(engine.Send(msg::GetXOffset), 1000000);
+    for (const Qt::KeyboardModifier held : {Qt::AltModifier, Qt::NoModifier, Qt::ShiftModifier}) {
+        QTest::mousePress(viewport, Qt::LeftButton, held, {50, 5});
+        QTest::mouseMove(viewport, {60, 25});
+        QTest::mouseRelease(viewport, Qt::LeftButton, held, {60, 25});
+        QTest::mouseDClick(viewport, Qt::LeftButton, held, {60, 25});
+        EXPECT_EQ(engine.Send(msg::SelectionIsRectangle), 0);
+        EXPECT_EQ(engine.Send(msg::GetCurrentPos), 3);
+        QTest::mouseMove(viewport, {60, 5});
+    }
+    EXPECT_EQ(engine.Send(msg::GetMarginLeft), 0);
+}
+
+TEST(HostileCalls, WrappedLinesAreNotIndentedOutOfSight)
+{
+    EngineUnderTest engine;
+    engine.Window()->show();
+    engine.SetText(std::u16string(2000, u'a') + u"\nb");
+    engine.Send(msg::SetWrapMode, 2);
+    engine.Send(msg::SetWrapStartIndent, INT_MAX);
+    engine.Window()->grab();
+    engine.Send(msg::GotoPos, 1999);
+    EXPECT_LT(engine.Send(msg::PointXFromPosition, 0, LPARAM{1999}), 1000000);
+    engine.Send(msg::LineDownRectExtend);
+    EXPECT_EQ(engine.Send(msg::SelectionIsRectangle), 1);
+}
+
+TEST(HostileCalls, LinesThatAColumnIsInAreCutWhole)
+{
+    EngineUnderTest engine;
+    const std::u16string kept = u"\xFFFF\xFFFFgh\nlast";
+    const std::u16string text = u"\xFFFF\ncd\n" + kept;
+    engine.SetText(text);
+    engine.Send(msg::GotoPos, 1);
+    engine.Send(msg::LineDownRectExtend);
+    engine.Send(msg::LineCut);
+    EXPECT_EQ(engine.Text(), kept);
+    engine.Send(msg::Undo);
+    EXPECT_EQ(engine.Text(), text);
+}
+
+TEST(HostileCalls, AModeOfColumnsBeginsAtTheSelection)
+{
+    EngineUnderTest engine;
+    engine.Window()->show();
+    for (const WPARAM mode : {1, 3}) {
+        engine.SetText(u"abc\ndef\nghi");
+        engine.Send(msg::SetSel, 1, LPARAM{6});
+        engine.Send(msg::SetSelectionMode, mode);
+        EXPECT_EQ(engine.Send(msg::GetSelectionMode), static_cast<LRESULT>(mode));
+        EXPECT_EQ(engine.Send(msg::GetCurrentPos), 6);
+        engine.Send(msg::Clear);
+        EXPECT_EQ(engine.Text(), u"ac\ndf\nghi");
+    }
+    engine.SetText(u"");
+    engine.Send(msg::SetSelectionMode, 3);
+    EXPECT_EQ(engine.Send(msg::GetCurrentPos), 0);
+}
+
+TEST(HostileCalls, APageOfColumnsBeginsAtTheCaret)
+{
+    EngineUnderTest engine;
+    engine.Window()->show();
+    engine.SetText(u"abc\ndef\nghi");
+    engine.Send(msg::GotoPos, 6);
+    engine.Send(msg::PageUpRectExtend);
+    EXPECT_EQ(engine.Send(msg::SelectionIsRectangle), 1);
+    engine.Send(msg::Clear);
+    EXPECT_EQ(engine.Text(), u"c\nf\nghi");
+}
+
+TEST(HostileCalls, StepsBeforeAChangeThatWasNotCollectedAreNotUndone)
+{
+    EngineUnderTest engine;
+    engine.SetText(u"");
+    engine.Send(msg::InsertText, 0, u"a long text");
+    engine.Send(msg::SetUndoCollection, 0);
+    engine.Erase(2, 11);
+    engine.Send(msg::SetUndoCollection, 1);
+    EXPECT_EQ(engine.Send(msg::GetModify), 1);
+    EXPECT_NO_THROW(engine.Send(msg::Undo));
+    EXPECT_NO_THROW(engine.Send(msg::Undo));
+    EXPECT_EQ(engine.Text(), u"a ");
+    engine.Send(msg::AppendText, 1, u"b"); // which a stock engine refuses from then on
+    EXPECT_EQ(engine.Text(), u"a b");
 }

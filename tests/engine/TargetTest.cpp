@@ -130,10 +130,28 @@ TEST_F(Targets, LeftBehindByATextDoNotHaveItsLinesJoined)
     EXPECT_EQ(m_engine.Text(), u"x\ny");
 }
 
-TEST_F(Targets, LeaveLinesWithNoncharactersUnsplit)
+TEST_F(Targets, AreSplitBetweenWholeCharacters)
 {
-    m_engine.SetText(u"one\xFFFFtwo three");
-    SetTarget(0, 5);
+    m_engine.SetText(u"a\xFFFF\U0001F600\u4e2d b\n\t\tcd");
+    SetTarget(0, 12);
     m_engine.Send(msg::LinesSplit, 1);
-    EXPECT_EQ(m_engine.Text(), u"one\xFFFFtwo three");
+    EXPECT_EQ(m_engine.Text(), u"a\n\xFFFF\n\U0001F600\n\u4e2d \nb\n\t\t\nc\nd");
+    EXPECT_EQ(Target(), Places(0, 18));
+    m_engine.Send(msg::LinesSplit, 1);
+    EXPECT_EQ(m_engine.Text(), u"a\n\xFFFF\n\U0001F600\n\u4e2d \nb\n\t\t\nc\nd");
+    m_engine.Send(msg::Undo);
+    EXPECT_EQ(m_engine.Text(), u"a\xFFFF\U0001F600\u4e2d b\n\t\tcd");
+}
+
+TEST_F(Targets, AreNotSplitWhereTheTextIsProtected)
+{
+    m_engine.SetText(u"one two");
+    SetTarget(0, 7);
+    m_engine.Send(msg::StyleSetChangeable, 0, LPARAM{0});
+    m_engine.Send(msg::LinesSplit, 1);
+    EXPECT_EQ(m_engine.Text(), u"one two");
+    m_engine.Send(msg::StyleSetChangeable, 0, LPARAM{1});
+    m_engine.Send(msg::SetReadOnly, 1);
+    m_engine.Send(msg::LinesSplit, 1);
+    EXPECT_EQ(m_engine.Text(), u"one two");
 }

@@ -1,0 +1,93 @@
+#include "engine/core/Columns.h"
+
+#include <algorithm>
+#include <string>
+
+namespace engine {
+namespace {
+
+using Sci = QsciScintillaBase;
+
+constexpr long kMostBlanks = 700 * 1000;
+constexpr long kSurely = 200 * 1000; // pixels, whatever the font
+constexpr std::uintptr_t kStyles = 256;
+
+long Ask(const Raw& raw, unsigned message, long wParam = 0, long lParam = 0)
+{
+    return static_cast<long>(raw.Send(message, static_cast<std::uintptr_t>(wParam), lParam));
+}
+
+constexpr long kMeasured = 100;
+
+// Of so many blanks, in the narrowest of the styles.
+long NarrowestBlanks(const Raw& raw)
+{
+    static const std::string blanks(kMeasured, ' ');
+    std::intptr_t width = raw.Send(Sci::SCI_TEXTWIDTH, Sci::STYLE_DEFAULT, blanks.c_str());
+    for (std::uintptr_t style = 0; style < kStyles; ++style) {
+        raw.Send(Sci::SCI_STYLEGETSIZE, style); // which makes the style
+        width = std::min(width, raw.Send(Sci::SCI_TEXTWIDTH, style, blanks.c_str()));
+    }
+    return std::max(1L, static_cast<long>(width));
+}
+
+} // namespace
+
+bool Columns::IsNear(long pixels) const
+{
+    return pixels <= kSurely || pixels <= kMostBlanks / kMeasured * NarrowestBlanks(m_raw);
+}
+
+bool Columns::HaveRoomAt(long x) const
+{
+    return IsNear(x + Ask(m_raw, Sci::SCI_GETXOFFSET));
+}
+
+// A place may lie behind the line's end, by so many blanks of the style there.
+bool Columns::IsLineNarrow(long position, long blanks) const
+{
+    const long line = Ask(m_raw, Sci::SCI_LINEFROMPOSITION, position);
+    const long start = Ask(m_raw, Sci::SCI_POSITIONFROMLINE, line);
+    const long end = Ask(m_raw, Sci::SCI_GETLINEENDPOSITION, line);
+    if (end - start > 4 * kMostBlanks) // bytes
+        return false;
+    const long style = end > start ? Ask(m_raw, Sci::SCI_GETSTYLEAT, end - 1) & 0xFF : 0;
+    const auto blank =
+        static_cast<long>(m_raw.Send(Sci::SCI_TEXTWIDTH, static_cast<std::uintptr_t>(style), " "));
+    return IsNear(Ask(m_raw, Sci::SCI_POINTXFROMPOSITION, 0, end) -
+                  Ask(m_raw, Sci::SCI_POINTXFROMPOSITION, 0, start) + blank * blanks);
+}
+
+bool Columns::HaveRoom() const
+{
+    if (!Ask(m_raw, Sci::SCI_SELECTIONISRECTANGLE))
+        return IsLineNarrow(Ask(m_raw, Sci::SCI_GETCURRENTPOS), 0) &&
+               IsLineNarrow(Ask(m_raw, Sci::SCI_GETANCHOR), 0);
+    return IsLineNarrow(Ask(m_raw, Sci::SCI_GETRECTANGULARSELECTIONCARET),
+                        Ask(m_raw, Sci::SCI_GETRECTANGULARSELECTIONCARETVIRTUALSPACE)) &&
+           IsLineNarrow(Ask(m_raw, Sci::SCI_GETRECTANGULARSELECTIONANCHOR),
+                        Ask(m_raw, Sci::SCI_GETRECTANGULARSELECTIONANCHORVIRTUALSPACE));
+}
+
+void Columns::Begin() const
+{
+    if (Ask(m_raw, Sci::SCI_SELECTIONISRECTANGLE) || !HaveRoom())
+        return;
+    const long caret = Ask(m_raw, Sci::SCI_GETCURRENTPOS);
+    const long anchor = Ask(m_raw, Sci::SCI_GETANCHOR);
+    m_raw.Send(Sci::SCI_SETRECTANGULARSELECTIONANCHOR, static_cast<std::uintptr_t>(anchor));
+    m_raw.Send(Sci::SCI_SETRECTANGULARSELECTIONCARET, static_cast<std::uintptr_t>(caret));
+    m_raw.Send(Sci::SCI_SETRECTANGULARSELECTIONANCHOR, static_cast<std::uintptr_t>(anchor));
+}
+
+void Columns::Dissolve() const
+{
+    if (!Ask(m_raw, Sci::SCI_SELECTIONISRECTANGLE))
+        return;
+    const long caret = Ask(m_raw, Sci::SCI_GETCURRENTPOS);
+    const long anchor = Ask(m_raw, Sci::SCI_GETANCHOR);
+    m_raw.Send(Sci::SCI_SETEMPTYSELECTION, static_cast<std::uintptr_t>(caret));
+    m_raw.Send(Sci::SCI_SETANCHOR, static_cast<std::uintptr_t>(anchor));
+}
+
+} // namespace engine
