@@ -11,12 +11,17 @@ struct ColorRow
 {
     int number;
     QPalette::ColorRole role;
+    QPalette::ColorGroup group = QPalette::Active;
 };
 
 constexpr ColorRow kColors[] = {
     {COLOR_WINDOW, QPalette::Base}, // what text is written on
+    {COLOR_APPWORKSPACE, QPalette::Dark},
     {COLOR_HIGHLIGHT, QPalette::Highlight},
     {COLOR_HIGHLIGHTTEXT, QPalette::HighlightedText},
+    {COLOR_BTNFACE, QPalette::Button},
+    {COLOR_GRAYTEXT, QPalette::ButtonText, QPalette::Disabled},
+    {COLOR_BTNTEXT, QPalette::ButtonText},
     {COLOR_HOTLIGHT, QPalette::Link},
 };
 
@@ -29,7 +34,7 @@ COLORREF GetSysColor(int number)
     for (const ColorRow& row : kColors) {
         if (row.number != number)
             continue;
-        const QColor color = QGuiApplication::palette().color(QPalette::Active, row.role);
+        const QColor color = QGuiApplication::palette().color(row.group, row.role);
         return static_cast<COLORREF>(color.red() | color.green() << 8 | color.blue() << 16);
     }
     return 0;

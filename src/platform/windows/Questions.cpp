@@ -4,6 +4,7 @@
 #include "platform/windows/Disposal.h"
 
 #include <QApplication>
+#include <QColorDialog>
 #include <QFileDialog>
 #include <QMessageBox>
 
@@ -22,8 +23,30 @@ public:
     Answer Ask(HWND owner, const QString& text, Buttons buttons) override
     {
         const bool isQuestion = buttons != Buttons::Ok;
-        switch (Show(owner, text, isQuestion ? QMessageBox::Question : QMessageBox::Warning,
-                     StandardButtons(buttons))) {
+        return Answered(Show(owner, QGuiApplication::applicationDisplayName(), text,
+                             isQuestion ? QMessageBox::Question : QMessageBox::Warning,
+                             StandardButtons(buttons)),
+                        buttons);
+    }
+
+    void Tell(HWND owner, const QString& text, MessageKind kind) override
+    {
+        Show(owner, QGuiApplication::applicationDisplayName(), text, IconOf(kind), QMessageBox::Ok);
+    }
+
+    Answer AskUnder(HWND owner, const QString& title, const QString& text, Buttons buttons,
+                    MessageKind kind) override
+    {
+        const bool isQuestion = buttons != Buttons::Ok;
+        return Answered(Show(owner, title, text, isQuestion ? QMessageBox::Question : IconOf(kind),
+                             StandardButtons(buttons)),
+                        buttons);
+    }
+
+private:
+    static Answer Answered(int button, Buttons buttons)
+    {
+        switch (button) {
         case QMessageBox::Yes:
             return Answer::Yes;
         case QMessageBox::Ok:
@@ -35,18 +58,12 @@ public:
         }
     }
 
-    void Tell(HWND owner, const QString& text, MessageKind kind) override
-    {
-        Show(owner, text, IconOf(kind), QMessageBox::Ok);
-    }
-
-private:
-    static int Show(HWND owner, const QString& text, QMessageBox::Icon icon,
+    static int Show(HWND owner, const QString& title, const QString& text, QMessageBox::Icon icon,
                     QMessageBox::StandardButtons buttons)
     {
         QMessageBox box(DialogParent(owner));
         box.setIcon(icon);
-        box.setWindowTitle(QGuiApplication::applicationDisplayName());
+        box.setWindowTitle(title);
         box.setTextFormat(Qt::PlainText); // a path may look like markup
         box.setText(text);
         box.setStandardButtons(buttons);
@@ -121,6 +138,25 @@ QString IUserQuestions::BrowseForFolder(HWND owner, const QString& title, const 
     return QFileDialog::getExistingDirectory(DialogParent(owner), title, start);
 }
 
+Answer IUserQuestions::AskUnder(HWND owner, const QString& /*title*/, const QString& text,
+                                Buttons buttons, MessageKind kind)
+{
+    if (buttons != Buttons::Ok)
+        return Ask(owner, text, buttons);
+    Tell(owner, text, kind);
+    return Answer::Ok;
+}
+
+std::optional<COLORREF> IUserQuestions::AskColor(HWND owner, COLORREF color)
+{
+    const auto part = [color](int shift) { return static_cast<int>(color >> shift & 0xFF); };
+    const QColor chosen =
+        QColorDialog::getColor(QColor(part(0), part(8), part(16)), DialogParent(owner));
+    if (!chosen.isValid())
+        return std::nullopt;
+    return static_cast<COLORREF>(chosen.red() | chosen.green() << 8 | chosen.blue() << 16);
+}
+
 void SetUserQuestions(IUserQuestions* questions)
 {
     Current() = questions;
@@ -135,10 +171,23 @@ void ShowMessage(HWND owner, const QString& text, MessageKind kind)
     Questions().Tell(owner, text, kind);
 }
 
+void ShowMessageUnder(HWND owner, const QString& title, const QString& text, MessageKind kind)
+{
+    const FrameworkCall asking;
+    Questions().AskUnder(owner, title, text, Buttons::Ok, kind);
+}
+
 bool AskYesNo(HWND owner, const QString& text)
 {
     const FrameworkCall asking;
     return Questions().Ask(owner, text, Buttons::YesNo) == Answer::Yes;
+}
+
+bool AskYesNoUnder(HWND owner, const QString& title, const QString& text)
+{
+    const FrameworkCall asking;
+    return Questions().AskUnder(owner, title, text, Buttons::YesNo, MessageKind::Plain) ==
+           Answer::Yes;
 }
 
 Answer AskYesNoCancel(HWND owner, const QString& text)
@@ -170,4 +219,10 @@ QString BrowseForFolder(HWND owner, const QString& title, const QString& start)
 {
     const FrameworkCall asking;
     return Questions().BrowseForFolder(owner, title, start);
+}
+
+std::optional<COLORREF> AskColor(HWND owner, COLORREF color)
+{
+    const FrameworkCall asking;
+    return Questions().AskColor(owner, color);
 }

@@ -8,6 +8,8 @@
 
 #include <QString>
 
+#include <optional>
+
 enum class Buttons
 {
     Ok,
@@ -54,16 +56,28 @@ public:
     virtual QString BrowseForFile(HWND owner, const QString& title, const QString& start,
                                   const QString& filters);
     virtual QString BrowseForFolder(HWND owner, const QString& title, const QString& start);
+
+    // Messages and questions under a title of their own; without the title, unless it is
+    // overridden.
+    virtual Answer AskUnder(HWND owner, const QString& title, const QString& text, Buttons buttons,
+                            MessageKind kind);
+
+    // A colour, asked for by the desktop's dialog, which begins with the given one.
+    virtual std::optional<COLORREF> AskColor(HWND owner, COLORREF color);
 };
 
 // The service takes effect at once and stays the caller's; null brings back the message boxes.
 ZN_API void SetUserQuestions(IUserQuestions* questions);
 
 ZN_API void ShowMessage(HWND owner, const QString& text, MessageKind kind = MessageKind::Warning);
+ZN_API void ShowMessageUnder(HWND owner, const QString& title, const QString& text,
+                             MessageKind kind);
 ZN_API bool AskYesNo(HWND owner, const QString& text); // true for Yes
+ZN_API bool AskYesNoUnder(HWND owner, const QString& title, const QString& text);
 ZN_API Answer AskYesNoCancel(HWND owner, const QString& text);
 ZN_API QString AskOpenFile(HWND owner, const QString& filters);
 ZN_API QString AskSaveFile(HWND owner, const QString& path, const QString& filters);
 ZN_API QString BrowseForFile(HWND owner, const QString& title, const QString& start,
                              const QString& filters);
 ZN_API QString BrowseForFolder(HWND owner, const QString& title, const QString& start);
+ZN_API std::optional<COLORREF> AskColor(HWND owner, COLORREF color); // nothing if cancelled

@@ -1,0 +1,73 @@
+// CColorButton: a push button that shows a colour and drops down a palette to choose another;
+// a QPushButton.
+#pragma once
+
+#include "common/Export.h"
+#include "platform/base/Types.h"
+#include "prefs/controls/ColorPopup.h"
+
+#include <QPointer>
+#include <QPushButton>
+
+// What a colour button sends to the window around it: wParam is the button's number, lParam the
+// colour that is meant, kDefaultColor for the default.
+namespace colornews {
+inline constexpr UINT Changed = 2025; // another colour is chosen, or lies under the cursor
+inline constexpr UINT Opened = 2026;  // the palette is there
+inline constexpr UINT Closed = 2027;  // the palette goes, in either way
+inline constexpr UINT Chosen = 2028;
+inline constexpr UINT Cancelled = 2029;
+} // namespace colornews
+
+class ZN_API CColorButton : public QPushButton
+{
+    Q_OBJECT
+
+public:
+    static constexpr COLORREF kDefaultColor = ZNCEColorPopup::kDefaultColor;
+
+    explicit CColorButton(QWidget* parent = nullptr);
+    ~CColorButton() override;
+
+    COLORREF GetColor() const { return m_color; }
+    void SetColor(COLORREF color);
+    // What is shown for kDefaultColor.
+    COLORREF GetDefaultColor() const { return m_defaultColor; }
+    void SetDefaultColor(COLORREF color);
+    const QString& GetDefaultText() const { return m_defaultText; }
+    void SetDefaultText(const QString& text) { m_defaultText = text; }
+    const QString& GetCustomText() const { return m_customText; }
+    void SetCustomText(const QString& text) { m_customText = text; }
+    // The button shows each colour that the cursor passes, and tells of it.
+    bool GetTrackSelection() const { return m_isTracking; }
+    void SetTrackSelection(bool track) { m_isTracking = track; }
+
+    bool IsPopupDown() const { return m_isDown; }
+    ZNCEColorPopup* Popup() const { return m_popup; } // null while there is none
+
+    QSize sizeHint() const override;
+
+protected:
+    void paintEvent(QPaintEvent* event) override;
+    void keyPressEvent(QKeyEvent* event) override;
+
+private:
+    void DropDown();
+    void OnHovered(COLORREF color);
+    void OnChosen(COLORREF color);
+    void OnCustomWanted();
+    void OnCancelled();
+    void Tell(UINT code, COLORREF color) const;
+    COLORREF ShownColor() const;
+    void Describe();
+
+    COLORREF m_color = kDefaultColor;
+    COLORREF m_defaultColor;
+    QString m_defaultText = QStringLiteral("Default");
+    QString m_customText = QStringLiteral("More Colors...");
+    bool m_isDown = false;
+    bool m_isTracking = false;
+
+    COLORREF m_colorBefore = kDefaultColor; // while the palette is down
+    QPointer<ZNCEColorPopup> m_popup;
+};
