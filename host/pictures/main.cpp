@@ -1,9 +1,10 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 // znpictures FOLDER NAME LIGHT|DARK: pictures of the workbench with a script in it, for somebody to
-// look at: the window, folds, problems, changed lines, the find bar. tools/pictures makes all of
-// them, at three scales.
+// look at: the window, folds, problems, changed lines, the find bar, the preferences.
+// tools/pictures makes all of them, at three scales.
 #include "editing/ZNCoreEditorControlEx.h"
 #include "host/finding/FindBar.h"
+#include "host/pictures/PreferencesPictures.h"
 #include "host/window/MainWindow.h"
 #include "host/window/Workbench.h"
 
@@ -79,5 +80,6 @@ int main(int argc, char** argv)
         sought->setEditText(QStringLiteral("stock"));
     Rest(1000);
     window->grab().save(folder.filePath(words[2] + QStringLiteral("-find.png")));
+    PicturePreferences(folder, words[2]);
     return 0;
 }

@@ -2,7 +2,9 @@
 // Where the settings of a user are kept, beside those that were installed with the library.
 #pragma once
 
+#include "common/Export.h"
+
 #include <QString>
 
 // A path below the user's folder, which may not exist. Empty if the user has none.
-QString UserSettingsPath(const QString& relative);
+ZN_API QString UserSettingsPath(const QString& relative);

@@ -6,7 +6,7 @@
 #include "editing/language/FileTypeManager.h"
 #include "editing/language/Library.h"
 #include "editing/looks/DesktopWatch.h"
-#include "looks/DeliveredColours.h"
+#include "editing/looks/StyleColours.h"
 #include "looks/Schemes.h"
 #include "settings/SyntaxFile.h"
 
@@ -21,57 +21,13 @@ constexpr int kGuideStyle = 37;
 constexpr int kLastPredefinedStyle = 38;
 constexpr int kLastStyle = 127;
 
-using Pair = ColourScheme::Pair;
-
-const QHash<int, Pair>& DeliveredColours(const QString& file)
-{
-    static QHash<QString, QHash<int, Pair>> all;
-    auto found = all.find(file);
-    if (found == all.end())
-        found = all.insert(file, ReadDeliveredColours(file));
-    return *found;
-}
-
-// A style that is coloured as it was delivered takes the scheme's colours; any other was coloured
-// by a person, and stays.
-class StyleColours
-{
-public:
-    StyleColours(const ColourScheme& scheme, CSyntaxFile& syntax)
-        : m_scheme(scheme), m_delivered(DeliveredColours(syntax.GetFilename())), m_syntax(syntax),
-          m_language(syntax.GetFilename().section(u'/', -1)),
-          m_text(scheme.OfRole(QStringLiteral("text")).value_or(Pair{}))
-    {}
-
-    Pair Of(int style) const
-    {
-        const QString name = m_syntax.GetStyleName(style);
-        if (name.isEmpty())
-            return m_text;
-        const QString role = zncoreeditor::GetStyleRoles().RoleOf(m_language, name);
-        const Pair own = {static_cast<COLORREF>(m_syntax.GetStyleColorForeground(style)),
-                          static_cast<COLORREF>(m_syntax.GetStyleColorBackground(style))};
-        const auto delivered = m_delivered.constFind(style);
-        return delivered == m_delivered.constEnd() || *delivered == own
-                   ? m_scheme.OfRole(role).value_or(own)
-                   : own;
-    }
-
-private:
-    const ColourScheme& m_scheme;
-    const QHash<int, Pair>& m_delivered;
-    CSyntaxFile& m_syntax;
-    QString m_language;
-    Pair m_text;
-};
-
 void ApplyStyles(const ColourScheme& scheme, CSyntaxFile& syntax, CZNCoreEditorControlEx& control)
 {
     const StyleColours colours(scheme, syntax);
     const bool highlight = syntax.GetSyntaxHighlighting();
     for (int style = 0; style <= kLastStyle; ++style) {
         const bool isPredefined = style >= kDefaultStyle && style <= kLastPredefinedStyle;
-        Pair pair = colours.Of(highlight || isPredefined ? style : kDefaultStyle);
+        ColourScheme::Pair pair = colours.Of(highlight || isPredefined ? style : kDefaultStyle);
         if (style == kGuideStyle) // lines, no text
             pair = {scheme.Of(Drawn::Guide), scheme.Of(Drawn::Ground)};
         if (style == kLineNumberStyle)

@@ -10,6 +10,7 @@
 #include <QDialog>
 #include <QLineEdit>
 #include <QListWidget>
+#include <QPlainTextEdit>
 #include <QPointer>
 #include <QScreen>
 
@@ -31,9 +32,10 @@ public:
     void accept() override { SendMessage(this, WM_COMMAND, IDOK, 0); }
 };
 
-DialogWindow* WindowOf(const CDialog& dialog)
+// Null for a page, whose window is no dialog of its own.
+QDialog* WindowOf(const CDialog& dialog)
 {
-    return static_cast<DialogWindow*>(dialog.GetSafeHwnd());
+    return qobject_cast<QDialog*>(dialog.GetSafeHwnd());
 }
 
 } // namespace
@@ -49,8 +51,24 @@ bool CDialog::MakeWindow(QWidget* parent)
         return false;
     auto* window = new DialogWindow(parent);
     window->setWindowFlag(Qt::WindowContextHelpButtonHint, false);
+    return TakeWindow(window);
+}
+
+bool CDialog::TakeWindow(QWidget* window)
+{
     SubclassWindow(window);
     OnBuild(window);
+    return true;
+}
+
+bool CDialog::CreateInside(QWidget* parent)
+{
+    if (GetSafeHwnd())
+        return false;
+    auto* window = new QWidget(parent);
+    window->hide();
+    TakeWindow(window);
+    OnInitDialog();
     return true;
 }
 
@@ -58,7 +76,7 @@ void CDialog::Initialise()
 {
     if (!OnInitDialog())
         return;
-    DialogWindow* window = WindowOf(*this);
+    QDialog* window = WindowOf(*this);
     for (QWidget* at = window->nextInFocusChain(); at && at != window;
          at = at->nextInFocusChain()) {
         if (window->isAncestorOf(at) && at->focusPolicy() & Qt::TabFocus && at->isEnabled()) {
@@ -100,7 +118,10 @@ void CDialog::EndDialog(std::intptr_t result)
     if (!GetSafeHwnd())
         return;
     m_result = result;
-    WindowOf(*this)->done(static_cast<int>(result));
+    if (QDialog* window = WindowOf(*this))
+        window->done(static_cast<int>(result));
+    else
+        GetSafeHwnd()->hide();
 }
 
 // As a button of the window may be what ends it, the window waits until no call is in progress.
@@ -211,6 +232,8 @@ void CDialog::Connect(UINT id, QWidget* control)
         QObject::connect(edit, &QLineEdit::textChanged, GetSafeHwnd(), tell(EN_CHANGE));
     } else if (auto* list = qobject_cast<QListWidget*>(control)) {
         QObject::connect(list, &QListWidget::currentRowChanged, GetSafeHwnd(), tell(LBN_SELCHANGE));
+    } else if (auto* text = qobject_cast<QPlainTextEdit*>(control)) {
+        QObject::connect(text, &QPlainTextEdit::textChanged, GetSafeHwnd(), tell(EN_CHANGE));
     }
 }
 

@@ -38,6 +38,9 @@ public:
 
     using CWnd::Create;
     bool Create(CWnd* parent); // modeless, hidden at first. False if there is a window already
+    // A page of another dialog: a plain widget inside the given one, hidden at first. Keys that it
+    // does not use, Enter and Escape among them, are the dialog's around it.
+    bool CreateInside(QWidget* parent);
 
     // Ends a modal dialog; hides a modeless one.
     void EndDialog(std::intptr_t result);
@@ -83,6 +86,7 @@ protected:
     const CommandMap& GetCommandMap() const override;
 
 private:
+    bool TakeWindow(QWidget* window);
     bool MakeWindow(QWidget* parent);
     void Initialise();
     void Tell(UINT id, UINT code, QWidget* control) const;

@@ -1,0 +1,213 @@
+#include "prefs/pages/SettingsPref.h"
+
+#include "platform/windows/DataExchange.h"
+#include "settings/Number.h"
+#include "settings/SyntaxFile.h"
+
+#include <QCheckBox>
+#include <QGroupBox>
+#include <QHBoxLayout>
+#include <QLabel>
+#include <QLineEdit>
+#include <QRadioButton>
+#include <QVBoxLayout>
+
+namespace {
+
+using Kind = SettingRow::Kind;
+namespace id = prefscontrol;
+
+template <UINT... Ids>
+inline constexpr UINT kIds[] = {Ids...};
+
+template <auto Get, auto Set>
+SettingRow Row(Kind kind, std::span<const UINT> ids)
+{
+    return {kind, ids, [](CSyntaxFile& file) { return static_cast<int>((file.*Get)()); },
+            [](CSyntaxFile& file, int value) {
+                if constexpr (std::is_invocable_v<decltype(Set), CSyntaxFile&, bool> &&
+                              std::is_same_v<decltype((file.*Get)()), bool>)
+                    (file.*Set)(value != 0);
+                else
+                    (file.*Set)(value);
+            }};
+}
+
+using F = CSyntaxFile;
+
+// clang-format off
+const SettingRow kEditorRows[] = {
+    Row<&F::GetMarginLineNumber, &F::SetMarginLineNumber>(Kind::Check,  kIds<id::LineNumbers>),
+    Row<&F::GetMarginBookmark,   &F::SetMarginBookmark>  (Kind::Check,  kIds<id::BookmarkMargin>),
+    Row<&F::GetMarginFold,       &F::SetMarginFold>      (Kind::Check,  kIds<id::Outlining>),
+    Row<&F::GetWordWrap,         &F::SetWordWrap>        (Kind::Check,  kIds<id::WordWrap>),
+    Row<&F::GetEOL,              &F::SetEOL>             (Kind::Check,  kIds<id::EndOfLine>),
+    Row<&F::GetWhiteSpace,       &F::SetWhiteSpace>      (Kind::Check,  kIds<id::Whitespace>),
+    Row<&F::GetIndent,           &F::SetIndent>          (Kind::Check,  kIds<id::TabIndents>),
+    Row<&F::GetIndentSize,       &F::SetIndentSize>      (Kind::Number, kIds<id::IndentSize>),
+    Row<&F::GetTabWidth,         &F::SetTabWidth>        (Kind::Number, kIds<id::TabSize>),
+    Row<&F::GetTabsToSpaces,     &F::SetTabsToSpaces>    (Kind::Check,  kIds<id::TabsToSpaces>),
+    Row<&F::GetAutoIndent,       &F::SetAutoIndent>      (Kind::Choice, kIds<id::IndentOff, id::IndentAsAbove, id::IndentByLanguage>),
+    Row<&F::GetIndentGuides,     &F::SetIndentGuides>    (Kind::Check,  kIds<id::IndentGuides>),
+};
+
+const SettingRow kCodingRows[] = {
+    Row<&F::GetSyntaxHighlighting,  &F::SetSyntaxHighlighting> (Kind::Check,  kIds<id::SyntaxHighlighting>),
+    Row<&F::GetBraceMatch,          &F::SetBraceMatch>         (Kind::Check,  kIds<id::BraceMatching>),
+    Row<&F::GetAutoCompletion,      &F::SetAutoCompletion>     (Kind::Check,  kIds<id::AutoCompletion>),
+    Row<&F::GetCodeCompletion,      &F::SetCodeCompletion>     (Kind::Check,  kIds<id::CodeCompletion>),
+    Row<&F::GetACKey,               &F::SetACKey>              (Kind::Choice, kIds<id::CompleteByTab, id::CompleteBySpace>),
+    Row<&F::GetEnsureFinalNewLine,  &F::SetEnsureFinalNewLine> (Kind::Check,  kIds<id::FinalNewLine>),
+    Row<&F::GetConvertTabsToSpaces, &F::SetConvertTabsToSpaces>(Kind::Check,  kIds<id::SaveTabsAsSpaces>),
+    Row<&F::GetTrimTrailingSpaces,  &F::SetTrimTrailingSpaces> (Kind::Check,  kIds<id::SaveTrimmed>),
+};
+// clang-format on
+
+// A titled group at the end of the page; what it holds goes below one another.
+QVBoxLayout& AddGroup(QVBoxLayout& page, const char* title)
+{
+    auto* group = new QGroupBox(QLatin1String(title));
+    page.addWidget(group);
+    return *new QVBoxLayout(group);
+}
+
+} // namespace
+
+bool CSettingsPref::OnInitDialog()
+{
+    if (CSyntaxFile* file = Syntax()) {
+        for (std::size_t i = 0; i < m_rows.size(); ++i)
+            m_values[i] = m_rows[i].get(*file);
+    }
+    m_isFilled = CEditorPrefsSubDlg::OnInitDialog();
+    return m_isFilled;
+}
+
+// A choice whose value has no button leaves them all off, and stays what it is until one is chosen.
+void CSettingsPref::Exchange(CDataExchange& exchange, const SettingRow& row, int& value)
+{
+    if (row.kind == Kind::Number) {
+        QString text = QString::number(value);
+        DDX_Text(&exchange, row.ids[0], text);
+        if (exchange.m_bSaveAndValidate)
+            value = TextToInt(text);
+        return;
+    }
+    for (std::size_t i = 0; i < row.ids.size(); ++i) {
+        const int meant = row.kind == Kind::Check ? 1 : static_cast<int>(i);
+        bool on = value == meant;
+        DDX_Check(&exchange, row.ids[i], on);
+        if (!exchange.m_bSaveAndValidate)
+            continue;
+        if (on)
+            value = meant;
+        else if (row.kind == Kind::Check)
+            value = 0;
+    }
+}
+
+void CSettingsPref::DoDataExchange(CDataExchange* exchange)
+{
+    for (std::size_t i = 0; i < m_rows.size(); ++i)
+        Exchange(*exchange, m_rows[i], m_values[i]);
+}
+
+void CSettingsPref::Apply()
+{
+    CSyntaxFile* file = Syntax();
+    if (!GetSafeHwnd() || !file)
+        return;
+    for (std::size_t i = 0; i < m_rows.size(); ++i) {
+        if (m_rows[i].get(*file) != m_values[i])
+            m_rows[i].set(*file, m_values[i]);
+    }
+}
+
+void CSettingsPref::OnControl(UINT /*id*/, UINT code)
+{
+    if (code == EN_CHANGE && m_isFilled)
+        OnChanged();
+}
+
+// Every button of the page is a setting.
+int CSettingsPref::OnCommand(WPARAM wParam, LPARAM lParam)
+{
+    const int done = CEditorPrefsSubDlg::OnCommand(wParam, lParam);
+    if (lParam && wParam >> 16 == BN_CLICKED)
+        OnChanged();
+    return done;
+}
+
+void CSettingsPref::AddCheck(QVBoxLayout& column, UINT id, const char* label)
+{
+    column.addWidget(AddControl(id, new QCheckBox(QLatin1String(label))));
+}
+
+void CSettingsPref::AddRadio(QVBoxLayout& column, UINT id, const char* label)
+{
+    column.addWidget(AddControl(id, new QRadioButton(QLatin1String(label))));
+}
+
+void CSettingsPref::AddNumber(QVBoxLayout& column, UINT id, const char* label)
+{
+    constexpr int kDigits = 8;
+    auto* row = new QHBoxLayout;
+    auto* text = new QLabel(QLatin1String(label));
+    auto* edit = AddControl(id, new QLineEdit);
+    edit->setAccessibleName(QLatin1String(label));
+    edit->setFixedWidth(edit->fontMetrics().averageCharWidth() * (kDigits + 4));
+    text->setBuddy(edit);
+    row->addWidget(text);
+    row->addWidget(edit);
+    row->addStretch();
+    column.addLayout(row);
+}
+
+CEditorPref::CEditorPref() : CSettingsPref(kEditorRows) {}
+
+void CEditorPref::OnBuild(QWidget* window)
+{
+    auto* page = new QVBoxLayout(window);
+    QVBoxLayout& shown = AddGroup(*page, "Shown Beside and In the Text");
+    AddCheck(shown, id::LineNumbers, "Line Numbers");
+    AddCheck(shown, id::BookmarkMargin, "Bookmark Margin");
+    AddCheck(shown, id::Outlining, "Outlining");
+    AddCheck(shown, id::WordWrap, "Word Wrap");
+    AddCheck(shown, id::EndOfLine, "End Of Line");
+    AddCheck(shown, id::Whitespace, "Whitespace");
+    AddCheck(shown, id::IndentGuides, "Indentation Guides");
+
+    QVBoxLayout& tabs = AddGroup(*page, "Tabs and Indentation");
+    AddNumber(tabs, id::TabSize, "Tab Size");
+    AddNumber(tabs, id::IndentSize, "Indent Size");
+    AddCheck(tabs, id::TabsToSpaces, "Pressing Tab inserts Spaces");
+    AddCheck(tabs, id::TabIndents, "Tab and Backspace (Un)Indent");
+
+    QVBoxLayout& style = AddGroup(*page, "Auto Indentation Style");
+    AddRadio(style, id::IndentOff, "Off");
+    AddRadio(style, id::IndentAsAbove, "Follow Previous Line");
+    AddRadio(style, id::IndentByLanguage, "Follow Language Scoping");
+    page->addStretch();
+}
+
+CCodingPref::CCodingPref() : CSettingsPref(kCodingRows) {}
+
+void CCodingPref::OnBuild(QWidget* window)
+{
+    auto* page = new QVBoxLayout(window);
+    QVBoxLayout& reading = AddGroup(*page, "Reading");
+    AddCheck(reading, id::SyntaxHighlighting, "Syntax &Highlighting");
+    AddCheck(reading, id::BraceMatching, "&Brace Matching");
+
+    QVBoxLayout& completion = AddGroup(*page, "Completion");
+    AddCheck(completion, id::AutoCompletion, "&Auto Completion");
+    AddCheck(completion, id::CodeCompletion, "C&ode Completion");
+    AddRadio(completion, id::CompleteByTab, "&Tab Key");
+    AddRadio(completion, id::CompleteBySpace, "Space Bar &Key");
+
+    QVBoxLayout& saving = AddGroup(*page, "When a File is Saved");
+    AddCheck(saving, id::FinalNewLine, "Ensure Final New Line");
+    AddCheck(saving, id::SaveTabsAsSpaces, "Convert Tabs To Spaces");
+    AddCheck(saving, id::SaveTrimmed, "Trim Trailing Spaces");
+    page->addStretch();
+}

@@ -1,0 +1,41 @@
+// StyleSample: a few lines of a language in its styles, painted by the engine. It takes colours and
+// fonts as they are tried out, before any of them is a setting.
+#pragma once
+
+#include "common/Export.h"
+#include "control/ZNCoreEditorControl.h"
+#include "looks/ColourScheme.h"
+
+#include <QFrame>
+
+#include <memory>
+
+class CSyntaxFile;
+
+struct SampleFont
+{
+    QString name; // empty and 0: what the default style has
+    int size = 0; // points
+    bool bold = false;
+    bool italic = false;
+    bool underline = false;
+};
+
+class ZN_API StyleSample final : public QFrame
+{
+    Q_OBJECT
+
+public:
+    explicit StyleSample(QWidget* parent = nullptr);
+    ~StyleSample() override;
+
+    // The text, words and styles of the language. Without an engine nothing is shown.
+    void Show(CSyntaxFile& syntax);
+    void SetStyleColors(int style, ColourScheme::Pair colors);
+    void SetStyleFont(int style, const SampleFont& font);
+    // The control, to look at; null without an engine.
+    CZNCoreEditorControl* Control() const { return m_control.get(); }
+
+private:
+    std::unique_ptr<CZNCoreEditorControl> m_control;
+};
