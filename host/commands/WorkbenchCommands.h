@@ -17,5 +17,6 @@ enum Id : UINT
     SaveHtml,
     CopyWithColours,
     PreviousPane, // the focus goes there
+    Preferences = 54033, // as the editors have it
 };
 } // namespace command

@@ -2,6 +2,7 @@
 #include "host/script/BatchMark.h"
 
 #include "editing/ZNCoreEditorControlEx.h"
+#include "looks/ColourScheme.h"
 
 namespace {
 
@@ -25,7 +26,9 @@ void MarkLine(CZNCoreEditorControlEx& control, int line, bool isMarked)
 
 void DefineBatchMark(CZNCoreEditorControlEx& control)
 {
-    control.DefineMarker(kMarker, kLeftRectangle, kColour, kColour);
+    const ColourScheme* scheme = control.Scheme();
+    const unsigned long colour = scheme ? scheme->Of(Drawn::Batch) : kColour;
+    control.DefineMarker(kMarker, kLeftRectangle, colour, colour);
 }
 
 void MarkBatch(CZNCoreEditorControlEx& control)

@@ -4,11 +4,11 @@
 #include "control/EngineRecords.h"
 #include "host/commands/WorkbenchCommands.h"
 #include "host/files/FileDrops.h"
+#include "host/preferences/Appearance.h"
 #include "host/script/BatchMark.h"
 #include "host/script/NameAtCaret.h"
 #include "host/script/ScriptDoc.h"
 #include "host/script/ScrollRange.h"
-#include "looks/Schemes.h"
 #include "platform/docview/CommandIds.h"
 #include "platform/docview/FrameWnd.h"
 #include "platform/windows/Mouse.h"
@@ -39,7 +39,7 @@ int ScriptView::OnCreate(CCreateContext* context)
     m_coreEditor.SetEncoding(FileEncodeConverter::encUTF8);
     m_coreEditor.SetWriteEncodingSig(false);
     m_coreEditor.SetScrollWidth(1, 1);
-    m_coreEditor.SetScheme(zncoreeditor::kDesktopScheme);
+    m_coreEditor.SetScheme(appearance::Current());
     DefineBatchMark(m_coreEditor);
     m_coreEditor.GetSafeHwnd()->setAccessibleName(QStringLiteral("Script"));
     FileDrops::Take(*m_coreEditor.GetSafeHwnd());
@@ -63,6 +63,12 @@ void ScriptView::OnInitialUpdate()
         return;
     script->OnViewShown();
     FollowSoon();
+}
+
+void ScriptView::FollowScheme(const QString& name)
+{
+    m_coreEditor.SetScheme(name);
+    DefineBatchMark(m_coreEditor);
 }
 
 void ScriptView::ShowAs(ScriptView& other)
@@ -105,10 +111,11 @@ void ScriptView::LookAtFile()
 int ScriptView::OnCmdMsg(UINT id, int code, void* extra, CommandHandlerInfo* info)
 {
     // The find bar's, which the frame has: the editor itself would open the dialogs.
-    constexpr UINT kOfTheFindBar[] = {57636, 57640, 57641};
+    // The preferences are the application's.
+    constexpr UINT kOfTheFrame[] = {57636, 57640, 57641, command::Preferences};
     if (CZNCoreEditorView::OnCmdMsg(id, code, extra, info))
         return 1;
-    return std::ranges::find(kOfTheFindBar, id) == std::end(kOfTheFindBar) &&
+    return std::ranges::find(kOfTheFrame, id) == std::end(kOfTheFrame) &&
            m_coreEditor.OnCmdMsg(id, code, extra, info);
 }
 

@@ -33,9 +33,10 @@ public:
     void SelectRange(long start, long end); // and shows it
     void GoToLine(long line);               // from 0, and shows it
     void GoToColumn(long column);           // of the caret's line, from 0, as far as it goes
-    void ShowAs(ScriptView& other);         // place, selection and zoom
-    QString CaretText();                    // line and column, from 1
-    QString Catalog();                      // the database in force at the caret, empty if unknown
+    void FollowScheme(const QString& name);
+    void ShowAs(ScriptView& other); // place, selection and zoom
+    QString CaretText();            // line and column, from 1
+    QString Catalog();              // the database in force at the caret, empty if unknown
 
 protected:
     int OnCreate(CCreateContext* context);
@@ -47,7 +48,7 @@ protected:
     const CommandMap& GetCommandMap() const override;
 
 private:
-    ScriptView() = default;
+    ScriptView() { m_coreEditor.SetUserSettingsFirst(true); }
     void LookAtFile(); // and asks about what others did to it
     void FollowSoon();
     void Follow();

@@ -195,9 +195,12 @@ void MainWindow::ApplyView(const ScriptDoc& script)
         if (!shown)
             continue;
         CZNCoreEditorControlEx& editor = shown->GetCoreEditorControlRef();
-        editor.SetViewWS(m_showWhitespace ? 1 : 0, 1);
-        editor.SetViewEOL(m_showLineEnds, 1);
-        editor.SetWrapMode(m_wrapLines ? 1 : 0, 1);
+        if (m_showWhitespace)
+            editor.SetViewWS(*m_showWhitespace ? 1 : 0, 1);
+        if (m_showLineEnds)
+            editor.SetViewEOL(*m_showLineEnds, 1);
+        if (m_wrapLines)
+            editor.SetWrapMode(*m_wrapLines ? 1 : 0, 1);
     }
 }
 

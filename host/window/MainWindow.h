@@ -6,6 +6,7 @@
 #include <QMainWindow>
 
 #include <memory>
+#include <optional>
 #include <span>
 #include <vector>
 
@@ -84,6 +85,7 @@ private:
     QAction* AddCommand(const Command& command);
     bool IsPossible(When when) const;
     void UpdateCommands();
+    void ShowViewOf(CZNCoreEditorControlEx* editor);
     void OpenRecent(const QString& path);
 
     void OnTabAdded(QWidget* page);
@@ -121,7 +123,8 @@ private:
     QTimer* m_sessionTimer;
     QList<QAction*> m_actions; // of the named commands, in their order
     bool m_keepsSession = false;
-    bool m_showWhitespace = false;
-    bool m_showLineEnds = false;
-    bool m_wrapLines = false;
+    // Once a person has chosen; until then as each language has it.
+    std::optional<bool> m_showWhitespace;
+    std::optional<bool> m_showLineEnds;
+    std::optional<bool> m_wrapLines;
 };

@@ -16,6 +16,7 @@
 #include "host/window/MainFrame.h"
 #include "host/window/MainWindow.h"
 #include "host/window/RecentMenu.h"
+#include "host/window/SchemeMenu.h"
 #include "host/window/Workbench.h"
 #include "platform/docview/CommandIds.h"
 #include "platform/windows/ActionUI.h"
@@ -132,6 +133,7 @@ std::span<const MainWindow::Command> MainWindow::Commands()
         {"&Tools", nullptr},
         {"&Tools", "commands", "&Commands...",  Key::UnknownKey,   "Ctrl+Shift+A", 0, When::Always, Run<&W::ShowCommands>},
         {"&Tools", "options",  "&Options...",   Key::Preferences,  "Ctrl+,", 0, When::Always, Run<&W::ChangeOptions>},
+        {"&Tools", "preferences", "Editor and Language &Preferences...", Key::UnknownKey, nullptr, command::Preferences},
         {"&Tools", "autosave", "&Autosave...",  Key::UnknownKey,   nullptr,  0, When::Always, Run<&W::ChangeAutosave>},
     };
     // clang-format on
@@ -162,6 +164,9 @@ void MainWindow::BuildMenus()
     connect(m_languages, &LanguageMenu::Chosen, this, &MainWindow::SetLanguage);
     auto* recent = new RecentMenu(m_app.Recent(), this);
     connect(recent, &RecentMenu::Chosen, this, &MainWindow::OpenRecent);
+    auto* schemes = new SchemeMenu(this);
+    connect(schemes, &SchemeMenu::Chosen, this,
+            [this](const QString& name) { m_app.ChooseScheme(name); });
     QMenu* menu = nullptr;
     QMenu* edit = nullptr;
     for (const Command& command : Commands()) {
@@ -181,6 +186,8 @@ void MainWindow::BuildMenus()
             menu->addSeparator();
         if (command.id == command::OpenAs)
             menu->addMenu(recent);
+        if (command.name && QLatin1String(command.name) == QLatin1String("wrap"))
+            menu->addMenu(schemes);
     }
     m_find->AddActions(*edit->addMenu(QStringLiteral("Fi&nd")));
     m_editing = new EditingMenu(*edit, [this] {
@@ -211,8 +218,22 @@ void MainWindow::UpdateCommands()
         if (command.name)
             ++action;
     }
+    ShowViewOf(CurrentEditor());
     m_editing->Update();
     m_find->Update();
+}
+
+// What is shown follows the language until a person chooses.
+void MainWindow::ShowViewOf(CZNCoreEditorControlEx* editor)
+{
+    if (!editor)
+        return;
+    const auto mark = [this](const char* name, bool on) {
+        findChild<QAction*>(QLatin1String(name))->setChecked(on);
+    };
+    mark("whitespace", editor->GetViewWS(1) != 0);
+    mark("lineEnds", editor->GetViewEOL(1) != 0);
+    mark("wrap", editor->GetWrapMode(1) != 0);
 }
 
 void MainWindow::ShowWhitespace(bool show)

@@ -1,12 +1,15 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "host/window/Workbench.h"
 
+#include "editing/language/Library.h"
 #include "host/commands/WorkbenchCommands.h"
 #include "host/files/Places.h"
 #include "host/files/Prompts.h"
+#include "host/preferences/Appearance.h"
 #include "host/script/ScriptDoc.h"
 #include "host/script/ScriptFrame.h"
 #include "host/script/ScriptView.h"
+#include "looks/Schemes.h"
 #include "platform/docview/CommandIds.h"
 #include "platform/docview/DocTemplate.h"
 #include "platform/windows/Disposal.h"
@@ -36,8 +39,16 @@ QString FolderToStartIn(const ScriptDoc* script)
 
 Workbench::Workbench(Keeps keeps)
     : m_keeps(keeps), m_guard(keeps == Keeps::Places ? OpenGuard::DefaultFolder() : QString()),
-      m_settings(places::Settings()), m_recent(m_settings)
+      m_settings(places::Settings()), m_recent(m_settings),
+      m_preferences(
+          [this] {
+              for (ScriptDoc* script : Scripts())
+                  Q_EMIT script->LanguageChanged();
+          },
+          [this](const QString& scheme) { ChooseScheme(scheme); })
 {
+    if (m_keeps == Keeps::Places)
+        appearance::SetCurrent(appearance::Load(m_settings));
     AddDocTemplate(std::make_unique<CMultiDocTemplate>(kStrings, ScriptDoc::GetThisClass(),
                                                        ScriptFrame::GetThisClass(),
                                                        ScriptView::GetThisClass()));
@@ -140,6 +151,32 @@ void Workbench::OnOpenAs()
         OpenScript(choice->path, choice->encoding);
 }
 
+void Workbench::ChooseScheme(const QString& name)
+{
+    // What is as the desktop looks at the palette; a scheme of a name does not, and is laid out
+    // once.
+    const bool byDesktop = name == zncoreeditor::kDesktopScheme;
+    if (byDesktop)
+        appearance::SetCurrent(name);
+    if (m_keeps == Keeps::Places)
+        appearance::Store(m_settings, name);
+    for (ScriptDoc* script : Scripts()) {
+        for (CView* view : script->GetViews()) {
+            if (auto* shown = dynamic_cast<ScriptView*>(view))
+                shown->FollowScheme(name);
+        }
+    }
+    if (!byDesktop)
+        appearance::SetCurrent(name);
+}
+
+void Workbench::OpenPreferences()
+{
+    zncoreeditor::OnConfigurePreferences();
+    for (ScriptDoc* script : Scripts())
+        Q_EMIT script->LanguageChanged();
+}
+
 int Workbench::SaveAll()
 {
     const FrameworkCall call;
@@ -165,6 +202,7 @@ const CommandMap& Workbench::GetCommandMap() const
         {ID_FILE_OPEN,     [](CCmdTarget& t) { static_cast<App&>(t).OnOpen(); }},
         {command::OpenAs,  [](CCmdTarget& t) { static_cast<App&>(t).OnOpenAs(); }},
         {command::SaveAll, [](CCmdTarget& t) { static_cast<App&>(t).SaveAll(); }},
+        {command::Preferences, [](CCmdTarget& t) { static_cast<App&>(t).OpenPreferences(); }},
     };
     static constexpr UpdateEntry kUpdates[] = {
         {command::SaveAll, [](CCmdTarget& t, CCmdUI& ui) {

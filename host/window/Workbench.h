@@ -5,6 +5,7 @@
 
 #include "host/files/OpenGuard.h"
 #include "host/files/RecentFiles.h"
+#include "host/preferences/WorkbenchPreferences.h"
 #include "host/printing/WorkbenchPrinter.h"
 #include "platform/docview/WinApp.h"
 
@@ -37,6 +38,9 @@ public:
     std::vector<ScriptDoc*> Scripts() const;
     ScriptDoc* ActiveScript() const;                // null if there is none
     ScriptDoc* FindOpen(const QString& path) const; // null if it is not open
+    // Of all scripts and of what is around them, from here on and in the next run.
+    void ChooseScheme(const QString& name);
+    void OpenPreferences();
     RecentFiles& Recent() { return m_recent; }
 
 protected:
@@ -52,4 +56,5 @@ private:
     WorkbenchPrinter m_printer;
     QSettings m_settings;
     RecentFiles m_recent;
+    WorkbenchPreferences m_preferences;
 };

@@ -28,6 +28,7 @@ class CZNCoreEditorControlEx;
 class QMenu;
 class QPoint;
 struct CDataExchange;
+struct LanguageOptions;
 struct LOGFONT;
 struct MacroHolder;
 
@@ -97,7 +98,12 @@ public:
     void SetCurrentLanguage(int language) { m_currentLanguage = language; } // binds nothing
     int GetCurrentLanguage() const { return m_currentLanguage; }
     virtual void SetEditorOptions(); // takes font, colours and behaviour from the options
-    void SetLogFont(LOGFONT* font);  // for all styles of all languages; null does nothing
+    // What a user has saved in the preferences of a language comes before the options, which then
+    // fill in what that leaves open; every other language takes them whole, and counts as changed
+    // by no user. Before there is a window. Off at first: the options come before everything.
+    void SetUserSettingsFirst(bool first) { m_userSettingsFirst = first; }
+    bool GetUserSettingsFirst() const { return m_userSettingsFirst; }
+    void SetLogFont(LOGFONT* font); // for all styles of all languages; null does nothing
     // The options go into every language's settings in memory, and the language is bound again.
     void UpdateXmlSettingsFromOptionServerData(QString fontName, int fontSize, bool bold,
                                                bool italic, bool underline);
@@ -108,7 +114,7 @@ public:
     // A size below 1 and a null face stay as they are.
     void SetAStyle(int style, COLORREF fore, COLORREF back, int size, const char16_t* face);
     // The colours of a scheme (looks/Schemes.h) over those of the settings, and its margins. A
-    // style that a person has coloured stays. Empty, as from the start: the settings alone.
+    // colour that a person has chosen stays. Empty, as from the start: the settings alone.
     void SetScheme(const QString& name);
     const QString& SchemeName() const { return m_scheme; }
     const ColourScheme* Scheme() const; // the one in force; null for the settings alone
@@ -325,6 +331,7 @@ protected:
     void RangeExtendAndGrab(char16_t* buffer, int length, int& start, int& end, int limit,
                             bool (*accept)(char16_t), bool stripEol);
     void SelectionExtend(char16_t* buffer, int length, bool (*accept)(char16_t), bool stripEol);
+    void WriteOptions(CSyntaxFile& syntax, const LanguageOptions& options) const;
     void SetLineNumberWidth();
     void AutoIndentIn(char16_t character);
     void AutoIndentOut(char16_t character);
@@ -412,6 +419,7 @@ private:
     std::vector<CharacterRange> m_grownSelections;
     bool m_isSaving = false;
     QString m_scheme;
+    bool m_userSettingsFirst = false;
     QPointer<QObject> m_desktopWatch; // goes with the window
     std::size_t m_nextAsked = 0;      // of the bookmarks' handles
 };

@@ -64,6 +64,7 @@ ZNCoreEditorWidget::ZNCoreEditorWidget(QWidget* parent)
       m_window(std::make_unique<NotificationWindow>(*this))
 {
     m_control->SetCarefulFiles(true);
+    m_control->SetUserSettingsFirst(true);
     auto* layout = new QVBoxLayout(this);
     layout->setContentsMargins(0, 0, 0, 0);
     const HWND editor = CreateWindowOfClass(

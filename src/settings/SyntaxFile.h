@@ -160,6 +160,8 @@ public:
     // Sets all of it, for the styles 0 to 127. What is written already, and stands as it was
     // written, costs next to nothing. False if nothing could be set.
     bool WriteOptions(const LanguageOptions& options);
+    // Font and size of them, for the styles that have none.
+    void FillFonts(const LanguageOptions& options);
 
     // Sets 0 to 7. Words stand in the order of the file.
     QString GetKeywordSetDescription(int set);

@@ -49,6 +49,18 @@ bool CSyntaxFile::SetOptions(const LanguageOptions& options)
     return isSet;
 }
 
+void CSyntaxFile::FillFonts(const LanguageOptions& options)
+{
+    if (!m_parsed && !Parse())
+        return;
+    for (int style = 0; style <= kLastStyle; ++style) {
+        if (GetStyleFontName(style).isEmpty())
+            SetStyleFontName(style, options.fontName);
+        if (options.fontSize > 0 && GetStyleFontSize(style) <= 0)
+            SetStyleFontSize(style, options.fontSize);
+    }
+}
+
 bool CSyntaxFile::SetStyleFont(int style, const LanguageOptions& options)
 {
     pug::xml_node font = GetStyleFontNode(style);

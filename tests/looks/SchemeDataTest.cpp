@@ -80,9 +80,19 @@ TEST(ContrastItself, IsThatOfTheGuidelines)
     EXPECT_NEAR(Contrast(0x767676, 0xFFFFFF), 4.54, 0.01);
 }
 
-TEST(ShippedSchemes, AreLightAndDark)
+constexpr const char* kSchemes[] = {"Light", "Dark", "High Contrast", "Print"};
+
+double LeastContrast(const QString& scheme)
 {
-    EXPECT_TRUE(zncoreeditor::SchemeNames().contains(QStringLiteral("Light")));
+    return scheme == QLatin1String("High Contrast") ? 7 : 4.5;
+}
+
+TEST(ShippedSchemes, AreFour)
+{
+    EXPECT_EQ(zncoreeditor::SchemeNames().size(), 4);
+    for (const char* name : kSchemes)
+        EXPECT_TRUE(zncoreeditor::SchemeNames().contains(QLatin1String(name))) << name;
+    EXPECT_GT(Luminance(Scheme("Print").Of(Drawn::Ground)), 0.99);
     EXPECT_FALSE(Scheme("Light").IsDark());
     EXPECT_TRUE(Scheme("Dark").IsDark());
     EXPECT_GT(Luminance(Scheme("Light").Of(Drawn::Ground)), 0.9);
@@ -95,7 +105,7 @@ TEST(ShippedSchemes, HaveARoleForEveryStyleOfEveryLanguage)
     ASSERT_GT(styles.size(), 800U);
     for (const Style& style : styles) {
         const QString role = zncoreeditor::GetStyleRoles().RoleOf(style.language, style.name);
-        for (const char* name : {"Light", "Dark"})
+        for (const char* name : kSchemes)
             EXPECT_TRUE(Scheme(name).OfRole(role)) << Named(style, Scheme(name));
     }
 }
@@ -118,27 +128,31 @@ TEST(DeliveredColours, AreThoseOfTheLanguageFile)
 
 TEST(ShippedSchemes, CanBeReadInEveryStyleOfEveryLanguage)
 {
-    for (const char* name : {"Light", "Dark"}) {
+    for (const char* name : kSchemes) {
         for (const Style& style : StylesOfAllLanguages()) {
             const QString role = zncoreeditor::GetStyleRoles().RoleOf(style.language, style.name);
             const ColourScheme::Pair pair =
                 Scheme(name).OfRole(role).value_or(ColourScheme::Pair{});
-            EXPECT_GE(Contrast(pair.fore, pair.back), 4.5) << Named(style, Scheme(name));
+            EXPECT_GE(Contrast(pair.fore, pair.back), LeastContrast(Scheme(name).Name()))
+                << Named(style, Scheme(name));
         }
     }
 }
 
 TEST(ShippedSchemes, CanBeReadOnTheCurrentLineAndInTheMargin)
 {
-    for (const char* name : {"Light", "Dark"}) {
+    for (const char* name : kSchemes) {
         const ColourScheme& scheme = Scheme(name);
         for (const char* role : {"text", "comment", "keyword", "string", "number", "inactive"}) {
             const auto pair = scheme.OfRole(QLatin1String(role)).value_or(ColourScheme::Pair{});
-            EXPECT_GE(Contrast(pair.fore, scheme.Of(Drawn::CurrentLine)), 4.5) << name << role;
+            EXPECT_GE(Contrast(pair.fore, scheme.Of(Drawn::CurrentLine)),
+                      LeastContrast(scheme.Name()))
+                << name << role;
         }
         const auto digits =
             scheme.OfRole(QStringLiteral("lineNumber")).value_or(ColourScheme::Pair{});
-        EXPECT_GE(Contrast(digits.fore, scheme.Of(Drawn::Margin)), 4.5) << name;
+        EXPECT_GE(Contrast(digits.fore, scheme.Of(Drawn::Margin)), LeastContrast(scheme.Name()))
+            << name;
         EXPECT_GE(Contrast(scheme.Of(Drawn::CurrentLineNumber), scheme.Of(Drawn::Margin)), 4.5);
     }
 }

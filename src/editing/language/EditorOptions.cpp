@@ -10,6 +10,8 @@
 #include "settings/Number.h"
 #include "settings/SyntaxFile.h"
 
+#include <QFile>
+
 #include <cmath>
 #include <string>
 
@@ -110,6 +112,20 @@ void CZNCoreEditorControlEx::SetLogFont(LOGFONT* font)
                                           font->lfUnderline != 0);
 }
 
+void CZNCoreEditorControlEx::WriteOptions(CSyntaxFile& syntax, const LanguageOptions& options) const
+{
+    if (!m_userSettingsFirst) {
+        syntax.WriteOptions(options);
+        return;
+    }
+    const bool wasModified = syntax.GetModified();
+    if (QFile::exists(syntax.GetCustomFilename()))
+        syntax.FillFonts(options);
+    else
+        syntax.WriteOptions(options);
+    syntax.SetModified(wasModified);
+}
+
 void CZNCoreEditorControlEx::UpdateXmlSettingsFromOptionServerData(QString fontName, int fontSize,
                                                                    bool bold, bool italic,
                                                                    bool underline)
@@ -145,7 +161,7 @@ void CZNCoreEditorControlEx::UpdateXmlSettingsFromOptionServerData(QString fontN
             // The last language's paper is what stays.
             m_backgroundColor =
                 static_cast<COLORREF>(syntax->GetStyleColorBackground(kDefaultStyle));
-            syntax->WriteOptions(forAll);
+            WriteOptions(*syntax, forAll);
         }
     }
     InitializeLanguage(m_currentLanguage, 1);

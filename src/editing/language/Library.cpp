@@ -3,8 +3,11 @@
 
 #include "common/Globals.h"
 #include "control/ZNCoreEditorControl.h"
+#include "editing/OpenEditors.h"
+#include "editing/ZNCoreEditorControlEx.h"
 #include "editing/language/FileTypeManager.h"
 #include "editing/language/UserFolder.h"
+#include "platform/services/OptionsServer.h"
 #include "platform/system/SpecialFolders.h"
 #include "settings/ConfigFile.h"
 
@@ -78,6 +81,11 @@ void OnConfigurePreferences()
     if (g_preferencesDialog)
         g_preferencesDialog();
     GetFileTypeManager()->Init(GetConfigFile());
+    // What the options fill in has gone with the settings in memory.
+    for (CZNCoreEditorControlEx* editor : OpenEditors()) {
+        if (editor->GetUserSettingsFirst())
+            SendMessage(editor->GetSafeHwnd(), kOptionsChanged, 0, 0);
+    }
 }
 
 void SetPreferencesDialog(void (*run)())

@@ -5,9 +5,11 @@
 #include "control/EngineLooks.h"
 #include "editing/language/FileTypeManager.h"
 #include "editing/language/Library.h"
+#include "editing/looks/DeliveredSettings.h"
 #include "editing/looks/DesktopWatch.h"
 #include "editing/looks/StyleColours.h"
 #include "looks/Schemes.h"
+#include "settings/ConfigFile.h"
 #include "settings/SyntaxFile.h"
 
 #include <QApplication>
@@ -35,6 +37,26 @@ void ApplyStyles(const ColourScheme& scheme, CSyntaxFile& syntax, CZNCoreEditorC
         control.StyleSetFore(style, pair.fore, 1);
         control.StyleSetBack(style, pair.back, 1);
     }
+}
+
+// The colours of all languages: what a person has chosen stays, as with styles.
+void ApplyGeneral(const ColourScheme& scheme, CZNCoreEditorControlEx& control)
+{
+    using Get = unsigned long (CConfigFile::*)();
+    CConfigFile& config = *zncoreeditor::GetConfigFile();
+    const auto colour = [&](Get get, Drawn drawn) {
+        const auto own = static_cast<COLORREF>((config.*get)());
+        const auto delivered = static_cast<COLORREF>((DeliveredConfig().*get)());
+        return own == delivered ? scheme.Of(drawn) : own;
+    };
+    control.SetCaretFore(colour(&CConfigFile::GetCaretColor, Drawn::Caret), 1);
+    control.SetCaretLineBack(colour(&CConfigFile::GetHighlightCurrentLineColor, Drawn::CurrentLine),
+                             1);
+    control.SetSelFore(config.UseSelectionForegroundColor(),
+                       static_cast<COLORREF>(config.GetSelectionForegroundColor()), 1);
+    control.SetSelBack(config.UseSelectionBackgroundColor(),
+                       colour(&CConfigFile::GetSelectionBackgroundColor, Drawn::Selection), 1);
+    control.SetEdgeColor(colour(&CConfigFile::GetRightEdgeColor, Drawn::RightEdge), 1);
 }
 
 // The engine draws these itself, sharp at every scale.
@@ -72,7 +94,10 @@ void CZNCoreEditorControlEx::SetScheme(const QString& name)
 {
     m_scheme = name;
     if (!name.isEmpty() && !m_desktopWatch && GetSafeHwnd())
-        m_desktopWatch = new DesktopWatch(*GetSafeHwnd(), [this] { ApplyScheme(); });
+        m_desktopWatch = new DesktopWatch(*GetSafeHwnd(), [this] {
+            if (m_scheme == zncoreeditor::kDesktopScheme)
+                ApplyScheme();
+        });
     if (name.isEmpty() && GetSafeHwnd()) {
         Call(engine::kSetLooks, 0, 0, 1);
         SetMarginLeft(1, 1);
@@ -102,13 +127,9 @@ void CZNCoreEditorControlEx::ApplyScheme(const ColourScheme& scheme, CSyntaxFile
     m_backgroundColor = scheme.Of(Drawn::Ground);
     SetFoldMarginColor(1, scheme.Of(Drawn::Margin), 1);
     SetFoldMarginHiColor(1, scheme.Of(Drawn::Margin), 1);
-    SetCaretFore(scheme.Of(Drawn::Caret), 1);
+    ApplyGeneral(scheme, *this);
     SetCaretWidth(QApplication::style()->pixelMetric(QStyle::PM_TextCursorWidth) + 1, 1);
     SetCaretPeriod(QApplication::cursorFlashTime() / 2, 1);
-    SetCaretLineBack(scheme.Of(Drawn::CurrentLine), 1);
-    SetSelFore(0, 0, 1);
-    SetSelBack(1, scheme.Of(Drawn::Selection), 1);
-    SetEdgeColor(scheme.Of(Drawn::RightEdge), 1);
     SetWhitespaceFore(1, scheme.Of(Drawn::Whitespace), 1);
     constexpr int kAir = 6; // pixels between the margins and the text
     SetMarginLeft(kAir, 1);

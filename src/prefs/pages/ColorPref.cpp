@@ -32,7 +32,7 @@ CColorPref::~CColorPref() = default;
 void CColorPref::OnBuild(QWidget* window)
 {
     auto* page = new QGridLayout(window);
-    auto* styles = new QLabel(QStringLiteral("&Styles"));
+    auto* styles = new QLabel(QStringLiteral("St&yles"));
     auto* list = AddControl(id::ColorStyles, new QListWidget);
     list->setAccessibleName(QStringLiteral("Styles"));
     styles->setBuddy(list);
@@ -80,6 +80,8 @@ void CColorPref::ReadColors(CSyntaxFile& file)
 
 bool CColorPref::OnInitDialog()
 {
+    m_foreground.clear();
+    m_background.clear();
     CSyntaxFile* file = Syntax();
     if (!file)
         return true;

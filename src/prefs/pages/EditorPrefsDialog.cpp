@@ -1,10 +1,11 @@
 #include "prefs/pages/EditorPrefsDialog.h"
 
+#include "editing/OpenEditors.h"
 #include "editing/language/FileTypeManager.h"
 #include "platform/windows/Accelerators.h"
 #include "prefs/pages/EditorPrefsStatic.h"
-#include "prefs/pages/OpenEditors.h"
 #include "prefs/pages/Preferences.h"
+#include "prefs/pages/SettingsMenu.h"
 #include "settings/ConfigFile.h"
 #include "settings/SyntaxFile.h"
 
@@ -96,8 +97,15 @@ QWidget* CEditorPrefsDialog::BuildTree()
     m_tree->setAccessibleName(QStringLiteral("Pages"));
     m_tree->setUniformRowHeights(true);
     new TreeKeys(*m_tree, *filter); // goes with the tree
+    auto* settings = new QPushButton(QStringLiteral("&Settings"));
+    settings->setAutoDefault(false);
+    auto* menu = new SettingsMenu(m_config, m_languages, settings);
+    menu->currentLanguage = [this] { return CurrentLanguage(); };
+    settings->setMenu(menu);
+    QObject::connect(menu, &SettingsMenu::Replaced, m_tree, [this] { ReloadPages(); });
     column->addWidget(filter);
     column->addWidget(m_tree);
+    column->addWidget(settings);
     QObject::connect(filter, &QLineEdit::textChanged, m_tree,
                      [this](const QString& word) { Filter(word.trimmed()); });
     QObject::connect(m_tree, &QTreeWidget::currentItemChanged, m_tree,
@@ -227,6 +235,36 @@ void CEditorPrefsDialog::ShowPage(int page)
     m_caption->SetTitle(record.title);
     m_caption->setToolTip(around + record.title);
     m_tree->setCurrentItem(m_items.value(record.page));
+}
+
+int CEditorPrefsDialog::CurrentLanguage() const
+{
+    const CEditorPrefsSubDlg* page = m_pages[static_cast<std::size_t>(m_current)].page;
+    for (int language = 0; language < m_languageCount; ++language) {
+        const auto at = static_cast<std::size_t>(language);
+        const CEditorPrefsSubDlg* const own[] = {m_editorPages[at].get(), m_codingPages[at].get(),
+                                                 m_colorPages[at].get(), m_fontPages[at].get(),
+                                                 m_keywordPages[at].get()};
+        if (std::ranges::find(own, page) != std::end(own))
+            return language;
+    }
+    return -1;
+}
+
+// The windows of the pages go, and with them what was not applied; each is made again when it is
+// shown.
+void CEditorPrefsDialog::ReloadPages()
+{
+    for (const PageRecord& record : m_pages) {
+        QWidget* window = record.page->GetSafeHwnd();
+        if (!window)
+            continue;
+        m_frame->removeWidget(window);
+        record.page->DestroyWindow();
+        record.page->SetUnchanged();
+    }
+    SetChanged(false);
+    ShowPage(m_current);
 }
 
 // A page is shown with the language around it, and a language with all its pages.

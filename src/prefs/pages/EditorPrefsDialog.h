@@ -64,6 +64,8 @@ private:
     void AddPage(CEditorPrefsSubDlg& page, UINT templateId, const QString& title,
                  CEditorPrefsSubDlg* parent = nullptr);
     void AddLanguage(int language);
+    int CurrentLanguage() const; // -1 on the page of all
+    void ReloadPages();
     void Filter(const QString& word);
     bool TakePages();
     bool HasChanges() const;

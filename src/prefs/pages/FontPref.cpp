@@ -89,6 +89,8 @@ void CFontPref::OnBuild(QWidget* window)
 
 bool CFontPref::OnInitDialog()
 {
+    m_isFilling = true;
+    m_records.clear();
     auto* names = GetDlgItem<QListWidget>(id::FontNames);
     names->setUniformItemSizes(true);
     names->addItems(QFontDatabase::families());

@@ -39,6 +39,8 @@ void CKeywordPref::OnBuild(QWidget* window)
 
 bool CKeywordPref::OnInitDialog()
 {
+    m_isFilling = true;
+    m_words = {};
     CSyntaxFile* file = Syntax();
     if (!file)
         return true;

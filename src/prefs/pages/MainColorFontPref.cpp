@@ -102,6 +102,7 @@ void CMainColorFontPref::OnBuild(QWidget* window)
 
 bool CMainColorFontPref::OnInitDialog()
 {
+    m_isFilled = false;
     if (CConfigFile* config = Config()) {
         for (std::size_t i = 0; i < kColors; ++i) {
             const ColorRow& row = kRows[i];

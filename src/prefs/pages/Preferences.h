@@ -18,6 +18,8 @@ public:
     // These files could not be written; what they lack is still in memory. True keeps the dialog
     // open, since memory is read anew from the files once it has closed.
     virtual bool OnNotWritten(HWND /*owner*/, const QStringList& /*files*/) { return false; }
+    // The colours of the scheme were written into the settings of all languages.
+    virtual void OnSchemeWritten(const QString& /*name*/) {}
     // The scheme that paints over the settings, by its name; empty for none.
     virtual QString Scheme() { return QString(); }
     virtual bool HasHelp() { return false; }

@@ -75,6 +75,7 @@ QVBoxLayout& AddGroup(QVBoxLayout& page, const char* title)
 
 bool CSettingsPref::OnInitDialog()
 {
+    m_isFilled = false;
     if (CSyntaxFile* file = Syntax()) {
         for (std::size_t i = 0; i < m_rows.size(); ++i)
             m_values[i] = m_rows[i].get(*file);

@@ -1,8 +1,9 @@
-#include "prefs/pages/OpenEditors.h"
+#include "editing/OpenEditors.h"
 
 #include "editing/ZNCoreEditorControlEx.h"
 #include "editing/language/FileTypeManager.h"
 #include "editing/language/Library.h"
+#include "platform/services/OptionsServer.h"
 #include "settings/SyntaxFile.h"
 
 #include <QApplication>
@@ -33,6 +34,17 @@ std::vector<CZNCoreEditorControlEx*> OpenEditors()
             editors.push_back(editor);
     }
     return editors;
+}
+
+// What the options fill in has gone with the settings, and is filled in once more.
+void ReloadOpenEditors()
+{
+    for (CZNCoreEditorControlEx* editor : OpenEditors()) {
+        if (editor->GetUserSettingsFirst())
+            SendMessage(editor->GetSafeHwnd(), kOptionsChanged, 0, 0);
+        else
+            editor->InitializeLanguage(editor->GetCurrentLanguage(), 1);
+    }
 }
 
 void RebindOpenEditors(const std::vector<int>& languages, bool all)

@@ -1,0 +1,37 @@
+#include "host/window/SchemeMenu.h"
+
+#include "host/preferences/Appearance.h"
+
+#include <QActionGroup>
+
+SchemeMenu::SchemeMenu(QWidget* parent) : QMenu(QStringLiteral("&Colours"), parent)
+{
+    struct Text
+    {
+        const char* name;
+        const char16_t* text;
+    };
+    static constexpr Text kTexts[] = {
+        {"Desktop", u"As the &Desktop"},      {"Light", u"&Light"},       {"Dark", u"Da&rk"},
+        {"High Contrast", u"&High Contrast"}, {"Print", u"As on &Paper"},
+    };
+    auto* group = new QActionGroup(this);
+    for (const QString& name : appearance::Names()) {
+        QString text = name;
+        for (const Text& known : kTexts) {
+            if (name == QLatin1String(known.name))
+                text = QString::fromUtf16(known.text);
+        }
+        QAction* action = group->addAction(text);
+        action->setObjectName(QStringLiteral("scheme") + QString(name).remove(u' '));
+        action->setData(name);
+        action->setCheckable(true);
+        addAction(action);
+    }
+    connect(group, &QActionGroup::triggered, this,
+            [this](QAction* action) { Q_EMIT Chosen(action->data().toString()); });
+    connect(this, &QMenu::aboutToShow, this, [group] {
+        for (QAction* action : group->actions())
+            action->setChecked(action->data().toString() == appearance::Current());
+    });
+}

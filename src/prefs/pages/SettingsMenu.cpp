@@ -1,0 +1,147 @@
+#include "prefs/pages/SettingsMenu.h"
+
+#include "editing/OpenEditors.h"
+#include "editing/language/FileTypeManager.h"
+#include "editing/looks/SchemeSettings.h"
+#include "looks/Schemes.h"
+#include "platform/windows/Questions.h"
+#include "prefs/pages/Preferences.h"
+#include "prefs/pages/UserSettings.h"
+#include "settings/ConfigFile.h"
+#include "settings/SyntaxFile.h"
+
+#include <QDir>
+#include <QFileInfo>
+
+namespace {
+
+const QString kTitle = QStringLiteral("Settings");
+const QString kFilter = QStringLiteral("Settings (*.znsettings)");
+const QString kLost = QStringLiteral("What has not been applied yet is lost.");
+
+} // namespace
+
+SettingsMenu::SettingsMenu(CConfigFile& config, CFileTypeManager& languages, QWidget* parent)
+    : QMenu(parent), m_config(config), m_languages(languages)
+{
+    const auto add = [this](const char* name, const char* text, void (SettingsMenu::*run)()) {
+        QAction* action = addAction(QLatin1String(text));
+        action->setObjectName(QLatin1String(name));
+        connect(action, &QAction::triggered, this, run);
+        return action;
+    };
+    add("exportSettings", "&Export All Settings...", &SettingsMenu::Export);
+    add("importSettings", "&Import All Settings...", &SettingsMenu::Import);
+    addSeparator();
+    QMenu* schemes = addMenu(QStringLiteral("&Write the Colours of a Scheme"));
+    for (const QString& name : zncoreeditor::SchemeNames()) {
+        QAction* action = schemes->addAction(name);
+        action->setObjectName(QStringLiteral("write") + QString(name).remove(u' '));
+        connect(action, &QAction::triggered, this, [this, name] { WriteScheme(name); });
+    }
+    addSeparator();
+    QAction* language =
+        add("resetLanguage", "This &Language as Shipped...", &SettingsMenu::ResetLanguage);
+    add("resetAll", "&Everything as Shipped...", &SettingsMenu::ResetAll);
+    connect(this, &QMenu::aboutToShow, this,
+            [this, language] { language->setEnabled(currentLanguage() >= 0); });
+}
+
+bool SettingsMenu::Agrees(const QString& text)
+{
+    return AskYesNoUnder(parentWidget(), kTitle, text);
+}
+
+void SettingsMenu::Reload()
+{
+    m_config.Clear();
+    m_languages.Init(&m_config);
+    ReloadOpenEditors();
+    if (IPreferencesHost* host = zncoreeditor::GetPreferencesHost())
+        host->OnApplied();
+    Q_EMIT Replaced();
+}
+
+void SettingsMenu::Export()
+{
+    const QString path = AskSaveFile(
+        parentWidget(), QDir::home().filePath(QStringLiteral("editor.znsettings")), kFilter);
+    if (!path.isEmpty() && usersettings::Export(path) != usersettings::Result::Done)
+        ShowMessageUnder(parentWidget(), kTitle,
+                         QStringLiteral("%1 could not be written.").arg(path),
+                         MessageKind::Warning);
+}
+
+void SettingsMenu::Import()
+{
+    const QString path = AskOpenFile(parentWidget(), kFilter);
+    if (path.isEmpty() ||
+        !Agrees(QStringLiteral("All settings become those of %1, and the present ones are given "
+                               "up. %2\n\nImport them?")
+                    .arg(path, kLost)))
+        return;
+    switch (usersettings::Import(path)) {
+    case usersettings::Result::Done:
+        Reload();
+        return;
+    case usersettings::Result::NotWritten:
+        ShowMessageUnder(parentWidget(), kTitle,
+                         QStringLiteral("The settings could not be written; they are as they "
+                                        "were."),
+                         MessageKind::Warning);
+        return;
+    default:
+        ShowMessageUnder(parentWidget(), kTitle,
+                         QStringLiteral("%1 holds no settings of this editor.").arg(path),
+                         MessageKind::Warning);
+    }
+}
+
+void SettingsMenu::ResetLanguage()
+{
+    const int language = currentLanguage();
+    const CSyntaxFile* file = m_languages.GetSyntaxFile(language);
+    if (!file || !Agrees(QStringLiteral("All settings of %1 become those that it was shipped with. "
+                                        "%2\n\nReset them?")
+                             .arg(m_languages.GetLanguageName(language), kLost)))
+        return;
+    usersettings::ResetLanguage(QFileInfo(file->GetFilename()).fileName());
+    Reload();
+}
+
+void SettingsMenu::ResetAll()
+{
+    if (!Agrees(QStringLiteral("The settings of all languages become those that they were shipped "
+                               "with. %1\n\nReset them?")
+                    .arg(kLost)))
+        return;
+    usersettings::ResetAll();
+    Reload();
+}
+
+// Where schemes are painted too, the one that was written is what is painted from here on: colours
+// of two would mix.
+void SettingsMenu::WriteScheme(const QString& name)
+{
+    const ColourScheme* scheme = zncoreeditor::FindScheme(name);
+    if (!scheme ||
+        !Agrees(QStringLiteral("The colours of all languages become those of \"%1\", and stay so "
+                               "whatever the desktop looks like. %2\n\nWrite them?")
+                    .arg(name, kLost)))
+        return;
+    ::WriteScheme(*scheme, m_config, m_languages);
+    QStringList notWritten;
+    for (int language = 0; language < m_languages.GetLanguageCount(); ++language) {
+        CSyntaxFile* file = m_languages.GetSyntaxFile(language);
+        if (file && file->GetModified() && !file->Save())
+            notWritten << file->GetCustomFilename();
+    }
+    if (!m_config.Save())
+        notWritten << m_config.GetUserCopy();
+    IPreferencesHost* host = zncoreeditor::GetPreferencesHost();
+    if (host && !notWritten.isEmpty())
+        host->OnNotWritten(parentWidget(), notWritten);
+    if (host)
+        host->OnSchemeWritten(name);
+    Reload();
+}
