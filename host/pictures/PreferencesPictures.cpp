@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 #include "host/pictures/PreferencesPictures.h"
 
 #include "editing/language/FileTypeManager.h"

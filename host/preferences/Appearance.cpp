@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 #include "host/preferences/Appearance.h"
 
 #include "looks/Schemes.h"

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // Light, dark or of high contrast: the scheme that a person has chosen for the workbench. It
 // colours the editors, and by the palette of the application everything around them.
 #pragma once

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // What the workbench adds to the dialog of the preferences: its scheme, its help, and a word about
 // files that cannot be written.
 #pragma once

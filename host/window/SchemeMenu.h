@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // The menu of schemes: as the desktop, light, dark and further ones, the one in force marked.
 #pragma once
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 #include "completion/CaretContext.h"
 
 #include "completion/Utf8Text.h"

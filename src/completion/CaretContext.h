@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // CaretContext: what stands around a caret: the word that is being typed, what it may be, and the
 // tables and names that its statement has. Text alone.
 #pragma once

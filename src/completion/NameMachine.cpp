@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 #include "completion/NameMachine.h"
 
 #include <algorithm>

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // NameMachine: the names that a script gives to things and uses, found token by token. It keeps a
 // few bytes between tokens, so that a script can be read on from any place whose state is known.
 // Positions count bytes.

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // The words of NameMachine, looked up by their text.
 #pragma once
 

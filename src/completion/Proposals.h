@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // What might complete the word at the caret, and who proposes it. A host adds sources of its own:
 // the tables of a connection, the procedures of a server.
 #pragma once

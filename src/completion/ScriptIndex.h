@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // ScriptIndex: the words of a text and the places of what it creates and uses, kept up to date
 // while it is edited.
 //

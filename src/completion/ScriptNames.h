@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // The names that stand in a piece of SQL: what it creates, with columns and parameters, and what it
 // uses. Text alone: knows no window.
 #pragma once

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // A piece of an editor's text as UTF-8, and the way back from its bytes to UTF-16 units.
 #pragma once
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // WordTable: words by number, each with how many stretches of a text have it. UTF-8.
 #pragma once
 

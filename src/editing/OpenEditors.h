@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // The editors of the process, and settings on their way to them.
 #pragma once
 

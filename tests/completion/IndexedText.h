@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // A text beside its index, and what the index says of it in a form that can be compared.
 #pragma once
 

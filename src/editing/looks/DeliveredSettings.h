@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // The configuration as it was delivered, beside what the user made of it.
 #pragma once
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // A scheme written into the settings, for a person or a host that wants its colours as they are,
 // whatever is painted over them; the preferences go on from there.
 #pragma once

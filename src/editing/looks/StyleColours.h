@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // StyleColours: the colours in which a language's styles are painted with a scheme.
 #pragma once
 

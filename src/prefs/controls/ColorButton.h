@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // CColorButton: a push button that shows a colour and drops down a palette to choose another;
 // a QPushButton.
 #pragma once

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // ZNCEColorPopup: the floating palette of a colour button: forty named colours in a grid, a cell
 // for the default above them and one for further colours below. A Qt::Popup, which holds mouse and
 // keys.

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // CColorStatic: a sample of text in given colours and in the widget's font; a QFrame.
 #pragma once
 

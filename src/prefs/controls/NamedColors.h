@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // The forty colours of the palette that colour buttons drop down, in its order.
 #pragma once
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // CEditorPrefsDialog: the preferences of the editor and of every language, as a tree of pages.
 #pragma once
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // CEditorPrefsStatic: the bar over a page that says which it is; a QWidget.
 #pragma once
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // CEditorPrefsSubDlg: a page of the preferences. It reads its settings when its window is made, and
 // writes into them nothing but what differs, and only when it is told to.
 #pragma once

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // CFontPref: the fonts of a language's styles.
 #pragma once
 

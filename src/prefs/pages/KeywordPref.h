@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // CKeywordPref: the words of a language, by sets.
 #pragma once
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // CMainColorFontPref: the colours that hold for every language: caret, selection, current line,
 // right edge.
 #pragma once

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // The dialog of the preferences as hosts meet it: it opens by zncoreeditor::OnConfigurePreferences.
 #pragma once
 

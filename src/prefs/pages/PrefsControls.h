@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // The numbers of the dialog of the preferences, of its pages and of their controls.
 #pragma once
 

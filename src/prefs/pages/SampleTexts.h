@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // A few lines of each language, for the samples of colours and fonts.
 #pragma once
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // SettingsMenu: what can be done with all settings at once: out into a file and in again, as
 // shipped, in the colours of a scheme. Each is asked first.
 #pragma once

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // CSettingsPref: a page of plain settings, by rows of a table; CEditorPref and CCodingPref are two.
 #pragma once
 

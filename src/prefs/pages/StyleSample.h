@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // StyleSample: a few lines of a language in its styles, painted by the engine. It takes colours and
 // fonts as they are tried out, before any of them is a setting.
 #pragma once

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // The files in which a user's settings stand, taken out, brought in and given up as a whole. What
 // is in memory is the caller's to read anew.
 #pragma once

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // The colour button, its palette and the sample, by mouse and keys.
 #include "prefs/controls/ColorButton.h"
 #include "platform/system/SystemColors.h"

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // The dialog: its tree, changes of page, Ok, Cancel and Apply on real files.
 #include "editing/ZNCoreEditorWidget.h"
 #include "platform/windows/Accelerators.h"

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // The dialog of the preferences over the settings of the process, with a person who answers.
 #pragma once
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // The pages of plain settings, of the colours of all languages, and of keywords.
 #include "tests/prefs/pages/PrefsFixture.h"
 

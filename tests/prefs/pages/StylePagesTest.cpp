@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // The pages of colours and of fonts, and their samples.
 #include "prefs/controls/ColorStatic.h"
 #include "prefs/pages/SampleTexts.h"
