@@ -16,7 +16,7 @@ enum Id : UINT
     SavePdf = 32850,
     SaveHtml,
     CopyWithColours,
-    PreviousPane, // the focus goes there
+    PreviousPane,        // the focus goes there
     Preferences = 54033, // as the editors have it
 };
 } // namespace command

@@ -41,7 +41,11 @@ std::optional<ColourScheme> ColourScheme::Read(const QString& path)
     QFile file(path);
     if (!file.open(QIODevice::ReadOnly))
         return std::nullopt;
-    const QByteArray bytes = file.readAll();
+    return Parse(file.readAll());
+}
+
+std::optional<ColourScheme> ColourScheme::Parse(const QByteArray& bytes)
+{
     pugi::xml_document document;
     if (!document.load_buffer(bytes.constData(), static_cast<std::size_t>(bytes.size())))
         return std::nullopt;

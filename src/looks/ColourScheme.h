@@ -6,6 +6,7 @@
 #include "common/Export.h"
 #include "platform/base/Types.h"
 
+#include <QByteArray>
 #include <QHash>
 #include <QString>
 
@@ -52,6 +53,7 @@ public:
 
     // Nothing if the file is missing, is no scheme, or lacks a colour of those above.
     static std::optional<ColourScheme> Read(const QString& path);
+    static std::optional<ColourScheme> Parse(const QByteArray& bytes); // of such a file
 
     const QString& Name() const { return m_name; }
     bool IsDark() const { return m_isDark; }

@@ -248,11 +248,8 @@ void ZNCEColorPopup::PaintFrame(QPainter& painter, int cell) const
 {
     const QRect rect = RectOf(cell).adjusted(0, 0, -1, -1);
     if (cell == m_current) {
-        QColor ground = palette().color(QPalette::Highlight);
-        constexpr int kFaint = 70;
-        ground.setAlpha(kFaint);
-        painter.setPen(palette().color(QPalette::Highlight));
-        painter.setBrush(ground);
+        painter.setPen(palette().color(QPalette::WindowText));
+        painter.setBrush(palette().color(QPalette::Highlight));
         painter.drawRect(rect);
     } else if (cell == m_chosen) {
         painter.setPen(palette().color(QPalette::WindowText));
@@ -267,7 +264,8 @@ void ZNCEColorPopup::PaintText(QPainter& painter, int cell, const QString& text)
         return;
     PaintFrame(painter, cell);
     const QRect rect = RectOf(cell);
-    painter.setPen(palette().color(QPalette::WindowText));
+    painter.setPen(
+        palette().color(cell == m_current ? QPalette::HighlightedText : QPalette::WindowText));
     painter.drawText(rect, Qt::AlignCenter, text);
     if (cell != kDefaultCell)
         return;

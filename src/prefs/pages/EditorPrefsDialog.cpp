@@ -16,6 +16,7 @@
 #include <QLabel>
 #include <QLineEdit>
 #include <QPushButton>
+#include <QShortcut>
 #include <QSplitter>
 #include <QStackedWidget>
 #include <QTreeWidget>
@@ -62,10 +63,26 @@ private:
             m_filter.clear();
             return true;
         }
-        if (key.key() != Qt::Key_Down)
+        if (key.key() != Qt::Key_Down && key.key() != Qt::Key_Return && key.key() != Qt::Key_Enter)
             return false;
         m_tree.setFocus();
+        ShowFirst();
         return true;
+    }
+
+    // Of the languages that are left; the page that is shown stays if it is among them.
+    void ShowFirst()
+    {
+        const QTreeWidgetItem* current = m_tree.currentItem();
+        if (current && !current->isHidden() &&
+            (!current->parent() || !current->parent()->isHidden()))
+            return;
+        for (int top = 0; top < m_tree.topLevelItemCount(); ++top) {
+            if (m_tree.topLevelItem(top)->isHidden())
+                continue;
+            m_tree.setCurrentItem(m_tree.topLevelItem(top));
+            return;
+        }
     }
 
     QTreeWidget& m_tree;
@@ -107,6 +124,11 @@ QWidget* CEditorPrefsDialog::BuildTree()
     column->addWidget(filter);
     column->addWidget(m_tree);
     column->addWidget(settings);
+    auto* find = new QShortcut(QKeySequence::Find, side);
+    QObject::connect(find, &QShortcut::activated, filter, [filter] {
+        filter->setFocus(Qt::ShortcutFocusReason);
+        filter->selectAll();
+    });
     QObject::connect(filter, &QLineEdit::textChanged, m_tree,
                      [this](const QString& word) { Filter(word.trimmed()); });
     QObject::connect(m_tree, &QTreeWidget::currentItemChanged, m_tree,
@@ -159,7 +181,7 @@ void CEditorPrefsDialog::OnBuild(QWidget* window)
     column->addWidget(BuildButtons());
     constexpr int kTreeLetters = 30;
     constexpr int kLetters = 120;
-    constexpr int kLines = 36;
+    constexpr int kLines = 42;
     const QFontMetrics metrics = window->fontMetrics();
     halves->setSizes({metrics.averageCharWidth() * kTreeLetters,
                       metrics.averageCharWidth() * (kLetters - kTreeLetters)});

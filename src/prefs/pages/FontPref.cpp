@@ -221,8 +221,9 @@ void CFontPref::ShowSample()
     font.setUnderline(record->underline);
     auto* sample = GetDlgItem<CColorStatic>(id::Sample);
     sample->setFont(font);
-    sample->SetColors(0x000000, 0xFFFFFF);
     const int style = GetDlgItem<QComboBox>(id::FontStyles)->currentData().toInt();
+    const ColourScheme::Pair colors = m_sample->ColorsOf(style);
+    sample->SetColors(colors.fore, colors.back);
     m_sample->SetStyleFont(style,
                            {record->name, size, record->bold, record->italic, record->underline});
 }

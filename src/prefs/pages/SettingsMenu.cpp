@@ -43,7 +43,7 @@ SettingsMenu::SettingsMenu(CConfigFile& config, CFileTypeManager& languages, QWi
     addSeparator();
     QAction* language =
         add("resetLanguage", "This &Language as Shipped...", &SettingsMenu::ResetLanguage);
-    add("resetAll", "&Everything as Shipped...", &SettingsMenu::ResetAll);
+    add("resetAll", "E&verything as Shipped...", &SettingsMenu::ResetAll);
     connect(this, &QMenu::aboutToShow, this,
             [this, language] { language->setEnabled(currentLanguage() >= 0); });
 }

@@ -97,6 +97,7 @@ void StyleSample::Show(CSyntaxFile& syntax)
 
 void StyleSample::SetStyleColors(int style, ColourScheme::Pair colors)
 {
+    m_colors[style] = colors;
     if (!m_control)
         return;
     m_control->StyleSetFore(style, colors.fore, 1);

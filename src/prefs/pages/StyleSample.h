@@ -8,6 +8,7 @@
 #include "looks/ColourScheme.h"
 
 #include <QFrame>
+#include <QHash>
 
 #include <memory>
 
@@ -34,9 +35,15 @@ public:
     void Show(CSyntaxFile& syntax);
     void SetStyleColors(int style, ColourScheme::Pair colors);
     void SetStyleFont(int style, const SampleFont& font);
+    // In which the style was shown by Show, or since.
+    ColourScheme::Pair ColorsOf(int style) const
+    {
+        return m_colors.value(style, {0x000000, 0xFFFFFF});
+    }
     // The control, to look at; null without an engine.
     CZNCoreEditorControl* Control() const { return m_control.get(); }
 
 private:
     std::unique_ptr<CZNCoreEditorControl> m_control;
+    QHash<int, ColourScheme::Pair> m_colors;
 };

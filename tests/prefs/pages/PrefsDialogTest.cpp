@@ -249,8 +249,9 @@ TEST_F(PrefsDialog, FiltersItsTreeByAWordTypedOverIt)
     EXPECT_TRUE(isShown("PL/SQL"));
     EXPECT_FALSE(isShown("Transact-SQL"));
     EXPECT_FALSE(isShown("Colors and Fonts"));
-    QTest::keyClick(QApplication::focusWidget(), Qt::Key_Down);
+    QTest::keyClick(QApplication::focusWidget(), Qt::Key_Return);
     EXPECT_EQ(QApplication::focusWidget(), &Tree());
+    EXPECT_EQ(Tree().currentItem()->text(0), "PL/SQL");
     auto* filter = dialog->GetSafeHwnd()->findChild<QLineEdit*>(QStringLiteral("filter"));
     filter->setFocus();
     QTest::keyClick(filter, Qt::Key_Escape);
