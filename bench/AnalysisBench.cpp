@@ -4,6 +4,7 @@
 #include "bench/Pair.h"
 #include "bench/Texts.h"
 #include "control/Analysis.h"
+#include "editing/ZNCoreEditorControlEx.h"
 #include "editing/ZNCoreEditorWidget.h"
 #include "engine/analysis/Partitioner.h"
 

@@ -2,6 +2,7 @@
 // The tick that writes an autosave copy of 64 MB beside SaveFile of the same text.
 #include "bench/Pair.h"
 #include "bench/Texts.h"
+#include "editing/ZNCoreEditorControlEx.h"
 #include "editing/ZNCoreEditorWidget.h"
 #include "platform/system/SpecialFolders.h"
 #include "platform/windows/Timer.h"

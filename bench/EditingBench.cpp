@@ -3,6 +3,7 @@
 // std::sort of the same strings.
 #include "bench/Pair.h"
 #include "bench/RawEngine.h"
+#include "editing/ZNCoreEditorControlEx.h"
 #include "editing/ZNCoreEditorWidget.h"
 
 #include <QApplication>

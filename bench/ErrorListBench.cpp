@@ -2,6 +2,7 @@
 // The error list: 10,000 problems added and shown, and what they cost a typed character.
 #include "bench/Pair.h"
 #include "bench/Texts.h"
+#include "editing/ZNCoreEditorControlEx.h"
 #include "editing/ZNCoreEditorWidget.h"
 
 #include <algorithm>

@@ -2,6 +2,7 @@
 #include "bench/ExpandScripts.h"
 
 #include "bench/Texts.h"
+#include "editing/ZNCoreEditorControlEx.h"
 #include "editing/ZNCoreEditorWidget.h"
 #include "editing/language/FileTypeManager.h"
 #include "editing/language/Library.h"

@@ -3,6 +3,7 @@
 // it takes.
 #include "bench/Pair.h"
 #include "bench/Texts.h"
+#include "editing/ZNCoreEditorControlEx.h"
 #include "editing/ZNCoreEditorWidget.h"
 
 #include <QApplication>

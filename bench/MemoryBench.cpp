@@ -6,6 +6,7 @@
 #include "bench/RawEngine.h"
 #include "bench/RawExpansion.h"
 #include "bench/Texts.h"
+#include "editing/ZNCoreEditorControlEx.h"
 #include "editing/ZNCoreEditorWidget.h"
 #include "preprocess/CompileManager.h"
 #include "preprocess/language/VariableTable.h"

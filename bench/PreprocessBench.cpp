@@ -4,6 +4,7 @@
 #include "bench/Pair.h"
 #include "bench/RawExpansion.h"
 #include "bench/Texts.h"
+#include "editing/ZNCoreEditorControlEx.h"
 #include "editing/ZNCoreEditorWidget.h"
 #include "platform/base/Units.h"
 #include "preprocess/CompileManager.h"

@@ -4,6 +4,7 @@
 #include "bench/Pair.h"
 #include "bench/RawEngine.h"
 #include "bench/Texts.h"
+#include "editing/ZNCoreEditorControlEx.h"
 #include "editing/ZNCoreEditorWidget.h"
 #include "search/FindReplaceManager.h"
 

@@ -3,6 +3,7 @@
 #include "bench/Pair.h"
 #include "bench/RawEngine.h"
 #include "bench/Texts.h"
+#include "editing/ZNCoreEditorControlEx.h"
 #include "editing/ZNCoreEditorWidget.h"
 
 #include <QApplication>

@@ -1,12 +1,14 @@
 # SPDX-License-Identifier: GPL-3.0-or-later
 # Lays the public headers out as a host includes them, as <ZNCoreEditor/...>.
 #   cmake -D FROM=src -D TO=.../include/ZNCoreEditor -P StageHeaders.cmake
-# Public is a header that exports something, and what it includes; a room's folder stays, and an
-# include of another room is written with the library's folder in front.
+# Public is a header that exports something, one of numbers and records that is named here, and what
+# these include; a room's folder stays, and an include is written with the library's folder in front.
 cmake_minimum_required(VERSION 3.25)
 
 file(GLOB_RECURSE sources RELATIVE ${FROM} ${FROM}/*.h)
-set(waiting)
+# Numbers and records alone, which a host works with.
+set(waiting control/Analysis.h control/EngineLooks.h control/SqlStyles.h platform/base/Units.h
+    platform/docview/CommandIds.h platform/docview/CreateContext.h)
 foreach(header IN LISTS sources)
     file(STRINGS ${FROM}/${header} exports REGEX "ZN_API" LIMIT_COUNT 1)
     if(exports)
@@ -40,15 +42,22 @@ foreach(header IN LISTS public)
     endif()
 endforeach()
 
-# Where a host in plain Qt begins, without the name of a room.
-set(face ${TO}/ZNCoreEditorWidget.h)
-if(NOT EXISTS ${face})
-    file(WRITE ${face} "#include \"ZNCoreEditor/editing/ZNCoreEditorWidget.h\" // IWYU pragma: export\n")
-endif()
+# Where a host begins, without the name of a room: the face for plain Qt, and the control behind it.
+foreach(pair IN ITEMS ZNCoreEditorWidget=editing/ZNCoreEditorWidget Control=editing/ZNCoreEditorControlEx)
+    string(REPLACE "=" ";" pair ${pair})
+    list(GET pair 0 name)
+    list(GET pair 1 header)
+    if(NOT EXISTS ${TO}/${name}.h)
+        file(WRITE ${TO}/${name}.h
+             "// SPDX-License-Identifier: GPL-3.0-or-later\n"
+             "#pragma once\n"
+             "#include \"ZNCoreEditor/${header}.h\" // IWYU pragma: export\n")
+    endif()
+endforeach()
 
 # What is public no longer. Version.h is made by the configuration.
 file(GLOB_RECURSE staged RELATIVE ${TO} ${TO}/*.h ${TO}/*.def)
-list(REMOVE_ITEM staged ${public} Version.h ZNCoreEditorWidget.h)
+list(REMOVE_ITEM staged ${public} Version.h ZNCoreEditorWidget.h Control.h)
 foreach(header IN LISTS staged)
     file(REMOVE ${TO}/${header})
 endforeach()

@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 // znscript batches: the batches of scripts, as the editor's analysis tells them apart.
-#include "host/FileLanguages.h"
+#include "editing/language/FileLanguages.h"
 #include "platform/base/Units.h"
 #include "script/Arguments.h"
 #include "script/Commands.h"

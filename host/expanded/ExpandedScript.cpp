@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "host/expanded/ExpandedScript.h"
 
+#include "editing/ZNCoreEditorControlEx.h"
 #include "editing/ZNCoreEditorWidget.h"
 #include "editing/language/Library.h"
 #include "host/script/ScriptDoc.h"

@@ -2,9 +2,9 @@
 // ScriptDoc: open, language, views. Saving stands in ScriptSaving.
 #include "host/script/ScriptDoc.h"
 
+#include "editing/language/FileLanguages.h"
 #include "editing/language/FileTypeManager.h"
 #include "editing/language/Library.h"
-#include "host/FileLanguages.h"
 #include "host/files/LineEnds.h"
 #include "host/problems/ScriptChecker.h"
 #include "host/script/ScriptView.h"

@@ -4,6 +4,7 @@
 #pragma once
 
 #include "common/Export.h"
+#include "control/LostCharacter.h"
 
 #include <QString>
 
@@ -12,14 +13,6 @@
 #include <string_view>
 
 class CZNCoreEditorControl;
-
-struct LostCharacter
-{
-    char32_t character = 0;
-    long position = 0; // units
-    long line = 0;     // from 1
-    long column = 0;   // from 1, with tabs as wide as they are shown
-};
 
 // Finds the first character that the encoding, a number of FileEncodeConverter, does not have.
 class ZN_API LossFinder

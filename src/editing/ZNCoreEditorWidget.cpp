@@ -1,21 +1,25 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
+// The face itself: its window, and what it tells. The operations stand in editing/face/.
 #include "editing/ZNCoreEditorWidget.h"
 
+#include "control/EngineRecords.h"
+#include "editing/face/Private.h"
 #include "looks/Schemes.h"
-
+#include "platform/windows/ActionUI.h"
 #include "platform/windows/Disposal.h"
 
+#include <QAbstractScrollArea>
+#include <QHelpEvent>
 #include <QLabel>
 #include <QMetaMethod>
 #include <QVBoxLayout>
 
 #include <utility>
 
-// The parent's side of the channel: this widget as a window that takes messages.
-class ZNCoreEditorWidget::NotificationWindow final : public CWnd
+class ZNCoreEditorWidget::Private::NotificationWindow final : public CWnd
 {
 public:
-    explicit NotificationWindow(ZNCoreEditorWidget& owner) : m_owner(owner) { Attach(&owner); }
+    explicit NotificationWindow(Private& owner) : m_owner(owner) { Attach(&owner.q); }
     ~NotificationWindow() override { Detach(); } // the widget is not this object's to destroy
 
     LRESULT WindowProc(UINT message, WPARAM wParam, LPARAM lParam) override
@@ -28,43 +32,36 @@ public:
     }
 
 private:
-    ZNCoreEditorWidget& m_owner;
+    Private& m_owner;
 };
 
-// A text may change a million times in one undo: this is a tenth of what a QPointer costs.
-class ZNCoreEditorWidget::Lifetime
-{
-public:
-    explicit Lifetime(ZNCoreEditorWidget& widget)
-        : m_widget(&widget), m_outer(std::exchange(widget.m_lifetime, this))
-    {}
-    ~Lifetime()
-    {
-        if (m_widget)
-            m_widget->m_lifetime = m_outer;
-    }
-    Lifetime(const Lifetime&) = delete;
-    Lifetime& operator=(const Lifetime&) = delete;
-
-    void End()
-    {
-        m_widget = nullptr;
-        if (m_outer)
-            m_outer->End();
-    }
-    explicit operator bool() const { return m_widget != nullptr; }
-
-private:
-    ZNCoreEditorWidget* m_widget;
-    Lifetime* m_outer;
-};
-
-ZNCoreEditorWidget::ZNCoreEditorWidget(QWidget* parent)
-    : QWidget(parent), m_control(std::make_unique<CZNCoreEditorControlEx>()),
+ZNCoreEditorWidget::Private::Private(ZNCoreEditorWidget& widget)
+    : q(widget), m_control(std::make_unique<CZNCoreEditorControlEx>(this)),
       m_window(std::make_unique<NotificationWindow>(*this))
 {
     m_control->SetCarefulFiles(true);
     m_control->SetUserSettingsFirst(true);
+}
+
+// The engine's window goes first, while there is still somebody to hear its last notifications. If
+// it is what has led here, or the control is, both are taken out and stay until that is over.
+ZNCoreEditorWidget::Private::~Private()
+{
+    if (m_lifetime) {
+        const HWND editor = m_control->Detach();
+        if (editor)
+            editor->setParent(nullptr);
+        Disposal::Later(m_control.release(), editor);
+        m_lifetime->End();
+    } else {
+        m_control->DestroyWindow();
+    }
+    m_window.reset();
+}
+
+ZNCoreEditorWidget::ZNCoreEditorWidget(QWidget* parent) : QWidget(parent)
+{
+    d = std::make_unique<Private>(*this); // which connects to this widget: null until it is made
     auto* layout = new QVBoxLayout(this);
     layout->setContentsMargins(0, 0, 0, 0);
     const HWND editor = CreateWindowOfClass(
@@ -84,116 +81,22 @@ ZNCoreEditorWidget::ZNCoreEditorWidget(QWidget* parent)
     layout->addWidget(editor);
     setFocusProxy(editor);
     editor->setAccessibleName(tr("Text editor"));
-    m_control->SubclassWindow(editor);
-    m_control->SetScheme(zncoreeditor::kDesktopScheme);
+    d->m_control->SubclassWindow(editor);
+    d->m_control->SetScheme(zncoreeditor::kDesktopScheme);
+    if (auto* area = qobject_cast<QAbstractScrollArea*>(editor))
+        area->viewport()->installEventFilter(this);
+    d->m_told = d->CurrentSettings();
 }
 
-// The engine's window goes first, while there is still somebody to hear its last notifications. If
-// it is what has led here, or the control is, both are taken out and stay until that is over.
-ZNCoreEditorWidget::~ZNCoreEditorWidget()
+// While slots of QWidget's own end are called, there is no editor any more.
+ZNCoreEditorWidget::~ZNCoreEditorWidget() = default;
+
+CZNCoreEditorControlEx& ZNCoreEditorWidget::control()
 {
-    if (m_lifetime) {
-        const HWND editor = m_control->Detach();
-        if (editor)
-            editor->setParent(nullptr);
-        Disposal::Later(m_control.release(), editor);
-        m_lifetime->End();
-    } else {
-        m_control->DestroyWindow();
-    }
-    m_window.reset();
+    return *d->m_control;
 }
 
-template <typename Operate>
-auto ZNCoreEditorWidget::Run(Operate operate)
-{
-    const Lifetime alive(*this);
-    ++m_operations;
-    const auto result = operate(*m_control);
-    if (alive) {
-        --m_operations;
-        TellChanges();
-    }
-    return result;
-}
-
-FileResult ZNCoreEditorWidget::open(const QString& path)
-{
-    const std::u16string name = path.toStdU16String();
-    return Run([&](CZNCoreEditorControlEx& control) {
-        control.OpenFile(name.c_str(), FileEncodeConverter::encUnknown);
-        return control.GetFileResult();
-    });
-}
-
-FileResult ZNCoreEditorWidget::save(const QString& path)
-{
-    const std::u16string name = path.toStdU16String();
-    return Run([&](CZNCoreEditorControlEx& control) {
-        control.SaveFile(name.c_str(), true);
-        return control.GetFileResult();
-    });
-}
-
-std::optional<LostCharacter> ZNCoreEditorWidget::lostBySaving()
-{
-    return FindLostCharacter(*m_control, m_control->GetEncoding());
-}
-
-bool ZNCoreEditorWidget::openFile(const QString& path)
-{
-    const std::u16string name = path.toStdU16String();
-    return Run([&](CZNCoreEditorControlEx& control) {
-        return control.OpenFile(name.c_str(), FileEncodeConverter::encUnknown);
-    });
-}
-
-bool ZNCoreEditorWidget::saveFile(const QString& path)
-{
-    const std::u16string name = path.toStdU16String();
-    return Run(
-        [&](CZNCoreEditorControlEx& control) { return control.SaveFile(name.c_str(), true); });
-}
-
-int ZNCoreEditorWidget::language() const
-{
-    return m_control->GetCurrentLanguage();
-}
-
-void ZNCoreEditorWidget::setLanguage(int language)
-{
-    m_control->InitializeLanguage(language, 1);
-}
-
-QString ZNCoreEditorWidget::scheme() const
-{
-    return m_control->SchemeName();
-}
-
-void ZNCoreEditorWidget::setScheme(const QString& name)
-{
-    m_control->SetScheme(name);
-}
-
-QString ZNCoreEditorWidget::text()
-{
-    return m_control->GetText();
-}
-
-void ZNCoreEditorWidget::setText(const QString& text)
-{
-    const std::u16string units = text.toStdU16String();
-    Run([&](CZNCoreEditorControlEx& control) {
-        control.BeginUndoAction(1);
-        control.ClearAll(1);
-        control.AddTextNoProcess(static_cast<int>(units.size()), units.c_str(), 1);
-        control.SetSel(0, 0, 1);
-        control.EndUndoAction(1);
-        return 0;
-    });
-}
-
-LRESULT ZNCoreEditorWidget::Notify(LPARAM lParam)
+LRESULT ZNCoreEditorWidget::Private::Notify(LPARAM lParam)
 {
     const auto& record = *reinterpret_cast<const SCNotification*>(lParam);
     if (record.nmhdr.code == notify::Modified && !m_tellsChanges) {
@@ -206,18 +109,25 @@ LRESULT ZNCoreEditorWidget::Notify(LPARAM lParam)
         return 0;
     }
     m_control->HandleNotify(lParam);
-    Q_EMIT notified(record);
+    Q_EMIT q.notified(record);
     return alive ? Note(record) : 0;
 }
 
-// Two signals that nobody hears would be a tenth of what an undo of many changes takes.
+// Signals that nobody hears would be a tenth of what an undo of many changes takes.
 void ZNCoreEditorWidget::connectNotify(const QMetaMethod& signal)
 {
-    m_tellsChanges |= signal == QMetaMethod::fromSignal(&ZNCoreEditorWidget::notified) ||
-                      signal == QMetaMethod::fromSignal(&ZNCoreEditorWidget::textChanged);
+    if (!d) // its own window, while it is made
+        return;
+    using Self = ZNCoreEditorWidget;
+    for (const QMetaMethod& change :
+         {QMetaMethod::fromSignal(&Self::notified), QMetaMethod::fromSignal(&Self::textChanged),
+          QMetaMethod::fromSignal(&Self::undoAvailable),
+          QMetaMethod::fromSignal(&Self::redoAvailable),
+          QMetaMethod::fromSignal(&Self::lineCountChanged)})
+        d->m_tellsChanges |= signal == change;
 }
 
-LRESULT ZNCoreEditorWidget::Note(const SCNotification& record)
+LRESULT ZNCoreEditorWidget::Private::Note(const SCNotification& record)
 {
     constexpr int kTextChange = modification::InsertText | modification::DeleteText;
     switch (record.nmhdr.code) {
@@ -232,38 +142,103 @@ LRESULT ZNCoreEditorWidget::Note(const SCNotification& record)
         m_added.push_back(static_cast<char32_t>(record.ch));
         return notify::kTellWhenOver;
     case notify::UpdateUi:
+    case notify::Zoom:
         if (!std::exchange(m_isUpdated, true))
             QMetaObject::invokeMethod(
-                this, [this] { TellUpdate(); }, Qt::QueuedConnection);
+                &q, [this] { TellUpdate(); }, Qt::QueuedConnection);
         return 0;
     default:
         return 0;
     }
 }
 
-// Slots may change the text or delete this widget: nothing is touched behind the last signal, and
+// Slots may change the text or delete the widget: nothing is touched behind the last signal, and
 // what is told is taken before.
-void ZNCoreEditorWidget::TellChanges()
+void ZNCoreEditorWidget::Private::TellChanges()
 {
     if (m_operations > 0)
         return;
     const Lifetime alive(*this);
     const std::u32string added = std::exchange(m_added, {});
     if (std::exchange(m_textChanged, false))
-        Q_EMIT textChanged();
+        Q_EMIT q.textChanged();
     if (alive && m_modified != std::exchange(m_toldModified, m_modified))
-        Q_EMIT modificationChanged(m_modified);
+        Q_EMIT q.modificationChanged(m_modified);
+    if (alive)
+        TellSettings(alive);
     for (std::size_t i = 0; alive && i < added.size(); ++i)
-        Q_EMIT charAdded(added[i]);
+        Q_EMIT q.charAdded(added[i]);
 }
 
-void ZNCoreEditorWidget::TellUpdate()
+void ZNCoreEditorWidget::Private::TellUpdate()
 {
     const Lifetime alive(*this);
     m_isUpdated = false;
     const long caret = m_control->GetCurrentPos(1);
-    if (caret != std::exchange(m_caret, caret))
-        Q_EMIT cursorPositionChanged(caret);
+    const long anchor = m_control->GetAnchor(1);
+    const bool hasMoved = caret != m_caret;
+    const bool hadSelection = m_caret != m_anchor;
+    const bool hasSelection = caret != anchor;
+    const bool hasSelected = (hasMoved || anchor != m_anchor) && (hadSelection || hasSelection);
+    m_caret = caret;
+    m_anchor = anchor;
+    if (hasMoved)
+        Q_EMIT q.cursorPositionChanged(caret);
+    if (alive && hasSelected)
+        Q_EMIT q.selectionChanged();
+    if (alive && hasSelection != hadSelection)
+        Q_EMIT q.copyAvailable(hasSelection);
     if (alive)
-        Q_EMIT updateUi();
+        TellSettings(alive);
+    if (alive && !m_commands.isEmpty())
+        UpdateActions(m_commands, *m_control);
+    if (alive)
+        Q_EMIT q.updateUi();
+}
+
+ZNCoreEditorWidget::Private::Settings ZNCoreEditorWidget::Private::CurrentSettings()
+{
+    CZNCoreEditorControlEx& control = *m_control;
+    return {control.GetReadOnly(1) != 0,
+            control.CanUndo(1) != 0,
+            control.CanRedo(1) != 0,
+            static_cast<int>(control.GetLineCount(1)),
+            control.GetCurrentLanguage(),
+            control.GetEncoding(),
+            control.GetWriteEncodingSig(),
+            control.GetEOLMode(1),
+            control.GetZoom(1),
+            control.SchemeName(),
+            control.GetFileName()};
+}
+
+void ZNCoreEditorWidget::Private::TellSettings(const Lifetime& alive)
+{
+    const Settings now = CurrentSettings();
+    const Settings before = std::exchange(m_told, now);
+    const auto tell = [&](bool differs, auto emitSignal) {
+        if (differs && alive)
+            emitSignal();
+    };
+    tell(now.lines != before.lines, [&] { Q_EMIT q.lineCountChanged(now.lines); });
+    tell(now.canUndo != before.canUndo, [&] { Q_EMIT q.undoAvailable(now.canUndo); });
+    tell(now.canRedo != before.canRedo, [&] { Q_EMIT q.redoAvailable(now.canRedo); });
+    tell(now.isReadOnly != before.isReadOnly, [&] { Q_EMIT q.readOnlyChanged(now.isReadOnly); });
+    tell(now.file != before.file, [&] { Q_EMIT q.fileNameChanged(now.file); });
+    tell(now.encoding != before.encoding || now.hasMark != before.hasMark,
+         [&] { Q_EMIT q.encodingChanged(); });
+    tell(now.lineEnd != before.lineEnd, [&] { Q_EMIT q.lineEndChanged(); });
+    tell(now.language != before.language, [&] { Q_EMIT q.languageChanged(now.language); });
+    tell(now.scheme != before.scheme, [&] { Q_EMIT q.schemeChanged(now.scheme); });
+    tell(now.zoom != before.zoom, [&] { Q_EMIT q.zoomChanged(now.zoom); });
+}
+
+bool ZNCoreEditorWidget::eventFilter(QObject* object, QEvent* event)
+{
+    auto* window = qobject_cast<QWidget*>(object);
+    if (event->type() == QEvent::ToolTip && window) {
+        d->ShowProblemAt(static_cast<QHelpEvent*>(event)->pos(), *window);
+        return true;
+    }
+    return QWidget::eventFilter(object, event);
 }

@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 // The editor as plain Qt hosts see it.
+#include "editing/ZNCoreEditorControlEx.h"
 #include "editing/ZNCoreEditorWidget.h"
 #include "platform/text/CodePage.h"
 #include "tests/platform/file/FullDisk.h"

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 // Autosave in the workbench: what a killed one leaves is offered by the next, and the settings
 // reach every script.
+#include "editing/ZNCoreEditorControlEx.h"
 #include "editing/ZNCoreEditorWidget.h"
 #include "host/session/AutosaveDialog.h"
 #include "platform/windows/Timer.h"

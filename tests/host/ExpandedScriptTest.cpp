@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 // The workbench shows a script expanded, and leads back to where its lines were written.
 #include "host/expanded/ExpandedScript.h"
+#include "editing/ZNCoreEditorControlEx.h"
 #include "editing/ZNCoreEditorWidget.h"
 #include "host/options/OptionsDialog.h"
 #include "host/problems/ProblemPane.h"

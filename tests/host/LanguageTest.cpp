@@ -1,8 +1,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 // Languages and options in the workbench.
+#include "editing/language/FileLanguages.h"
 #include "editing/language/FileTypeManager.h"
 #include "editing/language/Library.h"
-#include "host/FileLanguages.h"
 #include "host/options/OptionsDialog.h"
 #include "host/window/LanguageMenu.h"
 #include "platform/services/OptionsServer.h"

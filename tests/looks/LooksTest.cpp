@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 // What an editor with a scheme draws beside and over its text.
 #include "control/EngineLooks.h"
+#include "editing/ZNCoreEditorControlEx.h"
 #include "editing/ZNCoreEditorWidget.h"
 #include "looks/Schemes.h"
 #include "tests/control/ControlFixture.h"

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-#include "host/FileLanguages.h"
+#include "editing/language/FileLanguages.h"
 
 #include "editing/language/FileTypeManager.h"
 #include "editing/language/Library.h"

@@ -2,10 +2,12 @@
 // Which language a script is in, by the name of its file.
 #pragma once
 
+#include "common/Export.h"
+
 #include <QString>
 
 // The number of the language in the registry; that of plain text for a name that tells nothing.
-int LanguageOfFile(const QString& path);
+ZN_API int LanguageOfFile(const QString& path);
 
 // Of a script that has no file yet.
-int LanguageOfNewScripts();
+ZN_API int LanguageOfNewScripts();

@@ -1,0 +1,184 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+// The face's languages, colours, font and layout.
+#include "editing/face/Private.h"
+#include "editing/language/FileLanguages.h"
+#include "editing/language/FileTypeManager.h"
+#include "editing/language/Library.h"
+#include "looks/Schemes.h"
+#include "platform/services/OptionsServer.h"
+#include "platform/system/Font.h"
+
+#include <algorithm>
+
+namespace {
+
+constexpr int kStyles = 256;
+constexpr int kWrapByWord = 1;
+
+} // namespace
+
+QStringList ZNCoreEditorWidget::languages()
+{
+    const CFileTypeManager& manager = *zncoreeditor::GetFileTypeManager();
+    QStringList names;
+    for (int language = 0; language < manager.GetLanguageCount(); ++language)
+        names += manager.GetLanguageName(language);
+    return names;
+}
+
+int ZNCoreEditorWidget::languageOfName(const QString& name)
+{
+    return static_cast<int>(languages().indexOf(name));
+}
+
+int ZNCoreEditorWidget::languageOfFile(const QString& path)
+{
+    return LanguageOfFile(path);
+}
+
+int ZNCoreEditorWidget::language() const
+{
+    return d->m_control->GetCurrentLanguage();
+}
+
+bool ZNCoreEditorWidget::setLanguage(int language)
+{
+    if (language < 0 || language >= zncoreeditor::GetFileTypeManager()->GetLanguageCount())
+        return false;
+    return d->Run([=, this](CZNCoreEditorControlEx& control) {
+        control.InitializeLanguage(language, 1);
+        d->ApplyFont();
+        return true;
+    });
+}
+
+QString ZNCoreEditorWidget::languageName() const
+{
+    return zncoreeditor::GetFileTypeManager()->GetLanguageName(language());
+}
+
+bool ZNCoreEditorWidget::setLanguageName(const QString& name)
+{
+    return setLanguage(languageOfName(name));
+}
+
+bool ZNCoreEditorWidget::setLanguageForFile(const QString& path)
+{
+    return setLanguage(languageOfFile(path));
+}
+
+QStringList ZNCoreEditorWidget::schemes()
+{
+    return zncoreeditor::SchemeNames();
+}
+
+QString ZNCoreEditorWidget::scheme() const
+{
+    return d->m_control->SchemeName();
+}
+
+bool ZNCoreEditorWidget::setScheme(const QString& name)
+{
+    if (!name.isEmpty() && name != zncoreeditor::kDesktopScheme && !zncoreeditor::FindScheme(name))
+        return false;
+    return d->Run([&](CZNCoreEditorControlEx& control) {
+        control.SetScheme(name);
+        d->ApplyFont();
+        return true;
+    });
+}
+
+// A language brings a font for each of its styles, and a width of its tabs.
+void ZNCoreEditorWidget::Private::ApplyFont()
+{
+    if (m_tabWidth > 0)
+        m_control->SetTabWidth(m_tabWidth, 1);
+    if (!m_font)
+        return;
+    const QString family = m_font->family();
+    for (int style = 0; style < kStyles; ++style) {
+        m_control->StyleSetFont(style, face::Units(family), 1);
+        m_control->StyleSetSize(style, m_font->pointSize(), 1);
+    }
+}
+
+QFont ZNCoreEditorWidget::editorFont() const
+{
+    if (d->m_font)
+        return *d->m_font;
+    LOGFONT font;
+    if (!CZNOptionsServer::GetObjectW()->GetLOGFONT(option::EditorFont, &font))
+        return QFont(); // as long as nobody has chosen one
+    constexpr int kPointsPerInch = 72;
+    return QFont(QString(reinterpret_cast<const QChar*>(font.lfFaceName)),
+                 -MulDiv(static_cast<int>(font.lfHeight), kPointsPerInch, ScreenPixelsPerInch()));
+}
+
+void ZNCoreEditorWidget::setEditorFont(const QFont& font)
+{
+    if (d->m_font == font)
+        return;
+    d->m_font = font;
+    if (font.pointSize() < 1) // set in pixels
+        d->m_font->setPointSize(QFontInfo(font).pointSize());
+    d->ApplyFont();
+    Q_EMIT editorFontChanged();
+}
+
+int ZNCoreEditorWidget::tabWidth() const
+{
+    return d->m_control->GetTabWidth(1);
+}
+
+bool ZNCoreEditorWidget::setTabWidth(int characters)
+{
+    constexpr int kWidest = 64;
+    if (characters < 1 || characters > kWidest)
+        return false;
+    d->m_tabWidth = characters;
+    d->m_control->SetTabWidth(characters, 1);
+    return true;
+}
+
+int ZNCoreEditorWidget::zoom() const
+{
+    return d->m_control->GetZoom(1);
+}
+
+void ZNCoreEditorWidget::setZoom(int points)
+{
+    d->Run([=](CZNCoreEditorControlEx& control) {
+        control.SetZoom(points, 1);
+        return 0;
+    });
+}
+
+void ZNCoreEditorWidget::zoomIn(int points)
+{
+    setZoom(zoom() + points);
+}
+
+void ZNCoreEditorWidget::zoomOut(int points)
+{
+    setZoom(zoom() - points);
+}
+
+ZNCoreEditorWidget::LineWrapMode ZNCoreEditorWidget::lineWrapMode() const
+{
+    return d->m_control->GetWrapMode(1) ? LineWrapMode::WidgetWidth : LineWrapMode::NoWrap;
+}
+
+void ZNCoreEditorWidget::setLineWrapMode(LineWrapMode mode)
+{
+    d->m_control->SetWrapMode(mode == LineWrapMode::WidgetWidth ? kWrapByWord : 0, 1);
+}
+
+bool ZNCoreEditorWidget::areLineNumbersVisible() const
+{
+    return d->m_control->IsVisibleLineNumber();
+}
+
+void ZNCoreEditorWidget::setLineNumbersVisible(bool visible)
+{
+    d->m_control->SetVisibleLineNumber(visible);
+}

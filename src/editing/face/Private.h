@@ -1,0 +1,133 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+// What stands behind the QWidget face: its control, and what of it has been told.
+#pragma once
+
+#include "editing/ZNCoreEditorControlEx.h"
+#include "editing/ZNCoreEditorWidget.h"
+
+#include <QList>
+#include <QPointer>
+
+#include <memory>
+#include <optional>
+#include <string>
+#include <utility>
+
+class ZNCoreEditorWidget::Private final : public CZNCoreEditorControlExCallback
+{
+public:
+    explicit Private(ZNCoreEditorWidget& widget);
+    ~Private() override;
+    Private(const Private&) = delete;
+    Private& operator=(const Private&) = delete;
+
+    // The parent's side of the channel: the widget as a window that takes messages.
+    class NotificationWindow;
+
+    // Whether the widget was deleted while this one stood on the stack. A text may change a million
+    // times in one undo: this is a tenth of what a QPointer costs.
+    class Lifetime
+    {
+    public:
+        explicit Lifetime(Private& face)
+            : m_face(&face), m_outer(std::exchange(face.m_lifetime, this))
+        {}
+        ~Lifetime()
+        {
+            if (m_face)
+                m_face->m_lifetime = m_outer;
+        }
+        Lifetime(const Lifetime&) = delete;
+        Lifetime& operator=(const Lifetime&) = delete;
+
+        void End()
+        {
+            m_face = nullptr;
+            if (m_outer)
+                m_outer->End();
+        }
+        explicit operator bool() const { return m_face != nullptr; }
+
+    private:
+        Private* m_face;
+        Lifetime* m_outer;
+    };
+
+    // A call of the face's, behind which it tells what has changed.
+    template <typename Operate>
+    auto Run(Operate operate)
+    {
+        const Lifetime alive(*this);
+        ++m_operations;
+        const auto result = operate(*m_control);
+        if (alive) {
+            --m_operations;
+            TellChanges();
+        }
+        return result;
+    }
+
+    int OnBeforeContextMenu(CWnd* window, CPoint point) override;
+
+    LRESULT Notify(LPARAM lParam);
+    LRESULT Note(const SCNotification& record);
+    void TellChanges();
+    void TellUpdate();
+    void TellSettings(const Lifetime& alive);
+    void ApplyFont();
+    void ShowProblemAt(const QPoint& place, QWidget& window);
+    void MakeCommands();
+
+    // What has a signal of its own when it changes, whoever changed it.
+    struct Settings
+    {
+        bool isReadOnly = false;
+        bool canUndo = false;
+        bool canRedo = false;
+        int lines = 1;
+        int language = 0;
+        int encoding = 0;
+        bool hasMark = false;
+        int lineEnd = 0;
+        int zoom = 0;
+        QString scheme;
+        QString file;
+    };
+    Settings CurrentSettings();
+
+    ZNCoreEditorWidget& q;
+    bool m_tellsChanges = false; // somebody listens to each
+    std::unique_ptr<CZNCoreEditorControlEx> m_control;
+    std::unique_ptr<NotificationWindow> m_window; // hears what the engine tells its parent
+    Lifetime* m_lifetime = nullptr;
+    bool m_modified = false;
+    std::optional<QFont> m_font; // that the host has set
+    int m_tabWidth = 0;          // the same; 0: the language's
+    QList<QAction*> m_commands;  // made when they are asked for
+
+    // What has been told.
+    Settings m_told;
+    bool m_toldModified = false;
+    long m_caret = 0;
+    long m_anchor = 0;
+
+    // What is to be told.
+    int m_operations = 0; // under way
+    bool m_textChanged = false;
+    bool m_isUpdated = false;
+    std::u32string m_added;
+};
+
+namespace face {
+
+inline const char16_t* Units(const QString& text)
+{
+    return reinterpret_cast<const char16_t*>(text.utf16());
+}
+
+inline long Clamped(CZNCoreEditorControlEx& control, long position)
+{
+    return std::clamp(position, 0L, static_cast<long>(control.GetLength(1)));
+}
+
+} // namespace face
