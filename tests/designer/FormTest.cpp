@@ -1,0 +1,52 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+// A form with the editor in it, as Qt Designer writes it.
+#include "editing/ZNCoreEditorWidget.h"
+
+#include <QBuffer>
+#include <QUiLoader>
+
+#include <gtest/gtest.h>
+
+#include <memory>
+
+namespace {
+
+constexpr char kForm[] = R"(<ui version="4.0">
+ <class>Form</class>
+ <widget class="QWidget" name="Form">
+  <layout class="QVBoxLayout">
+   <item>
+    <widget class="ZNCoreEditorWidget" name="script">
+     <property name="text"><string>select 1;</string></property>
+     <property name="languageName"><string>Transact-SQL</string></property>
+     <property name="lineWrapMode"><enum>ZNCoreEditorWidget::LineWrapMode::WidgetWidth</enum></property>
+     <property name="readOnly"><bool>true</bool></property>
+    </widget>
+   </item>
+  </layout>
+ </widget>
+ <customwidgets><customwidget>
+  <class>ZNCoreEditorWidget</class><extends>QWidget</extends>
+  <header>ZNCoreEditor/ZNCoreEditorWidget.h</header>
+ </customwidget></customwidgets>
+</ui>)";
+
+TEST(DesignerForm, MakesTheEditorWithItsProperties)
+{
+    QUiLoader loader;
+    loader.clearPluginPaths();
+    loader.addPluginPath(QStringLiteral(ZN_PLUGINS));
+    ASSERT_TRUE(loader.availableWidgets().contains(QStringLiteral("ZNCoreEditorWidget")));
+    QByteArray form = kForm;
+    QBuffer buffer(&form);
+    const std::unique_ptr<QWidget> window(loader.load(&buffer));
+    ASSERT_NE(window, nullptr) << loader.errorString().toStdString();
+    const auto* script = window->findChild<ZNCoreEditorWidget*>(QStringLiteral("script"));
+    ASSERT_NE(script, nullptr);
+    EXPECT_EQ(script->text(), QStringLiteral("select 1;"));
+    EXPECT_EQ(script->languageName(), QStringLiteral("Transact-SQL"));
+    EXPECT_EQ(script->lineWrapMode(), ZNCoreEditorWidget::LineWrapMode::WidgetWidth);
+    EXPECT_TRUE(script->isReadOnly());
+}
+
+} // namespace
