@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 // The dialog: its tree, changes of page, Ok, Cancel and Apply on real files.
+#include "editing/ZNCoreEditorControlEx.h"
 #include "editing/ZNCoreEditorWidget.h"
 #include "platform/windows/Accelerators.h"
 #include "prefs/pages/EditorPrefsStatic.h"

@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 // All settings at once: out and in again, as shipped, in the colours of a scheme.
+#include "editing/ZNCoreEditorControlEx.h"
 #include "editing/ZNCoreEditorWidget.h"
 #include "editing/looks/SchemeSettings.h"
 #include "looks/Schemes.h"
