@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // Columns: whether there is room for a rectangle of text. The stock engine counts a place behind a
 // line's end in blanks of the style there, and aborts when there are 800,000 of them.
 #pragma once

@@ -27,7 +27,11 @@ void WholeCharacters::Begin()
     if (!m_listens)
         m_engine.raw.Send(Sci::SCI_STARTRECORD);
     m_listens = true;
-    Round(true); // the stock engine may have counted the columns of a rectangle anew
+    // Styles that wait would have the columns of a rectangle counted anew in the middle of a
+    // change.
+    if (IsRectangle(Get(Sci::SCI_GETSELECTIONMODE)))
+        m_engine.raw.Send(Sci::SCI_TEXTHEIGHT);
+    Round(true);
 }
 
 long WholeCharacters::Rounded(long position, bool down) const

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // Lines joined and divided.
 #include "engine/core/Engine.h"
 #include "engine/core/Handlers.h"
@@ -20,6 +21,8 @@ long Ask(const Raw& raw, unsigned message, long wParam = 0, long lParam = 0)
 // The stock engine keeps a target of its own, which goes stale.
 LRESULT LinesJoin(Engine& engine, WPARAM, LPARAM)
 {
+    if (Ask(engine.raw, Sci::SCI_GETREADONLY)) // the target would shrink to before the text
+        return 0;
     engine.LendTarget();
     engine.raw.Send(Sci::SCI_LINESJOIN);
     engine.TakeTarget();

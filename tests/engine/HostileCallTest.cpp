@@ -132,6 +132,18 @@ TEST(HostileCalls, AWindowOffEveryScreenShowsNoList)
     }
 }
 
+TEST(HostileCalls, LinesOfAReadOnlyTextAreNotJoined)
+{
+    EngineUnderTest engine;
+    engine.SetText(u"a\nb\nc");
+    engine.Send(msg::SetTargetStart, 0);
+    engine.Send(msg::SetTargetEnd, 3);
+    engine.Send(msg::SetReadOnly, 1);
+    engine.Send(msg::LinesJoin);
+    EXPECT_EQ(engine.Send(msg::GetTargetEnd), 3);
+    EXPECT_EQ(engine.Text(), u"a\nb\nc");
+}
+
 TEST(HostileCalls, StylesOfARangeThatEndsInsideALineEndStayWithinIt)
 {
     EngineUnderTest engine;
