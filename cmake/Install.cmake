@@ -25,6 +25,21 @@ function(zn_stage_headers target)
     add_dependencies(${target} public_headers)
 endfunction()
 
+# What a desktop and a shell know of the programs.
+function(zn_install_desktop)
+    set(from ${PROJECT_SOURCE_DIR}/packaging)
+    install(FILES ${from}/znworkbench.desktop
+            DESTINATION ${CMAKE_INSTALL_DATADIR}/applications COMPONENT Tools)
+    install(FILES ${from}/znworkbench.svg
+            DESTINATION ${CMAKE_INSTALL_DATADIR}/icons/hicolor/scalable/apps COMPONENT Tools)
+    install(FILES ${from}/zncoreeditor-mime.xml RENAME zncoreeditor.xml
+            DESTINATION ${CMAKE_INSTALL_DATADIR}/mime/packages COMPONENT Tools)
+    install(FILES ${from}/znworkbench.1 ${from}/znscript.1
+            DESTINATION ${CMAKE_INSTALL_MANDIR}/man1 COMPONENT Tools)
+    install(FILES ${from}/znscript.bash RENAME znscript
+            DESTINATION ${CMAKE_INSTALL_DATADIR}/bash-completion/completions COMPONENT Tools)
+endfunction()
+
 function(zn_install)
     install(TARGETS ZNCoreEditor ZNPlatform EXPORT ZNCoreEditor
             LIBRARY DESTINATION ${CMAKE_INSTALL_LIBDIR} COMPONENT Runtime NAMELINK_COMPONENT Development)
@@ -48,6 +63,10 @@ function(zn_install)
                     COMPONENT Tools OPTIONAL)
         endif()
     endforeach()
+
+    if(ZN_PROGRAMS)
+        zn_install_desktop()
+    endif()
 
     install(DIRECTORY ${ZN_STAGED_HEADERS}/ZNCoreEditor
             DESTINATION ${CMAKE_INSTALL_INCLUDEDIR} COMPONENT Development)
