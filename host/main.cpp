@@ -29,9 +29,13 @@ int RunInteractively(const QStringList& files)
     Workbench app(Workbench::Keeps::Places);
     auto* window = new MainWindow(app);
     window->show();
-    window->ResumeSession();
+    app.ChooseWhatToRecover();
+    if (app.GetMainWnd())
+        window->ResumeSession();
     if (app.GetMainWnd())
         window->OpenPlaces(files);
+    if (app.GetMainWnd())
+        app.Recover();
     if (!app.GetMainWnd())
         return 0; // closed while a question stood
     if (window->TabCount() == 0)

@@ -3,6 +3,7 @@
 
 #include "host/files/OpenAsDialog.h"
 #include "host/files/SaveAsDialog.h"
+#include "host/recovery/RecoveryDialog.h"
 
 #include <QFileDialog>
 #include <QMessageBox>
@@ -85,6 +86,14 @@ LoseCharacters DialogPrompts::BeforeQuestionMarks(QWidget* parent, const QString
     if (box.clickedButton() == utf8)
         return LoseCharacters::SaveAsUtf8;
     return box.clickedButton() == anyway ? LoseCharacters::SaveAnyway : LoseCharacters::Cancel;
+}
+
+QList<RecoveryChoice> DialogPrompts::WhatToRecover(QWidget* parent,
+                                                   const QList<RecoverableCopy>& copies)
+{
+    RecoveryDialog dialog(parent, copies);
+    dialog.exec();
+    return dialog.Choices();
 }
 
 bool DialogPrompts::Confirm(QWidget* parent, const QString& text, const QString& doIt)

@@ -4,6 +4,9 @@
 // through IUserQuestions.
 #pragma once
 
+#include "host/recovery/RecoverableCopy.h"
+
+#include <QList>
 #include <QString>
 #include <QStringList>
 
@@ -50,6 +53,9 @@ public:
     virtual std::optional<SaveTarget> WhereToSave(QWidget* parent, const SaveTarget& proposal) = 0;
     virtual LoseChanges BeforeLosing(QWidget* parent, const QString& name) = 0;
     virtual LoseCharacters BeforeQuestionMarks(QWidget* parent, const QString& text) = 0;
+    // One choice for each of the copies.
+    virtual QList<RecoveryChoice> WhatToRecover(QWidget* parent,
+                                                const QList<RecoverableCopy>& copies) = 0;
     virtual bool Confirm(QWidget* parent, const QString& text, const QString& doIt) = 0;
     virtual void Tell(QWidget* parent, const QString& text) = 0;
 };
@@ -63,6 +69,8 @@ public:
     std::optional<SaveTarget> WhereToSave(QWidget* parent, const SaveTarget& proposal) override;
     LoseChanges BeforeLosing(QWidget* parent, const QString& name) override;
     LoseCharacters BeforeQuestionMarks(QWidget* parent, const QString& text) override;
+    QList<RecoveryChoice> WhatToRecover(QWidget* parent,
+                                        const QList<RecoverableCopy>& copies) override;
     bool Confirm(QWidget* parent, const QString& text, const QString& doIt) override;
     void Tell(QWidget* parent, const QString& text) override;
 };

@@ -5,6 +5,7 @@
 #include "editing/ZNCoreEditorControlEx.h"
 #include "host/finding/FindBar.h"
 #include "host/pictures/PreferencesPictures.h"
+#include "host/recovery/RecoveryDialog.h"
 #include "host/window/MainWindow.h"
 #include "host/window/Workbench.h"
 
@@ -12,9 +13,11 @@
 #include <QComboBox>
 #include <QDir>
 #include <QElapsedTimer>
+#include <QFile>
 #include <QPalette>
 #include <QPixmap>
 #include <QStyleFactory>
+#include <QTemporaryDir>
 
 namespace {
 
@@ -51,6 +54,42 @@ void Furnish(CZNCoreEditorControlEx& editor)
     editor.GotoPos(editor.PositionFromLine(13, 1) + 24, 1);
 }
 
+void Put(const QString& path, const QByteArray& text)
+{
+    QFile file(path);
+    if (file.open(QFile::WriteOnly))
+        file.write(text);
+}
+
+// A script that was changed, one whose file is gone and one that never had a name.
+QPixmap Recovery()
+{
+    const QTemporaryDir folder;
+    QByteArray text;
+    for (int i = 1; i < 30; ++i)
+        text += "select " + QByteArray::number(i) + " from orders where id = 7;\n";
+    QList<RecoverableCopy> copies;
+    for (const char* name : {"customers.sql", "release-4.2.sql", "Script 3"}) {
+        RecoverableCopy copy;
+        copy.name = QLatin1String(name);
+        copy.document = QStringLiteral("/home/anna/projects/shop/releases/") + copy.name;
+        copy.path = folder.filePath(copy.name + QStringLiteral(".copy"));
+        copy.copyTime = QDateTime::currentDateTime().addSecs(-240 * (copies.size() + 1));
+        copies << copy;
+        Put(copy.path, QByteArray(text).replace("select 5 ", "select 55 ").replace("= 9", "= 10"));
+    }
+    copies[0].document = folder.filePath(copies[0].name);
+    Put(copies[0].document, text);
+    copies[0].fileTime = copies[0].copyTime.addSecs(-86400);
+    copies[1].state = RecoverableCopy::State::Deleted;
+    copies[2].state = RecoverableCopy::State::NeverNamed;
+    copies[2].document.clear();
+    RecoveryDialog dialog(nullptr, copies);
+    dialog.show();
+    Rest(500);
+    return dialog.grab();
+}
+
 } // namespace
 
 int main(int argc, char** argv)
@@ -81,5 +120,6 @@ int main(int argc, char** argv)
     Rest(1000);
     window->grab().save(folder.filePath(words[2] + QStringLiteral("-find.png")));
     PicturePreferences(folder, words[2]);
+    Recovery().save(folder.filePath(words[2] + QStringLiteral("-recovery.png")));
     return 0;
 }

@@ -54,6 +54,23 @@ QString WhyNotWritten(const QString& path)
         .arg(QDir::toNativeSeparators(path), reason);
 }
 
+QString WhyNotRecovered(const RecoverableCopy& copy)
+{
+    return QStringLiteral("The copy of “%1” cannot be read, or another window of the workbench has "
+                          "it by now. It is still there: “%2”.")
+        .arg(copy.name, QDir::toNativeSeparators(copy.path));
+}
+
+int LanguageOfName(const QString& name)
+{
+    const CFileTypeManager& languages = *zncoreeditor::GetFileTypeManager();
+    for (int language = 0; language < languages.GetLanguageCount(); ++language) {
+        if (languages.GetLanguageName(language) == name)
+            return language;
+    }
+    return -1;
+}
+
 } // namespace
 
 ScriptDoc::OpenAs::OpenAs(int encoding)
@@ -97,6 +114,43 @@ int ScriptDoc::OnNewDocument()
     m_docPointer = FirstView()->GetCoreEditorControl()->GetDocPointer(1);
     SetLanguage(LanguageOfNewScripts());
     return 1;
+}
+
+// A script that never had a file is copied under its name, with the language that somebody chose.
+void ScriptDoc::NameCopies(CZNCoreEditorControlEx& editor) const
+{
+    const CFileTypeManager& languages = *zncoreeditor::GetFileTypeManager();
+    if (m_strPathName.isEmpty())
+        editor.SetUntitledName(
+            UntitledName(Name(), languages.GetLanguageName(editor.GetCurrentLanguage())));
+}
+
+// The place in the text is that of before, as far as there is one.
+bool ScriptDoc::Recover(const RecoverableCopy& copy)
+{
+    ScriptView* view = FirstView();
+    if (!view)
+        return false;
+    CZNCoreEditorControlEx& editor = view->GetCoreEditorControlRef();
+    const long line = editor.LineFromPosition(editor.GetCurrentPos(1), 1);
+    if (!editor.RecoverCopy(copy.path, FileEncodeConverter::encodingType(m_chosenEncoding))) {
+        if (!IsClosed())
+            GetPrompts().Tell(Window(), WhyNotRecovered(copy));
+        return false;
+    }
+    if (m_strPathName.isEmpty() && !copy.document.isEmpty()) {
+        SetPathName(copy.document, false);
+        SetLanguage(LanguageOfFile(copy.document));
+        m_onlyHere = true;
+    } else if (m_strPathName.isEmpty()) {
+        if (const int language = LanguageOfName(copy.language); language >= 0)
+            SetLanguage(language);
+    }
+    SetModifiedFlag(1);
+    view->GoToLine(line);
+    m_lineEnds->Look();
+    Q_EMIT StateChanged();
+    return true;
 }
 
 int ScriptDoc::OnOpenDocument(const QString& path)
@@ -175,6 +229,8 @@ void ScriptDoc::SetLanguage(int language)
     const bool isKnown = language >= 0 && language < languages.GetLanguageCount();
     if (m_checker)
         m_checker->SetLanguage(isKnown ? languages.GetLanguageName(language) : QString());
+    if (ScriptView* view = FirstView())
+        NameCopies(view->GetCoreEditorControlRef());
     Q_EMIT LanguageChanged();
 }
 
@@ -224,6 +280,7 @@ void ScriptDoc::OnViewGoes(ScriptView& view)
         const CFileTypeManager& languages = *zncoreeditor::GetFileTypeManager();
         m_checker->SetLanguage(languages.GetLanguageName(editor.GetCurrentLanguage()));
         m_lineEnds->Look();
+        NameCopies(editor);
         return;
     }
 }
@@ -260,6 +317,8 @@ void ScriptDoc::MarkAsOnlyHere()
         return;
     m_onlyHere = true;
     SetModifiedFlag(1);
+    if (ScriptView* view = FirstView()) // copies are made of what is modified
+        view->GetCoreEditorControl()->SetModified(true);
     Q_EMIT StateChanged();
 }
 

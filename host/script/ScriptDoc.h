@@ -50,6 +50,11 @@ public:
     // Reads the file again, in another encoding. 0 if it was not read.
     int Reopen(int encoding);
 
+    // Puts the copy that a crash has left in the place of the text. A script without a file gets
+    // the one that the copy stands for, which need not be there. False if it was not loaded, of
+    // which the person knows.
+    bool Recover(const RecoverableCopy& copy);
+
     QString Name() const; // the file's, or the one given
     // Where a plain save goes: the file behind the text, the path empty if there is none yet.
     SaveTarget CurrentTarget() const;
@@ -93,6 +98,7 @@ private:
     void OnReadOnly();
     void ServeView(ScriptView& view);
     void MarkAsOnlyHere();
+    void NameCopies(CZNCoreEditorControlEx& editor) const;
     QWidget* Window() const;
 
     std::unique_ptr<ScriptChecker> m_checker;

@@ -36,6 +36,7 @@ int ScriptView::OnCreate(CCreateContext* context)
     if (CZNCoreEditorView::OnCreate(context) == -1)
         return -1;
     m_coreEditor.SetCarefulFiles(true);
+    m_coreEditor.SetOffersCopies(false); // the workbench has a list of them
     m_coreEditor.SetEncoding(FileEncodeConverter::encUTF8);
     m_coreEditor.SetWriteEncodingSig(false);
     m_coreEditor.SetScrollWidth(1, 1);

@@ -40,6 +40,11 @@ public:
     LoseChanges BeforeLosing(QWidget*, const QString&) override { return LoseChanges::Cancel; }
     void Tell(QWidget*, const QString& text) override { Report(text); }
 
+    QList<RecoveryChoice> WhatToRecover(QWidget*, const QList<RecoverableCopy>& copies) override
+    {
+        return QList<RecoveryChoice>(copies.size(), RecoveryChoice::Later);
+    }
+
     LoseCharacters BeforeQuestionMarks(QWidget*, const QString& text) override
     {
         Report(text);

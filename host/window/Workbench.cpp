@@ -18,6 +18,7 @@
 #include <QFileInfo>
 
 #include <algorithm>
+#include <utility>
 
 namespace {
 
@@ -95,8 +96,6 @@ bool Workbench::MayOpen(const QString& path)
     return false;
 }
 
-// The mark stays until the script has been painted. The empty script that the window began with
-// makes room.
 CDocument* Workbench::OpenDocumentFile(const QString& path)
 {
     const QString absolute = QFileInfo(path).absoluteFilePath();
@@ -105,6 +104,16 @@ CDocument* Workbench::OpenDocumentFile(const QString& path)
     if (!MayOpen(absolute))
         return nullptr;
     const FrameworkCall call;
+    CDocument* document = OpenGuarded(absolute);
+    if (auto* script = dynamic_cast<ScriptDoc*>(document); script && !m_isStarting)
+        RecoverFor(*script);
+    return document && !document->IsClosed() ? document : nullptr;
+}
+
+// The mark stays until the script has been painted. The empty script that the window began with
+// makes room.
+CDocument* Workbench::OpenGuarded(const QString& absolute)
+{
     ScriptDoc* before = ActiveScript();
     const OpenGuard::Mark mark = m_guard.Open(absolute);
     CDocument* document = CWinApp::OpenDocumentFile(absolute);
@@ -115,6 +124,68 @@ CDocument* Workbench::OpenDocumentFile(const QString& path)
     if (QWidget* window = WindowOf(*this); window && window->isVisible())
         window->repaint();
     return document;
+}
+
+// What is to be recovered. What is for later is anybody's again.
+QList<RecoverableCopy> Workbench::AskAbout(LeftCopies& copies)
+{
+    QList<RecoverableCopy> described;
+    for (const LeftCopies::Copy& copy : copies.All())
+        described << Describe(copy);
+    QList<RecoverableCopy> chosen;
+    if (described.isEmpty())
+        return chosen;
+    const QList<RecoveryChoice> choices = GetPrompts().WhatToRecover(WindowOf(*this), described);
+    for (qsizetype i = 0; i < described.size(); ++i) {
+        if (choices[i] == RecoveryChoice::Recover)
+            chosen << described[i];
+        else if (choices[i] == RecoveryChoice::Discard)
+            copies.Discard(described[i].path);
+    }
+    return chosen;
+}
+
+void Workbench::ChooseWhatToRecover()
+{
+    m_isStarting = true;
+    LeftCopies copies;
+    m_toRecover = AskAbout(copies);
+}
+
+void Workbench::Recover()
+{
+    const QList<RecoverableCopy> chosen = std::exchange(m_toRecover, {});
+    for (const RecoverableCopy& copy : chosen) {
+        if (GetMainWnd())
+            RecoverScript(copy);
+    }
+    m_isStarting = false;
+}
+
+// The script stays in its place if it is open. Without a file it begins as a script of its own.
+void Workbench::RecoverScript(const RecoverableCopy& copy)
+{
+    const bool hasFile = copy.state == RecoverableCopy::State::Unchanged ||
+                         copy.state == RecoverableCopy::State::Changed;
+    if (!hasFile)
+        NewScript();
+    else if (!OpenDocumentFile(copy.document))
+        return;
+    ScriptDoc* script = ActiveScript();
+    if (script && !script->Recover(copy) && !hasFile && !script->IsClosed())
+        script->OnCloseDocument();
+}
+
+// The person who opens a file that another run has left a copy of.
+void Workbench::RecoverFor(ScriptDoc& script)
+{
+    LeftCopies copies(script.GetPathName());
+    const QList<RecoverableCopy> chosen = AskAbout(copies);
+    for (const RecoverableCopy& copy : chosen) {
+        copies.Release(copy.path);
+        if (!script.IsClosed())
+            script.Recover(copy);
+    }
 }
 
 CDocument* Workbench::OpenScript(const QString& path, int encoding)

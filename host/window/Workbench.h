@@ -7,8 +7,10 @@
 #include "host/files/RecentFiles.h"
 #include "host/preferences/WorkbenchPreferences.h"
 #include "host/printing/WorkbenchPrinter.h"
+#include "host/recovery/RecoverableCopy.h"
 #include "platform/docview/WinApp.h"
 
+#include <QList>
 #include <QSettings>
 
 class ScriptDoc;
@@ -32,6 +34,12 @@ public:
     void NewScript() { OnFileNew(); }
     void AddToRecentFileList(const QString& path) override;
 
+    // At the start of a run: shows what crashes have left. What the person chooses is brought back
+    // by the second call, when the scripts of the session stand; files that are opened in between
+    // are not asked about.
+    void ChooseWhatToRecover();
+    void Recover();
+
     int SaveAll(); // without a word about what has a name; 0 as soon as one is not saved
     bool CanSaveAll() const;
 
@@ -50,6 +58,10 @@ private:
     void OnOpen();
     void OnOpenAs();
     bool MayOpen(const QString& path);
+    CDocument* OpenGuarded(const QString& absolute);
+    QList<RecoverableCopy> AskAbout(LeftCopies& copies);
+    void RecoverFor(ScriptDoc& script);
+    void RecoverScript(const RecoverableCopy& copy);
 
     Keeps m_keeps;
     OpenGuard m_guard;
@@ -57,4 +69,6 @@ private:
     QSettings m_settings;
     RecentFiles m_recent;
     WorkbenchPreferences m_preferences;
+    QList<RecoverableCopy> m_toRecover;
+    bool m_isStarting = false; // between the choice and the recovery
 };

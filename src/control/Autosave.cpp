@@ -118,15 +118,18 @@ QString MakeCopyFile(const QString& folder)
 
 void WriteNote(const QString& copyPath, const QString& documentPath)
 {
-    IApplicationProfile& profile = ApplicationProfile();
-    const QString name = NameOf(copyPath);
-    if (profile.GetString(kSection, name, QString()) != documentPath)
-        profile.WriteString(kSection, name, Units(documentPath));
+    if (NoteOf(copyPath) != documentPath)
+        ApplicationProfile().WriteString(kSection, NameOf(copyPath), Units(documentPath));
 }
 
 void RemoveNote(const QString& copyPath)
 {
     ApplicationProfile().WriteString(kSection, NameOf(copyPath), nullptr);
+}
+
+QString NoteOf(const QString& copyPath)
+{
+    return ApplicationProfile().GetString(kSection, NameOf(copyPath), QString());
 }
 
 void EmptyCopy(const QString& copyPath)
@@ -160,8 +163,7 @@ QString FindCopy(const QString& documentPath,
     while (entries.hasNext()) {
         entries.next();
         const QString name = entries.fileName();
-        if (!entries.fileInfo().isDir() &&
-            ApplicationProfile().GetString(kSection, name, QString()) == documentPath &&
+        if (!entries.fileInfo().isDir() && NoteOf(folder + name) == documentPath &&
             take(folder + name))
             return name;
     }
@@ -200,7 +202,7 @@ void CZNCoreEditorControl::SetAutoSave(bool on, int minutes)
     if (!GetSafeHwnd())
         return;
     KillTimer(kTimer);
-    if (on && !m_strFileName.isEmpty() && minutes >= 1)
+    if (on && !NameForNote().isEmpty() && minutes >= 1)
         SetTimer(kTimer, static_cast<UINT>(std::min(minutes * kMinute, kLongest)));
 }
 
@@ -210,6 +212,20 @@ void CZNCoreEditorControl::setAutoSaveOn(bool on)
         return;
     m_bAutoSaveOn = on;
     SetAutoSave(on, m_nAutoSaveMinutes);
+}
+
+void CZNCoreEditorControl::SetUntitledName(const QString& name)
+{
+    if (name == m_untitledName)
+        return;
+    m_untitledName = name;
+    if (m_strFileName.isEmpty())
+        SetAutoSave(m_bAutoSaveOn, m_nAutoSaveMinutes);
+}
+
+const QString& CZNCoreEditorControl::NameForNote() const
+{
+    return m_strFileName.isEmpty() ? m_untitledName : m_strFileName;
 }
 
 void CZNCoreEditorControl::setAutoSaveMinutes(int minutes)
@@ -252,9 +268,9 @@ void CZNCoreEditorControl::OnTimer(UINT id)
 {
     if (id == kTimer) {
         KillTimer(kTimer);
-        if (m_bModified && GetReadOnly(1) == 0 && GetLineCount(1) > 0 && !m_strFileName.isEmpty()) {
+        if (m_bModified && GetReadOnly(1) == 0 && GetLineCount(1) > 0 && !NameForNote().isEmpty()) {
             if (!Policy().sparesEqual || DiffersFromFile())
-                WriteAutoSaveCopy(m_strFileName);
+                WriteAutoSaveCopy(NameForNote());
             else if (m_bHasWrittenCopy) // everything was undone
                 DeleteAutoSaveFile();
         }
@@ -309,6 +325,8 @@ void CZNCoreEditorControl::LeaveAutoSaveCopy()
 // closed under the question has nowhere to load it.
 void CZNCoreEditorControl::OfferAutoSaveCopy(Encoding encoding)
 {
+    if (!m_offersCopies)
+        return;
     if (Policy().passesUnwritten)
         autosave::RemoveUnwritten();
     const QString name = autosave::FindCopy(m_strFileName, [this](const QString& copyPath) {
@@ -342,14 +360,36 @@ void CZNCoreEditorControl::OfferAutoSaveCopy(Encoding encoding)
         LoadAutoSaveCopy(encoding);
 }
 
+// A copy that this control had before is left for whoever opens its file next: what is in memory
+// alone may be lost.
+bool CZNCoreEditorControl::RecoverCopy(const QString& copyPath, Encoding encoding)
+{
+    const QString document = autosave::NoteOf(copyPath);
+    if (!CanHoldText() || GetReadOnly(1) != 0 || document.isEmpty())
+        return false;
+    LeaveAutoSaveCopy();
+    if (!m_copyClaim->Take(copyPath))
+        return false;
+    m_strAutoSaveDir = autosave::BackupFolder(true);
+    m_strAutoSaveFile = copyPath;
+    if (!LoadAutoSaveCopy(encoding)) {
+        LeaveAutoSaveCopy();
+        return false;
+    }
+    if (m_strFileName.isEmpty() && QDir::isAbsolutePath(document))
+        m_strFileName = document;
+    SetAutoSave(m_bAutoSaveOn, m_nAutoSaveMinutes);
+    return true;
+}
+
 // The save point stays with the file on disk, and one undo brings its text back. A copy that cannot
 // be opened stays for later. With care one that was loaded goes on as this control's own, so that
 // its text is never in memory alone.
-void CZNCoreEditorControl::LoadAutoSaveCopy(Encoding encoding)
+bool CZNCoreEditorControl::LoadAutoSaveCopy(Encoding encoding)
 {
     FilePointer file = OpenForReading(Units(m_strAutoSaveFile));
     if (!file)
-        return;
+        return false;
     const HostOfEditor host(*this);
     const bool fileWasCutShort = m_bCutShort;
     // ASCII is taken for the code page's, though a copy in UTF-8 may come to nothing else.
@@ -365,9 +405,11 @@ void CZNCoreEditorControl::LoadAutoSaveCopy(Encoding encoding)
     const bool isWhole = !m_bCutShort;
     // A complete copy of a text that was cut short does not bring back the rest of its file.
     m_bCutShort = m_bCutShort || fileWasCutShort;
-    if (!host.IsStillThere() || (Policy().keepsCopies && !isWhole))
+    const bool isThere = host.IsStillThere();
+    if (!isThere || (Policy().keepsCopies && !isWhole))
         LeaveAutoSaveCopy(); // closed under the message that it is cut short, or there is more in
                              // it
     else if (!Policy().keepsCopies)
         DeleteAutoSaveFile();
+    return isThere;
 }

@@ -18,6 +18,7 @@ QString MakeCopyFile(const QString& folder);
 // The note says which file a copy stands for.
 void WriteNote(const QString& copyPath, const QString& documentPath);
 void RemoveNote(const QString& copyPath);
+QString NoteOf(const QString& copyPath); // empty if there is none
 
 // Takes the text out of a copy that is not needed any more, so that a process which dies before it
 // has removed note and copy leaves one that counts as unwritten.

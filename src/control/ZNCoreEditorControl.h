@@ -130,6 +130,17 @@ public:
     void setAutoSaveMinutes(int minutes);
     bool GetAutoSaveOn() const { return m_bAutoSaveOn; }
     int GetAutoSaveMinutes() const { return m_nAutoSaveMinutes; }
+    // A name makes copies of a text without a file, too, which are noted under it and offered to
+    // nobody: a host finds them by LeftCopies. It is no absolute path. Empty, as from the start:
+    // there are none.
+    void SetUntitledName(const QString& name);
+    // Whether OpenFile offers what it finds. A host that does not want its question shows what
+    // LeftCopies lists, and has what a person chooses loaded.
+    void SetOffersCopies(bool offers) { m_offersCopies = offers; }
+    // Puts a crash's copy in the place of the text, undoably, and goes on with it as this control's
+    // own; a text without a file gets the one that the copy stands for. False if the copy is
+    // another's or cannot be opened, if the text is read-only, or if this was closed meanwhile.
+    bool RecoverCopy(const QString& copyPath, FileEncodeConverter::encodingType encoding);
     // Starts or stops the timer without keeping what it is told.
     virtual void SetAutoSave(bool on, int minutes);
 
@@ -266,7 +277,8 @@ private:
     void WriteAutoSaveCopy(const QString& documentPath);
     void MakeAutoSaveFile();
     void OfferAutoSaveCopy(FileEncodeConverter::encodingType encoding);
-    void LoadAutoSaveCopy(FileEncodeConverter::encodingType encoding);
+    bool LoadAutoSaveCopy(FileEncodeConverter::encodingType encoding);
+    const QString& NameForNote() const;
     void LeaveAutoSaveCopy();
     LRESULT OnGetSel(WPARAM wParam, LPARAM lParam);
     LRESULT OnLineLength(WPARAM wParam, LPARAM lParam);
@@ -289,7 +301,9 @@ private:
 
     bool m_bCarefulFiles = false;
     FileResult m_fileResult;
-    FileStamp m_fileStamp;          // of the file behind the text when it was read or written
+    FileStamp m_fileStamp; // of the file behind the text when it was read or written
+    QString m_untitledName;
+    bool m_offersCopies = true;
     bool m_bHasWrittenCopy = false; // the autosave file has a text of this control's
     bool m_bCutShort = false;
     std::unique_ptr<CopyClaim> m_copyClaim; // on the autosave file

@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 // What a crash has left is found by the file's path, offered, and loaded or kept.
+#include "control/LeftCopies.h"
 #include "tests/control/AutosaveFixture.h"
 
 #include <QDateTime>
@@ -565,4 +566,55 @@ TEST_F(Recovery, ANoteIsWrittenOnce)
     editor.Tick();
     EXPECT_EQ(QFileInfo(profile).lastModified(), written);
     EXPECT_EQ(Read(OnlyCopy()), QByteArray("xyselect 1;"));
+}
+
+TEST_F(Recovery, ATextWithAnUntitledNameIsCopiedUnderIt)
+{
+    control().setAutoSaveOn(true);
+    EXPECT_EQ(editor.Interval(), 0u);
+    control().SetUntitledName(QStringLiteral("Script 1"));
+    EXPECT_EQ(editor.Interval(), 60000u);
+    editor.Type(u"typed");
+    editor.Tick();
+    EXPECT_EQ(Note(QFileInfo(OnlyCopy()).fileName()), QStringLiteral("Script 1"));
+    Write(PathOf("named.sql"), QByteArray());
+    ASSERT_TRUE(control().SaveFile(PathOf("named.sql").toStdU16String().c_str(), true));
+    EXPECT_TRUE(Copies().isEmpty());
+}
+
+TEST_F(Recovery, AHostThatShowsTheCopiesItselfIsNotAskedFor)
+{
+    control().SetCarefulFiles(true);
+    control().SetOffersCopies(false);
+    const QString copy = Plant("~ZN1.tmp", "typed");
+    ASSERT_TRUE(Open("saved"));
+    EXPECT_TRUE(questions.asked.isEmpty());
+    EXPECT_EQ(control().m_strAutoSaveFile, QString());
+    ASSERT_TRUE(control().RecoverCopy(copy, kDetect));
+    EXPECT_EQ(editor.Text(), u"typed");
+    EXPECT_EQ(control().m_strAutoSaveFile, copy);
+    EXPECT_NE(control().GetModify(1), 0);
+    EXPECT_EQ(Read(copy), QByteArray("typed"));
+}
+
+TEST_F(Recovery, NoCopyOfALivingEditorIsRecovered)
+{
+    const QString copy = Plant("~ZN1.tmp", "typed");
+    control().SetOffersCopies(false);
+    const LeftCopies others;
+    ASSERT_EQ(others.All().size(), 1u);
+    ASSERT_TRUE(Open("saved"));
+    EXPECT_FALSE(control().RecoverCopy(copy, kDetect));
+    EXPECT_TRUE(LeftCopies().All().empty());
+    EXPECT_EQ(Read(copy), QByteArray("typed"));
+}
+
+TEST_F(Recovery, ACopyThatCannotBeReadCostsTheTextNothing)
+{
+    control().SetOffersCopies(false);
+    const QString copy = Plant("~ZN1.tmp", "typed");
+    ASSERT_TRUE(Open("saved"));
+    ASSERT_TRUE(QFile::remove(copy) && QDir().mkdir(copy));
+    EXPECT_FALSE(control().RecoverCopy(copy, kDetect));
+    EXPECT_EQ(editor.Text(), u"saved");
 }

@@ -3,6 +3,7 @@
 #include "host/files/OpenAsDialog.h"
 #include "host/files/SaveAsDialog.h"
 #include "host/options/OptionsDialog.h"
+#include "host/recovery/RecoveryDialog.h"
 #include "host/session/AutosaveDialog.h"
 #include "tests/host/WorkbenchTest.h"
 
@@ -72,5 +73,6 @@ TEST_F(AccessibleNames, AreThereForTheDialogs)
     ExpectNames(OptionsDialog(&m_window));
     ExpectNames(AutosaveDialog(&m_window, AutosaveSettings()));
     ExpectNames(OpenAsDialog(&m_window, m_folder.path()));
+    ExpectNames(RecoveryDialog(&m_window, {RecoverableCopy(), RecoverableCopy()}));
     ExpectNames(SaveAsDialog(&m_window, SaveTarget{PathOf("a.sql"), 6, false}));
 }

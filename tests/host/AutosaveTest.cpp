@@ -69,11 +69,11 @@ TEST_F(AutosaveInWorkbench, OffersWhatAKilledOneLeftAndLoadsItOnYes)
     ASSERT_EQ(KillAWorkbenchAtWork(script), -1);
     EXPECT_EQ(Read(QStringLiteral("a.sql")), QByteArray("select 1;\n"));
 
-    m_prompts.answer = Answer::Yes;
+    m_prompts.recovery = RecoveryChoice::Recover;
     ASSERT_TRUE(m_app.OpenDocumentFile(script));
-    ASSERT_EQ(m_prompts.told.size(), 1);
-    EXPECT_TRUE(m_prompts.told[0].startsWith(
-        QStringLiteral("znworkbench has detected a more recent version of the file ") + script));
+    ASSERT_EQ(m_prompts.recoverable.size(), 1);
+    EXPECT_EQ(m_prompts.recoverable[0].document, script);
+    EXPECT_TRUE(m_prompts.told.isEmpty());
     EXPECT_EQ(Text(), QStringLiteral("-- typed\nselect 1;\n"));
     EXPECT_TRUE(Script().IsModified());
     EXPECT_TRUE(m_window.isWindowModified());
@@ -84,23 +84,28 @@ TEST_F(AutosaveInWorkbench, OffersWhatAKilledOneLeftAndLoadsItOnYes)
     Trigger("save");
     EXPECT_EQ(Read(QStringLiteral("a.sql")), QByteArray("-- typed\nselect 1;\n"));
 
-    // The copy is gone with the answer.
+    // The copy is gone with the save.
     Trigger("close");
     ASSERT_TRUE(m_app.OpenDocumentFile(script));
-    EXPECT_EQ(m_prompts.told.size(), 1);
+    EXPECT_EQ(m_prompts.recoverable.size(), 1);
 }
 
-TEST_F(AutosaveInWorkbench, KeepsTheFilesTextOnNoAndForgetsTheCopyAtItsClose)
+TEST_F(AutosaveInWorkbench, KeepsTheFilesTextAndTheCopyUntilThePersonDecides)
 {
     const QString script = Write(QStringLiteral("a.sql"), "select 1;\n");
     ASSERT_EQ(KillAWorkbenchAtWork(script), -1);
+    for (int times = 1; times <= 2; ++times) {
+        ASSERT_TRUE(m_app.OpenDocumentFile(script));
+        EXPECT_EQ(m_prompts.recoverable.size(), times);
+        EXPECT_EQ(Text(), QStringLiteral("select 1;\n"));
+        EXPECT_FALSE(Script().IsModified());
+        Trigger("close");
+    }
+    m_prompts.recovery = RecoveryChoice::Discard;
     ASSERT_TRUE(m_app.OpenDocumentFile(script));
-    EXPECT_EQ(m_prompts.told.size(), 1);
-    EXPECT_EQ(Text(), QStringLiteral("select 1;\n"));
-    EXPECT_FALSE(Script().IsModified());
     Trigger("close");
     ASSERT_TRUE(m_app.OpenDocumentFile(script));
-    EXPECT_EQ(m_prompts.told.size(), 1);
+    EXPECT_EQ(m_prompts.recoverable.size(), 3);
 }
 
 TEST_F(AutosaveInWorkbench, LeavesACopyAloneThatNobodyWasAskedAbout)
@@ -111,8 +116,9 @@ TEST_F(AutosaveInWorkbench, LeavesACopyAloneThatNobodyWasAskedAbout)
                   QStringLiteral(ZN_WORKBENCH),
                   {QStringLiteral("--screenshot"), PathOf(QStringLiteral("picture.png")), script}),
               0);
+    m_prompts.recovery = RecoveryChoice::Discard;
     ASSERT_TRUE(m_app.OpenDocumentFile(script));
-    EXPECT_EQ(m_prompts.told.size(), 1);
+    EXPECT_EQ(m_prompts.recoverable.size(), 1);
 }
 
 TEST_F(AutosaveInWorkbench, DoesNotDisturbOneThatIsStillThere)

@@ -1,8 +1,10 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-// A workbench in which somebody types into the given script, and which is killed as soon as the
-// copy of that has been written. With a second word it is killed as soon as a file that it opens
-// makes it say something.
+// A workbench in which somebody types into the given scripts (--new: one without a name; --text and
+// --language: what is typed, and in what), and which is killed as soon as the copies of that have
+// been written. With --recover it first brings back what the last one left. With "opening" behind
+// the script it is killed as soon as a file that it opens makes it say something.
 #include "editing/ZNCoreEditorControlEx.h"
+#include "host/script/ScriptDoc.h"
 #include "host/script/ScriptFrame.h"
 #include "host/window/MainWindow.h"
 #include "host/window/Workbench.h"
@@ -37,25 +39,64 @@ int DieOpening(const QString& path)
     return 1;
 }
 
+// Of each script the autosave, as its time had come.
+int Die(const MainWindow& window)
+{
+    constexpr UINT kAutosave = 100;
+    for (int i = 0; i < window.TabCount(); ++i) {
+        const HWND editor = window.FrameAt(i)->Editor().GetSafeHwnd();
+        if (TimerInterval(editor, kAutosave) == 0)
+            return 2; // autosave is off
+        SendMessage(editor, WM_TIMER, kAutosave, 0);
+    }
+    return std::raise(SIGKILL);
+}
+
+int TypeAndDie(Workbench& app, MainWindow& window, ScriptedPrompts& prompts,
+               const QStringList& words)
+{
+    std::u16string text = u"-- typed\n";
+    int language = -1;
+    for (int i = 0; i < words.size(); ++i) {
+        if (words[i] == QLatin1String("--text"))
+            text = words[++i].toStdU16String();
+        else if (words[i] == QLatin1String("--language"))
+            language = words[++i].toInt();
+    }
+    for (int i = 0; i < words.size(); ++i) {
+        if (words[i] == QLatin1String("--text") || words[i] == QLatin1String("--language")) {
+            ++i;
+            continue;
+        }
+        if (words[i] == QLatin1String("--recover")) {
+            prompts.recovery = RecoveryChoice::Recover;
+            app.ChooseWhatToRecover();
+            app.Recover();
+            continue;
+        }
+        if (words[i] == QLatin1String("--new"))
+            app.NewScript();
+        else if (!app.OpenDocumentFile(words[i]))
+            return 1;
+        if (language >= 0)
+            window.CurrentFrame()->Script()->SetLanguage(language);
+        window.CurrentFrame()->Editor().ReplaceSel(text.c_str(), 1);
+    }
+    return Die(window);
+}
+
 } // namespace
 
 int main(int argc, char** argv)
 {
     QApplication application(argc, argv);
     QApplication::setApplicationName(QStringLiteral("znworkbench"));
-    if (argc > 2)
-        return DieOpening(QApplication::arguments().at(1));
-    const ScriptedPrompts prompts;
+    const QStringList words = QApplication::arguments().mid(1);
+    if (words.contains(QLatin1String("opening")))
+        return DieOpening(words.at(0));
+    ScriptedPrompts prompts;
     Workbench app(Workbench::Keeps::Nothing);
     auto* window = new MainWindow(app);
     window->show();
-    if (!app.OpenDocumentFile(QApplication::arguments().at(1)))
-        return 1;
-    CZNCoreEditorControl& editor = window->CurrentFrame()->Editor();
-    editor.ReplaceSel(u"-- typed\n", 1);
-    constexpr UINT kAutosave = 100;
-    if (TimerInterval(editor.GetSafeHwnd(), kAutosave) == 0)
-        return 2; // autosave is off
-    SendMessage(editor.GetSafeHwnd(), WM_TIMER, kAutosave, 0);
-    return std::raise(SIGKILL);
+    return TypeAndDie(app, *window, prompts, words);
 }

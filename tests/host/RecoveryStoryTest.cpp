@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-// A workbench is killed while a script has changes; the next one is the real program on a real
-// display, and the question is answered with its keys.
+// A workbench is killed while scripts have changes; the next one is the real program on a real
+// display, and its list is answered with its keys.
 #include "tests/host/OwnPlaces.h"
 #include "tests/host/XDoTool.h"
 
@@ -14,9 +14,13 @@ namespace {
 class RecoveryStory : public testing::Test
 {
 protected:
-    void SetUp() override { Recover("select 1;\n", {Path()}); }
+    void SetUp() override
+    {
+        Recover("select 1;\n", {Path(), QStringLiteral("--new")}, "Recover Scripts");
+    }
 
-    void Recover(const QByteArray& bytes, const QStringList& words)
+    // The box stands before the window that is still without a script.
+    void Recover(const QByteArray& bytes, const QStringList& words, const char* box)
     {
         ASSERT_FALSE(qEnvironmentVariableIsEmpty("DISPLAY"));
         QFile file(Path());
@@ -29,13 +33,17 @@ protected:
         ASSERT_TRUE(crashing.waitForFinished(kPatienceInMs));
         ASSERT_EQ(crashing.exitStatus(), QProcess::CrashExit);
 
+        StartWorkbench();
+        ASSERT_TRUE(Eventually([&] { return IsAsked(box); }));
+        ASSERT_TRUE(Visible("story.sql").isEmpty());
+    }
+
+    void StartWorkbench()
+    {
         m_workbench.setProcessEnvironment(OwnPlaces(m_folder.path()));
         m_workbench.setProcessChannelMode(QProcess::ForwardedChannels);
         m_workbench.start(QStringLiteral(ZN_WORKBENCH), {Path()});
         ASSERT_TRUE(m_workbench.waitForStarted());
-        // The question stands before the window that is still without a script.
-        ASSERT_TRUE(Eventually([] { return Visible("znworkbench").size() >= 2; }));
-        ASSERT_TRUE(Visible("story.sql").isEmpty());
     }
 
     void TearDown() override
@@ -58,12 +66,19 @@ protected:
             .split('\n', Qt::SkipEmptyParts);
     }
 
-    // The question has the window's name and was made after it.
-    static bool Answer(const QString& key)
+    // A question has the window's name and was made after it.
+    static bool IsAsked(const char* box)
     {
-        XDoTool({"windowfocus", "--sync", Visible("znworkbench").last()});
-        XDoTool({"key", key});
-        return Eventually([] { return !Visible("story.sql").isEmpty(); });
+        const QStringList windows = Visible(box);
+        return QLatin1String(box) == QLatin1String("znworkbench") ? windows.size() >= 2
+                                                                  : !windows.isEmpty();
+    }
+
+    static void Answer(const char* box, const QStringList& keys)
+    {
+        XDoTool({"windowfocus", "--sync", Visible(box).last()});
+        for (const QString& key : keys)
+            XDoTool({"key", key});
     }
 
     static QString Title() { return XDoTool({"getwindowname", Visible("story.sql").value(0)}); }
@@ -81,35 +96,55 @@ protected:
         Recover(QByteArray("\xFF\xFE"
                            "a\0b",
                            5),
-                {Path(), QStringLiteral("opening")});
+                {Path(), QStringLiteral("opening")}, "znworkbench");
     }
 };
 
 } // namespace
 
-TEST_F(RecoveryStory, YesBringsBackWhatWasTyped)
+TEST_F(RecoveryStory, EnterBringsBackWhatWasTyped)
 {
-    ASSERT_TRUE(Answer(QStringLiteral("alt+y")));
-    EXPECT_TRUE(Eventually([] { return Title().contains(u'*'); })) << Title().toStdString();
+    Answer("Recover Scripts", {QStringLiteral("Return")});
+    // The script without a name is the last one, and in front.
+    ASSERT_TRUE(Eventually([] { return !Visible("Script 1").isEmpty(); }));
+    XDoTool({"windowfocus", "--sync", Visible("Script 1").value(0)});
+    XDoTool({"key", "ctrl+shift+Tab"});
+    ASSERT_TRUE(Eventually([] { return !Visible("story.sql").isEmpty(); }));
+    EXPECT_TRUE(Title().contains(u'*')) << Title().toStdString();
     EXPECT_EQ(Read(), QByteArray("select 1;\n"));
-    XDoTool({"windowfocus", "--sync", Visible("story.sql").value(0)});
     XDoTool({"key", "ctrl+s"});
     EXPECT_TRUE(Eventually([this] { return Read() == "-- typed\nselect 1;\n"; }))
         << Read().toStdString();
 }
 
+TEST_F(RecoveryStory, EscapeLeavesEverythingForLater)
+{
+    Answer("Recover Scripts", {QStringLiteral("Escape")});
+    ASSERT_TRUE(Eventually([] { return !Visible("story.sql").isEmpty(); }));
+    EXPECT_FALSE(Title().contains(u'*')) << Title().toStdString();
+    EXPECT_EQ(Read(), QByteArray("select 1;\n"));
+    TearDown();
+    StartWorkbench();
+    EXPECT_TRUE(Eventually([] { return IsAsked("Recover Scripts"); }));
+}
+
+TEST_F(RecoveryStory, AChoiceIsMadeWithKeys)
+{
+    // From the list to the choice of each script, where a letter takes the one that begins with it.
+    Answer("Recover Scripts", {QStringLiteral("Tab"), QStringLiteral("d"), QStringLiteral("Tab"),
+                               QStringLiteral("d"), QStringLiteral("Return")});
+    ASSERT_TRUE(Eventually([] { return !Visible("story.sql").isEmpty(); }));
+    EXPECT_FALSE(Title().contains(u'*')) << Title().toStdString();
+    TearDown();
+    StartWorkbench();
+    ASSERT_TRUE(Eventually([] { return !Visible("story.sql").isEmpty(); }));
+    EXPECT_TRUE(Visible("Recover Scripts").isEmpty());
+}
+
 TEST_F(DeathStory, AFileThatTheLastRunDiedOnIsOpenedOnlyWhenThePersonSaysSo)
 {
-    XDoTool({"windowfocus", "--sync", Visible("znworkbench").last()});
-    XDoTool({"key", "Escape"});
+    Answer("znworkbench", {QStringLiteral("Escape")});
     EXPECT_TRUE(Eventually([] { return !Visible("Script 1").isEmpty(); })) << "no empty script";
     EXPECT_TRUE(Visible("story.sql").isEmpty());
     EXPECT_EQ(m_workbench.state(), QProcess::Running);
-}
-
-TEST_F(RecoveryStory, NoKeepsWhatIsInTheFile)
-{
-    ASSERT_TRUE(Answer(QStringLiteral("alt+n")));
-    EXPECT_FALSE(Title().contains(u'*')) << Title().toStdString();
-    EXPECT_EQ(Read(), QByteArray("select 1;\n"));
 }

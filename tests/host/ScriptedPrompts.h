@@ -41,6 +41,12 @@ public:
         return loseCharacters;
     }
 
+    QList<RecoveryChoice> WhatToRecover(QWidget*, const QList<RecoverableCopy>& copies) override
+    {
+        recoverable << copies;
+        return QList<RecoveryChoice>(copies.size(), recovery);
+    }
+
     bool Confirm(QWidget*, const QString& text, const QString&) override
     {
         asked << text;
@@ -63,6 +69,9 @@ public:
     bool confirm = false;
     Answer answer = Answer::No; // to the editor's questions
 
+    RecoveryChoice recovery = RecoveryChoice::Later;
+
+    QList<RecoverableCopy> recoverable; // all that were shown
     QStringList proposals;
     QStringList asked;
     QStringList told;

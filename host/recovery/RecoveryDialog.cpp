@@ -1,0 +1,244 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "host/recovery/RecoveryDialog.h"
+
+#include "editing/ZNCoreEditorWidget.h"
+#include "host/recovery/LineDiff.h"
+#include "looks/Schemes.h"
+#include "search/files/ReadFileText.h"
+
+#include <QComboBox>
+#include <QDialogButtonBox>
+#include <QDir>
+#include <QFileInfo>
+#include <QHeaderView>
+#include <QLabel>
+#include <QPushButton>
+#include <QSplitter>
+#include <QTreeWidget>
+#include <QVBoxLayout>
+
+#include <optional>
+
+namespace {
+
+enum Column
+{
+    Script,
+    Folder,
+    CopyAge,
+    FileAge,
+    State,
+    Choice,
+    Columns,
+};
+
+constexpr int kAddedMarker = 15; // nobody else's
+constexpr int kRemovedMarker = 16;
+constexpr int kBackground = 22; // a marker that is the line's background
+constexpr qint64 kMostBytes = 8 * 1024 * 1024;
+
+struct ChoiceText
+{
+    RecoveryChoice choice;
+    const char* text;
+    const char* forAll;
+};
+
+constexpr ChoiceText kChoices[] = {
+    {RecoveryChoice::Recover, "Recover", "&Recover"},
+    {RecoveryChoice::Discard, "Discard", "&Discard"},
+    {RecoveryChoice::Later, "Decide Later", "Decide &Later"},
+};
+
+QChar SignOf(DiffLine::Kind kind)
+{
+    return kind == DiffLine::Kind::Added ? u'+' : kind == DiffLine::Kind::Removed ? u'-' : u' ';
+}
+
+} // namespace
+
+RecoveryDialog::RecoveryDialog(QWidget* parent, const QList<RecoverableCopy>& copies)
+    : QDialog(parent), m_copies(copies), m_list(new QTreeWidget(this)), m_heading(new QLabel(this)),
+      m_comparison(new ZNCoreEditorWidget(this))
+{
+    setWindowTitle(QStringLiteral("Recover Scripts"));
+    auto* told = new QLabel(QStringLiteral("The workbench ended unexpectedly. These scripts had "
+                                           "changes that were not saved:"),
+                            this);
+    told->setWordWrap(true);
+
+    m_list->setObjectName(QStringLiteral("recoverable"));
+    m_list->setAccessibleName(QStringLiteral("Scripts that can be recovered"));
+    m_list->setRootIsDecorated(false);
+    m_list->setAllColumnsShowFocus(true);
+    m_list->setHeaderLabels({QStringLiteral("Script"), QStringLiteral("Folder"),
+                             QStringLiteral("Copy"), QStringLiteral("File"),
+                             QStringLiteral("File Is"), QStringLiteral("What to Do")});
+    for (const RecoverableCopy& copy : std::as_const(m_copies))
+        AddCopy(copy);
+    m_list->header()->setStretchLastSection(false);
+    m_list->header()->setSectionResizeMode(QHeaderView::ResizeToContents);
+    m_list->header()->setSectionResizeMode(Folder, QHeaderView::Stretch);
+
+    m_comparison->setObjectName(QStringLiteral("comparison"));
+    m_comparison->setAccessibleName(QStringLiteral("Comparison of copy and file"));
+    CZNCoreEditorControlEx& editor = m_comparison->control();
+    const bool isDark = zncoreeditor::IsDesktopDark();
+    editor.DefineMarker(kAddedMarker, kBackground, 0, isDark ? 0x2A4A1E : 0xD6F5D6);
+    editor.DefineMarker(kRemovedMarker, kBackground, 0, isDark ? 0x2B2B5A : 0xDADAFB);
+
+    auto* lower = new QWidget(this);
+    auto* lowerLayout = new QVBoxLayout(lower);
+    lowerLayout->setContentsMargins(0, 0, 0, 0);
+    lowerLayout->addWidget(m_heading);
+    lowerLayout->addWidget(m_comparison, 1);
+    auto* splitter = new QSplitter(Qt::Vertical, this);
+    splitter->addWidget(m_list);
+    splitter->addWidget(lower);
+    splitter->setStretchFactor(1, 1);
+    splitter->setChildrenCollapsible(false);
+
+    auto* all = new QHBoxLayout;
+    all->addWidget(new QLabel(QStringLiteral("All scripts:"), this));
+    for (const ChoiceText& row : kChoices) {
+        auto* button = new QPushButton(QLatin1String(row.forAll), this);
+        button->setObjectName(QLatin1String(row.text) + QStringLiteral(" all"));
+        button->setAccessibleName(QLatin1String(row.text) + QStringLiteral(" all scripts"));
+        button->setAutoDefault(false);
+        connect(button, &QPushButton::clicked, this, [this, &row] { ChooseForAll(row.choice); });
+        all->addWidget(button);
+    }
+    all->addStretch();
+    auto* buttons = new QDialogButtonBox(this);
+    buttons->addButton(QStringLiteral("&Continue"), QDialogButtonBox::AcceptRole)->setDefault(true);
+    connect(buttons, &QDialogButtonBox::accepted, this, &QDialog::accept);
+    all->addWidget(buttons);
+
+    auto* layout = new QVBoxLayout(this);
+    layout->addWidget(told);
+    layout->addWidget(splitter, 1);
+    layout->addLayout(all);
+    resize(860, 520);
+    splitter->setSizes({160, 280});
+
+    connect(m_list, &QTreeWidget::currentItemChanged, this,
+            [this](QTreeWidgetItem* item) { Compare(m_list->indexOfTopLevelItem(item)); });
+    m_list->setCurrentItem(m_list->topLevelItem(0));
+    // The choices come behind the list that they stand in.
+    QWidget* before = m_list;
+    for (QComboBox* choice : m_choices) {
+        setTabOrder(before, choice);
+        before = choice;
+    }
+    setTabOrder(before, m_comparison);
+    m_list->setFocus();
+}
+
+// The editor goes after this part of the dialog does.
+RecoveryDialog::~RecoveryDialog()
+{
+    m_list->disconnect(this);
+}
+
+void RecoveryDialog::AddCopy(const RecoverableCopy& copy)
+{
+    const QDateTime now = QDateTime::currentDateTime();
+    const bool hasFile = copy.fileTime.isValid();
+    const QString folder = copy.document.isEmpty()
+                               ? QString()
+                               : QDir::toNativeSeparators(QFileInfo(copy.document).path());
+    auto* item = new QTreeWidgetItem(
+        m_list, {copy.name, folder, AgeOf(copy.copyTime, now),
+                 hasFile ? AgeOf(copy.fileTime, now) : QStringLiteral("none"), TextOf(copy.state)});
+    item->setToolTip(Script, QDir::toNativeSeparators(copy.document));
+    item->setToolTip(Folder, folder);
+    item->setToolTip(CopyAge, QLocale().toString(copy.copyTime));
+    if (hasFile)
+        item->setToolTip(FileAge, QLocale().toString(copy.fileTime));
+    auto* choice = new QComboBox(m_list);
+    for (const ChoiceText& row : kChoices)
+        choice->addItem(QLatin1String(row.text));
+    choice->setAccessibleName(QStringLiteral("What to do with %1").arg(copy.name));
+    m_list->setItemWidget(item, Choice, choice);
+    m_choices.push_back(choice);
+}
+
+QList<RecoveryChoice> RecoveryDialog::Choices() const
+{
+    QList<RecoveryChoice> choices;
+    for (const QComboBox* choice : m_choices) {
+        choices << (result() == Accepted ? kChoices[choice->currentIndex()].choice
+                                         : RecoveryChoice::Later);
+    }
+    return choices;
+}
+
+void RecoveryDialog::ChooseForAll(RecoveryChoice choice)
+{
+    for (QComboBox* box : m_choices) {
+        for (int i = 0; i < box->count(); ++i) {
+            if (kChoices[i].choice == choice)
+                box->setCurrentIndex(i);
+        }
+    }
+}
+
+void RecoveryDialog::Compare(int row)
+{
+    if (row < 0)
+        return;
+    CZNCoreEditorControlEx& editor = m_comparison->control();
+    editor.SetReadOnly(0, 1);
+    CompareTexts(m_copies[row]);
+    editor.EmptyUndoBuffer(1);
+    editor.SetReadOnly(1, 1);
+    editor.GotoPos(0, 1);
+    editor.SetScrollWidth(1, 1);
+    constexpr int kMargins = 5; // of a script: they would number the lines of the comparison
+    for (int margin = 0; margin < kMargins; ++margin)
+        editor.SetMarginWidthN(margin, 0, 1);
+}
+
+// A script without a file is shown as it is; there is nothing to compare it with.
+void RecoveryDialog::CompareTexts(const RecoverableCopy& copy)
+{
+    constexpr int kAround = 3; // lines
+    const bool hasFile = copy.state == RecoverableCopy::State::Unchanged ||
+                         copy.state == RecoverableCopy::State::Changed;
+    m_comparison->control().MarkerDeleteAll(-1, 1);
+    m_comparison->setText(QString());
+    const std::optional<QString> copied = ReadFileText(copy.path, kMostBytes);
+    const std::optional<QString> filed =
+        hasFile ? ReadFileText(copy.document, kMostBytes) : QString();
+    if (!copied || !filed) {
+        m_heading->setText(QStringLiteral("%1 and its copy are not compared: what is no text, "
+                                          "longer than 8 MB or cannot be read is not shown.")
+                               .arg(copy.name));
+        return;
+    }
+    if (!hasFile) {
+        m_heading->setText(QStringLiteral("The copy of %1:").arg(copy.name));
+        m_comparison->setText(*copied);
+        return;
+    }
+    m_heading->setText(
+        QStringLiteral("%1: lines with - are in the file alone, those with + in the copy alone.")
+            .arg(copy.name));
+    const std::vector<DiffLine> lines = UnifiedDiff(*filed, *copied, kAround);
+    if (lines.empty())
+        m_heading->setText(
+            QStringLiteral("%1 and its copy differ in their encoding alone.").arg(copy.name));
+    QString text;
+    for (const DiffLine& line : lines) {
+        const bool isGap = line.kind == DiffLine::Kind::Gap;
+        text += isGap ? QStringLiteral("...") : SignOf(line.kind) + u' ' + line.text;
+        text += u'\n';
+    }
+    m_comparison->setText(text.chopped(text.isEmpty() ? 0 : 1));
+    for (std::size_t i = 0; i < lines.size(); ++i) {
+        if (lines[i].kind == DiffLine::Kind::Added)
+            m_comparison->control().MarkerAdd(static_cast<long>(i), kAddedMarker, 1);
+        else if (lines[i].kind == DiffLine::Kind::Removed)
+            m_comparison->control().MarkerAdd(static_cast<long>(i), kRemovedMarker, 1);
+    }
+}

@@ -1,0 +1,40 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+// The list of what crashes have left: each copy with its age and that of its file, how the two
+// differ, and what is to become of it. It changes nothing itself.
+#pragma once
+
+#include "host/recovery/RecoverableCopy.h"
+
+#include <QDialog>
+#include <QList>
+
+#include <vector>
+
+class QComboBox;
+class QLabel;
+class QTreeWidget;
+class ZNCoreEditorWidget;
+
+class RecoveryDialog final : public QDialog
+{
+    Q_OBJECT
+
+public:
+    RecoveryDialog(QWidget* parent, const QList<RecoverableCopy>& copies);
+    ~RecoveryDialog() override;
+
+    // One for each copy. A dialog that was not accepted leaves all for later.
+    QList<RecoveryChoice> Choices() const;
+
+private:
+    void AddCopy(const RecoverableCopy& copy);
+    void ChooseForAll(RecoveryChoice choice);
+    void Compare(int row);
+    void CompareTexts(const RecoverableCopy& copy);
+
+    QList<RecoverableCopy> m_copies;
+    QTreeWidget* m_list;
+    std::vector<QComboBox*> m_choices;
+    QLabel* m_heading; // of the comparison
+    ZNCoreEditorWidget* m_comparison;
+};

@@ -1,0 +1,53 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "control/LeftCopies.h"
+
+#include "control/Autosave.h"
+#include "control/CopyClaim.h"
+#include "control/FileAccess.h"
+#include "platform/base/Units.h"
+
+#include <QDir>
+#include <QFileInfo>
+
+LeftCopies::LeftCopies(const QString& document)
+{
+    autosave::RemoveUnwritten();
+    const QString folder = autosave::BackupFolder(false);
+    if (folder.isEmpty())
+        return;
+    const QFileInfoList files =
+        QDir(folder).entryInfoList(QDir::Files | QDir::Hidden, QDir::Time | QDir::Reversed);
+    for (const QFileInfo& file : files) {
+        const QString path = folder + file.fileName();
+        const QString stands = autosave::NoteOf(path);
+        auto claim = std::make_unique<CopyClaim>();
+        if (stands.isEmpty() || (!document.isEmpty() && stands != document) || file.size() == 0 ||
+            !claim->Take(path))
+            continue;
+        m_copies.push_back({path, stands});
+        m_claims.push_back(std::move(claim));
+        if (HaveSameBytes(Units(path), Units(stands))) {
+            Discard(path);
+            m_copies.pop_back();
+            m_claims.pop_back();
+        }
+    }
+}
+
+LeftCopies::~LeftCopies() = default;
+
+void LeftCopies::Release(const QString& path)
+{
+    for (std::size_t i = 0; i < m_copies.size(); ++i) {
+        if (m_copies[i].path == path)
+            m_claims[i].reset();
+    }
+}
+
+void LeftCopies::Discard(const QString& path)
+{
+    autosave::EmptyCopy(path);
+    autosave::RemoveNote(path);
+    autosave::RemoveCopy(path);
+    Release(path);
+}

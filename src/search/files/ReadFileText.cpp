@@ -1,0 +1,21 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "search/files/ReadFileText.h"
+
+#include "search/files/FileText.h"
+
+#include <QFile>
+#include <QFileInfo>
+
+std::optional<QString> ReadFileText(const QString& path, qint64 mostBytes)
+{
+    FileText file;
+    if (QFileInfo(path).size() > mostBytes ||
+        file.Open(QFile::encodeName(path).toStdString(), true) != FileText::Kind::Text)
+        return std::nullopt;
+    constexpr std::size_t kPiece = 1024 * 1024;
+    std::string text;
+    while (file.Read(text, kPiece)) {}
+    if (file.Failed())
+        return std::nullopt;
+    return QString::fromStdString(text);
+}

@@ -1,0 +1,300 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+// What crashes have left, in the workbench: the list of it at the start, and each script that comes
+// back. The crashes are those of other processes, which are killed.
+#include "control/LeftCopies.h"
+#include "editing/ZNCoreEditorWidget.h"
+#include "host/files/Places.h"
+#include "host/recovery/RecoveryDialog.h"
+#include "platform/windows/Timer.h"
+#include "tests/host/WorkbenchTest.h"
+
+#include <QComboBox>
+#include <QDir>
+#include <QProcess>
+#include <QPushButton>
+#include <QTreeWidget>
+
+#include <set>
+
+namespace {
+
+using State = RecoverableCopy::State;
+
+constexpr UINT kAutosave = 100;
+constexpr int kPatienceInMs = 30000;
+
+// Stands for the program that is killed, whose copies are found by its name.
+class Recovery : public WorkbenchTest
+{
+protected:
+    Recovery() { QApplication::setApplicationName(QStringLiteral("znworkbench")); }
+    ~Recovery() override
+    {
+        m_app.CloseAllDocuments();
+        LeftCopies left;
+        for (const LeftCopies::Copy& copy : left.All())
+            left.Discard(copy.path);
+        QApplication::setApplicationName(m_before);
+    }
+
+    // A workbench in which somebody types into the scripts and which is killed.
+    void Crash(const QStringList& words)
+    {
+        QProcess workbench;
+        workbench.setProcessChannelMode(QProcess::ForwardedChannels);
+        workbench.start(QStringLiteral(ZN_CRASHING_WORKBENCH), words);
+        ASSERT_TRUE(workbench.waitForFinished(kPatienceInMs));
+        ASSERT_EQ(workbench.exitStatus(), QProcess::CrashExit) << workbench.exitCode();
+    }
+
+    QString Script(const char* name) const { return PathOf(QString::fromLatin1(name)); }
+
+    void StartAgain(RecoveryChoice choice)
+    {
+        m_prompts.recovery = choice;
+        m_app.ChooseWhatToRecover();
+        m_app.Recover();
+        QApplication::processEvents();
+    }
+
+    State OnlyState() const
+    {
+        EXPECT_EQ(m_prompts.recoverable.size(), 1);
+        return m_prompts.recoverable.value(0).state;
+    }
+
+    QString m_before = QApplication::applicationName();
+};
+
+RecoverableCopy Copy(const QString& path, const QString& document, State state)
+{
+    RecoverableCopy copy;
+    copy.path = path;
+    copy.document = document;
+    copy.name = QStringLiteral("a.sql");
+    copy.copyTime = copy.fileTime = QDateTime::currentDateTime();
+    copy.state = state;
+    return copy;
+}
+
+} // namespace
+
+TEST_F(Recovery, ListsAScriptAtTheStartAndBringsItBack)
+{
+    const QString script = Write(QStringLiteral("a.sql"), "select 1;\n");
+    Crash({script});
+    StartAgain(RecoveryChoice::Recover);
+    EXPECT_EQ(OnlyState(), State::Unchanged);
+    EXPECT_EQ(m_prompts.recoverable[0].document, script);
+    EXPECT_EQ(Text(), QStringLiteral("-- typed\nselect 1;\n"));
+    EXPECT_TRUE(WorkbenchTest::Script().IsModified());
+    EXPECT_TRUE(m_prompts.told.isEmpty());
+    Trigger("undo");
+    EXPECT_EQ(Text(), QStringLiteral("select 1;\n"));
+}
+
+TEST_F(Recovery, ListsAllScriptsOnce)
+{
+    Crash({Write(QStringLiteral("a.sql"), "a\n"), Write(QStringLiteral("b.sql"), "b\n"),
+           QStringLiteral("--new")});
+    StartAgain(RecoveryChoice::Recover);
+    EXPECT_EQ(m_prompts.recoverable.size(), 3);
+    EXPECT_EQ(m_window.TabCount(), 3);
+    EXPECT_TRUE(m_prompts.asked.isEmpty());
+    StartAgain(RecoveryChoice::Recover); // they are this run's own
+    EXPECT_EQ(m_prompts.recoverable.size(), 3);
+}
+
+TEST_F(Recovery, BringsBackAScriptThatNeverHadAName)
+{
+    Crash({QStringLiteral("--new")});
+    StartAgain(RecoveryChoice::Recover);
+    EXPECT_EQ(OnlyState(), State::NeverNamed);
+    EXPECT_EQ(Text(), QStringLiteral("-- typed\n"));
+    EXPECT_EQ(WorkbenchTest::Script().GetPathName(), QString());
+    EXPECT_TRUE(WorkbenchTest::Script().IsModified());
+
+    // It goes into a file as any other, and the copy with it.
+    m_prompts.saveTarget = SaveTarget{Script("named.sql"), 6, false};
+    Trigger("save");
+    EXPECT_EQ(Read(QStringLiteral("named.sql")), QByteArray("-- typed\n"));
+    Trigger("close");
+    EXPECT_TRUE(LeftCopies().All().empty());
+}
+
+TEST_F(Recovery, KeepsTheLanguageOfAScriptThatNeverHadAName)
+{
+    Crash({QStringLiteral("--new"), QStringLiteral("--language"), QStringLiteral("5")});
+    StartAgain(RecoveryChoice::Recover);
+    EXPECT_EQ(WorkbenchTest::Script().Language(), 5);
+}
+
+TEST_F(Recovery, BringsBackAScriptWhoseFileWasDeletedUnderItsName)
+{
+    const QString script = Write(QStringLiteral("a.sql"), "select 1;\n");
+    Crash({script});
+    ASSERT_TRUE(QFile::remove(script));
+    StartAgain(RecoveryChoice::Recover);
+    EXPECT_EQ(OnlyState(), State::Deleted);
+    EXPECT_EQ(Text(), QStringLiteral("-- typed\nselect 1;\n"));
+    EXPECT_EQ(WorkbenchTest::Script().GetPathName(), script);
+    Trigger("save");
+    EXPECT_EQ(Read(QStringLiteral("a.sql")), QByteArray("-- typed\nselect 1;\n"));
+    EXPECT_FALSE(WorkbenchTest::Script().IsModified());
+}
+
+TEST_F(Recovery, SurvivesASecondCrash)
+{
+    const QString script = Write(QStringLiteral("a.sql"), "select 1;\n");
+    Crash({script, QStringLiteral("--new")});
+    ASSERT_TRUE(QFile::remove(script));
+    Crash({QStringLiteral("--recover")});
+    StartAgain(RecoveryChoice::Recover);
+    EXPECT_EQ(m_prompts.recoverable.size(), 2);
+    m_window.ShowTab(0);
+    const QString first = Text();
+    m_window.ShowTab(1);
+    EXPECT_EQ(
+        std::set<QString>({first, Text()}),
+        std::set<QString>({QStringLiteral("-- typed\nselect 1;\n"), QStringLiteral("-- typed\n")}));
+}
+
+TEST_F(Recovery, TellsAFileThatOthersHaveChanged)
+{
+    const QString script = Write(QStringLiteral("a.sql"), "select 1;\n");
+    Crash({script});
+    Write(QStringLiteral("a.sql"), "select 22;\n");
+    StartAgain(RecoveryChoice::Later);
+    EXPECT_EQ(OnlyState(), State::Changed);
+    EXPECT_EQ(m_window.TabCount(), 0);
+}
+
+TEST_F(Recovery, LeavesForLaterWhatIsOpenedBeforeItEnds)
+{
+    const QString script = Write(QStringLiteral("a.sql"), "select 1;\n");
+    Crash({script});
+    m_app.ChooseWhatToRecover();
+    ASSERT_TRUE(m_app.OpenDocumentFile(script)); // as the session does
+    m_app.Recover();
+    EXPECT_EQ(m_prompts.recoverable.size(), 1);
+    EXPECT_EQ(Text(), QStringLiteral("select 1;\n"));
+    Trigger("close");
+    StartAgain(RecoveryChoice::Later);
+    EXPECT_EQ(m_prompts.recoverable.size(), 2);
+}
+
+TEST_F(Recovery, DiscardsACopyForGood)
+{
+    Crash({Write(QStringLiteral("a.sql"), "select 1;\n")});
+    StartAgain(RecoveryChoice::Discard);
+    StartAgain(RecoveryChoice::Recover);
+    EXPECT_EQ(m_prompts.recoverable.size(), 1);
+    EXPECT_EQ(m_window.TabCount(), 0);
+}
+
+TEST_F(Recovery, SaysNothingOfACopyThatIsTheFile)
+{
+    Crash({Write(QStringLiteral("a.sql"), "select 1;\n")});
+    Write(QStringLiteral("a.sql"), "-- typed\nselect 1;\n");
+    StartAgain(RecoveryChoice::Later);
+    EXPECT_TRUE(m_prompts.recoverable.isEmpty());
+}
+
+TEST_F(Recovery, LosesNoneOfTwoCopiesOfOneFile)
+{
+    const QString script = Write(QStringLiteral("a.sql"), "select 1;\n");
+    Crash({script});
+    Crash({script, QStringLiteral("--text"), QStringLiteral("-- other\n")});
+    StartAgain(RecoveryChoice::Recover);
+    ASSERT_EQ(m_prompts.recoverable.size(), 2);
+    const QString newer = Text();
+    const LeftCopies left;
+    ASSERT_EQ(left.All().size(), 1u);
+    QFile copy(left.All()[0].path);
+    ASSERT_TRUE(copy.open(QIODevice::ReadOnly));
+    EXPECT_EQ(std::set<QString>({newer, QString::fromUtf8(copy.readAll())}),
+              std::set<QString>({QStringLiteral("-- typed\nselect 1;\n"),
+                                 QStringLiteral("-- other\nselect 1;\n")}));
+}
+
+TEST_F(Recovery, CopiesAScriptWhoseFileIsGoneThoughNobodyTypes)
+{
+    const QString script = Write(QStringLiteral("a.sql"), "select 1;\n");
+    ASSERT_TRUE(m_app.OpenDocumentFile(script));
+    ASSERT_TRUE(QFile::remove(script));
+    WorkbenchTest::Script().CheckLastAccessTime(); // No: the text is kept
+    WorkbenchTest::Script().OnFocus();
+    QApplication::processEvents();
+    SendMessage(Editor().GetSafeHwnd(), WM_TIMER, kAutosave, 0);
+    const QDir folder(QFileInfo(places::DataPath(QString())).filePath() + QStringLiteral("Backup"));
+    QByteArrayList texts;
+    for (const QFileInfo& info : folder.entryInfoList({QStringLiteral("~ZN*")}, QDir::Files)) {
+        QFile copy(info.filePath());
+        ASSERT_TRUE(copy.open(QIODevice::ReadOnly));
+        texts << copy.readAll();
+    }
+    EXPECT_EQ(texts, QByteArrayList{"select 1;\n"});
+}
+
+TEST_F(Recovery, LeavesTheCopyOfAScriptThatCannotBeOpened)
+{
+    Crash({QStringLiteral("--new")});
+    m_prompts.recovery = RecoveryChoice::Recover;
+    m_app.ChooseWhatToRecover();
+    LeftCopies others; // another workbench was faster
+    ASSERT_EQ(others.All().size(), 1u);
+    m_app.Recover();
+    EXPECT_EQ(m_prompts.told.size(), 1);
+    EXPECT_EQ(m_window.TabCount(), 0);
+    EXPECT_TRUE(QFile::exists(others.All()[0].path));
+}
+
+TEST_F(Recovery, ComparesTheCopyWithTheFile)
+{
+    const QString file = Write(QStringLiteral("a.sql"), "one\ntwo\nthree\n");
+    const QString copy = Write(QStringLiteral("copy"), "one\nzwei\nthree\n");
+    const RecoveryDialog dialog(nullptr, {Copy(copy, file, State::Unchanged)});
+    auto* comparison = dialog.findChild<ZNCoreEditorWidget*>(QStringLiteral("comparison"));
+    EXPECT_EQ(comparison->text(), QStringLiteral("  one\n- two\n+ zwei\n  three"));
+    EXPECT_EQ(comparison->control().GetReadOnly(1), 1);
+    EXPECT_EQ(comparison->control().MarkerGet(0, 1) & 3 << 15, 0);
+    EXPECT_EQ(comparison->control().MarkerGet(1, 1) & 3 << 15, 1 << 16);
+    EXPECT_EQ(comparison->control().MarkerGet(2, 1) & 3 << 15, 1 << 15);
+}
+
+TEST_F(Recovery, ShowsTheTextOfACopyWithoutAFile)
+{
+    const QString copy = Write(QStringLiteral("copy"), "one\ntwo");
+    const RecoveryDialog dialog(nullptr, {Copy(copy, QString(), State::NeverNamed)});
+    EXPECT_EQ(dialog.findChild<ZNCoreEditorWidget*>(QStringLiteral("comparison"))->text(),
+              QStringLiteral("one\ntwo"));
+}
+
+TEST_F(Recovery, TakesAChoiceForEachAndForAll)
+{
+    const QString copy = Write(QStringLiteral("copy"), "x");
+    RecoveryDialog dialog(nullptr,
+                          QList<RecoverableCopy>(3, Copy(copy, QString(), State::NeverNamed)));
+    EXPECT_EQ(dialog.Choices(), QList<RecoveryChoice>(3, RecoveryChoice::Later)); // not accepted
+    dialog.findChild<QPushButton*>(QStringLiteral("Discard all"))->click();
+    dialog.findChildren<QComboBox*>()[1]->setCurrentIndex(0);
+    dialog.accept();
+    EXPECT_EQ(dialog.Choices(),
+              (QList<RecoveryChoice>{RecoveryChoice::Discard, RecoveryChoice::Recover,
+                                     RecoveryChoice::Discard}));
+}
+
+TEST(AgeOfACopy, IsToldInTheLargestUnit)
+{
+    const QDateTime now = QDateTime::fromSecsSinceEpoch(1'000'000'000);
+    const auto age = [&now](qint64 seconds) {
+        return AgeOf(now.addSecs(-seconds), now).toStdString();
+    };
+    EXPECT_EQ(age(59), "just now");
+    EXPECT_EQ(age(60), "1 minute ago");
+    EXPECT_EQ(age(3599), "59 minutes ago");
+    EXPECT_EQ(age(3600), "1 hour ago");
+    EXPECT_EQ(age(2 * 86400), "2 days ago");
+    EXPECT_EQ(age(8 * 86400).find("ago"), std::string::npos);
+    EXPECT_EQ(age(-5).find("ago"), std::string::npos); // the clock was set back
+}
