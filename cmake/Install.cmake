@@ -46,11 +46,12 @@ function(zn_install)
     set_target_properties(ZNCoreEditor ZNPlatform PROPERTIES INSTALL_RPATH "$ORIGIN")
     install(TARGETS ZNBaseEditor LIBRARY DESTINATION ${ZN_INSTALLED_FOLDER} COMPONENT Runtime)
     set_target_properties(ZNBaseEditor PROPERTIES INSTALL_RPATH "$ORIGIN/..")
-    install(FILES ${PROJECT_SOURCE_DIR}/data/ZNCoreEditor.xml
+    install(FILES ${PROJECT_SOURCE_DIR}/data/ZNCoreEditor.xml ${PROJECT_SOURCE_DIR}/data/Functions.txt
             DESTINATION ${ZN_INSTALLED_FOLDER} COMPONENT Runtime)
     install(DIRECTORY ${PROJECT_SOURCE_DIR}/data/Syntax ${PROJECT_SOURCE_DIR}/data/Schemes
+            ${PROJECT_SOURCE_DIR}/data/Templates
             DESTINATION ${ZN_INSTALLED_FOLDER} COMPONENT Runtime
-            FILES_MATCHING PATTERN "*.xml")
+            FILES_MATCHING PATTERN "*.xml" PATTERN "*.txt")
     install(FILES ${PROJECT_SOURCE_DIR}/LICENSE ${PROJECT_SOURCE_DIR}/docs/licences.md
             DESTINATION ${CMAKE_INSTALL_DOCDIR} COMPONENT Runtime)
 

@@ -16,7 +16,9 @@ enum Id : UINT
     SavePdf = 32850,
     SaveHtml,
     CopyWithColours,
-    PreviousPane,        // the focus goes there
+    PreviousPane,     // the focus goes there
+    ShowCall = 32860, // what a function takes
+    InsertTemplate,
     Preferences = 54033, // as the editors have it
 };
 } // namespace command

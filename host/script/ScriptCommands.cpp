@@ -2,6 +2,9 @@
 // ScriptView: what it prints, writes and opens on a person's word.
 #include "host/script/ScriptView.h"
 
+#include "host/completion/TemplateInsertion.h"
+#include "host/completion/TemplateList.h"
+#include "host/completion/TemplateStore.h"
 #include "host/export/RichCopy.h"
 #include "host/files/FilePlace.h"
 #include "host/files/Prompts.h"
@@ -68,6 +71,42 @@ void ScriptView::SaveAsHtml()
 void ScriptView::CopyWithColours()
 {
     ::CopyWithColours(m_coreEditor);
+}
+
+// At the caret, below the line that is written in.
+void ScriptView::ChooseTemplate()
+{
+    QWidget* window = GetSafeHwnd();
+    auto* list =
+        new TemplateList(TemplateStore::Global().Of(m_coreEditor.GetCurrentLanguage()), window);
+    QObject::connect(list, &TemplateList::Chosen, window,
+                     [this, window](const completion::CodeTemplate& made) {
+                         if (AttachedWnd(window) != this || m_coreEditor.GetReadOnly(1))
+                             return;
+                         SetFocus();
+                         InsertTemplate(*this, made, m_coreEditor.GetCurrentPos(1));
+                     });
+    const QPoint top = window->mapToGlobal(QPoint((window->width() - list->width()) / 2, 0));
+    list->move(top);
+    list->show();
+}
+
+void ScriptView::EditTemplates()
+{
+    const QString path = TemplateStore::OwnFile(m_coreEditor.GetCurrentLanguage());
+    CWinApp* app = GetApp();
+    if (path.isEmpty())
+        GetPrompts().Tell(GetSafeHwnd(), QStringLiteral("This language has no file of templates."));
+    else if (app)
+        app->OpenDocumentFile(path);
+}
+
+// Whoever shows the state hears of it.
+void ScriptView::RecordMacro()
+{
+    OnToolsRecordmacro();
+    if (ScriptDoc* script = Script())
+        Q_EMIT script->StateChanged();
 }
 
 void ScriptView::OpenAtCaret()

@@ -258,6 +258,7 @@ void ScriptDoc::ServeView(ScriptView& view)
 {
     CZNCoreEditorControlEx& editor = view.GetCoreEditorControlRef();
     AutosaveSettings::Load().ApplyTo(editor);
+    m_names.SetEditor(&editor);
     m_checker = std::make_unique<ScriptChecker>(editor, nullptr);
     connect(m_checker.get(), &ScriptChecker::ProblemsChanged, this, &ScriptDoc::ProblemsChanged);
     m_lineEnds = std::make_unique<LineEndWatch>(editor, nullptr);
@@ -270,6 +271,7 @@ void ScriptDoc::OnViewGoes(ScriptView& view)
         return;
     m_checker.reset();
     m_lineEnds.reset();
+    m_names.SetEditor(nullptr);
     for (CView* other : GetViews()) {
         auto* next = dynamic_cast<ScriptView*>(other);
         if (!next || next == &view)

@@ -3,6 +3,7 @@
 // anything is lost, and tells whoever shows it of each change.
 #pragma once
 
+#include "completion/popup/LiveIndex.h"
 #include "docview/ZNCoreEditorDoc.h"
 #include "host/files/Prompts.h"
 
@@ -71,6 +72,8 @@ public:
     ScriptChecker* Checker() const { return m_checker.get(); }
     LineEndWatch* LineEnds() const { return m_lineEnds.get(); }
     ScriptView* FirstView() const;
+    // The words and names of the text, through one of the views.
+    completion::LiveIndex& Names() { return m_names; }
 
     // From the views
     void OnViewMade(ScriptView& view);
@@ -101,6 +104,7 @@ private:
     void NameCopies(CZNCoreEditorControlEx& editor) const;
     QWidget* Window() const;
 
+    completion::LiveIndex m_names;
     std::unique_ptr<ScriptChecker> m_checker;
     std::unique_ptr<LineEndWatch> m_lineEnds;
     int m_chosenEncoding = -1;

@@ -2,7 +2,11 @@
 #include "host/script/ScriptView.h"
 
 #include "control/EngineRecords.h"
+#include "editing/language/EditorCompletion.h"
 #include "host/commands/WorkbenchCommands.h"
+#include "host/completion/MacroCommands.h"
+#include "host/completion/TemplateInsertion.h"
+#include "host/completion/TemplateStore.h"
 #include "host/files/FileDrops.h"
 #include "host/preferences/Appearance.h"
 #include "host/script/BatchMark.h"
@@ -26,6 +30,13 @@ const CRuntimeClass* ScriptView::GetThisClass()
     return &own;
 }
 
+ScriptView::ScriptView()
+{
+    m_coreEditor.SetUserSettingsFirst(true);
+}
+
+ScriptView::~ScriptView() = default;
+
 ScriptDoc* ScriptView::Script() const
 {
     return dynamic_cast<ScriptDoc*>(GetDocument());
@@ -45,13 +56,18 @@ int ScriptView::OnCreate(CCreateContext* context)
     m_coreEditor.GetSafeHwnd()->setAccessibleName(QStringLiteral("Script"));
     FileDrops::Take(*m_coreEditor.GetSafeHwnd());
     new NameClicks(*this); // goes with the editor's window
-    if (ScriptDoc* script = Script())
+    if (ScriptDoc* script = Script()) {
         script->OnViewMade(*this);
+        m_completion = std::make_unique<EditorCompletion>(m_coreEditor, script->Names());
+        m_completion->SetOpensWhileTyping(true);
+        new TemplateKeys(*this, *m_completion); // goes with the editor's window
+    }
     return 0;
 }
 
 void ScriptView::OnDestroy()
 {
+    m_completion.reset();
     if (ScriptDoc* script = Script())
         script->OnViewGoes(*this);
 }
@@ -141,15 +157,39 @@ bool ScriptView::HasSomethingToEnd()
            m_coreEditor.CallTipActive(1);
 }
 
+// Of the views of a text one tells its names what has changed.
+void ScriptView::KeepNames(const SCNotification& record)
+{
+    ScriptDoc* script = record.nmhdr.code == notify::Modified ? Script() : nullptr;
+    if (script && script->Names().Editor() == &m_coreEditor)
+        script->Names().OnModified(record);
+}
+
+void ScriptView::CompleteWord()
+{
+    if (m_completion && *m_completion)
+        (*m_completion)->Open();
+}
+
+void ScriptView::ShowCall()
+{
+    if (m_completion && *m_completion)
+        (*m_completion)->ShowCall();
+}
+
 // The base may close the view; then nothing is left to follow.
 int ScriptView::OnNotify(WPARAM wParam, LPARAM lParam, LRESULT* result)
 {
     const bool isOwn = m_coreEditor.IsBaseEditorNotify(lParam);
+    if (isOwn)
+        KeepNames(*reinterpret_cast<const SCNotification*>(lParam));
     const int known = CZNCoreEditorView::OnNotify(wParam, lParam, result);
     ScriptDoc* script = GetSafeHwnd() ? Script() : nullptr;
     if (!isOwn || !script)
         return known;
     const auto& record = *reinterpret_cast<const SCNotification*>(lParam);
+    if (m_completion)
+        m_completion->OnNotify(record);
     constexpr int kTextBits = modification::InsertText | modification::DeleteText;
     switch (record.nmhdr.code) {
     case notify::SavePointReached:
@@ -302,6 +342,11 @@ const CommandMap& ScriptView::GetCommandMap() const
 {
     constexpr UINT kDelete = 53899;
     constexpr UINT kOpenAtCaret = 54026;
+    constexpr UINT kCodeList = 53952;
+    constexpr UINT kEditTemplates = 53950;
+    constexpr UINT kRecordMacro = 53938;
+    constexpr UINT kSaveMacro = 53990;
+    constexpr UINT kLoadMacro = 53991;
     using View = ScriptView;
     // clang-format off
     static constexpr CommandEntry kCommands[] = {
@@ -310,10 +355,29 @@ const CommandMap& ScriptView::GetCommandMap() const
         {command::SaveHtml, [](CCmdTarget& t) { static_cast<View&>(t).SaveAsHtml(); }},
         {command::CopyWithColours, [](CCmdTarget& t) { static_cast<View&>(t).CopyWithColours(); }},
         {kOpenAtCaret, [](CCmdTarget& t) { static_cast<View&>(t).OpenAtCaret(); }},
+        {kCodeList, [](CCmdTarget& t) { static_cast<View&>(t).CompleteWord(); }},
+        {command::ShowCall, [](CCmdTarget& t) { static_cast<View&>(t).ShowCall(); }},
+        {command::InsertTemplate, [](CCmdTarget& t) { static_cast<View&>(t).ChooseTemplate(); }},
+        {kEditTemplates, [](CCmdTarget& t) { static_cast<View&>(t).EditTemplates(); }},
+        {kRecordMacro, [](CCmdTarget& t) { static_cast<View&>(t).RecordMacro(); }},
+        {kSaveMacro, [](CCmdTarget& t) { SaveMacro(static_cast<View&>(t).GetSafeHwnd()); }},
+        {kLoadMacro, [](CCmdTarget& t) { LoadMacro(static_cast<View&>(t).GetSafeHwnd()); }},
     };
     static constexpr UpdateEntry kUpdates[] = {
         {command::CopyWithColours, [](CCmdTarget& t, CCmdUI& ui) {
             ui.Enable(static_cast<View&>(t).m_coreEditor.IsSelection());
+        }},
+        {kCodeList, [](CCmdTarget& t, CCmdUI& ui) {
+            ui.Enable(!static_cast<View&>(t).m_coreEditor.GetReadOnly(1));
+        }},
+        {command::InsertTemplate, [](CCmdTarget& t, CCmdUI& ui) {
+            auto& editor = static_cast<View&>(t).m_coreEditor;
+            ui.Enable(!editor.GetReadOnly(1) &&
+                      !TemplateStore::Global().Of(editor.GetCurrentLanguage()).empty());
+        }},
+        {kSaveMacro, [](CCmdTarget&, CCmdUI& ui) { ui.Enable(CanSaveMacro()); }},
+        {kLoadMacro, [](CCmdTarget& t, CCmdUI& ui) {
+            ui.Enable(!static_cast<View&>(t).IsRecording());
         }},
         {kDelete, [](CCmdTarget& t, CCmdUI& ui) {
             auto& editor = static_cast<View&>(t).m_coreEditor;

@@ -5,7 +5,11 @@
 
 #include "docview/ZNCoreEditorView.h"
 
+#include <memory>
+
+class EditorCompletion;
 class ScriptDoc;
+struct SCNotification;
 
 class ScriptView final : public CZNCoreEditorView
 {
@@ -34,9 +38,10 @@ public:
     void GoToLine(long line);               // from 0, and shows it
     void GoToColumn(long column);           // of the caret's line, from 0, as far as it goes
     void FollowScheme(const QString& name);
-    void ShowAs(ScriptView& other); // place, selection and zoom
-    QString CaretText();            // line and column, from 1
-    QString Catalog();              // the database in force at the caret, empty if unknown
+    void ShowAs(ScriptView& other);                                     // place, selection and zoom
+    EditorCompletion* Completion() const { return m_completion.get(); } // null without a window
+    QString CaretText();                                                // line and column, from 1
+    QString Catalog(); // the database in force at the caret, empty if unknown
 
 protected:
     int OnCreate(CCreateContext* context);
@@ -48,8 +53,10 @@ protected:
     const CommandMap& GetCommandMap() const override;
 
 private:
-    ScriptView() { m_coreEditor.SetUserSettingsFirst(true); }
+    ScriptView();
+    ~ScriptView() override;
     void LookAtFile(); // and asks about what others did to it
+    void KeepNames(const SCNotification& record);
     void FollowSoon();
     void Follow();
     void FitScrollRange();
@@ -57,9 +64,15 @@ private:
     void SaveAsPdf();
     void SaveAsHtml();
     void CopyWithColours();
+    void CompleteWord();
+    void ShowCall();
+    void ChooseTemplate();
+    void EditTemplates();
+    void RecordMacro();
     void OpenAtCaret();
     bool HasSomethingToEnd();
 
+    std::unique_ptr<EditorCompletion> m_completion;
     bool m_following = false;
     int m_measuredFrom = -1; // the first line on screen when lines were last measured
 };

@@ -99,6 +99,10 @@ std::span<const MainWindow::Command> MainWindow::Commands()
         {"&Edit", "delete",    "&Delete",       Key::Delete,       nullptr,  53899},
         {"&Edit", nullptr},
         {"&Edit", "selectAll", "Select &All",   Key::SelectAll,    nullptr,  57642},
+        {"&Edit", nullptr},
+        {"&Edit", "completeWord", "Complete Word", Key::UnknownKey, "Ctrl+Space",     53952},
+        {"&Edit", "showCall",  "Function Arguments", Key::UnknownKey, "Ctrl+Alt+Space", command::ShowCall},
+        {"&Edit", "insertTemplate", "Insert Template...", Key::UnknownKey, "Ctrl+Shift+J", command::InsertTemplate},
 
         {"Searc&h", "findDialog",     "Find with a &Dialog...",    Key::UnknownKey, "Ctrl+Alt+F", 53895},
         {"Searc&h", "replaceDialog",  "&Replace with a Dialog...", Key::UnknownKey, "Ctrl+Alt+R", 53896},
@@ -130,6 +134,14 @@ std::span<const MainWindow::Command> MainWindow::Commands()
         {"&View", "previous",  "&Previous Script", Key::PreviousChild, nullptr, 0, When::SeveralScripts, Run<&W::PreviousScript>},
 
         {"&Tools", "expand",   "&Expanded Script", Key::UnknownKey, "F9",    0, When::Script, Run<&W::ExpandScript>},
+        {"&Tools", nullptr},
+        {"&Tools", "recordMacro", "&Record Macro",    Key::UnknownKey, "Ctrl+Shift+R", 53938},
+        {"&Tools", "playMacro", "&Play Macro",        Key::UnknownKey, "Ctrl+Shift+P", 53989},
+        {"&Tools", "repeatMacro", "Repea&t Macro...", Key::UnknownKey, nullptr,        53939},
+        {"&Tools", "saveMacro", "&Save Macro...",     Key::UnknownKey, nullptr,        53990},
+        {"&Tools", "loadMacro", "&Load Macro...",     Key::UnknownKey, nullptr,        53991},
+        {"&Tools", nullptr},
+        {"&Tools", "editTemplates", "Edit Te&mplates", Key::UnknownKey, nullptr,       53950},
         {"&Tools", nullptr},
         {"&Tools", "commands", "&Commands...",  Key::UnknownKey,   "Ctrl+Shift+A", 0, When::Always, Run<&W::ShowCommands>},
         {"&Tools", "options",  "&Options...",   Key::Preferences,  "Ctrl+,", 0, When::Always, Run<&W::ChangeOptions>},
@@ -271,10 +283,8 @@ void MainWindow::OpenField(const QString& field)
         const char* action;
     };
     static constexpr Way kWays[] = {
-        {"caret", "goToLine"},
-        {"encoding", "openAs"},
-        {"readOnly", "readOnlySwitch"},
-        {"modified", "save"},
+        {"caret", "goToLine"}, {"encoding", "openAs"},       {"readOnly", "readOnlySwitch"},
+        {"modified", "save"},  {"recording", "recordMacro"},
     };
     if (field == QLatin1String("language")) {
         m_languages->popup(QCursor::pos());

@@ -26,7 +26,8 @@ QString LanguageName(int language)
 } // namespace
 
 StatusIndicators::StatusIndicators(QStatusBar* bar)
-    : QObject(bar), m_bar(bar),
+    : QObject(bar), m_bar(bar), m_recording(AddField("recording", QStringLiteral("REC"),
+                                                     QT_TR_NOOP("A macro is recorded; stop it"))),
       m_readOnly(AddField("readOnly", QStringLiteral("Read-only"),
                           QT_TR_NOOP("Whether the script can be changed"))),
       m_modified(AddField("modified", QStringLiteral("Modified"), QT_TR_NOOP("Save"))),
@@ -93,13 +94,14 @@ void StatusIndicators::Show(const ScriptFrame* frame)
 {
     ScriptDoc* script = frame ? frame->Script() : nullptr;
     if (!script || !script->LineEnds()) {
-        for (QLabel* label : {m_readOnly, m_modified, m_caret, m_catalog, m_language, m_encoding,
-                              m_lineEnds, m_overtype})
+        for (QLabel* label : {m_recording, m_readOnly, m_modified, m_caret, m_catalog, m_language,
+                              m_encoding, m_lineEnds, m_overtype})
             label->clear();
         return;
     }
     const SaveTarget target = script->CurrentTarget();
     CZNCoreEditorControlEx& editor = frame->Editor();
+    Put(*m_recording, frame->View()->IsRecording() ? QStringLiteral("REC") : QString());
     Put(*m_readOnly, script->IsReadOnly() ? QStringLiteral("Read-only") : QString());
     Put(*m_modified, script->IsModified() ? QStringLiteral("Modified") : QString());
     Put(*m_caret, frame->View()->CaretText());

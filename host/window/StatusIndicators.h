@@ -29,6 +29,7 @@ private:
     static void Put(QLabel& label, const QString& text);
 
     QStatusBar* m_bar;
+    QLabel* m_recording;
     QLabel* m_readOnly;
     QLabel* m_modified;
     QLabel* m_caret;

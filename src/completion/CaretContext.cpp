@@ -208,6 +208,7 @@ private:
         long at = 0;
         while (at < text.Size() && IsWordByte(text.At(at)))
             ++at;
+        m_context.rest = ToText(text.Copy(0, at));
         SqlScanner scanner(m_dialect, text, at, {});
         while (scanner.Position() < text.Size()) {
             const Token token = scanner.Next();
@@ -246,7 +247,7 @@ private:
             switch (name.kind) {
             case NameKind::TableUse:
             case NameKind::InsertUse:
-                table = name.name;
+                table.clear(); // the index knows where these have their columns
                 if (found.part == m_caretPart)
                     m_context.tables.push_back({name.name, {}});
                 break;
@@ -260,7 +261,7 @@ private:
                 break;
             case NameKind::Table:
             case NameKind::View:
-                table = name.name;
+                table.clear();
                 break;
             case NameKind::Cte:
             case NameKind::Variable:
@@ -272,6 +273,8 @@ private:
                 m_context.locals.push_back(name);
                 break;
             case NameKind::Column:
+                if (table.isEmpty())
+                    break;
                 m_context.locals.push_back(name);
                 m_context.locals.back().parent = table;
                 break;

@@ -18,6 +18,7 @@ struct ScopedTable
 struct CaretContext
 {
     ProposalQuery query;
+    QString rest;                    // of the word, behind the caret
     QChar quote;                     // that the word begins with, none if it is not quoted
     std::vector<ScopedTable> tables; // of the statement, before the caret and behind it
     // Variables, parameters, cursors, common tables and their columns, from some way before the

@@ -19,7 +19,6 @@ using engine::analysis::TokenKind;
 
 constexpr long kReach = 1024;      // units behind a stretch that reading it may look at
 constexpr long kLineSearch = 2048; // units in which a stretch looks for the end of a line
-constexpr int kKindBits = 5;
 constexpr std::size_t kLeastMemory = 1 << 20;
 constexpr long kSharePart = 10; // of the text's size, from which no more words are taken
 
@@ -177,7 +176,7 @@ private:
         const auto kind = static_cast<std::uint32_t>(event.kind);
         const bool isUse = event.kind >= NameKind::TableUse;
         if (isUse && std::any_of(objects.begin(), objects.end(), [&](const Item& item) {
-                return item.name == id && (item.place & ((1U << kKindBits) - 1)) == kind;
+                return item.name == id && (item.place & kKindMask) == kind;
             }))
             return;
         objects.push_back(
@@ -457,14 +456,21 @@ std::size_t ScriptIndex::MemoryBytes() const
 std::vector<ScriptIndex::Object> ScriptIndex::Objects() const
 {
     std::vector<Object> objects;
-    long start = 0;
-    for (const Stretch& stretch : m_stretches) {
-        for (const Item& item : stretch.objects)
-            objects.push_back({static_cast<NameKind>(item.place & ((1U << kKindBits) - 1)),
-                               item.name, start + static_cast<long>(item.place >> kKindBits)});
-        start += stretch.length;
-    }
+    ForEachObject([&](const Object& object) {
+        objects.push_back(object);
+        return true;
+    });
     return objects;
+}
+
+std::vector<ScriptIndex::Id> ScriptIndex::NumbersOf(std::string_view word) const
+{
+    std::vector<Id> ids;
+    m_words.Find(Typed(word), [&](Id id, Match match) {
+        if (match == Match::Exact)
+            ids.push_back(id);
+    });
+    return ids;
 }
 
 // A stretch in front of that of the position, so that a statement that reaches over is seen.

@@ -53,7 +53,22 @@ public:
 
     const WordTable& Words() const { return m_words; }
     // What is created and what is used, in order; of what is used one for each name and stretch.
+    template <typename Take> // (const Object&), false to stop
+    void ForEachObject(Take take) const
+    {
+        long start = 0;
+        for (const Stretch& stretch : m_stretches) {
+            for (const Item& item : stretch.objects) {
+                if (!take(Object{static_cast<NameKind>(item.place & kKindMask), item.name,
+                                 start + static_cast<long>(item.place >> kKindBits)}))
+                    return;
+            }
+            start += stretch.length;
+        }
+    }
     std::vector<Object> Objects() const;
+    // The numbers of a word in any case.
+    std::vector<Id> NumbersOf(std::string_view word) const;
     std::size_t MemoryBytes() const;
 
     // The state that the text is read with from a place in front of the position on.
@@ -73,6 +88,9 @@ public:
     Start StartBefore(long position) const;
 
 private:
+    static constexpr int kKindBits = 5;
+    static constexpr std::uint32_t kKindMask = (1U << kKindBits) - 1;
+
     struct Item
     {
         Id name;

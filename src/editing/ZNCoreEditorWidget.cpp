@@ -47,6 +47,8 @@ ZNCoreEditorWidget::Private::Private(ZNCoreEditorWidget& widget)
 // it is what has led here, or the control is, both are taken out and stay until that is over.
 ZNCoreEditorWidget::Private::~Private()
 {
+    m_completion.reset();
+    delete std::exchange(m_index, nullptr);
     if (m_lifetime) {
         const HWND editor = m_control->Detach();
         if (editor)
@@ -86,6 +88,25 @@ ZNCoreEditorWidget::ZNCoreEditorWidget(QWidget* parent) : QWidget(parent)
     if (auto* area = qobject_cast<QAbstractScrollArea*>(editor))
         area->viewport()->installEventFilter(this);
     d->m_told = d->CurrentSettings();
+    d->m_index = new completion::LiveIndex(this);
+    d->m_index->SetEditor(d->m_control.get());
+    d->m_completion = std::make_unique<EditorCompletion>(*d->m_control, *d->m_index);
+}
+
+completion::Completer* ZNCoreEditorWidget::completer()
+{
+    return d->m_completion ? d->m_completion->operator->() : nullptr;
+}
+
+bool ZNCoreEditorWidget::completesWhileTyping() const
+{
+    return d->m_completion && d->m_completion->OpensWhileTyping();
+}
+
+void ZNCoreEditorWidget::setCompletesWhileTyping(bool completes)
+{
+    if (d->m_completion)
+        d->m_completion->SetOpensWhileTyping(completes);
 }
 
 // While slots of QWidget's own end are called, there is no editor any more.
@@ -99,6 +120,10 @@ CZNCoreEditorControlEx& ZNCoreEditorWidget::control()
 LRESULT ZNCoreEditorWidget::Private::Notify(LPARAM lParam)
 {
     const auto& record = *reinterpret_cast<const SCNotification*>(lParam);
+    if (record.nmhdr.code == notify::Modified && m_index && m_index->IsFollowing()) {
+        m_index->OnModified(record);
+        m_completion->OnNotify(record);
+    }
     if (record.nmhdr.code == notify::Modified && !m_tellsChanges) {
         m_control->HandleNotify(lParam);
         return 0;
@@ -109,6 +134,8 @@ LRESULT ZNCoreEditorWidget::Private::Notify(LPARAM lParam)
         return 0;
     }
     m_control->HandleNotify(lParam);
+    if (m_completion && record.nmhdr.code != notify::Modified)
+        m_completion->OnNotify(record);
     Q_EMIT q.notified(record);
     return alive ? Note(record) : 0;
 }

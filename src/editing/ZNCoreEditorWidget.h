@@ -15,6 +15,9 @@
 #include <memory>
 #include <optional>
 
+namespace completion {
+class Completer;
+}
 class CZNCoreEditorControlEx;
 class QAction;
 class QMenu;
@@ -39,6 +42,7 @@ class ZN_API ZNCoreEditorWidget : public QWidget
     Q_PROPERTY(bool modified READ isModified WRITE setModified NOTIFY modificationChanged)
     Q_PROPERTY(bool readOnly READ isReadOnly WRITE setReadOnly NOTIFY readOnlyChanged)
     Q_PROPERTY(QString languageName READ languageName WRITE setLanguageName NOTIFY languageChanged)
+    Q_PROPERTY(bool completesWhileTyping READ completesWhileTyping WRITE setCompletesWhileTyping)
     Q_PROPERTY(QString scheme READ scheme WRITE setScheme NOTIFY schemeChanged)
     Q_PROPERTY(Encoding encoding READ encoding WRITE setEncoding NOTIFY encodingChanged)
     Q_PROPERTY(
@@ -245,6 +249,13 @@ public:
     QString scheme() const;
     /// False for a name that there is not.
     bool setScheme(const QString& name);
+
+    /// The list of proposals, which Ctrl+Space opens: words, names and keywords of the text and of
+    /// its language. A host adds sources of its own. Null without an engine.
+    completion::Completer* completer();
+    /// Whether the list, and what a function takes, open while somebody types. Off at first.
+    bool completesWhileTyping() const;
+    void setCompletesWhileTyping(bool completes);
 
     /// Of this editor alone. As long as none was set that of the options, which is Qt's own font
     /// if nobody has chosen one there.

@@ -3,11 +3,14 @@
 #include "editing/ZNCoreEditorControlEx.h"
 #include "editing/ZNCoreEditorWidget.h"
 #include "platform/text/CodePage.h"
+#include "platform/windows/ActionUI.h"
 #include "tests/platform/file/FullDisk.h"
 
 #include <QApplication>
+#include <QContextMenuEvent>
 #include <QFile>
 #include <QKeyEvent>
+#include <QMenu>
 #include <QSignalSpy>
 #include <QTemporaryDir>
 #include <QVBoxLayout>
@@ -28,6 +31,36 @@ TEST(EditorWidget, FillsItselfWithTheEngine)
     EXPECT_EQ(window->geometry(), editor.rect());
     EXPECT_EQ(editor.focusProxy(), window);
     EXPECT_FALSE(window->accessibleName().isEmpty());
+}
+
+// The menu that a person gets by the key for it, with the items by their numbers.
+TEST(EditorWidget, ShowsAContextMenuWhoseItemsAreGreyAsTheyShould)
+{
+    ZNCoreEditorWidget editor;
+    editor.show();
+    editor.setText(QStringLiteral("select one"));
+    const HWND window = editor.control().GetSafeHwnd();
+    const auto isPossible = [&](UINT id) {
+        QContextMenuEvent event(QContextMenuEvent::Keyboard, QPoint(1, 1),
+                                window->mapToGlobal(QPoint(1, 1)));
+        QApplication::sendEvent(window, &event);
+        auto* menu = qobject_cast<QMenu*>(QApplication::activePopupWidget());
+        bool found = false;
+        for (const QAction* action : menu ? menu->actions() : QList<QAction*>())
+            found = found || (CommandOf(*action) == id && action->isEnabled());
+        if (menu)
+            menu->close();
+        QApplication::processEvents();
+        return found;
+    };
+    EXPECT_FALSE(isPossible(57635)) << "Cut, with nothing selected";
+    EXPECT_TRUE(isPossible(57642)) << "Select All";
+    EXPECT_TRUE(isPossible(57643)) << "Undo";
+    editor.control().SetSel(0, 6, 1);
+    EXPECT_TRUE(isPossible(57635));
+    editor.control().SetReadOnly(true, 1);
+    EXPECT_FALSE(isPossible(57635));
+    EXPECT_TRUE(isPossible(57636)) << "Find, for what is selected";
 }
 
 TEST(EditorWidget, HoldsItsTextWhole)

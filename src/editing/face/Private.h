@@ -2,8 +2,10 @@
 // What stands behind the QWidget face: its control, and what of it has been told.
 #pragma once
 
+#include "completion/popup/LiveIndex.h"
 #include "editing/ZNCoreEditorControlEx.h"
 #include "editing/ZNCoreEditorWidget.h"
+#include "editing/language/EditorCompletion.h"
 
 #include <QList>
 #include <QPointer>
@@ -98,7 +100,9 @@ public:
     ZNCoreEditorWidget& q;
     bool m_tellsChanges = false; // somebody listens to each
     std::unique_ptr<CZNCoreEditorControlEx> m_control;
-    std::unique_ptr<NotificationWindow> m_window; // hears what the engine tells its parent
+    completion::LiveIndex* m_index = nullptr;       // a child of the widget
+    std::unique_ptr<EditorCompletion> m_completion; // null without an engine
+    std::unique_ptr<NotificationWindow> m_window;   // hears what the engine tells its parent
     Lifetime* m_lifetime = nullptr;
     bool m_modified = false;
     std::optional<QFont> m_font; // that the host has set

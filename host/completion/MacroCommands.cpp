@@ -1,0 +1,73 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "host/completion/MacroCommands.h"
+
+#include "editing/operations/Macro.h"
+#include "host/completion/MacroFile.h"
+#include "host/files/Prompts.h"
+#include "platform/windows/Questions.h"
+
+#include <QFile>
+#include <QFileInfo>
+#include <QSaveFile>
+
+namespace {
+
+constexpr qint64 kLongest = 64 << 20; // bytes
+constexpr QLatin1String kEnding(".znmacro");
+
+QString Filter()
+{
+    return QStringLiteral("Macros (*.znmacro)");
+}
+
+} // namespace
+
+bool CanSaveMacro()
+{
+    return GetMacroHead() && !IsMacroRecording();
+}
+
+void SaveMacro(QWidget* window)
+{
+    if (!CanSaveMacro())
+        return;
+    QString path = AskSaveFile(window, QStringLiteral("macro") + kEnding, Filter());
+    if (path.isEmpty())
+        return;
+    if (QFileInfo(path).suffix().isEmpty())
+        path += kEnding;
+    const QByteArray bytes = WriteMacro(GetMacroHead());
+    QSaveFile file(path);
+    if (!file.open(QIODevice::WriteOnly) || file.write(bytes) != bytes.size() || !file.commit())
+        GetPrompts().Tell(
+            window,
+            QStringLiteral("The macro was not saved to %1. %2").arg(path, file.errorString()));
+}
+
+void LoadMacro(QWidget* window)
+{
+    if (IsMacroRecording())
+        return;
+    const QString path = AskOpenFile(window, Filter());
+    if (path.isEmpty())
+        return;
+    QFile file(path);
+    if (!QFileInfo(path).isFile() || file.size() > kLongest || !file.open(QIODevice::ReadOnly)) {
+        GetPrompts().Tell(window,
+                          QStringLiteral("%1 cannot be read. %2").arg(path, file.errorString()));
+        return;
+    }
+    const ReadMacroResult read = ReadMacro(file.readAll());
+    if (read.badLine >= 0) {
+        GetPrompts().Tell(
+            window, read.badLine == 0
+                        ? QStringLiteral("%1 is not a macro.").arg(path)
+                        : QStringLiteral("%1 is not a macro that can be played: line %2 is no "
+                                         "command that is recorded.")
+                              .arg(path)
+                              .arg(read.badLine + 1));
+        return;
+    }
+    FreeMacro();
+    SetMacroHead(read.head);
+}

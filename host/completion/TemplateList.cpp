@@ -1,0 +1,108 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "host/completion/TemplateList.h"
+
+#include <QFontDatabase>
+#include <QHBoxLayout>
+#include <QKeyEvent>
+#include <QLineEdit>
+#include <QListWidget>
+#include <QPlainTextEdit>
+#include <QVBoxLayout>
+
+#include <algorithm>
+
+namespace {
+
+constexpr std::size_t kMostRows = 500;
+
+} // namespace
+
+TemplateList::TemplateList(std::vector<completion::CodeTemplate> templates, QWidget* parent)
+    : QDialog(parent, Qt::Popup), m_templates(std::move(templates)), m_words(new QLineEdit(this)),
+      m_list(new QListWidget(this)), m_text(new QPlainTextEdit(this))
+{
+    setAttribute(Qt::WA_DeleteOnClose);
+    setObjectName(QStringLiteral("templateList"));
+    setAccessibleName(tr("Templates"));
+    m_words->setPlaceholderText(tr("Type the name of a template, or first letters of it"));
+    m_words->setAccessibleName(tr("Template"));
+    m_words->installEventFilter(this);
+    m_list->setAccessibleName(tr("Templates"));
+    m_list->setUniformItemSizes(true);
+    m_text->setAccessibleName(tr("Text of the template"));
+    m_text->setReadOnly(true);
+    m_text->setFont(QFontDatabase::systemFont(QFontDatabase::FixedFont));
+    m_text->setLineWrapMode(QPlainTextEdit::NoWrap);
+    m_text->setTabChangesFocus(true);
+    auto* panes = new QHBoxLayout;
+    panes->addWidget(m_list, 2);
+    panes->addWidget(m_text, 3);
+    auto* layout = new QVBoxLayout(this);
+    layout->addWidget(m_words);
+    layout->addLayout(panes);
+    connect(m_words, &QLineEdit::textChanged, this, &TemplateList::Filter);
+    connect(m_list, &QListWidget::currentRowChanged, this, &TemplateList::ShowMarked);
+    connect(m_list, &QListWidget::itemClicked, this, &TemplateList::Choose);
+    Filter({});
+    constexpr QSize kSize(720, 380);
+    resize(kSize);
+    m_words->setFocus();
+}
+
+void TemplateList::Filter(const QString& words)
+{
+    m_list->clear();
+    for (const int place : completion::FindTemplates(m_templates, words, kMostRows)) {
+        const auto& each = m_templates[static_cast<std::size_t>(place)];
+        auto* item =
+            new QListWidgetItem(each.shortName + QStringLiteral("  \u2013  ") + each.title, m_list);
+        item->setData(Qt::UserRole, place);
+        item->setData(Qt::AccessibleTextRole, each.shortName + QStringLiteral(", ") + each.title);
+    }
+    m_list->setCurrentRow(0);
+    ShowMarked();
+}
+
+const completion::CodeTemplate* TemplateList::Marked() const
+{
+    const QListWidgetItem* item = m_list->currentItem();
+    return item ? &m_templates[static_cast<std::size_t>(item->data(Qt::UserRole).toInt())]
+                : nullptr;
+}
+
+void TemplateList::ShowMarked()
+{
+    const completion::CodeTemplate* made = Marked();
+    m_text->setPlainText(made ? made->lines.join(u'\n') : QString());
+}
+
+void TemplateList::Choose()
+{
+    const completion::CodeTemplate* marked = Marked();
+    if (!marked)
+        return;
+    const completion::CodeTemplate made = *marked;
+    close();
+    Q_EMIT Chosen(made);
+}
+
+bool TemplateList::eventFilter(QObject* watched, QEvent* event)
+{
+    if (event->type() != QEvent::KeyPress)
+        return QDialog::eventFilter(watched, event);
+    switch (static_cast<QKeyEvent*>(event)->key()) {
+    case Qt::Key_Return:
+    case Qt::Key_Enter:
+        Choose();
+        return true;
+    case Qt::Key_Up:
+    case Qt::Key_Down: {
+        const int step = static_cast<QKeyEvent*>(event)->key() == Qt::Key_Up ? -1 : 1;
+        m_list->setCurrentRow(
+            std::clamp(m_list->currentRow() + step, 0, std::max(m_list->count() - 1, 0)));
+        return true;
+    }
+    default:
+        return QDialog::eventFilter(watched, event);
+    }
+}

@@ -1,0 +1,100 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+// Completer: the list of proposals of one editor, and what a function takes, beside its caret.
+//
+// Ctrl+Space opens the list, and Ctrl+Shift+Space. While it is open it takes Up, Down, Page Up,
+// Page Down, Tab, Enter and Escape without modifiers, and no other key. A list that typing has
+// opened has no current row: Enter goes to the editor until somebody walks into the list.
+#pragma once
+
+#include "completion/LanguageWords.h"
+#include "completion/Signatures.h"
+
+#include <QObject>
+#include <QPointer>
+
+#include <functional>
+
+class CZNCoreEditorControl;
+class ColourScheme;
+class QWidget;
+struct SCNotification;
+
+namespace completion {
+
+class CallTip;
+class LiveIndex;
+class ProposalList;
+
+// Goes before its control, or with the control's window. The index is that of the control's text
+// and may be shared by the editors that show it. GUI thread.
+class ZN_API Completer final : public QObject
+{
+    Q_OBJECT
+
+public:
+    Completer(CZNCoreEditorControl& control, LiveIndex& index);
+    ~Completer() override;
+
+    // A source of the host's, asked beside that of the script. It outlives the completer, or is
+    // removed before.
+    void AddSource(ProposalSource& source);
+    void RemoveSource(ProposalSource& source);
+    void SetLanguage(std::vector<LanguageWord> words, Signatures signatures);
+    void SetPrepare(std::function<void()> prepare); // called before anything is proposed
+    void SetScheme(std::function<const ColourScheme*()> scheme); // asked whenever something shows
+
+    // The list opens by itself behind so many letters of a word, and behind a point that columns
+    // are known for; 0, as at first: never.
+    void SetOpensAfter(int letters) { m_opensAfter = letters; }
+    void SetShowsCalls(bool shows) { m_showsCalls = shows; } // behind ( and , off at first
+
+    void Open();     // for the word at the caret, by a person's wish
+    void ShowCall(); // the same for what a function takes
+    void Close();
+    void Refresh(); // a source knows more
+    bool IsOpen() const;
+    bool IsShowingCall() const;
+
+    // Each notification of the control, once it has dealt with it.
+    void OnNotify(const SCNotification& record);
+
+    bool eventFilter(QObject* watched, QEvent* event) override;
+
+private:
+    bool TakeKey(int key, bool isAsked);
+    bool IsOurKey(const QEvent& event) const;
+    void Follow();
+    void FollowSoon();
+    bool MayOpen() const;
+    bool OpensHere(const ProposalQuery& query) const;
+    std::vector<Proposal> Ask(ProposalQuery& query);
+    void Fill(ProposalQuery query);
+    void Choose(int row);
+    void Insert(const Proposal& proposal);
+    void FollowCall();
+    void FollowScroll();
+    void CloseCall();
+    QRect LineAt(long position) const; // on the screen
+    ProposalList& List();
+    CallTip& Tip();
+
+    CZNCoreEditorControl& m_control;
+    LiveIndex& m_index;
+    QPointer<QWidget> m_window; // the control's
+    std::vector<ProposalSource*> m_sources;
+    std::vector<LanguageWord> m_words;
+    Signatures m_signatures;
+    std::function<const ColourScheme*()> m_scheme;
+    std::function<void()> m_prepare;
+    QPointer<ProposalList> m_list;
+    QPointer<CallTip> m_tip;
+    ProposalQuery m_query; // that the list answers
+    int m_opensAfter = 0;
+    bool m_showsCalls = false;
+    bool m_isWalked = false; // somebody has chosen a row
+    bool m_isFollowing = false;
+    bool m_isInserting = false;
+    char32_t m_added = 0; // the last character that was typed
+};
+
+} // namespace completion

@@ -1,0 +1,274 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+// The list of proposals in an editor, by the keys that a person presses.
+#include "completion/popup/Completer.h"
+#include "completion/popup/LiveIndex.h"
+#include "editing/ZNCoreEditorWidget.h"
+
+#include <QApplication>
+#include <QLabel>
+#include <QListView>
+#include <QTest>
+#include <QVBoxLayout>
+
+#include <gtest/gtest.h>
+
+using completion::Proposal;
+using completion::ProposalKind;
+using completion::ProposalQuery;
+
+namespace {
+
+constexpr int kTransactSql = 3;
+
+class CompleterTest : public testing::Test
+{
+protected:
+    CompleterTest()
+    {
+        m_editor.resize(500, 300);
+        m_editor.setLanguage(kTransactSql);
+        m_editor.show();
+        QApplication::setActiveWindow(&m_editor);
+        Window().setFocus();
+        QApplication::processEvents();
+    }
+
+    QWidget& Window() { return *m_editor.control().GetSafeHwnd(); }
+
+    // Where the bar stands, the caret does.
+    void Show(QString text)
+    {
+        const auto caret = text.indexOf(u'|');
+        m_editor.setText(text.remove(caret, 1));
+        m_editor.control().GotoPos(static_cast<long>(caret), 1);
+        QApplication::processEvents();
+    }
+
+    void Press(Qt::Key key, Qt::KeyboardModifiers modifiers = {})
+    {
+        QTest::keyClick(&Window(), key, modifiers);
+        QApplication::processEvents();
+    }
+    void Type(const char* letters)
+    {
+        QTest::keyClicks(&Window(), QString::fromLatin1(letters));
+        QApplication::processEvents();
+        QApplication::processEvents();
+    }
+
+    bool IsOpen() { return m_editor.completer()->IsOpen(); }
+    QListView* List() const
+    {
+        auto* list = m_editor.findChild<QFrame*>(QStringLiteral("proposals"));
+        return list ? list->findChild<QListView*>() : nullptr;
+    }
+    QStringList Rows() const
+    {
+        QStringList rows;
+        for (int row = 0; List() && row < List()->model()->rowCount(); ++row)
+            rows << List()->model()->index(row, 0).data().toString();
+        return rows;
+    }
+    QString Tip() const
+    {
+        auto* tip = m_editor.findChild<QLabel*>(QStringLiteral("callTip"));
+        return tip && tip->isVisible() ? tip->text() : QString();
+    }
+
+    ZNCoreEditorWidget m_editor;
+};
+
+// A host's, with tables that stand in no text.
+class HostSource final : public completion::ProposalSource
+{
+public:
+    void Propose(const ProposalQuery& query, std::vector<Proposal>& proposals) override
+    {
+        m_asked = query.typed;
+        proposals.push_back({ProposalKind::Table,
+                             QStringLiteral("warehouse"),
+                             QStringLiteral("on the server"),
+                             {},
+                             -1});
+    }
+    QString m_asked;
+};
+
+} // namespace
+
+TEST_F(CompleterTest, OpensOnControlAndSpaceAndPutsTheChosenWordIn)
+{
+    Show(QStringLiteral("select customer_name from t; select cus|"));
+    Press(Qt::Key_Space, Qt::ControlModifier);
+    ASSERT_TRUE(IsOpen());
+    EXPECT_EQ(Rows().first(), QStringLiteral("customer_name"));
+    Press(Qt::Key_Return);
+    EXPECT_FALSE(IsOpen());
+    EXPECT_EQ(m_editor.text(), QStringLiteral("select customer_name from t; select customer_name"));
+    m_editor.control().Undo(1);
+    EXPECT_EQ(m_editor.text(), QStringLiteral("select customer_name from t; select cus"));
+}
+
+TEST_F(CompleterTest, FiltersAsOneTypesAndChoosesByTab)
+{
+    Show(QStringLiteral("create table t1 (alpha int, alder int); select x.al| from t1 x"));
+    Press(Qt::Key_Space, Qt::ControlModifier);
+    EXPECT_EQ(Rows(), QStringList({QStringLiteral("alpha"), QStringLiteral("alder")}));
+    Type("p");
+    EXPECT_EQ(Rows(), QStringList({QStringLiteral("alpha")}));
+    Press(Qt::Key_Tab);
+    EXPECT_TRUE(m_editor.text().endsWith(QLatin1String("select x.alpha from t1 x")))
+        << m_editor.text().toStdString();
+}
+
+TEST_F(CompleterTest, LeavesKeysToTheEditorThatItDoesNotNeed)
+{
+    Show(QStringLiteral("alpha alpine al|"));
+    Press(Qt::Key_Return);
+    EXPECT_EQ(m_editor.control().GetLineCount(1), 2);
+    m_editor.control().Undo(1);
+    Press(Qt::Key_Space, Qt::ControlModifier);
+    ASSERT_TRUE(IsOpen());
+    Press(Qt::Key_Home);
+    EXPECT_FALSE(IsOpen());
+    EXPECT_EQ(m_editor.control().GetCurrentPos(1), 0);
+    Press(Qt::Key_End);
+    Press(Qt::Key_Space, Qt::ControlModifier);
+    Press(Qt::Key_Escape);
+    EXPECT_FALSE(IsOpen());
+    EXPECT_EQ(m_editor.text(), QStringLiteral("alpha alpine al"));
+}
+
+TEST_F(CompleterTest, OpensWhileTypingOnlyIfItIsToldTo)
+{
+    Show(QStringLiteral("select customer_name from t; select |"));
+    Type("cust");
+    EXPECT_FALSE(IsOpen());
+    m_editor.setCompletesWhileTyping(true);
+    Show(QStringLiteral("select customer_name from t; select |"));
+    Type("cu");
+    EXPECT_FALSE(IsOpen());
+    Type("s");
+    EXPECT_TRUE(IsOpen());
+}
+
+TEST_F(CompleterTest, LeavesEnterToTheEditorInAListThatTypingOpened)
+{
+    m_editor.setCompletesWhileTyping(true);
+    Show(QStringLiteral("select customer_name from t; select |"));
+    Type("cus");
+    ASSERT_TRUE(IsOpen());
+    Press(Qt::Key_Return);
+    EXPECT_TRUE(m_editor.text().endsWith(QLatin1String("select cus\n")) ||
+                m_editor.text().endsWith(QLatin1String("select cus\r\n")))
+        << m_editor.text().toStdString();
+    m_editor.control().Undo(1);
+    QApplication::processEvents();
+    Press(Qt::Key_Space, Qt::ControlModifier);
+    Press(Qt::Key_Down);
+    ASSERT_TRUE(IsOpen());
+}
+
+TEST_F(CompleterTest, StaysAwayFromNamesThatAreGivenFromCommentsAndFromStrings)
+{
+    m_editor.setCompletesWhileTyping(true);
+    for (const char* text : {"select customer from t; create table |", "select customer -- |",
+                             "select customer, '|"}) {
+        Show(QString::fromLatin1(text));
+        Type("cust");
+        EXPECT_FALSE(IsOpen()) << text;
+    }
+}
+
+TEST_F(CompleterTest, OpensBehindThePointOfAnAlias)
+{
+    m_editor.setCompletesWhileTyping(true);
+    Show(QStringLiteral("create table t1 (alpha int, beta int)\nselect x| from t1 x"));
+    Type(".");
+    ASSERT_TRUE(IsOpen());
+    EXPECT_EQ(Rows(), QStringList({QStringLiteral("alpha"), QStringLiteral("beta")}));
+    Press(Qt::Key_Tab);
+    EXPECT_TRUE(m_editor.text().endsWith(QLatin1String("select x.alpha from t1 x")));
+}
+
+TEST_F(CompleterTest, ClosesWhereTheTextChangesUnderIt)
+{
+    Show(QStringLiteral("alpha alpine al|"));
+    Press(Qt::Key_Space, Qt::ControlModifier);
+    ASSERT_TRUE(IsOpen());
+    m_editor.setText(QStringLiteral("other"));
+    QApplication::processEvents();
+    QApplication::processEvents();
+    EXPECT_FALSE(IsOpen());
+    Press(Qt::Key_Return);
+    EXPECT_EQ(m_editor.control().GetLineCount(1), 2);
+}
+
+TEST_F(CompleterTest, GoesWithAnEditorThatIsDeletedWhileItIsOpen)
+{
+    auto* editor = new ZNCoreEditorWidget;
+    editor->setText(QStringLiteral("alpha al"));
+    editor->control().GotoPos(8, 1);
+    editor->show();
+    editor->completer()->Open();
+    EXPECT_TRUE(editor->completer()->IsOpen());
+    delete editor;
+    QApplication::processEvents();
+}
+
+TEST_F(CompleterTest, ChangesNothingInATextThatIsReadOnly)
+{
+    Show(QStringLiteral("alpha al|"));
+    m_editor.control().SetReadOnly(true, 1);
+    Press(Qt::Key_Space, Qt::ControlModifier);
+    EXPECT_FALSE(IsOpen());
+    m_editor.control().SetReadOnly(false, 1);
+    Press(Qt::Key_Space, Qt::ControlModifier);
+    ASSERT_TRUE(IsOpen());
+    m_editor.control().SetReadOnly(true, 1);
+    Press(Qt::Key_Tab);
+    EXPECT_EQ(m_editor.text(), QStringLiteral("alpha al"));
+}
+
+TEST_F(CompleterTest, AsksTheSourcesOfTheHost)
+{
+    HostSource source;
+    m_editor.completer()->AddSource(source);
+    Show(QStringLiteral("select * from ware|"));
+    Press(Qt::Key_Space, Qt::ControlModifier);
+    EXPECT_EQ(source.m_asked, QStringLiteral("ware"));
+    EXPECT_EQ(Rows(), QStringList({QStringLiteral("warehouse")}));
+    EXPECT_EQ(List()->model()->index(0, 0).data(Qt::AccessibleTextRole).toString(),
+              QStringLiteral("warehouse, table, on the server"));
+    m_editor.completer()->RemoveSource(source);
+    EXPECT_FALSE(IsOpen());
+}
+
+TEST_F(CompleterTest, ReplacesTheRestOfAWordThatItBrings)
+{
+    Show(QStringLiteral("customer_name cus|_name"));
+    Press(Qt::Key_Space, Qt::ControlModifier);
+    Press(Qt::Key_Tab);
+    EXPECT_EQ(m_editor.text(), QStringLiteral("customer_name customer_name"));
+}
+
+TEST_F(CompleterTest, ShowsWhatARoutineOfTheScriptTakes)
+{
+    m_editor.setCompletesWhileTyping(true);
+    Show(QStringLiteral("create function total(@id int, @tax money) returns int as select 1\nGO\n"
+                        "select total|"));
+    Type("(");
+    EXPECT_EQ(Tip(), QStringLiteral("total(<b>@id int</b>, @tax money)"));
+    Type("1, ");
+    EXPECT_EQ(Tip(), QStringLiteral("total(@id int, <b>@tax money</b>)"));
+    Type("2)");
+    EXPECT_EQ(Tip(), QString());
+}
+
+TEST_F(CompleterTest, KnowsATextOfAThousandLettersWithoutABlank)
+{
+    Show(QString(1000, u'a') + QStringLiteral(" alpha a|"));
+    Press(Qt::Key_Space, Qt::ControlModifier);
+    EXPECT_TRUE(Rows().contains(QStringLiteral("alpha")));
+    EXPECT_FALSE(Rows().contains(QString(1000, u'a')));
+}

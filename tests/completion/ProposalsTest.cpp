@@ -1,0 +1,160 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "completion/ScriptSource.h"
+#include "tests/completion/IndexedText.h"
+
+#include <gtest/gtest.h>
+
+using namespace completion;
+
+namespace {
+
+// A script with a caret at the bar, and what is proposed there.
+class Caret
+{
+public:
+    explicit Caret(std::u16string script, const char* dialect = "transact-sql")
+        : m_caret(long(script.find(u'|'))), m_text(engine::analysis::DialectByName(dialect),
+                                                   script.erase(std::size_t(m_caret), 1), 4096),
+          m_source(m_text.Index(), m_text.Reader())
+    {
+        m_text.Finish();
+        m_source.SetLanguage({{QStringLiteral("select")},
+                              {QStringLiteral("order")},
+                              {QStringLiteral("substring"), ProposalKind::Function}});
+        m_source.SetContext(ContextAt(m_text.Index(), m_text.Reader(), m_caret));
+    }
+
+    const ProposalQuery& Query() const { return m_source.Context().query; }
+
+    std::vector<Proposal> Best()
+    {
+        std::vector<Proposal> proposals;
+        m_source.Propose(Query(), proposals);
+        return BestOf(std::move(proposals), Query().typed, 100);
+    }
+    QStringList Texts()
+    {
+        QStringList texts;
+        for (const Proposal& each : Best())
+            texts << each.text;
+        return texts;
+    }
+    std::string First(qsizetype count) { return Texts().mid(0, count).join(u' ').toStdString(); }
+    Signature Tip(const char16_t* name)
+    {
+        return SignatureIn(m_text.Index(), m_text.Reader(), QString::fromUtf16(name));
+    }
+
+private:
+    long m_caret;
+    IndexedText m_text;
+    ScriptSource m_source;
+};
+
+constexpr const char16_t* kTables = u"create table dbo.Orders (id int, [ordered at] date, customer "
+                                    u"int);\ncreate table customers (id int, name text);\n";
+
+} // namespace
+
+TEST(Proposals, AreTheColumnsBehindAnAlias)
+{
+    Caret caret(std::u16string(kTables) + u"select o.| from orders o join customers c on 1 = 1");
+    EXPECT_EQ(caret.First(9), "id [ordered at] customer");
+}
+
+TEST(Proposals, AreTheColumnsBehindAQuotedNameInAnyCase)
+{
+    Caret caret(std::u16string(kTables) + u"select [ORDERS].[or| from [Orders]");
+    EXPECT_EQ(caret.First(9), "[ordered at]");
+    EXPECT_EQ(caret.Query().typed, QStringLiteral("or"));
+}
+
+TEST(Proposals, AreTablesFirstBehindFrom)
+{
+    Caret caret(std::u16string(kTables) + u"select * from o|");
+    EXPECT_EQ(caret.First(1), "Orders");
+}
+
+TEST(Proposals, AreTheColumnsOfTheStatementBeforeKeywords)
+{
+    Caret caret(std::u16string(kTables) + u"select o| from orders ord where 1 = 1");
+    EXPECT_EQ(caret.First(4), "[ordered at] ord order Orders");
+}
+
+TEST(Proposals, AreNotTheColumnsOfTheNextStatement)
+{
+    Caret caret(std::u16string(kTables) + u"select na|\nselect * from customers c");
+    EXPECT_TRUE(caret.First(3) == "name") << caret.First(3);
+    EXPECT_EQ(caret.Best().front().kind, ProposalKind::Word);
+}
+
+TEST(Proposals, AreRoutinesBehindExec)
+{
+    Caret caret(
+        u"create procedure pay_all @id int as select 1\nGO\nselect payment from t\nexec pa|");
+    EXPECT_EQ(caret.First(2), "pay_all payment");
+}
+
+TEST(Proposals, AreTheVariablesOfTheBatch)
+{
+    Caret caret(u"declare @total int, @today date; set @to|");
+    EXPECT_EQ(caret.First(3), "@today @total");
+    EXPECT_EQ(caret.Best().front().kind, ProposalKind::Variable);
+}
+
+TEST(Proposals, AreInTheCaseThatIsTyped)
+{
+    EXPECT_EQ(Caret(u"SEL|").First(1), "SELECT");
+    EXPECT_EQ(Caret(u"sel|").First(1), "select");
+}
+
+TEST(Proposals, AreCommonTablesAndTheirColumns)
+{
+    EXPECT_EQ(Caret(u"with recent (a_id, b) as (select 1, 2) select * from re|").First(1),
+              "recent");
+    EXPECT_EQ(Caret(u"with recent (a_id, b) as (select 1, 2) select recent.| from recent").First(3),
+              "a_id b");
+}
+
+TEST(Proposals, AreTheWordsOfTheTextInComments)
+{
+    Caret caret(u"select shipping from t -- shi|");
+    EXPECT_EQ(caret.Query().place, ProposalQuery::Place::Comment);
+    EXPECT_EQ(caret.First(2), "shipping");
+}
+
+TEST(Proposals, KnowWhereANameIsGiven)
+{
+    EXPECT_EQ(Caret(u"create table or|").Query().place, ProposalQuery::Place::OwnName);
+    EXPECT_EQ(Caret(u"select a as or|").Query().place, ProposalQuery::Place::OwnName);
+    EXPECT_EQ(Caret(u"select 'or|").Query().place, ProposalQuery::Place::String);
+    EXPECT_EQ(Caret(u"select 'or' |").Query().place, ProposalQuery::Place::Anywhere);
+}
+
+TEST(Proposals, AreColumnsOfTableVariables)
+{
+    EXPECT_EQ(Caret(u"declare @t table (a int, bb int); select x.| from @t x").First(4), "a bb");
+}
+
+TEST(Proposals, AreColumnsOfWhatIsOnlyInsertedInto)
+{
+    EXPECT_EQ(Caret(u"insert into t1 (alpha, beta) values (1, 2); select t1.| from t1").First(4),
+              "alpha beta");
+}
+
+TEST(Proposals, TellTheTypeOfAColumn)
+{
+    Caret caret(std::u16string(kTables) + u"select o.na| from customers o");
+    EXPECT_EQ(caret.Best().front().description, QStringLiteral("text \u00b7 customers"));
+}
+
+TEST(Signatures, ShowTheParametersOfAScriptsRoutines)
+{
+    Caret caret(u"create procedure dbo.Pay @id int = 1,\n @amount decimal(9, 2) AS select 1\n|");
+    const Signature tip = caret.Tip(u"pay");
+    EXPECT_EQ(tip.text, QStringLiteral("Pay(@id int = 1, @amount decimal(9, 2))"));
+    ASSERT_EQ(tip.arguments.size(), 2U);
+    EXPECT_EQ(
+        tip.text.mid(tip.arguments[1].first, tip.arguments[1].second - tip.arguments[1].first),
+        QStringLiteral("@amount decimal(9, 2)"));
+}

@@ -1,0 +1,248 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+// Completion, templates and macros of the workbench.
+#include "completion/popup/LiveIndex.h"
+#include "docview/dialogs/InputBox.h"
+#include "editing/language/EditorCompletion.h"
+#include "editing/operations/Macro.h"
+#include "host/completion/MacroFile.h"
+#include "host/completion/TemplateStore.h"
+#include "tests/host/WorkbenchTest.h"
+
+#include <QDialog>
+#include <QLineEdit>
+#include <QListView>
+#include <QListWidget>
+#include <QTest>
+#include <QTimer>
+
+#include <memory>
+
+namespace {
+
+class Completion : public WorkbenchTest
+{
+protected:
+    void Show(const QByteArray& script)
+    {
+        Open("a.sql", QByteArray(script).replace("|", ""));
+        m_window.SetLanguage(3);
+        Editor().GotoPos(long(script.indexOf('|')), 1);
+        QApplication::setActiveWindow(&m_window);
+        Editor().SetFocus();
+        QApplication::processEvents();
+    }
+    void Press(Qt::Key key, Qt::KeyboardModifiers modifiers = {})
+    {
+        QTest::keyClick(Editor().GetSafeHwnd(), key, modifiers);
+        QApplication::processEvents();
+        QApplication::processEvents();
+    }
+    void Keys(const char* letters)
+    {
+        QTest::keyClicks(Editor().GetSafeHwnd(), QString::fromLatin1(letters));
+        QApplication::processEvents();
+        QApplication::processEvents();
+    }
+    bool IsOpen() { return (*Frame().View()->Completion())->IsOpen(); }
+    QStringList Rows() const
+    {
+        QStringList rows;
+        for (const auto* view : Editor().GetSafeHwnd()->findChildren<QListView*>()) {
+            for (int row = 0; row < view->model()->rowCount(); ++row)
+                rows << view->model()->index(row, 0).data().toString();
+        }
+        return rows;
+    }
+
+    // Each prompt gets the next answer.
+    void Answer(QStringList answers)
+    {
+        m_answers = std::move(answers);
+        m_clock.setInterval(0);
+        QObject::connect(&m_clock, &QTimer::timeout, &m_window, [this] {
+            QWidget* box = QApplication::activeModalWidget();
+            auto* edit = box ? box->findChild<QLineEdit*>() : nullptr;
+            if (!edit || m_answers.isEmpty())
+                return;
+            edit->setText(m_answers.takeFirst());
+            QTest::keyClick(edit, Qt::Key_Return);
+        });
+        m_clock.start();
+    }
+
+    QStringList m_answers;
+    QTimer m_clock;
+};
+
+} // namespace
+
+TEST_F(Completion, OpensByItsCommandAndFollowsTheScript)
+{
+    Show("create table t1 (alpha int, beta int)\nGO\nselect x.| from t1 x");
+    Trigger("completeWord");
+    ASSERT_TRUE(IsOpen());
+    EXPECT_EQ(Rows(), QStringList({QStringLiteral("alpha"), QStringLiteral("beta")}));
+    Press(Qt::Key_Down);
+    Press(Qt::Key_Return);
+    EXPECT_TRUE(Text().endsWith(QLatin1String("select x.beta from t1 x")));
+}
+
+TEST_F(Completion, OpensByTheKeyOfTheEditorsTable)
+{
+    Show("select customer_name, cus|");
+    Press(Qt::Key_Space, Qt::ControlModifier | Qt::ShiftModifier);
+    EXPECT_TRUE(IsOpen());
+    Press(Qt::Key_Escape);
+    EXPECT_FALSE(IsOpen());
+}
+
+TEST_F(Completion, OpensWhileTypingUnlessTheLanguageSaysNo)
+{
+    Show("select customer_name from t where |");
+    Keys("cus");
+    EXPECT_TRUE(IsOpen());
+    Press(Qt::Key_Tab);
+    EXPECT_TRUE(Text().endsWith(QLatin1String("where customer_name")));
+}
+
+TEST_F(Completion, ClosesWhenAnotherPaneChangesTheText)
+{
+    Show("customer_name cus|");
+    Trigger("splitBelow");
+    Trigger("completeWord");
+    ASSERT_TRUE(IsOpen());
+    ScriptView* front = Frame().View();
+    for (CView* view : Script().GetViews()) {
+        auto* other = dynamic_cast<ScriptView*>(view);
+        if (other && other != front)
+            other->GetCoreEditorControlRef().InsertText(0, u"-- first\n", 1);
+    }
+    QApplication::processEvents();
+    QApplication::processEvents();
+    EXPECT_FALSE((*front->Completion())->IsOpen());
+}
+
+TEST_F(Completion, KnowsNamesThroughWhicheverPaneIsLeft)
+{
+    Show("create table alpha (id int)|");
+    Trigger("splitBelow");
+    EXPECT_EQ(Script().Names().CreatedInAll().size(), 1U);
+    Trigger("splitBelow"); // one pane again
+    Editor().InsertText(0, u"create table beta (id int)\n", 1);
+    EXPECT_EQ(Script().Names().CreatedInAll().size(), 2U);
+}
+
+TEST_F(Completion, KnowsTheTextOfAFileThatWasReadAgain)
+{
+    Show("create table alpha (id int)|");
+    EXPECT_EQ(Script().Names().CreatedInAll().size(), 1U);
+    Write("a.sql", "create view beta_ as select");
+    ASSERT_TRUE(Script().Reopen(-1));
+    const auto names = Script().Names().CreatedInAll();
+    ASSERT_EQ(names.size(), 1U);
+    EXPECT_EQ(names[0].name, QStringLiteral("beta_"));
+    EXPECT_EQ(names[0].start, 12);
+}
+
+TEST_F(Completion, PutsATemplateInBehindItsShortNameAndTab)
+{
+    Show("del|");
+    Answer({QStringLiteral("orders"), QStringLiteral("id = 1")});
+    Press(Qt::Key_Tab);
+    EXPECT_EQ(Text(), QStringLiteral("DELETE FROM orders\nWHERE id = 1;\n"));
+    Editor().Undo(1);
+    EXPECT_EQ(Text(), QStringLiteral("del"));
+}
+
+TEST_F(Completion, LeavesTabToTheEditorBehindAnyOtherWord)
+{
+    Show("delx|");
+    Press(Qt::Key_Tab);
+    EXPECT_TRUE(Text().startsWith(QLatin1String("delx")));
+    EXPECT_GT(Text().size(), 4);
+    EXPECT_TRUE(Text().trimmed() == QLatin1String("delx")) << Text().toStdString();
+}
+
+TEST_F(Completion, PutsATemplateInFromItsList)
+{
+    Show("|");
+    Trigger("insertTemplate");
+    auto* list = m_window.findChild<QDialog*>(QStringLiteral("templateList"));
+    ASSERT_TRUE(list);
+    auto* words = list->findChild<QLineEdit*>();
+    words->setText(QStringLiteral("procedure with"));
+    EXPECT_EQ(list->findChild<QListWidget*>()->count(), 1);
+    Answer({QStringLiteral("dbo.pay"), QStringLiteral("@id int")});
+    QTest::keyClick(words, Qt::Key_Return);
+    QApplication::processEvents();
+    EXPECT_TRUE(Text().startsWith(QLatin1String("CREATE OR ALTER PROCEDURE dbo.pay\n    @id int")))
+        << Text().toStdString();
+}
+
+TEST_F(Completion, OpensAFileOfTemplatesOfOnesOwn)
+{
+    Show("|");
+    Trigger("editTemplates");
+    EXPECT_TRUE(Text().startsWith(QLatin1String("templates 1")));
+    Editor().SetText(u"templates 1\n== mine: My own\nMINE ^!\n", 1);
+    Trigger("save");
+    const auto& templates = TemplateStore::Global().Of(3);
+    ASSERT_EQ(templates.size(), 1U);
+    EXPECT_EQ(templates[0].shortName, QStringLiteral("mine"));
+    QFile::remove(TemplateStore::OwnFile(3));
+}
+
+TEST_F(Completion, ShowsThatAMacroIsRecorded)
+{
+    Show("|");
+    EXPECT_EQ(Status("recording"), QString());
+    Trigger("recordMacro");
+    EXPECT_EQ(Status("recording"), QStringLiteral("REC"));
+    EXPECT_FALSE(Action("playMacro").isEnabled());
+    Keys("ab");
+    Trigger("recordMacro");
+    EXPECT_EQ(Status("recording"), QString());
+    Trigger("playMacro");
+    EXPECT_EQ(Text(), QStringLiteral("abab"));
+    FreeMacro();
+}
+
+TEST_F(Completion, PlaysAMacroOfAThousandStepsAsOneChange)
+{
+    Show("|");
+    for (int i = 0; i < 1000; ++i)
+        AppendToMacro(2170, 0, reinterpret_cast<LPARAM>(u"x"));
+    m_window.UpdateAll();
+    Trigger("playMacro");
+    EXPECT_EQ(Text(), QString(1000, u'x'));
+    Editor().Undo(1);
+    EXPECT_EQ(Text(), QString());
+    FreeMacro();
+}
+
+TEST(MacroFile, HoldsWhatWasTypedAndCommanded)
+{
+    FreeMacro();
+    for (const char16_t* text : {u"a", u" ", u"\u00e9"})
+        AppendToMacro(2170, 0, reinterpret_cast<LPARAM>(text));
+    AppendToMacro(2300, 0, 0);
+    const QByteArray bytes = WriteMacro(GetMacroHead());
+    EXPECT_EQ(bytes, QByteArray("macro 1\ntype a\ntype U+0020\ntype \xC3\xA9\nsend 2300\n"));
+    const ReadMacroResult read = ReadMacro(bytes);
+    EXPECT_EQ(read.badLine, -1);
+    FreeMacro();
+    SetMacroHead(read.head);
+    EXPECT_EQ(WriteMacro(GetMacroHead()), bytes);
+    FreeMacro();
+}
+
+TEST(MacroFile, SendsNothingThatNobodyRecords)
+{
+    for (const char* bytes : {"", "macro 2\n", "\x89PNG", "macro 1\nsend 2001\n",
+                              "macro 1\nsend 2100\n", "macro 1\ntype ab\n", "macro 1\ntype U+\n",
+                              "macro 1\ntype U+110000\n", "macro 1\nrun rm\n"}) {
+        const ReadMacroResult read = ReadMacro(bytes);
+        EXPECT_EQ(read.head, nullptr) << bytes;
+        EXPECT_GE(read.badLine, 0) << bytes;
+    }
+}
