@@ -1,0 +1,233 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+// Proposals while somebody types in 64 MB, what their index takes, the words near the caret beside
+// the engine's own search, and macros beside the messages that they send.
+#include "bench/Pair.h"
+#include "bench/Texts.h"
+#include "completion/ScriptIndex.h"
+#include "completion/popup/Completer.h"
+#include "completion/popup/LiveIndex.h"
+#include "control/EngineRecords.h"
+#include "docview/ZNCoreEditorView.h"
+#include "editing/ZNCoreEditorWidget.h"
+#include "editing/operations/Macro.h"
+
+#include <QApplication>
+#include <QKeyEvent>
+
+#include <algorithm>
+#include <cstdlib>
+#include <random>
+#include <string>
+#include <vector>
+
+namespace bench {
+namespace {
+
+constexpr int kTransactSql = 3;
+constexpr int kWordStart = 0x100000;
+constexpr int kSteps = 100000;
+
+// 64 MB of tables and queries over them, with names of their own.
+std::string ManyNames()
+{
+    constexpr std::size_t kBytes = 64 << 20;
+    std::mt19937 random(11);
+    std::string text;
+    text.reserve(kBytes + 512);
+    const auto name = [&](const char* stem, unsigned count) {
+        return stem + std::to_string(random() % count);
+    };
+    while (text.size() < kBytes) {
+        text += "create table " + name("customer_table_", 20000) + " (id int, " +
+                name("customer_name_", 50000) + " varchar(20), " + name("amount_", 50000) +
+                " decimal(9, 2));\n";
+        for (int i = 0; i < 8; ++i)
+            text += "select c." + name("customer_name_", 50000) +
+                    ", 'some text that is data' from " + name("customer_table_", 20000) +
+                    " c where c.id = 4711; -- a remark\n";
+    }
+    return text;
+}
+
+// 0 the same few names in ASCII, 1 with letters that are not, 2 many names.
+const std::string& TextOf(int kind)
+{
+    static const std::string names = ManyNames();
+    return kind == 0 ? Sql64(Script::Ascii) : kind == 1 ? Sql64(Script::Mixed) : names;
+}
+
+struct Typist
+{
+    explicit Typist(int kind)
+    {
+        const std::string path = WriteFile("completion.sql", TextOf(kind));
+        const std::u16string wide(path.begin(), path.end());
+        editor.resize(900, 600);
+        editor.show();
+        editor.setLanguage(kTransactSql);
+        if (!editor.control().OpenFile(wide.c_str(), FileEncodeConverter::encUTF8))
+            std::abort();
+        editor.setCompletesWhileTyping(true);
+        QApplication::setActiveWindow(&editor);
+        editor.control().GetSafeHwnd()->setFocus();
+        const long middle = editor.control().PositionFromLine(
+            editor.control().LineFromPosition(editor.control().GetLength(1) / 2, 1), 1);
+        editor.control().GotoPos(middle, 1);
+        QApplication::processEvents();
+        // The index is built as it is while nobody types.
+        editor.completer()->Open();
+        editor.completer()->Close();
+        Index().CreatedInAll();
+    }
+
+    completion::LiveIndex& Index() { return *editor.findChild<completion::LiveIndex*>(); }
+
+    void Key(int key, const QString& text)
+    {
+        QKeyEvent press(QEvent::KeyPress, key, Qt::NoModifier, text);
+        QApplication::sendEvent(editor.control().GetSafeHwnd(), &press);
+        QApplication::processEvents();
+    }
+
+    ZNCoreEditorWidget editor;
+};
+
+// From a key to the list behind it, painted.
+void CompletionKey(benchmark::State& state)
+{
+    Typist typist(static_cast<int>(state.range(0)));
+    const QString words[] = {QStringLiteral("select "),   QStringLiteral("customer"),
+                             QStringLiteral(" sales"),    QStringLiteral(" o"),
+                             QStringLiteral(" amount_1"), QStringLiteral(" from art")};
+    std::vector<double> keys;
+    std::size_t opened = 0;
+    for (auto _ : state) {
+        for (const QString& word : words) {
+            for (const QChar unit : word) {
+                keys.push_back(1e3 *
+                               CpuSeconds([&] { typist.Key(unit.toUpper().unicode(), unit); }));
+                opened += typist.editor.completer()->IsOpen();
+            }
+            typist.editor.completer()->Close();
+        }
+        typist.Key(Qt::Key_Return, QStringLiteral("\r"));
+    }
+    if (opened == 0)
+        state.SkipWithError("the list never opened");
+    std::sort(keys.begin(), keys.end());
+    ReportFigure(state, keys[keys.size() * 99 / 100], 16, "ms a key, 99th percentile");
+}
+BENCHMARK(CompletionKey)->DenseRange(0, 2)->Iterations(20)->Unit(benchmark::kMillisecond);
+
+void CompletionMemory(benchmark::State& state)
+{
+    Typist typist(static_cast<int>(state.range(0)));
+    const double size = static_cast<double>(TextOf(static_cast<int>(state.range(0))).size());
+    double memory = 0;
+    for (auto _ : state)
+        memory = static_cast<double>(typist.Index().MemoryBytes());
+    ReportFigure(state, memory / size, 0.15, "of the text's size");
+}
+BENCHMARK(CompletionMemory)->DenseRange(0, 2)->Iterations(1);
+
+// A view with the words near its caret opened.
+class NearView final : public CZNCoreEditorView
+{
+public:
+    using CZNCoreEditorView::GetWordsNear;
+};
+
+// The same word found as often by the engine's search alone.
+void CompletionWordsNear(benchmark::State& state)
+{
+    QWidget desk;
+    auto* view = new NearView;
+    CCreateContext context;
+    view->CreateViewIn(&desk, &context);
+    CZNCoreEditorControlEx& control = view->GetCoreEditorControlRef();
+    const std::string path = WriteFile("near.sql", Sql64(Script::Ascii));
+    const std::u16string wide(path.begin(), path.end());
+    if (!control.OpenFile(wide.c_str(), FileEncodeConverter::encUTF8))
+        std::abort();
+    control.GotoPos(control.GetLength(1), 1);
+    const char16_t* word = u"art";
+    MeasurePair(
+        state,
+        [&] {
+            QStringList list;
+            view->GetWordsNear(word, 3, list);
+            if (list.isEmpty())
+                std::abort();
+        },
+        [&] {
+            const long end = control.GetLength(1);
+            long found = 0;
+            for (long start = 0; start < end;) {
+                TextToFind search{.chrg = {static_cast<int>(start), static_cast<int>(end)},
+                                  .lpstrText = word};
+                const long at = control.FindTextW(kWordStart, &search, 1);
+                if (at < 0)
+                    break;
+                start = at + 3;
+                ++found;
+            }
+            if (found == 0)
+                std::abort();
+        },
+        1.5);
+    view->DestroyWindow();
+}
+BENCHMARK(CompletionWordsNear)->Iterations(3)->Unit(benchmark::kMillisecond);
+
+// The second half of a long recording beside the first.
+void MacroRecord(benchmark::State& state)
+{
+    const auto record = [] {
+        for (int i = 0; i < kSteps; ++i)
+            AppendToMacro(2170, 0, reinterpret_cast<LPARAM>(u"x"));
+    };
+    FreeMacro();
+    std::vector<double> first;
+    std::vector<double> second;
+    for (auto _ : state) {
+        FreeMacro();
+        first.push_back(CpuSeconds(record));
+        second.push_back(CpuSeconds(record));
+    }
+    FreeMacro();
+    state.counters["ours_ms"] = MedianOf(second) * 1e3;
+    state.counters["reference_ms"] = MedianOf(first) * 1e3;
+    state.counters["ratio"] = MedianOf(second) / MedianOf(first);
+    state.counters["limit"] = 1.5;
+}
+BENCHMARK(MacroRecord)->Iterations(15)->Unit(benchmark::kMillisecond);
+
+void MacroPlay(benchmark::State& state)
+{
+    ZNCoreEditorWidget editor;
+    CZNCoreEditorControlEx& control = editor.control();
+    FreeMacro();
+    for (int i = 0; i < kSteps; ++i)
+        AppendToMacro(2170, 0, reinterpret_cast<LPARAM>(u"x"));
+    const auto inOneStep = [&](const std::function<void()>& type) {
+        control.ClearAll(1);
+        control.EmptyUndoBuffer(1);
+        control.BeginUndoAction(1);
+        type();
+        control.EndUndoAction(1);
+    };
+    MeasurePair(
+        state, [&] { inOneStep([&] { control.PerformMacro(GetMacroHead()); }); },
+        [&] {
+            inOneStep([&] {
+                for (int i = 0; i < kSteps; ++i)
+                    control.ReplaceSel(u"x", 1);
+            });
+        },
+        1.2);
+    FreeMacro();
+}
+BENCHMARK(MacroPlay)->Iterations(5)->Unit(benchmark::kMillisecond);
+
+} // namespace
+} // namespace bench
