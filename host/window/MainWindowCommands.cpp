@@ -136,7 +136,7 @@ std::span<const MainWindow::Command> MainWindow::Commands()
         {"&Tools", "expand",   "&Expanded Script", Key::UnknownKey, "F9",    0, When::Script, Run<&W::ExpandScript>},
         {"&Tools", nullptr},
         {"&Tools", "recordMacro", "&Record Macro",    Key::UnknownKey, "Ctrl+Shift+R", 53938},
-        {"&Tools", "playMacro", "&Play Macro",        Key::UnknownKey, "Ctrl+Shift+P", 53989},
+        {"&Tools", "playMacro", "Pla&y Macro",        Key::UnknownKey, "Ctrl+Shift+P", 53989},
         {"&Tools", "repeatMacro", "Repea&t Macro...", Key::UnknownKey, nullptr,        53939},
         {"&Tools", "saveMacro", "&Save Macro...",     Key::UnknownKey, nullptr,        53990},
         {"&Tools", "loadMacro", "&Load Macro...",     Key::UnknownKey, nullptr,        53991},
