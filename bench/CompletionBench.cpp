@@ -8,6 +8,7 @@
 #include "completion/popup/LiveIndex.h"
 #include "control/EngineRecords.h"
 #include "docview/ZNCoreEditorView.h"
+#include "editing/ZNCoreEditorControlEx.h"
 #include "editing/ZNCoreEditorWidget.h"
 #include "editing/operations/Macro.h"
 

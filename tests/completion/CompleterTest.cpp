@@ -2,6 +2,7 @@
 // The list of proposals in an editor, by the keys that a person presses.
 #include "completion/popup/Completer.h"
 #include "completion/popup/LiveIndex.h"
+#include "editing/ZNCoreEditorControlEx.h"
 #include "editing/ZNCoreEditorWidget.h"
 
 #include <QApplication>
