@@ -117,6 +117,7 @@ QWidget* CEditorPrefsDialog::BuildTree()
     new TreeKeys(*m_tree, *filter); // goes with the tree
     auto* settings = new QPushButton(QStringLiteral("&Settings"));
     settings->setAutoDefault(false);
+    m_settings = settings;
     auto* menu = new SettingsMenu(m_config, m_languages, settings);
     menu->currentLanguage = [this] { return CurrentLanguage(); };
     settings->setMenu(menu);
@@ -153,7 +154,7 @@ QWidget* CEditorPrefsDialog::BuildButtons()
         row->addWidget(button);
         return button;
     };
-    add(IDOK, "&Ok")->setDefault(true);
+    add(IDOK, "&Ok");
     add(IDCANCEL, "&Cancel");
     add(id::Apply, "&Apply")->setEnabled(false);
     IPreferencesHost* host = zncoreeditor::GetPreferencesHost();
@@ -179,6 +180,8 @@ void CEditorPrefsDialog::OnBuild(QWidget* window)
     halves->setStretchFactor(1, 1);
     column->addWidget(halves, 1);
     column->addWidget(BuildButtons());
+    // Inside of the dialog, which then comes back to it whenever another button lets go of Enter.
+    GetDlgItem<QPushButton>(IDOK)->setDefault(true);
     constexpr int kTreeLetters = 30;
     constexpr int kLetters = 120;
     constexpr int kLines = 42;
@@ -241,6 +244,19 @@ bool CEditorPrefsDialog::OnInitDialog()
     return false;
 }
 
+// Behind the tree and before the buttons, wherever widgets that are made late would come.
+void CEditorPrefsDialog::TakeIntoTabOrder(QWidget& page)
+{
+    QWidget* last = m_settings;
+    for (QWidget* control : page.findChildren<QWidget*>()) {
+        if (control->isWindow() || control->window() != page.window() ||
+            !(control->focusPolicy() & Qt::TabFocus))
+            continue;
+        QWidget::setTabOrder(last, control);
+        last = control;
+    }
+}
+
 void CEditorPrefsDialog::ShowPage(int page)
 {
     if (page < 0 || page >= static_cast<int>(m_pages.size()))
@@ -250,6 +266,7 @@ void CEditorPrefsDialog::ShowPage(int page)
         record.page->CreateInside(m_frame);
         SetDlgCtrlID(record.page->GetSafeHwnd(), record.templateId);
         m_frame->addWidget(record.page->GetSafeHwnd());
+        TakeIntoTabOrder(*record.page->GetSafeHwnd());
     }
     m_current = page;
     m_frame->setCurrentWidget(record.page->GetSafeHwnd());

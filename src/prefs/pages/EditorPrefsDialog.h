@@ -62,6 +62,7 @@ private:
 
     QWidget* BuildTree();
     QWidget* BuildButtons();
+    void TakeIntoTabOrder(QWidget& page);
     void AddPage(CEditorPrefsSubDlg& page, UINT templateId, const QString& title,
                  CEditorPrefsSubDlg* parent = nullptr);
     void AddLanguage(int language);
@@ -95,6 +96,7 @@ private:
     PagesOf<CCodingPref> m_codingPages;
 
     QTreeWidget* m_tree = nullptr;
+    QWidget* m_settings = nullptr; // the button below the tree
     CEditorPrefsStatic* m_caption = nullptr;
     QStackedWidget* m_frame = nullptr;
     QLabel* m_note = nullptr;

@@ -210,6 +210,20 @@ TEST_F(PrefsDialog, WritesAColourAsItsSixDigits)
     EXPECT_TRUE(file.readAll().contains("<Foreground>FF6820</Foreground>"));
 }
 
+TEST_F(PrefsDialog, GoesByTabFromTheTreeOverThePageToTheButtons)
+{
+    Open();
+    QWidget* const expected[] = {Show("Transact-SQL").GetDlgItem(id::LineNumbers),
+                                 Show("Transact-SQL").GetDlgItem(id::IndentOff),
+                                 dialog->GetDlgItem(IDOK)};
+    std::vector<QWidget*> passed;
+    for (QWidget* at = Tree().nextInFocusChain(); at != &Tree(); at = at->nextInFocusChain()) {
+        if (std::ranges::find(expected, at) != std::end(expected))
+            passed.push_back(at);
+    }
+    EXPECT_THAT(passed, testing::ElementsAreArray(expected));
+}
+
 TEST_F(PrefsDialog, EatsEscape)
 {
     Open();
