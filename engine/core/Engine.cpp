@@ -9,6 +9,7 @@
 #include "engine/text/Characters.h"
 
 #include <array>
+#include <utility>
 
 namespace engine {
 namespace {
@@ -259,6 +260,18 @@ void Engine::ReplaceTarget(std::string_view bytes)
     LendTarget();
     raw.Send(Sci::SCI_REPLACETARGET, bytes.size(), bytes.data());
     TakeTarget();
+}
+
+void Engine::SelectQuietly(long anchor, long caret)
+{
+    raw.Send(Sci::SCI_SETSELECTION, static_cast<WPARAM>(caret), anchor);
+    m_owesSelection = true;
+}
+
+void Engine::TellSelection()
+{
+    if (std::exchange(m_owesSelection, false))
+        raw.Send(Sci::SCI_SETANCHOR, static_cast<WPARAM>(raw.Send(Sci::SCI_GETANCHOR)));
 }
 
 // Another change may have put half of a character on either side.

@@ -84,6 +84,11 @@ public:
     long Units(long position) const;
     long CaretPosition() const; // units
 
+    // The selection of the moment, without the word to the display's server that each selection
+    // costs a round trip: for a bulk change, which makes one for each of its pieces. Bytes.
+    void SelectQuietly(long anchor, long caret);
+    void TellSelection(); // the word for what was selected so
+
     // Around a key: Backspace and Delete over letters are one undo step. Other keys may end it.
     void EraseKeyBegins(bool back);
     void EraseKeyEnds();
@@ -137,6 +142,7 @@ private:
     LRESULT Translate(const MessageRow& row, WPARAM wParam, LPARAM lParam);
 
     LRESULT m_document = 0;
+    bool m_owesSelection = false; // it has not been told
 };
 
 } // namespace engine

@@ -262,8 +262,6 @@ constexpr FenceRow kRows[] = {
     {message::SetMouseDwellTime, MakesNotNegative},
     {message::Allocate, MakesNotNegative},
     {message::GotoPos, MakesPosition},
-    {message::SetAnchor, MakesPosition},
-    {message::SetCurrentPos, MakesPosition},
     {message::SetSelectionStart, MakesPosition},
     {message::SetSelectionEnd, MakesPosition},
     {message::WordStartPosition, MakesPosition},

@@ -174,6 +174,8 @@ LRESULT SetDoingReplaceAll(Engine& engine, WPARAM wParam, LPARAM)
 {
     engine.bulkChange = wParam != 0;
     engine.analysis.SetBulkChange(engine.bulkChange);
+    if (!engine.bulkChange)
+        engine.TellSelection();
     return 0;
 }
 

@@ -148,8 +148,43 @@ LRESULT SetSel(Engine& engine, WPARAM wParam, LPARAM lParam)
     return engine.raw.Send(Sci::SCI_SETSEL, static_cast<WPARAM>(anchor), caret);
 }
 
+// One range of characters, as most selections are.
+bool IsPlainSelection(const Engine& engine)
+{
+    return engine.raw.Send(Sci::SCI_GETSELECTIONS) == 1 &&
+           engine.raw.Send(Sci::SCI_GETSELECTIONMODE) == Sci::SC_SEL_STREAM;
+}
+
+long PlaceOf(const Engine& engine, WPARAM position)
+{
+    return std::clamp(engine.Bytes(std::max(static_cast<LPARAM>(position), LPARAM{0})), 0L,
+                      engine.raw.Length());
+}
+
+LRESULT SetAnchor(Engine& engine, WPARAM wParam, LPARAM)
+{
+    const long anchor = PlaceOf(engine, wParam);
+    if (engine.bulkChange && IsPlainSelection(engine))
+        engine.SelectQuietly(anchor, static_cast<long>(engine.raw.Send(Sci::SCI_GETCURRENTPOS)));
+    else
+        engine.raw.Send(Sci::SCI_SETANCHOR, static_cast<WPARAM>(anchor));
+    return 0;
+}
+
+LRESULT SetCurrentPos(Engine& engine, WPARAM wParam, LPARAM)
+{
+    const long caret = PlaceOf(engine, wParam);
+    if (engine.bulkChange && IsPlainSelection(engine))
+        engine.SelectQuietly(static_cast<long>(engine.raw.Send(Sci::SCI_GETANCHOR)), caret);
+    else
+        engine.raw.Send(Sci::SCI_SETCURRENTPOS, static_cast<WPARAM>(caret));
+    return 0;
+}
+
 constexpr HandlerRow kRows[] = {
     {message::SetSel, SetSel},
+    {message::SetAnchor, SetAnchor},
+    {message::SetCurrentPos, SetCurrentPos},
     {message::GetLength, GetLength},
     {message::GetTextLength, GetLength},
     {message::GetCharAt, GetCharAt},

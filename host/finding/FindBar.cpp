@@ -370,7 +370,9 @@ void FindBar::ReplaceAll()
     if (!editor || !Prepare())
         return;
     m_manager.AddReplaceHistory(m_replace->currentText());
-    Tell(tr("%n replaced", nullptr, m_manager.ReplaceAll(editor, false)));
+    const int count = m_manager.ReplaceAll(editor, false);
+    Tell(m_manager.WasStopped() ? tr("Stopped, %n replaced", nullptr, count)
+                                : tr("%n replaced", nullptr, count));
 }
 
 // The editor marks what an expression finds.

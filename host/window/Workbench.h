@@ -8,6 +8,7 @@
 #include "host/preferences/WorkbenchPreferences.h"
 #include "host/printing/WorkbenchPrinter.h"
 #include "host/recovery/RecoverableCopy.h"
+#include "host/window/WorkProgress.h"
 #include "platform/docview/WinApp.h"
 
 #include <QList>
@@ -66,6 +67,7 @@ private:
     Keeps m_keeps;
     OpenGuard m_guard;
     WorkbenchPrinter m_printer;
+    WorkProgress m_progress;
     QSettings m_settings;
     RecentFiles m_recent;
     WorkbenchPreferences m_preferences;

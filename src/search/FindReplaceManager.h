@@ -83,7 +83,9 @@ public:
     // Replaces the engine's target, and moves the caret on by the length of what was put in.
     void ReplaceOne(CZNCoreEditorControl* control);
     // The number of replacements, which are one undo step. A text that is read-only has none.
+    // What takes more than a second is shown by the host, which may stop it (LongWork).
     int ReplaceAll(CZNCoreEditorControl* control, bool inSelection);
+    bool WasStopped() const { return m_isStopped; } // the last ReplaceAll
 
     // \a \b \f \n \r \t \v become the characters; other escapes stay as they are. A backslash that
     // ends the text stays, with a NUL behind it.
@@ -109,6 +111,7 @@ private:
     QStringList m_aTypeHistory;
     QStringList m_aLocationHistory;
     bool m_bTransform = false;
+    bool m_isStopped = false;
     bool m_bRegExp = false;
     bool m_bWholeWord = false;
     bool m_bMatchCase = false;

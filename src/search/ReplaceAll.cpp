@@ -2,6 +2,7 @@
 // Replacing, of CFindReplaceManager.
 #include "control/ZNCoreEditorControl.h"
 #include "platform/base/Units.h"
+#include "platform/services/LongWork.h"
 #include "search/FindReplaceManager.h"
 
 #include <algorithm>
@@ -38,6 +39,13 @@ char16_t Escaped(char16_t letter)
     constexpr std::u16string_view kCharacters = u"\a\b\f\n\r\t\v";
     const auto at = kLetters.find(letter);
     return at == kLetters.npos ? u'\0' : kCharacters[at];
+}
+
+// How far a place is from one end of a range towards the other.
+int Hundredths(int place, int start, int end)
+{
+    const double length = std::abs(end - start);
+    return length > 0 ? std::min(100, static_cast<int>(std::abs(place - start) * 100 / length)) : 0;
 }
 
 bool TargetIsEmpty(CZNCoreEditorControl& control)
@@ -127,6 +135,7 @@ void CFindReplaceManager::ReplaceOne(CZNCoreEditorControl* control)
 
 int CFindReplaceManager::ReplaceAll(CZNCoreEditorControl* control, bool inSelection)
 {
+    m_isStopped = false;
     if (!control || !control->GetSafeHwnd())
         return 0;
     const long caret = control->GetCurrentPos(1);
@@ -158,6 +167,7 @@ int CFindReplaceManager::ReplaceInRange(CZNCoreEditorControl& control, int start
                                         bool inSelection)
 {
     const BulkChange bulk(control);
+    LongWork work(control.GetSafeHwnd(), QStringLiteral("Replacing"));
     const QString text = ReplacementText();
     const bool isForward = start < end;
     const bool isNothing = start == end;
@@ -175,6 +185,8 @@ int CFindReplaceManager::ReplaceInRange(CZNCoreEditorControl& control, int start
         if (control.GetReadOnly(1))
             break;
         ++count;
+        if (!work.Step(Hundredths(targetStart, start, end)) || !control.GetSafeHwnd())
+            break;
         const int growth = length - (targetEnd - targetStart);
         if (m_bRegExp && pos == end && m_strFind == u"$") {
             end += growth;
@@ -201,5 +213,6 @@ int CFindReplaceManager::ReplaceInRange(CZNCoreEditorControl& control, int start
         if (isForward && pos != -1 && !round.GoesOn(from, pos))
             break;
     }
+    m_isStopped = work.IsStopped();
     return count;
 }

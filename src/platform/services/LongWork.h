@@ -1,0 +1,54 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+// What takes long is shown, and can be stopped, by the host.
+#pragma once
+
+#include "common/Export.h"
+#include "platform/base/Types.h"
+
+#include <QElapsedTimer>
+#include <QString>
+
+class ZN_API ILongWork
+{
+public:
+    virtual ~ILongWork();
+
+    // How far it has come, in hundredths. False stops it: what is done stays. May run an event loop
+    // for the box that it shows, which is to let nobody at the owner's window.
+    virtual bool GoesOn(HWND owner, const QString& what, int hundredths) = 0;
+    virtual void Ends() = 0;                      // of a piece of work that has asked
+    virtual int Patience() const { return 1000; } // milliseconds before it is asked at all
+};
+
+// Takes effect at once and stays the caller's. Null, as from the start: nothing is shown, and
+// nothing stops.
+ZN_API void SetLongWork(ILongWork* host);
+
+// A piece of work: asks the host from time to time once it has taken a second.
+class ZN_API LongWork
+{
+public:
+    LongWork(HWND owner, QString what);
+    LongWork(const LongWork&) = delete;
+    LongWork& operator=(const LongWork&) = delete;
+    ~LongWork();
+
+    // Once for each step. False from when the host has stopped it.
+    bool Step(int hundredths)
+    {
+        return (++m_steps % kStepsBetween != 0 || Ask(hundredths)) && !m_isStopped;
+    }
+    bool IsStopped() const { return m_isStopped; }
+
+private:
+    static constexpr int kStepsBetween = 1024; // a look at the clock costs more than a step
+
+    bool Ask(int hundredths);
+
+    HWND m_owner;
+    QString m_what;
+    QElapsedTimer m_begun;
+    ILongWork* m_asked = nullptr;
+    int m_steps = 0;
+    bool m_isStopped = false;
+};

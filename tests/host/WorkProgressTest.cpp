@@ -1,0 +1,74 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+// The box of what takes long, and its button.
+#include "host/window/WorkProgress.h"
+#include "host/finding/FindBar.h"
+#include "tests/host/WorkbenchTest.h"
+
+#include <QComboBox>
+#include <QProgressDialog>
+#include <QPushButton>
+
+namespace {
+
+class WorkProgressTest : public WorkbenchTest
+{
+protected:
+    bool GoesOn(int hundredths)
+    {
+        return m_progress.GoesOn(m_window.centralWidget(), QStringLiteral("Replacing"), hundredths);
+    }
+    QProgressDialog* Box() const
+    {
+        return m_window.findChild<QProgressDialog*>(QStringLiteral("workProgress"));
+    }
+
+    WorkProgress m_progress;
+};
+
+} // namespace
+
+TEST_F(WorkProgressTest, ShowsHowFarItHasComeAndLetsNobodyAtTheWindow)
+{
+    EXPECT_TRUE(GoesOn(37));
+    ASSERT_TRUE(Box());
+    EXPECT_TRUE(Box()->isVisible());
+    EXPECT_EQ(Box()->windowModality(), Qt::WindowModal);
+    EXPECT_EQ(Box()->value(), 37);
+    EXPECT_EQ(Box()->labelText(), QStringLiteral("Replacing"));
+    m_progress.Ends();
+    EXPECT_FALSE(Box());
+}
+
+TEST_F(WorkProgressTest, StopsByItsButton)
+{
+    EXPECT_TRUE(GoesOn(1));
+    Box()->findChild<QPushButton*>()->click();
+    bool goesOn = true;
+    for (int i = 0; goesOn && i < 1'000'000; ++i)
+        goesOn = GoesOn(2);
+    EXPECT_FALSE(goesOn);
+}
+
+TEST_F(WorkProgressTest, TellsInTheFindBarThatReplacingWasStopped)
+{
+    class Stopper final : public ILongWork
+    {
+    public:
+        Stopper() { SetLongWork(this); }
+        ~Stopper() override { SetLongWork(nullptr); }
+        bool GoesOn(HWND, const QString&, int) override { return false; }
+        void Ends() override {}
+        int Patience() const override { return 0; }
+    };
+    const Stopper stopper;
+    Open("a.sql", QByteArray("a\n").repeated(3000));
+    FindBar& bar = m_window.Find();
+    bar.Open();
+    bar.findChild<QComboBox*>(QStringLiteral("findText"))->setEditText(QStringLiteral("a"));
+    bar.findChild<QComboBox*>(QStringLiteral("replaceText"))->setEditText(QStringLiteral("b"));
+    bar.ReplaceAll();
+    EXPECT_TRUE(Text().startsWith(QStringLiteral("b\n")));
+    EXPECT_TRUE(Text().endsWith(QStringLiteral("a\n")));
+    EXPECT_EQ(bar.findChild<QLabel*>(QStringLiteral("findResult"))->text(),
+              QStringLiteral("Stopped, 1024 replaced"));
+}
