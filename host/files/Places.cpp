@@ -1,16 +1,16 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "host/files/Places.h"
 
+#include "platform/system/SettingsFile.h"
 #include "platform/system/SpecialFolders.h"
 
 #include <QDir>
 
 namespace places {
 
-QSettings Settings()
+QString SettingsPath()
 {
-    return QSettings(QSettings::IniFormat, QSettings::UserScope, QStringLiteral("znworkbench"),
-                     QStringLiteral("settings"));
+    return settingsfile::PathOf(QStringLiteral("znworkbench/settings.ini"));
 }
 
 QString DataPath(const QString& name)

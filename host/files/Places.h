@@ -2,13 +2,13 @@
 // Where the workbench keeps what it remembers of a user.
 #pragma once
 
-#include <QSettings>
 #include <QString>
 
 namespace places {
 
-// Choices and lists, in the user's folder for settings.
-QSettings Settings();
+// Choices and lists, a file of settings (platform/system/SettingsFile) in the user's folder for
+// settings.
+QString SettingsPath();
 
 // A file or folder of that name in the user's folder for data of the workbench. The folder is
 // made. Empty if there is none.

@@ -2,10 +2,10 @@
 #include "host/files/RecentFiles.h"
 
 #include "host/files/Places.h"
+#include "platform/system/SettingsFile.h"
 
 #include <QDir>
 #include <QFileInfo>
-#include <QSettings>
 
 #include <algorithm>
 
@@ -19,8 +19,15 @@ struct RecentFiles::Entry
 namespace {
 
 const QString kList = QStringLiteral("RecentFiles");
+const QString kSize = QStringLiteral("/size");
 const QString kPath = QStringLiteral("path");
 const QString kFile = QStringLiteral("file");
+
+// Entries count from 1.
+QString KeyOf(int entry, const QString& name)
+{
+    return QStringLiteral("%1/%2/%3").arg(kList).arg(entry).arg(name);
+}
 
 QString FileBehind(const QString& path)
 {
@@ -31,70 +38,79 @@ QString FileBehind(const QString& path)
 } // namespace
 
 // Somebody may have edited the settings, so each entry has to look like one.
-QList<RecentFiles::Entry> RecentFiles::Read() const
+QList<RecentFiles::Entry> RecentFiles::Read(const SettingsText& settings)
 {
-    m_settings.sync();
     QList<Entry> entries;
-    const int count = std::clamp(m_settings.beginReadArray(kList), 0, kMost);
-    for (int i = 0; i < count; ++i) {
-        m_settings.setArrayIndex(i);
-        const QString path = m_settings.value(kPath).toString();
+    const int count =
+        std::clamp(settings.Value(kList + kSize).value_or(QString()).toInt(), 0, kMost);
+    for (int i = 1; i <= count; ++i) {
+        const QString path = settings.Value(KeyOf(i, kPath)).value_or(QString());
         const bool isDouble = std::ranges::any_of(
             entries, [&path](const Entry& entry) { return entry.path == path; });
         if (places::CanBeFile(path) && !isDouble)
-            entries.append({path, m_settings.value(kFile, path).toString()});
+            entries.append({path, settings.Value(KeyOf(i, kFile)).value_or(path)});
     }
-    m_settings.endArray();
     return entries;
 }
 
-void RecentFiles::Write(const QList<Entry>& entries)
+// The list of the moment: another window may have changed it.
+bool RecentFiles::Change(const std::function<bool(QList<Entry>&)>& change) const
 {
-    m_settings.remove(kList);
-    m_settings.beginWriteArray(kList, static_cast<int>(entries.size()));
-    for (qsizetype i = 0; i < entries.size(); ++i) {
-        m_settings.setArrayIndex(static_cast<int>(i));
-        m_settings.setValue(kPath, entries[i].path);
-        m_settings.setValue(kFile, entries[i].file);
-    }
-    m_settings.endArray();
-    m_settings.sync();
+    const auto outcome = settingsfile::Change(m_settings, [&change](SettingsText& settings) {
+        QList<Entry> entries = Read(settings);
+        if (!change(entries))
+            return false;
+        settings.RemoveGroup(kList);
+        settings.SetValue(kList + kSize, QString::number(entries.size()));
+        for (int i = 0; i < entries.size(); ++i) {
+            settings.SetValue(KeyOf(i + 1, kPath), entries[i].path);
+            settings.SetValue(KeyOf(i + 1, kFile), entries[i].file);
+        }
+        return true;
+    });
+    return outcome != settingsfile::Outcome::Failed;
 }
 
 QStringList RecentFiles::Paths() const
 {
     QStringList paths;
-    for (const Entry& entry : Read())
-        paths << entry.path;
+    if (const std::optional<SettingsText> settings = settingsfile::Read(m_settings)) {
+        for (const Entry& entry : Read(*settings))
+            paths << entry.path;
+    }
     return paths;
 }
 
-void RecentFiles::Add(const QString& path)
+bool RecentFiles::Add(const QString& path)
 {
     const QString absolute = QDir::cleanPath(QFileInfo(path).absoluteFilePath());
     if (path.isEmpty() || !places::CanBeFile(absolute))
-        return;
+        return true;
     const Entry added = {absolute, FileBehind(absolute)};
-    QList<Entry> entries = Read();
-    entries.removeIf([&added](const Entry& entry) {
-        return entry.path == added.path || entry.file == added.file;
+    return Change([&added](QList<Entry>& entries) {
+        entries.removeIf([&added](const Entry& entry) {
+            return entry.path == added.path || entry.file == added.file;
+        });
+        entries.prepend(added);
+        if (entries.size() > kMost)
+            entries.resize(kMost);
+        return true;
     });
-    entries.prepend(added);
-    if (entries.size() > kMost)
-        entries.resize(kMost);
-    Write(entries);
 }
 
-void RecentFiles::Remove(const QString& path)
+bool RecentFiles::Remove(const QString& path)
 {
-    QList<Entry> entries = Read();
-    if (entries.removeIf([&path](const Entry& entry) { return entry.path == path; }) > 0)
-        Write(entries);
+    return Change([&path](QList<Entry>& entries) {
+        return entries.removeIf([&path](const Entry& entry) { return entry.path == path; }) > 0;
+    });
 }
 
-void RecentFiles::Clear()
+bool RecentFiles::Clear()
 {
-    Write({});
+    return Change([](QList<Entry>& entries) {
+        entries.clear();
+        return true;
+    });
 }
 
 QString RecentFileIsGoneQuestion(const QString& path)

@@ -3,35 +3,40 @@
 // several windows share: each call looks at what the others have written.
 #pragma once
 
+#include <QList>
 #include <QString>
 #include <QStringList>
 
-class QSettings;
+#include <functional>
+#include <utility>
+
+class SettingsText;
 
 class RecentFiles
 {
 public:
     static constexpr int kMost = 10;
 
-    // The settings stay the caller's and outlive the list.
-    explicit RecentFiles(QSettings& settings) : m_settings(settings) {}
+    // The path of a file of settings.
+    explicit RecentFiles(QString settings) : m_settings(std::move(settings)) {}
 
     // Absolute paths, the last opened first. No file is looked at, since one on a drive that is
     // away would stall the menu.
     QStringList Paths() const;
 
     // Puts the path at the top. The same file under another spelling, through a link as well,
-    // leaves the list.
-    void Add(const QString& path);
-    void Remove(const QString& path); // as it stands in the list
-    void Clear();
+    // leaves the list. These give false if the settings cannot be read or written; the list is as
+    // it was then.
+    bool Add(const QString& path);
+    bool Remove(const QString& path); // as it stands in the list
+    bool Clear();
 
 private:
     struct Entry;
-    QList<Entry> Read() const;
-    void Write(const QList<Entry>& entries);
+    static QList<Entry> Read(const SettingsText& settings);
+    bool Change(const std::function<bool(QList<Entry>&)>& change) const;
 
-    QSettings& m_settings;
+    QString m_settings;
 };
 
 // What is said of a listed file that is gone, and the offer to take it off the list.

@@ -2,6 +2,7 @@
 #include "host/preferences/Appearance.h"
 
 #include "looks/Schemes.h"
+#include "platform/system/SettingsFile.h"
 
 #include <QApplication>
 #include <QColor>
@@ -98,14 +99,14 @@ void SetCurrent(const QString& name)
     }
 }
 
-QString Load(QSettings& settings)
+QString Load(const QString& settings)
 {
-    return settings.value(kKey, QString(zncoreeditor::kDesktopScheme)).toString();
+    return settingsfile::ReadValue(settings, kKey).value_or(QString(zncoreeditor::kDesktopScheme));
 }
 
-void Store(QSettings& settings, const QString& name)
+bool Store(const QString& settings, const QString& name)
 {
-    settings.setValue(kKey, name);
+    return settingsfile::WriteValue(settings, kKey, name) != settingsfile::Outcome::Failed;
 }
 
 } // namespace appearance

@@ -4,7 +4,6 @@
 #pragma once
 
 #include <QPalette>
-#include <QSettings>
 #include <QString>
 #include <QStringList>
 
@@ -17,7 +16,8 @@ QString Current();
 // The palette follows at once; without a scheme of the name, the desktop's.
 void SetCurrent(const QString& name);
 
-QString Load(QSettings& settings);
-void Store(QSettings& settings, const QString& name);
+// The path is that of a file of settings. False if it could not be written.
+QString Load(const QString& settings);
+bool Store(const QString& settings, const QString& name);
 
 } // namespace appearance

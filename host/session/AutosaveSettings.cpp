@@ -3,6 +3,7 @@
 
 #include "control/ZNCoreEditorControl.h"
 #include "host/files/Places.h"
+#include "platform/system/SettingsFile.h"
 
 namespace {
 
@@ -13,20 +14,26 @@ const QString kMinutes = QStringLiteral("Autosave/minutes");
 
 AutosaveSettings AutosaveSettings::Load()
 {
-    const QSettings settings = places::Settings();
     AutosaveSettings loaded;
-    loaded.on = settings.value(kOn, loaded.on).toBool();
-    const int minutes = settings.value(kMinutes).toInt();
+    const std::optional<SettingsText> settings = settingsfile::Read(places::SettingsPath());
+    if (!settings)
+        return loaded;
+    if (const std::optional<QString> on = settings->Value(kOn))
+        loaded.on = *on != QLatin1String("false") && *on != QLatin1String("0") && !on->isEmpty();
+    const int minutes = settings->Value(kMinutes).value_or(QString()).toInt();
     if (minutes >= 1 && minutes <= kMostMinutes)
         loaded.minutes = minutes;
     return loaded;
 }
 
-void AutosaveSettings::Store() const
+bool AutosaveSettings::Store() const
 {
-    QSettings settings = places::Settings();
-    settings.setValue(kOn, on);
-    settings.setValue(kMinutes, minutes);
+    const auto outcome = settingsfile::Change(places::SettingsPath(), [this](SettingsText& text) {
+        text.SetValue(kOn, on ? QStringLiteral("true") : QStringLiteral("false"));
+        text.SetValue(kMinutes, QString::number(minutes));
+        return true;
+    });
+    return outcome != settingsfile::Outcome::Failed;
 }
 
 void AutosaveSettings::ApplyTo(CZNCoreEditorControl& editor) const

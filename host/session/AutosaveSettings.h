@@ -13,6 +13,6 @@ struct AutosaveSettings
     int minutes = 1;
 
     static AutosaveSettings Load(); // what is missing or out of range has its default
-    void Store() const;
+    bool Store() const;             // false if they could not be written
     void ApplyTo(CZNCoreEditorControl& editor) const;
 };

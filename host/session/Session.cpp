@@ -4,13 +4,16 @@
 #include "host/files/Places.h"
 
 #include <QFile>
-#include <QFileInfo>
 #include <QJsonArray>
 #include <QJsonDocument>
 #include <QJsonObject>
 #include <QSaveFile>
 
+#include <cerrno>
 #include <climits>
+#include <cstdio>
+
+#include <sys/stat.h>
 
 namespace {
 
@@ -123,12 +126,27 @@ bool Session::Store(const QString& path) const
 }
 
 // A pipe or a device under that name would never end.
-Session Session::Load(const QString& path)
+std::optional<Session> Session::Load(const QString& path)
 {
-    if (!QFileInfo(path).isFile())
-        return {};
+    struct stat status = {};
+    if (stat(QFile::encodeName(path).constData(), &status) != 0)
+        return errno == ENOENT || errno == ENOTDIR ? std::optional(Session()) : std::nullopt;
     QFile file(path);
-    return file.open(QFile::ReadOnly) ? FromBytes(file.read(kMostBytes + 1)) : Session();
+    if (!S_ISREG(status.st_mode) || !file.open(QFile::ReadOnly))
+        return std::nullopt;
+    const QByteArray bytes = file.read(kMostBytes + 1);
+    if (file.error() != QFile::NoError || bytes.size() != status.st_size ||
+        !QJsonDocument::fromJson(bytes).isObject())
+        return std::nullopt;
+    return FromBytes(bytes);
+}
+
+QString Session::PutAside(const QString& path)
+{
+    const QString aside = path + QLatin1String(".unreadable");
+    const bool isAside =
+        rename(QFile::encodeName(path).constData(), QFile::encodeName(aside).constData()) == 0;
+    return isAside ? aside : QString();
 }
 
 QString Session::DefaultPath()

@@ -7,6 +7,8 @@
 #include <QList>
 #include <QString>
 
+#include <optional>
+
 enum class SessionPanes : int
 {
     One,
@@ -48,7 +50,10 @@ struct Session
     // In a file of its own, which is replaced as a whole or stays as it was. False if it could not
     // be written.
     bool Store(const QString& path) const;
-    static Session Load(const QString& path); // empty if there is none, or none that can be read
+    // Empty if there is none; nothing if what stands there cannot be read or is no session.
+    static std::optional<Session> Load(const QString& path);
+    // Puts what cannot be read out of the way; where it is then. Empty if it stays.
+    static QString PutAside(const QString& path);
 
     static QString DefaultPath(); // among the workbench's data; empty if there is no place for it
 };

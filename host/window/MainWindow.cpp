@@ -21,6 +21,7 @@
 #include "host/window/MainFrame.h"
 #include "host/window/StatusIndicators.h"
 #include "host/window/Workbench.h"
+#include "platform/services/OptionsServer.h"
 
 #include <QClipboard>
 #include <QFileInfo>
@@ -38,6 +39,13 @@ namespace {
 
 constexpr int kProblemsHeight = 110; // pixels, of some four lines
 constexpr int kExpandedWidth = 460;  // pixels, of some fifty characters
+
+QString NotStored(const QString& what)
+{
+    return QStringLiteral("%1 could not be written to the settings; the disk may be full. It holds "
+                          "until the workbench ends.")
+        .arg(what);
+}
 
 } // namespace
 
@@ -222,6 +230,8 @@ void MainWindow::ChangeOptions()
     if (dialog.exec() != QDialog::Accepted)
         return;
     dialog.Store();
+    if (!CZNOptionsServer::GetObjectW()->WasStored())
+        GetPrompts().Tell(this, NotStored(QStringLiteral("What you chose")));
     FollowOptions();
 }
 
@@ -230,7 +240,8 @@ void MainWindow::ChangeAutosave()
     AutosaveDialog dialog(this, AutosaveSettings::Load());
     if (dialog.exec() != QDialog::Accepted)
         return;
-    dialog.Settings().Store();
+    if (!dialog.Settings().Store())
+        GetPrompts().Tell(this, NotStored(QStringLiteral("The choice about autosave")));
     for (const ScriptDoc* script : m_app.Scripts())
         dialog.Settings().ApplyTo(script->FirstView()->GetCoreEditorControlRef());
 }

@@ -105,6 +105,7 @@ private:
 
     void KeepSessionSoon();
     void KeepSession();
+    bool PutSessionAside();
     bool Resume(const SessionFile& file); // false if it is not opened
 
     Workbench& m_app;

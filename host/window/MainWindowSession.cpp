@@ -2,6 +2,7 @@
 // MainWindow: what it remembers from one run to the next.
 #include "editing/ZNCoreEditorControlEx.h"
 #include "host/expanded/ExpandedScript.h"
+#include "host/files/Prompts.h"
 #include "host/script/ScriptDoc.h"
 #include "host/script/ScriptFrame.h"
 #include "host/script/ScriptTabs.h"
@@ -10,6 +11,7 @@
 #include "host/window/MainWindow.h"
 #include "host/window/Workbench.h"
 
+#include <QDir>
 #include <QFileInfo>
 #include <QPointer>
 #include <QSet>
@@ -47,7 +49,11 @@ SessionFile Describe(const ScriptFrame& frame)
 // A file that has gone meanwhile is passed over: nobody has asked for it.
 void MainWindow::ResumeSession()
 {
-    const Session session = Session::Load(Session::DefaultPath());
+    const std::optional<Session> found = Session::Load(Session::DefaultPath());
+    m_keepsSession = found || PutSessionAside();
+    if (!m_app.GetMainWnd())
+        return; // closed while that was told
+    const Session session = found.value_or(Session());
     if (!session.geometry.isEmpty())
         restoreGeometry(session.geometry);
     if (!session.state.isEmpty())
@@ -66,10 +72,25 @@ void MainWindow::ResumeSession()
     }
     if (front)
         m_tabs->setCurrentWidget(front);
-    m_keepsSession = true;
     m_sessionTimer->setSingleShot(true);
     m_sessionTimer->setInterval(kRest);
     connect(m_sessionTimer, &QTimer::timeout, this, &MainWindow::KeepSession);
+}
+
+// What cannot be read is not written over. False if it stays in the way.
+bool MainWindow::PutSessionAside()
+{
+    const QString path = Session::DefaultPath();
+    const QString aside = Session::PutAside(path);
+    const QString text = QStringLiteral("What was open last cannot be read. ");
+    if (aside.isEmpty())
+        GetPrompts().Tell(this, text + QStringLiteral("It is not kept this time, so that “%1” "
+                                                      "stays as it is.")
+                                           .arg(QDir::toNativeSeparators(path)));
+    else
+        GetPrompts().Tell(
+            this, text + QStringLiteral("It is in “%1” now.").arg(QDir::toNativeSeparators(aside)));
+    return !aside.isEmpty();
 }
 
 // A file that is open already gets a further tab.

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "host/window/RecentMenu.h"
 
+#include "host/files/Prompts.h"
 #include "host/files/RecentFiles.h"
 
 #include <QDir>
@@ -31,5 +32,9 @@ void RecentMenu::Fill()
         return;
     }
     addSeparator();
-    addAction(QStringLiteral("&Clear List"), this, [this] { m_files.Clear(); });
+    addAction(QStringLiteral("&Clear List"), this, [this] {
+        if (!m_files.Clear())
+            GetPrompts().Tell(parentWidget(), QStringLiteral("The list could not be cleared: the "
+                                                             "settings cannot be written."));
+    });
 }

@@ -40,16 +40,15 @@ QString FolderToStartIn(const ScriptDoc* script)
 
 Workbench::Workbench(Keeps keeps)
     : m_keeps(keeps), m_guard(keeps == Keeps::Places ? OpenGuard::DefaultFolder() : QString()),
-      m_settings(places::Settings()), m_recent(m_settings),
-      m_preferences(
-          [this] {
-              for (ScriptDoc* script : Scripts())
-                  Q_EMIT script->LanguageChanged();
-          },
-          [this](const QString& scheme) { ChooseScheme(scheme); })
+      m_recent(places::SettingsPath()), m_preferences(
+                                            [this] {
+                                                for (ScriptDoc* script : Scripts())
+                                                    Q_EMIT script->LanguageChanged();
+                                            },
+                                            [this](const QString& scheme) { ChooseScheme(scheme); })
 {
     if (m_keeps == Keeps::Places)
-        appearance::SetCurrent(appearance::Load(m_settings));
+        appearance::SetCurrent(appearance::Load(places::SettingsPath()));
     AddDocTemplate(std::make_unique<CMultiDocTemplate>(kStrings, ScriptDoc::GetThisClass(),
                                                        ScriptFrame::GetThisClass(),
                                                        ScriptView::GetThisClass()));
@@ -230,7 +229,7 @@ void Workbench::ChooseScheme(const QString& name)
     if (byDesktop)
         appearance::SetCurrent(name);
     if (m_keeps == Keeps::Places)
-        appearance::Store(m_settings, name);
+        appearance::Store(places::SettingsPath(), name);
     for (ScriptDoc* script : Scripts()) {
         for (CView* view : script->GetViews()) {
             if (auto* shown = dynamic_cast<ScriptView*>(view))

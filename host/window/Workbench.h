@@ -12,7 +12,6 @@
 #include "platform/docview/WinApp.h"
 
 #include <QList>
-#include <QSettings>
 
 class ScriptDoc;
 class ScriptFrame;
@@ -68,7 +67,6 @@ private:
     OpenGuard m_guard;
     WorkbenchPrinter m_printer;
     WorkProgress m_progress;
-    QSettings m_settings;
     RecentFiles m_recent;
     WorkbenchPreferences m_preferences;
     QList<RecoverableCopy> m_toRecover;

@@ -2,7 +2,11 @@
 // Each system call on the files of a piece of work fails once, at each place, and the process is
 // killed there once. What has to come of it: the work is done, or it tells that it is not and the
 // files are as they were. After a kill they are as before or as they should be.
+#include "host/files/Places.h"
+#include "host/files/RecentFiles.h"
+#include "host/session/AutosaveSettings.h"
 #include "host/session/Session.h"
+#include "platform/services/OptionsServer.h"
 #include "platform/system/Registry.h"
 #include "settings/ConfigFile.h"
 #include "tests/control/AutosaveFixture.h"
@@ -319,6 +323,68 @@ TEST_F(Faults, OfTheSessionLeaveTheOldOrTheNew)
     };
     TryEverywhere([&] { Put(path, before.ToBytes()); },
                   [&]() -> int { return after.Store(path) ? Done : Told; }, check);
+}
+
+// What cannot be read is put aside, or nothing is written.
+TEST_F(Faults, OfTheSessionsLoadLoseNoSession)
+{
+    Session before;
+    before.files.append({QStringLiteral("/old.sql")});
+    Session after;
+    after.files.append({QStringLiteral("/new.sql")});
+    const QString path = PathOf("session.json");
+    const auto work = [&]() -> int {
+        const std::optional<Session> found = Session::Load(path);
+        if (!found && Session::PutAside(path).isEmpty())
+            return Told;
+        return after.Store(path) && found ? Done : Told;
+    };
+    const auto check = [&](const Trial& run) {
+        const QByteArray bytes = Get(path);
+        const bool isKept = bytes == before.ToBytes() ||
+                            Get(path + QStringLiteral(".unreadable")) == before.ToBytes();
+        EXPECT_TRUE(isKept || bytes == after.ToBytes()) << bytes.constData();
+        EXPECT_TRUE(isKept || run.exitCode != Told);
+    };
+    TryEverywhere([&] { Put(path, before.ToBytes()); }, work, check);
+}
+
+TEST_F(Faults, OfTheWorkbenchsSettingsLoseNone)
+{
+    const QString path = places::SettingsPath();
+    const auto prepare = [&] {
+        AutosaveSettings{false, 7}.Store();
+        RecentFiles(path).Add(QStringLiteral("/old.sql"));
+    };
+    const auto work = [&]() -> int {
+        return RecentFiles(path).Add(QStringLiteral("/new.sql")) ? Done : Told;
+    };
+    const auto check = [&](const Trial& run) {
+        EXPECT_EQ(AutosaveSettings::Load().minutes, 7);
+        EXPECT_FALSE(AutosaveSettings::Load().on);
+        const QStringList paths = RecentFiles(path).Paths();
+        EXPECT_TRUE(paths.contains(QStringLiteral("/old.sql")));
+        EXPECT_TRUE(run.exitCode < 0 ||
+                    paths.contains(QStringLiteral("/new.sql")) == (run.exitCode == Done));
+    };
+    TryEverywhere(prepare, work, check);
+}
+
+TEST_F(Faults, OfTheOptionsLoseNone)
+{
+    constexpr int kKey = 12345; // nobody's
+    const auto prepare = [&] { CZNOptionsServer().SetInt(kKey, 1); };
+    const auto work = [&]() -> int {
+        CZNOptionsServer server;
+        server.SetInt(kKey + 1, 2);
+        return server.GetInt(kKey + 1) != 2 ? Wrong : server.WasStored() ? Done : Told;
+    };
+    const auto check = [&](const Trial& run) {
+        CZNOptionsServer later;
+        EXPECT_EQ(later.GetInt(kKey), 1);
+        EXPECT_TRUE(run.exitCode < 0 || (later.GetInt(kKey + 1) == 2) == (run.exitCode == Done));
+    };
+    TryEverywhere(prepare, work, check);
 }
 
 TEST_F(Faults, OfTheProfileLoseNoEntry)

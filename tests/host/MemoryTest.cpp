@@ -10,7 +10,6 @@
 #include <QDir>
 #include <QJsonArray>
 #include <QJsonDocument>
-#include <QSettings>
 
 #include <memory>
 
@@ -20,22 +19,12 @@ namespace {
 class OwnFolders final : public ISpecialFolders
 {
 public:
-    OwnFolders()
-    {
-        SetSpecialFolders(this);
-        QSettings::setPath(QSettings::IniFormat, QSettings::UserScope, folder.filePath("config"));
-    }
-    ~OwnFolders() override
-    {
-        SetSpecialFolders(nullptr);
-        QSettings::setPath(QSettings::IniFormat, QSettings::UserScope, GetConfig());
-    }
+    OwnFolders() { SetSpecialFolders(this); }
+    ~OwnFolders() override { SetSpecialFolders(nullptr); }
     QString AppData() const override { return folder.filePath("data"); }
+    QString Config() const override { return folder.filePath("config"); }
 
     QTemporaryDir folder;
-
-private:
-    static QString GetConfig() { return znutils::CSpecialFolders::GetConfigPath(); }
 };
 
 class Memory : public testing::Test
@@ -176,7 +165,7 @@ TEST_F(Memory, HoldsWhatWasOpenWhenThePersonStays)
     ASSERT_TRUE(m_app->GetMainWnd());
     m_prompts.loseChanges = LoseChanges::Discard;
     End();
-    EXPECT_EQ(Session::Load(Session::DefaultPath()).files.size(), 1);
+    EXPECT_EQ(Session::Load(Session::DefaultPath())->files.size(), 1);
 }
 
 TEST_F(Memory, ListsRecentFilesTheLastOneFirst)
@@ -230,4 +219,33 @@ TEST_F(Memory, HoldsNothingAgainstAFileThatWasOpenedWell)
     Start();
     EXPECT_EQ(m_window->TabCount(), 1);
     EXPECT_TRUE(m_prompts.asked.isEmpty());
+}
+
+TEST_F(Memory, IsNotWrittenOverWhenItCannotBeRead)
+{
+    const QString path = Session::DefaultPath();
+    QDir().mkpath(QFileInfo(path).path());
+    QFile file(path);
+    ASSERT_TRUE(file.open(QFile::WriteOnly));
+    file.write("{\"files\": [{\"path\"");
+    file.close();
+    Start();
+    ASSERT_EQ(m_prompts.told.size(), 1);
+    EXPECT_TRUE(m_prompts.told[0].startsWith(QStringLiteral("What was open last cannot be read.")));
+    End();
+    QFile aside(path + QStringLiteral(".unreadable"));
+    ASSERT_TRUE(aside.open(QFile::ReadOnly));
+    EXPECT_EQ(aside.readAll(), QByteArray("{\"files\": [{\"path\""));
+    EXPECT_TRUE(Session::Load(path).has_value()); // this run's own
+}
+
+TEST_F(Memory, StaysAsItIsWhereItCannotBePutAside)
+{
+    const QString path = Session::DefaultPath();
+    ASSERT_TRUE(QDir().mkpath(path)); // a folder, which the system cannot rename onto another
+    ASSERT_TRUE(QDir().mkpath(path + QStringLiteral(".unreadable/full")));
+    Start();
+    ASSERT_EQ(m_prompts.told.size(), 1);
+    End();
+    EXPECT_TRUE(QFileInfo(path).isDir());
 }

@@ -23,7 +23,7 @@ protected:
     }
 
     QTemporaryDir folder;
-    QSettings settings{folder.filePath("settings.ini"), QSettings::IniFormat};
+    QString settings = folder.filePath("settings.ini");
     RecentFiles recent{settings};
 };
 
@@ -105,8 +105,7 @@ TEST_F(RecentFilesTest, CanBeCleared)
 
 TEST_F(RecentFilesTest, AreSharedByWindowsAndOutliveThem)
 {
-    QSettings others(settings.fileName(), QSettings::IniFormat);
-    RecentFiles other(others);
+    RecentFiles other(settings);
     recent.Add("/x/a.sql");
     other.Add("/x/b.sql");
     recent.Add("/x/c=d; \"e\", \u00E9%.sql");
@@ -115,7 +114,7 @@ TEST_F(RecentFilesTest, AreSharedByWindowsAndOutliveThem)
 
 TEST_F(RecentFilesTest, AreNotTakenOnTrustFromTheSettings)
 {
-    QFile file(settings.fileName());
+    QFile file(settings);
     ASSERT_TRUE(file.open(QFile::WriteOnly));
     file.write("[RecentFiles]\n1\\path=relative.sql\n2\\path=\n3\\path=/x/a.sql\n"
                "4\\path=/x/a.sql\n5\\path=/x/\\x0.sql\n6\\path=/" +
@@ -127,12 +126,39 @@ TEST_F(RecentFilesTest, AreNotTakenOnTrustFromTheSettings)
 
 TEST_F(RecentFilesTest, StandInTheSettingsOfTheWorkbench)
 {
-    QSettings own = places::Settings();
-    RecentFiles(own).Clear();
-    RecentFiles(own).Add("/x/a.sql");
-    QSettings again = places::Settings();
-    EXPECT_EQ(RecentFiles(again).Paths(), QStringList{"/x/a.sql"});
-    RecentFiles(own).Clear();
+    RecentFiles own(places::SettingsPath());
+    own.Clear();
+    own.Add("/x/a.sql");
+    EXPECT_EQ(RecentFiles(places::SettingsPath()).Paths(), QStringList{"/x/a.sql"});
+    own.Clear();
+}
+
+TEST_F(RecentFilesTest, AreReadAndWrittenAsQSettingsDoes)
+{
+    {
+        QSettings theirs(settings, QSettings::IniFormat);
+        theirs.setValue("Autosave/minutes", 7);
+        theirs.beginWriteArray("RecentFiles", 1);
+        theirs.setArrayIndex(0);
+        theirs.setValue("path", "/x/\u00E9, a.sql");
+        theirs.endArray();
+    }
+    EXPECT_EQ(recent.Paths(), QStringList{"/x/\u00E9, a.sql"});
+    EXPECT_TRUE(recent.Add("/x/b.sql"));
+    QSettings theirs(settings, QSettings::IniFormat);
+    EXPECT_EQ(theirs.value("Autosave/minutes").toInt(), 7);
+    ASSERT_EQ(theirs.beginReadArray("RecentFiles"), 2);
+    theirs.setArrayIndex(1);
+    EXPECT_EQ(theirs.value("path").toString(), "/x/\u00E9, a.sql");
+}
+
+TEST_F(RecentFilesTest, AreNotTakenForEmptyWhereTheyCannotBeRead)
+{
+    ASSERT_TRUE(QDir().mkpath(settings)); // a folder cannot be read
+    EXPECT_FALSE(recent.Add("/x/a.sql"));
+    EXPECT_FALSE(recent.Clear());
+    EXPECT_TRUE(recent.Paths().isEmpty());
+    EXPECT_TRUE(QFileInfo(settings).isDir());
 }
 
 TEST(RecentFileMenu, NamesEachFileSoThatItCanBeTold)

@@ -60,8 +60,8 @@ TEST(SessionData, IsEmptyWithoutAFileThatCanBeRead)
 {
     const QTemporaryDir folder;
     EXPECT_EQ(Session::Load(folder.filePath("missing.json")), Session());
-    EXPECT_EQ(Session::Load(folder.path()), Session());
-    EXPECT_EQ(Session::Load("/dev/zero"), Session());
+    EXPECT_EQ(Session::Load(folder.path()), std::nullopt);
+    EXPECT_EQ(Session::Load("/dev/zero"), std::nullopt);
     EXPECT_EQ(Session::Load(QString()), Session());
 }
 

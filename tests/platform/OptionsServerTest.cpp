@@ -1,6 +1,12 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "platform/services/OptionsServer.h"
 
+#include "platform/system/SpecialFolders.h"
+
+#include <QDir>
+#include <QFile>
+#include <QTemporaryDir>
+
 #include <gtest/gtest.h>
 
 #include <string_view>
@@ -8,6 +14,18 @@
 namespace {
 
 constexpr int kKey = 12345; // nobody's
+
+// A folder for settings of the test's own.
+class ConfigIn final : public ISpecialFolders
+{
+public:
+    explicit ConfigIn(QString path) : m_path(std::move(path)) { SetSpecialFolders(this); }
+    ~ConfigIn() override { SetSpecialFolders(nullptr); }
+    QString Config() const override { return m_path; }
+
+private:
+    QString m_path;
+};
 
 TEST(OptionsServer, KeepsWhatWasSet)
 {
@@ -34,6 +52,33 @@ TEST(OptionsServer, KeepsWhatWasSet)
     EXPECT_EQ(font.lfItalic, 1);
     EXPECT_EQ(font.lfUnderline, 0);
     EXPECT_EQ(std::u16string_view(font.lfFaceName), u"A, face");
+}
+
+TEST(OptionsServer, KeepsInForceWhatCannotBeWrittenAndTellsIt)
+{
+    const QTemporaryDir folder;
+    const ConfigIn config(folder.filePath(QStringLiteral("config")));
+    CZNOptionsServer server;
+    server.SetInt(kKey, 1);
+    EXPECT_TRUE(server.WasStored());
+    const QString path = folder.filePath(QStringLiteral("config/Marrowfield/ZNCoreEditor.ini"));
+    ASSERT_TRUE(QFile::remove(path) && QDir().mkpath(path)); // a folder in its place
+    server.SetInt(kKey, 2);
+    EXPECT_FALSE(server.WasStored());
+    EXPECT_TRUE(server.WasStored()); // told once
+    EXPECT_EQ(server.GetInt(kKey), 2);
+    EXPECT_EQ(CZNOptionsServer().GetInt(kKey), 0);
+}
+
+TEST(OptionsServer, SeesWhatOthersWrite)
+{
+    const QTemporaryDir folder;
+    const ConfigIn config(folder.filePath(QStringLiteral("config")));
+    CZNOptionsServer server;
+    CZNOptionsServer other;
+    EXPECT_EQ(server.GetInt(kKey), 0);
+    other.SetInt(kKey, 5);
+    EXPECT_EQ(server.GetInt(kKey), 5);
 }
 
 TEST(OptionsServer, KnowsNothingOfAKeyThatNobodySet)

@@ -346,3 +346,22 @@ TEST_F(XMLFile, TypedFamiliesGoThroughTheStringOperations)
 }
 
 } // namespace
+
+TEST_F(XMLFile, ReadsTheUsersCopyInThePlaceOfTheFileWhereThereIsOne)
+{
+    Put("f", "<A><B>file</B></A>");
+    Put("copy", "<A><B>copy</B></A>");
+    OpenXMLFile both(PathOf("f"));
+    both.SetUserCopy(PathOf("copy"));
+    EXPECT_EQ(both.GetStringFromXMLFile(u"A", u"B"), QStringLiteral("copy"));
+    OpenXMLFile without(PathOf("f"));
+    without.SetUserCopy(PathOf("missing"));
+    EXPECT_EQ(without.GetStringFromXMLFile(u"A", u"B"), QStringLiteral("file"));
+}
+
+TEST_F(XMLFile, NothingIsSetInAFileThatCannotBeRead)
+{
+    OpenXMLFile missing(PathOf("missing"));
+    EXPECT_FALSE(missing.SetStringAttributeToXMLFile(u"A", u"B", u"c", QStringLiteral("v")));
+    EXPECT_FALSE(missing.SetStringToXMLFile(u"A", u"B", QStringLiteral("v"), true));
+}

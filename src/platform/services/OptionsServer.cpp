@@ -1,14 +1,21 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "platform/services/OptionsServer.h"
 
+#include "platform/system/SettingsFile.h"
 #include "platform/system/SpecialFolders.h"
 
+#include <QFile>
 #include <QFontDatabase>
 #include <QFontInfo>
-#include <QSettings>
 #include <QStringList>
 
 #include <algorithm>
+#include <array>
+#include <map>
+#include <optional>
+#include <utility>
+
+#include <sys/stat.h>
 
 namespace {
 
@@ -109,9 +116,6 @@ CZNOptionsServer*& HostServer()
 
 } // namespace
 
-CZNOptionsServer::CZNOptionsServer() = default;
-CZNOptionsServer::~CZNOptionsServer() = default;
-
 CZNOptionsServer* CZNOptionsServer::GetObjectW()
 {
     static CZNOptionsServer own;
@@ -123,18 +127,87 @@ void SetOptionsServer(CZNOptionsServer* server)
     HostServer() = server;
 }
 
-QSettings& CZNOptionsServer::Store()
+// The file is read again when another one stands in its place; others write it whole.
+struct CZNOptionsServer::Stored
 {
-    if (!m_store || m_store->organizationName() != SettingsFolderName())
-        m_store = std::make_unique<QSettings>(QSettings::IniFormat, QSettings::UserScope,
-                                              SettingsFolderName(), QStringLiteral("ZNCoreEditor"));
-    return *m_store;
+    using Stamp = std::array<long long, 4>;
+
+    static Stamp StampOf(const QString& path)
+    {
+        struct stat status = {};
+        if (stat(QFile::encodeName(path).constData(), &status) != 0)
+            return {};
+        return {static_cast<long long>(status.st_ino), status.st_size, status.st_mtim.tv_sec,
+                status.st_mtim.tv_nsec};
+    }
+
+    void Refresh()
+    {
+        const Stamp found = StampOf(path);
+        if (isRead && found == stamp)
+            return;
+        std::optional<SettingsText> read = settingsfile::Read(path);
+        if (!read)
+            return; // tried again
+        text = std::move(*read);
+        stamp = found;
+        isRead = true;
+    }
+
+    static QString CurrentPath()
+    {
+        return settingsfile::PathOf(SettingsFolderName() + QLatin1String("/ZNCoreEditor.ini"));
+    }
+
+    const QString path = CurrentPath();
+    SettingsText text{QByteArray()};
+    Stamp stamp = {};
+    bool isRead = false;
+    std::map<QString, QString> onlyHere; // what could not be written
+    bool hasFailed = false;
+};
+
+CZNOptionsServer::CZNOptionsServer() = default;
+CZNOptionsServer::~CZNOptionsServer() = default;
+
+QString CZNOptionsServer::Value(int key)
+{
+    if (!m_stored || m_stored->path != Stored::CurrentPath())
+        m_stored = std::make_unique<Stored>();
+    const QString name = NameOf(key);
+    if (const auto kept = m_stored->onlyHere.find(name); kept != m_stored->onlyHere.end())
+        return kept->second;
+    m_stored->Refresh();
+    return m_stored->text.Value(name).value_or(QString());
+}
+
+void CZNOptionsServer::SetValue(int key, const QString& value)
+{
+    const QString given = value.isNull() ? QStringLiteral("") : value;
+    if (Value(key) == given && !Value(key).isNull())
+        return;
+    const QString name = NameOf(key);
+    const auto outcome = settingsfile::Change(m_stored->path, [&](SettingsText& text) {
+        text.SetValue(name, given);
+        return true;
+    });
+    m_stored->text.SetValue(name, given); // should the file not be read again
+    m_stored->onlyHere.erase(name);
+    if (outcome == settingsfile::Outcome::Failed) {
+        m_stored->onlyHere[name] = given;
+        m_stored->hasFailed = true;
+    }
+}
+
+bool CZNOptionsServer::WasStored()
+{
+    return !m_stored || !std::exchange(m_stored->hasFailed, false);
 }
 
 int CZNOptionsServer::GetInt(int key)
 {
     bool isNumber = false;
-    const int value = Store().value(NameOf(key)).toInt(&isNumber);
+    const int value = Value(key).toInt(&isNumber);
     return isNumber ? value : DefaultOf(key);
 }
 
@@ -145,12 +218,12 @@ bool CZNOptionsServer::GetBool(int key)
 
 QString CZNOptionsServer::GetString(int key)
 {
-    return Store().value(NameOf(key)).toString();
+    return Value(key);
 }
 
 bool CZNOptionsServer::GetLOGFONT(int key, LOGFONT* font)
 {
-    if (ReadFont(Store().value(NameOf(key)).toString(), *font))
+    if (ReadFont(Value(key), *font))
         return true;
     if (key != option::EditorFont)
         return false;
@@ -160,15 +233,15 @@ bool CZNOptionsServer::GetLOGFONT(int key, LOGFONT* font)
 
 void CZNOptionsServer::SetInt(int key, int value)
 {
-    Store().setValue(NameOf(key), value);
+    SetValue(key, QString::number(value));
 }
 
 void CZNOptionsServer::SetString(int key, const QString& value)
 {
-    Store().setValue(NameOf(key), value);
+    SetValue(key, value);
 }
 
 void CZNOptionsServer::SetLOGFONT(int key, const LOGFONT* font)
 {
-    Store().setValue(NameOf(key), Text(*font));
+    SetValue(key, Text(*font));
 }

@@ -10,8 +10,6 @@
 
 #include <memory>
 
-class QSettings;
-
 class ZN_API CZNOptionsServer
 {
 public:
@@ -33,11 +31,17 @@ public:
     virtual void SetInt(int key, int value);
     virtual void SetString(int key, const QString& value);
     virtual void SetLOGFONT(int key, const LOGFONT* font);
+    // False if something that was set since the last call could not be written: it is in force as
+    // long as this server, and the file is as it was.
+    virtual bool WasStored();
 
 private:
-    QSettings& Store();
+    struct Stored;
 
-    std::unique_ptr<QSettings> m_store; // opened when it is first asked
+    QString Value(int key); // null if there is none
+    void SetValue(int key, const QString& value);
+
+    std::unique_ptr<Stored> m_stored;
 };
 
 // The server takes effect at once and stays the caller's; null brings back the default. Editors

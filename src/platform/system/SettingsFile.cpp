@@ -2,14 +2,12 @@
 #include "platform/system/SettingsFile.h"
 
 #include "platform/file/DiskFile.h"
-#include "platform/system/SettingsText.h"
 #include "platform/system/SpecialFolders.h"
 
 #include <QDir>
 #include <QFile>
 
 #include <cerrno>
-#include <functional>
 
 #include <fcntl.h>
 #include <sys/file.h>
@@ -49,8 +47,9 @@ private:
     int m_file = -1;
 };
 
-// Nothing if there is a file that cannot be read.
-std::optional<SettingsText> Load(const QString& path)
+} // namespace
+
+std::optional<SettingsText> Read(const QString& path)
 {
     errno = 0;
     if (const std::optional<QByteArray> bytes = ReadWholeFile(path))
@@ -60,19 +59,16 @@ std::optional<SettingsText> Load(const QString& path)
     return std::nullopt;
 }
 
-// The change tells whether there was anything to do.
 Outcome Change(const QString& path, const std::function<bool(SettingsText&)>& change)
 {
     const WriteGuard guard(path);
-    std::optional<SettingsText> text = Load(path);
+    std::optional<SettingsText> text = Read(path);
     if (!text)
         return Outcome::Failed;
     if (!change(*text))
         return Outcome::NothingThere;
     return WriteWholeFile(path, text->Bytes()) ? Outcome::Done : Outcome::Failed;
 }
-
-} // namespace
 
 QString PathOf(const QString& relative)
 {
@@ -91,12 +87,12 @@ QString Segment(const QString& name)
 
 bool CanRead(const QString& path)
 {
-    return Load(path).has_value();
+    return Read(path).has_value();
 }
 
 std::optional<QString> ReadValue(const QString& path, const QString& key)
 {
-    const std::optional<SettingsText> text = Load(path);
+    const std::optional<SettingsText> text = Read(path);
     return text ? text->Value(key) : std::nullopt;
 }
 

@@ -5,22 +5,29 @@
 // write, so the files are read and written here.
 #pragma once
 
+#include "common/Export.h"
+#include "platform/system/SettingsText.h"
+
 #include <QString>
 
+#include <functional>
 #include <optional>
 
 namespace settingsfile {
 
 // The path of a file below the user's folder for settings.
-QString PathOf(const QString& relative);
+ZN_API QString PathOf(const QString& relative);
 
 // A name as one segment of a key. A slash would begin a group, and no segment may be empty.
-QString Segment(const QString& name);
+ZN_API QString Segment(const QString& name);
 
 // Keys are segments with slashes between them. Nothing for a key that is not there, that holds
 // something else than one text, or whose file cannot be read.
-std::optional<QString> ReadValue(const QString& path, const QString& key);
-bool CanRead(const QString& path); // true also if there is no file
+ZN_API std::optional<QString> ReadValue(const QString& path, const QString& key);
+ZN_API bool CanRead(const QString& path); // true also if there is no file
+
+// All of it. Nothing if there is a file that cannot be read; an empty text if there is none.
+ZN_API std::optional<SettingsText> Read(const QString& path);
 
 // Each is on disk when it returns. What others write at the same time is kept.
 enum class Outcome
@@ -29,8 +36,10 @@ enum class Outcome
     NothingThere, // nothing had to be removed
     Failed,       // the file could not be read or written, and is as it was
 };
-Outcome WriteValue(const QString& path, const QString& key, const QString& value);
-Outcome RemoveValue(const QString& path, const QString& key); // not the group of that name
-Outcome RemoveGroup(const QString& path, const QString& group);
+// The change gives false if nothing has to be written.
+ZN_API Outcome Change(const QString& path, const std::function<bool(SettingsText&)>& change);
+ZN_API Outcome WriteValue(const QString& path, const QString& key, const QString& value);
+ZN_API Outcome RemoveValue(const QString& path, const QString& key); // not the group of that name
+ZN_API Outcome RemoveGroup(const QString& path, const QString& group);
 
 } // namespace settingsfile

@@ -3,13 +3,15 @@
 // asks about stay as they are. Knows no file.
 #pragma once
 
+#include "common/Export.h"
+
 #include <QByteArray>
 #include <QList>
 #include <QString>
 
 #include <optional>
 
-class SettingsText
+class ZN_API SettingsText
 {
 public:
     explicit SettingsText(const QByteArray& bytes);

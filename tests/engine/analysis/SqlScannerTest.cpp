@@ -121,6 +121,15 @@ TEST(SqlScanner, ClosesADollarStringWithItsOwnTagOnly)
     EXPECT_THAT(Tokens(3, "$$"), ElementsAre("o:$", "o:$"));
 }
 
+TEST(SqlScanner, NoDollarStringBeginsWithADigit)
+{
+    using testing::Contains;
+    using testing::StartsWith;
+    for (const char digit : std::string("0123456789"))
+        EXPECT_THAT(TokensOf("postgresql", std::string("$") + digit + "$ a"),
+                    testing::Not(Contains(StartsWith("S:"))));
+}
+
 TEST(SqlScanner, KnowsVariablesAndCasts)
 {
     EXPECT_THAT(Tokens(3, "@a @@b a@c"), ElementsAre("V:@a", "V:@@b", "W:a@c"));
