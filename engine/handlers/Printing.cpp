@@ -21,6 +21,8 @@ class PrintStyles
 public:
     explicit PrintStyles(Engine& engine) : m_engine(engine)
     {
+        for (const int lit : {kOccurrenceIndicator, kMatchIndicator}) // for the eye on the screen
+            Put(Sci::SCI_INDICGETSTYLE, Sci::SCI_INDICSETSTYLE, lit, Sci::INDIC_HIDDEN);
         const PrintStyle& print = engine.print;
         for (int style = 0; style < kStyles; ++style) {
             if (print.bold)

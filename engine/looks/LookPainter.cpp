@@ -17,8 +17,6 @@ namespace {
 using Sci = QsciScintillaBase;
 using WPARAM = std::uintptr_t;
 
-constexpr int kOccurrenceIndicator = 28;
-constexpr int kMatchIndicator = 29;
 constexpr int kNumberMargin = 1;
 constexpr int kSymbolMargin = 2;
 constexpr int kFoldMargin = 3;

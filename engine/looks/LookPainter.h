@@ -19,6 +19,9 @@ class QPainter;
 
 namespace engine {
 
+inline constexpr int kOccurrenceIndicator = 28;
+inline constexpr int kMatchIndicator = 29;
+
 class LookPainter
 {
 public:

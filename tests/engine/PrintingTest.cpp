@@ -2,6 +2,8 @@
 // FormatRange: pages that cover the text, and what differs on paper.
 #include "tests/engine/EngineFixture.h"
 
+#include "control/EngineLooks.h"
+
 #include <QBuffer>
 #include <QImage>
 #include <QPainter>
@@ -217,6 +219,20 @@ TEST_F(Printing, PrintStylesHoldOnPaperOnly)
     m_engine.Send(msg::PrintStyleSetItalic, 0);
     m_engine.Send(msg::PrintStyleSetFont, 0, u"DejaVu Serif");
     EXPECT_NE(Drawn(), plain);
+    EXPECT_EQ(m_engine.Window()->grab().toImage(), screen);
+}
+
+TEST_F(Printing, WhatIsLitOnTheScreenIsNotOnPaper)
+{
+    engine::Looks looks;
+    looks.match = 0x0000FF;
+    m_engine.SetText(u"some text of a script");
+    m_engine.Send(engine::kSetLooks, 0, &looks);
+    const QImage plain = Drawn();
+    m_engine.Send(engine::kShowMatches, 0, u"text");
+    const QImage screen = m_engine.Window()->grab().toImage();
+    EXPECT_TRUE(HasColour(screen));
+    EXPECT_EQ(Drawn(), plain);
     EXPECT_EQ(m_engine.Window()->grab().toImage(), screen);
 }
 
