@@ -217,7 +217,7 @@ QVariant ResultsModel::MatchData(const Entry& entry, std::size_t row, int role) 
 {
     const FileMatch& match = entry.found.matches[row];
     const QString replacement = OnOneLine(match.replacement);
-    const auto end = static_cast<qsizetype>(match.column - match.textColumn + match.length);
+    const qsizetype end = match.column - match.textColumn + match.length;
     switch (role) {
     case Qt::DisplayRole:
         if (!m_replaces)

@@ -46,6 +46,12 @@ void WorkbenchPrinter::SavePdf(CView& view, const QString& path)
         current->m_pdf.clear();
 }
 
+void WorkbenchPrinter::CutPreview()
+{
+    if (current)
+        current->m_previewIsCut = true;
+}
+
 // Into a PDF goes the whole text: nobody has been asked whether the selection alone is meant.
 std::unique_ptr<QPrinter> WorkbenchPrinter::ChoosePrinter(HWND owner, PRINTDLG& record)
 {
@@ -64,9 +70,14 @@ void WorkbenchPrinter::Preview(HWND owner, const QString& title,
 {
     QPrinter printer(QPrinter::HighResolution);
     QPrintPreviewDialog dialog(&printer, owner ? owner->window() : nullptr);
-    dialog.setWindowTitle(title + QStringLiteral(" – print preview"));
-    QObject::connect(&dialog, &QPrintPreviewDialog::paintRequested, &dialog,
-                     [&](QPrinter* paper) { print(*paper); });
+    QObject::connect(&dialog, &QPrintPreviewDialog::paintRequested, &dialog, [&](QPrinter* paper) {
+        m_previewIsCut = false;
+        print(*paper);
+        QString shown = title + QStringLiteral(" – print preview");
+        if (m_previewIsCut)
+            shown += QStringLiteral(", the first %1 pages").arg(kMostPreviewed);
+        dialog.setWindowTitle(shown);
+    });
     if (owner)
         dialog.resize(owner->window()->size() * 9 / 10);
     dialog.exec();

@@ -18,6 +18,11 @@ public:
     WorkbenchPrinter(); // takes effect
     ~WorkbenchPrinter() override;
 
+    // Every page of a preview is kept as a picture.
+    static constexpr unsigned kMostPreviewed = 300;
+    // To be called while the pages of a preview are found: there are more of them.
+    static void CutPreview();
+
     // Prints all of the view's text into a PDF. The file is there once it is whole.
     static void SavePdf(CView& view, const QString& path);
 
@@ -39,4 +44,5 @@ private:
     QElapsedTimer m_shown;
     QPointer<QProgressDialog> m_progress;
     bool m_isStopped = false;
+    bool m_previewIsCut = false;
 };

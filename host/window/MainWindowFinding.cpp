@@ -5,6 +5,7 @@
 #include "editing/ZNCoreEditorControlEx.h"
 #include "host/finding/FoundTexts.h"
 #include "host/finding/ResultsPane.h"
+#include "host/problems/ProblemPane.h"
 #include "host/script/ScriptDoc.h"
 #include "host/script/ScriptFrame.h"
 #include "host/script/ScriptView.h"
@@ -118,6 +119,7 @@ void MainWindow::BuildResults()
         connect(pane, &ResultsPane::Chosen, this, &MainWindow::ShowMatch);
         m_results.push_back(pane);
     }
+    tabifyDockWidget(m_problems, m_results[0]); // each has the window's whole width
     tabifyDockWidget(m_results[0], m_results[1]);
     m_shownResults = m_results[0];
     m_searchLine = MakeSearchLine();

@@ -129,6 +129,23 @@ TEST_F(PrintingScripts, ShowsPagesBesideEachOther)
     EXPECT_GE(pages, 3);
 }
 
+TEST_F(PrintingScripts, PreviewsNoMoreThanItCanKeep)
+{
+    Open("a.sql", QByteArray("select 1 from first;\n").repeated(60000));
+    int pages = 0;
+    QString title;
+    QTimer::singleShot(0, [&] {
+        auto* dialog = qobject_cast<QPrintPreviewDialog*>(QApplication::activeModalWidget());
+        ASSERT_TRUE(dialog);
+        pages = dialog->findChild<QPrintPreviewWidget*>()->pageCount();
+        title = dialog->windowTitle();
+        dialog->reject();
+    });
+    Trigger("printPreview");
+    EXPECT_EQ(pages, int(WorkbenchPrinter::kMostPreviewed));
+    EXPECT_EQ(title, QString::fromUtf8("a.sql – print preview, the first 300 pages"));
+}
+
 TEST_F(PrintingScripts, ShowsTheStepOfALongJobAndStopsIt)
 {
     QElapsedTimer clock;

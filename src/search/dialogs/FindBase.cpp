@@ -7,6 +7,7 @@
 #include "platform/windows/Disposal.h"
 #include "platform/windows/Questions.h"
 #include "search/FindReplaceManager.h"
+#include "search/dialogs/FaultLine.h"
 #include "search/dialogs/FindControls.h"
 #include "search/dialogs/PatternMenus.h"
 
@@ -91,6 +92,16 @@ void CFindBase::BuildFindRow(QGridLayout& grid)
     BuildBox(findcontrol::FindBox, QStringLiteral("Find &what"), QStringLiteral("Text to look for"),
              findcontrol::FindMenu, grid);
     GetDlgItem<CMenuButton>(findcontrol::FindMenu)->SetItems(ExpressionItems());
+    m_fault = new FaultLine;
+    grid.addWidget(m_fault, grid.rowCount(), 1, 1, 2);
+    QObject::connect(&Box(findcontrol::FindBox), &QComboBox::editTextChanged, m_fault,
+                     [this] { ShowFault(); });
+}
+
+void CFindBase::ShowFault()
+{
+    m_fault->Show(Box(findcontrol::FindBox).currentText(),
+                  GetDlgItem<QAbstractButton>(findcontrol::RegExp)->isChecked());
 }
 
 QWidget* CFindBase::BuildOptions()
@@ -195,6 +206,7 @@ void CFindBase::OnRegExp()
 {
     const bool on = GetDlgItem<QCheckBox>(findcontrol::RegExp)->isChecked();
     GetDlgItem(findcontrol::FindMenu)->setEnabled(on);
+    ShowFault();
 }
 
 void CFindBase::OnInsert(UINT box, const QString& row)

@@ -7,6 +7,7 @@
 #include "platform/dialogs/Dialog.h"
 
 class CMyComboBox;
+class FaultLine;
 class CMenuButton;
 class CZNCoreEditorControlEx;
 class QGridLayout;
@@ -43,6 +44,7 @@ protected:
     virtual void ShowOptions(); // from the manager
     void WriteOptions();        // to the manager
     virtual void OnRegExp();
+    void ShowFault(); // of the expression that is typed
     void OnInsert(UINT box, const QString& row);
 
     virtual void OnFind() = 0;
@@ -60,4 +62,7 @@ protected:
 
     CZNCoreEditorControlEx* m_control = nullptr;
     QString m_text; // to begin with
+
+private:
+    FaultLine* m_fault = nullptr;
 };

@@ -7,6 +7,7 @@
 #include "platform/windows/Questions.h"
 #include "prefs/controls/FileEditCtrl.h"
 #include "search/FindReplaceManager.h"
+#include "search/dialogs/FaultLine.h"
 #include "search/dialogs/FindControls.h"
 #include "search/dialogs/PatternMenus.h"
 
@@ -79,6 +80,10 @@ void CFindInFilesDlg::OnBuild(QWidget* window)
     QObject::connect(menu, &CMenuButton::Chosen, window,
                      [this](const QString& row) { OnInsert(row); });
     grid->addWidget(menu, grid->rowCount() - 1, 2);
+    m_fault = new FaultLine;
+    grid->addWidget(m_fault, grid->rowCount(), 1, 1, 2);
+    QObject::connect(&Box(findcontrol::FindBox), &QComboBox::editTextChanged, m_fault,
+                     [this] { ShowFault(); });
 
     auto* inFiles =
         AddControl(findcontrol::InFiles, new QRadioButton(QStringLiteral("In files/file t&ypes")));
@@ -206,6 +211,12 @@ void CFindInFilesDlg::OnWhere()
 void CFindInFilesDlg::OnRegExp()
 {
     GetDlgItem(findcontrol::FindMenu)->setEnabled(IsChecked(findcontrol::RegExp));
+    ShowFault();
+}
+
+void CFindInFilesDlg::ShowFault()
+{
+    m_fault->Show(Box(findcontrol::FindBox).currentText(), IsChecked(findcontrol::RegExp));
 }
 
 void CFindInFilesDlg::OnAdvanced()

@@ -9,6 +9,7 @@
 #include <QStringList>
 
 class CMyComboBox;
+class FaultLine;
 class QGridLayout;
 
 class ZN_API CFindInFilesDlg final : public CDialog
@@ -36,6 +37,7 @@ private:
 
     void OnWhere(); // which controls take part
     void OnRegExp();
+    void ShowFault(); // of the expression that is typed
     void OnAdvanced();
     void OnAddFolder();
     void OnFolderPicked();
@@ -45,4 +47,5 @@ private:
 
     bool m_bAdvancedOpen = false;
     QWidget* m_advanced = nullptr;
+    FaultLine* m_fault = nullptr;
 };

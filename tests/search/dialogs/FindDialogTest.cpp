@@ -7,6 +7,7 @@
 #include "search/dialogs/PatternMenus.h"
 
 #include <QAction>
+#include <QLabel>
 #include <QMenu>
 #include <QTest>
 
@@ -31,6 +32,18 @@ TEST_F(FindDialogs, FindNothingSilentlyAndAskForATextToReplace)
     Click(replace, findcontrol::Find);
     Click(replace, findcontrol::ReplaceAll);
     EXPECT_EQ(user.read, QStringList({"Enter find string", "Enter find string"}));
+}
+
+TEST_F(FindDialogs, SayWhatIsWrongWithAnExpressionAsItIsTyped)
+{
+    CFindDialog& find = Find(u"\\(a");
+    const auto* fault = find.GetSafeHwnd()->findChild<QLabel*>("fault");
+    EXPECT_EQ(fault->text(), "");
+    Click(find, findcontrol::RegExp);
+    EXPECT_EQ(fault->text(), "The expression is not complete.");
+    EXPECT_EQ(fault->accessibleName(), fault->text());
+    find.GetDlgItem<QComboBox>(findcontrol::FindBox)->setEditText("\\(a\\)");
+    EXPECT_EQ(fault->text(), "");
 }
 
 TEST_F(FindDialogs, TakeEachOthersPlace)

@@ -7,6 +7,7 @@
 #include "search/dialogs/FindInFilesDlg.h"
 
 #include <QDir>
+#include <QLabel>
 #include <QPushButton>
 #include <QTemporaryDir>
 #include <QTimer>
@@ -50,6 +51,17 @@ TEST_F(FindInFiles, AsksForATextBeforeAnythingElse)
         EXPECT_TRUE(dialog.GetSafeHwnd()->isVisible());
     });
     EXPECT_EQ(user.read, QStringList("Enter Find String!"));
+}
+
+TEST_F(FindInFiles, SaysWhatIsWrongWithAnExpressionAsItIsTyped)
+{
+    Run([this] {
+        Set(findcontrol::FindBox, "[a");
+        const auto* fault = dialog.GetSafeHwnd()->findChild<QLabel*>("fault");
+        EXPECT_EQ(fault->text(), "");
+        dialog.GetDlgItem<QAbstractButton>(findcontrol::RegExp)->click();
+        EXPECT_EQ(fault->text(), "The expression cannot be read from character 1 on.");
+    });
 }
 
 TEST_F(FindInFiles, AsksForTypesThenForAPath)
