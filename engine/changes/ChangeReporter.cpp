@@ -147,9 +147,15 @@ void ChangeReporter::Connect()
                      [this](int updated) { Tell(notify::UpdateUi, {.updated = updated}); });
     QObject::connect(&m_window, &Sci::SCN_MODIFYATTEMPTRO, &m_window,
                      [this] { Tell(notify::ModifyAttemptReadOnly); });
+    // Of what is about to change: another window may have noted that change by now.
     QObject::connect(&m_window, &Sci::SCN_NEEDSHOWN, &m_window, [this](int position, int length) {
+        ++s_noting;
+        ++s_inside;
+        Flush();
         Tell(notify::NeedShown,
              {.position = Units(position), .length = Units(position + length) - Units(position)});
+        --s_inside;
+        --s_noting;
     });
     QObject::connect(&m_window, &Sci::SCN_PAINTED, &m_window, [this] { Tell(notify::Painted); });
     QObject::connect(&m_window, &Sci::SCN_ZOOM, &m_window, [this] { Tell(notify::Zoom); });

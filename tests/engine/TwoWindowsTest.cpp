@@ -66,6 +66,26 @@ TEST_F(TwoWindows, BothHearOfAChangeInOne)
     }
 }
 
+TEST_F(TwoWindows, AHandlerBeforeAChangeDoesNotSeeItAsDone)
+{
+    const auto ask = [](Listener& listener, const SCNotification&) {
+        SendMessage(listener.editor, msg::GetLength, 0, 0);
+    };
+    m_second->Send(msg::HideLines, 1, 2);
+    for (EngineUnderTest* engine : {&m_first, m_second.get()}) {
+        engine->Parent().editor = engine->Window();
+        engine->Parent().onNotify = ask;
+    }
+    m_first.Send(msg::SetSel, 2, 3);
+    Type(m_first, u"long\r\nlines");
+    for (EngineUnderTest* engine : {&m_first, m_second.get()}) {
+        const auto news = engine->Parent().Of(notify::Modified);
+        ASSERT_EQ(news.size(), 2u);
+        EXPECT_EQ(news[0].text, u"n");
+        EXPECT_EQ(news[1].text, u"long\r\nlines");
+    }
+}
+
 TEST_F(TwoWindows, PositionsAgreeInBoth)
 {
     m_second->Send(msg::GotoPos, 12);
