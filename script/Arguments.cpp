@@ -36,6 +36,8 @@ enum Option : unsigned
     Eol = 128,
     Separator = 256,
     Terminator = 512,
+    ScriptFolder = 1024,
+    Strict = 2048,
 };
 
 struct OptionRow
@@ -48,11 +50,13 @@ struct OptionRow
 
 // clang-format off
 constexpr OptionRow kOptions[] = {
-    {Path,      "path",      "DIR;DIR",    "Folders for included files, looked through in order. The script's own folder is not one of them."},
+    {Path,      "path",      "DIR;DIR",    "Folders for included files, looked through in order. The script's own folder is not one of them without --script-folder."},
+    {ScriptFolder, "script-folder", nullptr, "Included files are looked for beside the script first; for the standard input, in the current folder."},
+    {Strict,    "strict",    nullptr,      "Variables that nothing defines and definitions that define nothing are problems, and nothing is written."},
     {Define,    "define",    "NAME=VALUE", "The variable &&NAME has this value, whatever the script defines. May be given several times."},
     {Encoding,  "encoding",  "ENCODING",   "The encoding of the result; that of the script if it is not given."},
     {Output,    "output",    "FILE",       "Where the result goes; to the standard output if it is not given."},
-    {Language,  "language",  "NAME",       "The language of the script, as the editor's menu names it. If it is not given: SQL to expand, else what the file's name tells."},
+    {Language,  "language",  "NAME",       "The language of the script, as the editor's menu names it. If it is not given: SQL to expand and for the standard input, else what the file's name tells."},
     {To,        "to",        "ENCODING",   "The encoding that the files get."},
     {Mark,      "mark",      nullptr,      "The files get a byte-order mark."},
     {Separator, "separator", "TEXT",       "What stands alone on a line between two batches; that of the language if it is not given, none if it is empty."},
@@ -66,15 +70,27 @@ struct CommandRow
     unsigned options;
     const char* files;
     const char* text;
+    const char* more; // below the options; null: nothing
 };
 
+constexpr const char* kSyntax =
+    "\n"
+    "In a script:\n"
+    "  #include NAME           The text of the file stands below the line. NAME may stand in <> or\n"
+    "                          in double quotes. A line that was met before is not expanded again.\n"
+    "  #define &&NAME VALUE    From here on &&NAME stands for VALUE, in strings too. NAME has\n"
+    "                          letters, digits and _, and differs by case; its first definition\n"
+    "                          counts. VALUE may end in another variable.\n"
+    "Lines that were dealt with become comments. Nothing in a comment is looked at. A variable\n"
+    "that was used above its definition has none.\n";
+
 constexpr CommandRow kCommands[] = {
-    {"expand",  Path | Define | Encoding | Mark | Output | Language | Eol, "FILE",
-     "Writes a script with its #include and #define lines and its && variables expanded."},
+    {"expand",  Path | ScriptFolder | Strict | Define | Encoding | Mark | Output | Language | Eol, "FILE",
+     "Writes a script with its #include and #define lines and its && variables expanded.", kSyntax},
     {"batches", Language | Separator | Terminator, "FILE...",
-     "Lists the batches of scripts, a line for each, by the line that they start on."},
-    {"convert", To | Mark | Eol, "FILE...", "Brings files to an encoding, each in its place."},
-    {"detect",  0, "FILE...", "Tells the encoding and the line ends of files, a line for each."},
+     "Lists the batches of scripts, a line for each, by the line that they start on.", nullptr},
+    {"convert", To | Mark | Eol, "FILE...", "Brings files to an encoding, each in its place; the standard input to the standard output.", nullptr},
+    {"detect",  0, "FILE...", "Tells the encoding and the line ends of files, a line for each.", nullptr},
 };
 // clang-format on
 
@@ -89,7 +105,8 @@ constexpr const char* kOverview =
     "  convert  Brings files to an encoding, each in its place.\n"
     "  detect   Tells the encoding and the line ends of files, a line for each.\n"
     "\n"
-    "znscript COMMAND --help tells the options of a command.\n"
+    "znscript COMMAND --help tells the options of a command, znscript --version which one it is.\n"
+    "A FILE of - is the standard input.\n"
     "Encodings: utf-8, utf-16le, utf-16be, utf-32le, utf-32be, windows-1252. Line ends: lf, crlf,\n"
     "cr.\n"
     "Problems go to the standard error as file:line: message. The exit code is 0 if there were\n"
@@ -161,6 +178,9 @@ QString TakeOptions(const QCommandLineParser& parser, unsigned options, Argument
         arguments.terminator = parser.value(QStringLiteral("terminator"));
     if (options & Mark)
         arguments.mark = parser.isSet(QStringLiteral("mark"));
+    arguments.scriptFolder =
+        options & ScriptFolder && parser.isSet(QStringLiteral("script-folder"));
+    arguments.strict = options & Strict && parser.isSet(QStringLiteral("strict"));
     if (options & Define)
         error = TakeVariables(parser.values(QStringLiteral("define")), arguments);
     if (error.isEmpty() && options & Encoding)
@@ -193,8 +213,9 @@ QString HelpText(const QCommandLineParser& parser, const CommandRow& command)
 {
     const QString name = QLatin1String(command.name);
     return parser.helpText()
-        .replace(QCoreApplication::arguments().front(), QLatin1String("znscript"))
-        .replace(QLatin1String("[options] ") + name, name + QLatin1String(" [options]"));
+               .replace(QCoreApplication::arguments().front(), QLatin1String("znscript"))
+               .replace(QLatin1String("[options] ") + name, name + QLatin1String(" [options]")) +
+           QLatin1String(command.more);
 }
 
 QString Sentence(const QString& text)
@@ -245,6 +266,8 @@ Arguments ParseArguments(const QStringList& commandLine)
     else if (arguments.command == QLatin1String("--help") ||
              arguments.command == QLatin1String("-h"))
         arguments.help = QLatin1String(kOverview);
+    else if (arguments.command == QLatin1String("--version"))
+        arguments.help = QStringLiteral("znscript " ZN_VERSION);
     else if (arguments.command.isEmpty())
         arguments.error = QStringLiteral("There is no command. znscript --help tells them.");
     else

@@ -16,8 +16,8 @@ struct EncodingName
 
 struct Arguments
 {
-    QString command; // "expand", "batches", "convert" or "detect"
-    QStringList files;
+    QString command;   // "expand", "batches", "convert" or "detect"
+    QStringList files; // "-": the standard input
     QString searchPath;
     std::map<QString, QString> variables; // with their ampersands
     std::optional<int> encoding;          // none: that of the file
@@ -27,8 +27,10 @@ struct Arguments
     QString terminator;               // of statements; empty: ;
     std::optional<QString> separator; // of batches; none: that of the language
     QString output;                   // empty: the standard output
+    bool scriptFolder = false;        // included files may stand beside the script
+    bool strict = false;              // what the pre-processor leaves behind is a problem
 
-    QString help;  // not empty: it is asked for
+    QString help;  // not empty: it, or the version, is asked for
     QString error; // not empty: a sentence that tells what is wrong
 };
 

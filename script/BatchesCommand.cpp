@@ -48,10 +48,12 @@ bool ListBatches(CZNCoreEditorControlEx& control, const QString& path)
 bool ListBatchesOf(const QString& path, const Arguments& arguments)
 {
     ScriptFile file;
-    if (arguments.language.isEmpty())
-        file.SetLanguage(LanguageOfFile(path));
-    else
+    if (!arguments.language.isEmpty())
         file.SetLanguage(arguments.language);
+    else if (path == kStandardInput)
+        file.SetLanguage(QStringLiteral("SQL"));
+    else
+        file.SetLanguage(LanguageOfFile(path));
     if (const QString problem = file.Read(path); !problem.isEmpty()) {
         Report(path, problem);
         return false;

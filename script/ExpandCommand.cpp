@@ -1,10 +1,13 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 // znscript expand: a script as it is to be run.
 #include "preprocess/CompileManager.h"
+#include "preprocess/Leftovers.h"
 #include "script/Arguments.h"
 #include "script/Commands.h"
 #include "script/Problems.h"
 #include "script/ScriptFile.h"
+
+#include <QFileInfo>
 
 namespace {
 
@@ -23,6 +26,28 @@ void ReportFailures(CZNCoreEditorControlEx& control, const QString& script)
         for (const SourceLine& site : map.IncludedFrom(line))
             Report(NameOf(site, script), site.line, QStringLiteral("included from here"));
     }
+}
+
+// True if there are any.
+bool ReportLeftovers(CZNCoreEditorControlEx& control, const QString& script)
+{
+    const SourceMap& map = zncoreeditor::GetCompileManager()->GetSourceMap();
+    const std::vector<Leftover> found = FindLeftovers(control);
+    for (const Leftover& one : found) {
+        const SourceLine place = map.Locate(control.LineFromPosition(one.start, 1));
+        Report(NameOf(place, script), place.line, one.text);
+    }
+    return !found.empty();
+}
+
+// The folders that are looked through, the script's own first.
+QString SearchPath(const Arguments& arguments)
+{
+    if (!arguments.scriptFolder)
+        return arguments.searchPath;
+    const QString& script = arguments.files.front();
+    const QString own = script == kStandardInput ? QStringLiteral(".") : QFileInfo(script).path();
+    return own + u';' + arguments.searchPath;
 }
 
 // An included file may hold what is no text, of which the editor keeps what comes before.
@@ -68,7 +93,7 @@ int Expand(const Arguments& arguments)
     }
     CZNCoreEditorControlEx& control = file.Control();
     const int lineEnds = arguments.lineEnds.value_or(file.LineEndMode());
-    control.SetDatasourceSearchPath(arguments.searchPath);
+    control.SetDatasourceSearchPath(SearchPath(arguments));
     zncoreeditor::GetCompileManager()->SetPredefined(arguments.variables);
     QString text;
     control.GetWindowTextW(text);
@@ -76,7 +101,7 @@ int Expand(const Arguments& arguments)
         ReportFailures(control, script);
         return kProblems;
     }
-    if (!ReportIncludedFiles())
+    if (!ReportIncludedFiles() || (arguments.strict && ReportLeftovers(control, script)))
         return kProblems;
     UnifyLineEnds(control, lineEnds);
     const int encoding = arguments.encoding.value_or(control.GetEncoding());

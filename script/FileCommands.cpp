@@ -17,7 +17,7 @@ bool ConvertFile(const QString& path, const Arguments& arguments)
         Report(path, problem);
         return false;
     }
-    if (const int line = file.FirstLineChanged(path); line >= 0) {
+    if (const int line = file.FirstLineChanged(); line >= 0) {
         Report(path, line, QStringLiteral("a character is half of a pair, which cannot be kept"));
         return false;
     }
@@ -27,7 +27,8 @@ bool ConvertFile(const QString& path, const Arguments& arguments)
     }
     if (arguments.lineEnds)
         file.Control().ConvertEOLs(*arguments.lineEnds, 1);
-    const QString problem = file.Write(path, *arguments.encoding, arguments.mark);
+    const QString target = path == kStandardInput ? QString() : path;
+    const QString problem = file.Write(target, *arguments.encoding, arguments.mark);
     if (!problem.isEmpty())
         Report(path, problem);
     return problem.isEmpty();

@@ -17,6 +17,8 @@
 
 namespace {
 
+constexpr qint64 kBlock = 64 * 1024;
+
 constexpr const char* kNames[] = {"none", "lf", "cr", "mixed", "crlf", "mixed", "mixed", "mixed"};
 
 // What the code page lacks becomes a question mark.
@@ -102,6 +104,37 @@ bool ScriptFile::SetLanguage(const QString& name)
 
 QString ScriptFile::Read(const QString& path)
 {
+    m_path = path;
+    if (path == kStandardInput) {
+        if (QString problem = TakeStandardInput(); !problem.isEmpty())
+            return problem;
+    }
+    return ReadFile(m_path);
+}
+
+// Encodings are told from a file's first block, which the editor reads itself.
+QString ScriptFile::TakeStandardInput()
+{
+    m_folder = std::make_unique<QTemporaryDir>();
+    QFile input;
+    QFile copy(m_folder->filePath(QStringLiteral("input")));
+    if (!m_folder->isValid() || !copy.open(QIODevice::WriteOnly))
+        return QStringLiteral("no file can be made in the folder for temporary files");
+    bool isRead = input.open(stdin, QIODevice::ReadOnly);
+    while (isRead) {
+        const QByteArray block = input.read(kBlock);
+        if (block.isEmpty())
+            break;
+        isRead = copy.write(block) == block.size();
+    }
+    if (!isRead || input.error() != QFileDevice::NoError || !copy.flush())
+        return QStringLiteral("the standard input cannot be read");
+    m_path = copy.fileName();
+    return {};
+}
+
+QString ScriptFile::ReadFile(const QString& path)
+{
     if (QFileInfo(path).isDir() ||
         !m_control->OpenFile(Units(path), FileEncodeConverter::encUnknown))
         return WhyNotRead(path);
@@ -112,23 +145,22 @@ QString ScriptFile::Read(const QString& path)
                : QString();
 }
 
-int ScriptFile::FirstLineChanged(const QString& path)
+int ScriptFile::FirstLineChanged()
 {
     const qsizetype place = m_control->GetText().indexOf(QChar::ReplacementCharacter);
-    return place < 0 || WritesWhatItRead(path) ? -1 : m_control->LineFromPosition(place, 1);
+    return place < 0 || WritesWhatItRead() ? -1 : m_control->LineFromPosition(place, 1);
 }
 
 // The character that stands for what a text cannot hold may also stand in the file itself.
-bool ScriptFile::WritesWhatItRead(const QString& path)
+bool ScriptFile::WritesWhatItRead()
 {
     const QTemporaryDir folder;
     const QString copy = folder.filePath(QStringLiteral("copy"));
     if (!folder.isValid() ||
         !Write(copy, Control().GetEncoding(), Control().GetWriteEncodingSig()).isEmpty())
         return false;
-    QFile before(path);
+    QFile before(m_path);
     QFile after(copy);
-    constexpr qint64 kBlock = 64 * 1024;
     if (!before.open(QIODevice::ReadOnly) || !after.open(QIODevice::ReadOnly))
         return false;
     while (!before.atEnd()) {
@@ -157,7 +189,6 @@ QString ScriptFile::WriteToOutput(int encoding, bool mark)
     if (QString problem = Write(file.fileName(), encoding, mark); !problem.isEmpty())
         return problem;
     bool isWritten = file.open(QIODevice::ReadOnly);
-    constexpr qint64 kBlock = 64 * 1024;
     while (isWritten && !file.atEnd()) {
         const QByteArray block = file.read(kBlock);
         const auto size = static_cast<std::size_t>(block.size());

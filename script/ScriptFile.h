@@ -5,9 +5,12 @@
 #include "editing/ZNCoreEditorControlEx.h"
 
 #include <QString>
+#include <QTemporaryDir>
 #include <QWidget>
 
 #include <memory>
+
+inline const QString kStandardInput = QStringLiteral("-");
 
 class ScriptFile
 {
@@ -21,12 +24,13 @@ public:
     // False if the registry does not know the name.
     bool SetLanguage(const QString& name);
 
-    // Empty if it is read as a whole, else a sentence that tells why it is not.
+    // Empty if it is read as a whole, else a sentence that tells why it is not. The path of
+    // kStandardInput is that.
     QString Read(const QString& path);
 
     // The first line, from 0, with a character that a save could not give back as it was read, as
-    // half of a surrogate pair; -1 if there is none. For a file just read.
-    int FirstLineChanged(const QString& path);
+    // half of a surrogate pair; -1 if there is none. For the file that was read last.
+    int FirstLineChanged();
 
     // Empty if it is written, else a sentence. An empty path is the standard output.
     QString Write(const QString& path, int encoding, bool mark);
@@ -50,9 +54,13 @@ private:
     };
 
     LineEndCounts CountLineEnds();
-    bool WritesWhatItRead(const QString& path);
+    QString ReadFile(const QString& path);
+    QString TakeStandardInput();
+    bool WritesWhatItRead();
     QString WriteToOutput(int encoding, bool mark);
 
     QWidget m_parent;
+    QString m_path;                          // that was read last
+    std::unique_ptr<QTemporaryDir> m_folder; // of what came by the standard input
     std::unique_ptr<CZNCoreEditorControlEx> m_control;
 };

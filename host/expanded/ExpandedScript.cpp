@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "host/expanded/ExpandedScript.h"
 
+#include "control/ErrorInfo.h"
 #include "editing/ZNCoreEditorControlEx.h"
 #include "editing/ZNCoreEditorWidget.h"
 #include "editing/language/Library.h"
@@ -8,6 +9,7 @@
 #include "host/script/ScrollRange.h"
 #include "platform/base/Units.h"
 #include "preprocess/CompileManager.h"
+#include "preprocess/Leftovers.h"
 
 #include <QAction>
 #include <QHeaderView>
@@ -23,6 +25,7 @@ namespace {
 constexpr int kLineColumn = 0;
 constexpr int kTextColumn = 1;
 constexpr int kLineRole = Qt::UserRole;
+constexpr int kOwner = 1; // of the marks
 
 } // namespace
 
@@ -41,7 +44,7 @@ ExpandedScript::ExpandedScript(QWidget* parent)
     m_hint->setMargin(4);
     m_hint->hide();
     m_errors->setObjectName(QStringLiteral("includeErrors"));
-    m_errors->setAccessibleName(QStringLiteral("Files that could not be included"));
+    m_errors->setAccessibleName(QStringLiteral("Problems of the expanded script"));
     m_errors->setRootIsDecorated(false);
     m_errors->setHeaderLabels({QStringLiteral("Line"), QStringLiteral("Problem")});
     m_errors->header()->setSectionResizeMode(kLineColumn, QHeaderView::ResizeToContents);
@@ -122,6 +125,8 @@ void ExpandedScript::Expand(ScriptDoc& script, CZNCoreEditorControlEx& editor)
     m_goToSource->setEnabled(true);
     m_putBack->setEnabled(control.GetIncludeOrDefineDirectivesFound());
     ListErrors();
+    ListLeftovers();
+    m_errors->setVisible(m_errors->topLevelItemCount() > 0);
 }
 
 void ExpandedScript::Caption(const QString& what)
@@ -134,6 +139,7 @@ void ExpandedScript::PutOriginalBack()
     CZNCoreEditorControlEx& control = m_editor->control();
     control.SetReadOnly(0, 1);
     control.SetOriginalScript();
+    control.ErrorDeleteAll(kOwner, problem::kAny, 1);
     control.SetReadOnly(1, 1);
     m_map.Clear();
     m_errors->clear();
@@ -147,15 +153,38 @@ void ExpandedScript::ListErrors()
 {
     m_errors->clear();
     const auto errors = m_editor->control().GetIncludeDirectiveErrorMessageAndLine();
-    for (const auto& [line, message] : errors) {
-        auto* item = new QTreeWidgetItem(m_errors);
-        item->setText(kLineColumn, QString::number(line + 1));
-        item->setText(kTextColumn, message);
-        item->setToolTip(kTextColumn, message);
-        item->setData(kLineColumn, kLineRole, QVariant::fromValue<long>(line));
-    }
-    m_errors->setVisible(!errors.empty());
+    for (const auto& [line, message] : errors)
+        ListLine(line, message, QStyle::SP_MessageBoxCritical);
     m_hint->setVisible(!errors.empty());
+}
+
+// Marked in the text too, which has no marks of an expansion before.
+void ExpandedScript::ListLeftovers()
+{
+    CZNCoreEditorControlEx& control = m_editor->control();
+    control.ErrorDeleteAll(kOwner, problem::kAny, 1);
+    for (const Leftover& found : FindLeftovers(control)) {
+        ListLine(control.LineFromPosition(found.start, 1), found.text,
+                 QStyle::SP_MessageBoxWarning);
+        ErrorInfo record;
+        record.nStart = found.start;
+        record.nEnd = found.end;
+        record.nKind = problem::Semantic;
+        record.nSeverity = problem::Warning;
+        record.SetText(Units(found.text));
+        control.ErrorAdd(kOwner, &record, 1);
+    }
+    control.ErrorsShow(1);
+}
+
+void ExpandedScript::ListLine(long line, const QString& message, QStyle::StandardPixmap icon)
+{
+    auto* item = new QTreeWidgetItem(m_errors);
+    item->setIcon(kLineColumn, style()->standardIcon(icon));
+    item->setText(kLineColumn, QString::number(line + 1));
+    item->setText(kTextColumn, message);
+    item->setToolTip(kTextColumn, message);
+    item->setData(kLineColumn, kLineRole, QVariant::fromValue<long>(line));
 }
 
 void ExpandedScript::OnNotified(const SCNotification& record)

@@ -7,6 +7,7 @@
 
 #include <QDockWidget>
 #include <QPointer>
+#include <QStyle>
 
 class CZNCoreEditorControlEx;
 class QAction;
@@ -44,6 +45,8 @@ Q_SIGNALS:
 private:
     void OnNotified(const SCNotification& record);
     void ListErrors();
+    void ListLeftovers();
+    void ListLine(long line, const QString& message, QStyle::StandardPixmap icon);
     void FitScrollRange(); // to the lines that are shown
     void Caption(const QString& what);
     void GoToSourceOf(long line);

@@ -12,7 +12,9 @@ Arguments ParseArguments(const QStringList& commandLine)
     const QCommandLineOption screenshot(QStringLiteral("screenshot"),
                                         QStringLiteral("Writes a picture of the window and exits."),
                                         QStringLiteral("FILE"));
-    parser.addOptions({help, screenshot});
+    const QCommandLineOption version({QStringLiteral("v"), QStringLiteral("version")},
+                                     QStringLiteral("Tells which version this is."));
+    parser.addOptions({help, version, screenshot});
     parser.addPositionalArgument(
         QStringLiteral("FILE"),
         QStringLiteral("Scripts to open, each at a line and a column: a.sql:120:7."),
@@ -25,6 +27,8 @@ Arguments ParseArguments(const QStringList& commandLine)
         arguments.error = QStringLiteral("--screenshot needs the name of a file.");
     if (parser.isSet(help))
         arguments.help = parser.helpText();
+    else if (parser.isSet(version))
+        arguments.help = QStringLiteral("znworkbench " ZN_VERSION);
     arguments.files = parser.positionalArguments();
     arguments.screenshot = parser.value(screenshot);
     return arguments;

@@ -9,7 +9,7 @@ struct Arguments
 {
     QStringList files;  // as they were given: ParseFilePlace takes a line off
     QString screenshot; // where the picture goes; empty without --screenshot
-    QString help;       // the text to show, empty without --help
+    QString help;       // the text to show, empty without --help and --version
     QString error;      // what is wrong with the command line, empty if nothing is
 };
 

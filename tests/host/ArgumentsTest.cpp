@@ -51,3 +51,8 @@ TEST(CommandLine, TellsItsOptionsWhenAskedForHelp)
     EXPECT_TRUE(Parse({"-h"}).help.contains(QStringLiteral("--screenshot")));
     EXPECT_TRUE(Parse({"-h"}).help.contains(QStringLiteral("[FILE[:LINE[:COLUMN]]...]")));
 }
+
+TEST(CommandLine, TellsTheVersion)
+{
+    EXPECT_EQ(Parse({"--version"}).help, QStringLiteral("znworkbench " ZN_VERSION));
+}

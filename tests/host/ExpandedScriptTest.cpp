@@ -75,6 +75,23 @@ TEST_F(ExpandedScripts, ListWhatCannotBeIncluded)
     EXPECT_TRUE(Errors().isVisible());
 }
 
+TEST_F(ExpandedScripts, ListVariablesThatNothingDefines)
+{
+    Write("part.sql", "select &&B\n");
+    Open("main.sql", "#define X 1\n#include part.sql\n");
+    Trigger("expand");
+    ASSERT_EQ(Errors().topLevelItemCount(), 2);
+    EXPECT_EQ(Errors().topLevelItem(0)->text(1),
+              "This defines nothing: the name of a variable begins with &&.");
+    EXPECT_EQ(Errors().topLevelItem(1)->text(1), "Nothing defines &&B.");
+    EXPECT_TRUE(Errors().isVisible());
+    EXPECT_FALSE(m_window.findChild<QLabel*>("includeHint")->isVisible());
+    const auto place = static_cast<int>(Result().GetText().indexOf("&&B"));
+    ASSERT_NE(Result().ErrorGetOverPos(place, 1), nullptr);
+    Q_EMIT Errors().itemActivated(Errors().topLevelItem(1), 0);
+    EXPECT_EQ(Script().Name(), "part.sql");
+}
+
 TEST_F(ExpandedScripts, TellWhereFilesAreLookedForIfOneIsMissing)
 {
     Open("main.sql", "#include gone.sql\n");

@@ -31,6 +31,8 @@ protected:
         program.setProcessEnvironment(environment);
         program.setWorkingDirectory(folder.path());
         program.start(QStringLiteral(ZN_ZNSCRIPT), words);
+        program.write(input);
+        program.closeWriteChannel();
         if (!program.waitForFinished(60000) || program.exitStatus() != QProcess::NormalExit)
             return {};
         return {program.exitCode(), program.readAllStandardOutput().toStdString(),
@@ -50,6 +52,7 @@ protected:
     }
 
     QTemporaryDir folder;
+    QByteArray input; // of the program
 };
 
 TEST_F(Znscript, WritesAnExpandedScript)
@@ -340,6 +343,66 @@ TEST_F(Znscript, DividesByATerminatorOfItsCommandLine)
     EXPECT_EQ(Start(words + QStringList{"--terminator", "@", "b.sql"}).output,
               "b.sql:1: lines 1-1, 2 statements\n");
     EXPECT_EQ(Start(words + QStringList{"--terminator", "a b", "b.sql"}).exitCode, 2);
+}
+
+TEST_F(Znscript, LooksBesideTheScriptIfItIsTold)
+{
+    QDir(folder.path()).mkdir("a");
+    Write("a/part.sql", "beside");
+    Write("part.sql", "elsewhere");
+    Write("a/main.sql", "#include part.sql");
+    EXPECT_EQ(Start({"expand", "--path", ".", "a/main.sql"}).output,
+              "--#include part.sql\nelsewhere");
+    EXPECT_EQ(Start({"expand", "--script-folder", "--path", ".", "a/main.sql"}).output,
+              "--#include part.sql\nbeside");
+    EXPECT_EQ(Start({"expand", "a/main.sql"}).exitCode, 1);
+}
+
+TEST_F(Znscript, TellsWhatStaysOfAScriptIfItIsStrict)
+{
+    Write("main.sql", "#include part.sql\n#define X 1\nselect '&&B';\n");
+    Write("part.sql", "\nselect &&A;\n");
+    EXPECT_EQ(Start({"expand", "--script-folder", "main.sql"}).exitCode, 0);
+    const Outcome outcome = Start({"expand", "--strict", "--script-folder", "main.sql"});
+    EXPECT_EQ(outcome.exitCode, 1);
+    EXPECT_EQ(outcome.output, "");
+    EXPECT_EQ(outcome.errors,
+              "./part.sql:2: Nothing defines &&A.\n"
+              "main.sql:2: This defines nothing: the name of a variable begins with &&.\n"
+              "main.sql:3: Nothing defines &&B.\n");
+    Write("main.sql", "#define &&A 1\nselect &&A;\n");
+    EXPECT_EQ(Start({"expand", "--strict", "main.sql"}).output, "--#define &&A 1\nselect 1;\n");
+}
+
+TEST_F(Znscript, ReadsTheStandardInput)
+{
+    Write("part.sql", "part");
+    input = "#define &&A 1\r\n#include part.sql\r\n&&A";
+    EXPECT_EQ(Start({"expand", "--script-folder", "-"}).output,
+              "--#define &&A 1\r\n--#include part.sql\r\npart\r\n1");
+    input = QByteArray("\xFF\xFE"
+                       "a\0\n\0",
+                       6);
+    EXPECT_EQ(Start({"detect", "-"}).output, "-: utf-16le with mark, line ends: lf\n");
+    EXPECT_EQ(Start({"convert", "--to", "utf-8", "--eol", "crlf", "-"}).output, "a\r\n");
+    input = "select 1;\nGO\nselect &&A;\n";
+    EXPECT_EQ(Start({"batches", "-"}).output, "-:1: lines 1-1, 1 statement\n"
+                                              "-:3: lines 3-3, 1 statement\n");
+    EXPECT_EQ(Start({"expand", "--strict", "-"}).errors, "-:3: Nothing defines &&A.\n");
+}
+
+TEST_F(Znscript, TellsItsVersion)
+{
+    const Outcome outcome = Start({"--version"});
+    EXPECT_EQ(outcome.exitCode, 0);
+    EXPECT_EQ(outcome.output, "znscript " ZN_VERSION "\n");
+}
+
+TEST_F(Znscript, TellsTheSyntaxOfDirectives)
+{
+    const std::string help = Start({"expand", "--help"}).output;
+    EXPECT_NE(help.find("\n  #define &&NAME VALUE "), std::string::npos) << help;
+    EXPECT_NE(help.find("--script-folder"), std::string::npos) << help;
 }
 
 } // namespace
