@@ -154,10 +154,9 @@ TEST_F(WorkbenchPreferencesTest, ShowTheSchemeInTheSamplesAndStillWriteWhatIsCho
 
 TEST(SchemeOfTheWorkbench, IsRemembered)
 {
-    QSettings settings(QDir::temp().filePath(QStringLiteral("zn-scheme.ini")),
-                       QSettings::IniFormat);
+    const QString settings = QDir::temp().filePath(QStringLiteral("zn-scheme.ini"));
     EXPECT_EQ(appearance::Load(settings), zncoreeditor::kDesktopScheme);
-    appearance::Store(settings, QStringLiteral("Dark"));
+    EXPECT_TRUE(appearance::Store(settings, QStringLiteral("Dark")));
     EXPECT_EQ(appearance::Load(settings), "Dark");
 }
 
