@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "engine/core/LongLines.h"
 
+#include "control/LongLine.h"
 #include "engine/core/Engine.h"
 
 #include <algorithm>
@@ -11,9 +12,10 @@ namespace {
 
 using Sci = QsciScintillaBase;
 
-constexpr long kFewestPieces = 1024;           // that the stock engine keeps the widths of
-constexpr long kMostPieces = 16 * 1024 * 1024; // 16 bytes each beside the widths
-constexpr long kUniform = 64;                  // bytes in one style that say that nothing was laid
+constexpr long kFewestPieces = 1024;            // that the stock engine keeps the widths of
+constexpr long kMostPieces = 16 * 1024 * 1024;  // 16 bytes each beside the widths
+constexpr long kExactPixels = 16 * 1024 * 1024; // of a line: the stock engine's places are floats
+constexpr long kUniform = 64;                   // bytes in one style that say that nothing was laid
 
 long Ask(const Raw& raw, unsigned message, long value = 0)
 {
@@ -43,6 +45,7 @@ void LongLines::Prepare()
         anyLong = true;
         m_longest = std::max(m_longest, length);
         LayAlike(line);
+        TellOf(line);
     };
     look(caretLine);
     long last = -1;
@@ -62,12 +65,35 @@ void LongLines::Prepare()
     }
 }
 
+// A shorter line is never told of, as a cheap test before its width is asked.
+void LongLines::TellOf(long line)
+{
+    constexpr long kWidest = 64; // pixels of a character
+    const Raw& raw = m_engine.raw;
+    const LRESULT document = m_engine.Document();
+    if (m_toldOf == document || m_longest < kExactPixels / kWidest)
+        return;
+    const auto width = static_cast<long>(
+        raw.Send(Sci::SCI_TEXTWIDTH, Sci::STYLE_DEFAULT, static_cast<const void*>("0")));
+    const long exact = kExactPixels / std::max(width, 1L);
+    if (LengthOf(line) <= exact)
+        return;
+    m_toldOf = document;
+    QMetaObject::invokeMethod(
+        &m_engine.window,
+        [this, line, exact] {
+            m_engine.reporter.Tell(kLongLineShown, {.length = static_cast<int>(exact),
+                                                    .line = static_cast<int>(line)});
+        },
+        Qt::QueuedConnection);
+}
+
 // The widths of pieces are kept as long as a line of the text may need them.
 void LongLines::FitCache()
 {
     const Raw& raw = m_engine.raw;
     if (raw.Length() < m_longest / 2)
-        m_longest = 0;
+        m_longest = m_toldOf = 0;
     // As many as the line has bytes, so that few of its pieces share a place, and some to grow.
     const long pieces = std::clamp(m_longest + m_longest / 8, kFewestPieces, kMostPieces);
     const long have = Ask(raw, Sci::SCI_GETPOSITIONCACHE);

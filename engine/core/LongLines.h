@@ -4,6 +4,7 @@
 // twice if its colours come in between.
 #pragma once
 
+#include <cstdint>
 #include <string_view>
 
 namespace engine {
@@ -28,11 +29,13 @@ private:
     long LengthOf(long line) const;
     bool IsOrdinary() const;
     void FitCache();
+    void TellOf(long line);
     void LayAlike(long line);
     void Changed();
 
     Engine& m_engine;
-    long m_longest = 0; // bytes, of the lines that were met
+    long m_longest = 0;         // bytes, of the lines that were met
+    std::intptr_t m_toldOf = 0; // the document in which a line is told to be too long
     bool m_caretWaits = false;
 };
 

@@ -87,6 +87,7 @@ Q_SIGNALS:
     void TextChanged();
     void LanguageChanged(); // the looks are those of the language again, in all views
     void ProblemsChanged();
+    void Told(const QString& text); // what a person should know, and need not answer
 
 protected:
     const CommandMap& GetCommandMap() const override;

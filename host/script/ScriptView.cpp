@@ -2,6 +2,7 @@
 #include "host/script/ScriptView.h"
 
 #include "control/EngineRecords.h"
+#include "control/LongLine.h"
 #include "editing/language/EditorCompletion.h"
 #include "host/commands/WorkbenchCommands.h"
 #include "host/completion/MacroCommands.h"
@@ -200,6 +201,12 @@ int ScriptView::OnNotify(WPARAM wParam, LPARAM lParam, LRESULT* result)
         if (record.modificationType & kTextBits)
             script->OnTextChanged();
         FollowSoon();
+        break;
+    case engine::kLongLineShown:
+        Q_EMIT script->Told(
+            QStringLiteral("Line %L1 is very long: behind column %L2 its text is drawn coarsely")
+                .arg(record.line + 1)
+                .arg(record.length));
         break;
     case notify::UpdateUi:
     case notify::Zoom:

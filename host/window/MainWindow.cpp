@@ -28,6 +28,7 @@
 #include <QGuiApplication>
 #include <QPointer>
 #include <QShortcut>
+#include <QStatusBar>
 #include <QTabBar>
 #include <QTimer>
 #include <QTreeWidget>
@@ -168,6 +169,8 @@ void MainWindow::Follow(ScriptDoc& script)
     script.disconnect(this);
     connect(&script, &ScriptDoc::StateChanged, this, [this, &script] { OnScriptChanged(script); });
     connect(&script, &ScriptDoc::TextChanged, this, [this, &script] { TellResults(script); });
+    connect(&script, &ScriptDoc::Told, this,
+            [this](const QString& text) { statusBar()->showMessage(text); });
     connect(&script, &ScriptDoc::ProblemsChanged, this, [this, &script] {
         const ScriptFrame* frame = CurrentFrame();
         if (frame && frame->Script() == &script)

@@ -3,6 +3,7 @@
 #include "editing/ZNCoreEditorWidget.h"
 
 #include "control/EngineRecords.h"
+#include "control/LongLine.h"
 #include "editing/face/Private.h"
 #include "looks/Schemes.h"
 #include "platform/windows/ActionUI.h"
@@ -168,6 +169,9 @@ LRESULT ZNCoreEditorWidget::Private::Note(const SCNotification& record)
     case notify::CharAdded:
         m_added.push_back(static_cast<char32_t>(record.ch));
         return notify::kTellWhenOver;
+    case engine::kLongLineShown:
+        Q_EMIT q.longLineShown(record.line, record.length);
+        return 0;
     case notify::UpdateUi:
     case notify::Zoom:
         if (!std::exchange(m_isUpdated, true))

@@ -400,6 +400,10 @@ Q_SIGNALS:
     void selectionChanged();
     /// When the engine has brought its window up to date.
     void updateUi();
+    /// From the event loop, once for a text: a line that is shown has more characters than the
+    /// given number of them, and those behind are drawn in coarse steps. Editing and saving are
+    /// exact.
+    void longLineShown(long line, long drawnExactly);
     /// Before the menu of a right click is shown: add to it what is yours.
     void contextMenuAboutToShow(QMenu* menu);
     /// Every notification of the engine, at once: in the middle of a change or a painting. The

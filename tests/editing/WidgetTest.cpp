@@ -111,6 +111,22 @@ TEST(EditorWidget, TellsOfChangesAsSoonAsSomebodyListens)
     EXPECT_EQ(heard, 1);
 }
 
+TEST(EditorWidget, TellsOfALineThatIsDrawnCoarsely)
+{
+    constexpr int kDefaultStyle = 32;
+    ZNCoreEditorWidget editor;
+    editor.control().StyleSetSize(kDefaultStyle, 60, 1);
+    QSignalSpy told(&editor, &ZNCoreEditorWidget::longLineShown);
+    const std::u16string line(600'000, u'x');
+    editor.control().SetText((u"a\n" + line).c_str(), 1);
+    editor.grab();
+    QApplication::processEvents();
+    ASSERT_EQ(told.size(), 1);
+    EXPECT_EQ(told[0][0].toLongLong(), 1);
+    EXPECT_GT(told[0][1].toLongLong(), 0);
+    EXPECT_LT(told[0][1].toLongLong(), 600'000);
+}
+
 TEST(EditorWidget, TellsWhereTheCaretWent)
 {
     ZNCoreEditorWidget editor;

@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 // Typing in lines of many thousand bytes: what is told, undone and shown is what it is in others.
+#include "control/LongLine.h"
 #include "tests/engine/EngineFixture.h"
 
 #include <QAbstractScrollArea>
@@ -119,4 +120,30 @@ TEST_F(LongLine, BracesMatchWhereverTheyStand)
     const auto open = static_cast<long>(m_line.find(u'(', 20000)) + 2;
     EXPECT_EQ(m_engine.Send(msg::BraceMatch, static_cast<WPARAM>(open)),
               static_cast<long>(m_line.find(u')', static_cast<std::size_t>(open))) + 2);
+}
+
+// Wide characters, so that fewer of them do.
+TEST_F(LongLine, ThatCannotBeDrawnExactlyIsToldOnce)
+{
+    constexpr int kDefaultStyle = 32;
+    m_engine.Send(msg::StyleSetSize, kDefaultStyle, LPARAM{60});
+    const long width = m_engine.Send(msg::TextWidth, kDefaultStyle, u"0");
+    const auto exact = static_cast<std::size_t>(16 * 1024 * 1024 / width);
+    const auto told = [this] {
+        m_engine.Window()->grab();
+        QApplication::processEvents();
+        return m_engine.Parent().Of(engine::kLongLineShown);
+    };
+    m_engine.SetText(u"a\n" + std::u16string(exact, u'x'));
+    EXPECT_TRUE(told().empty());
+    m_engine.Insert(2, u"x");
+    ASSERT_EQ(told().size(), 1u);
+    EXPECT_EQ(told()[0].record.line, 1);
+    EXPECT_EQ(told()[0].record.length, static_cast<long>(exact));
+    Press(Qt::Key_End);
+    EXPECT_EQ(told().size(), 1u);
+    m_engine.SetText(u"short");
+    EXPECT_EQ(told().size(), 1u);
+    m_engine.SetText(std::u16string(exact + 1, u'x'));
+    EXPECT_EQ(told().size(), 2u);
 }

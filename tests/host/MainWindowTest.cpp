@@ -3,6 +3,7 @@
 
 #include <QClipboard>
 #include <QCloseEvent>
+#include <QStatusBar>
 #include <QTabWidget>
 
 namespace {
@@ -49,6 +50,20 @@ TEST_F(MainWindows, OffersToSaveAtTheFirstChangeWithoutWaitingForThePaint)
     EXPECT_TRUE(Action("save").isEnabled());
     EXPECT_TRUE(Script().DoFileSave());
     EXPECT_FALSE(Action("save").isEnabled());
+}
+
+TEST_F(MainWindows, SaysThatALineIsDrawnCoarsely)
+{
+    constexpr int kDefaultStyle = 32;
+    Open("dump.sql", "");
+    Editor().StyleSetSize(kDefaultStyle, 60, 1);
+    const std::u16string line(600'000, u'x');
+    Editor().SetText((u"a\n" + line).c_str(), 1);
+    Editor().GetHwnd()->grab();
+    QApplication::processEvents();
+    EXPECT_TRUE(m_window.statusBar()->currentMessage().startsWith(
+        QStringLiteral("Line 2 is very long: behind column ")))
+        << m_window.statusBar()->currentMessage().toStdString();
 }
 
 TEST_F(MainWindows, ShowsAnAmpersandOfANameAsItIs)
