@@ -60,6 +60,7 @@ Workbench::~Workbench()
     if (CWnd* main = GetMainWnd())
         main->DestroyWindow();
     Disposal::Run();
+    appearance::SetCurrent(zncoreeditor::kDesktopScheme); // the application outlives this
 }
 
 std::vector<ScriptDoc*> Workbench::Scripts() const
