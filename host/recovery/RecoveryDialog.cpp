@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "host/recovery/RecoveryDialog.h"
 
+#include "editing/ZNCoreEditorControlEx.h"
 #include "editing/ZNCoreEditorWidget.h"
 #include "host/recovery/LineDiff.h"
 #include "looks/Schemes.h"
