@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 // Replacing that takes long: the host is told how far it has come, and stops it.
+#include "editing/ZNCoreEditorControlEx.h"
 #include "editing/ZNCoreEditorWidget.h"
 #include "platform/services/LongWork.h"
 #include "search/FindReplaceManager.h"
