@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 // Messages that search: over the target, from the anchor and in a range. What is found in between,
 // the target and its flags are this engine's own.
+#include "control/ExpressionCheck.h"
 #include "engine/core/Engine.h"
 #include "engine/core/Handlers.h"
 
@@ -145,7 +146,26 @@ LRESULT SetRecording(Engine& engine, WPARAM, LPARAM)
     return 0;
 }
 
+LRESULT TellExpressionProblem(Engine& engine, WPARAM wParam, LPARAM lParam)
+{
+    auto* record = reinterpret_cast<ExpressionProblem*>(lParam);
+    if (!record || !record->text)
+        return 0;
+    const Utf8Text sought(TerminatedText(record->text));
+    const auto problem = engine.searcher.ProblemOf(sought.View(), static_cast<int>(wParam));
+    if (!problem)
+        return 0;
+    record->place = problem->place > sought.View().size()
+                        ? -1
+                        : static_cast<int>(CountUnits(sought.View().substr(0, problem->place)));
+    std::ranges::fill(record->reason, u'\0');
+    const auto length = std::min(problem->reason.size(), std::size(record->reason) - 1);
+    std::copy_n(problem->reason.begin(), length, record->reason); // ASCII
+    return 1;
+}
+
 constexpr HandlerRow kRows[] = {
+    {kExpressionProblem, TellExpressionProblem},
     {message::SetTargetStart, SetTargetEdge<&SearchTarget::start>},
     {message::GetTargetStart, GetTargetEdge<&SearchTarget::start>},
     {message::SetTargetEnd, SetTargetEdge<&SearchTarget::end>},

@@ -46,12 +46,17 @@ pcre2_match_context* MatchContext()
     return context;
 }
 
-pcre2_code* CompileWith(const std::string& pattern, unsigned options)
+pcre2_code* CompileWith(const std::string& pattern, unsigned options,
+                        Expression::Problem* problem = nullptr)
 {
     int error = 0;
     PCRE2_SIZE place = 0;
     pcre2_code* code = pcre2_compile(reinterpret_cast<PCRE2_SPTR>(pattern.data()), pattern.size(),
                                      options, &error, &place, CompileContext());
+    constexpr std::size_t kLongestReason = 120;
+    PCRE2_UCHAR reason[kLongestReason];
+    if (!code && problem && pcre2_get_error_message(error, reason, sizeof reason) > 0)
+        *problem = {reinterpret_cast<const char*>(reason), place};
     if (code) // without its compiler PCRE2 interprets, with the same matches
         pcre2_jit_compile(code, PCRE2_JIT_COMPLETE | PCRE2_JIT_PARTIAL_HARD);
     return code;
@@ -76,7 +81,7 @@ void Expression::FreeMatch::operator()(pcre2_real_match_data_8* match) const
 }
 
 std::unique_ptr<Expression> Expression::Compile(const std::string& pattern, Reading reading,
-                                                bool matchCase)
+                                                bool matchCase, Problem* problem)
 {
     // The text may hold half a character, where somebody replaced a target that was set for
     // another text.
@@ -86,7 +91,7 @@ std::unique_ptr<Expression> Expression::Compile(const std::string& pattern, Read
         options &= ~PCRE2_NEVER_BACKSLASH_C;
     if (!matchCase)
         options |= PCRE2_CASELESS;
-    pcre2_code* code = CompileWith(pattern, options);
+    pcre2_code* code = CompileWith(pattern, options, problem);
     return std::unique_ptr<Expression>(code ? new Expression(code, pattern, options) : nullptr);
 }
 

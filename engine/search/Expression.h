@@ -46,9 +46,15 @@ public:
 
     static constexpr std::size_t kAnywhere = ~std::size_t{0};
 
-    // Null if it is no pattern.
+    struct Problem
+    {
+        std::string reason;
+        std::size_t place = 0; // in the pattern
+    };
+
+    // Null if it is no pattern; the problem, if it is not null, then tells why.
     static std::unique_ptr<Expression> Compile(const std::string& pattern, Reading reading,
-                                               bool matchCase);
+                                               bool matchCase, Problem* problem = nullptr);
     ~Expression();
     Expression(const Expression&) = delete;
     Expression& operator=(const Expression&) = delete;

@@ -7,6 +7,12 @@
 #include <algorithm>
 
 namespace engine::search {
+namespace {
+
+constexpr const char* kNoCharacter = "this is no character";
+
+} // namespace
+
 // What an alternative begins and ends with is known once there is one.
 std::optional<Translation> ExpressionTranslator::Translate(std::string_view pattern)
 {
@@ -14,6 +20,13 @@ std::optional<Translation> ExpressionTranslator::Translate(std::string_view patt
     if (!TakeAll(pattern) || (m_hasBranches && !TakeAll(pattern)))
         return std::nullopt;
     return std::move(m_result);
+}
+
+bool ExpressionTranslator::Fail(const char* reason, std::size_t at)
+{
+    m_reason = reason;
+    m_failedAt = at;
+    return false;
 }
 
 bool ExpressionTranslator::TakeAll(std::string_view pattern)
@@ -30,7 +43,7 @@ bool ExpressionTranslator::TakeAll(std::string_view pattern)
             return false;
     }
     m_token = m_at;
-    return m_open.empty();
+    return m_open.empty() || Fail("the group has no end", m_open.back().at);
 }
 
 bool ExpressionTranslator::TakeOne()
@@ -105,7 +118,7 @@ bool ExpressionTranslator::TakeRepeat(char repeat)
     if (m_last == Last::Repeated)
         return true;
     if (m_last != Last::Item)
-        return false;
+        return Fail("nothing stands here to be repeated", m_at - 1);
     m_result.pattern += repeat;
     m_last = repeat == '?' ? Last::Edge : Last::Repeated;
     return true;
@@ -114,8 +127,8 @@ bool ExpressionTranslator::TakeRepeat(char repeat)
 bool ExpressionTranslator::TakeEscape()
 {
     ++m_at;
-    if (AtEnd()) // nothing to escape
-        return false;
+    if (AtEnd())
+        return Fail("nothing follows the backslash", m_at - 1);
     const char letter = m_pattern[m_at];
     if (letter >= '1' && letter <= '9')
         return TakeReference(letter - '0');
@@ -148,7 +161,7 @@ bool ExpressionTranslator::TakeEscape()
     }
     char32_t character = 0;
     if (!NextCharacter(m_pattern, m_at, character))
-        return false;
+        return Fail(kNoCharacter, m_at);
     PutExact(EscapedCharacter(character));
     return true;
 }
@@ -169,8 +182,8 @@ void ExpressionTranslator::TakeHexadecimal()
 bool ExpressionTranslator::TakeWordEdge(char edge)
 {
     ++m_at;
-    if (edge == '>' && m_last == Last::WordStart) // a word of nothing
-        return false;
+    if (edge == '>' && m_last == Last::WordStart)
+        return Fail("a word has a character at least", m_at - 2);
     const std::string word = Word();
     m_result.pattern += edge == '<' ? Join({"(?=", word, ")(?<!", word, ")"})
                                     : Join({"(?!", word, ")(?<=", word, ")"});
@@ -195,7 +208,7 @@ bool ExpressionTranslator::TakeReference(int number)
         return group.number == number;
     });
     if (isOpen || number > m_numbered)
-        return false;
+        return Fail("there is no such group before it", m_at - 2);
     const int group = m_result.groups[static_cast<std::size_t>(number)];
     PutItem(InItsCase(Join({"\\g{", std::to_string(group), "}"})));
     return true;
@@ -210,7 +223,7 @@ bool ExpressionTranslator::OpenGroup()
     if (m_numbered < static_cast<int>(m_result.groups.size()))
         m_result.groups[static_cast<std::size_t>(m_numbered)] = m_capturing;
     m_result.pattern += '(';
-    m_open.push_back({m_numbered, m_result.pattern.size()});
+    m_open.push_back({m_numbered, m_result.pattern.size(), m_at - (m_syntax.posix ? 1 : 2)});
     m_last = Last::BranchStart;
     return true;
 }
@@ -219,8 +232,11 @@ bool ExpressionTranslator::CloseGroup()
 {
     if (m_syntax.posix)
         ++m_at;
-    if (m_open.empty() || m_open.back().start == m_result.pattern.size())
-        return false;
+    const std::size_t at = m_at - (m_syntax.posix ? 1 : 2);
+    if (m_open.empty())
+        return Fail("no group ends here", at);
+    if (m_open.back().start == m_result.pattern.size())
+        return Fail("the group is empty", at);
     m_open.pop_back();
     PutItem(")");
     return true;
@@ -231,7 +247,7 @@ bool ExpressionTranslator::TakeCharacter()
     const std::size_t start = m_at;
     char32_t character = 0;
     if (!NextCharacter(m_pattern, m_at, character))
-        return false;
+        return Fail(kNoCharacter, m_at);
     if (character >= 0x80 || IsAsciiLetter(character) || (character >= U'0' && character <= U'9')) {
         PutItem(m_pattern.substr(start, m_at - start));
     } else {
@@ -245,8 +261,9 @@ bool ExpressionTranslator::TakeCharacter()
 bool ExpressionTranslator::TakeClass()
 {
     CharacterClass set;
+    const std::size_t start = m_at;
     if (!set.Read(m_pattern, m_at))
-        return false;
+        return Fail("the set of characters has no end, or a range that runs backwards", start);
     PutItem(set.Translated(Word(), m_syntax.matchCase));
     m_result.usesWords |= set.UsesWords();
     return true;

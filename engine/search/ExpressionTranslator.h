@@ -41,6 +41,10 @@ public:
     // Where it is none: the byte that cannot be read, or the end, where something is missing.
     std::size_t Stopped() const { return m_token; }
 
+    // Behind a pattern that was none: why, and at which of its bytes.
+    const char* Reason() const { return m_reason; }
+    std::size_t Place() const { return m_failedAt; }
+
 private:
     // What stands before, which decides what may follow.
     enum class Last
@@ -56,8 +60,10 @@ private:
     {
         int number = 0;        // \1 is 1
         std::size_t start = 0; // in the translation
+        std::size_t at = 0;    // in the pattern
     };
 
+    bool Fail(const char* reason, std::size_t at); // false
     bool TakeAll(std::string_view pattern);
     bool TakeOne();
     bool TakeAnchor(char anchor);
@@ -88,6 +94,8 @@ private:
     std::string_view m_pattern;
     std::size_t m_at = 0;
     std::size_t m_token = 0; // the start of what is taken
+    const char* m_reason = "";
+    std::size_t m_failedAt = 0;
     Last m_last = Last::BranchStart;
     std::vector<Group> m_open;
     bool m_hasBranches = false;

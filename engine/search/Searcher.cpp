@@ -111,32 +111,19 @@ bool Searcher::WordsAreTheSame()
 bool Searcher::PrepareExpression(std::string_view sought, int flags)
 {
     const bool matchCase = (flags & flag::MatchCase) != 0;
-    const bool posix = (flags & flag::Posix) != 0;
-    Translation translation;
-    if (flags & flag::Native) {
-        translation.pattern = sought;
-        translation.emptyAtLineEnds = true;
-        for (int i = 1; i < 10; ++i)
-            translation.groups[static_cast<std::size_t>(i)] = i;
-    } else {
-        m_wordsVersion = m_text.WordsVersion();
-        m_words = m_text.WordCharacters();
-        ExpressionTranslator translator({posix, matchCase, WordItem()});
-        auto translated = translator.Translate(sought);
-        if (!translated)
-            return false;
-        translation = std::move(*translated);
-    }
+    const auto translation = Translated(sought, flags);
+    if (!translation)
+        return false;
     auto expression =
-        Expression::Compile(translation.pattern, Expression::Reading::Pattern, matchCase);
+        Expression::Compile(translation->pattern, Expression::Reading::Pattern, matchCase);
     if (!expression)
         return false;
-    m_usesWords = translation.usesWords;
-    m_groupNumbers = translation.groups;
+    m_usesWords = translation->usesWords;
+    m_groupNumbers = translation->groups;
     m_finder.emplace(m_text, std::move(expression),
-                     MatchFinder::Rules{translation.ends, translation.emptyAtLineEnds}, m_limit);
+                     MatchFinder::Rules{translation->ends, translation->emptyAtLineEnds}, m_limit);
     if (!(flags & flag::Native))
-        m_anchored = AnchoredText::Of(sought, posix);
+        m_anchored = AnchoredText::Of(sought, (flags & flag::Posix) != 0);
     if (m_anchored && LiteralScan::Suits(m_anchored->text, matchCase)) {
         m_scan.emplace(m_anchored->text, matchCase);
         m_asciiWords.reset();
@@ -145,6 +132,44 @@ bool Searcher::PrepareExpression(std::string_view sought, int flags)
         m_asciiWords.reset('\r').reset('\n'); // no word leaves the line
     }
     return true;
+}
+
+std::optional<Translation> Searcher::Translated(std::string_view sought, int flags,
+                                                Expression::Problem* problem)
+{
+    if (flags & flag::Native) {
+        Translation same;
+        same.pattern = sought;
+        same.emptyAtLineEnds = true;
+        for (int i = 1; i < 10; ++i)
+            same.groups[static_cast<std::size_t>(i)] = i;
+        return same;
+    }
+    m_wordsVersion = m_text.WordsVersion();
+    m_words = m_text.WordCharacters();
+    ExpressionTranslator translator(
+        {(flags & flag::Posix) != 0, (flags & flag::MatchCase) != 0, WordItem()});
+    auto translation = translator.Translate(sought);
+    if (!translation && problem)
+        *problem = {translator.Reason(), translator.Place()};
+    return translation;
+}
+
+std::optional<Expression::Problem> Searcher::ProblemOf(std::string_view sought, int flags)
+{
+    if (sought.empty() || !(flags & flag::Expression))
+        return std::nullopt;
+    m_flags = -1; // what is prepared may have been made with other words
+    Expression::Problem problem;
+    const auto translation = Translated(sought, flags, &problem);
+    if (!translation)
+        return problem;
+    if (Expression::Compile(translation->pattern, Expression::Reading::Pattern,
+                            (flags & flag::MatchCase) != 0, &problem))
+        return std::nullopt;
+    if (!(flags & flag::Native)) // the place is one of the translation
+        problem.place = Expression::kAnywhere;
+    return problem;
 }
 
 // Outside ASCII letters, marks and numbers make words, whatever is set.

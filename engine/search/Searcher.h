@@ -61,6 +61,9 @@ public:
         }
     }
 
+    // What keeps a text from being an expression under the flags; nothing if it is one.
+    std::optional<Expression::Problem> ProblemOf(std::string_view sought, int flags);
+
     // How many searches went on for too long.
     long Stopped() const { return m_stopped; }
 
@@ -77,6 +80,8 @@ private:
 
     bool Prepare(std::string_view sought, int flags);
     bool PrepareExpression(std::string_view sought, int flags);
+    std::optional<Translation> Translated(std::string_view sought, int flags,
+                                          Expression::Problem* problem = nullptr);
     bool PrepareText(const std::string& text, bool matchCase);
     bool WordsAreTheSame();
     std::string WordItem() const;

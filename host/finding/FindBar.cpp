@@ -2,7 +2,10 @@
 #include "host/finding/FindBar.h"
 
 #include "control/EngineLooks.h"
+#include "control/ExpressionCheck.h"
 #include "editing/ZNCoreEditorControlEx.h"
+#include "host/finding/ExpressionHelp.h"
+#include "platform/base/Units.h"
 #include "search/FindReplaceManager.h"
 
 #include <QAction>
@@ -17,8 +20,8 @@
 #include <QStyle>
 #include <QToolButton>
 
+#include <algorithm>
 #include <span>
-#include <string_view>
 
 using Editor = CZNCoreEditorControlEx;
 
@@ -39,6 +42,9 @@ namespace {
 constexpr int kWholeWord = 2;
 constexpr int kMatchCase = 4;
 constexpr int kExpression = 0x200000;
+constexpr int kPerlSyntax = 0x800000;
+
+constexpr int kBookmark = 0;
 
 std::span<const FindBar::Row> Rows()
 {
@@ -58,18 +64,6 @@ std::span<const FindBar::Row> Rows()
     return rows;
 }
 
-// A text as an expression that matches it alone.
-QString Escaped(const QString& text)
-{
-    QString escaped;
-    for (const QChar c : text) {
-        if (std::u16string_view(u".[*+?^$\\|").find(c.unicode()) != std::u16string_view::npos)
-            escaped += u'\\';
-        escaped += c;
-    }
-    return escaped;
-}
-
 bool IsSelected(Editor& editor, long start, long end)
 {
     return editor.GetSelectionStart(1) == start && editor.GetSelectionEnd(1) == end;
@@ -84,9 +78,15 @@ FindBar::FindBar(std::function<CZNCoreEditorControlEx*()> editor, QWidget* paren
       m_matchCase(MakeOption("matchCase", tr("Match ca&se"), m_manager.GetMatchCase())),
       m_wholeWord(MakeOption("wholeWord", tr("&Whole word"), m_manager.GetWholeWord())),
       m_expression(MakeOption("expression", tr("E&xpression"), m_manager.GetRegExp())),
-      m_result(new QLabel(this))
+      m_inSelection(MakeOption("inSelection", tr("In se&lection"), false)),
+      m_preserveCase(MakeOption("preserveCase", tr("&Keep case"), false)),
+      m_help(new ExpressionHelp(this)), m_result(new QLabel(this))
 {
     m_result->setObjectName(QStringLiteral("findResult"));
+    // A long result is cut rather than widening the window; its tool tip has all of it.
+    m_result->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Preferred);
+    m_preserveCase->setToolTip(tr("A replacement is in capitals where what it replaces is"));
+    m_manager.SetPerlSyntax(m_help->IsPerl());
     auto* layout = new QGridLayout(this);
     layout->setContentsMargins(4, 2, 4, 2);
     layout->setColumnStretch(0, 1);
@@ -95,7 +95,11 @@ FindBar::FindBar(std::function<CZNCoreEditorControlEx*()> editor, QWidget* paren
     int column = 1;
     for (QWidget* option : {m_matchCase, m_wholeWord, m_expression})
         layout->addWidget(option, 0, column++);
-    layout->addWidget(m_result, 1, 1, 1, 3);
+    layout->addWidget(m_help, 0, column++);
+    layout->addWidget(m_inSelection, 1, 1);
+    layout->addWidget(m_preserveCase, 1, 2);
+    layout->addWidget(m_result, 1, 3, 1, 2);
+    const int firstButton = column;
     int place = 0;
     for (const Row& row : Rows()) {
         if (!row.hasButton)
@@ -104,7 +108,7 @@ FindBar::FindBar(std::function<CZNCoreEditorControlEx*()> editor, QWidget* paren
         button->setObjectName(QLatin1String(row.name) + QStringLiteral("Button"));
         button->setAutoDefault(false);
         connect(button, &QPushButton::clicked, this, row.run);
-        layout->addWidget(button, place % 2, 4 + place / 2);
+        layout->addWidget(button, place % 2, firstButton + place / 2);
         ++place;
     }
     auto* close = new QToolButton(this);
@@ -118,6 +122,16 @@ FindBar::FindBar(std::function<CZNCoreEditorControlEx*()> editor, QWidget* paren
     for (QCheckBox* option : {m_matchCase, m_wholeWord, m_expression})
         connect(option, &QCheckBox::toggled, this, &FindBar::ShowMatches);
     connect(m_find, &QComboBox::editTextChanged, this, &FindBar::ShowMatches);
+    connect(m_inSelection, &QCheckBox::toggled, this, &FindBar::ScopeSelection);
+    connect(m_help, &ExpressionHelp::GrammarChanged, this, [this] {
+        m_manager.SetPerlSyntax(m_help->IsPerl());
+        ShowMatches();
+    });
+    connect(m_help, &ExpressionHelp::Picked, this, [this](const QString& piece) {
+        m_expression->setChecked(true);
+        m_find->lineEdit()->insert(piece);
+        m_find->setFocus();
+    });
     setFocusProxy(m_find);
     m_find->installEventFilter(this);
     m_replace->installEventFilter(this);
@@ -183,7 +197,12 @@ void FindBar::Open()
     Editor* editor = m_editor();
     if (!editor)
         return;
-    const QString found = editor->GetFindString();
+    // Lines that are selected are where to search, less what to search for.
+    const bool isLines = editor->LineFromPosition(editor->GetSelectionStart(1), 1) !=
+                         editor->LineFromPosition(editor->GetSelectionEnd(1), 1);
+    if (isHidden())
+        m_inSelection->setChecked(isLines);
+    const QString found = isLines ? QString() : editor->GetFindString();
     const QString sought = found.isEmpty() ? m_find->currentText() : found;
     const QString replacement = m_replace->currentText();
     m_manager.FillFindCombo(*m_find);
@@ -205,11 +224,76 @@ void FindBar::ShowMatches()
         return;
     const std::u16string sought =
         isHidden() ? std::u16string() : m_find->currentText().toStdU16String();
-    const int flags = (m_wholeWord->isChecked() ? kWholeWord : 0) |
-                      (m_matchCase->isChecked() ? kMatchCase : 0) |
-                      (m_expression->isChecked() ? kExpression : 0);
-    editor->Call(engine::kShowMatches, static_cast<WPARAM>(flags),
+    editor->Call(engine::kShowMatches, static_cast<WPARAM>(Flags()),
                  sought.empty() ? 0 : reinterpret_cast<LPARAM>(sought.c_str()), 1);
+    const QString wrong = isHidden() ? QString() : WhatIsWrong(*editor);
+    if (!wrong.isEmpty() || m_tellsWrong) {
+        m_result->setText(wrong);
+        m_result->setToolTip(wrong);
+    }
+    m_tellsWrong = !wrong.isEmpty();
+}
+
+int FindBar::Flags() const
+{
+    return (m_wholeWord->isChecked() ? kWholeWord : 0) |
+           (m_matchCase->isChecked() ? kMatchCase : 0) |
+           (m_expression->isChecked() ? kExpression : 0) |
+           (m_expression->isChecked() && m_help->IsPerl() ? kPerlSyntax : 0);
+}
+
+QString FindBar::WhatIsWrong(Editor& editor) const
+{
+    const std::u16string sought = m_find->currentText().toStdU16String();
+    engine::ExpressionProblem problem;
+    problem.text = sought.c_str();
+    if (!editor.Call(engine::kExpressionProblem, static_cast<WPARAM>(Flags()),
+                     reinterpret_cast<LPARAM>(&problem), 1))
+        return {};
+    const QString reason = FromUnits(problem.reason);
+    return problem.place < 0
+               ? tr("No expression: %1").arg(reason)
+               : tr("No expression: %1, at character %2").arg(reason).arg(problem.place + 1);
+}
+
+void FindBar::ScopeSelection(bool isOn)
+{
+    m_scope.reset();
+    Editor* editor = m_editor();
+    if (!isOn || !editor)
+        return;
+    const long start = editor->GetSelectionStart(1);
+    const long end = editor->GetSelectionEnd(1);
+    if (start < end) {
+        m_scope = {editor, start, editor->GetLength(1) - end};
+        return;
+    }
+    m_inSelection->setChecked(false);
+    Tell(tr("Nothing is selected"));
+}
+
+FindBar::Range FindBar::Searched(Editor& editor) const
+{
+    const long length = editor.GetLength(1);
+    if (!m_scope)
+        return {0, length};
+    const long start = std::min(m_scope->start, length);
+    return {start, std::max(start, length - m_scope->behind)};
+}
+
+// Nothing matches twice at one place.
+template <typename Match>
+void FindBar::EachMatch(Editor& editor, Match match)
+{
+    const Range searched = Searched(editor);
+    for (long from = searched.start; from <= searched.end;) {
+        const long found = m_manager.FindInRange(&editor, static_cast<int>(from),
+                                                 static_cast<int>(searched.end), true);
+        if (found < 0 || !match(found))
+            return;
+        const long end = editor.GetTargetEnd(1);
+        from = end > found ? end : std::max(end + 1, editor.PositionAfter(end, 1));
+    }
 }
 
 // Which of how many the selection is, where there are not too many to count at once.
@@ -217,23 +301,21 @@ QString FindBar::Place(Editor& editor)
 {
     constexpr int kMost = 1000;
     constexpr int kLongest = 4'000'000; // units
-    const auto length = static_cast<int>(editor.GetLength(1));
     const long selected = editor.GetSelectionStart(1);
-    if (length > kLongest)
-        return {};
     int all = 0;
     int place = 0;
-    for (int from = 0; from <= length && all <= kMost; ++all) {
-        const int found = m_manager.FindInRange(&editor, from, length, true);
-        if (found < 0)
-            break;
-        if (found <= selected)
-            place = all + 1;
-        const auto end = static_cast<int>(editor.GetTargetEnd(1));
-        from =
-            end > found ? end : std::max(end + 1, static_cast<int>(editor.PositionAfter(end, 1)));
-    }
-    return all > kMost ? tr("more than %1").arg(kMost) : tr("%1 of %2").arg(place).arg(all);
+    if (editor.GetLength(1) <= kLongest)
+        EachMatch(editor, [&](long found) {
+            ++all;
+            place = found <= selected ? all : place;
+            return all <= kMost;
+        });
+    QString text = tr("%1 of %2").arg(place).arg(all);
+    if (all == 0)
+        text.clear();
+    else if (all > kMost)
+        text = tr("more than %1").arg(kMost);
+    return text;
 }
 
 void FindBar::Close()
@@ -241,21 +323,34 @@ void FindBar::Close()
     if (isHidden())
         return;
     hide();
+    m_inSelection->setChecked(false);
     ShowMatches();
     m_manager.Save();
     if (Editor* editor = m_editor())
         editor->SetFocus();
 }
 
-bool FindBar::Prepare()
+bool FindBar::Prepare(Editor* editor)
 {
-    const QString sought = m_find->currentText();
-    if (sought.isEmpty())
+    if (!editor)
         return false;
+    const QString sought = m_find->currentText();
+    if (sought.isEmpty()) {
+        Open();
+        return false;
+    }
+    if (m_scope && m_scope->editor != editor) // of another script
+        m_inSelection->setChecked(false);
+    if (const QString wrong = WhatIsWrong(*editor); !wrong.isEmpty()) {
+        Tell(wrong);
+        m_tellsWrong = true;
+        return false;
+    }
     m_manager.AddFindHistory(sought);
     m_manager.SetMatchCase(m_matchCase->isChecked());
     m_manager.SetWholeWord(m_wholeWord->isChecked());
     m_manager.SetRegExp(m_expression->isChecked());
+    m_manager.SetPerlSyntax(m_help->IsPerl());
     m_manager.SetWrap(true);
     m_manager.SetDown(true);
     return true;
@@ -274,12 +369,12 @@ void FindBar::FindPrevious()
 void FindBar::Find(bool down)
 {
     Editor* editor = m_editor();
-    if (!editor)
+    if (!Prepare(editor))
         return;
-    if (!Prepare())
-        Open();
-    else
-        TellFound(*editor, SelectNext(*editor, down));
+    const bool isFound = SelectNext(*editor, down);
+    TellFound(*editor, isFound);
+    if (isFound && m_wentRound && !isVisible())
+        Q_EMIT Told(down ? tr("On from the top") : tr("On from the end"));
 }
 
 void FindBar::TellFound(Editor& editor, bool isFound)
@@ -289,8 +384,12 @@ void FindBar::TellFound(Editor& editor, bool isFound)
         return;
     }
     Tell({});
-    if (isVisible())
-        m_result->setText(Place(editor));
+    if (isVisible()) {
+        const QString place = Place(editor);
+        m_result->setText(!m_wentRound      ? place
+                          : place.isEmpty() ? tr("gone round")
+                                            : tr("%1, gone round").arg(place));
+    }
     ShowMatches();
 }
 
@@ -320,94 +419,60 @@ void FindBar::FindWord(bool down)
 // Nothing that is found where it stands already, as an end of the line can be, is passed by.
 bool FindBar::SelectNext(Editor& editor, bool down)
 {
-    m_manager.SetDown(down);
-    const auto length = static_cast<int>(editor.GetLength(1));
-    const auto from =
-        static_cast<int>(down ? editor.GetSelectionEnd(1) : editor.GetSelectionStart(1));
-    const int to = down ? length : 0;
-    int found = m_manager.FindInRange(&editor, from, to, false);
+    const Range searched = Searched(editor);
+    const long end = down ? searched.end : searched.start;
+    const auto find = [&](long from, long to) {
+        return m_manager.FindInRange(&editor, static_cast<int>(from), static_cast<int>(to), true);
+    };
+    // While all of it is selected the search has not begun.
+    const bool isFresh = m_scope && IsSelected(editor, searched.start, searched.end);
+    const bool fromEnd = isFresh ? !down : down;
+    const long from = std::clamp(fromEnd ? editor.GetSelectionEnd(1) : editor.GetSelectionStart(1),
+                                 searched.start, searched.end);
+    long found = find(from, end);
     const bool isNothing = found >= 0 && editor.GetTargetStart(1) == editor.GetTargetEnd(1);
     if (isNothing && IsSelected(editor, found, found)) {
-        const auto next =
-            static_cast<int>(down ? editor.PositionAfter(from, 1) : editor.PositionBefore(from, 1));
-        found = m_manager.FindInRange(&editor, next != from ? next : length - to, to, false);
+        const long next = down ? editor.PositionAfter(from, 1) : editor.PositionBefore(from, 1);
+        found = from == end ? -1 : find(next, end);
     }
-    m_manager.SetDown(true);
+    m_wentRound = found < 0;
+    if (m_wentRound)
+        found = down ? find(searched.start, end) : find(searched.end, end);
     if (found < 0)
         return false;
-    const long end = editor.GetTargetEnd(1);
+    const long matchEnd = editor.GetTargetEnd(1);
     editor.EnsureVisibleEnforcePolicy(editor.LineFromPosition(found, 1), 1);
-    editor.SetSel(found, end, 1);
+    editor.SetSel(found, matchEnd, 1);
     return true;
 }
 
-void FindBar::Replace()
-{
-    Editor* editor = m_editor();
-    if (!editor)
-        return;
-    if (!isVisible() || !Prepare()) {
-        Open();
-        return;
-    }
-    m_manager.AddReplaceHistory(m_replace->currentText());
-    const long start = editor->GetSelectionStart(1);
-    const long end = editor->GetSelectionEnd(1);
-    const int found =
-        m_manager.FindInRange(editor, static_cast<int>(start), static_cast<int>(end), true);
-    if (found == start && editor->GetTargetEnd(1) == end && !editor->GetReadOnly(1)) {
-        editor->SetSel(start, start, 1);
-        m_manager.ReplaceOne(editor);
-        const long caret = editor->GetCurrentPos(1);
-        editor->SetSel(caret, caret, 1);
-    }
-    TellFound(*editor, SelectNext(*editor, true));
-}
-
-void FindBar::ReplaceAll()
-{
-    Editor* editor = m_editor();
-    if (!editor || !Prepare())
-        return;
-    m_manager.AddReplaceHistory(m_replace->currentText());
-    const int count = m_manager.ReplaceAll(editor, false);
-    Tell(m_manager.WasStopped() ? tr("Stopped, %n replaced", nullptr, count)
-                                : tr("%n replaced", nullptr, count));
-}
-
-// The editor marks what an expression finds.
+// Lines, by the marker of bookmarks.
 void FindBar::MarkAll()
 {
     Editor* editor = m_editor();
-    if (!editor || !Prepare())
+    if (!Prepare(editor))
         return;
-    const QString sought = m_find->currentText();
-    const long anchor = editor->GetAnchor(1);
-    const long caret = editor->GetCurrentPos(1);
-    const int count = editor->MarkAll(m_expression->isChecked() ? sought : Escaped(sought),
-                                      m_matchCase->isChecked());
-    editor->SetSel(anchor, caret, 1);
-    m_manager.SetFind(sought);
-    m_manager.SetRegExp(m_expression->isChecked());
-    Tell(tr("%n found and marked", nullptr, std::max(count, 0)));
+    int count = 0;
+    EachMatch(*editor, [&](long found) {
+        const int line = editor->LineFromPosition(found, 1);
+        if (!(editor->MarkerGet(line, 1) & 1 << kBookmark))
+            editor->MarkerAdd(line, kBookmark, 1);
+        ++count;
+        return true;
+    });
+    Tell(tr("%n found and marked", nullptr, count));
 }
 
 void FindBar::Count()
 {
     Editor* editor = m_editor();
-    if (!editor || !Prepare())
+    if (!Prepare(editor))
         return;
-    const auto length = static_cast<int>(editor->GetLength(1));
     int count = 0;
-    for (int from = 0; from <= length;) {
-        const int found = m_manager.FindInRange(editor, from, length, true);
-        if (found < 0)
-            break;
+    EachMatch(*editor, [&count](long) {
         ++count;
-        const auto end = static_cast<int>(editor->GetTargetEnd(1));
-        from =
-            end > found ? end : std::max(end + 1, static_cast<int>(editor->PositionAfter(end, 1)));
-    }
+        return true;
+    });
     Tell(tr("%n found", nullptr, count));
 }
 
@@ -415,6 +480,8 @@ void FindBar::Count()
 void FindBar::Tell(const QString& result)
 {
     m_result->setText(result);
+    m_result->setToolTip(result);
+    m_tellsWrong = false;
     if (!result.isEmpty())
         show();
     Update();

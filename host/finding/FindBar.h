@@ -6,11 +6,13 @@
 #include <QWidget>
 
 #include <functional>
+#include <optional>
 #include <utility>
 #include <vector>
 
 class CFindReplaceManager;
 class CZNCoreEditorControlEx;
+class ExpressionHelp;
 class QAction;
 class QCheckBox;
 class QComboBox;
@@ -43,6 +45,9 @@ public:
 
     struct Row; // a menu's entry, and a button
 
+Q_SIGNALS:
+    void Told(const QString& text); // what cannot be read while the bar is hidden
+
 protected:
     void keyPressEvent(QKeyEvent* event) override;
     bool eventFilter(QObject* watched, QEvent* event) override;
@@ -51,10 +56,34 @@ private:
     QComboBox* MakeBox(const char* name, const QString& label);
     QCheckBox* MakeOption(const char* name, const QString& label, bool isOn);
     bool IsPossible(const Row& row) const;
-    bool Prepare(); // hands the bar's settings to the manager; false if nothing is sought
+    struct Range // of UTF-16 units
+    {
+        long start = 0;
+        long end = 0;
+    };
+    // Which the find bar searches instead of the whole text. Its end is counted from the text's:
+    // what is replaced inside leaves both where they are.
+    struct Scope
+    {
+        const CZNCoreEditorControlEx* editor = nullptr;
+        long start = 0;
+        long behind = 0; // units from its end to the text's
+    };
+    // Hands the bar's settings to the manager. False if there is nothing to do, of which the person
+    // knows then.
+    bool Prepare(CZNCoreEditorControlEx* editor);
+    QString
+    WhatIsWrong(CZNCoreEditorControlEx& editor) const; // with the expression; empty: nothing
+    int Flags() const;                                 // of the engine's search
+    void ScopeSelection(bool isOn);
+    Range Searched(CZNCoreEditorControlEx& editor) const;
     void Find(bool down);
     void FindWord(bool down);
     bool SelectNext(CZNCoreEditorControlEx& editor, bool down);
+    int ReplaceEach(CZNCoreEditorControlEx& editor);
+    void ReplaceTarget(CZNCoreEditorControlEx& editor);
+    template <typename Match>
+    void EachMatch(CZNCoreEditorControlEx& editor, Match match);
     void Tell(const QString& result);
     void TellFound(CZNCoreEditorControlEx& editor, bool isFound);
     QString Place(CZNCoreEditorControlEx& editor);
@@ -67,6 +96,12 @@ private:
     QCheckBox* m_matchCase;
     QCheckBox* m_wholeWord;
     QCheckBox* m_expression;
+    QCheckBox* m_inSelection;
+    QCheckBox* m_preserveCase;
+    ExpressionHelp* m_help;
     QLabel* m_result;
+    std::optional<Scope> m_scope;
+    bool m_wentRound = false;  // with the last step
+    bool m_tellsWrong = false; // what is wrong with the expression stands there
     std::vector<std::pair<QAction*, const Row*>> m_actions;
 };

@@ -39,6 +39,7 @@
 namespace {
 
 constexpr int kProblemsHeight = 110; // pixels, of some four lines
+constexpr int kMessageTime = 4000;   // milliseconds in the status bar
 constexpr int kExpandedWidth = 460;  // pixels, of some fifty characters
 
 QString NotStored(const QString& what)
@@ -56,6 +57,8 @@ MainWindow::MainWindow(Workbench& app)
       m_expanded(new ExpandedScript(this)), m_sessionTimer(new QTimer(this))
 {
     m_find = new FindBar([this] { return CurrentEditor(); });
+    connect(m_find, &FindBar::Told, this,
+            [this](const QString& text) { statusBar()->showMessage(text, kMessageTime); });
     auto* center = new QWidget(this);
     auto* layout = new QVBoxLayout(center);
     layout->setContentsMargins(0, 0, 0, 0);

@@ -139,6 +139,7 @@ void MainWindow::FindInFiles()
     request.wholeWord = manager.GetWholeWord();
     request.matchCase = manager.GetMatchCase();
     request.regExp = manager.GetRegExp();
+    request.perlSyntax = manager.GetPerlSyntax();
     request.countOnly = manager.GetCountOnly();
     request.subFolders = manager.GetSubFolders();
     request.types = manager.GetFileType();

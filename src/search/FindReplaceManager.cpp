@@ -21,6 +21,7 @@ enum SearchFlag : int
     kWholeWord = 2,
     kMatchCase = 4,
     kRegExp = 0x200000,
+    kPerlSyntax = 0x800000,
 };
 
 bool ReadFlag(CRegProfile& profile, const char16_t* entry, int fallback = 0)
@@ -165,7 +166,8 @@ int CFindReplaceManager::FindInRange(CZNCoreEditorControl* control, int start, i
         return -1;
     const int flags = control->GetSearchFlags(1);
     control->SetSearchFlags((m_bWholeWord ? kWholeWord : 0) | (m_bMatchCase ? kMatchCase : 0) |
-                                (m_bRegExp ? kRegExp : 0),
+                                (m_bRegExp ? kRegExp : 0) |
+                                (m_bRegExp && m_perlSyntax ? kPerlSyntax : 0),
                             1);
     int pos = SearchTarget(*control, start, end);
     if (pos == -1 && m_bWrap && !noWrap) {

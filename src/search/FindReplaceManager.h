@@ -29,6 +29,9 @@ public:
     void SetWholeWord(bool wholeWord) { m_bWholeWord = wholeWord; }
     bool GetRegExp() const { return m_bRegExp; }
     void SetRegExp(bool regExp) { m_bRegExp = regExp; }
+    // Expressions in the way of Perl, instead of the engine's own. Not remembered.
+    bool GetPerlSyntax() const { return m_perlSyntax; }
+    void SetPerlSyntax(bool perlSyntax) { m_perlSyntax = perlSyntax; }
     bool GetMatchCase() const { return m_bMatchCase; }
     void SetMatchCase(bool matchCase) { m_bMatchCase = matchCase; }
     bool GetDown() const { return m_bDown; } // towards the text's end
@@ -113,6 +116,7 @@ private:
     bool m_bTransform = false;
     bool m_isStopped = false;
     bool m_bRegExp = false;
+    bool m_perlSyntax = false;
     bool m_bWholeWord = false;
     bool m_bMatchCase = false;
     bool m_bDown = true;

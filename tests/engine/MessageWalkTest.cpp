@@ -4,6 +4,7 @@
 
 #include "control/Completion.h"
 #include "control/EngineLooks.h"
+#include "control/ExpressionCheck.h"
 
 #include <QWidget>
 
@@ -216,7 +217,7 @@ TEST(MessageWalk, NumbersOutsideTheTableAnswerNothing)
     std::map<UINT, bool> known{{msg::GetDirectFunction, true}, {msg::GetDirectPointer, true},
                                {engine::kRestyle, true},       {engine::kExtendedTexts, true},
                                {engine::kExtendedText, true},  {engine::kSetLooks, true},
-                               {engine::kShowMatches, true}};
+                               {engine::kShowMatches, true},   {engine::kExpressionProblem, true}};
     for (const MessageRow& row : engine::kMessageRows)
         known[row.number] = true;
     for (UINT number = 0; number <= 5000; ++number) {

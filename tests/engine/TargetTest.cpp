@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 // The target and the groups of an expression go along with the text.
+#include "control/ExpressionCheck.h"
 #include "tests/engine/EngineFixture.h"
 
 #include <gtest/gtest.h>
@@ -154,4 +155,24 @@ TEST_F(Targets, AreNotSplitWhereTheTextIsProtected)
     m_engine.Send(msg::SetReadOnly, 1);
     m_engine.Send(msg::LinesSplit, 1);
     EXPECT_EQ(m_engine.Text(), u"one two");
+}
+
+TEST_F(Targets, TellWhatIsWrongWithAnExpression)
+{
+    constexpr WPARAM kExpression = 0x200000;
+    constexpr WPARAM kPerlSyntax = 0x800000;
+    const auto problemOf = [this](const char16_t* text, WPARAM flags) -> std::u16string {
+        engine::ExpressionProblem problem;
+        problem.text = text;
+        if (!m_engine.Send(engine::kExpressionProblem, flags, &problem))
+            return u"none";
+        return std::u16string(problem.reason) + u'@' + static_cast<char16_t>(u'0' + problem.place);
+    };
+    EXPECT_EQ(problemOf(u"(", 0), u"none");
+    EXPECT_EQ(problemOf(u"(", kExpression), u"none");
+    EXPECT_EQ(problemOf(u"\\(a\\)", kExpression), u"none");
+    EXPECT_EQ(problemOf(u"\U0001F600\\(", kExpression), u"the group has no end@2");
+    EXPECT_EQ(problemOf(u"a\\", kExpression), u"nothing follows the backslash@1");
+    EXPECT_EQ(problemOf(u"\u00e4(", kExpression | kPerlSyntax), u"missing closing parenthesis@2");
+    EXPECT_EQ(m_engine.Send(engine::kExpressionProblem, kExpression, LPARAM{0}), 0);
 }

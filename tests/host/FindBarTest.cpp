@@ -4,6 +4,9 @@
 
 #include "editing/ZNCoreEditorControlEx.h"
 #include "editing/ZNCoreEditorWidget.h"
+#include "host/finding/ExpressionHelp.h"
+#include "host/finding/MatchCase.h"
+#include "prefs/RegProfile.h"
 #include "search/FindReplaceManager.h"
 
 #include <QAction>
@@ -31,6 +34,7 @@ protected:
         bar.AddActions(menu);
         for (const char* option : {"matchCase", "wholeWord", "expression"})
             Set(option, false);
+        SetPerl(true);
         window.show();
     }
     // The manager is that of the process, which other tests share.
@@ -40,6 +44,8 @@ protected:
         manager.SetFind(QString());
         manager.SetReplace(QString());
         manager.SetRegExp(false);
+        manager.SetPerlSyntax(false);
+        CRegProfile().DeleteProfileValue(u"Preferences\\Search", u"PerlSyntax");
         manager.SetMatchCase(false);
         manager.SetWholeWord(false);
     }
@@ -57,6 +63,7 @@ protected:
     {
         bar.findChild<QCheckBox*>(QLatin1String(option))->setChecked(on);
     }
+    void SetPerl(bool isPerl) { bar.findChild<ExpressionHelp*>()->SetPerl(isPerl); }
     QComboBox& Box(const char* name) { return *bar.findChild<QComboBox*>(QLatin1String(name)); }
     QString Result() { return bar.findChild<QLabel*>(QStringLiteral("findResult"))->text(); }
     QAction& Action(const char* name) { return *menu.findChild<QAction*>(QLatin1String(name)); }
@@ -110,7 +117,7 @@ TEST_F(FindBars, FollowsItsOptions)
     EXPECT_EQ(Selected(), Range(11, 14));
     Set("wholeWord", false);
     Set("expression", true);
-    Seek(QStringLiteral("^\\(o.*\\)O"));
+    Seek(QStringLiteral("^(o.*)O"));
     bar.FindNext();
     EXPECT_EQ(Selected(), Range(0, 8));
 }
@@ -119,13 +126,163 @@ TEST_F(FindBars, SaysThatNothingIsFound)
 {
     SetText(QStringLiteral("one"));
     editor->SetSel(1, 2, 1);
-    for (const char* sought : {"two", "\\(", "["}) {
-        Set("expression", *sought != 't');
-        Seek(QLatin1String(sought));
-        bar.FindNext();
-        EXPECT_EQ(Result(), QStringLiteral("Not found")) << sought;
-        EXPECT_EQ(Selected(), Range(1, 2));
+    Seek(QStringLiteral("two"));
+    bar.FindNext();
+    EXPECT_EQ(Result(), QStringLiteral("Not found"));
+    EXPECT_EQ(Selected(), Range(1, 2));
+}
+
+TEST_F(FindBars, SaysWhatIsWrongWithAnExpression)
+{
+    SetText(QStringLiteral("one"));
+    editor->SetSel(1, 2, 1);
+    bar.Open();
+    Set("expression", true);
+    Seek(QStringLiteral("o(n"));
+    EXPECT_EQ(Result(), "No expression: missing closing parenthesis, at character 4");
+    bar.FindNext();
+    EXPECT_EQ(Result(), "No expression: missing closing parenthesis, at character 4");
+    EXPECT_EQ(Selected(), Range(1, 2));
+    Seek(QStringLiteral("o(n)"));
+    EXPECT_EQ(Result(), QString());
+    SetPerl(false);
+    Seek(QStringLiteral("\u00E4\\(o"));
+    EXPECT_EQ(Result(), "No expression: the group has no end, at character 2");
+    Seek(QStringLiteral("*"));
+    bar.ReplaceAll();
+    EXPECT_EQ(Result(), "No expression: nothing stands here to be repeated, at character 1");
+    Set("expression", false);
+    EXPECT_EQ(Result(), QString());
+}
+
+TEST_F(FindBars, TakesTheGrammarThatIsChosenAndKeepsIt)
+{
+    SetText(QStringLiteral("(ab)ab"));
+    Set("expression", true);
+    Seek(QStringLiteral("(ab)"));
+    bar.FindNext();
+    EXPECT_EQ(Selected(), Range(1, 3));
+    SetPerl(false);
+    bar.FindNext();
+    EXPECT_EQ(Selected(), Range(0, 4));
+    EXPECT_FALSE(FindBar([this] { return editor; }).findChild<ExpressionHelp*>()->IsPerl());
+    EXPECT_FALSE(CFindReplaceManager().GetPerlSyntax());
+}
+
+TEST_F(FindBars, PutPiecesOfAnExpressionIn)
+{
+    auto& help = *bar.findChild<ExpressionHelp*>();
+    Q_EMIT help.menu()->aboutToShow();
+    for (QAction* action : help.menu()->actions()) {
+        if (action->text().startsWith(QStringLiteral("\\d\t")))
+            action->trigger();
     }
+    EXPECT_EQ(Box("findText").currentText(), QStringLiteral("\\d"));
+    EXPECT_TRUE(bar.findChild<QCheckBox*>(QStringLiteral("expression"))->isChecked());
+}
+
+TEST_F(FindBars, SayThatTheyWentRound)
+{
+    SetText(QStringLiteral("one two one"));
+    bar.Open();
+    Seek(QStringLiteral("one"));
+    bar.FindNext();
+    bar.FindNext();
+    EXPECT_EQ(Result(), QStringLiteral("2 of 2"));
+    bar.FindNext();
+    EXPECT_EQ(Result(), QStringLiteral("1 of 2, gone round"));
+    bar.Close();
+    QStringList told;
+    QObject::connect(&bar, &FindBar::Told, [&told](const QString& text) { told << text; });
+    bar.FindPrevious();
+    bar.FindPrevious();
+    EXPECT_EQ(told, QStringList{"On from the end"});
+}
+
+TEST_F(FindBars, StayInTheSelection)
+{
+    SetText(QStringLiteral("one\none one\none"));
+    editor->SetSel(4, 11, 1);
+    Seek(QStringLiteral("one"));
+    Set("inSelection", true);
+    bar.FindNext();
+    bar.FindNext();
+    EXPECT_EQ(Selected(), Range(8, 11));
+    bar.FindNext();
+    EXPECT_EQ(Selected(), Range(4, 7));
+    bar.FindPrevious();
+    EXPECT_EQ(Selected(), Range(8, 11));
+    ReplaceWith(QStringLiteral("x"));
+    bar.ReplaceAll();
+    EXPECT_EQ(widget.text(), QStringLiteral("one\nx x\none"));
+    EXPECT_EQ(Selected(), Range(4, 7));
+    ReplaceWith(QStringLiteral("longer"));
+    Seek(QStringLiteral("x"));
+    bar.ReplaceAll();
+    EXPECT_EQ(widget.text(), QStringLiteral("one\nlonger longer\none"));
+    Seek(QStringLiteral("one"));
+    bar.ReplaceAll();
+    EXPECT_EQ(Result(), QStringLiteral("0 replaced"));
+    editor->Undo(1);
+    editor->Undo(1);
+    EXPECT_EQ(widget.text(), QStringLiteral("one\none one\none"));
+}
+
+TEST_F(FindBars, SearchLinesThatAreSelected)
+{
+    SetText(QStringLiteral("one\none one\none"));
+    Seek(QStringLiteral("one"));
+    editor->SetSel(3, 11, 1);
+    bar.Open();
+    EXPECT_EQ(Box("findText").currentText(), QStringLiteral("one"));
+    bar.Count();
+    EXPECT_EQ(Result(), QStringLiteral("2 found"));
+    bar.Close();
+    bar.Count();
+    EXPECT_EQ(Result(), QStringLiteral("4 found"));
+    editor->SetSel(0, 0, 1);
+    Set("inSelection", true);
+    EXPECT_EQ(Result(), QStringLiteral("Nothing is selected"));
+    EXPECT_FALSE(bar.findChild<QCheckBox*>(QStringLiteral("inSelection"))->isChecked());
+}
+
+TEST_F(FindBars, KeepTheCaseOfWhatTheyReplace)
+{
+    SetText(QStringLiteral("name Name NAME nAme"));
+    Seek(QStringLiteral("name"));
+    ReplaceWith(QStringLiteral("titleOf"));
+    Set("preserveCase", true);
+    bar.ReplaceAll();
+    EXPECT_EQ(widget.text(), QStringLiteral("titleof TitleOf TITLEOF titleOf"));
+    editor->Undo(1);
+    EXPECT_EQ(widget.text(), QStringLiteral("name Name NAME nAme"));
+    bar.Open();
+    Seek(QStringLiteral("name"));
+    editor->SetSel(10, 14, 1);
+    bar.Replace();
+    EXPECT_EQ(widget.text(), QStringLiteral("name Name TITLEOF nAme"));
+    editor->Undo(1);
+    EXPECT_EQ(widget.text(), QStringLiteral("name Name NAME nAme"));
+}
+
+TEST(MatchCase, LeavesWhatHasNoCase)
+{
+    EXPECT_EQ(InCaseOf(QStringLiteral("12"), QStringLiteral("aB")), QStringLiteral("aB"));
+    EXPECT_EQ(InCaseOf(QStringLiteral("\u00C4\u00D6"), QStringLiteral("\u00FC")),
+              QStringLiteral("\u00DC"));
+    EXPECT_EQ(InCaseOf(QStringLiteral("A"), QString()), QString());
+}
+
+TEST_F(FindBars, ReplaceNothingAtEachLineInTheSelection)
+{
+    SetText(QStringLiteral("a\n\nb\nc"));
+    editor->SetSel(0, 4, 1);
+    Seek(QStringLiteral("^"));
+    ReplaceWith(QStringLiteral("-- "));
+    Set("expression", true);
+    Set("inSelection", true);
+    bar.ReplaceAll();
+    EXPECT_EQ(widget.text(), QStringLiteral("-- a\n-- \n-- b\nc"));
 }
 
 TEST_F(FindBars, PassesFromOneLineEndToTheNext)
@@ -161,7 +318,7 @@ TEST_F(FindBars, ReplacesWhatIsFoundAndGoesOn)
     SetText(QStringLiteral("a-b a-c"));
     bar.Open();
     Set("expression", true);
-    Seek(QStringLiteral("\\([a-z]\\)-\\([a-z]\\)"));
+    Seek(QStringLiteral("([a-z])-([a-z])"));
     ReplaceWith(QStringLiteral("\\2+\\1"));
     bar.Replace(); // nothing is selected yet
     EXPECT_EQ(widget.text(), QStringLiteral("a-b a-c"));

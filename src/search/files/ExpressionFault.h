@@ -7,4 +7,4 @@
 #include <QString>
 
 // A sentence for a person; empty for an expression that is well.
-ZN_API QString ExpressionFault(const QString& expression);
+ZN_API QString ExpressionFault(const QString& expression, bool perlSyntax = false);

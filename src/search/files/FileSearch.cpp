@@ -139,7 +139,7 @@ private:
 void CFileSearch::Job::Start()
 {
     std::vector<Task> tasks;
-    m_fault = m_request.regExp ? ExpressionFault(m_request.text) : QString();
+    m_fault = m_request.regExp ? ExpressionFault(m_request.text, m_request.perlSyntax) : QString();
     for (const QString& folder : m_request.openOnly ? QStringList() : m_request.folders)
         tasks.push_back({Task::Folder, QFile::encodeName(folder).toStdString()});
     for (std::size_t i = m_request.open.size(); i-- > 0;) {

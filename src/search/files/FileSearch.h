@@ -25,6 +25,7 @@ struct FileSearchRequest
     bool wholeWord = false;
     bool matchCase = false;
     bool regExp = false;
+    bool perlSyntax = false; // of the expression
     bool countOnly = false; // matches are counted, and not described
     bool replaces = false;  // each match tells what it would become
     QString replacement;    // an expression's has \\1 to \\9

@@ -168,7 +168,8 @@ TextSearch::TextSearch(const FileSearchRequest& request, const std::atomic<bool>
       m_replacement(request.replacement.toUtf8().toStdString()),
       m_overlap(request.regExp ? kExpressionOverlap : kTextOverlap + m_sought.size()),
       m_flags((request.wholeWord ? flag::WholeWord : 0) |
-              (request.matchCase ? flag::MatchCase : 0) | (request.regExp ? flag::Expression : 0)),
+              (request.matchCase ? flag::MatchCase : 0) | (request.regExp ? flag::Expression : 0) |
+              (request.regExp && request.perlSyntax ? flag::Native : 0)),
       m_searcher(m_text, {kSeconds, Clock})
 {}
 

@@ -137,6 +137,9 @@ TEST_F(FileSearches, SayWhatIsWrongWithAnExpression)
     EXPECT_THAT(found.notes, ElementsAre(fault));
     EXPECT_EQ(found.totals.matches, 0);
     EXPECT_EQ(ExpressionFault("a\\(b\\)[0-9]+"), "");
+    EXPECT_EQ(ExpressionFault("a(b)\\d{2,}", true), "");
+    EXPECT_EQ(ExpressionFault("a(b", true), "The expression is not complete.");
+    EXPECT_EQ(ExpressionFault("ab)c", true), "The expression cannot be read from character 3 on.");
     EXPECT_EQ(ExpressionFault(QString::fromUtf8("\u00e4b\\9c")),
               "The expression cannot be read from character 3 on.");
 }

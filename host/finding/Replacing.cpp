@@ -1,0 +1,106 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+// Replacing, of FindBar.
+#include "editing/ZNCoreEditorControlEx.h"
+#include "host/finding/FindBar.h"
+#include "host/finding/MatchCase.h"
+#include "platform/base/Units.h"
+#include "search/FindReplaceManager.h"
+
+#include <QCheckBox>
+#include <QComboBox>
+
+#include <algorithm>
+
+using Editor = CZNCoreEditorControlEx;
+
+void FindBar::Replace()
+{
+    Editor* editor = m_editor();
+    if (editor && !isVisible())
+        Open();
+    else if (Prepare(editor)) {
+        m_manager.AddReplaceHistory(m_replace->currentText());
+        const Range searched = Searched(*editor);
+        const long start = editor->GetSelectionStart(1);
+        const long end = editor->GetSelectionEnd(1);
+        const int found =
+            m_manager.FindInRange(editor, static_cast<int>(start), static_cast<int>(end), true);
+        if (found == start && editor->GetTargetEnd(1) == end && start >= searched.start &&
+            end <= searched.end && !editor->GetReadOnly(1)) {
+            editor->SetSel(start, start, 1);
+            editor->BeginUndoAction(1);
+            ReplaceTarget(*editor);
+            editor->EndUndoAction(1);
+            const long behind = editor->GetTargetEnd(1);
+            editor->SetSel(behind, behind, 1);
+        }
+        TellFound(*editor, SelectNext(*editor, true));
+    }
+}
+
+// With the target on what was put in.
+void FindBar::ReplaceTarget(Editor& editor)
+{
+    const auto targetText = [&editor] {
+        const long start = editor.GetTargetStart(1);
+        QString text(editor.GetTargetEnd(1) - start, Qt::Uninitialized);
+        editor.GetRange(start, start + text.size(), reinterpret_cast<char16_t*>(text.data()));
+        return text;
+    };
+    if (!m_preserveCase->isChecked()) {
+        m_manager.ReplaceOne(&editor);
+        return;
+    }
+    const QString match = targetText();
+    m_manager.ReplaceOne(&editor);
+    const QString replacement = targetText();
+    const QString inCase = InCaseOf(match, replacement);
+    if (inCase != replacement)
+        editor.ReplaceTarget(static_cast<int>(inCase.size()), Units(inCase), 1);
+}
+
+void FindBar::ReplaceAll()
+{
+    Editor* editor = m_editor();
+    if (!Prepare(editor))
+        return;
+    m_manager.AddReplaceHistory(m_replace->currentText());
+    const bool isPlain = !m_scope && !m_preserveCase->isChecked();
+    const int count = isPlain ? m_manager.ReplaceAll(editor, false) : ReplaceEach(*editor);
+    Tell(isPlain && m_manager.WasStopped() ? tr("Stopped, %n replaced", nullptr, count)
+                                           : tr("%n replaced", nullptr, count));
+}
+
+// One by one, within what is searched alone: the manager's way lets a range grow over what follows.
+int FindBar::ReplaceEach(Editor& editor)
+{
+    if (editor.GetReadOnly(1))
+        return 0;
+    int count = 0;
+    const long anchor = editor.GetAnchor(1);
+    const long caret = editor.GetCurrentPos(1);
+    editor.SetDoingReplaceAll(true, 1);
+    editor.BeginUndoAction(1);
+    for (long from = Searched(editor).start; from <= Searched(editor).end;) {
+        const long end = Searched(editor).end;
+        const long found =
+            m_manager.FindInRange(&editor, static_cast<int>(from), static_cast<int>(end), true);
+        if (found < 0)
+            break;
+        const bool isNothing = editor.GetTargetEnd(1) == found;
+        const long behind = editor.GetLength(1) - editor.GetTargetEnd(1);
+        ReplaceTarget(editor);
+        ++count;
+        from = editor.GetLength(1) - behind;
+        if (isNothing)
+            from = std::max(from + 1, editor.PositionAfter(from, 1));
+    }
+    editor.EndUndoAction(1);
+    editor.SetDoingReplaceAll(false, 1);
+    const Range searched = Searched(editor);
+    if (m_scope)
+        editor.SetSel(searched.start, searched.end, 1);
+    else
+        editor.SetSel(std::min(anchor, searched.end), std::min(caret, searched.end), 1);
+    return count;
+}
