@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 // znworkbench: an example host. It opens SQL scripts in tabs, edits and saves them.
 #include "control/ZNCoreEditorControl.h"
+#include "host/icons/Icons.h"
 #include "host/window/Arguments.h"
 #include "host/window/MainWindow.h"
 #include "host/window/Screenshot.h"
@@ -49,6 +50,7 @@ int main(int argc, char** argv)
 {
     QApplication application(argc, argv);
     QApplication::setApplicationName(QStringLiteral("znworkbench"));
+    QApplication::setWindowIcon(ApplicationIcon());
 
     const Arguments arguments = ParseArguments(QApplication::arguments());
     if (!arguments.help.isEmpty()) {

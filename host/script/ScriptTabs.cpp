@@ -118,9 +118,37 @@ void ScriptTabs::Show(QWidget* page)
 
 void ScriptTabs::Remove(QWidget* page)
 {
+    constexpr qsizetype kMost = 50;
     const int index = indexOf(page);
-    if (index >= 0)
-        removeTab(index);
+    if (index < 0)
+        return;
+    const QString path = tabToolTip(index);
+    removeTab(index);
+    if (!QFileInfo(path).isAbsolute() || IsShown(path))
+        return;
+    m_closed.removeAll(path);
+    m_closed << path;
+    if (m_closed.size() > kMost)
+        m_closed.removeFirst();
+}
+
+bool ScriptTabs::IsShown(const QString& path) const
+{
+    for (int i = 0; i < count(); ++i) {
+        if (tabToolTip(i) == path)
+            return true;
+    }
+    return false;
+}
+
+QString ScriptTabs::TakeClosed()
+{
+    while (!m_closed.isEmpty()) {
+        const QString path = m_closed.takeLast();
+        if (!IsShown(path) && QFileInfo(path).isFile())
+            return path;
+    }
+    return {};
 }
 
 void ScriptTabs::SetCaption(QWidget* page, const QString& caption, const QString& toolTip)

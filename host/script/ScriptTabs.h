@@ -18,6 +18,11 @@ public:
 
     void Show(QWidget* page); // adds it if it has no tab yet
     void Remove(QWidget* page);
+
+    // The file of the tab that was closed last and has none, which is forgotten; empty: there is
+    // no more.
+    QString TakeClosed();
+    bool HasClosed() const { return !m_closed.isEmpty(); }
     void SetCaption(QWidget* page, const QString& caption, const QString& toolTip);
 
     // What the menu of a tab, or a click on it, asks for.
@@ -30,7 +35,10 @@ protected:
 private:
     void FillList();
 
-    QMenu* m_list; // of all tabs
+    bool IsShown(const QString& path) const;
+
+    QMenu* m_list;        // of all tabs
+    QStringList m_closed; // files, the last one last
 
 Q_SIGNALS:
     void Added(QWidget* page);

@@ -56,6 +56,9 @@ public:
     void UpdateAll();                         // what is shown of the script in front
 
     // The commands of the menus that are the window's own.
+    void ReopenClosed();
+    void ShowKeys();
+    void ShowAboutBox();
     void ShowWhitespace(bool show);
     void ShowLineEnds(bool show);
     void WrapLines(bool wrap);

@@ -6,17 +6,21 @@
 #include "editing/ZNCoreEditorControlEx.h"
 #include "host/commands/WorkbenchCommands.h"
 #include "host/finding/FindBar.h"
+#include "host/help/About.h"
+#include "host/help/KeysDialog.h"
 #include "host/problems/ProblemPane.h"
 #include "host/script/ScriptDoc.h"
 #include "host/script/ScriptFrame.h"
 #include "host/script/ScriptTabs.h"
 #include "host/window/CommandPalette.h"
 #include "host/window/EditingMenu.h"
+#include "host/window/FieldMenus.h"
 #include "host/window/LanguageMenu.h"
 #include "host/window/MainFrame.h"
 #include "host/window/MainWindow.h"
 #include "host/window/RecentMenu.h"
 #include "host/window/SchemeMenu.h"
+#include "host/window/ToolBar.h"
 #include "host/window/Workbench.h"
 #include "platform/docview/CommandIds.h"
 #include "platform/windows/ActionUI.h"
@@ -26,6 +30,7 @@
 #include <QKeySequence>
 #include <QMenu>
 #include <QMenuBar>
+#include <QToolBar>
 
 #include <type_traits>
 
@@ -34,6 +39,7 @@ enum class MainWindow::When
     Always,
     Script, // a script is shown
     SeveralScripts,
+    SomethingClosed,
 };
 
 // A row has the number of a command, which is routed from the script in front to the application
@@ -87,6 +93,7 @@ std::span<const MainWindow::Command> MainWindow::Commands()
         {"&File", "saveHtml",  "Save as &HTML...", Key::UnknownKey, nullptr,       command::SaveHtml},
         {"&File", nullptr},
         {"&File", "close",     "&Close",        Key::Close,        "Ctrl+W",       ID_FILE_CLOSE},
+        {"&File", "reopenClosed", "Reop&en Closed", Key::UnknownKey, "Ctrl+Shift+T", 0, When::SomethingClosed, Run<&W::ReopenClosed>},
         {"&File", "quit",      "&Quit",         Key::Quit,         "Ctrl+Q",       ID_APP_EXIT},
 
         {"&Edit", "undo",      "&Undo",         Key::Undo,         nullptr,  57643},
@@ -130,8 +137,8 @@ std::span<const MainWindow::Command> MainWindow::Commands()
         {"&View", nullptr},
         {"&View", "nextProblem", "Next Proble&m", Key::UnknownKey, "F8",   0, When::Script, Run<&W::NextProblem>},
         {"&View", nullptr},
-        {"&View", "next",      "Ne&xt Script",     Key::NextChild,     nullptr, 0, When::SeveralScripts, Run<&W::NextScript>},
-        {"&View", "previous",  "&Previous Script", Key::PreviousChild, nullptr, 0, When::SeveralScripts, Run<&W::PreviousScript>},
+        {"&View", "next",      "Ne&xt Script",     Key::NextChild,     "Ctrl+PgDown", 0, When::SeveralScripts, Run<&W::NextScript>},
+        {"&View", "previous",  "&Previous Script", Key::PreviousChild, "Ctrl+PgUp", 0, When::SeveralScripts, Run<&W::PreviousScript>},
 
         {"&Tools", "expand",   "&Expanded Script", Key::UnknownKey, "F9",    0, When::Script, Run<&W::ExpandScript>},
         {"&Tools", nullptr},
@@ -147,6 +154,9 @@ std::span<const MainWindow::Command> MainWindow::Commands()
         {"&Tools", "options",  "&Options...",   Key::Preferences,  "Ctrl+,", 0, When::Always, Run<&W::ChangeOptions>},
         {"&Tools", "preferences", "Editor and Language &Preferences...", Key::UnknownKey, nullptr, command::Preferences},
         {"&Tools", "autosave", "&Autosave...",  Key::UnknownKey,   nullptr,  0, When::Always, Run<&W::ChangeAutosave>},
+
+        {"&Help", "keys",      "&Keys",         Key::HelpContents, nullptr,  0, When::Always, Run<&W::ShowKeys>},
+        {"&Help", "about",     "&About",     Key::UnknownKey,   nullptr,  0, When::Always, Run<&W::ShowAboutBox>},
     };
     // clang-format on
     return commands;
@@ -181,11 +191,13 @@ void MainWindow::BuildMenus()
             [this](const QString& name) { m_app.ChooseScheme(name); });
     QMenu* menu = nullptr;
     QMenu* edit = nullptr;
+    QToolBar* bar = AddToolBar(*this);
     for (const Command& command : Commands()) {
         const QString title = QLatin1String(command.menu);
         if (!menu || menu->title() != title) {
             if (title == QLatin1String("&Tools")) {
                 menu->addAction(m_problems->toggleViewAction());
+                menu->addAction(bar->toggleViewAction());
                 menuBar()->addMenu(m_languages);
             }
             menu = menuBar()->addMenu(title);
@@ -206,6 +218,7 @@ void MainWindow::BuildMenus()
         const ScriptFrame* frame = CurrentFrame();
         return frame ? frame->View() : nullptr;
     });
+    FillToolBar(*bar, *this);
 }
 
 bool MainWindow::IsPossible(When when) const
@@ -215,6 +228,8 @@ bool MainWindow::IsPossible(When when) const
         return CurrentFrame() != nullptr;
     case When::SeveralScripts:
         return TabCount() > 1;
+    case When::SomethingClosed:
+        return m_tabs->HasClosed();
     default:
         return true;
     }
@@ -266,6 +281,23 @@ void MainWindow::WrapLines(bool wrap)
     ApplyViewToAll();
 }
 
+void MainWindow::ReopenClosed()
+{
+    if (const QString path = m_tabs->TakeClosed(); !path.isEmpty())
+        m_app.OpenDocumentFile(path);
+    UpdateCommands();
+}
+
+void MainWindow::ShowKeys()
+{
+    (new KeysDialog(*menuBar(), this))->show();
+}
+
+void MainWindow::ShowAboutBox()
+{
+    ShowAbout(this);
+}
+
 void MainWindow::ShowCommands()
 {
     auto* palette = new CommandPalette(*menuBar(), this);
@@ -289,6 +321,14 @@ void MainWindow::OpenField(const QString& field)
     if (field == QLatin1String("language")) {
         m_languages->popup(QCursor::pos());
         return;
+    }
+    CZNCoreEditorControlEx* editor = CurrentEditor();
+    if (editor && field == QLatin1String("zoom"))
+        ZoomMenu(*editor, this)->popup(QCursor::pos());
+    if (editor && field == QLatin1String("indentation")) {
+        QMenu* menu = IndentationMenu(*editor, this);
+        connect(menu, &QMenu::triggered, this, &MainWindow::UpdateAll);
+        menu->popup(QCursor::pos());
     }
     if (field == QLatin1String("lineEnds")) {
         auto* menu = new QMenu(this);

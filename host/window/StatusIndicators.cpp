@@ -9,6 +9,7 @@
 #include "host/script/ScriptDoc.h"
 #include "host/script/ScriptFrame.h"
 #include "host/script/ScriptView.h"
+#include "host/window/FieldMenus.h"
 
 #include <QEvent>
 #include <QLabel>
@@ -40,6 +41,9 @@ StatusIndicators::StatusIndicators(QStatusBar* bar)
       m_encoding(AddField("encoding", QStringLiteral("UTF-16 LE with mark"),
                           QT_TR_NOOP("Open with another encoding"))),
       m_lineEnds(AddField("lineEnds", QStringLiteral("CR LF"), QT_TR_NOOP("Convert line ends"))),
+      m_indentation(
+          AddField("indentation", QStringLiteral("Spaces: 8"), QT_TR_NOOP("Indentation"))),
+      m_zoom(AddField("zoom", QStringLiteral("100 %"), QT_TR_NOOP("Zoom"))),
       m_overtype(AddField("overtype", QStringLiteral("OVR"), QT_TR_NOOP("Whether typing replaces")))
 {}
 
@@ -95,7 +99,7 @@ void StatusIndicators::Show(const ScriptFrame* frame)
     ScriptDoc* script = frame ? frame->Script() : nullptr;
     if (!script || !script->LineEnds()) {
         for (QLabel* label : {m_recording, m_readOnly, m_modified, m_caret, m_catalog, m_language,
-                              m_encoding, m_lineEnds, m_overtype})
+                              m_encoding, m_lineEnds, m_indentation, m_zoom, m_overtype})
             label->clear();
         return;
     }
@@ -109,5 +113,7 @@ void StatusIndicators::Show(const ScriptFrame* frame)
     Put(*m_language, LanguageName(script->Language()));
     Put(*m_encoding, EncodingName(target.encoding, target.mark));
     Put(*m_lineEnds, LineEndText(script->LineEnds()->Kind(), editor.GetEOLMode(1)));
+    Put(*m_indentation, IndentationText(editor));
+    Put(*m_zoom, ZoomText(editor));
     Put(*m_overtype, editor.GetOvertype(1) ? QStringLiteral("OVR") : QStringLiteral("INS"));
 }

@@ -37,5 +37,7 @@ private:
     QLabel* m_language;
     QLabel* m_encoding;
     QLabel* m_lineEnds;
+    QLabel* m_indentation;
+    QLabel* m_zoom;
     QLabel* m_overtype;
 };
