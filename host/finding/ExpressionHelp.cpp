@@ -48,7 +48,7 @@ ExpressionHelp::ExpressionHelp(QWidget* parent)
     : QToolButton(parent), m_isPerl(CRegProfile().GetProfileInt(kSection, kEntry, 1) == 1)
 {
     setObjectName(QStringLiteral("expressionHelp"));
-    setText(QStringLiteral("?"));
+    setText(QStringLiteral("&?"));
     setToolTip(tr("What an expression may say"));
     setAccessibleName(toolTip());
     setAutoRaise(true);

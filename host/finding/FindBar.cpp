@@ -78,7 +78,7 @@ FindBar::FindBar(std::function<CZNCoreEditorControlEx*()> editor, QWidget* paren
       m_matchCase(MakeOption("matchCase", tr("Match ca&se"), m_manager.GetMatchCase())),
       m_wholeWord(MakeOption("wholeWord", tr("&Whole word"), m_manager.GetWholeWord())),
       m_expression(MakeOption("expression", tr("E&xpression"), m_manager.GetRegExp())),
-      m_inSelection(MakeOption("inSelection", tr("In se&lection"), false)),
+      m_inSelection(MakeOption("inSelection", tr("&In selection"), false)),
       m_preserveCase(MakeOption("preserveCase", tr("&Keep case"), false)),
       m_help(new ExpressionHelp(this)), m_result(new QLabel(this))
 {

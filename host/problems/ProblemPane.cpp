@@ -4,29 +4,45 @@
 #include "host/problems/SyntaxCheck.h"
 
 #include <QHeaderView>
+#include <QLabel>
 #include <QStyle>
 #include <QTreeWidget>
+#include <QVBoxLayout>
 
 namespace {
 
 constexpr int kLineColumn = 0;
-constexpr int kTextColumn = 1;
+constexpr int kPlaceColumn = 1;
+constexpr int kTextColumn = 2;
 constexpr int kStartRole = Qt::UserRole;
 constexpr int kEndRole = Qt::UserRole + 1;
 
 } // namespace
 
 ProblemPane::ProblemPane(QWidget* parent)
-    : QDockWidget(QStringLiteral("Problems"), parent), m_list(new QTreeWidget(this))
+    : QDockWidget(QStringLiteral("Problems"), parent), m_list(new QTreeWidget(this)),
+      m_text(new QLabel(this))
 {
     setObjectName(QStringLiteral("problems"));
     m_list->setAccessibleName(QStringLiteral("Problems of the script"));
     m_list->setRootIsDecorated(false);
     m_list->setUniformRowHeights(true);
-    m_list->setHeaderLabels({QStringLiteral("Line"), QStringLiteral("Problem")});
+    m_list->setHeaderLabels(
+        {QStringLiteral("Line"), QStringLiteral("Column"), QStringLiteral("Problem")});
     m_list->header()->setSectionResizeMode(kLineColumn, QHeaderView::ResizeToContents);
+    m_list->header()->setSectionResizeMode(kPlaceColumn, QHeaderView::ResizeToContents);
     m_list->header()->setStretchLastSection(true);
-    setWidget(m_list);
+    m_text->setObjectName(QStringLiteral("noProblems"));
+    m_text->setMargin(4);
+    m_text->setWordWrap(true);
+    m_text->hide();
+    auto* content = new QWidget(this);
+    auto* layout = new QVBoxLayout(content);
+    layout->setContentsMargins(0, 0, 0, 0);
+    layout->setSpacing(0);
+    layout->addWidget(m_text);
+    layout->addWidget(m_list);
+    setWidget(content);
     // A double click and Enter alike.
     connect(m_list, &QTreeWidget::itemActivated, this, &ProblemPane::Choose);
 }
@@ -34,15 +50,23 @@ ProblemPane::ProblemPane(QWidget* parent)
 void ProblemPane::Clear()
 {
     m_list->clear();
+    m_text->hide();
 }
 
-void ProblemPane::Add(const ScriptProblem& problem, int line)
+void ProblemPane::Say(const QString& text)
+{
+    m_text->setText(text);
+    m_text->show();
+}
+
+void ProblemPane::Add(const ScriptProblem& problem, int line, int column)
 {
     auto* item = new QTreeWidgetItem(m_list);
     const auto icon =
         problem.isSyntax ? QStyle::SP_MessageBoxCritical : QStyle::SP_MessageBoxWarning;
     item->setIcon(kLineColumn, style()->standardIcon(icon));
     item->setText(kLineColumn, QString::number(line + 1));
+    item->setText(kPlaceColumn, QString::number(column + 1));
     item->setText(kTextColumn, problem.text);
     item->setToolTip(kTextColumn, problem.text);
     item->setData(kLineColumn, kStartRole, QVariant::fromValue(problem.start));

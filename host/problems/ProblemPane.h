@@ -4,6 +4,7 @@
 
 #include <QDockWidget>
 
+class QLabel;
 class QTreeWidget;
 class QTreeWidgetItem;
 struct ScriptProblem;
@@ -18,7 +19,8 @@ public:
     QTreeWidget* ListArea() const { return m_list; } // what can have the focus
 
     void Clear();
-    void Add(const ScriptProblem& problem, int line); // the line from 0
+    void Add(const ScriptProblem& problem, int line, int column); // from 0
+    void Say(const QString& text);                                // instead of a list that is empty
 
 Q_SIGNALS:
     void Chosen(long start, long end); // positions in the script
@@ -27,4 +29,5 @@ private:
     void Choose(const QTreeWidgetItem* item);
 
     QTreeWidget* m_list;
+    QLabel* m_text;
 };

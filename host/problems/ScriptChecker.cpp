@@ -27,6 +27,7 @@ ScriptChecker::ScriptChecker(CZNCoreEditorControlEx& control, QObject* parent)
 
 void ScriptChecker::SetLanguage(const QString& name)
 {
+    m_language = name;
     m_check = SyntaxCheckFor(name);
     Check();
 }
@@ -49,6 +50,15 @@ void ScriptChecker::Check()
     m_problems = std::move(found);
     Mark();
     Q_EMIT ProblemsChanged();
+}
+
+QString ScriptChecker::WhyNone() const
+{
+    if (!m_check)
+        return tr("Scripts in %1 are not checked: there is no parser for it here.").arg(m_language);
+    if (m_control.GetLength(1) > kLongestChecked)
+        return tr("The script is too long to be checked.");
+    return tr("No problems found.");
 }
 
 std::vector<ScriptStatement> ScriptChecker::Statements() const

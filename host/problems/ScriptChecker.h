@@ -24,6 +24,7 @@ public:
     void Check();     // at once
 
     const std::vector<ScriptProblem>& Problems() const { return m_problems; }
+    QString WhyNone() const; // a sentence, where there are no problems
 
 Q_SIGNALS:
     void ProblemsChanged();
@@ -33,6 +34,7 @@ private:
     void Mark();
 
     CZNCoreEditorControlEx& m_control;
+    QString m_language;
     std::unique_ptr<SyntaxCheck> m_check; // null: nothing to check with
     std::vector<ScriptProblem> m_problems;
     QTimer m_rest;

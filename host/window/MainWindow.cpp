@@ -9,7 +9,9 @@
 #include "host/files/Prompts.h"
 #include "host/files/RecentFiles.h"
 #include "host/finding/FindBar.h"
+#include "host/folder/FolderPane.h"
 #include "host/options/OptionsDialog.h"
+#include "host/outline/OutlinePane.h"
 #include "host/problems/ProblemPane.h"
 #include "host/problems/ScriptChecker.h"
 #include "host/script/ScriptDoc.h"
@@ -31,6 +33,7 @@
 #include <QStatusBar>
 #include <QTabBar>
 #include <QTimer>
+#include <QTreeView>
 #include <QTreeWidget>
 #include <QVBoxLayout>
 
@@ -75,6 +78,7 @@ MainWindow::MainWindow(Workbench& app)
     addDockWidget(Qt::RightDockWidgetArea, m_expanded);
     m_expanded->hide();
     BuildResults();
+    BuildSidebars();
     connect(m_expanded, &ExpandedScript::SourceChosen, this, &MainWindow::ShowSource);
     connect(m_tabs, &ScriptTabs::Added, this, &MainWindow::OnTabAdded);
     connect(m_tabs, &ScriptTabs::currentChanged, this, &MainWindow::OnCurrentChanged);
@@ -99,6 +103,8 @@ MainWindow::MainWindow(Workbench& app)
 MainWindow::~MainWindow()
 {
     m_tabs->disconnect(this);
+    m_outline->disconnect(this);
+    m_folder->disconnect(this);
     for (ScriptDoc* script : m_app.Scripts())
         script->disconnect(this);
 }
@@ -193,6 +199,7 @@ void MainWindow::OnCurrentChanged()
     GoToScript();
     UpdateAll();
     ListProblems();
+    UpdateOutlineSoon();
     KeepSessionSoon();
 }
 
@@ -266,7 +273,10 @@ void MainWindow::ListProblems()
     if (!checker)
         return;
     for (const ScriptProblem& problem : checker->Problems())
-        m_problems->Add(problem, frame->Editor().LineFromPosition(problem.start, 1));
+        m_problems->Add(problem, frame->Editor().LineFromPosition(problem.start, 1),
+                        static_cast<int>(frame->Editor().GetColumn(problem.start, 1)));
+    if (checker->Problems().empty())
+        m_problems->Say(checker->WhyNone());
 }
 
 // The first one behind the caret, from the end on the first of all.
@@ -287,8 +297,13 @@ void MainWindow::NextProblem()
 // From the script over what is shown around it and back, for somebody without a mouse.
 void MainWindow::NextArea()
 {
-    const QWidgetList areas = {m_tabs, m_find, m_expanded->TextArea(), m_expanded->ErrorArea(),
-                               m_problems->ListArea()};
+    const QWidgetList areas = {m_tabs,
+                               m_find,
+                               m_expanded->TextArea(),
+                               m_expanded->ErrorArea(),
+                               m_problems->ListArea(),
+                               m_outline->ListArea(),
+                               m_folder->ListArea()};
     const QWidget* focus = focusWidget();
     qsizetype at = 0;
     for (qsizetype i = 0; i < areas.size(); ++i) {
@@ -346,8 +361,10 @@ void MainWindow::OnScriptChanged(ScriptDoc& script)
             frame->OnUpdateFrameTitle();
     }
     const ScriptFrame* frame = CurrentFrame();
-    if (frame && frame->Script() == &script)
+    if (frame && frame->Script() == &script) {
         UpdateAll();
+        UpdateOutlineSoon();
+    }
 }
 
 // The mark of a change is Qt's, so that desktops which show it in a way of their own can.

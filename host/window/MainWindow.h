@@ -14,8 +14,10 @@ class CZNCoreEditorControlEx;
 class EditingMenu;
 class ExpandedScript;
 class FindBar;
+class FolderPane;
 class LanguageMenu;
 class MainFrame;
+class OutlinePane;
 class ProblemPane;
 class QTimer;
 class ResultsPane;
@@ -56,6 +58,7 @@ public:
     void UpdateAll();                         // what is shown of the script in front
 
     // The commands of the menus that are the window's own.
+    void GoToSymbol();
     void ReopenClosed();
     void ShowKeys();
     void ShowAboutBox();
@@ -103,6 +106,10 @@ private:
     void UpdateTitle();
     void BuildResults();
     void TellResults(const ScriptDoc& script); // that its text has changed
+    void BuildSidebars();
+    void UpdateOutlineSoon();
+    void UpdateOutline();
+    void SelectInScript(long start, long end);
     std::shared_ptr<void> MakeSearchLine();
     void ShowMatch(long line, long column, long length);
 
@@ -119,6 +126,10 @@ private:
     ProblemPane* m_problems;
     ExpandedScript* m_expanded;
     std::shared_ptr<FoundTexts> m_foundTexts;
+    OutlinePane* m_outline = nullptr;
+    FolderPane* m_folder = nullptr;
+    QTimer* m_outlineTimer = nullptr;
+    std::size_t m_outlined = 0;          // of which text the outline is
     std::vector<ResultsPane*> m_results; // two of them
     ResultsPane* m_shownResults = nullptr;
     std::shared_ptr<void> m_searchLine; // what a search as one types says

@@ -6,8 +6,10 @@
 #include "editing/ZNCoreEditorControlEx.h"
 #include "host/commands/WorkbenchCommands.h"
 #include "host/finding/FindBar.h"
+#include "host/folder/FolderPane.h"
 #include "host/help/About.h"
 #include "host/help/KeysDialog.h"
+#include "host/outline/OutlinePane.h"
 #include "host/problems/ProblemPane.h"
 #include "host/script/ScriptDoc.h"
 #include "host/script/ScriptFrame.h"
@@ -93,7 +95,7 @@ std::span<const MainWindow::Command> MainWindow::Commands()
         {"&File", "saveHtml",  "Save as &HTML...", Key::UnknownKey, nullptr,       command::SaveHtml},
         {"&File", nullptr},
         {"&File", "close",     "&Close",        Key::Close,        "Ctrl+W",       ID_FILE_CLOSE},
-        {"&File", "reopenClosed", "Reop&en Closed", Key::UnknownKey, "Ctrl+Shift+T", 0, When::SomethingClosed, Run<&W::ReopenClosed>},
+        {"&File", "reopenClosed", "Reopen Closed Ta&b", Key::UnknownKey, "Ctrl+Shift+T", 0, When::SomethingClosed, Run<&W::ReopenClosed>},
         {"&File", "quit",      "&Quit",         Key::Quit,         "Ctrl+Q",       ID_APP_EXIT},
 
         {"&Edit", "undo",      "&Undo",         Key::Undo,         nullptr,  57643},
@@ -114,6 +116,7 @@ std::span<const MainWindow::Command> MainWindow::Commands()
         {"Searc&h", "findDialog",     "Find with a &Dialog...",    Key::UnknownKey, "Ctrl+Alt+F", 53895},
         {"Searc&h", "replaceDialog",  "&Replace with a Dialog...", Key::UnknownKey, "Ctrl+Alt+R", 53896},
         {"Searc&h", "goToLine",       "&Go to Line...",            Key::UnknownKey, "Ctrl+G",     54049},
+        {"Searc&h", "goToSymbol",     "Go to S&ymbol...",          Key::UnknownKey, "Ctrl+Shift+G", 0, When::Script, Run<&W::GoToSymbol>},
         {"Searc&h", nullptr},
         {"Searc&h", "findInFiles",    "Find in &Files...", Key::UnknownKey, "Ctrl+Shift+F", 0, When::Always, Run<&W::FindInFiles>},
         {"Searc&h", "nextResult",     "&Next Result",      Key::UnknownKey, "F4",           0, When::Always, Run<&W::NextResult>},
@@ -155,8 +158,8 @@ std::span<const MainWindow::Command> MainWindow::Commands()
         {"&Tools", "preferences", "Editor and Language &Preferences...", Key::UnknownKey, nullptr, command::Preferences},
         {"&Tools", "autosave", "&Autosave...",  Key::UnknownKey,   nullptr,  0, When::Always, Run<&W::ChangeAutosave>},
 
-        {"&Help", "keys",      "&Keys",         Key::HelpContents, nullptr,  0, When::Always, Run<&W::ShowKeys>},
-        {"&Help", "about",     "&About",     Key::UnknownKey,   nullptr,  0, When::Always, Run<&W::ShowAboutBox>},
+        {"Help", "keys",      "&Keys",         Key::HelpContents, nullptr,  0, When::Always, Run<&W::ShowKeys>},
+        {"Help", "about",     "&About",     Key::UnknownKey,   nullptr,  0, When::Always, Run<&W::ShowAboutBox>},
     };
     // clang-format on
     return commands;
@@ -197,6 +200,8 @@ void MainWindow::BuildMenus()
         if (!menu || menu->title() != title) {
             if (title == QLatin1String("&Tools")) {
                 menu->addAction(m_problems->toggleViewAction());
+                menu->addAction(m_outline->toggleViewAction());
+                menu->addAction(m_folder->toggleViewAction());
                 menu->addAction(bar->toggleViewAction());
                 menuBar()->addMenu(m_languages);
             }

@@ -99,9 +99,9 @@ TEST_F(WorkbenchProblems, AreListedOnceTheScriptIsOpen)
     Script().Checker()->Check();
     ASSERT_EQ(List().topLevelItemCount(), 2);
     EXPECT_EQ(List().topLevelItem(0)->text(0), QStringLiteral("2"));
-    EXPECT_TRUE(List().topLevelItem(0)->text(1).contains(QStringLiteral("selekt")));
+    EXPECT_TRUE(List().topLevelItem(0)->text(2).contains(QStringLiteral("selekt")));
     EXPECT_EQ(List().topLevelItem(1)->text(0), QStringLiteral("3"));
-    EXPECT_EQ(List().topLevelItem(1)->text(1), QStringLiteral("no such column: b"));
+    EXPECT_EQ(List().topLevelItem(1)->text(2), QStringLiteral("no such column: b"));
 }
 
 TEST_F(WorkbenchProblems, AreMarkedInTheText)

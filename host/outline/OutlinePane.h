@@ -1,0 +1,34 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+// The outline of the script in front, beside it.
+#pragma once
+
+#include "host/outline/Symbols.h"
+
+#include <QDockWidget>
+
+class QLineEdit;
+class QTreeWidget;
+class QTreeWidgetItem;
+
+class OutlinePane final : public QDockWidget
+{
+    Q_OBJECT
+
+public:
+    explicit OutlinePane(QWidget* parent);
+
+    QTreeWidget* ListArea() const { return m_list; } // what can have the focus
+
+    void Show(const std::vector<Symbol>& symbols);
+    void ShowPlace(long position); // of the caret
+
+Q_SIGNALS:
+    void Chosen(long start, long end); // positions in the script
+
+private:
+    void Filter();
+
+    QLineEdit* m_words;
+    QTreeWidget* m_list;
+    std::vector<QTreeWidgetItem*> m_items; // in the order of the script
+};

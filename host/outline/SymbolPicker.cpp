@@ -1,0 +1,76 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "host/outline/SymbolPicker.h"
+
+#include <QKeyEvent>
+#include <QLineEdit>
+#include <QListWidget>
+#include <QVBoxLayout>
+
+#include <algorithm>
+
+SymbolPicker::SymbolPicker(std::vector<Symbol> symbols, QWidget* parent)
+    : QDialog(parent, Qt::Popup), m_symbols(std::move(symbols)), m_words(new QLineEdit(this)),
+      m_list(new QListWidget(this))
+{
+    setAttribute(Qt::WA_DeleteOnClose);
+    setObjectName(QStringLiteral("symbolPicker"));
+    setAccessibleName(tr("Go to Symbol"));
+    m_words->setPlaceholderText(tr("Type part of a name"));
+    m_words->setAccessibleName(tr("Symbol"));
+    m_words->installEventFilter(this);
+    m_list->setAccessibleName(tr("Symbols of the script"));
+    m_list->setUniformItemSizes(true);
+    auto* layout = new QVBoxLayout(this);
+    layout->addWidget(m_words);
+    layout->addWidget(m_list);
+    connect(m_words, &QLineEdit::textChanged, this, &SymbolPicker::Filter);
+    connect(m_list, &QListWidget::itemClicked, this, &SymbolPicker::Choose);
+    Filter({});
+    constexpr QSize kSize(480, 360);
+    resize(kSize);
+    m_words->setFocus();
+}
+
+void SymbolPicker::Filter(const QString& words)
+{
+    constexpr int kMost = 500; // nobody reads more
+    m_list->clear();
+    for (std::size_t i = 0; i < m_symbols.size() && m_list->count() < kMost; ++i) {
+        const Symbol& symbol = m_symbols[i];
+        if (!symbol.name.contains(words, Qt::CaseInsensitive))
+            continue;
+        auto* item =
+            new QListWidgetItem(symbol.name + QStringLiteral("    ") + symbol.kind, m_list);
+        item->setData(Qt::UserRole, static_cast<int>(i));
+    }
+    m_list->setCurrentRow(0);
+}
+
+void SymbolPicker::Choose()
+{
+    const QListWidgetItem* item = m_list->currentItem();
+    if (!item)
+        return;
+    const Symbol symbol = m_symbols[static_cast<std::size_t>(item->data(Qt::UserRole).toInt())];
+    hide();
+    Q_EMIT Chosen(symbol.start, symbol.end);
+    close();
+}
+
+// The keys that walk through the list do so from the line above it.
+bool SymbolPicker::eventFilter(QObject* watched, QEvent* event)
+{
+    if (event->type() != QEvent::KeyPress)
+        return QDialog::eventFilter(watched, event);
+    const int key = static_cast<const QKeyEvent&>(*event).key();
+    if (key == Qt::Key_Return || key == Qt::Key_Enter) {
+        Choose();
+        return true;
+    }
+    if (key == Qt::Key_Up || key == Qt::Key_Down) {
+        m_list->setCurrentRow(std::clamp(m_list->currentRow() + (key == Qt::Key_Up ? -1 : 1), 0,
+                                         std::max(0, m_list->count() - 1)));
+        return true;
+    }
+    return QDialog::eventFilter(watched, event);
+}

@@ -1,0 +1,101 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+// MainWindow: the outline of the script in front, and the folder beside it.
+#include "editing/ZNCoreEditorControlEx.h"
+#include "editing/language/FileTypeManager.h"
+#include "editing/language/Library.h"
+#include "host/folder/FolderPane.h"
+#include "host/outline/OutlinePane.h"
+#include "host/outline/SymbolPicker.h"
+#include "host/script/ScriptDoc.h"
+#include "host/script/ScriptFrame.h"
+#include "host/script/ScriptView.h"
+#include "host/window/MainWindow.h"
+#include "host/window/Workbench.h"
+
+#include <QDir>
+#include <QFileInfo>
+#include <QMenuBar>
+#include <QTimer>
+
+#include <chrono>
+
+namespace {
+
+constexpr std::chrono::milliseconds kRest(300);
+constexpr long kLongest = 4'000'000; // units; a longer text would stall the typing
+
+QString LanguageOf(const ScriptDoc& script)
+{
+    const CFileTypeManager& languages = *zncoreeditor::GetFileTypeManager();
+    const int language = script.Language();
+    const bool isKnown = language >= 0 && language < languages.GetLanguageCount();
+    return isKnown ? languages.GetLanguageName(language) : QString();
+}
+
+} // namespace
+
+void MainWindow::BuildSidebars()
+{
+    m_outline = new OutlinePane(this);
+    m_folder = new FolderPane(this);
+    addDockWidget(Qt::LeftDockWidgetArea, m_outline);
+    addDockWidget(Qt::LeftDockWidgetArea, m_folder);
+    m_outline->hide();
+    m_folder->hide();
+    m_outline->toggleViewAction()->setObjectName(QStringLiteral("outline"));
+    m_folder->toggleViewAction()->setObjectName(QStringLiteral("folder"));
+    m_outlineTimer = new QTimer(this);
+    m_outlineTimer->setSingleShot(true);
+    m_outlineTimer->setInterval(kRest);
+    connect(m_outlineTimer, &QTimer::timeout, this, &MainWindow::UpdateOutline);
+    connect(m_outline, &OutlinePane::visibilityChanged, this, &MainWindow::UpdateOutlineSoon);
+    connect(m_outline, &OutlinePane::Chosen, this, &MainWindow::SelectInScript);
+    connect(m_folder, &FolderPane::Chosen, this,
+            [this](const QString& path) { m_app.OpenDocumentFile(path); });
+    connect(m_folder, &FolderPane::ScriptFolderWanted, this, [this] {
+        const ScriptFrame* frame = CurrentFrame();
+        const QString path = frame ? frame->Script()->GetPathName() : QString();
+        m_folder->SetFolder(path.isEmpty() ? QDir::homePath() : QFileInfo(path).absolutePath());
+    });
+}
+
+void MainWindow::UpdateOutlineSoon()
+{
+    if (m_outline->isVisible())
+        m_outlineTimer->start();
+}
+
+// A caret that has moved over the same text changes the list's current row alone.
+void MainWindow::UpdateOutline()
+{
+    const ScriptFrame* frame = CurrentFrame();
+    if (!frame || frame->Editor().GetLength(1) > kLongest) {
+        m_outline->Show({});
+        m_outlined = 0;
+        return;
+    }
+    const QString text = frame->Editor().GetText();
+    const QString language = LanguageOf(*frame->Script());
+    const std::size_t outlined = qHashMulti(1, text, language);
+    if (std::exchange(m_outlined, outlined) != outlined)
+        m_outline->Show(SymbolsOf(text, language));
+    m_outline->ShowPlace(frame->Editor().GetCurrentPos(1));
+}
+
+void MainWindow::SelectInScript(long start, long end)
+{
+    if (const ScriptFrame* frame = CurrentFrame())
+        frame->View()->SelectRange(start, end);
+}
+
+void MainWindow::GoToSymbol()
+{
+    const ScriptFrame* frame = CurrentFrame();
+    if (!frame || frame->Editor().GetLength(1) > kLongest)
+        return;
+    auto* picker =
+        new SymbolPicker(SymbolsOf(frame->Editor().GetText(), LanguageOf(*frame->Script())), this);
+    connect(picker, &SymbolPicker::Chosen, this, &MainWindow::SelectInScript);
+    picker->move(mapToGlobal(QPoint((width() - picker->width()) / 2, menuBar()->height())));
+    picker->show();
+}
