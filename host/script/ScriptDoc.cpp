@@ -5,6 +5,8 @@
 #include "editing/language/FileLanguages.h"
 #include "editing/language/FileTypeManager.h"
 #include "editing/language/Library.h"
+#include "host/TextLanguage.h"
+#include "host/files/LanguageMemory.h"
 #include "host/files/LineEnds.h"
 #include "host/problems/ScriptChecker.h"
 #include "host/script/ScriptView.h"
@@ -112,7 +114,7 @@ int ScriptDoc::OnNewDocument()
     if (!CZNCoreEditorDoc::OnNewDocument())
         return 0;
     m_docPointer = FirstView()->GetCoreEditorControl()->GetDocPointer(1);
-    SetLanguage(LanguageOfNewScripts());
+    SetLanguage(LanguageNamed(languages::Default(), LanguageOfNewScripts()));
     return 1;
 }
 
@@ -171,9 +173,29 @@ int ScriptDoc::OnOpenDocumentEx(const QString& path, FileEncodeConverter::encodi
     m_isTracked = m_lastAccessTime != 0;
     if (IsReadOnly())
         SetTitle(GetTitle()); // which marks it
-    SetLanguage(LanguageOfFile(path));
+    SetLanguage(LanguageToOpenWith(path));
     m_lineEnds->Look();
     return 1;
+}
+
+// What a person chose for the file counts most, then a name that says more than SQL, then what
+// stands in it.
+int ScriptDoc::LanguageToOpenWith(const QString& path) const
+{
+    const int byName = LanguageOfFile(path);
+    const int chosen = LanguageNamed(languages::ChosenFor(path), -1);
+    if (chosen >= 0 || byName != LanguageOfNewScripts())
+        return chosen >= 0 ? chosen : byName;
+    constexpr long kLookedAt = 65536; // units
+    CZNCoreEditorControlEx& editor = FirstView()->GetCoreEditorControlRef();
+    QString front(std::min(editor.GetLength(1), kLookedAt), Qt::Uninitialized);
+    editor.GetRange(0, front.size(), reinterpret_cast<char16_t*>(front.data()));
+    for (const QString& name :
+         {DialectOfText(front), languages::ChosenInFolder(path), languages::Default()}) {
+        if (const int language = LanguageNamed(name, -1); language >= 0)
+            return language;
+    }
+    return byName;
 }
 
 int ScriptDoc::Reopen(int encoding)

@@ -108,6 +108,8 @@ private:
     completion::LiveIndex m_names;
     std::unique_ptr<ScriptChecker> m_checker;
     std::unique_ptr<LineEndWatch> m_lineEnds;
+    int LanguageToOpenWith(const QString& path) const;
+
     int m_chosenEncoding = -1;
     bool m_onlyHere = false;  // the file has another text by now, or is gone, and this one is kept
     bool m_isTracked = false; // what others do to the file is asked about

@@ -32,6 +32,9 @@ LanguageMenu::LanguageMenu(QWidget* parent)
     });
     for (const int language : languages)
         AddLanguage(language);
+    addSeparator();
+    addAction(tr("Use for Ne&w Scripts"), this, &LanguageMenu::DefaultWanted)
+        ->setObjectName(QStringLiteral("defaultLanguage"));
     connect(m_group, &QActionGroup::triggered, this,
             [this](QAction* action) { Q_EMIT Chosen(action->data().toInt()); });
 }

@@ -16,6 +16,7 @@ public:
     void ShowLanguage(int language); // -1: none
 
 Q_SIGNALS:
+    void DefaultWanted(); // the language that is shown, for scripts of which nothing tells
     void Chosen(int language);
 
 private:

@@ -6,6 +6,7 @@
 #include "host/expanded/ExpandedScript.h"
 #include "host/files/FileDrops.h"
 #include "host/files/FilePlace.h"
+#include "host/files/LanguageMemory.h"
 #include "host/files/Prompts.h"
 #include "host/files/RecentFiles.h"
 #include "host/finding/FindBar.h"
@@ -26,6 +27,7 @@
 #include "platform/services/OptionsServer.h"
 
 #include <QClipboard>
+#include <QFile>
 #include <QFileInfo>
 #include <QGuiApplication>
 #include <QPointer>
@@ -137,12 +139,25 @@ void MainWindow::ShowTab(int index)
     m_tabs->setCurrentIndex(index);
 }
 
+// One that is named and not there may be a slip, or one to begin.
+void MainWindow::OfferNewFile(const QString& path)
+{
+    const QFileInfo info(path);
+    if (info.exists() || info.isSymLink() || !QFileInfo(info.absolutePath()).isDir() ||
+        !GetPrompts().Confirm(this, tr("There is no “%1”.").arg(path), tr("&Create")))
+        return;
+    QFile file(path);
+    if (!file.open(QIODevice::WriteOnly | QIODevice::NewOnly))
+        GetPrompts().Tell(this, tr("“%1” cannot be created: %2").arg(path, file.errorString()));
+}
+
 bool MainWindow::OpenPlaces(const QStringList& words)
 {
     bool opened = true;
     QPointer<QWidget> first;
     for (const QString& word : words) {
         const FilePlace place = ParseFilePlace(word);
+        OfferNewFile(place.path);
         const ScriptFrame* frame = m_app.OpenDocumentFile(place.path) ? CurrentFrame() : nullptr;
         if (frame && place.line > 0)
             frame->View()->GoToLine(place.line - 1);
@@ -233,8 +248,12 @@ void MainWindow::ApplyViewToAll()
 
 void MainWindow::SetLanguage(int language)
 {
-    if (const ScriptFrame* frame = CurrentFrame())
-        frame->Script()->SetLanguage(language);
+    const ScriptFrame* frame = CurrentFrame();
+    if (!frame)
+        return;
+    frame->Script()->SetLanguage(language);
+    if (const QString& path = frame->Script()->GetPathName(); !path.isEmpty())
+        languages::Remember(path, LanguageOf(*frame->Script()));
 }
 
 void MainWindow::ChangeOptions()

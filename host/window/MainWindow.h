@@ -110,6 +110,9 @@ private:
     void UpdateOutlineSoon();
     void UpdateOutline();
     void SelectInScript(long start, long end);
+    static QString LanguageOf(const ScriptDoc& script); // its name
+    void OfferNewFile(const QString& path);             // where there is none
+    void MakeLanguageDefault();
     std::shared_ptr<void> MakeSearchLine();
     void ShowMatch(long line, long column, long length);
 

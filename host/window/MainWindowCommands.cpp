@@ -187,6 +187,7 @@ void MainWindow::BuildMenus()
 {
     m_languages = new LanguageMenu(this);
     connect(m_languages, &LanguageMenu::Chosen, this, &MainWindow::SetLanguage);
+    connect(m_languages, &LanguageMenu::DefaultWanted, this, &MainWindow::MakeLanguageDefault);
     auto* recent = new RecentMenu(m_app.Recent(), this);
     connect(recent, &RecentMenu::Chosen, this, &MainWindow::OpenRecent);
     auto* schemes = new SchemeMenu(this);

@@ -3,6 +3,7 @@
 #include "editing/ZNCoreEditorControlEx.h"
 #include "editing/language/FileTypeManager.h"
 #include "editing/language/Library.h"
+#include "host/files/LanguageMemory.h"
 #include "host/folder/FolderPane.h"
 #include "host/outline/OutlinePane.h"
 #include "host/outline/SymbolPicker.h"
@@ -24,15 +25,21 @@ namespace {
 constexpr std::chrono::milliseconds kRest(300);
 constexpr long kLongest = 4'000'000; // units; a longer text would stall the typing
 
-QString LanguageOf(const ScriptDoc& script)
+} // namespace
+
+QString MainWindow::LanguageOf(const ScriptDoc& script)
 {
-    const CFileTypeManager& languages = *zncoreeditor::GetFileTypeManager();
+    const CFileTypeManager& registry = *zncoreeditor::GetFileTypeManager();
     const int language = script.Language();
-    const bool isKnown = language >= 0 && language < languages.GetLanguageCount();
-    return isKnown ? languages.GetLanguageName(language) : QString();
+    const bool isKnown = language >= 0 && language < registry.GetLanguageCount();
+    return isKnown ? registry.GetLanguageName(language) : QString();
 }
 
-} // namespace
+void MainWindow::MakeLanguageDefault()
+{
+    if (const ScriptFrame* frame = CurrentFrame())
+        languages::SetDefault(LanguageOf(*frame->Script()));
+}
 
 void MainWindow::BuildSidebars()
 {

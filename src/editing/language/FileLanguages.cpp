@@ -74,6 +74,11 @@ int LanguageOfFile(const QString& path)
     return LanguageOfName(kPlainText, kPlainTextNumber);
 }
 
+int LanguageNamed(const QString& name, int otherwise)
+{
+    return name.isEmpty() ? otherwise : LanguageOfName(name, otherwise);
+}
+
 int LanguageOfNewScripts()
 {
     return LanguageOfName(kGenericSql, kPlainTextNumber);

@@ -11,3 +11,6 @@ ZN_API int LanguageOfFile(const QString& path);
 
 // Of a script that has no file yet.
 ZN_API int LanguageOfNewScripts();
+
+// By its name in the registry; the other one if there is none of that name.
+ZN_API int LanguageNamed(const QString& name, int otherwise);
