@@ -132,6 +132,50 @@ void LookPainter::Paint(QPainter& painter, const QPaintEvent& event)
         before = line;
         PaintLine(painter, places, line, static_cast<int>(row - top) * height, height);
     }
+    PaintCurrentNumber(painter, height);
+}
+
+long LookPainter::CaretLine() const
+{
+    const auto caret = static_cast<WPARAM>(m_raw.Send(Sci::SCI_GETCURRENTPOS));
+    return static_cast<long>(m_raw.Send(Sci::SCI_LINEFROMPOSITION, caret));
+}
+
+QFont LookPainter::NumberFont() const
+{
+    constexpr int kLongestName = 256; // bytes
+    char name[kLongestName] = {};
+    constexpr WPARAM kStyle = Sci::STYLE_LINENUMBER;
+    m_raw.Send(Sci::SCI_STYLEGETFONT, kStyle, reinterpret_cast<std::intptr_t>(name));
+    QFont font(QString::fromUtf8(name));
+    const auto size = m_raw.Send(Sci::SCI_STYLEGETSIZE, kStyle) + m_raw.Send(Sci::SCI_GETZOOM);
+    font.setPointSize(std::max(2, static_cast<int>(size)));
+    font.setBold(true);
+    return font;
+}
+
+// Over the number that the stock engine has drawn there.
+void LookPainter::PaintCurrentNumber(QPainter& painter, int height)
+{
+    constexpr int kPadding = 3; // as the stock engine has it
+    const auto width = [this](int margin) {
+        return static_cast<int>(m_raw.Send(Sci::SCI_GETMARGINWIDTHN, static_cast<WPARAM>(margin)));
+    };
+    const bool isNumbers =
+        m_raw.Send(Sci::SCI_GETMARGINTYPEN, kNumberMargin) == Sci::SC_MARGIN_NUMBER;
+    const auto line = static_cast<WPARAM>(m_numberedLine = CaretLine());
+    if (!isNumbers || width(kNumberMargin) == 0 || !m_raw.Send(Sci::SCI_GETLINEVISIBLE, line))
+        return;
+    const auto row =
+        m_raw.Send(Sci::SCI_VISIBLEFROMDOCLINE, line) - m_raw.Send(Sci::SCI_GETFIRSTVISIBLELINE);
+    const QRect place(width(0), static_cast<int>(row) * height, width(kNumberMargin), height);
+    if (row < 0 || place.top() > m_window.viewport()->height())
+        return;
+    painter.fillRect(place, Colour(m_looks->margin));
+    painter.setFont(NumberFont());
+    painter.setPen(Colour(m_looks->currentNumber));
+    painter.drawText(place.adjusted(0, 0, -kPadding, 0), Qt::AlignRight | Qt::AlignVCenter,
+                     QString::number(line + 1));
 }
 
 void LookPainter::PaintLine(QPainter& painter, const Margins& places, long line, int top,
@@ -245,6 +289,8 @@ void LookPainter::Updated(int updated)
     }
     if (updated & (Sci::SC_UPDATE_SELECTION | Sci::SC_UPDATE_CONTENT))
         m_rest.start(kRest);
+    if (updated & Sci::SC_UPDATE_SELECTION && m_numberedLine != CaretLine())
+        m_window.viewport()->update(0, 0, Places().symbols, m_window.viewport()->height());
     if (updated & Sci::SC_UPDATE_CONTENT)
         m_marks->Soon();
 }

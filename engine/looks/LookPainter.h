@@ -51,6 +51,9 @@ private:
     };
     Margins Places() const;
     void PaintLine(QPainter& painter, const Margins& places, long line, int top, int height);
+    void PaintCurrentNumber(QPainter& painter, int height);
+    QFont NumberFont() const;
+    long CaretLine() const;
     void PaintFold(QPainter& painter, const Margins& places, long line, int top, int height);
     QRect HiddenMark(long line) const; // of a folded line; empty for another
     void LookForOccurrences();
@@ -63,6 +66,7 @@ private:
     Highlights m_matches;
     ScrollMarks* m_marks = nullptr; // goes with the scroll bar
     QTimer m_rest;
+    long m_numberedLine = -1; // whose number stands out
     bool m_isFoldMarginHot = false;
     bool m_anyCase = false;
 };

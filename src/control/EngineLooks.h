@@ -14,6 +14,7 @@ struct Looks
     COLORREF fold = 0;
     COLORREF foldHot = 0; // with the mouse over the margin
     COLORREF foldedLine = 0;
+    COLORREF currentNumber = 0; // of the line that the caret is in
     COLORREF bookmark = 0;
     COLORREF error = 0;
     COLORREF warning = 0;

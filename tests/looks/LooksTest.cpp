@@ -1,18 +1,22 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 // What an editor with a scheme draws beside and over its text.
 #include "control/EngineLooks.h"
+#include "control/ErrorInfo.h"
 #include "editing/ZNCoreEditorControlEx.h"
 #include "editing/ZNCoreEditorWidget.h"
+#include "editing/looks/HoverTips.h"
 #include "looks/Schemes.h"
 #include "tests/control/ControlFixture.h"
 
 #include <QApplication>
 #include <QElapsedTimer>
+#include <QHelpEvent>
 #include <QImage>
 #include <QMouseEvent>
 #include <QScrollBar>
 #include <QTemporaryDir>
 #include <QTest>
+#include <QToolTip>
 #include <Qsci/qsciscintillabase.h>
 
 #include <gtest/gtest.h>
@@ -223,6 +227,76 @@ TEST_F(LooksTest, KeepWhatAHostIsFillingWithAnIndicator)
     Window().SendScintilla(Sci::SCI_SETINDICATORCURRENT, 8UL);
     control.Call(engine::kShowMatches, 0, reinterpret_cast<LPARAM>(u"aa"), 1);
     EXPECT_EQ(Window().SendScintilla(Sci::SCI_GETINDICATORCURRENT), 8);
+}
+
+// The darkest of what is drawn in the margin of numbers beside a line.
+int DarkestNumberIn(const QImage& picture, CZNCoreEditorControlEx& control, int line)
+{
+    const auto height = static_cast<int>(control.TextHeight(0, 1));
+    const auto left = static_cast<int>(control.GetMarginWidthN(0, 1));
+    const auto width = static_cast<int>(control.GetMarginWidthN(1, 1));
+    int darkest = 255;
+    for (int y = line * height; y < (line + 1) * height; ++y) {
+        for (int x = left; x < left + width; ++x)
+            darkest = std::min(darkest, qGray(picture.pixel(x, y)));
+    }
+    return darkest;
+}
+
+TEST_F(LooksTest, MakesTheNumberOfTheCurrentLineStandOut)
+{
+    Put(QStringLiteral("a\nb\nc\n"));
+    for (const int line : {0, 2}) {
+        control.GotoPos(2 * line, 1);
+        QApplication::processEvents();
+        const QImage picture = control.GetSafeHwnd()->grab().toImage();
+        for (const int other : {0, 1, 2}) {
+            if (other != line)
+                EXPECT_LT(DarkestNumberIn(picture, control, line) + 20,
+                          DarkestNumberIn(picture, control, other))
+                    << line << ' ' << other;
+        }
+    }
+}
+
+TEST_F(LooksTest, TellsTheProblemUnderTheMouse)
+{
+    Put(QStringLiteral("select 1\nselect <b> 2\n"));
+    ErrorInfo record;
+    record.nStart = 16;
+    record.nEnd = 19;
+    record.SetText(u"no <b> here");
+    control.ErrorAdd(1, &record, 1);
+    control.ErrorsShow(1);
+    QApplication::processEvents();
+    const auto at = [this](long position) {
+        return QPoint(static_cast<int>(control.PointXFromPosition(position, 1)) + 2,
+                      static_cast<int>(control.PointYFromPosition(position, 1)) + 4);
+    };
+    EXPECT_EQ(HoverTips::TextAt(control, at(17)), "<p>no &lt;b&gt; here</p>");
+    EXPECT_EQ(HoverTips::TextAt(control, at(2)), "");
+    EXPECT_EQ(HoverTips::TextAt(control, QPoint(1, at(17).y())), "<p>no &lt;b&gt; here</p>");
+    EXPECT_EQ(HoverTips::TextAt(control, QPoint(1, at(2).y())), "");
+    const QPoint place = at(17);
+    QHelpEvent event(QEvent::ToolTip, place, control.GetSafeHwnd()->mapToGlobal(place));
+    QApplication::sendEvent(qobject_cast<QAbstractScrollArea*>(control.GetSafeHwnd())->viewport(),
+                            &event);
+    EXPECT_EQ(QToolTip::text(), "<p>no &lt;b&gt; here</p>");
+    QToolTip::hideText();
+}
+
+TEST_F(LooksTest, TellsWhatAFoldHides)
+{
+    Put(QStringLiteral("begin\n  one\n  two\nend\n"));
+    control.Colorize(0, -1, 1);
+    control.ToggleFold(0, 1);
+    ASSERT_EQ(control.GetFoldExpanded(0, 1), 0);
+    const long end = control.GetLineEndPosition(0, 1);
+    const QPoint behind(static_cast<int>(control.PointXFromPosition(end, 1)) + 20, 4);
+    EXPECT_TRUE(HoverTips::TextAt(control, behind).startsWith("<pre>  one\n  two\n"))
+        << HoverTips::TextAt(control, behind).toStdString();
+    control.ToggleFold(0, 1);
+    EXPECT_EQ(HoverTips::TextAt(control, behind), "");
 }
 
 } // namespace

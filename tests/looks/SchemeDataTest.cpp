@@ -157,6 +157,24 @@ TEST(ShippedSchemes, CanBeReadOnTheCurrentLineAndInTheMargin)
     }
 }
 
+// The styles of texts; what stands in margins and guides is never selected.
+TEST(ShippedSchemes, CanBeReadWhereTextIsSelected)
+{
+    for (const char* name : {"Light", "Dark"}) {
+        const ColourScheme& scheme = Scheme(name);
+        for (const Style& style : StylesOfAllLanguages()) {
+            const QString role = zncoreeditor::GetStyleRoles().RoleOf(style.language, style.name);
+            const auto pair = scheme.OfRole(role).value_or(ColourScheme::Pair{});
+            if (role == "lineNumber" || role == "guide" || role == "callTip")
+                continue;
+            EXPECT_GE(Contrast(pair.fore, scheme.Of(Drawn::Selection)), 4.5)
+                << Named(style, scheme);
+            EXPECT_GE(Contrast(pair.fore, scheme.Of(Drawn::SelectionWithoutFocus)), 4.5)
+                << Named(style, scheme);
+        }
+    }
+}
+
 TEST(RolesOfStyles, AreThoseOfTheWholeNameThenOfItsLastPart)
 {
     const StyleRoles& roles = zncoreeditor::GetStyleRoles();

@@ -8,6 +8,8 @@
 #include "editing/looks/DeliveredSettings.h"
 #include "editing/looks/DesktopWatch.h"
 #include "editing/looks/StyleColours.h"
+#include "editing/looks/HoverTips.h"
+#include "looks/DeliveredColours.h"
 #include "looks/Schemes.h"
 #include "settings/ConfigFile.h"
 #include "settings/SyntaxFile.h"
@@ -75,6 +77,7 @@ void TakeIcons(const ColourScheme& scheme, CZNCoreEditorControlEx& control)
     looks.margin = scheme.Of(Drawn::Margin);
     looks.fold = scheme.Of(Drawn::Fold);
     looks.foldHot = scheme.Of(Drawn::FoldHot);
+    looks.currentNumber = scheme.Of(Drawn::CurrentLineNumber);
     looks.foldedLine = scheme.Of(Drawn::FoldedLine);
     looks.bookmark = scheme.Of(Drawn::Bookmark);
     looks.error = scheme.Of(Drawn::Error);
@@ -98,6 +101,10 @@ void CZNCoreEditorControlEx::SetScheme(const QString& name)
             if (m_scheme == zncoreeditor::kDesktopScheme)
                 ApplyScheme();
         });
+    if (!name.isEmpty() && !m_desktopWatch && GetSafeHwnd()) {
+        m_desktopWatch = new DesktopWatch(*GetSafeHwnd(), [this] { ApplyScheme(); });
+        new HoverTips(*this, m_desktopWatch); // which it goes with
+    }
     if (name.isEmpty() && GetSafeHwnd()) {
         Call(engine::kSetLooks, 0, 0, 1);
         SetMarginLeft(1, 1);
