@@ -3,6 +3,7 @@
 #include "bench/Pair.h"
 #include "bench/RawEngine.h"
 #include "bench/Texts.h"
+#include "control/EngineLooks.h"
 #include "editing/ZNCoreEditorControlEx.h"
 #include "editing/ZNCoreEditorWidget.h"
 
@@ -10,6 +11,7 @@
 #include <QKeyEvent>
 
 #include <algorithm>
+#include <iterator>
 #include <vector>
 
 namespace bench {
@@ -187,6 +189,43 @@ void UndoRedo(benchmark::State& state, bool redo)
     state.counters["limit"] = kLimit;
 }
 
+// Keys that are painted, with all that a scheme draws beside the text and problems, bookmarks and
+// matches to draw, beside the same editor without a scheme; by turns.
+void TypingWithLooks(benchmark::State& state)
+{
+    constexpr int kTransactSql = 3;
+    constexpr double kLimit = 1.3;
+    constexpr int kRounds = 4;
+    Editor plain(Script::Ascii);
+    Editor dressed(Script::Ascii);
+    plain.widget.setScheme(QString());
+    for (Editor* editor : {&plain, &dressed}) {
+        editor->widget.setLanguage(kTransactSql);
+        editor->widget.show();
+    }
+    CZNCoreEditorControl& control = dressed.widget.control();
+    for (int line = 0; line < control.GetLineCount(1); line += 1000)
+        control.MarkerAdd(line, engine::lookmarker::kBookmark, 1);
+    control.Call(engine::kShowMatches, 0, reinterpret_cast<LPARAM>(u"select"), 1);
+    QApplication::processEvents();
+    std::vector<double> with;
+    std::vector<double> without;
+    for (auto _ : state) {
+        for (int round = 0; round < kRounds; ++round) {
+            std::ranges::copy(TypeMany(plain, Place::Middle, Way::PaintedKey),
+                              std::back_inserter(without));
+            std::ranges::copy(TypeMany(dressed, Place::Middle, Way::PaintedKey),
+                              std::back_inserter(with));
+        }
+    }
+    std::sort(with.begin(), with.end());
+    state.counters["p99_us"] = with[with.size() * 99 / 100];
+    state.counters["ours_ms"] = MedianOf(with) / 1e3;
+    state.counters["reference_ms"] = MedianOf(without) / 1e3;
+    state.counters["ratio"] = MedianOf(with) / MedianOf(without);
+    state.counters["limit"] = kLimit;
+}
+
 const bool kRegistered = [] {
     struct PlaceRow
     {
@@ -210,6 +249,7 @@ const bool kRegistered = [] {
                     ->Iterations(1);
         }
     }
+    benchmark::RegisterBenchmark("TypeWithLooks", TypingWithLooks)->Iterations(1);
     benchmark::RegisterBenchmark("Undo500000", UndoRedo, false)->Iterations(3);
     benchmark::RegisterBenchmark("Redo500000", UndoRedo, true)->Iterations(3);
     return true;
