@@ -44,7 +44,8 @@ void FindBar::ReplaceTarget(Editor& editor)
     const auto targetText = [&editor] {
         const long start = editor.GetTargetStart(1);
         QString text(editor.GetTargetEnd(1) - start, Qt::Uninitialized);
-        editor.GetRange(start, start + text.size(), reinterpret_cast<char16_t*>(text.data()));
+        if (!text.isEmpty()) // which has no room for the terminator
+            editor.GetRange(start, start + text.size(), reinterpret_cast<char16_t*>(text.data()));
         return text;
     };
     if (!m_preserveCase->isChecked()) {

@@ -189,7 +189,8 @@ int ScriptDoc::LanguageToOpenWith(const QString& path) const
     constexpr long kLookedAt = 65536; // units
     CZNCoreEditorControlEx& editor = FirstView()->GetCoreEditorControlRef();
     QString front(std::min(editor.GetLength(1), kLookedAt), Qt::Uninitialized);
-    editor.GetRange(0, front.size(), reinterpret_cast<char16_t*>(front.data()));
+    if (!front.isEmpty()) // which has no room for the terminator
+        editor.GetRange(0, front.size(), reinterpret_cast<char16_t*>(front.data()));
     for (const QString& name :
          {DialectOfText(front), languages::ChosenInFolder(path), languages::Default()}) {
         if (const int language = LanguageNamed(name, -1); language >= 0)

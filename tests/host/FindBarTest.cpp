@@ -283,6 +283,10 @@ TEST_F(FindBars, ReplaceNothingAtEachLineInTheSelection)
     Set("inSelection", true);
     bar.ReplaceAll();
     EXPECT_EQ(widget.text(), QStringLiteral("-- a\n-- \n-- b\nc"));
+    Set("preserveCase", true); // of a match of nothing
+    ReplaceWith(QString());
+    bar.ReplaceAll();
+    EXPECT_EQ(widget.text(), QStringLiteral("-- a\n-- \n-- b\nc"));
 }
 
 TEST_F(FindBars, PassesFromOneLineEndToTheNext)

@@ -251,10 +251,11 @@ TEST_F(LooksTest, MakesTheNumberOfTheCurrentLineStandOut)
         QApplication::processEvents();
         const QImage picture = control.GetSafeHwnd()->grab().toImage();
         for (const int other : {0, 1, 2}) {
-            if (other != line)
-                EXPECT_LT(DarkestNumberIn(picture, control, line) + 20,
-                          DarkestNumberIn(picture, control, other))
-                    << line << ' ' << other;
+            if (other == line)
+                continue;
+            EXPECT_LT(DarkestNumberIn(picture, control, line) + 20,
+                      DarkestNumberIn(picture, control, other))
+                << line << ' ' << other;
         }
     }
 }
@@ -287,7 +288,7 @@ TEST_F(LooksTest, TellsTheProblemUnderTheMouse)
 
 TEST_F(LooksTest, TellsWhatAFoldHides)
 {
-    Put(QStringLiteral("begin\n  one\n  two\nend\n"));
+    Put(QStringLiteral("begin\n  one\n  two\n\nend\n"));
     control.Colorize(0, -1, 1);
     control.ToggleFold(0, 1);
     ASSERT_EQ(control.GetFoldExpanded(0, 1), 0);

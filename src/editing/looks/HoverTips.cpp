@@ -50,7 +50,8 @@ QString HiddenText(CZNCoreEditorControlEx& control, int line)
         const long end = std::min(static_cast<long>(control.GetLineEndPosition(hidden, 1)),
                                   start + kLongestLine);
         QString shown(end - start, Qt::Uninitialized);
-        control.GetRange(start, end, reinterpret_cast<char16_t*>(shown.data()));
+        if (!shown.isEmpty()) // which has no room for the terminator
+            control.GetRange(start, end, reinterpret_cast<char16_t*>(shown.data()));
         text += shown.toHtmlEscaped() + u'\n';
     }
     if (last > line + kMostLines)

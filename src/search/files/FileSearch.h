@@ -26,9 +26,9 @@ struct FileSearchRequest
     bool matchCase = false;
     bool regExp = false;
     bool perlSyntax = false; // of the expression
-    bool countOnly = false; // matches are counted, and not described
-    bool replaces = false;  // each match tells what it would become
-    QString replacement;    // an expression's has \\1 to \\9
+    bool countOnly = false;  // matches are counted, and not described
+    bool replaces = false;   // each match tells what it would become
+    QString replacement;     // an expression's has \\1 to \\9
 
     bool openOnly = false; // the open texts, and no files
     std::vector<OpenText> open;
