@@ -20,6 +20,7 @@
 #include "host/window/LanguageMenu.h"
 #include "host/window/MainFrame.h"
 #include "host/window/MainWindow.h"
+#include "host/window/Reasons.h"
 #include "host/window/RecentMenu.h"
 #include "host/window/SchemeMenu.h"
 #include "host/window/ToolBar.h"
@@ -225,6 +226,10 @@ void MainWindow::BuildMenus()
         return frame ? frame->View() : nullptr;
     });
     FillToolBar(*bar, *this);
+    for (QMenu* each : menuBar()->findChildren<QMenu*>()) {
+        connect(each, &QMenu::aboutToShow, this,
+                [this, each] { ExplainEntries(*each, CurrentEditor()); });
+    }
 }
 
 bool MainWindow::IsPossible(When when) const

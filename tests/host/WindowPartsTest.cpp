@@ -13,6 +13,7 @@
 #include <QFileSystemModel>
 #include <QLineEdit>
 #include <QMenu>
+#include <QMenuBar>
 #include <QMessageBox>
 #include <QTest>
 #include <QToolBar>
@@ -177,6 +178,28 @@ TEST_F(WindowParts, SayWhyThereAreNoProblems)
     EXPECT_EQ(list->topLevelItem(0)->text(0), "2");
     EXPECT_EQ(list->topLevelItem(0)->text(1), "15");
     EXPECT_EQ(list->topLevelItem(1)->text(0), "4");
+}
+
+TEST_F(WindowParts, SayWhyACommandIsDisabled)
+{
+    const auto tipOf = [this](const char* name) {
+        for (QMenu* menu : m_window.menuBar()->findChildren<QMenu*>()) {
+            if (menu->actions().contains(&Action(name)))
+                Q_EMIT menu->aboutToShow();
+        }
+        return Action(name).statusTip();
+    };
+    EXPECT_EQ(tipOf("undo"), "No script is open.");
+    EXPECT_EQ(tipOf("reopenClosed"), "No tab was closed.");
+    Open("a.sql", "a");
+    EXPECT_EQ(tipOf("undo"), "There is nothing to undo.");
+    EXPECT_EQ(tipOf("copy"), "Nothing is selected.");
+    EXPECT_EQ(tipOf("next"), "No other script is open.");
+    Editor().SetSel(0, 1, 1);
+    QApplication::processEvents();
+    EXPECT_EQ(tipOf("copy"), "");
+    Trigger("readOnlySwitch");
+    EXPECT_EQ(tipOf("cut"), "The script is read-only.");
 }
 
 } // namespace

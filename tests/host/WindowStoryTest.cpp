@@ -133,3 +133,25 @@ TEST_F(WindowStory, AClosedTabIsGoneAndAClosedWindowComesBackWithItsScripts)
     Keys({"ctrl+F4"});
     EXPECT_TRUE(Eventually([this] { return Title() == "znworkbench"; })) << Title().toStdString();
 }
+
+TEST_F(WindowStory, FindsByAnExpressionThatIsTyped)
+{
+    Keys({"ctrl+Home", "ctrl+f"});
+    Type("sel(ect) \\d;");
+    Keys({"alt+x", "Return", "Return", "Escape"});
+    Type("x");
+    Keys({"ctrl+s"});
+    EXPECT_TRUE(Eventually([this] { return Read() == "select 1;\nx\n"; })) << Read().toStdString();
+}
+
+TEST_F(WindowStory, WalksThroughTabsAndBringsAClosedOneBack)
+{
+    Keys({"ctrl+n"});
+    EXPECT_TRUE(Eventually([this] { return !Title().startsWith("story.sql"); }));
+    Keys({"ctrl+Next"});
+    EXPECT_TRUE(Eventually([this] { return Title().startsWith("story.sql"); }));
+    Keys({"ctrl+w"});
+    EXPECT_TRUE(Eventually([this] { return !Title().startsWith("story.sql"); }));
+    Keys({"ctrl+shift+t"});
+    EXPECT_TRUE(Eventually([this] { return Title().startsWith("story.sql"); }));
+}
