@@ -2,6 +2,10 @@
 // znpictures FOLDER NAME LIGHT|DARK: pictures of the workbench with a script in it, for somebody to
 // look at: the window, folds, problems, changed lines, the find bar, the preferences.
 // tools/pictures makes all of them, at three scales.
+// look at: the window, folds, problems, changed lines, the find bar. tools/pictures makes all of
+// them, at three scales.
+//
+// znpictures SHEET FILE PICTURE...: the pictures, made small, side by side in a file.
 #include "editing/ZNCoreEditorControlEx.h"
 #include "host/finding/FindBar.h"
 #include "host/pictures/PreferencesPictures.h"
@@ -9,11 +13,15 @@
 #include "host/window/MainWindow.h"
 #include "host/window/Workbench.h"
 
+#include <QAction>
 #include <QApplication>
 #include <QComboBox>
 #include <QDir>
 #include <QElapsedTimer>
 #include <QFile>
+#include <QFileInfo>
+#include <QImage>
+#include <QPainter>
 #include <QPalette>
 #include <QPixmap>
 #include <QStyleFactory>
@@ -90,6 +98,36 @@ QPixmap Recovery()
     return dialog.grab();
 }
 
+// Two in each row, under their names.
+bool MakeSheet(const QString& file, const QStringList& pictures)
+{
+    constexpr int kColumns = 2;
+    constexpr int kWidth = 760; // pixels of each
+    constexpr int kHeight = 470;
+    constexpr int kGap = 16;
+    constexpr int kCaption = 22;
+    const auto rows = (static_cast<int>(pictures.size()) + kColumns - 1) / kColumns;
+    QImage sheet(kColumns * (kWidth + kGap) + kGap, rows * (kHeight + kCaption + kGap) + kGap,
+                 QImage::Format_RGB32);
+    sheet.fill(QColor(0x80, 0x80, 0x80));
+    QPainter painter(&sheet);
+    painter.setPen(Qt::white);
+    for (int i = 0; i < static_cast<int>(pictures.size()); ++i) {
+        const QImage picture(pictures[i]);
+        if (picture.isNull())
+            return false;
+        const QPoint corner(kGap + i % kColumns * (kWidth + kGap),
+                            kGap + i / kColumns * (kHeight + kCaption + kGap));
+        painter.drawText(QRect(corner, QSize(kWidth, kCaption)), Qt::AlignLeft | Qt::AlignVCenter,
+                         QFileInfo(pictures[i]).completeBaseName());
+        painter.drawImage(
+            corner + QPoint(0, kCaption),
+            picture.scaled(kWidth, kHeight, Qt::KeepAspectRatio, Qt::SmoothTransformation));
+    }
+    painter.end();
+    return sheet.convertToFormat(QImage::Format_Indexed8).save(file);
+}
+
 } // namespace
 
 int main(int argc, char** argv)
@@ -100,6 +138,8 @@ int main(int argc, char** argv)
     constexpr int kWords = 4;
     if (words.size() < kWords)
         return 2;
+    if (words[1] == QLatin1String("SHEET"))
+        return MakeSheet(words[2], words.mid(kWords - 1)) ? 0 : 1;
     const QDir folder(words[1]);
     if (words[3] == QLatin1String("DARK"))
         QApplication::setPalette(DarkPalette());
@@ -121,5 +161,12 @@ int main(int argc, char** argv)
     window->grab().save(folder.filePath(words[2] + QStringLiteral("-find.png")));
     PicturePreferences(folder, words[2]);
     Recovery().save(folder.filePath(words[2] + QStringLiteral("-recovery.png")));
+    window->Find().Close();
+    for (const char* pane : {"outline", "expand"}) {
+        if (auto* action = window->findChild<QAction*>(QLatin1String(pane)))
+            action->trigger();
+    }
+    Rest(1000);
+    window->grab().save(folder.filePath(words[2] + QStringLiteral("-panes.png")));
     return 0;
 }
