@@ -33,6 +33,8 @@ constexpr SwitchRow kSwitches[] = {
     {"lineNumbers", u"&Line numbers", option::LineNumbers},
     {"foldMargin", u"F&old margin", option::FoldMargin},
     {"continueComments", u"Enter &continues a comment", option::ContinueComments},
+    {"surroundSelection", u"T&yped quotes and brackets surround the selection",
+     option::SurroundSelection},
     {"printColours", u"&Print in colours", option::PrintColours},
     {"printGround", u"Print the &grounds of colours", option::PrintGround},
     {"printOwnFont", u"Print in a font of its o&wn", option::PrintOwnFont},

@@ -6,6 +6,7 @@
 #include "editing/ZNCoreEditorWidget.h"
 #include "editing/looks/HoverTips.h"
 #include "looks/Schemes.h"
+#include "platform/services/OptionsServer.h"
 #include "tests/control/ControlFixture.h"
 
 #include <QApplication>
@@ -284,6 +285,26 @@ TEST_F(LooksTest, TellsTheProblemUnderTheMouse)
                             &event);
     EXPECT_EQ(QToolTip::text(), "<p>no &lt;b&gt; here</p>");
     QToolTip::hideText();
+}
+
+TEST_F(LooksTest, SurroundsWhatIsSelectedByAQuoteThatIsTyped)
+{
+    CZNOptionsServer& options = *CZNOptionsServer::GetObjectW();
+    Put(QStringLiteral("one two"));
+    control.SetSel(0, 3, 1);
+    options.SetInt(option::SurroundSelection, 1);
+    QTest::keyClick(control.GetSafeHwnd(), '(');
+    QTest::keyClick(control.GetSafeHwnd(), '\'');
+    EXPECT_EQ(face.text(), "('one') two");
+    EXPECT_EQ(control.GetSelectionStart(1), 2);
+    EXPECT_EQ(control.GetSelectionEnd(1), 5);
+    control.Undo(1);
+    control.Undo(1);
+    EXPECT_EQ(face.text(), "one two");
+    options.SetInt(option::SurroundSelection, 0);
+    control.SetSel(0, 3, 1);
+    QTest::keyClick(control.GetSafeHwnd(), '(');
+    EXPECT_EQ(face.text(), "( two");
 }
 
 TEST_F(LooksTest, TellsWhatAFoldHides)

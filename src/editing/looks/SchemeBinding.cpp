@@ -3,6 +3,7 @@
 #include "editing/ZNCoreEditorControlEx.h"
 
 #include "control/EngineLooks.h"
+#include "editing/hands/SurroundKeys.h"
 #include "editing/language/FileTypeManager.h"
 #include "editing/language/Library.h"
 #include "editing/looks/DeliveredSettings.h"
@@ -104,6 +105,7 @@ void CZNCoreEditorControlEx::SetScheme(const QString& name)
     if (!name.isEmpty() && !m_desktopWatch && GetSafeHwnd()) {
         m_desktopWatch = new DesktopWatch(*GetSafeHwnd(), [this] { ApplyScheme(); });
         new HoverTips(*this, m_desktopWatch); // which it goes with
+        new SurroundKeys(*this, m_desktopWatch);
     }
     if (name.isEmpty() && GetSafeHwnd()) {
         Call(engine::kSetLooks, 0, 0, 1);

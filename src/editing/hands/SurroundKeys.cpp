@@ -1,0 +1,48 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "editing/hands/SurroundKeys.h"
+
+#include "editing/ZNCoreEditorControlEx.h"
+#include "editing/hands/Hands.h"
+#include "platform/services/OptionsServer.h"
+
+#include <QKeyEvent>
+#include <QWidget>
+
+#include <algorithm>
+#include <iterator>
+
+namespace {
+
+struct Row
+{
+    char16_t typed;
+    UINT command;
+};
+
+constexpr Row kRows[] = {
+    {u'(', 54225}, {u'\'', 54226}, {u'"', 54227}, {u'[', 54228}, {u'{', 54229},
+};
+
+} // namespace
+
+SurroundKeys::SurroundKeys(CZNCoreEditorControlEx& control, QObject* parent)
+    : QObject(parent), m_control(control)
+{
+    control.GetSafeHwnd()->installEventFilter(this);
+}
+
+bool SurroundKeys::eventFilter(QObject* watched, QEvent* event)
+{
+    if (event->type() != QEvent::KeyPress || !m_control.GetSafeHwnd())
+        return QObject::eventFilter(watched, event);
+    const QString text = static_cast<const QKeyEvent&>(*event).text();
+    const auto* row = std::find_if(std::begin(kRows), std::end(kRows), [&](const Row& candidate) {
+        return text == QChar(candidate.typed);
+    });
+    const HandRow* hand = row == std::end(kRows) ? nullptr : FindHand(row->command);
+    if (!hand || !IsPossible(*hand, m_control) ||
+        !CZNOptionsServer::GetObjectW()->GetBool(option::SurroundSelection))
+        return QObject::eventFilter(watched, event);
+    hand->run(m_control);
+    return true;
+}
