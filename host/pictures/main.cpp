@@ -2,8 +2,6 @@
 // znpictures FOLDER NAME LIGHT|DARK: pictures of the workbench with a script in it, for somebody to
 // look at: the window, folds, problems, changed lines, the find bar, the preferences.
 // tools/pictures makes all of them, at three scales.
-// look at: the window, folds, problems, changed lines, the find bar. tools/pictures makes all of
-// them, at three scales.
 //
 // znpictures SHEET FILE PICTURE...: the pictures, made small, side by side in a file.
 #include "editing/ZNCoreEditorControlEx.h"

@@ -8,9 +8,8 @@
 #include "editing/language/Library.h"
 #include "editing/looks/DeliveredSettings.h"
 #include "editing/looks/DesktopWatch.h"
-#include "editing/looks/StyleColours.h"
 #include "editing/looks/HoverTips.h"
-#include "looks/DeliveredColours.h"
+#include "editing/looks/StyleColours.h"
 #include "looks/Schemes.h"
 #include "settings/ConfigFile.h"
 #include "settings/SyntaxFile.h"
@@ -97,13 +96,11 @@ void TakeIcons(const ColourScheme& scheme, CZNCoreEditorControlEx& control)
 void CZNCoreEditorControlEx::SetScheme(const QString& name)
 {
     m_scheme = name;
-    if (!name.isEmpty() && !m_desktopWatch && GetSafeHwnd())
+    if (!name.isEmpty() && !m_desktopWatch && GetSafeHwnd()) {
         m_desktopWatch = new DesktopWatch(*GetSafeHwnd(), [this] {
             if (m_scheme == zncoreeditor::kDesktopScheme)
                 ApplyScheme();
         });
-    if (!name.isEmpty() && !m_desktopWatch && GetSafeHwnd()) {
-        m_desktopWatch = new DesktopWatch(*GetSafeHwnd(), [this] { ApplyScheme(); });
         new HoverTips(*this, m_desktopWatch); // which it goes with
         new SurroundKeys(*this, m_desktopWatch);
     }
