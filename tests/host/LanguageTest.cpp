@@ -87,6 +87,8 @@ TEST_F(WorkbenchLanguages, ChangesTheLanguageFromTheMenu)
     auto& menu = *m_window.findChild<LanguageMenu*>();
     QAction* chosen = nullptr;
     for (QAction* action : menu.actions()) {
+        if (!action->isCheckable())
+            continue; // the default for scripts to come
         EXPECT_NE(action->data().toInt(), 0);
         EXPECT_NE(action->data().toInt(), 11);
         if (action->text() == QStringLiteral("Transact-SQL"))
