@@ -13,7 +13,6 @@ namespace engine {
 using analysis::ScanState;
 using analysis::SqlWord;
 using analysis::TextSpans;
-using analysis::TokenKind;
 
 namespace {
 

@@ -17,6 +17,7 @@
 #include <QLineEdit>
 #include <QMenu>
 #include <QPushButton>
+#include <QShortcut>
 #include <QStyle>
 #include <QToolButton>
 
@@ -158,6 +159,11 @@ QCheckBox* FindBar::MakeOption(const char* name, const QString& label, bool isOn
     auto* option = new QCheckBox(label, this);
     option->setObjectName(QLatin1String(name));
     option->setChecked(isOn);
+    // By its letter at once and from the box: a button's own waits a tenth of a second, in which
+    // one types on, and takes the keyboard.
+    auto* letter = new QShortcut(option->shortcut(), option);
+    option->setShortcut({});
+    connect(letter, &QShortcut::activated, option, &QCheckBox::toggle);
     return option;
 }
 
@@ -489,8 +495,11 @@ void FindBar::Tell(const QString& result)
 
 void FindBar::keyPressEvent(QKeyEvent* event)
 {
+    const bool isEnter = event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter;
     if (event->key() == Qt::Key_Escape)
         Close();
+    else if (isEnter && qobject_cast<QCheckBox*>(focusWidget())) // where its letter has led
+        event->modifiers() & Qt::ShiftModifier ? FindPrevious() : FindNext();
     else
         QWidget::keyPressEvent(event);
 }

@@ -13,6 +13,7 @@
 #include <QLineEdit>
 #include <QPainter>
 #include <QPushButton>
+#include <QShortcut>
 #include <QStyledItemDelegate>
 #include <QTimer>
 #include <QTreeView>
@@ -209,6 +210,10 @@ QWidget* ResultsPane::BuildReplaceRow()
     m_replaceRow->hide();
     m_replace->setEnabled(false);
     m_replaces->setCheckable(true);
+    // By its letter at once: a button's own waits a tenth of a second, in which one types on.
+    auto* letter = new QShortcut(m_replaces->shortcut(), m_replaces);
+    m_replaces->setShortcut({});
+    connect(letter, &QShortcut::activated, m_replaces, &QPushButton::toggle);
     const auto show = [this] { Preview(m_replacement->text()); };
     connect(m_replacement, &QLineEdit::returnPressed, this, show);
     connect(preview, &QPushButton::clicked, this, show);

@@ -123,13 +123,15 @@ void ScriptTabs::Remove(QWidget* page)
     if (index < 0)
         return;
     const QString path = tabToolTip(index);
+    setTabToolTip(index, {});
+    // Before the tab goes, since the commands are looked at when another one comes to the front.
+    if (QFileInfo(path).isAbsolute() && !IsShown(path)) {
+        m_closed.removeAll(path);
+        m_closed << path;
+        if (m_closed.size() > kMost)
+            m_closed.removeFirst();
+    }
     removeTab(index);
-    if (!QFileInfo(path).isAbsolute() || IsShown(path))
-        return;
-    m_closed.removeAll(path);
-    m_closed << path;
-    if (m_closed.size() > kMost)
-        m_closed.removeFirst();
 }
 
 bool ScriptTabs::IsShown(const QString& path) const

@@ -9,8 +9,6 @@
 #include "platform/windows/ActionUI.h"
 #include "platform/windows/Disposal.h"
 
-#include <QAbstractScrollArea>
-#include <QHelpEvent>
 #include <QLabel>
 #include <QMetaMethod>
 #include <QVBoxLayout>
@@ -86,8 +84,6 @@ ZNCoreEditorWidget::ZNCoreEditorWidget(QWidget* parent) : QWidget(parent)
     editor->setAccessibleName(tr("Text editor"));
     d->m_control->SubclassWindow(editor);
     d->m_control->SetScheme(zncoreeditor::kDesktopScheme);
-    if (auto* area = qobject_cast<QAbstractScrollArea*>(editor))
-        area->viewport()->installEventFilter(this);
     d->m_told = d->CurrentSettings();
     d->m_index = new completion::LiveIndex(this);
     d->m_index->SetEditor(d->m_control.get());
@@ -262,14 +258,4 @@ void ZNCoreEditorWidget::Private::TellSettings(const Lifetime& alive)
     tell(now.language != before.language, [&] { Q_EMIT q.languageChanged(now.language); });
     tell(now.scheme != before.scheme, [&] { Q_EMIT q.schemeChanged(now.scheme); });
     tell(now.zoom != before.zoom, [&] { Q_EMIT q.zoomChanged(now.zoom); });
-}
-
-bool ZNCoreEditorWidget::eventFilter(QObject* object, QEvent* event)
-{
-    auto* window = qobject_cast<QWidget*>(object);
-    if (event->type() == QEvent::ToolTip && window) {
-        d->ShowProblemAt(static_cast<QHelpEvent*>(event)->pos(), *window);
-        return true;
-    }
-    return QWidget::eventFilter(object, event);
 }

@@ -413,8 +413,6 @@ Q_SIGNALS:
 protected:
     /// Changes are told one by one only while somebody listens.
     void connectNotify(const QMetaMethod& signal) override;
-    /// The text of a problem that the pointer rests on.
-    bool eventFilter(QObject* object, QEvent* event) override;
 
 private:
     class Private;

@@ -3,6 +3,7 @@
 #pragma once
 
 #include "editing/ZNCoreEditorControlEx.h"
+#include "host/files/LanguageMemory.h"
 #include "host/script/ScriptDoc.h"
 #include "host/script/ScriptFrame.h"
 #include "host/script/ScriptView.h"
@@ -25,6 +26,7 @@ protected:
     explicit WorkbenchTest(Workbench::Keeps keeps = Workbench::Keeps::Nothing)
         : m_app(keeps), m_window(*new MainWindow(m_app))
     {
+        languages::SetDefault({}); // which an earlier test may have chosen
         m_window.show();
         QApplication::processEvents();
     }

@@ -71,6 +71,6 @@ private:
 };
 
 // How the editor's language reads; null for one that is none of SQL's.
-const engine::analysis::SqlDialect* DialectOf(CZNCoreEditorControl& editor);
+ZN_API const engine::analysis::SqlDialect* DialectOf(CZNCoreEditorControl& editor);
 
 } // namespace completion

@@ -77,7 +77,6 @@ public:
     void TellUpdate();
     void TellSettings(const Lifetime& alive);
     void ApplyFont();
-    void ShowProblemAt(const QPoint& place, QWidget& window);
     void MakeCommands();
 
     // What has a signal of its own when it changes, whoever changed it.

@@ -5,8 +5,6 @@
 #include "control/PartitionInfo.h"
 #include "editing/face/Private.h"
 
-#include <QToolTip>
-
 #include <algorithm>
 
 namespace {
@@ -92,19 +90,6 @@ bool ZNCoreEditorWidget::goToPreviousProblem()
                                        [=](const Problem& each) { return each.position < from; });
     SelectProblem(*this, previous != all.rend() ? *previous : all.last());
     return true;
-}
-
-void ZNCoreEditorWidget::Private::ShowProblemAt(const QPoint& place, QWidget& window)
-{
-    const long position = m_control->PositionFromPointClose(place.x(), place.y(), 1);
-    const ErrorInfo* problem =
-        position < 0 ? nullptr : m_control->ErrorGetOverPos(static_cast<int>(position), 1);
-    if (problem && problem->pszText)
-        QToolTip::showText(
-            window.mapToGlobal(place),
-            QString(reinterpret_cast<const QChar*>(problem->pszText)).toHtmlEscaped(), &window);
-    else
-        QToolTip::hideText();
 }
 
 ZNCoreEditorWidget::Range ZNCoreEditorWidget::statementAtCursor() const
