@@ -255,6 +255,7 @@ public:
     completion::Completer* completer();
     /// Whether the list, and what a function takes, open while somebody types. Off at first.
     bool completesWhileTyping() const;
+    /// Asks for that, or for the keys of the list alone.
     void setCompletesWhileTyping(bool completes);
 
     /// Of this editor alone. As long as none was set that of the options, which is Qt's own font

@@ -3,6 +3,7 @@
 #pragma once
 
 #include "editing/ZNCoreEditorControlEx.h"
+#include "editing/operations/Macro.h"
 #include "host/files/LanguageMemory.h"
 #include "host/script/ScriptDoc.h"
 #include "host/script/ScriptFrame.h"
@@ -26,7 +27,10 @@ protected:
     explicit WorkbenchTest(Workbench::Keeps keeps = Workbench::Keeps::Nothing)
         : m_app(keeps), m_window(*new MainWindow(m_app))
     {
-        languages::SetDefault({}); // which an earlier test may have chosen
+        // What an earlier test may have left, of settings and in the process.
+        languages::SetDefault({});
+        SetMacroRecording(0);
+        FreeMacro();
         m_window.show();
         QApplication::processEvents();
     }
