@@ -23,7 +23,6 @@ namespace id = prefscontrol;
 
 constexpr int kLastStyle = 127;
 constexpr int kNoColor = -1;
-constexpr int kDefaultStyle = 32;
 
 } // namespace
 
