@@ -107,7 +107,8 @@ private:
             Token token = scanner.Next(m_end);
             if (token.kind == TokenKind::End)
                 break;
-            if (dialect.client != &kNoClient && SkipClientLine(scanner, machine, text, token))
+            if (dialect.client != &kNoClient &&
+                SkipClientLine(scanner, machine, text, token, entry.isInLine))
                 continue;
             if (const long tag = DollarTag(text, token); tag != 0)
                 scanner.Restart(token.start + tag);
@@ -117,18 +118,20 @@ private:
                 AddObject(text, event, units);
             events.clear();
         }
-        return {scanner.State(), machine.Now(), UnitsBehind(scanner.Position())};
+        const long at = scanner.Position();
+        const bool isInLine = at > 0 ? text.At(at - 1) != '\n' : entry.isInLine;
+        return {scanner.State(), machine.Now(), UnitsBehind(at), isInLine};
     }
 
     // What a client's line says is no SQL, and a quote in it opens nothing.
     static bool SkipClientLine(SqlScanner& scanner, const NameMachine& machine,
-                               const TextSpans& text, const Token& token)
+                               const TextSpans& text, const Token& token, bool isInLine)
     {
         if (machine.Now().previous != NameWord::Begins || token.resumed ||
             (token.kind != TokenKind::Word && token.kind != TokenKind::Operator))
             return false;
         const long before = token.start - 1;
-        if (before >= 0 && text.At(before) != '\n')
+        if (before >= 0 ? text.At(before) != '\n' : isInLine)
             return false;
         const auto line =
             ClientLineAt(scanner.Dialect(), text, token, true, Terminator(std::string_view(";")));

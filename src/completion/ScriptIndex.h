@@ -76,7 +76,8 @@ public:
     {
         engine::analysis::ScanState scan;
         NameState names;
-        long skip = 0; // units that a token from before reaches into
+        long skip = 0;         // units that a token from before reaches into
+        bool isInLine = false; // behind those, something stands in front in the line
 
         bool operator==(const Entry&) const = default;
     };
