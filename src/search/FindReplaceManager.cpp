@@ -6,7 +6,6 @@
 #include "prefs/RegProfile.h"
 
 #include <QComboBox>
-#include <QSettings>
 
 #include <algorithm>
 #include <set>
@@ -219,9 +218,6 @@ namespace zncoreeditor {
 
 CFindReplaceManager* GetFindReplaceManager()
 {
-    // What keeps the settings has to be there before the manager, so that it goes after it: the
-    // registry that the manager was read from may not be the one that it is written to.
-    static const QSettings first(QStringLiteral("/dev/null"), QSettings::IniFormat);
     static CFindReplaceManager manager;
     return &manager;
 }

@@ -273,15 +273,16 @@ TEST_F(TargetFiles, AKilledProcessLeavesTheOldFileOrTheNewOne)
 TEST_F(TargetFiles, BesideKeepsTheUsersAttributes)
 {
     Put("a", "old");
-    if (setxattr(PathOf("a").constData(), "user.note", "mine", 4, 0) != 0)
-        GTEST_SKIP() << "no attributes here";
+    // The folder's file system may have none; the save is the same.
+    const bool has = setxattr(PathOf("a").constData(), "user.note", "mine", 4, 0) == 0;
+    ASSERT_TRUE(has || errno == ENOTSUP) << errno;
     TargetFile file;
     ASSERT_TRUE(file.OpenBeside(PathOf("a")));
     EXPECT_FALSE(file.WritesOver());
     ASSERT_TRUE(WriteAll(file, "new"));
     char value[8] = {};
-    EXPECT_EQ(getxattr(PathOf("a").constData(), "user.note", value, sizeof value), 4);
-    EXPECT_STREQ(value, "mine");
+    EXPECT_EQ(getxattr(PathOf("a").constData(), "user.note", value, sizeof value), has ? 4 : -1);
+    EXPECT_STREQ(value, has ? "mine" : "");
     EXPECT_EQ(Get("a"), "new");
 }
 
