@@ -27,6 +27,9 @@ CZNCoreEditorControlEx::CZNCoreEditorControlEx(CZNCoreEditorControlExCallback* c
 
 CZNCoreEditorControlEx::~CZNCoreEditorControlEx()
 {
+    // Its window can take the focus once more while it goes, behind WM_DESTROY.
+    if (IFindDialogs* dialogs = GetFindDialogs())
+        dialogs->Forget(*this);
     delete m_desktopWatch.data(); // the window may stay
 }
 

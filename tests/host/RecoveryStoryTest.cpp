@@ -52,6 +52,15 @@ protected:
         m_workbench.waitForFinished();
     }
 
+    // As a person ends it: one that is killed while it opens a file is asked about that file.
+    void Quit()
+    {
+        XDoTool({"windowfocus", "--sync", Visible("story.sql").value(0)});
+        XDoTool({"key", "ctrl+q"});
+        ASSERT_TRUE(m_workbench.waitForFinished(kPatienceInMs));
+        ASSERT_EQ(m_workbench.exitCode(), 0);
+    }
+
     QString Path() const { return m_folder.filePath(QStringLiteral("story.sql")); }
 
     QByteArray Read() const
@@ -123,7 +132,7 @@ TEST_F(RecoveryStory, EscapeLeavesEverythingForLater)
     ASSERT_TRUE(Eventually([] { return !Visible("story.sql").isEmpty(); }));
     EXPECT_FALSE(Title().contains(u'*')) << Title().toStdString();
     EXPECT_EQ(Read(), QByteArray("select 1;\n"));
-    TearDown();
+    ASSERT_NO_FATAL_FAILURE(Quit());
     StartWorkbench();
     EXPECT_TRUE(Eventually([] { return IsAsked("Recover Scripts"); }));
 }
@@ -135,7 +144,7 @@ TEST_F(RecoveryStory, AChoiceIsMadeWithKeys)
                                QStringLiteral("d"), QStringLiteral("Return")});
     ASSERT_TRUE(Eventually([] { return !Visible("story.sql").isEmpty(); }));
     EXPECT_FALSE(Title().contains(u'*')) << Title().toStdString();
-    TearDown();
+    ASSERT_NO_FATAL_FAILURE(Quit());
     StartWorkbench();
     ASSERT_TRUE(Eventually([] { return !Visible("story.sql").isEmpty(); }));
     EXPECT_TRUE(Visible("Recover Scripts").isEmpty());

@@ -84,6 +84,7 @@ class Dialogs final : public IFindDialogs
 {
 public:
     Dialogs() { SetFindDialogs(this); }
+    ~Dialogs() override { SetFindDialogs(nullptr); }
 
     void Serve(CZNCoreEditorControlEx& control) override
     {

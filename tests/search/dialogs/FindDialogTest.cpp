@@ -2,6 +2,7 @@
 // The dialogs "Find" and "Find & Replace".
 #include "tests/search/dialogs/DialogFixture.h"
 
+#include "editing/FindDialogs.h"
 #include "platform/dialogs/MenuButton.h"
 #include "platform/dialogs/MyComboBox.h"
 #include "search/dialogs/PatternMenus.h"
@@ -44,6 +45,18 @@ TEST_F(FindDialogs, SayWhatIsWrongWithAnExpressionAsItIsTyped)
     EXPECT_EQ(fault->accessibleName(), fault->text());
     find.GetDlgItem<QComboBox>(findcontrol::FindBox)->setEditText("\\(a\\)");
     EXPECT_EQ(fault->text(), "");
+}
+
+// The sanitizers see it.
+TEST_F(FindDialogs, ForgetAnEditorThatTookTheFocusBehindItsWindowsEnd)
+{
+    CFindDialog& find = Find(u"a");
+    {
+        CZNCoreEditorControlEx gone;
+        GetFindDialogs()->Serve(gone);
+    }
+    find.DestroyWindow();
+    EXPECT_EQ(CFindDialog::GetFindDialog(false, false), nullptr);
 }
 
 TEST_F(FindDialogs, TakeEachOthersPlace)
