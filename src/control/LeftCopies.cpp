@@ -6,8 +6,12 @@
 #include "control/FileAccess.h"
 #include "platform/base/Units.h"
 
+#include <QDateTime>
 #include <QDir>
 #include <QFileInfo>
+
+#include <algorithm>
+#include <utility>
 
 LeftCopies::LeftCopies(const QString& document)
 {
@@ -15,8 +19,12 @@ LeftCopies::LeftCopies(const QString& document)
     const QString folder = autosave::BackupFolder(false);
     if (folder.isEmpty())
         return;
-    const QFileInfoList files =
-        QDir(folder).entryInfoList(QDir::Files | QDir::Hidden, QDir::Time | QDir::Reversed);
+    QFileInfoList files = QDir(folder).entryInfoList(QDir::Files | QDir::Hidden, QDir::NoSort);
+    // Copies of one tick of the clock, which are written together, in the order of their documents.
+    const auto age = [](const QFileInfo& file) {
+        return std::pair(file.lastModified(), autosave::NoteOf(file.filePath()));
+    };
+    std::ranges::sort(files, {}, age);
     for (const QFileInfo& file : files) {
         const QString path = folder + file.fileName();
         const QString stands = autosave::NoteOf(path);

@@ -609,6 +609,24 @@ TEST_F(Recovery, NoCopyOfALivingEditorIsRecovered)
     EXPECT_EQ(Read(copy), QByteArray("typed"));
 }
 
+TEST_F(Recovery, ListsTheOldestCopyFirstAndThoseOfOneMomentByTheirDocuments)
+{
+    const QDateTime moment(QDate(2020, 1, 1), QTime(12, 0));
+    const auto plant = [&](const char* name, const char* document, const QDateTime& time) {
+        QFile copy(Plant(name, "typed", document));
+        ASSERT_TRUE(copy.open(QIODevice::ReadWrite));
+        ASSERT_TRUE(copy.setFileTime(time, QFileDevice::FileModificationTime));
+    };
+    plant("~ZN1.tmp", "c.sql", moment);
+    plant("~ZN2.tmp", "a.sql", moment.addSecs(1));
+    plant("~ZN3.tmp", "b.sql", moment);
+    QStringList documents;
+    const LeftCopies copies;
+    for (const LeftCopies::Copy& copy : copies.All())
+        documents << QFileInfo(copy.document).fileName();
+    EXPECT_EQ(documents, QStringList({"b.sql", "c.sql", "a.sql"}));
+}
+
 TEST_F(Recovery, ACopyThatCannotBeReadCostsTheTextNothing)
 {
     control().SetOffersCopies(false);
