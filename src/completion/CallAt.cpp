@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "completion/CallAt.h"
 
+#include "completion/ScriptReader.h"
 #include "completion/Utf8Text.h"
 
 #include <algorithm>
@@ -8,7 +9,6 @@
 namespace completion {
 namespace {
 
-using engine::analysis::SqlScanner;
 using engine::analysis::TextSpans;
 using engine::analysis::Token;
 using engine::analysis::TokenKind;
@@ -24,7 +24,8 @@ struct Open
 bool IsBlank(TokenKind kind)
 {
     return kind == TokenKind::Blank || kind == TokenKind::LineEnd ||
-           kind == TokenKind::LineComment || kind == TokenKind::BlockComment;
+           kind == TokenKind::LineComment || kind == TokenKind::BlockComment ||
+           kind == TokenKind::Command;
 }
 
 bool IsName(const TextSpans& text, const Token& token)
@@ -38,26 +39,21 @@ bool IsName(const TextSpans& text, const Token& token)
 class CallReader
 {
 public:
-    CallReader(const engine::analysis::SqlDialect& dialect, const NameState& names)
-        : m_machine(dialect, names)
-    {}
-
-    void Take(const TextSpans& text, const Token& token)
+    void Take(const ScriptReader& reader)
     {
-        m_events.clear();
-        m_machine.Take(text, token, m_events);
-        if (m_machine.BeganPart()) {
+        const Token& token = reader.Last();
+        if (reader.Machine().BeganPart()) {
             m_open.assign(1, {});
             m_last = {};
         }
-        for (const NameEvent& event : m_events) {
+        for (const NameEvent& event : reader.Names()) {
             if (event.kind == NameKind::RoutineUse)
                 m_open.assign(1, {.name = token});
         }
         if (IsBlank(token.kind))
             return;
         if (token.kind == TokenKind::Operator && token.Length() == 1)
-            TakeOperator(text, static_cast<char>(text.At(token.start)));
+            TakeOperator(reader.Text(), static_cast<char>(reader.Text().At(token.start)));
         m_last = token;
     }
 
@@ -88,8 +84,6 @@ private:
             m_open.assign(1, {});
     }
 
-    NameMachine m_machine;
-    std::vector<NameEvent> m_events;
     std::vector<Open> m_open{1};
     Token m_last;
 };
@@ -107,17 +101,11 @@ Call CallAt(const ScriptIndex& index, const ScriptIndex::Read& read, long caret)
     read(from, caret, units);
     const std::string utf8 = ToUtf8(units);
     const TextSpans text(utf8);
-    SqlScanner scanner(*dialect, text, 0, start.entry.scan);
-    CallReader reader(*dialect, start.entry.names);
-    while (scanner.Position() < text.Size()) {
-        const Token token = scanner.Next();
-        if (token.kind == TokenKind::End)
-            break;
-        reader.Take(text, token);
-        if (const long tag = DollarTag(text, token))
-            scanner.Restart(token.start + tag);
-    }
-    const Open* open = reader.Innermost();
+    ScriptReader reader(*dialect, text, 0, start.entry.scan, start.entry.names);
+    CallReader calls;
+    while (reader.Next())
+        calls.Take(reader);
+    const Open* open = calls.Innermost();
     if (!open || open->name.end == text.Size())
         return {};
     const std::string name = PlainName(text, open->name.start, open->name.end);

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "completion/CaretContext.h"
 
+#include "completion/ScriptReader.h"
 #include "completion/Utf8Text.h"
 
 #include <algorithm>
@@ -8,7 +9,6 @@
 namespace completion {
 namespace {
 
-using engine::analysis::SqlScanner;
 using engine::analysis::TextSpans;
 using engine::analysis::Token;
 using engine::analysis::TokenKind;
@@ -58,7 +58,7 @@ class ContextReader
 public:
     ContextReader(const ScriptIndex& index, const ScriptIndex::Read& read, long caret)
         : m_start(index.StartBefore(std::max(0L, caret - kBefore))), m_caret(caret),
-          m_dialect(*index.Dialect()), m_machine(m_dialect, m_start.entry.names)
+          m_dialect(*index.Dialect()), m_names(m_start.entry.names)
     {
         std::u16string units;
         const long from = std::min(m_start.position + m_start.entry.skip, caret);
@@ -88,34 +88,27 @@ private:
     void ReadBefore()
     {
         const TextSpans text(m_before);
-        const long end = text.Size();
-        SqlScanner scanner(m_dialect, text, 0, m_start.entry.scan);
+        ScriptReader reader(m_dialect, text, 0, m_start.entry.scan, m_names);
         UnitCounter units(m_before);
-        NameState atWord = m_machine.Now();
+        NameState atWord = m_names;
         Token last;
-        while (scanner.Position() < end) {
-            const Token token = scanner.Next();
-            if (token.kind == TokenKind::End)
-                break;
-            atWord = m_machine.Now();
-            Take(text, token);
-            if (const long tag = DollarTag(text, token))
-                scanner.Restart(token.start + tag);
-            last = token;
-            if (!IsBlank(token.kind))
-                m_tokens.push_back(token);
+        while (reader.Next()) {
+            atWord = m_names;
+            Take(reader);
+            last = reader.Last();
+            if (!IsBlank(last.kind))
+                m_tokens.push_back(last);
             if (m_tokens.size() > kRemembered * 2)
                 m_tokens.erase(m_tokens.begin(),
                                m_tokens.end() - static_cast<std::ptrdiff_t>(kRemembered));
         }
-        FindWord(text, scanner, last, units, atWord);
+        FindWord(text, !reader.Scan().InCode(), last, units, atWord);
     }
 
-    void FindWord(const TextSpans& text, const SqlScanner& scanner, const Token& last,
-                  UnitCounter& units, const NameState& atWord)
+    void FindWord(const TextSpans& text, bool isOpen, const Token& last, UnitCounter& units,
+                  const NameState& atWord)
     {
         ProposalQuery& query = m_context.query;
-        const bool isOpen = !scanner.State().InCode();
         bool isWord = last.kind == TokenKind::Word || last.kind == TokenKind::Variable;
         if (last.kind == TokenKind::QuotedName && IsUnclosed(text, last)) {
             m_context.quote = QChar(text.At(last.start));
@@ -125,7 +118,7 @@ private:
                        std::string_view::npos) {
             isWord = true;
         }
-        const NameMachine machine(m_dialect, isWord ? atWord : m_machine.Now());
+        const NameMachine machine(m_dialect, isWord ? atWord : m_names);
         query.place = machine.WantsOwnName()   ? Place::OwnName
                       : machine.WantsTable()   ? Place::Table
                       : machine.WantsRoutine() ? Place::Routine
@@ -133,6 +126,8 @@ private:
         if (last.kind == TokenKind::LineComment ||
             (last.kind == TokenKind::BlockComment && (isOpen || IsUnclosed(text, last))))
             query.place = Place::Comment;
+        else if (last.kind == TokenKind::Command)
+            query.place = Place::String;
         else if (last.kind == TokenKind::String && DollarTag(text, last) == 0 &&
                  (isOpen || IsUnclosed(text, last)))
             query.place = Place::String;
@@ -209,17 +204,9 @@ private:
         while (at < text.Size() && IsWordByte(text.At(at)))
             ++at;
         m_context.rest = ToText(text.Copy(0, at));
-        SqlScanner scanner(m_dialect, text, at, {});
-        while (scanner.Position() < text.Size()) {
-            const Token token = scanner.Next();
-            if (token.kind == TokenKind::End)
-                return;
-            Take(text, token);
-            if (m_part != m_caretPart)
-                return;
-            if (const long tag = DollarTag(text, token))
-                scanner.Restart(token.start + tag);
-        }
+        ScriptReader reader(m_dialect, text, at, {}, m_names);
+        while (m_part == m_caretPart && reader.Next())
+            Take(reader);
     }
 
     bool IsWordByte(unsigned char byte) const
@@ -227,14 +214,14 @@ private:
         return engine::analysis::BytesOf(m_dialect).inWord[byte];
     }
 
-    void Take(const TextSpans& text, const Token& token)
+    void Take(const ScriptReader& reader)
     {
-        m_events.clear();
-        m_machine.Take(text, token, m_events);
-        if (m_machine.BeganPart())
+        m_names = reader.Machine().Now();
+        if (reader.Machine().BeganPart())
             ++m_part;
-        for (const NameEvent& event : m_events) {
-            ScriptName name{event.kind, ToText(PlainName(text, event.start, event.end)), {}, 0, 0};
+        for (const NameEvent& event : reader.Names()) {
+            ScriptName name{
+                event.kind, ToText(PlainName(reader.Text(), event.start, event.end)), {}, 0, 0};
             m_found.push_back({std::move(name), m_part});
         }
     }
@@ -290,11 +277,10 @@ private:
     long m_from = 0;
     long m_caret;
     const engine::analysis::SqlDialect& m_dialect;
-    NameMachine m_machine;
+    NameState m_names; // where the reading has come to
     std::string m_before;
     std::string m_behind;
     std::vector<Token> m_tokens;
-    std::vector<NameEvent> m_events;
     std::vector<Found> m_found;
     int m_part = 0;
     int m_caretPart = 0;

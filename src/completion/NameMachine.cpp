@@ -91,20 +91,33 @@ void NameMachine::Take(const TextSpans& text, const Token& token, std::vector<Na
     m_text = &text;
     m_events = &events;
     m_beganPart = false;
+    TakeToken(token);
+    const auto last = token.end > token.start ? text.At(token.end - 1) : 0;
+    m_state.before = DollarTag(text, token) != 0    ? State::Before::Other
+                     : last == '\n' || last == '\r' ? State::Before::LineEnd
+                     : last == '.'                  ? State::Before::Point
+                                                    : State::Before::Other;
+}
+
+void NameMachine::TakeToken(const Token& token)
+{
+    const TextSpans& text = *m_text;
+    // One that may be cut is no name, so that nothing hangs on where it is.
+    const bool isLong = token.resumed || token.cut || token.Length() > engine::analysis::kLongToken;
     switch (token.kind) {
     case TokenKind::Blank:
     case TokenKind::LineEnd:
     case TokenKind::LineComment:
     case TokenKind::BlockComment:
     case TokenKind::CodeComment:
+    case TokenKind::Command:
     case TokenKind::End:
         return;
     case TokenKind::Terminator:
-    case TokenKind::Command:
         EndStatement();
         return;
     case TokenKind::Word: {
-        if (token.resumed || token.cut) {
+        if (isLong) {
             m_state.previous = W::Other;
             return;
         }
@@ -115,12 +128,13 @@ void NameMachine::Take(const TextSpans& text, const Token& token, std::vector<Na
         return;
     }
     case TokenKind::QuotedName:
-        if (!token.resumed && !token.cut)
+        if (!isLong)
             TakeName(token);
         m_state.previous = W::Other;
         return;
     case TokenKind::Variable:
-        TakeVariable(token);
+        if (!isLong)
+            TakeVariable(token);
         m_state.previous = W::Other;
         return;
     case TokenKind::Operator:
@@ -140,8 +154,7 @@ void NameMachine::Take(const TextSpans& text, const Token& token, std::vector<Na
 void NameMachine::TakeWord(const Token& token, NameWord word)
 {
     // What stands behind a point is a name, whatever it says.
-    const bool isPart = token.start > 0 && m_text->At(token.start - 1) == '.';
-    if (isPart)
+    if (m_state.before == State::Before::Point)
         word = W::Other;
     m_atStart = false;
     if (!ReadStep(token, word))

@@ -45,7 +45,17 @@ struct NameState
         AddColumn,
     };
 
+    // What the last byte was, which the next token may touch.
+    enum class Before : std::uint8_t
+    {
+        LineEnd,
+        Point,
+        Other,
+        Word, // in the midst of a long one, in a text that is no script
+    };
+
     Step step = Step::Code;
+    Before before = Before::LineEnd;
     NameKind object = NameKind::Table;
     NameWord verb = NameWord::Other; // that the statement began with
     NameWord previous = NameWord::Begins;
@@ -91,6 +101,7 @@ public:
     bool WantsOwnName() const; // one that nothing has yet
 
 private:
+    void TakeToken(const Token& token);
     void TakeWord(const Token& token, NameWord word);
     void TakeName(const Token& token);
     void TakeVariable(const Token& token);

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "completion/ScriptIndex.h"
 
+#include "completion/ScriptReader.h"
 #include "completion/Utf8Text.h"
 
 #include <algorithm>
@@ -8,16 +9,11 @@
 namespace completion {
 namespace {
 
-using engine::analysis::ClientLineAt;
-using engine::analysis::ClientWord;
-using engine::analysis::kNoClient;
-using engine::analysis::SqlScanner;
-using engine::analysis::Terminator;
 using engine::analysis::TextSpans;
 using engine::analysis::Token;
 using engine::analysis::TokenKind;
 
-constexpr long kReach = 1024;      // units behind a stretch that reading it may look at
+constexpr long kReach = 1280;      // units behind a stretch that reading it may look at
 constexpr long kLineSearch = 2048; // units in which a stretch looks for the end of a line
 constexpr std::size_t kLeastMemory = 1 << 20;
 constexpr long kSharePart = 10; // of the text's size, from which no more words are taken
@@ -73,73 +69,48 @@ public:
     Entry Run(const Entry& entry)
     {
         const long from = ByteOfUnit(entry.skip);
-        return m_index.m_dialect ? RunScript(entry, from) : RunPlain(from);
+        return m_index.m_dialect ? RunScript(entry, from) : RunPlain(entry, from);
     }
 
     std::vector<Id> words;
     std::vector<Item> objects;
 
 private:
-    Entry RunPlain(long at)
+    Entry RunPlain(const Entry& entry, long at)
     {
-        const long size = static_cast<long>(m_bytes.size());
+        const bool goesOn = entry.names.before == NameState::Before::Word;
+        at = goesOn ? EndOfWord(at) : at;
+        bool isCut = goesOn && at == Size();
         while (at < m_end) {
             const long start = at;
-            while (at < size && IsPlainWordByte(m_bytes[static_cast<std::size_t>(at)]))
-                ++at;
-            if (at > start)
-                AddPlain(start, at);
-            else
-                ++at;
+            at = EndOfWord(start);
+            isCut = at > start && at == Size();
+            AddPlain(start, at);
+            at += at == start;
         }
-        return {.skip = UnitsBehind(at)};
+        Entry exit{.skip = UnitsBehind(at)};
+        exit.names.before = isCut ? NameState::Before::Word : NameState::Before::Other;
+        return exit;
+    }
+
+    long Size() const { return static_cast<long>(m_bytes.size()); }
+    long EndOfWord(long at) const
+    {
+        while (at < Size() && IsPlainWordByte(m_bytes[static_cast<std::size_t>(at)]))
+            ++at;
+        return at;
     }
 
     Entry RunScript(const Entry& entry, long from)
     {
-        const TextSpans text(m_bytes);
-        const auto& dialect = *m_index.m_dialect;
-        SqlScanner scanner(dialect, text, from, entry.scan);
-        NameMachine machine(dialect, entry.names);
+        ScriptReader reader(*m_index.m_dialect, TextSpans(m_bytes), from, entry.scan, entry.names);
         UnitCounter units(m_bytes);
-        std::vector<NameEvent> events;
-        while (scanner.Position() < m_end) {
-            Token token = scanner.Next(m_end);
-            if (token.kind == TokenKind::End)
-                break;
-            if (dialect.client != &kNoClient &&
-                SkipClientLine(scanner, machine, text, token, entry.isInLine))
-                continue;
-            if (const long tag = DollarTag(text, token); tag != 0)
-                scanner.Restart(token.start + tag);
-            AddToken(text, token);
-            machine.Take(text, token, events);
-            for (const NameEvent& event : events)
-                AddObject(text, event, units);
-            events.clear();
+        while (reader.Next(m_end)) {
+            AddToken(reader.Text(), reader.Last());
+            for (const NameEvent& event : reader.Names())
+                AddObject(reader.Text(), event, units);
         }
-        const long at = scanner.Position();
-        const bool isInLine = at > 0 ? text.At(at - 1) != '\n' : entry.isInLine;
-        return {scanner.State(), machine.Now(), UnitsBehind(at), isInLine};
-    }
-
-    // What a client's line says is no SQL, and a quote in it opens nothing.
-    static bool SkipClientLine(SqlScanner& scanner, const NameMachine& machine,
-                               const TextSpans& text, const Token& token, bool isInLine)
-    {
-        if (machine.Now().previous != NameWord::Begins || token.resumed ||
-            (token.kind != TokenKind::Word && token.kind != TokenKind::Operator))
-            return false;
-        const long before = token.start - 1;
-        if (before >= 0 ? text.At(before) != '\n' : isInLine)
-            return false;
-        const auto line =
-            ClientLineAt(scanner.Dialect(), text, token, true, Terminator(std::string_view(";")));
-        if (line.kind != ClientWord::Text && line.kind != ClientWord::Remark)
-            return false;
-        scanner.Restart(line.behind);
-        scanner.TakeLine(SqlScanner::kNoLimit, line.rest);
-        return true;
+        return {reader.Scan(), reader.Machine().Now(), UnitsBehind(reader.Position())};
     }
 
     void AddToken(const TextSpans& text, const Token& token)

@@ -76,8 +76,7 @@ public:
     {
         engine::analysis::ScanState scan;
         NameState names;
-        long skip = 0;         // units that a token from before reaches into
-        bool isInLine = false; // behind those, something stands in front in the line
+        long skip = 0; // units that a token from before reaches into
 
         bool operator==(const Entry&) const = default;
     };

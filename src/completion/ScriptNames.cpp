@@ -1,16 +1,13 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "completion/ScriptNames.h"
 
-#include "completion/NameMachine.h"
+#include "completion/ScriptReader.h"
 #include "completion/Utf8Text.h"
 
 namespace completion {
 namespace {
 
-using engine::analysis::SqlScanner;
 using engine::analysis::TextSpans;
-using engine::analysis::Token;
-using engine::analysis::TokenKind;
 
 QString NameAt(const TextSpans& text, const NameEvent& event)
 {
@@ -68,17 +65,11 @@ std::vector<ScriptName> NamesIn(std::u16string_view text, int dialect)
     const std::string utf8 = ToUtf8(text);
     const TextSpans spans(utf8);
     UnitCounter units(utf8);
-    SqlScanner scanner(*row, spans);
-    NameMachine machine(*row);
+    ScriptReader reader(*row, spans);
     Parents parents;
-    std::vector<NameEvent> events;
     std::vector<ScriptName> names;
-    for (Token token = scanner.Next(); token.kind != TokenKind::End; token = scanner.Next()) {
-        events.clear();
-        machine.Take(spans, token, events);
-        if (const long tag = DollarTag(spans, token))
-            scanner.Restart(token.start + tag);
-        for (const NameEvent& event : events) {
+    while (reader.Next()) {
+        for (const NameEvent& event : reader.Names()) {
             ScriptName name{event.kind, NameAt(spans, event), {}, units.At(event.start), 0};
             name.end = units.At(event.end);
             name.parent = parents.Of(name);

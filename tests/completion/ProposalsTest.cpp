@@ -131,6 +131,15 @@ TEST(Proposals, KnowWhereANameIsGiven)
     EXPECT_EQ(Caret(u"select 'or' |").Query().place, ProposalQuery::Place::Anywhere);
 }
 
+TEST(Proposals, TakeNoQuoteInAClientsLineForAString)
+{
+    Caret caret(u"create table orders (id int);\nprompt it's\nselect * from o|", "oracle");
+    EXPECT_EQ(caret.Query().place, ProposalQuery::Place::Table);
+    EXPECT_EQ(caret.First(1), "orders");
+    EXPECT_EQ(Caret(u"select 1;\nprompt or|", "oracle").Query().place,
+              ProposalQuery::Place::String);
+}
+
 TEST(Proposals, AreColumnsOfTableVariables)
 {
     EXPECT_EQ(Caret(u"declare @t table (a int, bb int); select x.| from @t x").First(4), "a bb");

@@ -46,7 +46,22 @@ constexpr const char16_t* kPieces[] = {
     u"insert into t1 (a, b) values (1, 2)\nGO\n",
     u"create or replace function f(a int) returns int as $$ declare v int; begin end $$;\n",
     u"prompt it's\n",
+    u";\nremark isn't -\n it\n",
+    u"\n.read it's\n",
+    u"dbo.",
+    u"from ",
+    u";\n",
+    u"\\g \\! ls 'a\n",
+    u"delimiter //\n",
 };
+
+std::u16string Piece(std::mt19937& random)
+{
+    if (random() % 40 == 0)
+        return (random() % 2 ? u";\nprompt it's" : u" ") +
+               std::u16string(600 + random() % 1000, u'z') + u' ';
+    return kPieces[random() % std::size(kPieces)];
+}
 
 } // namespace
 
@@ -113,7 +128,7 @@ TEST(ScriptIndex, IsThatOfAFreshOneBehindAnyEdits)
             const bool isLow =
                 place < text.Length() && (text.Text()[std::size_t(place)] & 0xFC00) == 0xDC00;
             if (random() % 4 && !isLow)
-                text.Insert(place, kPieces[random() % std::size(kPieces)]);
+                text.Insert(place, Piece(random));
             else if (text.Length() > 0 && text.Text().find(u'\xD83D') == std::u16string::npos)
                 text.Delete(place, std::min(long(random() % 60), text.Length() - place));
             if (random() % 3 == 0)

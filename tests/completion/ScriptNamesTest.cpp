@@ -133,6 +133,13 @@ TEST(ScriptNames, StandWhereTheirQuotesBegin)
     EXPECT_EQ(names[0].end, 27);
 }
 
+TEST(ScriptNames, AreThoseBehindAQuoteInAClientsLine)
+{
+    EXPECT_EQ(Told(u"prompt it's\ncreate table t (a int);\nremark isn't\nselect * from t",
+                   partitioner::Oracle),
+              "table t, column t.a, use t");
+}
+
 TEST(ScriptNames, AreNoneInADialectThatIsUnknown)
 {
     EXPECT_TRUE(NamesIn(u"create table t (a int)", 99).empty());
