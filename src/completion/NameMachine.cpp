@@ -13,48 +13,8 @@ using engine::analysis::TokenKind;
 using W = NameWord;
 
 constexpr std::uint8_t kDeepest = 63;
-constexpr std::uint8_t kPatience = 12;
+constexpr std::uint8_t kPatience = 12; // words
 constexpr long kNear = 64;
-
-bool IsOneOf(NameWord word, std::initializer_list<NameWord> words)
-{
-    return std::find(words.begin(), words.end(), word) != words.end();
-}
-
-struct Created
-{
-    NameWord word;
-    NameKind kind;
-};
-constexpr Created kCreated[] = {
-    {W::Table, NameKind::Table},         {W::View, NameKind::View},
-    {W::Procedure, NameKind::Procedure}, {W::Proc, NameKind::Procedure},
-    {W::Function, NameKind::Function},   {W::Trigger, NameKind::Trigger},
-    {W::Index, NameKind::Index},         {W::Type, NameKind::Type},
-    {W::Sequence, NameKind::Sequence},   {W::Package, NameKind::Package},
-    {W::Schema, NameKind::Schema},
-};
-
-const Created* FindCreated(NameWord word)
-{
-    const auto* row = std::find_if(std::begin(kCreated), std::end(kCreated),
-                                   [word](const Created& each) { return each.word == word; });
-    return row != std::end(kCreated) ? row : nullptr;
-}
-
-// Words of the list that dialects also take for names.
-bool MayBeName(NameWord word)
-{
-    return IsOneOf(word, {W::Other,  W::Type,      W::Package, W::Sequence,     W::Schema,
-                          W::Body,   W::Key,       W::Block,   W::Option,       W::Only,
-                          W::Offset, W::Output,    W::Start,   W::Undo,         W::Window,
-                          W::Ignore, W::Immediate, W::Returns, W::Materialized, W::Concurrently});
-}
-
-bool IsRoutineKind(NameKind kind)
-{
-    return kind == NameKind::Procedure || kind == NameKind::Function;
-}
 
 } // namespace
 
@@ -168,200 +128,6 @@ void NameMachine::TakeName(const Token& token)
     ReadStep(token, W::Other);
 }
 
-// True if the step has taken the word; else it is to be read as any other.
-bool NameMachine::ReadStep(const Token& token, NameWord word)
-{
-    State& s = m_state;
-    const bool isLast = s.step == Step::Code || NextByte(token.end) != '.';
-    switch (s.step) {
-    case Step::Code:
-        return false;
-    case Step::AfterCreate:
-        ReadCreated(word);
-        return true;
-    case Step::ObjectName:
-        if (IsOneOf(word, {W::If, W::Not, W::Exists, W::Body, W::Concurrently, W::Only}))
-            return true;
-        if (!MayBeName(word)) {
-            s.step = Step::Code;
-            return false;
-        }
-        if (isLast) {
-            Emit(s.object, token);
-            s.listDone = false;
-            s.step = s.object == NameKind::Table || s.object == NameKind::View ||
-                             IsRoutineKind(s.object) || s.object == NameKind::Package ||
-                             s.object == NameKind::Cursor || s.object == NameKind::Type
-                         ? Step::Header
-                         : Step::Code;
-        }
-        return true;
-    case Step::Header:
-        if (word == W::As || word == W::Is) {
-            EnterBody();
-            return true;
-        }
-        if (IsOneOf(word, {W::Select, W::Insert, W::Delete, W::Begin, W::Declare, W::With}) &&
-            !(word == W::With && IsRoutineKind(s.object))) {
-            s.step = Step::Code;
-            s.previous = W::Begins;
-            return false;
-        }
-        return true;
-    case Step::Items:
-        if (s.itemBegins && s.depth == s.listDepth)
-            ReadItem(token, word);
-        return true;
-    case Step::BareParameters:
-        if (word == W::As || word == W::Begin)
-            EnterBody();
-        return true;
-    case Step::TableName:
-        if (IsOneOf(word, {W::Into, W::Only, W::Lateral, W::Table, W::Ignore, W::Top, W::Or,
-                           W::Replace, W::If, W::Exists, W::From}))
-            return true;
-        if (!MayBeName(word)) {
-            s.step = Step::Code;
-            return false;
-        }
-        if (!isLast)
-            return true;
-        if (NextByte(token.end) == '(') {
-            if (s.verb != W::Insert)
-                return true; // what a function gives, and its parenthesis comes
-            Emit(NameKind::InsertUse, token);
-            s.step = Step::AfterInsert;
-            return true;
-        }
-        Emit(NameKind::TableUse, token);
-        s.isDerived = false;
-        s.step = Step::AfterTable;
-        return true;
-    case Step::AfterTable:
-        if (word == W::As) {
-            s.step = Step::AfterAs;
-            return true;
-        }
-        s.step = Step::Code;
-        if (!MayBeName(word))
-            return false;
-        Emit(s.isDerived ? NameKind::DerivedAlias : NameKind::Alias, token);
-        return true;
-    case Step::AfterAs:
-        s.step = Step::Code;
-        if (!MayBeName(word))
-            return false;
-        Emit(s.isDerived ? NameKind::DerivedAlias : NameKind::Alias, token);
-        return true;
-    case Step::CteName:
-        if (word == W::Recursive)
-            return true;
-        s.step = Step::Code;
-        if (!MayBeName(word))
-            return false;
-        Emit(NameKind::Cte, token);
-        s.step = Step::AfterCte;
-        s.listDone = false;
-        return true;
-    case Step::AfterCte:
-        s.step = word == W::As ? Step::AfterCteAs : Step::Code;
-        return word == W::As;
-    case Step::AfterCteAs:
-        if (IsOneOf(word, {W::Not, W::Materialized}))
-            return true;
-        s.step = Step::Code;
-        return false;
-    case Step::Declare:
-        s.step = Step::Code;
-        if (!MayBeName(word))
-            return false;
-        Emit(NameKind::Variable, token);
-        s.step = Step::AfterDeclared;
-        return true;
-    case Step::AfterDeclared:
-        if (word == W::Table) {
-            s.step = Step::Header;
-            s.object = NameKind::Table;
-            s.listDone = false;
-            return true;
-        }
-        if (!IsHead(word))
-            return true;
-        s.step = Step::Code;
-        return false;
-    case Step::CallName:
-        if (IsOneOf(word, {W::Procedure, W::Function, W::If, W::Exists}))
-            return true;
-        s.step = Step::Code;
-        if (!MayBeName(word) || IsOneOf(word, {W::Immediate, W::Block}))
-            return false;
-        if (isLast)
-            Emit(NameKind::RoutineUse, token);
-        else
-            s.step = Step::CallName;
-        return true;
-    case Step::AddColumn:
-        if (IsOneOf(word, {W::Column, W::If, W::Not, W::Exists}))
-            return true;
-        s.step = Step::Code;
-        if (!MayBeName(word))
-            return false;
-        Emit(NameKind::Column, token);
-        return true;
-    case Step::AfterInsert:
-        s.step = Step::Code;
-        return false;
-    }
-    return false;
-}
-
-void NameMachine::ReadCreated(NameWord word)
-{
-    State& s = m_state;
-    if (const Created* row = FindCreated(word)) {
-        s.object = row->kind;
-        s.step = Step::ObjectName;
-        // ALTER of these gives nothing anew.
-        if (s.verb == W::Alter && row->kind == NameKind::Table)
-            s.step = Step::TableName;
-        return;
-    }
-    if (s.patience-- == 0 || word == W::Select)
-        s.step = Step::Code;
-}
-
-void NameMachine::ReadItem(const Token& token, NameWord word)
-{
-    State& s = m_state;
-    if (IsRoutineKind(s.object)) {
-        if (IsOneOf(word, {W::In, W::Out, W::Inout, W::Variadic}))
-            return;
-        const char next = NextByte(token.end);
-        s.itemBegins = false;
-        if (MayBeName(word) && next != ',' && next != ')' && next != '(')
-            Emit(NameKind::Parameter, token);
-        return;
-    }
-    s.itemBegins = false;
-    const bool isQuoted = m_text->At(token.start) == '"' || m_text->At(token.start) == '[' ||
-                          m_text->At(token.start) == '`';
-    if (isQuoted || (word != W::Key && MayBeName(word)) ||
-        (word == W::Key && NextByte(token.end) != '('))
-        Emit(NameKind::Column, token);
-}
-
-// What follows is code, and in some dialects declarations first.
-void NameMachine::EnterBody()
-{
-    State& s = m_state;
-    const bool isRoutine = IsRoutineKind(s.object) || s.object == NameKind::Package;
-    s.step = Step::Code;
-    m_atStart = true;
-    s.declares = isRoutine && (m_dialect->routine == Routine::Declarations ||
-                               m_dialect->routine == Routine::Mixed);
-    s.verb = W::Other;
-}
-
 bool NameMachine::IsHead(NameWord word) const
 {
     const State& s = m_state;
@@ -416,30 +182,6 @@ void NameMachine::Begin(NameWord word)
     else if (word == W::Begin || s.verb == W::Fetch)
         s.verb = W::Other;
     Set(s.froms, false);
-}
-
-// PL/SQL and its kin: what stands first in a statement is declared by it.
-bool NameMachine::ReadDeclaration(const Token& token, NameWord word)
-{
-    State& s = m_state;
-    if (!s.declares || s.previous != W::Begins || s.depth > 0)
-        return false;
-    if (word == W::Begin || word == W::End) {
-        s.declares = false;
-        return false;
-    }
-    if (IsOneOf(word, {W::Procedure, W::Function, W::Type, W::Cursor})) {
-        s.object = word == W::Procedure  ? NameKind::Procedure
-                   : word == W::Function ? NameKind::Function
-                   : word == W::Type     ? NameKind::Type
-                                         : NameKind::Cursor;
-        s.step = Step::ObjectName;
-        return true;
-    }
-    const char next = NextByte(token.end);
-    if (word == W::Other && next != '(' && next != '.' && next != ':' && next != ';' && next != ')')
-        Emit(NameKind::Variable, token);
-    return word == W::Other || word == W::Pragma;
 }
 
 void NameMachine::ReadClause(const Token& token, NameWord word)
@@ -577,7 +319,7 @@ void NameMachine::TakeVariable(const Token& token)
         s.step = Step::AfterDeclared;
         return;
     case Step::Header:
-        if (!IsRoutineKind(s.object) || s.listDone)
+        if (!IsRoutine(s.object) || s.listDone)
             return;
         Emit(NameKind::Parameter, token);
         s.step = Step::BareParameters;
@@ -672,9 +414,9 @@ void NameMachine::CloseParenthesis()
         --s.depth;
     if (closesList) {
         s.listDone = true;
-        s.step = s.object == NameKind::Cte                               ? Step::AfterCte
-                 : IsRoutineKind(s.object) || s.object == NameKind::View ? Step::Header
-                                                                         : Step::Code;
+        s.step = s.object == NameKind::Cte                           ? Step::AfterCte
+                 : IsRoutine(s.object) || s.object == NameKind::View ? Step::Header
+                                                                     : Step::Code;
     } else if (wasDerived) {
         s.isDerived = true;
         s.step = Step::AfterTable;

@@ -2,7 +2,9 @@
 // The words of NameMachine, looked up by their text.
 #pragma once
 
+#include <algorithm>
 #include <cstdint>
+#include <initializer_list>
 #include <string_view>
 
 namespace completion {
@@ -20,5 +22,10 @@ enum class NameWord : std::uint8_t
 
 // Letters of any case. Other for a word that is none of them.
 NameWord NameWordOf(std::string_view word);
+
+inline bool IsOneOf(NameWord word, std::initializer_list<NameWord> words)
+{
+    return std::find(words.begin(), words.end(), word) != words.end();
+}
 
 } // namespace completion
