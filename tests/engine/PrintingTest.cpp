@@ -132,6 +132,17 @@ TEST_F(Printing, ALineThatDoesNotFitIsWrappedAcrossPages)
     EXPECT_EQ(Pages(false).back(), static_cast<long>(line.size()));
 }
 
+TEST_F(Printing, ALineThatDoesNotFitIsCutOffWhereNoneIsWrapped)
+{
+    m_engine.SetText(std::u16string(3000, u'M'));
+    m_engine.Send(msg::SetPrintWrapMode, 0);
+    EXPECT_EQ(m_engine.Send(msg::GetPrintWrapMode), 0);
+    const long cut = Ink(Drawn());
+    m_engine.Send(msg::SetPrintWrapMode, 1);
+    EXPECT_EQ(m_engine.Send(msg::GetPrintWrapMode), 1);
+    EXPECT_GT(Ink(Drawn()), 5 * cut);
+}
+
 TEST_F(Printing, TheCharacterAtARangesEndBelongsToIt)
 {
     m_engine.SetText(ManyLines(5));
@@ -245,6 +256,7 @@ TEST_F(Printing, SizesChangeWhatFitsOnAPage)
     m_engine.Send(msg::PrintStyleSetSize, 0);
     EXPECT_EQ(Pages(false).size(), plain);
     m_engine.Send(msg::SetPrintMagnification, 12);
+    EXPECT_EQ(m_engine.Send(msg::GetPrintMagnification), 12);
     EXPECT_GT(Pages(false).size(), plain);
 }
 
@@ -255,6 +267,7 @@ TEST_F(Printing, ColoursFollowTheColourMode)
     m_engine.SetText(u"WWWW");
     EXPECT_TRUE(HasColour(Drawn()));
     m_engine.Send(msg::SetPrintColorMode, kBlackOnWhite);
+    EXPECT_EQ(m_engine.Send(msg::GetPrintColorMode), LRESULT{kBlackOnWhite});
     EXPECT_FALSE(HasColour(Drawn()));
 }
 

@@ -80,7 +80,7 @@ protected:
     WrappedCaretMoves()
     {
         m_engine.Send(msg::SetMarginWidthN, 1, LPARAM{0});
-        m_engine.Window()->resize(45 * ColumnWidth(), 300);
+        m_engine.Window()->resize(ColumnAt(45), 300);
         m_engine.Window()->grab();
         m_engine.Send(msg::SetWrapMode, 1);
     }

@@ -18,6 +18,7 @@ Effects::Effects()
     m_engine.Send(msg::StyleSetFont, kDefaultStyle, u"DejaVu Sans Mono");
     m_engine.Send(msg::StyleSetSize, kDefaultStyle, LPARAM{10});
     m_engine.Send(msg::StyleClearAll);
+    m_engine.Window()->show();
     m_engine.Window()->grab(); // a window that was never seen has not taken its size
 }
 
@@ -56,9 +57,16 @@ int Effects::LineHeight() const
     return static_cast<int>(m_engine.Send(msg::TextHeight, 0));
 }
 
-int Effects::ColumnWidth() const
+double Effects::ColumnWidth() const
 {
-    return static_cast<int>(m_engine.Send(msg::TextWidth, kDefaultStyle, u"x"));
+    constexpr int kMany = 100; // a width is told in whole pixels
+    const std::u16string text(kMany, u'x');
+    return static_cast<double>(m_engine.Send(msg::TextWidth, kDefaultStyle, text.c_str())) / kMany;
+}
+
+int Effects::ColumnAt(double column) const
+{
+    return static_cast<int>(column * ColumnWidth());
 }
 
 int Effects::WholeLines() const

@@ -8,8 +8,6 @@
 
 #include <gtest/gtest.h>
 
-#include <utility>
-
 class Effects : public testing::Test
 {
 protected:
@@ -23,8 +21,9 @@ protected:
     long Caret() const { return m_engine.Send(engine::message::GetCurrentPos); }
     long TopLine() const { return m_engine.Send(engine::message::GetFirstVisibleLine); }
     int LineHeight() const;
-    int ColumnWidth() const;
-    int WholeLines() const; // that the window has room for
+    double ColumnWidth() const;
+    int ColumnAt(double column) const; // pixels from where the text begins
+    int WholeLines() const;            // that the window has room for
 
     QWidget* Viewport() const; // without the scroll bars
     QImage Picture() const;    // of the viewport

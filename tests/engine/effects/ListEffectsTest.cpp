@@ -224,12 +224,12 @@ TEST_F(Lists, AreNoWiderThanSoManyCharacters)
 {
     Place(u"|");
     Offer({std::u16string(100, u'x')}, 0);
-    EXPECT_GT(View()->width(), 90 * ColumnWidth());
+    EXPECT_GT(View()->width(), ColumnAt(90));
     TakeDown();
     m_engine.Send(msg::AutoCSetMaxWidth, 20);
     EXPECT_EQ(m_engine.Send(msg::AutoCGetMaxWidth), 20);
     Offer({std::u16string(100, u'x')}, 0);
-    EXPECT_NEAR(View()->width(), 20 * ColumnWidth(), 20);
+    EXPECT_NEAR(View()->width(), ColumnAt(20), 20);
 }
 
 TEST_F(Lists, AreNoHigherThanSoManyRows)
