@@ -262,6 +262,13 @@ LRESULT IsAutoCHwnd(Engine& engine, WPARAM wParam, LPARAM)
     return 0;
 }
 
+// The stock engine leaves the focus to the widget around it, which does nothing.
+LRESULT GrabFocus(Engine& engine, WPARAM, LPARAM)
+{
+    engine.window.setFocus(Qt::OtherFocusReason);
+    return 0;
+}
+
 constexpr HandlerRow kRows[] = {
     {message::SetReadOnly, SetReadOnly},
     {message::GetReadOnly, GetReadOnly},
@@ -291,6 +298,7 @@ constexpr HandlerRow kRows[] = {
     {message::SetCaretFore, SetCaretFore},
     {message::UsePopUp, UsePopUp},
     {message::IsAutoCHwnd, IsAutoCHwnd},
+    {message::GrabFocus, GrabFocus},
 };
 
 } // namespace

@@ -100,3 +100,20 @@ TEST_F(Settings, AMouseThatRestsIsTold)
         QTest::qWaitFor([this] { return !m_engine.Parent().Of(notify::DwellStart).empty(); }));
     EXPECT_EQ(m_engine.Parent().Of(notify::DwellStart)[0].record.position, 3);
 }
+
+TEST_F(Settings, AWindowTakesTheFocusWhenItIsToldTo)
+{
+    QWidget& parent = *m_engine.Parent().GetSafeHwnd();
+    QWidget other(&parent);
+    other.setFocusPolicy(Qt::StrongFocus);
+    parent.show();
+    other.setFocus();
+    ASSERT_EQ(parent.focusWidget(), &other);
+    m_engine.Send(msg::GrabFocus);
+    EXPECT_EQ(parent.focusWidget(), m_engine.Window());
+    parent.activateWindow();
+    ASSERT_TRUE(QTest::qWaitForWindowActive(&parent));
+    EXPECT_EQ(m_engine.Send(msg::GetFocus), 1);
+    other.setFocus();
+    EXPECT_EQ(m_engine.Send(msg::GetFocus), 0);
+}
