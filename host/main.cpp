@@ -2,6 +2,7 @@
 // znworkbench: an example host. It opens SQL scripts in tabs, edits and saves them.
 #include "control/ZNCoreEditorControl.h"
 #include "host/icons/Icons.h"
+#include "host/icons/Style.h"
 #include "host/window/Arguments.h"
 #include "host/window/MainWindow.h"
 #include "host/window/Screenshot.h"
@@ -51,6 +52,7 @@ int main(int argc, char** argv)
     QApplication application(argc, argv);
     QApplication::setApplicationName(QStringLiteral("znworkbench"));
     QApplication::setWindowIcon(ApplicationIcon());
+    Style::Install();
 
     const Arguments arguments = ParseArguments(QApplication::arguments());
     if (!arguments.help.isEmpty()) {

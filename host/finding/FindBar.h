@@ -17,7 +17,10 @@ class QAction;
 class QCheckBox;
 class QComboBox;
 class QLabel;
+class QLayout;
 class QMenu;
+class QPushButton;
+class QToolButton;
 
 class FindBar final : public QWidget
 {
@@ -38,7 +41,7 @@ public:
     void FindPrevious();
     void FindNextWord(); // of what is selected, or the word at the caret
     void FindPreviousWord();
-    void Replace(); // what is found and selected, and goes on to the next
+    void Replace(); // what is found and selected, and goes on to the next; first shows its row
     void ReplaceAll();
     void MarkAll(); // bookmarks the lines
     void Count();
@@ -55,6 +58,9 @@ protected:
 private:
     QComboBox* MakeBox(const char* name, const QString& label);
     QCheckBox* MakeOption(const char* name, const QString& label, bool isOn);
+    QPushButton* MakeButton(const char* name);
+    QLayout* MakeFindRow();
+    void ShowReplaceRow(bool isShown);
     bool IsPossible(const Row& row) const;
     struct Range // of UTF-16 units
     {
@@ -100,6 +106,8 @@ private:
     QCheckBox* m_preserveCase;
     ExpressionHelp* m_help;
     QLabel* m_result;
+    QToolButton* m_showReplace;
+    QWidget* m_replaceRow;
     std::optional<Scope> m_scope;
     bool m_wentRound = false;  // with the last step
     bool m_tellsWrong = false; // what is wrong with the expression stands there

@@ -16,9 +16,14 @@ using Editor = CZNCoreEditorControlEx;
 void FindBar::Replace()
 {
     Editor* editor = m_editor();
-    if (editor && !isVisible())
-        Open();
-    else if (Prepare(editor)) {
+    if (editor && !m_replaceRow->isVisible()) {
+        const bool isOpen = isVisible();
+        ShowReplaceRow(true);
+        if (!isOpen)
+            Open();
+        else
+            m_replace->setFocus();
+    } else if (Prepare(editor)) {
         m_manager.AddReplaceHistory(m_replace->currentText());
         const Range searched = Searched(*editor);
         const long start = editor->GetSelectionStart(1);

@@ -2,6 +2,7 @@
 #include "host/outline/OutlinePane.h"
 
 #include <QHeaderView>
+#include <QLabel>
 #include <QLineEdit>
 #include <QTreeWidget>
 #include <QVBoxLayout>
@@ -24,8 +25,14 @@ long StartOf(const QTreeWidgetItem* item)
 
 OutlinePane::OutlinePane(QWidget* parent)
     : QDockWidget(tr("Outline"), parent), m_words(new QLineEdit(this)),
-      m_list(new QTreeWidget(this))
+      m_list(new QTreeWidget(this)), m_why(new QLabel(this))
 {
+    constexpr int kMargin = 8; // pixels
+    m_why->setObjectName(QStringLiteral("outlineWhy"));
+    m_why->setWordWrap(true);
+    m_why->setMargin(kMargin);
+    m_why->setAlignment(Qt::AlignTop);
+    m_why->hide();
     setObjectName(QStringLiteral("outlinePane"));
     m_words->setPlaceholderText(tr("Part of a name"));
     m_words->setAccessibleName(tr("Filter"));
@@ -42,6 +49,7 @@ OutlinePane::OutlinePane(QWidget* parent)
     layout->setContentsMargins(0, 0, 0, 0);
     layout->addWidget(m_words);
     layout->addWidget(m_list);
+    layout->addWidget(m_why, 1);
     setWidget(content);
     connect(m_words, &QLineEdit::textChanged, this, &OutlinePane::Filter);
     const auto choose = [this](const QTreeWidgetItem* item) {
@@ -50,8 +58,18 @@ OutlinePane::OutlinePane(QWidget* parent)
     connect(m_list, &QTreeWidget::itemActivated, this, choose);
 }
 
+void OutlinePane::ShowNothing(const QString& why)
+{
+    Show({});
+    m_why->setText(why);
+    m_why->show();
+    m_list->hide();
+}
+
 void OutlinePane::Show(const std::vector<Symbol>& symbols)
 {
+    m_why->hide();
+    m_list->show();
     m_list->clear();
     m_items.clear();
     QTreeWidgetItem* outer = nullptr;

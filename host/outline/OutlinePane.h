@@ -6,6 +6,7 @@
 
 #include <QDockWidget>
 
+class QLabel;
 class QLineEdit;
 class QTreeWidget;
 class QTreeWidgetItem;
@@ -20,6 +21,7 @@ public:
     QTreeWidget* ListArea() const { return m_list; } // what can have the focus
 
     void Show(const std::vector<Symbol>& symbols);
+    void ShowNothing(const QString& why);
     void ShowPlace(long position); // of the caret
 
 Q_SIGNALS:
@@ -30,5 +32,6 @@ private:
 
     QLineEdit* m_words;
     QTreeWidget* m_list;
+    QLabel* m_why;                         // nothing is listed
     std::vector<QTreeWidgetItem*> m_items; // in the order of the script
 };

@@ -50,6 +50,13 @@ constexpr KindRow kKinds[] = {
     {NameKind::Column, "Column", true},        {NameKind::Parameter, "Parameter", true},
 };
 
+const DialectRow* DialectNamed(const QString& language)
+{
+    return std::find_if(std::begin(kDialects), std::end(kDialects), [&](const DialectRow& row) {
+        return language == QLatin1String(row.language);
+    });
+}
+
 // What clients print between the parts of a script.
 void AddSteps(const QString& text, std::vector<Symbol>& symbols)
 {
@@ -68,12 +75,14 @@ void AddSteps(const QString& text, std::vector<Symbol>& symbols)
 
 } // namespace
 
+bool HasSymbols(const QString& language)
+{
+    return DialectNamed(language) != std::end(kDialects);
+}
+
 std::vector<Symbol> SymbolsOf(const QString& text, const QString& language)
 {
-    const auto* dialect =
-        std::find_if(std::begin(kDialects), std::end(kDialects), [&](const DialectRow& row) {
-            return language == QLatin1String(row.language);
-        });
+    const auto* dialect = DialectNamed(language);
     if (dialect == std::end(kDialects))
         return {};
     std::vector<Symbol> symbols;

@@ -18,3 +18,4 @@ struct Symbol
 
 // In their order. The language by its name in the registry; none of one that is no SQL.
 std::vector<Symbol> SymbolsOf(const QString& text, const QString& language);
+bool HasSymbols(const QString& language);

@@ -6,6 +6,7 @@
 // znpictures SHEET FILE PICTURE...: the pictures, made small, side by side in a file.
 #include "editing/ZNCoreEditorControlEx.h"
 #include "host/finding/FindBar.h"
+#include "host/icons/Style.h"
 #include "host/pictures/PreferencesPictures.h"
 #include "host/recovery/RecoveryDialog.h"
 #include "host/window/MainWindow.h"
@@ -132,6 +133,7 @@ int main(int argc, char** argv)
 {
     QApplication application(argc, argv);
     QApplication::setStyle(QStyleFactory::create(QStringLiteral("Fusion")));
+    Style::Install();
     const QStringList words = QApplication::arguments();
     constexpr int kWords = 4;
     if (words.size() < kWords)

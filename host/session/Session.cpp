@@ -30,6 +30,9 @@ const QString kCaretLine = QStringLiteral("caretLine");
 const QString kFirstVisible = QStringLiteral("firstVisible");
 const QString kReadOnly = QStringLiteral("readOnly");
 const QString kPanes = QStringLiteral("panes");
+const QString kZoom = QStringLiteral("zoom");
+const QString kFolds = QStringLiteral("folds");
+const QString kBookmarks = QStringLiteral("bookmarks");
 
 bool IsEncoding(int number)
 {
@@ -50,6 +53,33 @@ SessionPanes PanesOf(const QJsonValue& value)
     return isKnown ? panes : SessionPanes::One;
 }
 
+int ZoomOf(const QJsonValue& value)
+{
+    constexpr int kSmallest = -10;
+    constexpr int kLargest = 60;
+    const int zoom = value.toInt(0);
+    return zoom >= kSmallest && zoom <= kLargest ? zoom : 0;
+}
+
+// What is no line is left out.
+QList<int> LinesOf(const QJsonValue& value)
+{
+    QList<int> lines;
+    for (const QJsonValue& line : value.toArray()) {
+        if (lines.size() < SessionFile::kMostLines && line.toInt(-1) >= 0)
+            lines << line.toInt();
+    }
+    return lines;
+}
+
+QJsonArray ArrayOf(const QList<int>& lines)
+{
+    QJsonArray array;
+    for (const int line : lines)
+        array.append(line);
+    return array;
+}
+
 QByteArray LayoutOf(const QJsonValue& value)
 {
     const QByteArray text = value.toString().left(2 * kLongestLayout).toLatin1();
@@ -67,6 +97,9 @@ SessionFile FileOf(const QJsonObject& entry)
     file.firstVisible = LineOf(entry[kFirstVisible]);
     file.readOnly = entry[kReadOnly].toBool();
     file.panes = PanesOf(entry[kPanes]);
+    file.zoom = ZoomOf(entry[kZoom]);
+    file.folds = LinesOf(entry[kFolds]);
+    file.bookmarks = LinesOf(entry[kBookmarks]);
     return file;
 }
 
@@ -77,7 +110,10 @@ QJsonObject EntryOf(const SessionFile& file)
             {kCaretLine, static_cast<int>(file.caretLine)},
             {kFirstVisible, static_cast<int>(file.firstVisible)},
             {kReadOnly, file.readOnly},
-            {kPanes, static_cast<int>(file.panes)}};
+            {kPanes, static_cast<int>(file.panes)},
+            {kZoom, file.zoom},
+            {kFolds, ArrayOf(file.folds)},
+            {kBookmarks, ArrayOf(file.bookmarks)}};
 }
 
 } // namespace
@@ -91,7 +127,7 @@ QByteArray Session::ToBytes() const
                                 {kFront, front},
                                 {kGeometry, QString::fromLatin1(geometry.toBase64())},
                                 {kState, QString::fromLatin1(state.toBase64())}};
-    return QJsonDocument(object).toJson();
+    return QJsonDocument(object).toJson(QJsonDocument::Compact);
 }
 
 // The tab in front is that of its file, whatever was left out before it.

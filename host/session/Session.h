@@ -20,12 +20,18 @@ enum class SessionPanes : int
 // A tab. A file with several tabs is there as often.
 struct SessionFile
 {
+    // More than anybody looks after, and little enough to read.
+    static constexpr int kMostLines = 1000;
+
     QString path;          // absolute
     int encoding = -1;     // a number of FileEncodeConverter; -1: detect it
     long caretLine = 0;    // lines count from 0, and may lie behind the end of a file that changed
     long firstVisible = 0; // the line at the top of the window
     bool readOnly = false; // by the user's choice
     SessionPanes panes = SessionPanes::One;
+    int zoom = 0;         // points that the letters are larger, as the engine counts
+    QList<int> folds;     // lines whose blocks are hidden, the first of them at most
+    QList<int> bookmarks; // lines
 
     bool operator==(const SessionFile&) const = default;
 };

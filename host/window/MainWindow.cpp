@@ -27,6 +27,7 @@
 #include "platform/services/OptionsServer.h"
 
 #include <QClipboard>
+#include <QDir>
 #include <QFile>
 #include <QFileInfo>
 #include <QGuiApplication>
@@ -52,6 +53,18 @@ QString NotStored(const QString& what)
     return QStringLiteral("%1 could not be written to the settings; the disk may be full. It holds "
                           "until the workbench ends.")
         .arg(what);
+}
+
+// Of a file, with "~" for the person's own; empty for none.
+QString ShortFolder(const QString& path)
+{
+    if (path.isEmpty())
+        return {};
+    const QString folder = QFileInfo(path).absolutePath();
+    const QString home = QDir::homePath();
+    if (folder == home || folder.startsWith(home + u'/'))
+        return u'~' + folder.mid(home.size());
+    return folder;
 }
 
 } // namespace
@@ -394,9 +407,17 @@ void MainWindow::UpdateTitle()
     const bool isModified = caption.endsWith(QLatin1String(" *"));
     if (isModified)
         caption.chop(1);
-    setWindowTitle(frame ? caption.replace(QLatin1String("[*]"), QLatin1String("[*][*]")) +
-                               QStringLiteral("[*] – znworkbench")
-                         : QStringLiteral("znworkbench"));
+    const auto verbatim = [](QString text) {
+        return text.replace(QLatin1String("[*]"), QLatin1String("[*][*]"));
+    };
+    // Scripts of one name are told apart by their folders.
+    const ScriptDoc* script = frame ? frame->Script() : nullptr;
+    const QString folder = script ? ShortFolder(script->GetPathName()) : QString();
+    QString title = QStringLiteral("znworkbench");
+    if (frame)
+        title = verbatim(caption) + QStringLiteral("[*] – ") +
+                (folder.isEmpty() ? QString() : verbatim(folder) + QStringLiteral(" – ")) + title;
+    setWindowTitle(title);
     setWindowModified(isModified);
 }
 

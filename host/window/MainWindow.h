@@ -18,6 +18,7 @@ class FolderPane;
 class LanguageMenu;
 class MainFrame;
 class OutlinePane;
+struct Symbol;
 class ProblemPane;
 class QTimer;
 class ResultsPane;
@@ -109,6 +110,7 @@ private:
     void BuildSidebars();
     void UpdateOutlineSoon();
     void UpdateOutline();
+    void ShowOutline(const std::vector<Symbol>& symbols, const QString& language);
     void SelectInScript(long start, long end);
     static QString LanguageOf(const ScriptDoc& script); // its name
     void OfferNewFile(const QString& path);             // where there is none

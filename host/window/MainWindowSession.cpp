@@ -31,6 +31,48 @@ SessionPanes PanesOf(const ScriptFrame& frame)
     return isBelow ? SessionPanes::Below : SessionPanes::One;
 }
 
+constexpr int kBookmark = 0; // the marker
+
+QList<int> FoldsOf(CZNCoreEditorControlEx& editor)
+{
+    QList<int> lines;
+    const int count = static_cast<int>(editor.GetLineCount(1));
+    if (editor.GetWrapMode(1) == 0 && editor.VisibleFromDocLine(count, 1) == count)
+        return lines; // none is hidden
+    for (int line = 0; line < count && lines.size() < SessionFile::kMostLines; ++line) {
+        if (!editor.GetFoldExpanded(line, 1))
+            lines << line;
+    }
+    return lines;
+}
+
+QList<int> BookmarksOf(CZNCoreEditorControlEx& editor)
+{
+    QList<int> lines;
+    for (int line = editor.MarkerNext(0, 1 << kBookmark, 1);
+         line >= 0 && lines.size() < SessionFile::kMostLines;
+         line = editor.MarkerNext(line + 1, 1 << kBookmark, 1))
+        lines << line;
+    return lines;
+}
+
+// A text that has changed meanwhile has a block there or not.
+void Fold(CZNCoreEditorControlEx& editor, const QList<int>& lines)
+{
+    constexpr int kHeader = 0x2000;       // of a level
+    constexpr long kFarthest = 4'000'000; // units that are styled for it at most
+    if (lines.isEmpty())
+        return;
+    const long end = editor.PositionFromLine(lines.last() + 1, 1);
+    if (end > kFarthest)
+        return;
+    editor.Colorize(0, end < 0 ? -1 : end, 1);
+    for (const int line : lines) {
+        if (editor.GetFoldLevel(line, 1) & kHeader && editor.GetFoldExpanded(line, 1))
+            editor.ToggleFold(line, 1);
+    }
+}
+
 SessionFile Describe(const ScriptFrame& frame)
 {
     CZNCoreEditorControlEx& editor = frame.Editor();
@@ -41,6 +83,9 @@ SessionFile Describe(const ScriptFrame& frame)
     file.firstVisible = editor.DocLineFromVisible(editor.GetFirstVisibleLine(1), 1);
     file.readOnly = frame.Script()->IsReadOnly() && !frame.Script()->IsFileReadOnly();
     file.panes = PanesOf(frame);
+    file.zoom = editor.GetZoom(1);
+    file.folds = FoldsOf(editor);
+    file.bookmarks = BookmarksOf(editor);
     return file;
 }
 
@@ -106,7 +151,13 @@ bool MainWindow::Resume(const SessionFile& file)
     if (!frame)
         return false;
     CZNCoreEditorControlEx& editor = frame->Editor();
+    if (file.zoom != 0)
+        editor.SetZoom(file.zoom, 1);
+    for (const int line :
+         open ? QList<int>() : file.bookmarks) // which are the text's, not the tab's
+        editor.MarkerAdd(line, kBookmark, 1);
     frame->View()->GoToLine(file.caretLine);
+    Fold(editor, file.folds);
     const int top = editor.VisibleFromDocLine(static_cast<int>(file.firstVisible), 1);
     editor.LineScroll(0, top - editor.GetFirstVisibleLine(1), 1);
     if (file.readOnly)

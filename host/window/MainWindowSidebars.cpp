@@ -77,7 +77,7 @@ void MainWindow::UpdateOutline()
 {
     const ScriptFrame* frame = CurrentFrame();
     if (!frame || frame->Editor().GetLength(1) > kLongest) {
-        m_outline->Show({});
+        m_outline->ShowNothing(frame ? tr("The script is too long for an outline.") : QString());
         m_outlined = 0;
         return;
     }
@@ -85,8 +85,21 @@ void MainWindow::UpdateOutline()
     const QString language = LanguageOf(*frame->Script());
     const std::size_t outlined = qHashMulti(1, text, language);
     if (std::exchange(m_outlined, outlined) != outlined)
-        m_outline->Show(SymbolsOf(text, language));
+        ShowOutline(SymbolsOf(text, language), language);
     m_outline->ShowPlace(frame->Editor().GetCurrentPos(1));
+}
+
+void MainWindow::ShowOutline(const std::vector<Symbol>& symbols, const QString& language)
+{
+    if (!symbols.empty())
+        m_outline->Show(symbols);
+    else if (HasSymbols(language))
+        m_outline->ShowNothing(tr("The script creates nothing that could be listed: no tables, "
+                                  "views, procedures, and so on."));
+    else
+        m_outline->ShowNothing(tr("There is no outline for %1. The field with the language in the "
+                                  "status bar changes it.")
+                                   .arg(language));
 }
 
 void MainWindow::SelectInScript(long start, long end)

@@ -206,6 +206,15 @@ TEST_F(Splitter, IsDividedByDrawingItsBox)
     EXPECT_EQ(splitter.beside, QList<CView*>{static_cast<CView*>(splitter.GetPane(0, 0))});
 }
 
+TEST_F(Splitter, LeavesTheScrollBarAllButAFewPixelsForItsBox)
+{
+    Make(2, 2);
+    Settle();
+    constexpr int kLittle = 10;
+    EXPECT_LE(Box("rowBox")->height(), kLittle);
+    EXPECT_LE(Box("columnBox")->width(), kLittle);
+}
+
 TEST_F(Splitter, IsDividedInTheMiddleByADoubleClickAndJoinedByAnother)
 {
     Make(2, 1);

@@ -17,6 +17,7 @@
 #include <QLabel>
 #include <QLineEdit>
 #include <QMenu>
+#include <QToolButton>
 #include <QVBoxLayout>
 
 #include <gtest/gtest.h>
@@ -36,6 +37,7 @@ protected:
             Set(option, false);
         SetPerl(true);
         window.show();
+        RowForReplacing().setChecked(true);
     }
     // The manager is that of the process, which other tests share.
     ~FindBars() override
@@ -65,6 +67,10 @@ protected:
     }
     void SetPerl(bool isPerl) { bar.findChild<ExpressionHelp*>()->SetPerl(isPerl); }
     QComboBox& Box(const char* name) { return *bar.findChild<QComboBox*>(QLatin1String(name)); }
+    QToolButton& RowForReplacing()
+    {
+        return *bar.findChild<QToolButton*>(QStringLiteral("showReplace"));
+    }
     QString Result() { return bar.findChild<QLabel*>(QStringLiteral("findResult"))->text(); }
     QAction& Action(const char* name) { return *menu.findChild<QAction*>(QLatin1String(name)); }
 
@@ -389,6 +395,24 @@ TEST_F(FindBars, OpensWithWhatIsSelectedAndClosesOnEscape)
     EXPECT_EQ(Box("findText").lineEdit()->selectedText(), QStringLiteral("two"));
     Press(Box("findText"), Qt::Key_Escape);
     EXPECT_FALSE(bar.isVisible());
+}
+
+TEST_F(FindBars, HaveOneLineUntilSomethingIsToBeReplaced)
+{
+    RowForReplacing().setChecked(false);
+    SetText("one two");
+    bar.Open();
+    EXPECT_FALSE(Box("replaceText").isVisible());
+    Seek("one");
+    bar.FindNext();
+    Action("replace").trigger();
+    EXPECT_TRUE(Box("replaceText").isVisible());
+    EXPECT_EQ(editor->GetText(), "one two") << "the first time it only shows where to type";
+    ReplaceWith("1");
+    Action("replace").trigger();
+    EXPECT_EQ(editor->GetText(), "1 two");
+    RowForReplacing().click();
+    EXPECT_FALSE(Box("replaceText").isVisible());
 }
 
 TEST_F(FindBars, FindsOnEnter)

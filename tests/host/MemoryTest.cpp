@@ -97,6 +97,29 @@ TEST_F(Memory, BringsBackTheScriptsTheirPlacesAndTheOneInFront)
     EXPECT_EQ(m_window->size(), QSize(900, 500));
 }
 
+TEST_F(Memory, BringsBackZoomFoldsAndBookmarks)
+{
+    Start();
+    ASSERT_TRUE(m_app->OpenDocumentFile(
+        Write("a.sql", "select 1,\n  2;\nselect 3,\n  4;\nselect 5,\n  6;\n")));
+    Editor().Colorize(0, -1, 1);
+    Editor().ToggleFold(2, 1);
+    Editor().MarkerAdd(4, 0, 1);
+    Editor().SetZoom(3, 1);
+    ASSERT_EQ(Editor().GetLineVisible(3, 1), 0);
+    End();
+
+    Start();
+    EXPECT_EQ(Editor().GetZoom(1), 3);
+    EXPECT_NE(Editor().GetLineVisible(1, 1), 0);
+    EXPECT_EQ(Editor().GetLineVisible(3, 1), 0);
+    EXPECT_NE(Editor().GetLineVisible(5, 1), 0);
+    EXPECT_EQ(Editor().MarkerGet(4, 1) & 1, 1);
+    EXPECT_EQ(Editor().MarkerNext(0, 1, 1), 4);
+    EXPECT_EQ(Editor().MarkerNext(5, 1, 1), -1);
+    EXPECT_FALSE(m_window->CurrentFrame()->Script()->IsModified());
+}
+
 TEST_F(Memory, DoesNotShowAnExpandedScriptThatIsNoMore)
 {
     Start();

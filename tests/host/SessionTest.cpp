@@ -20,7 +20,10 @@ Session Example()
                      {.path = "/x/\u00E9 \"b\".sql",
                       .caretLine = INT_MAX,
                       .readOnly = true,
-                      .panes = SessionPanes::Beside}};
+                      .panes = SessionPanes::Beside,
+                      .zoom = 4,
+                      .folds = {3, 70},
+                      .bookmarks = {0, 2, 9}}};
     session.front = 1;
     session.geometry = QByteArray("\0\1geometry", 10);
     session.state = "state";
@@ -120,7 +123,8 @@ TEST(SessionData, BringsNumbersIntoTheirRange)
          {R"("caretLine":-1,"firstVisible":-5,"encoding":-2)", R"("caretLine":1e30)",
           R"("caretLine":"7","encoding":"6")", R"("encoding":3)", R"("encoding":12)",
           R"("firstVisible":2147483648)", R"("caretLine":1.5)", R"("readOnly":"yes")",
-          R"("panes":4)", R"("panes":-1)", R"("panes":"1")"}) {
+          R"("panes":4)", R"("panes":-1)", R"("panes":"1")", R"("zoom":-11)", R"("zoom":61)",
+          R"("folds":[-1,"2",1e30,[3]])", R"("folds":7)", R"("bookmarks":{"0":1})"}) {
         const Session session = Read(WithFile(members));
         ASSERT_EQ(session.files.size(), 1) << members;
         EXPECT_EQ(session.files[0], plain) << members;
@@ -135,6 +139,10 @@ TEST(SessionData, HasBounds)
     for (int i = 0; i < Session::kMostFiles + 5; ++i)
         session.files.append({.path = QStringLiteral("/x/%1.sql").arg(i)});
     EXPECT_EQ(Read(session.ToBytes()).files.size(), Session::kMostFiles);
+    session.files = {{.path = "/x/a.sql"}};
+    for (int line = 0; line < SessionFile::kMostLines + 5; ++line)
+        session.files[0].bookmarks << line;
+    EXPECT_EQ(Read(session.ToBytes()).files[0].bookmarks.size(), SessionFile::kMostLines);
     session.files.clear();
     session.geometry = QByteArray(100000, 'g');
     EXPECT_TRUE(Read(session.ToBytes()).geometry.isEmpty());

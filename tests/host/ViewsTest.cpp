@@ -127,7 +127,7 @@ TEST_F(Views, InTabsOfTheirOwnAreNumbered)
     EXPECT_EQ(m_window.TabCount(), 2);
     EXPECT_EQ(Caption(0), "a.sql:1");
     EXPECT_EQ(Caption(1), "a.sql:2");
-    EXPECT_EQ(m_window.windowTitle(), QStringLiteral("a.sql:2[*] – znworkbench"));
+    EXPECT_TRUE(m_window.windowTitle().startsWith(QStringLiteral("a.sql:2[*] – ")));
     Type(u"x");
     EXPECT_EQ(Caption(0), "a.sql:1 *");
     EXPECT_EQ(Caption(1), "a.sql:2 *");

@@ -91,6 +91,8 @@ void PaneSplitter::paintEvent(QPaintEvent* /*event*/)
 
 SplitBox::SplitBox(bool forRows, CSplitterWnd& owner) : m_forRows(forRows), m_owner(owner)
 {
+    // All that is left belongs to the scroll bar.
+    setSizePolicy(QSizePolicy::Fixed, QSizePolicy::Fixed);
     setCursor(forRows ? Qt::SplitVCursor : Qt::SplitHCursor);
     setObjectName(forRows ? QStringLiteral("rowBox") : QStringLiteral("columnBox"));
     setToolTip(forRows ? tr("Drag down to divide the text into two panes")

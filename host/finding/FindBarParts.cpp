@@ -1,0 +1,228 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+// What FindBar is made of, and its commands.
+#include "editing/ZNCoreEditorControlEx.h"
+#include "host/finding/ExpressionHelp.h"
+#include "host/finding/FindBar.h"
+#include "host/icons/Icons.h"
+#include "search/FindReplaceManager.h"
+
+#include <QAction>
+#include <QCheckBox>
+#include <QComboBox>
+#include <QGridLayout>
+#include <QLabel>
+#include <QLineEdit>
+#include <QMenu>
+#include <QPushButton>
+#include <QShortcut>
+#include <QToolButton>
+
+#include <algorithm>
+#include <span>
+#include <string_view>
+
+using Editor = CZNCoreEditorControlEx;
+
+struct FindBar::Row
+{
+    const char* name; // the action's object name, and the button's with Button behind it
+    const char* text;
+    const char* keys;
+    void (FindBar::*run)();
+    bool changesText = false;
+    bool needsSought = false;
+};
+
+namespace {
+
+std::span<const FindBar::Row> Rows()
+{
+    // clang-format off
+    static const FindBar::Row rows[] = {
+        {"find",             "&Find...",                "Ctrl+F",        &FindBar::Open},
+        {"findNext",         "Find &Next",              "F3",            &FindBar::FindNext},
+        {"findPrevious",     "Find &Previous",          "Shift+F3",      &FindBar::FindPrevious},
+        {"findNextWord",     "Find the &Word Next",     "Ctrl+F3",       &FindBar::FindNextWord},
+        {"findPreviousWord", "Find the W&ord Previous", "Ctrl+Shift+F3", &FindBar::FindPreviousWord},
+        {"replace",          "&Replace",                "Ctrl+H",        &FindBar::Replace, true},
+        {"replaceAll",       "Replace &All",            nullptr,         &FindBar::ReplaceAll, true, true},
+        {"markAll",          "&Mark All",               nullptr,         &FindBar::MarkAll, false, true},
+        {"countMatches",     "&Count",                  nullptr,         &FindBar::Count, false, true},
+    };
+    // clang-format on
+    return rows;
+}
+
+std::string_view NameOf(const FindBar::Row& row)
+{
+    return row.name;
+}
+
+} // namespace
+
+FindBar::FindBar(std::function<CZNCoreEditorControlEx*()> editor, QWidget* parent)
+    : QWidget(parent), m_editor(std::move(editor)),
+      m_manager(*zncoreeditor::GetFindReplaceManager()), m_find(MakeBox("findText", tr("Find"))),
+      m_replace(MakeBox("replaceText", tr("Replace with"))),
+      m_matchCase(MakeOption("matchCase", tr("Match ca&se"), m_manager.GetMatchCase())),
+      m_wholeWord(MakeOption("wholeWord", tr("&Whole word"), m_manager.GetWholeWord())),
+      m_expression(MakeOption("expression", tr("E&xpression"), m_manager.GetRegExp())),
+      m_inSelection(MakeOption("inSelection", tr("&In selection"), false)),
+      m_preserveCase(MakeOption("preserveCase", tr("&Keep case"), false)),
+      m_help(new ExpressionHelp(this)), m_result(new QLabel(this)),
+      m_showReplace(new QToolButton(this)), m_replaceRow(new QWidget(this))
+{
+    m_showReplace->setObjectName(QStringLiteral("showReplace"));
+    m_showReplace->setCheckable(true);
+    m_showReplace->setAutoRaise(true);
+    m_showReplace->setToolTip(tr("Replacing"));
+    m_showReplace->setAccessibleName(tr("Replacing"));
+    m_result->setObjectName(QStringLiteral("findResult"));
+    // A long result is cut rather than widening the window; its tool tip has all of it.
+    m_result->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Preferred);
+    m_preserveCase->setToolTip(tr("A replacement is in capitals where what it replaces is"));
+    m_manager.SetPerlSyntax(m_help->IsPerl());
+    auto* layout = new QGridLayout(this);
+    layout->setContentsMargins(4, 2, 4, 2);
+    layout->setColumnStretch(1, 2);
+    layout->setColumnStretch(2, 3);
+    layout->addWidget(m_showReplace, 0, 0);
+    layout->addWidget(m_find, 0, 1);
+    layout->addLayout(MakeFindRow(), 0, 2);
+    layout->addWidget(m_replaceRow, 1, 1, 1, 2);
+    auto* replacing = new QHBoxLayout(m_replaceRow);
+    replacing->setContentsMargins(0, 0, 0, 0);
+    replacing->addWidget(m_replace, 1);
+    for (const char* name : {"replace", "replaceAll"})
+        replacing->addWidget(MakeButton(name));
+    replacing->addWidget(m_preserveCase);
+    for (const char* name : {"markAll", "countMatches"})
+        replacing->addWidget(MakeButton(name));
+    connect(m_showReplace, &QToolButton::toggled, this, &FindBar::ShowReplaceRow);
+    ShowReplaceRow(false);
+    for (QCheckBox* option : {m_matchCase, m_wholeWord, m_expression})
+        connect(option, &QCheckBox::toggled, this, &FindBar::ShowMatches);
+    connect(m_find, &QComboBox::editTextChanged, this, &FindBar::ShowMatches);
+    connect(m_inSelection, &QCheckBox::toggled, this, &FindBar::ScopeSelection);
+    connect(m_help, &ExpressionHelp::GrammarChanged, this, [this] {
+        m_manager.SetPerlSyntax(m_help->IsPerl());
+        ShowMatches();
+    });
+    connect(m_help, &ExpressionHelp::Picked, this, [this](const QString& piece) {
+        m_expression->setChecked(true);
+        m_find->lineEdit()->insert(piece);
+        m_find->setFocus();
+    });
+    setFocusProxy(m_find);
+    m_find->installEventFilter(this);
+    m_replace->installEventFilter(this);
+    hide();
+}
+
+QLayout* FindBar::MakeFindRow()
+{
+    constexpr int kResultWidth = 12; // characters, at least
+    auto* row = new QHBoxLayout;
+    m_result->setMinimumWidth(fontMetrics().averageCharWidth() * kResultWidth);
+    row->addWidget(m_result, 1);
+    for (const char* name : {"findPrevious", "findNext"}) {
+        QPushButton* button = MakeButton(name);
+        // The arrow stands for the words, whose letter stays.
+        const QString words = button->text();
+        button->setIcon(CommandIcon(QLatin1String(name)));
+        button->setText({});
+        button->setFlat(true);
+        button->setShortcut(QKeySequence::mnemonic(words));
+        button->setAccessibleName(QString(words).remove(u'&'));
+        button->setToolTip(button->accessibleName());
+        row->addWidget(button);
+    }
+    for (QWidget* option : {m_matchCase, m_wholeWord, m_inSelection, m_expression})
+        row->addWidget(option);
+    row->addWidget(m_help);
+    auto* close = new QToolButton(this);
+    close->setObjectName(QStringLiteral("closeFind"));
+    close->setIcon(CommandIcon(QStringLiteral("close")));
+    close->setToolTip(tr("Close"));
+    close->setAccessibleName(tr("Close"));
+    close->setAutoRaise(true);
+    connect(close, &QToolButton::clicked, this, &FindBar::Close);
+    row->addWidget(close);
+    return row;
+}
+
+QPushButton* FindBar::MakeButton(const char* name)
+{
+    const Row& row = *std::ranges::find(Rows(), std::string_view(name), NameOf);
+    auto* button = new QPushButton(tr(row.text), this);
+    button->setObjectName(QLatin1String(name) + QStringLiteral("Button"));
+    button->setAutoDefault(false);
+    connect(button, &QPushButton::clicked, this, row.run);
+    return button;
+}
+
+void FindBar::ShowReplaceRow(bool isShown)
+{
+    m_showReplace->setChecked(isShown);
+    m_showReplace->setArrowType(isShown ? Qt::DownArrow : Qt::RightArrow);
+    m_replaceRow->setVisible(isShown);
+}
+
+QComboBox* FindBar::MakeBox(const char* name, const QString& label)
+{
+    constexpr int kLeastLength = 14; // characters
+    auto* box = new QComboBox(this);
+    box->setMinimumContentsLength(kLeastLength);
+    box->setObjectName(QLatin1String(name));
+    box->setEditable(true);
+    box->setInsertPolicy(QComboBox::NoInsert);
+    box->setCompleter(nullptr); // what is typed is what is sought
+    box->lineEdit()->setPlaceholderText(label);
+    box->setAccessibleName(label);
+    connect(box, &QComboBox::editTextChanged, this, &FindBar::Update);
+    return box;
+}
+
+QCheckBox* FindBar::MakeOption(const char* name, const QString& label, bool isOn)
+{
+    auto* option = new QCheckBox(label, this);
+    option->setObjectName(QLatin1String(name));
+    option->setChecked(isOn);
+    // By its letter at once and from the box: a button's own waits a tenth of a second, in which
+    // one types on, and takes the keyboard.
+    auto* letter = new QShortcut(option->shortcut(), option);
+    option->setShortcut({});
+    connect(letter, &QShortcut::activated, option, &QCheckBox::toggle);
+    return option;
+}
+
+void FindBar::AddActions(QMenu& menu)
+{
+    for (const Row& row : Rows()) {
+        QAction* action = menu.addAction(tr(row.text));
+        action->setObjectName(QLatin1String(row.name));
+        action->setShortcut(QKeySequence(QLatin1String(row.keys)));
+        connect(action, &QAction::triggered, this, row.run);
+        m_actions.emplace_back(action, &row);
+    }
+    Update();
+}
+
+void FindBar::Update()
+{
+    for (const auto& [action, row] : m_actions)
+        action->setEnabled(IsPossible(*row));
+    for (const Row& row : Rows()) {
+        if (auto* button =
+                findChild<QPushButton*>(QLatin1String(row.name) + QStringLiteral("Button")))
+            button->setEnabled(IsPossible(row));
+    }
+}
+
+bool FindBar::IsPossible(const Row& row) const
+{
+    Editor* editor = m_editor();
+    if (!editor || (row.changesText && editor->GetReadOnly(1)))
+        return false;
+    return !row.needsSought || !m_find->currentText().isEmpty();
+}

@@ -1,0 +1,127 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "host/icons/Style.h"
+
+#include "host/icons/Icons.h"
+
+#include <QApplication>
+#include <QPainter>
+#include <QStyleOption>
+
+namespace {
+
+const QString kPlain = QStringLiteral("fusion");
+
+// Between the ink and the ground, so that it is seen on both.
+QColor Frame(const QStyleOption& option)
+{
+    constexpr double kInk = 0.55;
+    constexpr double kFaintInk = 0.25;
+    const bool isEnabled = option.state & QStyle::State_Enabled;
+    const QColor ink = option.palette.color(QPalette::Active, QPalette::WindowText);
+    const QColor ground = option.palette.color(QPalette::Base);
+    const double share = isEnabled ? kInk : kFaintInk;
+    const auto part = [share](int a, int b) { return static_cast<int>(b + (a - b) * share); };
+    return {part(ink.red(), ground.red()), part(ink.green(), ground.green()),
+            part(ink.blue(), ground.blue())};
+}
+
+QColor Ink(const QStyleOption& option)
+{
+    const bool isEnabled = option.state & QStyle::State_Enabled;
+    return isEnabled ? option.palette.color(QPalette::Active, QPalette::Text) : Frame(option);
+}
+
+void DrawBox(const QStyleOption& option, QPainter& painter, bool isRound)
+{
+    constexpr double kCorner = 2.5;
+    const QRectF box = QRectF(option.rect).adjusted(0.5, 0.5, -0.5, -0.5);
+    const double corner = isRound ? box.width() / 2 : kCorner;
+    painter.setRenderHint(QPainter::Antialiasing);
+    const bool isHot = option.state & (QStyle::State_HasFocus | QStyle::State_MouseOver);
+    painter.setPen(isHot ? option.palette.color(QPalette::Link) : Frame(option));
+    painter.setBrush(
+        option.palette.brush(option.state & QStyle::State_Sunken ? QPalette::Mid : QPalette::Base));
+    painter.drawRoundedRect(box, corner, corner);
+    const auto at = [&box](double x, double y) {
+        return QPointF(box.left() + box.width() * x, box.top() + box.height() * y);
+    };
+    QPen pen(Ink(option), box.width() / 7, Qt::SolidLine, Qt::RoundCap, Qt::RoundJoin);
+    if (isRound && option.state & QStyle::State_On) {
+        painter.setPen(Qt::NoPen);
+        painter.setBrush(Ink(option));
+        painter.drawEllipse(box.center(), box.width() / 4, box.height() / 4);
+    } else if (option.state & QStyle::State_On) {
+        painter.setPen(pen);
+        painter.setBrush(Qt::NoBrush);
+        painter.drawPolyline(QPolygonF({at(0.22, 0.52), at(0.43, 0.73), at(0.78, 0.28)}));
+    } else if (option.state & QStyle::State_NoChange) {
+        painter.setPen(pen);
+        painter.drawLine(at(0.25, 0.5), at(0.75, 0.5));
+    }
+}
+
+// Quiet until the mouse is there.
+void DrawTabClose(const QStyleOption& option, QPainter& painter)
+{
+    constexpr double kCorner = 3;
+    const bool isHot = option.state & QStyle::State_MouseOver;
+    painter.setRenderHint(QPainter::Antialiasing);
+    if (isHot) {
+        painter.setPen(Qt::NoPen);
+        QColor ground = option.palette.color(QPalette::WindowText);
+        constexpr double kShade = 0.15;
+        ground.setAlphaF(option.state & QStyle::State_Sunken ? kShade * 2 : kShade);
+        painter.setBrush(ground);
+        painter.drawRoundedRect(option.rect, kCorner, kCorner);
+    }
+    constexpr double kSize = 0.26; // of the place, from its middle
+    constexpr double kWidth = 1.4;
+    const QPointF middle = QRectF(option.rect).center();
+    const double arm = option.rect.width() * kSize;
+    const bool isStrong = isHot || option.state & QStyle::State_Selected;
+    painter.setPen(QPen(isStrong ? option.palette.color(QPalette::WindowText) : Frame(option),
+                        kWidth, Qt::SolidLine, Qt::RoundCap));
+    painter.drawLine(middle + QPointF(-arm, -arm), middle + QPointF(arm, arm));
+    painter.drawLine(middle + QPointF(-arm, arm), middle + QPointF(arm, -arm));
+}
+
+} // namespace
+
+Style::Style() : QProxyStyle(kPlain) {}
+
+void Style::Install()
+{
+    if (QApplication::style()->name() == kPlain)
+        QApplication::setStyle(new Style);
+}
+
+void Style::drawPrimitive(PrimitiveElement element, const QStyleOption* option, QPainter* painter,
+                          const QWidget* widget) const
+{
+    const bool isBox = element == PE_IndicatorCheckBox || element == PE_IndicatorItemViewItemCheck;
+    const bool isRound = element == PE_IndicatorRadioButton;
+    if (!isBox && !isRound && element != PE_IndicatorTabClose) {
+        QProxyStyle::drawPrimitive(element, option, painter, widget);
+        return;
+    }
+    painter->save();
+    if (element == PE_IndicatorTabClose)
+        DrawTabClose(*option, *painter);
+    else
+        DrawBox(*option, *painter, isRound);
+    painter->restore();
+}
+
+QIcon Style::standardIcon(StandardPixmap which, const QStyleOption* option,
+                          const QWidget* widget) const
+{
+    switch (which) {
+    case SP_TitleBarCloseButton:
+    case SP_DockWidgetCloseButton:
+        return CommandIcon(QStringLiteral("close"));
+    case SP_TitleBarNormalButton:
+        return CommandIcon(QStringLiteral("float"));
+    default:
+        return QProxyStyle::standardIcon(which, option, widget);
+    }
+}

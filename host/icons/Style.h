@@ -1,0 +1,23 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+// Style: what the plain style of Qt draws too faintly on a dark ground or as a bitmap: check boxes,
+// radio buttons, and the marks that close and float tabs and panes. A desktop's own style stays as
+// it is.
+#pragma once
+
+#include <QProxyStyle>
+
+class Style final : public QProxyStyle
+{
+    Q_OBJECT
+
+public:
+    static void Install(); // where the application has no desktop's style
+
+    void drawPrimitive(PrimitiveElement element, const QStyleOption* option, QPainter* painter,
+                       const QWidget* widget) const override;
+    QIcon standardIcon(StandardPixmap which, const QStyleOption* option,
+                       const QWidget* widget) const override;
+
+private:
+    Style();
+};
