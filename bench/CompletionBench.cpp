@@ -11,6 +11,7 @@
 #include "editing/ZNCoreEditorControlEx.h"
 #include "editing/ZNCoreEditorWidget.h"
 #include "editing/operations/Macro.h"
+#include "platform/docview/CreateContext.h"
 
 #include <QApplication>
 #include <QKeyEvent>
