@@ -21,8 +21,15 @@
 #include <QTimer>
 
 #include <algorithm>
-#include <chrono>
 #include <utility>
+
+namespace {
+
+// Long enough that held keys are not each followed, short enough that nobody sees it.
+constexpr std::chrono::milliseconds kRest(100);
+constexpr std::chrono::milliseconds kAtOnce(0); // behind what is under way
+
+} // namespace
 
 const CRuntimeClass* ScriptView::GetThisClass()
 {
@@ -34,6 +41,8 @@ const CRuntimeClass* ScriptView::GetThisClass()
 ScriptView::ScriptView()
 {
     m_coreEditor.SetUserSettingsFirst(true);
+    m_rest.setSingleShot(true);
+    QObject::connect(&m_rest, &QTimer::timeout, &m_rest, [this] { FollowNow(); });
 }
 
 ScriptView::~ScriptView() = default;
@@ -68,6 +77,7 @@ int ScriptView::OnCreate(CCreateContext* context)
 
 void ScriptView::OnDestroy()
 {
+    m_rest.stop();
     m_completion.reset();
     if (ScriptDoc* script = Script())
         script->OnViewGoes(*this);
@@ -80,7 +90,7 @@ void ScriptView::OnInitialUpdate()
     if (!script)
         return;
     script->OnViewShown();
-    FollowSoon();
+    FollowAfter(kAtOnce);
 }
 
 void ScriptView::FollowScheme(const QString& name)
@@ -200,7 +210,7 @@ int ScriptView::OnNotify(WPARAM wParam, LPARAM lParam, LRESULT* result)
     case notify::Modified:
         if (record.modificationType & kTextBits)
             script->OnTextChanged();
-        FollowSoon();
+        FollowAfter(kRest);
         break;
     case engine::kLongLineShown:
         Q_EMIT script->Told(
@@ -210,7 +220,7 @@ int ScriptView::OnNotify(WPARAM wParam, LPARAM lParam, LRESULT* result)
         break;
     case notify::UpdateUi:
     case notify::Zoom:
-        FollowSoon();
+        FollowAfter(kRest);
         break;
     default:
         break;
@@ -225,31 +235,23 @@ void ScriptView::OnActivateView(int activate, CView* activated, CView* deactivat
     if (!activate || !GetSafeHwnd())
         return;
     ForgetBatchMark(m_coreEditor);
-    FollowSoon();
+    FollowAfter(kAtOnce);
 }
 
-// A load or a replacement of all brings thousands of notifications; the window follows once.
-void ScriptView::FollowSoon()
+// A load, a replacement of all or a held key brings many notifications; the window follows once.
+void ScriptView::FollowAfter(std::chrono::milliseconds rest)
 {
-    if (std::exchange(m_following, true))
-        return;
-    QWidget* window = GetSafeHwnd();
-    QMetaObject::invokeMethod(
-        window,
-        [this, window] {
-            if (AttachedWnd(window) == this)
-                Follow();
-        },
-        Qt::QueuedConnection);
+    if (!m_rest.isActive() || m_rest.intervalAsDuration() > rest)
+        m_rest.start(rest);
 }
 
 // Of several views of a text the one that was active last has the bar.
-void ScriptView::Follow()
+void ScriptView::FollowNow()
 {
-    m_following = false;
-    ScriptDoc* script = Script();
-    const CFrameWnd* frame = GetParentFrame();
-    if (!script || !frame)
+    m_rest.stop();
+    ScriptDoc* script = GetSafeHwnd() ? Script() : nullptr;
+    const CFrameWnd* frame = script ? GetParentFrame() : nullptr;
+    if (!frame)
         return;
     if (frame->GetActiveView() == this && GetSafeHwnd()->isVisible())
         MarkBatch(m_coreEditor);

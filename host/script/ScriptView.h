@@ -5,6 +5,9 @@
 
 #include "docview/ZNCoreEditorView.h"
 
+#include <QTimer>
+
+#include <chrono>
 #include <memory>
 
 class EditorCompletion;
@@ -38,7 +41,8 @@ public:
     void GoToLine(long line);               // from 0, and shows it
     void GoToColumn(long column);           // of the caret's line, from 0, as far as it goes
     void FollowScheme(const QString& name);
-    void ShowAs(ScriptView& other);                                     // place, selection and zoom
+    void FollowNow();               // what is shown around it, which else waits until the keys rest
+    void ShowAs(ScriptView& other); // place, selection and zoom
     EditorCompletion* Completion() const { return m_completion.get(); } // null without a window
     QString CaretText();                                                // line and column, from 1
     QString Catalog(); // the database in force at the caret, empty if unknown
@@ -57,8 +61,7 @@ private:
     ~ScriptView() override;
     void LookAtFile(); // and asks about what others did to it
     void KeepNames(const SCNotification& record);
-    void FollowSoon();
-    void Follow();
+    void FollowAfter(std::chrono::milliseconds rest);
     void FitScrollRange();
     void CloseFrame();
     void SaveAsPdf();
@@ -73,6 +76,6 @@ private:
     bool HasSomethingToEnd();
 
     std::unique_ptr<EditorCompletion> m_completion;
-    bool m_following = false;
+    QTimer m_rest;           // runs while there is something to follow
     int m_measuredFrom = -1; // the first line on screen when lines were last measured
 };

@@ -31,6 +31,7 @@
 #include <QFile>
 #include <QFileInfo>
 #include <QGuiApplication>
+#include <QKeyEvent>
 #include <QPointer>
 #include <QShortcut>
 #include <QStatusBar>
@@ -65,6 +66,17 @@ QString ShortFolder(const QString& path)
     if (folder == home || folder.startsWith(home + u'/'))
         return u'~' + folder.mid(home.size());
     return folder;
+}
+
+// Neither a character, nor a key that moves the caret or takes a character away.
+bool MayBeOfAMenu(const QKeyEvent& key)
+{
+    if (key.modifiers() & (Qt::ControlModifier | Qt::AltModifier | Qt::MetaModifier))
+        return true;
+    const bool types = !key.text().isEmpty() && key.text().front().isPrint();
+    const bool edits = key.key() >= Qt::Key_Tab && key.key() <= Qt::Key_Enter;
+    const bool moves = key.key() >= Qt::Key_Home && key.key() <= Qt::Key_Alt;
+    return !types && !edits && !moves;
 }
 
 } // namespace
@@ -419,6 +431,20 @@ void MainWindow::UpdateTitle()
                 (folder.isEmpty() ? QString() : verbatim(folder) + QStringLiteral(" – ")) + title;
     setWindowTitle(title);
     setWindowModified(isModified);
+}
+
+bool MainWindow::event(QEvent* event)
+{
+    if (event->type() == QEvent::ShortcutOverride &&
+        MayBeOfAMenu(static_cast<const QKeyEvent&>(*event)))
+        FollowNow();
+    return QMainWindow::event(event);
+}
+
+void MainWindow::FollowNow()
+{
+    if (const ScriptFrame* frame = CurrentFrame())
+        frame->View()->FollowNow();
 }
 
 void MainWindow::UpdateAll()

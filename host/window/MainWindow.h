@@ -57,6 +57,9 @@ public:
     void SetLanguage(int language);           // of the current script
     void FollowOptions();                     // in every script, at once
     void UpdateAll();                         // what is shown of the script in front
+    // Likewise, with the marks in its margin, at once: a menu that opens and a key that may be one
+    // of a menu's cannot wait until the keys rest.
+    void FollowNow();
 
     // The commands of the menus that are the window's own.
     void GoToSymbol();
@@ -80,6 +83,9 @@ public:
     void PreviousScript();
     void NextArea();
     void GoToScript();
+
+protected:
+    bool event(QEvent* event) override;
 
 private:
     struct Command;

@@ -227,8 +227,10 @@ void MainWindow::BuildMenus()
     });
     FillToolBar(*bar, *this);
     for (QMenu* each : menuBar()->findChildren<QMenu*>()) {
-        connect(each, &QMenu::aboutToShow, this,
-                [this, each] { ExplainEntries(*each, CurrentEditor()); });
+        connect(each, &QMenu::aboutToShow, this, [this, each] {
+            FollowNow();
+            ExplainEntries(*each, CurrentEditor());
+        });
     }
 }
 

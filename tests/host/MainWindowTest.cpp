@@ -3,8 +3,11 @@
 
 #include <QClipboard>
 #include <QCloseEvent>
+#include <QMenu>
+#include <QMenuBar>
 #include <QStatusBar>
 #include <QTabWidget>
+#include <QTest>
 
 namespace {
 
@@ -15,6 +18,11 @@ protected:
     {
         const auto* tabs = m_window.findChild<QTabWidget*>();
         return tabs->tabText(tabs->currentIndex());
+    }
+
+    void Press(Qt::Key key, Qt::KeyboardModifiers modifiers = Qt::NoModifier) const
+    {
+        QTest::keyClick(Editor().GetSafeHwnd(), key, modifiers);
     }
 };
 
@@ -52,6 +60,47 @@ TEST_F(MainWindows, OffersToSaveAtTheFirstChangeWithoutWaitingForThePaint)
     EXPECT_FALSE(Action("save").isEnabled());
 }
 
+TEST_F(MainWindows, FollowsTheCaretOnceTheKeysRest)
+{
+    Open("orders.sql", "select 1;\n");
+    Settle();
+    for (int i = 0; i < 3; ++i)
+        Press(Qt::Key_Right);
+    EXPECT_EQ(Status("caret"), QStringLiteral("Line 1, column 1")) << "not at each key";
+    EXPECT_TRUE(
+        QTest::qWaitFor([this] { return Status("caret") == QStringLiteral("Line 1, column 4"); }));
+}
+
+// Of these keys neither the editor nor its table knows the first, so that the entry has to be
+// enabled by then.
+TEST_F(MainWindows, TakesAKeyOfAMenuForWhatTheKeyBeforeItMadePossible)
+{
+    Open("orders.sql", "select 1;\n");
+    Settle();
+    Press(Qt::Key_Right, Qt::ShiftModifier);
+    EXPECT_FALSE(Action("copyWithColours").isEnabled()) << "not at each key";
+    Press(Qt::Key_C, Qt::ControlModifier | Qt::ShiftModifier);
+    EXPECT_EQ(QApplication::clipboard()->text(), QStringLiteral("s"));
+    Press(Qt::Key_Delete);
+    EXPECT_EQ(Text(), QStringLiteral("elect 1;\n"));
+    Press(Qt::Key_Z, Qt::ControlModifier);
+    EXPECT_EQ(Text(), QStringLiteral("select 1;\n"));
+    Press(Qt::Key_Y, Qt::ControlModifier);
+    EXPECT_EQ(Text(), QStringLiteral("elect 1;\n"));
+}
+
+TEST_F(MainWindows, OffersInAMenuWhatTheLastKeyMadePossible)
+{
+    Open("orders.sql", "select 1;\n");
+    Settle();
+    Press(Qt::Key_Right, Qt::ShiftModifier);
+    for (QMenu* menu : m_window.menuBar()->findChildren<QMenu*>()) {
+        if (menu->actions().contains(&Action("copy")))
+            Q_EMIT menu->aboutToShow();
+    }
+    EXPECT_TRUE(Action("copy").isEnabled());
+}
+
 TEST_F(MainWindows, SaysThatALineIsDrawnCoarsely)
 {
     constexpr int kDefaultStyle = 32;
@@ -60,7 +109,7 @@ TEST_F(MainWindows, SaysThatALineIsDrawnCoarsely)
     const std::u16string line(600'000, u'x');
     Editor().SetText((u"a\n" + line).c_str(), 1);
     Editor().GetHwnd()->grab();
-    QApplication::processEvents();
+    Settle();
     EXPECT_TRUE(m_window.statusBar()->currentMessage().startsWith(
         QStringLiteral("Line 2 is very long: behind column ")))
         << m_window.statusBar()->currentMessage().toStdString();
@@ -305,16 +354,16 @@ TEST_F(MainWindows, CutsAndPastesThroughItsMenu)
 {
     Open("a.sql", "one two");
     Editor().SetSel(0, 4, 1);
-    QApplication::processEvents();
+    Settle();
     Trigger("cut");
     EXPECT_EQ(Text(), QStringLiteral("two"));
     EXPECT_EQ(QApplication::clipboard()->text(), QStringLiteral("one "));
     Editor().GotoPos(3, 1);
-    QApplication::processEvents();
+    Settle();
     Trigger("paste");
     EXPECT_EQ(Text(), QStringLiteral("twoone "));
     Editor().SetSel(0, 3, 1);
-    QApplication::processEvents();
+    Settle();
     Trigger("delete");
     EXPECT_EQ(Text(), QStringLiteral("one "));
 }
@@ -326,7 +375,7 @@ TEST_F(MainWindows, TellsTheCaretsPlaceInTheStatusBar)
     EXPECT_EQ(Status("lineEnds"), QStringLiteral("CR LF"));
     EXPECT_EQ(Status("overtype"), QStringLiteral("INS"));
     Editor().GotoPos(7, 1);
-    QApplication::processEvents();
+    Settle();
     EXPECT_EQ(Status("caret"), QStringLiteral("Line 2, column 3"));
 }
 
@@ -368,7 +417,7 @@ TEST_F(MainWindows, WidensTheLineNumbersWithTheZoom)
 TEST_F(MainWindows, ScrollsSidewaysNoFurtherThanTheLongestLineSeen)
 {
     Open("a.sql", "a\n");
-    QApplication::processEvents();
+    Settle();
     const int before = Editor().GetScrollWidth(1);
     EXPECT_LT(before, 200);
     Type(QString(300, u'x').toStdU16String().c_str());

@@ -37,7 +37,7 @@ protected:
         Editor().GotoPos(position, 1);
         Editor().Colorize(0, -1, 1);
         Editor().GetSafeHwnd()->repaint();
-        QApplication::processEvents();
+        Settle();
     }
 };
 
@@ -61,7 +61,7 @@ TEST_F(WorkbenchProblems, MarkTheBatchOfTheActivePaneAlone)
     GoTo(23);
     EXPECT_EQ(MarkedLines(), QList<int>({3}));
     Trigger("otherPane");
-    QApplication::processEvents();
+    Settle();
     EXPECT_EQ(MarkedLines(), QList<int>({0, 1}));
 }
 

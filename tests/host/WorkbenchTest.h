@@ -60,10 +60,18 @@ protected:
         ASSERT_TRUE(m_app.OpenDocumentFile(Write(name, bytes)));
     }
 
+    // Until the window shows all that has happened; only the tests of what waits for the keys to
+    // rest wait for that.
+    void Settle()
+    {
+        QApplication::processEvents();
+        m_window.FollowNow();
+    }
+
     void Type(const char16_t* text)
     {
         Editor().ReplaceSel(text, 1);
-        QApplication::processEvents();
+        Settle();
     }
 
     QString Text() const
@@ -83,6 +91,7 @@ protected:
         Action(name).trigger();
         QApplication::processEvents();
         Disposal::Run(); // no loop runs that would
+        m_window.FollowNow();
     }
 
     // Whether the window has gone; what it was is not to be touched then.
