@@ -2,13 +2,16 @@
 #include "platform/text/Utf8.h"
 
 #include "platform/text/AsciiRun.h"
+#include "platform/text/ShortRun.h"
 
+#include <algorithm>
 #include <cstring>
 
 namespace platform::utf8 {
 namespace {
 
 constexpr char16_t kReplacement = 0xFFFD;
+constexpr std::ptrdiff_t kStep = ascii::kChunk;
 
 bool IsContinuation(unsigned char byte)
 {
@@ -74,19 +77,19 @@ inline Decoded Decode(const unsigned char* at, std::size_t left, char16_t* units
     return {4, 2};
 }
 
-// The last bytes of a text, too few for a chunk: filled up with NULs they are one. Nothing is taken
-// if they are not all ASCII and characters of two bytes. In a file's lines they are a fifth of it.
+// The last bytes of a text, no more than a chunk: with NULs behind them they are a run. In a file's
+// lines they are a fifth of it.
 ascii::Taken ShortTailToUnits(const unsigned char* bytes, std::size_t count, char16_t* units)
 {
-    unsigned char chunk[ascii::kChunk] = {};
-    char16_t widened[ascii::kChunk];
+    unsigned char chunk[ascii::kChunk + 1] = {};
+    char16_t widened[ascii::kChunk + 1];
     std::memcpy(chunk, bytes, count);
-    const ascii::Taken taken = ascii::WidenShortChunk(chunk, widened);
+    const ascii::Taken taken = ascii::WidenShortRun(chunk, sizeof chunk, widened);
     if (taken.bytes == 0)
         return taken;
     const std::size_t written = taken.units - (ascii::kChunk - count);
     std::memcpy(units, widened, written * sizeof *units);
-    return {count, written};
+    return {std::min(taken.bytes, count), written};
 }
 
 } // namespace
@@ -98,21 +101,13 @@ Extent ToUnitsWhileWellFormed(const unsigned char* bytes, std::size_t byteCount,
     char16_t* out = units;
     while (at < end) {
         // There are never fewer units of room left than bytes to read.
-        while (static_cast<std::size_t>(end - at) >= ascii::kChunk) {
-            const std::size_t taken = ascii::WidenChunk(at, out);
-            ascii::Taken all{taken, taken};
-            if (taken < ascii::kChunk)
-                all = ascii::WidenShortChunk(at, out);
-            const bool isShort = all.bytes > 0;
-            at += isShort ? all.bytes : taken;
-            out += isShort ? all.units : taken;
-            if (!isShort)
-                break;
-        }
+        const ascii::Taken run = ascii::WidenShortRun(at, static_cast<std::size_t>(end - at), out);
+        at += run.bytes;
+        out += run.units;
         if (at == end)
             break;
         const auto left = static_cast<std::size_t>(end - at);
-        if (left < ascii::kChunk && (*at & 0xC0) != 0x80) {
+        if (left <= ascii::kChunk && (*at & 0xC0) != 0x80) {
             const ascii::Taken tail = ShortTailToUnits(at, left, out);
             at += tail.bytes;
             out += tail.units;
@@ -202,18 +197,11 @@ std::size_t ToBytes(const char16_t* units, std::size_t unitCount, unsigned char*
     const char16_t* const end = units + unitCount;
     unsigned char* out = bytes;
     while (at < end) {
-        while (static_cast<std::size_t>(end - at) >= ascii::kChunk && ascii::NarrowChunk(at, out)) {
-            at += ascii::kChunk;
-            out += ascii::kChunk;
-        }
-        // The chunk ahead is not all ASCII, or too short to ask.
-        const bool more = static_cast<std::size_t>(end - at) > ascii::kChunk;
-        const char16_t* const stop = more ? at + ascii::kChunk : end;
-        if (more && !ascii::HasUnitWithin(at, 0x800, 0xF7FF)) {
-            out += ascii::NarrowShortChunk(at, out); // there is a unit behind them
-            at = stop;
-            continue;
-        }
+        const ascii::Taken run = ascii::NarrowShortRun(at, static_cast<std::size_t>(end - at), out);
+        at += run.units;
+        out += run.bytes;
+        // There is a long one in what is next, or too little of it for a chunk.
+        const char16_t* const stop = end - at > kStep ? at + kStep : end;
         while (at < stop) {
             unsigned int unit = *at++;
             if (unit < 0x80) {
