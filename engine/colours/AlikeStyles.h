@@ -21,12 +21,12 @@ public:
     // may change. Braces keep theirs: they match others of the same style.
     void Lay(std::span<char> styles, std::string_view bytes);
 
-    // What a style of the text stands for, which the stock engine tells with its sign.
+    // What a style of the text stands for, 0 to 255. The stock engine tells it with a sign, and
+    // throws when it is asked for the look of a style below 0.
     int Plain(int style) const
     {
-        return (style & kBit) && m_used[static_cast<std::size_t>(style & (kBit - 1))]
-                   ? style & (kBit - 1)
-                   : style;
+        const int low = style & (kBit - 1);
+        return m_used[static_cast<std::size_t>(low)] ? low : style & (kBit | low);
     }
 
     // Gives the alikes their styles' looks in this window.

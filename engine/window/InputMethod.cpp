@@ -67,7 +67,8 @@ QString InputMethod::Selection() const
 QFont InputMethod::Font() const
 {
     const auto caret = static_cast<WPARAM>(m_engine.raw.Send(Sci::SCI_GETCURRENTPOS));
-    const auto style = static_cast<WPARAM>(m_engine.raw.Send(Sci::SCI_GETSTYLEAT, caret));
+    const auto style = static_cast<WPARAM>(m_engine.colouring->Alike().Plain(
+        static_cast<int>(m_engine.raw.Send(Sci::SCI_GETSTYLEAT, caret))));
     std::string name(static_cast<std::size_t>(m_engine.raw.Send(Sci::SCI_STYLEGETFONT, style)) + 1,
                      '\0');
     m_engine.raw.Send(Sci::SCI_STYLEGETFONT, style, name.data());

@@ -152,6 +152,16 @@ TEST_F(InputMethods, TheFontIsThatOfTheText)
     EXPECT_EQ(font.pointSize(), 17);
 }
 
+TEST_F(InputMethods, TheFontIsThatOfAStyleWithAHighNumber)
+{
+    constexpr int kStyle = 200;
+    m_engine.SetText(u"text");
+    m_engine.Send(msg::StyleSetSize, kStyle, LPARAM{30});
+    m_engine.Send(msg::StartStyling, 0, LPARAM{0xFF});
+    m_engine.Send(msg::SetStyling, 4, LPARAM{kStyle});
+    EXPECT_EQ(Ask(Qt::ImFont).value<QFont>().pointSize(), 30);
+}
+
 TEST_F(InputMethods, ACompositionIsShownAndTakenAway)
 {
     Start(u"abc", 3, 3);

@@ -48,6 +48,20 @@ protected:
 
 } // namespace
 
+TEST_F(LongLine, AnInputMethodIsToldTheFontOfEveryPlace)
+{
+    m_engine.Send(msg::SetLexer, kGeneric);
+    m_line.insert(0, u"-- ");
+    Start(20000);
+    QTest::keyClicks(m_engine.Window(), "xyz");
+    m_engine.Window()->grab();
+    const QFont first = m_engine.Window()->inputMethodQuery(Qt::ImFont).value<QFont>();
+    for (WPARAM place = 2; place < 40000; place += 100) {
+        m_engine.Send(msg::GotoPos, place);
+        ASSERT_EQ(m_engine.Window()->inputMethodQuery(Qt::ImFont).value<QFont>(), first) << place;
+    }
+}
+
 TEST_F(LongLine, TypingIsToldAndUndoneAsInAnyOther)
 {
     Start(20000);

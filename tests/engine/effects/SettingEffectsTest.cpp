@@ -37,6 +37,21 @@ TEST_F(Settings, NoCodePageChangesTheText)
     }
 }
 
+// All of a byte is style.
+TEST_F(Settings, EveryUnitHasEightBitsOfStyle)
+{
+    m_engine.SetText(u"a");
+    m_engine.Send(msg::SetStyleBits, 5);
+    EXPECT_EQ(m_engine.Send(msg::GetStyleBits), 8);
+    m_engine.Send(msg::StartStyling, 0, LPARAM{0xFF});
+    m_engine.Send(msg::SetStyling, 1, LPARAM{200});
+    EXPECT_EQ(m_engine.Send(msg::GetStyleAt, 0), 200);
+    std::u16string cells(4, u'#');
+    TextRange range{{0, 1}, cells.data()};
+    EXPECT_EQ(m_engine.Send(msg::GetStyledText, 0, &range), 2);
+    EXPECT_EQ(cells, std::u16string(u"a\u00c8\0\0", 4));
+}
+
 TEST_F(Settings, AMaskChoosesWhichChangesAreTold)
 {
     const auto told = [this](int mask) {
