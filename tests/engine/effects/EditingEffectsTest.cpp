@@ -255,3 +255,33 @@ TEST_F(Editing, AStickyCaretKeepsItsColumnWhileTextIsTyped)
     m_engine.Send(msg::ToggleCaretSticky);
     EXPECT_EQ(columnAfter("xyz"), 3);
 }
+
+TEST_F(Editing, TheSelectionIsReplacedAsTheTarget)
+{
+    Place(u"a\U0001F600[bc|d");
+    m_engine.Send(msg::TargetFromSelection);
+    EXPECT_EQ(m_engine.Send(msg::GetTargetStart), 3);
+    EXPECT_EQ(m_engine.Send(msg::GetTargetEnd), 5);
+    m_engine.Send(msg::ReplaceTargetNoProcess, 1, u"X");
+    EXPECT_EQ(m_engine.Text(), u"a\U0001F600Xd");
+}
+
+TEST_F(Editing, RoomMadeAheadHoldsTheSameText)
+{
+    Place(u"one|");
+    m_engine.Send(msg::Allocate, 1000000);
+    EXPECT_EQ(m_engine.Send(msg::GetLength), 3);
+    Type(" two");
+    EXPECT_EQ(Placed(), u"one two|");
+    m_engine.Send(msg::Allocate, 1);
+    EXPECT_EQ(m_engine.Text(), u"one two");
+}
+
+TEST_F(Editing, TheMessageThatIsNothingDoesNothing)
+{
+    Place(u"o[n|e");
+    m_engine.Parent().heard.clear();
+    EXPECT_EQ(m_engine.Send(msg::Null), 0);
+    EXPECT_EQ(Placed(), u"o[n|e");
+    EXPECT_TRUE(m_engine.Parent().heard.empty());
+}
