@@ -183,6 +183,22 @@ TEST_F(ControlEx, ColoursTheTextOfItsLanguage)
     EXPECT_EQ(m_control.GetStyleAt(12, 1), 2);
 }
 
+TEST_F(ControlEx, KeepsTheColoursOfAnOpenTextWhenTheirLargestSizeChanges)
+{
+    const auto picture = [this] { return m_control.GetSafeHwnd()->grab().toImage(); };
+    m_control.InitializeLanguage(kSql, 1);
+    SetText(QStringLiteral("select 'a' -- b"));
+    const QImage coloured = picture();
+    ASSERT_EQ(m_control.GetStyleAt(12, 1), 2);
+    for (const int size : {4711, 0}) {
+        m_options.numbers[option::ColorMaxSize] = size;
+        m_control.InitializeLanguage(kSql, 1);
+        EXPECT_EQ(m_control.GetPropertyInt(u"colorMaxSize", 1), size);
+        EXPECT_EQ(picture(), coloured);
+        EXPECT_EQ(m_control.GetStyleAt(12, 1), 2);
+    }
+}
+
 TEST_F(ControlEx, StaysAsItIsForALanguageWithoutItsFile)
 {
     m_control.InitializeLanguage(kSql, 1);
