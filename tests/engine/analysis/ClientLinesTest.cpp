@@ -165,6 +165,15 @@ TEST(PsqlLines, EndTheStatementThatTheyStandBehind)
                             "select 7 \\watch 2", "select 8", "\\d it's", "select 9;"));
 }
 
+TEST(PsqlLines, DescribeWhateverLettersStandBehindTheD)
+{
+    for (const std::string letters : {"", "t", "abcdefghijklmn", "abcdefghijklmno"}) {
+        const std::string line = "\\d" + letters + " it's";
+        ScriptUnderTest script("postgresql", "select 1 " + line + "\nselect 2;");
+        EXPECT_THAT(script.Statements(), ElementsAre("select 1", line, "select 2;"));
+    }
+}
+
 TEST(PsqlLines, GoOnBehindTwoBackslashes)
 {
     ScriptUnderTest script("postgresql", "\\x \\\\ select 1; \\echo 'a\\\\b' \\t \\\\ select 2 \\; "

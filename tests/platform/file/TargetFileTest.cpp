@@ -1,10 +1,13 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 // Writing in place and beside: what stands on the disk after every failure.
 #include "platform/file/TargetFile.h"
+#include "tests/platform/file/FullDisk.h"
 
 #include <gtest/gtest.h>
 
+#include <algorithm>
 #include <cerrno>
+#include <climits>
 #include <csignal>
 #include <filesystem>
 #include <fstream>
@@ -144,6 +147,27 @@ TEST_F(TargetFiles, BesideFollowsALinkToNothing)
     EXPECT_TRUE(WriteAll(file, "new"));
     EXPECT_TRUE(fs::is_symlink(folder / "link"));
     EXPECT_EQ(Get("later"), "new");
+}
+
+// The name of the file that is written beside it is longer, unless there is no room.
+TEST_F(TargetFiles, BesideWritesAFileWithTheLongestPathThatThereIs)
+{
+    constexpr std::size_t kFolder = PATH_MAX - 1 - 195;
+    std::string path = folder.string() + '/';
+    while (path.size() < kFolder) {
+        const std::size_t room = kFolder - path.size() - 1;
+        path += std::string(room <= 200 ? room : std::min<std::size_t>(200, room - 2), 'd') + '/';
+    }
+    ASSERT_EQ(path.size(), kFolder);
+    fs::create_directories(path);
+    path += std::string(195, 'n');
+    TargetFile file;
+    ASSERT_TRUE(file.OpenBeside(QByteArray(path.c_str()))) << file.Error();
+    EXPECT_FALSE(file.WritesOver());
+    EXPECT_TRUE(WriteAll(file, "new"));
+    std::string text;
+    std::getline(std::ifstream(path), text);
+    EXPECT_EQ(text, "new");
 }
 
 TEST_F(TargetFiles, LinksThatGoRoundAreNoTarget)
@@ -297,6 +321,23 @@ TEST_F(TargetFiles, BesideWritesOverAFileThatHasAnotherName)
     ASSERT_TRUE(WriteAll(file, "new"));
     EXPECT_EQ(Get("b"), "new");
     EXPECT_EQ(Entries(), 2u);
+}
+
+// What stands there is put aside before it is written over, and the disk has no room for that.
+TEST_F(TargetFiles, BesideWritesOverNothingThatItCouldNotPutBack)
+{
+    const std::string old(300 * 1024, 'o');
+    Put("a", old);
+    ASSERT_EQ(link(PathOf("a").constData(), PathOf("b").constData()), 0);
+    TargetFile file;
+    ASSERT_TRUE(file.OpenBeside(PathOf("a")));
+    ASSERT_TRUE(file.WritesOver());
+    {
+        const FullDisk full(100 * 1024);
+        EXPECT_FALSE(WriteAll(file, "new"));
+    }
+    EXPECT_EQ(file.Error(), EFBIG);
+    EXPECT_EQ(Get("b"), old);
 }
 
 // A part that somebody writes right now stays, and so does what only looks like one.
