@@ -41,8 +41,8 @@ QByteArray FolderOf(const QByteArray& path)
 // The path behind a chain of links, which may end at nothing. Empty if the chain does not end.
 QByteArray FollowLinks(QByteArray path)
 {
-    constexpr int kMostLinks = 40;
-    for (int i = 0; i < kMostLinks; ++i) {
+    constexpr int kMostLinks = 40; // the system's own limit
+    for (int i = 0; i <= kMostLinks; ++i) {
         std::array<char, PATH_MAX> link;
         const ssize_t length = readlink(path.constData(), link.data(), link.size());
         if (length < 0)

@@ -149,6 +149,22 @@ TEST_F(TargetFiles, BesideFollowsALinkToNothing)
     EXPECT_EQ(Get("later"), "new");
 }
 
+TEST_F(TargetFiles, BesideFollowsAsManyLinksAsTheSystemDoes)
+{
+    Put("0", "old");
+    for (int i = 1; i <= 41; ++i)
+        fs::create_symlink(std::to_string(i - 1), folder / std::to_string(i));
+    for (const char* name : {"40", "41"}) {
+        const bool opens = access(PathOf(name).constData(), W_OK) == 0;
+        const int reason = opens ? 0 : errno;
+        TargetFile file;
+        ASSERT_EQ(file.OpenBeside(PathOf(name)), opens) << name;
+        EXPECT_EQ(file.Error(), reason) << name;
+        EXPECT_TRUE(!opens || WriteAll(file, name));
+    }
+    EXPECT_EQ(Get("0"), "40");
+}
+
 // The name of the file that is written beside it is longer, unless there is no room.
 TEST_F(TargetFiles, BesideWritesAFileWithTheLongestPathThatThereIs)
 {
