@@ -83,6 +83,7 @@ private:
     {
         ScriptName name;
         int part;
+        long end; // in the text before the caret, -1 behind it
     };
 
     void ReadBefore()
@@ -199,6 +200,7 @@ private:
     void ReadBehind()
     {
         m_caretPart = m_part;
+        m_isBehind = true;
         const TextSpans text(m_behind);
         long at = 0;
         while (at < text.Size() && IsWordByte(text.At(at)))
@@ -222,7 +224,7 @@ private:
         for (const NameEvent& event : reader.Names()) {
             ScriptName name{
                 event.kind, ToText(PlainName(reader.Text(), event.start, event.end)), {}, 0, 0};
-            m_found.push_back({std::move(name), m_part});
+            m_found.push_back({std::move(name), m_part, m_isBehind ? -1 : event.end});
         }
     }
 
@@ -234,6 +236,7 @@ private:
             switch (name.kind) {
             case NameKind::TableUse:
             case NameKind::InsertUse:
+            case NameKind::AlterUse:
                 table.clear(); // the index knows where these have their columns
                 if (found.part == m_caretPart)
                     m_context.tables.push_back({name.name, {}});
@@ -251,6 +254,8 @@ private:
                 table.clear();
                 break;
             case NameKind::Cte:
+                KeepQuery(found);
+                [[fallthrough]];
             case NameKind::Variable:
                 table = name.name;
                 m_context.locals.push_back(name);
@@ -271,6 +276,15 @@ private:
         }
     }
 
+    // One that stands before the caret and names no columns has those of its query.
+    void KeepQuery(const Found& found)
+    {
+        if (found.end < 0)
+            return;
+        const auto text = std::string_view(m_before).substr(static_cast<std::size_t>(found.end));
+        m_context.queries.push_back({found.name.name, SelectListBehindAs(m_dialect, text)});
+    }
+
     static constexpr std::size_t kRemembered = 16; // tokens, for the names in front of points
 
     ScriptIndex::Start m_start;
@@ -284,6 +298,7 @@ private:
     std::vector<Found> m_found;
     int m_part = 0;
     int m_caretPart = 0;
+    bool m_isBehind = false; // the caret
     CaretContext m_context;
 };
 

@@ -6,6 +6,7 @@
 #include "completion/Proposals.h"
 #include "completion/ScriptIndex.h"
 #include "completion/ScriptNames.h"
+#include "completion/SelectList.h"
 
 namespace completion {
 
@@ -13,6 +14,13 @@ struct ScopedTable
 {
     QString name; // empty for what a query in parentheses gives
     QString alias;
+};
+
+// A common table without a list of columns.
+struct QueryTable
+{
+    QString name;
+    std::vector<SelectItem> items;
 };
 
 struct CaretContext
@@ -24,6 +32,7 @@ struct CaretContext
     // Variables, parameters, cursors, common tables and their columns, from some way before the
     // caret up to it. Their places count from that.
     std::vector<ScriptName> locals;
+    std::vector<QueryTable> queries; // of the locals
 };
 
 // The text is that of the index, which is fresh around the caret.

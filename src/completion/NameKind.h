@@ -32,12 +32,13 @@ enum class NameKind : std::uint8_t
     TableUse,
     InsertUse, // the same with a list of columns behind it
     RoutineUse,
+    AlterUse, // a table that ALTER may give columns
 };
 
 constexpr bool IsTable(NameKind kind)
 {
     return kind == NameKind::Table || kind == NameKind::View || kind == NameKind::TableUse ||
-           kind == NameKind::InsertUse;
+           kind == NameKind::InsertUse || kind == NameKind::AlterUse;
 }
 
 constexpr bool IsRoutine(NameKind kind)

@@ -388,6 +388,7 @@ void NameMachine::OpenParenthesis()
         [[fallthrough]];
     case Step::AfterInsert:
     case Step::AfterCte:
+    case Step::AddColumn:
         if (step != Step::Header)
             s.object = step == Step::AfterCte ? NameKind::Cte : NameKind::Table;
         s.step = Step::Items;
@@ -397,6 +398,7 @@ void NameMachine::OpenParenthesis()
     case Step::Items:
     case Step::BareParameters:
     case Step::AfterDeclared:
+    case Step::AfterAdded:
         return;
     default:
         s.step = Step::Code;
@@ -421,7 +423,8 @@ void NameMachine::CloseParenthesis()
         s.isDerived = true;
         s.step = Step::AfterTable;
     } else if (s.step != Step::Items && s.step != Step::BareParameters &&
-               s.step != Step::AfterDeclared && s.step != Step::Header) {
+               s.step != Step::AfterDeclared && s.step != Step::AfterAdded &&
+               s.step != Step::Header) {
         s.step = Step::Code;
     }
     s.afterCte = wasCte;
@@ -443,6 +446,10 @@ void NameMachine::TakeComma()
     case Step::AfterDeclared:
         if (s.depth == 0)
             s.step = Step::Declare;
+        return;
+    case Step::AfterAdded: // ADD a int, b int
+        if (s.depth == 0)
+            s.step = m_dialect->brackets ? Step::AddColumn : Step::Code;
         return;
     case Step::Code:
     case Step::AfterTable:

@@ -42,7 +42,9 @@ struct NameState
         Declare,
         AfterDeclared,
         CallName,
+        AlteredTable,
         AddColumn,
+        AfterAdded, // the type of a column that ALTER adds
     };
 
     // What the last byte was, which the next token may touch.
@@ -96,7 +98,10 @@ public:
     bool BeganPart() const { return m_beganPart; } // the last token did: a statement, a query
 
     // What a name in this place would be.
-    bool WantsTable() const { return m_state.step == Step::TableName; }
+    bool WantsTable() const
+    {
+        return m_state.step == Step::TableName || m_state.step == Step::AlteredTable;
+    }
     bool WantsRoutine() const { return m_state.step == Step::CallName; }
     bool WantsOwnName() const; // one that nothing has yet
 

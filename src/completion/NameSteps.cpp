@@ -179,6 +179,21 @@ bool NameMachine::ReadStep(const Token& token, NameWord word)
         if (!MayBeName(word))
             return false;
         Emit(NameKind::Column, token);
+        s.step = Step::AfterAdded;
+        return true;
+    case Step::AfterAdded:
+        if (IsHead(word))
+            s.step = Step::Code;
+        return false;
+    case Step::AlteredTable:
+        if (IsOneOf(word, {W::If, W::Exists, W::Only}))
+            return true;
+        if (MayBeName(word) && !isLast)
+            return true;
+        s.step = Step::Code;
+        if (!MayBeName(word))
+            return false;
+        Emit(NameKind::AlterUse, token);
         return true;
     case Step::AfterInsert:
         s.step = Step::Code;
@@ -193,9 +208,9 @@ void NameMachine::ReadCreated(NameWord word)
     if (const Created* row = FindCreated(word)) {
         s.object = row->kind;
         s.step = Step::ObjectName;
-        // ALTER of these gives nothing anew.
+        // ALTER of these gives nothing anew but columns.
         if (s.verb == W::Alter && row->kind == NameKind::Table)
-            s.step = Step::TableName;
+            s.step = Step::AlteredTable;
         return;
     }
     if (s.patience-- == 0 || word == W::Select)

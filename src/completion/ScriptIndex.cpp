@@ -148,7 +148,7 @@ private:
         if (id == WordTable::kNone)
             return;
         const auto kind = static_cast<std::uint32_t>(event.kind);
-        const bool isUse = event.kind >= NameKind::TableUse;
+        const bool isUse = event.kind >= NameKind::TableUse && event.kind != NameKind::AlterUse;
         if (isUse && std::any_of(objects.begin(), objects.end(), [&](const Item& item) {
                 return item.name == id && (item.place & kKindMask) == kind;
             }))

@@ -52,7 +52,7 @@ public:
     void Freshen(const Read& read, long position);
 
     const WordTable& Words() const { return m_words; }
-    // What is created and what is used, in order; of what is used one for each name and stretch.
+    // What is created, altered and used, in order; of what is used one for each name and stretch.
     template <typename Take> // (const Object&), false to stop
     void ForEachObject(Take take) const
     {

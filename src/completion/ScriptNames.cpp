@@ -34,6 +34,7 @@ public:
             return {};
         case NameKind::TableUse:
         case NameKind::InsertUse:
+        case NameKind::AlterUse:
             m_used = name.name;
             m_table = name.name;
             return {};

@@ -17,6 +17,7 @@ using Place = ProposalQuery::Place;
 
 constexpr long kDefinition = 16384; // units of what creates a table that are looked at
 constexpr std::size_t kMostWords = 400;
+constexpr std::size_t kMostAlters = 100; // of a table
 
 // Among what fits equally well. Columns stand in the order of their table.
 enum Rank : int
@@ -57,22 +58,29 @@ int NumberOf(const engine::analysis::SqlDialect* dialect)
     return 0;
 }
 
-// The first object of these kinds and the name, in any case.
-std::optional<ScriptIndex::Object> FindDefinition(const ScriptIndex& index, const QString& name,
-                                                  std::initializer_list<NameKind> kinds)
+// The objects of these kinds and the name, in any case.
+std::vector<ScriptIndex::Object> FindAll(const ScriptIndex& index, const QString& name,
+                                         std::initializer_list<NameKind> kinds, std::size_t most)
 {
     const QByteArray bytes = name.toUtf8();
     const auto ids = index.NumbersOf({bytes.data(), static_cast<std::size_t>(bytes.size())});
-    std::optional<ScriptIndex::Object> found;
+    std::vector<ScriptIndex::Object> found;
     if (ids.empty())
         return found;
     index.ForEachObject([&](const ScriptIndex::Object& object) {
         if (std::find(ids.begin(), ids.end(), object.name) != ids.end() &&
             std::find(kinds.begin(), kinds.end(), object.kind) != kinds.end())
-            found = object;
-        return !found;
+            found.push_back(object);
+        return found.size() < most;
     });
     return found;
+}
+
+std::optional<ScriptIndex::Object> FindDefinition(const ScriptIndex& index, const QString& name,
+                                                  std::initializer_list<NameKind> kinds)
+{
+    const auto found = FindAll(index, name, kinds, 1);
+    return found.empty() ? std::nullopt : std::optional(found.front());
 }
 
 // The columns that stand behind the first name, up to where it ends.
@@ -216,30 +224,64 @@ Proposal ScriptSource::Named(ProposalKind kind, const QString& name, int rank,
     return proposal;
 }
 
-// The columns of a table that the script creates or fills, or that the statement has made.
-void ScriptSource::AddColumnsOf(const QString& table, int rank,
-                                std::vector<Proposal>& proposals) const
+int ScriptSource::AddSelected(const std::vector<SelectItem>& items, const QString& table, int rank,
+                              std::vector<Proposal>& proposals, int deep) const
 {
-    for (const ScriptName& local : m_context.locals) {
-        if (local.kind == NameKind::Column && IsSame(local.parent, table))
-            proposals.push_back(Named(ProposalKind::Column, local.name, rank++, table));
+    for (const SelectItem& item : items) {
+        if (!item.star.isEmpty())
+            rank = AddColumnsOf(item.star, rank, proposals, deep - 1);
+        else
+            proposals.push_back(Named(ProposalKind::Column, item.name, rank++, table));
     }
-    const auto place = FindDefinition(m_index, table, {NameKind::Table, NameKind::View});
-    const auto found = place ? place : FindDefinition(m_index, table, {NameKind::InsertUse});
-    if (!found)
-        return;
-    const bool isTable = found->kind == NameKind::Table;
-    const std::u16string text = DefinitionOf(m_index, m_read, found->position,
-                                             isTable                         ? u"CREATE TABLE "
-                                             : found->kind == NameKind::View ? u"CREATE VIEW "
-                                                                             : u"INSERT INTO ");
-    for (const ScriptName& column :
-         MembersOf(NamesIn(text, NumberOf(m_index.Dialect())), NameKind::Column)) {
+    return rank;
+}
+
+// From where the script creates, fills or alters it.
+int ScriptSource::AddDefined(const ScriptIndex::Object& object, const QString& table, int rank,
+                             std::vector<Proposal>& proposals, int deep) const
+{
+    const bool isTable = object.kind == NameKind::Table || object.kind == NameKind::AlterUse;
+    const std::u16string text = DefinitionOf(m_index, m_read, object.position,
+                                             object.kind == NameKind::Table      ? u"CREATE TABLE "
+                                             : object.kind == NameKind::View     ? u"CREATE VIEW "
+                                             : object.kind == NameKind::AlterUse ? u"ALTER TABLE "
+                                                                                 : u"INSERT INTO ");
+    const auto columns = MembersOf(NamesIn(text, NumberOf(m_index.Dialect())), NameKind::Column);
+    for (const ScriptName& column : columns) {
         const QString type = isTable ? TypeOfColumn(text, column.end) : QString();
         proposals.push_back(
             Named(ProposalKind::Column, column.name, rank++,
                   type.isEmpty() ? table : type + QStringLiteral(" \u00b7 ") + table));
     }
+    if (columns.empty() && object.kind == NameKind::View)
+        rank = AddSelected(SelectListBehindAs(*m_index.Dialect(), ToUtf8(text)), table, rank,
+                           proposals, deep);
+    return rank;
+}
+
+// The columns of a table that the script creates, fills or alters, or that the statement has made.
+int ScriptSource::AddColumnsOf(const QString& table, int rank, std::vector<Proposal>& proposals,
+                               int deep) const
+{
+    if (deep == 0)
+        return rank;
+    const std::size_t before = proposals.size();
+    for (const ScriptName& local : m_context.locals) {
+        if (local.kind == NameKind::Column && IsSame(local.parent, table))
+            proposals.push_back(Named(ProposalKind::Column, local.name, rank++, table));
+    }
+    for (auto query = m_context.queries.rbegin(); query != m_context.queries.rend(); ++query) {
+        if (proposals.size() == before && IsSame(query->name, table))
+            rank = AddSelected(query->items, table, rank, proposals, deep);
+    }
+    const auto place = FindDefinition(m_index, table, {NameKind::Table, NameKind::View});
+    const auto found = place ? place : FindDefinition(m_index, table, {NameKind::InsertUse});
+    if (found)
+        rank = AddDefined(*found, table, rank, proposals, deep);
+    for (const ScriptIndex::Object& object :
+         FindAll(m_index, table, {NameKind::AlterUse}, kMostAlters))
+        rank = AddDefined(object, table, rank, proposals, deep);
+    return rank;
 }
 
 void ScriptSource::ProposeColumns(const ProposalQuery& /*query*/,

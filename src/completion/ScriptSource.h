@@ -29,7 +29,13 @@ private:
     void ProposeObjects(const ProposalQuery& query, std::vector<Proposal>& proposals) const;
     void ProposeLanguage(const ProposalQuery& query, std::vector<Proposal>& proposals) const;
     void ProposeWords(const ProposalQuery& query, std::vector<Proposal>& proposals) const;
-    void AddColumnsOf(const QString& table, int rank, std::vector<Proposal>& proposals) const;
+    // Gives the rank behind the last one. Tables within tables are followed so many deep.
+    int AddColumnsOf(const QString& table, int rank, std::vector<Proposal>& proposals,
+                     int deep = 4) const;
+    int AddSelected(const std::vector<SelectItem>& items, const QString& table, int rank,
+                    std::vector<Proposal>& proposals, int deep) const;
+    int AddDefined(const ScriptIndex::Object& table, const QString& name, int rank,
+                   std::vector<Proposal>& proposals, int deep) const;
     Proposal Named(ProposalKind kind, const QString& name, int rank,
                    const QString& description = {}) const;
     QString Written(const QString& name) const;

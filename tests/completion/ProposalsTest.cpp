@@ -151,6 +151,55 @@ TEST(Proposals, AreColumnsOfWhatIsOnlyInsertedInto)
               "alpha beta");
 }
 
+TEST(Proposals, AreTheColumnsOfAViewsQuery)
+{
+    EXPECT_EQ(Caret(std::u16string(kTables) +
+                    u"create view v as select distinct o.id, o.customer as [who is it], "
+                    u"count(*) number, o.id + 1, total = sum(o.id) from orders o "
+                    u"union select 1, 2, 3, 4, 5;\nselect v.| from v")
+                  .First(9),
+              "id [who is it] number total");
+    EXPECT_EQ(Caret(u"create view v (a, b) as select 1, 2;\nselect v.| from v").First(9), "a b");
+}
+
+TEST(Proposals, AreTheColumnsThatAStarStandsFor)
+{
+    EXPECT_EQ(Caret(std::u16string(kTables) + u"create view v as select top (5) c.*, 1 as one from "
+                                              u"orders o, customers c;\nselect v.| from v")
+                  .First(9),
+              "id name one");
+    EXPECT_EQ(Caret(u"create view v as select * from v;\nselect v.| from v").First(9), "v");
+}
+
+TEST(Proposals, AreTheColumnsOfACommonTablesQuery)
+{
+    EXPECT_EQ(Caret(std::u16string(kTables) +
+                    u"with a as (select id, name n from customers), b as (select *, 2 as two from "
+                    u"a) select b.| from b")
+                  .First(9),
+              "id n two");
+}
+
+TEST(Proposals, AreColumnsThatAlterAdds)
+{
+    EXPECT_EQ(Caret(std::u16string(kTables) +
+                    u"alter table dbo.customers add city varchar(20) not null, age int\nalter "
+                    u"table customers add constraint pk primary key (id)\nalter table customers "
+                    u"add tax decimal(9, 2);\nselect c.| from customers c")
+                  .First(9),
+              "id name city age tax");
+    EXPECT_EQ(Caret(u"create table t (a int);\nalter table t add (b number, c date);\nselect t.| "
+                    u"from t",
+                    "oracle")
+                  .First(9),
+              "a b c");
+    EXPECT_EQ(Caret(u"create table t (a int);\nalter table t add column b int, modify d int, add "
+                    u"c int;\nselect t.| from t",
+                    "mysql")
+                  .First(9),
+              "a b c");
+}
+
 TEST(Proposals, TellTheTypeOfAColumn)
 {
     Caret caret(std::u16string(kTables) + u"select o.na| from customers o");

@@ -49,6 +49,8 @@ constexpr const char16_t* kPieces[] = {
     u";\nremark isn't -\n it\n",
     u"\n.read it's\n",
     u"dbo.",
+    u"alter table dbo.stock add a int, b int\n",
+    u"create view v as select a.* from a;\n",
     u"from ",
     u";\n",
     u"\\g \\! ls 'a\n",

@@ -12,10 +12,10 @@ namespace {
 
 const char* Letter(NameKind kind)
 {
-    constexpr const char* kLetters[] = {"table",  "view",      "procedure", "function", "trigger",
-                                        "index",  "type",      "sequence",  "package",  "schema",
-                                        "column", "parameter", "variable",  "cursor",   "cte",
-                                        "alias",  "derived",   "use",       "insert",   "call"};
+    constexpr const char* kLetters[] = {
+        "table",    "view",    "procedure", "function", "trigger",   "index",    "type",
+        "sequence", "package", "schema",    "column",   "parameter", "variable", "cursor",
+        "cte",      "alias",   "derived",   "use",      "insert",    "call",     "alter"};
     return kLetters[static_cast<int>(kind)];
 }
 
