@@ -99,6 +99,16 @@ TEST_F(Lists, GoWhenACharacterIsTypedThatStopsThem)
     EXPECT_EQ(Placed(), u"al;|");
 }
 
+TEST_F(Lists, GoAndLeaveTheTextWhenACommandIsCancelled)
+{
+    Place(u"al|");
+    Offer({u"alpha", u"alpine"}, 2);
+    ASSERT_TRUE(IsShown());
+    m_engine.Send(msg::Cancel);
+    EXPECT_FALSE(IsShown());
+    EXPECT_EQ(Placed(), u"al|");
+}
+
 TEST_F(Lists, AreFilledInByACharacterThatEndsThem)
 {
     m_engine.Send(msg::AutoCSetFillUps, 0, u"(");
@@ -275,4 +285,14 @@ TEST_F(CallTips, HaveTheirColours)
     EXPECT_GT(CountOf(highlighted, 0x0000FF, name), 0);
     EXPECT_EQ(CountOf(highlighted, 0xFF0000, name), 0);
     EXPECT_GT(CountOf(highlighted, 0xFF0000), 0);
+}
+
+TEST_F(CallTips, GoWhenACommandIsCancelled)
+{
+    Show();
+    ASSERT_EQ(m_engine.Send(msg::CallTipActive), 1);
+    m_engine.Send(msg::Cancel);
+    EXPECT_EQ(m_engine.Send(msg::CallTipActive), 0);
+    QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+    EXPECT_TRUE(TipPicture().isNull());
 }
