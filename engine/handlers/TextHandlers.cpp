@@ -170,10 +170,11 @@ LRESULT GetLine(Engine& engine, WPARAM wParam, LPARAM lParam)
     if (line < 0 || line >= engine.raw.LineCount())
         return 0;
     auto* buffer = reinterpret_cast<char16_t*>(lParam);
-    const long room = engine.text.LengthOfLine(line);
-    return buffer ? Read(engine, engine.text.StartInBytes(line), engine.text.StartInBytes(line + 1),
-                         room, buffer)
-                  : room;
+    if (!buffer)
+        return engine.text.LengthOfLine(line);
+    const BytePos from = engine.text.StartInBytes(line);
+    const BytePos to = engine.text.StartInBytes(line + 1);
+    return Read(engine, from, to, to.value - from.value, buffer); // no more units than bytes
 }
 
 // Fills the buffer with at most length - 1 units of the caret's line; gives the caret's place in

@@ -188,11 +188,12 @@ TextIndex::Place TextIndex::IndexedStart(long line) const
             StartInBytes(line).value};
 }
 
+// The stock engine has no answer for what is beyond the line behind the last.
 BytePos TextIndex::StartInBytes(long line) const
 {
-    if (line >= m_raw.LineCount())
-        return {m_raw.Length()};
-    return {static_cast<long>(m_raw.Send(Sci::SCI_POSITIONFROMLINE, Word(std::max(line, 0L))))};
+    const auto start =
+        static_cast<long>(m_raw.Send(Sci::SCI_POSITIONFROMLINE, Word(std::max(line, 0L))));
+    return {start >= 0 ? start : m_raw.Length()};
 }
 
 UnitPos TextIndex::StartOfLine(long line) const
