@@ -81,6 +81,12 @@ void Columns::Begin() const
     m_raw.Send(Sci::SCI_SETRECTANGULARSELECTIONANCHOR, static_cast<std::uintptr_t>(anchor));
 }
 
+void Columns::Settle() const
+{
+    if (Ask(m_raw, Sci::SCI_SELECTIONISRECTANGLE))
+        m_raw.Send(Sci::SCI_TEXTHEIGHT);
+}
+
 void Columns::Dissolve() const
 {
     if (!Ask(m_raw, Sci::SCI_SELECTIONISRECTANGLE))

@@ -153,6 +153,7 @@ LRESULT Engine::Perform(UINT message, WPARAM wParam, LPARAM lParam)
     LRESULT result = 0;
     {
         const ChangeReporter::Scope scope;
+        columns.Settle();
         const bool keepsWhole = text.MayHaveNoncharacters();
         if (keepsWhole)
             wholeCharacters.Begin();

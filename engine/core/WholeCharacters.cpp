@@ -27,10 +27,6 @@ void WholeCharacters::Begin()
     if (!m_listens)
         m_engine.raw.Send(Sci::SCI_STARTRECORD);
     m_listens = true;
-    // Styles that wait would have the columns of a rectangle counted anew in the middle of a
-    // change.
-    if (IsRectangle(Get(Sci::SCI_GETSELECTIONMODE)))
-        m_engine.raw.Send(Sci::SCI_TEXTHEIGHT);
     Round(true);
 }
 

@@ -33,6 +33,15 @@ bool HasScreenFor(const Engine& engine, long position)
     return IsOnScreen(engine, position);
 }
 
+// Where the stock engine puts the list. What the window tells as its caret is the corner of a
+// rectangle, or that of another line than the one of several carets that counts.
+long ListCaret(const Engine& engine)
+{
+    const LRESULT main = engine.raw.Send(Sci::SCI_GETMAINSELECTION);
+    return static_cast<long>(
+        engine.raw.Send(Sci::SCI_GETSELECTIONNCARET, static_cast<WPARAM>(main)));
+}
+
 using Proposals = std::vector<std::shared_ptr<znsqlassist::SQLCompletionProposal>>;
 
 LRESULT AutoCShow(Engine& engine, WPARAM wParam, LPARAM lParam)
@@ -53,7 +62,7 @@ LRESULT AutoCShow(Engine& engine, WPARAM wParam, LPARAM lParam)
         if (proposal->Image() >= 0)
             list += typeSeparator + std::to_string(proposal->Image());
     }
-    const auto caret = static_cast<long>(engine.raw.Send(Sci::SCI_GETCURRENTPOS));
+    const long caret = ListCaret(engine);
     const long typed = std::max<long>(config->typedLength, 0);
     const long start = engine.Bytes(std::max(0L, engine.Units(caret) - typed));
     if (!HasScreenFor(engine, start))
@@ -65,7 +74,7 @@ LRESULT AutoCShow(Engine& engine, WPARAM wParam, LPARAM lParam)
 LRESULT UserListShow(Engine& engine, WPARAM wParam, LPARAM lParam)
 {
     const Utf8Text list(TerminatedText(reinterpret_cast<const char16_t*>(lParam)));
-    const auto caret = static_cast<long>(engine.raw.Send(Sci::SCI_GETCURRENTPOS));
+    const long caret = ListCaret(engine);
     if (HasScreenFor(engine, caret))
         engine.raw.Send(Sci::SCI_USERLISTSHOW, wParam, list.Data());
     return 0;

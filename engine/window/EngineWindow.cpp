@@ -32,6 +32,7 @@ bool TellAfter(Engine& engine, Handle handle)
     bool handled = false;
     {
         const ChangeReporter::Scope scope;
+        engine.columns.Settle();
         if (engine.text.MayHaveNoncharacters()) {
             const QPointer<QObject> alive(&engine.window);
             engine.wholeCharacters.Begin();

@@ -4,6 +4,8 @@
 
 #include "control/Completion.h"
 
+#include <Qsci/qsciscintillabase.h>
+
 #include <QTest>
 #include <QWidget>
 
@@ -130,6 +132,35 @@ TEST(HostileCalls, AWindowOffEveryScreenShowsNoList)
         EXPECT_EQ(engine.Send(msg::AutoCActive), place.x() > 0) << place.x();
         engine.Send(msg::AutoCCancel);
     }
+}
+
+TEST(HostileCalls, AListIsShownAtTheCaretThatCountsOfColumns)
+{
+    EngineUnderTest engine;
+    QWidget& top = *engine.Parent().GetSafeHwnd();
+    top.move(10, 10);
+    top.show();
+    engine.SetText(std::u16string(3000, u'\n'));
+    const auto& stock = *qobject_cast<QsciScintillaBase*>(engine.Window());
+    stock.SendScintilla(QsciScintillaBase::SCI_SETRECTANGULARSELECTIONCARET, 3000L);
+    stock.SendScintilla(QsciScintillaBase::SCI_SCROLLCARET);
+    stock.SendScintilla(QsciScintillaBase::SCI_SETMAINSELECTION, 0L);
+    engine.Send(msg::UserListShow, 1, u"one two");
+    EXPECT_EQ(engine.Send(msg::AutoCActive), 1);
+    EXPECT_EQ(engine.Send(msg::GetFirstVisibleLine), 0);
+}
+
+TEST(HostileCalls, ColumnsTakeACharacterWhileStylesWaitToBeApplied)
+{
+    EngineUnderTest engine;
+    engine.Parent().GetSafeHwnd()->show();
+    engine.SetText(u"ab\ncd\nef\ngh");
+    engine.Send(msg::SetOvertype, 1);
+    for (int i = 0; i < 3; ++i)
+        engine.Send(msg::LineDownRectExtend);
+    engine.Send(msg::StyleSetSize, 32, LPARAM{20});
+    QTest::keyClick(engine.Window(), 'X', Qt::ShiftModifier);
+    EXPECT_EQ(engine.Text(), u"Xb\nXd\nXf\nXh");
 }
 
 TEST(HostileCalls, LinesOfAReadOnlyTextAreNotJoined)
