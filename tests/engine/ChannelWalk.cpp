@@ -207,7 +207,9 @@ void ChannelWalk::Hide()
              LPARAM{0x400 + Pick(0, 3) + 0x2000 * Pick(0, 1)});
         Send(msg::ToggleFold, static_cast<WPARAM>(line));
     } else {
-        Send(msg::HideLines, static_cast<WPARAM>(line), LPARAM{line + Pick(0, 5)});
+        const long more = Pick(0, 5);
+        Send(msg::HideLines, static_cast<WPARAM>(line),
+             LPARAM{line > LONG_MAX - more ? line : line + more});
     }
 }
 
