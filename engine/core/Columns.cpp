@@ -9,8 +9,8 @@ namespace {
 
 using Sci = QsciScintillaBase;
 
-constexpr long kMostBlanks = 700 * 1000;
-constexpr long kSurely = 200 * 1000; // pixels, whatever the font
+constexpr long kMostBlanks = 100 * 1000; // more take seconds once lines are wrapped
+constexpr long kSurely = 30 * 1000;      // pixels, whatever the font
 constexpr std::uintptr_t kStyles = 256;
 
 long Ask(const Raw& raw, unsigned message, long wParam = 0, long lParam = 0)
@@ -33,6 +33,13 @@ long NarrowestBlanks(const Raw& raw)
 }
 
 } // namespace
+
+// A thin one too, which is what typing in a rectangle leaves.
+bool Columns::AreSelected() const
+{
+    const long mode = Ask(m_raw, Sci::SCI_GETSELECTIONMODE);
+    return mode == Sci::SC_SEL_RECTANGLE || mode == Sci::SC_SEL_THIN;
+}
 
 bool Columns::IsNear(long pixels) const
 {
@@ -61,7 +68,7 @@ bool Columns::IsLineNarrow(long position, long blanks) const
 
 bool Columns::HaveRoom() const
 {
-    if (!Ask(m_raw, Sci::SCI_SELECTIONISRECTANGLE))
+    if (!AreSelected())
         return IsLineNarrow(Ask(m_raw, Sci::SCI_GETCURRENTPOS), 0) &&
                IsLineNarrow(Ask(m_raw, Sci::SCI_GETANCHOR), 0);
     return IsLineNarrow(Ask(m_raw, Sci::SCI_GETRECTANGULARSELECTIONCARET),
@@ -72,7 +79,7 @@ bool Columns::HaveRoom() const
 
 void Columns::Begin() const
 {
-    if (Ask(m_raw, Sci::SCI_SELECTIONISRECTANGLE) || !HaveRoom())
+    if (AreSelected() || !HaveRoom())
         return;
     const long caret = Ask(m_raw, Sci::SCI_GETCURRENTPOS);
     const long anchor = Ask(m_raw, Sci::SCI_GETANCHOR);
@@ -83,13 +90,13 @@ void Columns::Begin() const
 
 void Columns::Settle() const
 {
-    if (Ask(m_raw, Sci::SCI_SELECTIONISRECTANGLE))
+    if (AreSelected())
         m_raw.Send(Sci::SCI_TEXTHEIGHT);
 }
 
 void Columns::Dissolve() const
 {
-    if (!Ask(m_raw, Sci::SCI_SELECTIONISRECTANGLE))
+    if (!AreSelected())
         return;
     const long caret = Ask(m_raw, Sci::SCI_GETCURRENTPOS);
     const long anchor = Ask(m_raw, Sci::SCI_GETANCHOR);

@@ -12,6 +12,7 @@ class Columns
 public:
     explicit Columns(const Raw& raw) : m_raw(raw) {}
 
+    bool AreSelected() const;
     // For a rectangle that the lines of the caret and of the anchor are in.
     bool HaveRoom() const;
     // At a place in the window, pixels from its left.

@@ -9,11 +9,6 @@ namespace {
 
 using Sci = QsciScintillaBase;
 
-bool IsRectangle(long mode)
-{
-    return mode == Sci::SC_SEL_RECTANGLE || mode == Sci::SC_SEL_THIN;
-}
-
 } // namespace
 
 long WholeCharacters::Get(UINT number, long selection) const
@@ -54,7 +49,7 @@ void WholeCharacters::Round(bool down) const
         else
             raw.Send(set, static_cast<WPARAM>(selection), whole);
     };
-    if (IsRectangle(Get(Sci::SCI_GETSELECTIONMODE))) {
+    if (m_engine.columns.AreSelected()) {
         round(Sci::SCI_GETRECTANGULARSELECTIONCARET, Sci::SCI_SETRECTANGULARSELECTIONCARET, 0);
         round(Sci::SCI_GETRECTANGULARSELECTIONANCHOR, Sci::SCI_SETRECTANGULARSELECTIONANCHOR, 0);
     }

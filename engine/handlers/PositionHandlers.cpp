@@ -60,9 +60,19 @@ LRESULT LineLength(Engine& engine, WPARAM wParam, LPARAM)
     return engine.text.LengthOfLine(line);
 }
 
+// Where styles go on: at the start of a character that they ended inside of.
+long StylingStart(const Engine& engine)
+{
+    const auto end = static_cast<long>(engine.raw.Send(Sci::SCI_GETENDSTYLED));
+    const long start = CharacterStart(engine.raw, end);
+    if (start != end)
+        engine.raw.Send(Sci::SCI_STARTSTYLING, static_cast<WPARAM>(start));
+    return start;
+}
+
 LRESULT SetStyling(Engine& engine, WPARAM wParam, LPARAM lParam)
 {
-    const auto from = static_cast<long>(engine.raw.Send(Sci::SCI_GETENDSTYLED));
+    const long from = StylingStart(engine);
     const long length = std::max(0L, static_cast<long>(static_cast<int>(wParam)));
     const long to = std::max(from, engine.Bytes(engine.Units(from) + length));
     return engine.raw.Send(Sci::SCI_SETSTYLING, static_cast<WPARAM>(to - from), lParam);
@@ -72,7 +82,7 @@ LRESULT SetStyling(Engine& engine, WPARAM wParam, LPARAM lParam)
 LRESULT SetStylingEx(Engine& engine, WPARAM wParam, LPARAM lParam)
 {
     const auto* styles = reinterpret_cast<const char*>(lParam);
-    const auto from = static_cast<long>(engine.raw.Send(Sci::SCI_GETENDSTYLED));
+    const long from = StylingStart(engine);
     const long start = engine.Units(from);
     const long length = std::min<long>(static_cast<int>(wParam), engine.text.Length() - start);
     if (!styles || length <= 0)

@@ -51,7 +51,7 @@ bool Carets::Add(QPoint point)
 // A column is made anew at each character, of its own lines alone.
 void Carets::DissolveColumn()
 {
-    if (!m_raw.Send(Sci::SCI_SELECTIONISRECTANGLE))
+    if (!Columns(m_raw).AreSelected())
         return;
     std::vector<std::pair<std::intptr_t, std::intptr_t>> ranges; // caret and anchor
     const auto count = static_cast<std::uintptr_t>(m_raw.Send(Sci::SCI_GETSELECTIONS));

@@ -319,11 +319,11 @@ void EngineWindow::mousePressEvent(QMouseEvent* event)
     m_addsCaret = isLeft && held == Qt::ControlModifier && m_carets.Add(event->pos());
     if (m_addsCaret)
         return;
-    if (IsFar(event->pos())) {
+    const bool isColumn = isLeft && held.testFlag(Qt::AltModifier);
+    if (IsFar(event->pos(), isColumn || held.testFlag(Qt::ControlModifier))) {
         PressFar(*event);
         return;
     }
-    const bool isColumn = isLeft && held.testFlag(Qt::AltModifier);
     if (!isColumn && !held.testFlag(Qt::ControlModifier)) {
         QsciScintillaBase::mousePressEvent(event);
         return;
@@ -336,10 +336,11 @@ void EngineWindow::mousePressEvent(QMouseEvent* event)
     event->setAccepted(press.isAccepted());
 }
 
-// So far to the right the stock engine aborts, whether a button is pressed or not.
-bool EngineWindow::IsFar(QPoint point) const
+// So far to the right the stock engine aborts, whether a button is pressed or not; for columns in
+// the margins too.
+bool EngineWindow::IsFar(QPoint point, bool makesColumns) const
 {
-    return !m_engine.columns.HaveRoomAt(point.x()) && m_carets.IsInText(point);
+    return !m_engine.columns.HaveRoomAt(point.x()) && (makesColumns || m_carets.IsInText(point));
 }
 
 void EngineWindow::PressFar(const QMouseEvent& event)
@@ -356,7 +357,7 @@ void EngineWindow::PressFar(const QMouseEvent& event)
 
 void EngineWindow::mouseDoubleClickEvent(QMouseEvent* event)
 {
-    if (IsFar(event->pos()))
+    if (IsFar(event->pos(), m_engine.columns.AreSelected()))
         PressFar(*event);
     else
         QsciScintillaBase::mouseDoubleClickEvent(event);
@@ -364,7 +365,7 @@ void EngineWindow::mouseDoubleClickEvent(QMouseEvent* event)
 
 void EngineWindow::mouseMoveEvent(QMouseEvent* event)
 {
-    const bool isFar = IsFar(event->pos());
+    const bool isFar = IsFar(event->pos(), m_engine.columns.AreSelected());
     if ((m_addsCaret || isFar) && event->buttons().testFlag(Qt::LeftButton))
         m_carets.Extend(event->pos());
     else if (!isFar)
@@ -376,7 +377,7 @@ void EngineWindow::mouseReleaseEvent(QMouseEvent* event)
 {
     if (std::exchange(m_addsCaret, false))
         return;
-    if (IsFar(event->pos()))
+    if (IsFar(event->pos(), m_engine.columns.AreSelected()))
         m_engine.columns.Dissolve();
     QsciScintillaBase::mouseReleaseEvent(event);
 }

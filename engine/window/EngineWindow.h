@@ -54,7 +54,7 @@ private:
     void EndComposition();
     void TypeText(const QString& text);
     void PressKey(QKeyEvent* event);
-    bool IsFar(QPoint point) const;
+    bool IsFar(QPoint point, bool makesColumns) const;
     void PressFar(const QMouseEvent& event);
     bool TypeInLongLine(const QKeyEvent& event);
     bool IsTurnTaken(const QWheelEvent& event, int step);

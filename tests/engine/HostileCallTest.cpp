@@ -142,9 +142,9 @@ TEST(HostileCalls, AListIsShownAtTheCaretThatCountsOfColumns)
     top.show();
     engine.SetText(std::u16string(3000, u'\n'));
     const auto& stock = *qobject_cast<QsciScintillaBase*>(engine.Window());
-    stock.SendScintilla(QsciScintillaBase::SCI_SETRECTANGULARSELECTIONCARET, 3000L);
+    stock.SendScintilla(QsciScintillaBase::SCI_SETRECTANGULARSELECTIONCARET, 3000UL);
     stock.SendScintilla(QsciScintillaBase::SCI_SCROLLCARET);
-    stock.SendScintilla(QsciScintillaBase::SCI_SETMAINSELECTION, 0L);
+    stock.SendScintilla(QsciScintillaBase::SCI_SETMAINSELECTION, 0UL);
     engine.Send(msg::UserListShow, 1, u"one two");
     EXPECT_EQ(engine.Send(msg::AutoCActive), 1);
     EXPECT_EQ(engine.Send(msg::GetFirstVisibleLine), 0);
@@ -155,12 +155,55 @@ TEST(HostileCalls, ColumnsTakeACharacterWhileStylesWaitToBeApplied)
     EngineUnderTest engine;
     engine.Parent().GetSafeHwnd()->show();
     engine.SetText(u"ab\ncd\nef\ngh");
-    engine.Send(msg::SetOvertype, 1);
     for (int i = 0; i < 3; ++i)
         engine.Send(msg::LineDownRectExtend);
+    QTest::keyClick(engine.Window(), 'Y', Qt::ShiftModifier);
+    engine.Send(msg::SetOvertype, 1);
     engine.Send(msg::StyleSetSize, 32, LPARAM{20});
     QTest::keyClick(engine.Window(), 'X', Qt::ShiftModifier);
-    EXPECT_EQ(engine.Text(), u"Xb\nXd\nXf\nXh");
+    EXPECT_EQ(engine.Text(), u"YXb\nYXd\nYXf\nYXh");
+}
+
+TEST(HostileCalls, AListAtAColumnOffEveryScreenIsNotShownOnceStylesAreApplied)
+{
+    EngineUnderTest engine;
+    engine.Parent().GetSafeHwnd()->show();
+    engine.SetText(std::u16string(3000, u'\n'));
+    const auto& stock = *qobject_cast<QsciScintillaBase*>(engine.Window());
+    stock.SendScintilla(QsciScintillaBase::SCI_SETRECTANGULARSELECTIONCARET, 3000UL);
+    QTest::keyClick(engine.Window(), 'Y', Qt::ShiftModifier);
+    stock.SendScintilla(QsciScintillaBase::SCI_SETMAINSELECTION, 0UL);
+    engine.Send(msg::LineScroll, 0, LPARAM{-3000});
+    engine.Send(msg::StyleSetSize, 32, LPARAM{20});
+    engine.Send(msg::UserListShow, 1, u"one two");
+    EXPECT_EQ(engine.Send(msg::AutoCActive), 0);
+}
+
+TEST(HostileCalls, AColumnBegunInTheMarginOfAViewThatIsFarRightIsACaret)
+{
+    EngineUnderTest engine;
+    engine.Parent().GetSafeHwnd()->show();
+    engine.SetText(u"ab\ncd");
+    engine.Send(msg::SetMarginWidthN, 1, LPARAM{40});
+    engine.Send(msg::SetXOffset, 1000000000);
+    engine.Send(msg::StyleSetSize, 0, LPARAM{1});
+    auto* viewport = engine.Window()->findChild<QWidget*>(QStringLiteral("qt_scrollarea_viewport"));
+    QTest::mouseClick(viewport, Qt::LeftButton, Qt::AltModifier, QPoint(20, 4));
+    EXPECT_EQ(engine.Send(msg::SelectionIsRectangle), 0);
+    EXPECT_EQ(engine.Send(msg::GetLineCount), 2);
+    EXPECT_LE(engine.Send(msg::GetCurrentPos), 2);
+}
+
+TEST(HostileCalls, StylesThatEndedInsideOfACharacterGoOnAtItsStart)
+{
+    EngineUnderTest engine;
+    engine.SetText(u"\u4e2dx");
+    const auto& stock = *qobject_cast<QsciScintillaBase*>(engine.Window());
+    stock.SendScintilla(QsciScintillaBase::SCI_STARTSTYLING, 2UL);
+    const char styles[] = {5, 7, 8};
+    engine.Send(msg::SetStylingEx, 2, styles + 1);
+    EXPECT_EQ(engine.Send(msg::GetStyleAt, 0), 7);
+    EXPECT_EQ(engine.Send(msg::GetStyleAt, 1), 8);
 }
 
 TEST(HostileCalls, LinesOfAReadOnlyTextAreNotJoined)
