@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "bench/MemoryBench.h"
+#include "bench/WindowBench.h"
 #include "platform/windows/Questions.h"
 
 #include <QApplication>
@@ -29,7 +30,7 @@ int main(int argc, char** argv)
     QApplication application(argc, argv);
     NoQuestions questions;
     SetUserQuestions(&questions);
-    if (bench::RunAsChild(argc, argv))
+    if (bench::RunAsChild(argc, argv) || bench::RunInWindow(argc, argv))
         return 0;
     benchmark::Initialize(&argc, argv);
     benchmark::RunSpecifiedBenchmarks();
