@@ -11,6 +11,7 @@
 #include "editing/ZNCoreEditorControlEx.h"
 #include "editing/ZNCoreEditorWidget.h"
 #include "editing/operations/Macro.h"
+#include "engine/analysis/SqlScanner.h"
 #include "platform/docview/CreateContext.h"
 
 #include <QApplication>
@@ -131,6 +132,55 @@ void CompletionMemory(benchmark::State& state)
     ReportFigure(state, memory / size, 0.15, "of the text's size");
 }
 BENCHMARK(CompletionMemory)->DenseRange(0, 2)->Iterations(1);
+
+// The longest that the window does nothing else while all is read again behind a comment that is
+// opened in front, and closed.
+void CompletionIdle(benchmark::State& state)
+{
+    Typist typist(2);
+    CZNCoreEditorControlEx& control = typist.editor.control();
+    double longest = 0;
+    for (auto _ : state) {
+        for (const char16_t* text : {u"/*", u"*/"}) {
+            bool isDone = false;
+            const auto connection = QObject::connect(
+                &typist.Index(), &completion::LiveIndex::Finished, [&] { isDone = true; });
+            control.InsertText(0, text, 1);
+            while (!isDone)
+                longest = std::max(longest, CpuSeconds([] {
+                                       QApplication::processEvents(QEventLoop::AllEvents, 0);
+                                   }));
+            QObject::disconnect(connection);
+        }
+    }
+    ReportFigure(state, longest * 1e3, 16, "ms at a time behind an edit in front");
+}
+BENCHMARK(CompletionIdle)->Iterations(1);
+
+// The whole index beside a walk over the tokens of the same text.
+void CompletionBuild(benchmark::State& state)
+{
+    const std::string& utf8 = TextOf(2);
+    const std::u16string text(utf8.begin(), utf8.end());
+    const auto* dialect = engine::analysis::DialectByName("transact-sql");
+    const auto read = [&](long start, long end, std::u16string& units) {
+        units.assign(text, static_cast<std::size_t>(start), static_cast<std::size_t>(end - start));
+    };
+    MeasurePair(
+        state,
+        [&] {
+            completion::ScriptIndex index(dialect);
+            index.Reset(static_cast<long>(text.size()));
+            while (index.Work(read, 1 << 20)) {}
+            benchmark::DoNotOptimize(index.MemoryBytes());
+        },
+        [&] {
+            engine::analysis::SqlScanner scanner(*dialect, engine::analysis::TextSpans(utf8));
+            while (scanner.Next().kind != engine::analysis::TokenKind::End) {}
+        },
+        0);
+}
+BENCHMARK(CompletionBuild)->Iterations(3)->Unit(benchmark::kMillisecond);
 
 // A view with the words near its caret opened.
 class NearView final : public CZNCoreEditorView
