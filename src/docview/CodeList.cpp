@@ -10,7 +10,10 @@
 
 #include <algorithm>
 #include <array>
+#include <functional>
 #include <memory>
+#include <string>
+#include <string_view>
 #include <unordered_set>
 
 namespace {
@@ -32,6 +35,17 @@ std::u16string LineBeforeCaret(CZNCoreEditorControlEx& control)
         return {};
     return std::u16string(fitting.substr(0, static_cast<std::size_t>(caret)));
 }
+
+// Looked up by what stands in the text, which is mostly there already.
+struct WordHash
+{
+    using is_transparent = void;
+    std::size_t operator()(std::u16string_view word) const
+    {
+        return std::hash<std::u16string_view>{}(word);
+    }
+};
+using Words = std::unordered_set<std::u16string, WordHash, std::equal_to<>>;
 
 std::u16string WordBeforeCaret(CZNCoreEditorControlEx& control)
 {
@@ -87,7 +101,9 @@ QStringList CZNCoreEditorView::KeywordsLike(const QString& word)
 // From the text's start to its end, in the order of their first appearance.
 void CZNCoreEditorView::GetWordsNear(const char16_t* word, int length, QStringList& list)
 {
-    std::unordered_set<QString> known(list.begin(), list.end());
+    Words known;
+    for (const QString& each : list)
+        known.insert(each.toStdU16String());
     const long skip = m_coreEditor.GetCurrentPos(1) - length;
     const long end = m_coreEditor.GetLength(1);
     std::array<char16_t, kLongestWord + 1> room;
@@ -107,11 +123,11 @@ void CZNCoreEditorView::GetWordsNear(const char16_t* word, int length, QStringLi
         while (size < piece.size() && codewords::IsWordUnit(piece[size]))
             ++size;
         long step = static_cast<long>(size) - 1;
-        if (step >= length) {
-            const QString found(reinterpret_cast<const QChar*>(piece.data()),
-                                static_cast<qsizetype>(size));
-            if (known.insert(found).second)
-                list << found;
+        const std::u16string_view found = piece.substr(0, size);
+        if (step >= length && !known.contains(found)) {
+            known.emplace(found);
+            list << QString(reinterpret_cast<const QChar*>(found.data()),
+                            static_cast<qsizetype>(size));
         }
         start = at + std::max(step, 1L);
     }

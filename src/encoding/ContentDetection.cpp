@@ -6,6 +6,8 @@
 #include "platform/text/Utf8.h"
 
 #include <algorithm>
+#include <cstdint>
+#include <cstring>
 #include <string_view>
 
 namespace content {
@@ -231,6 +233,14 @@ Converter::encodingType DetectUtf8(const unsigned char* bytes, unsigned int leng
     bool pureAscii = true;
     unsigned int i = 0;
     while (i < length) {
+        std::uint64_t eight = 0;
+        if (length - i >= sizeof eight) {
+            std::memcpy(&eight, bytes + i, sizeof eight);
+            if ((eight & 0x8080808080808080) == 0) { // most text is ASCII
+                i += sizeof eight;
+                continue;
+            }
+        }
         const unsigned char lead = bytes[i];
         if (lead == 0xC0 || lead == 0xC1 || lead >= 0xF5)
             return Converter::encANSI;

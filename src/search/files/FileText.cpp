@@ -5,6 +5,7 @@
 
 #include <algorithm>
 #include <array>
+#include <cstdint>
 #include <cstring>
 
 #include <fcntl.h>
@@ -50,13 +51,47 @@ bool HasZero(const unsigned char* units, unsigned int size)
     return false;
 }
 
+// The bytes behind the lead that a character of so many bytes may have first.
+bool MayFollow(unsigned char lead, unsigned char second)
+{
+    const unsigned char least = lead == 0xE0 ? 0xA0 : lead == 0xF0 ? 0x90 : 0x80;
+    const unsigned char most = lead == 0xED ? 0x9F : lead == 0xF4 ? 0x8F : 0xBF;
+    return second >= least && second <= most;
+}
+
+// Without a conversion, which would cost as much as the search.
 bool IsWellFormed(const char* text, std::size_t size)
 {
-    if (IsAsciiText(text, size))
-        return true;
-    thread_local std::u16string units;
-    units.resize(size);
-    return platform::utf8::ToUnitsWhileWellFormed(AsBytes(text), size, units.data()).bytes == size;
+    constexpr std::uint64_t kHighBits = 0x8080808080808080;
+    const unsigned char* bytes = AsBytes(text);
+    for (std::size_t at = 0; at < size;) {
+        std::uint64_t eight = 0;
+        if (size - at >= sizeof eight) {
+            std::memcpy(&eight, bytes + at, sizeof eight);
+            if ((eight & kHighBits) == 0) {
+                at += sizeof eight;
+                continue;
+            }
+        }
+        const unsigned char lead = bytes[at];
+        if (lead < 0x80) {
+            ++at;
+            continue;
+        }
+        const std::size_t length = lead < 0xC2   ? 0
+                                   : lead < 0xE0 ? 2
+                                   : lead < 0xF0 ? 3
+                                   : lead < 0xF5 ? 4
+                                                 : 0;
+        if (length == 0 || size - at < length || !MayFollow(lead, bytes[at + 1]))
+            return false;
+        for (std::size_t i = 2; i < length; ++i) {
+            if ((bytes[at + i] & 0xC0) != 0x80)
+                return false;
+        }
+        at += length;
+    }
+    return true;
 }
 
 } // namespace
@@ -72,6 +107,7 @@ FileText::Kind FileText::Open(const std::string& path, bool converts)
         close(handle);
         return Kind::NotAFile;
     }
+    m_size = status.st_size;
     m_file.reset(fdopen(handle, "rb"));
     if (!m_file) {
         close(handle);
@@ -106,6 +142,7 @@ FileText::Kind FileText::Open(const std::string& path, bool converts)
         m_bytesRead = static_cast<long long>(count);
     } else if (hadMark) {
         std::fseek(m_file.get(), static_cast<long>(count) - static_cast<long>(length), SEEK_SET);
+        m_bytesRead = static_cast<long long>(count) - static_cast<long long>(length);
     }
     return Kind::Text;
 }
@@ -123,12 +160,15 @@ bool FileText::ReadRaw(std::string& text, std::size_t bytes)
     const std::size_t old = text.size();
     text += m_tail;
     const std::size_t read = text.size();
-    text.resize(read + bytes);
-    const std::size_t count = std::fread(text.data() + read, 1, bytes, m_file.get());
+    // No more room than the file needs, and a byte that shows its end; all of it in one that grows.
+    const auto left = static_cast<std::size_t>(std::max(m_size - m_bytesRead, 0LL));
+    const std::size_t wanted = left > 0 ? std::min(bytes, left + 1) : bytes;
+    text.resize(read + wanted);
+    const std::size_t count = std::fread(text.data() + read, 1, wanted, m_file.get());
     text.resize(read + count);
     m_bytesRead += static_cast<long long>(count);
-    m_failed = std::ferror(m_file.get()) != 0;
-    m_atEnd = count < bytes;
+    m_atEnd = count < wanted;
+    m_failed = std::ferror(m_file.get()) != 0 || (m_atEnd && m_bytesRead < m_size);
     const std::size_t cut =
         m_isUtf8 && !m_atEnd ? CutCharacter(text.data() + old, text.size() - old) : 0;
     m_tail = text.substr(text.size() - cut);
@@ -136,7 +176,7 @@ bool FileText::ReadRaw(std::string& text, std::size_t bytes)
     const char* start = text.data() + old;
     const std::size_t size = text.size() - old;
     m_needsConversion = !(m_isUtf8 ? IsWellFormed(start, size) : IsAsciiText(start, size));
-    return !m_failed && !m_needsConversion && size > 0;
+    return !m_failed && !m_needsConversion && !m_atEnd;
 }
 
 bool FileText::ReadConverted(std::string& text, std::size_t bytes)
@@ -158,5 +198,6 @@ bool FileText::ReadConverted(std::string& text, std::size_t bytes)
     }
     if (const long at = std::ftell(m_file.get()); at > 0)
         m_bytesRead = at;
-    return text.size() > old;
+    m_failed = m_failed || (m_atEnd && m_bytesRead < m_size);
+    return !m_atEnd;
 }

@@ -24,12 +24,12 @@ public:
     // converts: from the start, whatever the file is.
     Kind Open(const std::string& path, bool converts);
 
-    // Appends about so many bytes; false behind the last ones, or once it has failed.
+    // Appends about so many bytes; false with the last ones, or once it has failed.
     bool Read(std::string& text, std::size_t bytes);
 
     bool IsConverting() const { return m_blocks != nullptr; }
     bool NeedsConversion() const { return m_needsConversion; } // begin again with converts
-    bool Failed() const { return m_failed; }
+    bool Failed() const { return m_failed; } // or it became shorter than it was when it was opened
     long long BytesRead() const { return m_bytesRead; }
 
 private:
@@ -43,5 +43,6 @@ private:
     bool m_needsConversion = false;
     bool m_failed = false;
     bool m_atEnd = false;
+    long long m_size = 0; // of the file as it was opened
     long long m_bytesRead = 0;
 };

@@ -239,11 +239,14 @@ FileMatch TextSearch::Describe(std::size_t start, std::size_t end)
         while (from < start && IsInside(text[from]))
             ++from;
     }
-    std::size_t to = std::min(text.size(), from + kLongest);
-    to = std::min(text.substr(0, to).find_first_of("\r\n", start), to);
-    while (to > start && to < text.size() && IsInside(text[to]))
-        --to;
-    if (m_lineText.isNull() || from != m_lineFrom || to != m_lineTo) {
+    // The next match of a line has the same text.
+    if (m_lineText.isNull() || from != m_lineFrom || start > m_lineTo) {
+        const std::size_t most = std::min(text.size(), from + kLongest);
+        std::size_t to = std::min(start, most);
+        while (to < most && text[to] != '\r' && text[to] != '\n')
+            ++to;
+        while (to > start && to < text.size() && IsInside(text[to]))
+            --to;
         m_lineText = TextOf(text.substr(from, to - from));
         m_lineFrom = from;
         m_lineTo = to;
@@ -273,6 +276,7 @@ long TextSearch::Search(bool isLast, long skip, std::vector<FileMatch>& matches)
 {
     const std::size_t size = m_text.bytes.size();
     std::size_t cut = size;
+    m_lineText = QString(); // it may have ended with the piece
     if (!isLast) {
         cut = size > m_overlap ? size - m_overlap : 0;
         while (cut > 0 && IsInside(m_text.bytes[cut]))

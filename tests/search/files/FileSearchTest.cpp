@@ -13,7 +13,9 @@
 #include <gmock/gmock.h>
 
 #include <atomic>
+#include <functional>
 #include <iostream>
+#include <utility>
 
 #include <sys/stat.h>
 #include <unistd.h>
@@ -37,6 +39,8 @@ public:
         into.matches.insert(into.matches.end(), file.matches.begin(), file.matches.end());
         if (stopsAt)
             stopsAt->Stop();
+        if (onFound)
+            onFound();
     }
     void OnNote(FileNote note, const QString& path) override { notes.emplace_back(note, path); }
     void OnDone(const FileSearchTotals& all) override { totals = all; }
@@ -45,6 +49,7 @@ public:
     std::vector<std::pair<FileNote, QString>> notes;
     FileSearchTotals totals;
     CFileSearch* stopsAt = nullptr; // with the first match
+    std::function<void()> onFound;
 };
 
 class FileSearches : public testing::Test
@@ -236,6 +241,38 @@ TEST_F(FileSearches, SayWhatTheyCouldNotRead)
     request.folders += folder.path();
     const Collector found = Search(request);
     EXPECT_EQ(found.totals.failures, 2);
+}
+
+TEST_F(FileSearches, TellThatAFileShrinksWhileItIsRead)
+{
+    for (const QByteArray line : {"needle in plain text\n", "needle in W\xF6rtern\n"}) {
+        const QString path = Write("a.sql", line.repeated(1000000));
+        Collector collector;
+        collector.onFound = [&] { QFile::resize(path, 3000000); };
+        CFileSearch search(For("needle"), collector);
+        search.Start();
+        search.Wait();
+        EXPECT_THAT(collector.notes, ElementsAre(std::pair(FileNote::Unreadable, path)));
+        EXPECT_GT(collector.totals.matches, 10000);
+        EXPECT_LT(collector.totals.matches, 500000);
+        EXPECT_EQ(collector.totals.files, 0);
+    }
+}
+
+TEST_F(FileSearches, SearchAFileThatGrowsWhileItIsRead)
+{
+    const QString path = Write("a.sql", QByteArray("needle\n").repeated(300000));
+    Collector collector;
+    collector.onFound = [&, isGrown = false]() mutable {
+        QFile file(path);
+        if (!std::exchange(isGrown, true) && file.open(QFile::Append))
+            file.write(QByteArray("needle\n").repeated(100000));
+    };
+    CFileSearch search(For("needle"), collector);
+    search.Start();
+    search.Wait();
+    EXPECT_THAT(collector.notes, IsEmpty());
+    EXPECT_EQ(collector.totals.matches, 400000);
 }
 
 TEST_F(FileSearches, SearchFilesWhoseNamesAreNotText)
