@@ -60,6 +60,18 @@ void DrawBox(const QStyleOption& option, QPainter& painter, bool isRound)
     }
 }
 
+void DrawEditFrame(const QStyleOption& option, QPainter& painter)
+{
+    constexpr double kCorner = 2;
+    const bool hasFocus = option.state & QStyle::State_HasFocus;
+    painter.setRenderHint(QPainter::Antialiasing);
+    QColor line = Frame(option);
+    line.setAlphaF(0.6F);
+    painter.setPen(hasFocus ? option.palette.color(QPalette::Highlight) : line);
+    painter.setBrush(Qt::NoBrush);
+    painter.drawRoundedRect(QRectF(option.rect).adjusted(0.5, 0.5, -0.5, -0.5), kCorner, kCorner);
+}
+
 // Quiet until the mouse is there.
 void DrawTabClose(const QStyleOption& option, QPainter& painter)
 {
@@ -100,6 +112,12 @@ void Style::drawPrimitive(PrimitiveElement element, const QStyleOption* option, 
 {
     const bool isBox = element == PE_IndicatorCheckBox || element == PE_IndicatorItemViewItemCheck;
     const bool isRound = element == PE_IndicatorRadioButton;
+    if (element == PE_FrameLineEdit) {
+        painter->save();
+        DrawEditFrame(*option, *painter);
+        painter->restore();
+        return;
+    }
     if (!isBox && !isRound && element != PE_IndicatorTabClose) {
         QProxyStyle::drawPrimitive(element, option, painter, widget);
         return;

@@ -7,6 +7,7 @@
 #include "editing/ZNCoreEditorControlEx.h"
 #include "host/finding/FindBar.h"
 #include "host/icons/Style.h"
+#include "host/pictures/LanguagesPicture.h"
 #include "host/pictures/PreferencesPictures.h"
 #include "host/recovery/RecoveryDialog.h"
 #include "host/window/MainWindow.h"
@@ -136,10 +137,12 @@ int main(int argc, char** argv)
     Style::Install();
     const QStringList words = QApplication::arguments();
     constexpr int kWords = 4;
-    if (words.size() < kWords)
+    if (words.size() < (words.value(1) == QLatin1String("LANGUAGES") ? kWords - 1 : kWords))
         return 2;
     if (words[1] == QLatin1String("SHEET"))
         return MakeSheet(words[2], words.mid(kWords - 1)) ? 0 : 1;
+    if (words[1] == QLatin1String("LANGUAGES"))
+        return PictureLanguages().save(words[2]) ? 0 : 1;
     const QDir folder(words[1]);
     if (words[3] == QLatin1String("DARK"))
         QApplication::setPalette(DarkPalette());

@@ -7,6 +7,9 @@
 #include "prefs/pages/Preferences.h"
 #include "tests/prefs/pages/PrefsFixture.h"
 
+#include <QAbstractItemView>
+#include <QAccessible>
+#include <QComboBox>
 #include <QPlainTextEdit>
 #include <QTemporaryDir>
 #include <QTest>
@@ -186,6 +189,59 @@ TEST_F(PrefsDialog, TakesAChangeWhoseNewsIsStillOnItsWay)
     dialog->Apply(false);
     ReadAgain();
     EXPECT_EQ(Language(kPlSql).GetIndentSize(), 5);
+}
+
+// The settings of this process are what is written, as a whole: the file is never a mixture of two
+// programs' settings, and what was not touched here stays as the other program left it.
+TEST_F(PrefsDialog, WritesOverWhatAnotherProgramWroteMeanwhileOnlyWhereSomethingChangedHere)
+{
+    for (const int language : {kTransactSql, kPlSql}) {
+        Language(language).SetIndentSize(3);
+        Language(language).Save();
+    }
+    Open();
+    const auto writeFromOutside = [](const char* name) {
+        QFile file(UserSettingsPath(QStringLiteral("Base/") + QLatin1String(name)));
+        EXPECT_TRUE(file.open(QIODevice::ReadOnly));
+        const QByteArray bytes = file.readAll();
+        file.close();
+        EXPECT_TRUE(file.open(QIODevice::WriteOnly | QIODevice::Truncate));
+        file.write(QByteArray(bytes).replace("<IndentSize>3<", "<IndentSize>8<"));
+    };
+    writeFromOutside("TransactSQL.xml");
+    writeFromOutside("PLSQL.xml");
+    Type(Show("PL/SQL"), id::TabSize, "7");
+    Click(*dialog, IDOK);
+    ReadAgain();
+    EXPECT_EQ(Language(kTransactSql).GetIndentSize(), 8);
+    EXPECT_EQ(Language(kPlSql).GetIndentSize(), 3);
+    EXPECT_EQ(Language(kPlSql).GetTabWidth(), 7);
+}
+
+TEST_F(PrefsDialog, NamesForAScreenReaderWhatTakesKeys)
+{
+    Open();
+    int named = 0;
+    for (const char* title : {"", "Code", "Color", "Font", "Keywords"}) {
+        Show("SQL", title);
+        for (const QWidget* widget : dialog->GetSafeHwnd()->findChildren<QWidget*>()) {
+            const bool isPart = qobject_cast<QComboBox*>(widget->parentWidget());
+            const bool takesKeys = qobject_cast<const QAbstractButton*>(widget) ||
+                                   qobject_cast<const QLineEdit*>(widget) ||
+                                   qobject_cast<const QComboBox*>(widget) ||
+                                   qobject_cast<const QAbstractItemView*>(widget);
+            if (isPart || !takesKeys || !widget->isVisible() ||
+                widget->focusPolicy() == Qt::NoFocus)
+                continue;
+            const auto* spoken =
+                QAccessible::queryAccessibleInterface(const_cast<QWidget*>(widget));
+            ASSERT_TRUE(spoken);
+            EXPECT_NE(spoken->text(QAccessible::Name), "")
+                << title << ": " << widget->metaObject()->className();
+            ++named;
+        }
+    }
+    EXPECT_GT(named, 40);
 }
 
 TEST_F(PrefsDialog, SavesTheLanguagesThatChangedAndNoOthers)
