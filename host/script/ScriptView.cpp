@@ -4,6 +4,7 @@
 #include "control/EngineRecords.h"
 #include "control/LongLine.h"
 #include "editing/language/EditorCompletion.h"
+#include "editing/looks/DesktopWatch.h"
 #include "host/commands/WorkbenchCommands.h"
 #include "host/completion/MacroCommands.h"
 #include "host/completion/TemplateInsertion.h"
@@ -63,6 +64,7 @@ int ScriptView::OnCreate(CCreateContext* context)
     m_coreEditor.SetScrollWidth(1, 1);
     m_coreEditor.SetScheme(appearance::Current());
     DefineBatchMark(m_coreEditor);
+    new DesktopWatch(*m_coreEditor.GetSafeHwnd(), [this] { DefineBatchMark(m_coreEditor); });
     m_coreEditor.GetSafeHwnd()->setAccessibleName(QStringLiteral("Script"));
     FileDrops::Take(*m_coreEditor.GetSafeHwnd());
     new NameClicks(*this); // goes with the editor's window

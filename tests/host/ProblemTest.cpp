@@ -65,6 +65,33 @@ TEST_F(WorkbenchProblems, MarkTheBatchOfTheActivePaneAlone)
     EXPECT_EQ(MarkedLines(), QList<int>({0, 1}));
 }
 
+TEST_F(WorkbenchProblems, MarkTheBatchInTheColoursOfTheDesktop)
+{
+    const auto shows = [this](QRgb colour) {
+        GoTo(0);
+        const QImage picture = Editor().GetSafeHwnd()->grab().toImage();
+        for (int y = 0; y < picture.height(); ++y) {
+            for (int x = 0; x < picture.width(); ++x) {
+                if (picture.pixel(x, y) == colour)
+                    return true;
+            }
+        }
+        return false;
+    };
+    constexpr QRgb kLight = 0xFF9DB8D9;
+    constexpr QRgb kDark = 0xFF4B6484;
+    m_window.show();
+    Open("a.tsql", "select 1\nselect 2\ngo\nselect 3\ngo\n");
+    EXPECT_TRUE(shows(kLight));
+    const QPalette before = QApplication::palette();
+    QApplication::setPalette(QPalette(Qt::black));
+    QApplication::processEvents();
+    EXPECT_TRUE(shows(kDark));
+    QApplication::setPalette(before);
+    QApplication::processEvents();
+    EXPECT_TRUE(shows(kLight));
+}
+
 TEST_F(WorkbenchProblems, MarkNoLineTwiceWhenTwoAreJoined)
 {
     m_window.show();
