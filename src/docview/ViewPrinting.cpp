@@ -60,7 +60,7 @@ void CZNCoreEditorView::OnPrint(CDC* dc, CPrintInfo* info)
         throw CInvalidArgException("no such page");
     record.chrg = {static_cast<int>(m_pageStarts[page]), static_cast<int>(m_pageStarts.back())};
     ApplyPrintStyle(false);
-    m_coreEditor.FormatRange(1, &record, 1);
+    PrintPage(m_coreEditor, record);
 }
 
 void CZNCoreEditorView::OnEndPrinting(CDC* /*dc*/, CPrintInfo* /*info*/)

@@ -120,6 +120,7 @@ public:
     const ColourScheme* Scheme() const; // the one in force; null for the settings alone
     void ApplyScheme();                 // once more, behind what has written over it
     void ApplyScheme(const ColourScheme& scheme, CSyntaxFile& syntax);
+    void ApplySchemeToStyles(const ColourScheme& scheme); // and to nothing around the text
     virtual bool GetUseWordWrap();
     virtual void SetVisibleLineNumber(bool visible);
     bool IsVisibleLineNumber() const { return m_visibleLineNumber; }

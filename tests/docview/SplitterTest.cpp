@@ -8,6 +8,7 @@
 #include "platform/windows/Disposal.h"
 #include "platform/windows/VisualManager.h"
 
+#include <QAbstractScrollArea>
 #include <QPainter>
 #include <QTest>
 
@@ -209,6 +210,10 @@ TEST_F(Splitter, IsDividedByDrawingItsBox)
 TEST_F(Splitter, LeavesTheScrollBarAllButAFewPixelsForItsBox)
 {
     Make(2, 2);
+    for (auto* area : splitter.GetSafeHwnd()->findChildren<QAbstractScrollArea*>()) {
+        area->setVerticalScrollBarPolicy(Qt::ScrollBarAlwaysOn);
+        area->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOn);
+    }
     Settle();
     constexpr int kLittle = 10;
     EXPECT_LE(Box("rowBox")->height(), kLittle);

@@ -2,6 +2,7 @@
 // The face of the editor for plain Qt hosts, held to the control behind it.
 #include "editing/ZNCoreEditorControlEx.h"
 #include "editing/ZNCoreEditorWidget.h"
+#include "platform/services/OptionsServer.h"
 
 #include <QAction>
 #include <QApplication>
@@ -9,10 +10,13 @@
 #include <QMenu>
 #include <QMetaProperty>
 #include <QPdfWriter>
+#include <QProcess>
 #include <QSignalSpy>
 #include <QTemporaryDir>
 
 #include <gtest/gtest.h>
+
+#include <algorithm>
 
 namespace {
 
@@ -346,6 +350,35 @@ TEST_F(EditorFace, EnablesItsActionsAsTheyArePossible)
     EXPECT_TRUE(cut->isEnabled());
     const std::unique_ptr<QMenu> menu(editor.createStandardContextMenu());
     EXPECT_TRUE(menu->actions().contains(cut));
+}
+
+// The picture of the page is poppler's.
+TEST_F(EditorFace, PrintsColoursForPaperFromADarkScreen)
+{
+    const QTemporaryDir folder;
+    editor.setScheme(QStringLiteral("Dark"));
+    editor.setLanguageName(QStringLiteral("SQL"));
+    editor.setText(QStringLiteral("select from where group having order\n").repeated(30));
+    CZNOptionsServer& options = *CZNOptionsServer::GetObjectW();
+    options.SetInt(option::PrintColours, 1);
+    const QImage screen = editor.grab().toImage();
+    {
+        QPdfWriter writer(folder.filePath("page.pdf"));
+        EXPECT_TRUE(editor.print(&writer));
+    }
+    options.SetInt(option::PrintColours, 0);
+    EXPECT_EQ(editor.grab().toImage(), screen);
+    ASSERT_EQ(QProcess::execute("pdftoppm", {"-r", "200", "-png", "-singlefile",
+                                             folder.filePath("page.pdf"), folder.filePath("page")}),
+              0);
+    const QImage page(folder.filePath("page.png"));
+    int darkest = 255;
+    for (int y = 0; y < page.height(); ++y) {
+        for (int x = 0; x < page.width(); ++x)
+            darkest = std::min(darkest, qGray(page.pixel(x, y)));
+    }
+    constexpr int kReadable = 110; // the dark scheme's words have some 170
+    EXPECT_LE(darkest, kReadable);
 }
 
 TEST_F(EditorFace, PrintsOnTheDevicesPages)

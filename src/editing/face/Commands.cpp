@@ -144,7 +144,7 @@ bool ZNCoreEditorWidget::print(QPagedPaintDevice* device)
         if (start > 0 && !device->newPage())
             return false;
         record.chrg = {start, end};
-        const auto next = static_cast<int>(control.FormatRange(1, &record, 1));
+        const auto next = static_cast<int>(PrintPage(control, record));
         if (next <= start) // a page that holds no character
             break;
         start = next;

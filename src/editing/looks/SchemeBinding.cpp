@@ -127,6 +127,13 @@ void CZNCoreEditorControlEx::ApplyScheme()
         ApplyScheme(*scheme, *syntax);
 }
 
+void CZNCoreEditorControlEx::ApplySchemeToStyles(const ColourScheme& scheme)
+{
+    CSyntaxFile* syntax = zncoreeditor::GetFileTypeManager()->GetSyntaxFile(m_currentLanguage);
+    if (syntax && syntax->Parse() && GetSafeHwnd())
+        ApplyStyles(scheme, *syntax, *this);
+}
+
 void CZNCoreEditorControlEx::ApplyScheme(const ColourScheme& scheme, CSyntaxFile& syntax)
 {
     ApplyStyles(scheme, syntax, *this);

@@ -3,6 +3,7 @@
 
 #include "control/EngineRecords.h"
 #include "editing/ZNCoreEditorControlEx.h"
+#include "looks/Schemes.h"
 #include "platform/services/OptionsServer.h"
 #include "platform/windows/DeviceContext.h"
 
@@ -21,6 +22,21 @@ void ApplyPrintColours(CZNCoreEditorControlEx& control)
         control.SetPrintColorMode(withGrounds ? kAsOnScreen : kColoursOnWhite, 1);
     else if (!withGrounds)
         control.SetPrintColorMode(kBlackOnWhite, 1);
+}
+
+long PrintPage(CZNCoreEditorControlEx& control, RangeToFormat& record)
+{
+    constexpr QLatin1String kPaper("Print");
+    CZNOptionsServer& options = *CZNOptionsServer::GetObjectW();
+    const ColourScheme* paper = control.Scheme() && !options.GetBool(option::PrintGround)
+                                    ? zncoreeditor::FindScheme(kPaper)
+                                    : nullptr;
+    if (paper)
+        control.ApplySchemeToStyles(*paper);
+    const long next = control.FormatRange(1, &record, 1);
+    if (paper)
+        control.ApplySchemeToStyles(*control.Scheme());
+    return next;
 }
 
 bool ApplyPrintFont(CZNCoreEditorControlEx& control)

@@ -13,6 +13,11 @@ struct RangeToFormat;
 // Colours and grounds. Grounds without colours leave the mode that the engine has.
 ZN_API void ApplyPrintColours(CZNCoreEditorControlEx& control);
 
+// A page, as FormatRange draws it. What is painted in a scheme on the screen is printed in the
+// scheme for paper, unless its grounds are printed too: colours for a dark screen are not to be
+// read on white.
+ZN_API long PrintPage(CZNCoreEditorControlEx& control, RangeToFormat& record);
+
 // The print font if the options want one, else nothing. A font that nobody has chosen is Tahoma,
 // and counts as chosen from then on. False if the options want none.
 ZN_API bool ApplyPrintFont(CZNCoreEditorControlEx& control);

@@ -116,7 +116,7 @@ void CZNCoreEditorControlEx::OnPrint(CDC* dc, CPrintInfo* info)
     }
     SetPrintMagnification(-1, 1);
     SetPrintWrapMode(1, 1);
-    FormatRange(1, &record, 1);
+    PrintPage(*this, record);
 }
 
 void CZNCoreEditorControlEx::OnEndPrinting(CDC* /*dc*/, CPrintInfo* /*info*/)
