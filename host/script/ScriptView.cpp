@@ -19,6 +19,7 @@
 #include "platform/docview/FrameWnd.h"
 #include "platform/windows/Mouse.h"
 
+#include <QApplication>
 #include <QTimer>
 
 #include <algorithm>
@@ -43,7 +44,7 @@ ScriptView::ScriptView()
 {
     m_coreEditor.SetUserSettingsFirst(true);
     m_rest.setSingleShot(true);
-    QObject::connect(&m_rest, &QTimer::timeout, &m_rest, [this] { FollowNow(); });
+    QObject::connect(&m_rest, &QTimer::timeout, &m_rest, [this] { FollowAtRest(); });
 }
 
 ScriptView::~ScriptView() = default;
@@ -245,6 +246,16 @@ void ScriptView::FollowAfter(std::chrono::milliseconds rest)
 {
     if (!m_rest.isActive() || m_rest.intervalAsDuration() > rest)
         m_rest.start(rest);
+}
+
+// While a box keeps people from the window, as that of what takes long does, the text may change on
+// and on, and each look at it would read all of what has been changed.
+void ScriptView::FollowAtRest()
+{
+    if (QApplication::activeModalWidget())
+        m_rest.start(kRest);
+    else
+        FollowNow();
 }
 
 // Of several views of a text the one that was active last has the bar.

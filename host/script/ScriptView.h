@@ -62,6 +62,7 @@ private:
     void LookAtFile(); // and asks about what others did to it
     void KeepNames(const SCNotification& record);
     void FollowAfter(std::chrono::milliseconds rest);
+    void FollowAtRest();
     void FitScrollRange();
     void CloseFrame();
     void SaveAsPdf();

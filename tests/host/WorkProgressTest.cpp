@@ -8,6 +8,8 @@
 #include <QDeadlineTimer>
 #include <QProgressDialog>
 #include <QPushButton>
+#include <QTest>
+#include <QTimer>
 
 namespace {
 
@@ -48,6 +50,22 @@ TEST_F(WorkProgressTest, StopsByItsButton)
     for (const QDeadlineTimer patience(20'000); goesOn && !patience.hasExpired();)
         goesOn = GoesOn(2);
     EXPECT_FALSE(goesOn);
+}
+
+TEST_F(WorkProgressTest, LetsTheWindowFollowTheTextOnlyOnceItIsOver)
+{
+    Open("a.sql", "one two\n");
+    Type(u"y");
+    EXPECT_TRUE(GoesOn(1));
+    Editor().GotoPos(5, 1);
+    Editor().ReplaceSel(u"x", 1);
+    bool isLater = false; // than the window follows otherwise
+    QTimer::singleShot(400, [&] { isLater = true; });
+    EXPECT_TRUE(QTest::qWaitFor([&] { return isLater; }));
+    EXPECT_EQ(Status("caret"), QStringLiteral("Line 1, column 2"));
+    m_progress.Ends();
+    EXPECT_TRUE(
+        QTest::qWaitFor([this] { return Status("caret") == QStringLiteral("Line 1, column 7"); }));
 }
 
 TEST_F(WorkProgressTest, TellsInTheFindBarThatReplacingWasStopped)
