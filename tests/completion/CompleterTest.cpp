@@ -122,6 +122,15 @@ TEST_F(CompleterTest, FiltersAsOneTypesAndChoosesByTab)
         << m_editor.text().toStdString();
 }
 
+TEST_F(CompleterTest, IsAsHighAsItsRows)
+{
+    Show(QStringLiteral("create table t1 (alpha int, alder int); select x.al| from t1 x"));
+    Press(Qt::Key_Space, Qt::ControlModifier);
+    ASSERT_EQ(Rows().size(), 2);
+    const QModelIndex last = List()->model()->index(1, 0);
+    EXPECT_NEAR(List()->visualRect(last).bottom(), List()->viewport()->height(), 2);
+}
+
 TEST_F(CompleterTest, LeavesKeysToTheEditorThatItDoesNotNeed)
 {
     Show(QStringLiteral("alpha alpine al|"));

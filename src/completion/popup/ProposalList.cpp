@@ -141,6 +141,7 @@ ProposalList::ProposalList(QWidget* editor)
     m_view->setItemDelegate(new RowPainter(m_view));
     auto* layout = new QVBoxLayout(this);
     layout->setContentsMargins(1, 1, 1, 1);
+    layout->setSizeConstraint(QLayout::SetNoConstraint); // a view would have room for three rows
     layout->addWidget(m_view);
     connect(m_view, &QListView::clicked, this,
             [this](const QModelIndex& index) { Q_EMIT Clicked(index.row()); });
