@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-// Reads the tests' sources: a message of the table that stands in none of them, but for walks that
-// send everything and tests that write down what is sent, has no test of what it does.
+// Reads the tests' sources, all of which are to be built: a message of the table that stands in
+// none of them, but for walks that send everything and tests that write down what is sent, has no
+// test of what it does.
 #include "tests/SourceTree.h"
 
 #include "control/EngineMessages.h"
@@ -58,5 +59,24 @@ TEST(EveryMessage, StandsInATestOfWhatItDoes)
         if (!named.contains(row.name))
             missing.emplace_back(row.name);
     }
+    EXPECT_THAT(missing, testing::IsEmpty());
+}
+
+TEST(EveryTest, IsBuilt)
+{
+    std::set<fs::path> built;
+    std::vector<fs::path> missing;
+    const auto entries = [] { return fs::recursive_directory_iterator(InSourceTree("tests")); };
+    for (const auto& entry : entries()) {
+        std::ifstream list(entry.path());
+        for (std::string word; entry.path().filename() == "CMakeLists.txt" && list >> word;)
+            built.insert(fs::path(word.substr(0, word.find(')'))).filename());
+    }
+    for (const auto& entry : entries()) {
+        const fs::path name = entry.path().filename();
+        if (name.string().ends_with("Test.cpp") && !built.contains(name))
+            missing.push_back(name);
+    }
+    EXPECT_GT(built.size(), 100u);
     EXPECT_THAT(missing, testing::IsEmpty());
 }
