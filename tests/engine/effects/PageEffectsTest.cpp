@@ -66,6 +66,18 @@ TEST_F(Pages, AreSelectedDownAndUp)
     EXPECT_EQ(AnchorLine(), kMiddle);
 }
 
+TEST_F(Pages, AreSelectedAsARectangle)
+{
+    m_engine.Send(msg::CharRightRectExtend);
+    m_engine.Send(msg::PageDownRectExtend);
+    EXPECT_EQ(CaretLine(), kMiddle + Step());
+    for (const long line : {0, 3, Step()})
+        EXPECT_EQ(SelectedOfLine(kMiddle + line), u"l");
+    m_engine.Send(msg::PageUpRectExtend);
+    EXPECT_EQ(SelectedOfLine(kMiddle), u"l");
+    EXPECT_EQ(SelectedOfLine(kMiddle + 3), u"");
+}
+
 TEST_F(Pages, EndWithTheText)
 {
     for (int page = 0; page < kLines; ++page)
