@@ -8,7 +8,6 @@
 #include <algorithm>
 #include <initializer_list>
 #include <optional>
-#include <unordered_set>
 
 namespace completion {
 namespace {
@@ -332,16 +331,19 @@ void ScriptSource::ProposeLocals(const ProposalQuery& query, std::vector<Proposa
 void ScriptSource::ProposeObjects(const ProposalQuery& query,
                                   std::vector<Proposal>& proposals) const
 {
-    std::unordered_set<std::uint64_t> known;
+    std::vector<std::uint32_t> known; // by name, a bit for each kind
     const QByteArray bytes = query.typed.toUtf8();
     const Typed typed(std::string_view(bytes.data(), static_cast<std::size_t>(bytes.size())));
     m_index.ForEachObject([&](const ScriptIndex::Object& object) {
         const ProposalKind kind = KindOf(object.kind);
         if (object.position == query.start)
             return true; // what is being typed
-        if (!known.insert(std::uint64_t{object.name} << 8 | static_cast<std::uint64_t>(kind))
-                 .second)
+        if (object.name >= known.size())
+            known.resize(std::max<std::size_t>(object.name + 1, known.size() * 2));
+        const std::uint32_t bit = 1U << static_cast<unsigned>(kind);
+        if (known[object.name] & bit)
             return true;
+        known[object.name] |= bit;
         const std::string_view name = m_index.Words().Text(object.name);
         // What is a use of one letter is an alias more often than a table.
         if ((object.kind >= NameKind::TableUse && name.size() < 2) || typed.Of(name) == Match::None)
