@@ -225,7 +225,9 @@ void Engine::EraseKeyBegins(bool back)
     const long line = ask(Sci::SCI_LINEFROMPOSITION, caret);
     const bool mayUnindent = back && ask(Sci::SCI_GETBACKSPACEUNINDENTS) &&
                              caret <= ask(Sci::SCI_GETLINEINDENTPOSITION, line);
-    if (isPlain && !mayUnindent && from < to)
+    if (isPlain && from == to) // at an end of the text, where nothing is taken and no run ends
+        return;
+    if (isPlain && !mayUnindent)
         documents::EraseRunOf(m_document).KeyBegins(raw, from, to);
     else
         EndEraseRun();

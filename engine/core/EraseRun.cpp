@@ -19,9 +19,11 @@ struct Range
     unsigned last;
 };
 
+// Moves end none: the stock engine joins what is taken at one place whatever is between.
 constexpr Range kCommands[] = {
-    {message::LineDown, message::HomeWrap},
-    {message::WordPartLeft, message::WordPartRightExtend},
+    {message::DeleteBack, message::FormFeed},
+    {message::DelWordLeft, message::UpperCase},
+    {message::DeleteBackNotLine, message::DeleteBackNotLine},
     {message::DelLineLeft, message::DelLineRight},
     {message::LineDuplicate, message::LineDuplicate},
 };

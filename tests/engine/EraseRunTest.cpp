@@ -150,6 +150,17 @@ TEST(EraseRuns, EndAtWhatIsTypedBehindThem)
     EXPECT_EQ(keyboard.Steps(), steps);
 }
 
+TEST(EraseRuns, GoOnBehindAMoveToWhatIsBesideThem)
+{
+    Keyboard keyboard(true);
+    keyboard.Start(QStringLiteral("aacc"), 4);
+    keyboard.Press(Qt::Key_Backspace);
+    keyboard.Press(Qt::Key_Left);
+    keyboard.Press(Qt::Key_Delete);
+    const std::vector<std::string> steps = {"aa*", "aacc", "aa*"};
+    EXPECT_EQ(keyboard.Steps(), steps);
+}
+
 TEST(EraseRuns, EndAtASavePoint)
 {
     Keyboard keyboard(true);
