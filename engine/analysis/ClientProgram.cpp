@@ -9,10 +9,11 @@
 namespace engine::analysis {
 namespace {
 
-constexpr long kFarthestArgument = 64;     // blanks between a client's word and what it sets
-constexpr long kLongestCommand = 16;       // bytes of a client's word
-constexpr long kFarthestTerminator = 1024; // on the line of a word that needs none there
-constexpr long kFarthestOption = 2048;     // bytes of a comment that are searched for -td
+constexpr long kFarthestArgument = 64;       // blanks between a client's word and what it sets
+constexpr long kLongestCommand = 16;         // bytes of a client's word
+constexpr long kFarthestTerminator = 1024;   // on the line of a word that needs none there
+constexpr long kFarthestOption = kLongToken; // bytes of a comment that are searched for -td: as
+                                             // many as are at hand wherever the scanner cuts it
 
 // SET's own words that are the server's.
 constexpr std::string_view kServerSettings[] = {"transaction", "role", "constraint", "constraints"};
