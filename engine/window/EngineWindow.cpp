@@ -2,6 +2,8 @@
 #include "engine/window/EngineWindow.h"
 
 #include "engine/changes/AssistiveTechnology.h"
+#include "engine/core/RectanglePaste.h"
+#include "engine/text/Characters.h"
 #include "engine/window/Accessible.h"
 #include "engine/window/StyleLooks.h"
 #include "platform/windows/ScrollBars.h"
@@ -9,6 +11,7 @@
 
 #include <QContextMenuEvent>
 #include <QCoreApplication>
+#include <QDropEvent>
 #include <QGuiApplication>
 #include <QInputMethod>
 #include <QKeyEvent>
@@ -17,6 +20,7 @@
 #include <QPointer>
 #include <QWheelEvent>
 
+#include <cmath>
 #include <cstdlib>
 #include <utility>
 
@@ -202,6 +206,51 @@ QMimeData* EngineWindow::toMimeData(const QByteArray& text, bool rectangular) co
 {
     return QsciScintillaBase::toMimeData(
         m_engine.copyEol > 0 ? WithLineEnds(text, m_engine.copyEol) : text, rectangular);
+}
+
+// What is put in here leaves nothing for the stock engine.
+QByteArray EngineWindow::fromMimeData(const QMimeData* source, bool& rectangular) const
+{
+    QByteArray text = QsciScintillaBase::fromMimeData(source, rectangular);
+    const Raw& raw = m_engine.raw;
+    if (!rectangular || raw.Send(Sci::SCI_GETREADONLY) ||
+        !NeedsOwnRectanglePaste(raw, m_engine.text.MayHaveNoncharacters()))
+        return text;
+    rectangular = false;
+    if (m_isDropping)
+        return text;
+    PasteRectangle(raw, {text.constData(), static_cast<std::size_t>(text.size())});
+    return {};
+}
+
+// The stock engine drops within a character that it takes byte by byte.
+QPointF EngineWindow::BesideCharacter(QPointF point) const
+{
+    const Raw& raw = m_engine.raw;
+    const auto ask = [&raw](UINT message, long first, long second = 0) {
+        return static_cast<long>(
+            raw.Send(message, static_cast<std::uintptr_t>(first), std::intptr_t{second}));
+    };
+    const long place =
+        ask(Sci::SCI_POSITIONFROMPOINT, std::lround(point.x()), std::lround(point.y()));
+    const long whole = CharacterStart(raw, place);
+    if (whole != place)
+        point.setX(double(ask(Sci::SCI_POINTXFROMPOSITION, 0, whole)));
+    return point;
+}
+
+// Text goes to where it was dragged last. A rectangle beside such characters goes in as text.
+void EngineWindow::dropEvent(QDropEvent* event)
+{
+    if (m_engine.text.MayHaveNoncharacters()) {
+        QDragMoveEvent beside(BesideCharacter(event->position()).toPoint(),
+                              event->possibleActions(), event->mimeData(), event->buttons(),
+                              event->modifiers());
+        dragMoveEvent(&beside);
+    }
+    m_isDropping = true;
+    QsciScintillaBase::dropEvent(event);
+    m_isDropping = false;
 }
 
 // Types the text as one undo step. The stock handler of a commit, which types character by

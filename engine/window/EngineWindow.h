@@ -45,12 +45,15 @@ protected:
     void paintEvent(QPaintEvent* event) override;
     void wheelEvent(QWheelEvent* event) override;
     QMimeData* toMimeData(const QByteArray& text, bool rectangular) const override;
+    QByteArray fromMimeData(const QMimeData* source, bool& rectangular) const override;
+    void dropEvent(QDropEvent* event) override;
 
 private Q_SLOTS:
     void OnModified(int position, int type, const char* text, int length, int linesAdded, int line,
                     int foldNow, int foldPrev, int token, int annotationLinesAdded);
 
 private:
+    QPointF BesideCharacter(QPointF point) const;
     void EndComposition();
     void TypeText(const QString& text);
     void PressKey(QKeyEvent* event);
@@ -64,7 +67,8 @@ private:
     Carets m_carets{m_engine.raw};
     ScrollReports m_scrollReports{*this};
     bool m_addsCaret = false; // the button that is down
-    int m_turn = 0;           // of the wheel, beyond its last whole step
+    bool m_isDropping = false;
+    int m_turn = 0; // of the wheel, beyond its last whole step
 };
 
 // Makes the window class known. Once for the process.

@@ -2,6 +2,11 @@
 // Noncharacters are characters: every move, deletion and read takes them whole.
 #include "tests/engine/EngineFixture.h"
 
+#include <QAbstractScrollArea>
+#include <QApplication>
+#include <QClipboard>
+#include <QDropEvent>
+#include <QMimeData>
 #include <QTest>
 #include <QWidget>
 
@@ -42,6 +47,28 @@ protected:
     EngineUnderTest m_engine;
     std::u16string m_character = GetParam();
 };
+
+QStringList Lines(const std::u16string& text)
+{
+    return QString(reinterpret_cast<const QChar*>(text.data()), qsizetype(text.size()))
+        .split(u'\n');
+}
+
+void SelectRectangle(EngineUnderTest& engine, long anchor, long caret)
+{
+    constexpr WPARAM kRectangle = 1;
+    engine.Send(msg::SetSel, static_cast<WPARAM>(anchor), LPARAM{caret});
+    engine.Send(msg::SetSelectionMode, kRectangle);
+}
+
+// Whether characters were taken out of a line, and nothing else was done to it.
+bool IsLeftOf(const QList<uint>& line, const QList<uint>& rest)
+{
+    qsizetype at = 0;
+    for (const uint character : line)
+        at += at < rest.size() && rest[at] == character;
+    return at == rest.size();
+}
 
 } // namespace
 
@@ -120,6 +147,98 @@ TEST_P(Noncharacters, AreReadWholeBehindALongText)
     std::u16string line(kJustBeforeABlock + 2, u'#');
     EXPECT_EQ(m_engine.Send(msg::GetLine, 0, line.data()), static_cast<LRESULT>(kJustBeforeABlock));
     EXPECT_EQ(line.substr(kJustBeforeABlock), std::u16string(u"\0#", 2));
+}
+
+TEST_P(Noncharacters, StayWholeBesideARectangleThatIsPasted)
+{
+    EngineUnderTest source;
+    source.SetText(u"Q\nQ");
+    SelectRectangle(source, 0, 3);
+    source.Send(msg::Copy);
+    const std::u16string text =
+        m_character + u"a\nb" + m_character + u"c\n" + m_character + m_character + u"\nddd";
+    for (std::size_t place = 0; place <= text.size(); ++place) {
+        m_engine.SetText(text);
+        m_engine.Send(msg::GotoPos, place);
+        m_engine.Send(msg::Paste);
+        std::u16string rest = m_engine.Text();
+        EXPECT_GE(std::erase(rest, u'Q'), 2u) << place;
+        std::erase(rest, u' ');                          // up to the column
+        rest.resize(rest.find_last_not_of(u"\r\n") + 1); // less the lines behind the last one
+        EXPECT_TRUE(rest == text) << place;
+    }
+}
+
+// The own way to put a rectangle in does what the stock engine does in a text without them, whose
+// columns are those of the letters where all are as wide.
+TEST_P(Noncharacters, ChangeNothingElseAboutARectangleThatIsPasted)
+{
+    constexpr WPARAM kDefaultStyle = 32;
+    EngineUnderTest plain;
+    for (EngineUnderTest* engine : {&plain, &m_engine}) {
+        engine->Send(msg::StyleSetFont, kDefaultStyle, u"DejaVu Sans Mono");
+        engine->Send(msg::StyleClearAll);
+        engine->SetText(u"Q\nRS\n");
+        SelectRectangle(*engine, 0, 4);
+        engine->Send(msg::Copy);
+    }
+    const std::u16string text = u"a\nbbbb\n\ncc\nd";
+    for (std::size_t place = 0; place <= text.size(); ++place) {
+        plain.SetText(text);
+        m_engine.SetText(text + u"\n" + m_character);
+        for (EngineUnderTest* engine : {&plain, &m_engine}) {
+            engine->Send(msg::GotoPos, place);
+            engine->Send(msg::Paste);
+        }
+        if (place < text.size() - 4) { // in whose last lines there are further ones here
+            EXPECT_EQ(m_engine.Text(), plain.Text() + u"\n" + m_character) << place;
+        }
+        EXPECT_EQ(Caret(), plain.Send(msg::GetCurrentPos)) << place;
+        m_engine.Send(msg::Undo);
+        EXPECT_EQ(m_engine.Text(), text + u"\n" + m_character) << place;
+    }
+}
+
+TEST_P(Noncharacters, GoWholeWithARectangle)
+{
+    const std::u16string text =
+        m_character + u"aab\nb" + m_character + u"cc\n" + m_character + m_character + u"dd";
+    const auto last =
+        static_cast<long>(text.size()) - static_cast<long>(2 * m_character.size()) - 2;
+    for (long anchor = 0; anchor <= 3 + Width(); ++anchor) {
+        for (long caret = last; caret <= static_cast<long>(text.size()); ++caret) {
+            m_engine.SetText(text);
+            SelectRectangle(m_engine, anchor, caret);
+            m_engine.Send(msg::Clear);
+            // What is left of each line stands in it in this order.
+            const QStringList before = Lines(text);
+            const QStringList after = Lines(m_engine.Text());
+            ASSERT_EQ(after.size(), before.size());
+            for (qsizetype line = 0; line < before.size(); ++line)
+                EXPECT_TRUE(IsLeftOf(before[line].toUcs4(), after[line].toUcs4()))
+                    << anchor << " " << caret << " line " << line;
+        }
+    }
+}
+
+TEST_P(Noncharacters, AreNotDividedByWhatIsDropped)
+{
+    const std::u16string text = m_character + u"a" + m_character;
+    m_engine.Window()->resize(300, 100);
+    QMimeData data;
+    data.setText(QStringLiteral("Q"));
+    constexpr int kRight = 120; // pixels, behind the text
+    for (int x = 0; x < kRight; ++x) {
+        m_engine.SetText(text);
+        auto* view = qobject_cast<QAbstractScrollArea*>(m_engine.Window())->viewport();
+        QDragEnterEvent enter({x, 5}, Qt::CopyAction, &data, Qt::LeftButton, Qt::NoModifier);
+        QApplication::sendEvent(view, &enter);
+        QDropEvent drop({double(x), 5}, Qt::CopyAction, &data, Qt::LeftButton, Qt::NoModifier);
+        QApplication::sendEvent(view, &drop);
+        std::u16string rest = m_engine.Text();
+        EXPECT_EQ(std::erase(rest, u'Q'), 1u) << x;
+        EXPECT_TRUE(rest == text) << x;
+    }
 }
 
 TEST_P(Noncharacters, HaveTheirStylesRead)

@@ -1,0 +1,89 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "engine/core/RectanglePaste.h"
+
+#include "engine/text/Characters.h"
+
+#include <algorithm>
+#include <string>
+
+namespace engine {
+namespace {
+
+using Sci = QsciScintillaBase;
+
+constexpr int kStyleOfNewText = 0;
+
+class Target
+{
+public:
+    explicit Target(const Raw& raw)
+        : m_raw(raw), m_line(Ask(Sci::SCI_LINEFROMPOSITION, Ask(Sci::SCI_GETCURRENTPOS))),
+          m_column(Ask(Sci::SCI_GETCOLUMN, Ask(Sci::SCI_GETCURRENTPOS)))
+    {}
+
+    void Put(std::string_view piece) const
+    {
+        const long end = Ask(Sci::SCI_GETLINEENDPOSITION, m_line);
+        const long missing = m_column - Ask(Sci::SCI_GETCOLUMN, end);
+        if (piece.empty())
+            return;
+        if (missing > 0) {
+            Insert(end, std::string(static_cast<std::size_t>(missing), ' ') + std::string(piece));
+            return;
+        }
+        const auto place = static_cast<long>(m_raw.Send(
+            Sci::SCI_FINDCOLUMN, static_cast<std::uintptr_t>(m_line), std::intptr_t{m_column}));
+        Insert(CharacterStart(m_raw, place), std::string(piece));
+    }
+
+    void NextLine()
+    {
+        constexpr const char* kEnds[] = {"\r\n", "\r", "\n"};
+        if (++m_line >= m_raw.LineCount())
+            Insert(m_raw.Length(), kEnds[std::clamp(Ask(Sci::SCI_GETEOLMODE), 0L, 2L)]);
+    }
+
+private:
+    long Ask(unsigned message, long value = 0) const
+    {
+        return static_cast<long>(m_raw.Send(message, static_cast<std::uintptr_t>(value)));
+    }
+    void Insert(long position, const std::string& text) const
+    {
+        m_raw.Send(Sci::SCI_INSERTTEXT, static_cast<std::uintptr_t>(position), text.c_str());
+    }
+
+    const Raw& m_raw;
+    long m_line;
+    long m_column;
+};
+
+} // namespace
+
+bool NeedsOwnRectanglePaste(const Raw& raw, bool mayHaveNoncharacters)
+{
+    return mayHaveNoncharacters || raw.Send(Sci::SCI_TEXTWIDTH, kStyleOfNewText, " ") <= 0;
+}
+
+void PasteRectangle(const Raw& raw, std::string_view bytes)
+{
+    raw.Send(Sci::SCI_BEGINUNDOACTION);
+    if (!raw.Send(Sci::SCI_GETSELECTIONEMPTY))
+        raw.Send(Sci::SCI_CLEAR);
+    const auto caret = raw.Send(Sci::SCI_GETCURRENTPOS);
+    raw.Send(Sci::SCI_SETEMPTYSELECTION, static_cast<std::uintptr_t>(caret));
+    Target target(raw);
+    while (!bytes.empty()) {
+        const std::size_t end = std::min(bytes.find_first_of("\r\n"), bytes.size());
+        target.Put(bytes.substr(0, end));
+        bytes.remove_prefix(end);
+        if (bytes.empty())
+            break;
+        bytes.remove_prefix(bytes.starts_with("\r\n") ? 2 : 1);
+        target.NextLine();
+    }
+    raw.Send(Sci::SCI_SETEMPTYSELECTION, static_cast<std::uintptr_t>(caret));
+    raw.Send(Sci::SCI_ENDUNDOACTION);
+}
+
+} // namespace engine
