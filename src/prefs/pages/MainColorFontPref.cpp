@@ -55,6 +55,11 @@ constexpr ColorRow kRows[] = {
 // clang-format on
 static_assert(std::size(kRows) == CMainColorFontPref::kColors);
 
+unsigned long DeliveredColor(const ColorRow& row)
+{
+    return (DeliveredConfig().*row.color)();
+}
+
 const ColourScheme* PaintedScheme()
 {
     IPreferencesHost* host = zncoreeditor::GetPreferencesHost();
@@ -122,7 +127,7 @@ bool CMainColorFontPref::OnInitDialog()
 void CMainColorFontPref::ShowButton(std::size_t row)
 {
     auto* button = GetDlgItem<CColorButton>(kRows[row].button);
-    const unsigned long delivered = (DeliveredConfig().*kRows[row].color)();
+    const unsigned long delivered = DeliveredColor(kRows[row]);
     const ColourScheme* scheme = kRows[row].drawn == Drawn::Count ? nullptr : PaintedScheme();
     button->SetDefaultColor(scheme ? scheme->Of(kRows[row].drawn)
                                    : static_cast<COLORREF>(delivered));
@@ -174,7 +179,7 @@ void CMainColorFontPref::OnColorChosen(UINT id, COLORREF color)
     for (std::size_t i = 0; i < kColors; ++i) {
         if (kRows[i].button != id)
             continue;
-        m_colors[i] = color == CColorButton::kDefaultColor ? (DeliveredConfig().*kRows[i].color)()
+        m_colors[i] = color == CColorButton::kDefaultColor ? DeliveredColor(kRows[i])
                                                            : static_cast<unsigned long>(color);
         ShowButton(i);
         OnChanged();
