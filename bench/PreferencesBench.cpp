@@ -6,13 +6,18 @@
 #include "editing/ZNCoreEditorWidget.h"
 #include "editing/language/FileTypeManager.h"
 #include "editing/language/Library.h"
+#include "editing/language/UserFolder.h"
 #include "prefs/controls/ColorButton.h"
 #include "prefs/pages/EditorPrefsDialog.h"
+#include "settings/SyntaxFile.h"
 
 #include <QApplication>
+#include <QFile>
+#include <QSaveFile>
 #include <QVBoxLayout>
 #include <QWidget>
 
+#include <cstdlib>
 #include <memory>
 #include <vector>
 
@@ -95,6 +100,39 @@ void SettingsApplyAColour(benchmark::State& state)
         });
 }
 BENCHMARK(SettingsApplyAColour)->Name("Settings/applyAColour")->Iterations(1);
+
+// What Apply writes for a language, beside the bare cost: its two files read and written.
+void SettingsSaveALanguage(benchmark::State& state)
+{
+    CSyntaxFile& syntax = *zncoreeditor::GetFileTypeManager()->GetSyntaxFile(kTransactSql);
+    unsigned long color = 0;
+    const auto save = [&] {
+        syntax.SetStyleColorForeground(0, color = color == 0 ? 0x0000FF : 0);
+        if (!syntax.Save())
+            std::abort();
+    };
+    save();
+    const QString name = syntax.GetFilename().section(u'/', -1);
+    const QStringList paths = {UserSettingsPath(QStringLiteral("Syntax/") + name),
+                               UserSettingsPath(QStringLiteral("Base/") + name)};
+    MeasurePair(
+        state, save,
+        [&paths] {
+            for (const QString& path : paths) {
+                QFile file(path);
+                if (!file.open(QIODevice::ReadOnly))
+                    continue;
+                const QByteArray bytes = file.readAll();
+                QSaveFile bare(path + QStringLiteral(".bare"));
+                if (!bare.open(QIODevice::WriteOnly))
+                    std::abort();
+                bare.write(bytes);
+                bare.commit();
+            }
+        },
+        25);
+}
+BENCHMARK(SettingsSaveALanguage)->Name("Settings/saveALanguage")->Iterations(40);
 
 void SettingsOfAnotherScheme(benchmark::State& state)
 {

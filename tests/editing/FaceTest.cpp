@@ -4,6 +4,7 @@
 #include "editing/ZNCoreEditorWidget.h"
 #include "platform/services/OptionsServer.h"
 
+#include <QAbstractScrollArea>
 #include <QAction>
 #include <QApplication>
 #include <QClipboard>
@@ -379,6 +380,29 @@ TEST_F(EditorFace, PrintsColoursForPaperFromADarkScreen)
     }
     constexpr int kReadable = 110; // the dark scheme's words have some 170
     EXPECT_LE(darkest, kReadable);
+}
+
+TEST_F(EditorFace, IsPaintedOnceInAnotherScheme)
+{
+    class Paints final : public QObject
+    {
+    public:
+        bool eventFilter(QObject*, QEvent* event) override
+        {
+            count += event->type() == QEvent::Paint;
+            return false;
+        }
+        int count = 0;
+    } paints;
+    editor.setScheme(QStringLiteral("Light"));
+    editor.resize(400, 300);
+    editor.show();
+    QApplication::processEvents();
+    auto* area = editor.findChild<QAbstractScrollArea*>();
+    area->viewport()->installEventFilter(&paints);
+    editor.setScheme(QStringLiteral("Dark"));
+    QApplication::processEvents();
+    EXPECT_EQ(paints.count, 1);
 }
 
 TEST_F(EditorFace, PrintsOnTheDevicesPages)
