@@ -28,12 +28,12 @@ public:
         if (piece.empty())
             return;
         if (missing > 0) {
-            Insert(end, std::string(static_cast<std::size_t>(missing), ' ') + std::string(piece));
+            Insert(end, std::string(static_cast<std::size_t>(missing), ' ').append(piece));
             return;
         }
         const auto place = static_cast<long>(m_raw.Send(
             Sci::SCI_FINDCOLUMN, static_cast<std::uintptr_t>(m_line), std::intptr_t{m_column}));
-        Insert(CharacterStart(m_raw, place), std::string(piece));
+        Insert(CharacterStart(m_raw, place), piece);
     }
 
     void NextLine()
@@ -48,9 +48,11 @@ private:
     {
         return static_cast<long>(m_raw.Send(message, static_cast<std::uintptr_t>(value)));
     }
-    void Insert(long position, const std::string& text) const
+    // By its length, since there may be NULs in it.
+    void Insert(long position, std::string_view text) const
     {
-        m_raw.Send(Sci::SCI_INSERTTEXT, static_cast<std::uintptr_t>(position), text.c_str());
+        m_raw.Send(Sci::SCI_SETEMPTYSELECTION, static_cast<std::uintptr_t>(position));
+        m_raw.Send(Sci::SCI_ADDTEXT, text.size(), text.data());
     }
 
     const Raw& m_raw;

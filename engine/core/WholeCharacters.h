@@ -27,6 +27,7 @@ public:
     void BeforeTyping();
 
     void RecordingBecame(bool on) { m_listens = on; }
+    bool Listens() const { return m_listens; }
 
 private:
     enum class Side

@@ -208,7 +208,8 @@ QMimeData* EngineWindow::toMimeData(const QByteArray& text, bool rectangular) co
         m_engine.copyEol > 0 ? WithLineEnds(text, m_engine.copyEol) : text, rectangular);
 }
 
-// What is put in here leaves nothing for the stock engine.
+// What is put in here leaves nothing for the stock engine. A macro has the command alone, not what
+// it is made of.
 QByteArray EngineWindow::fromMimeData(const QMimeData* source, bool& rectangular) const
 {
     QByteArray text = QsciScintillaBase::fromMimeData(source, rectangular);
@@ -219,7 +220,10 @@ QByteArray EngineWindow::fromMimeData(const QMimeData* source, bool& rectangular
     rectangular = false;
     if (m_isDropping)
         return text;
+    raw.Send(Sci::SCI_STOPRECORD);
     PasteRectangle(raw, {text.constData(), static_cast<std::size_t>(text.size())});
+    if (m_engine.wholeCharacters.Listens())
+        raw.Send(Sci::SCI_STARTRECORD);
     return {};
 }
 

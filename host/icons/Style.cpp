@@ -65,9 +65,7 @@ void DrawEditFrame(const QStyleOption& option, QPainter& painter)
     constexpr double kCorner = 2;
     const bool hasFocus = option.state & QStyle::State_HasFocus;
     painter.setRenderHint(QPainter::Antialiasing);
-    QColor line = Frame(option);
-    line.setAlphaF(0.6F);
-    painter.setPen(hasFocus ? option.palette.color(QPalette::Highlight) : line);
+    painter.setPen(hasFocus ? option.palette.color(QPalette::Highlight) : Frame(option));
     painter.setBrush(Qt::NoBrush);
     painter.drawRoundedRect(QRectF(option.rect).adjusted(0.5, 0.5, -0.5, -0.5), kCorner, kCorner);
 }

@@ -4,6 +4,7 @@
 // tools/pictures makes all of them, at three scales.
 //
 // znpictures SHEET FILE PICTURE...: the pictures, made small, side by side in a file.
+// znpictures LANGUAGES FILE: the sample of each language in each scheme, in a file.
 #include "editing/ZNCoreEditorControlEx.h"
 #include "host/finding/FindBar.h"
 #include "host/icons/Style.h"
@@ -137,12 +138,12 @@ int main(int argc, char** argv)
     Style::Install();
     const QStringList words = QApplication::arguments();
     constexpr int kWords = 4;
-    if (words.size() < (words.value(1) == QLatin1String("LANGUAGES") ? kWords - 1 : kWords))
+    if (words.size() == kWords - 1 && words[1] == QLatin1String("LANGUAGES"))
+        return PictureLanguages().save(words[2]) ? 0 : 1;
+    if (words.size() < kWords)
         return 2;
     if (words[1] == QLatin1String("SHEET"))
         return MakeSheet(words[2], words.mid(kWords - 1)) ? 0 : 1;
-    if (words[1] == QLatin1String("LANGUAGES"))
-        return PictureLanguages().save(words[2]) ? 0 : 1;
     const QDir folder(words[1]);
     if (words[3] == QLatin1String("DARK"))
         QApplication::setPalette(DarkPalette());

@@ -20,7 +20,7 @@ enum class SessionPanes : int
 // A tab. A file with several tabs is there as often.
 struct SessionFile
 {
-    // More than anybody looks after, and little enough to read.
+    // Of folds, and of bookmarks: more than anybody looks after, and little enough to read.
     static constexpr int kMostLines = 1000;
 
     QString path;          // absolute
@@ -29,8 +29,8 @@ struct SessionFile
     long firstVisible = 0; // the line at the top of the window
     bool readOnly = false; // by the user's choice
     SessionPanes panes = SessionPanes::One;
-    int zoom = 0;         // points that the letters are larger, as the engine counts
-    QList<int> folds;     // lines whose blocks are hidden, the first of them at most
+    int zoom = 0;     // points that the letters are larger, as the engine counts
+    QList<int> folds; // lines that a hidden block begins with; may lie behind the end, as others
     QList<int> bookmarks; // lines
 
     bool operator==(const SessionFile&) const = default;

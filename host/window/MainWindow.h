@@ -18,7 +18,6 @@ class FolderPane;
 class LanguageMenu;
 class MainFrame;
 class OutlinePane;
-struct Symbol;
 class ProblemPane;
 class QTimer;
 class ResultsPane;
@@ -28,6 +27,7 @@ class ScriptTabs;
 class StatusIndicators;
 class Workbench;
 struct SessionFile;
+struct Symbol;
 
 // Made with new: it goes when it is closed, or with the application.
 class MainWindow final : public QMainWindow

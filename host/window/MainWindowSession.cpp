@@ -17,6 +17,7 @@
 #include <QSet>
 #include <QTimer>
 
+#include <algorithm>
 #include <chrono>
 
 namespace {
@@ -63,12 +64,14 @@ void Fold(CZNCoreEditorControlEx& editor, const QList<int>& lines)
     constexpr long kFarthest = 4'000'000; // units that are styled for it at most
     if (lines.isEmpty())
         return;
-    const long end = editor.PositionFromLine(lines.last() + 1, 1);
+    const int last = static_cast<int>(editor.GetLineCount(1)) - 1;
+    const long end = editor.GetLineEndPosition(std::min(std::ranges::max(lines), last), 1);
     if (end > kFarthest)
         return;
-    editor.Colorize(0, end < 0 ? -1 : end, 1);
+    editor.Colorize(0, end, 1);
     for (const int line : lines) {
-        if (editor.GetFoldLevel(line, 1) & kHeader && editor.GetFoldExpanded(line, 1))
+        if (line <= last && editor.GetFoldLevel(line, 1) & kHeader &&
+            editor.GetFoldExpanded(line, 1))
             editor.ToggleFold(line, 1);
     }
 }
@@ -153,9 +156,10 @@ bool MainWindow::Resume(const SessionFile& file)
     CZNCoreEditorControlEx& editor = frame->Editor();
     if (file.zoom != 0)
         editor.SetZoom(file.zoom, 1);
-    for (const int line :
-         open ? QList<int>() : file.bookmarks) // which are the text's, not the tab's
-        editor.MarkerAdd(line, kBookmark, 1);
+    if (!open) { // bookmarks are the text's, not the tab's
+        for (const int line : file.bookmarks)
+            editor.MarkerAdd(line, kBookmark, 1);
+    }
     frame->View()->GoToLine(file.caretLine);
     Fold(editor, file.folds);
     const int top = editor.VisibleFromDocLine(static_cast<int>(file.firstVisible), 1);

@@ -11,6 +11,8 @@ namespace zncoreeditor {
 
 // An editor that is given this name has the light or the dark scheme, as the desktop is.
 inline constexpr QLatin1String kDesktopScheme("Desktop");
+// The one for paper, which is shipped.
+inline constexpr QLatin1String kPrintScheme("Print");
 
 ZN_API QStringList SchemeNames();
 // Null for a name that is unknown. The scheme lives as long as the process.

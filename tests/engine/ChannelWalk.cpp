@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "tests/engine/ChannelWalk.h"
 
+#include "tests/engine/MessageAnswers.h"
+
 #include <Qsci/qsciscintillabase.h>
 
 #include <QTest>
@@ -93,19 +95,6 @@ template <typename T>
 LPARAM Address(const T* object)
 {
     return reinterpret_cast<LPARAM>(object);
-}
-
-void Release(const MessageRow& row, LRESULT answer)
-{
-    if (row.result == Kind::TextGiven)
-        delete[] reinterpret_cast<char16_t*>(answer);
-    if (row.result != Kind::Partitions)
-        return;
-    for (auto* record = reinterpret_cast<PartitionInfo*>(answer); record;) {
-        PartitionInfo* next = record->pNext;
-        delete record;
-        record = next;
-    }
 }
 
 } // namespace

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 // Every row of the message table on the real engine, with whatever a caller may pass.
 #include "tests/engine/EngineFixture.h"
+#include "tests/engine/MessageAnswers.h"
 
 #include "control/Completion.h"
 #include "control/EngineLooks.h"
@@ -146,20 +147,6 @@ void ExpectSound(const EngineUnderTest& engine)
     const LRESULT caret = engine.Send(msg::GetCurrentPos);
     ASSERT_GE(caret, 0);
     ASSERT_LE(caret, static_cast<LRESULT>(text.size()));
-}
-
-// What a message hands over is the caller's.
-void Release(const MessageRow& row, LRESULT answer)
-{
-    if (row.result == Kind::TextGiven)
-        delete[] reinterpret_cast<char16_t*>(answer);
-    if (row.result != Kind::Partitions)
-        return;
-    for (auto* record = reinterpret_cast<PartitionInfo*>(answer); record;) {
-        PartitionInfo* next = record->pNext;
-        delete record;
-        record = next;
-    }
 }
 
 void WalkOn(const MessageRow& row, const std::u16string& text, bool readOnly, bool paint)

@@ -199,6 +199,35 @@ TEST_P(Noncharacters, ChangeNothingElseAboutARectangleThatIsPasted)
     }
 }
 
+TEST_P(Noncharacters, AreBesideARectangleThatIsPastedWithAllOfItsText)
+{
+    const QString pasted = QStringLiteral("Q") + QChar(0) + QStringLiteral("R");
+    auto* data = new QMimeData;
+    data->setText(pasted);
+    data->setData(QStringLiteral("text/x-qscintilla-rectangular"), {});
+    QApplication::clipboard()->setMimeData(data);
+    m_engine.SetText(m_character);
+    m_engine.Send(msg::GotoPos, 0);
+    m_engine.Send(msg::Paste);
+    EXPECT_TRUE(m_engine.Text() == pasted.toStdU16String() + m_character);
+}
+
+TEST_P(Noncharacters, BringNothingButThePasteIntoAMacro)
+{
+    m_engine.SetText(u"Q\nQ");
+    SelectRectangle(m_engine, 0, 3);
+    m_engine.Send(msg::Copy);
+    m_engine.SetText(m_character + u"ab");
+    m_engine.Send(msg::StartRecord);
+    m_engine.Parent().heard.clear();
+    m_engine.Send(msg::Paste);
+    auto told = m_engine.Parent().Of(notify::MacroRecord);
+    ASSERT_EQ(told.size(), 1u);
+    EXPECT_EQ(told[0].record.message, int{msg::Paste});
+    m_engine.Send(msg::SelectAll); // which is still recorded
+    EXPECT_EQ(m_engine.Parent().Of(notify::MacroRecord).size(), 2u);
+}
+
 TEST_P(Noncharacters, GoWholeWithARectangle)
 {
     const std::u16string text =

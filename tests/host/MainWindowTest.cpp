@@ -3,6 +3,8 @@
 
 #include <QClipboard>
 #include <QCloseEvent>
+#include <QDir>
+#include <QFileInfo>
 #include <QMenu>
 #include <QMenuBar>
 #include <QStatusBar>
@@ -35,6 +37,22 @@ TEST_F(MainWindows, OpensAScriptUnderItsName)
     EXPECT_EQ(TabCaption(), QStringLiteral("orders.sql"));
     EXPECT_TRUE(m_window.windowTitle().contains(QStringLiteral("orders.sql")));
     EXPECT_FALSE(m_window.isWindowModified());
+}
+
+TEST_F(MainWindows, TellsScriptsOfOneNameApartByTheirFolders)
+{
+    const QDir files(QFileInfo(PathOf("a.sql")).path());
+    ASSERT_TRUE(files.mkdir("with[*]mark"));
+    QString folder = files.path();
+    if (folder.startsWith(QDir::homePath() + '/'))
+        folder.replace(0, QDir::homePath().size(), "~");
+    Open("a.sql", "");
+    EXPECT_EQ(m_window.windowTitle(), "a.sql[*] – " + folder + " – znworkbench");
+    Open("with[*]mark/a.sql", "");
+    EXPECT_EQ(m_window.windowTitle(), "a.sql[*] – " + folder + "/with[*][*]mark – znworkbench");
+    Trigger("new");
+    EXPECT_TRUE(m_window.windowTitle().startsWith("Script "));
+    EXPECT_EQ(m_window.windowTitle().count("–"), 1) << "a script without a file has no folder";
 }
 
 TEST_F(MainWindows, MarksAChangedScriptUntilTheChangeIsUndone)

@@ -8,6 +8,7 @@
 #include "tests/host/WorkbenchTest.h"
 
 #include <QDir>
+#include <QFileInfo>
 #include <QJsonArray>
 #include <QJsonDocument>
 
@@ -118,6 +119,19 @@ TEST_F(Memory, BringsBackZoomFoldsAndBookmarks)
     EXPECT_EQ(Editor().MarkerNext(0, 1, 1), 4);
     EXPECT_EQ(Editor().MarkerNext(5, 1, 1), -1);
     EXPECT_FALSE(m_window->CurrentFrame()->Script()->IsModified());
+}
+
+TEST_F(Memory, PassesOverLinesThatAreNoMore)
+{
+    const QString path = Write("a.sql", "select 1,\n  2;\n");
+    Session session;
+    session.files = {{.path = path, .folds = {INT_MAX, 0}, .bookmarks = {INT_MAX, 1}}};
+    ASSERT_TRUE(QDir().mkpath(QFileInfo(Session::DefaultPath()).path()));
+    ASSERT_TRUE(session.Store(Session::DefaultPath()));
+    Start();
+    ASSERT_EQ(m_window->TabCount(), 1);
+    EXPECT_EQ(Editor().GetLineVisible(1, 1), 0) << "the block that is there is folded";
+    EXPECT_EQ(Editor().MarkerNext(0, 1, 1), 1);
 }
 
 TEST_F(Memory, DoesNotShowAnExpandedScriptThatIsNoMore)

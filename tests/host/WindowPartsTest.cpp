@@ -11,6 +11,7 @@
 #include "tests/host/WorkbenchTest.h"
 
 #include <QFileSystemModel>
+#include <QLabel>
 #include <QLineEdit>
 #include <QMenu>
 #include <QMenuBar>
@@ -131,6 +132,24 @@ TEST_F(WindowParts, ShowTheOutlineOfTheScript)
     Editor().ReplaceSel(u"create table before_it (n int);\n", 1);
     EXPECT_TRUE(Wait([&] { return list->topLevelItemCount() == 3; }));
     EXPECT_EQ(list->topLevelItem(0)->text(0), "before_it");
+}
+
+TEST_F(WindowParts, SayWhyAnOutlineIsEmpty)
+{
+    Open("a.sql", "select 1;\n");
+    Trigger("outline");
+    const auto* why = m_window.findChild<QLabel*>("outlineWhy");
+    const auto* list = m_window.findChild<QTreeWidget*>("outlineList");
+    ASSERT_TRUE(Wait([&] { return why->isVisible(); }));
+    EXPECT_TRUE(why->text().contains("creates nothing"));
+    EXPECT_FALSE(list->isVisible());
+    Editor().ReplaceSel(u"create table t (n int);\n", 1);
+    ASSERT_TRUE(Wait([&] { return list->isVisible(); }));
+    EXPECT_FALSE(why->isVisible());
+    EXPECT_EQ(list->topLevelItemCount(), 1);
+    Open("a.css", "a { color: red; }\n");
+    ASSERT_TRUE(Wait([&] { return why->isVisible(); }));
+    EXPECT_TRUE(why->text().contains("CSS"));
 }
 
 TEST_F(WindowParts, GoToASymbolByPartOfItsName)

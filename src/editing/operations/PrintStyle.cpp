@@ -26,11 +26,11 @@ void ApplyPrintColours(CZNCoreEditorControlEx& control)
 
 long PrintPage(CZNCoreEditorControlEx& control, RangeToFormat& record)
 {
-    constexpr QLatin1String kPaper("Print");
     CZNOptionsServer& options = *CZNOptionsServer::GetObjectW();
-    const ColourScheme* paper = control.Scheme() && !options.GetBool(option::PrintGround)
-                                    ? zncoreeditor::FindScheme(kPaper)
-                                    : nullptr;
+    const bool needsPaper = control.Scheme() && options.GetBool(option::PrintColours) &&
+                            !options.GetBool(option::PrintGround);
+    const ColourScheme* paper =
+        needsPaper ? zncoreeditor::FindScheme(zncoreeditor::kPrintScheme) : nullptr;
     if (paper)
         control.ApplySchemeToStyles(*paper);
     const long next = control.FormatRange(1, &record, 1);

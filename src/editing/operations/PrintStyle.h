@@ -13,9 +13,10 @@ struct RangeToFormat;
 // Colours and grounds. Grounds without colours leave the mode that the engine has.
 ZN_API void ApplyPrintColours(CZNCoreEditorControlEx& control);
 
-// A page, as FormatRange draws it. What is painted in a scheme on the screen is printed in the
-// scheme for paper, unless its grounds are printed too: colours for a dark screen are not to be
-// read on white.
+// Draws a page as the engine's FormatRange does, and gives the position behind it, in UTF-16 units.
+// What is painted in a scheme on the screen is printed in the scheme for paper where colours are
+// printed without their grounds: those for a dark screen cannot be read on white. The editor has
+// its own scheme again behind it.
 ZN_API long PrintPage(CZNCoreEditorControlEx& control, RangeToFormat& record);
 
 // The print font if the options want one, else nothing. A font that nobody has chosen is Tahoma,

@@ -234,6 +234,23 @@ TEST(Db2Terminators, StandInAFirstComment)
     }
 }
 
+// A longer one is read in pieces that end wherever a stretch does.
+TEST(Db2Terminators, StandWithinTheFirstBytesOfALongComment)
+{
+    for (const auto& [before, isFound] : {std::pair(400, true), std::pair(600, false)}) {
+        for (const long stretch : {100L, 550L, 700L, 100000L}) {
+            ScriptUnderTest script("db2", "/*" + std::string(std::size_t(before), ' ') + "-td@ " +
+                                              std::string(900, 'x') + "*/\nselect 1@ select 2;");
+            script.SetStretch(stretch);
+            script.Erase(0, 1);
+            script.Insert(0, "/");
+            EXPECT_EQ(script.StatementAt(static_cast<long>(script.Text().size())),
+                      isFound ? "select 2;" : "select 1@ select 2;")
+                << before << " " << stretch;
+        }
+    }
+}
+
 TEST(GivenTerminators, HoldUntilTheScriptSetsAnother)
 {
     ScriptUnderTest script("db2",
