@@ -7,7 +7,8 @@ cmake_minimum_required(VERSION 3.25)
 
 file(GLOB_RECURSE sources RELATIVE ${FROM} ${FROM}/*.h)
 # Numbers and records alone, which a host works with.
-set(waiting control/Analysis.h control/EngineLooks.h control/SqlStyles.h platform/base/Units.h
+set(waiting control/Analysis.h control/Completion.h control/EngineLooks.h control/EngineModes.h
+    control/ExpressionCheck.h control/LongLine.h control/SqlStyles.h platform/base/Units.h
     platform/docview/CommandIds.h platform/docview/CreateContext.h)
 foreach(header IN LISTS sources)
     file(STRINGS ${FROM}/${header} exports REGEX "ZN_API" LIMIT_COUNT 1)
@@ -30,29 +31,33 @@ while(waiting)
     endforeach()
 endwhile()
 
+# write_header(NAME TEXT): leaves one that is as it should be, so that nobody is compiled anew.
+function(write_header name text)
+    set(before)
+    if(EXISTS ${TO}/${name})
+        file(READ ${TO}/${name} before)
+    endif()
+    if(NOT text STREQUAL before)
+        file(WRITE ${TO}/${name} "${text}")
+    endif()
+endfunction()
+
 foreach(header IN LISTS public)
     file(READ ${FROM}/${header} text)
     string(REGEX REPLACE "#include \"([^\"]+)\"" "#include \"ZNCoreEditor/\\1\"" text "${text}")
-    set(before)
-    if(EXISTS ${TO}/${header})
-        file(READ ${TO}/${header} before)
-    endif()
-    if(NOT text STREQUAL before)
-        file(WRITE ${TO}/${header} "${text}")
-    endif()
+    write_header(${header} "${text}")
 endforeach()
 
-# Where a host begins, without the name of a room: the face for plain Qt, and the control behind it.
-foreach(pair IN ITEMS ZNCoreEditorWidget=editing/ZNCoreEditorWidget Control=editing/ZNCoreEditorControlEx)
-    string(REPLACE "=" ";" pair ${pair})
-    list(GET pair 0 name)
-    list(GET pair 1 header)
-    if(NOT EXISTS ${TO}/${name}.h)
-        file(WRITE ${TO}/${name}.h
-             "// SPDX-License-Identifier: GPL-3.0-or-later\n"
-             "#pragma once\n"
-             "#include \"ZNCoreEditor/${header}.h\" // IWYU pragma: export\n")
-    endif()
+# Where a host begins, without the name of a room: the face for plain Qt, and the control behind it
+# with the names of its modes.
+set(ZNCoreEditorWidget editing/ZNCoreEditorWidget)
+set(Control control/EngineModes editing/ZNCoreEditorControlEx)
+foreach(name IN ITEMS ZNCoreEditorWidget Control)
+    set(text "// SPDX-License-Identifier: GPL-3.0-or-later\n#pragma once\n")
+    foreach(header IN LISTS ${name})
+        string(APPEND text "#include \"ZNCoreEditor/${header}.h\" // IWYU pragma: export\n")
+    endforeach()
+    write_header(${name}.h "${text}")
 endforeach()
 
 # What is public no longer. Version.h is made by the configuration.
