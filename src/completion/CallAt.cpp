@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "completion/CallAt.h"
 
+#include "completion/NameText.h"
 #include "completion/ScriptReader.h"
 #include "completion/Utf8Text.h"
 

@@ -1,50 +1,22 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "completion/NameMachine.h"
 
+#include "completion/NameText.h"
+
 #include <algorithm>
 
 namespace completion {
 namespace {
 
-using engine::analysis::Routine;
 using engine::analysis::TextSpans;
 using engine::analysis::Token;
 using engine::analysis::TokenKind;
 using W = NameWord;
 
 constexpr std::uint8_t kDeepest = 63;
-constexpr std::uint8_t kPatience = 12; // words
 constexpr long kNear = 64;
 
 } // namespace
-
-long DollarTag(const TextSpans& text, const Token& token)
-{
-    if (token.kind != TokenKind::String || text.At(token.start) != '$' || token.resumed)
-        return 0;
-    for (long at = token.start + 1; at < token.end; ++at) {
-        if (text.At(at) == '$')
-            return at + 1 - token.start;
-    }
-    return 0;
-}
-
-std::string PlainName(const TextSpans& text, long start, long end)
-{
-    std::string name = text.Copy(start, end);
-    const char first = name.empty() ? '\0' : name.front();
-    if (first != '"' && first != '[' && first != '`')
-        return name;
-    const char last = first == '[' ? ']' : first;
-    name.erase(0, 1);
-    if (!name.empty() && name.back() == last)
-        name.pop_back();
-    for (std::size_t at = name.find(last); at != std::string::npos; at = name.find(last, at + 1)) {
-        if (at + 1 < name.size() && name[at + 1] == last)
-            name.erase(at + 1, 1);
-    }
-    return name;
-}
 
 void NameMachine::Take(const TextSpans& text, const Token& token, std::vector<NameEvent>& events)
 {
@@ -126,188 +98,6 @@ void NameMachine::TakeWord(const Token& token, NameWord word)
 void NameMachine::TakeName(const Token& token)
 {
     ReadStep(token, W::Other);
-}
-
-bool NameMachine::IsHead(NameWord word) const
-{
-    const State& s = m_state;
-    if (s.depth > 0 || IsOneOf(s.verb, {W::Grant, W::Revoke, W::Deny}))
-        return false;
-    switch (word) {
-    case W::Insert:
-    case W::Update:
-    case W::Delete:
-        return !IsOneOf(s.previous,
-                        {W::On, W::For, W::After, W::Before, W::Of, W::Or, W::Comma, W::Into}) &&
-               !(s.previous == W::Then && s.verb == W::Merge) &&
-               !(s.previous == W::Begins && s.verb == W::Merge);
-    case W::Execute:
-        return s.previous != W::With && s.previous != W::On;
-    case W::Exec:
-    case W::Call:
-    case W::Select:
-    case W::Merge:
-    case W::Declare:
-    case W::Fetch:
-    case W::Drop:
-    case W::Truncate:
-    case W::Print:
-    case W::Return:
-    case W::Use:
-    case W::While:
-    case W::Begin:
-    case W::Grant:
-    case W::Revoke:
-    case W::Deny:
-    case W::Create:
-    case W::Alter:
-    case W::Lock:
-        return true;
-    case W::With:
-        return IsOneOf(s.previous, {W::Begins, W::As, W::Open});
-    case W::Replace:
-        return s.previous == W::Begins;
-    default:
-        return false;
-    }
-}
-
-// A statement, or a query beside another one.
-void NameMachine::Begin(NameWord word)
-{
-    State& s = m_state;
-    m_beganPart = true;
-    if (!IsOneOf(word, {W::Select, W::With, W::Begin}))
-        s.verb = word == W::Replace ? W::Insert : word;
-    else if (word == W::Begin || s.verb == W::Fetch)
-        s.verb = W::Other;
-    Set(s.froms, false);
-}
-
-void NameMachine::ReadClause(const Token& token, NameWord word)
-{
-    State& s = m_state;
-    if (word == W::Other) {
-        s.afterCte = false;
-        ReadDeclaration(token, word);
-        return;
-    }
-    if (ReadDeclaration(token, word))
-        return;
-    s.afterCte = false;
-    if (IsHead(word))
-        Begin(word);
-    const bool isQuery = s.depth == 0 || Has(s.selects);
-    switch (word) {
-    case W::Create:
-    case W::Alter:
-        if (!m_beganPart)
-            return;
-        s.step = Step::AfterCreate;
-        s.patience = kPatience;
-        return;
-    case W::Select:
-        Set(s.selects, true);
-        Set(s.froms, false);
-        return;
-    case W::From:
-        if (s.previous == W::Distinct || s.verb == W::Fetch || !isQuery ||
-            IsOneOf(s.verb, {W::Grant, W::Revoke, W::Deny}))
-            return;
-        s.step = Step::TableName;
-        Set(s.froms, true);
-        return;
-    case W::Join:
-    case W::Apply:
-    case W::StraightJoin:
-        s.step = Step::TableName;
-        Set(s.froms, true);
-        return;
-    case W::Using:
-        if (s.verb == W::Merge && s.depth == 0)
-            s.step = Step::TableName;
-        return;
-    case W::Insert:
-    case W::Update:
-    case W::Merge:
-    case W::Replace:
-        if (m_beganPart && NextByte(token.end) != '(')
-            s.step = Step::TableName;
-        return;
-    case W::Into:
-        if (m_dialect->brackets && Has(s.selects))
-            s.step = Step::TableName;
-        return;
-    case W::Table:
-        if (IsOneOf(s.verb, {W::Truncate, W::Drop, W::Lock}))
-            s.step = Step::TableName;
-        return;
-    case W::Truncate:
-        if (m_beganPart && NextByte(token.end) != '(')
-            s.step = Step::TableName;
-        return;
-    case W::View:
-        if (s.verb == W::Drop)
-            s.step = Step::TableName;
-        return;
-    case W::References:
-        s.step = Step::TableName;
-        return;
-    case W::Procedure:
-    case W::Proc:
-    case W::Function:
-        if (s.verb == W::Drop)
-            s.step = Step::CallName;
-        return;
-    case W::Exec:
-    case W::Execute:
-    case W::Call:
-        if (m_beganPart)
-            s.step = Step::CallName;
-        return;
-    case W::Declare: {
-        const bool marksVariables = NextByte(token.end) == '@';
-        if (marksVariables || (m_dialect->routine == Routine::Block && !m_dialect->dollarStrings) ||
-            m_dialect->routine == Routine::Batch) {
-            s.step = Step::Declare;
-        } else {
-            s.declares = true;
-            m_atStart = true;
-        }
-        return;
-    }
-    case W::With:
-        if (m_beganPart || (s.depth > 0 && s.previous == W::Open))
-            s.step = Step::CteName;
-        return;
-    case W::Add:
-        if (s.verb == W::Alter)
-            s.step = Step::AddColumn;
-        return;
-    case W::Go:
-        if (m_dialect->separator == "GO")
-            EndStatement();
-        return;
-    case W::Where:
-    case W::Group:
-    case W::Order:
-    case W::Having:
-    case W::On:
-    case W::Set:
-    case W::Union:
-    case W::Except:
-    case W::Intersect:
-    case W::Minus:
-    case W::Values:
-    case W::Limit:
-    case W::Window:
-    case W::Connect:
-    case W::Start:
-        Set(s.froms, false);
-        return;
-    default:
-        return;
-    }
 }
 
 void NameMachine::TakeVariable(const Token& token)

@@ -8,7 +8,6 @@
 #include "completion/NameWords.h"
 #include "engine/analysis/SqlScanner.h"
 
-#include <string>
 #include <vector>
 
 namespace completion {
@@ -139,12 +138,5 @@ private:
     bool m_beganPart = false;
     bool m_atStart = false; // what stands behind the word begins a statement
 };
-
-// The length of the tag that a text in dollars begins or ends with, 0 for any other token: what
-// stands between two of them is read as code.
-long DollarTag(const engine::analysis::TextSpans& text, const engine::analysis::Token& token);
-
-// The name at the place in UTF-8, its quotes taken off and doubled ones made one.
-std::string PlainName(const engine::analysis::TextSpans& text, long start, long end);
 
 } // namespace completion

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 // NameMachine's steps: what a word is where a name is expected.
 #include "completion/NameMachine.h"
+#include "completion/NameText.h"
 
 namespace completion {
 namespace {
@@ -230,9 +231,7 @@ void NameMachine::ReadItem(const Token& token, NameWord word)
         return;
     }
     s.itemBegins = false;
-    const bool isQuoted = m_text->At(token.start) == '"' || m_text->At(token.start) == '[' ||
-                          m_text->At(token.start) == '`';
-    if (isQuoted || (word != W::Key && MayBeName(word)) ||
+    if (IsQuotedName(*m_text, token.start) || (word != W::Key && MayBeName(word)) ||
         (word == W::Key && NextByte(token.end) != '('))
         Emit(NameKind::Column, token);
 }

@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "completion/ScriptReader.h"
 
+#include "completion/NameText.h"
+
 namespace completion {
 
 using engine::analysis::ClientLineAt;

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "completion/SelectList.h"
 
+#include "completion/NameText.h"
 #include "completion/ScriptReader.h"
 
 #include <algorithm>
