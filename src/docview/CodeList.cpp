@@ -47,6 +47,39 @@ struct WordHash
 };
 using Words = std::unordered_set<std::u16string, WordHash, std::equal_to<>>;
 
+// Pieces of the text, asked for from front to back. Where they stand close together one reading
+// serves many of them, and where they do not it is no longer than a piece.
+class Pieces
+{
+public:
+    explicit Pieces(CZNCoreEditorControlEx& control) : m_control(control) {}
+
+    std::u16string_view At(long start, long end)
+    {
+        if (start < m_start || end > m_end)
+            Read(start, end);
+        return std::u16string_view(m_units).substr(static_cast<std::size_t>(start - m_start),
+                                                   static_cast<std::size_t>(end - start));
+    }
+
+private:
+    void Read(long start, long end)
+    {
+        constexpr long kMost = 8192;
+        m_ahead = start - m_end < m_ahead ? std::min(2 * m_ahead, kMost) : kLongestWord;
+        m_start = start;
+        m_end = std::min(std::max(end, start + m_ahead), m_control.GetLength(1));
+        m_units.resize(static_cast<std::size_t>(m_end - start) + 1);
+        m_control.GetRange(m_start, m_end, m_units.data());
+    }
+
+    CZNCoreEditorControlEx& m_control;
+    std::u16string m_units; // of the text from m_start to m_end, and a terminator
+    long m_start = 0;
+    long m_end = 0;
+    long m_ahead = kLongestWord;
+};
+
 std::u16string WordBeforeCaret(CZNCoreEditorControlEx& control)
 {
     const std::u16string line = LineBeforeCaret(control);
@@ -106,7 +139,7 @@ void CZNCoreEditorView::GetWordsNear(const char16_t* word, int length, QStringLi
         known.insert(each.toStdU16String());
     const long skip = m_coreEditor.GetCurrentPos(1) - length;
     const long end = m_coreEditor.GetLength(1);
-    std::array<char16_t, kLongestWord + 1> room;
+    Pieces pieces(m_coreEditor);
     for (long start = 0; start < end;) {
         TextToFind search{.chrg = {static_cast<int>(start), static_cast<int>(end)},
                           .lpstrText = word};
@@ -117,8 +150,7 @@ void CZNCoreEditorView::GetWordsNear(const char16_t* word, int length, QStringLi
             start = at + length;
             continue;
         }
-        const int count = m_coreEditor.GetRange(at, std::min(at + kLongestWord, end), room.data());
-        const std::u16string_view piece(room.data(), static_cast<std::size_t>(std::max(count, 0)));
+        const std::u16string_view piece = pieces.At(at, std::min(at + kLongestWord, end));
         std::size_t size = std::min(static_cast<std::size_t>(length), piece.size());
         while (size < piece.size() && codewords::IsWordUnit(piece[size]))
             ++size;
