@@ -189,6 +189,22 @@ TEST_F(Macro, LeavesAReadOnlyText)
     EXPECT_EQ(Text(), QStringLiteral("ab"));
 }
 
+TEST_F(Macro, LeavesATextThatHasBeenEmptied)
+{
+    Put(QStringLiteral("one\ntwo\nthree\n"), 4, 4);
+    Run(kRecord);
+    Control().LineDown(1);
+    Control().WordRight(1);
+    Control().DeleteBack(1);
+    Control().LineCut(1);
+    Control().LineTranspose(1);
+    Run(kRecord);
+    Control().ClearAll(1);
+    Run(kPlay);
+    EXPECT_EQ(Text(), QString());
+    EXPECT_EQ(Control().GetCurrentPos(1), 0);
+}
+
 TEST(MacroList, OfAMillionMessagesIsFreed)
 {
     FreeMacro(); // the list is the process's

@@ -133,6 +133,20 @@ TEST_F(Commands, RunTheirOperation)
     EXPECT_FALSE(control.HasBookmarks());
 }
 
+TEST_F(Commands, ZoomWithinTheirLimits)
+{
+    control.SetZoom(19, 1);
+    for (int i = 0; i < 3; ++i)
+        EXPECT_TRUE(control.OnCmdMsg(53962, nullptr));
+    EXPECT_EQ(control.GetZoom(1), 20);
+    control.SetZoom(-9, 1);
+    for (int i = 0; i < 3; ++i)
+        EXPECT_TRUE(control.OnCmdMsg(53963, nullptr));
+    EXPECT_EQ(control.GetZoom(1), -10);
+    EXPECT_TRUE(control.OnCmdMsg(53964, nullptr));
+    EXPECT_EQ(control.GetZoom(1), 0);
+}
+
 TEST_F(Commands, ChangeLineEnds)
 {
     EXPECT_EQ(After(54071, u"a\n|b"), u"a\r\n|b");
