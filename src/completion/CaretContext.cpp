@@ -61,6 +61,7 @@ public:
         : m_start(index.StartBefore(std::max(0L, caret - kBefore))), m_caret(caret),
           m_dialect(*index.Dialect()), m_names(m_start.entry.names)
     {
+        m_levels.resize(m_names.depth + std::size_t{1});
         std::u16string units;
         const long from = std::min(m_start.position + m_start.entry.skip, caret);
         read(from, caret, units);
@@ -75,6 +76,7 @@ public:
         ReadBefore();
         ReadBehind();
         KeepPart();
+        SortTables();
         m_context.query.caret = m_caret;
         return std::move(m_context);
     }
@@ -84,7 +86,15 @@ private:
     {
         ScriptName name;
         int part;
-        long end; // in the text before the caret, -1 behind it
+        std::string_view behind; // the text behind the name
+        std::string_view query;  // that an alias stands for
+    };
+
+    // Within a parenthesis, or outside of all.
+    struct Level
+    {
+        int part = 0;   // the statement's, or the query's
+        long open = -1; // where its text begins; -1: not in the text that is read
     };
 
     void ReadBefore()
@@ -200,15 +210,19 @@ private:
     // The statement up to where the next begins.
     void ReadBehind()
     {
-        m_caretPart = m_part;
-        m_isBehind = true;
+        for (Level& level : m_levels) {
+            m_parts.push_back(level.part);
+            level.open = -1;
+        }
+        m_closed = -1;
         const TextSpans text(m_behind);
         long at = 0;
         while (at < text.Size() && IsWordByte(text.At(at)))
             ++at;
         m_context.rest = ToText(text.Copy(0, at));
         ScriptReader reader(m_dialect, text, at, {}, m_names);
-        while (m_part == m_caretPart && reader.Next())
+        m_isOver = false;
+        while (!m_isOver && reader.Next())
             Take(reader);
     }
 
@@ -220,13 +234,62 @@ private:
     void Take(const ScriptReader& reader)
     {
         m_names = reader.Machine().Now();
-        if (reader.Machine().BeganPart())
-            ++m_part;
-        for (const NameEvent& event : reader.Names()) {
-            ScriptName name{
-                event.kind, ToText(PlainName(reader.Text(), event.start, event.end)), {}, 0, 0};
-            m_found.push_back({std::move(name), m_part, m_isBehind ? -1 : event.end});
+        const std::size_t levels = m_names.depth + std::size_t{1};
+        for (; m_levels.size() > levels; m_levels.pop_back())
+            m_closed = m_levels.back().open;
+        if (m_levels.size() < levels)
+            m_levels.resize(levels, {m_levels.back().part, reader.Last().end});
+        if (reader.Machine().BeganPart() || reader.Machine().BeganQuery())
+            m_levels.back().part = ++m_part;
+        m_isOver = m_isOver || reader.Machine().BeganPart();
+        for (const NameEvent& event : reader.Names())
+            Take(reader.Text(), event);
+    }
+
+    void Take(const TextSpans& text, const NameEvent& event)
+    {
+        ScriptName name{event.kind, ToText(PlainName(text, event.start, event.end)), {}, 0, 0};
+        name.isQuoted = IsQuotedName(text, event.start);
+        const auto from = [&](long place) {
+            return place >= 0 && place < text.Size() ? text.RunAt(place) : std::string_view();
+        };
+        m_found.push_back({std::move(name), m_levels.back().part, from(event.end), from(m_closed)});
+    }
+
+    // How far out the query is that something was found in: 0 for the caret's own, -1 for one that
+    // the caret does not stand in.
+    int DistanceOf(const Found& found) const
+    {
+        const auto part = std::find(m_parts.rbegin(), m_parts.rend(), found.part);
+        return part != m_parts.rend() ? static_cast<int>(part - m_parts.rbegin()) : -1;
+    }
+
+    void KeepTable(const Found& found)
+    {
+        const int distance = DistanceOf(found);
+        if (distance < 0)
+            return;
+        const ScriptName& name = found.name;
+        if (name.kind == NameKind::Alias) {
+            if (!m_tables.empty()) {
+                m_tables.back().table.alias = name.name;
+                m_tables.back().table.isAliasQuoted = name.isQuoted;
+            }
+        } else if (name.kind == NameKind::DerivedAlias) {
+            m_tables.push_back(
+                {distance, {{}, name.name, SelectListOf(m_dialect, found.query), name.isQuoted}});
+        } else {
+            m_tables.push_back({distance, {name.name, {}, {}}});
         }
+    }
+
+    void SortTables()
+    {
+        std::stable_sort(
+            m_tables.begin(), m_tables.end(),
+            [](const Scoped& one, const Scoped& other) { return one.distance < other.distance; });
+        for (Scoped& each : m_tables)
+            m_context.tables.push_back(std::move(each.table));
     }
 
     void KeepPart()
@@ -239,23 +302,22 @@ private:
             case NameKind::InsertUse:
             case NameKind::AlterUse:
                 table.clear(); // the index knows where these have their columns
-                if (found.part == m_caretPart)
-                    m_context.tables.push_back({name.name, {}});
+                KeepTable(found);
                 break;
             case NameKind::Alias:
-                if (found.part == m_caretPart && !m_context.tables.empty())
-                    m_context.tables.back().alias = name.name;
+                KeepTable(found);
                 break;
             case NameKind::DerivedAlias:
-                if (found.part == m_caretPart)
-                    m_context.tables.push_back({{}, name.name});
+                table = name.name;
+                KeepTable(found);
                 break;
             case NameKind::Table:
             case NameKind::View:
                 table.clear();
                 break;
             case NameKind::Cte:
-                KeepQuery(found);
+                m_context.queries.push_back(
+                    {name.name, SelectListBehindAs(m_dialect, found.behind)});
                 [[fallthrough]];
             case NameKind::Variable:
                 table = name.name;
@@ -277,14 +339,11 @@ private:
         }
     }
 
-    // One that stands before the caret and names no columns has those of its query.
-    void KeepQuery(const Found& found)
+    struct Scoped
     {
-        if (found.end < 0)
-            return;
-        const auto text = std::string_view(m_before).substr(static_cast<std::size_t>(found.end));
-        m_context.queries.push_back({found.name.name, SelectListBehindAs(m_dialect, text)});
-    }
+        int distance;
+        ScopedTable table;
+    };
 
     static constexpr std::size_t kRemembered = 16; // tokens, for the names in front of points
 
@@ -297,9 +356,12 @@ private:
     std::string m_behind;
     std::vector<Token> m_tokens;
     std::vector<Found> m_found;
+    std::vector<Scoped> m_tables;
+    std::vector<Level> m_levels; // where the reading has come to
+    std::vector<int> m_parts;    // that the caret stands in
+    long m_closed = -1;          // where the text in the last parenthesis began
     int m_part = 0;
-    int m_caretPart = 0;
-    bool m_isBehind = false; // the caret
+    bool m_isOver = false; // a statement has ended, or a query that stands in no parenthesis
     CaretContext m_context;
 };
 

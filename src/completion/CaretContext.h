@@ -14,6 +14,8 @@ struct ScopedTable
 {
     QString name; // empty for what a query in parentheses gives
     QString alias;
+    std::vector<SelectItem> items; // of the query in parentheses
+    bool isAliasQuoted = false;
 };
 
 // A common table without a list of columns.
@@ -26,11 +28,12 @@ struct QueryTable
 struct CaretContext
 {
     ProposalQuery query;
-    QString rest;                    // of the word, behind the caret
-    QChar quote;                     // that the word begins with, none if it is not quoted
-    std::vector<ScopedTable> tables; // of the statement, before the caret and behind it
+    QString rest; // of the word, behind the caret
+    QChar quote;  // that the word begins with, none if it is not quoted
+    // Of the queries that the caret stands in, the innermost first, before the caret and behind it.
+    std::vector<ScopedTable> tables;
     // Variables, parameters, cursors, common tables and their columns, from some way before the
-    // caret up to it. Their places count from that.
+    // caret up to it. Their places mean nothing.
     std::vector<ScriptName> locals;
     std::vector<QueryTable> queries; // of the locals
 };

@@ -19,6 +19,12 @@ enum class Match : std::uint8_t
     None,
 };
 
+// The smaller is the better: case is a reason only for what is equally good otherwise.
+constexpr int Weight(Match match)
+{
+    return static_cast<int>(match == Match::BeginningOfAnyCase ? Match::Beginning : match);
+}
+
 // What was typed, prepared for many words. UTF-8; bytes that are not ASCII match themselves alone.
 class Typed
 {

@@ -33,7 +33,6 @@ bool NameMachine::IsHead(NameWord word) const
     case W::Merge:
     case W::Declare:
     case W::Fetch:
-    case W::Drop:
     case W::Truncate:
     case W::Print:
     case W::Return:
@@ -47,6 +46,8 @@ bool NameMachine::IsHead(NameWord word) const
     case W::Alter:
     case W::Lock:
         return true;
+    case W::Drop:
+        return s.verb != W::Alter; // it drops columns there, or turns out to be one
     case W::With:
         return IsOneOf(s.previous, {W::Begins, W::As, W::Open});
     case W::Replace:
@@ -91,6 +92,7 @@ void NameMachine::ReadClause(const Token& token, NameWord word)
         s.patience = kPatience;
         return;
     case W::Select:
+        m_beganQuery = true;
         Set(s.selects, true);
         Set(s.froms, false);
         return;
@@ -167,6 +169,15 @@ void NameMachine::ReadClause(const Token& token, NameWord word)
     case W::Add:
         if (s.verb == W::Alter)
             s.step = Step::AddColumn;
+        return;
+    case W::Drop:
+        if (s.verb == W::Alter && s.depth == 0)
+            s.step = Step::DropColumn;
+        return;
+    case W::Rename:
+    case W::Change:
+        if (s.verb == W::Alter && s.depth == 0)
+            s.step = Step::OldColumn;
         return;
     case W::Go:
         if (m_dialect->separator == "GO")

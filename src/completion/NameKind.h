@@ -28,7 +28,10 @@ enum class NameKind : std::uint8_t
     Cte,
     Alias,
     DerivedAlias, // of a query in parentheses, or of what a function gives
-                  // Used, wherever they may come from
+                  // By ALTER
+    DroppedColumn,
+    RenamedColumn, // the column behind it takes its place
+                   // Used, wherever they may come from
     TableUse,
     InsertUse, // the same with a list of columns behind it
     RoutineUse,

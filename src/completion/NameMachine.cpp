@@ -8,8 +8,6 @@
 namespace completion {
 namespace {
 
-using engine::analysis::TextSpans;
-using engine::analysis::Token;
 using engine::analysis::TokenKind;
 using W = NameWord;
 
@@ -23,6 +21,7 @@ void NameMachine::Take(const TextSpans& text, const Token& token, std::vector<Na
     m_text = &text;
     m_events = &events;
     m_beganPart = false;
+    m_beganQuery = false;
     TakeToken(token);
     const auto last = token.end > token.start ? text.At(token.end - 1) : 0;
     m_state.before = DollarTag(text, token) != 0    ? State::Before::Other
@@ -179,6 +178,7 @@ void NameMachine::OpenParenthesis()
     case Step::AfterInsert:
     case Step::AfterCte:
     case Step::AddColumn:
+    case Step::AfterDerived:
         if (step != Step::Header)
             s.object = step == Step::AfterCte ? NameKind::Cte : NameKind::Table;
         s.step = Step::Items;
@@ -189,6 +189,7 @@ void NameMachine::OpenParenthesis()
     case Step::BareParameters:
     case Step::AfterDeclared:
     case Step::AfterAdded:
+    case Step::DropColumn:
         return;
     default:
         s.step = Step::Code;
@@ -240,6 +241,9 @@ void NameMachine::TakeComma()
     case Step::AfterAdded: // ADD a int, b int
         if (s.depth == 0)
             s.step = m_dialect->brackets ? Step::AddColumn : Step::Code;
+        return;
+    case Step::AfterDropped: // DROP COLUMN a, b and DROP (a, b)
+        s.step = m_dialect->brackets || s.depth > 0 ? Step::DropColumn : Step::Code;
         return;
     case Step::Code:
     case Step::AfterTable:

@@ -44,6 +44,11 @@ struct NameState
         AlteredTable,
         AddColumn,
         AfterAdded, // the type of a column that ALTER adds
+        DropColumn,
+        AfterDropped,
+        OldColumn, // that is renamed
+        NewColumn,
+        AfterDerived, // the columns of an alias
     };
 
     // What the last byte was, which the next token may touch.
@@ -94,7 +99,8 @@ public:
     void Take(const TextSpans& text, const Token& token, std::vector<NameEvent>& events);
 
     const State& Now() const { return m_state; }
-    bool BeganPart() const { return m_beganPart; } // the last token did: a statement, a query
+    bool BeganPart() const { return m_beganPart; }   // the last token did: a statement, a query
+    bool BeganQuery() const { return m_beganQuery; } // the same in any parentheses
 
     // What a name in this place would be.
     bool WantsTable() const
@@ -117,8 +123,9 @@ private:
     bool ReadStep(const Token& token, NameWord word);
     void ReadClause(const Token& token, NameWord word);
     bool ReadDeclaration(const Token& token, NameWord word);
-    void ReadCreated(NameWord word);
+    bool ReadCreated(NameWord word);
     void ReadItem(const Token& token, NameWord word);
+    void EmitAlias(const Token& token);
     void EnterBody();
     bool IsHead(NameWord word) const;
     void Begin(NameWord word);
@@ -136,6 +143,7 @@ private:
     const TextSpans* m_text = nullptr;
     std::vector<NameEvent>* m_events = nullptr;
     bool m_beganPart = false;
+    bool m_beganQuery = false;
     bool m_atStart = false; // what stands behind the word begins a statement
 };
 

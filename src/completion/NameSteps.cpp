@@ -30,15 +30,6 @@ const Created* FindCreated(NameWord word)
     return row != std::end(kCreated) ? row : nullptr;
 }
 
-// Words of the list that dialects also take for names.
-bool MayBeName(NameWord word)
-{
-    return IsOneOf(word, {W::Other,  W::Type,      W::Package, W::Sequence,     W::Schema,
-                          W::Body,   W::Key,       W::Block,   W::Option,       W::Only,
-                          W::Offset, W::Output,    W::Start,   W::Undo,         W::Window,
-                          W::Ignore, W::Immediate, W::Returns, W::Materialized, W::Concurrently});
-}
-
 } // namespace
 
 // True if the step has taken the word; else it is to be read as any other.
@@ -50,8 +41,7 @@ bool NameMachine::ReadStep(const Token& token, NameWord word)
     case Step::Code:
         return false;
     case Step::AfterCreate:
-        ReadCreated(word);
-        return true;
+        return ReadCreated(word);
     case Step::ObjectName:
         if (IsOneOf(word, {W::If, W::Not, W::Exists, W::Body, W::Concurrently, W::Only}))
             return true;
@@ -115,16 +105,12 @@ bool NameMachine::ReadStep(const Token& token, NameWord word)
             s.step = Step::AfterAs;
             return true;
         }
-        s.step = Step::Code;
-        if (!MayBeName(word))
-            return false;
-        Emit(s.isDerived ? NameKind::DerivedAlias : NameKind::Alias, token);
-        return true;
+        [[fallthrough]];
     case Step::AfterAs:
         s.step = Step::Code;
         if (!MayBeName(word))
             return false;
-        Emit(s.isDerived ? NameKind::DerivedAlias : NameKind::Alias, token);
+        EmitAlias(token);
         return true;
     case Step::CteName:
         if (word == W::Recursive)
@@ -186,6 +172,43 @@ bool NameMachine::ReadStep(const Token& token, NameWord word)
         if (IsHead(word))
             s.step = Step::Code;
         return false;
+    case Step::DropColumn: {
+        if (IsOneOf(word, {W::Column, W::If, W::Exists}))
+            return true;
+        s.step = Step::Code;
+        const bool isOther =
+            m_dialect->brackets ? word != W::Constraint : word != W::Index && FindCreated(word);
+        if (s.previous == W::Drop && isOther) {
+            Begin(W::Drop); // a statement of its own
+            return false;
+        }
+        if (!MayBeName(word) || word == W::Key)
+            return false;
+        Emit(NameKind::DroppedColumn, token);
+        s.step = Step::AfterDropped;
+        return true;
+    }
+    case Step::AfterDropped:
+        if (IsHead(word))
+            s.step = Step::Code;
+        return false;
+    case Step::OldColumn:
+        if (word == W::Column)
+            return true;
+        s.step = Step::Code;
+        if (!MayBeName(word) || word == W::Key)
+            return false;
+        Emit(NameKind::RenamedColumn, token);
+        s.step = Step::NewColumn;
+        return true;
+    case Step::NewColumn:
+        if (word == W::To)
+            return true;
+        s.step = Step::Code;
+        if (!MayBeName(word))
+            return false;
+        Emit(NameKind::Column, token);
+        return true;
     case Step::AlteredTable:
         if (IsOneOf(word, {W::If, W::Exists, W::Only}))
             return true;
@@ -197,13 +220,15 @@ bool NameMachine::ReadStep(const Token& token, NameWord word)
         Emit(NameKind::AlterUse, token);
         return true;
     case Step::AfterInsert:
+    case Step::AfterDerived:
         s.step = Step::Code;
         return false;
     }
     return false;
 }
 
-void NameMachine::ReadCreated(NameWord word)
+// False for a word that begins a statement: what ALTER does ended without a name.
+bool NameMachine::ReadCreated(NameWord word)
 {
     State& s = m_state;
     if (const Created* row = FindCreated(word)) {
@@ -212,10 +237,22 @@ void NameMachine::ReadCreated(NameWord word)
         // ALTER of these gives nothing anew but columns.
         if (s.verb == W::Alter && row->kind == NameKind::Table)
             s.step = Step::AlteredTable;
-        return;
+        return true;
     }
-    if (s.patience-- == 0 || word == W::Select)
+    const bool ends = (IsOneOf(word, {W::Create, W::Alter}) && s.previous != W::Or) ||
+                      IsOneOf(word, {W::Insert, W::Update, W::Delete, W::Exec, W::Drop, W::Select});
+    if (s.patience-- == 0 || ends || word == W::Column)
         s.step = Step::Code;
+    return !ends;
+}
+
+// The columns that a query in parentheses gives may be named behind it.
+void NameMachine::EmitAlias(const Token& token)
+{
+    State& s = m_state;
+    Emit(s.isDerived ? NameKind::DerivedAlias : NameKind::Alias, token);
+    if (s.isDerived && NextByte(token.end) == '(')
+        s.step = Step::AfterDerived;
 }
 
 void NameMachine::ReadItem(const Token& token, NameWord word)
@@ -267,9 +304,10 @@ bool NameMachine::ReadDeclaration(const Token& token, NameWord word)
         return true;
     }
     const char next = NextByte(token.end);
-    if (word == W::Other && next != '(' && next != '.' && next != ':' && next != ';' && next != ')')
+    const bool isName = MayBeName(word);
+    if (isName && next != '(' && next != '.' && next != ':' && next != ';' && next != ')')
         Emit(NameKind::Variable, token);
-    return word == W::Other || word == W::Pragma;
+    return isName || word == W::Pragma;
 }
 
 } // namespace completion

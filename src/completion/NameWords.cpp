@@ -68,4 +68,14 @@ NameWord NameWordOf(std::string_view word)
     return NameWord::Other;
 }
 
+bool MayBeName(NameWord word)
+{
+    using W = NameWord;
+    return IsOneOf(word,
+                   {W::Other,  W::Type,   W::Package,      W::Sequence,    W::Schema,    W::Body,
+                    W::Key,    W::Block,  W::Option,       W::Only,        W::Offset,    W::Output,
+                    W::Start,  W::Undo,   W::Window,       W::Ignore,      W::Immediate, W::Returns,
+                    W::Change, W::Rename, W::Materialized, W::Concurrently});
+}
+
 } // namespace completion

@@ -23,6 +23,9 @@ enum class NameWord : std::uint8_t
 // Letters of any case. Other for a word that is none of them.
 NameWord NameWordOf(std::string_view word);
 
+// Dialects take this one for a name as well.
+bool MayBeName(NameWord word);
+
 inline bool IsOneOf(NameWord word, std::initializer_list<NameWord> words)
 {
     return std::find(words.begin(), words.end(), word) != words.end();

@@ -22,13 +22,6 @@ struct Fitting
     Proposal* proposal;
 };
 
-// Case is a reason only for what is equally good otherwise.
-int Weight(Match match)
-{
-    return match == Match::BeginningOfAnyCase ? static_cast<int>(Match::Beginning)
-                                              : static_cast<int>(match);
-}
-
 bool ComesFirst(const Fitting& one, const Fitting& other)
 {
     if (one.match != other.match)
@@ -67,24 +60,27 @@ std::vector<Proposal> BestOf(std::vector<Proposal> proposals, const QString& typ
         if (match != Match::None)
             fitting.push_back({Weight(match), &proposal});
     }
-    std::sort(fitting.begin(), fitting.end(), ComesFirst);
+    // No more are put into order than are shown: a heap has the best one in front.
+    const auto isWorse = [](const Fitting& one, const Fitting& other) {
+        return ComesFirst(other, one);
+    };
+    std::make_heap(fitting.begin(), fitting.end(), isWorse);
     // A word that is known as something else is that.
     QSet<QString> known;
     std::vector<Proposal> best;
-    for (const Fitting& each : fitting) {
-        if (best.size() == most)
-            break;
-        if (each.proposal->kind == ProposalKind::Word &&
-            known.contains(each.proposal->text.toCaseFolded()))
-            continue;
-        const QString key = each.proposal->text.toCaseFolded();
+    while (!fitting.empty() && best.size() < most) {
+        std::pop_heap(fitting.begin(), fitting.end(), isWorse);
+        Proposal* each = fitting.back().proposal;
+        fitting.pop_back();
+        const QString key = each->text.toCaseFolded();
         const auto isSame = [&](const Proposal& other) {
-            return other.kind == each.proposal->kind && other.text == each.proposal->text;
+            return other.kind == each->kind && other.text == each->text;
         };
-        if (known.contains(key) && std::any_of(best.begin(), best.end(), isSame))
+        if (known.contains(key) &&
+            (each->kind == ProposalKind::Word || std::any_of(best.begin(), best.end(), isSame)))
             continue;
         known.insert(key);
-        best.push_back(std::move(*each.proposal));
+        best.push_back(std::move(*each));
     }
     return best;
 }

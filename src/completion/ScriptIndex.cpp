@@ -441,10 +441,7 @@ std::vector<ScriptIndex::Object> ScriptIndex::Objects() const
 std::vector<ScriptIndex::Id> ScriptIndex::NumbersOf(std::string_view word) const
 {
     std::vector<Id> ids;
-    m_words.Find(Typed(word), [&](Id id, Match match) {
-        if (match == Match::Exact)
-            ids.push_back(id);
-    });
+    m_words.FindSame(word, [&](Id id) { ids.push_back(id); });
     return ids;
 }
 

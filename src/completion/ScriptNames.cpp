@@ -24,6 +24,8 @@ public:
     {
         switch (name.kind) {
         case NameKind::Column:
+        case NameKind::DroppedColumn:
+        case NameKind::RenamedColumn:
             return m_table;
         case NameKind::Parameter:
             return m_routine;
@@ -44,6 +46,7 @@ public:
         case NameKind::Cte:
         case NameKind::Variable:
         case NameKind::Type:
+        case NameKind::DerivedAlias:
             m_table = name.name;
             return {};
         default:
@@ -57,6 +60,37 @@ private:
     QString m_used;
 };
 
+bool IsMember(NameKind kind)
+{
+    return kind == NameKind::Column || kind == NameKind::Parameter ||
+           kind == NameKind::DroppedColumn || kind == NameKind::RenamedColumn;
+}
+
+// All of them, or the first one and its members.
+std::vector<ScriptName> Read(std::u16string_view text, const engine::analysis::SqlDialect& dialect,
+                             bool isAll)
+{
+    const std::string utf8 = ToUtf8(text);
+    UnitCounter units(utf8);
+    ScriptReader reader(dialect, TextSpans(utf8));
+    Parents parents;
+    std::vector<ScriptName> names;
+    while (reader.Next()) {
+        for (const NameEvent& event : reader.Names()) {
+            ScriptName name{event.kind, NameAt(reader.Text(), event), {}, units.At(event.start), 0};
+            name.end = units.At(event.end);
+            name.isQuoted = IsQuotedName(reader.Text(), event.start);
+            name.parent = parents.Of(name);
+            if (!isAll && !names.empty() && !IsMember(name.kind))
+                return names;
+            names.push_back(std::move(name));
+        }
+        if (!isAll && reader.Last().kind == engine::analysis::TokenKind::Terminator)
+            break;
+    }
+    return names;
+}
+
 } // namespace
 
 std::vector<ScriptName> NamesIn(std::u16string_view text, int dialect)
@@ -64,21 +98,13 @@ std::vector<ScriptName> NamesIn(std::u16string_view text, int dialect)
     const auto* row = engine::analysis::DialectByNumber(dialect);
     if (!row)
         return {};
-    const std::string utf8 = ToUtf8(text);
-    const TextSpans spans(utf8);
-    UnitCounter units(utf8);
-    ScriptReader reader(*row, spans);
-    Parents parents;
-    std::vector<ScriptName> names;
-    while (reader.Next()) {
-        for (const NameEvent& event : reader.Names()) {
-            ScriptName name{event.kind, NameAt(spans, event), {}, units.At(event.start), 0};
-            name.end = units.At(event.end);
-            name.parent = parents.Of(name);
-            names.push_back(std::move(name));
-        }
-    }
-    return names;
+    return Read(text, *row, true);
+}
+
+std::vector<ScriptName> MembersIn(std::u16string_view text,
+                                  const engine::analysis::SqlDialect& dialect)
+{
+    return Read(text, dialect, false);
 }
 
 } // namespace completion

@@ -11,6 +11,10 @@
 #include <string_view>
 #include <vector>
 
+namespace engine::analysis {
+struct SqlDialect;
+}
+
 namespace completion {
 
 struct ScriptName
@@ -20,10 +24,16 @@ struct ScriptName
     QString parent; // the table of a column or an alias, the routine of a parameter; or empty
     long start = 0; // of the name with its quotes, in units of the text
     long end = 0;
+    bool isQuoted = false; // there
 };
 
 // In their order, in a dialect of control/Analysis.h (partitioner::Dialect); nothing for a number
 // that is none. A text that begins in the midst of a comment or a string is read as code.
 ZN_API std::vector<ScriptName> NamesIn(std::u16string_view text, int dialect);
+
+// The first one and what belongs to it, its columns and parameters; up to the terminator, or the
+// first name that is something else.
+std::vector<ScriptName> MembersIn(std::u16string_view text,
+                                  const engine::analysis::SqlDialect& dialect);
 
 } // namespace completion

@@ -5,9 +5,10 @@
 
 #include "completion/CaretContext.h"
 #include "completion/LanguageWords.h"
-#include "completion/Signatures.h"
 
 namespace completion {
+
+struct Column;
 
 // The index and what reads its text outlive the source.
 class ScriptSource final : public ProposalSource
@@ -23,30 +24,23 @@ public:
     void Propose(const ProposalQuery& query, std::vector<Proposal>& proposals) override;
 
 private:
-    void ProposeColumns(const ProposalQuery& query, std::vector<Proposal>& proposals) const;
+    void ProposeColumns(std::vector<Proposal>& proposals) const;
     bool ProposeQualified(const ProposalQuery& query, std::vector<Proposal>& proposals) const;
     void ProposeLocals(const ProposalQuery& query, std::vector<Proposal>& proposals) const;
     void ProposeObjects(const ProposalQuery& query, std::vector<Proposal>& proposals) const;
     void ProposeLanguage(const ProposalQuery& query, std::vector<Proposal>& proposals) const;
     void ProposeWords(const ProposalQuery& query, std::vector<Proposal>& proposals) const;
-    // Gives the rank behind the last one. Tables within tables are followed so many deep.
-    int AddColumnsOf(const QString& table, int rank, std::vector<Proposal>& proposals,
-                     int deep = 4) const;
-    int AddSelected(const std::vector<SelectItem>& items, const QString& table, int rank,
-                    std::vector<Proposal>& proposals, int deep) const;
-    int AddDefined(const ScriptIndex::Object& table, const QString& name, int rank,
-                   std::vector<Proposal>& proposals, int deep) const;
+    void AddColumns(const std::vector<Column>& columns, int& rank,
+                    std::vector<Proposal>& proposals) const;
+    bool IsKeyword(const QString& name) const;
+    bool IsQuotedAt(long position) const;
     Proposal Named(ProposalKind kind, const QString& name, int rank,
-                   const QString& description = {}) const;
-    QString Written(const QString& name) const;
+                   const QString& description = {}, bool wasQuoted = false) const;
 
     const ScriptIndex& m_index;
     ScriptIndex::Read m_read;
     std::vector<LanguageWord> m_words;
     CaretContext m_context;
 };
-
-// A routine that the script creates. Empty if it creates none of the name.
-Signature SignatureIn(const ScriptIndex& index, const ScriptIndex::Read& read, const QString& name);
 
 } // namespace completion

@@ -14,10 +14,13 @@ using engine::analysis::Token;
 using engine::analysis::TokenKind;
 using W = NameWord;
 
+constexpr int kDeepest = 4; // queries in queries
+
 struct Table
 {
     QString name;
     QString alias;
+    std::vector<SelectItem> items; // of a query
 };
 
 QString NameAt(const TextSpans& text, long start, long end)
@@ -29,8 +32,19 @@ QString NameAt(const TextSpans& text, long start, long end)
 class ListReader
 {
 public:
-    ListReader(const engine::analysis::SqlDialect& dialect, std::string_view utf8)
-        : m_reader(dialect, TextSpans(utf8)), m_takesEquals(dialect.brackets)
+    enum class Phase
+    {
+        Before, // the AS
+        Head,   // between it and the query
+        Items,
+        From,
+        Done,
+    };
+
+    ListReader(const engine::analysis::SqlDialect& dialect, std::string_view utf8, Phase phase,
+               int deep)
+        : m_dialect(dialect), m_utf8(utf8), m_reader(dialect, TextSpans(utf8)), m_phase(phase),
+          m_deep(deep)
     {}
 
     std::vector<SelectItem> Read()
@@ -50,15 +64,6 @@ public:
     }
 
 private:
-    enum class Phase
-    {
-        Before, // the AS
-        Head,   // between it and the query
-        Items,
-        From,
-        Done,
-    };
-
     W WordAt(const Token& token) const
     {
         return token.kind == TokenKind::Word
@@ -73,13 +78,15 @@ private:
     bool IsName(const Token& token) const
     {
         return token.kind == TokenKind::QuotedName ||
-               (token.kind == TokenKind::Word && WordAt(token) == W::Other);
+               (token.kind == TokenKind::Word && MayBeName(WordAt(token)));
     }
 
     void TakeToken(const Token& token)
     {
         if (Is(token, '(')) {
-            m_base += m_phase == Phase::Head;
+            m_base += m_phase == Phase::Head && !m_hasWith;
+            if (m_phase == Phase::From && m_depth == m_base)
+                m_inner = token.end;
             if (m_depth++ == m_base && m_phase == Phase::Items)
                 m_item.push_back(token);
             return;
@@ -98,6 +105,7 @@ private:
                 m_phase = Phase::Head;
             return;
         case Phase::Head:
+            m_hasWith = m_hasWith || word == W::With; // whose queries stand in parentheses
             if (word == W::Select)
                 m_phase = Phase::Items;
             return;
@@ -150,12 +158,13 @@ private:
             return;
         }
         const Token* name = nullptr;
-        if (m_takesEquals && m_item.size() > 2 && IsName(m_item[0]) && Is(m_item[1], '='))
+        if (m_dialect.brackets && m_item.size() > 2 && IsName(m_item[0]) && Is(m_item[1], '='))
             name = m_item.data();
         else if (IsName(last) && (m_item.size() == 1 || EndsExpression(*(m_item.end() - 2))))
             name = &last;
         if (name) {
-            m_items.push_back({NameAt(text, name->start, name->end), {}});
+            m_items.push_back(
+                {NameAt(text, name->start, name->end), {}, IsQuotedName(text, name->start)});
             m_isStar.push_back(false);
         }
     }
@@ -173,9 +182,19 @@ private:
             return;
         const QString name = NameAt(m_reader.Text(), event.start, event.end);
         if (event.kind == NameKind::TableUse)
-            m_tables.push_back({name, {}});
+            m_tables.push_back({name, {}, {}});
         else if (event.kind == NameKind::Alias && !m_tables.empty())
             m_tables.back().alias = name;
+        else if (event.kind == NameKind::DerivedAlias)
+            m_tables.push_back({{}, name, ItemsOfInner()});
+    }
+
+    std::vector<SelectItem> ItemsOfInner() const
+    {
+        if (m_deep == 0)
+            return {};
+        const auto text = m_utf8.substr(static_cast<std::size_t>(m_inner));
+        return ListReader(m_dialect, text, Phase::Head, m_deep - 1).Read();
     }
 
     std::vector<SelectItem> ReplaceStars() const
@@ -189,18 +208,25 @@ private:
             const QString& of = m_items[i].star;
             for (const Table& table : m_tables) {
                 const QString& called = table.alias.isEmpty() ? table.name : table.alias;
-                if (of.isEmpty() || called.compare(of, Qt::CaseInsensitive) == 0)
+                if (!of.isEmpty() && called.compare(of, Qt::CaseInsensitive) != 0)
+                    continue;
+                if (!table.name.isEmpty())
                     items.push_back({{}, table.name});
+                items.insert(items.end(), table.items.begin(), table.items.end());
             }
         }
         return items;
     }
 
+    const engine::analysis::SqlDialect& m_dialect;
+    std::string_view m_utf8;
     ScriptReader m_reader;
-    bool m_takesEquals; // name = value
-    Phase m_phase = Phase::Before;
+    Phase m_phase;
+    int m_deep;       // how many queries in this one are read
+    long m_inner = 0; // the text in the last parenthesis behind FROM
     int m_depth = 0;
     int m_base = 0; // the depth of the query
+    bool m_hasWith = false;
     bool m_isTop = false;
     std::vector<Token> m_item; // a parenthesis for all that is in it
     std::vector<SelectItem> m_items;
@@ -213,7 +239,13 @@ private:
 std::vector<SelectItem> SelectListBehindAs(const engine::analysis::SqlDialect& dialect,
                                            std::string_view utf8)
 {
-    return ListReader(dialect, utf8).Read();
+    return ListReader(dialect, utf8, ListReader::Phase::Before, kDeepest).Read();
+}
+
+std::vector<SelectItem> SelectListOf(const engine::analysis::SqlDialect& dialect,
+                                     std::string_view utf8)
+{
+    return ListReader(dialect, utf8, ListReader::Phase::Head, kDeepest).Read();
 }
 
 } // namespace completion

@@ -29,18 +29,33 @@ public:
         return {m_bytes.data() + entry.start, entry.length};
     }
     std::size_t Count() const { return m_live; }
+    Match MatchOf(Id id, const Typed& typed) const
+    {
+        const bool hasLetters = (m_entries[id].letters & typed.Letters()) == typed.Letters();
+        return hasLetters ? typed.Of(Text(id)) : Match::None;
+    }
 
     // What fits, in no order.
     template <typename Take> // (Id, Match)
     void Find(const Typed& typed, Take take) const
     {
-        const std::uint32_t letters = typed.Letters();
+        for (Id id = 0; id < m_entries.size(); ++id) {
+            const Match match = MatchOf(id, typed);
+            if (match != Match::None && m_entries[id].uses > 0)
+                take(id, match);
+        }
+    }
+
+    // The word in any case.
+    template <typename Take> // (Id)
+    void FindSame(std::string_view word, Take take) const
+    {
+        const Typed same(word);
         for (Id id = 0; id < m_entries.size(); ++id) {
             const Entry& entry = m_entries[id];
-            if ((entry.letters & letters) != letters || entry.uses == 0)
-                continue;
-            if (const Match match = typed.Of(Text(id)); match != Match::None)
-                take(id, match);
+            if (entry.length == word.size() && entry.letters == same.Letters() && entry.uses > 0 &&
+                same.Of(Text(id)) == Match::Exact)
+                take(id);
         }
     }
 

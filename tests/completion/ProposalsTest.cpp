@@ -1,4 +1,5 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
+#include "completion/Definitions.h"
 #include "completion/ScriptSource.h"
 #include "tests/completion/IndexedText.h"
 
@@ -178,6 +179,88 @@ TEST(Proposals, AreTheColumnsOfACommonTablesQuery)
                     u"a) select b.| from b")
                   .First(9),
               "id n two");
+}
+
+TEST(Proposals, AreTheColumnsOfAViewBehindItsCommonTables)
+{
+    EXPECT_EQ(Caret(u"create view v as with a as (select 1 as x) select x as y, 2 as z from a;\n"
+                    u"select v.| from v",
+                    "postgresql")
+                  .First(9),
+              "y z");
+}
+
+TEST(Proposals, AreTheColumnsOfAQueryInParentheses)
+{
+    EXPECT_EQ(Caret(u"select x.| from (select a, b as c from t) x").First(9), "a c");
+    EXPECT_EQ(Caret(u"select 1 from t u join (select a, b as c from t union select 1, 2) as x on "
+                    u"u.a = x.|")
+                  .First(9),
+              "a c");
+    EXPECT_EQ(Caret(u"select | from (select xa1, xb1 from t) x").First(3), "xa1 xb1 x");
+    EXPECT_EQ(Caret(u"select x.| from (values (1, 2)) as x (a, b)").First(9), "a b");
+}
+
+TEST(Proposals, AreTheColumnsOfQueriesInQueries)
+{
+    EXPECT_EQ(Caret(std::u16string(kTables) +
+                    u"select x.| from (select o.id as n, y.* from orders o join (select c.*, 1 as "
+                    u"one from customers c) y on 1 = 1) x")
+                  .First(9),
+              "n id name one");
+}
+
+TEST(Proposals, AreTheColumnsOfTheQueryOfTheCaretBeforeThoseAroundIt)
+{
+    const std::u16string outer = std::u16string(kTables) + u"select na| from orders o where o.id "
+                                                           u"in (select id from customers)";
+    EXPECT_NE(Caret(outer).Best().front().kind, ProposalKind::Column);
+    const std::u16string inner = std::u16string(kTables) +
+                                 u"select 1 from orders o where exists (select 1 from customers c "
+                                 u"where | )";
+    EXPECT_EQ(Caret(inner).First(5), "id name [ordered at] customer c");
+    EXPECT_EQ(
+        Caret(std::u16string(kTables) + u"select (select max(o.|) from customers) from orders o")
+            .First(9),
+        "id [ordered at] customer");
+}
+
+TEST(Proposals, KeepTheQuotesThatANameNeeds)
+{
+    const std::u16string tables =
+        u"create table \"Orders\" (\"Id\" int, \"low\" int, \"a b\" int);\n";
+    EXPECT_EQ(Caret(tables + u"select o.| from \"Orders\" o", "postgresql").First(9),
+              "\"Id\" low \"a b\"");
+    EXPECT_EQ(Caret(tables + u"select * from ord|", "postgresql").First(1), "\"Orders\"");
+    EXPECT_EQ(Caret(tables + u"select o.| from \"Orders\" o", "oracle").First(9),
+              "\"Id\" \"low\" \"a b\"");
+    EXPECT_EQ(
+        Caret(u"create table t (Id int, [Order] int, [Name] int);\nselect t.| from t").First(9),
+        "Id [Order] Name");
+}
+
+TEST(Proposals, AreNoColumnsThatAlterTakesAway)
+{
+    EXPECT_EQ(Caret(u"create table t (a int, b int, c int, d int);\nalter table t drop column a, "
+                    u"change b bb bigint, modify c text, rename column d to dd, add e int;\n"
+                    u"select t.| from t",
+                    "mysql")
+                  .First(9),
+              "bb c dd e");
+    Caret renamed(u"create table t (a int, b money);\nalter table t rename column b to bb;\n"
+                  u"select t.bb| from t",
+                  "oracle");
+    EXPECT_EQ(renamed.Best().front().description, QStringLiteral("money \u00b7 t"));
+}
+
+TEST(Proposals, AreTheBestOfMany)
+{
+    std::u16string script;
+    for (int i = 0; i < 3000; ++i)
+        script += u"create table zone_" + QString::number(i).toStdU16String() + u" (id int);\n";
+    Caret caret(script + u"create table azone (id int);\nselect * from zon|");
+    EXPECT_EQ(caret.First(3), "zone_0 zone_1 zone_10");
+    EXPECT_EQ(caret.Best().size(), 100U);
 }
 
 TEST(Proposals, AreColumnsThatAlterAdds)

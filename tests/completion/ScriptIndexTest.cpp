@@ -55,6 +55,9 @@ constexpr const char16_t* kPieces[] = {
     u";\n",
     u"\\g \\! ls 'a\n",
     u"delimiter //\n",
+    u"alter table t drop column a, rename column b to c",
+    u" drop table t\n",
+    u") x (a, b) ",
 };
 
 std::u16string Piece(std::mt19937& random)

@@ -13,9 +13,9 @@ namespace {
 const char* Letter(NameKind kind)
 {
     constexpr const char* kLetters[] = {
-        "table",    "view",    "procedure", "function", "trigger",   "index",    "type",
-        "sequence", "package", "schema",    "column",   "parameter", "variable", "cursor",
-        "cte",      "alias",   "derived",   "use",      "insert",    "call",     "alter"};
+        "table",   "view",    "procedure", "function",  "trigger",  "index",  "type", "sequence",
+        "package", "schema",  "column",    "parameter", "variable", "cursor", "cte",  "alias",
+        "derived", "dropped", "renamed",   "use",       "insert",   "call",   "alter"};
     return kLetters[static_cast<int>(kind)];
 }
 
@@ -115,6 +115,29 @@ TEST(ScriptNames, AreTheTablesThatAreWritten)
                    u"values (1);"),
               "insert orders, column orders.id, column orders.at, use lines, use stock, "
               "use target, alias target.t, use source, alias source.s");
+}
+
+TEST(ScriptNames, AreTheColumnsThatAreDroppedAndRenamed)
+{
+    EXPECT_EQ(Told(u"alter table t drop column a, column if exists b\ndrop table u\n"
+                   u"alter table t drop constraint pk\nalter table t alter column c int\n"
+                   u"create table v (d int)"),
+              "alter t, dropped t.a, dropped t.b, use u, alter t, alter t, table v, column v.d");
+    EXPECT_EQ(Told(u"alter table t modify a int, change column b c int, drop d, drop key k, "
+                   u"rename index e to f, rename column g to h, add i int",
+                   partitioner::MySql),
+              "alter t, renamed t.b, column t.c, dropped t.d, renamed t.g, column t.h, "
+              "column t.i");
+    EXPECT_EQ(Told(u"alter table t drop (a, b); alter table t rename column c to d;"
+                   u"alter table t rename to u;",
+                   partitioner::Oracle),
+              "alter t, dropped t.a, dropped t.b, alter t, renamed t.c, column t.d, alter t");
+}
+
+TEST(ScriptNames, AreTheColumnsThatAnAliasNames)
+{
+    EXPECT_EQ(Told(u"select * from (values (1, 2)) x (a, b), t u", partitioner::PostgreSql),
+              "derived x, column x.a, column x.b, use t, alias t.u");
 }
 
 TEST(ScriptNames, AreNotThoseOfGrants)

@@ -2,6 +2,7 @@
 // Any script in any dialect, edited anyhow: the index is that of a fresh one, and what is proposed
 // at a caret keeps inside the text.
 #include "completion/CallAt.h"
+#include "completion/Definitions.h"
 #include "completion/ScriptSource.h"
 #include "tests/completion/IndexedText.h"
 

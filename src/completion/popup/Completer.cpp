@@ -2,6 +2,7 @@
 #include "completion/popup/Completer.h"
 
 #include "completion/CallAt.h"
+#include "completion/Definitions.h"
 #include "completion/ScriptSource.h"
 #include "completion/popup/CallTip.h"
 #include "completion/popup/LiveIndex.h"
