@@ -5,6 +5,8 @@
 #include "editing/ZNCoreEditorControlEx.h"
 #include "editing/ZNCoreEditorWidget.h"
 
+#include <QAbstractScrollArea>
+#include <QAccessible>
 #include <QApplication>
 #include <QLabel>
 #include <QListView>
@@ -260,6 +262,68 @@ TEST_F(CompleterTest, ReplacesTheRestOfAWordThatItBrings)
     Press(Qt::Key_Space, Qt::ControlModifier);
     Press(Qt::Key_Tab);
     EXPECT_EQ(m_editor.text(), QStringLiteral("customer_name customer_name"));
+}
+
+TEST_F(CompleterTest, PutsWhatIsChosenInAtSeveralCarets)
+{
+    Show(QStringLiteral("customer_name\nCUS|\nCUS\n"));
+    auto* viewport = qobject_cast<QAbstractScrollArea*>(&Window())->viewport();
+    const QPoint second(m_editor.control().PointXFromPosition(21, 1) + 2,
+                        m_editor.control().PointYFromPosition(21, 1) + 2);
+    QTest::mouseClick(viewport, Qt::LeftButton, Qt::ControlModifier, second);
+    Press(Qt::Key_Space, Qt::ControlModifier);
+    ASSERT_TRUE(IsOpen());
+    Press(Qt::Key_Tab);
+    EXPECT_EQ(m_editor.text().toStdString(), "customer_name\ncustomer_name\ncustomer_name\n");
+    m_editor.control().Undo(1);
+    EXPECT_EQ(m_editor.text(), QStringLiteral("customer_name\nCUS\nCUS\n"));
+}
+
+TEST_F(CompleterTest, TypesOverNothing)
+{
+    Show(QStringLiteral("customer_name cus| = 1"));
+    m_editor.control().SetOvertype(1, 1);
+    Press(Qt::Key_Space, Qt::ControlModifier);
+    Press(Qt::Key_Tab);
+    EXPECT_EQ(m_editor.text(), QStringLiteral("customer_name customer_name = 1"));
+    EXPECT_TRUE(m_editor.control().GetOvertype(1));
+}
+
+TEST_F(CompleterTest, TakesWholeCharactersAway)
+{
+    Show(QStringLiteral("\"n\U0001F600 x\" \"N\U0001F600|"));
+    Press(Qt::Key_Space, Qt::ControlModifier);
+    ASSERT_EQ(Rows(), QStringList(QStringLiteral("\"n\U0001F600 x\"")));
+    Press(Qt::Key_Tab);
+    EXPECT_EQ(m_editor.text(), QStringLiteral("\"n\U0001F600 x\" \"n\U0001F600 x\""));
+}
+
+TEST_F(CompleterTest, ClosesWhenWhatWasTypedIsUndone)
+{
+    Show(QStringLiteral("alpha alpine |"));
+    Type("al");
+    Press(Qt::Key_Space, Qt::ControlModifier);
+    ASSERT_TRUE(IsOpen());
+    m_editor.control().Undo(1);
+    QApplication::processEvents();
+    QApplication::processEvents();
+    EXPECT_EQ(m_editor.text(), QStringLiteral("alpha alpine "));
+    EXPECT_FALSE(IsOpen());
+}
+
+TEST_F(CompleterTest, HasItsRowsForAssistiveTechnology)
+{
+    Show(QStringLiteral("alpha alpine alp|"));
+    Press(Qt::Key_Space, Qt::ControlModifier);
+    Press(Qt::Key_Down);
+    const QAccessibleInterface* list = QAccessible::queryAccessibleInterface(List());
+    ASSERT_TRUE(list);
+    EXPECT_EQ(list->role(), QAccessible::List);
+    EXPECT_EQ(list->text(QAccessible::Name), QStringLiteral("Proposals"));
+    ASSERT_GE(list->childCount(), 2);
+    EXPECT_EQ(list->child(1)->text(QAccessible::Name), QStringLiteral("alpine, word"));
+    EXPECT_FALSE(list->child(0)->state().selected);
+    EXPECT_TRUE(list->child(1)->state().selected);
 }
 
 TEST_F(CompleterTest, ShowsWhatARoutineOfTheScriptTakes)

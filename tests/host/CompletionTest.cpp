@@ -207,6 +207,52 @@ TEST_F(Completion, ShowsThatAMacroIsRecorded)
     FreeMacro();
 }
 
+TEST_F(Completion, RepeatsInAMacroWhatWasChosenFromTheList)
+{
+    Show("customer_name\n|");
+    Trigger("recordMacro");
+    Keys("CUS");
+    Press(Qt::Key_Space, Qt::ControlModifier);
+    ASSERT_TRUE(IsOpen());
+    Press(Qt::Key_Tab);
+    Keys(" ");
+    Trigger("recordMacro");
+    ASSERT_EQ(Text(), QStringLiteral("customer_name\ncustomer_name "));
+    Trigger("playMacro");
+    EXPECT_EQ(Text(), QStringLiteral("customer_name\ncustomer_name customer_name "));
+    FreeMacro();
+}
+
+TEST_F(Completion, SaysThatAMacroIsRecordedUntilItIsStoppedWhateverIsClosed)
+{
+    Show("|");
+    Trigger("recordMacro");
+    Keys("ab");
+    Editor().SetSavePoint(1);
+    Trigger("close");
+    Open("b.sql", "c");
+    EXPECT_EQ(Status("recording"), QStringLiteral("REC"));
+    Trigger("recordMacro");
+    EXPECT_EQ(Status("recording"), QString());
+    Trigger("playMacro");
+    EXPECT_EQ(Text(), QStringLiteral("abc"));
+    FreeMacro();
+}
+
+TEST_F(Completion, ClosesItsListWhenTheFileIsReadAgain)
+{
+    Show("customer_name cus|");
+    Trigger("completeWord");
+    ASSERT_TRUE(IsOpen());
+    Write("a.sql", "x");
+    ASSERT_TRUE(Script().Reopen(-1));
+    QApplication::processEvents();
+    QApplication::processEvents();
+    EXPECT_FALSE(IsOpen());
+    Press(Qt::Key_Tab);
+    EXPECT_FALSE(Text().contains(QLatin1String("customer_name")));
+}
+
 TEST_F(Completion, PlaysAMacroOfAThousandStepsAsOneChange)
 {
     Show("|");

@@ -11,6 +11,8 @@
 #include "control/ZNCoreEditorControl.h"
 
 #include <QAbstractScrollArea>
+#include <QCoreApplication>
+#include <QInputMethodEvent>
 #include <QKeyEvent>
 
 #include <algorithm>
@@ -32,15 +34,18 @@ bool IsWordUnit(QChar unit)
     return unit.isLetterOrNumber() || unit == u'_' || unit == u'$' || unit == u'#' || unit == u'@';
 }
 
-// What of the word stands behind the caret and is the end of the proposal as well.
-long TailOf(const QString& text, const std::u16string& behind)
+qsizetype CharactersIn(const QString& text)
 {
-    qsizetype tail = 0;
-    while (tail < static_cast<qsizetype>(behind.size()) &&
-           IsWordUnit(QChar(behind[static_cast<std::size_t>(tail)])))
-        ++tail;
-    const QString rest(reinterpret_cast<const QChar*>(behind.data()), tail);
-    return text.endsWith(rest, Qt::CaseInsensitive) ? static_cast<long>(tail) : 0;
+    return std::count_if(text.begin(), text.end(),
+                         [](QChar unit) { return !unit.isLowSurrogate(); });
+}
+
+// The characters of the word behind the caret that are the end of the proposal as well.
+qsizetype TailOf(const QString& text, const QString& behind)
+{
+    const auto* end = std::find_if_not(behind.begin(), behind.end(), IsWordUnit);
+    const QString rest = behind.left(end - behind.begin());
+    return text.endsWith(rest, Qt::CaseInsensitive) ? CharactersIn(rest) : 0;
 }
 
 } // namespace
@@ -118,52 +123,54 @@ bool Completer::MayOpen() const
     return m_window && m_control.GetSafeHwnd() && m_index.Editor();
 }
 
-std::vector<Proposal> Completer::Ask(ProposalQuery& query)
+CaretContext Completer::ContextAtCaret()
+{
+    const long caret = m_control.GetCurrentPos(1);
+    return ContextAt(m_index.Around(caret), m_index.Reader(), caret);
+}
+
+std::vector<Proposal> Completer::Ask(const CaretContext& context)
 {
     if (m_prepare)
         m_prepare();
-    ScriptIndex& index = m_index.Around(query.caret);
-    CaretContext context = ContextAt(index, m_index.Reader(), query.caret);
-    context.query.isAsked = query.isAsked;
-    query = context.query;
-    ScriptSource script(index, m_index.Reader());
+    ScriptSource script(m_index.Around(context.query.caret), m_index.Reader());
     script.SetLanguage(m_words);
-    script.SetContext(std::move(context));
+    script.SetContext(context);
     std::vector<Proposal> proposals;
-    script.Propose(query, proposals);
+    script.Propose(context.query, proposals);
     for (ProposalSource* source : m_sources)
-        source->Propose(query, proposals);
-    return BestOf(std::move(proposals), query.typed, kMost);
+        source->Propose(context.query, proposals);
+    return BestOf(std::move(proposals), context.query.typed, kMost);
 }
 
 void Completer::Open()
 {
     if (!MayOpen() || m_control.GetReadOnly(1))
         return;
-    ProposalQuery query;
-    query.caret = m_control.GetCurrentPos(1);
-    query.isAsked = true;
     Close();
-    Fill(std::move(query));
+    CaretContext context = ContextAtCaret();
+    context.query.isAsked = true;
+    Fill(context);
 }
 
 void Completer::Refresh()
 {
     if (!IsOpen())
         return;
-    ProposalQuery query = m_query;
-    query.caret = m_control.GetCurrentPos(1);
-    Fill(std::move(query));
+    CaretContext context = ContextAtCaret();
+    context.query.isAsked = m_query.isAsked;
+    Fill(context);
 }
 
 // A list keeps the row that somebody walked to.
-void Completer::Fill(ProposalQuery query)
+void Completer::Fill(const CaretContext& context)
 {
+    const ProposalQuery& query = context.query;
     const bool wasOpen = IsOpen();
     const QString kept = wasOpen && m_isWalked && m_list->Current() >= 0
                              ? m_list->At(m_list->Current()).text
                              : QString();
-    std::vector<Proposal> proposals = Ask(query);
+    std::vector<Proposal> proposals = Ask(context);
     // What is there in full needs no list that typing has opened.
     const bool isComplete =
         !query.isAsked &&
@@ -174,7 +181,7 @@ void Completer::Fill(ProposalQuery query)
         Close();
         return;
     }
-    m_query = std::move(query);
+    m_query = query;
     if (!wasOpen)
         m_isWalked = false;
     ProposalList& list = List();
@@ -274,8 +281,8 @@ void Completer::Follow()
     }
     if (!IsOpen() && (added == 0 || m_opensAfter == 0 || !m_window->hasFocus()))
         return;
-    const auto& index = m_index.Around(caret);
-    ProposalQuery query = ContextAt(index, m_index.Reader(), caret).query;
+    CaretContext context = ContextAtCaret();
+    ProposalQuery& query = context.query;
     if (IsOpen()) {
         query.isAsked = m_query.isAsked;
         const bool isLeft =
@@ -284,7 +291,7 @@ void Completer::Follow()
         if (isLeft)
             Close();
         else if (query.typed != m_query.typed) {
-            Fill(std::move(query));
+            Fill(context);
             return;
         } else {
             FollowScroll();
@@ -298,16 +305,14 @@ void Completer::Follow()
     const long end = m_control.GetLength(1);
     if (caret < end && IsWordUnit(QChar(static_cast<char16_t>(m_control.GetCharAt(caret, 1)))))
         return; // in the midst of a word
-    const bool isAfterPoint = query.typed.isEmpty();
     query.isAsked = false;
-    if (isAfterPoint) {
-        // Only what is known to belong there.
-        ProposalQuery asked = query;
-        const std::vector<Proposal> proposals = Ask(asked);
+    if (query.typed.isEmpty()) {
+        // Behind a point only what is known to belong there.
+        const std::vector<Proposal> proposals = Ask(context);
         if (proposals.empty() || proposals.front().kind != ProposalKind::Column)
             return;
     }
-    Fill(std::move(query));
+    Fill(context);
 }
 
 // The list stays at its word, as long as that can be seen.
@@ -424,19 +429,39 @@ void Completer::Choose(int row)
         m_isInserting = false;
 }
 
+// As keys would do it: at each of several carets, and so that a macro that is recorded repeats it.
 void Completer::Insert(const Proposal& proposal)
 {
     const long caret = m_control.GetCurrentPos(1);
-    std::u16string behind;
-    m_index.Reader()(
-        caret, std::min(caret + static_cast<long>(proposal.text.size()), m_control.GetLength(1)),
-        behind);
-    const std::u16string text(reinterpret_cast<const char16_t*>(proposal.text.utf16()),
-                              static_cast<std::size_t>(proposal.text.size()));
+    const QString typed = TextOf(m_query.start, caret);
+    const QString behind = TextOf(
+        caret, std::min(caret + static_cast<long>(proposal.text.size()), m_control.GetLength(1)));
+    const bool goesOn = proposal.text.startsWith(typed);
+    const qsizetype before = goesOn ? 0 : CharactersIn(typed);
+    const bool overtypes = m_control.GetOvertype(1) != 0;
+    QInputMethodEvent rest;
+    rest.setCommitString(goesOn ? proposal.text.mid(typed.size()) : proposal.text);
+    m_control.SetOvertype(0, 1);
     m_control.BeginUndoAction(1);
-    m_control.SetSel(m_query.start, caret + TailOf(proposal.text, behind), 1);
-    m_control.ReplaceSel(text.c_str(), 1);
+    for (qsizetype i = 0; i < before; ++i)
+        m_control.DeleteBack(1);
+    for (qsizetype i = TailOf(proposal.text, behind); i > 0; --i)
+        m_control.Clear(1);
+    const QPointer<Completer> alive(this);
+    QCoreApplication::sendEvent(m_window, &rest);
+    if (!alive)
+        return;
     m_control.EndUndoAction(1);
+    m_control.SetOvertype(overtypes, 1);
+    m_added = 0; // the text is nobody's typing
+}
+
+QString Completer::TextOf(long start, long end) const
+{
+    std::u16string units;
+    m_index.Reader()(start, end, units);
+    return QString(reinterpret_cast<const QChar*>(units.data()),
+                   static_cast<qsizetype>(units.size()));
 }
 
 // Of the script first, which may know better.

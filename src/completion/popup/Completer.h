@@ -22,6 +22,7 @@ struct SCNotification;
 namespace completion {
 
 class CallTip;
+struct CaretContext;
 class LiveIndex;
 class ProposalList;
 
@@ -67,10 +68,12 @@ private:
     void FollowSoon();
     bool MayOpen() const;
     bool OpensHere(const ProposalQuery& query) const;
-    std::vector<Proposal> Ask(ProposalQuery& query);
-    void Fill(ProposalQuery query);
+    CaretContext ContextAtCaret();
+    std::vector<Proposal> Ask(const CaretContext& context);
+    void Fill(const CaretContext& context);
     void Choose(int row);
     void Insert(const Proposal& proposal);
+    QString TextOf(long start, long end) const;
     void FollowCall();
     void FollowScroll();
     void CloseCall();
