@@ -32,18 +32,31 @@ pcre2_compile_context* CompileContext()
     return context;
 }
 
+// Of the thread: what compiled code keeps on its stack and the limits of a run are a run's own.
+struct Matching
+{
+    Matching()
+    {
+        pcre2_set_depth_limit(context, kDepthLimit);
+        pcre2_set_heap_limit(context, kHeapLimit);
+        pcre2_jit_stack_assign(context, nullptr, stack);
+    }
+    ~Matching()
+    {
+        pcre2_match_context_free(context);
+        pcre2_jit_stack_free(stack);
+    }
+    Matching(const Matching&) = delete;
+    Matching& operator=(const Matching&) = delete;
+
+    pcre2_match_context* const context = pcre2_match_context_create(nullptr);
+    pcre2_jit_stack* const stack = pcre2_jit_stack_create(kFirstStack, kLargestStack, nullptr);
+};
+
 pcre2_match_context* MatchContext()
 {
-    static pcre2_match_context* const context = [] {
-        pcre2_match_context* made = pcre2_match_context_create(nullptr);
-        pcre2_set_depth_limit(made, kDepthLimit);
-        pcre2_set_heap_limit(made, kHeapLimit);
-        static pcre2_jit_stack* const stack =
-            pcre2_jit_stack_create(kFirstStack, kLargestStack, nullptr);
-        pcre2_jit_stack_assign(made, nullptr, stack);
-        return made;
-    }();
-    return context;
+    thread_local const Matching matching;
+    return matching.context;
 }
 
 pcre2_code* CompileWith(const std::string& pattern, unsigned options,
