@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 // Code pages, under the names that code-page code knows: bytes to UTF-16 units and back.
 // Knows no file and no window. Code page 0 is the system's default, 65001 is UTF-8. The tables of
-// a page are made at its first use, on the one thread that uses them.
+// a page are made at its first use. For any thread.
 #pragma once
 
 #include "platform/text/SystemCodePage.h"

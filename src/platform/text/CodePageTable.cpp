@@ -4,10 +4,11 @@
 #include "platform/text/AsciiRun.h"
 
 #include <algorithm>
+#include <atomic>
 #include <climits>
 #include <cstdint>
 #include <cstring>
-#include <map>
+#include <iterator>
 
 #include <unicode/ucnv.h>
 #include <unicode/ucnv_cb.h>
@@ -225,6 +226,7 @@ std::size_t Page::ToUnits(const unsigned char* bytes, std::size_t byteCount, cha
             units[i] = m_single[bytes[i]];
         return byteCount;
     }
+    const std::lock_guard lock(m_lock);
     UErrorCode error = U_ZERO_ERROR;
     const int written = ucnv_toUChars(m_converter.get(), units, static_cast<int32_t>(byteCount),
                                       reinterpret_cast<const char*>(bytes),
@@ -277,6 +279,7 @@ std::size_t Page::ToBytes(const char16_t* units, std::size_t unitCount, unsigned
             bytes[i] = m_singleBytes[units[i]];
         return unitCount;
     }
+    const std::lock_guard lock(m_lock);
     UErrorCode error = U_ZERO_ERROR;
     const int written =
         ucnv_fromUChars(m_converter.get(), reinterpret_cast<char*>(bytes),
@@ -310,17 +313,21 @@ std::size_t Page::DoubleByteToBytes(const char16_t* units, std::size_t unitCount
 // The pages are never freed: settings are saved while the statics of the process go away.
 Page* FindPage(int codePage)
 {
-    static auto& made = *new std::map<int, std::unique_ptr<Page>>;
-    if (const auto found = made.find(codePage); found != made.end())
-        return found->second.get();
+    static std::atomic<Page*> made[std::size(kPages)];
+    static auto& making = *new std::mutex;
     const auto row = std::find_if(std::begin(kPages), std::end(kPages),
                                   [&](const PageRow& page) { return page.number == codePage; });
     if (row == std::end(kPages))
         return nullptr;
-    UConverter* converter = OpenConverter(row->icuName);
-    if (converter == nullptr)
-        return nullptr;
-    return (made[codePage] = std::make_unique<Page>(row->kind, row->leads, converter)).get();
+    std::atomic<Page*>& page = made[row - std::begin(kPages)];
+    if (Page* const there = page)
+        return there;
+    const std::lock_guard lock(making);
+    if (!page) {
+        if (UConverter* const converter = OpenConverter(row->icuName))
+            page = new Page(row->kind, row->leads, converter);
+    }
+    return page;
 }
 
 std::vector<int> KnownCodePages()

@@ -1,11 +1,13 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 // The code pages other than UTF-8, by number, and what one of them maps.
 // ICU knows the mappings. It is asked once for each page that is used; the tables made then answer
-// every conversion, so that text never goes through a converter call by call.
+// every conversion, so that text never goes through a converter call by call. Any thread may ask
+// any page.
 #pragma once
 
 #include <cstddef>
 #include <memory>
+#include <mutex>
 #include <vector>
 
 struct UConverter;
@@ -62,6 +64,7 @@ private:
     PageKind m_kind;
     std::size_t m_maxBytes;
     std::unique_ptr<UConverter, Close> m_converter;
+    std::mutex m_lock; // of the converter, where text goes through it
     bool m_isLead[256] = {};
     char16_t m_single[256] = {};               // byte to unit; for double-byte pages the lone bytes
     std::vector<char16_t> m_double;            // lead and trail byte to unit
