@@ -3,6 +3,8 @@
 
 #include "engine/search/PatternText.h"
 
+#include <algorithm>
+
 namespace engine::search {
 namespace {
 
@@ -157,6 +159,14 @@ bool CharacterClass::TakeEscape(char32_t& character, bool& isSet)
     else
         Add(character);
     return true;
+}
+
+bool CharacterClass::HasLineEnd() const
+{
+    return !m_negated && std::any_of(m_ranges.begin(), m_ranges.end(), [](const Range& range) {
+        return (range.first <= U'\n' && range.last >= U'\n') ||
+               (range.first <= U'\r' && range.last >= U'\r');
+    });
 }
 
 std::string CharacterClass::Translated(const std::string& word, bool matchCase) const

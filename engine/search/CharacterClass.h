@@ -18,6 +18,7 @@ public:
     // One item of a PCRE2 pattern; the word is another.
     std::string Translated(const std::string& word, bool matchCase) const;
     bool UsesWords() const { return m_hasWords || m_hasOthers; }
+    bool HasLineEnd() const; // a match may be CR or LF
 
 private:
     struct Range

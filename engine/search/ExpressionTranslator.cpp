@@ -36,12 +36,17 @@ bool ExpressionTranslator::TakeAll(std::string_view pattern)
     m_last = Last::BranchStart;
     m_open.clear();
     m_numbered = m_capturing = 0;
+    m_isBranch = false;
+    m_run.clear();
     m_result = {};
     while (!AtEnd()) {
         m_token = m_at;
         if (!TakeOne())
             return false;
     }
+    EndRun();
+    if (m_isBranch)
+        m_result.required.clear();
     m_token = m_at;
     return m_open.empty() || Fail("the group has no end", m_open.back().at);
 }
@@ -69,6 +74,8 @@ bool ExpressionTranslator::TakeOne()
         ++m_at;
         m_result.pattern += '|';
         m_hasBranches = true;
+        EndRun();
+        m_isBranch |= m_open.empty();
         m_last = Last::BranchStart;
         return true;
     case '(':
@@ -119,6 +126,9 @@ bool ExpressionTranslator::TakeRepeat(char repeat)
         return true;
     if (m_last != Last::Item)
         return Fail("nothing stands here to be repeated", m_at - 1);
+    if (repeat != '+' && !m_run.empty())
+        m_run.resize(m_lastOfRun);
+    EndRun();
     m_result.pattern += repeat;
     m_last = repeat == '?' ? Last::Edge : Last::Repeated;
     return true;
@@ -222,6 +232,7 @@ bool ExpressionTranslator::OpenGroup()
     ++m_capturing;
     if (m_numbered < static_cast<int>(m_result.groups.size()))
         m_result.groups[static_cast<std::size_t>(m_numbered)] = m_capturing;
+    EndRun();
     m_result.pattern += '(';
     m_open.push_back({m_numbered, m_result.pattern.size(), m_at - (m_syntax.posix ? 1 : 2)});
     m_last = Last::BranchStart;
@@ -248,12 +259,13 @@ bool ExpressionTranslator::TakeCharacter()
     char32_t character = 0;
     if (!NextCharacter(m_pattern, m_at, character))
         return Fail(kNoCharacter, m_at);
+    const std::string_view text = m_pattern.substr(start, m_at - start);
     if (character >= 0x80 || IsAsciiLetter(character) || (character >= U'0' && character <= U'9')) {
-        PutItem(m_pattern.substr(start, m_at - start));
+        PutCharacter(text, text);
     } else {
         std::string code;
         AppendCode(code, character);
-        PutItem(code);
+        PutCharacter(code, text);
     }
     return true;
 }
@@ -266,13 +278,34 @@ bool ExpressionTranslator::TakeClass()
         return Fail("the set of characters has no end, or a range that runs backwards", start);
     PutItem(set.Translated(Word(), m_syntax.matchCase));
     m_result.usesWords |= set.UsesWords();
+    m_result.staysInLine &= !set.HasLineEnd();
     return true;
 }
 
 void ExpressionTranslator::PutItem(std::string_view item)
 {
+    EndRun();
     m_result.pattern += item;
     m_last = Last::Item;
+}
+
+void ExpressionTranslator::PutCharacter(std::string_view item, std::string_view character)
+{
+    m_result.staysInLine &= character != "\n" && character != "\r";
+    if (m_open.empty()) {
+        m_lastOfRun = m_run.size();
+        m_run += character;
+    }
+    m_result.pattern += item;
+    m_last = Last::Item;
+}
+
+// The longest run is required, unless an alternative does without it.
+void ExpressionTranslator::EndRun()
+{
+    if (m_run.size() > m_result.required.size())
+        m_result.required = m_run;
+    m_run.clear();
 }
 
 // The item without regard to the flag that ignores case.
@@ -285,7 +318,7 @@ void ExpressionTranslator::PutExact(char32_t character)
 {
     std::string code;
     AppendCode(code, character);
-    PutItem(InItsCase(code));
+    PutCharacter(InItsCase(code), InUtf8(character));
 }
 
 } // namespace engine::search

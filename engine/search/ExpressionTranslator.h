@@ -29,6 +29,8 @@ struct Translation
     std::vector<int> ends;        // the groups of pattern that mark where the match ends
     bool usesWords = false;       // depends on Syntax::word
     bool emptyAtLineEnds = false; // a match of nothing counts at a line's end, too
+    std::string required;         // UTF-8 that every match has, in one case or another
+    bool staysInLine = true;      // no match has a line end
 };
 
 class ExpressionTranslator
@@ -85,10 +87,12 @@ private:
     }
     bool BranchStartsHere() const;
     bool BranchEndsHere(std::size_t at) const;
-    void PutItem(std::string_view item);
+    void PutItem(std::string_view item); // one that is no character
+    void PutCharacter(std::string_view item, std::string_view character);
     std::string Word() const { return InItsCase(m_syntax.word); }
     std::string InItsCase(const std::string& item) const;
     void PutExact(char32_t character); // in its own case, whatever the flags say
+    void EndRun();
 
     Syntax m_syntax;
     std::string_view m_pattern;
@@ -99,8 +103,11 @@ private:
     Last m_last = Last::BranchStart;
     std::vector<Group> m_open;
     bool m_hasBranches = false;
-    int m_numbered = 0;  // groups of the pattern
-    int m_capturing = 0; // of the translation
+    bool m_isBranch = false;     // outside of groups there are alternatives
+    std::string m_run;           // characters outside of groups that stand side by side, up to here
+    std::size_t m_lastOfRun = 0; // where in it the last one begins
+    int m_numbered = 0;          // groups of the pattern
+    int m_capturing = 0;         // of the translation
     Translation m_result;
 };
 

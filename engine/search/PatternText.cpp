@@ -81,6 +81,21 @@ std::string Join(std::initializer_list<std::string_view> parts)
     return text;
 }
 
+std::string InUtf8(char32_t character)
+{
+    if (character < 0x80)
+        return {static_cast<char>(character)};
+    std::string text;
+    int shift = character < 0x800 ? 6 : character < 0x10000 ? 12 : 18;
+    const unsigned lead = shift == 6 ? 0xC0 : shift == 12 ? 0xE0 : 0xF0;
+    text += static_cast<char>(lead | character >> shift);
+    while (shift > 0) {
+        shift -= 6;
+        text += static_cast<char>(0x80 | (character >> shift & 0x3F));
+    }
+    return text;
+}
+
 void AppendCode(std::string& pattern, char32_t character)
 {
     char code[16];

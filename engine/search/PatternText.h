@@ -27,6 +27,8 @@ constexpr bool IsInsideCharacter(char byte)
 
 std::string Join(std::initializer_list<std::string_view> parts);
 
+std::string InUtf8(char32_t character);
+
 // As PCRE2 takes it anywhere: \x{..}
 void AppendCode(std::string& pattern, char32_t character);
 

@@ -2,12 +2,11 @@
 #include "encoding/ContentDetection.h"
 
 #include "encoding/Units.h"
+#include "platform/text/AsciiRun.h"
 #include "platform/text/CodePage.h"
-#include "platform/text/Utf8.h"
+#include "platform/text/Utf8Shape.h"
 
 #include <algorithm>
-#include <cstdint>
-#include <cstring>
 #include <string_view>
 
 namespace content {
@@ -149,6 +148,25 @@ void MeetUnits(unsigned int unit, long next, Orders& orders)
     orders.be.space |= IsSpace(swapped);
 }
 
+// Whether the eight units at a place say nothing in either order: none is ASCII, half a pair or no
+// character. Text of one byte a character is all like that, but for rare letters.
+bool AreDull(const unsigned char* bytes)
+{
+#if defined(__SSE2__)
+    const auto byte = [](int value) { return _mm_set1_epi8(static_cast<char>(value)); };
+    const __m128i chunk = platform::ascii::Load(bytes);
+    const __m128i halves = _mm_cmpeq_epi8(_mm_and_si128(chunk, byte(0xF8)), byte(0xD8));
+    const __m128i none = _mm_cmpeq_epi8(_mm_max_epu8(chunk, byte(0xFE)), chunk);
+    const __m128i odd =
+        _mm_or_si128(_mm_or_si128(halves, none), _mm_cmpeq_epi8(chunk, _mm_setzero_si128()));
+    return _mm_movemask_epi8(odd) == 0;
+#else
+    return std::all_of(bytes, bytes + platform::ascii::kChunk, [](unsigned char byte) {
+        return byte != 0 && (byte & 0xF8) != 0xD8 && byte < 0xFE;
+    });
+#endif
+}
+
 bool LooksSwapped(const unsigned char* bytes, unsigned int length)
 {
     int tests = platform::IS_TEXT_UNICODE_REVERSE_STATISTICS;
@@ -213,9 +231,15 @@ Converter::encodingType DetectUtf16(const unsigned char* bytes, unsigned int len
 {
     Orders orders;
     bool zeroByte = false;
+    constexpr unsigned int kChunk = platform::ascii::kChunk;
     for (unsigned int i = 0; i < length && !orders.done; i += 2) {
         if (orders.le.space || orders.be.space)
             break;
+        if (i % kChunk == 0 && length - i >= kChunk && AreDull(bytes + i)) {
+            orders.le.ascii = orders.be.ascii = false;
+            i += kChunk - 2;
+            continue;
+        }
         zeroByte |= bytes[i] == 0 || bytes[i + 1] == 0;
         const long next = i + 2 < length ? units::UnitAt(bytes + i + 2) : -1;
         MeetUnits(units::UnitAt(bytes + i), next, orders);
@@ -230,31 +254,9 @@ Converter::encodingType DetectUtf16(const unsigned char* bytes, unsigned int len
 
 Converter::encodingType DetectUtf8(const unsigned char* bytes, unsigned int length)
 {
-    bool pureAscii = true;
-    unsigned int i = 0;
-    while (i < length) {
-        std::uint64_t eight = 0;
-        if (length - i >= sizeof eight) {
-            std::memcpy(&eight, bytes + i, sizeof eight);
-            if ((eight & 0x8080808080808080) == 0) { // most text is ASCII
-                i += sizeof eight;
-                continue;
-            }
-        }
-        const unsigned char lead = bytes[i];
-        if (lead == 0xC0 || lead == 0xC1 || lead >= 0xF5)
-            return Converter::encANSI;
-        const auto size = static_cast<unsigned int>(platform::utf8::LengthByLead(lead));
-        if (size == 0)
-            return Converter::encANSI;
-        pureAscii &= size == 1;
-        const unsigned int end = std::min(length, i + size);
-        for (++i; i < end; ++i) {
-            if ((bytes[i] & 0xC0) != 0x80)
-                return Converter::encANSI;
-        }
-    }
-    return pureAscii ? Converter::encANSI : Converter::encUTF8;
+    if (platform::utf8::IsAscii(bytes, length) || !platform::utf8::HasShape(bytes, length))
+        return Converter::encANSI;
+    return Converter::encUTF8;
 }
 
 Converter::encodingType FindCookie(const unsigned char* bytes, unsigned int length)

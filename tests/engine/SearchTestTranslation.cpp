@@ -157,3 +157,31 @@ TEST(ExpressionTranslation, StandsBetweenCrAndLfAtNoEdgeOfALine)
     EXPECT_EQ(matches("^", 1), 3);
     EXPECT_EQ(matches("$", 2), 4);
 }
+
+TEST(ExpressionTranslation, TellsWhatEveryMatchHas)
+{
+    const auto required = [](std::string_view pattern) {
+        return ExpressionTranslator({}).Translate(pattern)->required;
+    };
+    EXPECT_EQ(required("[a-z]+_id"), "_id");
+    EXPECT_EQ(required("abc+d"), "abc");
+    EXPECT_EQ(required("abc*d"), "ab");
+    EXPECT_EQ(required("ab?cde"), "cde");
+    EXPECT_EQ(required(R"(^ab\.c\>$)"), "ab.c");
+    EXPECT_EQ(required(R"(a\(bcd\)?ef)"), "ef");
+    EXPECT_EQ(required("abc|d"), "");
+    EXPECT_EQ(required(R"(x\(abc|d\)y)"), "x");
+    EXPECT_EQ(required("\xC3\xA9\xC3\xA8*"), "\xC3\xA9");
+    EXPECT_EQ(required(R"(\xe9\x\xe9)"), "\xC3\xA9");
+}
+
+TEST(ExpressionTranslation, TellsWhichPatternsStayInALine)
+{
+    const auto stays = [](std::string_view pattern) {
+        return ExpressionTranslator({}).Translate(pattern)->staysInLine;
+    };
+    EXPECT_TRUE(stays(R"(^a.*[^b]\s\S\W\D[^\n]\cb$)"));
+    for (const std::string_view pattern :
+         {R"(a\nb)", R"(a\r)", R"(\(\x0a\))", "a\n", R"([ab\n])", R"([\t-z])", R"([\r]b)"})
+        EXPECT_FALSE(stays(pattern)) << pattern;
+}

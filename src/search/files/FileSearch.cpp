@@ -3,6 +3,7 @@
 
 #include "search/files/ExpressionFault.h"
 #include "search/files/FileText.h"
+#include "search/files/Screen.h"
 #include "search/files/TextSearch.h"
 
 #include <QFile>
@@ -101,7 +102,14 @@ private:
     void Add(std::vector<Task>& tasks);
     void Finish();
     void WalkFolder(const std::string& name);
-    void SearchFile(const std::string& name, TextSearch& search);
+    // What one thread searches with.
+    struct Tools
+    {
+        TextSearch search;
+        FileText file;
+    };
+
+    void SearchFile(const std::string& name, Tools& tools);
     void SearchOpen(const OpenText& open, TextSearch& search);
     bool Fits(const char* name) const;
     bool IsNew(const struct stat& folder);
@@ -117,6 +125,7 @@ private:
     }
 
     const FileSearchRequest m_request;
+    const Screen m_screen{m_request};
     IFileSearchListener& m_listener;
     const std::vector<std::string> m_patterns;
     std::atomic<bool> m_stop = false;
@@ -190,14 +199,14 @@ void CFileSearch::Job::Finish()
 
 void CFileSearch::Job::Run()
 {
-    TextSearch search(m_request, m_stop);
+    Tools tools{TextSearch(m_request, m_stop), {}};
     for (Task task; Take(task); Finish()) {
         if (task.kind == Task::Folder)
             WalkFolder(task.name);
         else if (task.kind == Task::File)
-            SearchFile(task.name, search);
+            SearchFile(task.name, tools);
         else
-            SearchOpen(m_request.open[task.open], search);
+            SearchOpen(m_request.open[task.open], tools.search);
     }
     bool isLast = false;
     {
@@ -284,8 +293,10 @@ void CFileSearch::Job::WalkFolder(const std::string& name)
     Add(tasks);
 }
 
-void CFileSearch::Job::SearchFile(const std::string& name, TextSearch& search)
+void CFileSearch::Job::SearchFile(const std::string& name, Tools& tools)
 {
+    TextSearch& search = tools.search;
+    FileText& file = tools.file;
     if (!m_openFiles.empty()) {
         struct stat status = {};
         if (stat(name.c_str(), &status) == 0 &&
@@ -301,8 +312,7 @@ void CFileSearch::Job::SearchFile(const std::string& name, TextSearch& search)
     }
     long told = 0;
     for (const bool converts : {false, true}) {
-        FileText file;
-        const FileText::Kind kind = file.Open(name, converts);
+        const FileText::Kind kind = file.Open(name, converts, search.Piece());
         if (kind != FileText::Kind::Text) {
             Note(kind == FileText::Kind::Binary       ? FileNote::Binary
                  : kind == FileText::Kind::Unreadable ? FileNote::Unreadable
@@ -311,7 +321,7 @@ void CFileSearch::Job::SearchFile(const std::string& name, TextSearch& search)
             return;
         }
         search.Begin();
-        bool isLast = false;
+        bool isLast = !file.MayMatch(m_screen, m_stop);
         while (!isLast && !m_stop && !search.RanAway()) {
             isLast = !file.Read(search.Buffer(), search.Piece());
             if (file.NeedsConversion())
@@ -345,19 +355,19 @@ void CFileSearch::Job::SearchFile(const std::string& name, TextSearch& search)
 void CFileSearch::Job::SearchOpen(const OpenText& open, TextSearch& search)
 {
     search.Begin();
-    search.Buffer() = open.text.toUtf8().toStdString();
+    const QByteArray bytes = open.text.toUtf8();
+    search.Buffer().assign({bytes.data(), static_cast<std::size_t>(bytes.size())});
     FoundFile found;
     found.count = search.Search(true, 0, found.matches);
     found.path = open.path;
     found.name = QFile::encodeName(open.path);
     found.isOpen = true;
     const long count = found.count;
-    const auto bytes = static_cast<long long>(search.Buffer().size());
     if (count > 0)
         Tell(std::move(found));
     Count([&](FileSearchTotals& totals) {
         ++totals.files;
-        totals.bytes += bytes;
+        totals.bytes += bytes.size();
         totals.found += count > 0;
     });
     if (search.RanAway())
@@ -393,7 +403,8 @@ std::vector<FileMatch> MatchesIn(const QString& text, const FileSearchRequest& r
     const std::atomic<bool> stop = false;
     TextSearch search(request, stop);
     search.Begin();
-    search.Buffer() = text.toUtf8().toStdString();
+    const QByteArray bytes = text.toUtf8();
+    search.Buffer().assign({bytes.data(), static_cast<std::size_t>(bytes.size())});
     std::vector<FileMatch> matches;
     search.Search(true, 0, matches);
     return matches;

@@ -9,13 +9,13 @@
 std::optional<QString> ReadFileText(const QString& path, qint64 mostBytes)
 {
     FileText file;
-    if (QFileInfo(path).size() > mostBytes ||
-        file.Open(QFile::encodeName(path).toStdString(), true) != FileText::Kind::Text)
-        return std::nullopt;
     constexpr std::size_t kPiece = 1024 * 1024;
-    std::string text;
+    if (QFileInfo(path).size() > mostBytes ||
+        file.Open(QFile::encodeName(path).toStdString(), true, kPiece) != FileText::Kind::Text)
+        return std::nullopt;
+    ByteBuffer text;
     while (file.Read(text, kPiece)) {}
     if (file.Failed())
         return std::nullopt;
-    return QString::fromStdString(text);
+    return QString::fromUtf8(text.data(), static_cast<qsizetype>(text.size()));
 }

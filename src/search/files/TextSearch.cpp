@@ -1,7 +1,10 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "search/files/TextSearch.h"
 
+#include "engine/search/AnchoredText.h"
+#include "engine/search/ExpressionTranslator.h"
 #include "platform/text/Utf8.h"
+#include "search/files/TextCounts.h"
 
 #include <QChar>
 
@@ -116,17 +119,6 @@ bool IsEnd(std::string_view text, std::size_t at)
     return CanBeEdge(kind) && kind != ClassAt(text, at);
 }
 
-long UnitsIn(std::string_view text)
-{
-    return static_cast<long>(platform::utf8::UnitCount(
-        reinterpret_cast<const unsigned char*>(text.data()), text.size()));
-}
-
-QString TextOf(std::string_view text)
-{
-    return QString::fromUtf8(text.data(), static_cast<qsizetype>(text.size()));
-}
-
 // A search that is stopped has no time left, whenever it began to count.
 thread_local const std::atomic<bool>* t_stop = nullptr;
 thread_local double t_passed = 0;
@@ -144,6 +136,22 @@ constexpr std::size_t kExpressionOverlap = 1024 * 1024; // bytes
 constexpr std::size_t kLongestMatch = 8 * 1024 * 1024;  // that waits for its end
 constexpr double kSeconds = 2;
 constexpr double kBriefSeconds = 0.1;
+
+// Nothing for what is found faster without.
+std::optional<engine::search::LiteralScan> RequiredInLine(const FileSearchRequest& request,
+                                                          const std::string& sought)
+{
+    using namespace engine::search;
+    if (!request.regExp || request.perlSyntax || AnchoredText::Of(sought, false))
+        return std::nullopt;
+    const auto translation =
+        ExpressionTranslator({.matchCase = request.matchCase}).Translate(sought);
+    constexpr std::size_t kTooCommon = 1; // characters
+    if (!translation || !translation->staysInLine || translation->required.size() <= kTooCommon ||
+        !LiteralScan::Suits(translation->required, request.matchCase))
+        return std::nullopt;
+    return LiteralScan(translation->required, request.matchCase);
+}
 
 } // namespace
 
@@ -170,7 +178,7 @@ TextSearch::TextSearch(const FileSearchRequest& request, const std::atomic<bool>
       m_flags((request.wholeWord ? flag::WholeWord : 0) |
               (request.matchCase ? flag::MatchCase : 0) | (request.regExp ? flag::Expression : 0) |
               (request.regExp && request.perlSyntax ? flag::Native : 0)),
-      m_searcher(m_text, {kSeconds, Clock})
+      m_searcher(m_text, {kSeconds, Clock}), m_required(RequiredInLine(request, m_sought))
 {}
 
 void TextSearch::Begin()
@@ -190,34 +198,19 @@ void TextSearch::Begin()
     m_lineFrom = m_lineTo = 0;
 }
 
-// Line ends are CR LF, LF and CR. Counting them needs the byte behind the place.
+// Counting line ends needs the byte behind the place.
 void TextSearch::MoveTo(std::size_t at)
 {
-    const char* text = m_text.bytes.data();
-    const std::size_t size = m_text.bytes.size();
-    const auto isEnd = [&](std::size_t i) {
-        return text[i] == '\n' || (text[i] == '\r' && !(i + 1 < size && text[i + 1] == '\n'));
-    };
-    long ends = 0;
-    for (std::size_t i = m_place.at; i < at; ++i)
-        ends += text[i] == '\n' || text[i] == '\r';
-    if (ends > 0) {
-        const char* carriage =
-            static_cast<const char*>(std::memchr(text + m_place.at, '\r', at - m_place.at));
-        for (; carriage && carriage < text + at; ++carriage) {
-            const auto i = static_cast<std::size_t>(carriage - text);
-            ends -= *carriage == '\r' && !isEnd(i);
-        }
-    }
-    if (ends > 0) {
+    const std::string_view text = m_text.bytes;
+    if (const long ends = LineEndsIn(text, m_place.at, at); ends > 0) {
         m_place.line += ends;
         std::size_t last = at;
-        while (!isEnd(last - 1))
+        while (!IsLineEnd(text, last - 1))
             --last;
         m_place.lineStart = last;
-        m_place.column = UnitsIn(std::string_view(text + last, at - last));
+        m_place.column = UnitsIn(text.substr(last, at - last));
     } else {
-        m_place.column += UnitsIn(std::string_view(text + m_place.at, at - m_place.at));
+        m_place.column += UnitsIn(text.substr(m_place.at, at - m_place.at));
     }
     m_place.at = at;
 }
@@ -250,9 +243,10 @@ FileMatch TextSearch::Describe(std::size_t start, std::size_t end)
         m_lineText = TextOf(text.substr(from, to - from));
         m_lineFrom = from;
         m_lineTo = to;
+        m_lineColumn = m_place.column - UnitsIn(text.substr(from, start - from));
     }
     match.text = m_lineText;
-    match.textColumn = m_place.column - UnitsIn(text.substr(from, start - from));
+    match.textColumn = m_lineColumn;
     if (m_request.replaces)
         match.replacement = m_request.regExp ? TextOf(m_searcher.Substituted(m_replacement))
                                              : m_request.replacement;
@@ -262,12 +256,60 @@ FileMatch TextSearch::Describe(std::size_t start, std::size_t end)
 void TextSearch::Drop(std::size_t bytes)
 {
     MoveTo(bytes);
-    m_text.bytes.erase(0, bytes);
+    m_text.bytes.drop(bytes);
     m_place.at = 0;
     m_place.lineStart = 0;
     m_from -= static_cast<long>(bytes);
     m_lineText = QString();
     m_lineFrom = m_lineTo = 0;
+}
+
+std::optional<engine::search::Range> TextSearch::Find(long from, long to)
+{
+    const long stopped = m_searcher.Stopped();
+    const auto found = m_searcher.Find(m_sought, m_flags, from, to);
+    m_ranAway |= m_searcher.Stopped() != stopped;
+    return found;
+}
+
+// The next match from m_from on, which goes along over lines that have none. A line that the piece
+// ends within may still become one that has.
+std::optional<engine::search::Range> TextSearch::FindNext(bool isLast)
+{
+    constexpr int kLinesBetween = 256; // two looks at the clock
+    const std::string_view text = m_text.bytes;
+    const auto size = static_cast<long>(text.size());
+    if (!m_required)
+        return Find(m_from, size);
+    double begun = -1;
+    for (int lines = 1;; ++lines) {
+        const auto hit = m_required->First(text, static_cast<std::size_t>(m_from));
+        if (!hit)
+            return std::nullopt;
+        if (static_cast<long>(hit.start) >= m_lineEnd) {
+            const std::size_t end = text.find('\n', hit.end);
+            m_lineIsWhole = isLast || end != text.npos;
+            m_lineEnd = end == text.npos ? size : static_cast<long>(end);
+            if (end != text.npos && text[end - 1] == '\r')
+                --m_lineEnd;
+        }
+        const auto from = static_cast<std::size_t>(m_from);
+        const auto* before =
+            static_cast<const char*>(memrchr(text.data() + from, '\n', hit.start - from));
+        const long start = before ? static_cast<long>(before - text.data()) + 1 : m_from;
+        const auto found = Find(start, m_lineEnd);
+        if (found || m_ranAway || !m_lineIsWhole)
+            return found;
+        m_from = m_lineEnd;
+        if (lines % kLinesBetween == 0) {
+            const double now = Clock();
+            if (begun < 0)
+                begun = now;
+            m_ranAway = now - begun > (m_isBrief ? kBriefSeconds : kSeconds);
+            if (m_ranAway)
+                return std::nullopt;
+        }
+    }
 }
 
 // What starts near the end of a piece waits for the next one. A match of nothing is not found again
@@ -277,6 +319,7 @@ long TextSearch::Search(bool isLast, long skip, std::vector<FileMatch>& matches)
     const std::size_t size = m_text.bytes.size();
     std::size_t cut = size;
     m_lineText = QString(); // it may have ended with the piece
+    m_lineEnd = 0;
     if (!isLast) {
         cut = size > m_overlap ? size - m_overlap : 0;
         while (cut > 0 && IsInside(m_text.bytes[cut]))
@@ -285,9 +328,7 @@ long TextSearch::Search(bool isLast, long skip, std::vector<FileMatch>& matches)
     const long before = m_count;
     while (!m_stop.load(std::memory_order_relaxed) && !m_ranAway &&
            m_from <= static_cast<long>(size)) {
-        const long stopped = m_searcher.Stopped();
-        const auto found = m_searcher.Find(m_sought, m_flags, m_from, static_cast<long>(size));
-        m_ranAway = m_searcher.Stopped() != stopped;
+        const auto found = FindNext(isLast);
         if (!found || (!isLast && found->start >= static_cast<long>(cut)))
             break;
         // It may go on in the next piece.

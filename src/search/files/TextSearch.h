@@ -4,16 +4,17 @@
 #pragma once
 
 #include "engine/search/Searcher.h"
+#include "search/files/ByteBuffer.h"
 #include "search/files/FileSearch.h"
 
 #include <atomic>
-#include <functional>
+#include <optional>
 
 // Words are those of a text without a language.
 class PieceText final : public engine::search::SearchedText
 {
 public:
-    std::string bytes;
+    ByteBuffer bytes;
 
     long Length() const override { return static_cast<long>(bytes.size()); }
     long Gap() const override { return 0; }
@@ -36,7 +37,7 @@ public:
 
     // Starts on another text. Appends its next piece to Buffer; Search finds what can be found.
     void Begin();
-    std::string& Buffer() { return m_text.bytes; }
+    ByteBuffer& Buffer() { return m_text.bytes; }
 
     // Finds on, up to the text's end if it is the last piece. Appends to the matches; gives how
     // many there were. Matches of a number below skip are passed, as they are known already.
@@ -53,6 +54,8 @@ private:
         long column = 0; // of the place
     };
 
+    std::optional<engine::search::Range> Find(long from, long to);
+    std::optional<engine::search::Range> FindNext(bool isLast);
     void MoveTo(std::size_t at);
     FileMatch Describe(std::size_t start, std::size_t end);
     void Drop(std::size_t bytes);
@@ -67,6 +70,10 @@ private:
     int m_flags;
     PieceText m_text;
     engine::search::Searcher m_searcher;
+    // Of an expression whose matches stay in a line: what such a line has.
+    std::optional<engine::search::LiteralScan> m_required;
+    long m_lineEnd = 0; // of the last such line
+    bool m_lineIsWhole = false;
     Place m_place;
     long m_from = 0;
     long m_count = 0;
@@ -76,4 +83,5 @@ private:
     QString m_lineText; // of the last match, and where it was cut
     std::size_t m_lineFrom = 0;
     std::size_t m_lineTo = 0;
+    long m_lineColumn = 0; // of the cut
 };

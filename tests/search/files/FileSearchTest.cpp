@@ -4,18 +4,13 @@
 #include "platform/windows/Questions.h"
 #include "search/files/ExpressionFault.h"
 #include "tests/search/FindFixture.h"
+#include "tests/search/files/FileSearchFixture.h"
 
-#include <QDir>
 #include <QElapsedTimer>
-#include <QFile>
-#include <QTemporaryDir>
 
 #include <gmock/gmock.h>
 
-#include <atomic>
-#include <functional>
 #include <iostream>
-#include <utility>
 
 #include <sys/stat.h>
 #include <unistd.h>
@@ -25,71 +20,6 @@ namespace {
 using testing::ElementsAre;
 using testing::IsEmpty;
 using testing::UnorderedElementsAre;
-
-class Collector final : public IFileSearchListener
-{
-public:
-    void OnFound(FoundFile&& file) override
-    {
-        FoundFile& into = files[file.path];
-        into.path = file.path;
-        into.isOpen = file.isOpen;
-        into.name = file.name;
-        into.count += file.count;
-        into.matches.insert(into.matches.end(), file.matches.begin(), file.matches.end());
-        if (stopsAt)
-            stopsAt->Stop();
-        if (onFound)
-            onFound();
-    }
-    void OnNote(FileNote note, const QString& path) override { notes.emplace_back(note, path); }
-    void OnDone(const FileSearchTotals& all) override { totals = all; }
-
-    std::map<QString, FoundFile> files;
-    std::vector<std::pair<FileNote, QString>> notes;
-    FileSearchTotals totals;
-    CFileSearch* stopsAt = nullptr; // with the first match
-    std::function<void()> onFound;
-};
-
-class FileSearches : public testing::Test
-{
-protected:
-    QString Write(const QString& name, const QByteArray& bytes) const
-    {
-        const QString path = folder.filePath(name);
-        QDir().mkpath(QFileInfo(path).path());
-        QFile file(path);
-        EXPECT_TRUE(file.open(QFile::WriteOnly));
-        file.write(bytes);
-        return path;
-    }
-    FileSearchRequest For(const QString& text) const
-    {
-        FileSearchRequest request;
-        request.text = text;
-        request.folders = {folder.path()};
-        request.threads = 2;
-        return request;
-    }
-    Collector Search(const FileSearchRequest& request) const
-    {
-        Collector collector;
-        CFileSearch search(request, collector);
-        search.Start();
-        search.Wait();
-        return collector;
-    }
-    QStringList Names(const Collector& found) const
-    {
-        QStringList names;
-        for (const auto& [path, file] : found.files)
-            names += QDir(folder.path()).relativeFilePath(path);
-        return names;
-    }
-
-    QTemporaryDir folder;
-};
 
 bool operator==(const FileMatch& match, const std::array<long, 3>& place)
 {
@@ -397,9 +327,13 @@ TEST_F(FileSearchAgainstEditor, FindsTheSameInRandomFiles)
     std::cout << "seed " << seed << '\n';
     RandomTexts random(seed);
     QTemporaryDir folder;
-    const char16_t* const sought[] = {u"a",    u"ab",    u"\u00e9", u"A",       u"a.c", u"^a",
-                                      u"b$",   u"[ab]+", u"\\w+",   u"a*",      u"\\s", u"(a)\\1",
-                                      u"\\<a", u"c\\>",  u"^$",     u"\u00c9+", u"_a",  u"."};
+    const char16_t* const sought[] = {u"a",       u"ab",       u"\u00e9",  u"A",
+                                      u"a.c",     u"^a",       u"b$",      u"[ab]+",
+                                      u"\\w+",    u"a*",       u"\\s",     u"(a)\\1",
+                                      u"\\<a",    u"c\\>",     u"^$",      u"\u00c9+",
+                                      u"_a",      u".",        u"[ab]+ab", u"\\(b\\)*ab\\s",
+                                      u"^ab+c*$", u"a?bb",     u"aab|bb",  u"bb[\\n\\r]*a",
+                                      u"\\nab",   u"ab.*b\\cc"};
     for (int round = 0; round < 150; ++round) {
         const std::u16string text = random.Text(60, u"aaabbc  \u00e9\u00c9_\r\n\n;");
         const QString units(reinterpret_cast<const QChar*>(text.data()),
