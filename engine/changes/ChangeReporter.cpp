@@ -328,6 +328,7 @@ void ChangeReporter::Flush()
     } else {
         m_text.ChangeDone();
         m_lines = -1;
+        MarkChange(type & modification::BeforeInsert);
     }
     if (m_savePoints.empty())
         return;
@@ -380,6 +381,7 @@ void ChangeReporter::TellChange(int type)
         m_text.ChangeDone();
     }
     record.linesAdded = LinesAdded(source.empty() && text.IsPlain());
+    MarkChange(record.linesAdded > 0);
     record.modificationType |= type & kOrigin;
     record.text = source.empty() ? text.Data() : source.data();
     record.length = static_cast<long>(source.empty() ? text.Size() : source.size());
@@ -389,6 +391,13 @@ void ChangeReporter::TellChange(int type)
         Send(notify::Modified, record);
     if (m_changed.Size() == 0)
         m_changed = std::move(text); // for its storage
+}
+
+void ChangeReporter::MarkChange(bool addsLines) const
+{
+    const long start = m_change.position.value;
+    if (m_markChange)
+        m_markChange(start, addsLines ? start + m_change.bytes : start);
 }
 
 void ChangeReporter::Speak(const SCNotification& record) const

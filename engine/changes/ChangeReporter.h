@@ -40,6 +40,13 @@ public:
         m_follow = std::move(follow);
     }
 
+    // Called for each change once it is in the text, before it is told. The end is behind what was
+    // put in if that has line ends, and else the position. Bytes.
+    void SetMarker(std::function<void(long position, long end)> mark)
+    {
+        m_markChange = std::move(mark);
+    }
+
     // Called before each command that can be recorded for a macro, while the stock engine tells of
     // them. False: it is not told.
     void SetCommandListener(std::function<bool(UINT number)> listen)
@@ -127,6 +134,7 @@ private:
     void Flush();
     void TellOver();
     void TellChange(int type);
+    void MarkChange(bool addsLines) const;
     std::string_view ReadChange(Utf16Text& text);
     long LinesAdded(bool isPlain);
     void Speak(const SCNotification& record) const;
@@ -147,6 +155,7 @@ private:
     bool m_asksOver = false; // the parent wants to hear when this is over
     UINT m_id = 0;           // of the window, as soon as it has one
     std::function<void(bool inserts, long position, long bytes)> m_follow;
+    std::function<void(long position, long end)> m_markChange;
     std::function<bool(UINT number)> m_listen;
     Utf16Text m_changed;            // text of a noted deletion; storage otherwise
     std::vector<UINT> m_savePoints; // told behind the change

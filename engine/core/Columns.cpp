@@ -1,8 +1,11 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "engine/core/Columns.h"
 
+#include "engine/text/Characters.h"
+
 #include <algorithm>
 #include <string>
+#include <utility>
 
 namespace engine {
 namespace {
@@ -88,10 +91,22 @@ void Columns::Begin() const
     m_raw.Send(Sci::SCI_SETRECTANGULARSELECTIONANCHOR, static_cast<std::uintptr_t>(anchor));
 }
 
+// What is put in at a place behind a line's end moves the place by a byte for each column that it
+// is behind: into a character.
 void Columns::Settle() const
 {
-    if (AreSelected())
-        m_raw.Send(Sci::SCI_TEXTHEIGHT);
+    if (!AreSelected())
+        return;
+    m_raw.Send(Sci::SCI_TEXTHEIGHT);
+    for (const auto& [get, set] :
+         {std::pair(Sci::SCI_GETRECTANGULARSELECTIONANCHOR, Sci::SCI_SETRECTANGULARSELECTIONANCHOR),
+          std::pair(Sci::SCI_GETRECTANGULARSELECTIONCARET,
+                    Sci::SCI_SETRECTANGULARSELECTIONCARET)}) {
+        const long place = Ask(m_raw, get);
+        const long whole = CharacterStart(m_raw, place);
+        if (whole != place)
+            Ask(m_raw, set, whole);
+    }
 }
 
 void Columns::Dissolve() const

@@ -99,6 +99,7 @@ Engine::Engine(QsciScintillaBase& widget)
     reporter.SetFollower([this](bool inserts, long position, long bytes) {
         EditBegins({inserts, position, bytes});
     });
+    reporter.SetMarker([this](long position, long end) { looks.MarkChange(position, end); });
     reporter.SetCommandListener([this](UINT number) {
         wholeCharacters.OnCommand(number);
         return recording;

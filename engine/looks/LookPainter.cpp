@@ -51,6 +51,21 @@ QColor LookPainter::Colour(COLORREF colour) const
                   static_cast<int>(colour >> 16 & 0xFF));
 }
 
+void LookPainter::MarkChange(long position, long end) const
+{
+    if (!m_looks || !m_raw.Send(Sci::SCI_GETUNDOCOLLECTION))
+        return;
+    const auto lineOf = [this](long place) {
+        return m_raw.Send(Sci::SCI_LINEFROMPOSITION, static_cast<WPARAM>(place));
+    };
+    const std::intptr_t first = lineOf(position);
+    const std::intptr_t last = end > position ? lineOf(end) : first;
+    for (auto line = static_cast<WPARAM>(first); line <= static_cast<WPARAM>(last); ++line) {
+        if (!(m_raw.Send(Sci::SCI_MARKERGET, line) & Bit(lookmarker::kLineChanged)))
+            m_raw.Send(Sci::SCI_MARKERADD, line, long{lookmarker::kLineChanged});
+    }
+}
+
 void LookPainter::Set(const Looks* looks)
 {
     // Hidden lines have a button to show them, and without looks a line.

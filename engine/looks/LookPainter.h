@@ -41,6 +41,9 @@ public:
     void FocusChanged(bool hasFocus);
     void Updated(int updated); // SCN_UPDATEUI
     void TextChanged();
+    // The lines from one place to another have changed; bytes. Those that nobody can undo, as a
+    // load puts them in, have not.
+    void MarkChange(long position, long end) const;
 
 private:
     struct Margins

@@ -99,8 +99,6 @@ int CZNCoreEditorControlEx::HandleNotify(LPARAM lParam)
     case notify::Modified:
         if (record.linesAdded != 0 && m_visibleLineNumber)
             SetLineNumberWidth();
-        if (!m_scheme.isEmpty())
-            MarkChangedLines(record);
         break;
     case notify::SavePointReached:
         if (m_isSaving)

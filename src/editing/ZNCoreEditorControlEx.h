@@ -410,7 +410,6 @@ private:
 
     QPoint MenuPlace(CPoint point);
     void ApplyDefaultEncoding();
-    void MarkChangedLines(const SCNotification& record);
     void MarkChangedAsSaved();
     void ForgetChangedLines();
     void ApplyColorMaxSize();

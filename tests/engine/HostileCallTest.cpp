@@ -164,6 +164,18 @@ TEST(HostileCalls, ColumnsTakeACharacterWhileStylesWaitToBeApplied)
     EXPECT_EQ(engine.Text(), u"YXb\nYXd\nYXf\nYXh");
 }
 
+TEST(HostileCalls, AColumnBehindALineThatGrowsEndsBesideAWholeCharacter)
+{
+    EngineUnderTest engine;
+    engine.SetText(u"");
+    engine.Send(msg::CharRightRectExtend);
+    engine.Send(msg::SetTarget, 0, LPARAM{0});
+    engine.Send(msg::ReplaceTargetNoProcess, 2, u"\u4e2dx");
+    engine.Send(msg::DelWordLeft);
+    EXPECT_EQ(engine.Text(), u"\u4e2dx");
+    EXPECT_EQ(engine.Send(msg::GetCurrentPos), 0);
+}
+
 TEST(HostileCalls, AListAtAColumnOffEveryScreenIsNotShownOnceStylesAreApplied)
 {
     EngineUnderTest engine;

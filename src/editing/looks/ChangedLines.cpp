@@ -4,27 +4,9 @@
 #include "editing/ZNCoreEditorControlEx.h"
 
 #include "control/EngineLooks.h"
-#include "control/EngineRecords.h"
-
-#include <algorithm>
 
 using engine::lookmarker::kLineChanged;
 using engine::lookmarker::kLineSaved;
-
-// A load, which nobody can undo, changes nothing.
-void CZNCoreEditorControlEx::MarkChangedLines(const SCNotification& record)
-{
-    constexpr int kTextBits = modification::InsertText | modification::DeleteText;
-    if (!(record.modificationType & kTextBits) || !GetUndoCollection(1))
-        return;
-    constexpr int kBit = 1 << kLineChanged;
-    const int first = LineFromPosition(record.position, 1);
-    const int last = first + static_cast<int>(std::max(record.linesAdded, 0L));
-    for (int line = first; line <= last; ++line) {
-        if (!(MarkerGet(line, 1) & kBit))
-            MarkerAdd(line, kLineChanged, 1);
-    }
-}
 
 void CZNCoreEditorControlEx::MarkChangedAsSaved()
 {
