@@ -132,6 +132,7 @@ void Engine::PrepareDocument()
     documents::Left(left, *this);
     raw.Send(Sci::SCI_SETCODEPAGE, Sci::SC_CP_UTF8);
     text.Reset();
+    LookPainter::MarksMayGo();
     readOnly = {};
     colouring = documents::ColouringOf(m_document);
     reporter.SetColouring(colouring);

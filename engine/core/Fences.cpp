@@ -205,6 +205,12 @@ bool MakesDefaultWords(const Engine&, WPARAM&, LPARAM&)
     return true;
 }
 
+bool TakesMarkers(const Engine&, WPARAM&, LPARAM&)
+{
+    LookPainter::MarksMayGo();
+    return true;
+}
+
 constexpr FenceRow kRows[] = {
     {message::StyleSetFore, IsStyle},
     {message::StyleSetBack, IsStyle},
@@ -247,6 +253,9 @@ constexpr FenceRow kRows[] = {
     {message::SetMarginRight, MakesMargin},
     {message::SetMarginWidthN, MakesMargin},
     {message::MarkerAdd, IsMarker},
+    {message::MarkerDelete, TakesMarkers},
+    {message::MarkerDeleteAll, TakesMarkers},
+    {message::MarkerDeleteHandle, TakesMarkers},
     {message::LineCut, DissolvesColumns},
     {message::LineDownRectExtend, HasRoomForColumns},
     {message::LineUpRectExtend, HasRoomForColumns},

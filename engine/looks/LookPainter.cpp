@@ -51,10 +51,14 @@ QColor LookPainter::Colour(COLORREF colour) const
                   static_cast<int>(colour >> 16 & 0xFF));
 }
 
-void LookPainter::MarkChange(long position, long end) const
+// What replaces is two changes at one place, and an undo makes hundreds of thousands of them.
+void LookPainter::MarkChange(long position, long end)
 {
-    if (!m_looks || !m_raw.Send(Sci::SCI_GETUNDOCOLLECTION))
+    const bool isMarked = m_series == s_series && position == m_marked && end == position;
+    if (!m_looks || isMarked || !m_raw.Send(Sci::SCI_GETUNDOCOLLECTION))
         return;
+    m_marked = position;
+    m_series = s_series;
     const auto lineOf = [this](long place) {
         return m_raw.Send(Sci::SCI_LINEFROMPOSITION, static_cast<WPARAM>(place));
     };

@@ -43,7 +43,9 @@ public:
     void TextChanged();
     // The lines from one place to another have changed; bytes. Those that nobody can undo, as a
     // load puts them in, have not.
-    void MarkChange(long position, long end) const;
+    void MarkChange(long position, long end);
+    // From here on the mark of the last change, in whatever window, may have gone.
+    static void MarksMayGo() { ++s_series; }
 
 private:
     struct Margins
@@ -69,9 +71,13 @@ private:
     Highlights m_matches;
     ScrollMarks* m_marks = nullptr; // goes with the scroll bar
     QTimer m_rest;
+    long m_marked = 0;        // where the last change was marked, bytes,
+    unsigned m_series = 0;    // if it was in this series
     long m_numberedLine = -1; // whose number stands out
     bool m_isFoldMarginHot = false;
     bool m_anyCase = false;
+
+    static inline unsigned s_series = 1; // of changes that nothing came between
 };
 
 } // namespace engine
