@@ -98,6 +98,8 @@ public:
     // from there: at once, or when the changes under way are told.
     static void WhenSettled(QObject* context, std::function<void()> act);
 
+    static bool IsInsideChange() { return s_inside > 0; }
+
     // What the stock engine says of a modification, which the window hands on.
     void OnModified(int position, int type, int length, int line, int foldNow, int foldPrev,
                     int token, int annotationLinesAdded);

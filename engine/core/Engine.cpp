@@ -19,6 +19,8 @@ using Sci = QsciScintillaBase;
 constexpr UINT kFirstNumber = 2000;
 constexpr UINT kNumbers = 2048;
 
+unsigned undoVersion = 1; // of all answers whether changes are collected
+
 // What answers a number: nothing, a handler, the stock engine as it is, or the row's translation.
 struct Answerer
 {
@@ -99,7 +101,11 @@ Engine::Engine(QsciScintillaBase& widget)
     reporter.SetFollower([this](bool inserts, long position, long bytes) {
         EditBegins({inserts, position, bytes});
     });
-    reporter.SetMarker([this](long position, long end) { looks.MarkChange(position, end); });
+    // A load, which nobody can undo, changes no line.
+    reporter.SetMarker([this](long position, long end) {
+        if (CollectsUndo())
+            looks.MarkChange(position, end);
+    });
     reporter.SetCommandListener([this](UINT number) {
         wholeCharacters.OnCommand(number);
         return recording;
@@ -134,6 +140,7 @@ void Engine::PrepareDocument()
     text.Reset();
     LookPainter::MarksMayGo();
     readOnly = {};
+    m_collectsUndo = {};
     colouring = documents::ColouringOf(m_document);
     reporter.SetColouring(colouring);
     errors = &documents::Errors(m_document);
@@ -155,7 +162,8 @@ LRESULT Engine::Perform(UINT message, WPARAM wParam, LPARAM lParam)
     LRESULT result = 0;
     {
         const ChangeReporter::Scope scope;
-        columns.Settle();
+        if (!ChangeReporter::IsInsideChange())
+            columns.Settle();
         const bool keepsWhole = text.MayHaveNoncharacters();
         if (keepsWhole)
             wholeCharacters.Begin();
@@ -181,6 +189,18 @@ LRESULT Engine::Perform(UINT message, WPARAM wParam, LPARAM lParam)
     return result;
 }
 
+bool Engine::CollectsUndo()
+{
+    if (m_collectsUndo.version != undoVersion)
+        m_collectsUndo = {undoVersion, raw.Send(Sci::SCI_GETUNDOCOLLECTION) != 0};
+    return m_collectsUndo.value;
+}
+
+void Engine::CollectingMayChange()
+{
+    ++undoVersion;
+}
+
 // The stock engine cannot hide the first line, and aborts or runs for ever when a deletion has made
 // a hidden line the first.
 void Engine::KeepFirstLineVisible(const TextEdit& edit) const
@@ -194,9 +214,9 @@ void Engine::KeepFirstLineVisible(const TextEdit& edit) const
 // What changes while no undo is collected moves the text away from below the steps that were, and
 // the stock engine would stop half-way in one of them, for ever read-only. Text that is put in
 // behind all other, as a load does, harms none.
-void Engine::NoteUncollected(const TextEdit& edit) const
+void Engine::NoteUncollected(const TextEdit& edit)
 {
-    if (!raw.Send(Sci::SCI_GETUNDOCOLLECTION) && !(edit.inserts && edit.position == raw.Length()) &&
+    if (!CollectsUndo() && !(edit.inserts && edit.position == raw.Length()) &&
         (raw.Send(Sci::SCI_CANUNDO) || raw.Send(Sci::SCI_CANREDO)))
         documents::HasStaleHistory(m_document) = true;
 }

@@ -57,8 +57,8 @@ struct PrintStyle
     std::string font; // UTF-8
 };
 
-// Whether the text can be edited, as of a version; 0: none.
-struct ReadOnly
+// An answer of the stock engine's, as of a version; 0: none.
+struct KeptAnswer
 {
     unsigned version = 0;
     bool value = false;
@@ -94,6 +94,11 @@ public:
     void EraseKeyEnds();
     void EndEraseRun();
 
+    // Whether changes can be undone. It is asked for each of them; whoever sets it for a document,
+    // in whatever window, says so.
+    bool CollectsUndo();
+    static void CollectingMayChange();
+
     // Replaces the target by the bytes, which it is then.
     void ReplaceTarget(std::string_view bytes);
 
@@ -119,7 +124,7 @@ public:
 
     // What the stock engine has no place for.
     ErrorLook errorLook;              // as set in this window
-    ReadOnly readOnly;                // as it was asked last
+    KeptAnswer readOnly;              // whether the text can be edited, as it was asked last
     bool noSingleEol = false;         // line-end mode 0
     bool usePopUp = true;             // the window shows a menu of its own
     bool reconciler = true;           // the analysis follows the text
@@ -138,10 +143,11 @@ private:
     void PrepareDocument();
     void EditBegins(const TextEdit& edit); // while the text is as it was
     void KeepFirstLineVisible(const TextEdit& edit) const;
-    void NoteUncollected(const TextEdit& edit) const;
+    void NoteUncollected(const TextEdit& edit);
     LRESULT Translate(const MessageRow& row, WPARAM wParam, LPARAM lParam);
 
     LRESULT m_document = 0;
+    KeptAnswer m_collectsUndo;
     bool m_owesSelection = false; // it has not been told
 };
 

@@ -75,6 +75,7 @@ LRESULT SetUndoCollection(Engine& engine, WPARAM wParam, LPARAM)
     ChangeReporter::WhenSettled(&engine.window, [&engine, collect] {
         documents::DropUndoActions(engine.Document());
         engine.raw.Send(Sci::SCI_SETUNDOCOLLECTION, collect);
+        Engine::CollectingMayChange();
         if (collect && std::exchange(documents::HasStaleHistory(engine.Document()), false))
             ForgetHistory(engine);
     });

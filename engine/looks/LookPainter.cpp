@@ -55,7 +55,7 @@ QColor LookPainter::Colour(COLORREF colour) const
 void LookPainter::MarkChange(long position, long end)
 {
     const bool isMarked = m_series == s_series && position == m_marked && end == position;
-    if (!m_looks || isMarked || !m_raw.Send(Sci::SCI_GETUNDOCOLLECTION))
+    if (!m_looks || isMarked)
         return;
     m_marked = position;
     m_series = s_series;

@@ -41,8 +41,7 @@ public:
     void FocusChanged(bool hasFocus);
     void Updated(int updated); // SCN_UPDATEUI
     void TextChanged();
-    // The lines from one place to another have changed; bytes. Those that nobody can undo, as a
-    // load puts them in, have not.
+    // The lines from one place to another have changed; bytes.
     void MarkChange(long position, long end);
     // From here on the mark of the last change, in whatever window, may have gone.
     static void MarksMayGo() { ++s_series; }
