@@ -54,6 +54,7 @@ struct Engines
     {
         const std::string path = WriteFile("search.sql", text);
         const std::u16string wide(path.begin(), path.end());
+        editor.setScheme(QString()); // as the raw engine, which marks no changed lines
         editor.control().SetCarefulFiles(true);
         if (!editor.control().OpenFile(wide.c_str(), FileEncodeConverter::encUTF8))
             std::abort();

@@ -141,11 +141,13 @@ void Typing(benchmark::State& state, Script script, Place place, Way way)
 
 constexpr int kReplacements = 250000; // two changes each
 
+// Undone or done again without a scheme, which has the changed lines marked too.
 void UndoRedo(benchmark::State& state, bool redo)
 {
     constexpr double kLimit = 2.0;
     const std::string text = MakeSql(Script::Ascii, 16 * kMegabyte);
     ZNCoreEditorWidget editor;
+    editor.setScheme(QString());
     CZNCoreEditorControl& control = editor.control();
     control.SetText(std::u16string(text.begin(), text.end()).c_str(), 1);
     control.EmptyUndoBuffer(1);
@@ -187,6 +189,36 @@ void UndoRedo(benchmark::State& state, bool redo)
     state.counters["reference_ms"] = theirs[theirs.size() / 2] * 1e3;
     state.counters["ratio"] = ours[ours.size() / 2] / theirs[theirs.size() / 2];
     state.counters["limit"] = kLimit;
+}
+
+// Many changes undone and done again with a scheme, whose marks at changed lines they take away and
+// set, beside without one.
+void UndoWithLooks(benchmark::State& state)
+{
+    constexpr double kLimit = 1.5;
+    const std::string text = MakeSql(Script::Ascii, 16 * kMegabyte);
+    const std::u16string units(text.begin(), text.end());
+    const long step = static_cast<long>(text.size()) / kReplacements;
+    ZNCoreEditorWidget plain;
+    ZNCoreEditorWidget dressed;
+    plain.setScheme(QString());
+    for (ZNCoreEditorWidget* editor : {&plain, &dressed}) {
+        CZNCoreEditorControl& control = editor->control();
+        control.SetText(units.c_str(), 1);
+        control.EmptyUndoBuffer(1);
+        control.BeginUndoAction(1);
+        for (long i = 0; i < kReplacements; ++i) {
+            control.SetTarget(static_cast<int>(i * step), static_cast<int>(i * step + 2));
+            control.ReplaceTargetNoProcess(3, u"xyz", 1);
+        }
+        control.EndUndoAction(1);
+    }
+    const auto undoAndRedo = [](ZNCoreEditorWidget& editor) {
+        editor.control().Undo(1);
+        editor.control().Redo(1);
+    };
+    MeasurePair(
+        state, [&] { undoAndRedo(dressed); }, [&] { undoAndRedo(plain); }, kLimit);
 }
 
 // Keys that are painted, with all that a scheme draws beside the text and problems, bookmarks and
@@ -252,6 +284,10 @@ const bool kRegistered = [] {
     benchmark::RegisterBenchmark("TypeWithLooks", TypingWithLooks)->Iterations(1);
     benchmark::RegisterBenchmark("Undo500000", UndoRedo, false)->Iterations(3);
     benchmark::RegisterBenchmark("Redo500000", UndoRedo, true)->Iterations(3);
+    benchmark::RegisterBenchmark("UndoWithLooks", UndoWithLooks)
+        ->Iterations(5)
+        ->UseManualTime()
+        ->Unit(benchmark::kMillisecond);
     return true;
 }();
 
