@@ -19,8 +19,9 @@ public:
     bool HaveRoomAt(long x) const;
     // What is selected becomes a rectangle, for what goes on with one that it takes to be there.
     void Begin() const;
-    // Counts the columns anew if styles wait for it, and puts their ends beside whole characters. In
-    // the middle of a change the stock engine would do so, and go on with selections that are gone.
+    // Counts the columns anew if styles wait for it, and puts their ends beside whole characters.
+    // In the middle of a change the stock engine would do so, and go on with selections that are
+    // gone.
     void Settle() const;
     // A rectangle becomes all text between its ends.
     void Dissolve() const;

@@ -169,7 +169,6 @@ TEST(HostileCalls, AColumnBehindALineThatGrowsEndsBesideAWholeCharacter)
     EngineUnderTest engine;
     engine.SetText(u"");
     engine.Send(msg::CharRightRectExtend);
-    engine.Send(msg::SetTarget, 0, LPARAM{0});
     engine.Send(msg::ReplaceTargetNoProcess, 2, u"\u4e2dx");
     engine.Send(msg::DelWordLeft);
     EXPECT_EQ(engine.Text(), u"\u4e2dx");

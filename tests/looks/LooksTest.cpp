@@ -147,6 +147,37 @@ TEST_F(LooksTest, ShowLinesThatWereSavedSinceTheyChanged)
     EXPECT_EQ(control.MarkerNext(0, kSaved | kChanged, 1), -1);
 }
 
+TEST_F(LooksTest, ShowALineThatChangesWhereItDidBeforeItWasSaved)
+{
+    Put(QStringLiteral("one\ntwo\n"));
+    control.GotoPos(4, 1);
+    control.Clear(1);
+    control.SetSavePoint(1);
+    ASSERT_FALSE(control.MarkerGet(1, 1) & kChanged);
+    control.Clear(1);
+    EXPECT_EQ(face.text(), QStringLiteral("one\no\n"));
+    EXPECT_TRUE(control.MarkerGet(1, 1) & kChanged);
+}
+
+TEST_F(LooksTest, ShowTheLinesOfAReplacementInAllOfAText)
+{
+    Put(QStringLiteral("one\ntwo\n"));
+    control.SetText(u"three\nfour\nfive", 1);
+    for (int line = 0; line < 3; ++line)
+        EXPECT_TRUE(control.MarkerGet(line, 1) & kChanged) << line;
+}
+
+TEST_F(LooksTest, ShowNoLineOfATextThatNobodyCanUndo)
+{
+    Put(QStringLiteral("one\ntwo\n"));
+    control.SetUndoCollection(0, 1);
+    control.AppendText(1, u"x", 1);
+    control.SetUndoCollection(1, 1);
+    EXPECT_EQ(control.MarkerNext(0, kChanged, 1), -1);
+    control.AppendText(1, u"x", 1);
+    EXPECT_TRUE(control.MarkerGet(2, 1) & kChanged);
+}
+
 TEST_F(LooksTest, OpenAFoldAtTheMarkBehindIt)
 {
     Put(QStringLiteral("begin\n  select 1;\n  select 2;\nend\n"));
