@@ -3,6 +3,7 @@
 #include "control/ZNCoreEditorControl.h"
 #include "host/icons/Icons.h"
 #include "host/icons/Style.h"
+#include "host/translations/Translations.h"
 #include "host/window/Arguments.h"
 #include "host/window/MainWindow.h"
 #include "host/window/Screenshot.h"
@@ -52,6 +53,7 @@ int main(int argc, char** argv)
     QApplication application(argc, argv);
     QApplication::setApplicationName(QStringLiteral("znworkbench"));
     QApplication::setWindowIcon(ApplicationIcon());
+    InstallTranslations();
     Style::Install();
 
     const Arguments arguments = ParseArguments(QApplication::arguments());
@@ -64,9 +66,10 @@ int main(int argc, char** argv)
         return 2;
     }
     if (!EngineIsThere()) {
-        Print(stderr, QStringLiteral("The editing engine cannot be loaded: libZNBaseEditor.so has "
-                                     "to stand beside libZNCoreEditor.so, or in the folder "
-                                     "ZNCoreEditor there."));
+        Print(stderr, QCoreApplication::translate(
+                          "main", "The editing engine cannot be loaded: libZNBaseEditor.so has to "
+                                  "stand beside libZNCoreEditor.so, or in the folder ZNCoreEditor "
+                                  "there."));
         return 3;
     }
     if (!arguments.screenshot.isEmpty())

@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 // znscript: scripts in build and deployment pipelines. It shows nothing and needs no display.
+#include "common/Translations.h"
 #include "control/ZNCoreEditorControl.h"
 #include "platform/windows/Questions.h"
 #include "script/Arguments.h"
@@ -78,6 +79,9 @@ int EndOutput(int result)
 
 int main(int argc, char** argv)
 {
+    // Whoever reads the messages of a pipeline, a program or a person far away, reads them in one
+    // language everywhere.
+    zncoreeditor::SetUiLanguage(QStringLiteral("en"));
     if (!qEnvironmentVariableIsSet("QT_QPA_PLATFORM"))
         qputenv("QT_QPA_PLATFORM", "offscreen");
     qInstallMessageHandler(KeepQtSilent);

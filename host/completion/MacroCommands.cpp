@@ -6,18 +6,24 @@
 #include "host/files/Prompts.h"
 #include "platform/windows/Questions.h"
 
+#include <QCoreApplication>
 #include <QFile>
 #include <QFileInfo>
 #include <QSaveFile>
 
 namespace {
 
+struct Texts
+{
+    Q_DECLARE_TR_FUNCTIONS(MacroCommands)
+};
+
 constexpr qint64 kLongest = 64 << 20; // bytes
 constexpr QLatin1String kEnding(".znmacro");
 
 QString Filter()
 {
-    return QStringLiteral("Macros (*.znmacro)");
+    return Texts::tr("Macros (*.znmacro)");
 }
 
 } // namespace
@@ -40,8 +46,7 @@ void SaveMacro(QWidget* window)
     QSaveFile file(path);
     if (!file.open(QIODevice::WriteOnly) || file.write(bytes) != bytes.size() || !file.commit())
         GetPrompts().Tell(
-            window,
-            QStringLiteral("The macro was not saved to %1. %2").arg(path, file.errorString()));
+            window, Texts::tr("The macro was not saved to %1. %2").arg(path, file.errorString()));
 }
 
 void LoadMacro(QWidget* window)
@@ -53,19 +58,18 @@ void LoadMacro(QWidget* window)
         return;
     QFile file(path);
     if (!QFileInfo(path).isFile() || file.size() > kLongest || !file.open(QIODevice::ReadOnly)) {
-        GetPrompts().Tell(window,
-                          QStringLiteral("%1 cannot be read. %2").arg(path, file.errorString()));
+        GetPrompts().Tell(window, Texts::tr("%1 cannot be read. %2").arg(path, file.errorString()));
         return;
     }
     const ReadMacroResult read = ReadMacro(file.readAll());
     if (read.badLine >= 0) {
-        GetPrompts().Tell(
-            window, read.badLine == 0
-                        ? QStringLiteral("%1 is not a macro.").arg(path)
-                        : QStringLiteral("%1 is not a macro that can be played: line %2 is no "
-                                         "command that is recorded.")
-                              .arg(path)
-                              .arg(read.badLine + 1));
+        GetPrompts().Tell(window,
+                          read.badLine == 0
+                              ? Texts::tr("%1 is not a macro.").arg(path)
+                              : Texts::tr("%1 is not a macro that can be played: line %2 is no "
+                                          "command that is recorded.")
+                                    .arg(path)
+                                    .arg(read.badLine + 1));
         return;
     }
     FreeMacro();

@@ -34,19 +34,18 @@ ExpandedScript::ExpandedScript(QWidget* parent)
       m_hint(new QLabel(this))
 {
     setObjectName(QStringLiteral("expandedScript"));
-    setWindowTitle(QStringLiteral("Expanded Script"));
+    setWindowTitle(tr("Expanded Script"));
     m_editor->setObjectName(QStringLiteral("expandedText"));
-    m_editor->setAccessibleName(QStringLiteral("Expanded script"));
+    m_editor->setAccessibleName(tr("Expanded script"));
     m_hint->setObjectName(QStringLiteral("includeHint"));
-    m_hint->setText(
-        QStringLiteral("Files are looked for in the folders that Tools > Options names."));
+    m_hint->setText(tr("Files are looked for in the folders that Tools > Options names."));
     m_hint->setWordWrap(true);
     m_hint->setMargin(4);
     m_hint->hide();
     m_errors->setObjectName(QStringLiteral("includeErrors"));
-    m_errors->setAccessibleName(QStringLiteral("Problems of the expanded script"));
+    m_errors->setAccessibleName(tr("Problems of the expanded script"));
     m_errors->setRootIsDecorated(false);
-    m_errors->setHeaderLabels({QStringLiteral("Line"), QStringLiteral("Problem")});
+    m_errors->setHeaderLabels({tr("Line"), tr("Problem")});
     m_errors->header()->setSectionResizeMode(kLineColumn, QHeaderView::ResizeToContents);
 
     auto* bar = new QToolBar(this);
@@ -56,9 +55,8 @@ ExpandedScript::ExpandedScript(QWidget* parent)
         action->setEnabled(false);
         return action;
     };
-    m_goToSource = add("goToSource", QStringLiteral("Go to Source"), &ExpandedScript::GoToSource);
-    m_putBack = add("putOriginalBack", QStringLiteral("Put Original Back"),
-                    &ExpandedScript::PutOriginalBack);
+    m_goToSource = add("goToSource", tr("Go to Source"), &ExpandedScript::GoToSource);
+    m_putBack = add("putOriginalBack", tr("Put Original Back"), &ExpandedScript::PutOriginalBack);
     auto* splitter = new QSplitter(Qt::Vertical, this);
     splitter->addWidget(m_editor);
     splitter->addWidget(m_errors);
@@ -107,7 +105,7 @@ ScriptDoc* ExpandedScript::Script() const
 void ExpandedScript::Expand(ScriptDoc& script, CZNCoreEditorControlEx& editor)
 {
     m_script = &script;
-    Caption(QStringLiteral("Expanded Script"));
+    Caption(tr("Expanded Script"));
     m_editor->setLanguage(script.Language());
     CZNCoreEditorControlEx& control = m_editor->control();
     control.SetCarefulFiles(true);
@@ -146,7 +144,7 @@ void ExpandedScript::PutOriginalBack()
     m_errors->hide();
     m_hint->hide();
     m_putBack->setEnabled(false);
-    Caption(QStringLiteral("Original Script"));
+    Caption(tr("Original Script"));
 }
 
 void ExpandedScript::ListErrors()

@@ -8,12 +8,22 @@
 
 #include <QBuffer>
 #include <QClipboard>
+#include <QCoreApplication>
 #include <QDir>
 #include <QGuiApplication>
 #include <QMimeData>
 #include <QSaveFile>
 
 #include <memory>
+
+namespace {
+
+struct Texts
+{
+    Q_DECLARE_TR_FUNCTIONS(RichCopy)
+};
+
+} // namespace
 
 void CopyWithColours(CZNCoreEditorControlEx& editor)
 {
@@ -41,7 +51,7 @@ bool SaveAsHtml(CZNCoreEditorControlEx& editor, const QString& title, const QStr
     const bool isSaved = file.open(QIODevice::WriteOnly) &&
                          WriteHtml(editor, 0, editor.GetLength(1), title, file) && file.commit();
     if (!isSaved)
-        GetPrompts().Tell(window, QStringLiteral("%1 could not be written: %2")
+        GetPrompts().Tell(window, Texts::tr("%1 could not be written: %2")
                                       .arg(QDir::toNativeSeparators(path), file.errorString()));
     return isSaved;
 }

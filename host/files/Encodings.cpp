@@ -1,21 +1,28 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "host/files/Encodings.h"
 
+#include <QCoreApplication>
+
 #include <algorithm>
 
 namespace {
 
+struct Texts
+{
+    Q_DECLARE_TR_FUNCTIONS(Encodings)
+};
+
 // clang-format off
 constexpr EncodingChoice kChoices[] = {
     {  6, false, "UTF-8"                },
-    {  6, true,  "UTF-8 with mark"      },
-    {  2, true,  "UTF-16 LE with mark"  },
+    {  6, true,  QT_TRANSLATE_NOOP("Encodings", "UTF-8 with mark")      },
+    {  2, true,  QT_TRANSLATE_NOOP("Encodings", "UTF-16 LE with mark")  },
     {  2, false, "UTF-16 LE"            },
-    {  4, true,  "UTF-16 BE with mark"  },
+    {  4, true,  QT_TRANSLATE_NOOP("Encodings", "UTF-16 BE with mark")  },
     {  4, false, "UTF-16 BE"            },
-    {  8, true,  "UTF-32 LE with mark"  },
+    {  8, true,  QT_TRANSLATE_NOOP("Encodings", "UTF-32 LE with mark")  },
     {  8, false, "UTF-32 LE"            },
-    { 10, true,  "UTF-32 BE with mark"  },
+    { 10, true,  QT_TRANSLATE_NOOP("Encodings", "UTF-32 BE with mark")  },
     { 10, false, "UTF-32 BE"            },
     {  0, false, "windows-1252"         },
 };
@@ -41,7 +48,7 @@ std::span<const EncodingChoice> EncodingChoices()
 QString EncodingName(int encoding, bool mark)
 {
     const EncodingChoice* choice = FindChoice(encoding, mark);
-    return QLatin1String(choice ? choice->name : "Unknown encoding");
+    return choice ? Texts::tr(choice->name) : Texts::tr("Unknown encoding");
 }
 
 int IndexOfEncoding(int encoding, bool mark)

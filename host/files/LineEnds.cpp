@@ -35,7 +35,7 @@ QString LineEndText(LineEndKind kind, int mode)
     case LineEndKind::Cr:
         return LineEndName(2);
     case LineEndKind::Mixed:
-        return QStringLiteral("Mixed");
+        return LineEndWatch::tr("Mixed");
     default:
         return LineEndName(mode);
     }

@@ -17,7 +17,7 @@ const QStringList kScripts = {QStringLiteral("*.sql"), QStringLiteral("*.pks"),
 } // namespace
 
 OpenAsDialog::OpenAsDialog(QWidget* parent, const QString& place)
-    : QFileDialog(parent, QStringLiteral("Open with Encoding"),
+    : QFileDialog(parent, tr("Open with Encoding"),
                   QFileInfo(place).isFile() ? QFileInfo(place).path() : place),
       m_encoding(new QComboBox(this))
 {
@@ -25,11 +25,10 @@ OpenAsDialog::OpenAsDialog(QWidget* parent, const QString& place)
     setOption(DontUseNativeDialog);
     setAcceptMode(AcceptOpen);
     setFileMode(ExistingFile);
-    setNameFilters({QStringLiteral("SQL scripts (%1)").arg(kScripts.join(u' ')),
-                    QStringLiteral("All files (*)")});
+    setNameFilters({tr("SQL scripts (%1)").arg(kScripts.join(u' ')), tr("All files (*)")});
 
     m_encoding->setObjectName(QStringLiteral("encoding"));
-    m_encoding->addItem(QStringLiteral("Detect"), -1);
+    m_encoding->addItem(tr("Detect"), -1);
     // A mark at the file's start is read past in any case.
     for (const EncodingChoice& choice : EncodingChoices()) {
         if (m_encoding->findData(choice.encoding) < 0)
@@ -38,11 +37,11 @@ OpenAsDialog::OpenAsDialog(QWidget* parent, const QString& place)
 
     if (QFileInfo(place).isFile()) {
         if (!QDir::match(kScripts, QFileInfo(place).fileName()))
-            selectNameFilter(QStringLiteral("All files (*)"));
+            selectNameFilter(tr("All files (*)"));
         selectFile(QFileInfo(place).fileName());
     }
 
-    auto* label = new QLabel(QStringLiteral("&Encoding:"), this);
+    auto* label = new QLabel(tr("&Encoding:"), this);
     label->setBuddy(m_encoding);
     if (auto* grid = qobject_cast<QGridLayout*>(layout())) {
         const int row = grid->rowCount();

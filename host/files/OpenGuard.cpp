@@ -3,6 +3,7 @@
 
 #include "host/files/Places.h"
 
+#include <QCoreApplication>
 #include <QDir>
 #include <QDirIterator>
 #include <QFile>
@@ -21,6 +22,11 @@
 #include <unistd.h>
 
 namespace {
+
+struct Texts
+{
+    Q_DECLARE_TR_FUNCTIONS(OpenGuard)
+};
 
 constexpr qint64 kMostBytes = 1024 * 1024;
 constexpr int kMostPaths = 1000;
@@ -232,7 +238,7 @@ OpenGuard::Mark::~Mark()
 
 QString OpenAgainQuestion(const QString& path)
 {
-    return QStringLiteral("The workbench ended unexpectedly while it was opening “%1”. Open the "
-                          "file again?")
+    return Texts::tr("The workbench ended unexpectedly while it was opening “%1”. Open the "
+                     "file again?")
         .arg(QDir::toNativeSeparators(path));
 }

@@ -5,11 +5,17 @@
 #include "host/files/SaveAsDialog.h"
 #include "host/recovery/RecoveryDialog.h"
 
+#include <QCoreApplication>
 #include <QFileDialog>
 #include <QMessageBox>
 #include <QPushButton>
 
 namespace {
+
+struct Texts
+{
+    Q_DECLARE_TR_FUNCTIONS(Prompts)
+};
 
 Prompts*& Current()
 {
@@ -33,8 +39,8 @@ void SetPrompts(Prompts* prompts)
 QStringList DialogPrompts::FilesToOpen(QWidget* parent, const QString& folder)
 {
     return QFileDialog::getOpenFileNames(
-        parent, QStringLiteral("Open"), folder,
-        QStringLiteral("SQL scripts (*.sql *.pks *.pkb *.ddl);;All files (*)"));
+        parent, Texts::tr("Open"), folder,
+        Texts::tr("SQL scripts (*.sql *.pks *.pkb *.ddl);;All files (*)"));
 }
 
 std::optional<OpenChoice> DialogPrompts::WhatToOpen(QWidget* parent, const QString& place)
@@ -55,14 +61,14 @@ std::optional<SaveTarget> DialogPrompts::WhereToSave(QWidget* parent, const Save
 
 LoseChanges DialogPrompts::BeforeLosing(QWidget* parent, const QString& name)
 {
-    QMessageBox box(QMessageBox::Question, QStringLiteral("Unsaved changes"),
-                    QStringLiteral("“%1” has changes that are not saved.").arg(name),
+    QMessageBox box(QMessageBox::Question, Texts::tr("Unsaved changes"),
+                    Texts::tr("“%1” has changes that are not saved.").arg(name),
                     QMessageBox::Save | QMessageBox::Discard | QMessageBox::Cancel, parent);
     box.setTextFormat(Qt::PlainText); // a name may look like markup
-    box.setInformativeText(QStringLiteral("They are lost if you discard them."));
+    box.setInformativeText(Texts::tr("They are lost if you discard them."));
     box.setDefaultButton(QMessageBox::Save);
-    box.button(QMessageBox::Save)->setText(QStringLiteral("&Save"));
-    box.button(QMessageBox::Discard)->setText(QStringLiteral("&Discard"));
+    box.button(QMessageBox::Save)->setText(Texts::tr("&Save"));
+    box.button(QMessageBox::Discard)->setText(Texts::tr("&Discard"));
     switch (box.exec()) {
     case QMessageBox::Save:
         return LoseChanges::Save;
@@ -75,12 +81,11 @@ LoseChanges DialogPrompts::BeforeLosing(QWidget* parent, const QString& name)
 
 LoseCharacters DialogPrompts::BeforeQuestionMarks(QWidget* parent, const QString& text)
 {
-    QMessageBox box(QMessageBox::Warning, QStringLiteral("Save"), text, QMessageBox::Cancel,
-                    parent);
+    QMessageBox box(QMessageBox::Warning, Texts::tr("Save"), text, QMessageBox::Cancel, parent);
     box.setTextFormat(Qt::PlainText);
-    const auto* utf8 = box.addButton(QStringLiteral("Save as &UTF-8"), QMessageBox::AcceptRole);
+    const auto* utf8 = box.addButton(Texts::tr("Save as &UTF-8"), QMessageBox::AcceptRole);
     const auto* anyway =
-        box.addButton(QStringLiteral("Save with &Question Marks"), QMessageBox::DestructiveRole);
+        box.addButton(Texts::tr("Save with &Question Marks"), QMessageBox::DestructiveRole);
     box.setDefaultButton(QMessageBox::Cancel);
     box.exec();
     if (box.clickedButton() == utf8)

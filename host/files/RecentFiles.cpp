@@ -4,6 +4,7 @@
 #include "host/files/Places.h"
 #include "platform/system/SettingsFile.h"
 
+#include <QCoreApplication>
 #include <QDir>
 #include <QFileInfo>
 
@@ -17,6 +18,11 @@ struct RecentFiles::Entry
 };
 
 namespace {
+
+struct Texts
+{
+    Q_DECLARE_TR_FUNCTIONS(RecentFiles)
+};
 
 const QString kList = QStringLiteral("RecentFiles");
 const QString kSize = QStringLiteral("/size");
@@ -115,8 +121,8 @@ bool RecentFiles::Clear()
 
 QString RecentFileIsGoneQuestion(const QString& path)
 {
-    return QStringLiteral("“%1” is not there any more. It may have been moved, renamed or deleted, "
-                          "or its drive may be away. Remove it from the list of recent files?")
+    return Texts::tr("“%1” is not there any more. It may have been moved, renamed or deleted, "
+                     "or its drive may be away. Remove it from the list of recent files?")
         .arg(QDir::toNativeSeparators(path));
 }
 

@@ -9,23 +9,23 @@
 #include <QLabel>
 
 SaveAsDialog::SaveAsDialog(QWidget* parent, const SaveTarget& proposal)
-    : QFileDialog(parent, QStringLiteral("Save As")), m_encoding(new QComboBox(this))
+    : QFileDialog(parent, tr("Save As")), m_encoding(new QComboBox(this))
 {
     // The platform's own dialog has no place for a further row.
     setOption(DontUseNativeDialog);
     setAcceptMode(AcceptSave);
     setFileMode(AnyFile);
-    setNameFilters({QStringLiteral("SQL scripts (*.sql)"), QStringLiteral("All files (*)")});
+    setNameFilters({tr("SQL scripts (*.sql)"), tr("All files (*)")});
     setDefaultSuffix(QStringLiteral("sql"));
     setDirectory(QFileInfo(proposal.path).absolutePath());
     selectFile(QFileInfo(proposal.path).fileName());
 
     for (const EncodingChoice& choice : EncodingChoices())
-        m_encoding->addItem(QLatin1String(choice.name));
+        m_encoding->addItem(EncodingName(choice.encoding, choice.mark));
     m_encoding->setCurrentIndex(IndexOfEncoding(proposal.encoding, proposal.mark));
     m_encoding->setObjectName(QStringLiteral("encoding"));
 
-    auto* label = new QLabel(QStringLiteral("&Encoding:"), this);
+    auto* label = new QLabel(tr("&Encoding:"), this);
     label->setBuddy(m_encoding);
     if (auto* grid = qobject_cast<QGridLayout*>(layout())) {
         const int row = grid->rowCount();

@@ -10,10 +10,10 @@
 
 namespace {
 
-QString Tr(const char* text)
+struct Texts
 {
-    return QCoreApplication::translate("FileReplacer", text);
-}
+    Q_DECLARE_TR_FUNCTIONS(FileReplacer)
+};
 
 } // namespace
 
@@ -27,7 +27,7 @@ FileReplacer::Outcome FileReplacer::ReplaceInFile(const FoundFile& file,
                                                   const std::vector<bool>& left) const
 {
     if (!QFileInfo(file.path).isWritable())
-        return {0, Tr("it may not be written")};
+        return {0, Texts::tr("it may not be written")};
     ZNCoreEditorWidget editor;
     if (const FileResult read = editor.open(file.path); !read)
         return {0, read.Reason()};
@@ -35,7 +35,8 @@ FileReplacer::Outcome FileReplacer::ReplaceInFile(const FoundFile& file,
     if (!outcome.reason.isEmpty() || outcome.replaced == 0)
         return outcome;
     if (const auto lost = editor.lostBySaving())
-        return {0, Tr("its encoding does not have %1").arg(DescribeCharacter(lost->character))};
+        return {0,
+                Texts::tr("its encoding does not have %1").arg(DescribeCharacter(lost->character))};
     if (const FileResult written = editor.save(file.path); !written)
         return {0, written.Reason()};
     return outcome;
@@ -46,9 +47,9 @@ FileReplacer::Outcome FileReplacer::ReplaceIn(CZNCoreEditorControlEx& editor, co
                                               const std::vector<bool>& left) const
 {
     if (editor.GetReadOnly(1))
-        return {0, Tr("it is read-only")};
+        return {0, Texts::tr("it is read-only")};
     if (MatchesIn(editor.GetText(), m_request) != file.matches)
-        return {0, Tr("its text is another one by now")};
+        return {0, Texts::tr("its text is another one by now")};
     Outcome outcome;
     editor.SetDoingReplaceAll(true, 1);
     editor.BeginUndoAction(1);

@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 // What FindBar is made of, and its commands.
+#include "common/Translations.h"
 #include "editing/ZNCoreEditorControlEx.h"
 #include "host/finding/ExpressionHelp.h"
 #include "host/finding/FindBar.h"
@@ -39,15 +40,15 @@ std::span<const FindBar::Row> Rows()
 {
     // clang-format off
     static const FindBar::Row rows[] = {
-        {"find",             "&Find...",                "Ctrl+F",        &FindBar::Open},
-        {"findNext",         "Find &Next",              "F3",            &FindBar::FindNext},
-        {"findPrevious",     "Find &Previous",          "Shift+F3",      &FindBar::FindPrevious},
-        {"findNextWord",     "Find the &Word Next",     "Ctrl+F3",       &FindBar::FindNextWord},
-        {"findPreviousWord", "Find the W&ord Previous", "Ctrl+Shift+F3", &FindBar::FindPreviousWord},
-        {"replace",          "&Replace",                "Ctrl+H",        &FindBar::Replace, true},
-        {"replaceAll",       "Replace &All",            nullptr,         &FindBar::ReplaceAll, true, true},
-        {"markAll",          "&Mark All",               nullptr,         &FindBar::MarkAll, false, true},
-        {"countMatches",     "&Count",                  nullptr,         &FindBar::Count, false, true},
+        {"find",             QT_TRANSLATE_NOOP("FindBar", "&Find..."),                "Ctrl+F",        &FindBar::Open},
+        {"findNext",         QT_TRANSLATE_NOOP("FindBar", "Find &Next"),              "F3",            &FindBar::FindNext},
+        {"findPrevious",     QT_TRANSLATE_NOOP("FindBar", "Find &Previous"),          "Shift+F3",      &FindBar::FindPrevious},
+        {"findNextWord",     QT_TRANSLATE_NOOP("FindBar", "Find the &Word Next"),     "Ctrl+F3",       &FindBar::FindNextWord},
+        {"findPreviousWord", QT_TRANSLATE_NOOP("FindBar", "Find the W&ord Previous"), "Ctrl+Shift+F3", &FindBar::FindPreviousWord},
+        {"replace",          QT_TRANSLATE_NOOP("FindBar", "&Replace"),                "Ctrl+H",        &FindBar::Replace, true},
+        {"replaceAll",       QT_TRANSLATE_NOOP("FindBar", "Replace &All"),            nullptr,         &FindBar::ReplaceAll, true, true},
+        {"markAll",          QT_TRANSLATE_NOOP("FindBar", "&Mark All"),               nullptr,         &FindBar::MarkAll, false, true},
+        {"countMatches",     QT_TRANSLATE_NOOP("FindBar", "&Count"),                  nullptr,         &FindBar::Count, false, true},
     };
     // clang-format on
     return rows;
@@ -133,7 +134,7 @@ QLayout* FindBar::MakeFindRow()
         button->setText({});
         button->setFlat(true);
         button->setShortcut(QKeySequence::mnemonic(words));
-        button->setAccessibleName(QString(words).remove(u'&'));
+        button->setAccessibleName(zncoreeditor::WithoutMnemonic(words));
         button->setToolTip(button->accessibleName());
         row->addWidget(button);
     }

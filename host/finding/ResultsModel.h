@@ -10,6 +10,8 @@
 
 class ResultsModel final : public QAbstractItemModel
 {
+    Q_OBJECT
+
 public:
     enum Role
     {

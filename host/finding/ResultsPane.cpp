@@ -317,9 +317,9 @@ QString ResultsPane::StateOf(const FileSearchTotals& totals) const
 {
     if (const QString fault = m_inbox->Fault(); !fault.isEmpty())
         return tr("'%1': %2").arg(m_request.text, fault);
-    QString text = tr("'%1': %2 matches in %3 of %4 files")
-                       .arg(m_request.text, QString::number(totals.matches),
-                            QString::number(totals.found), QString::number(totals.files));
+    QString text =
+        tr("'%1': %n matches in %2 of %3 files", nullptr, totals.matches)
+            .arg(m_request.text, QString::number(totals.found), QString::number(totals.files));
     if (totals.failures > 0)
         text += tr(", %1 not read").arg(totals.failures);
     if (totals.skipped > 0)
@@ -328,7 +328,7 @@ QString ResultsPane::StateOf(const FileSearchTotals& totals) const
         text += tr(". The expression went on for too long in some of them");
     if (totals.isStopped)
         text += tr(". Stopped");
-    return m_inbox->IsDone() ? text : tr("Searching: ") + text;
+    return m_inbox->IsDone() ? text : tr("Searching: %1").arg(text);
 }
 
 // A file at a time, so that the window goes on.
@@ -379,10 +379,10 @@ void ResultsPane::EndReplacing()
     m_replacer.reset();
     m_stop->setEnabled(false);
     m_model->AddNotes(m_notReplaced);
-    m_outcome = tr("%1 matches replaced in %2 files").arg(m_replaced).arg(m_filesReplaced);
+    m_outcome = tr("%n matches replaced in %1 files", nullptr, m_replaced).arg(m_filesReplaced);
     if (!m_notReplaced.isEmpty())
-        m_outcome += tr(". %1 files were left as they are, see the end of the list")
-                         .arg(m_notReplaced.size());
+        m_outcome += tr(". %n files were left as they are, see the end of the list", nullptr,
+                        static_cast<int>(m_notReplaced.size()));
     m_state->setText(m_outcome);
     m_state->setToolTip(m_outcome);
 }

@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "host/help/KeysDialog.h"
 
+#include "common/Translations.h"
+
 #include <QAction>
 #include <QDialogButtonBox>
 #include <QHeaderView>
@@ -17,9 +19,9 @@ namespace {
 constexpr int kCommand = 0;
 constexpr int kKeys = 1;
 
-QString Plain(QString text)
+QString Plain(const QString& text)
 {
-    return text.remove(u'&').remove(QStringLiteral("..."));
+    return zncoreeditor::WithoutMnemonic(text).remove(QStringLiteral("..."));
 }
 
 } // namespace

@@ -5,6 +5,7 @@
 
 #include <QCheckBox>
 #include <QComboBox>
+#include <QCoreApplication>
 #include <QDialogButtonBox>
 #include <QFontComboBox>
 #include <QFormLayout>
@@ -24,20 +25,25 @@ constexpr int kPrintPixels = 96; // to the inch, in the height of a print font
 struct SwitchRow
 {
     const char* name;
-    const char16_t* text;
+    const char* text;
     int key;
 };
 
 constexpr SwitchRow kSwitches[] = {
-    {"tabsToSpaces", u"Insert &blanks for Tab", option::TabsToSpaces},
-    {"lineNumbers", u"&Line numbers", option::LineNumbers},
-    {"foldMargin", u"F&old margin", option::FoldMargin},
-    {"continueComments", u"Enter &continues a comment", option::ContinueComments},
-    {"surroundSelection", u"T&yped quotes and brackets surround the selection",
+    {"tabsToSpaces", QT_TRANSLATE_NOOP("OptionsDialog", "Insert &blanks for Tab"),
+     option::TabsToSpaces},
+    {"lineNumbers", QT_TRANSLATE_NOOP("OptionsDialog", "&Line numbers"), option::LineNumbers},
+    {"foldMargin", QT_TRANSLATE_NOOP("OptionsDialog", "F&old margin"), option::FoldMargin},
+    {"continueComments", QT_TRANSLATE_NOOP("OptionsDialog", "Enter &continues a comment"),
+     option::ContinueComments},
+    {"surroundSelection",
+     QT_TRANSLATE_NOOP("OptionsDialog", "T&yped quotes and brackets surround the selection"),
      option::SurroundSelection},
-    {"printColours", u"&Print in colours", option::PrintColours},
-    {"printGround", u"Print the &grounds of colours", option::PrintGround},
-    {"printOwnFont", u"Print in a font of its o&wn", option::PrintOwnFont},
+    {"printColours", QT_TRANSLATE_NOOP("OptionsDialog", "&Print in colours"), option::PrintColours},
+    {"printGround", QT_TRANSLATE_NOOP("OptionsDialog", "Print the &grounds of colours"),
+     option::PrintGround},
+    {"printOwnFont", QT_TRANSLATE_NOOP("OptionsDialog", "Print in a font of its o&wn"),
+     option::PrintOwnFont},
 };
 
 constexpr int kPathWidth = 320; // pixels, of two folders
@@ -51,7 +57,7 @@ OptionsDialog::OptionsDialog(QWidget* parent)
       m_tabWidth(new QSpinBox(this)), m_autoIndent(new QComboBox(this)),
       m_includePath(new QLineEdit(this))
 {
-    setWindowTitle(QStringLiteral("Options"));
+    setWindowTitle(tr("Options"));
     CZNOptionsServer& options = *CZNOptionsServer::GetObjectW();
     m_font->setObjectName(QStringLiteral("font"));
     m_font->setFontFilters(QFontComboBox::MonospacedFonts);
@@ -69,26 +75,25 @@ OptionsDialog::OptionsDialog(QWidget* parent)
     m_tabWidth->setRange(1, 32);
     m_tabWidth->setValue(options.GetInt(option::TabWidth));
     m_autoIndent->setObjectName(QStringLiteral("autoIndent"));
-    m_autoIndent->addItems({QStringLiteral("Not at all"), QStringLiteral("As the line above"),
-                            QStringLiteral("By the language")});
+    m_autoIndent->addItems({tr("Not at all"), tr("As the line above"), tr("By the language")});
     m_autoIndent->setCurrentIndex(std::clamp(options.GetInt(option::AutoIndent), 0, 2));
 
     m_includePath->setObjectName(QStringLiteral("includePath"));
     m_includePath->setText(options.GetString(option::IncludePath));
     m_includePath->setMinimumWidth(kPathWidth);
-    m_includePath->setPlaceholderText(QStringLiteral("Folders, with ; between them"));
+    m_includePath->setPlaceholderText(tr("Folders, with ; between them"));
 
     auto* form = new QFormLayout;
-    form->addRow(QStringLiteral("&Font"), m_font);
-    form->addRow(QStringLiteral("&Size"), m_points);
-    form->addRow(QStringLiteral("&Tab width, in columns"), m_tabWidth);
-    form->addRow(QStringLiteral("&Indent new lines"), m_autoIndent);
-    form->addRow(QStringLiteral("Folders of i&ncluded files"), m_includePath);
+    form->addRow(tr("&Font"), m_font);
+    form->addRow(tr("&Size"), m_points);
+    form->addRow(tr("&Tab width, in columns"), m_tabWidth);
+    form->addRow(tr("&Indent new lines"), m_autoIndent);
+    form->addRow(tr("Folders of i&ncluded files"), m_includePath);
     for (const SwitchRow& row : kSwitches)
-        form->addRow(AddSwitch(row.name, QString::fromUtf16(row.text), row.key));
+        form->addRow(AddSwitch(row.name, tr(row.text), row.key));
 
-    form->addRow(QStringLiteral("P&rint font"), m_printFont);
-    form->addRow(QStringLiteral("Print si&ze"), m_printPoints);
+    form->addRow(tr("P&rint font"), m_printFont);
+    form->addRow(tr("Print si&ze"), m_printPoints);
 
     auto* buttons = new QDialogButtonBox(QDialogButtonBox::Ok | QDialogButtonBox::Cancel, this);
     connect(buttons, &QDialogButtonBox::accepted, this, &QDialog::accept);

@@ -4,6 +4,7 @@
 #include "completion/ScriptNames.h"
 #include "control/Analysis.h"
 
+#include <QCoreApplication>
 #include <QRegularExpression>
 
 #include <algorithm>
@@ -11,6 +12,11 @@
 #include <optional>
 
 namespace {
+
+struct Texts
+{
+    Q_DECLARE_TR_FUNCTIONS(Symbols)
+};
 
 using completion::NameKind;
 
@@ -42,12 +48,18 @@ struct KindRow
 };
 
 constexpr KindRow kKinds[] = {
-    {NameKind::Table, "Table", false},         {NameKind::View, "View", false},
-    {NameKind::Procedure, "Procedure", false}, {NameKind::Function, "Function", false},
-    {NameKind::Trigger, "Trigger", false},     {NameKind::Index, "Index", false},
-    {NameKind::Type, "Type", false},           {NameKind::Sequence, "Sequence", false},
-    {NameKind::Package, "Package", false},     {NameKind::Schema, "Schema", false},
-    {NameKind::Column, "Column", true},        {NameKind::Parameter, "Parameter", true},
+    {NameKind::Table, QT_TRANSLATE_NOOP("Symbols", "Table"), false},
+    {NameKind::View, QT_TRANSLATE_NOOP("Symbols", "View"), false},
+    {NameKind::Procedure, QT_TRANSLATE_NOOP("Symbols", "Procedure"), false},
+    {NameKind::Function, QT_TRANSLATE_NOOP("Symbols", "Function"), false},
+    {NameKind::Trigger, QT_TRANSLATE_NOOP("Symbols", "Trigger"), false},
+    {NameKind::Index, QT_TRANSLATE_NOOP("Symbols", "Index"), false},
+    {NameKind::Type, QT_TRANSLATE_NOOP("Symbols", "Type"), false},
+    {NameKind::Sequence, QT_TRANSLATE_NOOP("Symbols", "Sequence"), false},
+    {NameKind::Package, QT_TRANSLATE_NOOP("Symbols", "Package"), false},
+    {NameKind::Schema, QT_TRANSLATE_NOOP("Symbols", "Schema"), false},
+    {NameKind::Column, QT_TRANSLATE_NOOP("Symbols", "Column"), true},
+    {NameKind::Parameter, QT_TRANSLATE_NOOP("Symbols", "Parameter"), true},
 };
 
 const DialectRow* DialectNamed(const QString& language)
@@ -93,7 +105,7 @@ std::vector<Symbol> SymbolsOf(const QString& text, const QString& language)
                                         [&](const KindRow& row) { return row.kind == name.kind; });
         if (kind != std::end(kKinds))
             symbols.push_back(
-                {name.name, QLatin1String(kind->name), name.start, name.end, kind->isInside});
+                {name.name, Texts::tr(kind->name), name.start, name.end, kind->isInside});
     }
     AddSteps(text, symbols);
     std::ranges::stable_sort(symbols, {}, &Symbol::start);

@@ -4,6 +4,17 @@
 #include "host/preferences/Appearance.h"
 #include "platform/windows/Questions.h"
 
+#include <QCoreApplication>
+
+namespace {
+
+struct Texts
+{
+    Q_DECLARE_TR_FUNCTIONS(WorkbenchPreferences)
+};
+
+} // namespace
+
 WorkbenchPreferences::WorkbenchPreferences(std::function<void()> applied,
                                            std::function<void(const QString&)> chosen)
     : m_applied(std::move(applied)), m_chosen(std::move(chosen))
@@ -21,10 +32,10 @@ WorkbenchPreferences::~WorkbenchPreferences()
 bool WorkbenchPreferences::OnNotWritten(HWND owner, const QStringList& files)
 {
     ShowMessageUnder(
-        owner, QStringLiteral("Preferences"),
-        QStringLiteral("The changes are in force for now, but these files could not be "
-                       "written:\n\n%1\n\nApply again once they can be, or Cancel to give the "
-                       "changes up.")
+        owner, Texts::tr("Preferences"),
+        Texts::tr("The changes are in force for now, but these files could not be "
+                  "written:\n\n%1\n\nApply again once they can be, or Cancel to give the "
+                  "changes up.")
             .arg(files.join(u'\n')),
         MessageKind::Warning);
     return true;
@@ -38,8 +49,8 @@ QString WorkbenchPreferences::Scheme()
 void WorkbenchPreferences::OnHelp(HWND owner)
 {
     ShowMessageUnder(
-        owner, QStringLiteral("Preferences"),
-        QStringLiteral(
+        owner, Texts::tr("Preferences"),
+        Texts::tr(
             "The tree has a page for what all languages share, and pages for each language. Type "
             "over the tree to find one.\n\n"
             "Apply writes the changes and shows them in the open scripts; Cancel does not take "

@@ -16,6 +16,11 @@
 
 namespace {
 
+struct Texts
+{
+    Q_DECLARE_TR_FUNCTIONS(WorkbenchPrinter)
+};
+
 constexpr qint64 kPatience = 1000;   // milliseconds without a word
 constexpr qint64 kBetweenLooks = 50; // milliseconds from one look at the Stop button to the next
 
@@ -73,9 +78,9 @@ void WorkbenchPrinter::Preview(HWND owner, const QString& title,
     QObject::connect(&dialog, &QPrintPreviewDialog::paintRequested, &dialog, [&](QPrinter* paper) {
         m_previewIsCut = false;
         print(*paper);
-        QString shown = title + QStringLiteral(" – print preview");
+        QString shown = title + Texts::tr(" – print preview");
         if (m_previewIsCut)
-            shown += QStringLiteral(", the first %1 pages").arg(kMostPreviewed);
+            shown += Texts::tr(", the first %1 pages").arg(kMostPreviewed);
         dialog.setWindowTitle(shown);
     });
     if (owner)
@@ -100,8 +105,8 @@ bool WorkbenchPrinter::Step(QWidget* owner, const QString& step, int done, int a
     if (!m_progress) {
         m_progress = new QProgressDialog(owner ? owner->window() : nullptr);
         m_progress->setObjectName(QStringLiteral("printProgress"));
-        m_progress->setWindowTitle(QStringLiteral("Printing"));
-        m_progress->setCancelButtonText(QStringLiteral("&Stop"));
+        m_progress->setWindowTitle(Texts::tr("Printing"));
+        m_progress->setCancelButtonText(Texts::tr("&Stop"));
         m_progress->setWindowModality(Qt::WindowModal);
         m_progress->setAutoClose(false);
         m_progress->setAutoReset(false);
@@ -126,7 +131,7 @@ void WorkbenchPrinter::EndSteps()
 
 bool WorkbenchPrinter::OnPage(HWND owner, UINT page, UINT lastPage)
 {
-    return Step(owner, QStringLiteral("Page %1 of %2").arg(page).arg(lastPage),
+    return Step(owner, Texts::tr("Page %1 of %2").arg(page).arg(lastPage),
                 static_cast<int>(page) - 1, static_cast<int>(lastPage));
 }
 

@@ -20,15 +20,13 @@ constexpr int kEndRole = Qt::UserRole + 1;
 } // namespace
 
 ProblemPane::ProblemPane(QWidget* parent)
-    : QDockWidget(QStringLiteral("Problems"), parent), m_list(new QTreeWidget(this)),
-      m_text(new QLabel(this))
+    : QDockWidget(tr("Problems"), parent), m_list(new QTreeWidget(this)), m_text(new QLabel(this))
 {
     setObjectName(QStringLiteral("problems"));
-    m_list->setAccessibleName(QStringLiteral("Problems of the script"));
+    m_list->setAccessibleName(tr("Problems of the script"));
     m_list->setRootIsDecorated(false);
     m_list->setUniformRowHeights(true);
-    m_list->setHeaderLabels(
-        {QStringLiteral("Line"), QStringLiteral("Column"), QStringLiteral("Problem")});
+    m_list->setHeaderLabels({tr("Line"), tr("Column"), tr("Problem")});
     m_list->header()->setSectionResizeMode(kLineColumn, QHeaderView::ResizeToContents);
     m_list->header()->setSectionResizeMode(kPlaceColumn, QHeaderView::ResizeToContents);
     m_list->header()->setStretchLastSection(true);

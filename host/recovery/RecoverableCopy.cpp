@@ -1,11 +1,17 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "host/recovery/RecoverableCopy.h"
 
+#include <QCoreApplication>
 #include <QDir>
 #include <QFileInfo>
 #include <QLocale>
 
 namespace {
+
+struct Texts
+{
+    Q_DECLARE_TR_FUNCTIONS(RecoverableCopy)
+};
 
 using State = RecoverableCopy::State;
 
@@ -20,10 +26,10 @@ State StateOf(const QFileInfo& file, const QDateTime& copyTime)
     return file.lastModified() > copyTime ? State::Changed : State::Unchanged;
 }
 
-QString Ago(qint64 count, const QString& unit)
+template <class Several>
+QString Ago(qint64 count, const QString& one, Several several)
 {
-    return QStringLiteral("%1 %2%3 ago")
-        .arg(QString::number(count), unit, count == 1 ? QString() : QStringLiteral("s"));
+    return count == 1 ? one : several(static_cast<int>(count));
 }
 
 } // namespace
@@ -62,27 +68,30 @@ QString AgeOf(const QDateTime& time, const QDateTime& now)
     if (seconds < 0 || seconds > 7 * kDay)
         return QLocale().toString(time, QLocale::ShortFormat);
     if (seconds < kMinute)
-        return QStringLiteral("just now");
+        return Texts::tr("just now");
     if (seconds < kHour)
-        return Ago(seconds / kMinute, QStringLiteral("minute"));
+        return Ago(seconds / kMinute, Texts::tr("1 minute ago"),
+                   [](int n) { return Texts::tr("%n minutes ago", nullptr, n); });
     if (seconds < kDay)
-        return Ago(seconds / kHour, QStringLiteral("hour"));
-    return Ago(seconds / kDay, QStringLiteral("day"));
+        return Ago(seconds / kHour, Texts::tr("1 hour ago"),
+                   [](int n) { return Texts::tr("%n hours ago", nullptr, n); });
+    return Ago(seconds / kDay, Texts::tr("1 day ago"),
+               [](int n) { return Texts::tr("%n days ago", nullptr, n); });
 }
 
 QString TextOf(State state)
 {
     switch (state) {
     case State::Unchanged:
-        return QStringLiteral("Not changed since");
+        return Texts::tr("Not changed since");
     case State::Changed:
-        return QStringLiteral("Changed since");
+        return Texts::tr("Changed since");
     case State::Deleted:
-        return QStringLiteral("Deleted");
+        return Texts::tr("Deleted");
     case State::Unreadable:
-        return QStringLiteral("Cannot be read");
+        return Texts::tr("Cannot be read");
     case State::NeverNamed:
-        return QStringLiteral("Never saved");
+        return Texts::tr("Never saved");
     }
     return QString();
 }

@@ -8,6 +8,7 @@
 #include "search/files/ReadFileText.h"
 
 #include <QComboBox>
+#include <QCoreApplication>
 #include <QDialogButtonBox>
 #include <QDir>
 #include <QFileInfo>
@@ -46,9 +47,12 @@ struct ChoiceText
 };
 
 constexpr ChoiceText kChoices[] = {
-    {RecoveryChoice::Recover, "Recover", "&Recover"},
-    {RecoveryChoice::Discard, "Discard", "&Discard"},
-    {RecoveryChoice::Later, "Decide Later", "Decide &Later"},
+    {RecoveryChoice::Recover, QT_TRANSLATE_NOOP("RecoveryDialog", "Recover"),
+     QT_TRANSLATE_NOOP("RecoveryDialog", "&Recover")},
+    {RecoveryChoice::Discard, QT_TRANSLATE_NOOP("RecoveryDialog", "Discard"),
+     QT_TRANSLATE_NOOP("RecoveryDialog", "&Discard")},
+    {RecoveryChoice::Later, QT_TRANSLATE_NOOP("RecoveryDialog", "Decide Later"),
+     QT_TRANSLATE_NOOP("RecoveryDialog", "Decide &Later")},
 };
 
 QChar SignOf(DiffLine::Kind kind)
@@ -62,19 +66,18 @@ RecoveryDialog::RecoveryDialog(QWidget* parent, const QList<RecoverableCopy>& co
     : QDialog(parent), m_copies(copies), m_list(new QTreeWidget(this)), m_heading(new QLabel(this)),
       m_comparison(new ZNCoreEditorWidget(this))
 {
-    setWindowTitle(QStringLiteral("Recover Scripts"));
-    auto* told = new QLabel(QStringLiteral("The workbench ended unexpectedly. These scripts had "
-                                           "changes that were not saved:"),
+    setWindowTitle(tr("Recover Scripts"));
+    auto* told = new QLabel(tr("The workbench ended unexpectedly. These scripts had "
+                               "changes that were not saved:"),
                             this);
     told->setWordWrap(true);
 
     m_list->setObjectName(QStringLiteral("recoverable"));
-    m_list->setAccessibleName(QStringLiteral("Scripts that can be recovered"));
+    m_list->setAccessibleName(tr("Scripts that can be recovered"));
     m_list->setRootIsDecorated(false);
     m_list->setAllColumnsShowFocus(true);
-    m_list->setHeaderLabels({QStringLiteral("Script"), QStringLiteral("Folder"),
-                             QStringLiteral("Copy"), QStringLiteral("File"),
-                             QStringLiteral("File Is"), QStringLiteral("What to Do")});
+    m_list->setHeaderLabels(
+        {tr("Script"), tr("Folder"), tr("Copy"), tr("File"), tr("File Is"), tr("What to Do")});
     for (const RecoverableCopy& copy : std::as_const(m_copies))
         AddCopy(copy);
     m_list->header()->setStretchLastSection(false);
@@ -82,7 +85,7 @@ RecoveryDialog::RecoveryDialog(QWidget* parent, const QList<RecoverableCopy>& co
     m_list->header()->setSectionResizeMode(Folder, QHeaderView::Stretch);
 
     m_comparison->setObjectName(QStringLiteral("comparison"));
-    m_comparison->setAccessibleName(QStringLiteral("Comparison of copy and file"));
+    m_comparison->setAccessibleName(tr("Comparison of copy and file"));
     CZNCoreEditorControlEx& editor = m_comparison->control();
     const bool isDark = zncoreeditor::IsDesktopDark();
     editor.DefineMarker(kAddedMarker, kBackground, 0, isDark ? 0x2A4A1E : 0xD6F5D6);
@@ -100,18 +103,18 @@ RecoveryDialog::RecoveryDialog(QWidget* parent, const QList<RecoverableCopy>& co
     splitter->setChildrenCollapsible(false);
 
     auto* all = new QHBoxLayout;
-    all->addWidget(new QLabel(QStringLiteral("All scripts:"), this));
+    all->addWidget(new QLabel(tr("All scripts:"), this));
     for (const ChoiceText& row : kChoices) {
-        auto* button = new QPushButton(QLatin1String(row.forAll), this);
+        auto* button = new QPushButton(tr(row.forAll), this);
         button->setObjectName(QLatin1String(row.text) + QStringLiteral(" all"));
-        button->setAccessibleName(QLatin1String(row.text) + QStringLiteral(" all scripts"));
+        button->setAccessibleName(tr("%1 all scripts").arg(tr(row.text)));
         button->setAutoDefault(false);
         connect(button, &QPushButton::clicked, this, [this, &row] { ChooseForAll(row.choice); });
         all->addWidget(button);
     }
     all->addStretch();
     auto* buttons = new QDialogButtonBox(this);
-    buttons->addButton(QStringLiteral("&Continue"), QDialogButtonBox::AcceptRole)->setDefault(true);
+    buttons->addButton(tr("&Continue"), QDialogButtonBox::AcceptRole)->setDefault(true);
     connect(buttons, &QDialogButtonBox::accepted, this, &QDialog::accept);
     all->addWidget(buttons);
 
@@ -158,8 +161,8 @@ void RecoveryDialog::AddCopy(const RecoverableCopy& copy)
         item->setToolTip(FileAge, QLocale().toString(copy.fileTime));
     auto* choice = new QComboBox(m_list);
     for (const ChoiceText& row : kChoices)
-        choice->addItem(QLatin1String(row.text));
-    choice->setAccessibleName(QStringLiteral("What to do with %1").arg(copy.name));
+        choice->addItem(tr(row.text));
+    choice->setAccessibleName(tr("What to do with %1").arg(copy.name));
     m_list->setItemWidget(item, Choice, choice);
     m_choices.push_back(choice);
 }
@@ -212,23 +215,21 @@ void RecoveryDialog::CompareTexts(const RecoverableCopy& copy)
     const std::optional<QString> filed =
         hasFile ? ReadFileText(copy.document, kMostBytes) : QString();
     if (!copied || !filed) {
-        m_heading->setText(QStringLiteral("%1 and its copy are not compared: what is no text, "
-                                          "longer than 8 MB or cannot be read is not shown.")
+        m_heading->setText(tr("%1 and its copy are not compared: what is no text, "
+                              "longer than 8 MB or cannot be read is not shown.")
                                .arg(copy.name));
         return;
     }
     if (!hasFile) {
-        m_heading->setText(QStringLiteral("The copy of %1:").arg(copy.name));
+        m_heading->setText(tr("The copy of %1:").arg(copy.name));
         m_comparison->setText(*copied);
         return;
     }
-    m_heading->setText(
-        QStringLiteral("%1: lines with - are in the file alone, those with + in the copy alone.")
-            .arg(copy.name));
+    m_heading->setText(tr("%1: lines with - are in the file alone, those with + in the copy alone.")
+                           .arg(copy.name));
     const std::vector<DiffLine> lines = UnifiedDiff(*filed, *copied, kAround);
     if (lines.empty())
-        m_heading->setText(
-            QStringLiteral("%1 and its copy differ in their encoding alone.").arg(copy.name));
+        m_heading->setText(tr("%1 and its copy differ in their encoding alone.").arg(copy.name));
     QString text;
     for (const DiffLine& line : lines) {
         const bool isGap = line.kind == DiffLine::Kind::Gap;

@@ -18,12 +18,18 @@
 #include "platform/windows/Questions.h"
 
 #include <QApplication>
+#include <QCoreApplication>
 #include <QDir>
 #include <QFileInfo>
 #include <QMenu>
 #include <QUrl>
 
 namespace {
+
+struct Texts
+{
+    Q_DECLARE_TR_FUNCTIONS(ScriptCommands)
+};
 
 constexpr UINT kOpenAtCaret = 54026;
 
@@ -96,7 +102,7 @@ void ScriptView::EditTemplates()
     const QString path = TemplateStore::OwnFile(m_coreEditor.GetCurrentLanguage());
     CWinApp* app = GetApp();
     if (path.isEmpty())
-        GetPrompts().Tell(GetSafeHwnd(), QStringLiteral("This language has no file of templates."));
+        GetPrompts().Tell(GetSafeHwnd(), Texts::tr("This language has no file of templates."));
     else if (app)
         app->OpenDocumentFile(path);
 }
@@ -114,7 +120,7 @@ void ScriptView::OpenAtCaret()
     const QString name = m_coreEditor.SelectionFilename();
     if (name.isEmpty())
         GetPrompts().Tell(GetSafeHwnd(),
-                          QStringLiteral("No file name and no address stands at the caret."));
+                          Texts::tr("No file name and no address stands at the caret."));
     else
         OpenNamed(name);
 }
@@ -128,12 +134,12 @@ void ScriptView::OpenNamed(const QString& name)
         return;
     if (IsAddress(name)) {
         if (!OpenInShell(QUrl(name)))
-            GetPrompts().Tell(GetSafeHwnd(), QStringLiteral("Nothing opens %1.").arg(name));
+            GetPrompts().Tell(GetSafeHwnd(), Texts::tr("Nothing opens %1.").arg(name));
         return;
     }
     const FilePlace place = FindNamed(name, script->GetPathName());
     if (place.path.isEmpty()) {
-        GetPrompts().Tell(GetSafeHwnd(), QStringLiteral("There is no file %1.").arg(name));
+        GetPrompts().Tell(GetSafeHwnd(), Texts::tr("There is no file %1.").arg(name));
         return;
     }
     CWinApp* app = GetApp();
@@ -155,7 +161,7 @@ void ScriptView::OnContextMenu(CWnd* window, CPoint point)
     if (name.isEmpty() ||
         (!IsAddress(name) && FindNamed(name, script->GetPathName()).path.isEmpty()))
         return;
-    auto* open = new QAction(QStringLiteral("Open &Document"), menu);
+    auto* open = new QAction(Texts::tr("Open &Document"), menu);
     SetCommand(*open, kOpenAtCaret, GetSafeHwnd());
     QAction* first = menu->actions().constFirst();
     menu->insertAction(first, open);

@@ -30,36 +30,36 @@ QString WhyNotRead(const QString& path)
     const QString name = QDir::toNativeSeparators(path);
     // What is not UTF-8 in a name has become this.
     if (!info.exists() && path.contains(QChar::ReplacementCharacter))
-        return QStringLiteral("“%1” has a name that is not UTF-8, which cannot be opened. "
-                              "Rename the file.")
+        return ScriptDoc::tr("“%1” has a name that is not UTF-8, which cannot be opened. "
+                             "Rename the file.")
             .arg(name);
     if (!info.exists())
-        return QStringLiteral("“%1” does not exist.").arg(name);
+        return ScriptDoc::tr("“%1” does not exist.").arg(name);
     if (info.isDir())
-        return QStringLiteral("“%1” is a folder, not a script.").arg(name);
-    return QStringLiteral("“%1” cannot be read. Check that you may read it.").arg(name);
+        return ScriptDoc::tr("“%1” is a folder, not a script.").arg(name);
+    return ScriptDoc::tr("“%1” cannot be read. Check that you may read it.").arg(name);
 }
 
 QString WhyNotWritten(const QString& path)
 {
     const QFileInfo info(path);
     const QFileInfo folder(info.absolutePath());
-    QString reason = QStringLiteral("The disk may be full.");
+    QString reason = ScriptDoc::tr("The disk may be full.");
     if (!folder.isDir())
-        reason = QStringLiteral("The folder does not exist.");
+        reason = ScriptDoc::tr("The folder does not exist.");
     else if (info.isDir())
-        reason = QStringLiteral("A folder has that name.");
+        reason = ScriptDoc::tr("A folder has that name.");
     else if (!folder.isWritable() || (info.exists() && !info.isWritable()))
-        reason = QStringLiteral("You may not write there.");
-    return QStringLiteral("“%1” could not be saved. %2 The text is still here: "
-                          "use Save As to put it in another place.")
+        reason = ScriptDoc::tr("You may not write there.");
+    return ScriptDoc::tr("“%1” could not be saved. %2 The text is still here: "
+                         "use Save As to put it in another place.")
         .arg(QDir::toNativeSeparators(path), reason);
 }
 
 QString WhyNotRecovered(const RecoverableCopy& copy)
 {
-    return QStringLiteral("The copy of “%1” cannot be read, or another window of the workbench has "
-                          "it by now. It is still there: “%2”.")
+    return ScriptDoc::tr("The copy of “%1” cannot be read, or another window of the workbench has "
+                         "it by now. It is still there: “%2”.")
         .arg(copy.name, QDir::toNativeSeparators(copy.path));
 }
 
@@ -355,7 +355,7 @@ void ScriptDoc::SetModifiedFlag(int modified)
 // The base's command, with an end of what was kept against the file.
 void ScriptDoc::OnReload()
 {
-    const QString text = QStringLiteral("Do you want to reload '%1' ?");
+    const QString text = tr("Do you want to reload '%1' ?");
     if (m_strPathName.isEmpty() || !AskYesNo(Window(), text.arg(m_strPathName)) || IsClosed())
         return;
     m_onlyHere = false;

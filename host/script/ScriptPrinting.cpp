@@ -8,7 +8,18 @@
 #include "platform/printing/PrintInfo.h"
 #include "platform/windows/DeviceContext.h"
 
+#include <QCoreApplication>
+
 #include <algorithm>
+
+namespace {
+
+struct Texts
+{
+    Q_DECLARE_TR_FUNCTIONS(ScriptPrinting)
+};
+
+} // namespace
 
 // The character at a range's end belongs to it. The base takes a selection of one character for
 // none, and finds pages without a word.
@@ -29,7 +40,7 @@ void ScriptView::OnBeginPrinting(CDC* dc, CPrintInfo* info)
         m_pageStarts.push_back(static_cast<unsigned>(start));
         record.chrg = {start, range.cpMax};
         const auto next = static_cast<int>(m_coreEditor.FormatRange(0, &record, 1));
-        const QString step = QStringLiteral("Finding page %1").arg(m_pageStarts.size() + 1);
+        const QString step = Texts::tr("Finding page %1").arg(m_pageStarts.size() + 1);
         info->m_bContinuePrinting = WorkbenchPrinter::GoesOn(
             GetSafeHwnd(), step, next - range.cpMin, range.cpMax - range.cpMin);
         if (next <= start || !info->m_bContinuePrinting)

@@ -84,8 +84,8 @@ int ScriptDoc::SaveTo(const SaveTarget& target)
     if (GetDocTemplate() && !IsSameFile(chosen.path, m_strPathName))
         GetDocTemplate()->MatchDocType(chosen.path, other);
     if (other && other != this) {
-        GetPrompts().Tell(Window(), QStringLiteral("“%1” is open in another tab. Close it first, "
-                                                   "or choose another name.")
+        GetPrompts().Tell(Window(), tr("“%1” is open in another tab. Close it first, "
+                                       "or choose another name.")
                                         .arg(QFileInfo(chosen.path).fileName()));
         return 0;
     }
@@ -104,10 +104,10 @@ bool ScriptDoc::MayReplaceLongerFile(const SaveTarget& target)
         return true;
     return GetPrompts().Confirm(
         Window(),
-        QStringLiteral("Only the first part of “%1” could be read. Saving it under its own name "
-                       "loses the rest of the file.")
+        tr("Only the first part of “%1” could be read. Saving it under its own name "
+           "loses the rest of the file.")
             .arg(Name()),
-        QStringLiteral("&Overwrite"));
+        tr("&Overwrite"));
 }
 
 // Others are looked for when the focus comes; they may have written since.
@@ -119,10 +119,10 @@ bool ScriptDoc::MayReplaceChangedFile(const SaveTarget& target)
         return true;
     return GetPrompts().Confirm(
         Window(),
-        QStringLiteral("“%1” has been changed outside of the workbench since it was read. Saving "
-                       "it replaces those changes.")
+        tr("“%1” has been changed outside of the workbench since it was read. Saving "
+           "it replaces those changes.")
             .arg(Name()),
-        QStringLiteral("&Overwrite"));
+        tr("&Overwrite"));
 }
 
 bool ScriptDoc::MayLoseCharacters(SaveTarget& target)

@@ -20,12 +20,18 @@
 #include "platform/windows/Mouse.h"
 
 #include <QApplication>
+#include <QCoreApplication>
 #include <QTimer>
 
 #include <algorithm>
 #include <utility>
 
 namespace {
+
+struct Texts
+{
+    Q_DECLARE_TR_FUNCTIONS(ScriptView)
+};
 
 // Long enough that held keys are not each followed, short enough that nobody sees it.
 constexpr std::chrono::milliseconds kRest(100);
@@ -66,7 +72,7 @@ int ScriptView::OnCreate(CCreateContext* context)
     m_coreEditor.SetScheme(appearance::Current());
     DefineBatchMark(m_coreEditor);
     new DesktopWatch(*m_coreEditor.GetSafeHwnd(), [this] { DefineBatchMark(m_coreEditor); });
-    m_coreEditor.GetSafeHwnd()->setAccessibleName(QStringLiteral("Script"));
+    m_coreEditor.GetSafeHwnd()->setAccessibleName(Texts::tr("Script"));
     FileDrops::Take(*m_coreEditor.GetSafeHwnd());
     new NameClicks(*this); // goes with the editor's window
     if (ScriptDoc* script = Script()) {
@@ -217,7 +223,7 @@ int ScriptView::OnNotify(WPARAM wParam, LPARAM lParam, LRESULT* result)
         break;
     case engine::kLongLineShown:
         Q_EMIT script->Told(
-            QStringLiteral("Line %L1 is very long: behind column %L2 its text is drawn coarsely")
+            Texts::tr("Line %L1 is very long: behind column %L2 its text is drawn coarsely")
                 .arg(record.line + 1)
                 .arg(record.length));
         break;
@@ -311,11 +317,11 @@ void ScriptView::GoToColumn(long column)
 QString ScriptView::CaretText()
 {
     const long caret = m_coreEditor.GetCurrentPos(1);
-    const QString place = QStringLiteral("Line %1, column %2")
+    const QString place = Texts::tr("Line %1, column %2")
                               .arg(m_coreEditor.LineFromPosition(caret, 1) + 1)
                               .arg(m_coreEditor.GetColumn(caret, 1) + 1);
     const long selected = m_coreEditor.GetSelectionEnd(1) - m_coreEditor.GetSelectionStart(1);
-    return selected > 0 ? place + QStringLiteral(" (%1 selected)").arg(selected) : place;
+    return selected > 0 ? place + Texts::tr(" (%1 selected)").arg(selected) : place;
 }
 
 QString ScriptView::Catalog()

@@ -7,10 +7,10 @@
 #include <QSpinBox>
 
 AutosaveDialog::AutosaveDialog(QWidget* parent, const AutosaveSettings& settings)
-    : QDialog(parent), m_on(new QCheckBox(QStringLiteral("&Keep copies of unsaved changes"), this)),
+    : QDialog(parent), m_on(new QCheckBox(tr("&Keep copies of unsaved changes"), this)),
       m_minutes(new QSpinBox(this))
 {
-    setWindowTitle(QStringLiteral("Autosave"));
+    setWindowTitle(tr("Autosave"));
     m_on->setObjectName(QStringLiteral("autosaveOn"));
     m_on->setChecked(settings.on);
     m_minutes->setObjectName(QStringLiteral("autosaveMinutes"));
@@ -25,7 +25,7 @@ AutosaveDialog::AutosaveDialog(QWidget* parent, const AutosaveSettings& settings
 
     auto* layout = new QFormLayout(this);
     layout->addRow(m_on);
-    layout->addRow(QStringLiteral("&Minutes between copies"), m_minutes);
+    layout->addRow(tr("&Minutes between copies"), m_minutes);
     layout->addRow(buttons);
 }
 

@@ -2,29 +2,39 @@
 #include "host/window/Arguments.h"
 
 #include <QCommandLineParser>
+#include <QCoreApplication>
+
+namespace {
+
+struct Texts
+{
+    Q_DECLARE_TR_FUNCTIONS(Arguments)
+};
+
+} // namespace
 
 Arguments ParseArguments(const QStringList& commandLine)
 {
     QCommandLineParser parser;
-    parser.setApplicationDescription(QStringLiteral("Opens SQL scripts, one tab for each."));
+    parser.setApplicationDescription(Texts::tr("Opens SQL scripts, one tab for each."));
     const QCommandLineOption help({QStringLiteral("h"), QStringLiteral("help")},
-                                  QStringLiteral("Shows this text."));
+                                  Texts::tr("Shows this text."));
     const QCommandLineOption screenshot(QStringLiteral("screenshot"),
-                                        QStringLiteral("Writes a picture of the window and exits."),
+                                        Texts::tr("Writes a picture of the window and exits."),
                                         QStringLiteral("FILE"));
     const QCommandLineOption version({QStringLiteral("v"), QStringLiteral("version")},
-                                     QStringLiteral("Tells which version this is."));
+                                     Texts::tr("Tells which version this is."));
     parser.addOptions({help, version, screenshot});
     parser.addPositionalArgument(
         QStringLiteral("FILE"),
-        QStringLiteral("Scripts to open, each at a line and a column: a.sql:120:7."),
+        Texts::tr("Scripts to open, each at a line and a column: a.sql:120:7."),
         QStringLiteral("[FILE[:LINE[:COLUMN]]...]"));
 
     Arguments arguments;
     if (!parser.parse(commandLine))
         arguments.error = parser.errorText();
     else if (parser.isSet(screenshot) && parser.value(screenshot).isEmpty())
-        arguments.error = QStringLiteral("--screenshot needs the name of a file.");
+        arguments.error = Texts::tr("--screenshot needs the name of a file.");
     if (parser.isSet(help))
         arguments.help = parser.helpText();
     else if (parser.isSet(version))

@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "host/window/CommandPalette.h"
 
+#include "common/Translations.h"
+
 #include <QAction>
 #include <QKeyEvent>
 #include <QLineEdit>
@@ -15,9 +17,9 @@ namespace {
 
 constexpr int kEntry = Qt::UserRole; // its place among the entries
 
-QString Plain(QString text)
+QString Plain(const QString& text)
 {
-    return text.remove(u'&').remove(QStringLiteral("..."));
+    return zncoreeditor::WithoutMnemonic(text).remove(QStringLiteral("..."));
 }
 
 } // namespace

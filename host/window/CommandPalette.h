@@ -14,6 +14,8 @@ class QMenuBar;
 
 class CommandPalette final : public QDialog
 {
+    Q_OBJECT
+
 public:
     CommandPalette(const QMenuBar& menus, QWidget* parent);
 

@@ -70,48 +70,55 @@ void SortLines(Editor& editor)
     editor.EndUndoAction(1);
 }
 
+constexpr const char* kComments = QT_TRANSLATE_NOOP("EditingMenu", "C&omments");
+constexpr const char* kIndentation = QT_TRANSLATE_NOOP("EditingMenu", "&Indentation");
+constexpr const char* kLines = QT_TRANSLATE_NOOP("EditingMenu", "&Lines");
+constexpr const char* kWords = QT_TRANSLATE_NOOP("EditingMenu", "&Words");
+constexpr const char* kSelect = QT_TRANSLATE_NOOP("EditingMenu", "&Select");
+constexpr const char* kBookmarks = QT_TRANSLATE_NOOP("EditingMenu", "&Bookmarks");
+
 std::span<const EditingMenu::Row> Rows()
 {
     // clang-format off
     static const EditingMenu::Row rows[] = {
-        {"C&omments",   "comment",        "&Comment Out",           nullptr,         54037},
-        {"C&omments",   "uncomment",      "&Uncomment",             "Ctrl+Shift+/",  54041},
-        {"C&omments",   "commentLines",   "Comment &Lines Out",     nullptr, 53967, nullptr, false, true},
-        {"&Indentation", "indent",        "&Indent",                nullptr,         54034, nullptr, true, true},
-        {"&Indentation", "outdent",       "&Outdent",               nullptr,         54035, nullptr, true, true},
-        {"&Indentation", "tabsToSpaces",  "&Tabs to Spaces",        nullptr, 53921},
-        {"&Indentation", "spacesToTabs",  "&Spaces to Tabs",        nullptr, 53922},
-        {"&Indentation", "trim",          "Trim T&railing Spaces",  nullptr, 53953},
-        {"&Lines",      "sortUp",         "Sort &Ascending",        nullptr, 0, SortLines<true>,  true, true},
-        {"&Lines",      "sortDown",       "Sort &Descending",       nullptr, 0, SortLines<false>, true, true},
-        {"&Lines",      "endLastLine",    "&End the Last Line",     nullptr, 0, Do<&Editor::EnsureFinalNewLine>, false, true},
-        {"&Lines",      "endsWindows",    "Convert Line Ends to C&R+LF (Windows)", nullptr, 54071},
-        {"&Lines",      "endsUnix",       "Convert Line Ends to L&F (Unix)", nullptr, 54072},
-        {"&Lines",      "endsMac",        "Convert Line Ends to CR (&Mac)", nullptr, 54073},
-        {"&Words",      "upperCase",      "&Upper Case",            "Ctrl+Shift+U",  54042, nullptr, true, true},
-        {"&Words",      "lowerCase",      "&Lower Case",            "Ctrl+U",        54039, nullptr, true, true},
-        {"&Words",      "capitalize",     "Ca&pitalize",            nullptr, 0, Do<&Editor::Capitalize>, true, true},
-        {"&Words",      "upperCaseWord",  "Upper Case of a W&ord",  nullptr, 53928},
-        {"&Words",      "lowerCaseWord",  "Lower Case of a Wo&rd",  nullptr, 53929},
-        {"&Words",      "capitalizeWord", "Capi&talize a Word",     nullptr, 53927},
-        {"&Words",      "deleteWord",     "D&elete a Word",         nullptr, 53906},
-        {"&Words",      "swapCharacters", "Swap &Characters",       nullptr, 53930},
-        {"&Words",      "swapWords",      "Swap &Words",            nullptr, 53931},
-        {"&Words",      "increase",       "&Increase Number",       "Ctrl+Alt+Right", 54001},
-        {"&Words",      "decrease",       "&Decrease Number",       "Ctrl+Alt+Left", 54002},
-        {"&Select",     "selectWord",     "&Word",                  nullptr, 53908},
-        {"&Select",     "selectLine",     "&Line",                  nullptr, 53909},
-        {"&Select",     "selectParagraph", "&Paragraph",            nullptr, 53916},
-        {"&Select",     "selectToBrace",  "To Matching &Brace",     "Ctrl+Shift+]", 53961},
-        {"&Select",     "swapEnds",       "&Caret to the Other End", nullptr, 53934},
-        {"&Bookmarks",  "bookmark",       "&Toggle",                "Ctrl+F2",       54057},
-        {"&Bookmarks",  "nextBookmark",   "&Next",                  "F2",            54056},
-        {"&Bookmarks",  "previousBookmark", "&Previous",            "Shift+F2",      54058},
-        {"&Bookmarks",  "firstBookmark",  "&First",                 nullptr, 53913},
-        {"&Bookmarks",  "lastBookmark",   "&Last",                  nullptr, 53914},
-        {"&Bookmarks",  "clearBookmarks", "&Clear All",             "Ctrl+Shift+F2", 54059},
-        {nullptr,       "matchBrace",     "&Matching Brace",        "Ctrl+]",        54040},
-        {nullptr,       "insertFile",     "Insert &File...",        nullptr,         54038},
+        {kComments,   "comment",        QT_TRANSLATE_NOOP("EditingMenu", "&Comment Out"),           nullptr,         54037},
+        {kComments,   "uncomment",      QT_TRANSLATE_NOOP("EditingMenu", "&Uncomment"),             "Ctrl+Shift+/",  54041},
+        {kComments,   "commentLines",   QT_TRANSLATE_NOOP("EditingMenu", "Comment &Lines Out"),     nullptr, 53967, nullptr, false, true},
+        {kIndentation, "indent",        QT_TRANSLATE_NOOP("EditingMenu", "&Indent"),                nullptr,         54034, nullptr, true, true},
+        {kIndentation, "outdent",       QT_TRANSLATE_NOOP("EditingMenu", "&Outdent"),               nullptr,         54035, nullptr, true, true},
+        {kIndentation, "tabsToSpaces",  QT_TRANSLATE_NOOP("EditingMenu", "&Tabs to Spaces"),        nullptr, 53921},
+        {kIndentation, "spacesToTabs",  QT_TRANSLATE_NOOP("EditingMenu", "&Spaces to Tabs"),        nullptr, 53922},
+        {kIndentation, "trim",          QT_TRANSLATE_NOOP("EditingMenu", "Trim T&railing Spaces"),  nullptr, 53953},
+        {kLines,      "sortUp",         QT_TRANSLATE_NOOP("EditingMenu", "Sort &Ascending"),        nullptr, 0, SortLines<true>,  true, true},
+        {kLines,      "sortDown",       QT_TRANSLATE_NOOP("EditingMenu", "Sort &Descending"),       nullptr, 0, SortLines<false>, true, true},
+        {kLines,      "endLastLine",    QT_TRANSLATE_NOOP("EditingMenu", "&End the Last Line"),     nullptr, 0, Do<&Editor::EnsureFinalNewLine>, false, true},
+        {kLines,      "endsWindows",    QT_TRANSLATE_NOOP("EditingMenu", "Convert Line Ends to C&R+LF (Windows)"), nullptr, 54071},
+        {kLines,      "endsUnix",       QT_TRANSLATE_NOOP("EditingMenu", "Convert Line Ends to L&F (Unix)"), nullptr, 54072},
+        {kLines,      "endsMac",        QT_TRANSLATE_NOOP("EditingMenu", "Convert Line Ends to CR (&Mac)"), nullptr, 54073},
+        {kWords,      "upperCase",      QT_TRANSLATE_NOOP("EditingMenu", "&Upper Case"),            "Ctrl+Shift+U",  54042, nullptr, true, true},
+        {kWords,      "lowerCase",      QT_TRANSLATE_NOOP("EditingMenu", "&Lower Case"),            "Ctrl+U",        54039, nullptr, true, true},
+        {kWords,      "capitalize",     QT_TRANSLATE_NOOP("EditingMenu", "Ca&pitalize"),            nullptr, 0, Do<&Editor::Capitalize>, true, true},
+        {kWords,      "upperCaseWord",  QT_TRANSLATE_NOOP("EditingMenu", "Upper Case of a W&ord"),  nullptr, 53928},
+        {kWords,      "lowerCaseWord",  QT_TRANSLATE_NOOP("EditingMenu", "Lower Case of a Wo&rd"),  nullptr, 53929},
+        {kWords,      "capitalizeWord", QT_TRANSLATE_NOOP("EditingMenu", "Capi&talize a Word"),     nullptr, 53927},
+        {kWords,      "deleteWord",     QT_TRANSLATE_NOOP("EditingMenu", "D&elete a Word"),         nullptr, 53906},
+        {kWords,      "swapCharacters", QT_TRANSLATE_NOOP("EditingMenu", "Swap &Characters"),       nullptr, 53930},
+        {kWords,      "swapWords",      QT_TRANSLATE_NOOP("EditingMenu", "Swap &Words"),            nullptr, 53931},
+        {kWords,      "increase",       QT_TRANSLATE_NOOP("EditingMenu", "&Increase Number"),       "Ctrl+Alt+Right", 54001},
+        {kWords,      "decrease",       QT_TRANSLATE_NOOP("EditingMenu", "&Decrease Number"),       "Ctrl+Alt+Left", 54002},
+        {kSelect,     "selectWord",     QT_TRANSLATE_NOOP("EditingMenu", "&Word"),                  nullptr, 53908},
+        {kSelect,     "selectLine",     QT_TRANSLATE_NOOP("EditingMenu", "&Line"),                  nullptr, 53909},
+        {kSelect,     "selectParagraph", QT_TRANSLATE_NOOP("EditingMenu", "&Paragraph"),            nullptr, 53916},
+        {kSelect,     "selectToBrace",  QT_TRANSLATE_NOOP("EditingMenu", "To Matching &Brace"),     "Ctrl+Shift+]", 53961},
+        {kSelect,     "swapEnds",       QT_TRANSLATE_NOOP("EditingMenu", "&Caret to the Other End"), nullptr, 53934},
+        {kBookmarks,  "bookmark",       QT_TRANSLATE_NOOP("EditingMenu", "&Toggle"),                "Ctrl+F2",       54057},
+        {kBookmarks,  "nextBookmark",   QT_TRANSLATE_NOOP("EditingMenu", "&Next"),                  "F2",            54056},
+        {kBookmarks,  "previousBookmark", QT_TRANSLATE_NOOP("EditingMenu", "&Previous"),            "Shift+F2",      54058},
+        {kBookmarks,  "firstBookmark",  QT_TRANSLATE_NOOP("EditingMenu", "&First"),                 nullptr, 53913},
+        {kBookmarks,  "lastBookmark",   QT_TRANSLATE_NOOP("EditingMenu", "&Last"),                  nullptr, 53914},
+        {kBookmarks,  "clearBookmarks", QT_TRANSLATE_NOOP("EditingMenu", "&Clear All"),             "Ctrl+Shift+F2", 54059},
+        {nullptr,       "matchBrace",     QT_TRANSLATE_NOOP("EditingMenu", "&Matching Brace"),        "Ctrl+]",        54040},
+        {nullptr,       "insertFile",     QT_TRANSLATE_NOOP("EditingMenu", "Insert &File..."),        nullptr,         54038},
     };
     // clang-format on
     return rows;
@@ -123,36 +130,29 @@ EditingMenu::EditingMenu(QMenu& menu, std::function<ScriptView*()> view)
     : QObject(&menu), m_view(std::move(view))
 {
     menu.addSeparator();
-    QMenu* part = &menu;
+    Parts parts;
     for (const Row& row : Rows()) {
-        const QString title = QLatin1String(row.menu);
-        if (title.isEmpty())
-            part = &menu;
-        else if (part->title() != title)
-            part = menu.addMenu(title);
-        QAction* action = part->addAction(QLatin1String(row.text));
+        QMenu*& part = row.menu ? parts[row.menu] : parts[{}];
+        if (!part)
+            part = row.menu ? menu.addMenu(tr(row.menu)) : &menu;
+        QAction* action = part->addAction(tr(row.text));
         action->setObjectName(QLatin1String(row.name));
         action->setData(row.command);
         action->setShortcut(QKeySequence(QLatin1String(row.keys)));
         connect(action, &QAction::triggered, this, [this, &row] { Run(row); });
         m_actions.push_back(action);
     }
-    AddHands(menu);
+    AddHands(menu, parts);
 }
 
 // Into the parts that are there already, or into one of their own.
-void EditingMenu::AddHands(QMenu& menu)
+void EditingMenu::AddHands(QMenu& menu, Parts& parts)
 {
     for (const HandRow& row : Hands()) {
-        const QString title = QLatin1String(row.menu);
-        QMenu* part = nullptr;
-        for (QAction* each : menu.actions()) {
-            if (each->menu() && each->menu()->title() == title)
-                part = each->menu();
-        }
+        QMenu*& part = parts[row.menu];
         if (!part)
-            part = menu.addMenu(title);
-        QAction* action = part->addAction(QLatin1String(row.text));
+            part = menu.addMenu(HandText(row.menu));
+        QAction* action = part->addAction(HandText(row.text));
         action->setObjectName(QLatin1String(row.name));
         action->setData(row.number);
         if (row.key)

@@ -3,9 +3,12 @@
 // it are commands of the view, which says itself when each is possible.
 #pragma once
 
+#include <QCoreApplication>
 #include <QObject>
 
 #include <functional>
+#include <map>
+#include <string_view>
 #include <vector>
 
 class QAction;
@@ -14,6 +17,8 @@ class ScriptView;
 
 class EditingMenu final : public QObject
 {
+    Q_DECLARE_TR_FUNCTIONS(EditingMenu)
+
 public:
     // Appends to the menu. The view is that of the script in front, null if there is none.
     EditingMenu(QMenu& menu, std::function<ScriptView*()> view);
@@ -23,7 +28,9 @@ public:
     struct Row; // one of the menus' entries
 
 private:
-    void AddHands(QMenu& menu);
+    // The menus by their titles in English; the one without a title is the menu around them.
+    using Parts = std::map<std::string_view, QMenu*>;
+    void AddHands(QMenu& menu, Parts& parts);
     bool IsPossible(const Row& row) const;
     void Run(const Row& row);
 

@@ -6,12 +6,18 @@
 #include "platform/system/Font.h"
 
 #include <QActionGroup>
+#include <QCoreApplication>
 #include <QMenu>
 
 #include <algorithm>
 #include <cmath>
 
 namespace {
+
+struct Texts
+{
+    Q_DECLARE_TR_FUNCTIONS(FieldMenus)
+};
 
 constexpr int kWhole = 100; // per cent
 
@@ -51,8 +57,8 @@ QString ZoomText(CZNCoreEditorControlEx& editor)
 QString IndentationText(CZNCoreEditorControlEx& editor)
 {
     const auto width = static_cast<int>(editor.GetTabWidth(1));
-    return editor.GetUseTabs(1) ? QMenu::tr("Tabs: %1").arg(width)
-                                : QMenu::tr("Spaces: %1").arg(width);
+    return editor.GetUseTabs(1) ? Texts::tr("Tabs: %1").arg(width)
+                                : Texts::tr("Spaces: %1").arg(width);
 }
 
 QMenu* ZoomMenu(CZNCoreEditorControlEx& editor, QWidget* parent)
@@ -80,8 +86,8 @@ QMenu* IndentationMenu(CZNCoreEditorControlEx& editor, QWidget* parent)
     QMenu* menu = NewMenu(parent);
     auto* kinds = new QActionGroup(menu);
     for (const bool tabs : {false, true}) {
-        QAction* action = menu->addAction(tabs ? QMenu::tr("Indent with &Tabs")
-                                               : QMenu::tr("Indent with &Spaces"));
+        QAction* action = menu->addAction(tabs ? Texts::tr("Indent with &Tabs")
+                                               : Texts::tr("Indent with &Spaces"));
         action->setCheckable(true);
         action->setChecked((editor.GetUseTabs(1) != 0) == tabs);
         kinds->addAction(action);
@@ -91,7 +97,7 @@ QMenu* IndentationMenu(CZNCoreEditorControlEx& editor, QWidget* parent)
     menu->addSeparator();
     auto* widths = new QActionGroup(menu);
     for (const int width : kWidths) {
-        QAction* action = menu->addAction(QMenu::tr("&%1 Columns").arg(width));
+        QAction* action = menu->addAction(Texts::tr("&%1 Columns").arg(width));
         action->setCheckable(true);
         action->setChecked(editor.GetTabWidth(1) == width);
         widths->addAction(action);

@@ -18,7 +18,7 @@ constexpr int kNotForScripts[] = {0, 11};
 } // namespace
 
 LanguageMenu::LanguageMenu(QWidget* parent)
-    : QMenu(QStringLiteral("&Language"), parent), m_group(new QActionGroup(this))
+    : QMenu(tr("&Language"), parent), m_group(new QActionGroup(this))
 {
     const CFileTypeManager& registry = *zncoreeditor::GetFileTypeManager();
     std::vector<int> languages;

@@ -51,7 +51,7 @@ constexpr int kExpandedWidth = 460;  // pixels, of some fifty characters
 
 QString NotStored(const QString& what)
 {
-    return QStringLiteral("%1 could not be written to the settings; the disk may be full. It holds "
+    return MainWindow::tr("%1 could not be written to the settings; the disk may be full. It holds "
                           "until the workbench ends.")
         .arg(what);
 }
@@ -201,7 +201,7 @@ void MainWindow::OpenRecent(const QString& path)
 {
     if (QFileInfo::exists(path))
         m_app.OpenDocumentFile(path);
-    else if (GetPrompts().Confirm(this, RecentFileIsGoneQuestion(path), QStringLiteral("&Remove")))
+    else if (GetPrompts().Confirm(this, RecentFileIsGoneQuestion(path), tr("&Remove")))
         m_app.Recent().Remove(path);
 }
 
@@ -288,7 +288,7 @@ void MainWindow::ChangeOptions()
         return;
     dialog.Store();
     if (!CZNOptionsServer::GetObjectW()->WasStored())
-        GetPrompts().Tell(this, NotStored(QStringLiteral("What you chose")));
+        GetPrompts().Tell(this, NotStored(tr("What you chose")));
     FollowOptions();
 }
 
@@ -298,7 +298,7 @@ void MainWindow::ChangeAutosave()
     if (dialog.exec() != QDialog::Accepted)
         return;
     if (!dialog.Settings().Store())
-        GetPrompts().Tell(this, NotStored(QStringLiteral("The choice about autosave")));
+        GetPrompts().Tell(this, NotStored(tr("The choice about autosave")));
     for (const ScriptDoc* script : m_app.Scripts())
         dialog.Settings().ApplyTo(script->FirstView()->GetCoreEditorControlRef());
 }

@@ -62,6 +62,14 @@ struct MainWindow::Command
 
 namespace {
 
+// The menus, told apart by their addresses.
+constexpr const char* kFile = QT_TRANSLATE_NOOP("MainWindow", "&File");
+constexpr const char* kEdit = QT_TRANSLATE_NOOP("MainWindow", "&Edit");
+constexpr const char* kSearch = QT_TRANSLATE_NOOP("MainWindow", "Searc&h");
+constexpr const char* kView = QT_TRANSLATE_NOOP("MainWindow", "&View");
+constexpr const char* kTools = QT_TRANSLATE_NOOP("MainWindow", "&Tools");
+constexpr const char* kHelp = QT_TRANSLATE_NOOP("MainWindow", "Help");
+
 template <auto Member>
 void Run(MainWindow& window, bool checked)
 {
@@ -79,88 +87,88 @@ std::span<const MainWindow::Command> MainWindow::Commands()
     using W = MainWindow;
     // clang-format off
     static const Command commands[] = {
-        {"&File", "new",       "&New",          Key::New,          nullptr,        ID_FILE_NEW},
-        {"&File", "open",      "&Open...",      Key::Open,         nullptr,        ID_FILE_OPEN},
-        {"&File", "openAs",    "Open with &Encoding...", Key::UnknownKey, "Ctrl+Shift+O", command::OpenAs},
-        {"&File", nullptr},
-        {"&File", "openAtCaret", "Open a&t Caret", Key::UnknownKey, "F12",         54026},
-        {"&File", "save",      "&Save",         Key::Save,         nullptr,        ID_FILE_SAVE},
-        {"&File", "saveAs",    "Save &As...",   Key::SaveAs,       "Ctrl+Shift+S", ID_FILE_SAVE_AS},
-        {"&File", "saveAll",   "Save A&ll",     Key::UnknownKey,   "Ctrl+Alt+S",   command::SaveAll},
-        {"&File", "reload",    "Reloa&d",       Key::UnknownKey,   nullptr,        54008},
-        {"&File", "readOnlySwitch", "Read Onl&y", Key::UnknownKey, nullptr,        54010},
-        {"&File", nullptr},
-        {"&File", "print",     "&Print...",     Key::Print,        nullptr,        ID_FILE_PRINT},
-        {"&File", "printPreview", "Print Pre&view...", Key::UnknownKey, nullptr,   ID_FILE_PRINT_PREVIEW},
-        {"&File", "savePdf",   "Save as PD&F...", Key::UnknownKey, nullptr,        command::SavePdf},
-        {"&File", "saveHtml",  "Save as &HTML...", Key::UnknownKey, nullptr,       command::SaveHtml},
-        {"&File", nullptr},
-        {"&File", "close",     "&Close",        Key::Close,        "Ctrl+W",       ID_FILE_CLOSE},
-        {"&File", "reopenClosed", "Reopen Closed Ta&b", Key::UnknownKey, "Ctrl+Shift+T", 0, When::SomethingClosed, Run<&W::ReopenClosed>},
-        {"&File", "quit",      "&Quit",         Key::Quit,         "Ctrl+Q",       ID_APP_EXIT},
+        {kFile, "new",       QT_TR_NOOP("&New"),          Key::New,          nullptr,        ID_FILE_NEW},
+        {kFile, "open",      QT_TR_NOOP("&Open..."),      Key::Open,         nullptr,        ID_FILE_OPEN},
+        {kFile, "openAs",    QT_TR_NOOP("Open with &Encoding..."), Key::UnknownKey, "Ctrl+Shift+O", command::OpenAs},
+        {kFile, nullptr},
+        {kFile, "openAtCaret", QT_TR_NOOP("Open a&t Caret"), Key::UnknownKey, "F12",         54026},
+        {kFile, "save",      QT_TR_NOOP("&Save"),         Key::Save,         nullptr,        ID_FILE_SAVE},
+        {kFile, "saveAs",    QT_TR_NOOP("Save &As..."),   Key::SaveAs,       "Ctrl+Shift+S", ID_FILE_SAVE_AS},
+        {kFile, "saveAll",   QT_TR_NOOP("Save A&ll"),     Key::UnknownKey,   "Ctrl+Alt+S",   command::SaveAll},
+        {kFile, "reload",    QT_TR_NOOP("Reloa&d"),       Key::UnknownKey,   nullptr,        54008},
+        {kFile, "readOnlySwitch", QT_TR_NOOP("Read Onl&y"), Key::UnknownKey, nullptr,        54010},
+        {kFile, nullptr},
+        {kFile, "print",     QT_TR_NOOP("&Print..."),     Key::Print,        nullptr,        ID_FILE_PRINT},
+        {kFile, "printPreview", QT_TR_NOOP("Print Pre&view..."), Key::UnknownKey, nullptr,   ID_FILE_PRINT_PREVIEW},
+        {kFile, "savePdf",   QT_TR_NOOP("Save as PD&F..."), Key::UnknownKey, nullptr,        command::SavePdf},
+        {kFile, "saveHtml",  QT_TR_NOOP("Save as &HTML..."), Key::UnknownKey, nullptr,       command::SaveHtml},
+        {kFile, nullptr},
+        {kFile, "close",     QT_TR_NOOP("&Close"),        Key::Close,        "Ctrl+W",       ID_FILE_CLOSE},
+        {kFile, "reopenClosed", QT_TR_NOOP("Reopen Closed Ta&b"), Key::UnknownKey, "Ctrl+Shift+T", 0, When::SomethingClosed, Run<&W::ReopenClosed>},
+        {kFile, "quit",      QT_TR_NOOP("&Quit"),         Key::Quit,         "Ctrl+Q",       ID_APP_EXIT},
 
-        {"&Edit", "undo",      "&Undo",         Key::Undo,         nullptr,  57643},
-        {"&Edit", "redo",      "&Redo",         Key::Redo,         "Ctrl+Y", 57644},
-        {"&Edit", nullptr},
-        {"&Edit", "cut",       "Cu&t",          Key::Cut,          nullptr,  57635},
-        {"&Edit", "copy",      "&Copy",         Key::Copy,         nullptr,  57634},
-        {"&Edit", "copyWithColours", "Copy wit&h Colours", Key::UnknownKey, "Ctrl+Shift+C", command::CopyWithColours},
-        {"&Edit", "paste",     "&Paste",        Key::Paste,        nullptr,  57637},
-        {"&Edit", "delete",    "&Delete",       Key::Delete,       nullptr,  53899},
-        {"&Edit", nullptr},
-        {"&Edit", "selectAll", "Select &All",   Key::SelectAll,    nullptr,  57642},
-        {"&Edit", nullptr},
-        {"&Edit", "completeWord", "Complete Word", Key::UnknownKey, "Ctrl+Space",     53952},
-        {"&Edit", "showCall",  "Function Arguments", Key::UnknownKey, "Ctrl+Alt+Space", command::ShowCall},
-        {"&Edit", "insertTemplate", "Insert Template...", Key::UnknownKey, "Ctrl+Shift+J", command::InsertTemplate},
+        {kEdit, "undo",      QT_TR_NOOP("&Undo"),         Key::Undo,         nullptr,  57643},
+        {kEdit, "redo",      QT_TR_NOOP("&Redo"),         Key::Redo,         "Ctrl+Y", 57644},
+        {kEdit, nullptr},
+        {kEdit, "cut",       QT_TR_NOOP("Cu&t"),          Key::Cut,          nullptr,  57635},
+        {kEdit, "copy",      QT_TR_NOOP("&Copy"),         Key::Copy,         nullptr,  57634},
+        {kEdit, "copyWithColours", QT_TR_NOOP("Copy wit&h Colours"), Key::UnknownKey, "Ctrl+Shift+C", command::CopyWithColours},
+        {kEdit, "paste",     QT_TR_NOOP("&Paste"),        Key::Paste,        nullptr,  57637},
+        {kEdit, "delete",    QT_TR_NOOP("&Delete"),       Key::Delete,       nullptr,  53899},
+        {kEdit, nullptr},
+        {kEdit, "selectAll", QT_TR_NOOP("Select &All"),   Key::SelectAll,    nullptr,  57642},
+        {kEdit, nullptr},
+        {kEdit, "completeWord", QT_TR_NOOP("Complete Word"), Key::UnknownKey, "Ctrl+Space",     53952},
+        {kEdit, "showCall",  QT_TR_NOOP("Function Arguments"), Key::UnknownKey, "Ctrl+Alt+Space", command::ShowCall},
+        {kEdit, "insertTemplate", QT_TR_NOOP("Insert Template..."), Key::UnknownKey, "Ctrl+Shift+J", command::InsertTemplate},
 
-        {"Searc&h", "findDialog",     "Find with a &Dialog...",    Key::UnknownKey, "Ctrl+Alt+F", 53895},
-        {"Searc&h", "replaceDialog",  "&Replace with a Dialog...", Key::UnknownKey, "Ctrl+Alt+R", 53896},
-        {"Searc&h", "goToLine",       "&Go to Line...",            Key::UnknownKey, "Ctrl+G",     54049},
-        {"Searc&h", "goToSymbol",     "Go to S&ymbol...",          Key::UnknownKey, "Ctrl+Shift+G", 0, When::Script, Run<&W::GoToSymbol>},
-        {"Searc&h", nullptr},
-        {"Searc&h", "findInFiles",    "Find in &Files...", Key::UnknownKey, "Ctrl+Shift+F", 0, When::Always, Run<&W::FindInFiles>},
-        {"Searc&h", "nextResult",     "&Next Result",      Key::UnknownKey, "F4",           0, When::Always, Run<&W::NextResult>},
-        {"Searc&h", "previousResult", "&Previous Result",  Key::UnknownKey, "Shift+F4",     0, When::Always, Run<&W::PreviousResult>},
-        {"Searc&h", "stopSearch",     "&Stop Search",      Key::UnknownKey, nullptr,        0, When::Always, Run<&W::StopSearch>},
+        {kSearch, "findDialog",     QT_TR_NOOP("Find with a &Dialog..."),    Key::UnknownKey, "Ctrl+Alt+F", 53895},
+        {kSearch, "replaceDialog",  QT_TR_NOOP("&Replace with a Dialog..."), Key::UnknownKey, "Ctrl+Alt+R", 53896},
+        {kSearch, "goToLine",       QT_TR_NOOP("&Go to Line..."),            Key::UnknownKey, "Ctrl+G",     54049},
+        {kSearch, "goToSymbol",     QT_TR_NOOP("Go to S&ymbol..."),          Key::UnknownKey, "Ctrl+Shift+G", 0, When::Script, Run<&W::GoToSymbol>},
+        {kSearch, nullptr},
+        {kSearch, "findInFiles",    QT_TR_NOOP("Find in &Files..."), Key::UnknownKey, "Ctrl+Shift+F", 0, When::Always, Run<&W::FindInFiles>},
+        {kSearch, "nextResult",     QT_TR_NOOP("&Next Result"),      Key::UnknownKey, "F4",           0, When::Always, Run<&W::NextResult>},
+        {kSearch, "previousResult", QT_TR_NOOP("&Previous Result"),  Key::UnknownKey, "Shift+F4",     0, When::Always, Run<&W::PreviousResult>},
+        {kSearch, "stopSearch",     QT_TR_NOOP("&Stop Search"),      Key::UnknownKey, nullptr,        0, When::Always, Run<&W::StopSearch>},
 
-        {"&View", "zoomIn",    "Zoom &In",      Key::ZoomIn,       "Ctrl+=", 53962},
-        {"&View", "zoomOut",   "Zoom &Out",     Key::ZoomOut,      nullptr,  53963},
-        {"&View", "zoomReset", "&Reset Zoom",   Key::UnknownKey,   "Ctrl+0", 53964},
-        {"&View", nullptr},
-        {"&View", "whitespace", "&Whitespace",  Key::UnknownKey,   nullptr,  0, When::Always, Run<&W::ShowWhitespace>, true},
-        {"&View", "lineEnds",   "Line &Ends",   Key::UnknownKey,   nullptr,  0, When::Always, Run<&W::ShowLineEnds>,   true},
-        {"&View", "wrap",       "Wrap &Lines",  Key::UnknownKey,   nullptr,  0, When::Always, Run<&W::WrapLines>,      true},
-        {"&View", nullptr},
-        {"&View", "splitBelow",  "Split &Above and Below", Key::UnknownKey, "Ctrl+\\",       command::SplitBelow},
-        {"&View", "splitBeside", "Split Side &by Side",    Key::UnknownKey, "Ctrl+Shift+\\", command::SplitBeside},
-        {"&View", "otherPane",   "Ot&her Pane",            Key::UnknownKey, "F6",            command::OtherPane},
-        {"&View", "previousPane", "Previo&us Pane",        Key::UnknownKey, "Alt+F6", command::PreviousPane},
-        {"&View", "nextArea",    "&Next Area",             Key::UnknownKey, "Shift+F6",      0, When::Script, Run<&W::NextArea>},
-        {"&View", "newView",     "New &View",              Key::UnknownKey, nullptr,         ID_WINDOW_NEW},
-        {"&View", nullptr},
-        {"&View", "nextProblem", "Next Proble&m", Key::UnknownKey, "F8",   0, When::Script, Run<&W::NextProblem>},
-        {"&View", nullptr},
-        {"&View", "next",      "Ne&xt Script",     Key::NextChild,     "Ctrl+PgDown", 0, When::SeveralScripts, Run<&W::NextScript>},
-        {"&View", "previous",  "&Previous Script", Key::PreviousChild, "Ctrl+PgUp", 0, When::SeveralScripts, Run<&W::PreviousScript>},
+        {kView, "zoomIn",    QT_TR_NOOP("Zoom &In"),      Key::ZoomIn,       "Ctrl+=", 53962},
+        {kView, "zoomOut",   QT_TR_NOOP("Zoom &Out"),     Key::ZoomOut,      nullptr,  53963},
+        {kView, "zoomReset", QT_TR_NOOP("&Reset Zoom"),   Key::UnknownKey,   "Ctrl+0", 53964},
+        {kView, nullptr},
+        {kView, "whitespace", QT_TR_NOOP("&Whitespace"),  Key::UnknownKey,   nullptr,  0, When::Always, Run<&W::ShowWhitespace>, true},
+        {kView, "lineEnds",   QT_TR_NOOP("Line &Ends"),   Key::UnknownKey,   nullptr,  0, When::Always, Run<&W::ShowLineEnds>,   true},
+        {kView, "wrap",       QT_TR_NOOP("Wrap &Lines"),  Key::UnknownKey,   nullptr,  0, When::Always, Run<&W::WrapLines>,      true},
+        {kView, nullptr},
+        {kView, "splitBelow",  QT_TR_NOOP("Split &Above and Below"), Key::UnknownKey, "Ctrl+\\",       command::SplitBelow},
+        {kView, "splitBeside", QT_TR_NOOP("Split Side &by Side"),    Key::UnknownKey, "Ctrl+Shift+\\", command::SplitBeside},
+        {kView, "otherPane",   QT_TR_NOOP("Ot&her Pane"),            Key::UnknownKey, "F6",            command::OtherPane},
+        {kView, "previousPane", QT_TR_NOOP("Previo&us Pane"),        Key::UnknownKey, "Alt+F6", command::PreviousPane},
+        {kView, "nextArea",    QT_TR_NOOP("&Next Area"),             Key::UnknownKey, "Shift+F6",      0, When::Script, Run<&W::NextArea>},
+        {kView, "newView",     QT_TR_NOOP("New &View"),              Key::UnknownKey, nullptr,         ID_WINDOW_NEW},
+        {kView, nullptr},
+        {kView, "nextProblem", QT_TR_NOOP("Next Proble&m"), Key::UnknownKey, "F8",   0, When::Script, Run<&W::NextProblem>},
+        {kView, nullptr},
+        {kView, "next",      QT_TR_NOOP("Ne&xt Script"),     Key::NextChild,     "Ctrl+PgDown", 0, When::SeveralScripts, Run<&W::NextScript>},
+        {kView, "previous",  QT_TR_NOOP("&Previous Script"), Key::PreviousChild, "Ctrl+PgUp", 0, When::SeveralScripts, Run<&W::PreviousScript>},
 
-        {"&Tools", "expand",   "&Expanded Script", Key::UnknownKey, "F9",    0, When::Script, Run<&W::ExpandScript>},
-        {"&Tools", nullptr},
-        {"&Tools", "recordMacro", "&Record Macro",    Key::UnknownKey, "Ctrl+Shift+R", 53938},
-        {"&Tools", "playMacro", "Pla&y Macro",        Key::UnknownKey, "Ctrl+Shift+P", 53989},
-        {"&Tools", "repeatMacro", "Repea&t Macro...", Key::UnknownKey, nullptr,        53939},
-        {"&Tools", "saveMacro", "&Save Macro...",     Key::UnknownKey, nullptr,        53990},
-        {"&Tools", "loadMacro", "&Load Macro...",     Key::UnknownKey, nullptr,        53991},
-        {"&Tools", nullptr},
-        {"&Tools", "editTemplates", "Edit Te&mplates", Key::UnknownKey, nullptr,       53950},
-        {"&Tools", nullptr},
-        {"&Tools", "commands", "&Commands...",  Key::UnknownKey,   "Ctrl+Shift+A", 0, When::Always, Run<&W::ShowCommands>},
-        {"&Tools", "options",  "&Options...",   Key::Preferences,  "Ctrl+,", 0, When::Always, Run<&W::ChangeOptions>},
-        {"&Tools", "preferences", "Editor and Language &Preferences...", Key::UnknownKey, nullptr, command::Preferences},
-        {"&Tools", "autosave", "&Autosave...",  Key::UnknownKey,   nullptr,  0, When::Always, Run<&W::ChangeAutosave>},
+        {kTools, "expand",   QT_TR_NOOP("&Expanded Script"), Key::UnknownKey, "F9",    0, When::Script, Run<&W::ExpandScript>},
+        {kTools, nullptr},
+        {kTools, "recordMacro", QT_TR_NOOP("&Record Macro"),    Key::UnknownKey, "Ctrl+Shift+R", 53938},
+        {kTools, "playMacro", QT_TR_NOOP("Pla&y Macro"),        Key::UnknownKey, "Ctrl+Shift+P", 53989},
+        {kTools, "repeatMacro", QT_TR_NOOP("Repea&t Macro..."), Key::UnknownKey, nullptr,        53939},
+        {kTools, "saveMacro", QT_TR_NOOP("&Save Macro..."),     Key::UnknownKey, nullptr,        53990},
+        {kTools, "loadMacro", QT_TR_NOOP("&Load Macro..."),     Key::UnknownKey, nullptr,        53991},
+        {kTools, nullptr},
+        {kTools, "editTemplates", QT_TR_NOOP("Edit Te&mplates"), Key::UnknownKey, nullptr,       53950},
+        {kTools, nullptr},
+        {kTools, "commands", QT_TR_NOOP("&Commands..."),  Key::UnknownKey,   "Ctrl+Shift+A", 0, When::Always, Run<&W::ShowCommands>},
+        {kTools, "options",  QT_TR_NOOP("&Options..."),   Key::Preferences,  "Ctrl+,", 0, When::Always, Run<&W::ChangeOptions>},
+        {kTools, "preferences", QT_TR_NOOP("Editor and Language &Preferences..."), Key::UnknownKey, nullptr, command::Preferences},
+        {kTools, "autosave", QT_TR_NOOP("&Autosave..."),  Key::UnknownKey,   nullptr,  0, When::Always, Run<&W::ChangeAutosave>},
 
-        {"Help", "keys",      "&Keys",         Key::HelpContents, nullptr,  0, When::Always, Run<&W::ShowKeys>},
-        {"Help", "about",     "&About",     Key::UnknownKey,   nullptr,  0, When::Always, Run<&W::ShowAboutBox>},
+        {kHelp, "keys",      QT_TR_NOOP("&Keys"),         Key::HelpContents, nullptr,  0, When::Always, Run<&W::ShowKeys>},
+        {kHelp, "about",     QT_TR_NOOP("&About"),     Key::UnknownKey,   nullptr,  0, When::Always, Run<&W::ShowAboutBox>},
     };
     // clang-format on
     return commands;
@@ -168,7 +176,7 @@ std::span<const MainWindow::Command> MainWindow::Commands()
 
 QAction* MainWindow::AddCommand(const Command& command)
 {
-    auto* action = new QAction(QLatin1String(command.text), this);
+    auto* action = new QAction(tr(command.text), this);
     action->setObjectName(QLatin1String(command.name));
     QList<QKeySequence> keys = QKeySequence::keyBindings(command.keys);
     const QKeySequence more(QLatin1String(command.moreKeys));
@@ -196,19 +204,20 @@ void MainWindow::BuildMenus()
             [this](const QString& name) { m_app.ChooseScheme(name); });
     QMenu* menu = nullptr;
     QMenu* edit = nullptr;
+    const char* title = nullptr;
     QToolBar* bar = AddToolBar(*this);
     for (const Command& command : Commands()) {
-        const QString title = QLatin1String(command.menu);
-        if (!menu || menu->title() != title) {
-            if (title == QLatin1String("&Tools")) {
+        if (command.menu != title) {
+            title = command.menu;
+            if (title == kTools) {
                 menu->addAction(m_problems->toggleViewAction());
                 menu->addAction(m_outline->toggleViewAction());
                 menu->addAction(m_folder->toggleViewAction());
                 menu->addAction(bar->toggleViewAction());
                 menuBar()->addMenu(m_languages);
             }
-            menu = menuBar()->addMenu(title);
-            if (title == QLatin1String("&Edit"))
+            menu = menuBar()->addMenu(tr(title));
+            if (title == kEdit)
                 edit = menu;
         }
         if (command.name)
@@ -220,7 +229,7 @@ void MainWindow::BuildMenus()
         if (command.name && QLatin1String(command.name) == QLatin1String("wrap"))
             menu->addMenu(schemes);
     }
-    m_find->AddActions(*edit->addMenu(QStringLiteral("Fi&nd")));
+    m_find->AddActions(*edit->addMenu(tr("Fi&nd")));
     m_editing = new EditingMenu(*edit, [this] {
         const ScriptFrame* frame = CurrentFrame();
         return frame ? frame->View() : nullptr;

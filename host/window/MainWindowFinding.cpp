@@ -49,8 +49,8 @@ public:
         if (status.isFound && view.GetCoreEditorControl()->GetLength(1) < kLongText) {
             const int count = view.CountIncrementalMatches(kMost);
             if (count > 0)
-                text += count < kMost ? tr("   %1 matches").arg(count)
-                                      : tr("   %1 matches and more").arg(count);
+                text += count < kMost ? MainWindow::tr("   %n matches", nullptr, count)
+                                      : MainWindow::tr("   %n matches and more", nullptr, count);
         }
         m_bar->showMessage(text);
     }

@@ -130,14 +130,14 @@ bool MainWindow::PutSessionAside()
 {
     const QString path = Session::DefaultPath();
     const QString aside = Session::PutAside(path);
-    const QString text = QStringLiteral("What was open last cannot be read. ");
+    const QString text = tr("What was open last cannot be read. ");
     if (aside.isEmpty())
-        GetPrompts().Tell(this, text + QStringLiteral("It is not kept this time, so that “%1” "
-                                                      "stays as it is.")
+        GetPrompts().Tell(this, text + tr("It is not kept this time, so that “%1” "
+                                          "stays as it is.")
                                            .arg(QDir::toNativeSeparators(path)));
     else
-        GetPrompts().Tell(
-            this, text + QStringLiteral("It is in “%1” now.").arg(QDir::toNativeSeparators(aside)));
+        GetPrompts().Tell(this,
+                          text + tr("It is in “%1” now.").arg(QDir::toNativeSeparators(aside)));
     return !aside.isEmpty();
 }
 

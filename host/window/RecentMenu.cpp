@@ -7,7 +7,7 @@
 #include <QDir>
 
 RecentMenu::RecentMenu(RecentFiles& files, QWidget* parent)
-    : QMenu(QStringLiteral("&Recent Files"), parent), m_files(files)
+    : QMenu(tr("&Recent Files"), parent), m_files(files)
 {
     setObjectName(QStringLiteral("recentFiles"));
     setToolTipsVisible(true);
@@ -28,13 +28,13 @@ void RecentMenu::Fill()
                 [this, path = paths[i]] { Q_EMIT Chosen(path); });
     }
     if (paths.isEmpty()) {
-        addAction(QStringLiteral("No files yet"))->setEnabled(false);
+        addAction(tr("No files yet"))->setEnabled(false);
         return;
     }
     addSeparator();
-    addAction(QStringLiteral("&Clear List"), this, [this] {
+    addAction(tr("&Clear List"), this, [this] {
         if (!m_files.Clear())
-            GetPrompts().Tell(parentWidget(), QStringLiteral("The list could not be cleared: the "
-                                                             "settings cannot be written."));
+            GetPrompts().Tell(parentWidget(), tr("The list could not be cleared: the "
+                                                 "settings cannot be written."));
     });
 }

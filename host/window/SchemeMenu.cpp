@@ -5,23 +5,26 @@
 
 #include <QActionGroup>
 
-SchemeMenu::SchemeMenu(QWidget* parent) : QMenu(QStringLiteral("&Colours"), parent)
+SchemeMenu::SchemeMenu(QWidget* parent) : QMenu(tr("&Colours"), parent)
 {
     struct Text
     {
         const char* name;
-        const char16_t* text;
+        const char* text;
     };
     static constexpr Text kTexts[] = {
-        {"Desktop", u"As the &Desktop"},      {"Light", u"&Light"},       {"Dark", u"Da&rk"},
-        {"High Contrast", u"&High Contrast"}, {"Print", u"As on &Paper"},
+        {"Desktop", QT_TR_NOOP("As the &Desktop")},
+        {"Light", QT_TR_NOOP("&Light")},
+        {"Dark", QT_TR_NOOP("Da&rk")},
+        {"High Contrast", QT_TR_NOOP("&High Contrast")},
+        {"Print", QT_TR_NOOP("As on &Paper")},
     };
     auto* group = new QActionGroup(this);
     for (const QString& name : appearance::Names()) {
         QString text = name;
         for (const Text& known : kTexts) {
             if (name == QLatin1String(known.name))
-                text = QString::fromUtf16(known.text);
+                text = tr(known.text);
         }
         QAction* action = group->addAction(text);
         action->setObjectName(QStringLiteral("scheme") + QString(name).remove(u' '));

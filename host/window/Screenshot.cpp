@@ -8,11 +8,17 @@
 #include "platform/windows/Questions.h"
 
 #include <QApplication>
+#include <QCoreApplication>
 #include <QPixmap>
 
 #include <cstdio>
 
 namespace {
+
+struct Texts
+{
+    Q_DECLARE_TR_FUNCTIONS(Screenshot)
+};
 
 void Report(const QString& text)
 {
@@ -89,7 +95,7 @@ int TakeScreenshot(const QStringList& files, const QString& picture)
     window->show();
     QApplication::processEvents(); // lays out and paints
     if (!window->grab().save(picture)) {
-        Report(QStringLiteral("the picture “%1” cannot be written.").arg(picture));
+        Report(Texts::tr("the picture “%1” cannot be written.").arg(picture));
         result = 1;
     }
     return result;

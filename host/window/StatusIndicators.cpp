@@ -27,24 +27,23 @@ QString LanguageName(int language)
 } // namespace
 
 StatusIndicators::StatusIndicators(QStatusBar* bar)
-    : QObject(bar), m_bar(bar), m_recording(AddField("recording", QStringLiteral("REC"),
-                                                     QT_TR_NOOP("A macro is recorded; stop it"))),
-      m_readOnly(AddField("readOnly", QStringLiteral("Read-only"),
-                          QT_TR_NOOP("Whether the script can be changed"))),
-      m_modified(AddField("modified", QStringLiteral("Modified"), QT_TR_NOOP("Save"))),
-      m_caret(
-          AddField("caret", QStringLiteral("Line 99999, column 999"), QT_TR_NOOP("Go to a line"))),
+    : QObject(bar), m_bar(bar),
+      m_recording(AddField("recording", tr("REC"), QT_TR_NOOP("A macro is recorded; stop it"))),
+      m_readOnly(
+          AddField("readOnly", tr("Read-only"), QT_TR_NOOP("Whether the script can be changed"))),
+      m_modified(AddField("modified", tr("Modified"), QT_TR_NOOP("Save"))),
+      m_caret(AddField("caret", tr("Line %1, column %2").arg(99999).arg(999),
+                       QT_TR_NOOP("Go to a line"))),
       m_catalog(AddField("catalog", QStringLiteral("production_db"),
                          QT_TR_NOOP("The database in force at the caret"))),
       m_language(AddField("language", QStringLiteral("InterBase/Firebird"),
                           QT_TR_NOOP("The language of the script"))),
-      m_encoding(AddField("encoding", QStringLiteral("UTF-16 LE with mark"),
-                          QT_TR_NOOP("Open with another encoding"))),
+      m_encoding(
+          AddField("encoding", EncodingName(2, true), QT_TR_NOOP("Open with another encoding"))),
       m_lineEnds(AddField("lineEnds", QStringLiteral("CR LF"), QT_TR_NOOP("Convert line ends"))),
-      m_indentation(
-          AddField("indentation", QStringLiteral("Spaces: 8"), QT_TR_NOOP("Indentation"))),
+      m_indentation(AddField("indentation", tr("Spaces: %1").arg(8), QT_TR_NOOP("Indentation"))),
       m_zoom(AddField("zoom", QStringLiteral("100 %"), QT_TR_NOOP("Zoom"))),
-      m_overtype(AddField("overtype", QStringLiteral("OVR"), QT_TR_NOOP("Whether typing replaces")))
+      m_overtype(AddField("overtype", tr("OVR"), QT_TR_NOOP("Whether typing replaces")))
 {}
 
 // As wide as its widest text from the start, so that the fields beside it do not jump. A label
@@ -105,9 +104,9 @@ void StatusIndicators::Show(const ScriptFrame* frame)
     }
     const SaveTarget target = script->CurrentTarget();
     CZNCoreEditorControlEx& editor = frame->Editor();
-    Put(*m_recording, frame->View()->IsRecording() ? QStringLiteral("REC") : QString());
-    Put(*m_readOnly, script->IsReadOnly() ? QStringLiteral("Read-only") : QString());
-    Put(*m_modified, script->IsModified() ? QStringLiteral("Modified") : QString());
+    Put(*m_recording, frame->View()->IsRecording() ? tr("REC") : QString());
+    Put(*m_readOnly, script->IsReadOnly() ? tr("Read-only") : QString());
+    Put(*m_modified, script->IsModified() ? tr("Modified") : QString());
     Put(*m_caret, frame->View()->CaretText());
     Put(*m_catalog, frame->View()->Catalog());
     Put(*m_language, LanguageName(script->Language()));
@@ -115,5 +114,5 @@ void StatusIndicators::Show(const ScriptFrame* frame)
     Put(*m_lineEnds, LineEndText(script->LineEnds()->Kind(), editor.GetEOLMode(1)));
     Put(*m_indentation, IndentationText(editor));
     Put(*m_zoom, ZoomText(editor));
-    Put(*m_overtype, editor.GetOvertype(1) ? QStringLiteral("OVR") : QStringLiteral("INS"));
+    Put(*m_overtype, editor.GetOvertype(1) ? tr("OVR") : tr("INS"));
 }

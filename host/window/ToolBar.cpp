@@ -4,10 +4,16 @@
 #include "host/icons/Icons.h"
 
 #include <QAction>
+#include <QCoreApplication>
 #include <QMainWindow>
 #include <QToolBar>
 
 namespace {
+
+struct Texts
+{
+    Q_DECLARE_TR_FUNCTIONS(ToolBar)
+};
 
 constexpr const char* kTools[] = {
     "new",         "open",     "save",  "saveAll",     nullptr,  "undo",  "redo",
@@ -20,7 +26,7 @@ constexpr const char* kTools[] = {
 QToolBar* AddToolBar(QMainWindow& window)
 {
     constexpr int kIcon = 20; // pixels
-    auto* bar = window.addToolBar(QMainWindow::tr("Tool Bar"));
+    auto* bar = window.addToolBar(Texts::tr("Tool Bar"));
     bar->setObjectName(QStringLiteral("toolBar"));
     bar->setIconSize({kIcon, kIcon});
     bar->setMovable(false);

@@ -9,6 +9,11 @@
 
 namespace {
 
+struct Texts
+{
+    Q_DECLARE_TR_FUNCTIONS(WorkProgress)
+};
+
 constexpr qint64 kBetweenLooks = 50; // milliseconds from one look at the Stop button to the next
 
 } // namespace
@@ -34,7 +39,7 @@ bool WorkProgress::GoesOn(HWND owner, const QString& what, int hundredths)
         m_box = new QProgressDialog(owner ? owner->window() : nullptr);
         m_box->setObjectName(QStringLiteral("workProgress"));
         m_box->setWindowTitle(QStringLiteral("znworkbench"));
-        m_box->setCancelButtonText(QStringLiteral("&Stop"));
+        m_box->setCancelButtonText(Texts::tr("&Stop"));
         m_box->setWindowModality(Qt::WindowModal);
         m_box->setAutoClose(false);
         m_box->setAutoReset(false);

@@ -14,6 +14,7 @@
 #include "platform/docview/DocTemplate.h"
 #include "platform/windows/Disposal.h"
 
+#include <QCoreApplication>
 #include <QDir>
 #include <QFileInfo>
 
@@ -22,7 +23,18 @@
 
 namespace {
 
-const QString kStrings = QStringLiteral("znworkbench\nScript \nScript\nSQL scripts (*.sql)\n.sql");
+struct Texts
+{
+    Q_DECLARE_TR_FUNCTIONS(Workbench)
+};
+
+// Window, untitled, new, filter, ending.
+QString Strings()
+{
+    const QString script = Texts::tr("Script");
+    return QStringLiteral("znworkbench\n%1 \n%1\n%2\n.sql")
+        .arg(script, Texts::tr("SQL scripts (*.sql)"));
+}
 
 QWidget* WindowOf(const CWinApp& app)
 {
@@ -49,7 +61,7 @@ Workbench::Workbench(Keeps keeps)
 {
     if (m_keeps == Keeps::Places)
         appearance::SetCurrent(appearance::Load(places::SettingsPath()));
-    AddDocTemplate(std::make_unique<CMultiDocTemplate>(kStrings, ScriptDoc::GetThisClass(),
+    AddDocTemplate(std::make_unique<CMultiDocTemplate>(Strings(), ScriptDoc::GetThisClass(),
                                                        ScriptFrame::GetThisClass(),
                                                        ScriptView::GetThisClass()));
 }
@@ -90,7 +102,7 @@ ScriptDoc* Workbench::FindOpen(const QString& path) const
 bool Workbench::MayOpen(const QString& path)
 {
     if (!m_guard.IsSuspect(path) ||
-        GetPrompts().Confirm(WindowOf(*this), OpenAgainQuestion(path), QStringLiteral("&Open")))
+        GetPrompts().Confirm(WindowOf(*this), OpenAgainQuestion(path), Texts::tr("&Open")))
         return true;
     m_guard.Acquit(path);
     return false;

@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "control/FileResult.h"
 
+#include <QCoreApplication>
+
 #include <cerrno>
 
 namespace {
@@ -12,17 +14,24 @@ struct Row
 };
 
 constexpr Row kSentences[] = {
-    {FileProblem::NoEngine, "The editing engine could not be loaded."},
-    {FileProblem::Missing, "The file does not exist."},
-    {FileProblem::NoFile, "This is a folder or a device, not a file with a text."},
-    {FileProblem::NotReadable, "The file cannot be read. Check that you may read it."},
-    {FileProblem::TooLarge, "The file has more than 2 GB, which is more than can be edited."},
-    {FileProblem::CutShort, "Only the first part of the file could be read."},
-    {FileProblem::NoFolder, "The folder does not exist."},
-    {FileProblem::NotWritable, "You may not write there."},
-    {FileProblem::NoRoom, "The disk is full."},
-    {FileProblem::NotConverted, "The encoding cannot hold all of the text."},
-    {FileProblem::NotWritten, "The file could not be written."},
+    {FileProblem::NoEngine,
+     QT_TRANSLATE_NOOP("FileResult", "The editing engine could not be loaded.")},
+    {FileProblem::Missing, QT_TRANSLATE_NOOP("FileResult", "The file does not exist.")},
+    {FileProblem::NoFile,
+     QT_TRANSLATE_NOOP("FileResult", "This is a folder or a device, not a file with a text.")},
+    {FileProblem::NotReadable,
+     QT_TRANSLATE_NOOP("FileResult", "The file cannot be read. Check that you may read it.")},
+    {FileProblem::TooLarge,
+     QT_TRANSLATE_NOOP("FileResult",
+                       "The file has more than 2 GB, which is more than can be edited.")},
+    {FileProblem::CutShort,
+     QT_TRANSLATE_NOOP("FileResult", "Only the first part of the file could be read.")},
+    {FileProblem::NoFolder, QT_TRANSLATE_NOOP("FileResult", "The folder does not exist.")},
+    {FileProblem::NotWritable, QT_TRANSLATE_NOOP("FileResult", "You may not write there.")},
+    {FileProblem::NoRoom, QT_TRANSLATE_NOOP("FileResult", "The disk is full.")},
+    {FileProblem::NotConverted,
+     QT_TRANSLATE_NOOP("FileResult", "The encoding cannot hold all of the text.")},
+    {FileProblem::NotWritten, QT_TRANSLATE_NOOP("FileResult", "The file could not be written.")},
 };
 
 } // namespace
@@ -70,7 +79,7 @@ QString FileResult::Reason() const
 {
     for (const Row& row : kSentences) {
         if (row.problem == problem)
-            return QString::fromLatin1(row.sentence);
+            return QCoreApplication::translate("FileResult", row.sentence);
     }
     return QString();
 }

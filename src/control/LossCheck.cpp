@@ -6,11 +6,17 @@
 #include "encoding/FileEncodeConverter.h"
 
 #include <QChar>
+#include <QCoreApplication>
 
 #include <algorithm>
 #include <vector>
 
 namespace {
+
+struct Texts
+{
+    Q_DECLARE_TR_FUNCTIONS(LossCheck)
+};
 
 constexpr char16_t kSubstitute = u'?';
 
@@ -142,9 +148,9 @@ QString DescribeCharacter(char32_t character)
 QString LossQuestion(const QString& fileName, const QString& encodingName,
                      const LostCharacter& lost)
 {
-    return QStringLiteral("“%1” has characters that %2 does not have. The first is %3 in line %4, "
-                          "column %5. In the file they would become question marks. UTF-8 keeps "
-                          "every character.")
+    return Texts::tr("“%1” has characters that %2 does not have. The first is %3 in line %4, "
+                     "column %5. In the file they would become question marks. UTF-8 keeps "
+                     "every character.")
         .arg(fileName, encodingName, DescribeCharacter(lost.character), QString::number(lost.line),
              QString::number(lost.column));
 }

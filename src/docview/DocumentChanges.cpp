@@ -9,9 +9,15 @@
 #include "platform/windows/Questions.h"
 #include "settings/ConfigFile.h"
 
+#include <QCoreApplication>
 #include <QScopedValueRollback>
 
 namespace {
+
+struct Texts
+{
+    Q_DECLARE_TR_FUNCTIONS(CZNCoreEditorDoc)
+};
 
 HWND WindowOf(const CView* view)
 {
@@ -60,8 +66,8 @@ void CZNCoreEditorDoc::CheckLastAccessTime()
 void CZNCoreEditorDoc::OnFileGone()
 {
     m_lastAccessTime = 0;
-    const QString text = QStringLiteral("'%1'\nFile has been deleted outside of this application!\n"
-                                        "Do you want to close this Document?");
+    const QString text = Texts::tr("'%1'\nFile has been deleted outside of this application!\n"
+                                   "Do you want to close this Document?");
     if (!AskYesNo(WindowOf(GetFirstEditView()), text.arg(m_strPathName)))
         return;
     RemoveTempCopy(0);
@@ -73,9 +79,8 @@ void CZNCoreEditorDoc::OnFileGone()
 
 void CZNCoreEditorDoc::OnFileRewritten()
 {
-    const QString text =
-        QStringLiteral("'%1'\nFile has been modified outside of this application!\n"
-                       "Do you want to reload it?");
+    const QString text = Texts::tr("'%1'\nFile has been modified outside of this application!\n"
+                                   "Do you want to reload it?");
     if (CZNOptionsServer::GetObjectW()->GetInt(option::ReloadWithoutAsking) ||
         AskYesNo(WindowOf(GetFirstEditView()), text.arg(m_strPathName))) {
         ReloadFile();
@@ -109,7 +114,7 @@ void CZNCoreEditorDoc::OnFileReload()
 {
     if (m_strPathName.isEmpty())
         return;
-    const QString text = QStringLiteral("Do you want to reload '%1' ?");
+    const QString text = Texts::tr("Do you want to reload '%1' ?");
     if (AskYesNo(WindowOf(GetFirstEditView()), text.arg(m_strPathName)))
         ReloadFile();
 }

@@ -5,6 +5,17 @@
 #include "docview/ZNCoreEditorView.h"
 #include "platform/windows/Questions.h"
 
+#include <QCoreApplication>
+
+namespace {
+
+struct Texts
+{
+    Q_DECLARE_TR_FUNCTIONS(CZNCoreEditorDoc)
+};
+
+} // namespace
+
 // The attributes of a file that is gone read as all ones, so as read-only.
 void CZNCoreEditorDoc::OnFileReadonly()
 {
@@ -22,7 +33,7 @@ void CZNCoreEditorDoc::OnFileReadonly()
     if (bitOf(GetFileAttributesW(m_strPathName)) ==
         static_cast<std::uint32_t>(control.GetReadOnly(1)))
         return;
-    const QString text = QStringLiteral("Do you want to set the file '%1' to read only too?");
+    const QString text = Texts::tr("Do you want to set the file '%1' to read only too?");
     if (!AskYesNo(view->GetSafeHwnd(), text.arg(m_strPathName)))
         return;
     const std::uint32_t attributes = GetFileAttributesW(m_strPathName);

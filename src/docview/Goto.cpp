@@ -5,12 +5,18 @@
 #include "docview/ZNCoreEditorView.h"
 #include "editing/FindDialogs.h"
 
+#include <QCoreApplication>
 #include <QGridLayout>
 #include <QLabel>
 #include <QLineEdit>
 #include <QPushButton>
 
 namespace {
+
+struct Texts
+{
+    Q_DECLARE_TR_FUNCTIONS(Goto)
+};
 
 void AskForLine(HWND parent, int line, int lineCount)
 {
@@ -23,14 +29,14 @@ void AskForLine(HWND parent, int line, int lineCount)
 
 void CGoto::OnBuild(QWidget* window)
 {
-    window->setWindowTitle(QStringLiteral("Goto"));
+    window->setWindowTitle(Texts::tr("Goto"));
     auto* grid = new QGridLayout(window);
     auto* line = AddControl(kLine, new QLineEdit);
-    auto* label = new QLabel(QStringLiteral("Goto Line :"));
+    auto* label = new QLabel(Texts::tr("Goto Line :"));
     label->setBuddy(line);
-    line->setAccessibleName(QStringLiteral("Goto Line"));
+    line->setAccessibleName(Texts::tr("Goto Line"));
     auto* range = AddControl(kRange, new QLabel);
-    auto* go = AddControl(IDOK, new QPushButton(QStringLiteral("&Go")));
+    auto* go = AddControl(IDOK, new QPushButton(Texts::tr("&Go")));
     go->setDefault(true);
     grid->addWidget(label, 0, 0);
     grid->addWidget(line, 0, 1);
@@ -38,7 +44,7 @@ void CGoto::OnBuild(QWidget* window)
     auto* buttons = new QHBoxLayout;
     buttons->addStretch();
     buttons->addWidget(go);
-    buttons->addWidget(AddControl(IDCANCEL, new QPushButton(QStringLiteral("&Cancel"))));
+    buttons->addWidget(AddControl(IDCANCEL, new QPushButton(Texts::tr("&Cancel"))));
     grid->addLayout(buttons, 1, 0, 1, 3);
 }
 

@@ -6,10 +6,16 @@
 #include "platform/base/Units.h"
 
 #include <QApplication>
+#include <QCoreApplication>
 
 #include <utility>
 
 namespace {
+
+struct Texts
+{
+    Q_DECLARE_TR_FUNCTIONS(CZNCoreEditorView)
+};
 
 constexpr UINT kBackspace = 8;
 constexpr UINT kEnter = 13;
@@ -168,10 +174,9 @@ void CZNCoreEditorView::UpdateStatusMessage()
         s_incrementalStatusShown = false;
         return;
     }
-    const QString format = !m_incrementalFound ? QStringLiteral("Incremental search failed: %1|")
-                           : m_incrementalForward
-                               ? QStringLiteral("Incremental search: %1|")
-                               : QStringLiteral("Incremental search reverse: %1|");
+    const QString format = !m_incrementalFound    ? Texts::tr("Incremental search failed: %1|")
+                           : m_incrementalForward ? Texts::tr("Incremental search: %1|")
+                                                  : Texts::tr("Incremental search reverse: %1|");
     const QString message = format.arg(m_searchText);
     const qsizetype bar = message.indexOf(u'|');
     s_incrementalStatusShown = true;

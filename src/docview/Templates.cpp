@@ -5,10 +5,17 @@
 #include "docview/text/CodeWords.h"
 #include "platform/base/Units.h"
 
+#include <QCoreApplication>
+
 #include <algorithm>
 #include <array>
 
 namespace {
+
+struct Texts
+{
+    Q_DECLARE_TR_FUNCTIONS(CZNCoreEditorView)
+};
 
 constexpr int kLineUnits = 1000; // of the line in front of the caret, for the indent
 constexpr QLatin1String kCaretMarker("^!");
@@ -80,7 +87,7 @@ QString CZNCoreEditorView::GetInputValues(const char16_t* text)
         case codewords::PromptSearch::Found:
             break;
         }
-        CInputBox box(prompt.text, QString(), 1, QStringLiteral("Enter Input Param"), this);
+        CInputBox box(prompt.text, QString(), 1, Texts::tr("Enter Input Param"), this);
         if (box.DoModal() != IDOK)
             return {};
         line.replace(prompt.start, prompt.length, box.m_value);

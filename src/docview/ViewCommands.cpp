@@ -7,7 +7,14 @@
 #include "editing/language/Library.h"
 #include "settings/SyntaxFile.h"
 
+#include <QCoreApplication>
+
 namespace {
+
+struct Texts
+{
+    Q_DECLARE_TR_FUNCTIONS(CZNCoreEditorView)
+};
 
 using View = CZNCoreEditorView;
 using Control = CZNCoreEditorControlEx;
@@ -185,13 +192,13 @@ void CZNCoreEditorView::OnUpdateEOLMode(CCmdUI& ui)
 {
     switch (m_coreEditor.GetEOLMode(1)) {
     case 1:
-        return ui.SetText(QStringLiteral("CR + LF (Windows)"));
+        return ui.SetText(Texts::tr("CR + LF (Windows)"));
     case 2:
-        return ui.SetText(QStringLiteral("CR (Macintosh)"));
+        return ui.SetText(Texts::tr("CR (Macintosh)"));
     case 3:
-        return ui.SetText(QStringLiteral("LF (Unix)"));
+        return ui.SetText(Texts::tr("LF (Unix)"));
     default:
-        return ui.SetText(QStringLiteral("Unknown"));
+        return ui.SetText(Texts::tr("Unknown"));
     }
 }
 
@@ -208,6 +215,6 @@ void CZNCoreEditorView::OnUpdateLineCol(CCmdUI& ui)
 {
     const int line = m_coreEditor.GetCurLineNumber() + 1;
     const int column = m_coreEditor.GetColumn(m_coreEditor.GetCurrentPos(1), 1) + 1;
-    ui.SetText(QStringLiteral("Ln %1, Col %2").arg(line).arg(column));
+    ui.SetText(Texts::tr("Ln %1, Col %2").arg(line).arg(column));
     ui.Enable(true);
 }

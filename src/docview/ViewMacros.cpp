@@ -5,6 +5,17 @@
 #include "docview/dialogs/InputBox.h"
 #include "editing/operations/Macro.h"
 
+#include <QCoreApplication>
+
+namespace {
+
+struct Texts
+{
+    Q_DECLARE_TR_FUNCTIONS(CZNCoreEditorView)
+};
+
+} // namespace
+
 int CZNCoreEditorView::IsRecording() const
 {
     return IsMacroRecording();
@@ -38,8 +49,8 @@ void CZNCoreEditorView::OnToolsRepeatcommand()
 {
     if (!GetMacroHead())
         return;
-    CInputBox box(QStringLiteral("Enter no of times to repeat"), QString(), 0,
-                  QStringLiteral("Repeat Macro"), nullptr);
+    CInputBox box(Texts::tr("Enter no of times to repeat"), QString(), 0, Texts::tr("Repeat Macro"),
+                  nullptr);
     if (box.DoModal() == IDOK)
         PlayMacro(m_textUtil.TextToInt(box.m_value));
 }
@@ -56,8 +67,8 @@ void CZNCoreEditorView::PlayMacro(int times)
 
 void CZNCoreEditorView::OnUpdateToolsRecordmacro(CCmdUI& ui)
 {
-    ui.SetText(IsMacroRecording() ? QStringLiteral("Stop Record\tCtrl+Shift+R")
-                                  : QStringLiteral("Record Macro\tCtrl+Shift+R"));
+    ui.SetText(IsMacroRecording() ? Texts::tr("Stop Record\tCtrl+Shift+R")
+                                  : Texts::tr("Record Macro\tCtrl+Shift+R"));
 }
 
 void CZNCoreEditorView::OnUpdateToolsPlayrecording(CCmdUI& ui)

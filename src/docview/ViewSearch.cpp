@@ -8,7 +8,14 @@
 #include "platform/windows/Questions.h"
 #include "search/FindReplaceManager.h"
 
+#include <QCoreApplication>
+
 namespace {
+
+struct Texts
+{
+    Q_DECLARE_TR_FUNCTIONS(CZNCoreEditorView)
+};
 
 CFindReplaceManager& Manager()
 {
@@ -28,7 +35,7 @@ void SayNoDialog(HWND owner, UINT text)
 void CZNCoreEditorView::SayNotFound()
 {
     ShowMessage(GetSafeHwnd(),
-                QStringLiteral("Could not find the string '%1'.").arg(Manager().GetFind()),
+                Texts::tr("Could not find the string '%1'.").arg(Manager().GetFind()),
                 MessageKind::Plain);
     SetFocus();
 }
@@ -74,8 +81,8 @@ void CZNCoreEditorView::OnSearchFindnext()
     const bool isPast = manager.GetDown() ? found < caret : found > caret;
     if (isPast) {
         ShowMessage(GetSafeHwnd(),
-                    manager.GetDown() ? QStringLiteral("Passed the end of the document")
-                                      : QStringLiteral("Passed the start of the document"),
+                    manager.GetDown() ? Texts::tr("Passed the end of the document")
+                                      : Texts::tr("Passed the start of the document"),
                     MessageKind::Information);
         SetFocus();
     }

@@ -4,7 +4,14 @@
 
 #include "docview/ZNCoreEditorDoc.h"
 
+#include <QCoreApplication>
+
 namespace {
+
+struct Texts
+{
+    Q_DECLARE_TR_FUNCTIONS(CZNCoreEditorView)
+};
 
 constexpr int kCrLf = 1;
 constexpr int kCr = 2;
@@ -18,7 +25,7 @@ constexpr int kFoldMarginWidth = 16;
 // The item says what choosing it does.
 void ShowOrHide(CCmdUI& ui, bool isShown, const char* what)
 {
-    ui.SetText(QLatin1String(isShown ? "Hide " : "Show ") + QLatin1String(what));
+    ui.SetText((isShown ? Texts::tr("Hide %1") : Texts::tr("Show %1")).arg(Texts::tr(what)));
     ui.SetCheck(isShown ? 1 : 0);
 }
 
@@ -117,7 +124,8 @@ void CZNCoreEditorView::OnLineNumbers()
 
 void CZNCoreEditorView::OnUpdateLineNumbers(CCmdUI& ui)
 {
-    ShowOrHide(ui, m_coreEditor.IsVisibleLineNumber(), "LineNumbers");
+    ShowOrHide(ui, m_coreEditor.IsVisibleLineNumber(),
+               QT_TRANSLATE_NOOP("CZNCoreEditorView", "LineNumbers"));
 }
 
 void CZNCoreEditorView::ToggleMargin(int margin, int width)
@@ -133,7 +141,8 @@ void CZNCoreEditorView::OnBookmarkMargin()
 
 void CZNCoreEditorView::OnUpdateBookmarkMargin(CCmdUI& ui)
 {
-    ShowOrHide(ui, m_coreEditor.GetMarginWidthN(kBookmarkMargin, 1) != 0, "Bookmark Margin");
+    ShowOrHide(ui, m_coreEditor.GetMarginWidthN(kBookmarkMargin, 1) != 0,
+               QT_TRANSLATE_NOOP("CZNCoreEditorView", "Bookmark Margin"));
 }
 
 void CZNCoreEditorView::OnFoldMargin()
@@ -143,7 +152,8 @@ void CZNCoreEditorView::OnFoldMargin()
 
 void CZNCoreEditorView::OnUpdateFoldMargin(CCmdUI& ui)
 {
-    ShowOrHide(ui, m_coreEditor.GetMarginWidthN(kFoldMargin, 1) != 0, "Fold Margin");
+    ShowOrHide(ui, m_coreEditor.GetMarginWidthN(kFoldMargin, 1) != 0,
+               QT_TRANSLATE_NOOP("CZNCoreEditorView", "Fold Margin"));
 }
 
 void CZNCoreEditorView::OnViewWhitespace()
@@ -153,7 +163,8 @@ void CZNCoreEditorView::OnViewWhitespace()
 
 void CZNCoreEditorView::OnUpdateViewWhitespace(CCmdUI& ui)
 {
-    ShowOrHide(ui, m_coreEditor.GetViewWS(1) != 0, "Whitespace");
+    ShowOrHide(ui, m_coreEditor.GetViewWS(1) != 0,
+               QT_TRANSLATE_NOOP("CZNCoreEditorView", "Whitespace"));
 }
 
 void CZNCoreEditorView::OnViewEOL()
@@ -163,5 +174,5 @@ void CZNCoreEditorView::OnViewEOL()
 
 void CZNCoreEditorView::OnUpdateViewEOL(CCmdUI& ui)
 {
-    ShowOrHide(ui, m_coreEditor.GetViewEOL(1), "EOL");
+    ShowOrHide(ui, m_coreEditor.GetViewEOL(1), QT_TRANSLATE_NOOP("CZNCoreEditorView", "EOL"));
 }

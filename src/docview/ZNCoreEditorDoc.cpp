@@ -8,13 +8,24 @@
 #include "platform/docview/CommandIds.h"
 #include "platform/docview/DocTemplate.h"
 
+#include <QCoreApplication>
+
 #include <algorithm>
 #include <ctime>
 
 namespace {
 
-const QString kReadOnlyMark = QStringLiteral(" (Read Only)");
+struct Texts
+{
+    Q_DECLARE_TR_FUNCTIONS(CZNCoreEditorDoc)
+};
+
 const QString kModifiedMark = QStringLiteral(" *");
+
+QString ReadOnlyMark()
+{
+    return Texts::tr(" (Read Only)");
+}
 
 constexpr std::intptr_t kLanguageHint = 1;
 
@@ -185,8 +196,8 @@ void CZNCoreEditorDoc::SetTitle(const QString& title)
     QString text = title.isEmpty() ? m_strPathName : title;
     CZNCoreEditorView* view = GetFirstEditView();
     if (view && !m_strPathName.isEmpty() && view->GetCoreEditorControl()->GetReadOnly(1) &&
-        !text.endsWith(kReadOnlyMark))
-        text += kReadOnlyMark;
+        !text.endsWith(ReadOnlyMark()))
+        text += ReadOnlyMark();
     CDocument::SetTitle(text);
 }
 

@@ -7,7 +7,14 @@
 #include "platform/windows/Questions.h"
 #include "platform/windows/Window.h"
 
+#include <QCoreApplication>
+
 namespace {
+
+struct Texts
+{
+    Q_DECLARE_TR_FUNCTIONS(CZNCoreEditorControlEx)
+};
 
 using Self = CZNCoreEditorControlEx;
 
@@ -45,8 +52,12 @@ constexpr UpdateEntry kUpdates[] = {
 #include "editing/ControlCommands.def"
 };
 
-constexpr const char* kScriptFilters =
-    "Scripts (*.sql);;DDL Files (*.ddl);;Queries (*.qry);;Text Files (*.txt);;All Files (*)";
+QString ScriptFilters()
+{
+    return Texts::tr("Scripts (*.sql);;DDL Files (*.ddl);;Queries (*.qry);;Text Files (*.txt);;"
+                     "All Files (*)");
+}
+
 constexpr int kLargestZoom = 20;
 constexpr int kSmallestZoom = -10;
 
@@ -107,7 +118,7 @@ void CZNCoreEditorControlEx::OnEditRedo()
 
 void CZNCoreEditorControlEx::OnEditInsertFile()
 {
-    const QString path = AskOpenFile(GetSafeHwnd(), QLatin1String(kScriptFilters));
+    const QString path = AskOpenFile(GetSafeHwnd(), ScriptFilters());
     if (!path.isEmpty())
         InsertFile(Units(path), FileEncodeConverter::encUnknown);
 }
@@ -133,7 +144,7 @@ void CZNCoreEditorControlEx::OnViewZoomlevelZoomout()
 void CZNCoreEditorControlEx::OnUpdateLineNumbers(CCmdUI& ui)
 {
     const bool shown = IsVisibleLineNumber();
-    ui.SetText(shown ? QStringLiteral("Hide LineNumbers") : QStringLiteral("Show LineNumbers"));
+    ui.SetText(shown ? Texts::tr("Hide LineNumbers") : Texts::tr("Show LineNumbers"));
     ui.SetCheck(shown ? 1 : 0);
 }
 

@@ -7,6 +7,7 @@
 #include "editing/ZNCoreEditorControlEx.h"
 #include "platform/windows/ActionUI.h"
 
+#include <QCoreApplication>
 #include <QCursor>
 #include <QMenu>
 
@@ -24,46 +25,51 @@ struct MenuRow
 
 constexpr const char* kSeparator = "";
 
+QString Text(const MenuRow& row)
+{
+    return QCoreApplication::translate("ContextMenu", row.text);
+}
+
 constexpr MenuRow kReadOnlyMenu[] = {
-    {"&Copy\tCtrl+C", 57634},
-    {"&Select All\tCtrl+A", 57642},
+    {QT_TRANSLATE_NOOP("ContextMenu", "&Copy\tCtrl+C"), 57634},
+    {QT_TRANSLATE_NOOP("ContextMenu", "&Select All\tCtrl+A"), 57642},
     {kSeparator},
-    {"Match To&ken\tCtrl+]", 54040},
-    {"Line Numbers", 54036},
+    {QT_TRANSLATE_NOOP("ContextMenu", "Match To&ken\tCtrl+]"), 54040},
+    {QT_TRANSLATE_NOOP("ContextMenu", "Line Numbers"), 54036},
     {kSeparator},
-    {"&Find...", 57636},
-    {"Repeat Last Find", 57640},
+    {QT_TRANSLATE_NOOP("ContextMenu", "&Find..."), 57636},
+    {QT_TRANSLATE_NOOP("ContextMenu", "Repeat Last Find"), 57640},
 };
 
 constexpr MenuRow kWritableMenu[] = {
-    {"&Undo\tCtrl+Z", 57643},
-    {"&Redo\tCtrl+Y", 57644},
+    {QT_TRANSLATE_NOOP("ContextMenu", "&Undo\tCtrl+Z"), 57643},
+    {QT_TRANSLATE_NOOP("ContextMenu", "&Redo\tCtrl+Y"), 57644},
     {kSeparator},
-    {"Cu&t\tCtrl+X", 57635},
-    {"&Copy\tCtrl+C", 57634},
-    {"&Paste\tCtrl+V", 57637},
-    {"&Delete\tDel", 57632},
-    {"&Select All\tCtrl+A", 57642},
-    {"Insert File...", 54038},
+    {QT_TRANSLATE_NOOP("ContextMenu", "Cu&t\tCtrl+X"), 57635},
+    {QT_TRANSLATE_NOOP("ContextMenu", "&Copy\tCtrl+C"), 57634},
+    {QT_TRANSLATE_NOOP("ContextMenu", "&Paste\tCtrl+V"), 57637},
+    {QT_TRANSLATE_NOOP("ContextMenu", "&Delete\tDel"), 57632},
+    {QT_TRANSLATE_NOOP("ContextMenu", "&Select All\tCtrl+A"), 57642},
+    {QT_TRANSLATE_NOOP("ContextMenu", "Insert File..."), 54038},
     {kSeparator},
-    {"Line Endings"},
-    {"Windows (CR+LF)", 54071},
-    {"Unix (LF)", 54072},
-    {"Mac (CR)", 54073},
+    {QT_TRANSLATE_NOOP("ContextMenu", "Line Endings")},
+    {QT_TRANSLATE_NOOP("ContextMenu", "Windows (CR+LF)"), 54071},
+    {QT_TRANSLATE_NOOP("ContextMenu", "Unix (LF)"), 54072},
+    {QT_TRANSLATE_NOOP("ContextMenu", "Mac (CR)"), 54073},
     {},
     {kSeparator},
-    {"Co&mment Out", 54037},
-    {"U&ndo Comment Out", 54041},
-    {"Upper C&ase", 54042},
-    {"&Lower Case", 54039},
-    {"&Indent", 54034},
-    {"&Outdent", 54035},
-    {"Match To&ken\tCtrl+]", 54040},
-    {"Line Numbers", 54036},
+    {QT_TRANSLATE_NOOP("ContextMenu", "Co&mment Out"), 54037},
+    {QT_TRANSLATE_NOOP("ContextMenu", "U&ndo Comment Out"), 54041},
+    {QT_TRANSLATE_NOOP("ContextMenu", "Upper C&ase"), 54042},
+    {QT_TRANSLATE_NOOP("ContextMenu", "&Lower Case"), 54039},
+    {QT_TRANSLATE_NOOP("ContextMenu", "&Indent"), 54034},
+    {QT_TRANSLATE_NOOP("ContextMenu", "&Outdent"), 54035},
+    {QT_TRANSLATE_NOOP("ContextMenu", "Match To&ken\tCtrl+]"), 54040},
+    {QT_TRANSLATE_NOOP("ContextMenu", "Line Numbers"), 54036},
     {kSeparator},
-    {"&Find...", 57636},
-    {"Repeat Last Find", 57640},
-    {"R&eplace...", 57641},
+    {QT_TRANSLATE_NOOP("ContextMenu", "&Find..."), 57636},
+    {QT_TRANSLATE_NOOP("ContextMenu", "Repeat Last Find"), 57640},
+    {QT_TRANSLATE_NOOP("ContextMenu", "R&eplace..."), 57641},
     {kSeparator},
     {kSeparator},
 };
@@ -120,9 +126,9 @@ std::unique_ptr<QMenu> MakeContextMenu(bool isWritable, HWND owner)
         else if (!*row.text)
             into->addSeparator();
         else if (row.id == 0)
-            into = menu->addMenu(QLatin1String(row.text));
+            into = menu->addMenu(Text(row));
         else
-            SetCommand(*into->addAction(QLatin1String(row.text)), row.id, owner);
+            SetCommand(*into->addAction(Text(row)), row.id, owner);
     }
     return menu;
 }

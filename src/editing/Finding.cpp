@@ -7,7 +7,14 @@
 #include "platform/windows/Questions.h"
 #include "search/FindReplaceManager.h"
 
+#include <QCoreApplication>
+
 namespace {
+
+struct Texts
+{
+    Q_DECLARE_TR_FUNCTIONS(CZNCoreEditorControlEx)
+};
 
 constexpr int kNoFindDialog = 28174;
 constexpr int kNoReplaceDialog = 28175;
@@ -58,10 +65,9 @@ void CZNCoreEditorControlEx::OnRepeatFind()
     const int found = manager.FindNext(this);
     if (found < 0)
         ShowMessage(GetSafeHwnd(),
-                    QStringLiteral("Could not find the string '%1'.").arg(manager.GetFind()));
+                    Texts::tr("Could not find the string '%1'.").arg(manager.GetFind()));
     else if (found < caret)
-        ShowMessage(GetSafeHwnd(),
-                    QStringLiteral("Search has finished searching the whole document"));
+        ShowMessage(GetSafeHwnd(), Texts::tr("Search has finished searching the whole document"));
     else
         SelectionFromTarget();
 }

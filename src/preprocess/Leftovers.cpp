@@ -7,12 +7,18 @@
 #include "preprocess/language/Directives.h"
 #include "preprocess/language/SourceMap.h"
 
+#include <QCoreApplication>
 #include <QHash>
 #include <QSet>
 
 #include <algorithm>
 
 namespace {
+
+struct Texts
+{
+    Q_DECLARE_TR_FUNCTIONS(Leftovers)
+};
 
 constexpr UINT kDefineWord = 28168;
 const QString kSigil = QStringLiteral("&&");
@@ -85,15 +91,14 @@ void Search::LookAtDefinition(qsizetype at, const QString& line)
     const QString shown = line.left(comment < 0 ? line.size() : comment).trimmed();
     if (!shown.contains(kSigil)) {
         Add(at, shown.size(),
-            QStringLiteral("This defines nothing: the name of a variable begins with &&."));
+            Texts::tr("This defines nothing: the name of a variable begins with &&."));
         return;
     }
     const auto definition =
         directive::ReadDefinition(line.left(comment < 0 ? line.size() : comment), m_word);
     if (!definition) {
         Add(at, shown.size(),
-            QStringLiteral(
-                "This is not of the form %1 &&NAME VALUE, and nothing below is replaced.")
+            Texts::tr("This is not of the form %1 &&NAME VALUE, and nothing below is replaced.")
                 .arg(m_word));
         m_end = std::min(m_end, at);
         return;
@@ -108,9 +113,9 @@ QString Search::WhyWaiting(const directive::Definition& definition) const
     const auto reference = directive::FirstReference(definition.value);
     const auto isPlain = [](QChar unit) { return directive::IsNameCharacter(unit.unicode()); };
     if (reference && std::ranges::all_of(reference->name.mid(kSigil.size()), isPlain))
-        return QStringLiteral("%1 is not defined: its value needs %2, which has none.")
+        return Texts::tr("%1 is not defined: its value needs %2, which has none.")
             .arg(definition.name, reference->name);
-    return QStringLiteral("%1 is not defined: in its value nothing may follow a variable.")
+    return Texts::tr("%1 is not defined: in its value nothing may follow a variable.")
         .arg(definition.name);
 }
 
@@ -133,9 +138,8 @@ void Search::LookAtUse(qsizetype at, const QString& name)
     const qsizetype defined = m_defined.value(name, -1);
     Add(at, name.size(),
         first < defined
-            ? QStringLiteral("%1 is used above its definition, which then does not count.")
-                  .arg(name)
-            : QStringLiteral("Nothing defines %1.").arg(name));
+            ? Texts::tr("%1 is used above its definition, which then does not count.").arg(name)
+            : Texts::tr("Nothing defines %1.").arg(name));
 }
 
 QString Search::WordAt(qsizetype at) const

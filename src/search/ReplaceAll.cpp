@@ -5,11 +5,18 @@
 #include "platform/services/LongWork.h"
 #include "search/FindReplaceManager.h"
 
+#include <QCoreApplication>
+
 #include <algorithm>
 #include <cstdlib>
 #include <string_view>
 
 namespace {
+
+struct Texts
+{
+    Q_DECLARE_TR_FUNCTIONS(ReplaceAll)
+};
 
 // The engine's analysis rests, and one undo takes all back.
 class BulkChange
@@ -167,7 +174,7 @@ int CFindReplaceManager::ReplaceInRange(CZNCoreEditorControl& control, int start
                                         bool inSelection)
 {
     const BulkChange bulk(control);
-    LongWork work(control.GetSafeHwnd(), QStringLiteral("Replacing"));
+    LongWork work(control.GetSafeHwnd(), Texts::tr("Replacing"));
     const QString text = ReplacementText();
     const bool isForward = start < end;
     const bool isNothing = start == end;

@@ -3,6 +3,7 @@
 
 #include "platform/windows/Questions.h"
 
+#include <QCoreApplication>
 #include <QDialogButtonBox>
 #include <QLabel>
 #include <QLineEdit>
@@ -10,6 +11,11 @@
 #include <QVBoxLayout>
 
 namespace {
+
+struct Texts
+{
+    Q_DECLARE_TR_FUNCTIONS(InputBox)
+};
 
 constexpr int kWidestPrompt = 60; // characters, before it is broken into lines
 
@@ -22,7 +28,7 @@ CInputBox::CInputBox(const QString& prompt, const QString& value, int allowEmpty
 
 void CInputBox::OnBuild(QWidget* window)
 {
-    window->setWindowTitle(m_title.isEmpty() ? QStringLiteral("Input") : m_title);
+    window->setWindowTitle(m_title.isEmpty() ? Texts::tr("Input") : m_title);
     auto* layout = new QVBoxLayout(window);
     auto* prompt = AddControl(kPrompt, new QLabel(m_prompt, window));
     prompt->setTextFormat(Qt::PlainText);
@@ -56,7 +62,7 @@ void CInputBox::OnOK()
 {
     UpdateData();
     if (!m_allowEmpty && m_value.isEmpty()) {
-        ShowMessage(GetSafeHwnd(), m_prompt + QStringLiteral(" Cannot be empty"));
+        ShowMessage(GetSafeHwnd(), m_prompt + Texts::tr(" Cannot be empty"));
         GetDlgItem(kValue)->setFocus();
         return;
     }

@@ -10,6 +10,7 @@
 #include "editing/export/RtfClipboard.h"
 #include "platform/windows/Questions.h"
 
+#include <QCoreApplication>
 #include <QDir>
 #include <QFile>
 #include <QUuid>
@@ -18,6 +19,11 @@
 #include <cstring>
 
 namespace {
+
+struct Texts
+{
+    Q_DECLARE_TR_FUNCTIONS(CZNCoreEditorControlEx)
+};
 
 constexpr int kControls = 6;               // of a style
 constexpr std::size_t kControlBytes = 128; // with the terminator
@@ -47,7 +53,7 @@ void CZNCoreEditorControlEx::SaveToPDF(const char16_t* path)
     const QString name(reinterpret_cast<const QChar*>(path));
     std::FILE* file = std::fopen(QFile::encodeName(name).constData(), "wb");
     if (!file) {
-        ShowMessage(GetSafeHwnd(), QStringLiteral("Could not save as PDF"));
+        ShowMessage(GetSafeHwnd(), Texts::tr("Could not save as PDF"));
         return;
     }
     PdfObjectTracker tracker(file);

@@ -62,17 +62,18 @@ constexpr const char* kMenu[] = {"undo",      "redo",  nullptr,         "cut",
 void ZNCoreEditorWidget::Private::MakeCommands()
 {
     const HWND window = m_control->GetSafeHwnd();
-    const auto add = [&](const char* name, const char* text, UINT number, const QKeySequence& key) {
-        auto* action = new QAction(QCoreApplication::translate("ZNCoreEditorWidget", text), &q);
+    const auto add = [&](const char* name, const QString& text, UINT number,
+                         const QKeySequence& key) {
+        auto* action = new QAction(text, &q);
         action->setObjectName(QString::fromLatin1(name));
         action->setShortcut(key);
         SetCommand(*action, number, window);
         m_commands += action;
     };
     for (const BasicRow& row : kBasics)
-        add(row.name, row.text, row.number, QKeySequence(row.key));
+        add(row.name, tr(row.text), row.number, QKeySequence(row.key));
     for (const HandRow& row : Hands())
-        add(row.name, row.text, row.number, QKeySequence(row.key | row.modifiers));
+        add(row.name, HandText(row.text), row.number, QKeySequence(row.key | row.modifiers));
     const auto isBookmark = [](const QAction* action) {
         return action->objectName() == QLatin1String("toggleBookmark");
     };

@@ -4,7 +4,7 @@
 #include "editing/ZNCoreEditorControlEx.h"
 #include "editing/hands/Operations.h"
 
-#include <QtGlobal>
+#include <QCoreApplication>
 
 #include <algorithm>
 #include <array>
@@ -39,6 +39,11 @@ constexpr auto kKeys = [] {
 std::span<const HandRow> Hands()
 {
     return kRows;
+}
+
+QString HandText(const char* english)
+{
+    return QCoreApplication::translate("Hands", english);
 }
 
 const HandRow* FindHand(UINT number)

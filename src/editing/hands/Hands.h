@@ -6,6 +6,8 @@
 #include "common/Export.h"
 #include "platform/windows/Accelerators.h"
 
+#include <QString>
+
 #include <span>
 
 class CZNCoreEditorControlEx;
@@ -22,7 +24,7 @@ struct HandRow
 {
     UINT number;
     const char* name; // one word
-    const char* menu;
+    const char* menu; // in English, as the text: HandText has what is shown
     const char* text; // in the menu, with the letter that is underlined
     int key;          // Qt::Key, 0: none
     int modifiers;    // Qt::KeyboardModifiers
@@ -31,6 +33,8 @@ struct HandRow
 };
 
 ZN_API std::span<const HandRow> Hands();
+// What a menu or a text of a row is in the language of the user interface.
+ZN_API QString HandText(const char* english);
 // Null for a number that is none of theirs.
 ZN_API const HandRow* FindHand(UINT number);
 ZN_API bool IsPossible(const HandRow& row, CZNCoreEditorControlEx& editor);

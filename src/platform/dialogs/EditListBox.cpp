@@ -4,10 +4,20 @@
 #include <QAbstractItemDelegate>
 #include <QApplication>
 #include <QBoxLayout>
+#include <QCoreApplication>
 #include <QKeyEvent>
 #include <QListWidget>
 #include <QStyle>
 #include <QToolButton>
+
+namespace {
+
+struct Texts
+{
+    Q_DECLARE_TR_FUNCTIONS(EditListBox)
+};
+
+} // namespace
 
 CZNBaseEditListBox::CZNBaseEditListBox(QWidget* parent)
     : QWidget(parent), m_list(new QListWidget(this))
@@ -18,13 +28,13 @@ CZNBaseEditListBox::CZNBaseEditListBox(QWidget* parent)
     auto* buttons = new QVBoxLayout;
     rows->addLayout(buttons);
     const auto add = [&](const char* text, const char* name, std::function<void()> run) {
-        buttons->addWidget(AddButton(text, QString::fromLatin1(name), std::move(run)));
+        buttons->addWidget(AddButton(text, Texts::tr(name), std::move(run)));
     };
-    add("+", "Add", [this] { NewItem(); });
-    add("\u2212", "Remove", [this] { DeleteItem(); });
-    add("\u2191", "Move up", [this] { MoveItem(-1); });
-    add("\u2193", "Move down", [this] { MoveItem(1); });
-    m_browseButton = AddButton("...", QStringLiteral("Browse"), [this] { Browse(); });
+    add("+", QT_TRANSLATE_NOOP("EditListBox", "Add"), [this] { NewItem(); });
+    add("\u2212", QT_TRANSLATE_NOOP("EditListBox", "Remove"), [this] { DeleteItem(); });
+    add("\u2191", QT_TRANSLATE_NOOP("EditListBox", "Move up"), [this] { MoveItem(-1); });
+    add("\u2193", QT_TRANSLATE_NOOP("EditListBox", "Move down"), [this] { MoveItem(1); });
+    m_browseButton = AddButton("...", Texts::tr("Browse"), [this] { Browse(); });
     m_browseButton->hide();
     buttons->addWidget(m_browseButton);
     buttons->addStretch();

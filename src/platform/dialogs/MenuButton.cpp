@@ -11,13 +11,12 @@ CMenuButton::CMenuButton(const QString& text, QWidget* parent) : QPushButton(tex
     setFixedWidth(fontMetrics().horizontalAdvance(text) + 2 * kRim);
 }
 
-void CMenuButton::SetItems(MenuTexts items)
+void CMenuButton::SetItems(const QStringList& items)
 {
     if (!menu())
         setMenu(new QMenu(this));
     menu()->clear();
-    for (const char* item : items) {
-        const QString row = QString::fromUtf8(item);
+    for (const QString& row : items) {
         const QString shown = row.section(u'\t', 0, 0);
         QString escaped = shown;
         escaped.replace(u'&', QStringLiteral("&&"));

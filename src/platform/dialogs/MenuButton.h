@@ -6,11 +6,7 @@
 
 #include <QPushButton>
 #include <QString>
-
-#include <span>
-
-// A row of such a menu: what the item shows, a tab, and the text that it stands for.
-using MenuTexts = std::span<const char* const>;
+#include <QStringList>
 
 class ZN_API CMenuButton : public QPushButton
 {
@@ -19,7 +15,9 @@ class ZN_API CMenuButton : public QPushButton
 public:
     explicit CMenuButton(const QString& text, QWidget* parent = nullptr);
 
-    void SetItems(MenuTexts items); // the menu has these alone
+    // The menu has these alone. A row is what the item shows, a tab, and the text that it stands
+    // for.
+    void SetItems(const QStringList& items);
 
 Q_SIGNALS:
     void Chosen(const QString& item); // the row as it was given

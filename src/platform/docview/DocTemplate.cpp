@@ -7,11 +7,17 @@
 #include "platform/docview/View.h"
 #include "platform/windows/Disposal.h"
 
+#include <QCoreApplication>
 #include <QFileInfo>
 
 #include <algorithm>
 
 namespace {
+
+struct Texts
+{
+    Q_DECLARE_TR_FUNCTIONS(CDocTemplate)
+};
 
 bool IsSameFile(const QString& one, const QString& other)
 {
@@ -113,7 +119,7 @@ void CDocTemplate::SetDefaultTitle(CDocument* document)
 {
     QString name;
     if (!GetDocString(name, docName) || name.isEmpty())
-        name = QStringLiteral("Untitled");
+        name = Texts::tr("Untitled");
     document->SetTitle(name + QString::number(++m_untitled));
 }
 

@@ -10,6 +10,7 @@
 #include "platform/windows/Questions.h"
 #include "platform/windows/Wnd.h"
 
+#include <QCoreApplication>
 #include <QStringList>
 
 namespace {
@@ -27,16 +28,16 @@ struct Text
 };
 
 constexpr Text kTexts[] = {
-    {IDP_FAILED_TO_OPEN, "%1 could not be opened."},
-    {IDP_FAILED_TO_SAVE, "%1 could not be saved."},
-    {IDP_ASK_TO_SAVE, "Save the changes to %1?"},
+    {IDP_FAILED_TO_OPEN, QT_TRANSLATE_NOOP("CWinApp", "%1 could not be opened.")},
+    {IDP_FAILED_TO_SAVE, QT_TRANSLATE_NOOP("CWinApp", "%1 could not be saved.")},
+    {IDP_ASK_TO_SAVE, QT_TRANSLATE_NOOP("CWinApp", "Save the changes to %1?")},
 };
 
 QString DefaultText(UINT id)
 {
     for (const Text& row : kTexts) {
         if (row.id == id)
-            return QString::fromLatin1(row.text);
+            return QCoreApplication::translate("CWinApp", row.text);
     }
     return QString();
 }

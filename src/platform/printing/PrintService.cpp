@@ -5,6 +5,7 @@
 #include "platform/windows/Disposal.h"
 #include "platform/windows/Questions.h"
 
+#include <QCoreApplication>
 #include <QPrintDialog>
 #include <QPrintPreviewDialog>
 #include <QPrinter>
@@ -12,6 +13,11 @@
 #include <QWidget>
 
 namespace {
+
+struct Texts
+{
+    Q_DECLARE_TR_FUNCTIONS(PrintService)
+};
 
 IPrintService*& HostService()
 {
@@ -22,7 +28,7 @@ IPrintService*& HostService()
 std::unique_ptr<QPrinter> PdfPrinter(HWND owner)
 {
     const QString question =
-        QStringLiteral("No printer is set up. Do you want to save the pages as a PDF instead?");
+        Texts::tr("No printer is set up. Do you want to save the pages as a PDF instead?");
     if (!AskYesNo(owner, question))
         return nullptr;
     QString path = AskSaveFile(owner, QString(), QStringLiteral("PDF (*.pdf)"));
@@ -105,8 +111,8 @@ void IPrintService::OnDone(HWND owner, bool succeeded, const QString& file)
 {
     if (succeeded)
         return;
-    ShowMessage(owner, file.isEmpty() ? QStringLiteral("The document could not be printed.")
-                                      : QStringLiteral("%1 could not be written.").arg(file));
+    ShowMessage(owner, file.isEmpty() ? Texts::tr("The document could not be printed.")
+                                      : Texts::tr("%1 could not be written.").arg(file));
 }
 
 void SetPrintService(IPrintService* service)

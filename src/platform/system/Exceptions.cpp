@@ -1,7 +1,18 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "platform/system/Exceptions.h"
 
+#include <QCoreApplication>
+
 #include <cerrno>
+
+namespace {
+
+struct Texts
+{
+    Q_DECLARE_TR_FUNCTIONS(CFileException)
+};
+
+} // namespace
 
 CFileException CFileException::FromErrno(int number, const QString& path)
 {
@@ -31,19 +42,18 @@ QString CFileException::GetErrorMessage() const
 {
     switch (m_cause) {
     case fileNotFound:
-        return QStringLiteral("%1 was not found.").arg(m_strFileName);
+        return Texts::tr("%1 was not found.").arg(m_strFileName);
     case badPath:
-        return QStringLiteral("%1 is not a valid path.").arg(m_strFileName);
+        return Texts::tr("%1 is not a valid path.").arg(m_strFileName);
     case tooManyOpenFiles:
-        return QStringLiteral("%1 could not be opened: too many files are open.")
-            .arg(m_strFileName);
+        return Texts::tr("%1 could not be opened: too many files are open.").arg(m_strFileName);
     case accessDenied:
-        return QStringLiteral("%1 cannot be accessed.").arg(m_strFileName);
+        return Texts::tr("%1 cannot be accessed.").arg(m_strFileName);
     case sharingViolation:
-        return QStringLiteral("%1 is in use by another program.").arg(m_strFileName);
+        return Texts::tr("%1 is in use by another program.").arg(m_strFileName);
     case diskFull:
-        return QStringLiteral("The disk is full: %1.").arg(m_strFileName);
+        return Texts::tr("The disk is full: %1.").arg(m_strFileName);
     default:
-        return QStringLiteral("An error occurred while accessing %1.").arg(m_strFileName);
+        return Texts::tr("An error occurred while accessing %1.").arg(m_strFileName);
     }
 }

@@ -19,8 +19,7 @@ namespace {
 QString NameOf(COLORREF color)
 {
     const auto* found = std::ranges::find(kNamedColors, color, &NamedColor::color);
-    return found != kNamedColors.end() ? QString(QLatin1String(found->name)).trimmed()
-                                       : ToQColor(color).name().toUpper();
+    return found != kNamedColors.end() ? ShownName(*found) : ToQColor(color).name().toUpper();
 }
 
 } // namespace

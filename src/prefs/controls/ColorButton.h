@@ -64,8 +64,8 @@ private:
 
     COLORREF m_color = kDefaultColor;
     COLORREF m_defaultColor;
-    QString m_defaultText = QStringLiteral("Default");
-    QString m_customText = QStringLiteral("More Colors...");
+    QString m_defaultText = tr("Default");
+    QString m_customText = tr("More Colors...");
     bool m_isDown = false;
     bool m_isTracking = false;
 

@@ -6,6 +6,7 @@
 
 #include <QAccessible>
 #include <QApplication>
+#include <QCoreApplication>
 #include <QHelpEvent>
 #include <QMenu>
 #include <QMouseEvent>
@@ -16,6 +17,11 @@
 #include <algorithm>
 
 namespace {
+
+struct Texts
+{
+    Q_DECLARE_TR_FUNCTIONS(ColorPopup)
+};
 
 constexpr int kColumns = 8;
 constexpr int kRows = static_cast<int>(kNamedColors.size()) / kColumns;
@@ -34,7 +40,7 @@ ZNCEColorPopup::ZNCEColorPopup(COLORREF color, COLORREF defaultColor, const QStr
     setFont(QApplication::font("QMenu"));
     setMouseTracking(true);
     setFocusPolicy(Qt::StrongFocus);
-    setAccessibleName(QStringLiteral("Palette"));
+    setAccessibleName(Texts::tr("Palette"));
     if (color == kDefaultColor) {
         m_chosen = m_defaultText.isEmpty() ? kNoCell : kDefaultCell;
     } else {
@@ -102,9 +108,8 @@ QString ZNCEColorPopup::NameOf(int cell) const
         return m_defaultText;
     if (cell == kCustomCell)
         return m_customText;
-    return cell >= 0 && cell < kCells
-               ? QLatin1String(kNamedColors[static_cast<std::size_t>(cell)].name)
-               : QString();
+    return cell >= 0 && cell < kCells ? ShownName(kNamedColors[static_cast<std::size_t>(cell)])
+                                      : QString();
 }
 
 COLORREF ZNCEColorPopup::ColorOf(int cell) const
@@ -133,7 +138,7 @@ void ZNCEColorPopup::SetCurrentCell(int cell)
     if (cell == m_current)
         return;
     m_current = cell;
-    setAccessibleName(cell == kNoCell ? QStringLiteral("Palette") : NameOf(cell).trimmed());
+    setAccessibleName(cell == kNoCell ? Texts::tr("Palette") : NameOf(cell));
     QAccessibleEvent renamed(this, QAccessible::NameChanged);
     QAccessible::updateAccessibility(&renamed);
     update();
@@ -166,7 +171,7 @@ bool ZNCEColorPopup::event(QEvent* event)
     if (event->type() == QEvent::ToolTip) {
         const auto* help = static_cast<QHelpEvent*>(event);
         const int cell = CellAt(help->pos());
-        QToolTip::showText(help->globalPos(), cell >= 0 ? NameOf(cell).trimmed() : QString(), this,
+        QToolTip::showText(help->globalPos(), cell >= 0 ? NameOf(cell) : QString(), this,
                            RectOf(cell));
         return true;
     }

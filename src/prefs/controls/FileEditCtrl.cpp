@@ -4,12 +4,18 @@
 #include "platform/windows/Questions.h"
 
 #include <QBoxLayout>
+#include <QCoreApplication>
 #include <QDir>
 #include <QFileInfo>
 #include <QLineEdit>
 #include <QToolButton>
 
 namespace {
+
+struct Texts
+{
+    Q_DECLARE_TR_FUNCTIONS(FileEditCtrl)
+};
 
 constexpr QChar kPathEnd = u';';
 
@@ -37,8 +43,8 @@ bool IsShortcut(const QString& path)
 
 bool CFECFileDialog::DoModal()
 {
-    const QString path = BrowseForFile(m_owner, QStringLiteral("Browse for File"), m_folder,
-                                       QStringLiteral("All Files (*)"));
+    const QString path =
+        BrowseForFile(m_owner, Texts::tr("Browse for File"), m_folder, Texts::tr("All Files (*)"));
     if (!path.isEmpty())
         m_path = path;
     return !path.isEmpty();
@@ -52,11 +58,11 @@ CFileEditCtrl::CFileEditCtrl(unsigned flags, QWidget* parent)
     row->addWidget(m_edit);
     row->addWidget(m_button);
     m_edit->setVisible(!Has(ButtonAlone));
-    m_edit->setAccessibleName(Has(Folders) ? QStringLiteral("Folder") : QStringLiteral("File"));
+    m_edit->setAccessibleName(Has(Folders) ? Texts::tr("Folder") : Texts::tr("File"));
     m_button->setText(QStringLiteral("..."));
     m_button->setFocusPolicy(Qt::StrongFocus);
-    m_button->setAccessibleName(Has(Folders) ? QStringLiteral("Browse for a folder")
-                                             : QStringLiteral("Browse for a file"));
+    m_button->setAccessibleName(Has(Folders) ? Texts::tr("Browse for a folder")
+                                             : Texts::tr("Browse for a file"));
     m_button->setToolTip(m_button->accessibleName());
     setFocusProxy(Has(ButtonAlone) ? static_cast<QWidget*>(m_button) : m_edit);
     connect(m_button, &QToolButton::clicked, this, &CFileEditCtrl::Browse);
@@ -109,15 +115,15 @@ QString CFileEditCtrl::Fault() const
 {
     const QStringList paths = GetPaths();
     if (paths.isEmpty())
-        return QStringLiteral("Enter an existing file.");
+        return Texts::tr("Enter an existing file.");
     for (const QString& path : paths) {
         const QFileInfo file(path);
         if (!file.exists())
-            return QStringLiteral("%1 does not exist.").arg(path);
+            return Texts::tr("%1 does not exist.").arg(path);
         if (Has(Folders) && !file.isDir())
-            return QStringLiteral("%1 is not a folder.").arg(path);
+            return Texts::tr("%1 is not a folder.").arg(path);
         if (!Has(Folders) && file.isDir())
-            return QStringLiteral("%1 is not a file.").arg(path);
+            return Texts::tr("%1 is not a file.").arg(path);
     }
     return QString();
 }
@@ -138,7 +144,7 @@ void CFileEditCtrl::Browse()
     const QString start = paths.isEmpty() ? m_folder : paths.first();
     QString chosen;
     if (Has(Folders)) {
-        chosen = BrowseForFolder(this, QStringLiteral("Browse for Folder"), start);
+        chosen = BrowseForFolder(this, Texts::tr("Browse for Folder"), start);
         if (Has(TrailingSlash) && !chosen.isEmpty() && !chosen.endsWith(u'/'))
             chosen += u'/';
     } else if (CFECFileDialog dialog(this, start); dialog.DoModal()) {

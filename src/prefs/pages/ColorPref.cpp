@@ -11,6 +11,7 @@
 #include "prefs/pages/StyleSample.h"
 #include "settings/SyntaxFile.h"
 
+#include <QCoreApplication>
 #include <QFileInfo>
 #include <QGridLayout>
 #include <QGroupBox>
@@ -18,6 +19,11 @@
 #include <QListWidget>
 
 namespace {
+
+struct Texts
+{
+    Q_DECLARE_TR_FUNCTIONS(ColorPref)
+};
 
 namespace id = prefscontrol;
 
@@ -32,31 +38,31 @@ CColorPref::~CColorPref() = default;
 void CColorPref::OnBuild(QWidget* window)
 {
     auto* page = new QGridLayout(window);
-    auto* styles = new QLabel(QStringLiteral("St&yles"));
+    auto* styles = new QLabel(Texts::tr("St&yles"));
     auto* list = AddControl(id::ColorStyles, new QListWidget);
-    list->setAccessibleName(QStringLiteral("Styles"));
+    list->setAccessibleName(Texts::tr("Styles"));
     styles->setBuddy(list);
     page->addWidget(styles, 0, 0);
     page->addWidget(list, 1, 0, 5, 1);
 
     int row = 1;
     const auto addColor = [&](UINT number, const char* label) {
-        auto* text = new QLabel(QLatin1String(label));
+        auto* text = new QLabel(Texts::tr(label));
         auto* button = AddControl(number, new CColorButton);
-        button->setAccessibleName(QLatin1String(label));
+        button->setAccessibleName(Texts::tr(label));
         text->setBuddy(button);
         page->addWidget(text, row, 1);
         page->addWidget(button, row++, 2, Qt::AlignLeft);
     };
-    addColor(id::Foreground, "Foreground Color");
-    addColor(id::Background, "Background Color");
-    auto* reset = AddControl(id::ResetColors, new QPushButton(QStringLiteral("Reset All Colors")));
+    addColor(id::Foreground, QT_TRANSLATE_NOOP("ColorPref", "Foreground Color"));
+    addColor(id::Background, QT_TRANSLATE_NOOP("ColorPref", "Background Color"));
+    auto* reset = AddControl(id::ResetColors, new QPushButton(Texts::tr("Reset All Colors")));
     reset->setAutoDefault(false);
     page->addWidget(reset, row, 1, 1, 2, Qt::AlignLeft);
 
-    auto* group = new QGroupBox(QStringLiteral("Sample Editor Area"));
+    auto* group = new QGroupBox(Texts::tr("Sample Editor Area"));
     auto* samples = new QVBoxLayout(group);
-    samples->addWidget(AddControl(id::Sample, new CColorStatic(QStringLiteral("Sample Text"))));
+    samples->addWidget(AddControl(id::Sample, new CColorStatic(Texts::tr("Sample Text"))));
     m_sample = new StyleSample;
     samples->addWidget(m_sample, 1);
     page->addWidget(group, 6, 0, 1, 3);
@@ -160,8 +166,8 @@ void CColorPref::OnColorChosen(UINT id, COLORREF color)
 void CColorPref::OnResetColors()
 {
     if (!m_pSyntaxFile ||
-        !AskYesNoUnder(GetSafeHwnd(), QStringLiteral("Clearing color changes"),
-                       QStringLiteral("All of your color settings will be lost ! Are you sure ?")))
+        !AskYesNoUnder(GetSafeHwnd(), Texts::tr("Clearing color changes"),
+                       Texts::tr("All of your color settings will be lost ! Are you sure ?")))
         return;
     CSyntaxFile delivered;
     delivered.SetFilename(zncoreeditor::GetAppPath() + QStringLiteral("Syntax/") +

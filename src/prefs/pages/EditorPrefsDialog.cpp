@@ -10,6 +10,7 @@
 #include "settings/ConfigFile.h"
 #include "settings/SyntaxFile.h"
 
+#include <QCoreApplication>
 #include <QFileInfo>
 #include <QHBoxLayout>
 #include <QKeyEvent>
@@ -22,6 +23,11 @@
 #include <QTreeWidget>
 
 namespace {
+
+struct Texts
+{
+    Q_DECLARE_TR_FUNCTIONS(EditorPrefsDialog)
+};
 
 namespace id = prefscontrol;
 
@@ -107,15 +113,15 @@ QWidget* CEditorPrefsDialog::BuildTree()
     column->setContentsMargins({});
     auto* filter = new QLineEdit;
     filter->setObjectName(QStringLiteral("filter"));
-    filter->setPlaceholderText(QStringLiteral("Find a language or a page"));
+    filter->setPlaceholderText(Texts::tr("Find a language or a page"));
     filter->setAccessibleName(filter->placeholderText());
     filter->setClearButtonEnabled(true);
     m_tree = AddControl(id::Tree, new QTreeWidget);
     m_tree->setHeaderHidden(true);
-    m_tree->setAccessibleName(QStringLiteral("Pages"));
+    m_tree->setAccessibleName(Texts::tr("Pages"));
     m_tree->setUniformRowHeights(true);
     new TreeKeys(*m_tree, *filter); // goes with the tree
-    auto* settings = new QPushButton(QStringLiteral("&Settings"));
+    auto* settings = new QPushButton(Texts::tr("&Settings"));
     settings->setAutoDefault(false);
     m_settings = settings;
     auto* menu = new SettingsMenu(m_config, m_languages, settings);
@@ -150,15 +156,16 @@ QWidget* CEditorPrefsDialog::BuildButtons()
     m_note->setWordWrap(true);
     row->addWidget(m_note, 1);
     const auto add = [&](UINT number, const char* label) {
-        auto* button = AddControl(number, new QPushButton(QLatin1String(label)));
+        auto* button = AddControl(number, new QPushButton(Texts::tr(label)));
         row->addWidget(button);
         return button;
     };
-    add(IDOK, "&Ok");
-    add(IDCANCEL, "&Cancel");
-    add(id::Apply, "&Apply")->setEnabled(false);
+    add(IDOK, QT_TRANSLATE_NOOP("EditorPrefsDialog", "&Ok"));
+    add(IDCANCEL, QT_TRANSLATE_NOOP("EditorPrefsDialog", "&Cancel"));
+    add(id::Apply, QT_TRANSLATE_NOOP("EditorPrefsDialog", "&Apply"))->setEnabled(false);
     IPreferencesHost* host = zncoreeditor::GetPreferencesHost();
-    add(id::Help, "&Help")->setEnabled(host && host->HasHelp());
+    add(id::Help, QT_TRANSLATE_NOOP("EditorPrefsDialog", "&Help"))
+        ->setEnabled(host && host->HasHelp());
     return bar;
 }
 
@@ -207,11 +214,11 @@ void CEditorPrefsDialog::AddLanguage(int language)
     CEditorPref& editor = *m_editorPages[at];
     AddPage(editor, id::EditorPage, m_languages.GetLanguageName(language));
     if (language != kPlainLanguage)
-        AddPage(*m_codingPages[at], id::CodingPage, QStringLiteral("Code"), &editor);
-    AddPage(*m_colorPages[at], id::ColorPage, QStringLiteral("Color"), &editor);
-    AddPage(*m_fontPages[at], id::FontPage, QStringLiteral("Font"), &editor);
+        AddPage(*m_codingPages[at], id::CodingPage, Texts::tr("Code"), &editor);
+    AddPage(*m_colorPages[at], id::ColorPage, Texts::tr("Color"), &editor);
+    AddPage(*m_fontPages[at], id::FontPage, Texts::tr("Font"), &editor);
     if (language != kPlainLanguage)
-        AddPage(*m_keywordPages[at], id::KeywordPage, QStringLiteral("Keywords"), &editor);
+        AddPage(*m_keywordPages[at], id::KeywordPage, Texts::tr("Keywords"), &editor);
     CSyntaxFile* file = m_languages.GetSyntaxFile(language);
     for (CEditorPrefsSubDlg* page : {static_cast<CEditorPrefsSubDlg*>(&editor),
                                      static_cast<CEditorPrefsSubDlg*>(m_codingPages[at].get()),
@@ -223,7 +230,7 @@ void CEditorPrefsDialog::AddLanguage(int language)
 
 bool CEditorPrefsDialog::OnInitDialog()
 {
-    AddPage(m_mainPage, id::MainPage, QStringLiteral("Colors and Fonts"));
+    AddPage(m_mainPage, id::MainPage, Texts::tr("Colors and Fonts"));
     m_mainPage.SetConfigFile(&m_config);
     // A list that tells a count beyond what it names has no more pages than names.
     m_languageCount = std::clamp(m_config.GetLanguageCount(), 0, m_languages.GetLanguageCount());
@@ -405,8 +412,7 @@ bool CEditorPrefsDialog::Apply(bool closing)
         for (const PageRecord& record : m_pages)
             record.page->SetUnchanged();
         SetChanged(false);
-        m_note->setText(
-            QStringLiteral("The changes are in force. Cancel does not take them back."));
+        m_note->setText(Texts::tr("The changes are in force. Cancel does not take them back."));
     }
     if (closing) {
         for (const PageRecord& record : m_pages)

@@ -9,6 +9,7 @@
 
 #include <QCheckBox>
 #include <QComboBox>
+#include <QCoreApplication>
 #include <QFontDatabase>
 #include <QGridLayout>
 #include <QGroupBox>
@@ -21,6 +22,11 @@
 #include <algorithm>
 
 namespace {
+
+struct Texts
+{
+    Q_DECLARE_TR_FUNCTIONS(FontPref)
+};
 
 namespace id = prefscontrol;
 
@@ -49,36 +55,36 @@ void CFontPref::OnBuild(QWidget* window)
 {
     auto* page = new QGridLayout(window);
     const auto label = [page](const char* text, QWidget* buddy, int row, int column) {
-        auto* made = new QLabel(QLatin1String(text));
+        auto* made = new QLabel(Texts::tr(text));
         made->setBuddy(buddy);
         page->addWidget(made, row, column);
     };
     auto* styles = AddControl(id::FontStyles, new QComboBox);
-    styles->setAccessibleName(QStringLiteral("Style"));
-    label("Style", styles, 0, 0);
+    styles->setAccessibleName(Texts::tr("Style"));
+    label(QT_TRANSLATE_NOOP("FontPref", "Style"), styles, 0, 0);
     page->addWidget(styles, 1, 0, 1, 3);
 
     const auto column = [&](UINT edit, UINT list, const char* text, int at) {
         auto* typed = AddControl(edit, new QLineEdit);
         auto* choices = AddControl(list, new QListWidget);
-        typed->setAccessibleName(QLatin1String(text));
-        choices->setAccessibleName(QLatin1String(text) + QStringLiteral(", list"));
+        typed->setAccessibleName(Texts::tr(text));
+        choices->setAccessibleName(Texts::tr("%1, list").arg(Texts::tr(text)));
         label(text, typed, 2, at);
         page->addWidget(typed, 3, at);
         page->addWidget(choices, 4, at, 4, 1);
     };
-    column(id::FontName, id::FontNames, "Font", 0);
-    column(id::FontSize, id::FontSizes, "Size", 1);
-    page->addWidget(AddControl(id::Bold, new QCheckBox(QStringLiteral("Bold"))), 3, 2);
-    page->addWidget(AddControl(id::Italic, new QCheckBox(QStringLiteral("Italic"))), 4, 2);
-    page->addWidget(AddControl(id::Underline, new QCheckBox(QStringLiteral("Underline"))), 5, 2);
-    auto* all = AddControl(id::ToAllStyles, new QPushButton(QStringLiteral("Apply to all Styles")));
+    column(id::FontName, id::FontNames, QT_TRANSLATE_NOOP("FontPref", "Font"), 0);
+    column(id::FontSize, id::FontSizes, QT_TRANSLATE_NOOP("FontPref", "Size"), 1);
+    page->addWidget(AddControl(id::Bold, new QCheckBox(Texts::tr("Bold"))), 3, 2);
+    page->addWidget(AddControl(id::Italic, new QCheckBox(Texts::tr("Italic"))), 4, 2);
+    page->addWidget(AddControl(id::Underline, new QCheckBox(Texts::tr("Underline"))), 5, 2);
+    auto* all = AddControl(id::ToAllStyles, new QPushButton(Texts::tr("Apply to all Styles")));
     all->setAutoDefault(false);
     page->addWidget(all, 6, 2);
 
-    auto* group = new QGroupBox(QStringLiteral("Sample Text Area"));
+    auto* group = new QGroupBox(Texts::tr("Sample Text Area"));
     auto* samples = new QVBoxLayout(group);
-    samples->addWidget(AddControl(id::Sample, new CColorStatic(QStringLiteral("Sample Text"))));
+    samples->addWidget(AddControl(id::Sample, new CColorStatic(Texts::tr("Sample Text"))));
     m_sample = new StyleSample;
     samples->addWidget(m_sample, 1);
     page->addWidget(group, 8, 0, 1, 3);
@@ -246,8 +252,8 @@ void CFontPref::OnToAllStyles()
         m_sample->SetStyleFont(record.key(), {record->name, TextToInt(record->size), record->bold,
                                               record->italic, record->underline});
     }
-    ShowMessageUnder(GetSafeHwnd(), QStringLiteral("Information"),
-                     QStringLiteral("All styles have been set to the currrent font selection."),
+    ShowMessageUnder(GetSafeHwnd(), Texts::tr("Information"),
+                     Texts::tr("All styles have been set to the currrent font selection."),
                      MessageKind::Information);
     OnChanged();
 }

@@ -3,6 +3,7 @@
 
 #include "settings/SyntaxFile.h"
 
+#include <QCoreApplication>
 #include <QGridLayout>
 #include <QLabel>
 #include <QListWidget>
@@ -11,6 +12,11 @@
 
 namespace {
 
+struct Texts
+{
+    Q_DECLARE_TR_FUNCTIONS(KeywordPref)
+};
+
 namespace id = prefscontrol;
 
 } // namespace
@@ -18,11 +24,11 @@ namespace id = prefscontrol;
 void CKeywordPref::OnBuild(QWidget* window)
 {
     auto* page = new QGridLayout(window);
-    auto* types = new QLabel(QStringLiteral("Keyword Type"));
+    auto* types = new QLabel(Texts::tr("Keyword Type"));
     auto* sets = AddControl(id::KeywordSets, new QListWidget);
     sets->setAccessibleName(types->text());
     types->setBuddy(sets);
-    auto* list = new QLabel(QStringLiteral("Keyword List"));
+    auto* list = new QLabel(Texts::tr("Keyword List"));
     auto* words = AddControl(id::Keywords, new QPlainTextEdit);
     words->setAccessibleName(list->text());
     words->setTabChangesFocus(true);
@@ -98,9 +104,9 @@ void CKeywordPref::ShowHint()
     const QString text = GetDlgItem<QPlainTextEdit>(id::Keywords)->toPlainText();
     const qsizetype length = text.size();
     const bool isLost = length > 1 && !text.back().isSpace() && text[length - 2].isSpace();
-    m_hint->setText(isLost ? QStringLiteral("A last word of one letter is not kept, unless a blank "
-                                            "follows it.")
-                           : QStringLiteral("Words with blanks or new lines between them."));
+    m_hint->setText(isLost ? Texts::tr("A last word of one letter is not kept, unless a blank "
+                                       "follows it.")
+                           : Texts::tr("Words with blanks or new lines between them."));
 }
 
 void CKeywordPref::Apply()

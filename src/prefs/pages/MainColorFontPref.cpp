@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "prefs/pages/MainColorFontPref.h"
 
+#include "common/Translations.h"
 #include "editing/looks/DeliveredSettings.h"
 #include "looks/Schemes.h"
 #include "platform/windows/DataExchange.h"
@@ -10,6 +11,7 @@
 #include "settings/Number.h"
 
 #include <QCheckBox>
+#include <QCoreApplication>
 #include <QGridLayout>
 #include <QGroupBox>
 #include <QLabel>
@@ -19,6 +21,11 @@
 #include <utility>
 
 namespace {
+
+struct Texts
+{
+    Q_DECLARE_TR_FUNCTIONS(MainColorFontPref)
+};
 
 namespace id = prefscontrol;
 using C = CConfigFile;
@@ -38,18 +45,18 @@ struct ColorRow
 
 // clang-format off
 constexpr ColorRow kRows[] = {
-    {0, id::CaretColor, "Caret Color",
+    {0, id::CaretColor, QT_TRANSLATE_NOOP("MainColorFontPref", "Caret Color"),
      nullptr, nullptr, &C::GetCaretColor, &C::SetCaretColor, Drawn::Caret},
-    {id::UseSelectionFore, id::SelectionFore, "Use Selected Text Foreground Color",
+    {id::UseSelectionFore, id::SelectionFore, QT_TRANSLATE_NOOP("MainColorFontPref", "Use Selected Text Foreground Color"),
      &C::UseSelectionForegroundColor, &C::SetUseSelectionForegroundColor,
      &C::GetSelectionForegroundColor, &C::SetSelectionForegroundColor, Drawn::Count},
-    {id::UseSelectionBack, id::SelectionBack, "Use Selected Text Background Color",
+    {id::UseSelectionBack, id::SelectionBack, QT_TRANSLATE_NOOP("MainColorFontPref", "Use Selected Text Background Color"),
      &C::UseSelectionBackgroundColor, &C::SetUseSelectionBackgroundColor,
      &C::GetSelectionBackgroundColor, &C::SetSelectionBackgroundColor, Drawn::Selection},
-    {id::HighlightLine, id::LineColor, "Enable Highlight Current &Line",
+    {id::HighlightLine, id::LineColor, QT_TRANSLATE_NOOP("MainColorFontPref", "Enable Highlight Current &Line"),
      &C::GetHighlightCurrentLine, &C::SetHighlightCurrentLine,
      &C::GetHighlightCurrentLineColor, &C::SetHighlightCurrentLineColor, Drawn::CurrentLine},
-    {id::RightEdge, id::EdgeColor, "Enable Right Edge Warning",
+    {id::RightEdge, id::EdgeColor, QT_TRANSLATE_NOOP("MainColorFontPref", "Enable Right Edge Warning"),
      &C::GetRightEdge, &C::SetRightEdge, &C::GetRightEdgeColor, &C::SetRightEdgeColor, Drawn::RightEdge},
 };
 // clang-format on
@@ -76,14 +83,13 @@ CConfigFile* CMainColorFontPref::Config() const
 void CMainColorFontPref::OnBuild(QWidget* window)
 {
     auto* page = new QVBoxLayout(window);
-    auto* group = new QGroupBox(QStringLiteral("In All Languages"));
+    auto* group = new QGroupBox(Texts::tr("In All Languages"));
     auto* grid = new QGridLayout(group);
     int line = 0;
     for (const ColorRow& row : kRows) {
-        const QString label = QLatin1String(row.label);
+        const QString label = Texts::tr(row.label);
         auto* button = AddControl(row.button, new CColorButton);
-        QString name = label;
-        button->setAccessibleName(name.remove(u'&'));
+        button->setAccessibleName(zncoreeditor::WithoutMnemonic(label));
         if (row.box != 0) {
             grid->addWidget(AddControl(row.box, new QCheckBox(label)), line, 0);
         } else {
@@ -94,7 +100,7 @@ void CMainColorFontPref::OnBuild(QWidget* window)
         grid->addWidget(button, line++, 1);
     }
     constexpr int kDigits = 12;
-    auto* text = new QLabel(QStringLiteral("Right Edge Position"));
+    auto* text = new QLabel(Texts::tr("Right Edge Position"));
     auto* edit = AddControl(id::EdgeColumn, new QLineEdit);
     edit->setAccessibleName(text->text());
     edit->setFixedWidth(edit->fontMetrics().averageCharWidth() * kDigits);

@@ -4,16 +4,23 @@
 #include "editing/language/Library.h"
 #include "prefs/pages/EditorPrefsDialog.h"
 
+#include <QCoreApplication>
+
 IPreferencesHost::~IPreferencesHost() = default;
 
 namespace zncoreeditor {
 namespace {
 
+struct Texts
+{
+    Q_DECLARE_TR_FUNCTIONS(EditorPrefsDialog)
+};
+
 IPreferencesHost* g_host = nullptr;
 
 void RunDialog()
 {
-    CEditorPrefsDialog dialog(QStringLiteral("Editor and Language Preferences"), *GetConfigFile(),
+    CEditorPrefsDialog dialog(Texts::tr("Editor and Language Preferences"), *GetConfigFile(),
                               *GetFileTypeManager());
     dialog.DoModal();
 }

@@ -11,14 +11,31 @@
 #include "settings/ConfigFile.h"
 #include "settings/SyntaxFile.h"
 
+#include <QCoreApplication>
 #include <QDir>
 #include <QFileInfo>
 
 namespace {
 
-const QString kTitle = QStringLiteral("Settings");
-const QString kFilter = QStringLiteral("Settings (*.znsettings)");
-const QString kLost = QStringLiteral("What has not been applied yet is lost.");
+struct Texts
+{
+    Q_DECLARE_TR_FUNCTIONS(SettingsMenu)
+};
+
+QString Title()
+{
+    return Texts::tr("Settings");
+}
+
+QString FileFilter()
+{
+    return Texts::tr("Settings (*.znsettings)");
+}
+
+QString WhatIsLost()
+{
+    return Texts::tr("What has not been applied yet is lost.");
+}
 
 } // namespace
 
@@ -26,15 +43,17 @@ SettingsMenu::SettingsMenu(CConfigFile& config, CFileTypeManager& languages, QWi
     : QMenu(parent), m_config(config), m_languages(languages)
 {
     const auto add = [this](const char* name, const char* text, void (SettingsMenu::*run)()) {
-        QAction* action = addAction(QLatin1String(text));
+        QAction* action = addAction(Texts::tr(text));
         action->setObjectName(QLatin1String(name));
         connect(action, &QAction::triggered, this, run);
         return action;
     };
-    add("exportSettings", "&Export All Settings...", &SettingsMenu::Export);
-    add("importSettings", "&Import All Settings...", &SettingsMenu::Import);
+    add("exportSettings", QT_TRANSLATE_NOOP("SettingsMenu", "&Export All Settings..."),
+        &SettingsMenu::Export);
+    add("importSettings", QT_TRANSLATE_NOOP("SettingsMenu", "&Import All Settings..."),
+        &SettingsMenu::Import);
     addSeparator();
-    QMenu* schemes = addMenu(QStringLiteral("&Write the Colours of a Scheme"));
+    QMenu* schemes = addMenu(Texts::tr("&Write the Colours of a Scheme"));
     for (const QString& name : zncoreeditor::SchemeNames()) {
         QAction* action = schemes->addAction(name);
         action->setObjectName(QStringLiteral("write") + QString(name).remove(u' '));
@@ -42,15 +61,17 @@ SettingsMenu::SettingsMenu(CConfigFile& config, CFileTypeManager& languages, QWi
     }
     addSeparator();
     QAction* language =
-        add("resetLanguage", "This &Language as Shipped...", &SettingsMenu::ResetLanguage);
-    add("resetAll", "E&verything as Shipped...", &SettingsMenu::ResetAll);
+        add("resetLanguage", QT_TRANSLATE_NOOP("SettingsMenu", "This &Language as Shipped..."),
+            &SettingsMenu::ResetLanguage);
+    add("resetAll", QT_TRANSLATE_NOOP("SettingsMenu", "E&verything as Shipped..."),
+        &SettingsMenu::ResetAll);
     connect(this, &QMenu::aboutToShow, this,
             [this, language] { language->setEnabled(currentLanguage() >= 0); });
 }
 
 bool SettingsMenu::Agrees(const QString& text)
 {
-    return AskYesNoUnder(parentWidget(), kTitle, text);
+    return AskYesNoUnder(parentWidget(), Title(), text);
 }
 
 void SettingsMenu::Reload()
@@ -66,34 +87,33 @@ void SettingsMenu::Reload()
 void SettingsMenu::Export()
 {
     const QString path = AskSaveFile(
-        parentWidget(), QDir::home().filePath(QStringLiteral("editor.znsettings")), kFilter);
+        parentWidget(), QDir::home().filePath(QStringLiteral("editor.znsettings")), FileFilter());
     if (!path.isEmpty() && usersettings::Export(path) != usersettings::Result::Done)
-        ShowMessageUnder(parentWidget(), kTitle,
-                         QStringLiteral("%1 could not be written.").arg(path),
+        ShowMessageUnder(parentWidget(), Title(), Texts::tr("%1 could not be written.").arg(path),
                          MessageKind::Warning);
 }
 
 void SettingsMenu::Import()
 {
-    const QString path = AskOpenFile(parentWidget(), kFilter);
+    const QString path = AskOpenFile(parentWidget(), FileFilter());
     if (path.isEmpty() ||
-        !Agrees(QStringLiteral("All settings become those of %1, and the present ones are given "
-                               "up. %2\n\nImport them?")
-                    .arg(path, kLost)))
+        !Agrees(Texts::tr("All settings become those of %1, and the present ones are given "
+                          "up. %2\n\nImport them?")
+                    .arg(path, WhatIsLost())))
         return;
     switch (usersettings::Import(path)) {
     case usersettings::Result::Done:
         Reload();
         return;
     case usersettings::Result::NotWritten:
-        ShowMessageUnder(parentWidget(), kTitle,
-                         QStringLiteral("The settings could not be written; they are as they "
-                                        "were."),
+        ShowMessageUnder(parentWidget(), Title(),
+                         Texts::tr("The settings could not be written; they are as they "
+                                   "were."),
                          MessageKind::Warning);
         return;
     default:
-        ShowMessageUnder(parentWidget(), kTitle,
-                         QStringLiteral("%1 holds no settings of this editor.").arg(path),
+        ShowMessageUnder(parentWidget(), Title(),
+                         Texts::tr("%1 holds no settings of this editor.").arg(path),
                          MessageKind::Warning);
     }
 }
@@ -102,9 +122,9 @@ void SettingsMenu::ResetLanguage()
 {
     const int language = currentLanguage();
     const CSyntaxFile* file = m_languages.GetSyntaxFile(language);
-    if (!file || !Agrees(QStringLiteral("All settings of %1 become those that it was shipped with. "
-                                        "%2\n\nReset them?")
-                             .arg(m_languages.GetLanguageName(language), kLost)))
+    if (!file || !Agrees(Texts::tr("All settings of %1 become those that it was shipped with. "
+                                   "%2\n\nReset them?")
+                             .arg(m_languages.GetLanguageName(language), WhatIsLost())))
         return;
     usersettings::ResetLanguage(QFileInfo(file->GetFilename()).fileName());
     Reload();
@@ -112,9 +132,9 @@ void SettingsMenu::ResetLanguage()
 
 void SettingsMenu::ResetAll()
 {
-    if (!Agrees(QStringLiteral("The settings of all languages become those that they were shipped "
-                               "with. %1\n\nReset them?")
-                    .arg(kLost)))
+    if (!Agrees(Texts::tr("The settings of all languages become those that they were shipped "
+                          "with. %1\n\nReset them?")
+                    .arg(WhatIsLost())))
         return;
     usersettings::ResetAll();
     Reload();
@@ -126,9 +146,9 @@ void SettingsMenu::WriteScheme(const QString& name)
 {
     const ColourScheme* scheme = zncoreeditor::FindScheme(name);
     if (!scheme ||
-        !Agrees(QStringLiteral("The colours of all languages become those of \"%1\", and stay so "
-                               "whatever the desktop looks like. %2\n\nWrite them?")
-                    .arg(name, kLost)))
+        !Agrees(Texts::tr("The colours of all languages become those of \"%1\", and stay so "
+                          "whatever the desktop looks like. %2\n\nWrite them?")
+                    .arg(name, WhatIsLost())))
         return;
     ::WriteScheme(*scheme, m_config, m_languages);
     QStringList notWritten;

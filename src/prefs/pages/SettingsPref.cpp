@@ -6,6 +6,7 @@
 #include "settings/SyntaxFile.h"
 
 #include <QCheckBox>
+#include <QCoreApplication>
 #include <QGroupBox>
 #include <QHBoxLayout>
 #include <QLabel>
@@ -14,6 +15,11 @@
 #include <QVBoxLayout>
 
 namespace {
+
+struct Texts
+{
+    Q_DECLARE_TR_FUNCTIONS(SettingsPref)
+};
 
 using Kind = SettingRow::Kind;
 namespace id = prefscontrol;
@@ -67,7 +73,7 @@ const SettingRow kCodingRows[] = {
 // A titled group at the end of the page; what it holds goes below one another.
 QVBoxLayout& AddGroup(QVBoxLayout& page, const char* title)
 {
-    auto* group = new QGroupBox(QLatin1String(title));
+    auto* group = new QGroupBox(Texts::tr(title));
     page.addWidget(group);
     return *new QVBoxLayout(group);
 }
@@ -142,21 +148,21 @@ int CSettingsPref::OnCommand(WPARAM wParam, LPARAM lParam)
 
 void CSettingsPref::AddCheck(QVBoxLayout& column, UINT id, const char* label)
 {
-    column.addWidget(AddControl(id, new QCheckBox(QLatin1String(label))));
+    column.addWidget(AddControl(id, new QCheckBox(Texts::tr(label))));
 }
 
 void CSettingsPref::AddRadio(QVBoxLayout& column, UINT id, const char* label)
 {
-    column.addWidget(AddControl(id, new QRadioButton(QLatin1String(label))));
+    column.addWidget(AddControl(id, new QRadioButton(Texts::tr(label))));
 }
 
 void CSettingsPref::AddNumber(QVBoxLayout& column, UINT id, const char* label)
 {
     constexpr int kDigits = 8;
     auto* row = new QHBoxLayout;
-    auto* text = new QLabel(QLatin1String(label));
+    auto* text = new QLabel(Texts::tr(label));
     auto* edit = AddControl(id, new QLineEdit);
-    edit->setAccessibleName(QLatin1String(label));
+    edit->setAccessibleName(Texts::tr(label));
     edit->setFixedWidth(edit->fontMetrics().averageCharWidth() * (kDigits + 4));
     text->setBuddy(edit);
     row->addWidget(text);
@@ -170,25 +176,30 @@ CEditorPref::CEditorPref() : CSettingsPref(kEditorRows) {}
 void CEditorPref::OnBuild(QWidget* window)
 {
     auto* page = new QVBoxLayout(window);
-    QVBoxLayout& shown = AddGroup(*page, "Shown Beside and In the Text");
-    AddCheck(shown, id::LineNumbers, "Line Numbers");
-    AddCheck(shown, id::BookmarkMargin, "Bookmark Margin");
-    AddCheck(shown, id::Outlining, "Outlining");
-    AddCheck(shown, id::WordWrap, "Word Wrap");
-    AddCheck(shown, id::EndOfLine, "End Of Line");
-    AddCheck(shown, id::Whitespace, "Whitespace");
-    AddCheck(shown, id::IndentGuides, "Indentation Guides");
+    QVBoxLayout& shown =
+        AddGroup(*page, QT_TRANSLATE_NOOP("SettingsPref", "Shown Beside and In the Text"));
+    AddCheck(shown, id::LineNumbers, QT_TRANSLATE_NOOP("SettingsPref", "Line Numbers"));
+    AddCheck(shown, id::BookmarkMargin, QT_TRANSLATE_NOOP("SettingsPref", "Bookmark Margin"));
+    AddCheck(shown, id::Outlining, QT_TRANSLATE_NOOP("SettingsPref", "Outlining"));
+    AddCheck(shown, id::WordWrap, QT_TRANSLATE_NOOP("SettingsPref", "Word Wrap"));
+    AddCheck(shown, id::EndOfLine, QT_TRANSLATE_NOOP("SettingsPref", "End Of Line"));
+    AddCheck(shown, id::Whitespace, QT_TRANSLATE_NOOP("SettingsPref", "Whitespace"));
+    AddCheck(shown, id::IndentGuides, QT_TRANSLATE_NOOP("SettingsPref", "Indentation Guides"));
 
-    QVBoxLayout& tabs = AddGroup(*page, "Tabs and Indentation");
-    AddNumber(tabs, id::TabSize, "Tab Size");
-    AddNumber(tabs, id::IndentSize, "Indent Size");
-    AddCheck(tabs, id::TabsToSpaces, "Pressing Tab inserts Spaces");
-    AddCheck(tabs, id::TabIndents, "Tab and Backspace (Un)Indent");
+    QVBoxLayout& tabs = AddGroup(*page, QT_TRANSLATE_NOOP("SettingsPref", "Tabs and Indentation"));
+    AddNumber(tabs, id::TabSize, QT_TRANSLATE_NOOP("SettingsPref", "Tab Size"));
+    AddNumber(tabs, id::IndentSize, QT_TRANSLATE_NOOP("SettingsPref", "Indent Size"));
+    AddCheck(tabs, id::TabsToSpaces,
+             QT_TRANSLATE_NOOP("SettingsPref", "Pressing Tab inserts Spaces"));
+    AddCheck(tabs, id::TabIndents,
+             QT_TRANSLATE_NOOP("SettingsPref", "Tab and Backspace (Un)Indent"));
 
-    QVBoxLayout& style = AddGroup(*page, "Auto Indentation Style");
-    AddRadio(style, id::IndentOff, "Off");
-    AddRadio(style, id::IndentAsAbove, "Follow Previous Line");
-    AddRadio(style, id::IndentByLanguage, "Follow Language Scoping");
+    QVBoxLayout& style =
+        AddGroup(*page, QT_TRANSLATE_NOOP("SettingsPref", "Auto Indentation Style"));
+    AddRadio(style, id::IndentOff, QT_TRANSLATE_NOOP("SettingsPref", "Off"));
+    AddRadio(style, id::IndentAsAbove, QT_TRANSLATE_NOOP("SettingsPref", "Follow Previous Line"));
+    AddRadio(style, id::IndentByLanguage,
+             QT_TRANSLATE_NOOP("SettingsPref", "Follow Language Scoping"));
     page->addStretch();
 }
 
@@ -197,19 +208,22 @@ CCodingPref::CCodingPref() : CSettingsPref(kCodingRows) {}
 void CCodingPref::OnBuild(QWidget* window)
 {
     auto* page = new QVBoxLayout(window);
-    QVBoxLayout& reading = AddGroup(*page, "Reading");
-    AddCheck(reading, id::SyntaxHighlighting, "Syntax &Highlighting");
-    AddCheck(reading, id::BraceMatching, "&Brace Matching");
+    QVBoxLayout& reading = AddGroup(*page, QT_TRANSLATE_NOOP("SettingsPref", "Reading"));
+    AddCheck(reading, id::SyntaxHighlighting,
+             QT_TRANSLATE_NOOP("SettingsPref", "Syntax &Highlighting"));
+    AddCheck(reading, id::BraceMatching, QT_TRANSLATE_NOOP("SettingsPref", "&Brace Matching"));
 
-    QVBoxLayout& completion = AddGroup(*page, "Completion");
-    AddCheck(completion, id::AutoCompletion, "&Auto Completion");
-    AddCheck(completion, id::CodeCompletion, "C&ode Completion");
-    AddRadio(completion, id::CompleteByTab, "&Tab Key");
-    AddRadio(completion, id::CompleteBySpace, "Space Bar &Key");
+    QVBoxLayout& completion = AddGroup(*page, QT_TRANSLATE_NOOP("SettingsPref", "Completion"));
+    AddCheck(completion, id::AutoCompletion, QT_TRANSLATE_NOOP("SettingsPref", "&Auto Completion"));
+    AddCheck(completion, id::CodeCompletion, QT_TRANSLATE_NOOP("SettingsPref", "C&ode Completion"));
+    AddRadio(completion, id::CompleteByTab, QT_TRANSLATE_NOOP("SettingsPref", "&Tab Key"));
+    AddRadio(completion, id::CompleteBySpace, QT_TRANSLATE_NOOP("SettingsPref", "Space Bar &Key"));
 
-    QVBoxLayout& saving = AddGroup(*page, "When a File is Saved");
-    AddCheck(saving, id::FinalNewLine, "Ensure Final New Line");
-    AddCheck(saving, id::SaveTabsAsSpaces, "Convert Tabs To Spaces");
-    AddCheck(saving, id::SaveTrimmed, "Trim Trailing Spaces");
+    QVBoxLayout& saving =
+        AddGroup(*page, QT_TRANSLATE_NOOP("SettingsPref", "When a File is Saved"));
+    AddCheck(saving, id::FinalNewLine, QT_TRANSLATE_NOOP("SettingsPref", "Ensure Final New Line"));
+    AddCheck(saving, id::SaveTabsAsSpaces,
+             QT_TRANSLATE_NOOP("SettingsPref", "Convert Tabs To Spaces"));
+    AddCheck(saving, id::SaveTrimmed, QT_TRANSLATE_NOOP("SettingsPref", "Trim Trailing Spaces"));
     page->addStretch();
 }

@@ -8,9 +8,15 @@
 #include "prefs/pages/SampleTexts.h"
 #include "settings/SyntaxFile.h"
 
+#include <QCoreApplication>
 #include <QVBoxLayout>
 
 namespace {
+
+struct Texts
+{
+    Q_DECLARE_TR_FUNCTIONS(StyleSample)
+};
 
 constexpr int kDefaultStyle = 32;
 constexpr int kLastStyle = 127;
@@ -32,7 +38,7 @@ StyleSample::StyleSample(QWidget* parent)
         return;
     }
     window->setFocusPolicy(Qt::NoFocus); // to look at, nothing to stop at on the way by keys
-    window->setAccessibleName(QStringLiteral("Sample of the language"));
+    window->setAccessibleName(Texts::tr("Sample of the language"));
     constexpr int kMargins = 5;
     constexpr int kAir = 6; // pixels
     for (int margin = 0; margin < kMargins; ++margin)

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "search/dialogs/FindBase.h"
 
+#include "common/Translations.h"
 #include "editing/ZNCoreEditorControlEx.h"
 #include "platform/dialogs/MenuButton.h"
 #include "platform/dialogs/MyComboBox.h"
@@ -12,6 +13,7 @@
 #include "search/dialogs/PatternMenus.h"
 
 #include <QCheckBox>
+#include <QCoreApplication>
 #include <QGridLayout>
 #include <QGroupBox>
 #include <QLabel>
@@ -20,6 +22,11 @@
 #include <QRadioButton>
 
 namespace {
+
+struct Texts
+{
+    Q_DECLARE_TR_FUNCTIONS(FindDialogs)
+};
 
 CFindReplaceManager& Manager()
 {
@@ -76,8 +83,9 @@ CMyComboBox* CFindBase::BuildBox(UINT id, const QString& label, const QString& d
     auto* text = new QLabel(label);
     text->setBuddy(box);
     auto* menu = AddControl(menuId, new CMenuButton(QStringLiteral(">")));
-    menu->setAccessibleName(QStringLiteral("Insert into \"%1\"").arg(QString(label).remove(u'&')));
-    menu->setToolTip(QStringLiteral("Insert part of an expression"));
+    menu->setAccessibleName(
+        Texts::tr("Insert into \"%1\"").arg(zncoreeditor::WithoutMnemonic(label)));
+    menu->setToolTip(Texts::tr("Insert part of an expression"));
     QObject::connect(menu, &CMenuButton::Chosen, box,
                      [this, id](const QString& row) { OnInsert(id, row); });
     const int row = grid.rowCount();
@@ -89,7 +97,7 @@ CMyComboBox* CFindBase::BuildBox(UINT id, const QString& label, const QString& d
 
 void CFindBase::BuildFindRow(QGridLayout& grid)
 {
-    BuildBox(findcontrol::FindBox, QStringLiteral("Find &what"), QStringLiteral("Text to look for"),
+    BuildBox(findcontrol::FindBox, Texts::tr("Find &what"), Texts::tr("Text to look for"),
              findcontrol::FindMenu, grid);
     GetDlgItem<CMenuButton>(findcontrol::FindMenu)->SetItems(ExpressionItems());
     m_fault = new FaultLine;
@@ -111,17 +119,17 @@ QWidget* CFindBase::BuildOptions()
     columns->setContentsMargins({});
     auto* checks = new QVBoxLayout;
     const auto add = [&](UINT id, const char* label) {
-        checks->addWidget(AddControl(id, new QCheckBox(QLatin1String(label))));
+        checks->addWidget(AddControl(id, new QCheckBox(Texts::tr(label))));
     };
-    add(findcontrol::WholeWord, "&Match whole word only");
-    add(findcontrol::MatchCase, "Matc&h case");
-    add(findcontrol::RegExp, "Regular e&xpression");
-    add(findcontrol::Wrap, "&Wrap around search");
+    add(findcontrol::WholeWord, QT_TRANSLATE_NOOP("FindDialogs", "&Match whole word only"));
+    add(findcontrol::MatchCase, QT_TRANSLATE_NOOP("FindDialogs", "Matc&h case"));
+    add(findcontrol::RegExp, QT_TRANSLATE_NOOP("FindDialogs", "Regular e&xpression"));
+    add(findcontrol::Wrap, QT_TRANSLATE_NOOP("FindDialogs", "&Wrap around search"));
     columns->addLayout(checks);
-    auto* group = new QGroupBox(QStringLiteral("Direction"));
+    auto* group = new QGroupBox(Texts::tr("Direction"));
     auto* radios = new QVBoxLayout(group);
-    radios->addWidget(AddControl(findcontrol::Up, new QRadioButton(QStringLiteral("&Up"))));
-    radios->addWidget(AddControl(findcontrol::Down, new QRadioButton(QStringLiteral("&Down"))));
+    radios->addWidget(AddControl(findcontrol::Up, new QRadioButton(Texts::tr("&Up"))));
+    radios->addWidget(AddControl(findcontrol::Down, new QRadioButton(Texts::tr("&Down"))));
     radios->addStretch();
     columns->addWidget(group);
     columns->addStretch();
@@ -232,7 +240,7 @@ void CFindBase::OnControl(UINT id, UINT code)
 
 void CFindBase::SayNotFound(const QString& text)
 {
-    ShowMessage(GetSafeHwnd(), QStringLiteral("Could not find the string '%1'.").arg(text),
+    ShowMessage(GetSafeHwnd(), Texts::tr("Could not find the string '%1'.").arg(text),
                 MessageKind::Plain);
 }
 

@@ -21,6 +21,11 @@
 
 namespace {
 
+struct Texts
+{
+    Q_DECLARE_TR_FUNCTIONS(FindDialogs)
+};
+
 constexpr long kBookmark = 1; // the marker's bit
 constexpr UINT kNoFindDialog = 28174;
 constexpr UINT kNoReplaceDialog = 28175;
@@ -120,7 +125,7 @@ void SayNoDialog(CZNCoreEditorControlEx* control, UINT text)
 
 void CFindDialog::OnBuild(QWidget* window)
 {
-    window->setWindowTitle(QStringLiteral("Find"));
+    window->setWindowTitle(Texts::tr("Find"));
     auto* columns = new QHBoxLayout(window);
     auto* left = new QVBoxLayout;
     columns->addLayout(left, 1);
@@ -133,13 +138,13 @@ void CFindDialog::OnBuild(QWidget* window)
     auto* buttons = new QVBoxLayout;
     columns->addLayout(buttons);
     const auto add = [&](UINT id, const char* label) {
-        auto* button = AddControl(id, new QPushButton(QLatin1String(label)));
+        auto* button = AddControl(id, new QPushButton(Texts::tr(label)));
         buttons->addWidget(button);
         return button;
     };
-    add(findcontrol::Find, "&Find")->setDefault(true);
-    add(findcontrol::BookmarkAll, "Bookmark &All");
-    add(IDCANCEL, "&Cancel");
+    add(findcontrol::Find, QT_TRANSLATE_NOOP("FindDialogs", "&Find"))->setDefault(true);
+    add(findcontrol::BookmarkAll, QT_TRANSLATE_NOOP("FindDialogs", "Bookmark &All"));
+    add(IDCANCEL, QT_TRANSLATE_NOOP("FindDialogs", "&Cancel"));
     buttons->addStretch();
 }
 
@@ -187,16 +192,15 @@ const CommandMap& CFindDialog::GetCommandMap() const
 
 void CFindReplace::OnBuild(QWidget* window)
 {
-    window->setWindowTitle(QStringLiteral("Find & Replace"));
+    window->setWindowTitle(Texts::tr("Find & Replace"));
     auto* columns = new QHBoxLayout(window);
     auto* left = new QVBoxLayout;
     columns->addLayout(left, 1);
     auto* grid = new QGridLayout;
     left->addLayout(grid);
     BuildFindRow(*grid);
-    BuildBox(findcontrol::ReplaceBox, QStringLiteral("Re&place with"),
-             QStringLiteral("Text to put in the place of a match"), findcontrol::ReplaceMenu,
-             *grid);
+    BuildBox(findcontrol::ReplaceBox, Texts::tr("Re&place with"),
+             Texts::tr("Text to put in the place of a match"), findcontrol::ReplaceMenu, *grid);
     GetDlgItem<CMenuButton>(findcontrol::ReplaceMenu)->SetItems(ReplacementItems());
     left->addWidget(BuildOptions());
     left->addStretch();
@@ -204,15 +208,15 @@ void CFindReplace::OnBuild(QWidget* window)
     auto* buttons = new QVBoxLayout;
     columns->addLayout(buttons);
     const auto add = [&](UINT id, const char* label) {
-        auto* button = AddControl(id, new QPushButton(QLatin1String(label)));
+        auto* button = AddControl(id, new QPushButton(Texts::tr(label)));
         buttons->addWidget(button);
         return button;
     };
-    add(findcontrol::Find, "&Find")->setDefault(true);
-    add(findcontrol::Replace, "&Replace");
-    add(findcontrol::ReplaceAll, "Replace &All");
-    add(findcontrol::InSelection, "In &Selection");
-    add(IDCANCEL, "&Cancel");
+    add(findcontrol::Find, QT_TRANSLATE_NOOP("FindDialogs", "&Find"))->setDefault(true);
+    add(findcontrol::Replace, QT_TRANSLATE_NOOP("FindDialogs", "&Replace"));
+    add(findcontrol::ReplaceAll, QT_TRANSLATE_NOOP("FindDialogs", "Replace &All"));
+    add(findcontrol::InSelection, QT_TRANSLATE_NOOP("FindDialogs", "In &Selection"));
+    add(IDCANCEL, QT_TRANSLATE_NOOP("FindDialogs", "&Cancel"));
     buttons->addStretch();
 }
 
@@ -238,7 +242,7 @@ void CFindReplace::OnFind()
         return;
     const QString text = Box(findcontrol::FindBox).currentText();
     if (text.isEmpty())
-        ShowMessage(GetSafeHwnd(), QStringLiteral("Enter find string"), MessageKind::Plain);
+        ShowMessage(GetSafeHwnd(), Texts::tr("Enter find string"), MessageKind::Plain);
     else
         FindText(text);
 }
@@ -282,7 +286,7 @@ void CFindReplace::OnReplaceAll(bool inSelection)
         return;
     const QString text = Box(findcontrol::FindBox).currentText();
     if (text.isEmpty()) {
-        ShowMessage(GetSafeHwnd(), QStringLiteral("Enter find string"), MessageKind::Plain);
+        ShowMessage(GetSafeHwnd(), Texts::tr("Enter find string"), MessageKind::Plain);
         return;
     }
     CFindReplaceManager& manager = *zncoreeditor::GetFindReplaceManager();
@@ -294,10 +298,9 @@ void CFindReplace::OnReplaceAll(bool inSelection)
     if (count == 0)
         SayNotFound(text);
     else
-        ShowMessage(
-            GetSafeHwnd(),
-            QStringLiteral("Replaced %1 occurrences of '%2'").arg(QString::number(count), text),
-            MessageKind::Plain);
+        ShowMessage(GetSafeHwnd(),
+                    Texts::tr("Replaced %1 occurrences of '%2'").arg(QString::number(count), text),
+                    MessageKind::Plain);
 }
 
 const CommandMap& CFindReplace::GetCommandMap() const

@@ -12,6 +12,7 @@
 #include "search/dialogs/PatternMenus.h"
 
 #include <QCheckBox>
+#include <QCoreApplication>
 #include <QGridLayout>
 #include <QLabel>
 #include <QPushButton>
@@ -20,6 +21,11 @@
 #include <unistd.h>
 
 namespace {
+
+struct Texts
+{
+    Q_DECLARE_TR_FUNCTIONS(FindInFiles)
+};
 
 constexpr int kAdvancedHeight = 190; // of the pane that opens below
 
@@ -62,7 +68,7 @@ CMyComboBox* CFindInFilesDlg::BuildBox(UINT id, const QString& label, const QStr
 
 void CFindInFilesDlg::OnBuild(QWidget* window)
 {
-    window->setWindowTitle(QStringLiteral("Find In Files"));
+    window->setWindowTitle(Texts::tr("Find In Files"));
     auto* rows = new QVBoxLayout(window);
     auto* columns = new QHBoxLayout;
     rows->addLayout(columns);
@@ -71,11 +77,10 @@ void CFindInFilesDlg::OnBuild(QWidget* window)
     auto* grid = new QGridLayout;
     left->addLayout(grid);
 
-    BuildBox(findcontrol::FindBox, QStringLiteral("Find &what"), QStringLiteral("Text to look for"),
-             *grid);
+    BuildBox(findcontrol::FindBox, Texts::tr("Find &what"), Texts::tr("Text to look for"), *grid);
     auto* menu = AddControl(findcontrol::FindMenu, new CMenuButton(QStringLiteral(">")));
-    menu->setAccessibleName(QStringLiteral("Insert into \"Find what\""));
-    menu->setToolTip(QStringLiteral("Insert part of an expression"));
+    menu->setAccessibleName(Texts::tr("Insert into \"Find what\""));
+    menu->setToolTip(Texts::tr("Insert part of an expression"));
     menu->SetItems(ExpressionItems());
     QObject::connect(menu, &CMenuButton::Chosen, window,
                      [this](const QString& row) { OnInsert(row); });
@@ -86,35 +91,36 @@ void CFindInFilesDlg::OnBuild(QWidget* window)
                      [this] { ShowFault(); });
 
     auto* inFiles =
-        AddControl(findcontrol::InFiles, new QRadioButton(QStringLiteral("In files/file t&ypes")));
+        AddControl(findcontrol::InFiles, new QRadioButton(Texts::tr("In files/file t&ypes")));
     grid->addWidget(inFiles, grid->rowCount(), 0);
     CMyComboBox* types = AddControl(findcontrol::TypeBox, new CMyComboBox);
-    types->setAccessibleName(QStringLiteral("File types"));
-    types->setAccessibleDescription(QStringLiteral("Patterns of names, as *.sql;*.txt"));
+    types->setAccessibleName(Texts::tr("File types"));
+    types->setAccessibleDescription(Texts::tr("Patterns of names, as *.sql;*.txt"));
     types->setToolTip(types->accessibleDescription());
     grid->addWidget(types, grid->rowCount() - 1, 1);
-    BuildBox(findcontrol::FolderBox, QStringLiteral("In f&older"),
-             QStringLiteral("Folder whose files are searched"), *grid);
+    BuildBox(findcontrol::FolderBox, Texts::tr("In f&older"),
+             Texts::tr("Folder whose files are searched"), *grid);
     auto* picker =
         AddControl(findcontrol::FolderPicker,
                    new CFileEditCtrl(CFileEditCtrl::Folders | CFileEditCtrl::ButtonAlone));
     QObject::connect(picker, &CFileEditCtrl::Changed, window, [this] { OnFolderPicked(); });
     grid->addWidget(picker, grid->rowCount() - 1, 2);
-    grid->addWidget(AddControl(findcontrol::InOpenFiles,
-                               new QRadioButton(QStringLiteral("In all open f&iles"))),
-                    grid->rowCount(), 0, 1, 2);
+    grid->addWidget(
+        AddControl(findcontrol::InOpenFiles, new QRadioButton(Texts::tr("In all open f&iles"))),
+        grid->rowCount(), 0, 1, 2);
 
     auto* checks = new QGridLayout;
     left->addLayout(checks);
     const auto add = [&](UINT id, const char* label, int row, int column) {
-        checks->addWidget(AddControl(id, new QCheckBox(QLatin1String(label))), row, column);
+        checks->addWidget(AddControl(id, new QCheckBox(Texts::tr(label))), row, column);
     };
-    add(findcontrol::WholeWord, "&Match whole word only", 0, 0);
-    add(findcontrol::MatchCase, "M&atch case", 1, 0);
-    add(findcontrol::RegExp, "Regular e&xpression", 2, 0);
-    add(findcontrol::SubFolders, "&Look in subfolders", 0, 1);
-    add(findcontrol::OutputPane2, "Output to pane &2", 1, 1);
-    add(findcontrol::CountOnly, "&Just output matching count", 2, 1);
+    add(findcontrol::WholeWord, QT_TRANSLATE_NOOP("FindInFiles", "&Match whole word only"), 0, 0);
+    add(findcontrol::MatchCase, QT_TRANSLATE_NOOP("FindInFiles", "M&atch case"), 1, 0);
+    add(findcontrol::RegExp, QT_TRANSLATE_NOOP("FindInFiles", "Regular e&xpression"), 2, 0);
+    add(findcontrol::SubFolders, QT_TRANSLATE_NOOP("FindInFiles", "&Look in subfolders"), 0, 1);
+    add(findcontrol::OutputPane2, QT_TRANSLATE_NOOP("FindInFiles", "Output to pane &2"), 1, 1);
+    add(findcontrol::CountOnly, QT_TRANSLATE_NOOP("FindInFiles", "&Just output matching count"), 2,
+        1);
     left->addStretch();
 
     auto* buttons = new QVBoxLayout;
@@ -124,9 +130,9 @@ void CFindInFilesDlg::OnBuild(QWidget* window)
         buttons->addWidget(made);
         return made;
     };
-    button(IDOK, QStringLiteral("&Find"))->setDefault(true);
-    button(IDCANCEL, QStringLiteral("&Cancel"));
-    button(findcontrol::Advanced, QStringLiteral("Ad&vanced >>"))->setAutoDefault(false);
+    button(IDOK, Texts::tr("&Find"))->setDefault(true);
+    button(IDCANCEL, Texts::tr("&Cancel"));
+    button(findcontrol::Advanced, Texts::tr("Ad&vanced >>"))->setAutoDefault(false);
     buttons->addStretch();
     BuildAdvanced(window);
     rows->addWidget(m_advanced);
@@ -140,16 +146,16 @@ void CFindInFilesDlg::BuildAdvanced(QWidget* window)
     columns->setContentsMargins({});
     auto* rows = new QVBoxLayout;
     columns->addLayout(rows, 1);
-    auto* label = AddControl(findcontrol::FoldersLabel,
-                             new QLabel(QStringLiteral("Look in additional folders:")));
+    auto* label =
+        AddControl(findcontrol::FoldersLabel, new QLabel(Texts::tr("Look in additional folders:")));
     auto* list = AddControl(findcontrol::Folders, new CZNBaseEditListBox);
     list->SetBrowse([this](const QString& start) {
-        return BrowseForFolder(GetSafeHwnd(), QStringLiteral("Browse for Folder"), start);
+        return BrowseForFolder(GetSafeHwnd(), Texts::tr("Browse for Folder"), start);
     });
     label->setBuddy(list);
     rows->addWidget(label);
     rows->addWidget(list);
-    auto* add = AddControl(findcontrol::AddFolder, new QPushButton(QStringLiteral("A&dd Folder")));
+    auto* add = AddControl(findcontrol::AddFolder, new QPushButton(Texts::tr("A&dd Folder")));
     add->setAutoDefault(false);
     columns->addWidget(add, 0, Qt::AlignTop);
     // The window is laid out to its last pixel at once, so that it grows by the pane alone.
@@ -230,8 +236,7 @@ void CFindInFilesDlg::OnAdvanced()
     window->layout()->activate();
     window->resize(size.width(), height);
     GetDlgItem<QPushButton>(findcontrol::Advanced)
-        ->setText(m_bAdvancedOpen ? QStringLiteral("Ad&vanced <<")
-                                  : QStringLiteral("Ad&vanced >>"));
+        ->setText(m_bAdvancedOpen ? Texts::tr("Ad&vanced <<") : Texts::tr("Ad&vanced >>"));
 }
 
 void CFindInFilesDlg::OnAddFolder()
@@ -272,14 +277,13 @@ bool CFindInFilesDlg::TakePlaces()
 {
     const QString types = Box(findcontrol::TypeBox).currentText();
     if (types.isEmpty())
-        return Refuse(QStringLiteral("Enter Type!"), findcontrol::TypeBox);
+        return Refuse(Texts::tr("Enter Type!"), findcontrol::TypeBox);
     Manager().AddTypeHistory(types);
     const QString folder = Box(findcontrol::FolderBox).currentText();
     if (folder.isEmpty())
-        return Refuse(QStringLiteral("Enter Path!"), findcontrol::FolderBox);
+        return Refuse(Texts::tr("Enter Path!"), findcontrol::FolderBox);
     if (!Exists(folder))
-        return Refuse(QStringLiteral("Path '%1' does not exists").arg(folder),
-                      findcontrol::FolderBox);
+        return Refuse(Texts::tr("Path '%1' does not exists").arg(folder), findcontrol::FolderBox);
     Manager().AddLocationHistory(folder);
     return true;
 }
@@ -288,7 +292,7 @@ void CFindInFilesDlg::OnOK()
 {
     const QString text = Box(findcontrol::FindBox).currentText();
     if (text.isEmpty()) {
-        Refuse(QStringLiteral("Enter Find String!"), findcontrol::FindBox);
+        Refuse(Texts::tr("Enter Find String!"), findcontrol::FindBox);
         return;
     }
     CFindReplaceManager& manager = Manager();

@@ -7,51 +7,67 @@
 #include <QKeyEvent>
 #include <QLineEdit>
 
+#include <span>
+
 namespace {
 
 constexpr const char* kExpression[] = {
-    "Beginning of line\t^",
-    "End of line\t$",
-    "Any character\t.",
-    "Character class\t[]",
-    "Negated character class\t[^]",
-    "Define a group\t\\(\\)",
-    "Match left OR right expr.\t|",
-    "Position after match\t\\c",
-    "Preceding expr. zero or more\t*",
-    "Preceding expr. 1 or more\t+",
-    "Preceding expr. 0 or 1\t?",
-    "Newline character\t\\n",
-    "Carriage return\t\\r",
-    "Tab\t\\t",
-    "Backspace\t\\b",
-    "Form feed\t\\f",
-    "Hexadecimal digit\t\\x",
-    "Escape\t\\",
-    "Alphanumeric\t[a-zA-Z0-9]",
+    QT_TRANSLATE_NOOP("PatternMenus", "Beginning of line\t^"),
+    QT_TRANSLATE_NOOP("PatternMenus", "End of line\t$"),
+    QT_TRANSLATE_NOOP("PatternMenus", "Any character\t."),
+    QT_TRANSLATE_NOOP("PatternMenus", "Character class\t[]"),
+    QT_TRANSLATE_NOOP("PatternMenus", "Negated character class\t[^]"),
+    QT_TRANSLATE_NOOP("PatternMenus", "Define a group\t\\(\\)"),
+    QT_TRANSLATE_NOOP("PatternMenus", "Match left OR right expr.\t|"),
+    QT_TRANSLATE_NOOP("PatternMenus", "Position after match\t\\c"),
+    QT_TRANSLATE_NOOP("PatternMenus", "Preceding expr. zero or more\t*"),
+    QT_TRANSLATE_NOOP("PatternMenus", "Preceding expr. 1 or more\t+"),
+    QT_TRANSLATE_NOOP("PatternMenus", "Preceding expr. 0 or 1\t?"),
+    QT_TRANSLATE_NOOP("PatternMenus", "Newline character\t\\n"),
+    QT_TRANSLATE_NOOP("PatternMenus", "Carriage return\t\\r"),
+    QT_TRANSLATE_NOOP("PatternMenus", "Tab\t\\t"),
+    QT_TRANSLATE_NOOP("PatternMenus", "Backspace\t\\b"),
+    QT_TRANSLATE_NOOP("PatternMenus", "Form feed\t\\f"),
+    QT_TRANSLATE_NOOP("PatternMenus", "Hexadecimal digit\t\\x"),
+    QT_TRANSLATE_NOOP("PatternMenus", "Escape\t\\"),
+    QT_TRANSLATE_NOOP("PatternMenus", "Alphanumeric\t[a-zA-Z0-9]"),
 };
 
 constexpr const char* kReplacement[] = {
-    "Subexpression 1\t\\1", "Subexpression 2\t\\2",
-    "Subexpression 3\t\\3", "Subexpression 4\t\\4",
-    "Subexpression 5\t\\5", "Subexpression 6\t\\6",
-    "Subexpression 7\t\\7", "Subexpression 8\t\\8",
-    "Subexpression 9\t\\9", "Tab\t\\t",
-    "New Line\t\\n",
+    QT_TRANSLATE_NOOP("PatternMenus", "Subexpression 1\t\\1"),
+    QT_TRANSLATE_NOOP("PatternMenus", "Subexpression 2\t\\2"),
+    QT_TRANSLATE_NOOP("PatternMenus", "Subexpression 3\t\\3"),
+    QT_TRANSLATE_NOOP("PatternMenus", "Subexpression 4\t\\4"),
+    QT_TRANSLATE_NOOP("PatternMenus", "Subexpression 5\t\\5"),
+    QT_TRANSLATE_NOOP("PatternMenus", "Subexpression 6\t\\6"),
+    QT_TRANSLATE_NOOP("PatternMenus", "Subexpression 7\t\\7"),
+    QT_TRANSLATE_NOOP("PatternMenus", "Subexpression 8\t\\8"),
+    QT_TRANSLATE_NOOP("PatternMenus", "Subexpression 9\t\\9"),
+    QT_TRANSLATE_NOOP("PatternMenus", "Tab\t\\t"),
+    QT_TRANSLATE_NOOP("PatternMenus", "New Line\t\\n"),
 };
 
 constexpr QChar kCaretMark(1);
 
-} // namespace
-
-MenuTexts ExpressionItems()
+// What stands behind the tab goes into the edit, and is the same in every language.
+QStringList Translated(std::span<const char* const> rows)
 {
-    return kExpression;
+    QStringList texts;
+    for (const char* row : rows)
+        texts << QCoreApplication::translate("PatternMenus", row);
+    return texts;
 }
 
-MenuTexts ReplacementItems()
+} // namespace
+
+QStringList ExpressionItems()
 {
-    return kReplacement;
+    return Translated(kExpression);
+}
+
+QStringList ReplacementItems()
+{
+    return Translated(kReplacement);
 }
 
 // The tab itself is typed with the text, and the edit refuses it.

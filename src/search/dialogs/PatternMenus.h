@@ -4,12 +4,14 @@
 #pragma once
 
 #include "common/Export.h"
-#include "platform/dialogs/MenuButton.h"
+
+#include <QStringList>
 
 class CMyComboBox;
 
-ZN_API MenuTexts ExpressionItems();
-ZN_API MenuTexts ReplacementItems();
+// Rows of a CMenuButton.
+ZN_API QStringList ExpressionItems();
+ZN_API QStringList ReplacementItems();
 
 // Types what stands behind the row's tab where the caret of the box was, and gives it the focus. A
 // character of the code 1 is not typed: it says where the caret goes. False for a row without a

@@ -4,14 +4,21 @@
 #include "engine/search/Expression.h"
 #include "engine/search/ExpressionTranslator.h"
 
+#include <QCoreApplication>
+
 namespace {
+
+struct Texts
+{
+    Q_DECLARE_TR_FUNCTIONS(ExpressionFault)
+};
 
 QString FaultAt(const std::string& pattern, std::size_t place)
 {
     if (place >= pattern.size())
-        return QStringLiteral("The expression is not complete.");
+        return Texts::tr("The expression is not complete.");
     const qsizetype units = QString::fromUtf8(pattern.data(), static_cast<qsizetype>(place)).size();
-    return QStringLiteral("The expression cannot be read from character %1 on.").arg(units + 1);
+    return Texts::tr("The expression cannot be read from character %1 on.").arg(units + 1);
 }
 
 } // namespace
@@ -31,6 +38,6 @@ QString ExpressionFault(const QString& expression, bool perlSyntax)
     if (!translated)
         return FaultAt(pattern, translator.Stopped());
     if (!Expression::Compile(translated->pattern, Expression::Reading::Pattern, true))
-        return QStringLiteral("The expression cannot be used.");
+        return Texts::tr("The expression cannot be used.");
     return {};
 }

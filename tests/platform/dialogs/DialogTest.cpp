@@ -233,9 +233,8 @@ TEST(HistoryBoxes, ShowListsAsWideAsTheirWidestItem)
 
 TEST(MenuButtons, TellTheWholeRowOfTheChosenItem)
 {
-    static constexpr const char* kRows[] = {"Any character\t.", "Left & right"};
     CMenuButton button(QStringLiteral(">"));
-    button.SetItems(kRows);
+    button.SetItems({QStringLiteral("Any character\t."), QStringLiteral("Left & right")});
     QString chosen;
     QObject::connect(&button, &CMenuButton::Chosen, [&](const QString& row) { chosen = row; });
     button.menu()->actions()[0]->trigger();

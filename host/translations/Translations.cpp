@@ -1,0 +1,28 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "host/translations/Translations.h"
+
+#include "common/Translations.h"
+
+#include <QCoreApplication>
+#include <QLibraryInfo>
+#include <QTranslator>
+
+#include <vector>
+
+void InstallTranslations()
+{
+    static std::vector<QTranslator*> installed;
+    for (const QTranslator* translator : installed)
+        delete translator; // which takes it out of the application
+    installed.clear();
+    const QString language = zncoreeditor::GetUiLanguage();
+    const QString catalogues[] = {
+        QLibraryInfo::path(QLibraryInfo::TranslationsPath) + QStringLiteral("/qtbase_") + language,
+        QStringLiteral(":/znworkbench/i18n/znworkbench_") + language,
+    };
+    for (const QString& catalogue : catalogues) {
+        auto* translator = installed.emplace_back(new QTranslator);
+        if (translator->load(catalogue))
+            QCoreApplication::installTranslator(translator);
+    }
+}

@@ -1,0 +1,1749 @@
+<?xml version="1.0" encoding="utf-8"?>
+<!DOCTYPE TS>
+<TS version="2.1" language="es" sourcelanguage="en">
+<context>
+    <name>CColorButton</name>
+    <message>
+        <source>Default</source>
+        <translation>Predeterminado</translation>
+    </message>
+    <message>
+        <source>More Colors...</source>
+        <translation>Más colores...</translation>
+    </message>
+</context>
+<context>
+    <name>CDocTemplate</name>
+    <message>
+        <source>Untitled</source>
+        <translation>Sin título</translation>
+    </message>
+</context>
+<context>
+    <name>CFileException</name>
+    <message>
+        <source>%1 was not found.</source>
+        <translation>No se encontró %1.</translation>
+    </message>
+    <message>
+        <source>%1 is not a valid path.</source>
+        <translation>%1 no es una ruta válida.</translation>
+    </message>
+    <message>
+        <source>%1 could not be opened: too many files are open.</source>
+        <translation>No se pudo abrir %1: hay demasiados archivos abiertos.</translation>
+    </message>
+    <message>
+        <source>%1 cannot be accessed.</source>
+        <translation>No se puede acceder a %1.</translation>
+    </message>
+    <message>
+        <source>%1 is in use by another program.</source>
+        <translation>Otro programa está usando %1.</translation>
+    </message>
+    <message>
+        <source>The disk is full: %1.</source>
+        <translation>El disco está lleno: %1.</translation>
+    </message>
+    <message>
+        <source>An error occurred while accessing %1.</source>
+        <translation>Se produjo un error al acceder a %1.</translation>
+    </message>
+</context>
+<context>
+    <name>CWinApp</name>
+    <message>
+        <source>%1 could not be opened.</source>
+        <translation>No se pudo abrir %1.</translation>
+    </message>
+    <message>
+        <source>%1 could not be saved.</source>
+        <translation>No se pudo guardar %1.</translation>
+    </message>
+    <message>
+        <source>Save the changes to %1?</source>
+        <translation>¿Guardar los cambios de %1?</translation>
+    </message>
+</context>
+<context>
+    <name>CZNCoreEditorControlEx</name>
+    <message>
+        <source>Scripts (*.sql);;DDL Files (*.ddl);;Queries (*.qry);;Text Files (*.txt);;All Files (*)</source>
+        <translation>Scripts (*.sql);;Archivos DDL (*.ddl);;Consultas (*.qry);;Archivos de texto (*.txt);;Todos los archivos (*)</translation>
+    </message>
+    <message>
+        <source>Hide LineNumbers</source>
+        <translation>Ocultar números de línea</translation>
+    </message>
+    <message>
+        <source>Show LineNumbers</source>
+        <translation>Mostrar números de línea</translation>
+    </message>
+    <message>
+        <source>Could not find the string &apos;%1&apos;.</source>
+        <translation>No se encontró el texto «%1».</translation>
+    </message>
+    <message>
+        <source>Search has finished searching the whole document</source>
+        <translation>Se ha recorrido todo el documento</translation>
+    </message>
+    <message>
+        <source>Could not save as PDF</source>
+        <translation>No se pudo guardar como PDF</translation>
+    </message>
+</context>
+<context>
+    <name>CZNCoreEditorDoc</name>
+    <message>
+        <source>&apos;%1&apos;
+File has been deleted outside of this application!
+Do you want to close this Document?</source>
+        <translation>«%1»
+¡El archivo se ha eliminado fuera de esta aplicación!
+¿Desea cerrar este documento?</translation>
+    </message>
+    <message>
+        <source>&apos;%1&apos;
+File has been modified outside of this application!
+Do you want to reload it?</source>
+        <translation>«%1»
+¡El archivo se ha modificado fuera de esta aplicación!
+¿Desea recargarlo?</translation>
+    </message>
+    <message>
+        <source>Do you want to reload &apos;%1&apos; ?</source>
+        <translation>¿Desea recargar «%1»?</translation>
+    </message>
+    <message>
+        <source>Do you want to set the file &apos;%1&apos; to read only too?</source>
+        <translation>¿Desea poner también el archivo «%1» en solo lectura?</translation>
+    </message>
+    <message>
+        <source> (Read Only)</source>
+        <translation> (Solo lectura)</translation>
+    </message>
+</context>
+<context>
+    <name>CZNCoreEditorView</name>
+    <message>
+        <source>Incremental search failed: %1|</source>
+        <translation>Búsqueda incremental sin resultado: %1|</translation>
+    </message>
+    <message>
+        <source>Incremental search: %1|</source>
+        <translation>Búsqueda incremental: %1|</translation>
+    </message>
+    <message>
+        <source>Incremental search reverse: %1|</source>
+        <translation>Búsqueda incremental hacia atrás: %1|</translation>
+    </message>
+    <message>
+        <source>Enter Input Param</source>
+        <translation>Introduzca un parámetro</translation>
+    </message>
+    <message>
+        <source>CR + LF (Windows)</source>
+        <translation>CR + LF (Windows)</translation>
+    </message>
+    <message>
+        <source>CR (Macintosh)</source>
+        <translation>CR (Macintosh)</translation>
+    </message>
+    <message>
+        <source>LF (Unix)</source>
+        <translation>LF (Unix)</translation>
+    </message>
+    <message>
+        <source>Unknown</source>
+        <translation>Desconocido</translation>
+    </message>
+    <message>
+        <source>Ln %1, Col %2</source>
+        <translation>Lín %1, Col %2</translation>
+    </message>
+    <message>
+        <source>Enter no of times to repeat</source>
+        <translation>Número de repeticiones</translation>
+    </message>
+    <message>
+        <source>Repeat Macro</source>
+        <translation>Repetir macro</translation>
+    </message>
+    <message>
+        <source>Stop Record	Ctrl+Shift+R</source>
+        <translation>Detener grabación	Control+Mayúsculas+R</translation>
+    </message>
+    <message>
+        <source>Record Macro	Ctrl+Shift+R</source>
+        <translation>Grabar macro	Control+Mayúsculas+R</translation>
+    </message>
+    <message>
+        <source>Could not find the string &apos;%1&apos;.</source>
+        <translation>No se encontró el texto «%1».</translation>
+    </message>
+    <message>
+        <source>Passed the end of the document</source>
+        <translation>Se ha pasado el final del documento</translation>
+    </message>
+    <message>
+        <source>Passed the start of the document</source>
+        <translation>Se ha pasado el principio del documento</translation>
+    </message>
+    <message>
+        <source>Hide %1</source>
+        <translation>Ocultar %1</translation>
+    </message>
+    <message>
+        <source>Show %1</source>
+        <translation>Mostrar %1</translation>
+    </message>
+    <message>
+        <source>LineNumbers</source>
+        <translation>Números de línea</translation>
+    </message>
+    <message>
+        <source>Bookmark Margin</source>
+        <translation>Margen de marcadores</translation>
+    </message>
+    <message>
+        <source>Fold Margin</source>
+        <translation>Margen de plegado</translation>
+    </message>
+    <message>
+        <source>Whitespace</source>
+        <translation>Espacios en blanco</translation>
+    </message>
+    <message>
+        <source>EOL</source>
+        <translation>Fines de línea</translation>
+    </message>
+</context>
+<context>
+    <name>ColorPopup</name>
+    <message>
+        <source>Palette</source>
+        <translation>Paleta</translation>
+    </message>
+</context>
+<context>
+    <name>ColorPref</name>
+    <message>
+        <source>St&amp;yles</source>
+        <translation>&amp;Estilos</translation>
+    </message>
+    <message>
+        <source>Styles</source>
+        <translation>Estilos</translation>
+    </message>
+    <message>
+        <source>Foreground Color</source>
+        <translation>Color del texto</translation>
+    </message>
+    <message>
+        <source>Background Color</source>
+        <translation>Color de fondo</translation>
+    </message>
+    <message>
+        <source>Reset All Colors</source>
+        <translation>Restablecer todos los colores</translation>
+    </message>
+    <message>
+        <source>Sample Editor Area</source>
+        <translation>Ejemplo del editor</translation>
+    </message>
+    <message>
+        <source>Sample Text</source>
+        <translation>Texto de ejemplo</translation>
+    </message>
+    <message>
+        <source>Clearing color changes</source>
+        <translation>Borrar los cambios de color</translation>
+    </message>
+    <message>
+        <source>All of your color settings will be lost ! Are you sure ?</source>
+        <translation>¡Se perderán todos sus ajustes de color! ¿Está seguro?</translation>
+    </message>
+</context>
+<context>
+    <name>ContextMenu</name>
+    <message>
+        <source>&amp;Copy	Ctrl+C</source>
+        <translation>C&amp;opiar	Control+C</translation>
+    </message>
+    <message>
+        <source>&amp;Select All	Ctrl+A</source>
+        <translation>Seleccionar &amp;todo	Control+A</translation>
+    </message>
+    <message>
+        <source>Match To&amp;ken	Ctrl+]</source>
+        <translation>P&amp;aréntesis correspondiente	Control+]</translation>
+    </message>
+    <message>
+        <source>Line Numbers</source>
+        <translation>Números de línea</translation>
+    </message>
+    <message>
+        <source>&amp;Find...</source>
+        <translation>&amp;Buscar...</translation>
+    </message>
+    <message>
+        <source>Repeat Last Find</source>
+        <translation>Repetir la búsqueda</translation>
+    </message>
+    <message>
+        <source>&amp;Undo	Ctrl+Z</source>
+        <translation>&amp;Deshacer	Control+Z</translation>
+    </message>
+    <message>
+        <source>&amp;Redo	Ctrl+Y</source>
+        <translation>&amp;Rehacer	Control+Y</translation>
+    </message>
+    <message>
+        <source>Cu&amp;t	Ctrl+X</source>
+        <translation>&amp;Cortar	Control+X</translation>
+    </message>
+    <message>
+        <source>&amp;Paste	Ctrl+V</source>
+        <translation>&amp;Pegar	Control+V</translation>
+    </message>
+    <message>
+        <source>&amp;Delete	Del</source>
+        <translation>E&amp;liminar	Suprimir</translation>
+    </message>
+    <message>
+        <source>Insert File...</source>
+        <translation>Insertar archivo...</translation>
+    </message>
+    <message>
+        <source>Line Endings</source>
+        <translation>Fines de línea</translation>
+    </message>
+    <message>
+        <source>Windows (CR+LF)</source>
+        <translation>Windows (CR+LF)</translation>
+    </message>
+    <message>
+        <source>Unix (LF)</source>
+        <translation>Unix (LF)</translation>
+    </message>
+    <message>
+        <source>Mac (CR)</source>
+        <translation>Mac (CR)</translation>
+    </message>
+    <message>
+        <source>Co&amp;mment Out</source>
+        <translation>Come&amp;ntar</translation>
+    </message>
+    <message>
+        <source>U&amp;ndo Comment Out</source>
+        <translation>&amp;Quitar comentario</translation>
+    </message>
+    <message>
+        <source>Upper C&amp;ase</source>
+        <translation>&amp;Mayúsculas</translation>
+    </message>
+    <message>
+        <source>&amp;Lower Case</source>
+        <translation>M&amp;inúsculas</translation>
+    </message>
+    <message>
+        <source>&amp;Indent</source>
+        <translation>Aumentar san&amp;gría</translation>
+    </message>
+    <message>
+        <source>&amp;Outdent</source>
+        <translation>Reducir &amp;sangría</translation>
+    </message>
+    <message>
+        <source>R&amp;eplace...</source>
+        <translation>R&amp;eemplazar...</translation>
+    </message>
+</context>
+<context>
+    <name>EditListBox</name>
+    <message>
+        <source>Add</source>
+        <translation>Añadir</translation>
+    </message>
+    <message>
+        <source>Remove</source>
+        <translation>Quitar</translation>
+    </message>
+    <message>
+        <source>Move up</source>
+        <translation>Subir</translation>
+    </message>
+    <message>
+        <source>Move down</source>
+        <translation>Bajar</translation>
+    </message>
+    <message>
+        <source>Browse</source>
+        <translation>Examinar</translation>
+    </message>
+</context>
+<context>
+    <name>EditorPrefsDialog</name>
+    <message>
+        <source>Find a language or a page</source>
+        <translation>Buscar un lenguaje o una página</translation>
+    </message>
+    <message>
+        <source>Pages</source>
+        <translation>Páginas</translation>
+    </message>
+    <message>
+        <source>&amp;Settings</source>
+        <translation>A&amp;justes</translation>
+    </message>
+    <message>
+        <source>&amp;Ok</source>
+        <translation>A&amp;ceptar</translation>
+    </message>
+    <message>
+        <source>&amp;Cancel</source>
+        <translation>Ca&amp;ncelar</translation>
+    </message>
+    <message>
+        <source>&amp;Apply</source>
+        <translation>A&amp;plicar</translation>
+    </message>
+    <message>
+        <source>&amp;Help</source>
+        <translation>&amp;Ayuda</translation>
+    </message>
+    <message>
+        <source>Code</source>
+        <translation>Código</translation>
+    </message>
+    <message>
+        <source>Color</source>
+        <translation>Colores</translation>
+    </message>
+    <message>
+        <source>Font</source>
+        <translation>Fuente</translation>
+    </message>
+    <message>
+        <source>Keywords</source>
+        <translation>Palabras clave</translation>
+    </message>
+    <message>
+        <source>Colors and Fonts</source>
+        <translation>Colores y fuentes</translation>
+    </message>
+    <message>
+        <source>The changes are in force. Cancel does not take them back.</source>
+        <translation>Los cambios ya tienen efecto. Cancelar no los deshace.</translation>
+    </message>
+    <message>
+        <source>Editor and Language Preferences</source>
+        <translation>Preferencias del editor y de los lenguajes</translation>
+    </message>
+</context>
+<context>
+    <name>EngineWindow</name>
+    <message>
+        <source>Undo</source>
+        <translation>Deshacer</translation>
+    </message>
+    <message>
+        <source>Redo</source>
+        <translation>Rehacer</translation>
+    </message>
+    <message>
+        <source>Cut</source>
+        <translation>Cortar</translation>
+    </message>
+    <message>
+        <source>Copy</source>
+        <translation>Copiar</translation>
+    </message>
+    <message>
+        <source>Paste</source>
+        <translation>Pegar</translation>
+    </message>
+    <message>
+        <source>Delete</source>
+        <translation>Eliminar</translation>
+    </message>
+    <message>
+        <source>Select All</source>
+        <translation>Seleccionar todo</translation>
+    </message>
+    <message>
+        <source>Text editor</source>
+        <translation>Editor de texto</translation>
+    </message>
+</context>
+<context>
+    <name>ExpressionFault</name>
+    <message>
+        <source>The expression is not complete.</source>
+        <translation>La expresión está incompleta.</translation>
+    </message>
+    <message>
+        <source>The expression cannot be read from character %1 on.</source>
+        <translation>La expresión no se entiende a partir del carácter %1.</translation>
+    </message>
+    <message>
+        <source>The expression cannot be used.</source>
+        <translation>La expresión no se puede usar.</translation>
+    </message>
+</context>
+<context>
+    <name>FileEditCtrl</name>
+    <message>
+        <source>Browse for File</source>
+        <translation>Elegir archivo</translation>
+    </message>
+    <message>
+        <source>All Files (*)</source>
+        <translation>Todos los archivos (*)</translation>
+    </message>
+    <message>
+        <source>Folder</source>
+        <translation>Carpeta</translation>
+    </message>
+    <message>
+        <source>File</source>
+        <translation>Archivo</translation>
+    </message>
+    <message>
+        <source>Browse for a folder</source>
+        <translation>Elegir una carpeta</translation>
+    </message>
+    <message>
+        <source>Browse for a file</source>
+        <translation>Elegir un archivo</translation>
+    </message>
+    <message>
+        <source>Enter an existing file.</source>
+        <translation>Indique un archivo existente.</translation>
+    </message>
+    <message>
+        <source>%1 does not exist.</source>
+        <translation>%1 no existe.</translation>
+    </message>
+    <message>
+        <source>%1 is not a folder.</source>
+        <translation>%1 no es una carpeta.</translation>
+    </message>
+    <message>
+        <source>%1 is not a file.</source>
+        <translation>%1 no es un archivo.</translation>
+    </message>
+    <message>
+        <source>Browse for Folder</source>
+        <translation>Elegir carpeta</translation>
+    </message>
+</context>
+<context>
+    <name>FileResult</name>
+    <message>
+        <source>The editing engine could not be loaded.</source>
+        <translation>No se pudo cargar el motor de edición.</translation>
+    </message>
+    <message>
+        <source>The file does not exist.</source>
+        <translation>El archivo no existe.</translation>
+    </message>
+    <message>
+        <source>This is a folder or a device, not a file with a text.</source>
+        <translation>Es una carpeta o un dispositivo, no un archivo de texto.</translation>
+    </message>
+    <message>
+        <source>The file cannot be read. Check that you may read it.</source>
+        <translation>No se puede leer el archivo. Compruebe que tiene permiso para leerlo.</translation>
+    </message>
+    <message>
+        <source>The file has more than 2 GB, which is more than can be edited.</source>
+        <translation>El archivo tiene más de 2 GB, que es más de lo que se puede editar.</translation>
+    </message>
+    <message>
+        <source>Only the first part of the file could be read.</source>
+        <translation>Solo se pudo leer la primera parte del archivo.</translation>
+    </message>
+    <message>
+        <source>The folder does not exist.</source>
+        <translation>La carpeta no existe.</translation>
+    </message>
+    <message>
+        <source>You may not write there.</source>
+        <translation>No tiene permiso para escribir ahí.</translation>
+    </message>
+    <message>
+        <source>The disk is full.</source>
+        <translation>El disco está lleno.</translation>
+    </message>
+    <message>
+        <source>The encoding cannot hold all of the text.</source>
+        <translation>La codificación no puede representar todo el texto.</translation>
+    </message>
+    <message>
+        <source>The file could not be written.</source>
+        <translation>No se pudo escribir el archivo.</translation>
+    </message>
+</context>
+<context>
+    <name>FindDialogs</name>
+    <message>
+        <source>Insert into &quot;%1&quot;</source>
+        <translation>Insertar en «%1»</translation>
+    </message>
+    <message>
+        <source>Insert part of an expression</source>
+        <translation>Insertar parte de una expresión</translation>
+    </message>
+    <message>
+        <source>Find &amp;what</source>
+        <translation>B&amp;uscar</translation>
+    </message>
+    <message>
+        <source>Text to look for</source>
+        <translation>Texto que se busca</translation>
+    </message>
+    <message>
+        <source>&amp;Match whole word only</source>
+        <translation>S&amp;olo palabras completas</translation>
+    </message>
+    <message>
+        <source>Matc&amp;h case</source>
+        <translation>&amp;Distinguir mayúsculas</translation>
+    </message>
+    <message>
+        <source>Regular e&amp;xpression</source>
+        <translation>E&amp;xpresión regular</translation>
+    </message>
+    <message>
+        <source>&amp;Wrap around search</source>
+        <translation>&amp;Volver al principio al terminar</translation>
+    </message>
+    <message>
+        <source>Direction</source>
+        <translation>Dirección</translation>
+    </message>
+    <message>
+        <source>&amp;Up</source>
+        <translation>&amp;Arriba</translation>
+    </message>
+    <message>
+        <source>&amp;Down</source>
+        <translation>A&amp;bajo</translation>
+    </message>
+    <message>
+        <source>Could not find the string &apos;%1&apos;.</source>
+        <translation>No se encontró el texto «%1».</translation>
+    </message>
+    <message>
+        <source>Find</source>
+        <translation>Buscar</translation>
+    </message>
+    <message>
+        <source>&amp;Find</source>
+        <translation>&amp;Siguiente</translation>
+    </message>
+    <message>
+        <source>Bookmark &amp;All</source>
+        <translation>Poner &amp;marcador a todo</translation>
+    </message>
+    <message>
+        <source>&amp;Cancel</source>
+        <translation>&amp;Cancelar</translation>
+    </message>
+    <message>
+        <source>Find &amp; Replace</source>
+        <translation>Buscar y reemplazar</translation>
+    </message>
+    <message>
+        <source>Re&amp;place with</source>
+        <translation>Reemplazar &amp;por</translation>
+    </message>
+    <message>
+        <source>Text to put in the place of a match</source>
+        <translation>Texto que ocupa el lugar de una coincidencia</translation>
+    </message>
+    <message>
+        <source>&amp;Replace</source>
+        <translation>&amp;Reemplazar</translation>
+    </message>
+    <message>
+        <source>Replace &amp;All</source>
+        <translation>Reemplazar &amp;todo</translation>
+    </message>
+    <message>
+        <source>In &amp;Selection</source>
+        <translation>&amp;En la selección</translation>
+    </message>
+    <message>
+        <source>Enter find string</source>
+        <translation>Introduzca el texto que se busca</translation>
+    </message>
+    <message>
+        <source>Replaced %1 occurrences of &apos;%2&apos;</source>
+        <translation>%1 apariciones de «%2» reemplazadas</translation>
+    </message>
+</context>
+<context>
+    <name>FindInFiles</name>
+    <message>
+        <source>Find In Files</source>
+        <translation>Buscar en archivos</translation>
+    </message>
+    <message>
+        <source>Find &amp;what</source>
+        <translation>B&amp;uscar</translation>
+    </message>
+    <message>
+        <source>Text to look for</source>
+        <translation>Texto que se busca</translation>
+    </message>
+    <message>
+        <source>Insert into &quot;Find what&quot;</source>
+        <translation>Insertar en «Buscar»</translation>
+    </message>
+    <message>
+        <source>Insert part of an expression</source>
+        <translation>Insertar parte de una expresión</translation>
+    </message>
+    <message>
+        <source>In files/file t&amp;ypes</source>
+        <translation>E&amp;n archivos/tipos de archivo</translation>
+    </message>
+    <message>
+        <source>File types</source>
+        <translation>Tipos de archivo</translation>
+    </message>
+    <message>
+        <source>Patterns of names, as *.sql;*.txt</source>
+        <translation>Patrones de nombres, como *.sql;*.txt</translation>
+    </message>
+    <message>
+        <source>In f&amp;older</source>
+        <translation>&amp;En la carpeta</translation>
+    </message>
+    <message>
+        <source>Folder whose files are searched</source>
+        <translation>Carpeta en cuyos archivos se busca</translation>
+    </message>
+    <message>
+        <source>In all open f&amp;iles</source>
+        <translation>En todos &amp;los archivos abiertos</translation>
+    </message>
+    <message>
+        <source>&amp;Match whole word only</source>
+        <translation>&amp;Solo palabras completas</translation>
+    </message>
+    <message>
+        <source>M&amp;atch case</source>
+        <translation>Dis&amp;tinguir mayúsculas</translation>
+    </message>
+    <message>
+        <source>Regular e&amp;xpression</source>
+        <translation>Expresión &amp;regular</translation>
+    </message>
+    <message>
+        <source>&amp;Look in subfolders</source>
+        <translation>&amp;Incluir subcarpetas</translation>
+    </message>
+    <message>
+        <source>Output to pane &amp;2</source>
+        <translation>Resultados en el panel &amp;2</translation>
+    </message>
+    <message>
+        <source>&amp;Just output matching count</source>
+        <translation>&amp;Mostrar solo el número de coincidencias</translation>
+    </message>
+    <message>
+        <source>&amp;Find</source>
+        <translation>&amp;Buscar</translation>
+    </message>
+    <message>
+        <source>&amp;Cancel</source>
+        <translation>&amp;Cancelar</translation>
+    </message>
+    <message>
+        <source>Ad&amp;vanced &gt;&gt;</source>
+        <translation>&amp;Avanzado &gt;&gt;</translation>
+    </message>
+    <message>
+        <source>Look in additional folders:</source>
+        <translation>Buscar en otras carpetas:</translation>
+    </message>
+    <message>
+        <source>Browse for Folder</source>
+        <translation>Elegir carpeta</translation>
+    </message>
+    <message>
+        <source>A&amp;dd Folder</source>
+        <translation>Aña&amp;dir carpeta</translation>
+    </message>
+    <message>
+        <source>Ad&amp;vanced &lt;&lt;</source>
+        <translation>A&amp;vanzado &lt;&lt;</translation>
+    </message>
+    <message>
+        <source>Enter Type!</source>
+        <translation>¡Indique un tipo!</translation>
+    </message>
+    <message>
+        <source>Enter Path!</source>
+        <translation>¡Indique una ruta!</translation>
+    </message>
+    <message>
+        <source>Path &apos;%1&apos; does not exists</source>
+        <translation>La ruta «%1» no existe</translation>
+    </message>
+    <message>
+        <source>Enter Find String!</source>
+        <translation>¡Indique el texto que se busca!</translation>
+    </message>
+</context>
+<context>
+    <name>FontPref</name>
+    <message>
+        <source>Style</source>
+        <translation>Estilo</translation>
+    </message>
+    <message>
+        <source>%1, list</source>
+        <translation>%1, lista</translation>
+    </message>
+    <message>
+        <source>Font</source>
+        <translation>Fuente</translation>
+    </message>
+    <message>
+        <source>Size</source>
+        <translation>Tamaño</translation>
+    </message>
+    <message>
+        <source>Bold</source>
+        <translation>Negrita</translation>
+    </message>
+    <message>
+        <source>Italic</source>
+        <translation>Cursiva</translation>
+    </message>
+    <message>
+        <source>Underline</source>
+        <translation>Subrayado</translation>
+    </message>
+    <message>
+        <source>Apply to all Styles</source>
+        <translation>Aplicar a todos los estilos</translation>
+    </message>
+    <message>
+        <source>Sample Text Area</source>
+        <translation>Área de ejemplo</translation>
+    </message>
+    <message>
+        <source>Sample Text</source>
+        <translation>Texto de ejemplo</translation>
+    </message>
+    <message>
+        <source>Information</source>
+        <translation>Información</translation>
+    </message>
+    <message>
+        <source>All styles have been set to the currrent font selection.</source>
+        <translation>Todos los estilos tienen ahora la fuente elegida.</translation>
+    </message>
+</context>
+<context>
+    <name>Goto</name>
+    <message>
+        <source>Goto</source>
+        <translation>Ir a</translation>
+    </message>
+    <message>
+        <source>Goto Line :</source>
+        <translation>Ir a la línea:</translation>
+    </message>
+    <message>
+        <source>Goto Line</source>
+        <translation>Ir a la línea</translation>
+    </message>
+    <message>
+        <source>&amp;Go</source>
+        <translation>&amp;Ir</translation>
+    </message>
+    <message>
+        <source>&amp;Cancel</source>
+        <translation>&amp;Cancelar</translation>
+    </message>
+</context>
+<context>
+    <name>Hands</name>
+    <message>
+        <source>C&amp;omments</source>
+        <translation>&amp;Comentarios</translation>
+    </message>
+    <message>
+        <source>&amp;Toggle Comment</source>
+        <translation>Comentar &amp;o descomentar</translation>
+    </message>
+    <message>
+        <source>&amp;Lines</source>
+        <translation>&amp;Líneas</translation>
+    </message>
+    <message>
+        <source>Move Lines &amp;Up</source>
+        <translation>&amp;Mover líneas arriba</translation>
+    </message>
+    <message>
+        <source>Move Lines Do&amp;wn</source>
+        <translation>Mover &amp;líneas abajo</translation>
+    </message>
+    <message>
+        <source>Duplicate Line or Selection</source>
+        <translation>Duplicar línea o selección</translation>
+    </message>
+    <message>
+        <source>&amp;Join Lines</source>
+        <translation>&amp;Unir líneas</translation>
+    </message>
+    <message>
+        <source>Delete Li&amp;nes</source>
+        <translation>&amp;Eliminar líneas</translation>
+    </message>
+    <message>
+        <source>&amp;Select</source>
+        <translation>S&amp;eleccionar</translation>
+    </message>
+    <message>
+        <source>Li&amp;nes, One More Each Time</source>
+        <translation>Líneas, &amp;una más cada vez</translation>
+    </message>
+    <message>
+        <source>&amp;Grow</source>
+        <translation>A&amp;mpliar</translation>
+    </message>
+    <message>
+        <source>S&amp;hrink</source>
+        <translation>&amp;Reducir</translation>
+    </message>
+    <message>
+        <source>&amp;Statement</source>
+        <translation>&amp;Sentencia</translation>
+    </message>
+    <message>
+        <source>Surround</source>
+        <translation>Rodear</translation>
+    </message>
+    <message>
+        <source>By &amp;Parentheses</source>
+        <translation>Con &amp;paréntesis</translation>
+    </message>
+    <message>
+        <source>By &amp;Quotes</source>
+        <translation>Con comillas &amp;simples</translation>
+    </message>
+    <message>
+        <source>By &amp;Double Quotes</source>
+        <translation>Con comillas &amp;dobles</translation>
+    </message>
+    <message>
+        <source>By &amp;Brackets</source>
+        <translation>&amp;Con corchetes</translation>
+    </message>
+    <message>
+        <source>By B&amp;races</source>
+        <translation>Con &amp;llaves</translation>
+    </message>
+    <message>
+        <source>&amp;Indentation</source>
+        <translation>&amp;Sangría</translation>
+    </message>
+    <message>
+        <source>&amp;Paste as Indented Here</source>
+        <translation>&amp;Pegar con la sangría de aquí</translation>
+    </message>
+    <message>
+        <source>Go</source>
+        <translation>Ir</translation>
+    </message>
+    <message>
+        <source>&amp;Next Statement</source>
+        <translation>S&amp;entencia siguiente</translation>
+    </message>
+    <message>
+        <source>&amp;Previous Statement</source>
+        <translation>Sentencia &amp;anterior</translation>
+    </message>
+    <message>
+        <source>Next &amp;Batch</source>
+        <translation>Lote &amp;siguiente</translation>
+    </message>
+    <message>
+        <source>Previous B&amp;atch</source>
+        <translation>&amp;Lote anterior</translation>
+    </message>
+    <message>
+        <source>Folds</source>
+        <translation>Pliegues</translation>
+    </message>
+    <message>
+        <source>&amp;Fold</source>
+        <translation>&amp;Plegar</translation>
+    </message>
+    <message>
+        <source>&amp;Unfold</source>
+        <translation>&amp;Desplegar</translation>
+    </message>
+    <message>
+        <source>Fold &amp;All</source>
+        <translation>Plegar &amp;todo</translation>
+    </message>
+    <message>
+        <source>U&amp;nfold All</source>
+        <translation>D&amp;esplegar todo</translation>
+    </message>
+    <message>
+        <source>To Level &amp;1</source>
+        <translation>Hasta el nivel &amp;1</translation>
+    </message>
+    <message>
+        <source>To Level &amp;2</source>
+        <translation>Hasta el nivel &amp;2</translation>
+    </message>
+    <message>
+        <source>To Level &amp;3</source>
+        <translation>Hasta el nivel &amp;3</translation>
+    </message>
+</context>
+<context>
+    <name>InputBox</name>
+    <message>
+        <source>Input</source>
+        <translation>Entrada</translation>
+    </message>
+    <message>
+        <source> Cannot be empty</source>
+        <translation> no puede estar vacío</translation>
+    </message>
+</context>
+<context>
+    <name>KeywordPref</name>
+    <message>
+        <source>Keyword Type</source>
+        <translation>Tipo de palabras clave</translation>
+    </message>
+    <message>
+        <source>Keyword List</source>
+        <translation>Lista de palabras clave</translation>
+    </message>
+    <message>
+        <source>A last word of one letter is not kept, unless a blank follows it.</source>
+        <translation>Una última palabra de una sola letra solo se conserva si la sigue un espacio.</translation>
+    </message>
+    <message>
+        <source>Words with blanks or new lines between them.</source>
+        <translation>Palabras separadas por espacios o saltos de línea.</translation>
+    </message>
+</context>
+<context>
+    <name>Leftovers</name>
+    <message>
+        <source>This defines nothing: the name of a variable begins with &amp;&amp;.</source>
+        <translation>Esto no define nada: el nombre de una variable empieza por &amp;&amp;.</translation>
+    </message>
+    <message>
+        <source>This is not of the form %1 &amp;&amp;NAME VALUE, and nothing below is replaced.</source>
+        <translation>Esto no tiene la forma %1 &amp;&amp;NOMBRE VALOR, y debajo ya no se reemplaza nada.</translation>
+    </message>
+    <message>
+        <source>%1 is not defined: its value needs %2, which has none.</source>
+        <translation>%1 no está definida: su valor necesita %2, que no tiene ninguno.</translation>
+    </message>
+    <message>
+        <source>%1 is not defined: in its value nothing may follow a variable.</source>
+        <translation>%1 no está definida: en su valor no puede seguir nada a una variable.</translation>
+    </message>
+    <message>
+        <source>%1 is used above its definition, which then does not count.</source>
+        <translation>%1 se usa antes de su definición, que por eso no cuenta.</translation>
+    </message>
+    <message>
+        <source>Nothing defines %1.</source>
+        <translation>Nada define %1.</translation>
+    </message>
+</context>
+<context>
+    <name>LossCheck</name>
+    <message>
+        <source>“%1” has characters that %2 does not have. The first is %3 in line %4, column %5. In the file they would become question marks. UTF-8 keeps every character.</source>
+        <translation>«%1» tiene caracteres que no existen en %2. El primero es %3, en la línea %4, columna %5. En el archivo se convertirían en signos de interrogación. UTF-8 conserva todos los caracteres.</translation>
+    </message>
+</context>
+<context>
+    <name>MainColorFontPref</name>
+    <message>
+        <source>Caret Color</source>
+        <translation>Color del cursor</translation>
+    </message>
+    <message>
+        <source>Use Selected Text Foreground Color</source>
+        <translation>Color propio para el texto seleccionado</translation>
+    </message>
+    <message>
+        <source>Use Selected Text Background Color</source>
+        <translation>Color propio para el fondo de la selección</translation>
+    </message>
+    <message>
+        <source>Enable Highlight Current &amp;Line</source>
+        <translation>&amp;Resaltar la línea actual</translation>
+    </message>
+    <message>
+        <source>Enable Right Edge Warning</source>
+        <translation>Señalar el borde derecho</translation>
+    </message>
+    <message>
+        <source>In All Languages</source>
+        <translation>En todos los lenguajes</translation>
+    </message>
+    <message>
+        <source>Right Edge Position</source>
+        <translation>Posición del borde derecho</translation>
+    </message>
+</context>
+<context>
+    <name>NamedColors</name>
+    <message>
+        <source>Black</source>
+        <translation>Negro</translation>
+    </message>
+    <message>
+        <source>Brown</source>
+        <translation>Marrón</translation>
+    </message>
+    <message>
+        <source>Dark Olive Green</source>
+        <translation>Verde oliva oscuro</translation>
+    </message>
+    <message>
+        <source>Dark Green</source>
+        <translation>Verde oscuro</translation>
+    </message>
+    <message>
+        <source>Dark Teal</source>
+        <translation>Verde azulado oscuro</translation>
+    </message>
+    <message>
+        <source>Dark blue</source>
+        <translation>Azul oscuro</translation>
+    </message>
+    <message>
+        <source>Indigo</source>
+        <translation>Índigo</translation>
+    </message>
+    <message>
+        <source>Dark grey</source>
+        <translation>Gris oscuro</translation>
+    </message>
+    <message>
+        <source>Dark red</source>
+        <translation>Rojo oscuro</translation>
+    </message>
+    <message>
+        <source>Orange</source>
+        <translation>Naranja</translation>
+    </message>
+    <message>
+        <source>Dark yellow</source>
+        <translation>Amarillo oscuro</translation>
+    </message>
+    <message>
+        <source>Green</source>
+        <translation>Verde</translation>
+    </message>
+    <message>
+        <source>Teal</source>
+        <translation>Verde azulado</translation>
+    </message>
+    <message>
+        <source>Blue</source>
+        <translation>Azul</translation>
+    </message>
+    <message>
+        <source>Blue-grey</source>
+        <translation>Gris azulado</translation>
+    </message>
+    <message>
+        <source>Grey - 40</source>
+        <translation>Gris - 40</translation>
+    </message>
+    <message>
+        <source>Red</source>
+        <translation>Rojo</translation>
+    </message>
+    <message>
+        <source>Light orange</source>
+        <translation>Naranja claro</translation>
+    </message>
+    <message>
+        <source>Lime</source>
+        <translation>Lima</translation>
+    </message>
+    <message>
+        <source>Sea green</source>
+        <translation>Verde mar</translation>
+    </message>
+    <message>
+        <source>Aqua</source>
+        <translation>Aguamarina</translation>
+    </message>
+    <message>
+        <source>Light blue</source>
+        <translation>Azul claro</translation>
+    </message>
+    <message>
+        <source>Violet</source>
+        <translation>Violeta</translation>
+    </message>
+    <message>
+        <source>Grey - 50</source>
+        <translation>Gris - 50</translation>
+    </message>
+    <message>
+        <source>Pink</source>
+        <translation>Rosa</translation>
+    </message>
+    <message>
+        <source>Gold</source>
+        <translation>Dorado</translation>
+    </message>
+    <message>
+        <source>Yellow</source>
+        <translation>Amarillo</translation>
+    </message>
+    <message>
+        <source>Bright green</source>
+        <translation>Verde vivo</translation>
+    </message>
+    <message>
+        <source>Turquoise</source>
+        <translation>Turquesa</translation>
+    </message>
+    <message>
+        <source>Skyblue</source>
+        <translation>Azul cielo</translation>
+    </message>
+    <message>
+        <source>Plum</source>
+        <translation>Ciruela</translation>
+    </message>
+    <message>
+        <source>Light grey</source>
+        <translation>Gris claro</translation>
+    </message>
+    <message>
+        <source>Rose</source>
+        <translation>Rosa pálido</translation>
+    </message>
+    <message>
+        <source>Tan</source>
+        <translation>Canela</translation>
+    </message>
+    <message>
+        <source>Light yellow</source>
+        <translation>Amarillo claro</translation>
+    </message>
+    <message>
+        <source>Pale green </source>
+        <translation>Verde pálido</translation>
+    </message>
+    <message>
+        <source>Pale turquoise</source>
+        <translation>Turquesa pálido</translation>
+    </message>
+    <message>
+        <source>Pale blue</source>
+        <translation>Azul pálido</translation>
+    </message>
+    <message>
+        <source>Lavender</source>
+        <translation>Lavanda</translation>
+    </message>
+    <message>
+        <source>White</source>
+        <translation>Blanco</translation>
+    </message>
+</context>
+<context>
+    <name>PatternMenus</name>
+    <message>
+        <source>Beginning of line	^</source>
+        <translation>Principio de línea	^</translation>
+    </message>
+    <message>
+        <source>End of line	$</source>
+        <translation>Fin de línea	$</translation>
+    </message>
+    <message>
+        <source>Any character	.</source>
+        <translation>Cualquier carácter	.</translation>
+    </message>
+    <message>
+        <source>Character class	[]</source>
+        <translation>Clase de caracteres	[]</translation>
+    </message>
+    <message>
+        <source>Negated character class	[^]</source>
+        <translation>Clase de caracteres negada	[^]</translation>
+    </message>
+    <message>
+        <source>Define a group	\(\)</source>
+        <translation>Definir un grupo	\(\)</translation>
+    </message>
+    <message>
+        <source>Match left OR right expr.	|</source>
+        <translation>Expresión izquierda O derecha	|</translation>
+    </message>
+    <message>
+        <source>Position after match	\c</source>
+        <translation>Posición tras la coincidencia	\c</translation>
+    </message>
+    <message>
+        <source>Preceding expr. zero or more	*</source>
+        <translation>Expresión anterior, 0 o más veces	*</translation>
+    </message>
+    <message>
+        <source>Preceding expr. 1 or more	+</source>
+        <translation>Expresión anterior, 1 o más veces	+</translation>
+    </message>
+    <message>
+        <source>Preceding expr. 0 or 1	?</source>
+        <translation>Expresión anterior, 0 o 1 vez	?</translation>
+    </message>
+    <message>
+        <source>Newline character	\n</source>
+        <translation>Salto de línea	\n</translation>
+    </message>
+    <message>
+        <source>Carriage return	\r</source>
+        <translation>Retorno de carro	\r</translation>
+    </message>
+    <message>
+        <source>Tab	\t</source>
+        <translation>Tabulador	\t</translation>
+    </message>
+    <message>
+        <source>Backspace	\b</source>
+        <translation>Retroceso	\b</translation>
+    </message>
+    <message>
+        <source>Form feed	\f</source>
+        <translation>Salto de página	\f</translation>
+    </message>
+    <message>
+        <source>Hexadecimal digit	\x</source>
+        <translation>Dígito hexadecimal	\x</translation>
+    </message>
+    <message>
+        <source>Escape	\</source>
+        <translation>Escape	\</translation>
+    </message>
+    <message>
+        <source>Alphanumeric	[a-zA-Z0-9]</source>
+        <translation>Carácter alfanumérico	[a-zA-Z0-9]</translation>
+    </message>
+    <message>
+        <source>Subexpression 1	\1</source>
+        <translation>Subexpresión 1	\1</translation>
+    </message>
+    <message>
+        <source>Subexpression 2	\2</source>
+        <translation>Subexpresión 2	\2</translation>
+    </message>
+    <message>
+        <source>Subexpression 3	\3</source>
+        <translation>Subexpresión 3	\3</translation>
+    </message>
+    <message>
+        <source>Subexpression 4	\4</source>
+        <translation>Subexpresión 4	\4</translation>
+    </message>
+    <message>
+        <source>Subexpression 5	\5</source>
+        <translation>Subexpresión 5	\5</translation>
+    </message>
+    <message>
+        <source>Subexpression 6	\6</source>
+        <translation>Subexpresión 6	\6</translation>
+    </message>
+    <message>
+        <source>Subexpression 7	\7</source>
+        <translation>Subexpresión 7	\7</translation>
+    </message>
+    <message>
+        <source>Subexpression 8	\8</source>
+        <translation>Subexpresión 8	\8</translation>
+    </message>
+    <message>
+        <source>Subexpression 9	\9</source>
+        <translation>Subexpresión 9	\9</translation>
+    </message>
+    <message>
+        <source>New Line	\n</source>
+        <translation>Línea nueva	\n</translation>
+    </message>
+</context>
+<context>
+    <name>PrintService</name>
+    <message>
+        <source>No printer is set up. Do you want to save the pages as a PDF instead?</source>
+        <translation>No hay ninguna impresora configurada. ¿Desea guardar las páginas como PDF?</translation>
+    </message>
+    <message>
+        <source>The document could not be printed.</source>
+        <translation>No se pudo imprimir el documento.</translation>
+    </message>
+    <message>
+        <source>%1 could not be written.</source>
+        <translation>No se pudo escribir %1.</translation>
+    </message>
+</context>
+<context>
+    <name>ProposalList</name>
+    <message>
+        <source>Completion</source>
+        <translation>Autocompletado</translation>
+    </message>
+    <message>
+        <source>Proposals</source>
+        <translation>Propuestas</translation>
+    </message>
+</context>
+<context>
+    <name>ReplaceAll</name>
+    <message>
+        <source>Replacing</source>
+        <translation>Reemplazando</translation>
+    </message>
+</context>
+<context>
+    <name>SettingsMenu</name>
+    <message>
+        <source>Settings</source>
+        <translation>Ajustes</translation>
+    </message>
+    <message>
+        <source>Settings (*.znsettings)</source>
+        <translation>Ajustes (*.znsettings)</translation>
+    </message>
+    <message>
+        <source>What has not been applied yet is lost.</source>
+        <translation>Se perderá lo que aún no se haya aplicado.</translation>
+    </message>
+    <message>
+        <source>&amp;Export All Settings...</source>
+        <translation>&amp;Exportar todos los ajustes...</translation>
+    </message>
+    <message>
+        <source>&amp;Import All Settings...</source>
+        <translation>&amp;Importar todos los ajustes...</translation>
+    </message>
+    <message>
+        <source>&amp;Write the Colours of a Scheme</source>
+        <translation>Escribir &amp;los colores de un esquema</translation>
+    </message>
+    <message>
+        <source>This &amp;Language as Shipped...</source>
+        <translation>Este lenguaje &amp;como de fábrica...</translation>
+    </message>
+    <message>
+        <source>E&amp;verything as Shipped...</source>
+        <translation>&amp;Todo como de fábrica...</translation>
+    </message>
+    <message>
+        <source>%1 could not be written.</source>
+        <translation>No se pudo escribir %1.</translation>
+    </message>
+    <message>
+        <source>All settings become those of %1, and the present ones are given up. %2
+
+Import them?</source>
+        <translation>Todos los ajustes pasan a ser los de %1 y se abandonan los actuales. %2
+
+¿Importarlos?</translation>
+    </message>
+    <message>
+        <source>The settings could not be written; they are as they were.</source>
+        <translation>No se pudieron escribir los ajustes; siguen como estaban.</translation>
+    </message>
+    <message>
+        <source>%1 holds no settings of this editor.</source>
+        <translation>%1 no contiene ajustes de este editor.</translation>
+    </message>
+    <message>
+        <source>All settings of %1 become those that it was shipped with. %2
+
+Reset them?</source>
+        <translation>Todos los ajustes de %1 vuelven a ser los de fábrica. %2
+
+¿Restablecerlos?</translation>
+    </message>
+    <message>
+        <source>The settings of all languages become those that they were shipped with. %1
+
+Reset them?</source>
+        <translation>Los ajustes de todos los lenguajes vuelven a ser los de fábrica. %1
+
+¿Restablecerlos?</translation>
+    </message>
+    <message>
+        <source>The colours of all languages become those of &quot;%1&quot;, and stay so whatever the desktop looks like. %2
+
+Write them?</source>
+        <translation>Los colores de todos los lenguajes pasan a ser los de «%1» y lo siguen siendo sea cual sea el aspecto del escritorio. %2
+
+¿Escribirlos?</translation>
+    </message>
+</context>
+<context>
+    <name>SettingsPref</name>
+    <message>
+        <source>Shown Beside and In the Text</source>
+        <translation>Junto al texto y en el texto</translation>
+    </message>
+    <message>
+        <source>Line Numbers</source>
+        <translation>Números de línea</translation>
+    </message>
+    <message>
+        <source>Bookmark Margin</source>
+        <translation>Margen de marcadores</translation>
+    </message>
+    <message>
+        <source>Outlining</source>
+        <translation>Esquema (plegado)</translation>
+    </message>
+    <message>
+        <source>Word Wrap</source>
+        <translation>Ajuste de línea</translation>
+    </message>
+    <message>
+        <source>End Of Line</source>
+        <translation>Fines de línea</translation>
+    </message>
+    <message>
+        <source>Whitespace</source>
+        <translation>Espacios en blanco</translation>
+    </message>
+    <message>
+        <source>Indentation Guides</source>
+        <translation>Guías de sangría</translation>
+    </message>
+    <message>
+        <source>Tabs and Indentation</source>
+        <translation>Tabuladores y sangría</translation>
+    </message>
+    <message>
+        <source>Tab Size</source>
+        <translation>Ancho del tabulador</translation>
+    </message>
+    <message>
+        <source>Indent Size</source>
+        <translation>Ancho de la sangría</translation>
+    </message>
+    <message>
+        <source>Pressing Tab inserts Spaces</source>
+        <translation>La tecla Tab inserta espacios</translation>
+    </message>
+    <message>
+        <source>Tab and Backspace (Un)Indent</source>
+        <translation>Tab y Retroceso cambian la sangría</translation>
+    </message>
+    <message>
+        <source>Auto Indentation Style</source>
+        <translation>Sangría automática</translation>
+    </message>
+    <message>
+        <source>Off</source>
+        <translation>Desactivada</translation>
+    </message>
+    <message>
+        <source>Follow Previous Line</source>
+        <translation>Como la línea anterior</translation>
+    </message>
+    <message>
+        <source>Follow Language Scoping</source>
+        <translation>Según la estructura del lenguaje</translation>
+    </message>
+    <message>
+        <source>Reading</source>
+        <translation>Lectura</translation>
+    </message>
+    <message>
+        <source>Syntax &amp;Highlighting</source>
+        <translation>Resaltado &amp;de sintaxis</translation>
+    </message>
+    <message>
+        <source>&amp;Brace Matching</source>
+        <translation>Parénte&amp;sis correspondientes</translation>
+    </message>
+    <message>
+        <source>Completion</source>
+        <translation>Autocompletado</translation>
+    </message>
+    <message>
+        <source>&amp;Auto Completion</source>
+        <translation>A&amp;utocompletado automático</translation>
+    </message>
+    <message>
+        <source>C&amp;ode Completion</source>
+        <translation>Aut&amp;ocompletado de código</translation>
+    </message>
+    <message>
+        <source>&amp;Tab Key</source>
+        <translation>&amp;Tecla Tab</translation>
+    </message>
+    <message>
+        <source>Space Bar &amp;Key</source>
+        <translation>&amp;Barra espaciadora</translation>
+    </message>
+    <message>
+        <source>When a File is Saved</source>
+        <translation>Al guardar un archivo</translation>
+    </message>
+    <message>
+        <source>Ensure Final New Line</source>
+        <translation>Terminar la última línea</translation>
+    </message>
+    <message>
+        <source>Convert Tabs To Spaces</source>
+        <translation>Convertir tabuladores en espacios</translation>
+    </message>
+    <message>
+        <source>Trim Trailing Spaces</source>
+        <translation>Quitar espacios al final de línea</translation>
+    </message>
+</context>
+<context>
+    <name>SplitBox</name>
+    <message>
+        <source>Drag down to divide the text into two panes</source>
+        <translation>Arrastre hacia abajo para dividir el texto en dos paneles</translation>
+    </message>
+    <message>
+        <source>Drag to the right to divide the text into two panes</source>
+        <translation>Arrastre hacia la derecha para dividir el texto en dos paneles</translation>
+    </message>
+    <message>
+        <source>Divide above and below</source>
+        <translation>Dividir arriba y abajo</translation>
+    </message>
+    <message>
+        <source>Divide side by side</source>
+        <translation>Dividir lado a lado</translation>
+    </message>
+</context>
+<context>
+    <name>StyleSample</name>
+    <message>
+        <source>Sample of the language</source>
+        <translation>Ejemplo del lenguaje</translation>
+    </message>
+</context>
+<context>
+    <name>ZNCoreEditorPlugin</name>
+    <message>
+        <source>Source Text Editor</source>
+        <translation>Editor de código fuente</translation>
+    </message>
+    <message>
+        <source>An editor for SQL scripts and other source texts.</source>
+        <translation>Un editor de scripts SQL y otros textos fuente.</translation>
+    </message>
+</context>
+<context>
+    <name>ZNCoreEditorWidget</name>
+    <message>
+        <source>The editor cannot be shown, since its engine could not be loaded.
+%1</source>
+        <translation>No se puede mostrar el editor porque no se pudo cargar su motor.
+%1</translation>
+    </message>
+    <message>
+        <source>Text editor</source>
+        <translation>Editor de texto</translation>
+    </message>
+    <message>
+        <source>&amp;Undo</source>
+        <translation>Des&amp;hacer</translation>
+    </message>
+    <message>
+        <source>&amp;Redo</source>
+        <translation>Reha&amp;cer</translation>
+    </message>
+    <message>
+        <source>Cu&amp;t</source>
+        <translation>C&amp;ortar</translation>
+    </message>
+    <message>
+        <source>&amp;Copy</source>
+        <translation>Cop&amp;iar</translation>
+    </message>
+    <message>
+        <source>&amp;Paste</source>
+        <translation>&amp;Pegar</translation>
+    </message>
+    <message>
+        <source>&amp;Delete</source>
+        <translation>Elimi&amp;nar</translation>
+    </message>
+    <message>
+        <source>Select &amp;All</source>
+        <translation>&amp;Seleccionar todo</translation>
+    </message>
+    <message>
+        <source>&amp;Indent</source>
+        <translation>Aumentar san&amp;gría</translation>
+    </message>
+    <message>
+        <source>&amp;Outdent</source>
+        <translation>Red&amp;ucir sangría</translation>
+    </message>
+    <message>
+        <source>U&amp;pper Case</source>
+        <translation>Ma&amp;yúsculas</translation>
+    </message>
+    <message>
+        <source>&amp;Lower Case</source>
+        <translation>&amp;Minúsculas</translation>
+    </message>
+    <message>
+        <source>Match Bra&amp;ce</source>
+        <translation>Parént&amp;esis correspondiente</translation>
+    </message>
+    <message>
+        <source>Toggle &amp;Bookmark</source>
+        <translation>Poner o &amp;quitar marcador</translation>
+    </message>
+    <message>
+        <source>&amp;Next Bookmark</source>
+        <translation>Marca&amp;dor siguiente</translation>
+    </message>
+    <message>
+        <source>Previous Boo&amp;kmark</source>
+        <translation>Ma&amp;rcador anterior</translation>
+    </message>
+    <message>
+        <source>&amp;Zoom In</source>
+        <translation>&amp;Acercar</translation>
+    </message>
+    <message>
+        <source>Zoom O&amp;ut</source>
+        <translation>Ale&amp;jar</translation>
+    </message>
+    <message>
+        <source>Original &amp;Size</source>
+        <translation>&amp;Tamaño original</translation>
+    </message>
+    <message>
+        <source>&amp;Line Numbers</source>
+        <translation>Números de &amp;línea</translation>
+    </message>
+</context>
+</TS>
