@@ -17,6 +17,7 @@
 
 #include <QPointer>
 #include <QStatusBar>
+#include <QTimer>
 
 namespace {
 
@@ -28,35 +29,56 @@ QString NameOf(const ScriptDoc& script)
 
 } // namespace
 
-// Counting costs a pass through the text for each character, which a long text is spared.
+// Counting costs a pass through the text, so it waits until nobody types, and a long text is spared
+// it.
 class MainWindow::SearchLine final : public ISearchStatus
 {
 public:
-    explicit SearchLine(QStatusBar* bar) : m_bar(bar) { SetSearchStatus(this); }
+    explicit SearchLine(QStatusBar* bar) : m_bar(bar)
+    {
+        constexpr int kRest = 100; // milliseconds
+        SetSearchStatus(this);
+        m_rest.setSingleShot(true);
+        m_rest.setInterval(kRest);
+        QObject::connect(&m_rest, &QTimer::timeout, [this] { Count(); });
+    }
     ~SearchLine() override { SetSearchStatus(nullptr); }
 
     void Show(CZNCoreEditorView& view, const SearchStatus& status) override
     {
-        constexpr int kMost = 1000;
-        constexpr long kLongText = 4 * 1024 * 1024;
+        m_rest.stop();
         if (!m_bar)
             return;
-        if (status.text.isEmpty()) {
+        m_text = status.text;
+        if (m_text.isEmpty())
             m_bar->clearMessage();
-            return;
-        }
-        QString text = status.text;
-        if (status.isFound && view.GetCoreEditorControl()->GetLength(1) < kLongText) {
-            const int count = view.CountIncrementalMatches(kMost);
-            if (count > 0)
-                text += count < kMost ? MainWindow::tr("   %n matches", nullptr, count)
-                                      : MainWindow::tr("   %n matches and more", nullptr, count);
-        }
-        m_bar->showMessage(text);
+        else
+            m_bar->showMessage(m_text);
+        m_view = view.GetSafeHwnd();
+        if (status.isFound)
+            m_rest.start();
     }
 
 private:
+    void Count()
+    {
+        constexpr int kMost = 1000;
+        constexpr long kLongText = 4 * 1024 * 1024;
+        auto* view = m_view ? dynamic_cast<CZNCoreEditorView*>(AttachedWnd(m_view)) : nullptr;
+        if (!m_bar || !view || view->GetCoreEditorControl()->GetLength(1) >= kLongText)
+            return;
+        const int count = view->CountIncrementalMatches(kMost);
+        if (count > 0)
+            m_bar->showMessage(m_text +
+                               (count < kMost
+                                    ? MainWindow::tr("   %n matches", nullptr, count)
+                                    : MainWindow::tr("   %n matches and more", nullptr, count)));
+    }
+
     QPointer<QStatusBar> m_bar;
+    QPointer<QWidget> m_view;
+    QString m_text;
+    QTimer m_rest;
 };
 
 class MainWindow::FoundTexts final : public IFoundTexts

@@ -103,7 +103,9 @@ TEST_F(FindInFilesInWindow, ShowsASearchAsOneTypesInTheStatusBar)
     Open("a.sql", "ab ab x");
     Frame().View()->OnCmdMsg(54024, nullptr);
     Frame().View()->HandleInputCharacter(u'a', 1, 0);
-    EXPECT_EQ(m_window.statusBar()->currentMessage(), "Incremental search: a   2 matches");
+    const auto said = [this] { return m_window.statusBar()->currentMessage(); };
+    EXPECT_EQ(said(), "Incremental search: a");
+    EXPECT_TRUE(QTest::qWaitFor([&] { return said() == "Incremental search: a   2 matches"; }));
     Frame().View()->StopIncrementalSearch();
     EXPECT_EQ(m_window.statusBar()->currentMessage(), "");
 }
