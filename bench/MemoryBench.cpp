@@ -8,6 +8,11 @@
 #include "bench/Texts.h"
 #include "editing/ZNCoreEditorControlEx.h"
 #include "editing/ZNCoreEditorWidget.h"
+#include "host/printing/WorkbenchPrinter.h"
+#include "host/script/ScriptFrame.h"
+#include "host/script/ScriptView.h"
+#include "host/window/MainWindow.h"
+#include "host/window/Workbench.h"
 #include "preprocess/CompileManager.h"
 #include "preprocess/language/VariableTable.h"
 
@@ -142,6 +147,26 @@ double OurExpand(const std::string& folder)
     return StatusBytes("VmHWM:") - before;
 }
 
+// Beside the script and its styles; what prints for the first time is read in before.
+double OurPrint(const char* path)
+{
+    Workbench app(Workbench::Keeps::Nothing);
+    MainWindow& window = *new MainWindow(app); // goes with the application
+    const auto print = [&](const std::string& script) {
+        app.OpenDocumentFile(QString::fromStdString(script));
+        ScriptView& view = *window.CurrentFrame()->View();
+        window.SetLanguage(ZNCoreEditorWidget::languageOfName(QStringLiteral("Transact-SQL")));
+        view.GetCoreEditorControl()->Colorize(0, -1, 1);
+        malloc_trim(0);
+        ForgetPeak();
+        const double before = StatusBytes("VmRSS:");
+        WorkbenchPrinter::SavePdf(view, QString::fromStdString(script) + QStringLiteral(".pdf"));
+        return StatusBytes("VmHWM:") - before;
+    };
+    print(WriteFile("warm.sql", MakeSql(Script::Ascii, 4 * 8192)));
+    return print(path);
+}
+
 // What the variables of the script take.
 double TableMemory(const std::string& folder)
 {
@@ -192,6 +217,20 @@ void SaveMemory(benchmark::State& state, const char* what)
                  "MB above the memory before");
 }
 
+void PrintMemory(benchmark::State& state)
+{
+    constexpr double kLimit = 32;
+    const auto megabytes = static_cast<std::size_t>(state.range(0));
+    const std::string path = WriteFile("memory.sql", MakeSql(Script::Ascii, megabytes * kMegabyte));
+    double extra = 0;
+    for (auto _ : state)
+        extra = AskChild("print", path);
+    if (extra <= 0)
+        state.SkipWithError("nothing was printed");
+    ReportFigure(state, extra / static_cast<double>(kMegabyte), kLimit,
+                 "MB above the memory before");
+}
+
 void ExpandMemory(benchmark::State& state)
 {
     const QTemporaryDir folder;
@@ -225,6 +264,7 @@ const bool kRegistered = [] {
             ->Arg(megabytes)
             ->Iterations(1);
     }
+    benchmark::RegisterBenchmark("PeakMemory/print", PrintMemory)->Arg(4)->Iterations(1);
     for (const int megabytes : {16, 64}) {
         benchmark::RegisterBenchmark("PeakMemory/expand", ExpandMemory)
             ->Arg(megabytes)
@@ -244,6 +284,7 @@ bool RunAsChild(int argc, char** argv)
                          : what == "load"         ? OurLoad(argv[3])
                          : what == "expand"       ? OurExpand(argv[3])
                          : what == "expand-raw"   ? RawExpand(argv[3])
+                         : what == "print"        ? OurPrint(argv[3])
                          : what == "table"        ? TableMemory(argv[3])
                          : what == "save-careful" ? OurSave(argv[3], true)
                                                   : OurSave(argv[3], false);
