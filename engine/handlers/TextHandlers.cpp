@@ -255,6 +255,39 @@ LRESULT GetStyleAt(Engine& engine, WPARAM wParam, LPARAM)
     return StyleAt(engine, engine.Bytes(static_cast<LPARAM>(wParam)));
 }
 
+// Writes the units of whole characters, each with its style behind it, as far as there is room, and
+// gives the place behind the last. Bytes.
+char16_t* ReadStyled(const Engine& engine, long start, long end, char16_t* out,
+                     const char16_t* last)
+{
+    const auto count = static_cast<std::size_t>(end - start);
+    std::array<char, 2 * kChunk + 2> cells; // a byte and its style each, and two terminators
+    struct
+    {
+        long start, end;
+        char* cells;
+    } range{start, end, cells.data()};
+    engine.raw.Send(Sci::SCI_GETSTYLEDTEXT, 0, &range);
+    std::array<char, kChunk> bytes;
+    for (std::size_t i = 0; i < count; ++i)
+        bytes[i] = cells[2 * i];
+    std::array<char16_t, kChunk> units;
+    const std::size_t unitCount = ToUtf16({bytes.data(), count}, units.data(), units.size());
+    const AlikeStyles& alike = engine.colouring->Alike();
+    for (std::size_t i = 0, unit = 0; i < count; ++i) {
+        if (IsContinuation(bytes[i]))
+            continue;
+        const auto style = static_cast<char16_t>(alike.Plain(cells[2 * i + 1]));
+        for (long n = WidthOf(bytes[i]) > 3 ? 2 : 1; n > 0 && unit < unitCount; --n, ++unit) {
+            if (out == last)
+                return out;
+            *out++ = units[unit];
+            *out++ = style;
+        }
+    }
+    return out;
+}
+
 LRESULT GetStyledText(Engine& engine, WPARAM, LPARAM lParam)
 {
     const auto* range = reinterpret_cast<const TextRange*>(lParam);
@@ -264,18 +297,13 @@ LRESULT GetStyledText(Engine& engine, WPARAM, LPARAM lParam)
     const long start = StartOfRange(engine, {range->chrg.cpMin}).value;
     const long end =
         engine.text.ToBytes({range->chrg.cpMax < 0 ? length : range->chrg.cpMax}).value;
+    const char16_t* const last =
+        range->lpstrText + 2 * ((range->chrg.cpMax < 0 ? length : range->chrg.cpMax) -
+                                std::max(0L, long{range->chrg.cpMin}));
     char16_t* out = range->lpstrText;
-    const long room = 2 * ((range->chrg.cpMax < 0 ? length : range->chrg.cpMax) -
-                           std::max(0L, long{range->chrg.cpMin}));
     for (long byte = start; byte < end;) {
-        const long next = BehindCharacter(engine.raw, byte);
-        const auto style = static_cast<char16_t>(StyleAt(engine, byte));
-        for (const char16_t unit : ToUtf16(engine.raw.Bytes(byte, next))) {
-            if (out - range->lpstrText >= room)
-                break;
-            *out++ = unit;
-            *out++ = style;
-        }
+        const long next = byte + kChunk < end ? CharacterStart(engine.raw, byte + kChunk) : end;
+        out = ReadStyled(engine, byte, next, out, last);
         byte = next;
     }
     out[0] = out[1] = u'\0';

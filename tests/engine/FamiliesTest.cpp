@@ -177,6 +177,26 @@ TEST_F(Families, StyledTextGoesOutAsItCameIn)
     EXPECT_EQ(buffer, cells + std::u16string(2, u'\0'));
 }
 
+TEST_F(Families, LongStyledTextIsThatOfEachUnit)
+{
+    static constexpr std::u16string_view kPieces[] = {u"x", u"\u00e9", u"\u4e2d", u"\U0001F600"};
+    std::u16string text;
+    std::u16string cells;
+    for (std::size_t i = 0; text.size() < 30000; ++i) {
+        for (const char16_t unit : kPieces[i * i % 7 % std::size(kPieces)]) {
+            text += unit;
+            cells += {unit, static_cast<char16_t>(i % 31)};
+        }
+    }
+    Start(u"");
+    m_engine.Send(msg::AddStyledText, cells.size(), cells.data());
+    ASSERT_EQ(m_engine.Text(), text);
+    std::u16string buffer(cells.size() + 2, u'#');
+    TextRange range{{0, -1}, buffer.data()};
+    EXPECT_EQ(m_engine.Send(msg::GetStyledText, 0, &range), LRESULT(cells.size()));
+    EXPECT_EQ(buffer, cells + std::u16string(2, u'\0'));
+}
+
 TEST_F(Families, ARangeThatCutsAPairNeverGivesMoreThanItsUnits)
 {
     Start(u"a\U0001F600b");
