@@ -21,6 +21,8 @@ class PrintStyles
 public:
     explicit PrintStyles(Engine& engine) : m_engine(engine)
     {
+        // A window matches them as it is painted, which may not have been since a style changed.
+        engine.colouring->Alike().Match(engine.raw);
         for (const int lit : {kOccurrenceIndicator, kMatchIndicator}) // for the eye on the screen
             Put(Sci::SCI_INDICGETSTYLE, Sci::SCI_INDICSETSTYLE, lit, Sci::INDIC_HIDDEN);
         const PrintStyle& print = engine.print;

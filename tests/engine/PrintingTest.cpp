@@ -271,6 +271,27 @@ TEST_F(Printing, ColoursFollowTheColourMode)
     EXPECT_FALSE(HasColour(Drawn()));
 }
 
+TEST_F(Printing, AllOfALongLineIsOfTheColourThatItsStyleHasByThen)
+{
+    constexpr WPARAM kTransactSql = 3;
+    m_engine.Send(msg::SetLexer, kTransactSql);
+    std::u16string line = u"--";
+    while (line.size() < 40000)
+        line += u" WWWW";
+    m_engine.SetText(line);
+    m_engine.Send(msg::Colorize, 0, LPARAM{-1});
+    for (WPARAM style = 0; style < 128; ++style)
+        m_engine.Send(msg::StyleSetFore, style, LPARAM{0x0000FF});
+    const QImage page = Drawn();
+    EXPECT_TRUE(HasColour(page));
+    int leastRed = 255;
+    for (int y = 0; y < page.height(); ++y) {
+        for (int x = 0; x < page.width(); ++x)
+            leastRed = std::min(leastRed, qRed(page.pixel(x, y)));
+    }
+    EXPECT_EQ(leastRed, 255) << "white paper and red letters";
+}
+
 TEST_F(Printing, GoesIntoADocumentOfSeveralPages)
 {
     m_engine.SetText(ManyLines(100));
