@@ -1403,6 +1403,14 @@ Soll sie neu geladen werden?</translation>
         <source>%1 could not be written.</source>
         <translation>%1 konnte nicht geschrieben werden.</translation>
     </message>
+    <message>
+        <source>%1 – print preview</source>
+        <translation>%1 – Druckvorschau</translation>
+    </message>
+    <message>
+        <source>%1 – print preview, the first %2 pages</source>
+        <translation>%1 – Druckvorschau, die ersten %2 Seiten</translation>
+    </message>
 </context>
 <context>
     <name>ProposalList</name>

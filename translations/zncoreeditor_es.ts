@@ -1403,6 +1403,14 @@ Do you want to reload it?</source>
         <source>%1 could not be written.</source>
         <translation>No se pudo escribir %1.</translation>
     </message>
+    <message>
+        <source>%1 – print preview</source>
+        <translation>%1 – vista previa de impresión</translation>
+    </message>
+    <message>
+        <source>%1 – print preview, the first %2 pages</source>
+        <translation>%1 – vista previa de impresión, las primeras %2 páginas</translation>
+    </message>
 </context>
 <context>
     <name>ProposalList</name>

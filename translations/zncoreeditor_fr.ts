@@ -1403,6 +1403,14 @@ Voulez-vous le recharger ?</translation>
         <source>%1 could not be written.</source>
         <translation>Impossible d’écrire %1.</translation>
     </message>
+    <message>
+        <source>%1 – print preview</source>
+        <translation>%1 – aperçu avant impression</translation>
+    </message>
+    <message>
+        <source>%1 – print preview, the first %2 pages</source>
+        <translation>%1 – aperçu avant impression, les %2 premières pages</translation>
+    </message>
 </context>
 <context>
     <name>ProposalList</name>

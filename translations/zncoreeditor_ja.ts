@@ -1403,6 +1403,14 @@ Do you want to reload it?</source>
         <source>%1 could not be written.</source>
         <translation>%1 に書き込めませんでした。</translation>
     </message>
+    <message>
+        <source>%1 – print preview</source>
+        <translation>%1 – 印刷プレビュー</translation>
+    </message>
+    <message>
+        <source>%1 – print preview, the first %2 pages</source>
+        <translation>%1 – 印刷プレビュー、最初の %2 ページ</translation>
+    </message>
 </context>
 <context>
     <name>ProposalList</name>

@@ -1403,6 +1403,14 @@ Do you want to reload it?</source>
         <source>%1 could not be written.</source>
         <translation>无法写入 %1。</translation>
     </message>
+    <message>
+        <source>%1 – print preview</source>
+        <translation>%1 – 打印预览</translation>
+    </message>
+    <message>
+        <source>%1 – print preview, the first %2 pages</source>
+        <translation>%1 – 打印预览，前 %2 页</translation>
+    </message>
 </context>
 <context>
     <name>ProposalList</name>

@@ -2028,14 +2028,6 @@ Eine Farbe „Standard“ folgt dem Schema aus dem Menü Ansicht. Was hier für 
 <context>
     <name>WorkbenchPrinter</name>
     <message>
-        <source> – print preview</source>
-        <translation> – Druckvorschau</translation>
-    </message>
-    <message>
-        <source>, the first %1 pages</source>
-        <translation>, die ersten %1 Seiten</translation>
-    </message>
-    <message>
         <source>Printing</source>
         <translation>Drucken</translation>
     </message>

@@ -2028,14 +2028,6 @@ Un color «Predeterminado» sigue el esquema del menú Ver. Lo que se ajusta aqu
 <context>
     <name>WorkbenchPrinter</name>
     <message>
-        <source> – print preview</source>
-        <translation> – vista previa de impresión</translation>
-    </message>
-    <message>
-        <source>, the first %1 pages</source>
-        <translation>, las primeras %1 páginas</translation>
-    </message>
-    <message>
         <source>Printing</source>
         <translation>Imprimiendo</translation>
     </message>

@@ -2028,14 +2028,6 @@ Une couleur « Par défaut » suit le thème du menu Affichage. Ce qui est ré
 <context>
     <name>WorkbenchPrinter</name>
     <message>
-        <source> – print preview</source>
-        <translation> – aperçu avant impression</translation>
-    </message>
-    <message>
-        <source>, the first %1 pages</source>
-        <translation>, les %1 premières pages</translation>
-    </message>
-    <message>
         <source>Printing</source>
         <translation>Impression</translation>
     </message>

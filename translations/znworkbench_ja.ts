@@ -2016,14 +2016,6 @@ A colour that is &quot;Default&quot; follows the scheme of the View menu. What i
 <context>
     <name>WorkbenchPrinter</name>
     <message>
-        <source> – print preview</source>
-        <translation> – 印刷プレビュー</translation>
-    </message>
-    <message>
-        <source>, the first %1 pages</source>
-        <translation>、最初の %1 ページ</translation>
-    </message>
-    <message>
         <source>Printing</source>
         <translation>印刷中</translation>
     </message>

@@ -2016,14 +2016,6 @@ A colour that is &quot;Default&quot; follows the scheme of the View menu. What i
 <context>
     <name>WorkbenchPrinter</name>
     <message>
-        <source> – print preview</source>
-        <translation> – 打印预览</translation>
-    </message>
-    <message>
-        <source>, the first %1 pages</source>
-        <translation>，前 %1 页</translation>
-    </message>
-    <message>
         <source>Printing</source>
         <translation>正在打印</translation>
     </message>

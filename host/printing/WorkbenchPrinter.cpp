@@ -5,8 +5,6 @@
 #include "platform/windows/Questions.h"
 
 #include <QCoreApplication>
-#include <QPrintPreviewDialog>
-#include <QPrintPreviewWidget>
 #include <QPrinter>
 #include <QPrinterInfo>
 #include <QProgressDialog>
@@ -51,12 +49,6 @@ void WorkbenchPrinter::SavePdf(CView& view, const QString& path)
         current->m_pdf.clear();
 }
 
-void WorkbenchPrinter::CutPreview()
-{
-    if (current)
-        current->m_previewIsCut = true;
-}
-
 // Into a PDF goes the whole text: nobody has been asked whether the selection alone is meant.
 std::unique_ptr<QPrinter> WorkbenchPrinter::ChoosePrinter(HWND owner, PRINTDLG& record)
 {
@@ -70,22 +62,17 @@ std::unique_ptr<QPrinter> WorkbenchPrinter::ChoosePrinter(HWND owner, PRINTDLG& 
     return printer;
 }
 
+// The finding of pages shows its steps, which no job ends.
 void WorkbenchPrinter::Preview(HWND owner, const QString& title,
-                               const std::function<void(QPrinter& printer)>& print)
+                               const std::function<bool(QPrinter& printer)>& print)
 {
-    QPrinter printer(QPrinter::HighResolution);
-    QPrintPreviewDialog dialog(&printer, owner ? owner->window() : nullptr);
-    QObject::connect(&dialog, &QPrintPreviewDialog::paintRequested, &dialog, [&](QPrinter* paper) {
-        m_previewIsCut = false;
-        print(*paper);
-        QString shown = title + Texts::tr(" – print preview");
-        if (m_previewIsCut)
-            shown += Texts::tr(", the first %1 pages").arg(kMostPreviewed);
-        dialog.setWindowTitle(shown);
+    IPrintService::Preview(owner, title, [&](QPrinter& paper) {
+        EndSteps();
+        const bool isWhole = print(paper);
+        EndSteps();
+        m_isStopped = false;
+        return isWhole;
     });
-    if (owner)
-        dialog.resize(owner->window()->size() * 9 / 10);
-    dialog.exec();
 }
 
 bool WorkbenchPrinter::GoesOn(QWidget* owner, const QString& step, int done, int all)

@@ -18,11 +18,6 @@ public:
     WorkbenchPrinter(); // takes effect
     ~WorkbenchPrinter() override;
 
-    // Every page of a preview is kept as a picture.
-    static constexpr unsigned kMostPreviewed = 300;
-    // To be called while the pages of a preview are found: there are more of them.
-    static void CutPreview();
-
     // Prints all of the view's text into a PDF. The file is there once it is whole.
     static void SavePdf(CView& view, const QString& path);
 
@@ -31,7 +26,7 @@ public:
 
     std::unique_ptr<QPrinter> ChoosePrinter(HWND owner, PRINTDLG& record) override;
     void Preview(HWND owner, const QString& title,
-                 const std::function<void(QPrinter& printer)>& print) override;
+                 const std::function<bool(QPrinter& printer)>& print) override;
     bool OnPage(HWND owner, UINT page, UINT lastPage) override;
     void OnDone(HWND owner, bool succeeded, const QString& file) override;
 
@@ -44,5 +39,4 @@ private:
     QElapsedTimer m_shown;
     QPointer<QProgressDialog> m_progress;
     bool m_isStopped = false;
-    bool m_previewIsCut = false;
 };

@@ -33,10 +33,8 @@ void ScriptView::OnBeginPrinting(CDC* dc, CPrintInfo* info)
     RangeToFormat record = PrintRecord(dc, PrintableArea(*dc));
     m_pageStarts.clear();
     for (int start = range.cpMin; start <= range.cpMax;) {
-        if (info->m_bPreview && m_pageStarts.size() == WorkbenchPrinter::kMostPreviewed) {
-            WorkbenchPrinter::CutPreview();
-            break;
-        }
+        if (info->m_bPreview && m_pageStarts.size() > IPrintService::kMostPreviewed)
+            break; // one more than is shown
         m_pageStarts.push_back(static_cast<unsigned>(start));
         record.chrg = {start, range.cpMax};
         const auto next = static_cast<int>(m_coreEditor.FormatRange(0, &record, 1));

@@ -5,6 +5,7 @@
 #include "platform/printing/PrintInfo.h"
 #include "platform/printing/PrintJob.h"
 #include "platform/printing/PrintService.h"
+#include "platform/windows/DeviceContext.h"
 
 #include <QBuffer>
 #include <QPageSize>
@@ -133,6 +134,14 @@ TEST_F(PrintedText, OfASelectionIsNoMoreAndNoLess)
     EXPECT_EQ(pdf.pages, 1u);
 }
 
+TEST_F(PrintedText, OfASelectionOfOneCharacterIsThatCharacter)
+{
+    pdf.selection = true;
+    Put("before\nselected;\nbehind\n", 9, 10);
+    EXPECT_EQ(Solid(Printed()), "l");
+    EXPECT_EQ(pdf.pages, 1u);
+}
+
 TEST_F(PrintedText, OfRandomSelectionsIsThatText)
 {
     const unsigned seed = std::random_device{}();
@@ -202,6 +211,27 @@ TEST_F(PrintedText, OnPaperSmallerThanACharacterComesToAnEnd)
     Put("abc def", 0, 0);
     Printed();
     EXPECT_TRUE(pdf.done);
+}
+
+TEST_F(PrintedText, OfPagesThatTheTextHasLostSinceIsNone)
+{
+    Put(QString("some text\n").repeated(1000), 0, 0);
+    QImage paper(1000, 500, QImage::Format_RGB32);
+    paper.fill(Qt::white);
+    const QImage blank = paper.copy();
+    QPainter painter(&paper);
+    CDC dc(painter);
+    CPrintInfo info;
+    info.m_rectDraw = {0, 0, 1000, 500};
+    view->OnBeginPrinting(&dc, &info);
+    ASSERT_GT(info.GetMaxPage(), 5u);
+    Put("short", 0, 0);
+    info.m_nCurPage = info.GetMaxPage();
+    view->OnPrint(&dc, &info);
+    EXPECT_EQ(paper, blank);
+    info.m_nCurPage = 1;
+    view->OnPrint(&dc, &info);
+    EXPECT_NE(paper, blank);
 }
 
 TEST_F(PrintedText, IsNotThereWhereTheDiskIsFull)

@@ -274,7 +274,7 @@ TEST_F(ViewPrintOrder, TheUsualPrinterIsNotAskedFor)
 TEST_F(ViewPrintOrder, ThePreviewDrawsEveryPage)
 {
     Length(250);
-    printer.shown = [](const std::function<void(QPrinter&)>& print) {
+    printer.shown = [](const std::function<bool(QPrinter&)>& print) {
         QPrinter paper;
         paper.setOutputFormat(QPrinter::PdfFormat);
         paper.setOutputFileName(QStringLiteral("/dev/null"));
@@ -289,7 +289,7 @@ TEST_F(ViewPrintOrder, ThePreviewDrawsEveryPage)
 TEST_F(ViewPrintOrder, ATextThatChangesUnderThePreviewIsPagedAnew)
 {
     Length(250);
-    printer.shown = [this](const std::function<void(QPrinter&)>& print) {
+    printer.shown = [this](const std::function<bool(QPrinter&)>& print) {
         QPrinter paper;
         paper.setOutputFormat(QPrinter::PdfFormat);
         paper.setOutputFileName(QStringLiteral("/dev/null"));
@@ -303,4 +303,23 @@ TEST_F(ViewPrintOrder, ATextThatChangesUnderThePreviewIsPagedAnew)
     };
     view->OnFilePrintPreview();
     EXPECT_EQ(drawn, (Ranges{{0, 80}}));
+}
+
+TEST_F(ViewPrintOrder, ThePreviewDrawsNoMorePagesThanItCanKeep)
+{
+    Length(45000);
+    std::vector<bool> isWhole;
+    printer.shown = [&](const std::function<bool(QPrinter&)>& print) {
+        for (const long length : {45000, 30000}) {
+            Length(length);
+            QPrinter paper;
+            paper.setOutputFormat(QPrinter::PdfFormat);
+            paper.setOutputFileName(QStringLiteral("/dev/null"));
+            isWhole.push_back(print(paper));
+        }
+    };
+    view->OnFilePrintPreview();
+    EXPECT_THAT(isWhole, ElementsAre(false, true));
+    EXPECT_EQ(drawn.size(), 600u);
+    EXPECT_EQ(drawn[299], std::pair(29900, 45000));
 }

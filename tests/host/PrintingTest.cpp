@@ -6,6 +6,7 @@
 #include <QClipboard>
 #include <QElapsedTimer>
 #include <QMimeData>
+#include <QPageLayout>
 #include <QPrintPreviewDialog>
 #include <QPrintPreviewWidget>
 #include <QPrinter>
@@ -142,8 +143,69 @@ TEST_F(PrintingScripts, PreviewsNoMoreThanItCanKeep)
         dialog->reject();
     });
     Trigger("printPreview");
-    EXPECT_EQ(pages, int(WorkbenchPrinter::kMostPreviewed));
+    EXPECT_EQ(pages, int(IPrintService::kMostPreviewed));
     EXPECT_EQ(title, QString::fromUtf8("a.sql – print preview, the first 300 pages"));
+}
+
+TEST_F(PrintingScripts, ShowsInThePreviewWhatTheTextHasBecomeMeanwhile)
+{
+    Open("a.sql", "select 1 from first;\n");
+    QList<int> pages;
+    QTimer::singleShot(0, [&] {
+        auto* dialog = qobject_cast<QPrintPreviewDialog*>(QApplication::activeModalWidget());
+        ASSERT_TRUE(dialog);
+        auto* preview = dialog->findChild<QPrintPreviewWidget*>();
+        pages << preview->pageCount();
+        Editor().SetText(QString("longer;\n").repeated(300).toStdU16String().c_str(), 1);
+        pages << preview->pageCount();
+        preview->setOrientation(QPageLayout::Landscape);
+        pages << preview->pageCount();
+        dialog->reject();
+    });
+    Trigger("printPreview");
+    EXPECT_EQ(pages.first(2), (QList<int>{1, 1}));
+    EXPECT_GT(pages.value(2), 3);
+}
+
+TEST_F(PrintingScripts, OutlivesTheScriptInThePreview)
+{
+    Open("a.sql", "select 1 from first;\n");
+    int pages = 0;
+    QTimer::singleShot(0, [&] {
+        auto* dialog = qobject_cast<QPrintPreviewDialog*>(QApplication::activeModalWidget());
+        ASSERT_TRUE(dialog);
+        Trigger("close");
+        QApplication::processEvents();
+        auto* preview = dialog->findChild<QPrintPreviewWidget*>();
+        preview->setOrientation(QPageLayout::Landscape);
+        pages = preview->pageCount();
+        dialog->reject();
+    });
+    Trigger("printPreview");
+    EXPECT_LE(pages, 1);
+    EXPECT_EQ(m_window.TabCount(), 0);
+}
+
+TEST_F(PrintingScripts, LeavesNoProgressOverThePreview)
+{
+    bool wasThere = false;
+    bool isThere = true;
+    bool goesOn = false;
+    GetPrintService().Preview(&m_window, "a.sql", [&](QPrinter&) {
+        QElapsedTimer clock;
+        for (clock.start(); !wasThere && clock.elapsed() < 5000;) {
+            goesOn = WorkbenchPrinter::GoesOn(&m_window, "Finding page 2", 1, 9);
+            wasThere = m_window.findChild<QProgressDialog*>("printProgress");
+        }
+        QTimer::singleShot(0, [&] {
+            isThere = m_window.findChild<QProgressDialog*>("printProgress");
+            qobject_cast<QDialog*>(QApplication::activeModalWidget())->reject();
+        });
+        return true;
+    });
+    EXPECT_TRUE(wasThere);
+    EXPECT_TRUE(goesOn);
+    EXPECT_FALSE(isThere);
 }
 
 TEST_F(PrintingScripts, ShowsTheStepOfALongJobAndStopsIt)

@@ -49,8 +49,9 @@ public:
     virtual void OnEndPrinting(CDC* dc, CPrintInfo* info);
     int DoPreparePrinting(CPrintInfo* info); // asks for a printer; 0 if the user thought better
     void OnFilePrint();
-    void OnFilePrintDirect();         // on the printer that is used unasked
-    void PrintPages(QPrinter& paper); // all of them, as if it were paper
+    void OnFilePrintDirect(); // on the printer that is used unasked
+    // The pages that a preview can keep. False if there are more.
+    bool DrawPreview(QPrinter& paper);
 
     void PostNcDestroy() override;
 

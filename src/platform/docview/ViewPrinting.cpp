@@ -11,6 +11,8 @@
 #include <QPainter>
 #include <QPrinter>
 
+#include <algorithm>
+
 namespace {
 
 RECT AllOf(const CDC& dc)
@@ -90,28 +92,32 @@ void CView::PrintWith(CPrintInfo& info)
     GetPrintService().OnDone(GetSafeHwnd(), isWell, file);
 }
 
-void CView::PrintPages(QPrinter& paper)
+bool CView::DrawPreview(QPrinter& paper)
 {
     QPainter painter;
     if (!GetSafeHwnd() || !painter.begin(&paper))
-        return;
+        return true;
     CDC dc(painter);
     dc.m_bPrinting = true;
     CPrintInfo info;
     info.m_bPreview = true;
     info.m_rectDraw = AllOf(dc);
     if (!OnPreparePrinting(&info))
-        return;
+        return true;
     OnBeginPrinting(&dc, &info);
-    for (UINT page = info.GetMinPage(); page <= info.GetMaxPage(); ++page) {
-        if (page > info.GetMinPage() && !paper.newPage())
+    const UINT first = info.GetMinPage();
+    const UINT last = std::min(info.GetMaxPage(), first + IPrintService::kMostPreviewed - 1);
+    for (UINT page = first; page <= last; ++page) {
+        if (page > first && !paper.newPage())
             break;
         info.m_nCurPage = page;
         OnPrint(&dc, &info);
         if (!info.m_bContinuePrinting)
             break;
     }
+    const bool isWhole = last == info.GetMaxPage();
     OnEndPrinting(&dc, &info);
+    return isWhole;
 }
 
 void BCGPPrintPreview(CView* view)
@@ -119,5 +125,5 @@ void BCGPPrintPreview(CView* view)
     const FrameworkCall call;
     const CDocument* document = view->GetDocument();
     GetPrintService().Preview(view->GetSafeHwnd(), document ? document->GetTitle() : QString(),
-                              [view](QPrinter& paper) { view->PrintPages(paper); });
+                              [view](QPrinter& paper) { return view->DrawPreview(paper); });
 }

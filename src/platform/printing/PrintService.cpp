@@ -61,6 +61,14 @@ void TakeChoice(const QPrintDialog& dialog, PRINTDLG& record)
     }
 }
 
+QString PreviewTitle(const QString& title, bool isWhole)
+{
+    return isWhole ? Texts::tr("%1 – print preview").arg(title)
+                   : Texts::tr("%1 – print preview, the first %2 pages")
+                         .arg(title)
+                         .arg(IPrintService::kMostPreviewed);
+}
+
 } // namespace
 
 IPrintService::~IPrintService() = default;
@@ -91,14 +99,16 @@ std::unique_ptr<PrintJob> IPrintService::MakeJob(std::unique_ptr<QPrinter> print
 }
 
 void IPrintService::Preview(HWND owner, const QString& title,
-                            const std::function<void(QPrinter& printer)>& print)
+                            const std::function<bool(QPrinter& printer)>& print)
 {
     const FrameworkCall showing;
     QPrinter printer(QPrinter::HighResolution);
     QPrintPreviewDialog dialog(&printer, owner ? owner->window() : nullptr);
-    dialog.setWindowTitle(title);
-    QObject::connect(&dialog, &QPrintPreviewDialog::paintRequested, &dialog,
-                     [&](QPrinter* paper) { print(*paper); });
+    QObject::connect(&dialog, &QPrintPreviewDialog::paintRequested, &dialog, [&](QPrinter* paper) {
+        dialog.setWindowTitle(PreviewTitle(title, print(*paper)));
+    });
+    if (owner)
+        dialog.resize(owner->window()->size() * 9 / 10);
     dialog.exec();
 }
 

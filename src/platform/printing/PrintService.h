@@ -26,10 +26,12 @@ public:
     virtual std::unique_ptr<QPrinter> DefaultPrinter();
     virtual std::unique_ptr<PrintJob> MakeJob(std::unique_ptr<QPrinter> printer);
 
-    // Shows pages until the user has seen them. The function draws all of them, each time the
-    // preview has another paper for it.
+    // Every page of a preview is kept as a picture.
+    static constexpr UINT kMostPreviewed = 300;
+    // Shows pages until the user has seen them. The function draws them, each time the preview has
+    // another paper for it, and gives false if there are more than it has drawn.
     virtual void Preview(HWND owner, const QString& title,
-                         const std::function<void(QPrinter& printer)>& print);
+                         const std::function<bool(QPrinter& printer)>& print);
 
     // Before each page of a job. False stops the job. Pages count from 1.
     virtual bool OnPage(HWND owner, UINT page, UINT lastPage);

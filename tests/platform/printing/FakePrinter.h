@@ -35,7 +35,7 @@ public:
         return printer ? std::make_unique<Job>(*this) : nullptr;
     }
     void Preview(HWND /*owner*/, const QString& title,
-                 const std::function<void(QPrinter& printer)>& print) override
+                 const std::function<bool(QPrinter& printer)>& print) override
     {
         previewed << title;
         if (shown)
@@ -59,7 +59,7 @@ public:
     int failAtPage = 0; // 0: never
     int stopAt = -1;    // after so many things told
     std::function<void(PRINTDLG&)> chosen;
-    std::function<void(const std::function<void(QPrinter&)>&)> shown;
+    std::function<void(const std::function<bool(QPrinter&)>&)> shown;
 
     UINT flags = 0; // as the dialog began with
     QStringList asked;
