@@ -5,6 +5,7 @@
 #include "docview/ZNCoreEditorDoc.h"
 #include "platform/docview/CreateContext.h"
 #include "platform/windows/Mouse.h"
+#include "platform/windows/ScrollBars.h"
 #include "tests/control/RecordingEngine.h"
 
 #include <gmock/gmock.h>
@@ -105,6 +106,18 @@ TEST_F(ViewOrder, WithoutABraceTheHighlightGoes)
     Around('a', 'b');
     view->Hear(notify::UpdateUi);
     EXPECT_THAT(BraceMessages(), ElementsAre("GetCharAt 7", "GetCharAt 6", "BraceHighlight -1 -1"));
+}
+
+TEST_F(ViewOrder, AScrollStateThatIsUnchangedStillLooksAtTheBraces)
+{
+    Around('(', 'x');
+    AnswerTo(msg::BraceMatch, [](WPARAM, LPARAM) { return 9; });
+    SCROLLINFO unchanged;
+    unchanged.fMask = SIF_POS;
+    EXPECT_EQ(SendMessage(view->GetSafeHwnd(), kSetScrollInfo, reinterpret_cast<WPARAM>(&unchanged),
+                          kScrollVertical),
+              1);
+    EXPECT_THAT(BraceMessages(), Contains("BraceHighlight 6 9"));
 }
 
 TEST_F(ViewOrder, OnlyTheLowByteOfACharacterMakesABrace)

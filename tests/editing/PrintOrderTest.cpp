@@ -137,6 +137,14 @@ TEST_F(PrintOrder, ASelectionEndsOneUnitEarly)
     EXPECT_THAT(Begin(PD_SELECTION), ElementsAre(990, 1000));
 }
 
+TEST_F(PrintOrder, ASelectionOfOneUnitHasNoPage)
+{
+    Length(1000);
+    Selection(40, 41);
+    EXPECT_THAT(Begin(PD_SELECTION), ElementsAre(40));
+    EXPECT_EQ(m_info.GetMaxPage(), 0u);
+}
+
 TEST_F(PrintOrder, WithoutTheDialogsFlagASelectionIsNotLookedAt)
 {
     Length(100);
