@@ -10,6 +10,7 @@
 #include "host/icons/Style.h"
 #include "host/pictures/LanguagesPicture.h"
 #include "host/pictures/PreferencesPictures.h"
+#include "host/pictures/PrintPictures.h"
 #include "host/recovery/RecoveryDialog.h"
 #include "host/window/MainWindow.h"
 #include "host/window/Workbench.h"
@@ -166,6 +167,7 @@ int main(int argc, char** argv)
     PicturePreferences(folder, words[2]);
     Recovery().save(folder.filePath(words[2] + QStringLiteral("-recovery.png")));
     window->Find().Close();
+    PicturePrinting(*window, folder, words[2]);
     for (const char* pane : {"outline", "expand"}) {
         if (auto* action = window->findChild<QAction*>(QLatin1String(pane)))
             action->trigger();
