@@ -19,7 +19,8 @@ namespace {
 QString NameOf(COLORREF color)
 {
     const auto* found = std::ranges::find(kNamedColors, color, &NamedColor::color);
-    return found != kNamedColors.end() ? ShownName(*found) : ToQColor(color).name().toUpper();
+    return found != kNamedColors.end() ? ShownName(*found).trimmed()
+                                       : ToQColor(color).name().toUpper();
 }
 
 } // namespace

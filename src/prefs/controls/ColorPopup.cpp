@@ -138,7 +138,7 @@ void ZNCEColorPopup::SetCurrentCell(int cell)
     if (cell == m_current)
         return;
     m_current = cell;
-    setAccessibleName(cell == kNoCell ? Texts::tr("Palette") : NameOf(cell));
+    setAccessibleName(cell == kNoCell ? Texts::tr("Palette") : NameOf(cell).trimmed());
     QAccessibleEvent renamed(this, QAccessible::NameChanged);
     QAccessible::updateAccessibility(&renamed);
     update();
@@ -171,7 +171,7 @@ bool ZNCEColorPopup::event(QEvent* event)
     if (event->type() == QEvent::ToolTip) {
         const auto* help = static_cast<QHelpEvent*>(event);
         const int cell = CellAt(help->pos());
-        QToolTip::showText(help->globalPos(), cell >= 0 ? NameOf(cell) : QString(), this,
+        QToolTip::showText(help->globalPos(), cell >= 0 ? NameOf(cell).trimmed() : QString(), this,
                            RectOf(cell));
         return true;
     }

@@ -60,5 +60,5 @@ inline constexpr std::array<NamedColor, 40> kNamedColors = {{
 
 inline QString ShownName(const NamedColor& color)
 {
-    return QCoreApplication::translate("NamedColors", color.name).trimmed();
+    return QCoreApplication::translate("NamedColors", color.name);
 }
