@@ -27,18 +27,32 @@ bool IsSame(const QString& one, const QString& other)
     return one.compare(other, Qt::CaseInsensitive) == 0;
 }
 
-// What gives the name its columns or parameters, behind the words that the kind begins with.
-std::u16string TextOf(const ScriptIndex& index, const ScriptIndex::Read& read, const Object& object)
+// What gives the name its columns or parameters.
+struct Definition
 {
+    std::u16string text;           // behind the words that the kind begins with
+    std::vector<ScriptName> names; // the object and its members
+};
+
+// Without names if something else stands there: the index follows the text with a delay.
+Definition DefinitionOf(const ScriptIndex& index, const ScriptIndex::Read& read,
+                        const Object& object)
+{
+    const long start = std::min(object.position, index.Size());
     std::u16string units;
-    read(object.position, std::min(object.position + kDefinition, index.Size()), units);
+    read(start, std::min(start + kDefinition, index.Size()), units);
     const char16_t* front = object.kind == NameKind::Table       ? u"CREATE TABLE "
                             : object.kind == NameKind::View      ? u"CREATE VIEW "
                             : object.kind == NameKind::AlterUse  ? u"ALTER TABLE "
                             : object.kind == NameKind::InsertUse ? u"INSERT INTO "
                             : object.kind == NameKind::Procedure ? u"CREATE PROCEDURE "
                                                                  : u"CREATE FUNCTION ";
-    return front + units;
+    Definition definition{front + units, {}};
+    definition.names = MembersIn(definition.text, *index.Dialect());
+    if (!definition.names.empty() &&
+        definition.names.front().name != ToText(index.Words().Text(object.name)))
+        definition.names.clear();
+    return definition;
 }
 
 // The places of a name in any case.
@@ -190,14 +204,14 @@ void TableColumns::AddDefined(const Object& object, const QString& table,
                               std::vector<Column>& columns, int deep) const
 {
     const std::size_t first = columns.size();
-    const std::u16string text = TextOf(m_index, m_read, object);
-    for (const ScriptName& name : MembersIn(text, *m_index.Dialect())) {
+    const auto [text, names] = DefinitionOf(m_index, m_read, object);
+    for (const ScriptName& name : names) {
         const bool isTable = object.kind == NameKind::Table;
         if (name.kind == NameKind::Column)
             columns.push_back(
                 ColumnOf(name, isTable ? TypeOfColumn(text, name.end) : QString(), table));
     }
-    if (columns.size() == first && object.kind == NameKind::View)
+    if (columns.size() == first && object.kind == NameKind::View && !names.empty())
         AddItems(SelectListBehindAs(*m_index.Dialect(), ToUtf8(text)), table, columns, deep);
 }
 
@@ -205,9 +219,9 @@ void TableColumns::AddDefined(const Object& object, const QString& table,
 void TableColumns::Alter(const Object& object, const QString& table, std::vector<Column>& columns,
                          std::size_t first) const
 {
-    const std::u16string text = TextOf(m_index, m_read, object);
+    const auto [text, names] = DefinitionOf(m_index, m_read, object);
     auto renamed = columns.end();
-    for (const ScriptName& name : MembersIn(text, *m_index.Dialect())) {
+    for (const ScriptName& name : names) {
         const auto found =
             std::find_if(columns.begin() + static_cast<std::ptrdiff_t>(first), columns.end(),
                          [&](const Column& each) { return IsSame(each.name, name.name); });
@@ -237,9 +251,11 @@ Signature SignatureIn(const ScriptIndex& index, const ScriptIndex::Read& read, c
     const auto found = FindRoutine(index, name);
     if (!found)
         return {};
-    const std::u16string text = TextOf(index, read, *found);
+    const auto [text, names] = DefinitionOf(index, read, *found);
+    if (names.empty())
+        return {};
     QStringList parameters;
-    for (const ScriptName& parameter : MembersIn(text, *index.Dialect())) {
+    for (const ScriptName& parameter : names) {
         if (parameter.kind == NameKind::Parameter)
             parameters << (parameter.name + u' ' + TypeOfParameter(text, parameter.end)).trimmed();
     }

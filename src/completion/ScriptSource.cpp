@@ -225,8 +225,8 @@ void ScriptSource::ProposeObjects(const ProposalQuery& query,
         const std::string_view name = m_index.Words().Text(object.name);
         const Match match = m_index.Words().MatchOf(object.name, typed);
         // What is a use of one letter is an alias more often than a table.
-        if (match == Match::None || (object.kind >= NameKind::TableUse && name.size() < 2) ||
-            (query.place == Place::Anywhere && object.kind == NameKind::Index))
+        if (match == Match::None || object.kind == NameKind::Index ||
+            (object.kind >= NameKind::TableUse && name.size() < 2))
             return true;
         const int rank =
             query.place == Place::Table     ? (IsTable(object.kind) ? Rank::Second : Rank::Fifth)
@@ -248,7 +248,8 @@ void ScriptSource::ProposeObjects(const ProposalQuery& query,
 bool ScriptSource::IsQuotedAt(long position) const
 {
     std::u16string unit;
-    m_read(position, std::min(position + 1, m_index.Size()), unit);
+    if (position < m_index.Size()) // the text may have been cut since it was read
+        m_read(position, position + 1, unit);
     return !unit.empty() && (unit[0] == u'"' || unit[0] == u'[' || unit[0] == u'`');
 }
 

@@ -283,6 +283,26 @@ TEST(Proposals, AreColumnsThatAlterAdds)
               "a b c");
 }
 
+// Until the index has read again what was cut from the text.
+TEST(Proposals, KeepInsideATextThatWasCut)
+{
+    IndexedText text(engine::analysis::DialectByName("sql"),
+                     u"select 1; " + std::u16string(kTables), 4096);
+    text.Finish();
+    text.Delete(5, text.Length() - 8);
+    CaretContext context;
+    context.query.caret = text.Length();
+    context.query.qualifier = {QStringLiteral("orders")};
+    ScriptSource source(text.Index(), text.Reader());
+    source.SetContext(context);
+    std::vector<Proposal> proposals;
+    source.Propose(context.query, proposals);
+    EXPECT_TRUE(std::none_of(proposals.begin(), proposals.end(), [](const Proposal& each) {
+        return each.kind == ProposalKind::Column;
+    }));
+    EXPECT_TRUE(SignatureIn(text.Index(), text.Reader(), QStringLiteral("orders")).text.isEmpty());
+}
+
 TEST(Proposals, TellTheTypeOfAColumn)
 {
     Caret caret(std::u16string(kTables) + u"select o.na| from customers o");

@@ -17,15 +17,17 @@ void Require(bool holds)
         std::abort();
 }
 
+// In line ends of two characters, so that a line keeps a carriage return of its own at its end.
 QString Written(const TemplateFile& file)
 {
-    QString text = QStringLiteral("templates 1\n");
+    const QLatin1String end("\r\n");
+    QString text = QStringLiteral("templates 1\r\n");
     for (const CodeTemplate& each : file.templates) {
-        text += QStringLiteral("== ") + each.shortName + QStringLiteral(": ") + each.title + u'\n';
+        text += QStringLiteral("== ") + each.shortName + QStringLiteral(": ") + each.title + end;
         for (const QString& line : each.lines)
             text += (line.startsWith(u'=') || line.startsWith(QLatin1String("\\=")) ? u'\\' + line
                                                                                     : line) +
-                    u'\n';
+                    end;
     }
     return text;
 }
