@@ -9,6 +9,7 @@
 #include "host/files/FilePlace.h"
 #include "host/files/Prompts.h"
 #include "host/printing/WorkbenchPrinter.h"
+#include "host/script/MenuKey.h"
 #include "host/script/NameAtCaret.h"
 #include "host/script/ScriptDoc.h"
 #include "platform/docview/FrameWnd.h"
@@ -23,6 +24,8 @@
 #include <QFileInfo>
 #include <QMenu>
 #include <QUrl>
+
+#include <algorithm>
 
 namespace {
 
@@ -149,9 +152,25 @@ void ScriptView::OpenNamed(const QString& name)
         other->FirstView()->GoToLine(place.line - 1);
 }
 
-// The menu of the base, and what the caret stands on.
+QPoint ScriptView::MenuPlaceAtCaret()
+{
+    const QWidget* window = m_coreEditor.GetSafeHwnd();
+    const long caret = m_coreEditor.GetCurrentPos(1);
+    const QRect seen = window->rect();
+    const int left = m_coreEditor.PointXFromPosition(caret, 1);
+    const int below = m_coreEditor.PointYFromPosition(caret, 1) + m_coreEditor.TextHeight(0, 1);
+    return window->mapToGlobal(QPoint(std::clamp(left, seen.left(), seen.right()),
+                                      std::clamp(below, seen.top(), seen.bottom())));
+}
+
+// The menu of the base, and what the caret stands on. The base's comes up at the pointer even if a
+// key opens it.
 void ScriptView::OnContextMenu(CWnd* window, CPoint point)
 {
+    if (m_menuKey && m_menuKey->IsPressed()) {
+        const QPoint place = MenuPlaceAtCaret();
+        point = {place.x(), place.y()};
+    }
     CZNCoreEditorView::OnContextMenu(window, point);
     auto* menu = qobject_cast<QMenu*>(QApplication::activePopupWidget());
     const ScriptDoc* script = GetSafeHwnd() ? Script() : nullptr;

@@ -12,6 +12,7 @@
 #include "host/files/FileDrops.h"
 #include "host/preferences/Appearance.h"
 #include "host/script/BatchMark.h"
+#include "host/script/MenuKey.h"
 #include "host/script/NameAtCaret.h"
 #include "host/script/ScriptDoc.h"
 #include "host/script/ScrollRange.h"
@@ -75,6 +76,7 @@ int ScriptView::OnCreate(CCreateContext* context)
     m_coreEditor.GetSafeHwnd()->setAccessibleName(Texts::tr("Script"));
     FileDrops::Take(*m_coreEditor.GetSafeHwnd());
     new NameClicks(*this); // goes with the editor's window
+    m_menuKey = new MenuKey(*m_coreEditor.GetSafeHwnd());
     if (ScriptDoc* script = Script()) {
         script->OnViewMade(*this);
         m_completion = std::make_unique<EditorCompletion>(m_coreEditor, script->Names());

@@ -5,12 +5,14 @@
 
 #include "docview/ZNCoreEditorView.h"
 
+#include <QPointer>
 #include <QTimer>
 
 #include <chrono>
 #include <memory>
 
 class EditorCompletion;
+class MenuKey;
 class ScriptDoc;
 struct SCNotification;
 
@@ -57,6 +59,7 @@ protected:
     const CommandMap& GetCommandMap() const override;
 
 private:
+    QPoint MenuPlaceAtCaret(); // on the screen
     ScriptView();
     ~ScriptView() override;
     void LookAtFile(); // and asks about what others did to it
@@ -77,6 +80,7 @@ private:
     bool HasSomethingToEnd();
 
     std::unique_ptr<EditorCompletion> m_completion;
-    QTimer m_rest;           // runs while there is something to follow
-    int m_measuredFrom = -1; // the first line on screen when lines were last measured
+    QTimer m_rest;               // runs while there is something to follow
+    int m_measuredFrom = -1;     // the first line on screen when lines were last measured
+    QPointer<MenuKey> m_menuKey; // goes with the editor's window
 };
