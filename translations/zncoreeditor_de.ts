@@ -1753,5 +1753,76 @@ Eintragen?</translation>
         <source>&amp;Line Numbers</source>
         <translation>&amp;Zeilennummern</translation>
     </message>
+    <message>
+        <source>Clear All Bookmarks</source>
+        <translation>Alle Lesezeichen entfernen</translation>
+    </message>
+    <message>
+        <source>Co&amp;mment Out</source>
+        <translation>Ausk&amp;ommentieren</translation>
+    </message>
+    <message>
+        <source>&amp;Uncomment</source>
+        <translation>Kommentar auf&amp;heben</translation>
+    </message>
+    <message>
+        <source>Increase Number</source>
+        <translation>Zahl erhöhen</translation>
+    </message>
+    <message>
+        <source>Decrease Number</source>
+        <translation>Zahl verringern</translation>
+    </message>
+    <message>
+        <source>&amp;Find...</source>
+        <translation>&amp;Suchen...</translation>
+    </message>
+    <message>
+        <source>Find &amp;Next</source>
+        <translation>&amp;Weitersuchen</translation>
+    </message>
+    <message>
+        <source>&amp;Replace...</source>
+        <translation>&amp;Ersetzen...</translation>
+    </message>
+    <message>
+        <source>Insert &amp;File...</source>
+        <translation>&amp;Datei einfügen...</translation>
+    </message>
+    <message>
+        <source>Convert Line Ends to CR+LF (Windows)</source>
+        <translation>Zeilenenden in CR+LF (Windows) umwandeln</translation>
+    </message>
+    <message>
+        <source>Convert Line Ends to LF (Unix)</source>
+        <translation>Zeilenenden in LF (Unix) umwandeln</translation>
+    </message>
+    <message>
+        <source>Convert Line Ends to CR (Mac)</source>
+        <translation>Zeilenenden in CR (Mac) umwandeln</translation>
+    </message>
+    <message>
+        <source>Editor and Language &amp;Preferences...</source>
+        <translation>&amp;Einstellungen für Editor und Sprachen...</translation>
+    </message>
+    <message>
+        <source>Insert Template</source>
+        <translation>Vorlage einfügen</translation>
+    </message>
+</context>
+<context>
+    <name>ZNCoreEditorWidget::Private</name>
+    <message>
+        <source>&amp;Go to Line...</source>
+        <translation>&amp;Gehe zu Zeile...</translation>
+    </message>
+    <message>
+        <source>Go to Line</source>
+        <translation>Gehe zu Zeile</translation>
+    </message>
+    <message>
+        <source>Line:</source>
+        <translation>Zeile:</translation>
+    </message>
 </context>
 </TS>

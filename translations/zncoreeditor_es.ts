@@ -1753,5 +1753,76 @@ Write them?</source>
         <source>&amp;Line Numbers</source>
         <translation>Números de &amp;línea</translation>
     </message>
+    <message>
+        <source>Clear All Bookmarks</source>
+        <translation>Quitar todos los marcadores</translation>
+    </message>
+    <message>
+        <source>Co&amp;mment Out</source>
+        <translation>Co&amp;mentar</translation>
+    </message>
+    <message>
+        <source>&amp;Uncomment</source>
+        <translation>&amp;Descomentar</translation>
+    </message>
+    <message>
+        <source>Increase Number</source>
+        <translation>Aumentar el número</translation>
+    </message>
+    <message>
+        <source>Decrease Number</source>
+        <translation>Disminuir el número</translation>
+    </message>
+    <message>
+        <source>&amp;Find...</source>
+        <translation>&amp;Buscar...</translation>
+    </message>
+    <message>
+        <source>Find &amp;Next</source>
+        <translation>Buscar &amp;siguiente</translation>
+    </message>
+    <message>
+        <source>&amp;Replace...</source>
+        <translation>&amp;Reemplazar...</translation>
+    </message>
+    <message>
+        <source>Insert &amp;File...</source>
+        <translation>Insertar &amp;archivo...</translation>
+    </message>
+    <message>
+        <source>Convert Line Ends to CR+LF (Windows)</source>
+        <translation>Convertir los finales de línea a CR+LF (Windows)</translation>
+    </message>
+    <message>
+        <source>Convert Line Ends to LF (Unix)</source>
+        <translation>Convertir los finales de línea a LF (Unix)</translation>
+    </message>
+    <message>
+        <source>Convert Line Ends to CR (Mac)</source>
+        <translation>Convertir los finales de línea a CR (Mac)</translation>
+    </message>
+    <message>
+        <source>Editor and Language &amp;Preferences...</source>
+        <translation>&amp;Preferencias del editor y de los lenguajes...</translation>
+    </message>
+    <message>
+        <source>Insert Template</source>
+        <translation>Insertar plantilla</translation>
+    </message>
+</context>
+<context>
+    <name>ZNCoreEditorWidget::Private</name>
+    <message>
+        <source>&amp;Go to Line...</source>
+        <translation>&amp;Ir a la línea...</translation>
+    </message>
+    <message>
+        <source>Go to Line</source>
+        <translation>Ir a la línea</translation>
+    </message>
+    <message>
+        <source>Line:</source>
+        <translation>Línea:</translation>
+    </message>
 </context>
 </TS>

@@ -1753,5 +1753,76 @@ Les écrire ?</translation>
         <source>&amp;Line Numbers</source>
         <translation>Nu&amp;méros de ligne</translation>
     </message>
+    <message>
+        <source>Clear All Bookmarks</source>
+        <translation>Supprimer tous les signets</translation>
+    </message>
+    <message>
+        <source>Co&amp;mment Out</source>
+        <translation>Co&amp;mmenter</translation>
+    </message>
+    <message>
+        <source>&amp;Uncomment</source>
+        <translation>&amp;Décommenter</translation>
+    </message>
+    <message>
+        <source>Increase Number</source>
+        <translation>Augmenter le nombre</translation>
+    </message>
+    <message>
+        <source>Decrease Number</source>
+        <translation>Diminuer le nombre</translation>
+    </message>
+    <message>
+        <source>&amp;Find...</source>
+        <translation>&amp;Rechercher...</translation>
+    </message>
+    <message>
+        <source>Find &amp;Next</source>
+        <translation>Rechercher le &amp;suivant</translation>
+    </message>
+    <message>
+        <source>&amp;Replace...</source>
+        <translation>R&amp;emplacer...</translation>
+    </message>
+    <message>
+        <source>Insert &amp;File...</source>
+        <translation>Insérer un &amp;fichier...</translation>
+    </message>
+    <message>
+        <source>Convert Line Ends to CR+LF (Windows)</source>
+        <translation>Convertir les fins de ligne en CR+LF (Windows)</translation>
+    </message>
+    <message>
+        <source>Convert Line Ends to LF (Unix)</source>
+        <translation>Convertir les fins de ligne en LF (Unix)</translation>
+    </message>
+    <message>
+        <source>Convert Line Ends to CR (Mac)</source>
+        <translation>Convertir les fins de ligne en CR (Mac)</translation>
+    </message>
+    <message>
+        <source>Editor and Language &amp;Preferences...</source>
+        <translation>&amp;Préférences de l’éditeur et des langages...</translation>
+    </message>
+    <message>
+        <source>Insert Template</source>
+        <translation>Insérer un modèle</translation>
+    </message>
+</context>
+<context>
+    <name>ZNCoreEditorWidget::Private</name>
+    <message>
+        <source>&amp;Go to Line...</source>
+        <translation>&amp;Aller à la ligne...</translation>
+    </message>
+    <message>
+        <source>Go to Line</source>
+        <translation>Aller à la ligne</translation>
+    </message>
+    <message>
+        <source>Line:</source>
+        <translation>Ligne :</translation>
+    </message>
 </context>
 </TS>

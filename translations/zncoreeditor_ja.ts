@@ -1753,5 +1753,76 @@ Write them?</source>
         <source>&amp;Line Numbers</source>
         <translation>行番号(&amp;L)</translation>
     </message>
+    <message>
+        <source>Clear All Bookmarks</source>
+        <translation>すべてのブックマークを削除</translation>
+    </message>
+    <message>
+        <source>Co&amp;mment Out</source>
+        <translation>コメントアウト(&amp;M)</translation>
+    </message>
+    <message>
+        <source>&amp;Uncomment</source>
+        <translation>コメント解除(&amp;U)</translation>
+    </message>
+    <message>
+        <source>Increase Number</source>
+        <translation>数値を増やす</translation>
+    </message>
+    <message>
+        <source>Decrease Number</source>
+        <translation>数値を減らす</translation>
+    </message>
+    <message>
+        <source>&amp;Find...</source>
+        <translation>検索(&amp;F)...</translation>
+    </message>
+    <message>
+        <source>Find &amp;Next</source>
+        <translation>次を検索(&amp;N)</translation>
+    </message>
+    <message>
+        <source>&amp;Replace...</source>
+        <translation>置換(&amp;R)...</translation>
+    </message>
+    <message>
+        <source>Insert &amp;File...</source>
+        <translation>ファイルを挿入(&amp;F)...</translation>
+    </message>
+    <message>
+        <source>Convert Line Ends to CR+LF (Windows)</source>
+        <translation>改行を CR+LF (Windows) に変換</translation>
+    </message>
+    <message>
+        <source>Convert Line Ends to LF (Unix)</source>
+        <translation>改行を LF (Unix) に変換</translation>
+    </message>
+    <message>
+        <source>Convert Line Ends to CR (Mac)</source>
+        <translation>改行を CR (Mac) に変換</translation>
+    </message>
+    <message>
+        <source>Editor and Language &amp;Preferences...</source>
+        <translation>エディターと言語の設定(&amp;P)...</translation>
+    </message>
+    <message>
+        <source>Insert Template</source>
+        <translation>テンプレートを挿入</translation>
+    </message>
+</context>
+<context>
+    <name>ZNCoreEditorWidget::Private</name>
+    <message>
+        <source>&amp;Go to Line...</source>
+        <translation>行へ移動(&amp;G)...</translation>
+    </message>
+    <message>
+        <source>Go to Line</source>
+        <translation>行へ移動</translation>
+    </message>
+    <message>
+        <source>Line:</source>
+        <translation>行:</translation>
+    </message>
 </context>
 </TS>

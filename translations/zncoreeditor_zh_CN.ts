@@ -1753,5 +1753,76 @@ Write them?</source>
         <source>&amp;Line Numbers</source>
         <translation>行号(&amp;L)</translation>
     </message>
+    <message>
+        <source>Clear All Bookmarks</source>
+        <translation>清除所有书签</translation>
+    </message>
+    <message>
+        <source>Co&amp;mment Out</source>
+        <translation>注释(&amp;M)</translation>
+    </message>
+    <message>
+        <source>&amp;Uncomment</source>
+        <translation>取消注释(&amp;U)</translation>
+    </message>
+    <message>
+        <source>Increase Number</source>
+        <translation>增大数字</translation>
+    </message>
+    <message>
+        <source>Decrease Number</source>
+        <translation>减小数字</translation>
+    </message>
+    <message>
+        <source>&amp;Find...</source>
+        <translation>查找(&amp;F)...</translation>
+    </message>
+    <message>
+        <source>Find &amp;Next</source>
+        <translation>查找下一个(&amp;N)</translation>
+    </message>
+    <message>
+        <source>&amp;Replace...</source>
+        <translation>替换(&amp;R)...</translation>
+    </message>
+    <message>
+        <source>Insert &amp;File...</source>
+        <translation>插入文件(&amp;F)...</translation>
+    </message>
+    <message>
+        <source>Convert Line Ends to CR+LF (Windows)</source>
+        <translation>将行尾转换为 CR+LF (Windows)</translation>
+    </message>
+    <message>
+        <source>Convert Line Ends to LF (Unix)</source>
+        <translation>将行尾转换为 LF (Unix)</translation>
+    </message>
+    <message>
+        <source>Convert Line Ends to CR (Mac)</source>
+        <translation>将行尾转换为 CR (Mac)</translation>
+    </message>
+    <message>
+        <source>Editor and Language &amp;Preferences...</source>
+        <translation>编辑器和语言首选项(&amp;P)...</translation>
+    </message>
+    <message>
+        <source>Insert Template</source>
+        <translation>插入模板</translation>
+    </message>
+</context>
+<context>
+    <name>ZNCoreEditorWidget::Private</name>
+    <message>
+        <source>&amp;Go to Line...</source>
+        <translation>转到行(&amp;G)...</translation>
+    </message>
+    <message>
+        <source>Go to Line</source>
+        <translation>转到行</translation>
+    </message>
+    <message>
+        <source>Line:</source>
+        <translation>行：</translation>
+    </message>
 </context>
 </TS>

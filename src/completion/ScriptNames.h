@@ -33,7 +33,7 @@ ZN_API std::vector<ScriptName> NamesIn(std::u16string_view text, int dialect);
 
 // The first one and what belongs to it, its columns and parameters; up to the terminator, or the
 // first name that is something else.
-std::vector<ScriptName> MembersIn(std::u16string_view text,
-                                  const engine::analysis::SqlDialect& dialect);
+ZN_API std::vector<ScriptName> MembersIn(std::u16string_view text,
+                                         const engine::analysis::SqlDialect& dialect);
 
 } // namespace completion

@@ -102,8 +102,10 @@ bool ZNCoreEditorWidget::completesWhileTyping() const
 
 void ZNCoreEditorWidget::setCompletesWhileTyping(bool completes)
 {
-    if (d->m_completion)
-        d->m_completion->SetOpensWhileTyping(completes);
+    if (!d->m_completion || completes == completesWhileTyping())
+        return;
+    d->m_completion->SetOpensWhileTyping(completes);
+    Q_EMIT completesWhileTypingChanged(completes);
 }
 
 // While slots of QWidget's own end are called, there is no editor any more.
@@ -235,6 +237,10 @@ ZNCoreEditorWidget::Private::Settings ZNCoreEditorWidget::Private::CurrentSettin
             control.GetWriteEncodingSig(),
             control.GetEOLMode(1),
             control.GetZoom(1),
+            control.GetOvertype(1) != 0,
+            control.GetTabWidth(1),
+            control.GetWrapMode(1) != 0,
+            control.IsVisibleLineNumber(),
             control.SchemeName(),
             control.GetFileName()};
 }
@@ -258,4 +264,10 @@ void ZNCoreEditorWidget::Private::TellSettings(const Lifetime& alive)
     tell(now.language != before.language, [&] { Q_EMIT q.languageChanged(now.language); });
     tell(now.scheme != before.scheme, [&] { Q_EMIT q.schemeChanged(now.scheme); });
     tell(now.zoom != before.zoom, [&] { Q_EMIT q.zoomChanged(now.zoom); });
+    tell(now.overwrites != before.overwrites,
+         [&] { Q_EMIT q.overwriteModeChanged(now.overwrites); });
+    tell(now.tabWidth != before.tabWidth, [&] { Q_EMIT q.tabWidthChanged(now.tabWidth); });
+    tell(now.wraps != before.wraps, [&] { Q_EMIT q.lineWrapModeChanged(q.lineWrapMode()); });
+    tell(now.hasNumbers != before.hasNumbers,
+         [&] { Q_EMIT q.lineNumbersVisibleChanged(now.hasNumbers); });
 }

@@ -8,10 +8,12 @@
 
 #include <QFont>
 #include <QList>
+#include <QPalette>
 #include <QString>
 #include <QStringList>
 #include <QWidget>
 
+#include <functional>
 #include <memory>
 #include <optional>
 
@@ -42,17 +44,22 @@ class ZN_API ZNCoreEditorWidget : public QWidget
     Q_PROPERTY(bool modified READ isModified WRITE setModified NOTIFY modificationChanged)
     Q_PROPERTY(bool readOnly READ isReadOnly WRITE setReadOnly NOTIFY readOnlyChanged)
     Q_PROPERTY(QString languageName READ languageName WRITE setLanguageName NOTIFY languageChanged)
-    Q_PROPERTY(bool completesWhileTyping READ completesWhileTyping WRITE setCompletesWhileTyping)
+    Q_PROPERTY(
+        bool overwriteMode READ overwriteMode WRITE setOverwriteMode NOTIFY overwriteModeChanged)
+    Q_PROPERTY(bool completesWhileTyping READ completesWhileTyping WRITE setCompletesWhileTyping
+                   NOTIFY completesWhileTypingChanged)
     Q_PROPERTY(QString scheme READ scheme WRITE setScheme NOTIFY schemeChanged)
     Q_PROPERTY(Encoding encoding READ encoding WRITE setEncoding NOTIFY encodingChanged)
     Q_PROPERTY(
         bool byteOrderMark READ hasByteOrderMark WRITE setByteOrderMark NOTIFY encodingChanged)
     Q_PROPERTY(LineEnd lineEnd READ lineEnd WRITE setLineEnd NOTIFY lineEndChanged)
     Q_PROPERTY(QFont editorFont READ editorFont WRITE setEditorFont NOTIFY editorFontChanged)
-    Q_PROPERTY(int tabWidth READ tabWidth WRITE setTabWidth)
+    Q_PROPERTY(int tabWidth READ tabWidth WRITE setTabWidth NOTIFY tabWidthChanged)
     Q_PROPERTY(int zoom READ zoom WRITE setZoom NOTIFY zoomChanged)
-    Q_PROPERTY(LineWrapMode lineWrapMode READ lineWrapMode WRITE setLineWrapMode)
-    Q_PROPERTY(bool lineNumbersVisible READ areLineNumbersVisible WRITE setLineNumbersVisible)
+    Q_PROPERTY(LineWrapMode lineWrapMode READ lineWrapMode WRITE setLineWrapMode NOTIFY
+                   lineWrapModeChanged)
+    Q_PROPERTY(bool lineNumbersVisible READ areLineNumbersVisible WRITE setLineNumbersVisible NOTIFY
+                   lineNumbersVisibleChanged)
     Q_PROPERTY(bool undoAvailable READ isUndoAvailable NOTIFY undoAvailable STORED false)
     Q_PROPERTY(bool redoAvailable READ isRedoAvailable NOTIFY redoAvailable STORED false)
     Q_PROPERTY(int lineCount READ lineCount NOTIFY lineCountChanged STORED false)
@@ -162,6 +169,10 @@ public:
     bool isReadOnly() const;
     /// Keeps the text as it is, or no longer.
     void setReadOnly(bool readOnly);
+    /// Whether typed characters take the place of those behind the caret.
+    bool overwriteMode() const;
+    /// Asks for that, or for characters that are put in.
+    void setOverwriteMode(bool overwrite);
     /// Whether there is a step to take back.
     bool isUndoAvailable() const;
     /// Whether there is a step to take again.
@@ -186,6 +197,8 @@ public:
     /// From its first unit on, wherever the caret stands in it.
     Range selection() const;
     void setSelection(Range range); ///< with the caret at its end
+    /// The same by lines and columns. A caret before the other end stands in front.
+    void setSelection(int line, int column, int caretLine, int caretColumn);
     /// Lines and columns of a position, and the reverse.
     int lineAt(int position) const;
     /// In units from the start of its line.
@@ -193,6 +206,10 @@ public:
     /// A column behind the end of the line is taken for that end.
     int positionAt(int line, int column) const;
     QString wordUnderCursor() const; ///< empty where there is none
+    /// Scrolls as far as the caret needs to be seen.
+    void ensureCursorVisible();
+    /// Scrolls so that the caret's line stands in the middle, as far as there is text.
+    void centerCursor();
     /// @}
 
     /// \name Files
@@ -249,6 +266,10 @@ public:
     QString scheme() const;
     /// False for a name that there is not.
     bool setScheme(const QString& name);
+
+    /// The colours that plain text has here, for what a host shows beside it: Base, Text,
+    /// Highlight and HighlightedText; the others are the widget's.
+    QPalette textPalette() const;
 
     /// The list of proposals, which Ctrl+Space opens: words, names and keywords of the text and of
     /// its language. A host adds sources of its own. Null without an engine.
@@ -312,6 +333,19 @@ public:
     Range batchAtCursor() const;
     /// @}
 
+    /// \name Templates
+    /// @{
+
+    /// What a person answers to the question of a template; nothing: they thought better of it.
+    using Ask = std::function<std::optional<QString>(const QString& question)>;
+    /// Puts a template in the selection's place, in one step of undo; completion/TemplateFile.h
+    /// reads files of them. "^#" and "#^" enclose a question, which is asked once for all of its
+    /// places; "^!" is where the caret goes, and the text that was selected. Lines are indented as
+    /// the caret's line is. Without a function a dialog asks. False, and nothing is changed: the
+    /// text is read-only, a question is not closed or not answered.
+    bool insertTemplate(const QString& text, const Ask& ask = {});
+    /// @}
+
     /// \name Bookmarks
     /// @{
 
@@ -357,6 +391,8 @@ public Q_SLOTS:
     /// The caret goes to the end.
     void selectAll();
     void insertPlainText(const QString& text); ///< in the selection's place
+    /// Puts a paragraph of its own behind the text. The caret stays.
+    void appendPlainText(const QString& text);
     /// Larger, of this editor alone.
     void zoomIn(int points = 1);
     /// Smaller.
@@ -385,6 +421,16 @@ Q_SIGNALS:
     void lineEndChanged();
     /// The host has set another font.
     void editorFontChanged();
+    /// By the host, or by the Insert key.
+    void overwriteModeChanged(bool overwrite);
+    /// The host has asked for other.
+    void completesWhileTypingChanged(bool completes);
+    /// By the host, or by another language.
+    void tabWidthChanged(int characters);
+    /// By the host, or by another language.
+    void lineWrapModeChanged(ZNCoreEditorWidget::LineWrapMode mode);
+    /// By the host, by a command, or by another language.
+    void lineNumbersVisibleChanged(bool visible);
     /// By the host, or by the wheel with Control held.
     void zoomChanged(int points);
     /// The host has set others.

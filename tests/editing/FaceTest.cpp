@@ -3,6 +3,7 @@
 #include "editing/ZNCoreEditorControlEx.h"
 #include "editing/ZNCoreEditorWidget.h"
 #include "platform/services/OptionsServer.h"
+#include "platform/windows/ActionUI.h"
 
 #include <QAbstractScrollArea>
 #include <QAction>
@@ -18,6 +19,7 @@
 #include <gtest/gtest.h>
 
 #include <algorithm>
+#include <set>
 
 namespace {
 
@@ -74,6 +76,10 @@ const Question kQuestions[] = {
      [](Control& c) { return long(c.GetZoom(1)); }},
     {"areLineNumbersVisible", [](Editor& e) { return long{e.areLineNumbersVisible()}; },
      [](Control& c) { return long{c.IsVisibleLineNumber()}; }},
+    {"overwriteMode", [](Editor& e) { return long{e.overwriteMode()}; },
+     [](Control& c) { return long(c.GetOvertype(1)); }},
+    {"lineWrapMode", [](Editor& e) { return static_cast<long>(e.lineWrapMode()); },
+     [](Control& c) { return long(c.GetWrapMode(1)); }},
     {"hasByteOrderMark", [](Editor& e) { return long{e.hasByteOrderMark()}; },
      [](Control& c) { return long{c.GetWriteEncodingSig()}; }},
 };
@@ -111,6 +117,14 @@ const Deed kDeeds[] = {
      [](Editor& e) { e.setByteOrderMark(false); }},
     {"clear", [](Control& c) { c.ClearAll(1); }, [](Editor& e) { e.clear(); }},
     {"selectAll", [](Control& c) { c.SelectAll(1); }, [](Editor& e) { e.selectAll(); }},
+    {"overwrite", [](Control& c) { c.SetOvertype(true, 1); },
+     [](Editor& e) { e.setOverwriteMode(true); }},
+    {"wrap", [](Control& c) { c.SetWrapMode(1, 1); },
+     [](Editor& e) { e.setLineWrapMode(Editor::LineWrapMode::WidgetWidth); }},
+    {"selectionByLines", [](Control& c) { c.SetSel(19, 7, 1); },
+     [](Editor& e) { e.setSelection(1, 5, 0, 7); }},
+    {"append", [](Control& c) { c.AppendText(4, u"\nend", 1); },
+     [](Editor& e) { e.appendPlainText(QStringLiteral("end")); }},
     {"insert", [](Control& c) { c.ReplaceSel(u"new", 1); },
      [](Editor& e) { e.insertPlainText(QStringLiteral("new")); }},
 };
@@ -197,6 +211,51 @@ TEST_F(EditorFace, TellsEachChangeOnce)
     editor.setReadOnly(false);
     editor.setLineEnd(Editor::LineEnd::Cr);
     EXPECT_EQ(ends.count(), 1);
+}
+
+TEST_F(EditorFace, TellsOfEachSettingOnce)
+{
+    editor.setLanguage(3);
+    const bool hadNumbers = editor.areLineNumbersVisible();
+    QSignalSpy overwrite(&editor, &Editor::overwriteModeChanged);
+    QSignalSpy tabs(&editor, &Editor::tabWidthChanged);
+    QSignalSpy wrap(&editor, &Editor::lineWrapModeChanged);
+    QSignalSpy numbers(&editor, &Editor::lineNumbersVisibleChanged);
+    QSignalSpy completes(&editor, &Editor::completesWhileTypingChanged);
+    for (int i = 0; i < 2; ++i) { // the second time nothing changes
+        editor.setOverwriteMode(true);
+        editor.setTabWidth(13);
+        editor.setLineWrapMode(Editor::LineWrapMode::WidgetWidth);
+        editor.setLineNumbersVisible(!hadNumbers);
+        editor.setCompletesWhileTyping(true);
+    }
+    for (const QSignalSpy* each : {&overwrite, &tabs, &wrap, &numbers, &completes})
+        EXPECT_EQ(each->count(), 1) << each->signal().toStdString();
+}
+
+TEST_F(EditorFace, TellsTheColoursOfItsText)
+{
+    editor.setScheme(QStringLiteral("Dark"));
+    EXPECT_LT(editor.textPalette().color(QPalette::Base).lightness(), 90);
+    EXPECT_GT(editor.textPalette().color(QPalette::Text).lightness(), 150);
+    editor.setScheme(QStringLiteral("Light"));
+    EXPECT_GT(editor.textPalette().color(QPalette::Base).lightness(), 200);
+}
+
+TEST_F(EditorFace, BringsItsCaretIntoTheMiddle)
+{
+    editor.resize(400, 300);
+    editor.setText(QStringLiteral("select 1;\n").repeated(300));
+    editor.show();
+    QApplication::processEvents();
+    editor.setCursorPosition(150, 0);
+    editor.centerCursor();
+    const auto middle = 150 - control.GetFirstVisibleLine(1);
+    EXPECT_NEAR(static_cast<double>(middle), control.LinesOnScreen(1) / 2.0, 1.0);
+    control.LineScroll(0, 120, 1);
+    editor.ensureCursorVisible();
+    EXPECT_LE(control.GetFirstVisibleLine(1), 150);
+    EXPECT_GT(control.GetFirstVisibleLine(1) + control.LinesOnScreen(1), 150);
 }
 
 TEST_F(EditorFace, TellsOfTheSelectionFromTheEventLoop)
@@ -339,6 +398,28 @@ TEST_F(EditorFace, OffersItsCommandsAsActions)
     editor.command(QStringLiteral("undo"))->trigger();
     EXPECT_EQ(editor.text(), QString::fromLatin1(kScript));
     EXPECT_EQ(editor.command(QStringLiteral("nonsense")), nullptr);
+}
+
+// The view's own number of Delete and the rule without a command need none; Match Token has two.
+TEST_F(EditorFace, HasAnActionForEachCommandOfTheControl)
+{
+    const UINT kCommands[] = {
+#define ZN_COMMAND(number, ...) number,
+#define ZN_PLAIN(number, ...) number,
+#define ZN_OWN(number, ...) number,
+#define ZN_OWN_PLAIN(number, ...) number,
+#define ZN_AGAIN(...)
+#define ZN_AGAIN_PLAIN(...)
+#define ZN_RULE(...)
+#include "editing/ControlCommands.def"
+    };
+    constexpr UINT kGoTo = 54049; // by a dialog that knows the face
+    std::set<UINT> numbers{kGoTo};
+    for (const QAction* action : editor.commands())
+        numbers.insert(CommandOf(*action));
+    for (const UINT number : kCommands)
+        EXPECT_TRUE(numbers.contains(number)) << number;
+    EXPECT_NE(editor.command(QStringLiteral("goToLine")), nullptr);
 }
 
 TEST_F(EditorFace, EnablesItsActionsAsTheyArePossible)

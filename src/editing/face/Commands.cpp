@@ -9,6 +9,7 @@
 
 #include <QAction>
 #include <QCoreApplication>
+#include <QInputDialog>
 #include <QKeySequence>
 #include <QMenu>
 #include <QMetaMethod>
@@ -16,6 +17,7 @@
 #include <QPainter>
 
 #include <algorithm>
+#include <utility>
 #include <vector>
 
 namespace {
@@ -45,6 +47,19 @@ constexpr BasicRow kBasics[] = {
     {54057, "toggleBookmark",   QT_TRANSLATE_NOOP("ZNCoreEditorWidget", "Toggle &Bookmark"),   QKeySequence::UnknownKey},
     {54056, "nextBookmark",     QT_TRANSLATE_NOOP("ZNCoreEditorWidget", "&Next Bookmark"),     QKeySequence::UnknownKey},
     {54058, "previousBookmark", QT_TRANSLATE_NOOP("ZNCoreEditorWidget", "Previous Boo&kmark"), QKeySequence::UnknownKey},
+    {54059, "clearBookmarks",   QT_TRANSLATE_NOOP("ZNCoreEditorWidget", "Clear All Bookmarks"),   QKeySequence::UnknownKey},
+    {54037, "commentOut",       QT_TRANSLATE_NOOP("ZNCoreEditorWidget", "Co&mment Out"),          QKeySequence::UnknownKey},
+    {54041, "uncomment",        QT_TRANSLATE_NOOP("ZNCoreEditorWidget", "&Uncomment"),            QKeySequence::UnknownKey},
+    {54001, "increaseNumber",   QT_TRANSLATE_NOOP("ZNCoreEditorWidget", "Increase Number"),       QKeySequence::UnknownKey},
+    {54002, "decreaseNumber",   QT_TRANSLATE_NOOP("ZNCoreEditorWidget", "Decrease Number"),       QKeySequence::UnknownKey},
+    {57636, "find",             QT_TRANSLATE_NOOP("ZNCoreEditorWidget", "&Find..."),              QKeySequence::Find},
+    {57640, "findNext",         QT_TRANSLATE_NOOP("ZNCoreEditorWidget", "Find &Next"),            QKeySequence::FindNext},
+    {57641, "replace",          QT_TRANSLATE_NOOP("ZNCoreEditorWidget", "&Replace..."),           QKeySequence::Replace},
+    {54038, "insertFile",       QT_TRANSLATE_NOOP("ZNCoreEditorWidget", "Insert &File..."),       QKeySequence::UnknownKey},
+    {54071, "lineEndsCrLf",     QT_TRANSLATE_NOOP("ZNCoreEditorWidget", "Convert Line Ends to CR+LF (Windows)"), QKeySequence::UnknownKey},
+    {54072, "lineEndsLf",       QT_TRANSLATE_NOOP("ZNCoreEditorWidget", "Convert Line Ends to LF (Unix)"), QKeySequence::UnknownKey},
+    {54073, "lineEndsCr",       QT_TRANSLATE_NOOP("ZNCoreEditorWidget", "Convert Line Ends to CR (Mac)"), QKeySequence::UnknownKey},
+    {54033, "preferences",      QT_TRANSLATE_NOOP("ZNCoreEditorWidget", "Editor and Language &Preferences..."), QKeySequence::Preferences},
     {53962, "zoomIn",           QT_TRANSLATE_NOOP("ZNCoreEditorWidget", "&Zoom In"),           QKeySequence::ZoomIn},
     {53963, "zoomOut",          QT_TRANSLATE_NOOP("ZNCoreEditorWidget", "Zoom O&ut"),          QKeySequence::ZoomOut},
     {53964, "zoomDefault",      QT_TRANSLATE_NOOP("ZNCoreEditorWidget", "Original &Size"),     QKeySequence::UnknownKey},
@@ -72,14 +87,30 @@ void ZNCoreEditorWidget::Private::MakeCommands()
     };
     for (const BasicRow& row : kBasics)
         add(row.name, tr(row.text), row.number, QKeySequence(row.key));
+    auto* goTo = new QAction(tr("&Go to Line..."), &q);
+    goTo->setObjectName(QStringLiteral("goToLine"));
+    goTo->setShortcut(QKeySequence(Qt::CTRL | Qt::Key_G));
+    connect(goTo, &QAction::triggered, &q, [this] { AskForLine(); });
+    m_commands += goTo;
     for (const HandRow& row : Hands())
         add(row.name, HandText(row.text), row.number, QKeySequence(row.key | row.modifiers));
-    const auto isBookmark = [](const QAction* action) {
-        return action->objectName() == QLatin1String("toggleBookmark");
-    };
-    connect(*std::ranges::find_if(m_commands, isBookmark), &QAction::triggered, &q,
-            &ZNCoreEditorWidget::bookmarksChanged);
+    for (const QAction* action : std::as_const(m_commands)) {
+        if (action->objectName() == QLatin1String("toggleBookmark") ||
+            action->objectName() == QLatin1String("clearBookmarks"))
+            connect(action, &QAction::triggered, &q, &ZNCoreEditorWidget::bookmarksChanged);
+    }
     UpdateActions(m_commands, *m_control);
+}
+
+// People count lines from 1.
+void ZNCoreEditorWidget::Private::AskForLine()
+{
+    const Lifetime alive(*this);
+    bool isChosen = false;
+    const int line = QInputDialog::getInt(&q, tr("Go to Line"), tr("Line:"), q.cursorLine() + 1, 1,
+                                          q.lineCount(), 1, &isChosen);
+    if (alive && isChosen)
+        q.setCursorPosition(line - 1, 0);
 }
 
 QList<QAction*> ZNCoreEditorWidget::commands() const

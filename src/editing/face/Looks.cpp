@@ -1,9 +1,11 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 // The face's languages, colours, font and layout.
+#include "control/EngineRecords.h"
 #include "editing/face/Private.h"
 #include "editing/language/FileLanguages.h"
 #include "editing/language/FileTypeManager.h"
 #include "editing/language/Library.h"
+#include "looks/ColourScheme.h"
 #include "looks/Schemes.h"
 #include "platform/services/OptionsServer.h"
 #include "platform/system/Font.h"
@@ -14,6 +16,7 @@ namespace {
 
 constexpr int kStyles = 256;
 constexpr int kWrapByWord = 1;
+constexpr WPARAM kPlainStyle = 32; // what is plain text in every language
 
 } // namespace
 
@@ -135,9 +138,11 @@ bool ZNCoreEditorWidget::setTabWidth(int characters)
     constexpr int kWidest = 64;
     if (characters < 1 || characters > kWidest)
         return false;
-    d->m_tabWidth = characters;
-    d->m_control->SetTabWidth(characters, 1);
-    return true;
+    return d->Run([=, this](CZNCoreEditorControlEx& control) {
+        d->m_tabWidth = characters;
+        control.SetTabWidth(characters, 1);
+        return true;
+    });
 }
 
 int ZNCoreEditorWidget::zoom() const
@@ -170,7 +175,10 @@ ZNCoreEditorWidget::LineWrapMode ZNCoreEditorWidget::lineWrapMode() const
 
 void ZNCoreEditorWidget::setLineWrapMode(LineWrapMode mode)
 {
-    d->m_control->SetWrapMode(mode == LineWrapMode::WidgetWidth ? kWrapByWord : 0, 1);
+    d->Run([=](CZNCoreEditorControlEx& control) {
+        control.SetWrapMode(mode == LineWrapMode::WidgetWidth ? kWrapByWord : 0, 1);
+        return 0;
+    });
 }
 
 bool ZNCoreEditorWidget::areLineNumbersVisible() const
@@ -180,5 +188,30 @@ bool ZNCoreEditorWidget::areLineNumbersVisible() const
 
 void ZNCoreEditorWidget::setLineNumbersVisible(bool visible)
 {
-    d->m_control->SetVisibleLineNumber(visible);
+    d->Run([=](CZNCoreEditorControlEx& control) {
+        control.SetVisibleLineNumber(visible);
+        return 0;
+    });
+}
+
+// As they are painted, whether a scheme, the settings or a person has chosen them.
+QPalette ZNCoreEditorWidget::textPalette() const
+{
+    const auto toColour = [](COLORREF colour) {
+        constexpr COLORREF kByte = 0xFF;
+        return QColor(static_cast<int>(colour & kByte), static_cast<int>(colour >> 8 & kByte),
+                      static_cast<int>(colour >> 16 & kByte));
+    };
+    QPalette colours = palette();
+    StyleLook look;
+    if (!SendMessage(d->m_control->GetSafeHwnd(), kGetStyleLook, kPlainStyle,
+                     reinterpret_cast<LPARAM>(&look)))
+        return colours;
+    colours.setColor(QPalette::Base, toColour(look.back));
+    colours.setColor(QPalette::Text, toColour(look.fore));
+    if (const ColourScheme* scheme = d->m_control->Scheme()) {
+        colours.setColor(QPalette::Highlight, toColour(scheme->Of(Drawn::Selection)));
+        colours.setColor(QPalette::HighlightedText, toColour(look.fore));
+    }
+    return colours;
 }

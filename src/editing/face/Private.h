@@ -78,6 +78,7 @@ public:
     void TellSettings(const Lifetime& alive);
     void ApplyFont();
     void MakeCommands();
+    void AskForLine();
 
     // What has a signal of its own when it changes, whoever changed it.
     struct Settings
@@ -91,6 +92,10 @@ public:
         bool hasMark = false;
         int lineEnd = 0;
         int zoom = 0;
+        bool overwrites = false;
+        int tabWidth = 0;
+        bool wraps = false;
+        bool hasNumbers = false;
         QString scheme;
         QString file;
     };

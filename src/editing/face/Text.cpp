@@ -79,6 +79,19 @@ void ZNCoreEditorWidget::setReadOnly(bool readOnly)
     });
 }
 
+bool ZNCoreEditorWidget::overwriteMode() const
+{
+    return d->m_control->GetOvertype(1) != 0;
+}
+
+void ZNCoreEditorWidget::setOverwriteMode(bool overwrite)
+{
+    d->Run([=](CZNCoreEditorControlEx& control) {
+        control.SetOvertype(overwrite, 1);
+        return 0;
+    });
+}
+
 bool ZNCoreEditorWidget::isUndoAvailable() const
 {
     return d->m_control->CanUndo(1) != 0;
@@ -140,6 +153,30 @@ void ZNCoreEditorWidget::setSelection(Range range)
     const long end = Clamped(control, long{range.position} + std::max(range.length, 0));
     control.EnsureRangeVisible(start, end);
     control.SetSel(start, end, 1);
+}
+
+void ZNCoreEditorWidget::setSelection(int line, int column, int caretLine, int caretColumn)
+{
+    CZNCoreEditorControlEx& control = *d->m_control;
+    const long anchor = positionAt(line, column);
+    const long caret = positionAt(caretLine, caretColumn);
+    control.EnsureRangeVisible(std::min(anchor, caret), std::max(anchor, caret));
+    control.SetSel(anchor, caret, 1);
+}
+
+void ZNCoreEditorWidget::ensureCursorVisible()
+{
+    d->m_control->EnsureVisible(cursorLine(), 1);
+    d->m_control->ScrollCaret(1);
+}
+
+void ZNCoreEditorWidget::centerCursor()
+{
+    CZNCoreEditorControlEx& control = *d->m_control;
+    ensureCursorVisible();
+    const auto row = control.VisibleFromDocLine(cursorLine(), 1);
+    const auto first = control.GetFirstVisibleLine(1);
+    control.LineScroll(0, static_cast<int>(row - control.LinesOnScreen(1) / 2 - first), 1);
 }
 
 int ZNCoreEditorWidget::lineAt(int position) const
@@ -303,4 +340,23 @@ void ZNCoreEditorWidget::selectAll()
 void ZNCoreEditorWidget::insertPlainText(const QString& text)
 {
     d->m_control->ReplaceSel(Units(text), 1);
+}
+
+void ZNCoreEditorWidget::appendPlainText(const QString& text)
+{
+    if (isReadOnly())
+        return;
+    d->Run([&](CZNCoreEditorControlEx& control) {
+        constexpr const char16_t* kEnds[] = {u"\n", u"\r\n", u"\r", u"\n"}; // by the mode
+        const QString end = QString(reinterpret_cast<const QChar*>(kEnds[control.GetEOLMode(1)]));
+        QString lines = text;
+        lines.replace(QStringLiteral("\r\n"), QStringLiteral("\n"));
+        lines.replace(u'\n', end);
+        if (control.GetLength(1) > 0)
+            lines.prepend(end);
+        control.BeginUndoAction(1);
+        control.AppendText(static_cast<int>(lines.size()), Units(lines), 1);
+        control.EndUndoAction(1);
+        return 0;
+    });
 }
