@@ -144,6 +144,17 @@ TEST_F(Completion, KnowsTheTextOfAFileThatWasReadAgain)
     EXPECT_EQ(names[0].start, 12);
 }
 
+TEST(FunctionsOfAServerThatIsUnknown, AreTheStandardsAndNoOthers)
+{
+    const completion::Signatures sql = zncoreeditor::SignaturesOfLanguage(2);
+    EXPECT_EQ(sql.Of(QStringLiteral("SUBSTRING")).text,
+              QStringLiteral("substring(text FROM start FOR length)"));
+    EXPECT_FALSE(sql.Of(QStringLiteral("coalesce")).text.isEmpty());
+    EXPECT_TRUE(sql.Of(QStringLiteral("getdate")).text.isEmpty());
+    EXPECT_FALSE(
+        zncoreeditor::SignaturesOfLanguage(3).Of(QStringLiteral("getdate")).text.isEmpty());
+}
+
 TEST_F(Completion, PutsATemplateInBehindItsShortNameAndTab)
 {
     Show("del|");
