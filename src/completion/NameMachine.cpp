@@ -273,8 +273,8 @@ bool NameMachine::WantsOwnName() const
     case Step::CteName:
     case Step::Declare:
         return true;
-    case Step::Items:
-        return s.itemBegins && s.depth == s.listDepth;
+    case Step::Items: // INSERT names what there is
+        return s.itemBegins && s.depth == s.listDepth && s.verb != W::Insert;
     case Step::Code:
         return s.previous == W::As && Has(s.selects);
     default:

@@ -152,6 +152,15 @@ TEST(Proposals, AreColumnsOfWhatIsOnlyInsertedInto)
               "alpha beta");
 }
 
+TEST(Proposals, AreTheColumnsInTheListOfAnInsert)
+{
+    Caret caret(std::u16string(kTables) + u"insert into customers (id, na|");
+    EXPECT_EQ(caret.Query().place, ProposalQuery::Place::Anywhere);
+    EXPECT_EQ(caret.First(1), "name");
+    EXPECT_EQ(caret.Best().front().kind, ProposalKind::Column);
+    EXPECT_EQ(Caret(u"create table t (id int, na|").Query().place, ProposalQuery::Place::OwnName);
+}
+
 TEST(Proposals, AreTheColumnsOfAViewsQuery)
 {
     EXPECT_EQ(Caret(std::u16string(kTables) +
