@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-// MenuKey: whether it is the key for it that asks an editor for its menu, and not the mouse.
+// MenuKey: the keys that open an editor's menu, and whether it was one of them or the mouse that
+// asked for it.
 #pragma once
 
 #include <QObject>

@@ -5,6 +5,7 @@
 
 #include <QContextMenuEvent>
 #include <QMenu>
+#include <QTest>
 
 namespace {
 
@@ -62,6 +63,16 @@ TEST_F(ScriptMenu, ComesUpBelowTheCaretByItsKey)
                Editor().PointYFromPosition(14, 1) + Editor().TextHeight(1, 1)));
     EXPECT_EQ(menu->pos().x(), caret.x());
     EXPECT_LE(menu->pos().y(), caret.y()); // higher up where the screen ends
+}
+
+TEST_F(ScriptMenu, ComesUpByShiftAndF10)
+{
+    EXPECT_FALSE(QApplication::activePopupWidget());
+    QTest::keyClick(Editor().GetSafeHwnd(), Qt::Key_F10, Qt::ShiftModifier);
+    EXPECT_TRUE(qobject_cast<QMenu*>(QApplication::activePopupWidget()));
+    Close();
+    QTest::keyClick(Editor().GetSafeHwnd(), Qt::Key_F10);
+    EXPECT_FALSE(QApplication::activePopupWidget());
 }
 
 TEST_F(ScriptMenu, OffersWhatIsPossible)
