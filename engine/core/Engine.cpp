@@ -7,6 +7,7 @@
 #include "engine/core/Fences.h"
 #include "engine/core/Handlers.h"
 #include "engine/text/Characters.h"
+#include "platform/services/LongWork.h"
 
 #include <array>
 #include <utility>
@@ -223,6 +224,8 @@ void Engine::NoteUncollected(const TextEdit& edit)
 
 void Engine::EditBegins(const TextEdit& edit)
 {
+    if (undo)
+        undo->Tell();
     if (EraseRun::AnyIsOpen())
         documents::EraseRunOf(m_document).EditBegins(raw, edit);
     NoteUncollected(edit);

@@ -25,6 +25,8 @@
 #include <set>
 #include <string>
 
+class LongWork;
+
 namespace engine {
 
 class ErrorList;
@@ -128,6 +130,7 @@ public:
     bool noSingleEol = false;         // line-end mode 0
     bool usePopUp = true;             // the window shows a menu of its own
     bool reconciler = true;           // the analysis follows the text
+    LongWork* undo = nullptr;         // an undo or redo under way
     bool bulkChange = false;          // between SetDoingReplaceAll(true) and (false)
     int copyEol = -1;                 // line-end mode of the copy under way, -1: as the text stands
     std::set<std::string> properties; // of the lexer, set so far

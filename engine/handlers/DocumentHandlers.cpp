@@ -3,6 +3,9 @@
 #include "engine/core/Documents.h"
 #include "engine/core/Engine.h"
 #include "engine/core/Handlers.h"
+#include "platform/services/LongWork.h"
+
+#include <QCoreApplication>
 
 #include <utility>
 
@@ -89,11 +92,25 @@ LRESULT EmptyUndoBuffer(Engine& engine, WPARAM, LPARAM)
     return 0;
 }
 
+// A step may be of a million changes, and nothing stops the stock engine within it.
+template <UINT Number>
+LRESULT ChangeBySteps(Engine& engine, WPARAM, LPARAM)
+{
+    LongWork work(&engine.window, Number == Sci::SCI_UNDO
+                                      ? QCoreApplication::translate("EngineWindow", "Undoing")
+                                      : QCoreApplication::translate("EngineWindow", "Redoing"));
+    engine.undo = &work;
+    const LRESULT result = engine.raw.Send(Number);
+    engine.undo = nullptr;
+    return result;
+}
+
 constexpr HandlerRow kRows[] = {
     {message::SetDocPointer, SetDocPointer},         {message::CreateDocument, CreateDocument},
     {message::AddRefDocument, AddRefDocument},       {message::ReleaseDocument, ReleaseDocument},
     {message::BeginUndoAction, BeginUndoAction},     {message::EndUndoAction, EndUndoAction},
     {message::SetUndoCollection, SetUndoCollection}, {message::EmptyUndoBuffer, EmptyUndoBuffer},
+    {message::Undo, ChangeBySteps<Sci::SCI_UNDO>},   {message::Redo, ChangeBySteps<Sci::SCI_REDO>},
 };
 
 } // namespace

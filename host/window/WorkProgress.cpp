@@ -4,7 +4,10 @@
 #include "platform/windows/Disposal.h"
 
 #include <QCoreApplication>
+#include <QLocale>
+#include <QMainWindow>
 #include <QProgressDialog>
+#include <QStatusBar>
 #include <QWidget>
 
 namespace {
@@ -54,7 +57,21 @@ bool WorkProgress::GoesOn(HWND owner, const QString& what, int hundredths)
     return m_box && !m_box->wasCanceled();
 }
 
+void WorkProgress::Tells(HWND owner, const QString& what, int steps)
+{
+    auto* window = qobject_cast<QMainWindow*>(owner->window());
+    if (!window || (m_bar && m_shown.elapsed() < kBetweenLooks))
+        return;
+    m_bar = window->statusBar();
+    m_bar->showMessage(Texts::tr("%1: %2 changes").arg(what, window->locale().toString(steps)));
+    m_bar->repaint();
+    m_shown.restart();
+}
+
 void WorkProgress::Ends()
 {
+    if (m_bar)
+        m_bar->clearMessage();
+    m_bar.clear();
     delete m_box;
 }

@@ -7,6 +7,7 @@
 #include <QPointer>
 
 class QProgressDialog;
+class QStatusBar;
 
 class WorkProgress final : public ILongWork
 {
@@ -17,9 +18,12 @@ public:
     WorkProgress& operator=(const WorkProgress&) = delete;
 
     bool GoesOn(HWND owner, const QString& what, int hundredths) override;
+    // In the status bar of the owner's window, which is drawn without an event.
+    void Tells(HWND owner, const QString& what, int steps) override;
     void Ends() override;
 
 private:
     QElapsedTimer m_shown; // since the box was brought up to date
     QPointer<QProgressDialog> m_box;
+    QPointer<QStatusBar> m_bar; // which tells
 };

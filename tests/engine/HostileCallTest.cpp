@@ -239,6 +239,44 @@ TEST(HostileCalls, StylesOfARangeThatEndsInsideALineEndStayWithinIt)
     EXPECT_EQ(cells.substr(0, 8), std::u16string(u"b\0\r\0\0\0##", 8));
 }
 
+TEST(HostileCalls, StylesOfARangeThatBeginsInsideACharacterStayWithinIt)
+{
+    EngineUnderTest engine;
+    engine.SetText(u"\U0001F600\U0001F600");
+    std::u16string cells(12, u'#');
+    TextRange range{{1, 2}, cells.data()};
+    EXPECT_LE(engine.Send(msg::GetStyledText, 0, &range), 2);
+    EXPECT_EQ(cells.substr(4), std::u16string(8, u'#'));
+}
+
+TEST(HostileCalls, StyledTextGoesInWhereTheCaretIsOnceAnotherWindowHasTakenTheText)
+{
+    EngineUnderTest engine;
+    EngineUnderTest other;
+    engine.SetText(u"\u4e2d\u6587 select");
+    other.Send(msg::SetDocPointer, 0, engine.Send(msg::GetDocPointer));
+    engine.Send(msg::DocumentEnd);
+    other.Send(msg::ClearAll);
+    const std::u16string cells{u'\u4e2d', 7, u'x', 8};
+    engine.Send(msg::AddStyledText, cells.size(), cells.data());
+    EXPECT_EQ(engine.Text(), u"\u4e2dx");
+    EXPECT_EQ(engine.Send(msg::GetStyleAt, 0), 7);
+    EXPECT_EQ(engine.Send(msg::GetStyleAt, 1), 8);
+    EXPECT_EQ(engine.Send(msg::GetCurrentPos), 2);
+}
+
+TEST(HostileCalls, StyledTextDoesNotGoIntoATextThatMayOnlyBeRead)
+{
+    EngineUnderTest engine;
+    engine.SetText(u"ab");
+    engine.Send(msg::DocumentEnd);
+    engine.Send(msg::SetReadOnly, 1);
+    const std::u16string cells{u'x', 8};
+    engine.Send(msg::AddStyledText, cells.size(), cells.data());
+    EXPECT_EQ(engine.Text(), u"ab");
+    EXPECT_EQ(engine.Send(msg::GetStyleAt, 1), 0);
+}
+
 TEST(HostileCalls, ARectangleIsReadIntoTheRoomThatItsEndsTell)
 {
     EngineUnderTest engine;

@@ -8,6 +8,7 @@
 #include <QDeadlineTimer>
 #include <QProgressDialog>
 #include <QPushButton>
+#include <QStatusBar>
 #include <QTest>
 #include <QTimer>
 
@@ -50,6 +51,18 @@ TEST_F(WorkProgressTest, StopsByItsButton)
     for (const QDeadlineTimer patience(20'000); goesOn && !patience.hasExpired();)
         goesOn = GoesOn(2);
     EXPECT_FALSE(goesOn);
+}
+
+TEST_F(WorkProgressTest, CountsInTheStatusBarWhatNothingCanStopWithoutHandlingAnEvent)
+{
+    bool hasHandled = false;
+    QTimer::singleShot(0, [&hasHandled] { hasHandled = true; });
+    m_progress.Tells(m_window.centralWidget(), QStringLiteral("Undoing"), 12345);
+    EXPECT_EQ(m_window.statusBar()->currentMessage(), QStringLiteral("Undoing: 12,345 changes"));
+    EXPECT_FALSE(Box());
+    EXPECT_FALSE(hasHandled);
+    m_progress.Ends();
+    EXPECT_EQ(m_window.statusBar()->currentMessage(), QString());
 }
 
 TEST_F(WorkProgressTest, LetsTheWindowFollowTheTextOnlyOnceItIsOver)

@@ -39,3 +39,11 @@ bool LongWork::Ask(int hundredths)
     m_isStopped = !m_asked->GoesOn(m_owner, m_what, hundredths);
     return !m_isStopped;
 }
+
+void LongWork::TellHost()
+{
+    if (!Host() || m_begun.elapsed() < Host()->Patience())
+        return;
+    m_asked = Host();
+    m_asked->Tells(m_owner, m_what, m_steps);
+}

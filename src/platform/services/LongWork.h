@@ -16,6 +16,9 @@ public:
     // How far it has come, in hundredths. False stops it: what is done stays. May run an event loop
     // for the box that it shows, which is to let nobody at the owner's window.
     virtual bool GoesOn(HWND owner, const QString& what, int hundredths) = 0;
+    // Of work that nothing can stop, and in which no event may be handled: how many steps it has
+    // made.
+    virtual void Tells(HWND /*owner*/, const QString& /*what*/, int /*steps*/) {}
     virtual void Ends() = 0;                      // of a piece of work that has asked
     virtual int Patience() const { return 1000; } // milliseconds before it is asked at all
 };
@@ -39,11 +42,18 @@ public:
         return (++m_steps % kStepsBetween != 0 || Ask(hundredths)) && !m_isStopped;
     }
     bool IsStopped() const { return m_isStopped; }
+    // Once for each step of work that nothing can stop.
+    void Tell()
+    {
+        if (++m_steps % kStepsBetween == 0)
+            TellHost();
+    }
 
 private:
     static constexpr int kStepsBetween = 1024; // a look at the clock costs more than a step
 
     bool Ask(int hundredths);
+    void TellHost();
 
     HWND m_owner;
     QString m_what;
