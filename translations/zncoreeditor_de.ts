@@ -475,6 +475,14 @@ Soll sie neu geladen werden?</translation>
         <source>Text editor</source>
         <translation>Texteditor</translation>
     </message>
+    <message>
+        <source>Undoing</source>
+        <translation>Wird rückgängig gemacht</translation>
+    </message>
+    <message>
+        <source>Redoing</source>
+        <translation>Wird wiederholt</translation>
+    </message>
 </context>
 <context>
     <name>ExpressionFault</name>

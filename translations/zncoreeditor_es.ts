@@ -475,6 +475,14 @@ Do you want to reload it?</source>
         <source>Text editor</source>
         <translation>Editor de texto</translation>
     </message>
+    <message>
+        <source>Undoing</source>
+        <translation>Deshaciendo</translation>
+    </message>
+    <message>
+        <source>Redoing</source>
+        <translation>Rehaciendo</translation>
+    </message>
 </context>
 <context>
     <name>ExpressionFault</name>

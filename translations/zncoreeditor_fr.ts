@@ -31,7 +31,7 @@
     </message>
     <message>
         <source>%1 could not be opened: too many files are open.</source>
-        <translation>Impossible d’ouvrir %1 : trop de fichiers sont ouverts.</translation>
+        <translation>Impossible d’ouvrir %1&#xa0;: trop de fichiers sont ouverts.</translation>
     </message>
     <message>
         <source>%1 cannot be accessed.</source>
@@ -43,7 +43,7 @@
     </message>
     <message>
         <source>The disk is full: %1.</source>
-        <translation>Le disque est plein : %1.</translation>
+        <translation>Le disque est plein&#xa0;: %1.</translation>
     </message>
     <message>
         <source>An error occurred while accessing %1.</source>
@@ -62,7 +62,7 @@
     </message>
     <message>
         <source>Save the changes to %1?</source>
-        <translation>Enregistrer les modifications de %1 ?</translation>
+        <translation>Enregistrer les modifications de %1&#xa0;?</translation>
     </message>
 </context>
 <context>
@@ -81,7 +81,7 @@
     </message>
     <message>
         <source>Could not find the string &apos;%1&apos;.</source>
-        <translation>Le texte « %1 » est introuvable.</translation>
+        <translation>Le texte «&#xa0;%1&#xa0;» est introuvable.</translation>
     </message>
     <message>
         <source>Search has finished searching the whole document</source>
@@ -98,25 +98,25 @@
         <source>&apos;%1&apos;
 File has been deleted outside of this application!
 Do you want to close this Document?</source>
-        <translation>« %1 »
-Le fichier a été supprimé en dehors de cette application !
-Voulez-vous fermer ce document ?</translation>
+        <translation>«&#xa0;%1&#xa0;»
+Le fichier a été supprimé en dehors de cette application&#xa0;!
+Voulez-vous fermer ce document&#xa0;?</translation>
     </message>
     <message>
         <source>&apos;%1&apos;
 File has been modified outside of this application!
 Do you want to reload it?</source>
-        <translation>« %1 »
-Le fichier a été modifié en dehors de cette application !
-Voulez-vous le recharger ?</translation>
+        <translation>«&#xa0;%1&#xa0;»
+Le fichier a été modifié en dehors de cette application&#xa0;!
+Voulez-vous le recharger&#xa0;?</translation>
     </message>
     <message>
         <source>Do you want to reload &apos;%1&apos; ?</source>
-        <translation>Voulez-vous recharger « %1 » ?</translation>
+        <translation>Voulez-vous recharger «&#xa0;%1&#xa0;»&#xa0;?</translation>
     </message>
     <message>
         <source>Do you want to set the file &apos;%1&apos; to read only too?</source>
-        <translation>Voulez-vous aussi mettre le fichier « %1 » en lecture seule ?</translation>
+        <translation>Voulez-vous aussi mettre le fichier «&#xa0;%1&#xa0;» en lecture seule&#xa0;?</translation>
     </message>
     <message>
         <source> (Read Only)</source>
@@ -127,15 +127,15 @@ Voulez-vous le recharger ?</translation>
     <name>CZNCoreEditorView</name>
     <message>
         <source>Incremental search failed: %1|</source>
-        <translation>Échec de la recherche incrémentale : %1|</translation>
+        <translation>Échec de la recherche incrémentale&#xa0;: %1|</translation>
     </message>
     <message>
         <source>Incremental search: %1|</source>
-        <translation>Recherche incrémentale : %1|</translation>
+        <translation>Recherche incrémentale&#xa0;: %1|</translation>
     </message>
     <message>
         <source>Incremental search reverse: %1|</source>
-        <translation>Recherche incrémentale vers le haut : %1|</translation>
+        <translation>Recherche incrémentale vers le haut&#xa0;: %1|</translation>
     </message>
     <message>
         <source>Enter Input Param</source>
@@ -179,7 +179,7 @@ Voulez-vous le recharger ?</translation>
     </message>
     <message>
         <source>Could not find the string &apos;%1&apos;.</source>
-        <translation>Le texte « %1 » est introuvable.</translation>
+        <translation>Le texte «&#xa0;%1&#xa0;» est introuvable.</translation>
     </message>
     <message>
         <source>Passed the end of the document</source>
@@ -191,11 +191,11 @@ Voulez-vous le recharger ?</translation>
     </message>
     <message>
         <source>Hide %1</source>
-        <translation>Masquer : %1</translation>
+        <translation>Masquer&#xa0;: %1</translation>
     </message>
     <message>
         <source>Show %1</source>
-        <translation>Afficher : %1</translation>
+        <translation>Afficher&#xa0;: %1</translation>
     </message>
     <message>
         <source>LineNumbers</source>
@@ -261,7 +261,7 @@ Voulez-vous le recharger ?</translation>
     </message>
     <message>
         <source>All of your color settings will be lost ! Are you sure ?</source>
-        <translation>Tous vos réglages de couleurs seront perdus ! Voulez-vous continuer ?</translation>
+        <translation>Tous vos réglages de couleurs seront perdus&#xa0;! Voulez-vous continuer&#xa0;?</translation>
     </message>
 </context>
 <context>
@@ -434,7 +434,7 @@ Voulez-vous le recharger ?</translation>
     </message>
     <message>
         <source>The changes are in force. Cancel does not take them back.</source>
-        <translation>Les modifications sont en vigueur. « Annuler » ne revient pas dessus.</translation>
+        <translation>Les modifications sont en vigueur. «&#xa0;Annuler&#xa0;» ne revient pas dessus.</translation>
     </message>
     <message>
         <source>Editor and Language Preferences</source>
@@ -474,6 +474,14 @@ Voulez-vous le recharger ?</translation>
     <message>
         <source>Text editor</source>
         <translation>Éditeur de texte</translation>
+    </message>
+    <message>
+        <source>Undoing</source>
+        <translation>Annulation</translation>
+    </message>
+    <message>
+        <source>Redoing</source>
+        <translation>Rétablissement</translation>
     </message>
 </context>
 <context>
@@ -589,7 +597,7 @@ Voulez-vous le recharger ?</translation>
     <name>FindDialogs</name>
     <message>
         <source>Insert into &quot;%1&quot;</source>
-        <translation>Insérer dans « %1 »</translation>
+        <translation>Insérer dans «&#xa0;%1&#xa0;»</translation>
     </message>
     <message>
         <source>Insert part of an expression</source>
@@ -633,7 +641,7 @@ Voulez-vous le recharger ?</translation>
     </message>
     <message>
         <source>Could not find the string &apos;%1&apos;.</source>
-        <translation>Le texte « %1 » est introuvable.</translation>
+        <translation>Le texte «&#xa0;%1&#xa0;» est introuvable.</translation>
     </message>
     <message>
         <source>Find</source>
@@ -681,7 +689,7 @@ Voulez-vous le recharger ?</translation>
     </message>
     <message>
         <source>Replaced %1 occurrences of &apos;%2&apos;</source>
-        <translation>%1 occurrences de « %2 » remplacées</translation>
+        <translation>%1 occurrences de «&#xa0;%2&#xa0;» remplacées</translation>
     </message>
 </context>
 <context>
@@ -700,7 +708,7 @@ Voulez-vous le recharger ?</translation>
     </message>
     <message>
         <source>Insert into &quot;Find what&quot;</source>
-        <translation>Insérer dans « Rechercher »</translation>
+        <translation>Insérer dans «&#xa0;Rechercher&#xa0;»</translation>
     </message>
     <message>
         <source>Insert part of an expression</source>
@@ -768,7 +776,7 @@ Voulez-vous le recharger ?</translation>
     </message>
     <message>
         <source>Look in additional folders:</source>
-        <translation>Chercher aussi dans les dossiers :</translation>
+        <translation>Chercher aussi dans les dossiers&#xa0;:</translation>
     </message>
     <message>
         <source>Browse for Folder</source>
@@ -784,19 +792,19 @@ Voulez-vous le recharger ?</translation>
     </message>
     <message>
         <source>Enter Type!</source>
-        <translation>Indiquez un type !</translation>
+        <translation>Indiquez un type&#xa0;!</translation>
     </message>
     <message>
         <source>Enter Path!</source>
-        <translation>Indiquez un chemin !</translation>
+        <translation>Indiquez un chemin&#xa0;!</translation>
     </message>
     <message>
         <source>Path &apos;%1&apos; does not exists</source>
-        <translation>Le chemin « %1 » n’existe pas</translation>
+        <translation>Le chemin «&#xa0;%1&#xa0;» n’existe pas</translation>
     </message>
     <message>
         <source>Enter Find String!</source>
-        <translation>Indiquez le texte à rechercher !</translation>
+        <translation>Indiquez le texte à rechercher&#xa0;!</translation>
     </message>
 </context>
 <context>
@@ -858,7 +866,7 @@ Voulez-vous le recharger ?</translation>
     </message>
     <message>
         <source>Goto Line :</source>
-        <translation>Aller à la ligne :</translation>
+        <translation>Aller à la ligne&#xa0;:</translation>
     </message>
     <message>
         <source>Goto Line</source>
@@ -1046,7 +1054,7 @@ Voulez-vous le recharger ?</translation>
     <name>Leftovers</name>
     <message>
         <source>This defines nothing: the name of a variable begins with &amp;&amp;.</source>
-        <translation>Ceci ne définit rien : le nom d’une variable commence par &amp;&amp;.</translation>
+        <translation>Ceci ne définit rien&#xa0;: le nom d’une variable commence par &amp;&amp;.</translation>
     </message>
     <message>
         <source>This is not of the form %1 &amp;&amp;NAME VALUE, and nothing below is replaced.</source>
@@ -1054,11 +1062,11 @@ Voulez-vous le recharger ?</translation>
     </message>
     <message>
         <source>%1 is not defined: its value needs %2, which has none.</source>
-        <translation>%1 n’est pas définie : sa valeur a besoin de %2, qui n’en a pas.</translation>
+        <translation>%1 n’est pas définie&#xa0;: sa valeur a besoin de %2, qui n’en a pas.</translation>
     </message>
     <message>
         <source>%1 is not defined: in its value nothing may follow a variable.</source>
-        <translation>%1 n’est pas définie : dans sa valeur, rien ne peut suivre une variable.</translation>
+        <translation>%1 n’est pas définie&#xa0;: dans sa valeur, rien ne peut suivre une variable.</translation>
     </message>
     <message>
         <source>%1 is used above its definition, which then does not count.</source>
@@ -1073,7 +1081,7 @@ Voulez-vous le recharger ?</translation>
     <name>LossCheck</name>
     <message>
         <source>“%1” has characters that %2 does not have. The first is %3 in line %4, column %5. In the file they would become question marks. UTF-8 keeps every character.</source>
-        <translation>« %1 » contient des caractères qui n’existent pas en %2. Le premier est %3, ligne %4, colonne %5. Dans le fichier, ils deviendraient des points d’interrogation. UTF-8 conserve tous les caractères.</translation>
+        <translation>«&#xa0;%1&#xa0;» contient des caractères qui n’existent pas en %2. Le premier est %3, ligne %4, colonne %5. Dans le fichier, ils deviendraient des points d’interrogation. UTF-8 conserve tous les caractères.</translation>
     </message>
 </context>
 <context>
@@ -1393,7 +1401,7 @@ Voulez-vous le recharger ?</translation>
     <name>PrintService</name>
     <message>
         <source>No printer is set up. Do you want to save the pages as a PDF instead?</source>
-        <translation>Aucune imprimante n’est installée. Voulez-vous plutôt enregistrer les pages en PDF ?</translation>
+        <translation>Aucune imprimante n’est installée. Voulez-vous plutôt enregistrer les pages en PDF&#xa0;?</translation>
     </message>
     <message>
         <source>The document could not be printed.</source>
@@ -1474,11 +1482,11 @@ Voulez-vous le recharger ?</translation>
 Import them?</source>
         <translation>Tous les réglages deviennent ceux de %1, et les réglages actuels sont abandonnés. %2
 
-Les importer ?</translation>
+Les importer&#xa0;?</translation>
     </message>
     <message>
         <source>The settings could not be written; they are as they were.</source>
-        <translation>Impossible d’écrire les réglages ; ils restent tels qu’ils étaient.</translation>
+        <translation>Impossible d’écrire les réglages&#xa0;; ils restent tels qu’ils étaient.</translation>
     </message>
     <message>
         <source>%1 holds no settings of this editor.</source>
@@ -1490,7 +1498,7 @@ Les importer ?</translation>
 Reset them?</source>
         <translation>Tous les réglages de %1 redeviennent ceux d’origine. %2
 
-Les réinitialiser ?</translation>
+Les réinitialiser&#xa0;?</translation>
     </message>
     <message>
         <source>The settings of all languages become those that they were shipped with. %1
@@ -1498,15 +1506,15 @@ Les réinitialiser ?</translation>
 Reset them?</source>
         <translation>Les réglages de tous les langages redeviennent ceux d’origine. %1
 
-Les réinitialiser ?</translation>
+Les réinitialiser&#xa0;?</translation>
     </message>
     <message>
         <source>The colours of all languages become those of &quot;%1&quot;, and stay so whatever the desktop looks like. %2
 
 Write them?</source>
-        <translation>Les couleurs de tous les langages deviennent celles de « %1 » et le restent, quel que soit l’aspect du bureau. %2
+        <translation>Les couleurs de tous les langages deviennent celles de «&#xa0;%1&#xa0;» et le restent, quel que soit l’aspect du bureau. %2
 
-Les écrire ?</translation>
+Les écrire&#xa0;?</translation>
     </message>
 </context>
 <context>

@@ -475,6 +475,14 @@ Do you want to reload it?</source>
         <source>Text editor</source>
         <translation>テキストエディター</translation>
     </message>
+    <message>
+        <source>Undoing</source>
+        <translation>元に戻しています</translation>
+    </message>
+    <message>
+        <source>Redoing</source>
+        <translation>やり直しています</translation>
+    </message>
 </context>
 <context>
     <name>ExpressionFault</name>

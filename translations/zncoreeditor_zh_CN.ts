@@ -475,6 +475,14 @@ Do you want to reload it?</source>
         <source>Text editor</source>
         <translation>文本编辑器</translation>
     </message>
+    <message>
+        <source>Undoing</source>
+        <translation>正在撤销</translation>
+    </message>
+    <message>
+        <source>Redoing</source>
+        <translation>正在重做</translation>
+    </message>
 </context>
 <context>
     <name>ExpressionFault</name>

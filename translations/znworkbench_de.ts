@@ -1978,6 +1978,10 @@ Mit Qt %1. Lizenziert unter der GNU General Public License, Version 3 oder spät
         <source>&amp;Stop</source>
         <translation>&amp;Anhalten</translation>
     </message>
+    <message>
+        <source>%1: %2 changes</source>
+        <translation>%1: %2 Änderungen</translation>
+    </message>
 </context>
 <context>
     <name>Workbench</name>

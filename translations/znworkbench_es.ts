@@ -1978,6 +1978,10 @@ Con Qt %1. Con licencia pública general de GNU, versión 3 o posterior.</transl
         <source>&amp;Stop</source>
         <translation>&amp;Detener</translation>
     </message>
+    <message>
+        <source>%1: %2 changes</source>
+        <translation>%1: %2 cambios</translation>
+    </message>
 </context>
 <context>
     <name>Workbench</name>

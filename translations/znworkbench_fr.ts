@@ -36,7 +36,7 @@ Avec Qt %1. Sous licence publique générale GNU, version 3 ou ultérieure.</tra
     </message>
     <message>
         <source>Scripts to open, each at a line and a column: a.sql:120:7.</source>
-        <translation>Scripts à ouvrir, chacun à une ligne et une colonne : a.sql:120:7.</translation>
+        <translation>Scripts à ouvrir, chacun à une ligne et une colonne&#xa0;: a.sql:120:7.</translation>
     </message>
     <message>
         <source>--screenshot needs the name of a file.</source>
@@ -326,19 +326,19 @@ Avec Qt %1. Sous licence publique générale GNU, version 3 ou ultérieure.</tra
     </message>
     <message>
         <source>one of a set; [^a-z] any other</source>
-        <translation>un parmi un ensemble ; [^a-z] tout autre</translation>
+        <translation>un parmi un ensemble&#xa0;; [^a-z] tout autre</translation>
     </message>
     <message>
         <source>a digit; \D any other</source>
-        <translation>un chiffre ; \D tout autre</translation>
+        <translation>un chiffre&#xa0;; \D tout autre</translation>
     </message>
     <message>
         <source>a character of a word; \W any other</source>
-        <translation>un caractère de mot ; \W tout autre</translation>
+        <translation>un caractère de mot&#xa0;; \W tout autre</translation>
     </message>
     <message>
         <source>a blank; \S any other</source>
-        <translation>une espace ; \S tout autre</translation>
+        <translation>une espace&#xa0;; \S tout autre</translation>
     </message>
     <message>
         <source>what stands before, any number of times</source>
@@ -362,7 +362,7 @@ Avec Qt %1. Sous licence publique générale GNU, version 3 ou ultérieure.</tra
     </message>
     <message>
         <source>a group; \1 to \9 in the replacement</source>
-        <translation>un groupe ; \1 à \9 dans le remplacement</translation>
+        <translation>un groupe&#xa0;; \1 à \9 dans le remplacement</translation>
     </message>
     <message>
         <source>the start of a line</source>
@@ -413,11 +413,11 @@ Avec Qt %1. Sous licence publique générale GNU, version 3 ou ultérieure.</tra
     <name>FieldMenus</name>
     <message>
         <source>Tabs: %1</source>
-        <translation>Tabulations : %1</translation>
+        <translation>Tabulations&#xa0;: %1</translation>
     </message>
     <message>
         <source>Spaces: %1</source>
-        <translation>Espaces : %1</translation>
+        <translation>Espaces&#xa0;: %1</translation>
     </message>
     <message>
         <source>Indent with &amp;Tabs</source>
@@ -455,11 +455,11 @@ Avec Qt %1. Sous licence publique générale GNU, version 3 ou ultérieure.</tra
     <name>FindBar</name>
     <message>
         <source>No expression: %1</source>
-        <translation>Pas une expression : %1</translation>
+        <translation>Pas une expression&#xa0;: %1</translation>
     </message>
     <message>
         <source>No expression: %1, at character %2</source>
-        <translation>Pas une expression : %1, au caractère %2</translation>
+        <translation>Pas une expression&#xa0;: %1, au caractère %2</translation>
     </message>
     <message>
         <source>Nothing is selected</source>
@@ -678,18 +678,18 @@ Avec Qt %1. Sous licence publique générale GNU, version 3 ou ultérieure.</tra
     </message>
     <message>
         <source>%1 is not a macro that can be played: line %2 is no command that is recorded.</source>
-        <translation>%1 n’est pas une macro jouable : la ligne %2 n’est pas une commande qui s’enregistre.</translation>
+        <translation>%1 n’est pas une macro jouable&#xa0;: la ligne %2 n’est pas une commande qui s’enregistre.</translation>
     </message>
 </context>
 <context>
     <name>MainWindow</name>
     <message>
         <source>%1 could not be written to the settings; the disk may be full. It holds until the workbench ends.</source>
-        <translation>%1 n’a pas pu être écrit dans les réglages ; le disque est peut-être plein. Cela vaut jusqu’à la fin du programme.</translation>
+        <translation>%1 n’a pas pu être écrit dans les réglages&#xa0;; le disque est peut-être plein. Cela vaut jusqu’à la fin du programme.</translation>
     </message>
     <message>
         <source>There is no “%1”.</source>
-        <translation>« %1 » n’existe pas.</translation>
+        <translation>«&#xa0;%1&#xa0;» n’existe pas.</translation>
     </message>
     <message>
         <source>&amp;Create</source>
@@ -697,7 +697,7 @@ Avec Qt %1. Sous licence publique générale GNU, version 3 ou ultérieure.</tra
     </message>
     <message>
         <source>“%1” cannot be created: %2</source>
-        <translation>Impossible de créer « %1 » : %2</translation>
+        <translation>Impossible de créer «&#xa0;%1&#xa0;»&#xa0;: %2</translation>
     </message>
     <message>
         <source>&amp;Remove</source>
@@ -997,11 +997,11 @@ Avec Qt %1. Sous licence publique générale GNU, version 3 ou ultérieure.</tra
     </message>
     <message>
         <source>It is not kept this time, so that “%1” stays as it is.</source>
-        <translation>La session n’est pas retenue cette fois, pour que « %1 » reste tel quel.</translation>
+        <translation>La session n’est pas retenue cette fois, pour que «&#xa0;%1&#xa0;» reste tel quel.</translation>
     </message>
     <message>
         <source>It is in “%1” now.</source>
-        <translation>Elle est maintenant dans « %1 ».</translation>
+        <translation>Elle est maintenant dans «&#xa0;%1&#xa0;».</translation>
     </message>
     <message>
         <source>The script is too long for an outline.</source>
@@ -1009,7 +1009,7 @@ Avec Qt %1. Sous licence publique générale GNU, version 3 ou ultérieure.</tra
     </message>
     <message>
         <source>The script creates nothing that could be listed: no tables, views, procedures, and so on.</source>
-        <translation>Le script ne crée rien qui puisse être listé : ni tables, ni vues, ni procédures, etc.</translation>
+        <translation>Le script ne crée rien qui puisse être listé&#xa0;: ni tables, ni vues, ni procédures, etc.</translation>
     </message>
     <message>
         <source>There is no outline for %1. The field with the language in the status bar changes it.</source>
@@ -1050,14 +1050,14 @@ Avec Qt %1. Sous licence publique générale GNU, version 3 ou ultérieure.</tra
     </message>
     <message>
         <source>&amp;Encoding:</source>
-        <translation>&amp;Encodage :</translation>
+        <translation>&amp;Encodage&#xa0;:</translation>
     </message>
 </context>
 <context>
     <name>OpenGuard</name>
     <message>
         <source>The workbench ended unexpectedly while it was opening “%1”. Open the file again?</source>
-        <translation>Le programme s’est arrêté de façon inattendue en ouvrant « %1 ». Ouvrir à nouveau ce fichier ?</translation>
+        <translation>Le programme s’est arrêté de façon inattendue en ouvrant «&#xa0;%1&#xa0;». Ouvrir à nouveau ce fichier&#xa0;?</translation>
     </message>
 </context>
 <context>
@@ -1112,7 +1112,7 @@ Avec Qt %1. Sous licence publique générale GNU, version 3 ou ultérieure.</tra
     </message>
     <message>
         <source>Folders, with ; between them</source>
-        <translation>Dossiers, séparés par ;</translation>
+        <translation>Dossiers, séparés par&#xa0;;</translation>
     </message>
     <message>
         <source>&amp;Font</source>
@@ -1209,7 +1209,7 @@ Avec Qt %1. Sous licence publique générale GNU, version 3 ou ultérieure.</tra
     </message>
     <message>
         <source>“%1” has changes that are not saved.</source>
-        <translation>« %1 » a des modifications non enregistrées.</translation>
+        <translation>«&#xa0;%1&#xa0;» a des modifications non enregistrées.</translation>
     </message>
     <message>
         <source>They are lost if you discard them.</source>
@@ -1260,7 +1260,7 @@ Avec Qt %1. Sous licence publique générale GNU, version 3 ou ultérieure.</tra
     </message>
     <message>
         <source>There is nothing to find: the find bar is empty.</source>
-        <translation>Il n’y a rien à rechercher : la barre de recherche est vide.</translation>
+        <translation>Il n’y a rien à rechercher&#xa0;: la barre de recherche est vide.</translation>
     </message>
     <message>
         <source>No other script is open.</source>
@@ -1295,7 +1295,7 @@ Avec Qt %1. Sous licence publique générale GNU, version 3 ou ultérieure.</tra
     <name>RecentFiles</name>
     <message>
         <source>“%1” is not there any more. It may have been moved, renamed or deleted, or its drive may be away. Remove it from the list of recent files?</source>
-        <translation>« %1 » n’est plus là. Le fichier a peut-être été déplacé, renommé ou supprimé, ou son lecteur est absent. Le retirer de la liste des fichiers récents ?</translation>
+        <translation>«&#xa0;%1&#xa0;» n’est plus là. Le fichier a peut-être été déplacé, renommé ou supprimé, ou son lecteur est absent. Le retirer de la liste des fichiers récents&#xa0;?</translation>
     </message>
 </context>
 <context>
@@ -1314,7 +1314,7 @@ Avec Qt %1. Sous licence publique générale GNU, version 3 ou ultérieure.</tra
     </message>
     <message>
         <source>The list could not be cleared: the settings cannot be written.</source>
-        <translation>Impossible de vider la liste : les réglages ne peuvent pas être écrits.</translation>
+        <translation>Impossible de vider la liste&#xa0;: les réglages ne peuvent pas être écrits.</translation>
     </message>
 </context>
 <context>
@@ -1409,7 +1409,7 @@ Avec Qt %1. Sous licence publique générale GNU, version 3 ou ultérieure.</tra
     </message>
     <message>
         <source>The workbench ended unexpectedly. These scripts had changes that were not saved:</source>
-        <translation>Le programme s’est arrêté de façon inattendue. Ces scripts avaient des modifications non enregistrées :</translation>
+        <translation>Le programme s’est arrêté de façon inattendue. Ces scripts avaient des modifications non enregistrées&#xa0;:</translation>
     </message>
     <message>
         <source>Scripts that can be recovered</source>
@@ -1445,11 +1445,11 @@ Avec Qt %1. Sous licence publique générale GNU, version 3 ou ultérieure.</tra
     </message>
     <message>
         <source>All scripts:</source>
-        <translation>Tous les scripts :</translation>
+        <translation>Tous les scripts&#xa0;:</translation>
     </message>
     <message>
         <source>%1 all scripts</source>
-        <translation>Tous les scripts : %1</translation>
+        <translation>Tous les scripts&#xa0;: %1</translation>
     </message>
     <message>
         <source>&amp;Continue</source>
@@ -1461,15 +1461,15 @@ Avec Qt %1. Sous licence publique générale GNU, version 3 ou ultérieure.</tra
     </message>
     <message>
         <source>%1 and its copy are not compared: what is no text, longer than 8 MB or cannot be read is not shown.</source>
-        <translation>%1 et sa copie ne sont pas comparés : ce qui n’est pas du texte, dépasse 8 Mo ou ne peut être lu n’est pas montré.</translation>
+        <translation>%1 et sa copie ne sont pas comparés&#xa0;: ce qui n’est pas du texte, dépasse 8 Mo ou ne peut être lu n’est pas montré.</translation>
     </message>
     <message>
         <source>The copy of %1:</source>
-        <translation>La copie de %1 :</translation>
+        <translation>La copie de %1&#xa0;:</translation>
     </message>
     <message>
         <source>%1: lines with - are in the file alone, those with + in the copy alone.</source>
-        <translation>%1 : les lignes avec - ne sont que dans le fichier, celles avec + que dans la copie.</translation>
+        <translation>%1&#xa0;: les lignes avec - ne sont que dans le fichier, celles avec + que dans la copie.</translation>
     </message>
     <message>
         <source>%1 and its copy differ in their encoding alone.</source>
@@ -1484,7 +1484,7 @@ Avec Qt %1. Sous licence publique générale GNU, version 3 ou ultérieure.</tra
     </message>
     <message>
         <source>%1%2: &quot;%3&quot; becomes &quot;%4&quot;</source>
-        <translation>%1%2 : « %3 » devient « %4 »</translation>
+        <translation>%1%2&#xa0;: «&#xa0;%3&#xa0;» devient «&#xa0;%4&#xa0;»</translation>
     </message>
 </context>
 <context>
@@ -1539,22 +1539,22 @@ Avec Qt %1. Sous licence publique générale GNU, version 3 ou ultérieure.</tra
     </message>
     <message>
         <source>&apos;%1&apos;: %2</source>
-        <translation>« %1 » : %2</translation>
+        <translation>«&#xa0;%1&#xa0;»&#xa0;: %2</translation>
     </message>
     <message numerus="yes">
         <source>&apos;%1&apos;: %n matches in %2 of %3 files</source>
         <translation>
-            <numerusform>« %1 » : %n occurrence dans %2 fichiers sur %3</numerusform>
-            <numerusform>« %1 » : %n occurrences dans %2 fichiers sur %3</numerusform>
+            <numerusform>«&#xa0;%1&#xa0;»&#xa0;: %n occurrence dans %2 fichiers sur %3</numerusform>
+            <numerusform>«&#xa0;%1&#xa0;»&#xa0;: %n occurrences dans %2 fichiers sur %3</numerusform>
         </translation>
     </message>
     <message>
         <source>, %1 not read</source>
-        <translation>, non lus : %1</translation>
+        <translation>, non lus&#xa0;: %1</translation>
     </message>
     <message>
         <source>, %1 skipped</source>
-        <translation>, ignorés : %1</translation>
+        <translation>, ignorés&#xa0;: %1</translation>
     </message>
     <message>
         <source>. The expression went on for too long in some of them</source>
@@ -1566,15 +1566,15 @@ Avec Qt %1. Sous licence publique générale GNU, version 3 ou ultérieure.</tra
     </message>
     <message>
         <source>Searching: %1</source>
-        <translation>Recherche en cours : %1</translation>
+        <translation>Recherche en cours&#xa0;: %1</translation>
     </message>
     <message>
         <source>%1: %2</source>
-        <translation>%1 : %2</translation>
+        <translation>%1&#xa0;: %2</translation>
     </message>
     <message>
         <source>Replacing: %1 of %2 files</source>
-        <translation>Remplacement : %1 fichiers sur %2</translation>
+        <translation>Remplacement&#xa0;: %1 fichiers sur %2</translation>
     </message>
     <message numerus="yes">
         <source>%n matches replaced in %1 files</source>
@@ -1595,7 +1595,7 @@ Avec Qt %1. Sous licence publique générale GNU, version 3 ou ultérieure.</tra
     <name>RichCopy</name>
     <message>
         <source>%1 could not be written: %2</source>
-        <translation>Impossible d’écrire %1 : %2</translation>
+        <translation>Impossible d’écrire %1&#xa0;: %2</translation>
     </message>
 </context>
 <context>
@@ -1614,7 +1614,7 @@ Avec Qt %1. Sous licence publique générale GNU, version 3 ou ultérieure.</tra
     </message>
     <message>
         <source>&amp;Encoding:</source>
-        <translation>&amp;Encodage :</translation>
+        <translation>&amp;Encodage&#xa0;:</translation>
     </message>
 </context>
 <context>
@@ -1648,14 +1648,14 @@ Avec Qt %1. Sous licence publique générale GNU, version 3 ou ultérieure.</tra
     <name>Screenshot</name>
     <message>
         <source>the picture “%1” cannot be written.</source>
-        <translation>L’image « %1 » ne peut pas être écrite.</translation>
+        <translation>L’image «&#xa0;%1&#xa0;» ne peut pas être écrite.</translation>
     </message>
 </context>
 <context>
     <name>ScriptChecker</name>
     <message>
         <source>Scripts in %1 are not checked: there is no parser for it here.</source>
-        <translation>Les scripts en %1 ne sont pas vérifiés : il n’y a pas d’analyseur pour eux.</translation>
+        <translation>Les scripts en %1 ne sont pas vérifiés&#xa0;: il n’y a pas d’analyseur pour eux.</translation>
     </message>
     <message>
         <source>The script is too long to be checked.</source>
@@ -1693,19 +1693,19 @@ Avec Qt %1. Sous licence publique générale GNU, version 3 ou ultérieure.</tra
     <name>ScriptDoc</name>
     <message>
         <source>“%1” has a name that is not UTF-8, which cannot be opened. Rename the file.</source>
-        <translation>« %1 » a un nom qui n’est pas en UTF-8 et ne peut pas être ouvert. Renommez le fichier.</translation>
+        <translation>«&#xa0;%1&#xa0;» a un nom qui n’est pas en UTF-8 et ne peut pas être ouvert. Renommez le fichier.</translation>
     </message>
     <message>
         <source>“%1” does not exist.</source>
-        <translation>« %1 » n’existe pas.</translation>
+        <translation>«&#xa0;%1&#xa0;» n’existe pas.</translation>
     </message>
     <message>
         <source>“%1” is a folder, not a script.</source>
-        <translation>« %1 » est un dossier, pas un script.</translation>
+        <translation>«&#xa0;%1&#xa0;» est un dossier, pas un script.</translation>
     </message>
     <message>
         <source>“%1” cannot be read. Check that you may read it.</source>
-        <translation>Impossible de lire « %1 ». Vérifiez que vous avez le droit de le lire.</translation>
+        <translation>Impossible de lire «&#xa0;%1&#xa0;». Vérifiez que vous avez le droit de le lire.</translation>
     </message>
     <message>
         <source>The disk may be full.</source>
@@ -1725,23 +1725,23 @@ Avec Qt %1. Sous licence publique générale GNU, version 3 ou ultérieure.</tra
     </message>
     <message>
         <source>“%1” could not be saved. %2 The text is still here: use Save As to put it in another place.</source>
-        <translation>Impossible d’enregistrer « %1 ». %2 Le texte est toujours ici : mettez-le ailleurs avec « Enregistrer sous ».</translation>
+        <translation>Impossible d’enregistrer «&#xa0;%1&#xa0;». %2 Le texte est toujours ici&#xa0;: mettez-le ailleurs avec «&#xa0;Enregistrer sous&#xa0;».</translation>
     </message>
     <message>
         <source>The copy of “%1” cannot be read, or another window of the workbench has it by now. It is still there: “%2”.</source>
-        <translation>La copie de « %1 » ne peut pas être lue, ou une autre fenêtre du programme l’a prise entre-temps. Elle est toujours là : « %2 ».</translation>
+        <translation>La copie de «&#xa0;%1&#xa0;» ne peut pas être lue, ou une autre fenêtre du programme l’a prise entre-temps. Elle est toujours là&#xa0;: «&#xa0;%2&#xa0;».</translation>
     </message>
     <message>
         <source>Do you want to reload &apos;%1&apos; ?</source>
-        <translation>Voulez-vous recharger « %1 » ?</translation>
+        <translation>Voulez-vous recharger «&#xa0;%1&#xa0;»&#xa0;?</translation>
     </message>
     <message>
         <source>“%1” is open in another tab. Close it first, or choose another name.</source>
-        <translation>« %1 » est ouvert dans un autre onglet. Fermez-le d’abord, ou choisissez un autre nom.</translation>
+        <translation>«&#xa0;%1&#xa0;» est ouvert dans un autre onglet. Fermez-le d’abord, ou choisissez un autre nom.</translation>
     </message>
     <message>
         <source>Only the first part of “%1” could be read. Saving it under its own name loses the rest of the file.</source>
-        <translation>Seule la première partie de « %1 » a pu être lue. L’enregistrer sous son propre nom perd le reste du fichier.</translation>
+        <translation>Seule la première partie de «&#xa0;%1&#xa0;» a pu être lue. L’enregistrer sous son propre nom perd le reste du fichier.</translation>
     </message>
     <message>
         <source>&amp;Overwrite</source>
@@ -1749,7 +1749,7 @@ Avec Qt %1. Sous licence publique générale GNU, version 3 ou ultérieure.</tra
     </message>
     <message>
         <source>“%1” has been changed outside of the workbench since it was read. Saving it replaces those changes.</source>
-        <translation>« %1 » a été modifié en dehors du programme depuis sa lecture. L’enregistrer remplace ces modifications.</translation>
+        <translation>«&#xa0;%1&#xa0;» a été modifié en dehors du programme depuis sa lecture. L’enregistrer remplace ces modifications.</translation>
     </message>
 </context>
 <context>
@@ -1790,7 +1790,7 @@ Avec Qt %1. Sous licence publique générale GNU, version 3 ou ultérieure.</tra
     </message>
     <message>
         <source>Line %L1 is very long: behind column %L2 its text is drawn coarsely</source>
-        <translation>La ligne %L1 est très longue : après la colonne %L2, son texte est dessiné grossièrement</translation>
+        <translation>La ligne %L1 est très longue&#xa0;: après la colonne %L2, son texte est dessiné grossièrement</translation>
     </message>
     <message>
         <source>Line %1, column %2</source>
@@ -1805,7 +1805,7 @@ Avec Qt %1. Sous licence publique générale GNU, version 3 ou ultérieure.</tra
     <name>StatusIndicators</name>
     <message>
         <source>A macro is recorded; stop it</source>
-        <translation>Une macro est enregistrée ; l’arrêter</translation>
+        <translation>Une macro est enregistrée&#xa0;; l’arrêter</translation>
     </message>
     <message>
         <source>Read-only</source>
@@ -1865,7 +1865,7 @@ Avec Qt %1. Sous licence publique générale GNU, version 3 ou ultérieure.</tra
     </message>
     <message>
         <source>Spaces: %1</source>
-        <translation>Espaces : %1</translation>
+        <translation>Espaces&#xa0;: %1</translation>
     </message>
     <message>
         <source>OVR</source>
@@ -1978,6 +1978,10 @@ Avec Qt %1. Sous licence publique générale GNU, version 3 ou ultérieure.</tra
         <source>&amp;Stop</source>
         <translation>&amp;Arrêter</translation>
     </message>
+    <message>
+        <source>%1: %2 changes</source>
+        <translation>%1&#xa0;: %2 modifications</translation>
+    </message>
 </context>
 <context>
     <name>Workbench</name>
@@ -2006,7 +2010,7 @@ Avec Qt %1. Sous licence publique générale GNU, version 3 ou ultérieure.</tra
 %1
 
 Apply again once they can be, or Cancel to give the changes up.</source>
-        <translation>Les modifications sont en vigueur pour l’instant, mais ces fichiers n’ont pas pu être écrits :
+        <translation>Les modifications sont en vigueur pour l’instant, mais ces fichiers n’ont pas pu être écrits&#xa0;:
 
 %1
 
@@ -2020,9 +2024,9 @@ Apply writes the changes and shows them in the open scripts; Cancel does not tak
 A colour that is &quot;Default&quot; follows the scheme of the View menu. What is set here for a language comes before the Options of all editors.</source>
         <translation>L’arbre a une page pour ce que tous les langages partagent, et des pages pour chaque langage. Tapez au-dessus de l’arbre pour en trouver une.
 
-« Appliquer » écrit les modifications et les montre dans les scripts ouverts ; « Annuler » ne revient pas sur ce qui a été appliqué.
+«&#xa0;Appliquer&#xa0;» écrit les modifications et les montre dans les scripts ouverts&#xa0;; «&#xa0;Annuler&#xa0;» ne revient pas sur ce qui a été appliqué.
 
-Une couleur « Par défaut » suit le thème du menu Affichage. Ce qui est réglé ici pour un langage l’emporte sur les options de tous les éditeurs.</translation>
+Une couleur «&#xa0;Par défaut&#xa0;» suit le thème du menu Affichage. Ce qui est réglé ici pour un langage l’emporte sur les options de tous les éditeurs.</translation>
     </message>
 </context>
 <context>
@@ -2044,7 +2048,7 @@ Une couleur « Par défaut » suit le thème du menu Affichage. Ce qui est ré
     <name>main</name>
     <message>
         <source>The editing engine cannot be loaded: libZNBaseEditor.so has to stand beside libZNCoreEditor.so, or in the folder ZNCoreEditor there.</source>
-        <translation>Impossible de charger le moteur d’édition : libZNBaseEditor.so doit se trouver à côté de libZNCoreEditor.so, ou là dans le dossier ZNCoreEditor.</translation>
+        <translation>Impossible de charger le moteur d’édition&#xa0;: libZNBaseEditor.so doit se trouver à côté de libZNCoreEditor.so, ou là dans le dossier ZNCoreEditor.</translation>
     </message>
 </context>
 </TS>

@@ -1966,6 +1966,10 @@ Qt %1 を使用。GNU General Public License バージョン 3 以降の下で�
         <source>&amp;Stop</source>
         <translation>停止(&amp;S)</translation>
     </message>
+    <message>
+        <source>%1: %2 changes</source>
+        <translation>%1: %2 件の変更</translation>
+    </message>
 </context>
 <context>
     <name>Workbench</name>

@@ -1966,6 +1966,10 @@ Over Qt %1. Licensed under the GNU General Public License, version 3 or later.</
         <source>&amp;Stop</source>
         <translation>停止(&amp;S)</translation>
     </message>
+    <message>
+        <source>%1: %2 changes</source>
+        <translation>%1：%2 处更改</translation>
+    </message>
 </context>
 <context>
     <name>Workbench</name>
