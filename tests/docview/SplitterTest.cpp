@@ -10,6 +10,7 @@
 
 #include <QAbstractScrollArea>
 #include <QPainter>
+#include <QRubberBand>
 #include <QTest>
 
 namespace {
@@ -199,6 +200,9 @@ TEST_F(Splitter, IsDividedByDrawingItsBox)
     EXPECT_FALSE(Box("columnBox"));
     QTest::mousePress(Box("rowBox"), Qt::LeftButton, {}, QPoint(3, 3));
     QTest::mouseMove(Box("rowBox"), QPoint(3, 180));
+    Settle();
+    EXPECT_EQ(splitter.GetPane(0, 0)->GetSafeHwnd()->height(), 500) << "a line is drawn over it";
+    EXPECT_TRUE(splitter.GetSafeHwnd()->window()->findChild<QRubberBand*>());
     QTest::mouseRelease(Box("rowBox"), Qt::LeftButton, {}, QPoint(3, 180));
     Settle();
     ASSERT_EQ(splitter.GetRowCount(), 2);

@@ -123,7 +123,8 @@ void SplitBox::mousePressEvent(QMouseEvent* event)
 {
     if (event->button() != Qt::LeftButton)
         return;
-    m_line = new QRubberBand(QRubberBand::Line, m_owner.GetSafeHwnd());
+    // Not the splitter's child, which would be a pane.
+    m_line = new QRubberBand(QRubberBand::Line, m_owner.GetSafeHwnd()->window());
     mouseMoveEvent(event);
     m_line->show();
 }
@@ -132,10 +133,11 @@ void SplitBox::mouseMoveEvent(QMouseEvent* event)
 {
     if (!m_line)
         return;
-    const QRect all = m_owner.GetSafeHwnd()->rect();
+    const QWidget& panes = *m_owner.GetSafeHwnd();
     const int place = PlaceOf(*event) - kBarWidth / 2;
-    m_line->setGeometry(m_forRows ? QRect(0, place, all.width(), kBarWidth)
-                                  : QRect(place, 0, kBarWidth, all.height()));
+    const QRect line = m_forRows ? QRect(0, place, panes.width(), kBarWidth)
+                                 : QRect(place, 0, kBarWidth, panes.height());
+    m_line->setGeometry(QRect(panes.mapTo(panes.window(), line.topLeft()), line.size()));
 }
 
 void SplitBox::mouseReleaseEvent(QMouseEvent* event)
