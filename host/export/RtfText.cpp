@@ -26,16 +26,20 @@ private:
     QList<QByteArray> m_entries;
 };
 
-QByteArray Escaped(char16_t unit)
+void Append(char16_t unit, QByteArray& out)
 {
-    if (unit == u'\\' || unit == u'{' || unit == u'}')
-        return QByteArray("\\") + static_cast<char>(unit);
-    if (unit == u'\t')
-        return "\\tab ";
-    if (unit >= u' ' && unit < 0x7F)
-        return QByteArray(1, static_cast<char>(unit));
-    // A signed number, with what a reader without Unicode shows.
-    return "\\u" + QByteArray::number(static_cast<qint16>(unit)) + '?';
+    const bool isPlain = unit >= u' ' && unit < 0x7F;
+    if (unit == u'\t') {
+        out += "\\tab ";
+    } else if (isPlain) {
+        if (unit == u'\\' || unit == u'{' || unit == u'}')
+            out += '\\';
+        out += static_cast<char>(unit);
+    } else { // a signed number, with what a reader without Unicode shows
+        out += "\\u";
+        out += QByteArray::number(static_cast<qint16>(unit));
+        out += '?';
+    }
 }
 
 QByteArray ColourEntry(COLORREF colour)
@@ -48,8 +52,10 @@ QByteArray ColourEntry(COLORREF colour)
 QByteArray FaceEntry(const StyleLook& look)
 {
     QByteArray face;
-    for (const char16_t* unit = look.face; *unit; ++unit)
-        face += *unit == u';' ? QByteArray() : Escaped(*unit);
+    for (const char16_t* unit = look.face; *unit; ++unit) {
+        if (*unit != u';')
+            Append(*unit, face);
+    }
     return face;
 }
 
@@ -83,7 +89,7 @@ QByteArray RtfOf(CZNCoreEditorControl& editor, long start, long end)
             if (unit == u'\r' || (unit == u'\n' && !isBehindCr))
                 body += "\\par\n";
             else if (unit != u'\n')
-                body += Escaped(unit);
+                Append(unit, body);
             isBehindCr = unit == u'\r';
         }
         return true;

@@ -248,6 +248,18 @@ TEST_F(PrintingScripts, CopiesColoursBesideThePlainText)
     EXPECT_TRUE(data->hasFormat("application/rtf"));
 }
 
+TEST_F(PrintingScripts, CopiesWhatRtfHasSignsForAsText)
+{
+    Open("a.sql", "a {b\\} \t;\r\n\xF0\x9F\x98\x80 end");
+    Editor().SelectAll(1);
+    QApplication::processEvents();
+    Trigger("copyWithColours");
+    const QByteArray rtf = QGuiApplication::clipboard()->mimeData()->data("text/rtf");
+    for (const char* part : {"\\{", "\\\\", "\\}", "\\tab ", "\\par\n", "\\u-10179?\\u-8704?"})
+        EXPECT_TRUE(rtf.contains(part)) << part << " in " << rtf.toStdString();
+    EXPECT_EQ(rtf.count('{') - rtf.count("\\{"), rtf.count('}') - rtf.count("\\}"));
+}
+
 TEST_F(PrintingScripts, SavesHtmlThatReadsAsTheScript)
 {
     QByteArray text;
@@ -280,4 +292,26 @@ TEST_F(PrintingScripts, OpensWhatTheCaretStandsOn)
     Editor().SetSel(12, 12, 1);
     Trigger("openAtCaret");
     EXPECT_EQ(m_prompts.told, QStringList{"There is no file nothing.sql."});
+}
+
+TEST_F(PrintingScripts, OffersTheFileAtTheCaretInTheContextMenuIfItIsThere)
+{
+    Write("b.sql", "one\n");
+    Open("a.sql", "nothing.sql b.sql\n");
+    const auto firstOfMenu = [&](long caret) -> QAction* {
+        Editor().SetSel(caret, caret, 1);
+        SendMessage(Frame().View()->GetSafeHwnd(), WM_CONTEXTMENU, 0, PointParam({10, 10}));
+        const QWidget* menu = QApplication::activePopupWidget();
+        return menu ? menu->actions().value(0) : nullptr;
+    };
+    QAction* first = firstOfMenu(3);
+    ASSERT_TRUE(first);
+    EXPECT_NE(first->text(), "Open &Document");
+    QApplication::activePopupWidget()->close();
+    first = firstOfMenu(14);
+    ASSERT_TRUE(first);
+    EXPECT_EQ(first->text(), "Open &Document");
+    first->trigger();
+    EXPECT_EQ(m_window.TabCount(), 2);
+    EXPECT_EQ(Script().GetPathName(), PathOf("b.sql"));
 }
