@@ -6,6 +6,7 @@
 #include "host/script/ScriptFrame.h"
 #include "host/script/ScriptView.h"
 #include "host/window/MainWindow.h"
+#include "platform/services/OptionsServer.h"
 
 #include <QAction>
 #include <QApplication>
@@ -36,6 +37,7 @@ void Trigger(const MainWindow& window, const char* command)
 void PicturePrinting(MainWindow& window, const QDir& folder, const QString& name)
 {
     const QString path = folder.filePath(name);
+    CZNOptionsServer::GetObjectW()->SetInt(option::PrintColours, 1);
     QTimer::singleShot(0, qApp, [&path] {
         auto* dialog = qobject_cast<QDialog*>(QApplication::activeModalWidget());
         auto* preview = dialog ? dialog->findChild<QPrintPreviewWidget*>() : nullptr;
