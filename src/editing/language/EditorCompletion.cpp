@@ -74,7 +74,7 @@ completion::Signatures SignaturesOfLanguage(int language)
     constexpr qint64 kMost = 4 << 20;
     CSyntaxFile* syntax = languages.GetSyntaxFile(language);
     constexpr int kFirstOther = 19; // lexers of SQL stand below
-    const int lexer = syntax ? syntax->GetLexerNumber() : -1;
+    const int lexer = syntax && syntax->Parse() ? syntax->GetLexerNumber() : -1;
     return {QString::fromUtf8(file.read(kMost)), languages.GetLanguageName(language),
             lexer > 0 && lexer < kFirstOther};
 }
