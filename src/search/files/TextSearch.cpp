@@ -297,6 +297,10 @@ std::optional<engine::search::Range> TextSearch::FindNext(bool isLast)
         const auto* before =
             static_cast<const char*>(memrchr(text.data() + from, '\n', hit.start - from));
         const long start = before ? static_cast<long>(before - text.data()) + 1 : m_from;
+        // Where the match ends may stand in what follows.
+        m_waits = !m_lineIsWhole && text.size() - hit.start < kLongestMatch;
+        if (m_waits)
+            return std::nullopt;
         const auto found = Find(start, m_lineEnd);
         if (found || m_ranAway || !m_lineIsWhole)
             return found;
@@ -320,6 +324,7 @@ long TextSearch::Search(bool isLast, long skip, std::vector<FileMatch>& matches)
     std::size_t cut = size;
     m_lineText = QString(); // it may have ended with the piece
     m_lineEnd = 0;
+    m_waits = false;
     if (!isLast) {
         cut = size > m_overlap ? size - m_overlap : 0;
         while (cut > 0 && IsInside(m_text.bytes[cut]))
@@ -349,6 +354,8 @@ long TextSearch::Search(bool isLast, long skip, std::vector<FileMatch>& matches)
         }
     }
     if (!isLast) {
+        if (m_waits)
+            cut = std::min(cut, static_cast<std::size_t>(m_from));
         m_from = std::max(m_from, static_cast<long>(cut));
         // Enough stays in front for what looks back.
         if (cut > kTextOverlap) {

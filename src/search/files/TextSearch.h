@@ -74,6 +74,7 @@ private:
     std::optional<engine::search::LiteralScan> m_required;
     long m_lineEnd = 0; // of the last such line
     bool m_lineIsWhole = false;
+    bool m_waits = false; // for the rest of a line that is not
     Place m_place;
     long m_from = 0;
     long m_count = 0;

@@ -78,6 +78,20 @@ TEST_F(FileBytes, HaveAMatchOverTheSeamOfWhatIsReadAtATime)
     }
 }
 
+TEST_F(FileBytes, OfALongLineAreOneMatchUpToTheLastOneThatFits)
+{
+    QByteArray text(6 * 1024 * 1024, ' ');
+    for (const int at : {100, 3 * 1024 * 1024, 6 * 1024 * 1024 - 2})
+        text.replace(at, 2, "ab");
+    const QString path = Write("a.sql", "ab\n" + text + "\nab");
+    FileSearchRequest request = For("ab.*ab");
+    request.regExp = true;
+    const Collector found = Search(request);
+    ASSERT_EQ(found.totals.matches, 1);
+    EXPECT_EQ(found.files.at(path).matches[0].column, 100);
+    EXPECT_EQ(found.files.at(path).matches[0].length, text.size() - 100);
+}
+
 TEST_F(FileBytes, OfTheCodePageAreTextOverManyPieces)
 {
     QByteArray text = QByteArray("W\xF6rter, W\xF6rter\n").repeated(200000);
