@@ -161,7 +161,6 @@ ResultsPane::ResultsPane(const QString& title, IFoundTexts& texts, QWidget* pare
       m_timer(new QTimer(this)), m_replaces(new QPushButton(tr("Re&place..."), this)),
       m_texts(texts), m_rest(new QTimer(this))
 {
-    setObjectName(title.simplified().remove(u' '));
     auto* inside = new QWidget(this);
     auto* rows = new QVBoxLayout(inside);
     rows->setContentsMargins({});

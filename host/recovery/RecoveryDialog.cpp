@@ -151,9 +151,9 @@ void RecoveryDialog::AddCopy(const RecoverableCopy& copy)
     const QString folder = copy.document.isEmpty()
                                ? QString()
                                : QDir::toNativeSeparators(QFileInfo(copy.document).path());
-    auto* item = new QTreeWidgetItem(
-        m_list, {copy.name, folder, AgeOf(copy.copyTime, now),
-                 hasFile ? AgeOf(copy.fileTime, now) : QStringLiteral("none"), TextOf(copy.state)});
+    auto* item = new QTreeWidgetItem(m_list, {copy.name, folder, AgeOf(copy.copyTime, now),
+                                              hasFile ? AgeOf(copy.fileTime, now) : tr("none"),
+                                              TextOf(copy.state)});
     item->setToolTip(Script, QDir::toNativeSeparators(copy.document));
     item->setToolTip(Folder, folder);
     item->setToolTip(CopyAge, QLocale().toString(copy.copyTime));

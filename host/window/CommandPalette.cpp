@@ -19,7 +19,8 @@ constexpr int kEntry = Qt::UserRole; // its place among the entries
 
 QString Plain(const QString& text)
 {
-    return zncoreeditor::WithoutMnemonic(text).remove(QStringLiteral("..."));
+    // What an update rule has given a name brings a key along behind a tab.
+    return zncoreeditor::WithoutMnemonic(text.section(u'\t', 0, 0)).remove(QStringLiteral("..."));
 }
 
 } // namespace

@@ -134,8 +134,9 @@ std::shared_ptr<void> MainWindow::MakeSearchLine()
 void MainWindow::BuildResults()
 {
     m_foundTexts = std::make_shared<FoundTexts>(*this);
-    for (const char* title : {"Find Results", "Find Results 2"}) {
-        auto* pane = new ResultsPane(QLatin1String(title), *m_foundTexts, this);
+    for (const char* title : {QT_TR_NOOP("Find Results"), QT_TR_NOOP("Find Results 2")}) {
+        auto* pane = new ResultsPane(tr(title), *m_foundTexts, this);
+        pane->setObjectName(QString(QLatin1String(title)).remove(u' '));
         addDockWidget(Qt::BottomDockWidgetArea, pane);
         pane->hide();
         connect(pane, &ResultsPane::Chosen, this, &MainWindow::ShowMatch);

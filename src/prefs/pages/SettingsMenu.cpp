@@ -22,6 +22,14 @@ struct Texts
     Q_DECLARE_TR_FUNCTIONS(SettingsMenu)
 };
 
+// Those that are shipped; a scheme of a person's own has the name that the person gave it.
+[[maybe_unused]] constexpr const char* kSchemes[] = {
+    QT_TRANSLATE_NOOP("SettingsMenu", "Light"),
+    QT_TRANSLATE_NOOP("SettingsMenu", "Dark"),
+    QT_TRANSLATE_NOOP("SettingsMenu", "High Contrast"),
+    QT_TRANSLATE_NOOP("SettingsMenu", "Print"),
+};
+
 QString Title()
 {
     return Texts::tr("Settings");
@@ -55,7 +63,7 @@ SettingsMenu::SettingsMenu(CConfigFile& config, CFileTypeManager& languages, QWi
     addSeparator();
     QMenu* schemes = addMenu(Texts::tr("&Write the Colours of a Scheme"));
     for (const QString& name : zncoreeditor::SchemeNames()) {
-        QAction* action = schemes->addAction(name);
+        QAction* action = schemes->addAction(Texts::tr(name.toUtf8().constData()));
         action->setObjectName(QStringLiteral("write") + QString(name).remove(u' '));
         connect(action, &QAction::triggered, this, [this, name] { WriteScheme(name); });
     }
