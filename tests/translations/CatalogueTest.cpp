@@ -192,6 +192,28 @@ TEST_P(Catalogues, KnowWhatTheSourcesSay)
 
 namespace {
 
+// Styles, whose names may have two parts, and sets of keywords.
+QStringList NamesIn(const QString& path)
+{
+    static const QRegularExpression style(
+        QStringLiteral("<Style number[^>]*>\\s*<Name>(?:([^<]*): )?([^<]*)</Name>"));
+    static const QRegularExpression set(QStringLiteral("<Keywords[^>]*description=\"([^\"]*)\""));
+    QFile file(path);
+    EXPECT_TRUE(file.open(QIODevice::ReadOnly));
+    const QString text = QString::fromUtf8(file.readAll());
+    QStringList names;
+    for (auto found = style.globalMatch(text); found.hasNext();) {
+        const QRegularExpressionMatch match = found.next();
+        const QString last = match.captured(2);
+        names << (match.captured(1).isEmpty() ? last : last.left(1).toUpper() + last.mid(1));
+        if (!match.captured(1).isEmpty())
+            names << match.captured(1);
+    }
+    for (auto found = set.globalMatch(text); found.hasNext();)
+        names << found.next().captured(1);
+    return names;
+}
+
 QList<UINT> NumbersIn(const QString& path)
 {
     QFile file(path);
@@ -222,5 +244,20 @@ TEST_P(Catalogues, HaveEveryTextWithANumber)
         EXPECT_EQ(Places(translated.LoadString(number)), Places(source.LoadString(number)));
         EXPECT_EQ(translated.LoadString(number).count(u'\n'),
                   source.LoadString(number).count(u'\n'));
+    }
+}
+
+// The names in the data are shown in lists of the preferences.
+TEST_P(Catalogues, HaveTheNamesOfTheSyntaxFiles)
+{
+    QSet<QString> known;
+    for (const Message& message : MessagesIn(GetParam())) {
+        if (message.context == QLatin1String("SyntaxFiles"))
+            known.insert(message.source);
+    }
+    const QDir folder(Tree(QStringLiteral("data/Syntax")));
+    for (const QString& name : folder.entryList({QStringLiteral("*.xml")})) {
+        for (const QString& text : NamesIn(folder.filePath(name)))
+            EXPECT_TRUE(known.contains(text)) << name.toStdString() << ": " << text.toStdString();
     }
 }

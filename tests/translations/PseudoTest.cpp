@@ -75,6 +75,7 @@ protected:
         static const QRegularExpression inBrackets(
             QStringLiteral("%1[^%1%2]*%2").arg(kOpen).arg(kClose));
         static const QSet<QString> names = Names();
+        static const QRegularExpression beforeKey(QStringLiteral("%1[^%1]*").arg(kOpen));
         static const QRegularExpression colour(QStringLiteral("#[0-9A-F]{6}"));
         QString rest = text;
         if (names.contains(rest) || QDir::isAbsolutePath(rest))
@@ -82,6 +83,7 @@ protected:
         while (rest.contains(inBrackets))
             rest.remove(inBrackets);
         rest = rest.section(u'\t', 0, 0).remove(colour);
+        rest.remove(beforeKey); // what was cut at a key
         for (const QString& name : names)
             rest.remove(name);
         ++m_checked;

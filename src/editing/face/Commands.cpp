@@ -86,8 +86,8 @@ void ZNCoreEditorWidget::Private::MakeCommands()
         m_commands += action;
     };
     for (const BasicRow& row : kBasics)
-        add(row.name, tr(row.text), row.number, QKeySequence(row.key));
-    auto* goTo = new QAction(tr("&Go to Line..."), &q);
+        add(row.name, ZNCoreEditorWidget::tr(row.text), row.number, QKeySequence(row.key));
+    auto* goTo = new QAction(ZNCoreEditorWidget::tr("&Go to Line..."), &q);
     goTo->setObjectName(QStringLiteral("goToLine"));
     goTo->setShortcut(QKeySequence(Qt::CTRL | Qt::Key_G));
     connect(goTo, &QAction::triggered, &q, [this] { AskForLine(); });
@@ -107,7 +107,8 @@ void ZNCoreEditorWidget::Private::AskForLine()
 {
     const Lifetime alive(*this);
     bool isChosen = false;
-    const int line = QInputDialog::getInt(&q, tr("Go to Line"), tr("Line:"), q.cursorLine() + 1, 1,
+    const int line = QInputDialog::getInt(&q, ZNCoreEditorWidget::tr("Go to Line"),
+                                          ZNCoreEditorWidget::tr("Line:"), q.cursorLine() + 1, 1,
                                           q.lineCount(), 1, &isChosen);
     if (alive && isChosen)
         q.setCursorPosition(line - 1, 0);

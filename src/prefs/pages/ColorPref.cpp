@@ -9,6 +9,7 @@
 #include "prefs/controls/ColorStatic.h"
 #include "prefs/pages/Preferences.h"
 #include "prefs/pages/StyleSample.h"
+#include "prefs/pages/SyntaxTexts.h"
 #include "settings/SyntaxFile.h"
 
 #include <QCoreApplication>
@@ -101,7 +102,7 @@ bool CColorPref::OnInitDialog()
         const QString name = file->GetStyleName(style);
         if (name.isEmpty())
             continue;
-        auto* item = new QListWidgetItem(name, list);
+        auto* item = new QListWidgetItem(ShownStyle(name), list);
         item->setData(Qt::UserRole, style);
     }
     list->setCurrentRow(0);

@@ -4,6 +4,7 @@
 #include "platform/windows/Questions.h"
 #include "prefs/controls/ColorStatic.h"
 #include "prefs/pages/StyleSample.h"
+#include "prefs/pages/SyntaxTexts.h"
 #include "settings/Number.h"
 #include "settings/SyntaxFile.h"
 
@@ -112,7 +113,7 @@ bool CFontPref::OnInitDialog()
         const QString name = file->GetStyleName(style);
         if (name.isEmpty())
             continue;
-        styles->addItem(name, style);
+        styles->addItem(ShownStyle(name), style);
         m_records[style] = {file->GetStyleFontName(style),
                             QString::number(file->GetStyleFontSize(style)),
                             file->GetStyleFontBold(style), file->GetStyleFontItalic(style),

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "prefs/pages/KeywordPref.h"
 
+#include "prefs/pages/SyntaxTexts.h"
 #include "settings/SyntaxFile.h"
 
 #include <QCoreApplication>
@@ -56,7 +57,7 @@ bool CKeywordPref::OnInitDialog()
         const QString description = file->GetKeywordSetDescription(set);
         if (description.isEmpty())
             continue;
-        auto* item = new QListWidgetItem(description, sets);
+        auto* item = new QListWidgetItem(ShownKeywordSet(description), sets);
         item->setData(Qt::UserRole, set);
         m_words[static_cast<std::size_t>(set)] = file->GetDelimitedKeywordSet(set, ' ');
     }
