@@ -272,7 +272,7 @@ Soll sie neu geladen werden?</translation>
     </message>
     <message>
         <source>&amp;Select All	Ctrl+A</source>
-        <translation>&amp;Alles auswählen	Strg+A</translation>
+        <translation>Alles a&amp;uswählen	Strg+A</translation>
     </message>
     <message>
         <source>Match To&amp;ken	Ctrl+]</source>
@@ -352,7 +352,7 @@ Soll sie neu geladen werden?</translation>
     </message>
     <message>
         <source>&amp;Outdent</source>
-        <translation>A&amp;usrücken</translation>
+        <translation>&amp;Ausrücken</translation>
     </message>
     <message>
         <source>R&amp;eplace...</source>
@@ -772,7 +772,7 @@ Soll sie neu geladen werden?</translation>
     </message>
     <message>
         <source>Ad&amp;vanced &gt;&gt;</source>
-        <translation>&amp;Erweitert &gt;&gt;</translation>
+        <translation>E&amp;rweitert &gt;&gt;</translation>
     </message>
     <message>
         <source>Look in additional folders:</source>
@@ -788,7 +788,7 @@ Soll sie neu geladen werden?</translation>
     </message>
     <message>
         <source>Ad&amp;vanced &lt;&lt;</source>
-        <translation>E&amp;rweitert &lt;&lt;</translation>
+        <translation>&amp;Erweitert &lt;&lt;</translation>
     </message>
     <message>
         <source>Enter Type!</source>
@@ -889,7 +889,7 @@ Soll sie neu geladen werden?</translation>
     </message>
     <message>
         <source>&amp;Toggle Comment</source>
-        <translation>Kommentar &amp;umschalten</translation>
+        <translation>&amp;Kommentar umschalten</translation>
     </message>
     <message>
         <source>&amp;Lines</source>
@@ -901,7 +901,7 @@ Soll sie neu geladen werden?</translation>
     </message>
     <message>
         <source>Move Lines Do&amp;wn</source>
-        <translation>Z&amp;eilen nach unten verschieben</translation>
+        <translation>Zeilen nach &amp;unten verschieben</translation>
     </message>
     <message>
         <source>Duplicate Line or Selection</source>
@@ -933,7 +933,7 @@ Soll sie neu geladen werden?</translation>
     </message>
     <message>
         <source>&amp;Statement</source>
-        <translation>A&amp;nweisung</translation>
+        <translation>&amp;Anweisung</translation>
     </message>
     <message>
         <source>Surround</source>
@@ -1001,11 +1001,11 @@ Soll sie neu geladen werden?</translation>
     </message>
     <message>
         <source>Fold &amp;All</source>
-        <translation>A&amp;lles einfalten</translation>
+        <translation>&amp;Alles einfalten</translation>
     </message>
     <message>
         <source>U&amp;nfold All</source>
-        <translation>&amp;Alles ausfalten</translation>
+        <translation>A&amp;lles ausfalten</translation>
     </message>
     <message>
         <source>To Level &amp;1</source>
@@ -1454,11 +1454,11 @@ Soll sie neu geladen werden?</translation>
     </message>
     <message>
         <source>&amp;Export All Settings...</source>
-        <translation>Alle &amp;Einstellungen exportieren...</translation>
+        <translation>&amp;Alle Einstellungen exportieren...</translation>
     </message>
     <message>
         <source>&amp;Import All Settings...</source>
-        <translation>&amp;Alle Einstellungen importieren...</translation>
+        <translation>Alle &amp;Einstellungen importieren...</translation>
     </message>
     <message>
         <source>&amp;Write the Colours of a Scheme</source>
@@ -1515,6 +1515,22 @@ Write them?</source>
         <translation>Die Farben aller Sprachen werden die von „%1“ und bleiben es, wie auch immer der Desktop aussieht. %2
 
 Eintragen?</translation>
+    </message>
+    <message>
+        <source>Light</source>
+        <translation>Hell</translation>
+    </message>
+    <message>
+        <source>Dark</source>
+        <translation>Dunkel</translation>
+    </message>
+    <message>
+        <source>High Contrast</source>
+        <translation>Hoher Kontrast</translation>
+    </message>
+    <message>
+        <source>Print</source>
+        <translation>Druck</translation>
     </message>
 </context>
 <context>
@@ -1663,6 +1679,1009 @@ Eintragen?</translation>
     </message>
 </context>
 <context>
+    <name>SyntaxFiles</name>
+    <message>
+        <source>Declaration</source>
+        <translation>Deklaration</translation>
+    </message>
+    <message>
+        <source>Inactive</source>
+        <translation>Inaktiv</translation>
+    </message>
+    <message>
+        <source>JavaScript</source>
+        <translation>JavaScript</translation>
+    </message>
+    <message>
+        <source>PHP</source>
+        <translation>PHP</translation>
+    </message>
+    <message>
+        <source>Python</source>
+        <translation>Python</translation>
+    </message>
+    <message>
+        <source>Server JavaScript</source>
+        <translation>Server-JavaScript</translation>
+    </message>
+    <message>
+        <source>Server Python</source>
+        <translation>Server-Python</translation>
+    </message>
+    <message>
+        <source>Server VBScript</source>
+        <translation>Server-VBScript</translation>
+    </message>
+    <message>
+        <source>VBScript</source>
+        <translation>VBScript</translation>
+    </message>
+    <message>
+        <source>.NET message</source>
+        <translation>.NET-Meldung</translation>
+    </message>
+    <message>
+        <source>Absoft message</source>
+        <translation>Absoft-Meldung</translation>
+    </message>
+    <message>
+        <source>Added line</source>
+        <translation>Hinzugefügte Zeile</translation>
+    </message>
+    <message>
+        <source>Added line of a removed patch</source>
+        <translation>Hinzugefügte Zeile eines entfernten Patches</translation>
+    </message>
+    <message>
+        <source>Added line of an added patch</source>
+        <translation>Hinzugefügte Zeile eines hinzugefügten Patches</translation>
+    </message>
+    <message>
+        <source>Array</source>
+        <translation>Feld</translation>
+    </message>
+    <message>
+        <source>Assembler</source>
+        <translation>Assembler</translation>
+    </message>
+    <message>
+        <source>Assignment</source>
+        <translation>Zuweisung</translation>
+    </message>
+    <message>
+        <source>At-rule</source>
+        <translation>At-Regel</translation>
+    </message>
+    <message>
+        <source>Attribute</source>
+        <translation>Attribut</translation>
+    </message>
+    <message>
+        <source>Attribute selector</source>
+        <translation>Attributselektor</translation>
+    </message>
+    <message>
+        <source>Backticks</source>
+        <translation>Backticks</translation>
+    </message>
+    <message>
+        <source>Binary number</source>
+        <translation>Binärzahl</translation>
+    </message>
+    <message>
+        <source>Block</source>
+        <translation>Block</translation>
+    </message>
+    <message>
+        <source>Block comment</source>
+        <translation>Blockkommentar</translation>
+    </message>
+    <message>
+        <source>Body of a format</source>
+        <translation>Rumpf eines Formats</translation>
+    </message>
+    <message>
+        <source>Borland message</source>
+        <translation>Borland-Meldung</translation>
+    </message>
+    <message>
+        <source>CDATA section</source>
+        <translation>CDATA-Abschnitt</translation>
+    </message>
+    <message>
+        <source>Call tips</source>
+        <translation>Aufruftipps</translation>
+    </message>
+    <message>
+        <source>Changed line</source>
+        <translation>Geänderte Zeile</translation>
+    </message>
+    <message>
+        <source>Character</source>
+        <translation>Zeichen</translation>
+    </message>
+    <message>
+        <source>Class name</source>
+        <translation>Klassenname</translation>
+    </message>
+    <message>
+        <source>Class selector</source>
+        <translation>Klassenselektor</translation>
+    </message>
+    <message>
+        <source>Client command</source>
+        <translation>Befehl des Clients</translation>
+    </message>
+    <message>
+        <source>Client comment</source>
+        <translation>Kommentar des Clients</translation>
+    </message>
+    <message>
+        <source>Client prompt</source>
+        <translation>Eingabeaufforderung des Clients</translation>
+    </message>
+    <message>
+        <source>Command</source>
+        <translation>Befehl</translation>
+    </message>
+    <message>
+        <source>Command with qx</source>
+        <translation>Befehl mit qx</translation>
+    </message>
+    <message>
+        <source>Comment</source>
+        <translation>Kommentar</translation>
+    </message>
+    <message>
+        <source>Comment block</source>
+        <translation>Kommentarblock</translation>
+    </message>
+    <message>
+        <source>Comment in a directive</source>
+        <translation>Kommentar in einer Direktive</translation>
+    </message>
+    <message>
+        <source>Comment in a parameter</source>
+        <translation>Kommentar in einem Parameter</translation>
+    </message>
+    <message>
+        <source>Constant</source>
+        <translation>Konstante</translation>
+    </message>
+    <message>
+        <source>Constant of the lexer</source>
+        <translation>Konstante des Lexers</translation>
+    </message>
+    <message>
+        <source>Control characters</source>
+        <translation>Steuerzeichen</translation>
+    </message>
+    <message>
+        <source>Data section</source>
+        <translation>Datenabschnitt</translation>
+    </message>
+    <message>
+        <source>Data type</source>
+        <translation>Datentyp</translation>
+    </message>
+    <message>
+        <source>Date</source>
+        <translation>Datum</translation>
+    </message>
+    <message>
+        <source>Default</source>
+        <translation>Standard</translation>
+    </message>
+    <message>
+        <source>Default value</source>
+        <translation>Vorgabewert</translation>
+    </message>
+    <message>
+        <source>Delimiter of a here document</source>
+        <translation>Begrenzer eines Here-Dokuments</translation>
+    </message>
+    <message>
+        <source>Displayed mathematics</source>
+        <translation>Abgesetzte Formel</translation>
+    </message>
+    <message>
+        <source>Documentation</source>
+        <translation>Dokumentation</translation>
+    </message>
+    <message>
+        <source>Documentation comment</source>
+        <translation>Dokumentationskommentar</translation>
+    </message>
+    <message>
+        <source>Documentation comment in a directive</source>
+        <translation>Dokumentationskommentar in einer Direktive</translation>
+    </message>
+    <message>
+        <source>Documentation keyword</source>
+        <translation>Dokumentationsschlüsselwort</translation>
+    </message>
+    <message>
+        <source>Documentation line comment</source>
+        <translation>Dokumentationszeilenkommentar</translation>
+    </message>
+    <message>
+        <source>Element selector</source>
+        <translation>Elementselektor</translation>
+    </message>
+    <message>
+        <source>End of a tag</source>
+        <translation>Ende eines Tags</translation>
+    </message>
+    <message>
+        <source>End of an XML fragment</source>
+        <translation>Ende eines XML-Fragments</translation>
+    </message>
+    <message>
+        <source>End of an environment</source>
+        <translation>Ende einer Umgebung</translation>
+    </message>
+    <message>
+        <source>Entity</source>
+        <translation>Entität</translation>
+    </message>
+    <message>
+        <source>Environment</source>
+        <translation>Umgebung</translation>
+    </message>
+    <message>
+        <source>Error</source>
+        <translation>Fehler</translation>
+    </message>
+    <message>
+        <source>Escape sequence</source>
+        <translation>Escapesequenz</translation>
+    </message>
+    <message>
+        <source>External command</source>
+        <translation>Externer Befehl</translation>
+    </message>
+    <message>
+        <source>First parameter</source>
+        <translation>Erster Parameter</translation>
+    </message>
+    <message>
+        <source>Folded text</source>
+        <translation>Eingefalteter Text</translation>
+    </message>
+    <message>
+        <source>Fortran message</source>
+        <translation>Fortran-Meldung</translation>
+    </message>
+    <message>
+        <source>Function</source>
+        <translation>Funktion</translation>
+    </message>
+    <message>
+        <source>Function name</source>
+        <translation>Funktionsname</translation>
+    </message>
+    <message>
+        <source>Further keyword</source>
+        <translation>Weiteres Schlüsselwort</translation>
+    </message>
+    <message>
+        <source>GCC message</source>
+        <translation>GCC-Meldung</translation>
+    </message>
+    <message>
+        <source>Global class</source>
+        <translation>Globale Klasse</translation>
+    </message>
+    <message>
+        <source>Global variable</source>
+        <translation>Globale Variable</translation>
+    </message>
+    <message>
+        <source>HTML checker message</source>
+        <translation>Meldung der HTML-Prüfung</translation>
+    </message>
+    <message>
+        <source>Hash</source>
+        <translation>Hash</translation>
+    </message>
+    <message>
+        <source>Header</source>
+        <translation>Kopf</translation>
+    </message>
+    <message>
+        <source>Here document in backticks</source>
+        <translation>Here-Dokument in Backticks</translation>
+    </message>
+    <message>
+        <source>Here document in double quotes</source>
+        <translation>Here-Dokument in doppelten Anführungszeichen</translation>
+    </message>
+    <message>
+        <source>Here document in single quotes</source>
+        <translation>Here-Dokument in einfachen Anführungszeichen</translation>
+    </message>
+    <message>
+        <source>Hexadecimal number</source>
+        <translation>Hexadezimalzahl</translation>
+    </message>
+    <message>
+        <source>Identifier</source>
+        <translation>Bezeichner</translation>
+    </message>
+    <message>
+        <source>Identifier in backticks</source>
+        <translation>Bezeichner in Backticks</translation>
+    </message>
+    <message>
+        <source>Identifier in backticks or brackets</source>
+        <translation>Bezeichner in Backticks oder Klammern</translation>
+    </message>
+    <message>
+        <source>Identifier in brackets</source>
+        <translation>Bezeichner in eckigen Klammern</translation>
+    </message>
+    <message>
+        <source>Identifier in double quotes</source>
+        <translation>Bezeichner in doppelten Anführungszeichen</translation>
+    </message>
+    <message>
+        <source>Identifier selector</source>
+        <translation>Bezeichnerselektor</translation>
+    </message>
+    <message>
+        <source>Important</source>
+        <translation>Wichtig</translation>
+    </message>
+    <message>
+        <source>Including file</source>
+        <translation>Einbindende Datei</translation>
+    </message>
+    <message>
+        <source>Indentation guides</source>
+        <translation>Einrückungslinien</translation>
+    </message>
+    <message>
+        <source>Intel Fortran message</source>
+        <translation>Intel-Fortran-Meldung</translation>
+    </message>
+    <message>
+        <source>Java stack line</source>
+        <translation>Java-Stapelzeile</translation>
+    </message>
+    <message>
+        <source>Key</source>
+        <translation>Schlüssel</translation>
+    </message>
+    <message>
+        <source>Keyword</source>
+        <translation>Schlüsselwort</translation>
+    </message>
+    <message>
+        <source>Label</source>
+        <translation>Marke</translation>
+    </message>
+    <message>
+        <source>Library type</source>
+        <translation>Bibliothekstyp</translation>
+    </message>
+    <message>
+        <source>Line comment</source>
+        <translation>Zeilenkommentar</translation>
+    </message>
+    <message>
+        <source>Line numbers</source>
+        <translation>Zeilennummern</translation>
+    </message>
+    <message>
+        <source>Linker message</source>
+        <translation>Linker-Meldung</translation>
+    </message>
+    <message>
+        <source>List with qw</source>
+        <translation>Liste mit qw</translation>
+    </message>
+    <message>
+        <source>Long quote</source>
+        <translation>Langes Zitat</translation>
+    </message>
+    <message>
+        <source>Lua message</source>
+        <translation>Lua-Meldung</translation>
+    </message>
+    <message>
+        <source>Mark that hides a command</source>
+        <translation>Zeichen, das einen Befehl verbirgt</translation>
+    </message>
+    <message>
+        <source>Markup declaration</source>
+        <translation>Markup-Deklaration</translation>
+    </message>
+    <message>
+        <source>Matching brace</source>
+        <translation>Zugehörige Klammer</translation>
+    </message>
+    <message>
+        <source>Mathematics</source>
+        <translation>Formel</translation>
+    </message>
+    <message>
+        <source>Microsoft message</source>
+        <translation>Microsoft-Meldung</translation>
+    </message>
+    <message>
+        <source>Name of a format</source>
+        <translation>Name eines Formats</translation>
+    </message>
+    <message>
+        <source>Number</source>
+        <translation>Zahl</translation>
+    </message>
+    <message>
+        <source>Operator</source>
+        <translation>Operator</translation>
+    </message>
+    <message>
+        <source>Option of a command</source>
+        <translation>Option eines Befehls</translation>
+    </message>
+    <message>
+        <source>Other inside a tag</source>
+        <translation>Sonstiges in einem Tag</translation>
+    </message>
+    <message>
+        <source>PHP mark</source>
+        <translation>PHP-Markierung</translation>
+    </message>
+    <message>
+        <source>PHP message</source>
+        <translation>PHP-Meldung</translation>
+    </message>
+    <message>
+        <source>Patch message</source>
+        <translation>Patch-Meldung</translation>
+    </message>
+    <message>
+        <source>Perl message</source>
+        <translation>Perl-Meldung</translation>
+    </message>
+    <message>
+        <source>Position</source>
+        <translation>Position</translation>
+    </message>
+    <message>
+        <source>Preprocessor</source>
+        <translation>Präprozessor</translation>
+    </message>
+    <message>
+        <source>Procedure</source>
+        <translation>Prozedur</translation>
+    </message>
+    <message>
+        <source>Property</source>
+        <translation>Eigenschaft</translation>
+    </message>
+    <message>
+        <source>Property of CSS 2</source>
+        <translation>Eigenschaft aus CSS 2</translation>
+    </message>
+    <message>
+        <source>Property of CSS 3</source>
+        <translation>Eigenschaft aus CSS 3</translation>
+    </message>
+    <message>
+        <source>Property of one browser</source>
+        <translation>Eigenschaft eines Browsers</translation>
+    </message>
+    <message>
+        <source>Prototype</source>
+        <translation>Prototyp</translation>
+    </message>
+    <message>
+        <source>Pseudo-class</source>
+        <translation>Pseudoklasse</translation>
+    </message>
+    <message>
+        <source>Pseudo-class of one browser</source>
+        <translation>Pseudoklasse eines Browsers</translation>
+    </message>
+    <message>
+        <source>Pseudo-element</source>
+        <translation>Pseudoelement</translation>
+    </message>
+    <message>
+        <source>Pseudo-element of one browser</source>
+        <translation>Pseudoelement eines Browsers</translation>
+    </message>
+    <message>
+        <source>Punctuation</source>
+        <translation>Satzzeichen</translation>
+    </message>
+    <message>
+        <source>Python message</source>
+        <translation>Python-Meldung</translation>
+    </message>
+    <message>
+        <source>Quoting operator</source>
+        <translation>Anführungsoperator</translation>
+    </message>
+    <message>
+        <source>Raw string</source>
+        <translation>Rohe Zeichenkette</translation>
+    </message>
+    <message>
+        <source>Regular expression</source>
+        <translation>Regulärer Ausdruck</translation>
+    </message>
+    <message>
+        <source>Regular expression with qr</source>
+        <translation>Regulärer Ausdruck mit qr</translation>
+    </message>
+    <message>
+        <source>Removed line</source>
+        <translation>Entfernte Zeile</translation>
+    </message>
+    <message>
+        <source>Removed line of a removed patch</source>
+        <translation>Entfernte Zeile eines entfernten Patches</translation>
+    </message>
+    <message>
+        <source>Removed line of an added patch</source>
+        <translation>Entfernte Zeile eines hinzugefügten Patches</translation>
+    </message>
+    <message>
+        <source>Rule of a group</source>
+        <translation>Regel einer Gruppe</translation>
+    </message>
+    <message>
+        <source>Scalar</source>
+        <translation>Skalar</translation>
+    </message>
+    <message>
+        <source>Script tag</source>
+        <translation>Skript-Tag</translation>
+    </message>
+    <message>
+        <source>Section</source>
+        <translation>Abschnitt</translation>
+    </message>
+    <message>
+        <source>Server comment</source>
+        <translation>Serverkommentar</translation>
+    </message>
+    <message>
+        <source>Server script</source>
+        <translation>Serverskript</translation>
+    </message>
+    <message>
+        <source>Server script mark</source>
+        <translation>Serverskript-Markierung</translation>
+    </message>
+    <message>
+        <source>Setting or pragma</source>
+        <translation>Einstellung oder Pragma</translation>
+    </message>
+    <message>
+        <source>Short command</source>
+        <translation>Kurzbefehl</translation>
+    </message>
+    <message>
+        <source>Special</source>
+        <translation>Besonderes</translation>
+    </message>
+    <message>
+        <source>Special character</source>
+        <translation>Sonderzeichen</translation>
+    </message>
+    <message>
+        <source>Start</source>
+        <translation>Anfang</translation>
+    </message>
+    <message>
+        <source>Start of an XML fragment</source>
+        <translation>Anfang eines XML-Fragments</translation>
+    </message>
+    <message>
+        <source>Statement</source>
+        <translation>Anweisung</translation>
+    </message>
+    <message>
+        <source>String</source>
+        <translation>Zeichenkette</translation>
+    </message>
+    <message>
+        <source>String in double quotes</source>
+        <translation>Zeichenkette in doppelten Anführungszeichen</translation>
+    </message>
+    <message>
+        <source>String in single quotes</source>
+        <translation>Zeichenkette in einfachen Anführungszeichen</translation>
+    </message>
+    <message>
+        <source>String with hash marks</source>
+        <translation>Zeichenkette mit Rautezeichen</translation>
+    </message>
+    <message>
+        <source>String with q</source>
+        <translation>Zeichenkette mit q</translation>
+    </message>
+    <message>
+        <source>String with qq</source>
+        <translation>Zeichenkette mit qq</translation>
+    </message>
+    <message>
+        <source>Substitution</source>
+        <translation>Ersetzung</translation>
+    </message>
+    <message>
+        <source>Symbol</source>
+        <translation>Symbol</translation>
+    </message>
+    <message>
+        <source>Symbol table</source>
+        <translation>Symboltabelle</translation>
+    </message>
+    <message>
+        <source>System object</source>
+        <translation>Systemobjekt</translation>
+    </message>
+    <message>
+        <source>System table or view</source>
+        <translation>Systemtabelle oder -sicht</translation>
+    </message>
+    <message>
+        <source>Tag</source>
+        <translation>Tag</translation>
+    </message>
+    <message>
+        <source>Target</source>
+        <translation>Ziel</translation>
+    </message>
+    <message>
+        <source>Task marker</source>
+        <translation>Aufgabenmarke</translation>
+    </message>
+    <message>
+        <source>Text</source>
+        <translation>Text</translation>
+    </message>
+    <message>
+        <source>Text before a data type</source>
+        <translation>Text vor einem Datentyp</translation>
+    </message>
+    <message>
+        <source>Transliteration</source>
+        <translation>Transliteration</translation>
+    </message>
+    <message>
+        <source>Triple double quotes</source>
+        <translation>Dreifache doppelte Anführungszeichen</translation>
+    </message>
+    <message>
+        <source>Triple single quotes</source>
+        <translation>Dreifache einfache Anführungszeichen</translation>
+    </message>
+    <message>
+        <source>Triple-quoted string</source>
+        <translation>Dreifach begrenzte Zeichenkette</translation>
+    </message>
+    <message>
+        <source>UUID</source>
+        <translation>UUID</translation>
+    </message>
+    <message>
+        <source>Unclosed string</source>
+        <translation>Nicht geschlossene Zeichenkette</translation>
+    </message>
+    <message>
+        <source>Unknown attribute</source>
+        <translation>Unbekanntes Attribut</translation>
+    </message>
+    <message>
+        <source>Unknown documentation keyword</source>
+        <translation>Unbekanntes Dokumentationsschlüsselwort</translation>
+    </message>
+    <message>
+        <source>Unknown property</source>
+        <translation>Unbekannte Eigenschaft</translation>
+    </message>
+    <message>
+        <source>Unknown pseudo-class</source>
+        <translation>Unbekannte Pseudoklasse</translation>
+    </message>
+    <message>
+        <source>Unknown tag</source>
+        <translation>Unbekanntes Tag</translation>
+    </message>
+    <message>
+        <source>Unmatched brace</source>
+        <translation>Klammer ohne Gegenstück</translation>
+    </message>
+    <message>
+        <source>Unquoted value</source>
+        <translation>Wert ohne Anführungszeichen</translation>
+    </message>
+    <message>
+        <source>User keyword</source>
+        <translation>Eigenes Schlüsselwort</translation>
+    </message>
+    <message>
+        <source>User literal</source>
+        <translation>Eigenes Literal</translation>
+    </message>
+    <message>
+        <source>Value</source>
+        <translation>Wert</translation>
+    </message>
+    <message>
+        <source>Variable</source>
+        <translation>Variable</translation>
+    </message>
+    <message>
+        <source>Variable in a command document</source>
+        <translation>Variable in einem Befehlsdokument</translation>
+    </message>
+    <message>
+        <source>Variable in a complex expression</source>
+        <translation>Variable in einem komplexen Ausdruck</translation>
+    </message>
+    <message>
+        <source>Variable in a here document</source>
+        <translation>Variable in einem Here-Dokument</translation>
+    </message>
+    <message>
+        <source>Variable in a regular expression</source>
+        <translation>Variable in einem regulären Ausdruck</translation>
+    </message>
+    <message>
+        <source>Variable in a string</source>
+        <translation>Variable in einer Zeichenkette</translation>
+    </message>
+    <message>
+        <source>Variable in a substitution</source>
+        <translation>Variable in einer Ersetzung</translation>
+    </message>
+    <message>
+        <source>Variable in backticks</source>
+        <translation>Variable in Backticks</translation>
+    </message>
+    <message>
+        <source>Variable in qq</source>
+        <translation>Variable in qq</translation>
+    </message>
+    <message>
+        <source>Variable in qr</source>
+        <translation>Variable in qr</translation>
+    </message>
+    <message>
+        <source>Variable in qx</source>
+        <translation>Variable in qx</translation>
+    </message>
+    <message>
+        <source>Variable indexer</source>
+        <translation>Variablenindex</translation>
+    </message>
+    <message>
+        <source>Verbatim documentation</source>
+        <translation>Wörtliche Dokumentation</translation>
+    </message>
+    <message>
+        <source>Verbatim string</source>
+        <translation>Wörtliche Zeichenkette</translation>
+    </message>
+    <message>
+        <source>Verbatim text</source>
+        <translation>Wörtlicher Text</translation>
+    </message>
+    <message>
+        <source>Word</source>
+        <translation>Wort</translation>
+    </message>
+    <message>
+        <source>Catalog and administrative views</source>
+        <translation>Katalog- und Verwaltungssichten</translation>
+    </message>
+    <message>
+        <source>Commands</source>
+        <translation>Befehle</translation>
+    </message>
+    <message>
+        <source>Commands (completion only)</source>
+        <translation>Befehle (nur Vervollständigung)</translation>
+    </message>
+    <message>
+        <source>Configuration parameters</source>
+        <translation>Konfigurationsparameter</translation>
+    </message>
+    <message>
+        <source>Constants</source>
+        <translation>Konstanten</translation>
+    </message>
+    <message>
+        <source>Data types</source>
+        <translation>Datentypen</translation>
+    </message>
+    <message>
+        <source>Declaration keywords</source>
+        <translation>Deklarationsschlüsselwörter</translation>
+    </message>
+    <message>
+        <source>Diagnostics items</source>
+        <translation>Diagnoseelemente</translation>
+    </message>
+    <message>
+        <source>Dictionary and performance views</source>
+        <translation>Wörterbuch- und Leistungssichten</translation>
+    </message>
+    <message>
+        <source>Directives (completion only)</source>
+        <translation>Direktiven (nur Vervollständigung)</translation>
+    </message>
+    <message>
+        <source>Documentation keywords</source>
+        <translation>Dokumentationsschlüsselwörter</translation>
+    </message>
+    <message>
+        <source>Elements and attributes</source>
+        <translation>Elemente und Attribute</translation>
+    </message>
+    <message>
+        <source>Environments (completion only)</source>
+        <translation>Umgebungen (nur Vervollständigung)</translation>
+    </message>
+    <message>
+        <source>External commands</source>
+        <translation>Externe Befehle</translation>
+    </message>
+    <message>
+        <source>Functions</source>
+        <translation>Funktionen</translation>
+    </message>
+    <message>
+        <source>Functions (completion only)</source>
+        <translation>Funktionen (nur Vervollständigung)</translation>
+    </message>
+    <message>
+        <source>Global variables (without @@)</source>
+        <translation>Globale Variablen (ohne @@)</translation>
+    </message>
+    <message>
+        <source>Information schema</source>
+        <translation>Informationsschema</translation>
+    </message>
+    <message>
+        <source>JavaScript keywords</source>
+        <translation>JavaScript-Schlüsselwörter</translation>
+    </message>
+    <message>
+        <source>Keywords</source>
+        <translation>Schlüsselwörter</translation>
+    </message>
+    <message>
+        <source>Library types</source>
+        <translation>Bibliothekstypen</translation>
+    </message>
+    <message>
+        <source>Operators</source>
+        <translation>Operatoren</translation>
+    </message>
+    <message>
+        <source>PHP functions (completion only)</source>
+        <translation>PHP-Funktionen (nur Vervollständigung)</translation>
+    </message>
+    <message>
+        <source>PHP keywords</source>
+        <translation>PHP-Schlüsselwörter</translation>
+    </message>
+    <message>
+        <source>PL/pgSQL</source>
+        <translation>PL/pgSQL</translation>
+    </message>
+    <message>
+        <source>Pragmas</source>
+        <translation>Pragmas</translation>
+    </message>
+    <message>
+        <source>Procedural keywords</source>
+        <translation>Prozedurale Schlüsselwörter</translation>
+    </message>
+    <message>
+        <source>Procedures, table functions and modules</source>
+        <translation>Prozeduren, Tabellenfunktionen und Module</translation>
+    </message>
+    <message>
+        <source>Properties of CSS 1</source>
+        <translation>Eigenschaften aus CSS 1</translation>
+    </message>
+    <message>
+        <source>Properties of CSS 2</source>
+        <translation>Eigenschaften aus CSS 2</translation>
+    </message>
+    <message>
+        <source>Properties of CSS 3</source>
+        <translation>Eigenschaften aus CSS 3</translation>
+    </message>
+    <message>
+        <source>Properties of one browser</source>
+        <translation>Eigenschaften eines Browsers</translation>
+    </message>
+    <message>
+        <source>Pseudo-classes</source>
+        <translation>Pseudoklassen</translation>
+    </message>
+    <message>
+        <source>Pseudo-classes of one browser</source>
+        <translation>Pseudoklassen eines Browsers</translation>
+    </message>
+    <message>
+        <source>Pseudo-elements</source>
+        <translation>Pseudoelemente</translation>
+    </message>
+    <message>
+        <source>Pseudo-elements of one browser</source>
+        <translation>Pseudoelemente eines Browsers</translation>
+    </message>
+    <message>
+        <source>Python keywords</source>
+        <translation>Python-Schlüsselwörter</translation>
+    </message>
+    <message>
+        <source>Routines of the schema sys</source>
+        <translation>Routinen des Schemas sys</translation>
+    </message>
+    <message>
+        <source>Special targets (completion only)</source>
+        <translation>Besondere Ziele (nur Vervollständigung)</translation>
+    </message>
+    <message>
+        <source>Statements and clauses</source>
+        <translation>Anweisungen und Klauseln</translation>
+    </message>
+    <message>
+        <source>Supplied packages</source>
+        <translation>Mitgelieferte Pakete</translation>
+    </message>
+    <message>
+        <source>System and monitoring tables</source>
+        <translation>System- und Überwachungstabellen</translation>
+    </message>
+    <message>
+        <source>System catalogs and views</source>
+        <translation>Systemkataloge und -sichten</translation>
+    </message>
+    <message>
+        <source>System packages</source>
+        <translation>Systempakete</translation>
+    </message>
+    <message>
+        <source>System procedures</source>
+        <translation>Systemprozeduren</translation>
+    </message>
+    <message>
+        <source>System tables and modules</source>
+        <translation>Systemtabellen und -module</translation>
+    </message>
+    <message>
+        <source>System tables and views</source>
+        <translation>Systemtabellen und -sichten</translation>
+    </message>
+    <message>
+        <source>System variables (without @@)</source>
+        <translation>Systemvariablen (ohne @@)</translation>
+    </message>
+    <message>
+        <source>Task markers</source>
+        <translation>Aufgabenmarken</translation>
+    </message>
+    <message>
+        <source>VBScript keywords</source>
+        <translation>VBScript-Schlüsselwörter</translation>
+    </message>
+    <message>
+        <source>Values of pragmas</source>
+        <translation>Werte von Pragmas</translation>
+    </message>
+</context>
+<context>
     <name>ZNCoreEditorPlugin</name>
     <message>
         <source>Source Text Editor</source>
@@ -1699,7 +2718,7 @@ Eintragen?</translation>
     </message>
     <message>
         <source>&amp;Copy</source>
-        <translation>&amp;Kopieren</translation>
+        <translation>K&amp;opieren</translation>
     </message>
     <message>
         <source>&amp;Paste</source>
@@ -1715,7 +2734,7 @@ Eintragen?</translation>
     </message>
     <message>
         <source>&amp;Indent</source>
-        <translation>E&amp;inrücken</translation>
+        <translation>&amp;Einrücken</translation>
     </message>
     <message>
         <source>&amp;Outdent</source>
@@ -1727,23 +2746,23 @@ Eintragen?</translation>
     </message>
     <message>
         <source>&amp;Lower Case</source>
-        <translation>Kleinbuchs&amp;taben</translation>
+        <translation>Kle&amp;inbuchstaben</translation>
     </message>
     <message>
         <source>Match Bra&amp;ce</source>
-        <translation>Zu&amp;gehörige Klammer</translation>
+        <translation>Zuge&amp;hörige Klammer</translation>
     </message>
     <message>
         <source>Toggle &amp;Bookmark</source>
-        <translation>Lesezeichen u&amp;mschalten</translation>
+        <translation>Lesezei&amp;chen umschalten</translation>
     </message>
     <message>
         <source>&amp;Next Bookmark</source>
-        <translation>Nä&amp;chstes Lesezeichen</translation>
+        <translation>&amp;Nächstes Lesezeichen</translation>
     </message>
     <message>
         <source>Previous Boo&amp;kmark</source>
-        <translation>Vor&amp;heriges Lesezeichen</translation>
+        <translation>Vorheriges &amp;Lesezeichen</translation>
     </message>
     <message>
         <source>&amp;Zoom In</source>
@@ -1751,7 +2770,7 @@ Eintragen?</translation>
     </message>
     <message>
         <source>Zoom O&amp;ut</source>
-        <translation>Verklei&amp;nern</translation>
+        <translation>Ver&amp;kleinern</translation>
     </message>
     <message>
         <source>Original &amp;Size</source>
@@ -1767,11 +2786,11 @@ Eintragen?</translation>
     </message>
     <message>
         <source>Co&amp;mment Out</source>
-        <translation>Ausk&amp;ommentieren</translation>
+        <translation>A&amp;uskommentieren</translation>
     </message>
     <message>
         <source>&amp;Uncomment</source>
-        <translation>Kommentar auf&amp;heben</translation>
+        <translation>Ko&amp;mmentar aufheben</translation>
     </message>
     <message>
         <source>Increase Number</source>
@@ -1791,7 +2810,7 @@ Eintragen?</translation>
     </message>
     <message>
         <source>&amp;Replace...</source>
-        <translation>&amp;Ersetzen...</translation>
+        <translation>E&amp;rsetzen...</translation>
     </message>
     <message>
         <source>Insert &amp;File...</source>
@@ -1811,15 +2830,12 @@ Eintragen?</translation>
     </message>
     <message>
         <source>Editor and Language &amp;Preferences...</source>
-        <translation>&amp;Einstellungen für Editor und Sprachen...</translation>
+        <translation>Einstellungen &amp;für Editor und Sprachen...</translation>
     </message>
     <message>
         <source>Insert Template</source>
         <translation>Vorlage einfügen</translation>
     </message>
-</context>
-<context>
-    <name>ZNCoreEditorWidget::Private</name>
     <message>
         <source>&amp;Go to Line...</source>
         <translation>&amp;Gehe zu Zeile...</translation>
@@ -1830,7 +2846,7 @@ Eintragen?</translation>
     </message>
     <message>
         <source>Line:</source>
-        <translation>Zeile:</translation>
+        <translation>Gehe zu Zeile:</translation>
     </message>
 </context>
 </TS>

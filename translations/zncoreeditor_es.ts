@@ -276,7 +276,7 @@ Do you want to reload it?</source>
     </message>
     <message>
         <source>Match To&amp;ken	Ctrl+]</source>
-        <translation>P&amp;aréntesis correspondiente	Control+]</translation>
+        <translation>&amp;Paréntesis correspondiente	Control+]</translation>
     </message>
     <message>
         <source>Line Numbers</source>
@@ -304,11 +304,11 @@ Do you want to reload it?</source>
     </message>
     <message>
         <source>&amp;Paste	Ctrl+V</source>
-        <translation>&amp;Pegar	Control+V</translation>
+        <translation>Pe&amp;gar	Control+V</translation>
     </message>
     <message>
         <source>&amp;Delete	Del</source>
-        <translation>E&amp;liminar	Suprimir</translation>
+        <translation>&amp;Eliminar	Suprimir</translation>
     </message>
     <message>
         <source>Insert File...</source>
@@ -348,7 +348,7 @@ Do you want to reload it?</source>
     </message>
     <message>
         <source>&amp;Indent</source>
-        <translation>Aumentar san&amp;gría</translation>
+        <translation>&amp;Aumentar sangría</translation>
     </message>
     <message>
         <source>&amp;Outdent</source>
@@ -356,7 +356,7 @@ Do you want to reload it?</source>
     </message>
     <message>
         <source>R&amp;eplace...</source>
-        <translation>R&amp;eemplazar...</translation>
+        <translation>Reemp&amp;lazar...</translation>
     </message>
 </context>
 <context>
@@ -398,15 +398,15 @@ Do you want to reload it?</source>
     </message>
     <message>
         <source>&amp;Ok</source>
-        <translation>A&amp;ceptar</translation>
+        <translation>Ace&amp;ptar</translation>
     </message>
     <message>
         <source>&amp;Cancel</source>
-        <translation>Ca&amp;ncelar</translation>
+        <translation>&amp;Cancelar</translation>
     </message>
     <message>
         <source>&amp;Apply</source>
-        <translation>A&amp;plicar</translation>
+        <translation>Ap&amp;licar</translation>
     </message>
     <message>
         <source>&amp;Help</source>
@@ -700,7 +700,7 @@ Do you want to reload it?</source>
     </message>
     <message>
         <source>Find &amp;what</source>
-        <translation>B&amp;uscar</translation>
+        <translation>&amp;Buscar</translation>
     </message>
     <message>
         <source>Text to look for</source>
@@ -764,7 +764,7 @@ Do you want to reload it?</source>
     </message>
     <message>
         <source>&amp;Find</source>
-        <translation>&amp;Buscar</translation>
+        <translation>B&amp;uscar</translation>
     </message>
     <message>
         <source>&amp;Cancel</source>
@@ -772,7 +772,7 @@ Do you want to reload it?</source>
     </message>
     <message>
         <source>Ad&amp;vanced &gt;&gt;</source>
-        <translation>&amp;Avanzado &gt;&gt;</translation>
+        <translation>A&amp;vanzado &gt;&gt;</translation>
     </message>
     <message>
         <source>Look in additional folders:</source>
@@ -788,7 +788,7 @@ Do you want to reload it?</source>
     </message>
     <message>
         <source>Ad&amp;vanced &lt;&lt;</source>
-        <translation>A&amp;vanzado &lt;&lt;</translation>
+        <translation>&amp;Avanzado &lt;&lt;</translation>
     </message>
     <message>
         <source>Enter Type!</source>
@@ -889,7 +889,7 @@ Do you want to reload it?</source>
     </message>
     <message>
         <source>&amp;Toggle Comment</source>
-        <translation>Comentar &amp;o descomentar</translation>
+        <translation>&amp;Comentar o descomentar</translation>
     </message>
     <message>
         <source>&amp;Lines</source>
@@ -897,11 +897,11 @@ Do you want to reload it?</source>
     </message>
     <message>
         <source>Move Lines &amp;Up</source>
-        <translation>&amp;Mover líneas arriba</translation>
+        <translation>Mover &amp;líneas arriba</translation>
     </message>
     <message>
         <source>Move Lines Do&amp;wn</source>
-        <translation>Mover &amp;líneas abajo</translation>
+        <translation>&amp;Mover líneas abajo</translation>
     </message>
     <message>
         <source>Duplicate Line or Selection</source>
@@ -977,11 +977,11 @@ Do you want to reload it?</source>
     </message>
     <message>
         <source>&amp;Previous Statement</source>
-        <translation>Sentencia &amp;anterior</translation>
+        <translation>&amp;Sentencia anterior</translation>
     </message>
     <message>
         <source>Next &amp;Batch</source>
-        <translation>Lote &amp;siguiente</translation>
+        <translation>L&amp;ote siguiente</translation>
     </message>
     <message>
         <source>Previous B&amp;atch</source>
@@ -1516,6 +1516,22 @@ Write them?</source>
 
 ¿Escribirlos?</translation>
     </message>
+    <message>
+        <source>Light</source>
+        <translation>Claro</translation>
+    </message>
+    <message>
+        <source>Dark</source>
+        <translation>Oscuro</translation>
+    </message>
+    <message>
+        <source>High Contrast</source>
+        <translation>Alto contraste</translation>
+    </message>
+    <message>
+        <source>Print</source>
+        <translation>Impresión</translation>
+    </message>
 </context>
 <context>
     <name>SettingsPref</name>
@@ -1597,7 +1613,7 @@ Write them?</source>
     </message>
     <message>
         <source>&amp;Brace Matching</source>
-        <translation>Parénte&amp;sis correspondientes</translation>
+        <translation>Paré&amp;ntesis correspondientes</translation>
     </message>
     <message>
         <source>Completion</source>
@@ -1663,6 +1679,1009 @@ Write them?</source>
     </message>
 </context>
 <context>
+    <name>SyntaxFiles</name>
+    <message>
+        <source>Declaration</source>
+        <translation>Declaración</translation>
+    </message>
+    <message>
+        <source>Inactive</source>
+        <translation>Inactivo</translation>
+    </message>
+    <message>
+        <source>JavaScript</source>
+        <translation>JavaScript</translation>
+    </message>
+    <message>
+        <source>PHP</source>
+        <translation>PHP</translation>
+    </message>
+    <message>
+        <source>Python</source>
+        <translation>Python</translation>
+    </message>
+    <message>
+        <source>Server JavaScript</source>
+        <translation>JavaScript de servidor</translation>
+    </message>
+    <message>
+        <source>Server Python</source>
+        <translation>Python de servidor</translation>
+    </message>
+    <message>
+        <source>Server VBScript</source>
+        <translation>VBScript de servidor</translation>
+    </message>
+    <message>
+        <source>VBScript</source>
+        <translation>VBScript</translation>
+    </message>
+    <message>
+        <source>.NET message</source>
+        <translation>Mensaje de .NET</translation>
+    </message>
+    <message>
+        <source>Absoft message</source>
+        <translation>Mensaje de Absoft</translation>
+    </message>
+    <message>
+        <source>Added line</source>
+        <translation>Línea añadida</translation>
+    </message>
+    <message>
+        <source>Added line of a removed patch</source>
+        <translation>Línea añadida de un parche quitado</translation>
+    </message>
+    <message>
+        <source>Added line of an added patch</source>
+        <translation>Línea añadida de un parche añadido</translation>
+    </message>
+    <message>
+        <source>Array</source>
+        <translation>Matriz</translation>
+    </message>
+    <message>
+        <source>Assembler</source>
+        <translation>Ensamblador</translation>
+    </message>
+    <message>
+        <source>Assignment</source>
+        <translation>Asignación</translation>
+    </message>
+    <message>
+        <source>At-rule</source>
+        <translation>Regla @</translation>
+    </message>
+    <message>
+        <source>Attribute</source>
+        <translation>Atributo</translation>
+    </message>
+    <message>
+        <source>Attribute selector</source>
+        <translation>Selector de atributo</translation>
+    </message>
+    <message>
+        <source>Backticks</source>
+        <translation>Acentos graves</translation>
+    </message>
+    <message>
+        <source>Binary number</source>
+        <translation>Número binario</translation>
+    </message>
+    <message>
+        <source>Block</source>
+        <translation>Bloque</translation>
+    </message>
+    <message>
+        <source>Block comment</source>
+        <translation>Comentario de bloque</translation>
+    </message>
+    <message>
+        <source>Body of a format</source>
+        <translation>Cuerpo de un formato</translation>
+    </message>
+    <message>
+        <source>Borland message</source>
+        <translation>Mensaje de Borland</translation>
+    </message>
+    <message>
+        <source>CDATA section</source>
+        <translation>Sección CDATA</translation>
+    </message>
+    <message>
+        <source>Call tips</source>
+        <translation>Ayuda de llamada</translation>
+    </message>
+    <message>
+        <source>Changed line</source>
+        <translation>Línea modificada</translation>
+    </message>
+    <message>
+        <source>Character</source>
+        <translation>Carácter</translation>
+    </message>
+    <message>
+        <source>Class name</source>
+        <translation>Nombre de clase</translation>
+    </message>
+    <message>
+        <source>Class selector</source>
+        <translation>Selector de clase</translation>
+    </message>
+    <message>
+        <source>Client command</source>
+        <translation>Orden del cliente</translation>
+    </message>
+    <message>
+        <source>Client comment</source>
+        <translation>Comentario del cliente</translation>
+    </message>
+    <message>
+        <source>Client prompt</source>
+        <translation>Indicador del cliente</translation>
+    </message>
+    <message>
+        <source>Command</source>
+        <translation>Orden</translation>
+    </message>
+    <message>
+        <source>Command with qx</source>
+        <translation>Orden con qx</translation>
+    </message>
+    <message>
+        <source>Comment</source>
+        <translation>Comentario</translation>
+    </message>
+    <message>
+        <source>Comment block</source>
+        <translation>Bloque de comentario</translation>
+    </message>
+    <message>
+        <source>Comment in a directive</source>
+        <translation>Comentario en una directiva</translation>
+    </message>
+    <message>
+        <source>Comment in a parameter</source>
+        <translation>Comentario en un parámetro</translation>
+    </message>
+    <message>
+        <source>Constant</source>
+        <translation>Constante</translation>
+    </message>
+    <message>
+        <source>Constant of the lexer</source>
+        <translation>Constante del analizador</translation>
+    </message>
+    <message>
+        <source>Control characters</source>
+        <translation>Caracteres de control</translation>
+    </message>
+    <message>
+        <source>Data section</source>
+        <translation>Sección de datos</translation>
+    </message>
+    <message>
+        <source>Data type</source>
+        <translation>Tipo de datos</translation>
+    </message>
+    <message>
+        <source>Date</source>
+        <translation>Fecha</translation>
+    </message>
+    <message>
+        <source>Default</source>
+        <translation>Predeterminado</translation>
+    </message>
+    <message>
+        <source>Default value</source>
+        <translation>Valor predeterminado</translation>
+    </message>
+    <message>
+        <source>Delimiter of a here document</source>
+        <translation>Delimitador de un documento incrustado</translation>
+    </message>
+    <message>
+        <source>Displayed mathematics</source>
+        <translation>Fórmula destacada</translation>
+    </message>
+    <message>
+        <source>Documentation</source>
+        <translation>Documentación</translation>
+    </message>
+    <message>
+        <source>Documentation comment</source>
+        <translation>Comentario de documentación</translation>
+    </message>
+    <message>
+        <source>Documentation comment in a directive</source>
+        <translation>Comentario de documentación en una directiva</translation>
+    </message>
+    <message>
+        <source>Documentation keyword</source>
+        <translation>Palabra clave de documentación</translation>
+    </message>
+    <message>
+        <source>Documentation line comment</source>
+        <translation>Comentario de documentación de línea</translation>
+    </message>
+    <message>
+        <source>Element selector</source>
+        <translation>Selector de elemento</translation>
+    </message>
+    <message>
+        <source>End of a tag</source>
+        <translation>Fin de una etiqueta</translation>
+    </message>
+    <message>
+        <source>End of an XML fragment</source>
+        <translation>Fin de un fragmento XML</translation>
+    </message>
+    <message>
+        <source>End of an environment</source>
+        <translation>Fin de un entorno</translation>
+    </message>
+    <message>
+        <source>Entity</source>
+        <translation>Entidad</translation>
+    </message>
+    <message>
+        <source>Environment</source>
+        <translation>Entorno</translation>
+    </message>
+    <message>
+        <source>Error</source>
+        <translation>Error</translation>
+    </message>
+    <message>
+        <source>Escape sequence</source>
+        <translation>Secuencia de escape</translation>
+    </message>
+    <message>
+        <source>External command</source>
+        <translation>Orden externa</translation>
+    </message>
+    <message>
+        <source>First parameter</source>
+        <translation>Primer parámetro</translation>
+    </message>
+    <message>
+        <source>Folded text</source>
+        <translation>Texto plegado</translation>
+    </message>
+    <message>
+        <source>Fortran message</source>
+        <translation>Mensaje de Fortran</translation>
+    </message>
+    <message>
+        <source>Function</source>
+        <translation>Función</translation>
+    </message>
+    <message>
+        <source>Function name</source>
+        <translation>Nombre de función</translation>
+    </message>
+    <message>
+        <source>Further keyword</source>
+        <translation>Otra palabra clave</translation>
+    </message>
+    <message>
+        <source>GCC message</source>
+        <translation>Mensaje de GCC</translation>
+    </message>
+    <message>
+        <source>Global class</source>
+        <translation>Clase global</translation>
+    </message>
+    <message>
+        <source>Global variable</source>
+        <translation>Variable global</translation>
+    </message>
+    <message>
+        <source>HTML checker message</source>
+        <translation>Mensaje del comprobador de HTML</translation>
+    </message>
+    <message>
+        <source>Hash</source>
+        <translation>Hash</translation>
+    </message>
+    <message>
+        <source>Header</source>
+        <translation>Cabecera</translation>
+    </message>
+    <message>
+        <source>Here document in backticks</source>
+        <translation>Documento incrustado entre acentos graves</translation>
+    </message>
+    <message>
+        <source>Here document in double quotes</source>
+        <translation>Documento incrustado entre comillas dobles</translation>
+    </message>
+    <message>
+        <source>Here document in single quotes</source>
+        <translation>Documento incrustado entre comillas simples</translation>
+    </message>
+    <message>
+        <source>Hexadecimal number</source>
+        <translation>Número hexadecimal</translation>
+    </message>
+    <message>
+        <source>Identifier</source>
+        <translation>Identificador</translation>
+    </message>
+    <message>
+        <source>Identifier in backticks</source>
+        <translation>Identificador entre acentos graves</translation>
+    </message>
+    <message>
+        <source>Identifier in backticks or brackets</source>
+        <translation>Identificador entre acentos graves o corchetes</translation>
+    </message>
+    <message>
+        <source>Identifier in brackets</source>
+        <translation>Identificador entre corchetes</translation>
+    </message>
+    <message>
+        <source>Identifier in double quotes</source>
+        <translation>Identificador entre comillas dobles</translation>
+    </message>
+    <message>
+        <source>Identifier selector</source>
+        <translation>Selector de identificador</translation>
+    </message>
+    <message>
+        <source>Important</source>
+        <translation>Importante</translation>
+    </message>
+    <message>
+        <source>Including file</source>
+        <translation>Archivo que incluye</translation>
+    </message>
+    <message>
+        <source>Indentation guides</source>
+        <translation>Guías de sangría</translation>
+    </message>
+    <message>
+        <source>Intel Fortran message</source>
+        <translation>Mensaje de Intel Fortran</translation>
+    </message>
+    <message>
+        <source>Java stack line</source>
+        <translation>Línea de pila de Java</translation>
+    </message>
+    <message>
+        <source>Key</source>
+        <translation>Clave</translation>
+    </message>
+    <message>
+        <source>Keyword</source>
+        <translation>Palabra clave</translation>
+    </message>
+    <message>
+        <source>Label</source>
+        <translation>Etiqueta</translation>
+    </message>
+    <message>
+        <source>Library type</source>
+        <translation>Tipo de biblioteca</translation>
+    </message>
+    <message>
+        <source>Line comment</source>
+        <translation>Comentario de línea</translation>
+    </message>
+    <message>
+        <source>Line numbers</source>
+        <translation>Números de línea</translation>
+    </message>
+    <message>
+        <source>Linker message</source>
+        <translation>Mensaje del enlazador</translation>
+    </message>
+    <message>
+        <source>List with qw</source>
+        <translation>Lista con qw</translation>
+    </message>
+    <message>
+        <source>Long quote</source>
+        <translation>Cita larga</translation>
+    </message>
+    <message>
+        <source>Lua message</source>
+        <translation>Mensaje de Lua</translation>
+    </message>
+    <message>
+        <source>Mark that hides a command</source>
+        <translation>Marca que oculta una orden</translation>
+    </message>
+    <message>
+        <source>Markup declaration</source>
+        <translation>Declaración de marcado</translation>
+    </message>
+    <message>
+        <source>Matching brace</source>
+        <translation>Paréntesis correspondiente</translation>
+    </message>
+    <message>
+        <source>Mathematics</source>
+        <translation>Matemáticas</translation>
+    </message>
+    <message>
+        <source>Microsoft message</source>
+        <translation>Mensaje de Microsoft</translation>
+    </message>
+    <message>
+        <source>Name of a format</source>
+        <translation>Nombre de un formato</translation>
+    </message>
+    <message>
+        <source>Number</source>
+        <translation>Número</translation>
+    </message>
+    <message>
+        <source>Operator</source>
+        <translation>Operador</translation>
+    </message>
+    <message>
+        <source>Option of a command</source>
+        <translation>Opción de una orden</translation>
+    </message>
+    <message>
+        <source>Other inside a tag</source>
+        <translation>Otro contenido de una etiqueta</translation>
+    </message>
+    <message>
+        <source>PHP mark</source>
+        <translation>Marca de PHP</translation>
+    </message>
+    <message>
+        <source>PHP message</source>
+        <translation>Mensaje de PHP</translation>
+    </message>
+    <message>
+        <source>Patch message</source>
+        <translation>Mensaje de parche</translation>
+    </message>
+    <message>
+        <source>Perl message</source>
+        <translation>Mensaje de Perl</translation>
+    </message>
+    <message>
+        <source>Position</source>
+        <translation>Posición</translation>
+    </message>
+    <message>
+        <source>Preprocessor</source>
+        <translation>Preprocesador</translation>
+    </message>
+    <message>
+        <source>Procedure</source>
+        <translation>Procedimiento</translation>
+    </message>
+    <message>
+        <source>Property</source>
+        <translation>Propiedad</translation>
+    </message>
+    <message>
+        <source>Property of CSS 2</source>
+        <translation>Propiedad de CSS 2</translation>
+    </message>
+    <message>
+        <source>Property of CSS 3</source>
+        <translation>Propiedad de CSS 3</translation>
+    </message>
+    <message>
+        <source>Property of one browser</source>
+        <translation>Propiedad de un navegador</translation>
+    </message>
+    <message>
+        <source>Prototype</source>
+        <translation>Prototipo</translation>
+    </message>
+    <message>
+        <source>Pseudo-class</source>
+        <translation>Pseudoclase</translation>
+    </message>
+    <message>
+        <source>Pseudo-class of one browser</source>
+        <translation>Pseudoclase de un navegador</translation>
+    </message>
+    <message>
+        <source>Pseudo-element</source>
+        <translation>Pseudoelemento</translation>
+    </message>
+    <message>
+        <source>Pseudo-element of one browser</source>
+        <translation>Pseudoelemento de un navegador</translation>
+    </message>
+    <message>
+        <source>Punctuation</source>
+        <translation>Puntuación</translation>
+    </message>
+    <message>
+        <source>Python message</source>
+        <translation>Mensaje de Python</translation>
+    </message>
+    <message>
+        <source>Quoting operator</source>
+        <translation>Operador de comillas</translation>
+    </message>
+    <message>
+        <source>Raw string</source>
+        <translation>Cadena literal sin formato</translation>
+    </message>
+    <message>
+        <source>Regular expression</source>
+        <translation>Expresión regular</translation>
+    </message>
+    <message>
+        <source>Regular expression with qr</source>
+        <translation>Expresión regular con qr</translation>
+    </message>
+    <message>
+        <source>Removed line</source>
+        <translation>Línea quitada</translation>
+    </message>
+    <message>
+        <source>Removed line of a removed patch</source>
+        <translation>Línea quitada de un parche quitado</translation>
+    </message>
+    <message>
+        <source>Removed line of an added patch</source>
+        <translation>Línea quitada de un parche añadido</translation>
+    </message>
+    <message>
+        <source>Rule of a group</source>
+        <translation>Regla de un grupo</translation>
+    </message>
+    <message>
+        <source>Scalar</source>
+        <translation>Escalar</translation>
+    </message>
+    <message>
+        <source>Script tag</source>
+        <translation>Etiqueta de script</translation>
+    </message>
+    <message>
+        <source>Section</source>
+        <translation>Sección</translation>
+    </message>
+    <message>
+        <source>Server comment</source>
+        <translation>Comentario de servidor</translation>
+    </message>
+    <message>
+        <source>Server script</source>
+        <translation>Script de servidor</translation>
+    </message>
+    <message>
+        <source>Server script mark</source>
+        <translation>Marca de script de servidor</translation>
+    </message>
+    <message>
+        <source>Setting or pragma</source>
+        <translation>Ajuste o pragma</translation>
+    </message>
+    <message>
+        <source>Short command</source>
+        <translation>Orden breve</translation>
+    </message>
+    <message>
+        <source>Special</source>
+        <translation>Especial</translation>
+    </message>
+    <message>
+        <source>Special character</source>
+        <translation>Carácter especial</translation>
+    </message>
+    <message>
+        <source>Start</source>
+        <translation>Comienzo</translation>
+    </message>
+    <message>
+        <source>Start of an XML fragment</source>
+        <translation>Comienzo de un fragmento XML</translation>
+    </message>
+    <message>
+        <source>Statement</source>
+        <translation>Sentencia</translation>
+    </message>
+    <message>
+        <source>String</source>
+        <translation>Cadena</translation>
+    </message>
+    <message>
+        <source>String in double quotes</source>
+        <translation>Cadena entre comillas dobles</translation>
+    </message>
+    <message>
+        <source>String in single quotes</source>
+        <translation>Cadena entre comillas simples</translation>
+    </message>
+    <message>
+        <source>String with hash marks</source>
+        <translation>Cadena con almohadillas</translation>
+    </message>
+    <message>
+        <source>String with q</source>
+        <translation>Cadena con q</translation>
+    </message>
+    <message>
+        <source>String with qq</source>
+        <translation>Cadena con qq</translation>
+    </message>
+    <message>
+        <source>Substitution</source>
+        <translation>Sustitución</translation>
+    </message>
+    <message>
+        <source>Symbol</source>
+        <translation>Símbolo</translation>
+    </message>
+    <message>
+        <source>Symbol table</source>
+        <translation>Tabla de símbolos</translation>
+    </message>
+    <message>
+        <source>System object</source>
+        <translation>Objeto del sistema</translation>
+    </message>
+    <message>
+        <source>System table or view</source>
+        <translation>Tabla o vista del sistema</translation>
+    </message>
+    <message>
+        <source>Tag</source>
+        <translation>Etiqueta</translation>
+    </message>
+    <message>
+        <source>Target</source>
+        <translation>Objetivo</translation>
+    </message>
+    <message>
+        <source>Task marker</source>
+        <translation>Marca de tarea</translation>
+    </message>
+    <message>
+        <source>Text</source>
+        <translation>Texto</translation>
+    </message>
+    <message>
+        <source>Text before a data type</source>
+        <translation>Texto antes de un tipo de datos</translation>
+    </message>
+    <message>
+        <source>Transliteration</source>
+        <translation>Transliteración</translation>
+    </message>
+    <message>
+        <source>Triple double quotes</source>
+        <translation>Triples comillas dobles</translation>
+    </message>
+    <message>
+        <source>Triple single quotes</source>
+        <translation>Triples comillas simples</translation>
+    </message>
+    <message>
+        <source>Triple-quoted string</source>
+        <translation>Cadena entre triples comillas</translation>
+    </message>
+    <message>
+        <source>UUID</source>
+        <translation>UUID</translation>
+    </message>
+    <message>
+        <source>Unclosed string</source>
+        <translation>Cadena sin cerrar</translation>
+    </message>
+    <message>
+        <source>Unknown attribute</source>
+        <translation>Atributo desconocido</translation>
+    </message>
+    <message>
+        <source>Unknown documentation keyword</source>
+        <translation>Palabra clave de documentación desconocida</translation>
+    </message>
+    <message>
+        <source>Unknown property</source>
+        <translation>Propiedad desconocida</translation>
+    </message>
+    <message>
+        <source>Unknown pseudo-class</source>
+        <translation>Pseudoclase desconocida</translation>
+    </message>
+    <message>
+        <source>Unknown tag</source>
+        <translation>Etiqueta desconocida</translation>
+    </message>
+    <message>
+        <source>Unmatched brace</source>
+        <translation>Paréntesis sin pareja</translation>
+    </message>
+    <message>
+        <source>Unquoted value</source>
+        <translation>Valor sin comillas</translation>
+    </message>
+    <message>
+        <source>User keyword</source>
+        <translation>Palabra clave propia</translation>
+    </message>
+    <message>
+        <source>User literal</source>
+        <translation>Literal propio</translation>
+    </message>
+    <message>
+        <source>Value</source>
+        <translation>Valor</translation>
+    </message>
+    <message>
+        <source>Variable</source>
+        <translation>Variable</translation>
+    </message>
+    <message>
+        <source>Variable in a command document</source>
+        <translation>Variable en un documento de órdenes</translation>
+    </message>
+    <message>
+        <source>Variable in a complex expression</source>
+        <translation>Variable en una expresión compleja</translation>
+    </message>
+    <message>
+        <source>Variable in a here document</source>
+        <translation>Variable en un documento incrustado</translation>
+    </message>
+    <message>
+        <source>Variable in a regular expression</source>
+        <translation>Variable en una expresión regular</translation>
+    </message>
+    <message>
+        <source>Variable in a string</source>
+        <translation>Variable en una cadena</translation>
+    </message>
+    <message>
+        <source>Variable in a substitution</source>
+        <translation>Variable en una sustitución</translation>
+    </message>
+    <message>
+        <source>Variable in backticks</source>
+        <translation>Variable entre acentos graves</translation>
+    </message>
+    <message>
+        <source>Variable in qq</source>
+        <translation>Variable en qq</translation>
+    </message>
+    <message>
+        <source>Variable in qr</source>
+        <translation>Variable en qr</translation>
+    </message>
+    <message>
+        <source>Variable in qx</source>
+        <translation>Variable en qx</translation>
+    </message>
+    <message>
+        <source>Variable indexer</source>
+        <translation>Índice de variable</translation>
+    </message>
+    <message>
+        <source>Verbatim documentation</source>
+        <translation>Documentación literal</translation>
+    </message>
+    <message>
+        <source>Verbatim string</source>
+        <translation>Cadena literal</translation>
+    </message>
+    <message>
+        <source>Verbatim text</source>
+        <translation>Texto literal</translation>
+    </message>
+    <message>
+        <source>Word</source>
+        <translation>Palabra</translation>
+    </message>
+    <message>
+        <source>Catalog and administrative views</source>
+        <translation>Vistas de catálogo y administración</translation>
+    </message>
+    <message>
+        <source>Commands</source>
+        <translation>Órdenes</translation>
+    </message>
+    <message>
+        <source>Commands (completion only)</source>
+        <translation>Órdenes (solo autocompletado)</translation>
+    </message>
+    <message>
+        <source>Configuration parameters</source>
+        <translation>Parámetros de configuración</translation>
+    </message>
+    <message>
+        <source>Constants</source>
+        <translation>Constantes</translation>
+    </message>
+    <message>
+        <source>Data types</source>
+        <translation>Tipos de datos</translation>
+    </message>
+    <message>
+        <source>Declaration keywords</source>
+        <translation>Palabras clave de declaración</translation>
+    </message>
+    <message>
+        <source>Diagnostics items</source>
+        <translation>Elementos de diagnóstico</translation>
+    </message>
+    <message>
+        <source>Dictionary and performance views</source>
+        <translation>Vistas de diccionario y rendimiento</translation>
+    </message>
+    <message>
+        <source>Directives (completion only)</source>
+        <translation>Directivas (solo autocompletado)</translation>
+    </message>
+    <message>
+        <source>Documentation keywords</source>
+        <translation>Palabras clave de documentación</translation>
+    </message>
+    <message>
+        <source>Elements and attributes</source>
+        <translation>Elementos y atributos</translation>
+    </message>
+    <message>
+        <source>Environments (completion only)</source>
+        <translation>Entornos (solo autocompletado)</translation>
+    </message>
+    <message>
+        <source>External commands</source>
+        <translation>Órdenes externas</translation>
+    </message>
+    <message>
+        <source>Functions</source>
+        <translation>Funciones</translation>
+    </message>
+    <message>
+        <source>Functions (completion only)</source>
+        <translation>Funciones (solo autocompletado)</translation>
+    </message>
+    <message>
+        <source>Global variables (without @@)</source>
+        <translation>Variables globales (sin @@)</translation>
+    </message>
+    <message>
+        <source>Information schema</source>
+        <translation>Esquema de información</translation>
+    </message>
+    <message>
+        <source>JavaScript keywords</source>
+        <translation>Palabras clave de JavaScript</translation>
+    </message>
+    <message>
+        <source>Keywords</source>
+        <translation>Palabras clave</translation>
+    </message>
+    <message>
+        <source>Library types</source>
+        <translation>Tipos de biblioteca</translation>
+    </message>
+    <message>
+        <source>Operators</source>
+        <translation>Operadores</translation>
+    </message>
+    <message>
+        <source>PHP functions (completion only)</source>
+        <translation>Funciones de PHP (solo autocompletado)</translation>
+    </message>
+    <message>
+        <source>PHP keywords</source>
+        <translation>Palabras clave de PHP</translation>
+    </message>
+    <message>
+        <source>PL/pgSQL</source>
+        <translation>PL/pgSQL</translation>
+    </message>
+    <message>
+        <source>Pragmas</source>
+        <translation>Pragmas</translation>
+    </message>
+    <message>
+        <source>Procedural keywords</source>
+        <translation>Palabras clave procedurales</translation>
+    </message>
+    <message>
+        <source>Procedures, table functions and modules</source>
+        <translation>Procedimientos, funciones de tabla y módulos</translation>
+    </message>
+    <message>
+        <source>Properties of CSS 1</source>
+        <translation>Propiedades de CSS 1</translation>
+    </message>
+    <message>
+        <source>Properties of CSS 2</source>
+        <translation>Propiedades de CSS 2</translation>
+    </message>
+    <message>
+        <source>Properties of CSS 3</source>
+        <translation>Propiedades de CSS 3</translation>
+    </message>
+    <message>
+        <source>Properties of one browser</source>
+        <translation>Propiedades de un navegador</translation>
+    </message>
+    <message>
+        <source>Pseudo-classes</source>
+        <translation>Pseudoclases</translation>
+    </message>
+    <message>
+        <source>Pseudo-classes of one browser</source>
+        <translation>Pseudoclases de un navegador</translation>
+    </message>
+    <message>
+        <source>Pseudo-elements</source>
+        <translation>Pseudoelementos</translation>
+    </message>
+    <message>
+        <source>Pseudo-elements of one browser</source>
+        <translation>Pseudoelementos de un navegador</translation>
+    </message>
+    <message>
+        <source>Python keywords</source>
+        <translation>Palabras clave de Python</translation>
+    </message>
+    <message>
+        <source>Routines of the schema sys</source>
+        <translation>Rutinas del esquema sys</translation>
+    </message>
+    <message>
+        <source>Special targets (completion only)</source>
+        <translation>Objetivos especiales (solo autocompletado)</translation>
+    </message>
+    <message>
+        <source>Statements and clauses</source>
+        <translation>Sentencias y cláusulas</translation>
+    </message>
+    <message>
+        <source>Supplied packages</source>
+        <translation>Paquetes suministrados</translation>
+    </message>
+    <message>
+        <source>System and monitoring tables</source>
+        <translation>Tablas del sistema y de supervisión</translation>
+    </message>
+    <message>
+        <source>System catalogs and views</source>
+        <translation>Catálogos y vistas del sistema</translation>
+    </message>
+    <message>
+        <source>System packages</source>
+        <translation>Paquetes del sistema</translation>
+    </message>
+    <message>
+        <source>System procedures</source>
+        <translation>Procedimientos del sistema</translation>
+    </message>
+    <message>
+        <source>System tables and modules</source>
+        <translation>Tablas y módulos del sistema</translation>
+    </message>
+    <message>
+        <source>System tables and views</source>
+        <translation>Tablas y vistas del sistema</translation>
+    </message>
+    <message>
+        <source>System variables (without @@)</source>
+        <translation>Variables del sistema (sin @@)</translation>
+    </message>
+    <message>
+        <source>Task markers</source>
+        <translation>Marcas de tarea</translation>
+    </message>
+    <message>
+        <source>VBScript keywords</source>
+        <translation>Palabras clave de VBScript</translation>
+    </message>
+    <message>
+        <source>Values of pragmas</source>
+        <translation>Valores de pragmas</translation>
+    </message>
+</context>
+<context>
     <name>ZNCoreEditorPlugin</name>
     <message>
         <source>Source Text Editor</source>
@@ -1687,11 +2706,11 @@ Write them?</source>
     </message>
     <message>
         <source>&amp;Undo</source>
-        <translation>Des&amp;hacer</translation>
+        <translation>&amp;Deshacer</translation>
     </message>
     <message>
         <source>&amp;Redo</source>
-        <translation>Reha&amp;cer</translation>
+        <translation>&amp;Rehacer</translation>
     </message>
     <message>
         <source>Cu&amp;t</source>
@@ -1707,43 +2726,43 @@ Write them?</source>
     </message>
     <message>
         <source>&amp;Delete</source>
-        <translation>Elimi&amp;nar</translation>
+        <translation>&amp;Eliminar</translation>
     </message>
     <message>
         <source>Select &amp;All</source>
-        <translation>&amp;Seleccionar todo</translation>
+        <translation>Seleccionar &amp;todo</translation>
     </message>
     <message>
         <source>&amp;Indent</source>
-        <translation>Aumentar san&amp;gría</translation>
+        <translation>Aumentar &amp;sangría</translation>
     </message>
     <message>
         <source>&amp;Outdent</source>
-        <translation>Red&amp;ucir sangría</translation>
+        <translation>&amp;Reducir sangría</translation>
     </message>
     <message>
         <source>U&amp;pper Case</source>
-        <translation>Ma&amp;yúsculas</translation>
+        <translation>&amp;Mayúsculas</translation>
     </message>
     <message>
         <source>&amp;Lower Case</source>
-        <translation>&amp;Minúsculas</translation>
+        <translation>Mi&amp;núsculas</translation>
     </message>
     <message>
         <source>Match Bra&amp;ce</source>
-        <translation>Parént&amp;esis correspondiente</translation>
+        <translation>&amp;Paréntesis correspondiente</translation>
     </message>
     <message>
         <source>Toggle &amp;Bookmark</source>
-        <translation>Poner o &amp;quitar marcador</translation>
+        <translation>Pon&amp;er o quitar marcador</translation>
     </message>
     <message>
         <source>&amp;Next Bookmark</source>
-        <translation>Marca&amp;dor siguiente</translation>
+        <translation>Marcador si&amp;guiente</translation>
     </message>
     <message>
         <source>Previous Boo&amp;kmark</source>
-        <translation>Ma&amp;rcador anterior</translation>
+        <translation>Marcad&amp;or anterior</translation>
     </message>
     <message>
         <source>&amp;Zoom In</source>
@@ -1751,7 +2770,7 @@ Write them?</source>
     </message>
     <message>
         <source>Zoom O&amp;ut</source>
-        <translation>Ale&amp;jar</translation>
+        <translation>A&amp;lejar</translation>
     </message>
     <message>
         <source>Original &amp;Size</source>
@@ -1759,27 +2778,27 @@ Write them?</source>
     </message>
     <message>
         <source>&amp;Line Numbers</source>
-        <translation>Números de &amp;línea</translation>
+        <translation>Números &amp;de línea</translation>
     </message>
     <message>
         <source>Clear All Bookmarks</source>
-        <translation>Quitar todos los marcadores</translation>
+        <translation>Borrar todos los marcadores</translation>
     </message>
     <message>
         <source>Co&amp;mment Out</source>
-        <translation>Co&amp;mentar</translation>
+        <translation>&amp;Comentar</translation>
     </message>
     <message>
         <source>&amp;Uncomment</source>
-        <translation>&amp;Descomentar</translation>
+        <translation>&amp;Quitar comentario</translation>
     </message>
     <message>
         <source>Increase Number</source>
-        <translation>Aumentar el número</translation>
+        <translation>Aumentar número</translation>
     </message>
     <message>
         <source>Decrease Number</source>
-        <translation>Disminuir el número</translation>
+        <translation>Disminuir número</translation>
     </message>
     <message>
         <source>&amp;Find...</source>
@@ -1787,39 +2806,36 @@ Write them?</source>
     </message>
     <message>
         <source>Find &amp;Next</source>
-        <translation>Buscar &amp;siguiente</translation>
+        <translation>B&amp;uscar siguiente</translation>
     </message>
     <message>
         <source>&amp;Replace...</source>
-        <translation>&amp;Reemplazar...</translation>
+        <translation>Reempla&amp;zar...</translation>
     </message>
     <message>
         <source>Insert &amp;File...</source>
-        <translation>Insertar &amp;archivo...</translation>
+        <translation>Insertar arc&amp;hivo...</translation>
     </message>
     <message>
         <source>Convert Line Ends to CR+LF (Windows)</source>
-        <translation>Convertir los finales de línea a CR+LF (Windows)</translation>
+        <translation>Convertir fines de línea a CR+LF (Windows)</translation>
     </message>
     <message>
         <source>Convert Line Ends to LF (Unix)</source>
-        <translation>Convertir los finales de línea a LF (Unix)</translation>
+        <translation>Convertir fines de línea a LF (Unix)</translation>
     </message>
     <message>
         <source>Convert Line Ends to CR (Mac)</source>
-        <translation>Convertir los finales de línea a CR (Mac)</translation>
+        <translation>Convertir fines de línea a CR (Mac)</translation>
     </message>
     <message>
         <source>Editor and Language &amp;Preferences...</source>
-        <translation>&amp;Preferencias del editor y de los lenguajes...</translation>
+        <translation>Preferencias del editor &amp;y de los lenguajes...</translation>
     </message>
     <message>
         <source>Insert Template</source>
         <translation>Insertar plantilla</translation>
     </message>
-</context>
-<context>
-    <name>ZNCoreEditorWidget::Private</name>
     <message>
         <source>&amp;Go to Line...</source>
         <translation>&amp;Ir a la línea...</translation>
@@ -1830,7 +2846,7 @@ Write them?</source>
     </message>
     <message>
         <source>Line:</source>
-        <translation>Línea:</translation>
+        <translation>Ir a la línea:</translation>
     </message>
 </context>
 </TS>

@@ -272,7 +272,7 @@ Voulez-vous le recharger&#xa0;?</translation>
     </message>
     <message>
         <source>&amp;Select All	Ctrl+A</source>
-        <translation>Tout sé&amp;lectionner	Ctrl+A</translation>
+        <translation>Tout sélectio&amp;nner	Ctrl+A</translation>
     </message>
     <message>
         <source>Match To&amp;ken	Ctrl+]</source>
@@ -296,7 +296,7 @@ Voulez-vous le recharger&#xa0;?</translation>
     </message>
     <message>
         <source>&amp;Redo	Ctrl+Y</source>
-        <translation>Ré&amp;tablir	Ctrl+Y</translation>
+        <translation>Réta&amp;blir	Ctrl+Y</translation>
     </message>
     <message>
         <source>Cu&amp;t	Ctrl+X</source>
@@ -348,11 +348,11 @@ Voulez-vous le recharger&#xa0;?</translation>
     </message>
     <message>
         <source>&amp;Indent</source>
-        <translation>Au&amp;gmenter le retrait</translation>
+        <translation>Augmenter &amp;le retrait</translation>
     </message>
     <message>
         <source>&amp;Outdent</source>
-        <translation>Dimi&amp;nuer le retrait</translation>
+        <translation>Diminuer le re&amp;trait</translation>
     </message>
     <message>
         <source>R&amp;eplace...</source>
@@ -889,7 +889,7 @@ Voulez-vous le recharger&#xa0;?</translation>
     </message>
     <message>
         <source>&amp;Toggle Comment</source>
-        <translation>Commenter/&amp;décommenter</translation>
+        <translation>&amp;Commenter/décommenter</translation>
     </message>
     <message>
         <source>&amp;Lines</source>
@@ -897,7 +897,7 @@ Voulez-vous le recharger&#xa0;?</translation>
     </message>
     <message>
         <source>Move Lines &amp;Up</source>
-        <translation>Déplacer les lignes &amp;vers le haut</translation>
+        <translation>Déplacer &amp;les lignes vers le haut</translation>
     </message>
     <message>
         <source>Move Lines Do&amp;wn</source>
@@ -977,15 +977,15 @@ Voulez-vous le recharger&#xa0;?</translation>
     </message>
     <message>
         <source>&amp;Previous Statement</source>
-        <translation>Instruction &amp;précédente</translation>
+        <translation>I&amp;nstruction précédente</translation>
     </message>
     <message>
         <source>Next &amp;Batch</source>
-        <translation>Lot &amp;suivant</translation>
+        <translation>&amp;Lot suivant</translation>
     </message>
     <message>
         <source>Previous B&amp;atch</source>
-        <translation>&amp;Lot précédent</translation>
+        <translation>Lot &amp;précédent</translation>
     </message>
     <message>
         <source>Folds</source>
@@ -1100,7 +1100,7 @@ Voulez-vous le recharger&#xa0;?</translation>
     </message>
     <message>
         <source>Enable Highlight Current &amp;Line</source>
-        <translation>Mettre en évidence &amp;la ligne courante</translation>
+        <translation>Mettre en é&amp;vidence la ligne courante</translation>
     </message>
     <message>
         <source>Enable Right Edge Warning</source>
@@ -1516,6 +1516,22 @@ Write them?</source>
 
 Les écrire&#xa0;?</translation>
     </message>
+    <message>
+        <source>Light</source>
+        <translation>Clair</translation>
+    </message>
+    <message>
+        <source>Dark</source>
+        <translation>Sombre</translation>
+    </message>
+    <message>
+        <source>High Contrast</source>
+        <translation>Contraste élevé</translation>
+    </message>
+    <message>
+        <source>Print</source>
+        <translation>Impression</translation>
+    </message>
 </context>
 <context>
     <name>SettingsPref</name>
@@ -1593,7 +1609,7 @@ Les écrire&#xa0;?</translation>
     </message>
     <message>
         <source>Syntax &amp;Highlighting</source>
-        <translation>Colorat&amp;ion syntaxique</translation>
+        <translation>Co&amp;loration syntaxique</translation>
     </message>
     <message>
         <source>&amp;Brace Matching</source>
@@ -1663,6 +1679,1009 @@ Les écrire&#xa0;?</translation>
     </message>
 </context>
 <context>
+    <name>SyntaxFiles</name>
+    <message>
+        <source>Declaration</source>
+        <translation>Déclaration</translation>
+    </message>
+    <message>
+        <source>Inactive</source>
+        <translation>Inactif</translation>
+    </message>
+    <message>
+        <source>JavaScript</source>
+        <translation>JavaScript</translation>
+    </message>
+    <message>
+        <source>PHP</source>
+        <translation>PHP</translation>
+    </message>
+    <message>
+        <source>Python</source>
+        <translation>Python</translation>
+    </message>
+    <message>
+        <source>Server JavaScript</source>
+        <translation>JavaScript serveur</translation>
+    </message>
+    <message>
+        <source>Server Python</source>
+        <translation>Python serveur</translation>
+    </message>
+    <message>
+        <source>Server VBScript</source>
+        <translation>VBScript serveur</translation>
+    </message>
+    <message>
+        <source>VBScript</source>
+        <translation>VBScript</translation>
+    </message>
+    <message>
+        <source>.NET message</source>
+        <translation>Message .NET</translation>
+    </message>
+    <message>
+        <source>Absoft message</source>
+        <translation>Message Absoft</translation>
+    </message>
+    <message>
+        <source>Added line</source>
+        <translation>Ligne ajoutée</translation>
+    </message>
+    <message>
+        <source>Added line of a removed patch</source>
+        <translation>Ligne ajoutée d’un correctif retiré</translation>
+    </message>
+    <message>
+        <source>Added line of an added patch</source>
+        <translation>Ligne ajoutée d’un correctif ajouté</translation>
+    </message>
+    <message>
+        <source>Array</source>
+        <translation>Tableau</translation>
+    </message>
+    <message>
+        <source>Assembler</source>
+        <translation>Assembleur</translation>
+    </message>
+    <message>
+        <source>Assignment</source>
+        <translation>Affectation</translation>
+    </message>
+    <message>
+        <source>At-rule</source>
+        <translation>Règle @</translation>
+    </message>
+    <message>
+        <source>Attribute</source>
+        <translation>Attribut</translation>
+    </message>
+    <message>
+        <source>Attribute selector</source>
+        <translation>Sélecteur d’attribut</translation>
+    </message>
+    <message>
+        <source>Backticks</source>
+        <translation>Accents graves</translation>
+    </message>
+    <message>
+        <source>Binary number</source>
+        <translation>Nombre binaire</translation>
+    </message>
+    <message>
+        <source>Block</source>
+        <translation>Bloc</translation>
+    </message>
+    <message>
+        <source>Block comment</source>
+        <translation>Commentaire de bloc</translation>
+    </message>
+    <message>
+        <source>Body of a format</source>
+        <translation>Corps d’un format</translation>
+    </message>
+    <message>
+        <source>Borland message</source>
+        <translation>Message Borland</translation>
+    </message>
+    <message>
+        <source>CDATA section</source>
+        <translation>Section CDATA</translation>
+    </message>
+    <message>
+        <source>Call tips</source>
+        <translation>Aide à l’appel</translation>
+    </message>
+    <message>
+        <source>Changed line</source>
+        <translation>Ligne modifiée</translation>
+    </message>
+    <message>
+        <source>Character</source>
+        <translation>Caractère</translation>
+    </message>
+    <message>
+        <source>Class name</source>
+        <translation>Nom de classe</translation>
+    </message>
+    <message>
+        <source>Class selector</source>
+        <translation>Sélecteur de classe</translation>
+    </message>
+    <message>
+        <source>Client command</source>
+        <translation>Commande du client</translation>
+    </message>
+    <message>
+        <source>Client comment</source>
+        <translation>Commentaire du client</translation>
+    </message>
+    <message>
+        <source>Client prompt</source>
+        <translation>Invite du client</translation>
+    </message>
+    <message>
+        <source>Command</source>
+        <translation>Commande</translation>
+    </message>
+    <message>
+        <source>Command with qx</source>
+        <translation>Commande avec qx</translation>
+    </message>
+    <message>
+        <source>Comment</source>
+        <translation>Commentaire</translation>
+    </message>
+    <message>
+        <source>Comment block</source>
+        <translation>Bloc de commentaire</translation>
+    </message>
+    <message>
+        <source>Comment in a directive</source>
+        <translation>Commentaire dans une directive</translation>
+    </message>
+    <message>
+        <source>Comment in a parameter</source>
+        <translation>Commentaire dans un paramètre</translation>
+    </message>
+    <message>
+        <source>Constant</source>
+        <translation>Constante</translation>
+    </message>
+    <message>
+        <source>Constant of the lexer</source>
+        <translation>Constante de l’analyseur</translation>
+    </message>
+    <message>
+        <source>Control characters</source>
+        <translation>Caractères de contrôle</translation>
+    </message>
+    <message>
+        <source>Data section</source>
+        <translation>Section de données</translation>
+    </message>
+    <message>
+        <source>Data type</source>
+        <translation>Type de données</translation>
+    </message>
+    <message>
+        <source>Date</source>
+        <translation>Date</translation>
+    </message>
+    <message>
+        <source>Default</source>
+        <translation>Par défaut</translation>
+    </message>
+    <message>
+        <source>Default value</source>
+        <translation>Valeur par défaut</translation>
+    </message>
+    <message>
+        <source>Delimiter of a here document</source>
+        <translation>Délimiteur d’un document en ligne</translation>
+    </message>
+    <message>
+        <source>Displayed mathematics</source>
+        <translation>Formule hors texte</translation>
+    </message>
+    <message>
+        <source>Documentation</source>
+        <translation>Documentation</translation>
+    </message>
+    <message>
+        <source>Documentation comment</source>
+        <translation>Commentaire de documentation</translation>
+    </message>
+    <message>
+        <source>Documentation comment in a directive</source>
+        <translation>Commentaire de documentation dans une directive</translation>
+    </message>
+    <message>
+        <source>Documentation keyword</source>
+        <translation>Mot-clé de documentation</translation>
+    </message>
+    <message>
+        <source>Documentation line comment</source>
+        <translation>Commentaire de documentation de ligne</translation>
+    </message>
+    <message>
+        <source>Element selector</source>
+        <translation>Sélecteur d’élément</translation>
+    </message>
+    <message>
+        <source>End of a tag</source>
+        <translation>Fin d’une balise</translation>
+    </message>
+    <message>
+        <source>End of an XML fragment</source>
+        <translation>Fin d’un fragment XML</translation>
+    </message>
+    <message>
+        <source>End of an environment</source>
+        <translation>Fin d’un environnement</translation>
+    </message>
+    <message>
+        <source>Entity</source>
+        <translation>Entité</translation>
+    </message>
+    <message>
+        <source>Environment</source>
+        <translation>Environnement</translation>
+    </message>
+    <message>
+        <source>Error</source>
+        <translation>Erreur</translation>
+    </message>
+    <message>
+        <source>Escape sequence</source>
+        <translation>Séquence d’échappement</translation>
+    </message>
+    <message>
+        <source>External command</source>
+        <translation>Commande externe</translation>
+    </message>
+    <message>
+        <source>First parameter</source>
+        <translation>Premier paramètre</translation>
+    </message>
+    <message>
+        <source>Folded text</source>
+        <translation>Texte plié</translation>
+    </message>
+    <message>
+        <source>Fortran message</source>
+        <translation>Message Fortran</translation>
+    </message>
+    <message>
+        <source>Function</source>
+        <translation>Fonction</translation>
+    </message>
+    <message>
+        <source>Function name</source>
+        <translation>Nom de fonction</translation>
+    </message>
+    <message>
+        <source>Further keyword</source>
+        <translation>Autre mot-clé</translation>
+    </message>
+    <message>
+        <source>GCC message</source>
+        <translation>Message GCC</translation>
+    </message>
+    <message>
+        <source>Global class</source>
+        <translation>Classe globale</translation>
+    </message>
+    <message>
+        <source>Global variable</source>
+        <translation>Variable globale</translation>
+    </message>
+    <message>
+        <source>HTML checker message</source>
+        <translation>Message du vérificateur HTML</translation>
+    </message>
+    <message>
+        <source>Hash</source>
+        <translation>Table de hachage</translation>
+    </message>
+    <message>
+        <source>Header</source>
+        <translation>En-tête</translation>
+    </message>
+    <message>
+        <source>Here document in backticks</source>
+        <translation>Document en ligne entre accents graves</translation>
+    </message>
+    <message>
+        <source>Here document in double quotes</source>
+        <translation>Document en ligne entre guillemets</translation>
+    </message>
+    <message>
+        <source>Here document in single quotes</source>
+        <translation>Document en ligne entre apostrophes</translation>
+    </message>
+    <message>
+        <source>Hexadecimal number</source>
+        <translation>Nombre hexadécimal</translation>
+    </message>
+    <message>
+        <source>Identifier</source>
+        <translation>Identificateur</translation>
+    </message>
+    <message>
+        <source>Identifier in backticks</source>
+        <translation>Identificateur entre accents graves</translation>
+    </message>
+    <message>
+        <source>Identifier in backticks or brackets</source>
+        <translation>Identificateur entre accents graves ou crochets</translation>
+    </message>
+    <message>
+        <source>Identifier in brackets</source>
+        <translation>Identificateur entre crochets</translation>
+    </message>
+    <message>
+        <source>Identifier in double quotes</source>
+        <translation>Identificateur entre guillemets</translation>
+    </message>
+    <message>
+        <source>Identifier selector</source>
+        <translation>Sélecteur d’identifiant</translation>
+    </message>
+    <message>
+        <source>Important</source>
+        <translation>Important</translation>
+    </message>
+    <message>
+        <source>Including file</source>
+        <translation>Fichier incluant</translation>
+    </message>
+    <message>
+        <source>Indentation guides</source>
+        <translation>Guides de retrait</translation>
+    </message>
+    <message>
+        <source>Intel Fortran message</source>
+        <translation>Message Intel Fortran</translation>
+    </message>
+    <message>
+        <source>Java stack line</source>
+        <translation>Ligne de pile Java</translation>
+    </message>
+    <message>
+        <source>Key</source>
+        <translation>Clé</translation>
+    </message>
+    <message>
+        <source>Keyword</source>
+        <translation>Mot-clé</translation>
+    </message>
+    <message>
+        <source>Label</source>
+        <translation>Étiquette</translation>
+    </message>
+    <message>
+        <source>Library type</source>
+        <translation>Type de bibliothèque</translation>
+    </message>
+    <message>
+        <source>Line comment</source>
+        <translation>Commentaire de ligne</translation>
+    </message>
+    <message>
+        <source>Line numbers</source>
+        <translation>Numéros de ligne</translation>
+    </message>
+    <message>
+        <source>Linker message</source>
+        <translation>Message de l’éditeur de liens</translation>
+    </message>
+    <message>
+        <source>List with qw</source>
+        <translation>Liste avec qw</translation>
+    </message>
+    <message>
+        <source>Long quote</source>
+        <translation>Longue citation</translation>
+    </message>
+    <message>
+        <source>Lua message</source>
+        <translation>Message Lua</translation>
+    </message>
+    <message>
+        <source>Mark that hides a command</source>
+        <translation>Marque qui cache une commande</translation>
+    </message>
+    <message>
+        <source>Markup declaration</source>
+        <translation>Déclaration de balisage</translation>
+    </message>
+    <message>
+        <source>Matching brace</source>
+        <translation>Parenthèse correspondante</translation>
+    </message>
+    <message>
+        <source>Mathematics</source>
+        <translation>Mathématiques</translation>
+    </message>
+    <message>
+        <source>Microsoft message</source>
+        <translation>Message Microsoft</translation>
+    </message>
+    <message>
+        <source>Name of a format</source>
+        <translation>Nom d’un format</translation>
+    </message>
+    <message>
+        <source>Number</source>
+        <translation>Nombre</translation>
+    </message>
+    <message>
+        <source>Operator</source>
+        <translation>Opérateur</translation>
+    </message>
+    <message>
+        <source>Option of a command</source>
+        <translation>Option d’une commande</translation>
+    </message>
+    <message>
+        <source>Other inside a tag</source>
+        <translation>Autre dans une balise</translation>
+    </message>
+    <message>
+        <source>PHP mark</source>
+        <translation>Marque PHP</translation>
+    </message>
+    <message>
+        <source>PHP message</source>
+        <translation>Message PHP</translation>
+    </message>
+    <message>
+        <source>Patch message</source>
+        <translation>Message de correctif</translation>
+    </message>
+    <message>
+        <source>Perl message</source>
+        <translation>Message Perl</translation>
+    </message>
+    <message>
+        <source>Position</source>
+        <translation>Position</translation>
+    </message>
+    <message>
+        <source>Preprocessor</source>
+        <translation>Préprocesseur</translation>
+    </message>
+    <message>
+        <source>Procedure</source>
+        <translation>Procédure</translation>
+    </message>
+    <message>
+        <source>Property</source>
+        <translation>Propriété</translation>
+    </message>
+    <message>
+        <source>Property of CSS 2</source>
+        <translation>Propriété de CSS 2</translation>
+    </message>
+    <message>
+        <source>Property of CSS 3</source>
+        <translation>Propriété de CSS 3</translation>
+    </message>
+    <message>
+        <source>Property of one browser</source>
+        <translation>Propriété d’un navigateur</translation>
+    </message>
+    <message>
+        <source>Prototype</source>
+        <translation>Prototype</translation>
+    </message>
+    <message>
+        <source>Pseudo-class</source>
+        <translation>Pseudo-classe</translation>
+    </message>
+    <message>
+        <source>Pseudo-class of one browser</source>
+        <translation>Pseudo-classe d’un navigateur</translation>
+    </message>
+    <message>
+        <source>Pseudo-element</source>
+        <translation>Pseudo-élément</translation>
+    </message>
+    <message>
+        <source>Pseudo-element of one browser</source>
+        <translation>Pseudo-élément d’un navigateur</translation>
+    </message>
+    <message>
+        <source>Punctuation</source>
+        <translation>Ponctuation</translation>
+    </message>
+    <message>
+        <source>Python message</source>
+        <translation>Message Python</translation>
+    </message>
+    <message>
+        <source>Quoting operator</source>
+        <translation>Opérateur de citation</translation>
+    </message>
+    <message>
+        <source>Raw string</source>
+        <translation>Chaîne brute</translation>
+    </message>
+    <message>
+        <source>Regular expression</source>
+        <translation>Expression rationnelle</translation>
+    </message>
+    <message>
+        <source>Regular expression with qr</source>
+        <translation>Expression rationnelle avec qr</translation>
+    </message>
+    <message>
+        <source>Removed line</source>
+        <translation>Ligne retirée</translation>
+    </message>
+    <message>
+        <source>Removed line of a removed patch</source>
+        <translation>Ligne retirée d’un correctif retiré</translation>
+    </message>
+    <message>
+        <source>Removed line of an added patch</source>
+        <translation>Ligne retirée d’un correctif ajouté</translation>
+    </message>
+    <message>
+        <source>Rule of a group</source>
+        <translation>Règle de groupe</translation>
+    </message>
+    <message>
+        <source>Scalar</source>
+        <translation>Scalaire</translation>
+    </message>
+    <message>
+        <source>Script tag</source>
+        <translation>Balise de script</translation>
+    </message>
+    <message>
+        <source>Section</source>
+        <translation>Section</translation>
+    </message>
+    <message>
+        <source>Server comment</source>
+        <translation>Commentaire serveur</translation>
+    </message>
+    <message>
+        <source>Server script</source>
+        <translation>Script serveur</translation>
+    </message>
+    <message>
+        <source>Server script mark</source>
+        <translation>Marque de script serveur</translation>
+    </message>
+    <message>
+        <source>Setting or pragma</source>
+        <translation>Réglage ou pragma</translation>
+    </message>
+    <message>
+        <source>Short command</source>
+        <translation>Commande courte</translation>
+    </message>
+    <message>
+        <source>Special</source>
+        <translation>Spécial</translation>
+    </message>
+    <message>
+        <source>Special character</source>
+        <translation>Caractère spécial</translation>
+    </message>
+    <message>
+        <source>Start</source>
+        <translation>Début</translation>
+    </message>
+    <message>
+        <source>Start of an XML fragment</source>
+        <translation>Début d’un fragment XML</translation>
+    </message>
+    <message>
+        <source>Statement</source>
+        <translation>Instruction</translation>
+    </message>
+    <message>
+        <source>String</source>
+        <translation>Chaîne</translation>
+    </message>
+    <message>
+        <source>String in double quotes</source>
+        <translation>Chaîne entre guillemets</translation>
+    </message>
+    <message>
+        <source>String in single quotes</source>
+        <translation>Chaîne entre apostrophes</translation>
+    </message>
+    <message>
+        <source>String with hash marks</source>
+        <translation>Chaîne avec croisillons</translation>
+    </message>
+    <message>
+        <source>String with q</source>
+        <translation>Chaîne avec q</translation>
+    </message>
+    <message>
+        <source>String with qq</source>
+        <translation>Chaîne avec qq</translation>
+    </message>
+    <message>
+        <source>Substitution</source>
+        <translation>Substitution</translation>
+    </message>
+    <message>
+        <source>Symbol</source>
+        <translation>Symbole</translation>
+    </message>
+    <message>
+        <source>Symbol table</source>
+        <translation>Table des symboles</translation>
+    </message>
+    <message>
+        <source>System object</source>
+        <translation>Objet système</translation>
+    </message>
+    <message>
+        <source>System table or view</source>
+        <translation>Table ou vue système</translation>
+    </message>
+    <message>
+        <source>Tag</source>
+        <translation>Balise</translation>
+    </message>
+    <message>
+        <source>Target</source>
+        <translation>Cible</translation>
+    </message>
+    <message>
+        <source>Task marker</source>
+        <translation>Marque de tâche</translation>
+    </message>
+    <message>
+        <source>Text</source>
+        <translation>Texte</translation>
+    </message>
+    <message>
+        <source>Text before a data type</source>
+        <translation>Texte avant un type de données</translation>
+    </message>
+    <message>
+        <source>Transliteration</source>
+        <translation>Translittération</translation>
+    </message>
+    <message>
+        <source>Triple double quotes</source>
+        <translation>Triples guillemets</translation>
+    </message>
+    <message>
+        <source>Triple single quotes</source>
+        <translation>Triples apostrophes</translation>
+    </message>
+    <message>
+        <source>Triple-quoted string</source>
+        <translation>Chaîne entre triples guillemets</translation>
+    </message>
+    <message>
+        <source>UUID</source>
+        <translation>UUID</translation>
+    </message>
+    <message>
+        <source>Unclosed string</source>
+        <translation>Chaîne non fermée</translation>
+    </message>
+    <message>
+        <source>Unknown attribute</source>
+        <translation>Attribut inconnu</translation>
+    </message>
+    <message>
+        <source>Unknown documentation keyword</source>
+        <translation>Mot-clé de documentation inconnu</translation>
+    </message>
+    <message>
+        <source>Unknown property</source>
+        <translation>Propriété inconnue</translation>
+    </message>
+    <message>
+        <source>Unknown pseudo-class</source>
+        <translation>Pseudo-classe inconnue</translation>
+    </message>
+    <message>
+        <source>Unknown tag</source>
+        <translation>Balise inconnue</translation>
+    </message>
+    <message>
+        <source>Unmatched brace</source>
+        <translation>Parenthèse sans correspondance</translation>
+    </message>
+    <message>
+        <source>Unquoted value</source>
+        <translation>Valeur sans guillemets</translation>
+    </message>
+    <message>
+        <source>User keyword</source>
+        <translation>Mot-clé personnel</translation>
+    </message>
+    <message>
+        <source>User literal</source>
+        <translation>Littéral personnel</translation>
+    </message>
+    <message>
+        <source>Value</source>
+        <translation>Valeur</translation>
+    </message>
+    <message>
+        <source>Variable</source>
+        <translation>Variable</translation>
+    </message>
+    <message>
+        <source>Variable in a command document</source>
+        <translation>Variable dans un document de commandes</translation>
+    </message>
+    <message>
+        <source>Variable in a complex expression</source>
+        <translation>Variable dans une expression complexe</translation>
+    </message>
+    <message>
+        <source>Variable in a here document</source>
+        <translation>Variable dans un document en ligne</translation>
+    </message>
+    <message>
+        <source>Variable in a regular expression</source>
+        <translation>Variable dans une expression rationnelle</translation>
+    </message>
+    <message>
+        <source>Variable in a string</source>
+        <translation>Variable dans une chaîne</translation>
+    </message>
+    <message>
+        <source>Variable in a substitution</source>
+        <translation>Variable dans une substitution</translation>
+    </message>
+    <message>
+        <source>Variable in backticks</source>
+        <translation>Variable entre accents graves</translation>
+    </message>
+    <message>
+        <source>Variable in qq</source>
+        <translation>Variable dans qq</translation>
+    </message>
+    <message>
+        <source>Variable in qr</source>
+        <translation>Variable dans qr</translation>
+    </message>
+    <message>
+        <source>Variable in qx</source>
+        <translation>Variable dans qx</translation>
+    </message>
+    <message>
+        <source>Variable indexer</source>
+        <translation>Indice de variable</translation>
+    </message>
+    <message>
+        <source>Verbatim documentation</source>
+        <translation>Documentation littérale</translation>
+    </message>
+    <message>
+        <source>Verbatim string</source>
+        <translation>Chaîne littérale</translation>
+    </message>
+    <message>
+        <source>Verbatim text</source>
+        <translation>Texte littéral</translation>
+    </message>
+    <message>
+        <source>Word</source>
+        <translation>Mot</translation>
+    </message>
+    <message>
+        <source>Catalog and administrative views</source>
+        <translation>Vues de catalogue et d’administration</translation>
+    </message>
+    <message>
+        <source>Commands</source>
+        <translation>Commandes</translation>
+    </message>
+    <message>
+        <source>Commands (completion only)</source>
+        <translation>Commandes (complétion seule)</translation>
+    </message>
+    <message>
+        <source>Configuration parameters</source>
+        <translation>Paramètres de configuration</translation>
+    </message>
+    <message>
+        <source>Constants</source>
+        <translation>Constantes</translation>
+    </message>
+    <message>
+        <source>Data types</source>
+        <translation>Types de données</translation>
+    </message>
+    <message>
+        <source>Declaration keywords</source>
+        <translation>Mots-clés de déclaration</translation>
+    </message>
+    <message>
+        <source>Diagnostics items</source>
+        <translation>Éléments de diagnostic</translation>
+    </message>
+    <message>
+        <source>Dictionary and performance views</source>
+        <translation>Vues de dictionnaire et de performances</translation>
+    </message>
+    <message>
+        <source>Directives (completion only)</source>
+        <translation>Directives (complétion seule)</translation>
+    </message>
+    <message>
+        <source>Documentation keywords</source>
+        <translation>Mots-clés de documentation</translation>
+    </message>
+    <message>
+        <source>Elements and attributes</source>
+        <translation>Éléments et attributs</translation>
+    </message>
+    <message>
+        <source>Environments (completion only)</source>
+        <translation>Environnements (complétion seule)</translation>
+    </message>
+    <message>
+        <source>External commands</source>
+        <translation>Commandes externes</translation>
+    </message>
+    <message>
+        <source>Functions</source>
+        <translation>Fonctions</translation>
+    </message>
+    <message>
+        <source>Functions (completion only)</source>
+        <translation>Fonctions (complétion seule)</translation>
+    </message>
+    <message>
+        <source>Global variables (without @@)</source>
+        <translation>Variables globales (sans @@)</translation>
+    </message>
+    <message>
+        <source>Information schema</source>
+        <translation>Schéma d’information</translation>
+    </message>
+    <message>
+        <source>JavaScript keywords</source>
+        <translation>Mots-clés JavaScript</translation>
+    </message>
+    <message>
+        <source>Keywords</source>
+        <translation>Mots-clés</translation>
+    </message>
+    <message>
+        <source>Library types</source>
+        <translation>Types de bibliothèque</translation>
+    </message>
+    <message>
+        <source>Operators</source>
+        <translation>Opérateurs</translation>
+    </message>
+    <message>
+        <source>PHP functions (completion only)</source>
+        <translation>Fonctions PHP (complétion seule)</translation>
+    </message>
+    <message>
+        <source>PHP keywords</source>
+        <translation>Mots-clés PHP</translation>
+    </message>
+    <message>
+        <source>PL/pgSQL</source>
+        <translation>PL/pgSQL</translation>
+    </message>
+    <message>
+        <source>Pragmas</source>
+        <translation>Pragmas</translation>
+    </message>
+    <message>
+        <source>Procedural keywords</source>
+        <translation>Mots-clés procéduraux</translation>
+    </message>
+    <message>
+        <source>Procedures, table functions and modules</source>
+        <translation>Procédures, fonctions de table et modules</translation>
+    </message>
+    <message>
+        <source>Properties of CSS 1</source>
+        <translation>Propriétés de CSS 1</translation>
+    </message>
+    <message>
+        <source>Properties of CSS 2</source>
+        <translation>Propriétés de CSS 2</translation>
+    </message>
+    <message>
+        <source>Properties of CSS 3</source>
+        <translation>Propriétés de CSS 3</translation>
+    </message>
+    <message>
+        <source>Properties of one browser</source>
+        <translation>Propriétés d’un navigateur</translation>
+    </message>
+    <message>
+        <source>Pseudo-classes</source>
+        <translation>Pseudo-classes</translation>
+    </message>
+    <message>
+        <source>Pseudo-classes of one browser</source>
+        <translation>Pseudo-classes d’un navigateur</translation>
+    </message>
+    <message>
+        <source>Pseudo-elements</source>
+        <translation>Pseudo-éléments</translation>
+    </message>
+    <message>
+        <source>Pseudo-elements of one browser</source>
+        <translation>Pseudo-éléments d’un navigateur</translation>
+    </message>
+    <message>
+        <source>Python keywords</source>
+        <translation>Mots-clés Python</translation>
+    </message>
+    <message>
+        <source>Routines of the schema sys</source>
+        <translation>Routines du schéma sys</translation>
+    </message>
+    <message>
+        <source>Special targets (completion only)</source>
+        <translation>Cibles spéciales (complétion seule)</translation>
+    </message>
+    <message>
+        <source>Statements and clauses</source>
+        <translation>Instructions et clauses</translation>
+    </message>
+    <message>
+        <source>Supplied packages</source>
+        <translation>Paquets fournis</translation>
+    </message>
+    <message>
+        <source>System and monitoring tables</source>
+        <translation>Tables système et de surveillance</translation>
+    </message>
+    <message>
+        <source>System catalogs and views</source>
+        <translation>Catalogues et vues système</translation>
+    </message>
+    <message>
+        <source>System packages</source>
+        <translation>Paquets système</translation>
+    </message>
+    <message>
+        <source>System procedures</source>
+        <translation>Procédures système</translation>
+    </message>
+    <message>
+        <source>System tables and modules</source>
+        <translation>Tables et modules système</translation>
+    </message>
+    <message>
+        <source>System tables and views</source>
+        <translation>Tables et vues système</translation>
+    </message>
+    <message>
+        <source>System variables (without @@)</source>
+        <translation>Variables système (sans @@)</translation>
+    </message>
+    <message>
+        <source>Task markers</source>
+        <translation>Marques de tâche</translation>
+    </message>
+    <message>
+        <source>VBScript keywords</source>
+        <translation>Mots-clés VBScript</translation>
+    </message>
+    <message>
+        <source>Values of pragmas</source>
+        <translation>Valeurs de pragmas</translation>
+    </message>
+</context>
+<context>
     <name>ZNCoreEditorPlugin</name>
     <message>
         <source>Source Text Editor</source>
@@ -1695,7 +2714,7 @@ Les écrire&#xa0;?</translation>
     </message>
     <message>
         <source>Cu&amp;t</source>
-        <translation>C&amp;ouper</translation>
+        <translation>Co&amp;uper</translation>
     </message>
     <message>
         <source>&amp;Copy</source>
@@ -1703,7 +2722,7 @@ Les écrire&#xa0;?</translation>
     </message>
     <message>
         <source>&amp;Paste</source>
-        <translation>&amp;Coller</translation>
+        <translation>C&amp;oller</translation>
     </message>
     <message>
         <source>&amp;Delete</source>
@@ -1715,11 +2734,11 @@ Les écrire&#xa0;?</translation>
     </message>
     <message>
         <source>&amp;Indent</source>
-        <translation>Augmenter &amp;le retrait</translation>
+        <translation>Au&amp;gmenter le retrait</translation>
     </message>
     <message>
         <source>&amp;Outdent</source>
-        <translation>&amp;Diminuer le retrait</translation>
+        <translation>Diminuer &amp;le retrait</translation>
     </message>
     <message>
         <source>U&amp;pper Case</source>
@@ -1727,7 +2746,7 @@ Les écrire&#xa0;?</translation>
     </message>
     <message>
         <source>&amp;Lower Case</source>
-        <translation>M&amp;inuscules</translation>
+        <translation>&amp;Minuscules</translation>
     </message>
     <message>
         <source>Match Bra&amp;ce</source>
@@ -1739,35 +2758,35 @@ Les écrire&#xa0;?</translation>
     </message>
     <message>
         <source>&amp;Next Bookmark</source>
-        <translation>Si&amp;gnet suivant</translation>
+        <translation>&amp;Signet suivant</translation>
     </message>
     <message>
         <source>Previous Boo&amp;kmark</source>
-        <translation>Sig&amp;net précédent</translation>
+        <translation>Signet &amp;précédent</translation>
     </message>
     <message>
         <source>&amp;Zoom In</source>
-        <translation>Zoom a&amp;vant</translation>
+        <translation>&amp;Zoom avant</translation>
     </message>
     <message>
         <source>Zoom O&amp;ut</source>
-        <translation>&amp;Zoom arrière</translation>
+        <translation>Z&amp;oom arrière</translation>
     </message>
     <message>
         <source>Original &amp;Size</source>
-        <translation>Taill&amp;e d’origine</translation>
+        <translation>&amp;Taille d’origine</translation>
     </message>
     <message>
         <source>&amp;Line Numbers</source>
-        <translation>Nu&amp;méros de ligne</translation>
+        <translation>&amp;Numéros de ligne</translation>
     </message>
     <message>
         <source>Clear All Bookmarks</source>
-        <translation>Supprimer tous les signets</translation>
+        <translation>Effacer tous les signets</translation>
     </message>
     <message>
         <source>Co&amp;mment Out</source>
-        <translation>Co&amp;mmenter</translation>
+        <translation>&amp;Commenter</translation>
     </message>
     <message>
         <source>&amp;Uncomment</source>
@@ -1787,7 +2806,7 @@ Les écrire&#xa0;?</translation>
     </message>
     <message>
         <source>Find &amp;Next</source>
-        <translation>Rechercher le &amp;suivant</translation>
+        <translation>Rechercher le sui&amp;vant</translation>
     </message>
     <message>
         <source>&amp;Replace...</source>
@@ -1795,7 +2814,7 @@ Les écrire&#xa0;?</translation>
     </message>
     <message>
         <source>Insert &amp;File...</source>
-        <translation>Insérer un &amp;fichier...</translation>
+        <translation>&amp;Insérer un fichier...</translation>
     </message>
     <message>
         <source>Convert Line Ends to CR+LF (Windows)</source>
@@ -1811,15 +2830,12 @@ Les écrire&#xa0;?</translation>
     </message>
     <message>
         <source>Editor and Language &amp;Preferences...</source>
-        <translation>&amp;Préférences de l’éditeur et des langages...</translation>
+        <translation>Pré&amp;férences de l’éditeur et des langages...</translation>
     </message>
     <message>
         <source>Insert Template</source>
         <translation>Insérer un modèle</translation>
     </message>
-</context>
-<context>
-    <name>ZNCoreEditorWidget::Private</name>
     <message>
         <source>&amp;Go to Line...</source>
         <translation>&amp;Aller à la ligne...</translation>
@@ -1830,7 +2846,7 @@ Les écrire&#xa0;?</translation>
     </message>
     <message>
         <source>Line:</source>
-        <translation>Ligne :</translation>
+        <translation>Aller à la ligne&#xa0;:</translation>
     </message>
 </context>
 </TS>

@@ -625,7 +625,7 @@ Do you want to reload it?</source>
     </message>
     <message>
         <source>&amp;Wrap around search</source>
-        <translation>末尾まで来たら先頭に戻る(&amp;W)</translation>
+        <translation>末尾まで来たら先頭に戻る(&amp;O)</translation>
     </message>
     <message>
         <source>Direction</source>
@@ -1516,6 +1516,22 @@ Write them?</source>
 
 書き込みますか？</translation>
     </message>
+    <message>
+        <source>Light</source>
+        <translation>ライト</translation>
+    </message>
+    <message>
+        <source>Dark</source>
+        <translation>ダーク</translation>
+    </message>
+    <message>
+        <source>High Contrast</source>
+        <translation>ハイコントラスト</translation>
+    </message>
+    <message>
+        <source>Print</source>
+        <translation>印刷</translation>
+    </message>
 </context>
 <context>
     <name>SettingsPref</name>
@@ -1663,6 +1679,1009 @@ Write them?</source>
     </message>
 </context>
 <context>
+    <name>SyntaxFiles</name>
+    <message>
+        <source>Declaration</source>
+        <translation>宣言</translation>
+    </message>
+    <message>
+        <source>Inactive</source>
+        <translation>無効</translation>
+    </message>
+    <message>
+        <source>JavaScript</source>
+        <translation>JavaScript</translation>
+    </message>
+    <message>
+        <source>PHP</source>
+        <translation>PHP</translation>
+    </message>
+    <message>
+        <source>Python</source>
+        <translation>Python</translation>
+    </message>
+    <message>
+        <source>Server JavaScript</source>
+        <translation>サーバー JavaScript</translation>
+    </message>
+    <message>
+        <source>Server Python</source>
+        <translation>サーバー Python</translation>
+    </message>
+    <message>
+        <source>Server VBScript</source>
+        <translation>サーバー VBScript</translation>
+    </message>
+    <message>
+        <source>VBScript</source>
+        <translation>VBScript</translation>
+    </message>
+    <message>
+        <source>.NET message</source>
+        <translation>.NET のメッセージ</translation>
+    </message>
+    <message>
+        <source>Absoft message</source>
+        <translation>Absoft のメッセージ</translation>
+    </message>
+    <message>
+        <source>Added line</source>
+        <translation>追加された行</translation>
+    </message>
+    <message>
+        <source>Added line of a removed patch</source>
+        <translation>削除されたパッチの追加行</translation>
+    </message>
+    <message>
+        <source>Added line of an added patch</source>
+        <translation>追加されたパッチの追加行</translation>
+    </message>
+    <message>
+        <source>Array</source>
+        <translation>配列</translation>
+    </message>
+    <message>
+        <source>Assembler</source>
+        <translation>アセンブラー</translation>
+    </message>
+    <message>
+        <source>Assignment</source>
+        <translation>代入</translation>
+    </message>
+    <message>
+        <source>At-rule</source>
+        <translation>@ 規則</translation>
+    </message>
+    <message>
+        <source>Attribute</source>
+        <translation>属性</translation>
+    </message>
+    <message>
+        <source>Attribute selector</source>
+        <translation>属性セレクター</translation>
+    </message>
+    <message>
+        <source>Backticks</source>
+        <translation>バッククォート</translation>
+    </message>
+    <message>
+        <source>Binary number</source>
+        <translation>2 進数</translation>
+    </message>
+    <message>
+        <source>Block</source>
+        <translation>ブロック</translation>
+    </message>
+    <message>
+        <source>Block comment</source>
+        <translation>ブロックコメント</translation>
+    </message>
+    <message>
+        <source>Body of a format</source>
+        <translation>フォーマットの本体</translation>
+    </message>
+    <message>
+        <source>Borland message</source>
+        <translation>Borland のメッセージ</translation>
+    </message>
+    <message>
+        <source>CDATA section</source>
+        <translation>CDATA セクション</translation>
+    </message>
+    <message>
+        <source>Call tips</source>
+        <translation>引数のヒント</translation>
+    </message>
+    <message>
+        <source>Changed line</source>
+        <translation>変更された行</translation>
+    </message>
+    <message>
+        <source>Character</source>
+        <translation>文字</translation>
+    </message>
+    <message>
+        <source>Class name</source>
+        <translation>クラス名</translation>
+    </message>
+    <message>
+        <source>Class selector</source>
+        <translation>クラスセレクター</translation>
+    </message>
+    <message>
+        <source>Client command</source>
+        <translation>クライアントのコマンド</translation>
+    </message>
+    <message>
+        <source>Client comment</source>
+        <translation>クライアントのコメント</translation>
+    </message>
+    <message>
+        <source>Client prompt</source>
+        <translation>クライアントのプロンプト</translation>
+    </message>
+    <message>
+        <source>Command</source>
+        <translation>コマンド</translation>
+    </message>
+    <message>
+        <source>Command with qx</source>
+        <translation>qx のコマンド</translation>
+    </message>
+    <message>
+        <source>Comment</source>
+        <translation>コメント</translation>
+    </message>
+    <message>
+        <source>Comment block</source>
+        <translation>コメントブロック</translation>
+    </message>
+    <message>
+        <source>Comment in a directive</source>
+        <translation>ディレクティブ内のコメント</translation>
+    </message>
+    <message>
+        <source>Comment in a parameter</source>
+        <translation>パラメーター内のコメント</translation>
+    </message>
+    <message>
+        <source>Constant</source>
+        <translation>定数</translation>
+    </message>
+    <message>
+        <source>Constant of the lexer</source>
+        <translation>字句解析器の定数</translation>
+    </message>
+    <message>
+        <source>Control characters</source>
+        <translation>制御文字</translation>
+    </message>
+    <message>
+        <source>Data section</source>
+        <translation>データ部</translation>
+    </message>
+    <message>
+        <source>Data type</source>
+        <translation>データ型</translation>
+    </message>
+    <message>
+        <source>Date</source>
+        <translation>日付</translation>
+    </message>
+    <message>
+        <source>Default</source>
+        <translation>既定</translation>
+    </message>
+    <message>
+        <source>Default value</source>
+        <translation>既定値</translation>
+    </message>
+    <message>
+        <source>Delimiter of a here document</source>
+        <translation>ヒアドキュメントの区切り</translation>
+    </message>
+    <message>
+        <source>Displayed mathematics</source>
+        <translation>別行立ての数式</translation>
+    </message>
+    <message>
+        <source>Documentation</source>
+        <translation>ドキュメント</translation>
+    </message>
+    <message>
+        <source>Documentation comment</source>
+        <translation>ドキュメントコメント</translation>
+    </message>
+    <message>
+        <source>Documentation comment in a directive</source>
+        <translation>ディレクティブ内のドキュメントコメント</translation>
+    </message>
+    <message>
+        <source>Documentation keyword</source>
+        <translation>ドキュメントのキーワード</translation>
+    </message>
+    <message>
+        <source>Documentation line comment</source>
+        <translation>ドキュメントの行コメント</translation>
+    </message>
+    <message>
+        <source>Element selector</source>
+        <translation>要素セレクター</translation>
+    </message>
+    <message>
+        <source>End of a tag</source>
+        <translation>タグの終わり</translation>
+    </message>
+    <message>
+        <source>End of an XML fragment</source>
+        <translation>XML 断片の終わり</translation>
+    </message>
+    <message>
+        <source>End of an environment</source>
+        <translation>環境の終わり</translation>
+    </message>
+    <message>
+        <source>Entity</source>
+        <translation>実体</translation>
+    </message>
+    <message>
+        <source>Environment</source>
+        <translation>環境</translation>
+    </message>
+    <message>
+        <source>Error</source>
+        <translation>エラー</translation>
+    </message>
+    <message>
+        <source>Escape sequence</source>
+        <translation>エスケープシーケンス</translation>
+    </message>
+    <message>
+        <source>External command</source>
+        <translation>外部コマンド</translation>
+    </message>
+    <message>
+        <source>First parameter</source>
+        <translation>最初のパラメーター</translation>
+    </message>
+    <message>
+        <source>Folded text</source>
+        <translation>折りたたまれたテキスト</translation>
+    </message>
+    <message>
+        <source>Fortran message</source>
+        <translation>Fortran のメッセージ</translation>
+    </message>
+    <message>
+        <source>Function</source>
+        <translation>関数</translation>
+    </message>
+    <message>
+        <source>Function name</source>
+        <translation>関数名</translation>
+    </message>
+    <message>
+        <source>Further keyword</source>
+        <translation>その他のキーワード</translation>
+    </message>
+    <message>
+        <source>GCC message</source>
+        <translation>GCC のメッセージ</translation>
+    </message>
+    <message>
+        <source>Global class</source>
+        <translation>グローバルクラス</translation>
+    </message>
+    <message>
+        <source>Global variable</source>
+        <translation>グローバル変数</translation>
+    </message>
+    <message>
+        <source>HTML checker message</source>
+        <translation>HTML チェッカーのメッセージ</translation>
+    </message>
+    <message>
+        <source>Hash</source>
+        <translation>ハッシュ</translation>
+    </message>
+    <message>
+        <source>Header</source>
+        <translation>ヘッダー</translation>
+    </message>
+    <message>
+        <source>Here document in backticks</source>
+        <translation>バッククォートのヒアドキュメント</translation>
+    </message>
+    <message>
+        <source>Here document in double quotes</source>
+        <translation>二重引用符のヒアドキュメント</translation>
+    </message>
+    <message>
+        <source>Here document in single quotes</source>
+        <translation>単一引用符のヒアドキュメント</translation>
+    </message>
+    <message>
+        <source>Hexadecimal number</source>
+        <translation>16 進数</translation>
+    </message>
+    <message>
+        <source>Identifier</source>
+        <translation>識別子</translation>
+    </message>
+    <message>
+        <source>Identifier in backticks</source>
+        <translation>バッククォートの識別子</translation>
+    </message>
+    <message>
+        <source>Identifier in backticks or brackets</source>
+        <translation>バッククォートまたは角括弧の識別子</translation>
+    </message>
+    <message>
+        <source>Identifier in brackets</source>
+        <translation>角括弧の識別子</translation>
+    </message>
+    <message>
+        <source>Identifier in double quotes</source>
+        <translation>二重引用符の識別子</translation>
+    </message>
+    <message>
+        <source>Identifier selector</source>
+        <translation>ID セレクター</translation>
+    </message>
+    <message>
+        <source>Important</source>
+        <translation>重要</translation>
+    </message>
+    <message>
+        <source>Including file</source>
+        <translation>取り込み元のファイル</translation>
+    </message>
+    <message>
+        <source>Indentation guides</source>
+        <translation>インデントガイド</translation>
+    </message>
+    <message>
+        <source>Intel Fortran message</source>
+        <translation>Intel Fortran のメッセージ</translation>
+    </message>
+    <message>
+        <source>Java stack line</source>
+        <translation>Java のスタック行</translation>
+    </message>
+    <message>
+        <source>Key</source>
+        <translation>キー</translation>
+    </message>
+    <message>
+        <source>Keyword</source>
+        <translation>キーワード</translation>
+    </message>
+    <message>
+        <source>Label</source>
+        <translation>ラベル</translation>
+    </message>
+    <message>
+        <source>Library type</source>
+        <translation>ライブラリの型</translation>
+    </message>
+    <message>
+        <source>Line comment</source>
+        <translation>行コメント</translation>
+    </message>
+    <message>
+        <source>Line numbers</source>
+        <translation>行番号</translation>
+    </message>
+    <message>
+        <source>Linker message</source>
+        <translation>リンカーのメッセージ</translation>
+    </message>
+    <message>
+        <source>List with qw</source>
+        <translation>qw のリスト</translation>
+    </message>
+    <message>
+        <source>Long quote</source>
+        <translation>長い引用</translation>
+    </message>
+    <message>
+        <source>Lua message</source>
+        <translation>Lua のメッセージ</translation>
+    </message>
+    <message>
+        <source>Mark that hides a command</source>
+        <translation>コマンドを隠す記号</translation>
+    </message>
+    <message>
+        <source>Markup declaration</source>
+        <translation>マークアップ宣言</translation>
+    </message>
+    <message>
+        <source>Matching brace</source>
+        <translation>対応する括弧</translation>
+    </message>
+    <message>
+        <source>Mathematics</source>
+        <translation>数式</translation>
+    </message>
+    <message>
+        <source>Microsoft message</source>
+        <translation>Microsoft のメッセージ</translation>
+    </message>
+    <message>
+        <source>Name of a format</source>
+        <translation>フォーマットの名前</translation>
+    </message>
+    <message>
+        <source>Number</source>
+        <translation>数値</translation>
+    </message>
+    <message>
+        <source>Operator</source>
+        <translation>演算子</translation>
+    </message>
+    <message>
+        <source>Option of a command</source>
+        <translation>コマンドのオプション</translation>
+    </message>
+    <message>
+        <source>Other inside a tag</source>
+        <translation>タグ内のその他</translation>
+    </message>
+    <message>
+        <source>PHP mark</source>
+        <translation>PHP の記号</translation>
+    </message>
+    <message>
+        <source>PHP message</source>
+        <translation>PHP のメッセージ</translation>
+    </message>
+    <message>
+        <source>Patch message</source>
+        <translation>パッチのメッセージ</translation>
+    </message>
+    <message>
+        <source>Perl message</source>
+        <translation>Perl のメッセージ</translation>
+    </message>
+    <message>
+        <source>Position</source>
+        <translation>位置</translation>
+    </message>
+    <message>
+        <source>Preprocessor</source>
+        <translation>プリプロセッサ</translation>
+    </message>
+    <message>
+        <source>Procedure</source>
+        <translation>プロシージャ</translation>
+    </message>
+    <message>
+        <source>Property</source>
+        <translation>プロパティ</translation>
+    </message>
+    <message>
+        <source>Property of CSS 2</source>
+        <translation>CSS 2 のプロパティ</translation>
+    </message>
+    <message>
+        <source>Property of CSS 3</source>
+        <translation>CSS 3 のプロパティ</translation>
+    </message>
+    <message>
+        <source>Property of one browser</source>
+        <translation>特定ブラウザーのプロパティ</translation>
+    </message>
+    <message>
+        <source>Prototype</source>
+        <translation>プロトタイプ</translation>
+    </message>
+    <message>
+        <source>Pseudo-class</source>
+        <translation>疑似クラス</translation>
+    </message>
+    <message>
+        <source>Pseudo-class of one browser</source>
+        <translation>特定ブラウザーの疑似クラス</translation>
+    </message>
+    <message>
+        <source>Pseudo-element</source>
+        <translation>疑似要素</translation>
+    </message>
+    <message>
+        <source>Pseudo-element of one browser</source>
+        <translation>特定ブラウザーの疑似要素</translation>
+    </message>
+    <message>
+        <source>Punctuation</source>
+        <translation>区切り記号</translation>
+    </message>
+    <message>
+        <source>Python message</source>
+        <translation>Python のメッセージ</translation>
+    </message>
+    <message>
+        <source>Quoting operator</source>
+        <translation>引用演算子</translation>
+    </message>
+    <message>
+        <source>Raw string</source>
+        <translation>生文字列</translation>
+    </message>
+    <message>
+        <source>Regular expression</source>
+        <translation>正規表現</translation>
+    </message>
+    <message>
+        <source>Regular expression with qr</source>
+        <translation>qr の正規表現</translation>
+    </message>
+    <message>
+        <source>Removed line</source>
+        <translation>削除された行</translation>
+    </message>
+    <message>
+        <source>Removed line of a removed patch</source>
+        <translation>削除されたパッチの削除行</translation>
+    </message>
+    <message>
+        <source>Removed line of an added patch</source>
+        <translation>追加されたパッチの削除行</translation>
+    </message>
+    <message>
+        <source>Rule of a group</source>
+        <translation>グループの規則</translation>
+    </message>
+    <message>
+        <source>Scalar</source>
+        <translation>スカラー</translation>
+    </message>
+    <message>
+        <source>Script tag</source>
+        <translation>スクリプトのタグ</translation>
+    </message>
+    <message>
+        <source>Section</source>
+        <translation>セクション</translation>
+    </message>
+    <message>
+        <source>Server comment</source>
+        <translation>サーバーのコメント</translation>
+    </message>
+    <message>
+        <source>Server script</source>
+        <translation>サーバースクリプト</translation>
+    </message>
+    <message>
+        <source>Server script mark</source>
+        <translation>サーバースクリプトの記号</translation>
+    </message>
+    <message>
+        <source>Setting or pragma</source>
+        <translation>設定またはプラグマ</translation>
+    </message>
+    <message>
+        <source>Short command</source>
+        <translation>短いコマンド</translation>
+    </message>
+    <message>
+        <source>Special</source>
+        <translation>特殊</translation>
+    </message>
+    <message>
+        <source>Special character</source>
+        <translation>特殊文字</translation>
+    </message>
+    <message>
+        <source>Start</source>
+        <translation>開始</translation>
+    </message>
+    <message>
+        <source>Start of an XML fragment</source>
+        <translation>XML 断片の始まり</translation>
+    </message>
+    <message>
+        <source>Statement</source>
+        <translation>文</translation>
+    </message>
+    <message>
+        <source>String</source>
+        <translation>文字列</translation>
+    </message>
+    <message>
+        <source>String in double quotes</source>
+        <translation>二重引用符の文字列</translation>
+    </message>
+    <message>
+        <source>String in single quotes</source>
+        <translation>単一引用符の文字列</translation>
+    </message>
+    <message>
+        <source>String with hash marks</source>
+        <translation># 付きの文字列</translation>
+    </message>
+    <message>
+        <source>String with q</source>
+        <translation>q の文字列</translation>
+    </message>
+    <message>
+        <source>String with qq</source>
+        <translation>qq の文字列</translation>
+    </message>
+    <message>
+        <source>Substitution</source>
+        <translation>置換</translation>
+    </message>
+    <message>
+        <source>Symbol</source>
+        <translation>記号</translation>
+    </message>
+    <message>
+        <source>Symbol table</source>
+        <translation>シンボルテーブル</translation>
+    </message>
+    <message>
+        <source>System object</source>
+        <translation>システムオブジェクト</translation>
+    </message>
+    <message>
+        <source>System table or view</source>
+        <translation>システムのテーブルまたはビュー</translation>
+    </message>
+    <message>
+        <source>Tag</source>
+        <translation>タグ</translation>
+    </message>
+    <message>
+        <source>Target</source>
+        <translation>ターゲット</translation>
+    </message>
+    <message>
+        <source>Task marker</source>
+        <translation>タスクの印</translation>
+    </message>
+    <message>
+        <source>Text</source>
+        <translation>テキスト</translation>
+    </message>
+    <message>
+        <source>Text before a data type</source>
+        <translation>データ型の前のテキスト</translation>
+    </message>
+    <message>
+        <source>Transliteration</source>
+        <translation>文字変換</translation>
+    </message>
+    <message>
+        <source>Triple double quotes</source>
+        <translation>三重の二重引用符</translation>
+    </message>
+    <message>
+        <source>Triple single quotes</source>
+        <translation>三重の単一引用符</translation>
+    </message>
+    <message>
+        <source>Triple-quoted string</source>
+        <translation>三重引用符の文字列</translation>
+    </message>
+    <message>
+        <source>UUID</source>
+        <translation>UUID</translation>
+    </message>
+    <message>
+        <source>Unclosed string</source>
+        <translation>閉じていない文字列</translation>
+    </message>
+    <message>
+        <source>Unknown attribute</source>
+        <translation>不明な属性</translation>
+    </message>
+    <message>
+        <source>Unknown documentation keyword</source>
+        <translation>不明なドキュメントのキーワード</translation>
+    </message>
+    <message>
+        <source>Unknown property</source>
+        <translation>不明なプロパティ</translation>
+    </message>
+    <message>
+        <source>Unknown pseudo-class</source>
+        <translation>不明な疑似クラス</translation>
+    </message>
+    <message>
+        <source>Unknown tag</source>
+        <translation>不明なタグ</translation>
+    </message>
+    <message>
+        <source>Unmatched brace</source>
+        <translation>対応のない括弧</translation>
+    </message>
+    <message>
+        <source>Unquoted value</source>
+        <translation>引用符のない値</translation>
+    </message>
+    <message>
+        <source>User keyword</source>
+        <translation>ユーザーキーワード</translation>
+    </message>
+    <message>
+        <source>User literal</source>
+        <translation>ユーザーリテラル</translation>
+    </message>
+    <message>
+        <source>Value</source>
+        <translation>値</translation>
+    </message>
+    <message>
+        <source>Variable</source>
+        <translation>変数</translation>
+    </message>
+    <message>
+        <source>Variable in a command document</source>
+        <translation>コマンド文書内の変数</translation>
+    </message>
+    <message>
+        <source>Variable in a complex expression</source>
+        <translation>複雑な式の中の変数</translation>
+    </message>
+    <message>
+        <source>Variable in a here document</source>
+        <translation>ヒアドキュメント内の変数</translation>
+    </message>
+    <message>
+        <source>Variable in a regular expression</source>
+        <translation>正規表現内の変数</translation>
+    </message>
+    <message>
+        <source>Variable in a string</source>
+        <translation>文字列内の変数</translation>
+    </message>
+    <message>
+        <source>Variable in a substitution</source>
+        <translation>置換内の変数</translation>
+    </message>
+    <message>
+        <source>Variable in backticks</source>
+        <translation>バッククォート内の変数</translation>
+    </message>
+    <message>
+        <source>Variable in qq</source>
+        <translation>qq 内の変数</translation>
+    </message>
+    <message>
+        <source>Variable in qr</source>
+        <translation>qr 内の変数</translation>
+    </message>
+    <message>
+        <source>Variable in qx</source>
+        <translation>qx 内の変数</translation>
+    </message>
+    <message>
+        <source>Variable indexer</source>
+        <translation>変数の添字</translation>
+    </message>
+    <message>
+        <source>Verbatim documentation</source>
+        <translation>逐語ドキュメント</translation>
+    </message>
+    <message>
+        <source>Verbatim string</source>
+        <translation>逐語文字列</translation>
+    </message>
+    <message>
+        <source>Verbatim text</source>
+        <translation>逐語テキスト</translation>
+    </message>
+    <message>
+        <source>Word</source>
+        <translation>単語</translation>
+    </message>
+    <message>
+        <source>Catalog and administrative views</source>
+        <translation>カタログと管理のビュー</translation>
+    </message>
+    <message>
+        <source>Commands</source>
+        <translation>コマンド</translation>
+    </message>
+    <message>
+        <source>Commands (completion only)</source>
+        <translation>コマンド (補完のみ)</translation>
+    </message>
+    <message>
+        <source>Configuration parameters</source>
+        <translation>構成パラメーター</translation>
+    </message>
+    <message>
+        <source>Constants</source>
+        <translation>定数</translation>
+    </message>
+    <message>
+        <source>Data types</source>
+        <translation>データ型</translation>
+    </message>
+    <message>
+        <source>Declaration keywords</source>
+        <translation>宣言のキーワード</translation>
+    </message>
+    <message>
+        <source>Diagnostics items</source>
+        <translation>診断項目</translation>
+    </message>
+    <message>
+        <source>Dictionary and performance views</source>
+        <translation>ディクショナリと性能のビュー</translation>
+    </message>
+    <message>
+        <source>Directives (completion only)</source>
+        <translation>ディレクティブ (補完のみ)</translation>
+    </message>
+    <message>
+        <source>Documentation keywords</source>
+        <translation>ドキュメントのキーワード</translation>
+    </message>
+    <message>
+        <source>Elements and attributes</source>
+        <translation>要素と属性</translation>
+    </message>
+    <message>
+        <source>Environments (completion only)</source>
+        <translation>環境 (補完のみ)</translation>
+    </message>
+    <message>
+        <source>External commands</source>
+        <translation>外部コマンド</translation>
+    </message>
+    <message>
+        <source>Functions</source>
+        <translation>関数</translation>
+    </message>
+    <message>
+        <source>Functions (completion only)</source>
+        <translation>関数 (補完のみ)</translation>
+    </message>
+    <message>
+        <source>Global variables (without @@)</source>
+        <translation>グローバル変数 (@@ なし)</translation>
+    </message>
+    <message>
+        <source>Information schema</source>
+        <translation>情報スキーマ</translation>
+    </message>
+    <message>
+        <source>JavaScript keywords</source>
+        <translation>JavaScript のキーワード</translation>
+    </message>
+    <message>
+        <source>Keywords</source>
+        <translation>キーワード</translation>
+    </message>
+    <message>
+        <source>Library types</source>
+        <translation>ライブラリの型</translation>
+    </message>
+    <message>
+        <source>Operators</source>
+        <translation>演算子</translation>
+    </message>
+    <message>
+        <source>PHP functions (completion only)</source>
+        <translation>PHP 関数 (補完のみ)</translation>
+    </message>
+    <message>
+        <source>PHP keywords</source>
+        <translation>PHP のキーワード</translation>
+    </message>
+    <message>
+        <source>PL/pgSQL</source>
+        <translation>PL/pgSQL</translation>
+    </message>
+    <message>
+        <source>Pragmas</source>
+        <translation>プラグマ</translation>
+    </message>
+    <message>
+        <source>Procedural keywords</source>
+        <translation>手続きのキーワード</translation>
+    </message>
+    <message>
+        <source>Procedures, table functions and modules</source>
+        <translation>プロシージャ、テーブル関数、モジュール</translation>
+    </message>
+    <message>
+        <source>Properties of CSS 1</source>
+        <translation>CSS 1 のプロパティ</translation>
+    </message>
+    <message>
+        <source>Properties of CSS 2</source>
+        <translation>CSS 2 のプロパティ</translation>
+    </message>
+    <message>
+        <source>Properties of CSS 3</source>
+        <translation>CSS 3 のプロパティ</translation>
+    </message>
+    <message>
+        <source>Properties of one browser</source>
+        <translation>特定ブラウザーのプロパティ</translation>
+    </message>
+    <message>
+        <source>Pseudo-classes</source>
+        <translation>疑似クラス</translation>
+    </message>
+    <message>
+        <source>Pseudo-classes of one browser</source>
+        <translation>特定ブラウザーの疑似クラス</translation>
+    </message>
+    <message>
+        <source>Pseudo-elements</source>
+        <translation>疑似要素</translation>
+    </message>
+    <message>
+        <source>Pseudo-elements of one browser</source>
+        <translation>特定ブラウザーの疑似要素</translation>
+    </message>
+    <message>
+        <source>Python keywords</source>
+        <translation>Python のキーワード</translation>
+    </message>
+    <message>
+        <source>Routines of the schema sys</source>
+        <translation>スキーマ sys のルーチン</translation>
+    </message>
+    <message>
+        <source>Special targets (completion only)</source>
+        <translation>特殊ターゲット (補完のみ)</translation>
+    </message>
+    <message>
+        <source>Statements and clauses</source>
+        <translation>文と句</translation>
+    </message>
+    <message>
+        <source>Supplied packages</source>
+        <translation>付属パッケージ</translation>
+    </message>
+    <message>
+        <source>System and monitoring tables</source>
+        <translation>システムと監視のテーブル</translation>
+    </message>
+    <message>
+        <source>System catalogs and views</source>
+        <translation>システムカタログとビュー</translation>
+    </message>
+    <message>
+        <source>System packages</source>
+        <translation>システムパッケージ</translation>
+    </message>
+    <message>
+        <source>System procedures</source>
+        <translation>システムプロシージャ</translation>
+    </message>
+    <message>
+        <source>System tables and modules</source>
+        <translation>システムのテーブルとモジュール</translation>
+    </message>
+    <message>
+        <source>System tables and views</source>
+        <translation>システムのテーブルとビュー</translation>
+    </message>
+    <message>
+        <source>System variables (without @@)</source>
+        <translation>システム変数 (@@ なし)</translation>
+    </message>
+    <message>
+        <source>Task markers</source>
+        <translation>タスクの印</translation>
+    </message>
+    <message>
+        <source>VBScript keywords</source>
+        <translation>VBScript のキーワード</translation>
+    </message>
+    <message>
+        <source>Values of pragmas</source>
+        <translation>プラグマの値</translation>
+    </message>
+</context>
+<context>
     <name>ZNCoreEditorPlugin</name>
     <message>
         <source>Source Text Editor</source>
@@ -1763,15 +2782,15 @@ Write them?</source>
     </message>
     <message>
         <source>Clear All Bookmarks</source>
-        <translation>すべてのブックマークを削除</translation>
+        <translation>すべてのブックマークを消去</translation>
     </message>
     <message>
         <source>Co&amp;mment Out</source>
-        <translation>コメントアウト(&amp;M)</translation>
+        <translation>コメントにする(&amp;M)</translation>
     </message>
     <message>
         <source>&amp;Uncomment</source>
-        <translation>コメント解除(&amp;U)</translation>
+        <translation>コメントを解除(&amp;U)</translation>
     </message>
     <message>
         <source>Increase Number</source>
@@ -1799,15 +2818,15 @@ Write them?</source>
     </message>
     <message>
         <source>Convert Line Ends to CR+LF (Windows)</source>
-        <translation>改行を CR+LF (Windows) に変換</translation>
+        <translation>改行コードを CR+LF (Windows) に変換</translation>
     </message>
     <message>
         <source>Convert Line Ends to LF (Unix)</source>
-        <translation>改行を LF (Unix) に変換</translation>
+        <translation>改行コードを LF (Unix) に変換</translation>
     </message>
     <message>
         <source>Convert Line Ends to CR (Mac)</source>
-        <translation>改行を CR (Mac) に変換</translation>
+        <translation>改行コードを CR (Mac) に変換</translation>
     </message>
     <message>
         <source>Editor and Language &amp;Preferences...</source>
@@ -1817,20 +2836,17 @@ Write them?</source>
         <source>Insert Template</source>
         <translation>テンプレートを挿入</translation>
     </message>
-</context>
-<context>
-    <name>ZNCoreEditorWidget::Private</name>
     <message>
         <source>&amp;Go to Line...</source>
         <translation>行へ移動(&amp;G)...</translation>
     </message>
     <message>
         <source>Go to Line</source>
-        <translation>行へ移動</translation>
+        <translation>移動先の行</translation>
     </message>
     <message>
         <source>Line:</source>
-        <translation>行:</translation>
+        <translation>移動先の行:</translation>
     </message>
 </context>
 </TS>

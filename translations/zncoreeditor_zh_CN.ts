@@ -625,7 +625,7 @@ Do you want to reload it?</source>
     </message>
     <message>
         <source>&amp;Wrap around search</source>
-        <translation>循环查找(&amp;W)</translation>
+        <translation>循环查找(&amp;O)</translation>
     </message>
     <message>
         <source>Direction</source>
@@ -1516,6 +1516,22 @@ Write them?</source>
 
 是否写入？</translation>
     </message>
+    <message>
+        <source>Light</source>
+        <translation>浅色</translation>
+    </message>
+    <message>
+        <source>Dark</source>
+        <translation>深色</translation>
+    </message>
+    <message>
+        <source>High Contrast</source>
+        <translation>高对比度</translation>
+    </message>
+    <message>
+        <source>Print</source>
+        <translation>打印</translation>
+    </message>
 </context>
 <context>
     <name>SettingsPref</name>
@@ -1663,6 +1679,1009 @@ Write them?</source>
     </message>
 </context>
 <context>
+    <name>SyntaxFiles</name>
+    <message>
+        <source>Declaration</source>
+        <translation>声明</translation>
+    </message>
+    <message>
+        <source>Inactive</source>
+        <translation>非活动</translation>
+    </message>
+    <message>
+        <source>JavaScript</source>
+        <translation>JavaScript</translation>
+    </message>
+    <message>
+        <source>PHP</source>
+        <translation>PHP</translation>
+    </message>
+    <message>
+        <source>Python</source>
+        <translation>Python</translation>
+    </message>
+    <message>
+        <source>Server JavaScript</source>
+        <translation>服务器 JavaScript</translation>
+    </message>
+    <message>
+        <source>Server Python</source>
+        <translation>服务器 Python</translation>
+    </message>
+    <message>
+        <source>Server VBScript</source>
+        <translation>服务器 VBScript</translation>
+    </message>
+    <message>
+        <source>VBScript</source>
+        <translation>VBScript</translation>
+    </message>
+    <message>
+        <source>.NET message</source>
+        <translation>.NET 消息</translation>
+    </message>
+    <message>
+        <source>Absoft message</source>
+        <translation>Absoft 消息</translation>
+    </message>
+    <message>
+        <source>Added line</source>
+        <translation>添加的行</translation>
+    </message>
+    <message>
+        <source>Added line of a removed patch</source>
+        <translation>已移除补丁中添加的行</translation>
+    </message>
+    <message>
+        <source>Added line of an added patch</source>
+        <translation>已添加补丁中添加的行</translation>
+    </message>
+    <message>
+        <source>Array</source>
+        <translation>数组</translation>
+    </message>
+    <message>
+        <source>Assembler</source>
+        <translation>汇编</translation>
+    </message>
+    <message>
+        <source>Assignment</source>
+        <translation>赋值</translation>
+    </message>
+    <message>
+        <source>At-rule</source>
+        <translation>@ 规则</translation>
+    </message>
+    <message>
+        <source>Attribute</source>
+        <translation>属性</translation>
+    </message>
+    <message>
+        <source>Attribute selector</source>
+        <translation>属性选择器</translation>
+    </message>
+    <message>
+        <source>Backticks</source>
+        <translation>反引号</translation>
+    </message>
+    <message>
+        <source>Binary number</source>
+        <translation>二进制数</translation>
+    </message>
+    <message>
+        <source>Block</source>
+        <translation>块</translation>
+    </message>
+    <message>
+        <source>Block comment</source>
+        <translation>块注释</translation>
+    </message>
+    <message>
+        <source>Body of a format</source>
+        <translation>格式主体</translation>
+    </message>
+    <message>
+        <source>Borland message</source>
+        <translation>Borland 消息</translation>
+    </message>
+    <message>
+        <source>CDATA section</source>
+        <translation>CDATA 节</translation>
+    </message>
+    <message>
+        <source>Call tips</source>
+        <translation>调用提示</translation>
+    </message>
+    <message>
+        <source>Changed line</source>
+        <translation>更改的行</translation>
+    </message>
+    <message>
+        <source>Character</source>
+        <translation>字符</translation>
+    </message>
+    <message>
+        <source>Class name</source>
+        <translation>类名</translation>
+    </message>
+    <message>
+        <source>Class selector</source>
+        <translation>类选择器</translation>
+    </message>
+    <message>
+        <source>Client command</source>
+        <translation>客户端命令</translation>
+    </message>
+    <message>
+        <source>Client comment</source>
+        <translation>客户端注释</translation>
+    </message>
+    <message>
+        <source>Client prompt</source>
+        <translation>客户端提示符</translation>
+    </message>
+    <message>
+        <source>Command</source>
+        <translation>命令</translation>
+    </message>
+    <message>
+        <source>Command with qx</source>
+        <translation>qx 命令</translation>
+    </message>
+    <message>
+        <source>Comment</source>
+        <translation>注释</translation>
+    </message>
+    <message>
+        <source>Comment block</source>
+        <translation>注释块</translation>
+    </message>
+    <message>
+        <source>Comment in a directive</source>
+        <translation>指令中的注释</translation>
+    </message>
+    <message>
+        <source>Comment in a parameter</source>
+        <translation>参数中的注释</translation>
+    </message>
+    <message>
+        <source>Constant</source>
+        <translation>常量</translation>
+    </message>
+    <message>
+        <source>Constant of the lexer</source>
+        <translation>词法分析器常量</translation>
+    </message>
+    <message>
+        <source>Control characters</source>
+        <translation>控制字符</translation>
+    </message>
+    <message>
+        <source>Data section</source>
+        <translation>数据节</translation>
+    </message>
+    <message>
+        <source>Data type</source>
+        <translation>数据类型</translation>
+    </message>
+    <message>
+        <source>Date</source>
+        <translation>日期</translation>
+    </message>
+    <message>
+        <source>Default</source>
+        <translation>默认</translation>
+    </message>
+    <message>
+        <source>Default value</source>
+        <translation>默认值</translation>
+    </message>
+    <message>
+        <source>Delimiter of a here document</source>
+        <translation>嵌入文档定界符</translation>
+    </message>
+    <message>
+        <source>Displayed mathematics</source>
+        <translation>独立公式</translation>
+    </message>
+    <message>
+        <source>Documentation</source>
+        <translation>文档</translation>
+    </message>
+    <message>
+        <source>Documentation comment</source>
+        <translation>文档注释</translation>
+    </message>
+    <message>
+        <source>Documentation comment in a directive</source>
+        <translation>指令中的文档注释</translation>
+    </message>
+    <message>
+        <source>Documentation keyword</source>
+        <translation>文档关键字</translation>
+    </message>
+    <message>
+        <source>Documentation line comment</source>
+        <translation>文档行注释</translation>
+    </message>
+    <message>
+        <source>Element selector</source>
+        <translation>元素选择器</translation>
+    </message>
+    <message>
+        <source>End of a tag</source>
+        <translation>标记结束</translation>
+    </message>
+    <message>
+        <source>End of an XML fragment</source>
+        <translation>XML 片段结束</translation>
+    </message>
+    <message>
+        <source>End of an environment</source>
+        <translation>环境结束</translation>
+    </message>
+    <message>
+        <source>Entity</source>
+        <translation>实体</translation>
+    </message>
+    <message>
+        <source>Environment</source>
+        <translation>环境</translation>
+    </message>
+    <message>
+        <source>Error</source>
+        <translation>错误</translation>
+    </message>
+    <message>
+        <source>Escape sequence</source>
+        <translation>转义序列</translation>
+    </message>
+    <message>
+        <source>External command</source>
+        <translation>外部命令</translation>
+    </message>
+    <message>
+        <source>First parameter</source>
+        <translation>第一个参数</translation>
+    </message>
+    <message>
+        <source>Folded text</source>
+        <translation>折叠的文本</translation>
+    </message>
+    <message>
+        <source>Fortran message</source>
+        <translation>Fortran 消息</translation>
+    </message>
+    <message>
+        <source>Function</source>
+        <translation>函数</translation>
+    </message>
+    <message>
+        <source>Function name</source>
+        <translation>函数名</translation>
+    </message>
+    <message>
+        <source>Further keyword</source>
+        <translation>其他关键字</translation>
+    </message>
+    <message>
+        <source>GCC message</source>
+        <translation>GCC 消息</translation>
+    </message>
+    <message>
+        <source>Global class</source>
+        <translation>全局类</translation>
+    </message>
+    <message>
+        <source>Global variable</source>
+        <translation>全局变量</translation>
+    </message>
+    <message>
+        <source>HTML checker message</source>
+        <translation>HTML 检查器消息</translation>
+    </message>
+    <message>
+        <source>Hash</source>
+        <translation>哈希</translation>
+    </message>
+    <message>
+        <source>Header</source>
+        <translation>头</translation>
+    </message>
+    <message>
+        <source>Here document in backticks</source>
+        <translation>反引号嵌入文档</translation>
+    </message>
+    <message>
+        <source>Here document in double quotes</source>
+        <translation>双引号嵌入文档</translation>
+    </message>
+    <message>
+        <source>Here document in single quotes</source>
+        <translation>单引号嵌入文档</translation>
+    </message>
+    <message>
+        <source>Hexadecimal number</source>
+        <translation>十六进制数</translation>
+    </message>
+    <message>
+        <source>Identifier</source>
+        <translation>标识符</translation>
+    </message>
+    <message>
+        <source>Identifier in backticks</source>
+        <translation>反引号标识符</translation>
+    </message>
+    <message>
+        <source>Identifier in backticks or brackets</source>
+        <translation>反引号或方括号标识符</translation>
+    </message>
+    <message>
+        <source>Identifier in brackets</source>
+        <translation>方括号标识符</translation>
+    </message>
+    <message>
+        <source>Identifier in double quotes</source>
+        <translation>双引号标识符</translation>
+    </message>
+    <message>
+        <source>Identifier selector</source>
+        <translation>ID 选择器</translation>
+    </message>
+    <message>
+        <source>Important</source>
+        <translation>重要</translation>
+    </message>
+    <message>
+        <source>Including file</source>
+        <translation>包含方文件</translation>
+    </message>
+    <message>
+        <source>Indentation guides</source>
+        <translation>缩进参考线</translation>
+    </message>
+    <message>
+        <source>Intel Fortran message</source>
+        <translation>Intel Fortran 消息</translation>
+    </message>
+    <message>
+        <source>Java stack line</source>
+        <translation>Java 堆栈行</translation>
+    </message>
+    <message>
+        <source>Key</source>
+        <translation>键</translation>
+    </message>
+    <message>
+        <source>Keyword</source>
+        <translation>关键字</translation>
+    </message>
+    <message>
+        <source>Label</source>
+        <translation>标签</translation>
+    </message>
+    <message>
+        <source>Library type</source>
+        <translation>库类型</translation>
+    </message>
+    <message>
+        <source>Line comment</source>
+        <translation>行注释</translation>
+    </message>
+    <message>
+        <source>Line numbers</source>
+        <translation>行号</translation>
+    </message>
+    <message>
+        <source>Linker message</source>
+        <translation>链接器消息</translation>
+    </message>
+    <message>
+        <source>List with qw</source>
+        <translation>qw 列表</translation>
+    </message>
+    <message>
+        <source>Long quote</source>
+        <translation>长引用</translation>
+    </message>
+    <message>
+        <source>Lua message</source>
+        <translation>Lua 消息</translation>
+    </message>
+    <message>
+        <source>Mark that hides a command</source>
+        <translation>隐藏命令的标记</translation>
+    </message>
+    <message>
+        <source>Markup declaration</source>
+        <translation>标记声明</translation>
+    </message>
+    <message>
+        <source>Matching brace</source>
+        <translation>匹配的括号</translation>
+    </message>
+    <message>
+        <source>Mathematics</source>
+        <translation>数学公式</translation>
+    </message>
+    <message>
+        <source>Microsoft message</source>
+        <translation>Microsoft 消息</translation>
+    </message>
+    <message>
+        <source>Name of a format</source>
+        <translation>格式名称</translation>
+    </message>
+    <message>
+        <source>Number</source>
+        <translation>数字</translation>
+    </message>
+    <message>
+        <source>Operator</source>
+        <translation>运算符</translation>
+    </message>
+    <message>
+        <source>Option of a command</source>
+        <translation>命令选项</translation>
+    </message>
+    <message>
+        <source>Other inside a tag</source>
+        <translation>标记内的其他内容</translation>
+    </message>
+    <message>
+        <source>PHP mark</source>
+        <translation>PHP 标记</translation>
+    </message>
+    <message>
+        <source>PHP message</source>
+        <translation>PHP 消息</translation>
+    </message>
+    <message>
+        <source>Patch message</source>
+        <translation>补丁消息</translation>
+    </message>
+    <message>
+        <source>Perl message</source>
+        <translation>Perl 消息</translation>
+    </message>
+    <message>
+        <source>Position</source>
+        <translation>位置</translation>
+    </message>
+    <message>
+        <source>Preprocessor</source>
+        <translation>预处理器</translation>
+    </message>
+    <message>
+        <source>Procedure</source>
+        <translation>过程</translation>
+    </message>
+    <message>
+        <source>Property</source>
+        <translation>属性</translation>
+    </message>
+    <message>
+        <source>Property of CSS 2</source>
+        <translation>CSS 2 属性</translation>
+    </message>
+    <message>
+        <source>Property of CSS 3</source>
+        <translation>CSS 3 属性</translation>
+    </message>
+    <message>
+        <source>Property of one browser</source>
+        <translation>特定浏览器的属性</translation>
+    </message>
+    <message>
+        <source>Prototype</source>
+        <translation>原型</translation>
+    </message>
+    <message>
+        <source>Pseudo-class</source>
+        <translation>伪类</translation>
+    </message>
+    <message>
+        <source>Pseudo-class of one browser</source>
+        <translation>特定浏览器的伪类</translation>
+    </message>
+    <message>
+        <source>Pseudo-element</source>
+        <translation>伪元素</translation>
+    </message>
+    <message>
+        <source>Pseudo-element of one browser</source>
+        <translation>特定浏览器的伪元素</translation>
+    </message>
+    <message>
+        <source>Punctuation</source>
+        <translation>标点</translation>
+    </message>
+    <message>
+        <source>Python message</source>
+        <translation>Python 消息</translation>
+    </message>
+    <message>
+        <source>Quoting operator</source>
+        <translation>引用运算符</translation>
+    </message>
+    <message>
+        <source>Raw string</source>
+        <translation>原始字符串</translation>
+    </message>
+    <message>
+        <source>Regular expression</source>
+        <translation>正则表达式</translation>
+    </message>
+    <message>
+        <source>Regular expression with qr</source>
+        <translation>qr 正则表达式</translation>
+    </message>
+    <message>
+        <source>Removed line</source>
+        <translation>移除的行</translation>
+    </message>
+    <message>
+        <source>Removed line of a removed patch</source>
+        <translation>已移除补丁中移除的行</translation>
+    </message>
+    <message>
+        <source>Removed line of an added patch</source>
+        <translation>已添加补丁中移除的行</translation>
+    </message>
+    <message>
+        <source>Rule of a group</source>
+        <translation>组规则</translation>
+    </message>
+    <message>
+        <source>Scalar</source>
+        <translation>标量</translation>
+    </message>
+    <message>
+        <source>Script tag</source>
+        <translation>脚本标记</translation>
+    </message>
+    <message>
+        <source>Section</source>
+        <translation>节</translation>
+    </message>
+    <message>
+        <source>Server comment</source>
+        <translation>服务器注释</translation>
+    </message>
+    <message>
+        <source>Server script</source>
+        <translation>服务器脚本</translation>
+    </message>
+    <message>
+        <source>Server script mark</source>
+        <translation>服务器脚本标记</translation>
+    </message>
+    <message>
+        <source>Setting or pragma</source>
+        <translation>设置或编译指示</translation>
+    </message>
+    <message>
+        <source>Short command</source>
+        <translation>短命令</translation>
+    </message>
+    <message>
+        <source>Special</source>
+        <translation>特殊</translation>
+    </message>
+    <message>
+        <source>Special character</source>
+        <translation>特殊字符</translation>
+    </message>
+    <message>
+        <source>Start</source>
+        <translation>开始</translation>
+    </message>
+    <message>
+        <source>Start of an XML fragment</source>
+        <translation>XML 片段开始</translation>
+    </message>
+    <message>
+        <source>Statement</source>
+        <translation>语句</translation>
+    </message>
+    <message>
+        <source>String</source>
+        <translation>字符串</translation>
+    </message>
+    <message>
+        <source>String in double quotes</source>
+        <translation>双引号字符串</translation>
+    </message>
+    <message>
+        <source>String in single quotes</source>
+        <translation>单引号字符串</translation>
+    </message>
+    <message>
+        <source>String with hash marks</source>
+        <translation>带井号的字符串</translation>
+    </message>
+    <message>
+        <source>String with q</source>
+        <translation>q 字符串</translation>
+    </message>
+    <message>
+        <source>String with qq</source>
+        <translation>qq 字符串</translation>
+    </message>
+    <message>
+        <source>Substitution</source>
+        <translation>替换</translation>
+    </message>
+    <message>
+        <source>Symbol</source>
+        <translation>符号</translation>
+    </message>
+    <message>
+        <source>Symbol table</source>
+        <translation>符号表</translation>
+    </message>
+    <message>
+        <source>System object</source>
+        <translation>系统对象</translation>
+    </message>
+    <message>
+        <source>System table or view</source>
+        <translation>系统表或视图</translation>
+    </message>
+    <message>
+        <source>Tag</source>
+        <translation>标记</translation>
+    </message>
+    <message>
+        <source>Target</source>
+        <translation>目标</translation>
+    </message>
+    <message>
+        <source>Task marker</source>
+        <translation>任务标记</translation>
+    </message>
+    <message>
+        <source>Text</source>
+        <translation>文本</translation>
+    </message>
+    <message>
+        <source>Text before a data type</source>
+        <translation>数据类型前的文本</translation>
+    </message>
+    <message>
+        <source>Transliteration</source>
+        <translation>音译</translation>
+    </message>
+    <message>
+        <source>Triple double quotes</source>
+        <translation>三重双引号</translation>
+    </message>
+    <message>
+        <source>Triple single quotes</source>
+        <translation>三重单引号</translation>
+    </message>
+    <message>
+        <source>Triple-quoted string</source>
+        <translation>三引号字符串</translation>
+    </message>
+    <message>
+        <source>UUID</source>
+        <translation>UUID</translation>
+    </message>
+    <message>
+        <source>Unclosed string</source>
+        <translation>未闭合的字符串</translation>
+    </message>
+    <message>
+        <source>Unknown attribute</source>
+        <translation>未知属性</translation>
+    </message>
+    <message>
+        <source>Unknown documentation keyword</source>
+        <translation>未知文档关键字</translation>
+    </message>
+    <message>
+        <source>Unknown property</source>
+        <translation>未知属性名</translation>
+    </message>
+    <message>
+        <source>Unknown pseudo-class</source>
+        <translation>未知伪类</translation>
+    </message>
+    <message>
+        <source>Unknown tag</source>
+        <translation>未知标记</translation>
+    </message>
+    <message>
+        <source>Unmatched brace</source>
+        <translation>不匹配的括号</translation>
+    </message>
+    <message>
+        <source>Unquoted value</source>
+        <translation>无引号的值</translation>
+    </message>
+    <message>
+        <source>User keyword</source>
+        <translation>用户关键字</translation>
+    </message>
+    <message>
+        <source>User literal</source>
+        <translation>用户字面量</translation>
+    </message>
+    <message>
+        <source>Value</source>
+        <translation>值</translation>
+    </message>
+    <message>
+        <source>Variable</source>
+        <translation>变量</translation>
+    </message>
+    <message>
+        <source>Variable in a command document</source>
+        <translation>命令文档中的变量</translation>
+    </message>
+    <message>
+        <source>Variable in a complex expression</source>
+        <translation>复杂表达式中的变量</translation>
+    </message>
+    <message>
+        <source>Variable in a here document</source>
+        <translation>嵌入文档中的变量</translation>
+    </message>
+    <message>
+        <source>Variable in a regular expression</source>
+        <translation>正则表达式中的变量</translation>
+    </message>
+    <message>
+        <source>Variable in a string</source>
+        <translation>字符串中的变量</translation>
+    </message>
+    <message>
+        <source>Variable in a substitution</source>
+        <translation>替换中的变量</translation>
+    </message>
+    <message>
+        <source>Variable in backticks</source>
+        <translation>反引号中的变量</translation>
+    </message>
+    <message>
+        <source>Variable in qq</source>
+        <translation>qq 中的变量</translation>
+    </message>
+    <message>
+        <source>Variable in qr</source>
+        <translation>qr 中的变量</translation>
+    </message>
+    <message>
+        <source>Variable in qx</source>
+        <translation>qx 中的变量</translation>
+    </message>
+    <message>
+        <source>Variable indexer</source>
+        <translation>变量索引</translation>
+    </message>
+    <message>
+        <source>Verbatim documentation</source>
+        <translation>原样文档</translation>
+    </message>
+    <message>
+        <source>Verbatim string</source>
+        <translation>原样字符串</translation>
+    </message>
+    <message>
+        <source>Verbatim text</source>
+        <translation>原样文本</translation>
+    </message>
+    <message>
+        <source>Word</source>
+        <translation>单词</translation>
+    </message>
+    <message>
+        <source>Catalog and administrative views</source>
+        <translation>目录和管理视图</translation>
+    </message>
+    <message>
+        <source>Commands</source>
+        <translation>命令</translation>
+    </message>
+    <message>
+        <source>Commands (completion only)</source>
+        <translation>命令 (仅补全)</translation>
+    </message>
+    <message>
+        <source>Configuration parameters</source>
+        <translation>配置参数</translation>
+    </message>
+    <message>
+        <source>Constants</source>
+        <translation>常量</translation>
+    </message>
+    <message>
+        <source>Data types</source>
+        <translation>数据类型</translation>
+    </message>
+    <message>
+        <source>Declaration keywords</source>
+        <translation>声明关键字</translation>
+    </message>
+    <message>
+        <source>Diagnostics items</source>
+        <translation>诊断项</translation>
+    </message>
+    <message>
+        <source>Dictionary and performance views</source>
+        <translation>字典和性能视图</translation>
+    </message>
+    <message>
+        <source>Directives (completion only)</source>
+        <translation>指令 (仅补全)</translation>
+    </message>
+    <message>
+        <source>Documentation keywords</source>
+        <translation>文档关键字</translation>
+    </message>
+    <message>
+        <source>Elements and attributes</source>
+        <translation>元素和属性</translation>
+    </message>
+    <message>
+        <source>Environments (completion only)</source>
+        <translation>环境 (仅补全)</translation>
+    </message>
+    <message>
+        <source>External commands</source>
+        <translation>外部命令</translation>
+    </message>
+    <message>
+        <source>Functions</source>
+        <translation>函数</translation>
+    </message>
+    <message>
+        <source>Functions (completion only)</source>
+        <translation>函数 (仅补全)</translation>
+    </message>
+    <message>
+        <source>Global variables (without @@)</source>
+        <translation>全局变量 (不带 @@)</translation>
+    </message>
+    <message>
+        <source>Information schema</source>
+        <translation>信息架构</translation>
+    </message>
+    <message>
+        <source>JavaScript keywords</source>
+        <translation>JavaScript 关键字</translation>
+    </message>
+    <message>
+        <source>Keywords</source>
+        <translation>关键字</translation>
+    </message>
+    <message>
+        <source>Library types</source>
+        <translation>库类型</translation>
+    </message>
+    <message>
+        <source>Operators</source>
+        <translation>运算符</translation>
+    </message>
+    <message>
+        <source>PHP functions (completion only)</source>
+        <translation>PHP 函数 (仅补全)</translation>
+    </message>
+    <message>
+        <source>PHP keywords</source>
+        <translation>PHP 关键字</translation>
+    </message>
+    <message>
+        <source>PL/pgSQL</source>
+        <translation>PL/pgSQL</translation>
+    </message>
+    <message>
+        <source>Pragmas</source>
+        <translation>编译指示</translation>
+    </message>
+    <message>
+        <source>Procedural keywords</source>
+        <translation>过程关键字</translation>
+    </message>
+    <message>
+        <source>Procedures, table functions and modules</source>
+        <translation>过程、表函数和模块</translation>
+    </message>
+    <message>
+        <source>Properties of CSS 1</source>
+        <translation>CSS 1 属性</translation>
+    </message>
+    <message>
+        <source>Properties of CSS 2</source>
+        <translation>CSS 2 属性</translation>
+    </message>
+    <message>
+        <source>Properties of CSS 3</source>
+        <translation>CSS 3 属性</translation>
+    </message>
+    <message>
+        <source>Properties of one browser</source>
+        <translation>特定浏览器的属性</translation>
+    </message>
+    <message>
+        <source>Pseudo-classes</source>
+        <translation>伪类</translation>
+    </message>
+    <message>
+        <source>Pseudo-classes of one browser</source>
+        <translation>特定浏览器的伪类</translation>
+    </message>
+    <message>
+        <source>Pseudo-elements</source>
+        <translation>伪元素</translation>
+    </message>
+    <message>
+        <source>Pseudo-elements of one browser</source>
+        <translation>特定浏览器的伪元素</translation>
+    </message>
+    <message>
+        <source>Python keywords</source>
+        <translation>Python 关键字</translation>
+    </message>
+    <message>
+        <source>Routines of the schema sys</source>
+        <translation>sys 架构的例程</translation>
+    </message>
+    <message>
+        <source>Special targets (completion only)</source>
+        <translation>特殊目标 (仅补全)</translation>
+    </message>
+    <message>
+        <source>Statements and clauses</source>
+        <translation>语句和子句</translation>
+    </message>
+    <message>
+        <source>Supplied packages</source>
+        <translation>自带的包</translation>
+    </message>
+    <message>
+        <source>System and monitoring tables</source>
+        <translation>系统和监控表</translation>
+    </message>
+    <message>
+        <source>System catalogs and views</source>
+        <translation>系统目录和视图</translation>
+    </message>
+    <message>
+        <source>System packages</source>
+        <translation>系统包</translation>
+    </message>
+    <message>
+        <source>System procedures</source>
+        <translation>系统过程</translation>
+    </message>
+    <message>
+        <source>System tables and modules</source>
+        <translation>系统表和模块</translation>
+    </message>
+    <message>
+        <source>System tables and views</source>
+        <translation>系统表和视图</translation>
+    </message>
+    <message>
+        <source>System variables (without @@)</source>
+        <translation>系统变量 (不带 @@)</translation>
+    </message>
+    <message>
+        <source>Task markers</source>
+        <translation>任务标记</translation>
+    </message>
+    <message>
+        <source>VBScript keywords</source>
+        <translation>VBScript 关键字</translation>
+    </message>
+    <message>
+        <source>Values of pragmas</source>
+        <translation>编译指示的值</translation>
+    </message>
+</context>
+<context>
     <name>ZNCoreEditorPlugin</name>
     <message>
         <source>Source Text Editor</source>
@@ -1799,15 +2818,15 @@ Write them?</source>
     </message>
     <message>
         <source>Convert Line Ends to CR+LF (Windows)</source>
-        <translation>将行尾转换为 CR+LF (Windows)</translation>
+        <translation>行尾转换为 CR+LF (Windows)</translation>
     </message>
     <message>
         <source>Convert Line Ends to LF (Unix)</source>
-        <translation>将行尾转换为 LF (Unix)</translation>
+        <translation>行尾转换为 LF (Unix)</translation>
     </message>
     <message>
         <source>Convert Line Ends to CR (Mac)</source>
-        <translation>将行尾转换为 CR (Mac)</translation>
+        <translation>行尾转换为 CR (Mac)</translation>
     </message>
     <message>
         <source>Editor and Language &amp;Preferences...</source>
@@ -1817,9 +2836,6 @@ Write them?</source>
         <source>Insert Template</source>
         <translation>插入模板</translation>
     </message>
-</context>
-<context>
-    <name>ZNCoreEditorWidget::Private</name>
     <message>
         <source>&amp;Go to Line...</source>
         <translation>转到行(&amp;G)...</translation>
@@ -1830,7 +2846,7 @@ Write them?</source>
     </message>
     <message>
         <source>Line:</source>
-        <translation>行：</translation>
+        <translation>转到行：</translation>
     </message>
 </context>
 </TS>

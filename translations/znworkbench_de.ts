@@ -105,7 +105,7 @@ Mit Qt %1. Lizenziert unter der GNU General Public License, Version 3 oder spät
     </message>
     <message>
         <source>&amp;Uncomment</source>
-        <translation>&amp;Kommentar aufheben</translation>
+        <translation>K&amp;ommentar aufheben</translation>
     </message>
     <message>
         <source>Comment &amp;Lines Out</source>
@@ -145,15 +145,15 @@ Mit Qt %1. Lizenziert unter der GNU General Public License, Version 3 oder spät
     </message>
     <message>
         <source>Convert Line Ends to C&amp;R+LF (Windows)</source>
-        <translation>Zeilenenden in &amp;CR+LF (Windows) umwandeln</translation>
+        <translation>Zeilenenden in CR+LF (&amp;Windows) umwandeln</translation>
     </message>
     <message>
         <source>Convert Line Ends to L&amp;F (Unix)</source>
-        <translation>Zeilenenden in LF (&amp;Unix) umwandeln</translation>
+        <translation>Zeilenenden &amp;in LF (Unix) umwandeln</translation>
     </message>
     <message>
         <source>Convert Line Ends to CR (&amp;Mac)</source>
-        <translation>Zeilenenden &amp;in CR (Mac) umwandeln</translation>
+        <translation>Zeilenenden in &amp;CR (Mac) umwandeln</translation>
     </message>
     <message>
         <source>&amp;Upper Case</source>
@@ -209,11 +209,11 @@ Mit Qt %1. Lizenziert unter der GNU General Public License, Version 3 oder spät
     </message>
     <message>
         <source>&amp;Paragraph</source>
-        <translation>&amp;Absatz</translation>
+        <translation>A&amp;bsatz</translation>
     </message>
     <message>
         <source>To Matching &amp;Brace</source>
-        <translation>&amp;Bis zur zugehörigen Klammer</translation>
+        <translation>Bis zur zugehörigen &amp;Klammer</translation>
     </message>
     <message>
         <source>&amp;Caret to the Other End</source>
@@ -402,11 +402,11 @@ Mit Qt %1. Lizenziert unter der GNU General Public License, Version 3 oder spät
     </message>
     <message>
         <source>&amp;Groups by ( and )</source>
-        <translation>Gruppen &amp;mit ( und )</translation>
+        <translation>&amp;Gruppen mit ( und )</translation>
     </message>
     <message>
         <source>G&amp;roups by \( and \)</source>
-        <translation>&amp;Gruppen mit \( und \)</translation>
+        <translation>Gruppen &amp;mit \( und \)</translation>
     </message>
 </context>
 <context>
@@ -521,11 +521,11 @@ Mit Qt %1. Lizenziert unter der GNU General Public License, Version 3 oder spät
     </message>
     <message>
         <source>Find the &amp;Word Next</source>
-        <translation>Wor&amp;t am Cursor weitersuchen</translation>
+        <translation>W&amp;ort am Cursor weitersuchen</translation>
     </message>
     <message>
         <source>Find the W&amp;ord Previous</source>
-        <translation>W&amp;ort am Cursor rückwärts suchen</translation>
+        <translation>Wor&amp;t am Cursor rückwärts suchen</translation>
     </message>
     <message>
         <source>&amp;Replace</source>
@@ -753,7 +753,7 @@ Mit Qt %1. Lizenziert unter der GNU General Public License, Version 3 oder spät
     </message>
     <message>
         <source>&amp;Save</source>
-        <translation>S&amp;peichern</translation>
+        <translation>&amp;Speichern</translation>
     </message>
     <message>
         <source>Save &amp;As...</source>
@@ -769,7 +769,7 @@ Mit Qt %1. Lizenziert unter der GNU General Public License, Version 3 oder spät
     </message>
     <message>
         <source>Read Onl&amp;y</source>
-        <translation>S&amp;chreibgeschützt</translation>
+        <translation>Schrei&amp;bgeschützt</translation>
     </message>
     <message>
         <source>&amp;Print...</source>
@@ -781,7 +781,7 @@ Mit Qt %1. Lizenziert unter der GNU General Public License, Version 3 oder spät
     </message>
     <message>
         <source>Save as PD&amp;F...</source>
-        <translation>Als PDF sp&amp;eichern...</translation>
+        <translation>Als &amp;PDF speichern...</translation>
     </message>
     <message>
         <source>Save as &amp;HTML...</source>
@@ -789,7 +789,7 @@ Mit Qt %1. Lizenziert unter der GNU General Public License, Version 3 oder spät
     </message>
     <message>
         <source>&amp;Close</source>
-        <translation>&amp;Schließen</translation>
+        <translation>S&amp;chließen</translation>
     </message>
     <message>
         <source>Reopen Closed Ta&amp;b</source>
@@ -797,7 +797,7 @@ Mit Qt %1. Lizenziert unter der GNU General Public License, Version 3 oder spät
     </message>
     <message>
         <source>&amp;Quit</source>
-        <translation>&amp;Beenden</translation>
+        <translation>B&amp;eenden</translation>
     </message>
     <message>
         <source>&amp;Undo</source>
@@ -885,7 +885,7 @@ Mit Qt %1. Lizenziert unter der GNU General Public License, Version 3 oder spät
     </message>
     <message>
         <source>&amp;Reset Zoom</source>
-        <translation>Zoo&amp;m zurücksetzen</translation>
+        <translation>Z&amp;oom zurücksetzen</translation>
     </message>
     <message>
         <source>&amp;Whitespace</source>
@@ -897,7 +897,7 @@ Mit Qt %1. Lizenziert unter der GNU General Public License, Version 3 oder spät
     </message>
     <message>
         <source>Wrap &amp;Lines</source>
-        <translation>Lan&amp;ge Zeilen umbrechen</translation>
+        <translation>Lange Zeilen &amp;umbrechen</translation>
     </message>
     <message>
         <source>Split &amp;Above and Below</source>
@@ -909,7 +909,7 @@ Mit Qt %1. Lizenziert unter der GNU General Public License, Version 3 oder spät
     </message>
     <message>
         <source>Ot&amp;her Pane</source>
-        <translation>&amp;Anderer Bereich</translation>
+        <translation>An&amp;derer Bereich</translation>
     </message>
     <message>
         <source>Previo&amp;us Pane</source>
@@ -921,7 +921,7 @@ Mit Qt %1. Lizenziert unter der GNU General Public License, Version 3 oder spät
     </message>
     <message>
         <source>New &amp;View</source>
-        <translation>Ne&amp;ue Ansicht</translation>
+        <translation>Neue &amp;Ansicht</translation>
     </message>
     <message>
         <source>Next Proble&amp;m</source>
@@ -933,7 +933,7 @@ Mit Qt %1. Lizenziert unter der GNU General Public License, Version 3 oder spät
     </message>
     <message>
         <source>&amp;Previous Script</source>
-        <translation>V&amp;orheriges Skript</translation>
+        <translation>Vo&amp;rheriges Skript</translation>
     </message>
     <message>
         <source>&amp;Expanded Script</source>
@@ -941,11 +941,11 @@ Mit Qt %1. Lizenziert unter der GNU General Public License, Version 3 oder spät
     </message>
     <message>
         <source>&amp;Record Macro</source>
-        <translation>Mak&amp;ro aufzeichnen</translation>
+        <translation>Ma&amp;kro aufzeichnen</translation>
     </message>
     <message>
         <source>Pla&amp;y Macro</source>
-        <translation>Ma&amp;kro abspielen</translation>
+        <translation>Makro &amp;abspielen</translation>
     </message>
     <message>
         <source>Repea&amp;t Macro...</source>
@@ -977,7 +977,7 @@ Mit Qt %1. Lizenziert unter der GNU General Public License, Version 3 oder spät
     </message>
     <message>
         <source>&amp;Autosave...</source>
-        <translation>&amp;Automatisch sichern...</translation>
+        <translation>A&amp;utomatisch sichern...</translation>
     </message>
     <message>
         <source>&amp;Keys</source>
@@ -1028,6 +1028,14 @@ Mit Qt %1. Lizenziert unter der GNU General Public License, Version 3 oder spät
             <numerusform>   %n Treffer und mehr</numerusform>
             <numerusform>   %n Treffer und mehr</numerusform>
         </translation>
+    </message>
+    <message>
+        <source>Find Results</source>
+        <translation>Suchergebnisse</translation>
+    </message>
+    <message>
+        <source>Find Results 2</source>
+        <translation>Suchergebnisse 2</translation>
     </message>
 </context>
 <context>
@@ -1474,6 +1482,10 @@ Mit Qt %1. Lizenziert unter der GNU General Public License, Version 3 oder spät
     <message>
         <source>%1 and its copy differ in their encoding alone.</source>
         <translation>%1 und die Kopie unterscheiden sich nur in der Kodierung.</translation>
+    </message>
+    <message>
+        <source>none</source>
+        <translation>keine</translation>
     </message>
 </context>
 <context>

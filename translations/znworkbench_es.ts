@@ -77,7 +77,7 @@ Con Qt %1. Con licencia pública general de GNU, versión 3 o posterior.</transl
     <name>EditingMenu</name>
     <message>
         <source>C&amp;omments</source>
-        <translation>&amp;Comentarios</translation>
+        <translation>Comen&amp;tarios</translation>
     </message>
     <message>
         <source>&amp;Indentation</source>
@@ -93,7 +93,7 @@ Con Qt %1. Con licencia pública general de GNU, versión 3 o posterior.</transl
     </message>
     <message>
         <source>&amp;Select</source>
-        <translation>&amp;Seleccionar</translation>
+        <translation>Selecc&amp;ionar</translation>
     </message>
     <message>
         <source>&amp;Bookmarks</source>
@@ -101,7 +101,7 @@ Con Qt %1. Con licencia pública general de GNU, versión 3 o posterior.</transl
     </message>
     <message>
         <source>&amp;Comment Out</source>
-        <translation>&amp;Comentar</translation>
+        <translation>C&amp;omentar</translation>
     </message>
     <message>
         <source>&amp;Uncomment</source>
@@ -133,11 +133,11 @@ Con Qt %1. Con licencia pública general de GNU, versión 3 o posterior.</transl
     </message>
     <message>
         <source>Sort &amp;Ascending</source>
-        <translation>&amp;Ordenar de forma ascendente</translation>
+        <translation>Ordenar &amp;de forma ascendente</translation>
     </message>
     <message>
         <source>Sort &amp;Descending</source>
-        <translation>Ordenar &amp;de forma descendente</translation>
+        <translation>&amp;Ordenar de forma descendente</translation>
     </message>
     <message>
         <source>&amp;End the Last Line</source>
@@ -173,11 +173,11 @@ Con Qt %1. Con licencia pública general de GNU, versión 3 o posterior.</transl
     </message>
     <message>
         <source>Lower Case of a Wo&amp;rd</source>
-        <translation>Pala&amp;bra en minúsculas</translation>
+        <translation>&amp;Palabra en minúsculas</translation>
     </message>
     <message>
         <source>Capi&amp;talize a Word</source>
-        <translation>Palab&amp;ra con mayúscula inicial</translation>
+        <translation>Pala&amp;bra con mayúscula inicial</translation>
     </message>
     <message>
         <source>D&amp;elete a Word</source>
@@ -189,7 +189,7 @@ Con Qt %1. Con licencia pública general de GNU, versión 3 o posterior.</transl
     </message>
     <message>
         <source>Swap &amp;Words</source>
-        <translation>Intercambiar &amp;palabras</translation>
+        <translation>I&amp;ntercambiar palabras</translation>
     </message>
     <message>
         <source>&amp;Increase Number</source>
@@ -245,7 +245,7 @@ Con Qt %1. Con licencia pública general de GNU, versión 3 o posterior.</transl
     </message>
     <message>
         <source>&amp;Matching Brace</source>
-        <translation>Parén&amp;tesis correspondiente</translation>
+        <translation>Parénte&amp;sis correspondiente</translation>
     </message>
     <message>
         <source>Insert &amp;File...</source>
@@ -402,11 +402,11 @@ Con Qt %1. Con licencia pública general de GNU, versión 3 o posterior.</transl
     </message>
     <message>
         <source>&amp;Groups by ( and )</source>
-        <translation>Grupos &amp;con ( y )</translation>
+        <translation>&amp;Grupos con ( y )</translation>
     </message>
     <message>
         <source>G&amp;roups by \( and \)</source>
-        <translation>&amp;Grupos con \( y \)</translation>
+        <translation>Grupos &amp;con \( y \)</translation>
     </message>
 </context>
 <context>
@@ -749,7 +749,7 @@ Con Qt %1. Con licencia pública general de GNU, versión 3 o posterior.</transl
     </message>
     <message>
         <source>Open a&amp;t Caret</source>
-        <translation>Abrir &amp;el archivo del cursor</translation>
+        <translation>Abrir el archiv&amp;o del cursor</translation>
     </message>
     <message>
         <source>&amp;Save</source>
@@ -781,11 +781,11 @@ Con Qt %1. Con licencia pública general de GNU, versión 3 o posterior.</transl
     </message>
     <message>
         <source>Save as PD&amp;F...</source>
-        <translation>Guar&amp;dar como PDF...</translation>
+        <translation>Guardar como &amp;PDF...</translation>
     </message>
     <message>
         <source>Save as &amp;HTML...</source>
-        <translation>Guardar c&amp;omo HTML...</translation>
+        <translation>Guar&amp;dar como HTML...</translation>
     </message>
     <message>
         <source>&amp;Close</source>
@@ -793,7 +793,7 @@ Con Qt %1. Con licencia pública general de GNU, versión 3 o posterior.</transl
     </message>
     <message>
         <source>Reopen Closed Ta&amp;b</source>
-        <translation>Reabrir &amp;pestaña cerrada</translation>
+        <translation>R&amp;eabrir pestaña cerrada</translation>
     </message>
     <message>
         <source>&amp;Quit</source>
@@ -813,11 +813,11 @@ Con Qt %1. Con licencia pública general de GNU, versión 3 o posterior.</transl
     </message>
     <message>
         <source>&amp;Copy</source>
-        <translation>Copi&amp;ar</translation>
+        <translation>&amp;Copiar</translation>
     </message>
     <message>
         <source>Copy wit&amp;h Colours</source>
-        <translation>Cop&amp;iar con colores</translation>
+        <translation>Copi&amp;ar con colores</translation>
     </message>
     <message>
         <source>&amp;Paste</source>
@@ -845,11 +845,11 @@ Con Qt %1. Con licencia pública general de GNU, versión 3 o posterior.</transl
     </message>
     <message>
         <source>Find with a &amp;Dialog...</source>
-        <translation>Diálogo de &amp;búsqueda...</translation>
+        <translation>&amp;Diálogo de búsqueda...</translation>
     </message>
     <message>
         <source>&amp;Replace with a Dialog...</source>
-        <translation>Diá&amp;logo de reemplazo...</translation>
+        <translation>Diál&amp;ogo de reemplazo...</translation>
     </message>
     <message>
         <source>&amp;Go to Line...</source>
@@ -861,7 +861,7 @@ Con Qt %1. Con licencia pública general de GNU, versión 3 o posterior.</transl
     </message>
     <message>
         <source>Find in &amp;Files...</source>
-        <translation>Buscar &amp;en archivos...</translation>
+        <translation>&amp;Buscar en archivos...</translation>
     </message>
     <message>
         <source>&amp;Next Result</source>
@@ -873,7 +873,7 @@ Con Qt %1. Con licencia pública general de GNU, versión 3 o posterior.</transl
     </message>
     <message>
         <source>&amp;Stop Search</source>
-        <translation>&amp;Detener la búsqueda</translation>
+        <translation>Detener &amp;la búsqueda</translation>
     </message>
     <message>
         <source>Zoom &amp;In</source>
@@ -945,7 +945,7 @@ Con Qt %1. Con licencia pública general de GNU, versión 3 o posterior.</transl
     </message>
     <message>
         <source>Pla&amp;y Macro</source>
-        <translation>Repro&amp;ducir macro</translation>
+        <translation>Re&amp;producir macro</translation>
     </message>
     <message>
         <source>Repea&amp;t Macro...</source>
@@ -961,7 +961,7 @@ Con Qt %1. Con licencia pública general de GNU, versión 3 o posterior.</transl
     </message>
     <message>
         <source>Edit Te&amp;mplates</source>
-        <translation>Editar &amp;plantillas</translation>
+        <translation>E&amp;ditar plantillas</translation>
     </message>
     <message>
         <source>&amp;Commands...</source>
@@ -1029,6 +1029,14 @@ Con Qt %1. Con licencia pública general de GNU, versión 3 o posterior.</transl
             <numerusform>   %n coincidencias y más</numerusform>
         </translation>
     </message>
+    <message>
+        <source>Find Results</source>
+        <translation>Resultados de la búsqueda</translation>
+    </message>
+    <message>
+        <source>Find Results 2</source>
+        <translation>Resultados de la búsqueda 2</translation>
+    </message>
 </context>
 <context>
     <name>OpenAsDialog</name>
@@ -1064,7 +1072,7 @@ Con Qt %1. Con licencia pública general de GNU, versión 3 o posterior.</transl
     <name>OptionsDialog</name>
     <message>
         <source>Insert &amp;blanks for Tab</source>
-        <translation>Insertar espacios en &amp;vez de tabulador</translation>
+        <translation>Insertar &amp;espacios en vez de tabulador</translation>
     </message>
     <message>
         <source>&amp;Line numbers</source>
@@ -1092,7 +1100,7 @@ Con Qt %1. Con licencia pública general de GNU, versión 3 o posterior.</transl
     </message>
     <message>
         <source>Print in a font of its o&amp;wn</source>
-        <translation>Imprimir con &amp;una fuente propia</translation>
+        <translation>Imprimir con una fuente &amp;propia</translation>
     </message>
     <message>
         <source>Options</source>
@@ -1124,7 +1132,7 @@ Con Qt %1. Con licencia pública general de GNU, versión 3 o posterior.</transl
     </message>
     <message>
         <source>&amp;Tab width, in columns</source>
-        <translation>Ancho del tabulador, &amp;en columnas</translation>
+        <translation>&amp;Ancho del tabulador, en columnas</translation>
     </message>
     <message>
         <source>&amp;Indent new lines</source>
@@ -1136,11 +1144,11 @@ Con Qt %1. Con licencia pública general de GNU, versión 3 o posterior.</transl
     </message>
     <message>
         <source>P&amp;rint font</source>
-        <translation>Fuente &amp;de impresión</translation>
+        <translation>F&amp;uente de impresión</translation>
     </message>
     <message>
         <source>Print si&amp;ze</source>
-        <translation>T&amp;amaño de impresión</translation>
+        <translation>Tamaño &amp;de impresión</translation>
     </message>
 </context>
 <context>
@@ -1474,6 +1482,10 @@ Con Qt %1. Con licencia pública general de GNU, versión 3 o posterior.</transl
     <message>
         <source>%1 and its copy differ in their encoding alone.</source>
         <translation>%1 y su copia solo difieren en la codificación.</translation>
+    </message>
+    <message>
+        <source>none</source>
+        <translation>ninguno</translation>
     </message>
 </context>
 <context>

@@ -85,7 +85,7 @@ Avec Qt %1. Sous licence publique générale GNU, version 3 ou ultérieure.</tra
     </message>
     <message>
         <source>&amp;Lines</source>
-        <translation>Li&amp;gnes</translation>
+        <translation>&amp;Lignes</translation>
     </message>
     <message>
         <source>&amp;Words</source>
@@ -101,11 +101,11 @@ Avec Qt %1. Sous licence publique générale GNU, version 3 ou ultérieure.</tra
     </message>
     <message>
         <source>&amp;Comment Out</source>
-        <translation>&amp;Commenter</translation>
+        <translation>C&amp;ommenter</translation>
     </message>
     <message>
         <source>&amp;Uncomment</source>
-        <translation>Déc&amp;ommenter</translation>
+        <translation>&amp;Décommenter</translation>
     </message>
     <message>
         <source>Comment &amp;Lines Out</source>
@@ -149,7 +149,7 @@ Avec Qt %1. Sous licence publique générale GNU, version 3 ou ultérieure.</tra
     </message>
     <message>
         <source>Convert Line Ends to L&amp;F (Unix)</source>
-        <translation>Convertir &amp;les fins de ligne en LF (Unix)</translation>
+        <translation>Convertir les fins de ligne &amp;en LF (Unix)</translation>
     </message>
     <message>
         <source>Convert Line Ends to CR (&amp;Mac)</source>
@@ -157,15 +157,15 @@ Avec Qt %1. Sous licence publique générale GNU, version 3 ou ultérieure.</tra
     </message>
     <message>
         <source>&amp;Upper Case</source>
-        <translation>&amp;Majuscules</translation>
+        <translation>M&amp;ajuscules</translation>
     </message>
     <message>
         <source>&amp;Lower Case</source>
-        <translation>M&amp;inuscules</translation>
+        <translation>&amp;Minuscules</translation>
     </message>
     <message>
         <source>Ca&amp;pitalize</source>
-        <translation>I&amp;nitiales en majuscules</translation>
+        <translation>&amp;Initiales en majuscules</translation>
     </message>
     <message>
         <source>Upper Case of a W&amp;ord</source>
@@ -193,7 +193,7 @@ Avec Qt %1. Sous licence publique générale GNU, version 3 ou ultérieure.</tra
     </message>
     <message>
         <source>&amp;Increase Number</source>
-        <translation>&amp;Augmenter le nombre</translation>
+        <translation>Augmenter le &amp;nombre</translation>
     </message>
     <message>
         <source>&amp;Decrease Number</source>
@@ -402,11 +402,11 @@ Avec Qt %1. Sous licence publique générale GNU, version 3 ou ultérieure.</tra
     </message>
     <message>
         <source>&amp;Groups by ( and )</source>
-        <translation>&amp;Groupes avec ( et )</translation>
+        <translation>Groupes &amp;avec ( et )</translation>
     </message>
     <message>
         <source>G&amp;roups by \( and \)</source>
-        <translation>Groupes &amp;avec \( et \)</translation>
+        <translation>&amp;Groupes avec \( et \)</translation>
     </message>
 </context>
 <context>
@@ -513,19 +513,19 @@ Avec Qt %1. Sous licence publique générale GNU, version 3 ou ultérieure.</tra
     </message>
     <message>
         <source>Find &amp;Next</source>
-        <translation>Rechercher le &amp;suivant</translation>
+        <translation>Rechercher le sui&amp;vant</translation>
     </message>
     <message>
         <source>Find &amp;Previous</source>
-        <translation>Rechercher le &amp;précédent</translation>
+        <translation>Rechercher &amp;le précédent</translation>
     </message>
     <message>
         <source>Find the &amp;Word Next</source>
-        <translation>Occurrence su&amp;ivante du mot</translation>
+        <translation>Occurrence &amp;suivante du mot</translation>
     </message>
     <message>
         <source>Find the W&amp;ord Previous</source>
-        <translation>Occurre&amp;nce précédente du mot</translation>
+        <translation>Occurrence &amp;précédente du mot</translation>
     </message>
     <message>
         <source>&amp;Replace</source>
@@ -729,7 +729,7 @@ Avec Qt %1. Sous licence publique générale GNU, version 3 ou ultérieure.</tra
     </message>
     <message>
         <source>&amp;Tools</source>
-        <translation>Outi&amp;ls</translation>
+        <translation>Outil&amp;s</translation>
     </message>
     <message>
         <source>Help</source>
@@ -805,7 +805,7 @@ Avec Qt %1. Sous licence publique générale GNU, version 3 ou ultérieure.</tra
     </message>
     <message>
         <source>&amp;Redo</source>
-        <translation>Ré&amp;tablir</translation>
+        <translation>Réta&amp;blir</translation>
     </message>
     <message>
         <source>Cu&amp;t</source>
@@ -813,7 +813,7 @@ Avec Qt %1. Sous licence publique générale GNU, version 3 ou ultérieure.</tra
     </message>
     <message>
         <source>&amp;Copy</source>
-        <translation>C&amp;opier</translation>
+        <translation>&amp;Copier</translation>
     </message>
     <message>
         <source>Copy wit&amp;h Colours</source>
@@ -821,7 +821,7 @@ Avec Qt %1. Sous licence publique générale GNU, version 3 ou ultérieure.</tra
     </message>
     <message>
         <source>&amp;Paste</source>
-        <translation>&amp;Coller</translation>
+        <translation>C&amp;oller</translation>
     </message>
     <message>
         <source>&amp;Delete</source>
@@ -829,7 +829,7 @@ Avec Qt %1. Sous licence publique générale GNU, version 3 ou ultérieure.</tra
     </message>
     <message>
         <source>Select &amp;All</source>
-        <translation>Tout sé&amp;lectionner</translation>
+        <translation>&amp;Tout sélectionner</translation>
     </message>
     <message>
         <source>Complete Word</source>
@@ -853,7 +853,7 @@ Avec Qt %1. Sous licence publique générale GNU, version 3 ou ultérieure.</tra
     </message>
     <message>
         <source>&amp;Go to Line...</source>
-        <translation>&amp;Aller à la ligne...</translation>
+        <translation>Aller à &amp;la ligne...</translation>
     </message>
     <message>
         <source>Go to S&amp;ymbol...</source>
@@ -873,15 +873,15 @@ Avec Qt %1. Sous licence publique générale GNU, version 3 ou ultérieure.</tra
     </message>
     <message>
         <source>&amp;Stop Search</source>
-        <translation>Arrêter &amp;la recherche</translation>
+        <translation>&amp;Arrêter la recherche</translation>
     </message>
     <message>
         <source>Zoom &amp;In</source>
-        <translation>&amp;Zoom avant</translation>
+        <translation>Zoom &amp;avant</translation>
     </message>
     <message>
         <source>Zoom &amp;Out</source>
-        <translation>Zoom &amp;arrière</translation>
+        <translation>&amp;Zoom arrière</translation>
     </message>
     <message>
         <source>&amp;Reset Zoom</source>
@@ -941,7 +941,7 @@ Avec Qt %1. Sous licence publique générale GNU, version 3 ou ultérieure.</tra
     </message>
     <message>
         <source>&amp;Record Macro</source>
-        <translation>&amp;Enregistrer une macro</translation>
+        <translation>E&amp;nregistrer une macro</translation>
     </message>
     <message>
         <source>Pla&amp;y Macro</source>
@@ -977,7 +977,7 @@ Avec Qt %1. Sous licence publique générale GNU, version 3 ou ultérieure.</tra
     </message>
     <message>
         <source>&amp;Autosave...</source>
-        <translation>Enregistrement &amp;automatique...</translation>
+        <translation>&amp;Enregistrement automatique...</translation>
     </message>
     <message>
         <source>&amp;Keys</source>
@@ -1029,6 +1029,14 @@ Avec Qt %1. Sous licence publique générale GNU, version 3 ou ultérieure.</tra
             <numerusform>   %n occurrences et plus</numerusform>
         </translation>
     </message>
+    <message>
+        <source>Find Results</source>
+        <translation>Résultats de la recherche</translation>
+    </message>
+    <message>
+        <source>Find Results 2</source>
+        <translation>Résultats de la recherche 2</translation>
+    </message>
 </context>
 <context>
     <name>OpenAsDialog</name>
@@ -1050,7 +1058,7 @@ Avec Qt %1. Sous licence publique générale GNU, version 3 ou ultérieure.</tra
     </message>
     <message>
         <source>&amp;Encoding:</source>
-        <translation>&amp;Encodage&#xa0;:</translation>
+        <translation>En&amp;codage&#xa0;:</translation>
     </message>
 </context>
 <context>
@@ -1475,6 +1483,10 @@ Avec Qt %1. Sous licence publique générale GNU, version 3 ou ultérieure.</tra
         <source>%1 and its copy differ in their encoding alone.</source>
         <translation>%1 et sa copie ne diffèrent que par leur encodage.</translation>
     </message>
+    <message>
+        <source>none</source>
+        <translation>aucun</translation>
+    </message>
 </context>
 <context>
     <name>ResultsModel</name>
@@ -1515,11 +1527,11 @@ Avec Qt %1. Sous licence publique générale GNU, version 3 ou ultérieure.</tra
     </message>
     <message>
         <source>Re&amp;place...</source>
-        <translation>&amp;Remplacer...</translation>
+        <translation>R&amp;emplacer...</translation>
     </message>
     <message>
         <source>Replace &amp;with</source>
-        <translation>R&amp;emplacer par</translation>
+        <translation>&amp;Remplacer par</translation>
     </message>
     <message>
         <source>What the matches are to become. Enter shows it for each of them</source>
@@ -1614,7 +1626,7 @@ Avec Qt %1. Sous licence publique générale GNU, version 3 ou ultérieure.</tra
     </message>
     <message>
         <source>&amp;Encoding:</source>
-        <translation>&amp;Encodage&#xa0;:</translation>
+        <translation>En&amp;codage&#xa0;:</translation>
     </message>
 </context>
 <context>

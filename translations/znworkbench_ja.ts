@@ -1023,6 +1023,14 @@ Qt %1 を使用。GNU General Public License バージョン 3 以降の下で�
             <numerusform>   %n 件以上一致</numerusform>
         </translation>
     </message>
+    <message>
+        <source>Find Results</source>
+        <translation>検索結果</translation>
+    </message>
+    <message>
+        <source>Find Results 2</source>
+        <translation>検索結果 2</translation>
+    </message>
 </context>
 <context>
     <name>OpenAsDialog</name>
@@ -1465,6 +1473,10 @@ Qt %1 を使用。GNU General Public License バージョン 3 以降の下で�
     <message>
         <source>%1 and its copy differ in their encoding alone.</source>
         <translation>%1 とコピーは文字コードだけが異なります。</translation>
+    </message>
+    <message>
+        <source>none</source>
+        <translation>なし</translation>
     </message>
 </context>
 <context>

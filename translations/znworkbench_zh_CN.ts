@@ -1023,6 +1023,14 @@ Over Qt %1. Licensed under the GNU General Public License, version 3 or later.</
             <numerusform>   %n 处以上匹配</numerusform>
         </translation>
     </message>
+    <message>
+        <source>Find Results</source>
+        <translation>查找结果</translation>
+    </message>
+    <message>
+        <source>Find Results 2</source>
+        <translation>查找结果 2</translation>
+    </message>
 </context>
 <context>
     <name>OpenAsDialog</name>
@@ -1465,6 +1473,10 @@ Over Qt %1. Licensed under the GNU General Public License, version 3 or later.</
     <message>
         <source>%1 and its copy differ in their encoding alone.</source>
         <translation>%1 与其副本仅编码不同。</translation>
+    </message>
+    <message>
+        <source>none</source>
+        <translation>无</translation>
     </message>
 </context>
 <context>

@@ -48,7 +48,9 @@ std::span<const EncodingChoice> EncodingChoices()
 QString EncodingName(int encoding, bool mark)
 {
     const EncodingChoice* choice = FindChoice(encoding, mark);
-    return choice ? Texts::tr(choice->name) : Texts::tr("Unknown encoding");
+    if (!choice)
+        return Texts::tr("Unknown encoding");
+    return choice->mark ? Texts::tr(choice->name) : QLatin1String(choice->name);
 }
 
 int IndexOfEncoding(int encoding, bool mark)

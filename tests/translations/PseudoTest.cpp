@@ -17,11 +17,17 @@
 #include <QFontDatabase>
 #include <QGroupBox>
 #include <QHeaderView>
+#include <QLibraryInfo>
 #include <QLineEdit>
 #include <QRegularExpression>
-#include <QSet>
 #include <QTabBar>
 #include <QTranslator>
+
+#include <algorithm>
+#include <functional>
+#include <set>
+#include <string>
+#include <tuple>
 
 namespace {
 
@@ -38,34 +44,36 @@ public:
     }
     ~Bracketed() override { zncoreeditor::SetResourceLoader(nullptr); }
 
-    QString translate(const char* context, const char* source, const char*, int) const override
+    QString translate(const char* context, const char* source, const char*, int n) const override
     {
-        asked.insert(QLatin1String(context) + u'|' + QString::fromUtf8(source));
+        asked.insert({context, source, n});
         return kOpen + QString::fromUtf8(source) + kClose;
     }
     bool isEmpty() const override { return false; }
     QString LoadString(UINT id) const override { return kOpen + QString::number(id) + kClose; }
 
-    mutable QSet<QString> asked;
+    mutable std::set<std::tuple<std::string, std::string, int>> asked;
 };
 
-class BracketedWindows : private Bracketed, public Tour
+class BracketedWindows : protected Bracketed, public Tour
 {
 protected:
     BracketedWindows() : Tour(QStringLiteral("en")) {}
 
     // Names, which are the same everywhere, and what comes from files of data.
-    static QSet<QString> Names()
+    // The longest first, since one may be part of another.
+    static QStringList Names()
     {
-        QSet<QString> names = {"znworkbench", "a.sql", "Text", "UTF-8", "windows-1252", "CR LF",
-                               "LF",          "CR",    "INS",  "pt",    "Verdana"};
+        QStringList names = {"znworkbench", "a.sql", "Text", "UTF-8", "windows-1252", "CR LF",
+                             "LF",          "CR",    "INS",  "pt",    "Verdana"};
         const CFileTypeManager& languages = *zncoreeditor::GetFileTypeManager();
         for (int language = 0; language < languages.GetLanguageCount(); ++language)
-            names.insert(languages.GetLanguageName(language));
+            names << (languages.GetLanguageName(language));
         for (const EncodingChoice& choice : EncodingChoices())
-            names.insert(QLatin1String(choice.name));
+            names << (QLatin1String(choice.name));
         for (const QString& family : QFontDatabase::families())
-            names.insert(family);
+            names << (family);
+        std::ranges::sort(names, std::ranges::greater(), &QString::size);
         return names;
     }
 
@@ -74,7 +82,7 @@ protected:
         static const QRegularExpression word(QStringLiteral("\\p{L}{2,}"));
         static const QRegularExpression inBrackets(
             QStringLiteral("%1[^%1%2]*%2").arg(kOpen).arg(kClose));
-        static const QSet<QString> names = Names();
+        static const QStringList names = Names();
         static const QRegularExpression beforeKey(QStringLiteral("%1[^%1]*").arg(kOpen));
         static const QRegularExpression colour(QStringLiteral("#[0-9A-F]{6}"));
         QString rest = text;
@@ -156,4 +164,27 @@ TEST_F(BracketedWindows, CanBeTranslated)
             ExpectIn(*widget);
     });
     EXPECT_GT(m_checked, 500);
+}
+
+// A text whose context is not the one that the tool has found for it is in no catalogue.
+TEST_F(BracketedWindows, AskForWhatTheCataloguesHave)
+{
+    ForEachMenu([](QMenu&) {});
+    ForEachWindow([](QWidget&) {});
+    ::QTranslator library;
+    ::QTranslator workbench;
+    ::QTranslator qt;
+    ASSERT_TRUE(library.load(QStringLiteral(":/zncoreeditor/i18n/zncoreeditor_de")));
+    ASSERT_TRUE(workbench.load(QStringLiteral(":/znworkbench/i18n/znworkbench_de")));
+    ASSERT_TRUE(
+        qt.load(QLibraryInfo::path(QLibraryInfo::TranslationsPath) + QStringLiteral("/qtbase_de")));
+    EXPECT_GT(asked.size(), 500U);
+    for (const auto& [context, source, n] : asked) {
+        const auto has = [&, &c = context, &s = source,
+                          number = n](const ::QTranslator& translator) {
+            return !translator.translate(c.c_str(), s.c_str(), nullptr, number).isEmpty();
+        };
+        EXPECT_TRUE(source.empty() || has(library) || has(workbench) || has(qt))
+            << context << ": " << source;
+    }
 }
