@@ -111,6 +111,12 @@ Engine::Engine(QsciScintillaBase& widget)
         wholeCharacters.OnCommand(number);
         return recording;
     });
+    looks.SetStatementAtCaret([this]() -> std::optional<LookPainter::Range> {
+        const auto span = analysis.StatementAt(CaretPosition());
+        if (!span)
+            return std::nullopt;
+        return LookPainter::Range{Bytes(span->start), Bytes(span->end)};
+    });
     SettleErrorsWhenShown(*this);
 }
 
@@ -233,6 +239,7 @@ void Engine::EditBegins(const TextEdit& edit)
     target.Follow(edit);
     searcher.TextChanges([&edit](long place) { return edit.Moved(place); });
     errors->NoteChange(*this, edit.inserts, edit.position, edit.bytes);
+    looks.TextChanges();
 }
 
 // One caret, behind what a line begins with: Backspace may take more of that.

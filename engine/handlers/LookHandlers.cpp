@@ -22,9 +22,15 @@ LRESULT ShowMatches(Engine& engine, WPARAM wParam, LPARAM lParam)
     return 0;
 }
 
+LRESULT NextFolded(Engine& engine, WPARAM wParam, LPARAM)
+{
+    return engine.raw.Send(QsciScintillaBase::SCI_CONTRACTEDFOLDNEXT, wParam);
+}
+
 constexpr HandlerRow kRows[] = {
     {kSetLooks, SetLooks},
     {kShowMatches, ShowMatches},
+    {kNextFolded, NextFolded},
 };
 
 } // namespace

@@ -23,7 +23,8 @@ public:
     {
         // A window matches them as it is painted, which may not have been since a style changed.
         engine.colouring->Alike().Match(engine.raw);
-        for (const int lit : {kOccurrenceIndicator, kMatchIndicator}) // for the eye on the screen
+        for (const int lit : {kStatementIndicator, kOccurrenceIndicator,
+                              kMatchIndicator}) // for the eye on the screen
             Put(Sci::SCI_INDICGETSTYLE, Sci::SCI_INDICSETSTYLE, lit, Sci::INDIC_HIDDEN);
         const PrintStyle& print = engine.print;
         for (int style = 0; style < kStyles; ++style) {

@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "engine/looks/Highlights.h"
 
+#include "engine/looks/IndicatorScope.h"
+
 #include <chrono>
 
 namespace engine {
@@ -12,25 +14,6 @@ constexpr long kSlice = 2L << 20;         // bytes, some 2 ms
 constexpr long kLongestScreen = 1L << 20; // bytes of a screen that are looked at
 constexpr std::size_t kMostLines = 20000; // more than any scroll bar can show
 constexpr std::chrono::milliseconds kRest(300);
-
-// The indicator that the text's host works with is back afterwards.
-class IndicatorScope
-{
-public:
-    IndicatorScope(const Raw& raw, int indicator)
-        : m_raw(raw), m_before(static_cast<WPARAM>(raw.Send(Sci::SCI_GETINDICATORCURRENT)))
-    {
-        raw.Send(Sci::SCI_SETINDICATORCURRENT, static_cast<WPARAM>(indicator));
-    }
-    ~IndicatorScope() { m_raw.Send(Sci::SCI_SETINDICATORCURRENT, m_before); }
-    IndicatorScope(const IndicatorScope&) = delete;
-    IndicatorScope& operator=(const IndicatorScope&) = delete;
-
-private:
-    using WPARAM = std::uintptr_t;
-    const Raw& m_raw;
-    WPARAM m_before;
-};
 
 } // namespace
 

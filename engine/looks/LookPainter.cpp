@@ -2,6 +2,8 @@
 #include "engine/looks/LookPainter.h"
 
 #include "engine/looks/Icons.h"
+#include "engine/looks/IndicatorScope.h"
+#include "engine/looks/TabArrows.h"
 
 #include <QMouseEvent>
 #include <QPaintEvent>
@@ -23,6 +25,9 @@ constexpr int kFoldMargin = 3;
 constexpr int kLastMargin = 4;
 constexpr std::chrono::milliseconds kRest(350);
 constexpr long kLongestWord = 200; // bytes
+// Bytes of a text whose statements are asked for without a command: all in front of the caret is
+// read for the first answer.
+constexpr long kLongestScript = 4L << 20;
 constexpr unsigned Bit(int marker)
 {
     return 1U << marker;
@@ -42,7 +47,10 @@ LookPainter::LookPainter(QsciScintillaBase& window, const Raw& raw, const Stored
       })
 {
     m_rest.setSingleShot(true);
-    QObject::connect(&m_rest, &QTimer::timeout, &window, [this] { LookForOccurrences(); });
+    QObject::connect(&m_rest, &QTimer::timeout, &window, [this] {
+        LookForOccurrences();
+        LightStatement();
+    });
 }
 
 QColor LookPainter::Colour(COLORREF colour) const
@@ -75,11 +83,13 @@ void LookPainter::Set(const Looks* looks)
     // Hidden lines have a button to show them, and without looks a line.
     if (m_looks.has_value() != (looks != nullptr))
         m_raw.Send(Sci::SCI_SETFOLDFLAGS, looks ? 0 : Sci::SC_FOLDFLAG_LINEAFTER_CONTRACTED);
+    m_raw.Send(Sci::SCI_SETTABDRAWMODE, looks ? Sci::SCTD_STRIKEOUT : Sci::SCTD_LONGARROW);
     m_looks = looks ? std::optional<Looks>(*looks) : std::nullopt;
     m_window.viewport()->setMouseTracking(true);
     if (!m_looks) {
         m_occurrences.Clear();
         m_matches.Clear();
+        LightStatement();
         delete m_marks;
         m_marks = nullptr;
         m_window.viewport()->update();
@@ -93,6 +103,7 @@ void LookPainter::Set(const Looks* looks)
         m_raw.Send(Sci::SCI_INDICSETOUTLINEALPHA, n, outline);
         m_raw.Send(Sci::SCI_INDICSETUNDER, n, 1);
     };
+    indicator(kStatementIndicator, m_looks->statement, 30, 0);
     indicator(kOccurrenceIndicator, m_looks->occurrence, 45, 90);
     indicator(kMatchIndicator, m_looks->match, 75, 180);
     if (!m_marks)
@@ -140,6 +151,7 @@ void LookPainter::Paint(QPainter& painter, const QPaintEvent& event)
     const long top = static_cast<long>(m_raw.Send(Sci::SCI_GETFIRSTVISIBLELINE));
     const long first = top + std::max(0, event.rect().top()) / height;
     const long last = top + event.rect().bottom() / height;
+    const TabArrows arrows(m_raw, Colour(m_looks->whitespace), m_window.viewport()->width());
     long before = -1;
     for (long row = first; row <= last; ++row) {
         const auto line =
@@ -150,6 +162,8 @@ void LookPainter::Paint(QPainter& painter, const QPaintEvent& event)
             continue;
         before = line;
         PaintLine(painter, places, line, static_cast<int>(row - top) * height, height);
+        if (arrows.AreShown())
+            arrows.Paint(painter, line, height);
     }
     PaintCurrentNumber(painter, height);
 }
@@ -306,18 +320,14 @@ void LookPainter::Updated(int updated)
         m_occurrences.Refresh();
         m_matches.Refresh();
     }
-    if (updated & (Sci::SC_UPDATE_SELECTION | Sci::SC_UPDATE_CONTENT))
+    // What is lit counts as content too: only a change of the text itself has it looked for again.
+    const bool hasChanged = updated & Sci::SC_UPDATE_CONTENT && m_textHasChanged;
+    if (updated & Sci::SC_UPDATE_SELECTION || hasChanged)
         m_rest.start(kRest);
     if (updated & Sci::SC_UPDATE_SELECTION && m_numberedLine != CaretLine())
         m_window.viewport()->update(0, 0, Places().symbols, m_window.viewport()->height());
     if (updated & Sci::SC_UPDATE_CONTENT)
         m_marks->Soon();
-}
-
-void LookPainter::TextChanged()
-{
-    if (m_looks)
-        m_matches.SearchAnewSoon();
 }
 
 // The word at the caret, or the one that is selected, if there is another of it in sight or below.
@@ -338,9 +348,26 @@ void LookPainter::LookForOccurrences()
     if (isWord)
         word = m_raw.Bytes(start, end);
     const int flags = search::flag::WholeWord | (m_anyCase ? 0 : search::flag::MatchCase);
-    if (word == m_occurrences.Sought())
-        m_occurrences.SearchAnewSoon();
+    if (std::exchange(m_textHasChanged, false)) {
+        m_matches.SearchAnewSoon();
+        if (word == m_occurrences.Sought())
+            m_occurrences.SearchAnewSoon();
+        m_statement = {-1, -1}; // what is lit may be anywhere
+    }
     m_occurrences.Show(std::move(word), flags);
+}
+
+// What the command that selects it would take.
+void LookPainter::LightStatement()
+{
+    const bool isAsked = m_looks && m_statementAtCaret && m_raw.Length() <= kLongestScript;
+    const Range statement = (isAsked ? m_statementAtCaret() : std::nullopt).value_or(Range());
+    if (std::exchange(m_statement, statement) == statement)
+        return;
+    const IndicatorScope scope(m_raw, kStatementIndicator);
+    m_raw.Send(Sci::SCI_INDICATORCLEARRANGE, 0, m_raw.Length());
+    m_raw.Send(Sci::SCI_INDICATORFILLRANGE, static_cast<WPARAM>(statement.start),
+               statement.end - statement.start);
 }
 
 } // namespace engine

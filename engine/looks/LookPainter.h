@@ -11,6 +11,7 @@
 
 #include <QTimer>
 
+#include <functional>
 #include <optional>
 
 class QMouseEvent;
@@ -19,13 +20,25 @@ class QPainter;
 
 namespace engine {
 
+inline constexpr int kStatementIndicator = 27;
 inline constexpr int kOccurrenceIndicator = 28;
 inline constexpr int kMatchIndicator = 29;
 
 class LookPainter
 {
 public:
+    struct Range // bytes
+    {
+        long start = 0;
+        long end = 0;
+
+        bool operator==(const Range&) const = default;
+    };
+    using StatementAtCaret = std::function<std::optional<Range>()>;
+
     LookPainter(QsciScintillaBase& window, const Raw& raw, const StoredText& text);
+
+    void SetStatementAtCaret(StatementAtCaret ask) { m_statementAtCaret = std::move(ask); }
 
     void Set(const Looks* looks); // null: nothing more
     bool IsOn() const { return m_looks.has_value(); }
@@ -40,7 +53,7 @@ public:
     bool MousePressed(const QMouseEvent& event); // true: that was all
     void FocusChanged(bool hasFocus);
     void Updated(int updated); // SCN_UPDATEUI
-    void TextChanged();
+    void TextChanges() { m_textHasChanged = true; }
     // The lines from one place to another have changed; bytes.
     void MarkChange(long position, long end);
     // From here on the mark of the last change, in whatever window, may have gone.
@@ -61,6 +74,7 @@ private:
     void PaintFold(QPainter& painter, const Margins& places, long line, int top, int height);
     QRect HiddenMark(long line) const; // of a folded line; empty for another
     void LookForOccurrences();
+    void LightStatement();
     QColor Colour(COLORREF colour) const;
 
     QsciScintillaBase& m_window;
@@ -73,6 +87,9 @@ private:
     long m_marked = 0;        // where the last change was marked, bytes,
     unsigned m_series = 0;    // if it was in this series
     long m_numberedLine = -1; // whose number stands out
+    StatementAtCaret m_statementAtCaret;
+    Range m_statement;             // that is lit
+    bool m_textHasChanged = false; // since the last rest
     bool m_isFoldMarginHot = false;
     bool m_anyCase = false;
 

@@ -199,7 +199,14 @@ bool EngineWindow::viewportEvent(QEvent* event)
         m_engine.EndEraseRun();
     if (event->type() == QEvent::Leave)
         m_engine.looks.MouseLeft();
-    return TellAfter(m_engine, [&] { return QsciScintillaBase::viewportEvent(event); });
+    return TellAfter(m_engine, [&] {
+        return m_fineScroll.Swing(*event, LineHeight()) || QsciScintillaBase::viewportEvent(event);
+    });
+}
+
+int EngineWindow::LineHeight() const
+{
+    return static_cast<int>(m_engine.raw.Send(Sci::SCI_TEXTHEIGHT));
 }
 
 QMimeData* EngineWindow::toMimeData(const QByteArray& text, bool rectangular) const
@@ -506,7 +513,10 @@ void EngineWindow::wheelEvent(QWheelEvent* event)
 {
     const bool zooms = event->modifiers().testFlag(Qt::ControlModifier);
     if (!zooms && !event->modifiers().testFlag(Qt::ShiftModifier)) {
-        QsciScintillaBase::wheelEvent(event);
+        if (m_fineScroll.Turn(*event, LineHeight()))
+            event->accept();
+        else
+            QsciScintillaBase::wheelEvent(event);
         return;
     }
     const QPointer<EngineWindow> alive(this);

@@ -6,6 +6,7 @@
 
 #include "engine/core/Engine.h"
 #include "engine/window/Carets.h"
+#include "engine/window/FineScroll.h"
 #include "engine/window/InputMethod.h"
 #include "engine/window/ScrollReports.h"
 
@@ -59,6 +60,7 @@ private:
     void PressKey(QKeyEvent* event);
     bool IsFar(QPoint point, bool makesColumns) const;
     void PressFar(const QMouseEvent& event);
+    int LineHeight() const;
     bool TypeInLongLine(const QKeyEvent& event);
     bool IsTurnTaken(const QWheelEvent& event, int step);
 
@@ -66,6 +68,7 @@ private:
     InputMethod m_inputMethod{m_engine};
     Carets m_carets{m_engine.raw};
     ScrollReports m_scrollReports{*this};
+    FineScroll m_fineScroll{*this};
     bool m_addsCaret = false; // the button that is down
     bool m_isDropping = false;
     int m_turn = 0; // of the wheel, beyond its last whole step

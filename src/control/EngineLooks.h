@@ -22,6 +22,8 @@ struct Looks
     COLORREF lineSaved = 0;
     COLORREF occurrence = 0;
     COLORREF match = 0;
+    COLORREF statement = 0; // of the script, at the caret
+    COLORREF whitespace = 0;
     COLORREF selection = 0;
     COLORREF selectionWithoutFocus = 0;
 };
@@ -29,6 +31,7 @@ struct Looks
 // Messages of these, outside the table.
 inline constexpr UINT kSetLooks = 4020;    // lParam: const Looks*, copied; null: nothing more
 inline constexpr UINT kShowMatches = 4021; // wParam: search flags, lParam: UTF-16, null: none
+inline constexpr UINT kNextFolded = 4023;  // wParam: line; the next folded from it on, -1: none
 
 // The markers that stand for what is drawn: their own symbols are to be empty then.
 namespace lookmarker {

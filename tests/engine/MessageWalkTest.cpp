@@ -204,7 +204,8 @@ TEST(MessageWalk, NumbersOutsideTheTableAnswerNothing)
     std::map<UINT, bool> known{{msg::GetDirectFunction, true}, {msg::GetDirectPointer, true},
                                {engine::kRestyle, true},       {engine::kExtendedTexts, true},
                                {engine::kExtendedText, true},  {engine::kSetLooks, true},
-                               {engine::kShowMatches, true},   {engine::kExpressionProblem, true}};
+                               {engine::kShowMatches, true},   {engine::kExpressionProblem, true},
+                               {engine::kNextFolded, true}};
     for (const MessageRow& row : engine::kMessageRows)
         known[row.number] = true;
     for (UINT number = 0; number <= 5000; ++number) {

@@ -4,6 +4,7 @@
 #include "control/ErrorInfo.h"
 #include "editing/ZNCoreEditorControlEx.h"
 #include "editing/ZNCoreEditorWidget.h"
+#include "editing/hands/Hands.h"
 #include "editing/looks/HoverTips.h"
 #include "looks/Schemes.h"
 #include "platform/services/OptionsServer.h"
@@ -15,6 +16,7 @@
 #include <QImage>
 #include <QMouseEvent>
 #include <QScrollBar>
+#include <QSet>
 #include <QTemporaryDir>
 #include <QTest>
 #include <QToolTip>
@@ -29,6 +31,7 @@ using Sci = QsciScintillaBase;
 constexpr int kTransactSql = 3;
 constexpr int kChanged = 1 << engine::lookmarker::kLineChanged;
 constexpr int kSaved = 1 << engine::lookmarker::kLineSaved;
+constexpr int kStatement = 27;
 constexpr int kOccurrences = 28;
 constexpr int kMatches = 29;
 
@@ -350,6 +353,81 @@ TEST_F(LooksTest, TellsWhatAFoldHides)
         << HoverTips::TextAt(control, behind).toStdString();
     control.ToggleFold(0, 1);
     EXPECT_EQ(HoverTips::TextAt(control, behind), "");
+}
+
+TEST_F(LooksTest, LightUpTheStatementThatTheCommandWouldSelect)
+{
+    Put(QStringLiteral("select 1;\nselect\n2;\n"));
+    EXPECT_TRUE(Becomes([&] { return IsMarked(kStatement, 0); }));
+    EXPECT_FALSE(IsMarked(kStatement, 12));
+    control.GotoPos(12, 1);
+    ASSERT_TRUE(Becomes([&] { return IsMarked(kStatement, 12); }));
+    EXPECT_FALSE(IsMarked(kStatement, 0));
+    FindHand(54218)->run(control);
+    const long start = control.GetSelectionStart(1);
+    const long end = control.GetSelectionEnd(1);
+    EXPECT_GT(end, start);
+    for (long at = 0; at < control.GetLength(1); ++at)
+        EXPECT_EQ(IsMarked(kStatement, at), at >= start && at < end) << at;
+    face.setScheme(QString());
+    EXPECT_FALSE(IsMarked(kStatement, 12));
+}
+
+// What is lit is no change that has it lit again.
+TEST_F(LooksTest, RestOnceTheTextDoes)
+{
+    Put(QStringLiteral("stock from Stock;\n"));
+    control.GotoPos(2, 1);
+    ASSERT_TRUE(Becomes([&] { return IsMarked(kOccurrences, 12) && IsMarked(kStatement, 0); }));
+    int updates = 0;
+    QObject::connect(&Window(), &Sci::SCN_UPDATEUI, &face, [&updates] { ++updates; });
+    QTest::qWait(900); // two rests
+    EXPECT_LE(updates, 2);
+}
+
+// The stock engine's line, with a point at its end and nothing as high as the line.
+TEST_F(LooksTest, DrawTabsAsThinArrows)
+{
+    Put(QStringLiteral("\t\tx\n"));
+    control.SetCaretLineVisible(0, 1);
+    control.GotoPos(4, 1);
+    const auto rowsOfTab = [this] {
+        const auto left = static_cast<int>(control.PointXFromPosition(0, 1));
+        const auto right = static_cast<int>(control.PointXFromPosition(1, 1));
+        const QImage picture = Window().grab().toImage();
+        QSet<int> rows;
+        for (int y = 0; y < control.TextHeight(0, 1); ++y) {
+            for (int x = left + 1; x < right; ++x) {
+                if (qGray(picture.pixel(x, y)) < 225)
+                    rows.insert(y);
+            }
+        }
+        return rows.size();
+    };
+    EXPECT_EQ(rowsOfTab(), 0);
+    control.SetViewWS(1, 1);
+    EXPECT_GE(rowsOfTab(), 3);
+    EXPECT_LE(rowsOfTab(), control.TextHeight(0, 1) / 2);
+}
+
+TEST_F(LooksTest, ScrollAsFarAsFingersGo)
+{
+    Put(QStringLiteral("line\n").repeated(400));
+    const int height = control.TextHeight(0, 1);
+    const auto move = [this](int pixels, Qt::ScrollPhase phase) {
+        const QPointF place(50, 50);
+        QWheelEvent wheel(place, Window().mapToGlobal(place), QPoint(0, pixels),
+                          QPoint(0, pixels / 2), Qt::NoButton, Qt::NoModifier, phase, false);
+        QApplication::sendEvent(Window().viewport(), &wheel);
+    };
+    move(0, Qt::ScrollBegin);
+    for (int pixel = 0; pixel < 10 * height; ++pixel)
+        move(-1, Qt::ScrollUpdate);
+    EXPECT_EQ(control.GetFirstVisibleLine(1), 10);
+    move(3 * height + 1, Qt::ScrollUpdate);
+    EXPECT_EQ(control.GetFirstVisibleLine(1), 7);
+    move(-15, Qt::NoScrollPhase); // a wheel, whose pixels mean nothing
+    EXPECT_EQ(control.GetFirstVisibleLine(1), 7);
 }
 
 } // namespace

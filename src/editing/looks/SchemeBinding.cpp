@@ -86,6 +86,8 @@ void TakeIcons(const ColourScheme& scheme, CZNCoreEditorControlEx& control)
     looks.lineSaved = scheme.Of(Drawn::LineSaved);
     looks.occurrence = scheme.Of(Drawn::Occurrence);
     looks.match = scheme.Of(Drawn::Match);
+    looks.statement = scheme.Of(Drawn::Batch);
+    looks.whitespace = scheme.Of(Drawn::Whitespace);
     looks.selection = scheme.Of(Drawn::Selection);
     looks.selectionWithoutFocus = scheme.Of(Drawn::SelectionWithoutFocus);
     control.Call(engine::kSetLooks, 0, reinterpret_cast<LPARAM>(&looks), 1);

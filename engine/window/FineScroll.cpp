@@ -1,0 +1,67 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "engine/window/FineScroll.h"
+
+#include <QAbstractScrollArea>
+#include <QInputDevice>
+#include <QPointingDevice>
+#include <QScrollBar>
+#include <QScrollEvent>
+#include <QScrollPrepareEvent>
+#include <QScroller>
+#include <QWheelEvent>
+
+#include <algorithm>
+
+namespace engine {
+
+FineScroll::FineScroll(QAbstractScrollArea& window) : m_window(window)
+{
+    QScroller::grabGesture(window.viewport(), QScroller::TouchGesture);
+}
+
+bool FineScroll::Turn(const QWheelEvent& event, int lineHeight)
+{
+    const QPoint way = event.pixelDelta();
+    const bool isOfFingers = event.phase() != Qt::NoScrollPhase ||
+                             event.device()->type() == QInputDevice::DeviceType::TouchPad;
+    if (!isOfFingers)
+        return false;
+    const bool turnsBack = way.y() != 0 && (way.y() > 0) != (m_rest > 0);
+    if (event.phase() == Qt::ScrollBegin || turnsBack)
+        m_rest = 0;
+    if (way.isNull())
+        return false;
+    m_rest += way.y();
+    const int lines = m_rest / std::max(1, lineHeight);
+    m_rest -= lines * lineHeight;
+    QScrollBar& down = *m_window.verticalScrollBar();
+    QScrollBar& across = *m_window.horizontalScrollBar();
+    down.setValue(down.value() - lines);
+    across.setValue(across.value() - way.x());
+    return true;
+}
+
+bool FineScroll::Swing(QEvent& event, int lineHeight)
+{
+    QScrollBar& down = *m_window.verticalScrollBar();
+    QScrollBar& across = *m_window.horizontalScrollBar();
+    if (event.type() == QEvent::ScrollPrepare) {
+        auto& prepare = static_cast<QScrollPrepareEvent&>(event);
+        prepare.setViewportSize(m_window.viewport()->size());
+        prepare.setContentPosRange(
+            QRectF(0, 0, across.maximum(), static_cast<qreal>(down.maximum()) * lineHeight));
+        prepare.setContentPos(
+            QPointF(across.value(), static_cast<qreal>(down.value()) * lineHeight));
+        event.accept();
+        return true;
+    }
+    if (event.type() != QEvent::Scroll)
+        return false;
+    const QPointF place = static_cast<QScrollEvent&>(event).contentPos();
+    down.setValue(qRound(place.y() / std::max(1, lineHeight)));
+    across.setValue(qRound(place.x()));
+    event.accept();
+    return true;
+}
+
+} // namespace engine

@@ -1,0 +1,29 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+// FineScroll: scrolling by the way that fingers go, on a touchpad and, with a swing behind it, on a
+// touch screen. The text moves by whole lines as the fingers pass them, sideways by pixels.
+#pragma once
+
+#include <QPoint>
+
+class QAbstractScrollArea;
+class QEvent;
+class QWheelEvent;
+
+namespace engine {
+
+class FineScroll
+{
+public:
+    explicit FineScroll(QAbstractScrollArea& window); // whose steps are lines
+
+    // True if that was all. A turn without a way in pixels is the stock engine's, and one of a
+    // display that gives wheels such ways, too.
+    bool Turn(const QWheelEvent& event, int lineHeight);
+    bool Swing(QEvent& event, int lineHeight); // an event of the viewport's scroller
+
+private:
+    QAbstractScrollArea& m_window;
+    int m_rest = 0; // pixels beyond the last whole line
+};
+
+} // namespace engine
