@@ -46,6 +46,20 @@ constexpr SwitchRow kSwitches[] = {
      option::PrintOwnFont},
 };
 
+// Those that a text without a mark can be in, and one that new scripts are wanted in.
+struct EncodingRow
+{
+    const char* name;
+    int type; // znutils::TextType
+};
+
+constexpr EncodingRow kEncodings[] = {
+    {"UTF-8", 6},
+    {QT_TRANSLATE_NOOP("OptionsDialog", "UTF-8 with mark"), 5},
+    {"windows-1252", 0},
+    {QT_TRANSLATE_NOOP("OptionsDialog", "UTF-16 LE with mark"), 1},
+};
+
 constexpr int kPathWidth = 320; // pixels, of two folders
 constexpr int kRounding = 2;    // pixels that a hint may lack on a scaled screen
 
@@ -55,7 +69,7 @@ OptionsDialog::OptionsDialog(QWidget* parent)
     : QDialog(parent), m_font(new QFontComboBox(this)), m_points(new QSpinBox(this)),
       m_printFont(new QFontComboBox(this)), m_printPoints(new QSpinBox(this)),
       m_tabWidth(new QSpinBox(this)), m_autoIndent(new QComboBox(this)),
-      m_includePath(new QLineEdit(this))
+      m_encoding(new QComboBox(this)), m_includePath(new QLineEdit(this))
 {
     setWindowTitle(tr("Options"));
     CZNOptionsServer& options = *CZNOptionsServer::GetObjectW();
@@ -78,6 +92,14 @@ OptionsDialog::OptionsDialog(QWidget* parent)
     m_autoIndent->addItems({tr("Not at all"), tr("As the line above"), tr("By the language")});
     m_autoIndent->setCurrentIndex(std::clamp(options.GetInt(option::AutoIndent), 0, 2));
 
+    m_encoding->setObjectName(QStringLiteral("encoding"));
+    for (const EncodingRow& row : kEncodings)
+        m_encoding->addItem(tr(row.name), row.type);
+    m_encoding->setCurrentIndex(
+        std::max(0, m_encoding->findData(options.GetInt(option::DefaultTextType))));
+    m_encoding->setToolTip(tr("Of new scripts, and of files that do not tell theirs by a mark or "
+                              "by what stands in them"));
+
     m_includePath->setObjectName(QStringLiteral("includePath"));
     m_includePath->setText(options.GetString(option::IncludePath));
     m_includePath->setMinimumWidth(kPathWidth);
@@ -88,6 +110,7 @@ OptionsDialog::OptionsDialog(QWidget* parent)
     form->addRow(tr("&Size"), m_points);
     form->addRow(tr("&Tab width, in columns"), m_tabWidth);
     form->addRow(tr("&Indent new lines"), m_autoIndent);
+    form->addRow(tr("&Encoding without a mark"), m_encoding);
     form->addRow(tr("Folders of i&ncluded files"), m_includePath);
     for (const SwitchRow& row : kSwitches)
         form->addRow(AddSwitch(row.name, tr(row.text), row.key));
@@ -160,6 +183,7 @@ void OptionsDialog::Store() const
     StorePrintFont();
     options.SetInt(option::TabWidth, m_tabWidth->value());
     options.SetInt(option::AutoIndent, m_autoIndent->currentIndex());
+    options.SetInt(option::DefaultTextType, m_encoding->currentData().toInt());
     options.SetString(option::IncludePath, m_includePath->text());
     for (const auto& [box, key] : m_switches)
         options.SetInt(key, box->isChecked() ? 1 : 0);

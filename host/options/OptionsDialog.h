@@ -32,6 +32,7 @@ private:
     QSpinBox* m_printPoints;
     QSpinBox* m_tabWidth;
     QComboBox* m_autoIndent;
+    QComboBox* m_encoding;
     QLineEdit* m_includePath;
     QList<std::pair<QCheckBox*, int>> m_switches; // with the key of each
 };

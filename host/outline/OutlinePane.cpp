@@ -1,31 +1,17 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "host/outline/OutlinePane.h"
 
+#include "host/outline/SymbolModel.h"
+
 #include <QHeaderView>
 #include <QLabel>
 #include <QLineEdit>
-#include <QTreeWidget>
+#include <QTreeView>
 #include <QVBoxLayout>
-
-#include <algorithm>
-
-namespace {
-
-constexpr int kName = 0;
-constexpr int kKind = 1;
-constexpr int kStartRole = Qt::UserRole;
-constexpr int kEndRole = Qt::UserRole + 1;
-
-long StartOf(const QTreeWidgetItem* item)
-{
-    return item->data(kName, kStartRole).value<long>();
-}
-
-} // namespace
 
 OutlinePane::OutlinePane(QWidget* parent)
     : QDockWidget(tr("Outline"), parent), m_words(new QLineEdit(this)),
-      m_list(new QTreeWidget(this)), m_why(new QLabel(this))
+      m_symbols(new SymbolModel(this)), m_list(new QTreeView(this)), m_why(new QLabel(this))
 {
     constexpr int kMargin = 8; // pixels
     m_why->setObjectName(QStringLiteral("outlineWhy"));
@@ -39,10 +25,10 @@ OutlinePane::OutlinePane(QWidget* parent)
     m_words->setClearButtonEnabled(true);
     m_list->setObjectName(QStringLiteral("outlineList"));
     m_list->setAccessibleName(tr("Outline of the script"));
-    m_list->setHeaderLabels({tr("Name"), tr("Kind")});
+    m_list->setModel(m_symbols);
     m_list->setUniformRowHeights(true);
-    m_list->header()->setSectionResizeMode(kName, QHeaderView::Stretch);
-    m_list->header()->setSectionResizeMode(kKind, QHeaderView::ResizeToContents);
+    m_list->header()->setSectionResizeMode(SymbolModel::kName, QHeaderView::Stretch);
+    m_list->header()->setSectionResizeMode(SymbolModel::kKind, QHeaderView::ResizeToContents);
     m_list->header()->setStretchLastSection(false);
     auto* content = new QWidget(this);
     auto* layout = new QVBoxLayout(content);
@@ -52,10 +38,10 @@ OutlinePane::OutlinePane(QWidget* parent)
     layout->addWidget(m_why, 1);
     setWidget(content);
     connect(m_words, &QLineEdit::textChanged, this, &OutlinePane::Filter);
-    const auto choose = [this](const QTreeWidgetItem* item) {
-        Q_EMIT Chosen(StartOf(item), item->data(kName, kEndRole).value<long>());
-    };
-    connect(m_list, &QTreeWidget::itemActivated, this, choose);
+    connect(m_list, &QTreeView::activated, this, [this](const QModelIndex& index) {
+        if (const Symbol* symbol = m_symbols->At(index))
+            Q_EMIT Chosen(symbol->start, symbol->end);
+    });
 }
 
 void OutlinePane::ShowNothing(const QString& why)
@@ -66,50 +52,28 @@ void OutlinePane::ShowNothing(const QString& why)
     m_list->hide();
 }
 
-void OutlinePane::Show(const std::vector<Symbol>& symbols)
+void OutlinePane::Show(std::vector<Symbol> symbols)
 {
     m_why->hide();
     m_list->show();
-    m_list->clear();
-    m_items.clear();
-    QTreeWidgetItem* outer = nullptr;
-    for (const Symbol& symbol : symbols) {
-        auto* item =
-            symbol.isInside && outer ? new QTreeWidgetItem(outer) : new QTreeWidgetItem(m_list);
-        if (!symbol.isInside)
-            outer = item;
-        item->setText(kName, symbol.name);
-        item->setToolTip(kName, symbol.name);
-        item->setText(kKind, symbol.kind);
-        item->setForeground(kKind, palette().brush(QPalette::PlaceholderText));
-        item->setData(kName, kStartRole, QVariant::fromValue(symbol.start));
-        item->setData(kName, kEndRole, QVariant::fromValue(symbol.end));
-        m_items.push_back(item);
-    }
-    Filter();
+    m_symbols->Show(std::move(symbols));
 }
 
 void OutlinePane::ShowPlace(long position)
 {
-    const auto behind = std::upper_bound(
-        m_items.begin(), m_items.end(), position,
-        [](long place, const QTreeWidgetItem* item) { return place < StartOf(item); });
-    QTreeWidgetItem* item = behind == m_items.begin() ? nullptr : *std::prev(behind);
-    if (item && item->parent() && !item->parent()->isExpanded())
-        item = item->parent();
-    m_list->setCurrentItem(item);
+    const QModelIndex index = m_symbols->IndexAt(position);
+    const QModelIndex outer = index.parent();
+    const QModelIndex shown = outer.isValid() && !m_list->isExpanded(outer) ? outer : index;
+    if (m_list->currentIndex() != shown)
+        m_list->setCurrentIndex(shown);
 }
 
-// One that is left keeps what it stands in.
-void OutlinePane::Filter()
+// What is found inside is seen.
+void OutlinePane::Filter(const QString& words)
 {
-    const QString words = m_words->text();
-    for (QTreeWidgetItem* item : m_items) {
-        const bool fits = item->text(kName).contains(words, Qt::CaseInsensitive);
-        item->setHidden(!fits);
-        if (fits && item->parent() && !words.isEmpty()) {
-            item->parent()->setHidden(false);
-            item->parent()->setExpanded(true);
-        }
-    }
+    m_symbols->Filter(words);
+    if (words.isEmpty())
+        m_list->collapseAll();
+    else
+        m_list->expandAll();
 }

@@ -8,8 +8,8 @@
 
 class QLabel;
 class QLineEdit;
-class QTreeWidget;
-class QTreeWidgetItem;
+class QTreeView;
+class SymbolModel;
 
 class OutlinePane final : public QDockWidget
 {
@@ -18,9 +18,9 @@ class OutlinePane final : public QDockWidget
 public:
     explicit OutlinePane(QWidget* parent);
 
-    QTreeWidget* ListArea() const { return m_list; } // what can have the focus
+    QTreeView* ListArea() const { return m_list; } // what can have the focus
 
-    void Show(const std::vector<Symbol>& symbols);
+    void Show(std::vector<Symbol> symbols);
     void ShowNothing(const QString& why);
     void ShowPlace(long position); // of the caret
 
@@ -28,10 +28,10 @@ Q_SIGNALS:
     void Chosen(long start, long end); // positions in the script
 
 private:
-    void Filter();
+    void Filter(const QString& words);
 
     QLineEdit* m_words;
-    QTreeWidget* m_list;
-    QLabel* m_why;                         // nothing is listed
-    std::vector<QTreeWidgetItem*> m_items; // in the order of the script
+    SymbolModel* m_symbols;
+    QTreeView* m_list;
+    QLabel* m_why; // nothing is listed
 };

@@ -40,7 +40,7 @@ void SymbolPicker::Filter(const QString& words)
         if (!symbol.name.contains(words, Qt::CaseInsensitive))
             continue;
         auto* item =
-            new QListWidgetItem(symbol.name + QStringLiteral("    ") + symbol.kind, m_list);
+            new QListWidgetItem(symbol.name + QStringLiteral("    ") + KindText(symbol), m_list);
         item->setData(Qt::UserRole, static_cast<int>(i));
     }
     m_list->setCurrentRow(0);

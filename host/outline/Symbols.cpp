@@ -1,7 +1,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "host/outline/Symbols.h"
 
-#include "completion/ScriptNames.h"
 #include "control/Analysis.h"
 
 #include <QCoreApplication>
@@ -69,6 +68,8 @@ const DialectRow* DialectNamed(const QString& language)
     });
 }
 
+constexpr const char* kStep = QT_TRANSLATE_NOOP("Symbols", "Step");
+
 // What clients print between the parts of a script.
 void AddSteps(const QString& text, std::vector<Symbol>& symbols)
 {
@@ -79,7 +80,7 @@ void AddSteps(const QString& text, std::vector<Symbol>& symbols)
     for (auto at = step.globalMatch(text); at.hasNext();) {
         const QRegularExpressionMatch match = at.next();
         const int group = match.lastCapturedIndex();
-        symbols.push_back({match.captured(group).trimmed(), QStringLiteral("Step"),
+        symbols.push_back({match.captured(group).trimmed(), kStep,
                            static_cast<long>(match.capturedStart(group)),
                            static_cast<long>(match.capturedEnd(group))});
     }
@@ -97,17 +98,29 @@ std::vector<Symbol> SymbolsOf(const QString& text, const QString& language)
     const auto* dialect = DialectNamed(language);
     if (dialect == std::end(kDialects))
         return {};
-    std::vector<Symbol> symbols;
     const std::u16string_view units(reinterpret_cast<const char16_t*>(text.utf16()),
                                     static_cast<std::size_t>(text.size()));
-    for (const completion::ScriptName& name : completion::NamesIn(units, dialect->dialect)) {
+    std::vector<Symbol> symbols = SymbolsOf(completion::NamesIn(units, dialect->dialect));
+    AddSteps(text, symbols);
+    std::ranges::stable_sort(symbols, {}, &Symbol::start);
+    return symbols;
+}
+
+std::vector<Symbol> SymbolsOf(std::vector<completion::ScriptName> names)
+{
+    std::vector<Symbol> symbols;
+    symbols.reserve(names.size());
+    for (completion::ScriptName& name : names) {
         const auto* kind = std::find_if(std::begin(kKinds), std::end(kKinds),
                                         [&](const KindRow& row) { return row.kind == name.kind; });
         if (kind != std::end(kKinds))
             symbols.push_back(
-                {name.name, Texts::tr(kind->name), name.start, name.end, kind->isInside});
+                {std::move(name.name), kind->name, name.start, name.end, kind->isInside});
     }
-    AddSteps(text, symbols);
-    std::ranges::stable_sort(symbols, {}, &Symbol::start);
     return symbols;
+}
+
+QString KindText(const Symbol& symbol)
+{
+    return Texts::tr(symbol.kind);
 }

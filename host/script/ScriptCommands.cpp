@@ -173,9 +173,10 @@ void ScriptView::OnContextMenu(CWnd* window, CPoint point)
     }
     CZNCoreEditorView::OnContextMenu(window, point);
     auto* menu = qobject_cast<QMenu*>(QApplication::activePopupWidget());
-    const ScriptDoc* script = GetSafeHwnd() ? Script() : nullptr;
+    ScriptDoc* script = GetSafeHwnd() ? Script() : nullptr;
     if (!menu || !script || menu->actions().isEmpty())
         return;
+    Q_EMIT script->MenuOpened(menu);
     const QString name = m_coreEditor.SelectionFilename();
     if (name.isEmpty() ||
         (!IsAddress(name) && FindNamed(name, script->GetPathName()).path.isEmpty()))

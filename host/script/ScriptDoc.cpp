@@ -18,11 +18,38 @@
 #include <QDir>
 #include <QFileInfo>
 
+#include <algorithm>
 #include <utility>
 
 namespace {
 
 int encodingToOpenAs = -1;
+
+bool IsAscii(CZNCoreEditorControlEx& editor)
+{
+    constexpr long kPiece = 1 << 20; // units
+    const long length = editor.GetLength(1);
+    std::u16string piece(static_cast<std::size_t>(std::min(length, kPiece)) + 1, u'\0');
+    for (long start = 0; start < length; start += kPiece) {
+        const long count = std::min(kPiece, length - start);
+        editor.GetRange(start, start + count, piece.data());
+        if (std::any_of(piece.begin(), piece.begin() + count, [](char16_t c) { return c > 0x7F; }))
+            return false;
+    }
+    return true;
+}
+
+// A file of ASCII is in any encoding: it is in that of the options, if that leaves it as it is.
+void TakeDefaultEncoding(CZNCoreEditorControlEx& editor)
+{
+    bool hasMark = false;
+    const int type = CZNOptionsServer::GetObjectW()->GetInt(option::DefaultTextType);
+    const auto wanted =
+        FileEncodeConverter::ConvertToEncodingType(static_cast<znutils::TextType>(type), hasMark);
+    if (editor.GetEncoding() == FileEncodeConverter::encANSI &&
+        wanted == FileEncodeConverter::encUTF8 && IsAscii(editor))
+        editor.SetEncoding(wanted);
+}
 
 QString WhyNotRead(const QString& path)
 {
@@ -169,6 +196,8 @@ int ScriptDoc::OnOpenDocumentEx(const QString& path, FileEncodeConverter::encodi
             ReportSaveLoadException(path, nullptr, false, IDP_FAILED_TO_OPEN);
         return 0;
     }
+    if (encoding == FileEncodeConverter::encUnknown)
+        TakeDefaultEncoding(FirstView()->GetCoreEditorControlRef());
     m_onlyHere = false;
     m_isTracked = m_lastAccessTime != 0;
     if (IsReadOnly())

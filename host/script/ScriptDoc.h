@@ -12,6 +12,7 @@
 #include <memory>
 
 class LineEndWatch;
+class QMenu;
 class ScriptChecker;
 class ScriptView;
 
@@ -87,6 +88,7 @@ Q_SIGNALS:
     void TextChanged();
     void LanguageChanged(); // the looks are those of the language again, in all views
     void ProblemsChanged();
+    void MenuOpened(QMenu* menu);   // one of a view's own, filled
     void Told(const QString& text); // what a person should know, and need not answer
 
 protected:

@@ -202,8 +202,10 @@ void ScriptFrame::DestroyWindow()
     const FrameworkCall call;
     const HWND page = GetSafeHwnd();
     ScriptDoc* script = Script();
-    CFrameWnd::DestroyWindow();
     ScriptTabs* tabs = ScriptTabs::OfMainWindow();
+    if (page && tabs)
+        Q_EMIT tabs->Leaving(page);
+    CFrameWnd::DestroyWindow();
     if (page && tabs)
         tabs->Remove(page);
     if (script && !script->IsClosed())

@@ -42,4 +42,5 @@ private:
 
 Q_SIGNALS:
     void Added(QWidget* page);
+    void Leaving(QWidget* page); // which still shows its script
 };

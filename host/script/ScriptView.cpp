@@ -67,8 +67,6 @@ int ScriptView::OnCreate(CCreateContext* context)
         return -1;
     m_coreEditor.SetCarefulFiles(true);
     m_coreEditor.SetOffersCopies(false); // the workbench has a list of them
-    m_coreEditor.SetEncoding(FileEncodeConverter::encUTF8);
-    m_coreEditor.SetWriteEncodingSig(false);
     m_coreEditor.SetScrollWidth(1, 1);
     m_coreEditor.SetScheme(appearance::Current());
     DefineBatchMark(m_coreEditor);

@@ -22,6 +22,7 @@
 #include "host/session/AutosaveDialog.h"
 #include "host/window/LanguageMenu.h"
 #include "host/window/MainFrame.h"
+#include "host/window/Reasons.h"
 #include "host/window/StatusIndicators.h"
 #include "host/window/Workbench.h"
 #include "platform/services/OptionsServer.h"
@@ -108,6 +109,7 @@ MainWindow::MainWindow(Workbench& app)
     BuildSidebars();
     connect(m_expanded, &ExpandedScript::SourceChosen, this, &MainWindow::ShowSource);
     connect(m_tabs, &ScriptTabs::Added, this, &MainWindow::OnTabAdded);
+    connect(m_tabs, &ScriptTabs::Leaving, this, &MainWindow::NoteLeft);
     connect(m_tabs, &ScriptTabs::currentChanged, this, &MainWindow::OnCurrentChanged);
     connect(m_tabs->tabBar(), &QTabBar::tabMoved, this, &MainWindow::KeepSessionSoon);
     connect(m_tabs, &ScriptTabs::tabCloseRequested, this, &MainWindow::CloseTab);
@@ -218,6 +220,13 @@ void MainWindow::Follow(ScriptDoc& script)
     script.disconnect(this);
     connect(&script, &ScriptDoc::StateChanged, this, [this, &script] { OnScriptChanged(script); });
     connect(&script, &ScriptDoc::TextChanged, this, [this, &script] { TellResults(script); });
+    script.Names().disconnect(this);
+    connect(&script.Names(), &completion::LiveIndex::Finished, this,
+            [this, &script] { OnNamesRead(script); });
+    connect(&script, &ScriptDoc::MenuOpened, this, [this](QMenu* menu) {
+        SpeakAsMenus(*menu, *this);
+        ExplainEntries(*menu, CurrentEditor());
+    });
     connect(&script, &ScriptDoc::Told, this,
             [this](const QString& text) { statusBar()->showMessage(text); });
     connect(&script, &ScriptDoc::ProblemsChanged, this, [this, &script] {

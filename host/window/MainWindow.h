@@ -3,6 +3,8 @@
 // scripts are the application's documents.
 #pragma once
 
+#include "host/session/Session.h"
+
 #include <QMainWindow>
 
 #include <memory>
@@ -26,7 +28,6 @@ class ScriptFrame;
 class ScriptTabs;
 class StatusIndicators;
 class Workbench;
-struct SessionFile;
 struct Symbol;
 
 // Made with new: it goes when it is closed, or with the application.
@@ -116,7 +117,9 @@ private:
     void BuildSidebars();
     void UpdateOutlineSoon();
     void UpdateOutline();
-    void ShowOutline(const std::vector<Symbol>& symbols, const QString& language);
+    void OutlineByIndex(ScriptDoc& script, const QString& language);
+    void OnNamesRead(const ScriptDoc& script);
+    void ShowOutline(std::vector<Symbol> symbols, const QString& language);
     void SelectInScript(long start, long end);
     static QString LanguageOf(const ScriptDoc& script); // its name
     void OfferNewFile(const QString& path);             // where there is none
@@ -128,6 +131,8 @@ private:
     void KeepSession();
     bool PutSessionAside();
     bool Resume(const SessionFile& file); // false if it is not opened
+    void NoteLeft(const QWidget* page);   // how the script is shown whose tab goes
+    void ReopenAsLeft(const QString& path);
 
     Workbench& m_app;
     MainFrame* m_frame; // goes with this window
@@ -149,6 +154,7 @@ private:
     QTimer* m_sessionTimer;
     QList<QAction*> m_actions; // of the named commands, in their order
     bool m_keepsSession = false;
+    QList<SessionFile> m_left; // scripts whose tabs went, the last one last
     // Once a person has chosen; until then as each language has it.
     std::optional<bool> m_showWhitespace;
     std::optional<bool> m_showLineEnds;

@@ -306,7 +306,7 @@ void MainWindow::WrapLines(bool wrap)
 void MainWindow::ReopenClosed()
 {
     if (const QString path = m_tabs->TakeClosed(); !path.isEmpty())
-        m_app.OpenDocumentFile(path);
+        ReopenAsLeft(path);
     UpdateCommands();
 }
 
@@ -342,6 +342,10 @@ void MainWindow::OpenField(const QString& field)
     };
     if (field == QLatin1String("language")) {
         m_languages->popup(QCursor::pos());
+        return;
+    }
+    if (field == QLatin1String("path")) {
+        m_tabs->ShowMenu(m_tabs->currentIndex(), QCursor::pos());
         return;
     }
     CZNCoreEditorControlEx* editor = CurrentEditor();

@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 // MainWindow: what it remembers from one run to the next.
+#include "control/EngineLooks.h"
 #include "editing/ZNCoreEditorControlEx.h"
 #include "host/expanded/ExpandedScript.h"
 #include "host/files/Prompts.h"
@@ -34,16 +35,16 @@ SessionPanes PanesOf(const ScriptFrame& frame)
 
 constexpr int kBookmark = 0; // the marker
 
+// From one to the next, since this is asked whenever keys have rested.
 QList<int> FoldsOf(CZNCoreEditorControlEx& editor)
 {
     QList<int> lines;
-    const int count = static_cast<int>(editor.GetLineCount(1));
-    if (editor.GetWrapMode(1) == 0 && editor.VisibleFromDocLine(count, 1) == count)
-        return lines; // none is hidden
-    for (int line = 0; line < count && lines.size() < SessionFile::kMostLines; ++line) {
-        if (!editor.GetFoldExpanded(line, 1))
-            lines << line;
-    }
+    const auto next = [&editor](int line) {
+        return static_cast<int>(editor.Call(engine::kNextFolded, static_cast<WPARAM>(line), 0, 1));
+    };
+    for (int line = next(0); line >= 0 && lines.size() < SessionFile::kMostLines;
+         line = next(line + 1))
+        lines << line;
     return lines;
 }
 
@@ -172,6 +173,29 @@ bool MainWindow::Resume(const SessionFile& file)
         frame->Split(Qt::Horizontal);
     frame->Script()->StateChanged();
     return true;
+}
+
+void MainWindow::NoteLeft(const QWidget* page)
+{
+    constexpr qsizetype kMost = 50;
+    const ScriptFrame* frame = ScriptFrame::Of(page);
+    if (!frame || !frame->Script() || frame->Script()->GetPathName().isEmpty())
+        return;
+    const SessionFile file = Describe(*frame);
+    m_left.removeIf([&file](const SessionFile& other) { return other.path == file.path; });
+    m_left << file;
+    if (m_left.size() > kMost)
+        m_left.removeFirst();
+}
+
+// At its place, with its folds and bookmarks.
+void MainWindow::ReopenAsLeft(const QString& path)
+{
+    const auto left = std::ranges::find(m_left, path, &SessionFile::path);
+    if (left == m_left.end())
+        m_app.OpenDocumentFile(path);
+    else
+        Resume(m_left.takeAt(left - m_left.begin()));
 }
 
 void MainWindow::KeepSessionSoon()

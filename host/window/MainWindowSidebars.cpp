@@ -22,8 +22,11 @@
 
 namespace {
 
-constexpr std::chrono::milliseconds kRest(300);
-constexpr long kLongest = 4'000'000; // units; a longer text would stall the typing
+constexpr std::chrono::milliseconds kRest(150);
+constexpr std::chrono::milliseconds kPart(500); // between two looks at a text that is being read
+// Units. A longer text is not read for each rest: its index is asked, which knows what the script
+// creates, and neither columns nor steps.
+constexpr long kReadWhole = 500'000;
 
 } // namespace
 
@@ -53,7 +56,6 @@ void MainWindow::BuildSidebars()
     m_folder->toggleViewAction()->setObjectName(QStringLiteral("folder"));
     m_outlineTimer = new QTimer(this);
     m_outlineTimer->setSingleShot(true);
-    m_outlineTimer->setInterval(kRest);
     connect(m_outlineTimer, &QTimer::timeout, this, &MainWindow::UpdateOutline);
     connect(m_outline, &OutlinePane::visibilityChanged, this, &MainWindow::UpdateOutlineSoon);
     connect(m_outline, &OutlinePane::Chosen, this, &MainWindow::SelectInScript);
@@ -69,30 +71,58 @@ void MainWindow::BuildSidebars()
 void MainWindow::UpdateOutlineSoon()
 {
     if (m_outline->isVisible())
-        m_outlineTimer->start();
+        m_outlineTimer->start(kRest);
 }
 
 // A caret that has moved over the same text changes the list's current row alone.
 void MainWindow::UpdateOutline()
 {
     const ScriptFrame* frame = CurrentFrame();
-    if (!frame || frame->Editor().GetLength(1) > kLongest) {
-        m_outline->ShowNothing(frame ? tr("The script is too long for an outline.") : QString());
+    if (!frame) {
+        m_outline->ShowNothing({});
         m_outlined = 0;
         return;
     }
-    const QString text = frame->Editor().GetText();
     const QString language = LanguageOf(*frame->Script());
-    const std::size_t outlined = qHashMulti(1, text, language);
-    if (std::exchange(m_outlined, outlined) != outlined)
-        ShowOutline(SymbolsOf(text, language), language);
+    if (frame->Editor().GetLength(1) > kReadWhole && HasSymbols(language)) {
+        OutlineByIndex(*frame->Script(), language);
+    } else {
+        const QString text = HasSymbols(language) ? frame->Editor().GetText() : QString();
+        const std::size_t outlined = qHashMulti(1, text, language);
+        if (std::exchange(m_outlined, outlined) != outlined)
+            ShowOutline(SymbolsOf(text, language), language);
+    }
     m_outline->ShowPlace(frame->Editor().GetCurrentPos(1));
 }
 
-void MainWindow::ShowOutline(const std::vector<Symbol>& symbols, const QString& language)
+// As far as the text has been read by now, and again until it is.
+void MainWindow::OutlineByIndex(ScriptDoc& script, const QString& language)
+{
+    completion::LiveIndex& names = script.Names();
+    const std::size_t outlined = qHashMulti(2, &script, language);
+    const bool isOther = std::exchange(m_outlined, outlined) != outlined;
+    if (!isOther && names.IsDone())
+        return;
+    ShowOutline(SymbolsOf(names.Created()), language);
+    if (!names.IsDone())
+        m_outlineTimer->start(kPart);
+}
+
+// The index has followed a change, and the rest behind it is over.
+void MainWindow::OnNamesRead(const ScriptDoc& script)
+{
+    const ScriptFrame* frame = CurrentFrame();
+    if (!frame || frame->Script() != &script || !m_outline->isVisible())
+        return;
+    m_outlined = 0;
+    m_outlineTimer->stop();
+    UpdateOutline();
+}
+
+void MainWindow::ShowOutline(std::vector<Symbol> symbols, const QString& language)
 {
     if (!symbols.empty())
-        m_outline->Show(symbols);
+        m_outline->Show(std::move(symbols));
     else if (HasSymbols(language))
         m_outline->ShowNothing(tr("The script creates nothing that could be listed: no tables, "
                                   "views, procedures, and so on."));
@@ -102,19 +132,26 @@ void MainWindow::ShowOutline(const std::vector<Symbol>& symbols, const QString& 
                                    .arg(language));
 }
 
+// A name whose end is not known is a word, or stands in quotes.
 void MainWindow::SelectInScript(long start, long end)
 {
-    if (const ScriptFrame* frame = CurrentFrame())
-        frame->View()->SelectRange(start, end);
+    const ScriptFrame* frame = CurrentFrame();
+    if (!frame)
+        return;
+    const long known = end > start ? end : frame->Editor().WordEndPosition(start, 1, 1);
+    frame->View()->SelectRange(start, known);
 }
 
 void MainWindow::GoToSymbol()
 {
     const ScriptFrame* frame = CurrentFrame();
-    if (!frame || frame->Editor().GetLength(1) > kLongest)
+    if (!frame)
         return;
-    auto* picker =
-        new SymbolPicker(SymbolsOf(frame->Editor().GetText(), LanguageOf(*frame->Script())), this);
+    const QString language = LanguageOf(*frame->Script());
+    const bool isLong = frame->Editor().GetLength(1) > kReadWhole && HasSymbols(language);
+    auto* picker = new SymbolPicker(isLong ? SymbolsOf(frame->Script()->Names().CreatedInAll())
+                                           : SymbolsOf(frame->Editor().GetText(), language),
+                                    this);
     connect(picker, &SymbolPicker::Chosen, this, &MainWindow::SelectInScript);
     picker->move(mapToGlobal(QPoint((width() - picker->width()) / 2, menuBar()->height())));
     picker->show();

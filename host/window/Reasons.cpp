@@ -2,9 +2,11 @@
 #include "host/window/Reasons.h"
 
 #include "editing/ZNCoreEditorControlEx.h"
+#include "platform/windows/ActionUI.h"
 
 #include <QAction>
 #include <QCoreApplication>
+#include <QMainWindow>
 #include <QMenu>
 
 #include <algorithm>
@@ -54,6 +56,43 @@ constexpr Row kRows[] = {
 };
 // clang-format on
 
+// Commands that an action of the window's gives in a way of its own.
+struct CommandRow
+{
+    UINT command;
+    const char* name;
+};
+
+constexpr CommandRow kOwnWays[] = {
+    {57636, "find"},
+    {57640, "findNext"},
+    {57641, "replace"},
+};
+
+constexpr UINT kLineEnds = 54071; // the first of them
+
+// Of an entry whose own name would be that of another action's.
+constexpr const char* kCommandName = "commandName";
+
+QAction* ActionFor(UINT command, const QMainWindow& window)
+{
+    for (const CommandRow& row : kOwnWays) {
+        if (row.command == command)
+            return window.findChild<QAction*>(QLatin1String(row.name));
+    }
+    for (QAction* action : window.findChildren<QAction*>()) {
+        const bool isNamed = !action->objectName().isEmpty();
+        if (isNamed && (CommandOf(*action) == command || action->data().toUInt() == command))
+            return action;
+    }
+    return nullptr;
+}
+
+QString Plain(QString text)
+{
+    return text.remove(u'&');
+}
+
 constexpr const char* kWithoutScript[] = {"reopenClosed", "saveAll", "next", "previous"};
 
 } // namespace
@@ -77,8 +116,37 @@ QString WhyDisabled(const QString& command, CZNCoreEditorControlEx* editor)
 void ExplainEntries(const QMenu& menu, CZNCoreEditorControlEx* editor)
 {
     for (QAction* action : menu.actions()) {
+        const QVariant other = action->property(kCommandName);
+        const QString name = other.isValid() ? other.toString() : action->objectName();
+        if (action->menu() && other.isValid())
+            ExplainEntries(*action->menu(), editor);
         if (!action->isSeparator() && !action->menu())
-            action->setStatusTip(action->isEnabled() ? QString()
-                                                     : WhyDisabled(action->objectName(), editor));
+            action->setStatusTip(action->isEnabled() ? QString() : WhyDisabled(name, editor));
+    }
+}
+
+// A letter to press stays with a text that stays.
+void SpeakAsMenus(const QMenu& menu, const QMainWindow& window)
+{
+    for (QAction* entry : menu.actions()) {
+        if (entry->menu()) {
+            const QList<QAction*> inside = entry->menu()->actions();
+            if (!inside.isEmpty() && CommandOf(*inside.constFirst()) == kLineEnds)
+                entry->setText(Texts::tr("Convert Line Ends to"));
+            entry->setProperty(kCommandName, QString());
+            SpeakAsMenus(*entry->menu(), window);
+            continue;
+        }
+        const UINT command = CommandOf(*entry);
+        const QAction* action = command == 0 ? nullptr : ActionFor(command, window);
+        if (!action)
+            continue;
+        entry->setProperty(kCommandName, action->objectName());
+        const QString own = entry->text().section(u'\t', 0, 0);
+        const bool isInPart = menu.menuAction()->property(kCommandName).isValid();
+        const bool isSame = isInPart || Plain(own) == Plain(action->text());
+        const QString keys = action->shortcut().toString(QKeySequence::NativeText);
+        entry->setText((isSame ? own : Plain(action->text())) +
+                       (keys.isEmpty() ? QString() : u'\t' + keys));
     }
 }

@@ -10,6 +10,7 @@
 #include "host/script/ScriptFrame.h"
 #include "host/script/ScriptView.h"
 #include "host/window/FieldMenus.h"
+#include "host/window/PathField.h"
 
 #include <QEvent>
 #include <QLabel>
@@ -27,7 +28,7 @@ QString LanguageName(int language)
 } // namespace
 
 StatusIndicators::StatusIndicators(QStatusBar* bar)
-    : QObject(bar), m_bar(bar),
+    : QObject(bar), m_bar(bar), m_path(new PathField(bar)),
       m_recording(AddField("recording", tr("REC"), QT_TR_NOOP("A macro is recorded; stop it"))),
       m_readOnly(
           AddField("readOnly", tr("Read-only"), QT_TR_NOOP("Whether the script can be changed"))),
@@ -44,7 +45,10 @@ StatusIndicators::StatusIndicators(QStatusBar* bar)
       m_indentation(AddField("indentation", tr("Spaces: %1").arg(8), QT_TR_NOOP("Indentation"))),
       m_zoom(AddField("zoom", QStringLiteral("100 %"), QT_TR_NOOP("Zoom"))),
       m_overtype(AddField("overtype", tr("OVR"), QT_TR_NOOP("Whether typing replaces")))
-{}
+{
+    bar->addWidget(m_path, 1); // a message stands in its place for a while
+    connect(m_path, &PathField::Chosen, this, [this] { Q_EMIT Chosen(m_path->objectName()); });
+}
 
 // As wide as its widest text from the start, so that the fields beside it do not jump. A label
 // whose text changes has the layout around it made again, and the whole bar painted: the field that
@@ -93,9 +97,17 @@ void StatusIndicators::Put(QLabel& label, const QString& text)
     FitField(label);
 }
 
+// One that mostly says nothing leaves its room to the path.
+void StatusIndicators::PutIfAny(QLabel& label, const QString& text)
+{
+    Put(label, text);
+    label.parentWidget()->setVisible(!text.isEmpty());
+}
+
 void StatusIndicators::Show(const ScriptFrame* frame)
 {
     ScriptDoc* script = frame ? frame->Script() : nullptr;
+    m_path->Show(script ? script->GetPathName() : QString());
     if (!script || !script->LineEnds()) {
         for (QLabel* label : {m_recording, m_readOnly, m_modified, m_caret, m_catalog, m_language,
                               m_encoding, m_lineEnds, m_indentation, m_zoom, m_overtype})
@@ -104,11 +116,11 @@ void StatusIndicators::Show(const ScriptFrame* frame)
     }
     const SaveTarget target = script->CurrentTarget();
     CZNCoreEditorControlEx& editor = frame->Editor();
-    Put(*m_recording, frame->View()->IsRecording() ? tr("REC") : QString());
-    Put(*m_readOnly, script->IsReadOnly() ? tr("Read-only") : QString());
+    PutIfAny(*m_recording, frame->View()->IsRecording() ? tr("REC") : QString());
+    PutIfAny(*m_readOnly, script->IsReadOnly() ? tr("Read-only") : QString());
     Put(*m_modified, script->IsModified() ? tr("Modified") : QString());
     Put(*m_caret, frame->View()->CaretText());
-    Put(*m_catalog, frame->View()->Catalog());
+    PutIfAny(*m_catalog, frame->View()->Catalog());
     Put(*m_language, LanguageName(script->Language()));
     Put(*m_encoding, EncodingName(target.encoding, target.mark));
     Put(*m_lineEnds, LineEndText(script->LineEnds()->Kind(), editor.GetEOLMode(1)));

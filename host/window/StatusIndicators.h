@@ -1,9 +1,10 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-// The fields of the status bar, right of its messages.
+// The fields of the status bar, beside and right of its messages.
 #pragma once
 
 #include <QObject>
 
+class PathField;
 class QLabel;
 class QStatusBar;
 class ScriptFrame;
@@ -27,8 +28,10 @@ private:
     QLabel* AddField(const char* name, const QString& widest, const char* toolTip);
     static void FitField(QLabel& label);
     static void Put(QLabel& label, const QString& text);
+    static void PutIfAny(QLabel& label, const QString& text);
 
     QStatusBar* m_bar;
+    PathField* m_path;
     QLabel* m_recording;
     QLabel* m_readOnly;
     QLabel* m_modified;

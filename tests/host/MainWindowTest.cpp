@@ -406,7 +406,7 @@ TEST_F(MainWindows, ShowsEachScriptsOwnStateWhenItsTabComesToTheFront)
     EXPECT_EQ(Status("encoding"), QStringLiteral("UTF-8 with mark"));
     EXPECT_TRUE(Status("modified").isEmpty());
     Trigger("previous");
-    EXPECT_EQ(Status("encoding"), QStringLiteral("windows-1252"));
+    EXPECT_EQ(Status("encoding"), QStringLiteral("UTF-8"));
     EXPECT_EQ(Status("modified"), QStringLiteral("Modified"));
     Trigger("next");
     EXPECT_EQ(Text(), QStringLiteral("b\r\n"));

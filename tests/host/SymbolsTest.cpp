@@ -11,8 +11,8 @@ std::vector<std::string> SymbolsIn(const QString& text, const QString& language)
     std::vector<std::string> lines;
     for (const Symbol& symbol : SymbolsOf(text, language)) {
         const QString place = text.mid(symbol.start, symbol.end - symbol.start);
-        lines.push_back((QString(symbol.isInside ? "  " : "") + symbol.kind + ' ' + symbol.name +
-                         " at " + place)
+        lines.push_back((QString(symbol.isInside ? "  " : "") + KindText(symbol) + ' ' +
+                         symbol.name + " at " + place)
                             .toStdString());
     }
     return lines;

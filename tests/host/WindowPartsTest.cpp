@@ -3,13 +3,17 @@
 // bar, tabs that were closed.
 #include "host/folder/FolderPane.h"
 #include "host/help/KeysDialog.h"
+#include "host/options/OptionsDialog.h"
 #include "host/outline/OutlinePane.h"
 #include "host/outline/SymbolPicker.h"
 #include "host/problems/ProblemPane.h"
 #include "host/script/ScriptTabs.h"
 #include "host/window/FieldMenus.h"
+#include "host/window/PathField.h"
+#include "platform/services/OptionsServer.h"
 #include "tests/host/WorkbenchTest.h"
 
+#include <QComboBox>
 #include <QFileSystemModel>
 #include <QLabel>
 #include <QLineEdit>
@@ -31,6 +35,22 @@ protected:
     {
         constexpr int kMost = 5000; // milliseconds
         return QTest::qWaitFor(condition, kMost);
+    }
+
+    QTreeView& OutlineList() { return *m_window.findChild<QTreeView*>("outlineList"); }
+
+    // Names, those inside of others behind two blanks.
+    QStringList Outlined()
+    {
+        const QAbstractItemModel& model = *OutlineList().model();
+        QStringList names;
+        for (int i = 0; i < model.rowCount(); ++i) {
+            const QModelIndex outer = model.index(i, 0);
+            names << outer.data().toString();
+            for (int j = 0; j < model.rowCount(outer); ++j)
+                names << "  " + model.index(j, 0, outer).data().toString();
+        }
+        return names;
     }
 };
 
@@ -122,16 +142,41 @@ TEST_F(WindowParts, ShowTheOutlineOfTheScript)
 {
     Open("a.sql", "create table t (n int);\ncreate view v as select 1;\n");
     Trigger("outline");
-    const auto* list = m_window.findChild<QTreeWidget*>("outlineList");
-    ASSERT_TRUE(Wait([&] { return list->topLevelItemCount() == 2; }));
-    EXPECT_EQ(list->topLevelItem(0)->text(0), "t");
-    EXPECT_EQ(list->topLevelItem(0)->child(0)->text(0), "n");
-    Q_EMIT m_window.findChild<QTreeWidget*>("outlineList")->itemActivated(list->topLevelItem(1), 0);
+    ASSERT_TRUE(Wait([&] { return Outlined() == QStringList({"t", "  n", "v"}); }));
+    QTreeView& list = OutlineList();
+    Q_EMIT list.activated(list.model()->index(1, 0));
     EXPECT_EQ(Editor().GetSelectionStart(1), 36);
     Editor().GotoPos(0, 1);
     Editor().ReplaceSel(u"create table before_it (n int);\n", 1);
-    EXPECT_TRUE(Wait([&] { return list->topLevelItemCount() == 3; }));
-    EXPECT_EQ(list->topLevelItem(0)->text(0), "before_it");
+    EXPECT_TRUE(Wait([&] {
+        return Outlined() == QStringList({"before_it", "  n", "t", "  n", "v"});
+    }));
+}
+
+// The index of the names is asked for one that is this long.
+TEST_F(WindowParts, OutlineALongScriptAndFollowIt)
+{
+    std::string text;
+    QStringList names;
+    for (int i = 0; text.size() < 1'000'000; ++i) {
+        names << QStringLiteral("table_%1").arg(i);
+        text += "create table " + names.back().toStdString() + " (n int);\n";
+        text += std::string(2000, ' ') + "\n";
+    }
+    Open("a.sql", QByteArray::fromStdString(text));
+    Trigger("outline");
+    ASSERT_TRUE(Wait([&] { return Outlined() == names; })) << Outlined().size();
+    Editor().SetSel(13, 20, 1);
+    Editor().ReplaceSel(u"\"first one\"", 1);
+    names[0] = QStringLiteral("first one");
+    EXPECT_TRUE(Wait([&] { return Outlined() == names; }))
+        << Outlined().value(0).toStdString() << ' ' << Outlined().size() << " of " << names.size();
+    QTreeView& list = OutlineList();
+    Q_EMIT list.activated(list.model()->index(2, 0));
+    const long start = Editor().GetSelectionStart(1);
+    EXPECT_EQ(Text().mid(start, Editor().GetSelectionEnd(1) - start), names[2]);
+    EXPECT_EQ(list.currentIndex().row(), 0);
+    EXPECT_TRUE(Wait([&] { return list.currentIndex().row() == 2; }));
 }
 
 TEST_F(WindowParts, SayWhyAnOutlineIsEmpty)
@@ -139,14 +184,13 @@ TEST_F(WindowParts, SayWhyAnOutlineIsEmpty)
     Open("a.sql", "select 1;\n");
     Trigger("outline");
     const auto* why = m_window.findChild<QLabel*>("outlineWhy");
-    const auto* list = m_window.findChild<QTreeWidget*>("outlineList");
     ASSERT_TRUE(Wait([&] { return why->isVisible(); }));
     EXPECT_TRUE(why->text().contains("creates nothing"));
-    EXPECT_FALSE(list->isVisible());
+    EXPECT_FALSE(OutlineList().isVisible());
     Editor().ReplaceSel(u"create table t (n int);\n", 1);
-    ASSERT_TRUE(Wait([&] { return list->isVisible(); }));
+    ASSERT_TRUE(Wait([&] { return OutlineList().isVisible(); }));
     EXPECT_FALSE(why->isVisible());
-    EXPECT_EQ(list->topLevelItemCount(), 1);
+    EXPECT_EQ(Outlined(), QStringList({"t", "  n"}));
     Open("a.css", "a { color: red; }\n");
     ASSERT_TRUE(Wait([&] { return why->isVisible(); }));
     EXPECT_TRUE(why->text().contains("CSS"));
@@ -219,6 +263,85 @@ TEST_F(WindowParts, SayWhyACommandIsDisabled)
     EXPECT_EQ(tipOf("copy"), "");
     Trigger("readOnlySwitch");
     EXPECT_EQ(tipOf("cut"), "The script is read-only.");
+}
+
+TEST_F(WindowParts, NameCommandsInTheContextMenuAsInTheMenus)
+{
+    Open("a.sql", "a");
+    SendMessage(Frame().View()->GetSafeHwnd(), WM_CONTEXTMENU, 0, PointParam({5, 5}));
+    auto* menu = qobject_cast<QMenu*>(QApplication::activePopupWidget());
+    ASSERT_NE(menu, nullptr);
+    QHash<QString, QString> tips; // by the text without its letter and keys
+    QStringList keys;
+    for (const QAction* action : menu->actions()) {
+        tips[action->text().section('\t', 0, 0).remove('&')] = action->statusTip();
+        keys << action->text().section('\t', 1);
+    }
+    menu->close();
+    EXPECT_TRUE(tips.contains("Uncomment"));
+    EXPECT_TRUE(tips.contains("Find Next"));
+    EXPECT_TRUE(tips.contains("Convert Line Ends to"));
+    EXPECT_FALSE(tips.contains("Undo Comment Out"));
+    EXPECT_TRUE(keys.contains("Ctrl+Shift+/"));
+    EXPECT_EQ(tips["Undo"], "There is nothing to undo.");
+    EXPECT_EQ(tips["Copy"], "Nothing is selected.");
+    EXPECT_EQ(tips["Select All"], "");
+}
+
+TEST_F(WindowParts, ShowThePathOfTheScript)
+{
+    const auto* field = m_window.findChild<PathField*>();
+    ASSERT_NE(field, nullptr);
+    EXPECT_EQ(field->Path(), "");
+    Open("a.sql", "a");
+    EXPECT_EQ(field->Path(), PathOf("a.sql"));
+    QTest::mouseClick(m_window.findChild<PathField*>(), Qt::LeftButton);
+    auto* menu = m_window.findChild<QMenu*>("tabMenu");
+    ASSERT_NE(menu, nullptr);
+    menu->close();
+}
+
+TEST_F(WindowParts, BringAClosedTabBackAtItsPlace)
+{
+    Open("a.sql", QByteArray("begin\n  select 1;\nend\n").repeated(100));
+    Editor().GotoLine(150, 1);
+    Editor().LineScroll(0, 120 - Editor().GetFirstVisibleLine(1), 1);
+    Editor().MarkerAdd(7, 0, 1);
+    Editor().SetZoom(2, 1);
+    Trigger("close");
+    Trigger("reopenClosed");
+    EXPECT_EQ(Editor().LineFromPosition(Editor().GetCurrentPos(1), 1), 150);
+    EXPECT_EQ(Editor().GetFirstVisibleLine(1), 120);
+    EXPECT_EQ(Editor().MarkerNext(0, 1, 1), 7);
+    EXPECT_EQ(Editor().GetZoom(1), 2);
+}
+
+// Bytes that are no UTF-8 tell what they are; plain letters do not.
+TEST_F(WindowParts, TakeTheEncodingOfTheOptionsWhereAFileTellsNone)
+{
+    CZNOptionsServer& options = *CZNOptionsServer::GetObjectW();
+    const int before = options.GetInt(option::DefaultTextType);
+    {
+        OptionsDialog dialog(nullptr);
+        auto* box = dialog.findChild<QComboBox*>("encoding");
+        EXPECT_EQ(box->currentText(), "UTF-8");
+        box->setCurrentText("windows-1252");
+        dialog.Store();
+    }
+    EXPECT_EQ(options.GetInt(option::DefaultTextType), 0);
+    Open("a.sql", "plain\n");
+    Settle();
+    EXPECT_EQ(Status("encoding"), "windows-1252");
+    options.SetInt(option::DefaultTextType, before);
+    Open("b.sql", "plain\n");
+    Settle();
+    EXPECT_EQ(Status("encoding"), "UTF-8");
+    Editor().ReplaceSel(u"\u00e9", 1);
+    Trigger("save");
+    EXPECT_EQ(Read("b.sql"), "\xC3\xA9plain\n");
+    Open("c.sql", "caf\xE9\n");
+    Settle();
+    EXPECT_EQ(Status("encoding"), "windows-1252");
 }
 
 } // namespace

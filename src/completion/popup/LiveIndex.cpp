@@ -129,6 +129,11 @@ std::vector<ScriptName> LiveIndex::CreatedInAll()
     return Listed();
 }
 
+bool LiveIndex::IsDone() const
+{
+    return m_index && m_index->IsDone();
+}
+
 std::size_t LiveIndex::MemoryBytes() const
 {
     return m_index ? m_index->MemoryBytes() : 0;

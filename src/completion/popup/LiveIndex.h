@@ -52,6 +52,7 @@ public:
     std::vector<ScriptName> Created();
     std::vector<ScriptName> CreatedInAll();
 
+    bool IsDone() const;             // nothing is left to be read, of what has been asked for
     std::size_t MemoryBytes() const; // that it takes
 
     void Start(); // to follow and to read, before anybody asks
