@@ -4,6 +4,7 @@
 #include <QPainter>
 
 #include <algorithm>
+#include <cmath>
 
 namespace engine {
 namespace {
@@ -47,7 +48,7 @@ void TabArrows::Paint(QPainter& painter, long line, int height) const
         const auto top = m_raw.Send(Sci::SCI_POINTYFROMPOSITION, 0, place);
         // Where the stock engine's line ends.
         const QPointF point(static_cast<qreal>(right) - 1.5,
-                            static_cast<qreal>(top + height / 2) + 0.5);
+                            static_cast<qreal>(top) + std::floor(height / 2.0) + 0.5);
         const QPointF ends[] = {point + QPointF(-side, -side), point, point + QPointF(-side, side)};
         painter.drawPolyline(ends, 3);
     }

@@ -112,9 +112,11 @@ void MainWindow::OutlineByIndex(ScriptDoc& script, const QString& language)
 void MainWindow::OnNamesRead(const ScriptDoc& script)
 {
     const ScriptFrame* frame = CurrentFrame();
-    if (!frame || frame->Script() != &script || !m_outline->isVisible())
+    if (!frame || frame->Script() != &script)
         return;
     m_outlined = 0;
+    if (!m_outline->isVisible())
+        return;
     m_outlineTimer->stop();
     UpdateOutline();
 }
