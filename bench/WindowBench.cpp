@@ -74,17 +74,10 @@ Seconds ReplaceAndUndo(const char* path)
     return seconds;
 }
 
-Seconds AskChild(const std::string& path, const QString& platform, const QString& display)
+Seconds AskSeconds(const std::string& path, const QString& platform, const QString& display)
 {
-    QProcess child;
-    QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
-    environment.insert(QStringLiteral("QT_QPA_PLATFORM"), platform);
-    environment.insert(QStringLiteral("DISPLAY"), display);
-    child.setProcessEnvironment(environment);
-    child.start("/proc/self/exe", {"--in-window", QString::fromStdString(path)});
-    child.waitForFinished(-1);
     Seconds seconds;
-    std::istringstream(child.readAllStandardOutput().toStdString()) >> seconds.replace >>
+    std::istringstream(AskChild(platform, display, "--in-window", path)) >> seconds.replace >>
         seconds.undo;
     return seconds;
 }
@@ -111,37 +104,62 @@ void ReportTurns(benchmark::State& state, const std::vector<Seconds>& shown,
 
 void InWindow(benchmark::State& state, double Seconds::*what)
 {
-    QProcess server;
-    server.start(QStringLiteral("Xvfb"),
-                 {"-displayfd", "1", "-screen", "0", "1280x1024x24", "-nolisten", "tcp"});
-    if (!server.waitForReadyRead()) {
-        state.SkipWithError("there is no Xvfb");
-        return;
-    }
-    const QString display = u':' + QString::fromLatin1(server.readLine()).trimmed();
     std::string text;
     for (int line = 0; line < kMatches; ++line)
         text += "where a = 1;\n";
     const std::string path = WriteFile("window.sql", text);
     std::vector<Seconds> shown;
     std::vector<Seconds> unseen;
-    for (auto _ : state) {
-        for (int round = 0; round < kRounds; ++round) {
-            unseen.push_back(AskChild(path, QStringLiteral("offscreen"), display));
-            shown.push_back(AskChild(path, QStringLiteral("xcb"), display));
+    const bool hasDisplay = WithDisplay([&](const QString& display) {
+        for (auto _ : state) {
+            for (int round = 0; round < kRounds; ++round) {
+                unseen.push_back(AskSeconds(path, QStringLiteral("offscreen"), display));
+                shown.push_back(AskSeconds(path, QStringLiteral("xcb"), display));
+            }
         }
-    }
-    server.kill();
-    server.waitForFinished();
-    ReportTurns(state, shown, unseen, what);
+    });
+    if (hasDisplay)
+        ReportTurns(state, shown, unseen, what);
+    else
+        state.SkipWithError("there is no Xvfb");
 }
 BENCHMARK_CAPTURE(InWindow, ReplaceAll, &Seconds::replace)->Iterations(1)->UseManualTime();
 BENCHMARK_CAPTURE(InWindow, Undo, &Seconds::undo)->Iterations(1)->UseManualTime();
 
 } // namespace
 
+bool WithDisplay(const std::function<void(const QString& display)>& work)
+{
+    QProcess server;
+    server.start(QStringLiteral("Xvfb"),
+                 {"-displayfd", "1", "-screen", "0", "1280x1024x24", "-nolisten", "tcp"});
+    if (!server.waitForReadyRead())
+        return false;
+    work(u':' + QString::fromLatin1(server.readLine()).trimmed());
+    server.kill();
+    server.waitForFinished();
+    return true;
+}
+
+std::string AskChild(const QString& platform, const QString& display, const char* word,
+                     const std::string& path)
+{
+    QProcess child;
+    QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
+    environment.insert(QStringLiteral("QT_QPA_PLATFORM"), platform);
+    environment.insert(QStringLiteral("DISPLAY"), display);
+    child.setProcessEnvironment(environment);
+    child.start("/proc/self/exe", {word, QString::fromStdString(path)});
+    child.waitForFinished(-1);
+    return child.readAllStandardOutput().toStdString();
+}
+
 bool RunInWindow(int argc, char** argv)
 {
+    if (argc == 3 && std::strcmp(argv[1], "--keys-in-window") == 0) {
+        PrintKeyTimes(argv[2]);
+        return true;
+    }
     if (argc != 3 || std::strcmp(argv[1], "--in-window") != 0)
         return false;
     const Seconds seconds = ReplaceAndUndo(argv[2]);
