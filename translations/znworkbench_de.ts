@@ -1004,10 +1004,6 @@ Mit Qt %1. Lizenziert unter der GNU General Public License, Version 3 oder spät
         <translation>Es ist jetzt in „%1“.</translation>
     </message>
     <message>
-        <source>The script is too long for an outline.</source>
-        <translation>Das Skript ist zu lang für eine Gliederung.</translation>
-    </message>
-    <message>
         <source>The script creates nothing that could be listed: no tables, views, procedures, and so on.</source>
         <translation>Das Skript legt nichts an, was aufgelistet werden könnte: keine Tabellen, Sichten, Prozeduren und so weiter.</translation>
     </message>
@@ -1150,6 +1146,22 @@ Mit Qt %1. Lizenziert unter der GNU General Public License, Version 3 oder spät
         <source>Print si&amp;ze</source>
         <translation>Größe &amp;im Druck</translation>
     </message>
+    <message>
+        <source>UTF-8 with mark</source>
+        <translation>UTF-8 mit BOM</translation>
+    </message>
+    <message>
+        <source>UTF-16 LE with mark</source>
+        <translation>UTF-16 LE mit BOM</translation>
+    </message>
+    <message>
+        <source>Of new scripts, and of files that do not tell theirs by a mark or by what stands in them</source>
+        <translation>Von neuen Skripten und von Dateien, die sie weder durch eine BOM noch durch ihren Inhalt zeigen</translation>
+    </message>
+    <message>
+        <source>&amp;Encoding without a mark</source>
+        <translation>Kodie&amp;rung ohne BOM</translation>
+    </message>
 </context>
 <context>
     <name>OutlinePane</name>
@@ -1169,13 +1181,12 @@ Mit Qt %1. Lizenziert unter der GNU General Public License, Version 3 oder spät
         <source>Outline of the script</source>
         <translation>Gliederung des Skripts</translation>
     </message>
+</context>
+<context>
+    <name>PathField</name>
     <message>
-        <source>Name</source>
-        <translation>Name</translation>
-    </message>
-    <message>
-        <source>Kind</source>
-        <translation>Art</translation>
+        <source>Path of the script</source>
+        <translation>Pfad des Skripts</translation>
     </message>
 </context>
 <context>
@@ -1297,6 +1308,10 @@ Mit Qt %1. Lizenziert unter der GNU General Public License, Version 3 oder spät
     <message>
         <source>The script has nothing here to do this with.</source>
         <translation>Im Skript gibt es hier nichts, womit das ginge.</translation>
+    </message>
+    <message>
+        <source>Convert Line Ends to</source>
+        <translation>Zeilenenden umwandeln in</translation>
     </message>
 </context>
 <context>
@@ -1889,6 +1904,17 @@ Mit Qt %1. Lizenziert unter der GNU General Public License, Version 3 oder spät
     </message>
 </context>
 <context>
+    <name>SymbolModel</name>
+    <message>
+        <source>Name</source>
+        <translation>Name</translation>
+    </message>
+    <message>
+        <source>Kind</source>
+        <translation>Art</translation>
+    </message>
+</context>
+<context>
     <name>SymbolPicker</name>
     <message>
         <source>Go to Symbol</source>
@@ -1956,6 +1982,10 @@ Mit Qt %1. Lizenziert unter der GNU General Public License, Version 3 oder spät
     <message>
         <source>Parameter</source>
         <translation>Parameter</translation>
+    </message>
+    <message>
+        <source>Step</source>
+        <translation>Schritt</translation>
     </message>
 </context>
 <context>

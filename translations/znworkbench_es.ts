@@ -1004,10 +1004,6 @@ Con Qt %1. Con licencia pública general de GNU, versión 3 o posterior.</transl
         <translation>Ahora está en «%1».</translation>
     </message>
     <message>
-        <source>The script is too long for an outline.</source>
-        <translation>El script es demasiado largo para un esquema.</translation>
-    </message>
-    <message>
         <source>The script creates nothing that could be listed: no tables, views, procedures, and so on.</source>
         <translation>El script no crea nada que se pueda enumerar: ni tablas, ni vistas, ni procedimientos, etc.</translation>
     </message>
@@ -1150,6 +1146,22 @@ Con Qt %1. Con licencia pública general de GNU, versión 3 o posterior.</transl
         <source>Print si&amp;ze</source>
         <translation>Tamaño &amp;de impresión</translation>
     </message>
+    <message>
+        <source>UTF-8 with mark</source>
+        <translation>UTF-8 con BOM</translation>
+    </message>
+    <message>
+        <source>UTF-16 LE with mark</source>
+        <translation>UTF-16 LE con BOM</translation>
+    </message>
+    <message>
+        <source>Of new scripts, and of files that do not tell theirs by a mark or by what stands in them</source>
+        <translation>De los scripts nuevos y de los archivos que no la indican con una marca ni con su contenido</translation>
+    </message>
+    <message>
+        <source>&amp;Encoding without a mark</source>
+        <translation>C&amp;odificación sin marca</translation>
+    </message>
 </context>
 <context>
     <name>OutlinePane</name>
@@ -1169,13 +1181,12 @@ Con Qt %1. Con licencia pública general de GNU, versión 3 o posterior.</transl
         <source>Outline of the script</source>
         <translation>Esquema del script</translation>
     </message>
+</context>
+<context>
+    <name>PathField</name>
     <message>
-        <source>Name</source>
-        <translation>Nombre</translation>
-    </message>
-    <message>
-        <source>Kind</source>
-        <translation>Tipo</translation>
+        <source>Path of the script</source>
+        <translation>Ruta del script</translation>
     </message>
 </context>
 <context>
@@ -1297,6 +1308,10 @@ Con Qt %1. Con licencia pública general de GNU, versión 3 o posterior.</transl
     <message>
         <source>The script has nothing here to do this with.</source>
         <translation>El script no tiene aquí nada con qué hacerlo.</translation>
+    </message>
+    <message>
+        <source>Convert Line Ends to</source>
+        <translation>Convertir los finales de línea a</translation>
     </message>
 </context>
 <context>
@@ -1889,6 +1904,17 @@ Con Qt %1. Con licencia pública general de GNU, versión 3 o posterior.</transl
     </message>
 </context>
 <context>
+    <name>SymbolModel</name>
+    <message>
+        <source>Name</source>
+        <translation>Nombre</translation>
+    </message>
+    <message>
+        <source>Kind</source>
+        <translation>Tipo</translation>
+    </message>
+</context>
+<context>
     <name>SymbolPicker</name>
     <message>
         <source>Go to Symbol</source>
@@ -1956,6 +1982,10 @@ Con Qt %1. Con licencia pública general de GNU, versión 3 o posterior.</transl
     <message>
         <source>Parameter</source>
         <translation>Parámetro</translation>
+    </message>
+    <message>
+        <source>Step</source>
+        <translation>Paso</translation>
     </message>
 </context>
 <context>

@@ -1004,10 +1004,6 @@ Avec Qt %1. Sous licence publique générale GNU, version 3 ou ultérieure.</tra
         <translation>Elle est maintenant dans «&#xa0;%1&#xa0;».</translation>
     </message>
     <message>
-        <source>The script is too long for an outline.</source>
-        <translation>Le script est trop long pour un plan.</translation>
-    </message>
-    <message>
         <source>The script creates nothing that could be listed: no tables, views, procedures, and so on.</source>
         <translation>Le script ne crée rien qui puisse être listé&#xa0;: ni tables, ni vues, ni procédures, etc.</translation>
     </message>
@@ -1150,6 +1146,22 @@ Avec Qt %1. Sous licence publique générale GNU, version 3 ou ultérieure.</tra
         <source>Print si&amp;ze</source>
         <translation>T&amp;aille d’impression</translation>
     </message>
+    <message>
+        <source>UTF-8 with mark</source>
+        <translation>UTF-8 avec BOM</translation>
+    </message>
+    <message>
+        <source>UTF-16 LE with mark</source>
+        <translation>UTF-16 LE avec BOM</translation>
+    </message>
+    <message>
+        <source>Of new scripts, and of files that do not tell theirs by a mark or by what stands in them</source>
+        <translation>Des nouveaux scripts, et des fichiers dont ni une marque ni le contenu ne la révèle</translation>
+    </message>
+    <message>
+        <source>&amp;Encoding without a mark</source>
+        <translation>Enc&amp;odage sans marque</translation>
+    </message>
 </context>
 <context>
     <name>OutlinePane</name>
@@ -1169,13 +1181,12 @@ Avec Qt %1. Sous licence publique générale GNU, version 3 ou ultérieure.</tra
         <source>Outline of the script</source>
         <translation>Plan du script</translation>
     </message>
+</context>
+<context>
+    <name>PathField</name>
     <message>
-        <source>Name</source>
-        <translation>Nom</translation>
-    </message>
-    <message>
-        <source>Kind</source>
-        <translation>Type</translation>
+        <source>Path of the script</source>
+        <translation>Chemin du script</translation>
     </message>
 </context>
 <context>
@@ -1297,6 +1308,10 @@ Avec Qt %1. Sous licence publique générale GNU, version 3 ou ultérieure.</tra
     <message>
         <source>The script has nothing here to do this with.</source>
         <translation>Le script n’a rien ici qui s’y prête.</translation>
+    </message>
+    <message>
+        <source>Convert Line Ends to</source>
+        <translation>Convertir les fins de ligne en</translation>
     </message>
 </context>
 <context>
@@ -1889,6 +1904,17 @@ Avec Qt %1. Sous licence publique générale GNU, version 3 ou ultérieure.</tra
     </message>
 </context>
 <context>
+    <name>SymbolModel</name>
+    <message>
+        <source>Name</source>
+        <translation>Nom</translation>
+    </message>
+    <message>
+        <source>Kind</source>
+        <translation>Type</translation>
+    </message>
+</context>
+<context>
     <name>SymbolPicker</name>
     <message>
         <source>Go to Symbol</source>
@@ -1956,6 +1982,10 @@ Avec Qt %1. Sous licence publique générale GNU, version 3 ou ultérieure.</tra
     <message>
         <source>Parameter</source>
         <translation>Paramètre</translation>
+    </message>
+    <message>
+        <source>Step</source>
+        <translation>Étape</translation>
     </message>
 </context>
 <context>

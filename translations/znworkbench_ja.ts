@@ -1000,10 +1000,6 @@ Qt %1 を使用。GNU General Public License バージョン 3 以降の下で�
         <translation>現在は「%1」にあります。</translation>
     </message>
     <message>
-        <source>The script is too long for an outline.</source>
-        <translation>スクリプトが長すぎてアウトラインを表示できません。</translation>
-    </message>
-    <message>
         <source>The script creates nothing that could be listed: no tables, views, procedures, and so on.</source>
         <translation>一覧にできるもの (テーブル、ビュー、プロシージャなど) をスクリプトは作成していません。</translation>
     </message>
@@ -1144,6 +1140,22 @@ Qt %1 を使用。GNU General Public License バージョン 3 以降の下で�
         <source>Print si&amp;ze</source>
         <translation>印刷サイズ(&amp;Z)</translation>
     </message>
+    <message>
+        <source>UTF-8 with mark</source>
+        <translation>UTF-8 (BOM 付き)</translation>
+    </message>
+    <message>
+        <source>UTF-16 LE with mark</source>
+        <translation>UTF-16 LE (BOM 付き)</translation>
+    </message>
+    <message>
+        <source>Of new scripts, and of files that do not tell theirs by a mark or by what stands in them</source>
+        <translation>新しいスクリプトと、マークや内容からエンコーディングが分からないファイルに使います</translation>
+    </message>
+    <message>
+        <source>&amp;Encoding without a mark</source>
+        <translation>マークのないファイルのエンコーディング(&amp;E)</translation>
+    </message>
 </context>
 <context>
     <name>OutlinePane</name>
@@ -1163,13 +1175,12 @@ Qt %1 を使用。GNU General Public License バージョン 3 以降の下で�
         <source>Outline of the script</source>
         <translation>スクリプトのアウトライン</translation>
     </message>
+</context>
+<context>
+    <name>PathField</name>
     <message>
-        <source>Name</source>
-        <translation>名前</translation>
-    </message>
-    <message>
-        <source>Kind</source>
-        <translation>種類</translation>
+        <source>Path of the script</source>
+        <translation>スクリプトのパス</translation>
     </message>
 </context>
 <context>
@@ -1291,6 +1302,10 @@ Qt %1 を使用。GNU General Public License バージョン 3 以降の下で�
     <message>
         <source>The script has nothing here to do this with.</source>
         <translation>この操作の対象がスクリプトのここにはありません。</translation>
+    </message>
+    <message>
+        <source>Convert Line Ends to</source>
+        <translation>改行コードを変換</translation>
     </message>
 </context>
 <context>
@@ -1877,6 +1892,17 @@ Qt %1 を使用。GNU General Public License バージョン 3 以降の下で�
     </message>
 </context>
 <context>
+    <name>SymbolModel</name>
+    <message>
+        <source>Name</source>
+        <translation>名前</translation>
+    </message>
+    <message>
+        <source>Kind</source>
+        <translation>種類</translation>
+    </message>
+</context>
+<context>
     <name>SymbolPicker</name>
     <message>
         <source>Go to Symbol</source>
@@ -1944,6 +1970,10 @@ Qt %1 を使用。GNU General Public License バージョン 3 以降の下で�
     <message>
         <source>Parameter</source>
         <translation>パラメーター</translation>
+    </message>
+    <message>
+        <source>Step</source>
+        <translation>ステップ</translation>
     </message>
 </context>
 <context>

@@ -1000,10 +1000,6 @@ Over Qt %1. Licensed under the GNU General Public License, version 3 or later.</
         <translation>它现在位于“%1”。</translation>
     </message>
     <message>
-        <source>The script is too long for an outline.</source>
-        <translation>脚本过长，无法显示大纲。</translation>
-    </message>
-    <message>
         <source>The script creates nothing that could be listed: no tables, views, procedures, and so on.</source>
         <translation>脚本没有创建可列出的内容：没有表、视图、过程等。</translation>
     </message>
@@ -1144,6 +1140,22 @@ Over Qt %1. Licensed under the GNU General Public License, version 3 or later.</
         <source>Print si&amp;ze</source>
         <translation>打印大小(&amp;Z)</translation>
     </message>
+    <message>
+        <source>UTF-8 with mark</source>
+        <translation>UTF-8 (带 BOM)</translation>
+    </message>
+    <message>
+        <source>UTF-16 LE with mark</source>
+        <translation>UTF-16 LE (带 BOM)</translation>
+    </message>
+    <message>
+        <source>Of new scripts, and of files that do not tell theirs by a mark or by what stands in them</source>
+        <translation>用于新脚本，以及无法从标记或内容得知编码的文件</translation>
+    </message>
+    <message>
+        <source>&amp;Encoding without a mark</source>
+        <translation>无标记时的编码(&amp;E)</translation>
+    </message>
 </context>
 <context>
     <name>OutlinePane</name>
@@ -1163,13 +1175,12 @@ Over Qt %1. Licensed under the GNU General Public License, version 3 or later.</
         <source>Outline of the script</source>
         <translation>脚本大纲</translation>
     </message>
+</context>
+<context>
+    <name>PathField</name>
     <message>
-        <source>Name</source>
-        <translation>名称</translation>
-    </message>
-    <message>
-        <source>Kind</source>
-        <translation>类型</translation>
+        <source>Path of the script</source>
+        <translation>脚本的路径</translation>
     </message>
 </context>
 <context>
@@ -1291,6 +1302,10 @@ Over Qt %1. Licensed under the GNU General Public License, version 3 or later.</
     <message>
         <source>The script has nothing here to do this with.</source>
         <translation>脚本在此处没有可供操作的内容。</translation>
+    </message>
+    <message>
+        <source>Convert Line Ends to</source>
+        <translation>将行尾转换为</translation>
     </message>
 </context>
 <context>
@@ -1877,6 +1892,17 @@ Over Qt %1. Licensed under the GNU General Public License, version 3 or later.</
     </message>
 </context>
 <context>
+    <name>SymbolModel</name>
+    <message>
+        <source>Name</source>
+        <translation>名称</translation>
+    </message>
+    <message>
+        <source>Kind</source>
+        <translation>类型</translation>
+    </message>
+</context>
+<context>
     <name>SymbolPicker</name>
     <message>
         <source>Go to Symbol</source>
@@ -1944,6 +1970,10 @@ Over Qt %1. Licensed under the GNU General Public License, version 3 or later.</
     <message>
         <source>Parameter</source>
         <translation>参数</translation>
+    </message>
+    <message>
+        <source>Step</source>
+        <translation>步骤</translation>
     </message>
 </context>
 <context>
