@@ -4,6 +4,7 @@
 // tools/pictures makes all of them, at three scales.
 //
 // znpictures SHEET FILE PICTURE...: the pictures, made small, side by side in a file.
+// znpictures FEW FILE PICTURE: the picture in the colours that it has most of.
 // znpictures LANGUAGES FILE: the sample of each language in each scheme, in a file.
 #include "editing/ZNCoreEditorControlEx.h"
 #include "host/finding/FindBar.h"
@@ -22,12 +23,16 @@
 #include <QElapsedTimer>
 #include <QFile>
 #include <QFileInfo>
+#include <QHash>
 #include <QImage>
 #include <QPainter>
 #include <QPalette>
 #include <QPixmap>
 #include <QStyleFactory>
 #include <QTemporaryDir>
+
+#include <algorithm>
+#include <functional>
 
 namespace {
 
@@ -100,12 +105,40 @@ QPixmap Recovery()
     return dialog.grab();
 }
 
+QList<QRgb> MostFrequent(const QHash<QRgb, int>& counts, qsizetype most)
+{
+    QList<QRgb> colours = counts.keys();
+    std::ranges::sort(colours, std::greater(), [&](QRgb colour) { return counts[colour]; });
+    colours.resize(std::min(colours.size(), most));
+    return colours;
+}
+
+// In the colours that it has most of, and in coarse ones so that none of the others goes far. No
+// dots for those between: a quarter of the file's size.
+QImage InFewColours(const QImage& picture)
+{
+    constexpr qsizetype kHalf = 128;
+    constexpr QRgb kCoarse = 0xFFE0E0E0;
+    constexpr QRgb kMiddle = 0x00101010;
+    QHash<QRgb, int> counts;
+    QHash<QRgb, int> coarse;
+    for (int y = 0; y < picture.height(); ++y) {
+        for (int x = 0; x < picture.width(); ++x) {
+            const QRgb colour = picture.pixel(x, y);
+            ++counts[colour];
+            ++coarse[(colour & kCoarse) | kMiddle];
+        }
+    }
+    const QList<QRgb> colours = MostFrequent(counts, kHalf) + MostFrequent(coarse, kHalf);
+    return picture.convertToFormat(QImage::Format_Indexed8, colours, Qt::AvoidDither);
+}
+
 // Two in each row, under their names.
 bool MakeSheet(const QString& file, const QStringList& pictures)
 {
     constexpr int kColumns = 2;
-    constexpr int kWidth = 760; // pixels of each
-    constexpr int kHeight = 470;
+    constexpr int kWidth = 640; // pixels of each
+    constexpr int kHeight = 400;
     constexpr int kGap = 16;
     constexpr int kCaption = 22;
     const auto rows = (static_cast<int>(pictures.size()) + kColumns - 1) / kColumns;
@@ -127,7 +160,8 @@ bool MakeSheet(const QString& file, const QStringList& pictures)
             picture.scaled(kWidth, kHeight, Qt::KeepAspectRatio, Qt::SmoothTransformation));
     }
     painter.end();
-    return sheet.convertToFormat(QImage::Format_Indexed8).save(file);
+    constexpr int kSmallest = 0; // of the file, at the cost of time
+    return InFewColours(sheet).save(file, nullptr, kSmallest);
 }
 
 } // namespace
@@ -145,6 +179,8 @@ int main(int argc, char** argv)
         return 2;
     if (words[1] == QLatin1String("SHEET"))
         return MakeSheet(words[2], words.mid(kWords - 1)) ? 0 : 1;
+    if (words[1] == QLatin1String("FEW"))
+        return InFewColours(QImage(words[3])).save(words[2], nullptr, 0) ? 0 : 1;
     const QDir folder(words[1]);
     if (words[3] == QLatin1String("DARK"))
         QApplication::setPalette(DarkPalette());
