@@ -138,7 +138,7 @@ EngineWindow::EngineWindow(QWidget* parent) : QsciScintillaBase(parent), m_engin
     m_engine.raw.Send(Sci::SCI_SETMARGINMASKN, 1, 0L);
     m_engine.raw.Send(Sci::SCI_SETMARGINWIDTHN, 1, 0L);
     m_engine.raw.Send(Sci::SCI_SETFOLDFLAGS, Sci::SC_FOLDFLAG_LINEAFTER_CONTRACTED);
-    setAccessibleName(tr("Text editor"));
+    setAccessibleName(QCoreApplication::translate("EngineWindow", "Text editor"));
     connect(this, &Sci::SCN_UPDATEUI, this, [this](int updated) {
         m_engine.looks.Updated(updated);
         if (!(updated & Sci::SC_UPDATE_SELECTION))

@@ -5,6 +5,7 @@
 
 #include <QAbstractListModel>
 #include <QAccessible>
+#include <QCoreApplication>
 #include <QGuiApplication>
 #include <QListView>
 #include <QPainter>
@@ -130,8 +131,8 @@ ProposalList::ProposalList(QWidget* editor)
     setFrameShape(QFrame::Box);
     setFrameShadow(QFrame::Plain);
     setObjectName(QStringLiteral("proposals"));
-    setAccessibleName(tr("Completion"));
-    m_view->setAccessibleName(tr("Proposals"));
+    setAccessibleName(QCoreApplication::translate("ProposalList", "Completion"));
+    m_view->setAccessibleName(QCoreApplication::translate("ProposalList", "Proposals"));
     m_view->setFocusPolicy(Qt::NoFocus);
     m_view->setFrameShape(QFrame::NoFrame);
     m_view->setUniformItemSizes(true);
