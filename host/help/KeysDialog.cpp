@@ -55,8 +55,11 @@ KeysDialog::KeysDialog(const QMenuBar& menus, QWidget* parent)
     layout->addWidget(buttons);
     connect(buttons, &QDialogButtonBox::rejected, this, &QDialog::close);
     connect(m_words, &QLineEdit::textChanged, this, &KeysDialog::Filter);
+    // Keys have long names in some languages, which must not leave commands without room.
     constexpr QSize kSize(620, 480);
-    resize(kSize);
+    constexpr int kRim = 60; // pixels, of the frame and a scroll bar
+    const int columns = m_list->sizeHintForColumn(kCommand) + m_list->sizeHintForColumn(kKeys);
+    resize(kSize.expandedTo({columns + kRim, 0}));
 }
 
 void KeysDialog::Collect(const QList<QAction*>& actions, const QString& path)
