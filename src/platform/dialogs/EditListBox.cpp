@@ -24,7 +24,7 @@ CZNBaseEditListBox::CZNBaseEditListBox(QWidget* parent)
 {
     auto* rows = new QHBoxLayout(this);
     rows->setContentsMargins({});
-    rows->addWidget(m_list);
+    rows->addWidget(m_list, 1);
     auto* buttons = new QVBoxLayout;
     rows->addLayout(buttons);
     const auto add = [&](const char* text, const char* name, std::function<void()> run) {

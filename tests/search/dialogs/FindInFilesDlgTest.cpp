@@ -8,6 +8,7 @@
 
 #include <QDir>
 #include <QLabel>
+#include <QListWidget>
 #include <QPushButton>
 #include <QTemporaryDir>
 #include <QTimer>
@@ -153,6 +154,16 @@ TEST_F(FindInFiles, MovesTheFolderToTheAdditionalOnes)
         EXPECT_EQ(dialog.GetDlgItem<CZNBaseEditListBox>(findcontrol::Folders)->GetItems(),
                   QStringList("/first"));
         EXPECT_EQ(dialog.GetDlgItem<QComboBox>(findcontrol::FolderBox)->currentText(), "");
+    });
+}
+
+TEST_F(FindInFiles, GivesTheAdditionalFoldersTheRoomBesideTheirButtons)
+{
+    Run([this] {
+        Click(dialog, findcontrol::Advanced);
+        QApplication::processEvents();
+        const auto* folders = dialog.GetDlgItem<CZNBaseEditListBox>(findcontrol::Folders);
+        EXPECT_GT(folders->findChild<QListWidget*>()->width() * 4, folders->width() * 3);
     });
 }
 
