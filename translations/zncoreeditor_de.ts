@@ -2848,5 +2848,9 @@ Eintragen?</translation>
         <source>Line:</source>
         <translation>Gehe zu Zeile:</translation>
     </message>
+    <message>
+        <source>Select &amp;Statement</source>
+        <translation>&amp;Anweisung auswählen</translation>
+    </message>
 </context>
 </TS>

@@ -2848,5 +2848,9 @@ Write them?</source>
         <source>Line:</source>
         <translation>Ir a la línea:</translation>
     </message>
+    <message>
+        <source>Select &amp;Statement</source>
+        <translation>&amp;Seleccionar la instrucción</translation>
+    </message>
 </context>
 </TS>

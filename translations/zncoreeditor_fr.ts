@@ -2848,5 +2848,9 @@ Les écrire&#xa0;?</translation>
         <source>Line:</source>
         <translation>Aller à la ligne&#xa0;:</translation>
     </message>
+    <message>
+        <source>Select &amp;Statement</source>
+        <translation>Sélectionner l’&amp;instruction</translation>
+    </message>
 </context>
 </TS>

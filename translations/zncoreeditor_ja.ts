@@ -2848,5 +2848,9 @@ Write them?</source>
         <source>Line:</source>
         <translation>移動先の行:</translation>
     </message>
+    <message>
+        <source>Select &amp;Statement</source>
+        <translation>文を選択(&amp;S)</translation>
+    </message>
 </context>
 </TS>

@@ -2848,5 +2848,9 @@ Write them?</source>
         <source>Line:</source>
         <translation>转到行：</translation>
     </message>
+    <message>
+        <source>Select &amp;Statement</source>
+        <translation>选择语句(&amp;S)</translation>
+    </message>
 </context>
 </TS>

@@ -65,9 +65,11 @@ ZNCoreEditorWidget::ZNCoreEditorWidget(QWidget* parent) : QWidget(parent)
     d = std::make_unique<Private>(*this); // which connects to this widget: null until it is made
     auto* layout = new QVBoxLayout(this);
     layout->setContentsMargins(0, 0, 0, 0);
+    // Wide enough that what is selected before the layout knows its size scrolls nothing away.
+    constexpr RECT kUntilLaidOut{0, 0, 800, 600};
     const HWND editor = CreateWindowOfClass(
         engine::kWindowClass, WS_CHILD | WS_CLIPCHILDREN | WS_HSCROLL | WS_VSCROLL | WS_VISIBLE,
-        RECT{0, 0, 100, 100}, this);
+        kUntilLaidOut, this);
     if (!editor) {
         auto* problem = new QLabel(tr("The editor cannot be shown, since its engine could not be "
                                       "loaded.\n%1")

@@ -258,6 +258,16 @@ TEST_F(EditorFace, BringsItsCaretIntoTheMiddle)
     EXPECT_GT(control.GetFirstVisibleLine(1) + control.LinesOnScreen(1), 150);
 }
 
+TEST_F(EditorFace, ShowsTheStartOfItsLinesThoughItWasGivenACaretBefore)
+{
+    editor.setLineNumbersVisible(true);
+    editor.setSelection({0, 12});
+    editor.resize(500, 300);
+    editor.show();
+    QApplication::processEvents();
+    EXPECT_EQ(control.GetXOffset(1), 0);
+}
+
 TEST_F(EditorFace, TellsOfTheSelectionFromTheEventLoop)
 {
     editor.show();

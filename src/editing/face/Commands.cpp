@@ -68,9 +68,8 @@ constexpr BasicRow kBasics[] = {
 // clang-format on
 
 // The names of a right click's menu; null stands for a line between groups.
-constexpr const char* kMenu[] = {"undo",      "redo",  nullptr,         "cut",
-                                 "copy",      "paste", "delete",        nullptr,
-                                 "selectAll", nullptr, "toggleComment", "selectStatement"};
+constexpr const char* kMenu[] = {"undo",   "redo",  nullptr,     "cut",   "copy",         "paste",
+                                 "delete", nullptr, "selectAll", nullptr, "toggleComment"};
 
 } // namespace
 
@@ -138,6 +137,9 @@ QMenu* ZNCoreEditorWidget::createStandardContextMenu()
         else
             menu->addSeparator();
     }
+    // Its own text belongs into a menu of what may be selected.
+    if (QAction* action = command(QStringLiteral("selectStatement")))
+        menu->addAction(tr("Select &Statement"), action, &QAction::trigger);
     return menu;
 }
 
