@@ -45,7 +45,6 @@ KeysDialog::KeysDialog(const QMenuBar& menus, QWidget* parent)
         if (menu->menu())
             Collect(menu->menu()->actions(), Plain(menu->text()) + QStringLiteral(" \u203A "));
     }
-    m_list->header()->setSectionResizeMode(kCommand, QHeaderView::Stretch);
     m_list->header()->setSectionResizeMode(kKeys, QHeaderView::ResizeToContents);
     m_list->header()->setStretchLastSection(false);
     auto* buttons = new QDialogButtonBox(QDialogButtonBox::Close, this);
@@ -58,7 +57,9 @@ KeysDialog::KeysDialog(const QMenuBar& menus, QWidget* parent)
     // Keys have long names in some languages, which must not leave commands without room.
     constexpr QSize kSize(620, 480);
     constexpr int kRim = 60; // pixels, of the frame and a scroll bar
-    const int columns = m_list->sizeHintForColumn(kCommand) + m_list->sizeHintForColumn(kKeys);
+    m_list->header()->setSectionResizeMode(kCommand, QHeaderView::ResizeToContents);
+    const int columns = m_list->columnWidth(kCommand) + m_list->columnWidth(kKeys);
+    m_list->header()->setSectionResizeMode(kCommand, QHeaderView::Stretch);
     resize(kSize.expandedTo({columns + kRim, 0}));
 }
 
