@@ -9,6 +9,7 @@
 #include "platform/windows/ActionUI.h"
 #include "platform/windows/Disposal.h"
 
+#include <QEvent>
 #include <QLabel>
 #include <QMetaMethod>
 #include <QVBoxLayout>
@@ -33,6 +34,44 @@ public:
 private:
     Private& m_owner;
 };
+
+namespace {
+
+// A caret that is set before the window has its size is scrolled to in a view of few pixels, and
+// the start of the lines away.
+class FirstShow final : public QObject
+{
+public:
+    FirstShow(CZNCoreEditorControlEx& control, QWidget& window)
+        : QObject(&window), m_control(control)
+    {
+        window.installEventFilter(this);
+    }
+
+    bool eventFilter(QObject* /*watched*/, QEvent* event) override
+    {
+        if (event->type() != QEvent::Show)
+            return false;
+        QMetaObject::invokeMethod(
+            this, [this] { Scroll(); }, Qt::QueuedConnection);
+        parent()->removeEventFilter(this);
+        return false;
+    }
+
+private:
+    void Scroll()
+    {
+        if (m_control.GetSafeHwnd() == parent()) {
+            m_control.SetXOffset(0, 1);
+            m_control.ScrollCaret(1);
+        }
+        deleteLater();
+    }
+
+    CZNCoreEditorControlEx& m_control;
+};
+
+} // namespace
 
 ZNCoreEditorWidget::Private::Private(ZNCoreEditorWidget& widget)
     : q(widget), m_control(std::make_unique<CZNCoreEditorControlEx>(this)),
@@ -65,11 +104,9 @@ ZNCoreEditorWidget::ZNCoreEditorWidget(QWidget* parent) : QWidget(parent)
     d = std::make_unique<Private>(*this); // which connects to this widget: null until it is made
     auto* layout = new QVBoxLayout(this);
     layout->setContentsMargins(0, 0, 0, 0);
-    // Wide enough that what is selected before the layout knows its size scrolls nothing away.
-    constexpr RECT kUntilLaidOut{0, 0, 800, 600};
     const HWND editor = CreateWindowOfClass(
         engine::kWindowClass, WS_CHILD | WS_CLIPCHILDREN | WS_HSCROLL | WS_VSCROLL | WS_VISIBLE,
-        kUntilLaidOut, this);
+        RECT{0, 0, 100, 100}, this);
     if (!editor) {
         auto* problem = new QLabel(tr("The editor cannot be shown, since its engine could not be "
                                       "loaded.\n%1")
@@ -85,6 +122,7 @@ ZNCoreEditorWidget::ZNCoreEditorWidget(QWidget* parent) : QWidget(parent)
     setFocusProxy(editor);
     editor->setAccessibleName(tr("Text editor"));
     d->m_control->SubclassWindow(editor);
+    new FirstShow(*d->m_control, *editor);
     d->m_control->SetScheme(zncoreeditor::kDesktopScheme);
     d->m_told = d->CurrentSettings();
     d->m_index = new completion::LiveIndex(this);
