@@ -4,9 +4,9 @@
 #include "completion/Utf8Text.h"
 
 #include <QRegularExpression>
+#include <QStringList>
 
 #include <algorithm>
-#include <optional>
 
 namespace completion {
 namespace {
@@ -55,32 +55,36 @@ Definition DefinitionOf(const ScriptIndex& index, const ScriptIndex::Read& read,
     return definition;
 }
 
-// The places of a name in any case.
-struct Places
+void Note(TablePlaces& places, const Object& object)
 {
-    std::optional<Object> created; // the first one
-    std::optional<Object> filled;
-    std::vector<Object> altered;
-};
+    if (object.kind == NameKind::Table || object.kind == NameKind::View)
+        places.created = places.created ? places.created : object;
+    else if (object.kind == NameKind::InsertUse)
+        places.filled = places.filled ? places.filled : object;
+    else if (object.kind == NameKind::AlterUse && places.altered.size() < kMostAlters)
+        places.altered.push_back(object);
+}
 
-Places FindTable(const ScriptIndex& index, const QString& name)
+// In any case; the names differ by more than that.
+std::vector<TablePlaces> FindTables(const ScriptIndex& index, const QStringList& names)
 {
-    Places places;
-    const QByteArray bytes = name.toUtf8();
-    const auto ids = index.NumbersOf({bytes.data(), static_cast<std::size_t>(bytes.size())});
-    if (ids.empty())
+    std::vector<TablePlaces> places(static_cast<std::size_t>(names.size()));
+    std::vector<std::uint32_t> which; // by a word's number, from 1
+    for (std::uint32_t i = 0; i < places.size(); ++i) {
+        const QByteArray bytes = names[static_cast<qsizetype>(i)].toUtf8();
+        for (const ScriptIndex::Id id :
+             index.NumbersOf({bytes.data(), static_cast<std::size_t>(bytes.size())})) {
+            if (id >= which.size())
+                which.resize(id + std::size_t{1});
+            which[id] = i + 1;
+        }
+    }
+    if (which.empty())
         return places;
     index.ForEachObject([&](const Object& object) {
-        if (std::find(ids.begin(), ids.end(), object.name) == ids.end())
-            return true;
-        if (object.kind == NameKind::Table || object.kind == NameKind::View) {
-            places.created = places.created ? places.created : object;
-        } else if (object.kind == NameKind::InsertUse) {
-            places.filled = places.filled ? places.filled : object;
-        } else if (object.kind == NameKind::AlterUse) {
-            places.altered.push_back(object);
-        }
-        return places.altered.size() < kMostAlters;
+        if (object.name < which.size() && which[object.name] > 0)
+            Note(places[which[object.name] - 1], object);
+        return true;
     });
     return places;
 }
@@ -143,6 +147,25 @@ Column ColumnOf(const ScriptName& name, const QString& type, const QString& tabl
 
 } // namespace
 
+void TableColumns::LookAhead()
+{
+    QStringList names;
+    for (const ScopedTable& table : m_context.tables) {
+        if (!table.name.isEmpty() && !names.contains(table.name, Qt::CaseInsensitive))
+            names << table.name;
+    }
+    std::vector<TablePlaces> places = FindTables(m_index, names);
+    for (std::size_t i = 0; i < places.size(); ++i)
+        m_known.emplace_back(names[static_cast<qsizetype>(i)], std::move(places[i]));
+}
+
+TablePlaces TableColumns::PlacesOf(const QString& table) const
+{
+    const auto known = std::find_if(m_known.begin(), m_known.end(),
+                                    [&](const auto& each) { return IsSame(each.first, table); });
+    return known != m_known.end() ? known->second : FindTables(m_index, {table}).front();
+}
+
 std::vector<Column> TableColumns::Of(const QString& table) const
 {
     std::vector<Column> columns;
@@ -192,7 +215,7 @@ void TableColumns::Add(const QString& table, std::vector<Column>& columns, int d
         if (columns.size() == first && IsSame(query->name, table))
             AddItems(query->items, table, columns, deep);
     }
-    const Places places = FindTable(m_index, table);
+    const TablePlaces places = PlacesOf(table);
     if (const auto& place = places.created ? places.created : places.filled)
         AddDefined(*place, table, columns, deep);
     for (const Object& altered : places.altered)

@@ -5,6 +5,8 @@
 #include "completion/CaretContext.h"
 #include "completion/Signatures.h"
 
+#include <optional>
+#include <utility>
 #include <vector>
 
 namespace completion {
@@ -14,6 +16,13 @@ struct Column
     QString name;
     bool isQuoted = false; // where it is given
     QString description;   // its type if it is known, and its table
+};
+
+struct TablePlaces
+{
+    std::optional<ScriptIndex::Object> created; // the first one
+    std::optional<ScriptIndex::Object> filled;
+    std::vector<ScriptIndex::Object> altered;
 };
 
 // The columns of the tables around a caret: of those that the script creates, alters or at least
@@ -26,11 +35,15 @@ public:
         : m_index(index), m_read(read), m_context(context)
     {}
 
+    // Finds all tables of the context in one walk through the index, where Of takes one for each.
+    void LookAhead();
+
     // In their order; empty if nothing is known.
     std::vector<Column> Of(const ScopedTable& table) const;
     std::vector<Column> Of(const QString& table) const;
 
 private:
+    TablePlaces PlacesOf(const QString& table) const;
     void Add(const QString& table, std::vector<Column>& columns, int deep) const;
     bool AddLocals(const QString& table, std::vector<Column>& columns) const;
     void AddItems(const std::vector<SelectItem>& items, const QString& table,
@@ -43,6 +56,7 @@ private:
     const ScriptIndex& m_index;
     const ScriptIndex::Read& m_read;
     const CaretContext& m_context;
+    std::vector<std::pair<QString, TablePlaces>> m_known;
 };
 
 // A routine that the script creates. Empty if it creates none of the name.

@@ -156,7 +156,8 @@ void ScriptSource::AddColumns(const std::vector<Column>& columns, int& rank,
 
 void ScriptSource::ProposeColumns(std::vector<Proposal>& proposals) const
 {
-    const TableColumns columns(m_index, m_read, m_context);
+    TableColumns columns(m_index, m_read, m_context);
+    columns.LookAhead();
     int rank = Rank::First;
     for (const ScopedTable& table : m_context.tables) {
         AddColumns(columns.Of(table), rank, proposals);

@@ -82,6 +82,13 @@ TEST(Proposals, AreTheColumnsOfTheStatementBeforeKeywords)
     EXPECT_EQ(caret.First(4), "[ordered at] ord order Orders");
 }
 
+TEST(Proposals, AreTheColumnsOfATableThatIsJoinedWithItself)
+{
+    EXPECT_EQ(Caret(u"create table tree (aa int, ab int);\nselect a| from tree a, TREE b, trunk c")
+                  .First(3),
+              "a aa ab");
+}
+
 TEST(Proposals, AreNotTheColumnsOfTheNextStatement)
 {
     Caret caret(std::u16string(kTables) + u"select na|\nselect * from customers c");
