@@ -4,8 +4,12 @@
 #include "tests/translations/Tour.h"
 
 #include <QAbstractButton>
+#include <QDialog>
 #include <QLineEdit>
 #include <QMenuBar>
+#include <QTreeWidget>
+
+#include <algorithm>
 
 namespace {
 
@@ -51,4 +55,20 @@ TEST_F(GermanWindows, HaveGermanDialogs)
         EXPECT_TRUE(titles.contains(QString::fromUtf8(title))) << title;
     for (const char* button : {"Abbrechen", "Alle ersetzen", "Regulärer Ausdruck", "Verwerfen"})
         EXPECT_TRUE(buttons.contains(QString::fromUtf8(button))) << button;
+}
+
+// Their keys have longer names than in English.
+TEST_F(GermanWindows, LeaveRoomForCommandsBesideTheirKeys)
+{
+    Trigger("keys");
+    auto* dialog = m_window.findChild<QDialog*>(QStringLiteral("keysDialog"));
+    ASSERT_TRUE(dialog);
+    QApplication::processEvents();
+    const auto* list = dialog->findChild<QTreeWidget*>();
+    int widest = 0;
+    for (int row = 0; row < list->topLevelItemCount(); ++row)
+        widest = std::max(widest,
+                          list->fontMetrics().horizontalAdvance(list->topLevelItem(row)->text(0)));
+    EXPECT_GT(widest, 0);
+    EXPECT_GE(list->columnWidth(0), widest);
 }
