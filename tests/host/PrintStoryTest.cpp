@@ -52,3 +52,21 @@ TEST_F(PrintStory, APdfIsWrittenFromTheMenuAndCanBeSearched)
     ASSERT_TRUE(reader.waitForFinished());
     EXPECT_TRUE(reader.readAllStandardOutput().contains("select 2;"));
 }
+
+TEST_F(PrintStory, ALongJobShowsItsPagesAndIsStoppedByAKey)
+{
+    WriteFromOutside(QByteArray("select 1 from a_table_of_some_name;\n").repeated(200000));
+    LeaveAndComeBack();
+    ASSERT_NO_FATAL_FAILURE(Answer("alt+y"));
+    Keys({"alt+f", "f"});
+    ASSERT_NO_FATAL_FAILURE(FocusOn("^Save"));
+    Keys({"Return"});
+    ASSERT_NO_FATAL_FAILURE(FocusOn("^Printing$"));
+    Keys({"alt+s"});
+    ASSERT_TRUE(Eventually([] { return Visible("^Printing$").isEmpty(); }));
+    XDoTool({"windowfocus", "--sync", m_windowId});
+    Keys({"ctrl+End"});
+    Type("x");
+    ASSERT_TRUE(Eventually([this] { return Title().contains(u'*'); })) << "it goes on";
+    EXPECT_FALSE(QFile::exists(m_folder.filePath(QStringLiteral("story.pdf"))));
+}
