@@ -51,9 +51,11 @@ endforeach()
 # Where a host begins, without the name of a room: the face for plain Qt, and the control behind it
 # with the names of its modes.
 set(ZNCoreEditorWidget editing/ZNCoreEditorWidget)
+set(ZNCoreEditorWidget_is "The editor for hosts in plain Qt.")
 set(Control control/EngineModes editing/ZNCoreEditorControlEx)
+set(Control_is "The control behind it, with the names of its modes.")
 foreach(name IN ITEMS ZNCoreEditorWidget Control)
-    set(text "// SPDX-License-Identifier: GPL-3.0-or-later\n#pragma once\n")
+    set(text "// SPDX-License-Identifier: GPL-3.0-or-later\n/// \\file\n/// ${${name}_is}\n#pragma once\n")
     foreach(header IN LISTS ${name})
         string(APPEND text "#include \"ZNCoreEditor/${header}.h\" // IWYU pragma: export\n")
     endforeach()

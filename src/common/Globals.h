@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-// What the library has one of for the process.
+/// \file
+/// What the library has one of for the process.
 #pragma once
 
 #include "common/Export.h"
@@ -7,16 +8,17 @@
 
 #include <QString>
 
+/// What the library has one of for the process.
 namespace zncoreeditor {
 
-// The texts of the user interface: the library's own table unless a host has set another.
+/// The texts of the user interface: the library's own table unless a host has set another.
 ZN_API const IZNBaseResourceLoader& GetResourceLoader();
 
-// The loader takes effect at once and stays the caller's; null brings back the library's own.
+/// The loader takes effect at once and stays the caller's; null brings back the library's own.
 ZN_API void SetResourceLoader(const IZNBaseResourceLoader* loader);
 
-// The folder of this library, with a separator at its end: the one where it stands, or the folder
-// "ZNCoreEditor" there, where an installed library has what belongs to it.
+/// The folder of this library, with a separator at its end: the one where it stands, or the folder
+/// "ZNCoreEditor" there, where an installed library has what belongs to it.
 ZN_API QString GetAppPath();
 
 } // namespace zncoreeditor

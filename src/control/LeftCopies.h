@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-// LeftCopies: the autosave copies that crashes have left, for a host that shows them itself instead
-// of the question that OpenFile asks for each.
+/// \file
+/// LeftCopies: the autosave copies that crashes have left, for a host that shows them itself
+/// instead of the question that OpenFile asks for each.
 #pragma once
 
 #include "common/Export.h"
@@ -12,28 +13,29 @@
 
 class CopyClaim;
 
-// What is listed is claimed as long as this exists, so that no other process offers it meanwhile.
+/// What is listed is claimed as long as this exists, so that no other process offers it meanwhile.
 class ZN_API LeftCopies
 {
 public:
+    /// One copy.
     struct Copy
     {
-        QString path;
-        QString document; // of the file it stands for; of a text without one, its untitled name
+        QString path;     ///< of the copy itself
+        QString document; ///< of the file it stands for; of a text without one, its untitled name
     };
 
-    // The copies of one document, or all with an empty name. One that has the bytes of its file is
-    // taken away; one that a living editor owns is passed by.
+    /// The copies of one document, or all with an empty name. One that has the bytes of its file is
+    /// taken away; one that a living editor owns is passed by.
     explicit LeftCopies(const QString& document = QString());
     LeftCopies(const LeftCopies&) = delete;
     LeftCopies& operator=(const LeftCopies&) = delete;
-    ~LeftCopies();
+    ~LeftCopies(); ///< releases what is still claimed
 
-    const std::vector<Copy>& All() const { return m_copies; } // the oldest first
+    const std::vector<Copy>& All() const { return m_copies; } ///< the oldest first
 
-    // By the path of the copy. A release leaves it for whoever takes it next.
+    /// By the path of the copy. A release leaves it for whoever takes it next.
     void Release(const QString& path);
-    void Discard(const QString& path);
+    void Discard(const QString& path); ///< deletes the copy and its note
 
 private:
     std::vector<Copy> m_copies;

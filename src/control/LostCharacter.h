@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-// What a save in an encoding would turn into a question mark.
+/// \file
+/// What a save in an encoding would turn into a question mark.
 #pragma once
 
 /// A character that an encoding lacks, and where it stands.

@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-// ZNCoreEditorWidget: the editor for hosts that are written in plain Qt. Needs Qt alone.
+/// \file
+/// ZNCoreEditorWidget: the editor for hosts that are written in plain Qt. Needs Qt alone.
 #pragma once
 
 #include "common/Export.h"

@@ -1,7 +1,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-// CZNCompileManager: expands "#include", "#define" and "&&" variables in the text of an editor,
-// before a script is handed to its consumer, and keeps what the script was. One run at a time, on
-// the GUI thread; a run moves the caret, the selection and the settings of the search.
+/// \file
+/// CZNCompileManager: expands "#include", "#define" and "&&" variables in the text of an editor,
+/// before a script is handed to its consumer, and keeps what the script was. One run at a time, on
+/// the GUI thread; a run moves the caret, the selection and the settings of the search.
 #pragma once
 
 #include "common/Export.h"
@@ -20,48 +21,51 @@ class DefinePasses;
 class ScriptText;
 class VariableTable;
 
+/// Expands "#include", "#define" and "&&" variables in the text of an editor, before a script is
+/// handed to its consumer, and keeps what the script was.
 class ZN_API CZNCompileManager
 {
 public:
-    CZNCompileManager();
+    CZNCompileManager(); ///< no run yet
     CZNCompileManager(const CZNCompileManager&) = delete;
     CZNCompileManager& operator=(const CZNCompileManager&) = delete;
-    virtual ~CZNCompileManager();
+    virtual ~CZNCompileManager(); ///< the file of a long script goes
 
-    // Folders for included files, separated by ";", looked through before the default ones.
+    /// Folders for included files, separated by ";", looked through before the default ones.
     void SetSearchPath(const QString& path) { m_searchPath = path; }
 
-    // Variables, with their ampersands, that a run knows from its start; a script cannot define
-    // them otherwise.
+    /// Variables, with their ampersands, that a run knows from its start; a script cannot define
+    /// them otherwise.
     void SetPredefined(std::map<QString, QString> variables)
     {
         m_predefined = std::move(variables);
     }
 
-    // Expands the script in place; it is the control's text. Nothing happens to an empty one, and
-    // what is known of the run before stays. A read-only one stays as it is: its directives count
-    // as found, and files that it cannot include are told.
+    /// Expands the script in place; it is the control's text. Nothing happens to an empty one, and
+    /// what is known of the run before stays. A read-only one stays as it is: its directives count
+    /// as found, and files that it cannot include are told.
     void PreProcess(CZNCoreEditorControlEx* control, QString script);
 
-    // Whether the last run found a directive outside comments and strings.
+    /// Whether the last run found a directive outside comments and strings.
     bool GetDirectivesFound() const { return m_directivesFound; }
 
-    // Kept in memory, or in a file of its own when it is long. A file can be read once.
+    /// Kept in memory, or in a file of its own when it is long. A file can be read once.
     void SaveOriginalScript(const QString& script);
+    /// The script that was saved last, into the given text.
     void GetOriginalScript(QString& script);
 
-    // The first file of that name in the folders; empty, with the message at hand, if none can be
-    // read. The script's own folder is not looked in.
+    /// The first file of that name in the folders; empty, with the message at hand, if none can be
+    /// read. The script's own folder is not looked in.
     QString FindIncludeFile(QString name);
-    // False, with the message at hand, if it cannot be read; the name is the one the message tells.
-    // The file stays open until the next one, for the include that reads it.
+    /// False, with the message at hand, if it cannot be read; the name is the one the message
+    /// tells. The file stays open until the next one, for the include that reads it.
     bool CanOpenFile(const QString& path, const QString& name);
-    QString GetDefaultSearchPath() const;
+    QString GetDefaultSearchPath() const; ///< of the options
 
-    // The files of the last run that are in its result only up to a place that could not be read.
+    /// The files of the last run that are in its result only up to a place that could not be read.
     const QStringList& GetCutFiles() const { return m_cutFiles; }
 
-    // Where the lines of the last run's result came from.
+    /// Where the lines of the last run's result came from.
     const SourceMap& GetSourceMap() const { return m_map; }
 
 private:
@@ -89,5 +93,5 @@ private:
 };
 
 namespace zncoreeditor {
-ZN_API CZNCompileManager* GetCompileManager();
+ZN_API CZNCompileManager* GetCompileManager(); ///< made on first use, and gone with the process
 }

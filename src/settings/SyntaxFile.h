@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-// CSyntaxFile: one language: lexer, keywords, editing behaviour, comments, braces and styles.
-// Knows no editor. The GUI thread owns it.
+/// \file
+/// CSyntaxFile: one language: lexer, keywords, editing behaviour, comments, braces and styles.
+/// Knows no editor. The GUI thread owns it.
 #pragma once
 
 #include "settings/SortedArray.h"
@@ -12,39 +13,40 @@
 #include <cstdint>
 #include <optional>
 
-using CMapStringToString = QMap<QString, QString>;
+using CMapStringToString = QMap<QString, QString>; ///< texts by name
 
-// What a host's options say of every language.
+/// What a host's options say of every language.
 struct LanguageOptions
 {
+    /// Whether both say the same.
     friend bool operator==(const LanguageOptions&, const LanguageOptions&) = default;
 
-    int autoIndent = 0;
-    bool tabsToSpaces = false;
-    bool lineNumbers = false;
-    bool foldMargin = false;
-    int tabWidth = 0; // columns, of an indentation too
-    bool wordWrap = false;
-    // Of every style.
+    int autoIndent = 0;        ///< 0 none, 1 keep, 2 by the language
+    bool tabsToSpaces = false; ///< blanks in place of tabs
+    bool lineNumbers = false;  ///< a margin with them
+    bool foldMargin = false;   ///< a margin with folds
+    int tabWidth = 0;          ///< columns, of an indentation too
+    bool wordWrap = false;     ///< long lines wrapped
+    /// Of every style.
     QString fontName;
-    int fontSize = 0; // in points; below 1: as the language has it
-    bool bold = false;
-    bool italic = false;
-    bool underline = false;
+    int fontSize = 0;       ///< in points; below 1: as the language has it
+    bool bold = false;      ///< whether they are bold
+    bool italic = false;    ///< whether they are slanted
+    bool underline = false; ///< whether they are underlined
 };
 
-// Two files of one name stand behind it: the base file in the library's folder holds every section,
-// the custom file in the user's folder holds the styles, so that a user's colours outlive an update
-// of the base file. A section whose name begins with "S" is the custom file's, every other the
-// base file's. Without a custom file that can be read, the styles start as those of the base file.
-// Setters give false for a section that is not there; both files are written by Save.
+/// Two files of one name stand behind it: the base file in the library's folder holds every
+/// section, the custom file in the user's folder holds the styles, so that a user's colours outlive
+/// an update of the base file. A section whose name begins with "S" is the custom file's, every
+/// other the base file's. Without a custom file that can be read, the styles start as those of the
+/// base file. Setters give false for a section that is not there; both files are written by Save.
 class ZN_API CSyntaxFile : public CXMLFile
 {
 public:
-    CSyntaxFile();
+    CSyntaxFile(); ///< without files
 
     const CRuntimeClass* GetRuntimeClass() const override { return GetThisClass(); }
-    static const CRuntimeClass* GetThisClass();
+    static const CRuntimeClass* GetThisClass(); ///< the record of this class
 
 protected:
     QString GetStringFromXMLFile(const pug::xml_node& node, const char16_t* key) override;
@@ -63,136 +65,139 @@ protected:
 
 public:
     bool Parse() override { return Parse(false); }
-    // By force the custom file is read again, and the keywords of the base file are added to those
-    // that are there; the base file stays as it is in memory.
+    /// By force the custom file is read again, and the keywords of the base file are added to those
+    /// that are there; the base file stays as it is in memory.
     bool Parse(bool force);
-    // False if one of the two files could not be written; the other may have been.
+    /// False if one of the two files could not be written; the other may have been.
     bool Save() override;
-    // The keywords stay until the next Parse replaces them.
+    /// The keywords stay until the next Parse replaces them.
     void Clear() override;
 
+    /// Read by the next Parse.
     void SetCustomFilename(const QString& filename) { m_customFilename = filename; }
-    const QString& GetCustomFilename() const { return m_customFilename; }
+    const QString& GetCustomFilename() const { return m_customFilename; } ///< empty: none
 
-    bool GetWhiteSpace();
-    bool SetWhiteSpace(bool visible);
-    bool GetEOL();
-    bool SetEOL(bool visible);
-    bool GetWordWrap();
-    bool SetWordWrap(bool wrap);
-    int GetTabWidth();
-    bool SetTabWidth(int width);
-    bool GetTabsToSpaces();
-    bool SetTabsToSpaces(bool convert);
+    bool GetWhiteSpace();               ///< whether blanks are drawn
+    bool SetWhiteSpace(bool visible);   ///< whether blanks are drawn
+    bool GetEOL();                      ///< whether line ends are drawn
+    bool SetEOL(bool visible);          ///< whether line ends are drawn
+    bool GetWordWrap();                 ///< whether long lines are wrapped
+    bool SetWordWrap(bool wrap);        ///< whether long lines are wrapped
+    int GetTabWidth();                  ///< in columns
+    bool SetTabWidth(int width);        ///< in columns
+    bool GetTabsToSpaces();             ///< whether Tab puts blanks in
+    bool SetTabsToSpaces(bool convert); ///< whether Tab puts blanks in
 
-    bool GetSyntaxHighlighting();
-    bool SetSyntaxHighlighting(bool highlight);
-    bool GetBraceMatch();
-    bool SetBraceMatch(bool match);
+    bool GetSyntaxHighlighting();               ///< whether its text is coloured
+    bool SetSyntaxHighlighting(bool highlight); ///< whether its text is coloured
+    bool GetBraceMatch();                       ///< whether braces are lit
+    bool SetBraceMatch(bool match);             ///< whether braces are lit
 
-    bool GetAutoCompletion();
-    bool SetAutoCompletion(bool complete);
-    bool GetCodeCompletion();
-    bool SetCodeCompletion(bool complete);
-    int GetACKey();
-    bool SetACKey(int key);
+    bool GetAutoCompletion(); ///< whether the list of proposals opens while somebody types
+    bool SetAutoCompletion(bool complete); ///< whether it does
+    bool GetCodeCompletion();              ///< kept for the host
+    bool SetCodeCompletion(bool complete); ///< kept for the host
+    int GetACKey();                        ///< which key chooses a proposal: 0 Tab, 1 blank
+    bool SetACKey(int key);                ///< 0 Tab, 1 blank
 
-    bool GetEnsureFinalNewLine();
-    bool SetEnsureFinalNewLine(bool ensure);
-    bool GetConvertTabsToSpaces();
-    bool SetConvertTabsToSpaces(bool convert);
-    bool GetTrimTrailingSpaces();
-    bool SetTrimTrailingSpaces(bool trim);
+    bool GetEnsureFinalNewLine();              ///< whether a save gives the last line an end
+    bool SetEnsureFinalNewLine(bool ensure);   ///< whether a save does
+    bool GetConvertTabsToSpaces();             ///< whether a save makes blanks of tabs
+    bool SetConvertTabsToSpaces(bool convert); ///< whether a save does
+    bool GetTrimTrailingSpaces();              ///< whether a save takes blanks off line ends
+    bool SetTrimTrailingSpaces(bool trim);     ///< whether a save does
 
-    bool GetIndent();
-    bool SetIndent(bool indent);
-    int GetIndentSize();
-    bool SetIndentSize(int size);
-    int GetAutoIndent();
-    bool SetAutoIndent(int mode);
-    bool GetIndentGuides();
-    bool SetIndentGuides(bool visible);
+    bool GetIndent();                   ///< whether Tab indents
+    bool SetIndent(bool indent);        ///< whether Tab indents
+    int GetIndentSize();                ///< in columns
+    bool SetIndentSize(int size);       ///< in columns
+    int GetAutoIndent();                ///< 0 none, 1 as the line above, 2 or more by braces
+    bool SetAutoIndent(int mode);       ///< see GetAutoIndent
+    bool GetIndentGuides();             ///< whether lines of indentation are drawn
+    bool SetIndentGuides(bool visible); ///< whether they are drawn
 
-    bool GetMarginLineNumber();
-    bool SetMarginLineNumber(bool visible);
-    bool GetMarginBookmark();
-    bool SetMarginBookmark(bool visible);
-    bool GetMarginFold();
-    bool SetMarginFold(bool visible);
+    bool GetMarginLineNumber();             ///< whether line numbers are shown
+    bool SetMarginLineNumber(bool visible); ///< whether they are shown
+    bool GetMarginBookmark();               ///< whether the margin of bookmarks is shown
+    bool SetMarginBookmark(bool visible);   ///< whether it is shown
+    bool GetMarginFold();                   ///< whether the margin of folds is shown
+    bool SetMarginFold(bool visible);       ///< whether it is shown
 
-    int GetStyleBits();
-    int GetStyleMax();
+    int GetStyleBits(); ///< of the lexer's styles; -1 if the file does not tell
+    int GetStyleMax();  ///< the last style's number
 
-    QString GetBraces();
-    bool SetBraces(const QString& braces);
-    QString GetWordCharacters();
-    bool SetWordCharacters(const QString& characters);
-    // Alternatives with "|" between them.
+    QString GetBraces();                   ///< the characters that count as braces, in pairs
+    bool SetBraces(const QString& braces); ///< in pairs
+    QString GetWordCharacters();           ///< that words are made of
+    bool SetWordCharacters(const QString& characters); ///< that words are made of
+    /// Alternatives with "|" between them.
     QString GetSingleLineComment();
-    bool SetSingleLineComment(const QString& alternatives);
-    // Pairs: open|close|open|close.
+    bool SetSingleLineComment(const QString& alternatives); ///< alternatives with "|" between them
+    /// Pairs: open|close|open|close.
     QString GetBlockComment();
-    bool SetBlockComment(const QString& pairs);
-    // The place of the alternative that commenting starts with, counted from 0; -1 if the file does
-    // not tell.
+    bool SetBlockComment(const QString& pairs); ///< pairs: open|close|open|close
+    /// The place of the alternative that commenting starts with, counted from 0; -1 if the file
+    /// does not tell.
     int GetDefaultSingleLineComment();
-    bool SetDefaultSingleLineComment(int place);
-    int GetDefaultBlockComment();
-    bool SetDefaultBlockComment(int place);
+    bool SetDefaultSingleLineComment(int place); ///< from 0
+    int GetDefaultBlockComment();                ///< the same of pairs
+    bool SetDefaultBlockComment(int place);      ///< from 0
 
-    // Styles by their number, up to StyleMax of the custom file. Colours have red in the low byte.
+    /// Styles by their number, up to StyleMax of the custom file. Colours have red in the low byte.
     QString GetStyleName(int style);
-    QString GetStyleFontName(int style);
-    bool SetStyleFontName(int style, const QString& name);
-    int GetStyleFontSize(int style);
-    bool SetStyleFontSize(int style, int size);
-    bool GetStyleFontBold(int style);
-    bool SetStyleFontBold(int style, bool bold);
-    bool GetStyleFontItalic(int style);
-    bool SetStyleFontItalic(int style, bool italic);
-    bool GetStyleFontUnderline(int style);
-    bool SetStyleFontUnderline(int style, bool underline);
-    int GetStyleColorForeground(int style);
-    bool SetStyleColorForeground(int style, int color);
-    int GetStyleColorBackground(int style);
-    bool SetStyleColorBackground(int style, int color);
+    QString GetStyleFontName(int style);                   ///< empty: none of its own
+    bool SetStyleFontName(int style, const QString& name); ///< the family
+    int GetStyleFontSize(int style);                       ///< in points
+    bool SetStyleFontSize(int style, int size);            ///< in points
+    bool GetStyleFontBold(int style);                      ///< whether it is bold
+    bool SetStyleFontBold(int style, bool bold);           ///< whether it is bold
+    bool GetStyleFontItalic(int style);                    ///< whether it is slanted
+    bool SetStyleFontItalic(int style, bool italic);       ///< whether it is slanted
+    bool GetStyleFontUnderline(int style);                 ///< whether it is underlined
+    bool SetStyleFontUnderline(int style, bool underline); ///< whether it is underlined
+    int GetStyleColorForeground(int style);                ///< of the text
+    bool SetStyleColorForeground(int style, int color);    ///< of the text
+    int GetStyleColorBackground(int style);                ///< of the ground
+    bool SetStyleColorBackground(int style, int color);    ///< of the ground
 
-    // Sets all of it, for the styles 0 to 127. What is written already, and stands as it was
-    // written, costs next to nothing. False if nothing could be set.
+    /// Sets all of it, for the styles 0 to 127. What is written already, and stands as it was
+    /// written, costs next to nothing. False if nothing could be set.
     bool WriteOptions(const LanguageOptions& options);
-    // Font and size of them, for the styles that have none.
+    /// Font and size of them, for the styles that have none.
     void FillFonts(const LanguageOptions& options);
 
-    // Sets 0 to 7. Words stand in the order of the file.
+    /// Sets 0 to 7. Words stand in the order of the file.
     QString GetKeywordSetDescription(int set);
+    /// The set's words with that between them.
     QString GetDelimitedKeywordSet(int set, char delimiter);
-    // A last word of one character behind a delimiter is dropped. False for a set that the base
-    // file lacks, which has the words in memory all the same.
+    /// A last word of one character behind a delimiter is dropped. False for a set that the base
+    /// file lacks, which has the words in memory all the same.
     bool SetDelimitedKeywordSet(int set, const QString& words, char delimiter);
-    // The words of all sets, sorted by their units; a word of two sets stands there twice. Made
-    // afresh at each call.
+    /// The words of all sets, sorted by their units; a word of two sets stands there twice. Made
+    /// afresh at each call.
     QString GetDelimitedKeywords(char delimiter);
 
-    // The engine's number of the lexer; -1 for a name that has none, 0 for an empty one. Does not
-    // parse the file.
+    /// The engine's number of the lexer; -1 for a name that has none, 0 for an empty one. Does not
+    /// parse the file.
     int GetLexerNumber();
-    // Adds the lexer's properties to the map and gives how many there are. Does not parse the file.
+    /// Adds the lexer's properties to the map and gives how many there are. Does not parse the
+    /// file.
     int GetLexerProperties(CMapStringToString& properties);
 
-    // Appends a copy of the source, with all that stands below it, to the target.
+    /// Appends a copy of the source, with all that stands below it, to the target.
     void CopyNode(pug::xml_node& source, pug::xml_node& target);
 
 protected:
-    // Where a section stands.
+    /// Where a section stands.
     const pug::xml_parser& DocumentOf(const char16_t* section) const;
-    pug::xml_node GetStyleNode(int style);
-    pug::xml_node GetStyleFontNode(int style);
-    pug::xml_node GetStyleColorNode(int style);
+    pug::xml_node GetStyleNode(int style);      ///< empty for a style that the file lacks
+    pug::xml_node GetStyleFontNode(int style);  ///< the same of its font
+    pug::xml_node GetStyleColorNode(int style); ///< the same of its colours
 
-    // Six digits in the order red, green, blue. A character that is no digit counts 0, and so does
-    // one that is missing.
+    /// Six digits in the order red, green, blue. A character that is no digit counts 0, and so does
+    /// one that is missing.
     static int RGBHexValueToColorInt(const QString& text);
-    static QString ColorIntValueToRGBHex(int color);
+    static QString ColorIntValueToRGBHex(int color); ///< the reverse; red stands in the low byte
 
 private:
     static constexpr int kKeywordSets = 8;

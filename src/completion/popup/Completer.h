@@ -1,9 +1,10 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-// Completer: the list of proposals of one editor, and what a function takes, beside its caret.
-//
-// Ctrl+Space opens the list, and Ctrl+Shift+Space. While it is open it takes Up, Down, Page Up,
-// Page Down, Tab, Enter and Escape without modifiers, and no other key. A list that typing has
-// opened has no current row: Enter goes to the editor until somebody walks into the list.
+/// \file
+/// Completer: the list of proposals of one editor, and what a function takes, beside its caret.
+///
+/// Ctrl+Space opens the list, and Ctrl+Shift+Space. While it is open it takes Up, Down, Page Up,
+/// Page Down, Tab, Enter and Escape without modifiers, and no other key. A list that typing has
+/// opened has no current row: Enter goes to the editor until somebody walks into the list.
 #pragma once
 
 #include "completion/LanguageWords.h"
@@ -26,39 +27,42 @@ struct CaretContext;
 class LiveIndex;
 class ProposalList;
 
-// Goes before its control, or with the control's window. The index is that of the control's text
-// and may be shared by the editors that show it. GUI thread.
+/// Goes before its control, or with the control's window. The index is that of the control's text
+/// and may be shared by the editors that show it. GUI thread.
 class ZN_API Completer final : public QObject
 {
     Q_OBJECT
 
 public:
+    /// The index is that of the control's text and outlives this.
     Completer(CZNCoreEditorControl& control, LiveIndex& index);
     ~Completer() override;
 
-    // A source of the host's, asked beside that of the script. It outlives the completer, or is
-    // removed before.
+    /// A source of the host's, asked beside that of the script. It outlives the completer, or is
+    /// removed before.
     void AddSource(ProposalSource& source);
-    void RemoveSource(ProposalSource& source);
+    void RemoveSource(ProposalSource& source); ///< it is not asked again
+    /// What the language itself proposes, and what its functions take.
     void SetLanguage(std::vector<LanguageWord> words, Signatures signatures);
-    void SetPrepare(std::function<void()> prepare); // called before anything is proposed
-    void SetScheme(std::function<const ColourScheme*()> scheme); // asked whenever something shows
+    void SetPrepare(std::function<void()> prepare); ///< called before anything is proposed
+    void SetScheme(std::function<const ColourScheme*()> scheme); ///< asked whenever something shows
 
-    // The list opens by itself behind so many letters of a word, and behind a point that columns
-    // are known for; 0, as at first: never.
+    /// The list opens by itself behind so many letters of a word, and behind a point that columns
+    /// are known for; 0, as at first: never.
     void SetOpensAfter(int letters) { m_opensAfter = letters; }
-    void SetShowsCalls(bool shows) { m_showsCalls = shows; } // behind ( and , off at first
+    void SetShowsCalls(bool shows) { m_showsCalls = shows; } ///< behind ( and , off at first
 
-    void Open();     // for the word at the caret, by a person's wish
-    void ShowCall(); // the same for what a function takes
-    void Close();
-    void Refresh(); // a source knows more
-    bool IsOpen() const;
-    bool IsShowingCall() const;
+    void Open();                ///< for the word at the caret, by a person's wish
+    void ShowCall();            ///< the same for what a function takes
+    void Close();               ///< the list and the call tip
+    void Refresh();             ///< a source knows more
+    bool IsOpen() const;        ///< whether the list shows
+    bool IsShowingCall() const; ///< whether the call tip shows
 
-    // Each notification of the control, once it has dealt with it.
+    /// Each notification of the control, once it has dealt with it.
     void OnNotify(const SCNotification& record);
 
+    /// Takes the keys of the list while it is open.
     bool eventFilter(QObject* watched, QEvent* event) override;
 
 private:

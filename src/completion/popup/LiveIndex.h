@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-// LiveIndex: the index of an editor's text, kept up to date by what the engine tells and built in
-// idle time. Nothing is read before somebody asks.
+/// \file
+/// LiveIndex: the index of an editor's text, kept up to date by what the engine tells and built in
+/// idle time. Nothing is read before somebody asks.
 #pragma once
 
 #include "common/Export.h"
@@ -16,6 +17,7 @@
 class CZNCoreEditorControl;
 struct SCNotification;
 
+/// The analysis of scripts, which the library keeps to itself.
 namespace engine::analysis {
 struct SqlDialect;
 }
@@ -24,41 +26,42 @@ namespace completion {
 
 class ScriptIndex;
 
-// For one text, whatever the number of editors that show it; a host hands on the notifications of
-// one of them. Created and used on the GUI thread.
+/// For one text, whatever the number of editors that show it; a host hands on the notifications of
+/// one of them. Created and used on the GUI thread.
 class ZN_API LiveIndex final : public QObject
 {
     Q_OBJECT
 
 public:
+    /// Puts a part of the editor's text, in units, into the given one.
     using Read = std::function<void(long start, long end, std::u16string& text)>;
 
-    explicit LiveIndex(QObject* parent = nullptr);
+    explicit LiveIndex(QObject* parent = nullptr); ///< without an editor, and empty
     ~LiveIndex() override;
 
-    // The editor through which the text is read; null: none. It outlives the index, or is taken
-    // back here before it goes.
+    /// The editor through which the text is read; null: none. It outlives the index, or is taken
+    /// back here before it goes.
     void SetEditor(CZNCoreEditorControl* editor);
-    CZNCoreEditorControl* Editor() const { return m_editor; }
+    CZNCoreEditorControl* Editor() const { return m_editor; } ///< null: none
 
-    bool IsFollowing() const { return m_isFollowing; } // has been asked, and hears of changes
-    void OnModified(const SCNotification& record);
+    bool IsFollowing() const { return m_isFollowing; } ///< has been asked, and hears of changes
+    void OnModified(const SCNotification& record);     ///< each Modified of the editor
 
-    // Up to date around the caret. Good until the control comes back to the event loop.
+    /// Up to date around the caret. Good until the control comes back to the event loop.
     ScriptIndex& Around(long caret);
-    Read Reader() const;
-    // What the script creates, in order, with the places of the names: as far as it has been read
-    // by now, or all of it at once.
+    Read Reader() const; ///< what an index reads the editor's text with
+    /// What the script creates, in order, with the places of the names: as far as it has been read
+    /// by now, or all of it at once.
     std::vector<ScriptName> Created();
-    std::vector<ScriptName> CreatedInAll();
+    std::vector<ScriptName> CreatedInAll(); ///< the same, all of it at once
 
-    bool IsDone() const;             // nothing is left to be read, of what has been asked for
-    std::size_t MemoryBytes() const; // that it takes
+    bool IsDone() const;             ///< nothing is left to be read, of what has been asked for
+    std::size_t MemoryBytes() const; ///< that it takes
 
-    void Start(); // to follow and to read, before anybody asks
+    void Start(); ///< to follow and to read, before anybody asks
 
 Q_SIGNALS:
-    void Finished(); // nothing is left to be read
+    void Finished(); ///< nothing is left to be read
 
 private:
     void Ensure();
@@ -71,7 +74,7 @@ private:
     bool m_isFollowing = false;
 };
 
-// How the editor's language reads; null for one that is none of SQL's.
+/// How the editor's language reads; null for one that is none of SQL's.
 ZN_API const engine::analysis::SqlDialect* DialectOf(CZNCoreEditorControl& editor);
 
 } // namespace completion

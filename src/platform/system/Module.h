@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-// Modules loaded by name at run time.
+/// \file
+/// Modules loaded by name at run time.
 #pragma once
 
 #include "common/Export.h"
@@ -7,8 +8,8 @@
 
 #include <QString>
 
-// Loads a shared library by its bare name, without prefix, ending or folder: it is looked for
-// beside this library first, then in the folder "ZNCoreEditor" beside it. Null if it cannot be
-// loaded. What it registers, it registers while it loads. Problem, if it is given, becomes what the
-// loader said, empty when it succeeded.
+/// Loads a shared library by its bare name, without prefix, ending or folder: it is looked for
+/// beside this library first, then in the folder "ZNCoreEditor" beside it. Null if it cannot be
+/// loaded. What it registers, it registers while it loads. Problem, if it is given, becomes what
+/// the loader said, empty when it succeeded.
 ZN_API HINSTANCE LoadModule(const char16_t* name, QString* problem = nullptr);

@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-// CColorStatic: a sample of text in given colours and in the widget's font; a QFrame.
+/// \file
+/// CColorStatic: a sample of text in given colours and in the widget's font; a QFrame.
 #pragma once
 
 #include "common/Export.h"
@@ -8,23 +9,24 @@
 #include <QFrame>
 #include <QString>
 
+/// A sample of text in given colours and in the widget's font; a QFrame.
 class ZN_API CColorStatic : public QFrame
 {
     Q_OBJECT
 
 public:
-    explicit CColorStatic(const QString& text, QWidget* parent = nullptr);
+    explicit CColorStatic(const QString& text, QWidget* parent = nullptr); ///< black on white
 
-    const QString& Text() const { return m_text; }
-    COLORREF TextColor() const { return m_textColor; }
-    COLORREF GroundColor() const { return m_groundColor; }
-    void SetText(const QString& text);
-    void SetColors(COLORREF text, COLORREF ground);
+    const QString& Text() const { return m_text; }         ///< what is shown
+    COLORREF TextColor() const { return m_textColor; }     ///< 0x00BBGGRR
+    COLORREF GroundColor() const { return m_groundColor; } ///< 0x00BBGGRR
+    void SetText(const QString& text);                     ///< shows another one
+    void SetColors(COLORREF text, COLORREF ground);        ///< both, 0x00BBGGRR
 
-    QSize sizeHint() const override;
+    QSize sizeHint() const override; ///< of the text in its font
 
 protected:
-    void paintEvent(QPaintEvent* event) override;
+    void paintEvent(QPaintEvent* event) override; ///< the text in its colours
 
 private:
     QString m_text;

@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-// CColorPref: the colours of a language's styles.
+/// \file
+/// CColorPref: the colours of a language's styles.
 #pragma once
 
 #include "looks/ColourScheme.h"
@@ -12,13 +13,14 @@
 class StyleColours;
 class StyleSample;
 
+/// The colours of a language's styles.
 class ZN_API CColorPref final : public CEditorPrefsSubDlg
 {
 public:
-    CColorPref();
+    CColorPref(); ///< without a window
     ~CColorPref() override;
 
-    void Apply() override; // every style
+    void Apply() override; ///< every style
 
 protected:
     void OnBuild(QWidget* window) override;

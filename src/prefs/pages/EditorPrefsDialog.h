@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-// CEditorPrefsDialog: the preferences of the editor and of every language, as a tree of pages.
+/// \file
+/// CEditorPrefsDialog: the preferences of the editor and of every language, as a tree of pages.
 #pragma once
 
 #include "platform/dialogs/Dialog.h"
@@ -23,29 +24,30 @@ class QStackedWidget;
 class QTreeWidget;
 class QTreeWidgetItem;
 
-// Apply writes the files at once, and Cancel does not take that back. A page's window is made when
-// the page is first shown; one that has none has no changes.
+/// Apply writes the files at once, and Cancel does not take that back. A page's window is made when
+/// the page is first shown; one that has none has no changes.
 class ZN_API CEditorPrefsDialog final : public CDialog
 {
 public:
-    // Both files have to outlive the dialog. The parent may be null.
+    /// Both files have to outlive the dialog. The parent may be null.
     CEditorPrefsDialog(const QString& title, CConfigFile& config, CFileTypeManager& languages,
                        CWnd* parent = nullptr);
     ~CEditorPrefsDialog() override;
 
+    /// A page in the tree.
     struct PageRecord
     {
-        CEditorPrefsSubDlg* page;
-        UINT templateId; // prefscontrol
-        QString title;
-        CEditorPrefsSubDlg* parent; // null at the top
+        CEditorPrefsSubDlg* page;   ///< the dialog's own
+        UINT templateId;            ///< prefscontrol
+        QString title;              ///< as the tree shows it
+        CEditorPrefsSubDlg* parent; ///< null at the top
     };
-    const std::vector<PageRecord>& Pages() const { return m_pages; } // in the order of the tree
-    int CurrentPage() const { return m_current; }
-    void ShowPage(int page); // makes its window if it has none
+    const std::vector<PageRecord>& Pages() const { return m_pages; } ///< in the order of the tree
+    int CurrentPage() const { return m_current; } ///< its place in Pages; -1: none
+    void ShowPage(int page);                      ///< makes its window if it has none
 
-    // Takes what the pages hold, writes it and gives it to the open editors. With closing, ends the
-    // pages. False, with the page in front that refuses, if one does.
+    /// Takes what the pages hold, writes it and gives it to the open editors. With closing, ends
+    /// the pages. False, with the page in front that refuses, if one does.
     bool Apply(bool closing);
 
     int PreTranslateMessage(MSG* message) override;

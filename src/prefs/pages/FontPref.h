@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-// CFontPref: the fonts of a language's styles.
+/// \file
+/// CFontPref: the fonts of a language's styles.
 #pragma once
 
 #include "prefs/pages/EditorPrefsSubDlg.h"
@@ -11,10 +12,11 @@ class QLineEdit;
 class QListWidget;
 class StyleSample;
 
+/// The fonts of a language's styles.
 class ZN_API CFontPref final : public CEditorPrefsSubDlg
 {
 public:
-    // Every style, changed or not: a language whose fonts were looked at counts as modified.
+    /// Every style, changed or not: a language whose fonts were looked at counts as modified.
     void Apply() override;
 
 protected:

@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-// CKeywordPref: the words of a language, by sets.
+/// \file
+/// CKeywordPref: the words of a language, by sets.
 #pragma once
 
 #include "prefs/pages/EditorPrefsSubDlg.h"
@@ -10,6 +11,7 @@
 
 class QLabel;
 
+/// The words of a language, by sets.
 class ZN_API CKeywordPref final : public CEditorPrefsSubDlg
 {
 public:

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-// CMainColorFontPref: the colours that hold for every language: caret, selection, current line,
-// right edge.
+/// \file
+/// CMainColorFontPref: the colours that hold for every language: caret, selection, current line,
+/// right edge.
 #pragma once
 
 #include "prefs/pages/EditorPrefsSubDlg.h"
@@ -9,12 +10,13 @@
 
 class CConfigFile;
 
+/// The colours that hold for every language: caret, selection, current line, right edge.
 class ZN_API CMainColorFontPref final : public CEditorPrefsSubDlg
 {
 public:
-    static constexpr std::size_t kColors = 5;
+    static constexpr std::size_t kColors = 5; ///< rows of colours
 
-    void SetConfigFile(CConfigFile* file) { m_config = file; } // it has to outlive the page
+    void SetConfigFile(CConfigFile* file) { m_config = file; } ///< it has to outlive the page
     void Apply() override;
 
 protected:

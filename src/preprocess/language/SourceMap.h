@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-// Where the lines of an expanded script came from. Lines count from 0. The script itself is the
-// file without a path.
+/// \file
+/// Where the lines of an expanded script came from. Lines count from 0. The script itself is the
+/// file without a path.
 #pragma once
 
 #include "common/Export.h"
@@ -10,38 +11,40 @@
 #include <set>
 #include <vector>
 
+/// A line of a file.
 struct SourceLine
 {
-    QString path; // empty: the script
-    long line = 0;
+    QString path;  ///< empty: the script
+    long line = 0; ///< from 0
 
-    bool operator==(const SourceLine&) const = default;
+    bool operator==(const SourceLine&) const = default; ///< whether both say the same
 };
 
+/// Filled by a run, line by line.
 class ZN_API SourceMap
 {
 public:
-    SourceMap() { Clear(); }
+    SourceMap() { Clear(); } ///< every line is the script's own
 
-    // Every line is the script's own.
+    /// Every line is the script's own.
     void Clear();
 
-    // Below that line stand so many from the file, from its line firstLine on.
+    /// Below that line stand so many from the file, from its line firstLine on.
     void InsertFile(long below, long lines, const QString& path, long firstLine);
 
-    // Below that line stand so many that came out of it.
+    /// Below that line stand so many that came out of it.
     void InsertExpansion(long below, long lines);
 
-    // Where a line of the expanded script came from. For one behind its end the count goes on.
+    /// Where a line of the expanded script came from. For one behind its end the count goes on.
     SourceLine Locate(long line) const;
 
-    // The include lines that brought it here, the innermost first; empty for the script's own.
+    /// The include lines that brought it here, the innermost first; empty for the script's own.
     std::vector<SourceLine> IncludedFrom(long line) const;
 
-    // The files that were included, each once, in the order of their names.
+    /// The files that were included, each once, in the order of their names.
     std::set<QString> Files() const;
 
-    // The expanded line that came from there, the first of several; -1 if there is none.
+    /// The expanded line that came from there, the first of several; -1 if there is none.
     long Find(const QString& path, long line) const;
 
 private:

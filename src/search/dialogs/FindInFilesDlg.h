@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-// CFindInFilesDlg: the modal dialog "Find In Files". It gathers what to search for and where: the
-// options go to the manager, the folders are its own. The search is the caller's.
+/// \file
+/// CFindInFilesDlg: the modal dialog "Find In Files". It gathers what to search for and where: the
+/// options go to the manager, the folders are its own. The search is the caller's.
 #pragma once
 
 #include "common/Export.h"
@@ -12,13 +13,14 @@ class CMyComboBox;
 class FaultLine;
 class QGridLayout;
 
+/// The modal dialog "Find In Files".
 class ZN_API CFindInFilesDlg final : public CDialog
 {
 public:
     using CDialog::CDialog;
 
-    QString m_text;         // to look for, to begin with
-    QStringList m_aFolders; // behind OK: the folder, then the additional ones
+    QString m_text;         ///< to look for, to begin with
+    QStringList m_aFolders; ///< behind OK: the folder, then the additional ones
 
 protected:
     void OnBuild(QWidget* window) override;

@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-// The text of a file as an editor would open it, without one.
+/// \file
+/// The text of a file as an editor would open it, without one.
 #pragma once
 
 #include "common/Export.h"
@@ -8,5 +9,5 @@
 
 #include <optional>
 
-// Nothing for what is no text, cannot be read or has more bytes than these.
+/// Nothing for what is no text, cannot be read or has more bytes than these.
 ZN_API std::optional<QString> ReadFileText(const QString& path, qint64 mostBytes);
