@@ -386,7 +386,7 @@ Voulez-vous le recharger&#xa0;?</translation>
     <name>EditorPrefsDialog</name>
     <message>
         <source>Find a language or a page</source>
-        <translation>Trouver un langage ou une page</translation>
+        <translation>Langage ou page</translation>
     </message>
     <message>
         <source>Pages</source>
