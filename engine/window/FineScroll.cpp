@@ -2,12 +2,15 @@
 #include "engine/window/FineScroll.h"
 
 #include <QAbstractScrollArea>
+#include <QGuiApplication>
 #include <QInputDevice>
+#include <QMouseEvent>
 #include <QPointingDevice>
 #include <QScrollBar>
 #include <QScrollEvent>
 #include <QScrollPrepareEvent>
 #include <QScroller>
+#include <QStyleHints>
 #include <QWheelEvent>
 
 #include <algorithm>
@@ -55,13 +58,45 @@ bool FineScroll::Swing(QEvent& event, int lineHeight)
         event.accept();
         return true;
     }
+    if (event.type() >= QEvent::TouchBegin && event.type() <= QEvent::TouchEnd)
+        return Touch(static_cast<QTouchEvent&>(event));
     if (event.type() != QEvent::Scroll)
         return false;
+    m_hasMoved = true;
     const QPointF place = static_cast<QScrollEvent&>(event).contentPos();
     down.setValue(qRound(place.y() / std::max(1, lineHeight)));
     across.setValue(qRound(place.x()));
     event.accept();
     return true;
+}
+
+// One that stays where it was is a click.
+bool FineScroll::Touch(QTouchEvent& event)
+{
+    if (event.device()->type() != QInputDevice::DeviceType::TouchScreen || event.points().isEmpty())
+        return false;
+    event.accept();
+    if (event.type() == QEvent::TouchBegin)
+        m_hasMoved = false;
+    else if (event.type() == QEvent::TouchEnd && !m_hasMoved)
+        Tap(event.points().constFirst().position());
+    return true;
+}
+
+void FineScroll::Tap(const QPointF& place)
+{
+    QWidget& viewport = *m_window.viewport();
+    const bool isSecond =
+        m_lastTap.isValid() &&
+        m_lastTap.elapsed() < QGuiApplication::styleHints()->mouseDoubleClickInterval();
+    isSecond ? m_lastTap.invalidate() : m_lastTap.start();
+    const QPointF onScreen = viewport.mapToGlobal(place);
+    QMouseEvent press(isSecond ? QEvent::MouseButtonDblClick : QEvent::MouseButtonPress, place,
+                      onScreen, Qt::LeftButton, Qt::LeftButton, Qt::NoModifier);
+    QCoreApplication::sendEvent(&viewport, &press);
+    QMouseEvent release(QEvent::MouseButtonRelease, place, onScreen, Qt::LeftButton, Qt::NoButton,
+                        Qt::NoModifier);
+    QCoreApplication::sendEvent(&viewport, &release);
 }
 
 } // namespace engine

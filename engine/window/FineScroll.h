@@ -3,10 +3,12 @@
 // touch screen. The text moves by whole lines as the fingers pass them, sideways by pixels.
 #pragma once
 
-#include <QPoint>
+#include <QElapsedTimer>
+#include <QPointF>
 
 class QAbstractScrollArea;
 class QEvent;
+class QTouchEvent;
 class QWheelEvent;
 
 namespace engine {
@@ -19,11 +21,17 @@ public:
     // True if that was all. A turn without a way in pixels is the stock engine's, and one of a
     // display that gives wheels such ways, too.
     bool Turn(const QWheelEvent& event, int lineHeight);
-    bool Swing(QEvent& event, int lineHeight); // an event of the viewport's scroller
+    // An event of the viewport's: its scroller's, or a finger's, which is no mouse that selects.
+    bool Swing(QEvent& event, int lineHeight);
 
 private:
+    bool Touch(QTouchEvent& event);
+    void Tap(const QPointF& place);
+
     QAbstractScrollArea& m_window;
     int m_rest = 0; // pixels beyond the last whole line
+    bool m_hasMoved = false;
+    QElapsedTimer m_lastTap;
 };
 
 } // namespace engine

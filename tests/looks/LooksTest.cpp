@@ -15,6 +15,7 @@
 #include <QHelpEvent>
 #include <QImage>
 #include <QMouseEvent>
+#include <QPointingDevice>
 #include <QScrollBar>
 #include <QSet>
 #include <QTemporaryDir>
@@ -428,6 +429,45 @@ TEST_F(LooksTest, ScrollAsFarAsFingersGo)
     EXPECT_EQ(control.GetFirstVisibleLine(1), 7);
     move(-15, Qt::NoScrollPhase); // a wheel, whose pixels mean nothing
     EXPECT_EQ(control.GetFirstVisibleLine(1), 7);
+}
+
+// A finger that is taken away while it moves leaves the text going on for a while.
+TEST_F(LooksTest, SwingBehindAFinger)
+{
+    Put(QStringLiteral("line\n").repeated(400));
+    QPointingDevice* device = QTest::createTouchDevice();
+    const auto finger = [&] { return QTest::touchEvent(Window().viewport(), device); };
+    constexpr int kStep = 12; // pixels
+    QPoint place(200, 250);
+    finger().press(0, place, Window().viewport());
+    for (int i = 0; i < 15; ++i) {
+        place.ry() -= kStep;
+        finger().move(0, place, Window().viewport());
+        QTest::qWait(10);
+    }
+    const int held = control.GetFirstVisibleLine(1);
+    EXPECT_GT(held, 3);
+    EXPECT_LT(held, 15 * kStep / control.TextHeight(0, 1) + 2);
+    finger().release(0, place, Window().viewport());
+    EXPECT_TRUE(Becomes([&] { return control.GetFirstVisibleLine(1) > held + 2; }));
+    EXPECT_EQ(control.GetSelectionStart(1), control.GetSelectionEnd(1));
+}
+
+TEST_F(LooksTest, TakeATapForAClick)
+{
+    Put(QStringLiteral("one two\n"));
+    QPointingDevice* device = QTest::createTouchDevice();
+    const QPoint place(control.PointXFromPosition(5, 1) + 1, 8);
+    const auto tap = [&] {
+        QTest::touchEvent(Window().viewport(), device).press(0, place, Window().viewport());
+        QTest::touchEvent(Window().viewport(), device).release(0, place, Window().viewport());
+    };
+    tap();
+    EXPECT_EQ(control.GetCurrentPos(1), 5);
+    EXPECT_EQ(control.GetSelectionStart(1), 5);
+    tap();
+    EXPECT_EQ(control.GetSelectionStart(1), 4);
+    EXPECT_EQ(control.GetSelectionEnd(1), 7);
 }
 
 } // namespace
