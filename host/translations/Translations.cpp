@@ -5,15 +5,16 @@
 
 #include <QCoreApplication>
 #include <QLibraryInfo>
+#include <QPointer>
 #include <QTranslator>
 
 #include <vector>
 
 void InstallTranslations()
 {
-    static std::vector<QTranslator*> installed;
-    for (const QTranslator* translator : installed)
-        delete translator; // which takes it out of the application
+    static std::vector<QPointer<QTranslator>> installed; // the application's
+    for (const QPointer<QTranslator>& translator : installed)
+        delete translator.data(); // which takes it out of the application
     installed.clear();
     const QString language = zncoreeditor::GetUiLanguage();
     const QString catalogues[] = {
@@ -21,7 +22,8 @@ void InstallTranslations()
         QStringLiteral(":/znworkbench/i18n/znworkbench_") + language,
     };
     for (const QString& catalogue : catalogues) {
-        auto* translator = installed.emplace_back(new QTranslator);
+        QTranslator* translator =
+            installed.emplace_back(new QTranslator(QCoreApplication::instance()));
         if (translator->load(catalogue))
             QCoreApplication::installTranslator(translator);
     }

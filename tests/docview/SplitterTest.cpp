@@ -62,7 +62,10 @@ protected:
     ~Splitter() override
     {
         splitter.DestroyWindow();
-        frame->DestroyWindow();
+        if (frame->GetSafeHwnd())
+            frame->DestroyWindow(); // it goes with its window
+        else
+            delete frame;
         Disposal::Run();
     }
     std::vector<UINT> Numbers() const
