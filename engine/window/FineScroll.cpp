@@ -22,6 +22,16 @@ FineScroll::FineScroll(QAbstractScrollArea& window) : m_window(window)
     QScroller::grabGesture(window.viewport(), QScroller::TouchGesture);
 }
 
+// A scroller asks the application as it goes. One of a window that outlives the application stays.
+FineScroll::~FineScroll()
+{
+    if (QCoreApplication::instance())
+        return;
+    QObject::disconnect(m_window.viewport(), &QObject::destroyed, nullptr, nullptr);
+    if (auto* scroller = m_window.viewport()->findChild<QScroller*>())
+        scroller->setParent(nullptr);
+}
+
 bool FineScroll::Turn(const QWheelEvent& event, int lineHeight)
 {
     const QPoint way = event.pixelDelta();

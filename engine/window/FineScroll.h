@@ -17,6 +17,9 @@ class FineScroll
 {
 public:
     explicit FineScroll(QAbstractScrollArea& window); // whose steps are lines
+    ~FineScroll();
+    FineScroll(const FineScroll&) = delete;
+    FineScroll& operator=(const FineScroll&) = delete;
 
     // True if that was all. A turn without a way in pixels is the stock engine's, and one of a
     // display that gives wheels such ways, too.
