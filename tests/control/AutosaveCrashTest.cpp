@@ -223,7 +223,7 @@ private:
         Editor other;
         other.control->SetCarefulFiles(true);
         EXPECT_TRUE(other.control->OpenFile(path.toStdU16String().c_str(), kDetect));
-        EXPECT_TRUE(questions.asked.isEmpty());
+        EXPECT_EQ(questions.asked.join(u'\n').toStdString(), "");
     }
 
     static void Recover(const QString& path, const std::vector<std::string>& texts, bool careful,
