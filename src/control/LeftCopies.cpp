@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "control/LeftCopies.h"
 
-#include "control/Autosave.h"
+#include "control/AutosaveCopies.h"
 #include "control/CopyClaim.h"
 #include "control/FileAccess.h"
 #include "platform/base/Units.h"
@@ -30,7 +30,7 @@ LeftCopies::LeftCopies(const QString& document)
         const QString stands = autosave::NoteOf(path);
         auto claim = std::make_unique<CopyClaim>();
         if (stands.isEmpty() || (!document.isEmpty() && stands != document) || file.size() == 0 ||
-            !claim->Take(path))
+            !claim->Take(path) || !QFile::exists(path))
             continue;
         m_copies.push_back({path, stands});
         m_claims.push_back(std::move(claim));

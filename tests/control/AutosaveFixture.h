@@ -4,9 +4,9 @@
 #pragma once
 
 #include "platform/system/Profile.h"
-#include "platform/system/SpecialFolders.h"
 #include "platform/windows/Timer.h"
 #include "tests/control/ControlFixture.h"
+#include "tests/control/FoldersIn.h"
 
 #include <QDir>
 #include <QDirIterator>
@@ -15,24 +15,6 @@
 #include <algorithm>
 
 inline constexpr UINT kAutosaveTimer = 100;
-
-// Everything below one folder, for a program called "bench".
-class FoldersIn : public ISpecialFolders
-{
-public:
-    explicit FoldersIn(QString folder) : m_folder(std::move(folder)) { SetSpecialFolders(this); }
-    ~FoldersIn() override { SetSpecialFolders(nullptr); }
-
-    QString LocalAppData() const override { return hasData ? m_folder + "/data" : QString(); }
-    QString Config() const override { return m_folder + "/config"; }
-    QString Temp() const override { return m_folder; }
-    QString AppName() const override { return QStringLiteral("bench"); }
-
-    bool hasData = true;
-
-private:
-    QString m_folder;
-};
 
 class AutosaveQuestions : public IUserQuestions
 {

@@ -28,8 +28,8 @@ void EmptyCopy(const QString& copyPath);
 void RemoveCopy(const QString& copyPath);
 
 // The name of the first copy in the folder that is noted for the document and that the caller
-// takes, in the order of the file system. Empty if there is none. A note without a file does not
-// count, nor does a file without a note.
+// takes, in the order of the file system, and that is still there then. Empty if there is none. A
+// note without a file does not count, nor does a file without a note.
 QString FindCopy(const QString& documentPath,
                  const std::function<bool(const QString& copyPath)>& take);
 
