@@ -6,7 +6,7 @@ _znscript()
     local encodings='utf-8 utf-16le utf-16be utf-32le utf-32be windows-1252'
     COMPREPLY=()
     if ((COMP_CWORD == 1)); then
-        mapfile -t COMPREPLY < <(compgen -W 'expand batches convert detect --help' -- "$current")
+        mapfile -t COMPREPLY < <(compgen -W 'expand batches convert detect --help --version' -- "$current")
         return
     fi
     case $before in
@@ -21,7 +21,7 @@ _znscript()
                 return
             fi
             case ${COMP_WORDS[1]} in
-                expand) options='--path --define --encoding --output --language --mark --eol --help' ;;
+                expand) options='--path --script-folder --strict --define --encoding --output --language --mark --eol --help' ;;
                 batches) options='--language --separator --terminator --help' ;;
                 convert) options='--to --mark --eol --help' ;;
                 *) options=--help ;;
