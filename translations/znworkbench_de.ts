@@ -848,32 +848,16 @@ Mit Qt %1. Lizenziert unter der GNU General Public License, Version 3 oder spät
         <translation>S&amp;uchdialog...</translation>
     </message>
     <message>
-        <source>&amp;Replace with a Dialog...</source>
-        <translation>&amp;Ersetzen-Dialog...</translation>
-    </message>
-    <message>
         <source>&amp;Go to Line...</source>
         <translation>&amp;Gehe zu Zeile...</translation>
     </message>
     <message>
         <source>Go to S&amp;ymbol...</source>
-        <translation>Gehe &amp;zu Symbol...</translation>
-    </message>
-    <message>
-        <source>Find in &amp;Files...</source>
-        <translation>&amp;In Dateien suchen...</translation>
-    </message>
-    <message>
-        <source>&amp;Next Result</source>
-        <translation>&amp;Nächster Treffer</translation>
-    </message>
-    <message>
-        <source>&amp;Previous Result</source>
-        <translation>&amp;Vorheriger Treffer</translation>
+        <translation>Gehe zu S&amp;ymbol...</translation>
     </message>
     <message>
         <source>&amp;Stop Search</source>
-        <translation>&amp;Suche abbrechen</translation>
+        <translation>Suche a&amp;bbrechen</translation>
     </message>
     <message>
         <source>Zoom &amp;In</source>
@@ -988,10 +972,6 @@ Mit Qt %1. Lizenziert unter der GNU General Public License, Version 3 oder spät
         <translation>Über &amp;znworkbench</translation>
     </message>
     <message>
-        <source>Fi&amp;nd</source>
-        <translation>&amp;Suchen</translation>
-    </message>
-    <message>
         <source>What was open last cannot be read. </source>
         <translation>Was zuletzt offen war, kann nicht gelesen werden. </translation>
     </message>
@@ -1032,6 +1012,22 @@ Mit Qt %1. Lizenziert unter der GNU General Public License, Version 3 oder spät
     <message>
         <source>Find Results 2</source>
         <translation>Suchergebnisse 2</translation>
+    </message>
+    <message>
+        <source>R&amp;eplace with a Dialog...</source>
+        <translation>Ersetze&amp;n-Dialog...</translation>
+    </message>
+    <message>
+        <source>Find in F&amp;iles...</source>
+        <translation>&amp;In Dateien suchen...</translation>
+    </message>
+    <message>
+        <source>Next Res&amp;ult</source>
+        <translation>Nä&amp;chster Treffer</translation>
+    </message>
+    <message>
+        <source>Previous Resul&amp;t</source>
+        <translation>&amp;Vorheriger Treffer</translation>
     </message>
 </context>
 <context>

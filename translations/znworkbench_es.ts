@@ -845,35 +845,19 @@ Con Qt %1. Con licencia pública general de GNU, versión 3 o posterior.</transl
     </message>
     <message>
         <source>Find with a &amp;Dialog...</source>
-        <translation>&amp;Diálogo de búsqueda...</translation>
-    </message>
-    <message>
-        <source>&amp;Replace with a Dialog...</source>
-        <translation>Diál&amp;ogo de reemplazo...</translation>
+        <translation>D&amp;iálogo de búsqueda...</translation>
     </message>
     <message>
         <source>&amp;Go to Line...</source>
-        <translation>&amp;Ir a la línea...</translation>
+        <translation>Ir a la lí&amp;nea...</translation>
     </message>
     <message>
         <source>Go to S&amp;ymbol...</source>
         <translation>Ir &amp;al símbolo...</translation>
     </message>
     <message>
-        <source>Find in &amp;Files...</source>
-        <translation>&amp;Buscar en archivos...</translation>
-    </message>
-    <message>
-        <source>&amp;Next Result</source>
-        <translation>Resultado &amp;siguiente</translation>
-    </message>
-    <message>
-        <source>&amp;Previous Result</source>
-        <translation>&amp;Resultado anterior</translation>
-    </message>
-    <message>
         <source>&amp;Stop Search</source>
-        <translation>Detener &amp;la búsqueda</translation>
+        <translation>Detener la bús&amp;queda</translation>
     </message>
     <message>
         <source>Zoom &amp;In</source>
@@ -988,10 +972,6 @@ Con Qt %1. Con licencia pública general de GNU, versión 3 o posterior.</transl
         <translation>&amp;Acerca de</translation>
     </message>
     <message>
-        <source>Fi&amp;nd</source>
-        <translation>B&amp;uscar</translation>
-    </message>
-    <message>
         <source>What was open last cannot be read. </source>
         <translation>No se puede leer lo que estaba abierto la última vez. </translation>
     </message>
@@ -1032,6 +1012,22 @@ Con Qt %1. Con licencia pública general de GNU, versión 3 o posterior.</transl
     <message>
         <source>Find Results 2</source>
         <translation>Resultados de la búsqueda 2</translation>
+    </message>
+    <message>
+        <source>R&amp;eplace with a Dialog...</source>
+        <translation>Diál&amp;ogo de reemplazo...</translation>
+    </message>
+    <message>
+        <source>Find in F&amp;iles...</source>
+        <translation>Buscar &amp;en archivos...</translation>
+    </message>
+    <message>
+        <source>Next Res&amp;ult</source>
+        <translation>Resultado si&amp;guiente</translation>
+    </message>
+    <message>
+        <source>Previous Resul&amp;t</source>
+        <translation>Resultado &amp;previo</translation>
     </message>
 </context>
 <context>

@@ -848,32 +848,16 @@ Avec Qt %1. Sous licence publique générale GNU, version 3 ou ultérieure.</tra
         <translation>&amp;Boîte de recherche...</translation>
     </message>
     <message>
-        <source>&amp;Replace with a Dialog...</source>
-        <translation>B&amp;oîte de remplacement...</translation>
-    </message>
-    <message>
         <source>&amp;Go to Line...</source>
-        <translation>Aller à &amp;la ligne...</translation>
+        <translation>&amp;Aller à la ligne...</translation>
     </message>
     <message>
         <source>Go to S&amp;ymbol...</source>
-        <translation>Aller au &amp;symbole...</translation>
-    </message>
-    <message>
-        <source>Find in &amp;Files...</source>
-        <translation>Rechercher &amp;dans les fichiers...</translation>
-    </message>
-    <message>
-        <source>&amp;Next Result</source>
-        <translation>&amp;Résultat suivant</translation>
-    </message>
-    <message>
-        <source>&amp;Previous Result</source>
-        <translation>Résultat &amp;précédent</translation>
+        <translation>Aller au s&amp;ymbole...</translation>
     </message>
     <message>
         <source>&amp;Stop Search</source>
-        <translation>&amp;Arrêter la recherche</translation>
+        <translation>&amp;Interrompre la recherche</translation>
     </message>
     <message>
         <source>Zoom &amp;In</source>
@@ -988,10 +972,6 @@ Avec Qt %1. Sous licence publique générale GNU, version 3 ou ultérieure.</tra
         <translation>À &amp;propos</translation>
     </message>
     <message>
-        <source>Fi&amp;nd</source>
-        <translation>&amp;Rechercher</translation>
-    </message>
-    <message>
         <source>What was open last cannot be read. </source>
         <translation>Impossible de lire ce qui était ouvert la dernière fois. </translation>
     </message>
@@ -1032,6 +1012,22 @@ Avec Qt %1. Sous licence publique générale GNU, version 3 ou ultérieure.</tra
     <message>
         <source>Find Results 2</source>
         <translation>Résultats de la recherche 2</translation>
+    </message>
+    <message>
+        <source>R&amp;eplace with a Dialog...</source>
+        <translation>Boîte de rempla&amp;cement...</translation>
+    </message>
+    <message>
+        <source>Find in F&amp;iles...</source>
+        <translation>Rechercher &amp;dans les fichiers...</translation>
+    </message>
+    <message>
+        <source>Next Res&amp;ult</source>
+        <translation>Résultat suiva&amp;nt</translation>
+    </message>
+    <message>
+        <source>Previous Resul&amp;t</source>
+        <translation>Résultat précéd&amp;ent</translation>
     </message>
 </context>
 <context>

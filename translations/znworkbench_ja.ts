@@ -844,28 +844,12 @@ Qt %1 を使用。GNU General Public License バージョン 3 以降の下で�
         <translation>検索ダイアログ(&amp;D)...</translation>
     </message>
     <message>
-        <source>&amp;Replace with a Dialog...</source>
-        <translation>置換ダイアログ(&amp;R)...</translation>
-    </message>
-    <message>
         <source>&amp;Go to Line...</source>
         <translation>行へ移動(&amp;G)...</translation>
     </message>
     <message>
         <source>Go to S&amp;ymbol...</source>
         <translation>シンボルへ移動(&amp;Y)...</translation>
-    </message>
-    <message>
-        <source>Find in &amp;Files...</source>
-        <translation>ファイル内を検索(&amp;F)...</translation>
-    </message>
-    <message>
-        <source>&amp;Next Result</source>
-        <translation>次の結果(&amp;N)</translation>
-    </message>
-    <message>
-        <source>&amp;Previous Result</source>
-        <translation>前の結果(&amp;P)</translation>
     </message>
     <message>
         <source>&amp;Stop Search</source>
@@ -984,10 +968,6 @@ Qt %1 を使用。GNU General Public License バージョン 3 以降の下で�
         <translation>znworkbench について(&amp;A)</translation>
     </message>
     <message>
-        <source>Fi&amp;nd</source>
-        <translation>検索(&amp;N)</translation>
-    </message>
-    <message>
         <source>What was open last cannot be read. </source>
         <translation>前回開いていたものを読み込めません。</translation>
     </message>
@@ -1026,6 +1006,22 @@ Qt %1 を使用。GNU General Public License バージョン 3 以降の下で�
     <message>
         <source>Find Results 2</source>
         <translation>検索結果 2</translation>
+    </message>
+    <message>
+        <source>R&amp;eplace with a Dialog...</source>
+        <translation>置換ダイアログ(&amp;E)...</translation>
+    </message>
+    <message>
+        <source>Find in F&amp;iles...</source>
+        <translation>ファイル内を検索(&amp;I)...</translation>
+    </message>
+    <message>
+        <source>Next Res&amp;ult</source>
+        <translation>次の結果(&amp;U)</translation>
+    </message>
+    <message>
+        <source>Previous Resul&amp;t</source>
+        <translation>前の結果(&amp;T)</translation>
     </message>
 </context>
 <context>

@@ -844,28 +844,12 @@ Over Qt %1. Licensed under the GNU General Public License, version 3 or later.</
         <translation>查找对话框(&amp;D)...</translation>
     </message>
     <message>
-        <source>&amp;Replace with a Dialog...</source>
-        <translation>替换对话框(&amp;R)...</translation>
-    </message>
-    <message>
         <source>&amp;Go to Line...</source>
         <translation>转到行(&amp;G)...</translation>
     </message>
     <message>
         <source>Go to S&amp;ymbol...</source>
         <translation>转到符号(&amp;Y)...</translation>
-    </message>
-    <message>
-        <source>Find in &amp;Files...</source>
-        <translation>在文件中查找(&amp;F)...</translation>
-    </message>
-    <message>
-        <source>&amp;Next Result</source>
-        <translation>下一个结果(&amp;N)</translation>
-    </message>
-    <message>
-        <source>&amp;Previous Result</source>
-        <translation>上一个结果(&amp;P)</translation>
     </message>
     <message>
         <source>&amp;Stop Search</source>
@@ -984,10 +968,6 @@ Over Qt %1. Licensed under the GNU General Public License, version 3 or later.</
         <translation>关于(&amp;A)</translation>
     </message>
     <message>
-        <source>Fi&amp;nd</source>
-        <translation>查找(&amp;N)</translation>
-    </message>
-    <message>
         <source>What was open last cannot be read. </source>
         <translation>无法读取上次打开的内容。</translation>
     </message>
@@ -1026,6 +1006,22 @@ Over Qt %1. Licensed under the GNU General Public License, version 3 or later.</
     <message>
         <source>Find Results 2</source>
         <translation>查找结果 2</translation>
+    </message>
+    <message>
+        <source>R&amp;eplace with a Dialog...</source>
+        <translation>替换对话框(&amp;E)...</translation>
+    </message>
+    <message>
+        <source>Find in F&amp;iles...</source>
+        <translation>在文件中查找(&amp;I)...</translation>
+    </message>
+    <message>
+        <source>Next Res&amp;ult</source>
+        <translation>下一个结果(&amp;U)</translation>
+    </message>
+    <message>
+        <source>Previous Resul&amp;t</source>
+        <translation>上一个结果(&amp;T)</translation>
     </message>
 </context>
 <context>

@@ -45,16 +45,13 @@ constexpr Row kRows[] = {
 } // namespace
 
 ExpressionHelp::ExpressionHelp(QWidget* parent)
-    : QToolButton(parent), m_isPerl(CRegProfile().GetProfileInt(kSection, kEntry, 1) == 1)
+    : MenuButton(parent), m_isPerl(CRegProfile().GetProfileInt(kSection, kEntry, 1) == 1)
 {
     setObjectName(QStringLiteral("expressionHelp"));
     setText(QStringLiteral("&?"));
     setToolTip(tr("What an expression may say"));
     setAccessibleName(toolTip());
-    setAutoRaise(true);
-    setPopupMode(QToolButton::InstantPopup);
     setMenu(new QMenu(this));
-    setStyleSheet(QStringLiteral("QToolButton::menu-indicator { image: none; }"));
     connect(menu(), &QMenu::aboutToShow, this, &ExpressionHelp::FillMenu);
 }
 

@@ -3,9 +3,9 @@
 // kept for the next time, and what may stand in one.
 #pragma once
 
-#include <QToolButton>
+#include "host/icons/MenuButton.h"
 
-class ExpressionHelp final : public QToolButton
+class ExpressionHelp final : public MenuButton
 {
     Q_OBJECT
 

@@ -56,6 +56,8 @@ protected:
     bool eventFilter(QObject* watched, QEvent* event) override;
 
 private:
+    class CaretPlace;
+
     QComboBox* MakeBox(const char* name, const QString& label);
     QCheckBox* MakeOption(const char* name, const QString& label, bool isOn);
     QPushButton* MakeButton(const char* name);

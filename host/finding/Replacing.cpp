@@ -65,6 +65,37 @@ void FindBar::ReplaceTarget(Editor& editor)
         editor.ReplaceTarget(static_cast<int>(inCase.size()), Units(inCase), 1);
 }
 
+// By line and column: replacements above the caret have lengths of their own, and the manager
+// leaves it at its old count of units.
+class FindBar::CaretPlace
+{
+public:
+    explicit CaretPlace(Editor& editor)
+        : m_editor(editor), m_lines(editor.GetLineCount(1)),
+          m_line(editor.LineFromPosition(editor.GetCurrentPos(1), 1)),
+          m_column(editor.GetCurrentPos(1) - editor.PositionFromLine(m_line, 1)),
+          m_top(editor.GetFirstVisibleLine(1))
+    {}
+
+    // Unless there are other lines.
+    void Restore() const
+    {
+        if (m_editor.GetLineCount(1) != m_lines)
+            return;
+        const long place = std::min(m_editor.PositionFromLine(m_line, 1) + m_column,
+                                    m_editor.GetLineEndPosition(m_line, 1));
+        m_editor.SetSel(place, place, 1);
+        m_editor.LineScroll(0, m_top - m_editor.GetFirstVisibleLine(1), 1);
+    }
+
+private:
+    Editor& m_editor;
+    int m_lines;
+    int m_line;
+    long m_column;
+    int m_top; // display line
+};
+
 void FindBar::ReplaceAll()
 {
     Editor* editor = m_editor();
@@ -72,7 +103,10 @@ void FindBar::ReplaceAll()
         return;
     m_manager.AddReplaceHistory(m_replace->currentText());
     const bool isPlain = !m_scope && !m_preserveCase->isChecked();
+    const CaretPlace caret(*editor);
     const int count = isPlain ? m_manager.ReplaceAll(editor, false) : ReplaceEach(*editor);
+    if (!m_scope)
+        caret.Restore();
     Tell(isPlain && m_manager.WasStopped() ? tr("Stopped, %n replaced", nullptr, count)
                                            : tr("%n replaced", nullptr, count));
 }

@@ -61,8 +61,6 @@ constexpr Row kRows[] = {
     {"commands",    nullptr,              nullptr},
     {"options",     "preferences-system", nullptr},
     {"keys",        "help-contents",      "help"},
-    {"outline",     nullptr,              nullptr},
-    {"folder",      nullptr,              nullptr},
 };
 // clang-format on
 

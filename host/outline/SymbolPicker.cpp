@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "host/outline/SymbolPicker.h"
 
+#include <QFrame>
 #include <QKeyEvent>
 #include <QLineEdit>
 #include <QListWidget>
@@ -20,7 +21,12 @@ SymbolPicker::SymbolPicker(std::vector<Symbol> symbols, QWidget* parent)
     m_words->installEventFilter(this);
     m_list->setAccessibleName(tr("Symbols of the script"));
     m_list->setUniformItemSizes(true);
-    auto* layout = new QVBoxLayout(this);
+    auto* frame = new QFrame(this); // which sets the popup off against what it covers
+    frame->setFrameShape(QFrame::StyledPanel);
+    auto* whole = new QVBoxLayout(this);
+    whole->setContentsMargins({});
+    whole->addWidget(frame);
+    auto* layout = new QVBoxLayout(frame);
     layout->addWidget(m_words);
     layout->addWidget(m_list);
     connect(m_words, &QLineEdit::textChanged, this, &SymbolPicker::Filter);

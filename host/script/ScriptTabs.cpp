@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "host/script/ScriptTabs.h"
 
+#include "host/icons/MenuButton.h"
 #include "platform/docview/WinApp.h"
 #include "platform/windows/Wnd.h"
 
@@ -12,7 +13,6 @@
 #include <QMenu>
 #include <QMouseEvent>
 #include <QTabBar>
-#include <QToolButton>
 #include <QUrl>
 
 ScriptTabs::ScriptTabs(QWidget* parent) : QTabWidget(parent), m_list(new QMenu(this))
@@ -24,14 +24,11 @@ ScriptTabs::ScriptTabs(QWidget* parent) : QTabWidget(parent), m_list(new QMenu(t
     tabBar()->setElideMode(Qt::ElideNone);
     tabBar()->setExpanding(false);
     tabBar()->installEventFilter(this);
-    auto* list = new QToolButton(this);
+    auto* list = new MenuButton(this);
     list->setObjectName(QStringLiteral("tabList"));
     list->setAccessibleName(tr("List of tabs"));
     list->setToolTip(tr("List of tabs"));
     list->setArrowType(Qt::DownArrow);
-    list->setAutoRaise(true);
-    list->setPopupMode(QToolButton::InstantPopup);
-    list->setStyleSheet(QStringLiteral("QToolButton::menu-indicator { image: none; }"));
     list->setMenu(m_list);
     connect(m_list, &QMenu::aboutToShow, this, &ScriptTabs::FillList);
     setCornerWidget(list);

@@ -4,6 +4,7 @@
 #include "common/Translations.h"
 
 #include <QAction>
+#include <QFrame>
 #include <QKeyEvent>
 #include <QLineEdit>
 #include <QListWidget>
@@ -36,7 +37,12 @@ CommandPalette::CommandPalette(const QMenuBar& menus, QWidget* parent)
     m_words->installEventFilter(this);
     m_list->setAccessibleName(tr("Commands"));
     m_list->setUniformItemSizes(true);
-    auto* layout = new QVBoxLayout(this);
+    auto* frame = new QFrame(this); // which sets the popup off against what it covers
+    frame->setFrameShape(QFrame::StyledPanel);
+    auto* whole = new QVBoxLayout(this);
+    whole->setContentsMargins({});
+    whole->addWidget(frame);
+    auto* layout = new QVBoxLayout(frame);
     layout->addWidget(m_words);
     layout->addWidget(m_list);
     Collect(menus.actions(), {});

@@ -20,6 +20,7 @@
 #include "host/window/LanguageMenu.h"
 #include "host/window/MainFrame.h"
 #include "host/window/MainWindow.h"
+#include "host/window/MenuKeys.h"
 #include "host/window/Reasons.h"
 #include "host/window/RecentMenu.h"
 #include "host/window/SchemeMenu.h"
@@ -123,13 +124,13 @@ std::span<const MainWindow::Command> MainWindow::Commands()
         {kEdit, "insertTemplate", QT_TR_NOOP("Insert Template..."), Key::UnknownKey, "Ctrl+Shift+J", command::InsertTemplate},
 
         {kSearch, "findDialog",     QT_TR_NOOP("Find with a &Dialog..."),    Key::UnknownKey, "Ctrl+Alt+F", 53895},
-        {kSearch, "replaceDialog",  QT_TR_NOOP("&Replace with a Dialog..."), Key::UnknownKey, "Ctrl+Alt+R", 53896},
+        {kSearch, "replaceDialog",  QT_TR_NOOP("R&eplace with a Dialog..."), Key::UnknownKey, "Ctrl+Alt+R", 53896},
         {kSearch, "goToLine",       QT_TR_NOOP("&Go to Line..."),            Key::UnknownKey, "Ctrl+G",     54049},
         {kSearch, "goToSymbol",     QT_TR_NOOP("Go to S&ymbol..."),          Key::UnknownKey, "Ctrl+Shift+G", 0, When::Script, Run<&W::GoToSymbol>},
         {kSearch, nullptr},
-        {kSearch, "findInFiles",    QT_TR_NOOP("Find in &Files..."), Key::UnknownKey, "Ctrl+Shift+F", 0, When::Always, Run<&W::FindInFiles>},
-        {kSearch, "nextResult",     QT_TR_NOOP("&Next Result"),      Key::UnknownKey, "F4",           0, When::Always, Run<&W::NextResult>},
-        {kSearch, "previousResult", QT_TR_NOOP("&Previous Result"),  Key::UnknownKey, "Shift+F4",     0, When::Always, Run<&W::PreviousResult>},
+        {kSearch, "findInFiles",    QT_TR_NOOP("Find in F&iles..."), Key::UnknownKey, "Ctrl+Shift+F", 0, When::Always, Run<&W::FindInFiles>},
+        {kSearch, "nextResult",     QT_TR_NOOP("Next Res&ult"),      Key::UnknownKey, "F4",           0, When::Always, Run<&W::NextResult>},
+        {kSearch, "previousResult", QT_TR_NOOP("Previous Resul&t"),  Key::UnknownKey, "Shift+F4",     0, When::Always, Run<&W::PreviousResult>},
         {kSearch, "stopSearch",     QT_TR_NOOP("&Stop Search"),      Key::UnknownKey, nullptr,        0, When::Always, Run<&W::StopSearch>},
 
         {kView, "zoomIn",    QT_TR_NOOP("Zoom &In"),      Key::ZoomIn,       "Ctrl+=", 53962},
@@ -178,7 +179,7 @@ QAction* MainWindow::AddCommand(const Command& command)
 {
     auto* action = new QAction(tr(command.text), this);
     action->setObjectName(QLatin1String(command.name));
-    QList<QKeySequence> keys = QKeySequence::keyBindings(command.keys);
+    QList<QKeySequence> keys = KnownKeys(QKeySequence::keyBindings(command.keys));
     const QKeySequence more(QLatin1String(command.moreKeys));
     if (!more.isEmpty() && !keys.contains(more))
         keys << more;
@@ -219,6 +220,10 @@ void MainWindow::BuildMenus()
             menu = menuBar()->addMenu(tr(title));
             if (title == kEdit)
                 edit = menu;
+            if (title == kSearch) {
+                m_find->AddActions(*menu);
+                menu->addSeparator();
+            }
         }
         if (command.name)
             menu->addAction(m_actions.emplace_back(AddCommand(command)));
@@ -229,11 +234,11 @@ void MainWindow::BuildMenus()
         if (command.name && QLatin1String(command.name) == QLatin1String("wrap"))
             menu->addMenu(schemes);
     }
-    m_find->AddActions(*edit->addMenu(tr("Fi&nd")));
     m_editing = new EditingMenu(*edit, [this] {
         const ScriptFrame* frame = CurrentFrame();
         return frame ? frame->View() : nullptr;
     });
+    GiveFirstKeysWay(findChildren<QAction*>());
     FillToolBar(*bar, *this);
     for (QMenu* each : menuBar()->findChildren<QMenu*>()) {
         connect(each, &QMenu::aboutToShow, this, [this, each] {

@@ -5,6 +5,7 @@
 #include "editing/ZNCoreEditorControlEx.h"
 #include "host/finding/FoundTexts.h"
 #include "host/finding/ResultsPane.h"
+#include "host/finding/SearchPlace.h"
 #include "host/problems/ProblemPane.h"
 #include "host/script/ScriptDoc.h"
 #include "host/script/ScriptFrame.h"
@@ -150,13 +151,16 @@ void MainWindow::BuildResults()
 
 void MainWindow::FindInFiles()
 {
+    CFindReplaceManager& manager = *zncoreeditor::GetFindReplaceManager();
+    const ScriptFrame* frame = CurrentFrame();
+    const ScriptDoc* script = frame ? frame->Script() : nullptr;
+    ProposePlace(manager, script ? script->GetPathName() : QString());
     CFindInFilesDlg dialog(m_frame);
     if (CZNCoreEditorControlEx* editor = CurrentEditor())
         dialog.m_text = editor->GetFindString();
     if (dialog.DoModal() != IDOK)
         return;
     constexpr int kInOpenFiles = 2;
-    const CFindReplaceManager& manager = *zncoreeditor::GetFindReplaceManager();
     FileSearchRequest request;
     request.text = manager.GetFind();
     request.wholeWord = manager.GetWholeWord();

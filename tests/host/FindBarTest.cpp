@@ -353,6 +353,17 @@ TEST_F(FindBars, ReplacesAllInOneStep)
     EXPECT_EQ(widget.text(), QStringLiteral("one two one"));
 }
 
+TEST_F(FindBars, ReplaceAllAndStayAtTheLine)
+{
+    SetText(QStringLiteral("one\none\nhere\none"));
+    editor->SetSel(10, 10, 1);
+    Seek(QStringLiteral("one"));
+    ReplaceWith(QStringLiteral("many of them"));
+    bar.ReplaceAll();
+    ASSERT_EQ(widget.text(), QStringLiteral("many of them\nmany of them\nhere\nmany of them"));
+    EXPECT_EQ(Selected(), Range(28, 28));
+}
+
 TEST_F(FindBars, MarksTheLinesOfATextAsItStands)
 {
     SetText(QStringLiteral("a.b\naxb\na.b a.b\n"));

@@ -3,7 +3,9 @@
 #include "tests/host/WorkbenchTest.h"
 
 #include "host/finding/ResultsPane.h"
+#include "host/finding/SearchPlace.h"
 #include "platform/dialogs/Dialog.h"
+#include "prefs/RegProfile.h"
 #include "search/FindReplaceManager.h"
 
 #include <QAbstractButton>
@@ -87,6 +89,20 @@ TEST_F(FindInFilesInWindow, WalksTheMatchesOverFilesAndBack)
     EXPECT_EQ(Editor().GetSelectionEnd(1), 11);
     Trigger("previousResult");
     EXPECT_EQ(Editor().GetSelectionStart(1), 0);
+}
+
+TEST(SearchPlace, IsTheFolderOfTheScriptUntilOneIsChosen)
+{
+    for (const char16_t* entry : {u"LocCombo", u"TypeCombo"})
+        CRegProfile().DeleteProfileValue(u"Preferences\\Search", entry);
+    CFindReplaceManager manager;
+    ProposePlace(manager, QString());
+    EXPECT_EQ(manager.GetLocation(), QString());
+    ProposePlace(manager, QStringLiteral("/scripts/a.sql"));
+    EXPECT_EQ(manager.GetLocation(), QStringLiteral("/scripts"));
+    EXPECT_EQ(manager.GetFileType(), QStringLiteral("*.sql"));
+    ProposePlace(manager, QStringLiteral("/others/b.sql"));
+    EXPECT_EQ(manager.GetLocation(), QStringLiteral("/scripts"));
 }
 
 TEST_F(FindInFilesInWindow, FindsOpenScriptsAsTheyAreEdited)

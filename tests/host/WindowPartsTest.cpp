@@ -3,16 +3,20 @@
 // bar, tabs that were closed.
 #include "host/folder/FolderPane.h"
 #include "host/help/KeysDialog.h"
+#include "host/icons/Style.h"
 #include "host/options/OptionsDialog.h"
 #include "host/outline/OutlinePane.h"
 #include "host/outline/SymbolPicker.h"
+#include "host/preferences/Appearance.h"
 #include "host/problems/ProblemPane.h"
 #include "host/script/ScriptTabs.h"
 #include "host/window/FieldMenus.h"
 #include "host/window/PathField.h"
+#include "looks/Schemes.h"
 #include "platform/services/OptionsServer.h"
 #include "tests/host/WorkbenchTest.h"
 
+#include <QAbstractButton>
 #include <QComboBox>
 #include <QFileSystemModel>
 #include <QLabel>
@@ -20,10 +24,14 @@
 #include <QMenu>
 #include <QMenuBar>
 #include <QMessageBox>
+#include <QStyleFactory>
 #include <QTest>
 #include <QToolBar>
 #include <QTreeView>
 #include <QTreeWidget>
+
+#include <algorithm>
+#include <cmath>
 
 namespace {
 
@@ -73,6 +81,59 @@ TEST_F(WindowParts, HaveAPictureForEveryTool)
         EXPECT_FALSE(isBlank) << action->objectName().toStdString();
     }
     EXPECT_GT(tools, 12);
+}
+
+double Lightness(QRgb colour)
+{
+    const auto part = [](int value) {
+        const double share = value / 255.0;
+        return share <= 0.03928 ? share / 12.92 : std::pow((share + 0.055) / 1.055, 2.4);
+    };
+    return 0.2126 * part(qRed(colour)) + 0.7152 * part(qGreen(colour)) +
+           0.0722 * part(qBlue(colour));
+}
+
+// The most that anything painted there stands off from the ground in the corner.
+double BestContrast(const QImage& picture)
+{
+    const double ground = Lightness(picture.pixel(1, 1));
+    double best = 1;
+    for (int y = 0; y < picture.height(); ++y) {
+        for (int x = 0; x < picture.width(); ++x) {
+            const double other = Lightness(picture.pixel(x, y));
+            best =
+                std::max(best, (std::max(ground, other) + 0.05) / (std::min(ground, other) + 0.05));
+        }
+    }
+    return best;
+}
+
+TEST_F(WindowParts, StayReadableWhenTheColoursChangeUnderThem)
+{
+    constexpr double kForDrawings = 3;
+    Style::Install();
+    Open("a.sql", "a");
+    Trigger("find");
+    for (const char* scheme : {"Dark", "Light"}) {
+        appearance::SetCurrent(QLatin1String(scheme));
+        QApplication::processEvents();
+        const QImage picture = m_window.grab().toImage();
+        int seen = 0;
+        for (auto* button : m_window.findChildren<QAbstractButton*>()) {
+            if (!button->isVisible() || !button->isEnabled() || button->visibleRegion().isEmpty())
+                continue;
+            ++seen;
+            EXPECT_GE(BestContrast(
+                          picture.copy(QRect(button->mapTo(&m_window, QPoint()), button->size()))),
+                      kForDrawings)
+                << scheme << " " << button->objectName().toStdString() << " "
+                << button->accessibleName().toStdString() << " "
+                << button->metaObject()->className();
+        }
+        EXPECT_GT(seen, 20);
+    }
+    appearance::SetCurrent(zncoreeditor::kDesktopScheme);
+    QApplication::setStyle(QStyleFactory::create("fusion"));
 }
 
 TEST_F(WindowParts, BringAClosedTabBack)

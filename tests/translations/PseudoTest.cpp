@@ -65,7 +65,7 @@ protected:
     static QStringList Names()
     {
         QStringList names = {"znworkbench", "a.sql", "Text", "UTF-8", "windows-1252", "CR LF",
-                             "LF",          "CR",    "INS",  "pt",    "Verdana"};
+                             "LF",          "CR",    "INS",  "pt",    "Verdana",      "*.sql"};
         const CFileTypeManager& languages = *zncoreeditor::GetFileTypeManager();
         for (int language = 0; language < languages.GetLanguageCount(); ++language)
             names << (languages.GetLanguageName(language));
