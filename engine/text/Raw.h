@@ -2,6 +2,8 @@
 // The stock engine by number, over its direct function. Positions and lengths count bytes of UTF-8.
 #pragma once
 
+#include "platform/text/VectorState.h"
+
 #include <Qsci/qsciscintillabase.h>
 
 #include <cstdint>
@@ -23,6 +25,7 @@ public:
 
     std::intptr_t Send(unsigned message, std::uintptr_t wParam = 0, std::intptr_t lParam = 0) const
     {
+        platform::ClearUpperHalves();
         return m_function(m_instance, message, wParam, lParam);
     }
 

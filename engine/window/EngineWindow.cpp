@@ -6,6 +6,7 @@
 #include "engine/text/Characters.h"
 #include "engine/window/Accessible.h"
 #include "engine/window/StyleLooks.h"
+#include "platform/text/VectorState.h"
 #include "platform/windows/ScrollBars.h"
 #include "platform/windows/Window.h"
 
@@ -190,11 +191,13 @@ LRESULT EngineWindow::Procedure(HWND window, UINT message, WPARAM wParam, LPARAM
 
 bool EngineWindow::event(QEvent* event)
 {
+    platform::ClearUpperHalves();
     return TellAfter(m_engine, [&] { return QsciScintillaBase::event(event); });
 }
 
 bool EngineWindow::viewportEvent(QEvent* event)
 {
+    platform::ClearUpperHalves();
     if (event->type() == QEvent::Drop)
         m_engine.EndEraseRun();
     if (event->type() == QEvent::Leave)

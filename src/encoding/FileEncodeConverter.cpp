@@ -3,6 +3,7 @@
 
 #include "encoding/ContentDetection.h"
 #include "platform/text/CodePage.h"
+#include "platform/text/VectorState.h"
 
 #include <algorithm>
 #include <iterator>
@@ -188,6 +189,7 @@ bool FileEncodeConverter::Convert(unsigned char* buffer, unsigned int& length,
 bool FileEncodeConverter::ConvertBlock(unsigned char* buffer, unsigned int length,
                                        unsigned int& remaining)
 {
+    platform::ClearUpperHalves();
     using Self = FileEncodeConverter;
     static constexpr FormRow kForms[] = {
         {encANSI, formAnsi, nullptr},

@@ -3,6 +3,7 @@
 
 #include "platform/text/AsciiRun.h"
 #include "platform/text/ShortRun.h"
+#include "platform/text/VectorState.h"
 
 #include <algorithm>
 #include <cstring>
@@ -96,6 +97,7 @@ ascii::Taken ShortTailToUnits(const unsigned char* bytes, std::size_t count, cha
 
 Extent ToUnitsWhileWellFormed(const unsigned char* bytes, std::size_t byteCount, char16_t* units)
 {
+    ClearUpperHalves();
     const unsigned char* at = bytes;
     const unsigned char* const end = bytes + byteCount;
     char16_t* out = units;
@@ -132,6 +134,7 @@ Extent ToUnitsWhileWellFormed(const unsigned char* bytes, std::size_t byteCount,
 
 std::size_t UnitCount(const unsigned char* bytes, std::size_t byteCount)
 {
+    ClearUpperHalves();
     std::size_t units = 0;
     std::size_t i = 0;
     while (i < byteCount) {
@@ -154,6 +157,7 @@ std::size_t UnitCount(const unsigned char* bytes, std::size_t byteCount)
 std::size_t ToUnits(const unsigned char* bytes, std::size_t byteCount, char16_t* units,
                     std::size_t capacity)
 {
+    ClearUpperHalves();
     std::size_t in = 0;
     std::size_t out = 0;
     while (in < byteCount) {
@@ -180,6 +184,7 @@ std::size_t ToUnits(const unsigned char* bytes, std::size_t byteCount, char16_t*
 
 std::size_t ByteCount(const char16_t* units, std::size_t unitCount)
 {
+    ClearUpperHalves();
     std::size_t bytes = 0;
     for (std::size_t i = 0; i < unitCount; ++i) {
         const char16_t unit = units[i];
@@ -193,6 +198,7 @@ std::size_t ByteCount(const char16_t* units, std::size_t unitCount)
 
 std::size_t ToBytes(const char16_t* units, std::size_t unitCount, unsigned char* bytes)
 {
+    ClearUpperHalves();
     const char16_t* at = units;
     const char16_t* const end = units + unitCount;
     unsigned char* out = bytes;

@@ -3,6 +3,7 @@
 
 #include "platform/text/Utf8.h"
 #include "platform/text/Utf8Shape.h"
+#include "platform/text/VectorState.h"
 #include "search/files/Screen.h"
 
 #include <algorithm>
@@ -118,6 +119,7 @@ FileText::Kind FileText::Open(const std::string& path, bool converts, std::size_
 // Appends what the file has next, up to so many bytes. False if it cannot be read.
 bool FileText::ReadInto(ByteBuffer& bytes, std::size_t wanted)
 {
+    platform::ClearUpperHalves();
     const std::size_t old = bytes.size();
     bytes.resize(old + wanted);
     std::size_t count = 0;
