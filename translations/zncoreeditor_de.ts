@@ -2852,5 +2852,13 @@ Eintragen?</translation>
         <source>Select &amp;Statement</source>
         <translation>&amp;Anweisung auswählen</translation>
     </message>
+    <message>
+        <source>Record &amp;Macro</source>
+        <translation>&amp;Makro aufzeichnen</translation>
+    </message>
+    <message>
+        <source>Pla&amp;y Macro</source>
+        <translation>Makro &amp;abspielen</translation>
+    </message>
 </context>
 </TS>

@@ -2852,5 +2852,13 @@ Write them?</source>
         <source>Select &amp;Statement</source>
         <translation>&amp;Seleccionar la instrucción</translation>
     </message>
+    <message>
+        <source>Record &amp;Macro</source>
+        <translation>Grabar &amp;macro</translation>
+    </message>
+    <message>
+        <source>Pla&amp;y Macro</source>
+        <translation>Re&amp;producir macro</translation>
+    </message>
 </context>
 </TS>

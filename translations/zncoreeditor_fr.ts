@@ -2852,5 +2852,13 @@ Les écrire&#xa0;?</translation>
         <source>Select &amp;Statement</source>
         <translation>Sélectionner l’&amp;instruction</translation>
     </message>
+    <message>
+        <source>Record &amp;Macro</source>
+        <translation>Enregistrer une &amp;macro</translation>
+    </message>
+    <message>
+        <source>Pla&amp;y Macro</source>
+        <translation>&amp;Jouer la macro</translation>
+    </message>
 </context>
 </TS>

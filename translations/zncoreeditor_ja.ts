@@ -2852,5 +2852,13 @@ Write them?</source>
         <source>Select &amp;Statement</source>
         <translation>文を選択(&amp;S)</translation>
     </message>
+    <message>
+        <source>Record &amp;Macro</source>
+        <translation>マクロを記録(&amp;M)</translation>
+    </message>
+    <message>
+        <source>Pla&amp;y Macro</source>
+        <translation>マクロを実行(&amp;Y)</translation>
+    </message>
 </context>
 </TS>

@@ -2852,5 +2852,13 @@ Write them?</source>
         <source>Select &amp;Statement</source>
         <translation>选择语句(&amp;S)</translation>
     </message>
+    <message>
+        <source>Record &amp;Macro</source>
+        <translation>录制宏(&amp;M)</translation>
+    </message>
+    <message>
+        <source>Pla&amp;y Macro</source>
+        <translation>播放宏(&amp;Y)</translation>
+    </message>
 </context>
 </TS>

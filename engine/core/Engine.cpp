@@ -69,7 +69,7 @@ const Answerers& AllAnswerers()
              {TextHandlers(), CaseHandlers(), PositionHandlers(), SettingHandlers(),
               PrintHandlers(), DocumentHandlers(), ImageHandlers(), ErrorHandlers(),
               AnalysisHandlers(), SearchHandlers(), LineHandlers(), ListHandlers(),
-              MarginTextHandlers(), LookHandlers()}) {
+              MarginTextHandlers(), LookHandlers(), SelectionHandlers()}) {
             for (const HandlerRow& row : handlers) {
                 Answerer& answerer = all[row.number - kFirstNumber];
                 answerer.handler = row.run;

@@ -30,6 +30,7 @@ std::span<const HandlerRow> ListHandlers();       // ListHandlers.cpp
 std::span<const HandlerRow> MarginTextHandlers(); // MarginTexts.cpp
 std::span<const HandlerRow> PositionHandlers();   // PositionHandlers.cpp
 std::span<const HandlerRow> SearchHandlers();     // SearchHandlers.cpp
+std::span<const HandlerRow> SelectionHandlers();  // SelectionHandlers.cpp
 std::span<const HandlerRow> SettingHandlers();    // SettingHandlers.cpp
 std::span<const HandlerRow> PrintHandlers();      // Printing.cpp
 std::span<const HandlerRow> LookHandlers();       // LookHandlers.cpp

@@ -5,6 +5,7 @@
 #include "control/EngineRecords.h"
 #include "control/LongLine.h"
 #include "editing/face/Private.h"
+#include "editing/operations/Macro.h"
 #include "looks/Schemes.h"
 #include "platform/windows/ActionUI.h"
 #include "platform/windows/Disposal.h"
@@ -85,6 +86,8 @@ ZNCoreEditorWidget::Private::Private(ZNCoreEditorWidget& widget)
 // it is what has led here, or the control is, both are taken out and stay until that is over.
 ZNCoreEditorWidget::Private::~Private()
 {
+    if (m_records)
+        SetMacroRecording(0);
     m_completion.reset();
     delete std::exchange(m_index, nullptr);
     if (m_lifetime) {
@@ -207,6 +210,10 @@ LRESULT ZNCoreEditorWidget::Private::Note(const SCNotification& record)
     case notify::CharAdded:
         m_added.push_back(static_cast<char32_t>(record.ch));
         return notify::kTellWhenOver;
+    case notify::MacroRecord:
+        if (m_records && IsMacroRecording())
+            AppendToMacro(record.message, record.wParam, record.lParam);
+        return 0;
     case engine::kLongLineShown:
         Q_EMIT q.longLineShown(record.line, record.length);
         return 0;
@@ -248,9 +255,14 @@ void ZNCoreEditorWidget::Private::TellUpdate()
     const bool hasMoved = caret != m_caret;
     const bool hadSelection = m_caret != m_anchor;
     const bool hasSelection = caret != anchor;
-    const bool hasSelected = (hasMoved || anchor != m_anchor) && (hadSelection || hasSelection);
+    std::vector<engine::SelectionEnds> selections;
+    if (q.cursorCount() > 1)
+        selections = Selections();
+    const bool hasSelected = ((hasMoved || anchor != m_anchor) && (hadSelection || hasSelection)) ||
+                             selections != m_selections;
     m_caret = caret;
     m_anchor = anchor;
+    m_selections = std::move(selections);
     if (hasMoved)
         Q_EMIT q.cursorPositionChanged(caret);
     if (alive && hasSelected)
@@ -259,8 +271,8 @@ void ZNCoreEditorWidget::Private::TellUpdate()
         Q_EMIT q.copyAvailable(hasSelection);
     if (alive)
         TellSettings(alive);
-    if (alive && !m_commands.isEmpty())
-        UpdateActions(m_commands, *m_control);
+    if (alive)
+        UpdateCommands();
     if (alive)
         Q_EMIT q.updateUi();
 }

@@ -63,6 +63,7 @@ class ZN_API ZNCoreEditorWidget : public QWidget
                    lineNumbersVisibleChanged)
     Q_PROPERTY(bool undoAvailable READ isUndoAvailable NOTIFY undoAvailable STORED false)
     Q_PROPERTY(bool redoAvailable READ isRedoAvailable NOTIFY redoAvailable STORED false)
+    Q_PROPERTY(bool recording READ isRecording NOTIFY recordingChanged STORED false)
     Q_PROPERTY(int lineCount READ lineCount NOTIFY lineCountChanged STORED false)
 
 public:
@@ -213,6 +214,33 @@ public:
     void centerCursor();
     /// @}
 
+    /// \name Several carets
+    /// People set them by Ctrl and a click, and columns by Alt and a drag or by Alt, Shift and an
+    /// arrow key. What is typed or pasted goes in at each. All else that tells of the caret or of
+    /// the selection means the main one.
+    /// @{
+
+    /// At least 1; columns have one in each line.
+    int cursorCount() const;
+    /// All selections, in the order of the text; one without a length is a caret alone.
+    QList<Range> selections() const;
+    /// They take the place of those before, each with a caret at its end, and the last is the main
+    /// one. Where two overlap, the later has the text. Nothing happens for an empty list.
+    void setSelections(const QList<Range>& selections);
+    /// Puts one more caret there, which is the main one then.
+    void addCursor(int position);
+    /// The same by line and column.
+    void addCursor(int line, int column);
+    /// The main caret and its selection stay.
+    void dropOtherCursors();
+    /// Whether columns are selected.
+    bool hasColumnSelection() const;
+    /// Selects columns over lines, with the carets at the second place. A column behind the end of
+    /// its line is one there, up to 10,000; in lines of 100,000 blanks' width and more all text
+    /// between the two places is selected instead.
+    void setColumnSelection(int line, int column, int caretLine, int caretColumn);
+    /// @}
+
     /// \name Files
     /// The name of a file decides nothing but where its bytes are: see setLanguageForFile.
     /// @{
@@ -347,6 +375,18 @@ public:
     bool insertTemplate(const QString& text, const Ask& ask = {});
     /// @}
 
+    /// \name Macros
+    /// What somebody types and commands, to be played again: one for the process, recorded in an
+    /// editor and played in any. Texts of more than a character that come at once, as by
+    /// insertPlainText, are not kept.
+    /// @{
+
+    /// Whether this editor records.
+    bool isRecording() const;
+    /// Whether there is one to play: something was recorded, and no editor records.
+    bool hasMacro() const;
+    /// @}
+
     /// \name Bookmarks
     /// @{
 
@@ -394,6 +434,12 @@ public Q_SLOTS:
     void insertPlainText(const QString& text); ///< in the selection's place
     /// Puts a paragraph of its own behind the text. The caret stays.
     void appendPlainText(const QString& text);
+    /// The macro before is gone. Nothing happens while any editor records.
+    void startRecording();
+    /// A recording also ends with its editor.
+    void stopRecording();
+    /// So many times, in one step of undo. Nothing happens without hasMacro().
+    void playMacro(int times = 1);
     /// Larger, of this editor alone.
     void zoomIn(int points = 1);
     /// Smaller.
@@ -438,13 +484,15 @@ Q_SIGNALS:
     void problemsChanged();
     /// One was set or taken away, here or by the command.
     void bookmarksChanged();
+    /// It records, or no longer.
+    void recordingChanged(bool records);
     /// Another file stands behind the text.
     void fileNameChanged(const QString& path);
     /// Somebody has typed it.
     void charAdded(char32_t character);
     /// The caret has gone there.
     void cursorPositionChanged(long position);
-    /// Another part of the text is selected, or none any more.
+    /// Other parts of the text are selected, or none any more; carets have come or gone.
     void selectionChanged();
     /// When the engine has brought its window up to date.
     void updateUi();

@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 // The face of the editor for plain Qt hosts, held to the control behind it.
+#include "control/Selections.h"
 #include "editing/ZNCoreEditorControlEx.h"
 #include "editing/ZNCoreEditorWidget.h"
 #include "platform/services/OptionsServer.h"
@@ -58,6 +59,10 @@ const Question kQuestions[] = {
      [](Control& c) { return long(c.GetSelectionStart(1)); }},
     {"selectionLength", [](Editor& e) { return long{e.selection().length}; },
      [](Control& c) { return long(c.GetSelectionEnd(1) - c.GetSelectionStart(1)); }},
+    {"cursorCount", [](Editor& e) { return long{e.cursorCount()}; },
+     [](Control& c) { return long(c.Call(engine::kGetSelections, 0, 0, 1)); }},
+    {"hasColumnSelection", [](Editor& e) { return long{e.hasColumnSelection()}; },
+     [](Control& c) { return long(c.SelectionIsRectangle(1)); }},
     {"isUndoAvailable", [](Editor& e) { return long{e.isUndoAvailable()}; },
      [](Control& c) { return long(c.CanUndo(1)); }},
     {"isRedoAvailable", [](Editor& e) { return long{e.isRedoAvailable()}; },
@@ -123,6 +128,20 @@ const Deed kDeeds[] = {
      [](Editor& e) { e.setLineWrapMode(Editor::LineWrapMode::WidgetWidth); }},
     {"selectionByLines", [](Control& c) { c.SetSel(19, 7, 1); },
      [](Editor& e) { e.setSelection(1, 5, 0, 7); }},
+    {"selections",
+     [](Control& c) {
+         const engine::SelectionEnds ends[] = {{21, 25}, {7, 12}};
+         c.Call(engine::kSetSelections, 2, reinterpret_cast<LPARAM>(ends), 1);
+     },
+     [](Editor& e) {
+         e.setSelections({{21, 4}, {7, 5}});
+     }},
+    {"columns",
+     [](Control& c) {
+         const engine::ColumnCorners corners = {{7, 26}, 0, 3};
+         c.Call(engine::kSetColumns, 0, reinterpret_cast<LPARAM>(&corners), 1);
+     },
+     [](Editor& e) { e.setColumnSelection(0, 7, 1, 15); }},
     {"append", [](Control& c) { c.AppendText(4, u"\nend", 1); },
      [](Editor& e) { e.appendPlainText(QStringLiteral("end")); }},
     {"insert", [](Control& c) { c.ReplaceSel(u"new", 1); },

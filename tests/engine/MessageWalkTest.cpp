@@ -6,6 +6,7 @@
 #include "control/Completion.h"
 #include "control/EngineLooks.h"
 #include "control/ExpressionCheck.h"
+#include "control/Selections.h"
 
 #include <QWidget>
 
@@ -205,7 +206,8 @@ TEST(MessageWalk, NumbersOutsideTheTableAnswerNothing)
                                {engine::kRestyle, true},       {engine::kExtendedTexts, true},
                                {engine::kExtendedText, true},  {engine::kSetLooks, true},
                                {engine::kShowMatches, true},   {engine::kExpressionProblem, true},
-                               {engine::kNextFolded, true}};
+                               {engine::kNextFolded, true},    {engine::kGetSelections, true},
+                               {engine::kSetSelections, true}, {engine::kSetColumns, true}};
     for (const MessageRow& row : engine::kMessageRows)
         known[row.number] = true;
     for (UINT number = 0; number <= 5000; ++number) {

@@ -3,6 +3,7 @@
 #include "control/EngineRecords.h"
 #include "editing/face/Private.h"
 #include "editing/hands/Hands.h"
+#include "editing/operations/Macro.h"
 #include "editing/operations/PrintStyle.h"
 #include "platform/windows/ActionUI.h"
 #include "platform/windows/DeviceContext.h"
@@ -91,6 +92,23 @@ void ZNCoreEditorWidget::Private::MakeCommands()
     goTo->setShortcut(QKeySequence(Qt::CTRL | Qt::Key_G));
     connect(goTo, &QAction::triggered, &q, [this] { AskForLine(); });
     m_commands += goTo;
+    const auto addMacro = [&](const char* name, const QString& text, Qt::Key key) {
+        auto* action = new QAction(text, &q);
+        action->setObjectName(QString::fromLatin1(name));
+        action->setShortcut(QKeySequence(Qt::CTRL | Qt::SHIFT | key));
+        m_commands += action;
+        return action;
+    };
+    QAction* record = addMacro("recordMacro", ZNCoreEditorWidget::tr("Record &Macro"), Qt::Key_R);
+    record->setCheckable(true);
+    connect(record, &QAction::triggered, &q, [this](bool on) {
+        const Lifetime alive(*this);
+        Record(on);
+        if (alive)
+            UpdateCommands();
+    });
+    QAction* play = addMacro("playMacro", ZNCoreEditorWidget::tr("Pla&y Macro"), Qt::Key_P);
+    connect(play, &QAction::triggered, &q, [this] { q.playMacro(); });
     for (const HandRow& row : Hands())
         add(row.name, HandText(row.text), row.number, QKeySequence(row.key | row.modifiers));
     for (const QAction* action : std::as_const(m_commands)) {
@@ -98,7 +116,23 @@ void ZNCoreEditorWidget::Private::MakeCommands()
             action->objectName() == QLatin1String("clearBookmarks"))
             connect(action, &QAction::triggered, &q, &ZNCoreEditorWidget::bookmarksChanged);
     }
+    UpdateCommands();
+}
+
+// A macro has no number that a control would know of.
+void ZNCoreEditorWidget::Private::UpdateCommands()
+{
+    if (m_commands.isEmpty())
+        return;
     UpdateActions(m_commands, *m_control);
+    for (QAction* action : std::as_const(m_commands)) {
+        if (action->objectName() == QLatin1String("recordMacro")) {
+            action->setChecked(q.isRecording());
+            action->setEnabled(q.isRecording() || !IsMacroRecording());
+        } else if (action->objectName() == QLatin1String("playMacro")) {
+            action->setEnabled(q.hasMacro() && !q.isReadOnly());
+        }
+    }
 }
 
 // People count lines from 1.
@@ -130,7 +164,8 @@ QAction* ZNCoreEditorWidget::command(const QString& name) const
 QMenu* ZNCoreEditorWidget::createStandardContextMenu()
 {
     auto* menu = new QMenu(this);
-    UpdateActions(commands(), *d->m_control);
+    commands();
+    d->UpdateCommands();
     for (const char* name : kMenu) {
         if (QAction* action = name ? command(QString::fromLatin1(name)) : nullptr)
             menu->addAction(action);

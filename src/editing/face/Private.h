@@ -3,6 +3,7 @@
 #pragma once
 
 #include "completion/popup/LiveIndex.h"
+#include "control/Selections.h"
 #include "editing/ZNCoreEditorControlEx.h"
 #include "editing/ZNCoreEditorWidget.h"
 #include "editing/language/EditorCompletion.h"
@@ -14,6 +15,7 @@
 #include <optional>
 #include <string>
 #include <utility>
+#include <vector>
 
 class ZNCoreEditorWidget::Private final : public CZNCoreEditorControlExCallback
 {
@@ -79,6 +81,11 @@ public:
     void ApplyFont();
     void MakeCommands();
     void AskForLine();
+    void UpdateCommands();
+
+    std::vector<engine::SelectionEnds> Selections() const; // that of the main caret last
+    void SetSelections(const std::vector<engine::SelectionEnds>& ends);
+    void Record(bool records);
 
     // What has a signal of its own when it changes, whoever changed it.
     struct Settings
@@ -109,6 +116,7 @@ public:
     std::unique_ptr<NotificationWindow> m_window;   // hears what the engine tells its parent
     Lifetime* m_lifetime = nullptr;
     bool m_modified = false;
+    bool m_records = false;      // a macro, unless the process has ended that
     std::optional<QFont> m_font; // that the host has set
     int m_tabWidth = 0;          // the same; 0: the language's
     QList<QAction*> m_commands;  // made when they are asked for
@@ -118,6 +126,7 @@ public:
     bool m_toldModified = false;
     long m_caret = 0;
     long m_anchor = 0;
+    std::vector<engine::SelectionEnds> m_selections; // if there are several
 
     // What is to be told.
     int m_operations = 0; // under way
