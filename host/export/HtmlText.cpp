@@ -94,9 +94,8 @@ bool WriteHtml(CZNCoreEditorControl& editor, long start, long end, const QString
             "<!DOCTYPE html>\n<html>\n<head>\n<meta charset=\"utf-8\">\n<title>%1</title>\n"
             "</head>\n<body style=\"background:%2\">\n<pre style=\"color:%3;background:%2;"
             "font-family:'%4',monospace;font-size:%5pt;tab-size:%6;-moz-tab-size:%6\">\n")
-            .arg(title.toHtmlEscaped(), Colour(plain.back), Colour(plain.fore), FaceOf(plain))
-            .arg(plain.points)
-            .arg(editor.GetTabWidth(1));
+            .arg(title.toHtmlEscaped(), Colour(plain.back), Colour(plain.fore), FaceOf(plain),
+                 QString::number(plain.points), QString::number(editor.GetTabWidth(1)));
     if (!write(head.toUtf8()))
         return false;
     std::u16string escaped;

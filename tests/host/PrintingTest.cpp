@@ -147,6 +147,25 @@ TEST_F(PrintingScripts, PreviewsNoMoreThanItCanKeep)
     EXPECT_EQ(title, QString::fromUtf8("a.sql – print preview, the first 300 pages"));
 }
 
+TEST_F(PrintingScripts, SaysTheNameOfTheScriptAsItIs)
+{
+    Open("a%1%2.sql", QByteArray("select 1 from first;\n").repeated(60000));
+    QString title;
+    QTimer::singleShot(0, [&] {
+        auto* dialog = qobject_cast<QDialog*>(QApplication::activeModalWidget());
+        ASSERT_TRUE(dialog);
+        title = dialog->windowTitle();
+        dialog->reject();
+    });
+    Trigger("printPreview");
+    EXPECT_EQ(title.toStdString(), "a%1%2.sql – print preview, the first 300 pages");
+    m_paths.path = PathOf("a.html");
+    Trigger("saveHtml");
+    const QByteArray html = Read("a.html");
+    EXPECT_TRUE(html.contains("<title>a%1%2.sql</title>"));
+    EXPECT_TRUE(html.contains("pt;tab-size:4;")) << html.left(500).toStdString();
+}
+
 TEST_F(PrintingScripts, ShowsInThePreviewWhatTheTextHasBecomeMeanwhile)
 {
     Open("a.sql", "select 1 from first;\n");

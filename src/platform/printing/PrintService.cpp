@@ -65,8 +65,7 @@ QString PreviewTitle(const QString& title, bool isWhole)
 {
     return isWhole ? Texts::tr("%1 – print preview").arg(title)
                    : Texts::tr("%1 – print preview, the first %2 pages")
-                         .arg(title)
-                         .arg(IPrintService::kMostPreviewed);
+                         .arg(title, QString::number(IPrintService::kMostPreviewed));
 }
 
 } // namespace
