@@ -44,7 +44,9 @@ void SaveMacro(QWidget* window)
         path += kEnding;
     const QByteArray bytes = WriteMacro(GetMacroHead());
     QSaveFile file(path);
-    if (!file.open(QIODevice::WriteOnly) || file.write(bytes) != bytes.size() || !file.commit())
+    // A commit forgets what went wrong when it wrote the last bytes.
+    if (!file.open(QIODevice::WriteOnly) || file.write(bytes) != bytes.size() || !file.flush() ||
+        !file.commit())
         GetPrompts().Tell(
             window, Texts::tr("The macro was not saved to %1. %2").arg(path, file.errorString()));
 }
@@ -57,7 +59,9 @@ void LoadMacro(QWidget* window)
     if (path.isEmpty())
         return;
     QFile file(path);
-    if (!QFileInfo(path).isFile() || file.size() > kLongest || !file.open(QIODevice::ReadOnly)) {
+    const QFileInfo info(path);
+    const bool isOther = info.exists() && !info.isFile(); // a pipe may never end
+    if (isOther || !file.open(QIODevice::ReadOnly) || file.size() > kLongest) {
         GetPrompts().Tell(window, Texts::tr("%1 cannot be read. %2").arg(path, file.errorString()));
         return;
     }
@@ -68,8 +72,7 @@ void LoadMacro(QWidget* window)
                               ? Texts::tr("%1 is not a macro.").arg(path)
                               : Texts::tr("%1 is not a macro that can be played: line %2 is no "
                                           "command that is recorded.")
-                                    .arg(path)
-                                    .arg(read.badLine + 1));
+                                    .arg(path, QString::number(read.badLine + 1)));
         return;
     }
     FreeMacro();

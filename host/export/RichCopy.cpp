@@ -48,8 +48,10 @@ bool SaveAsHtml(CZNCoreEditorControlEx& editor, const QString& title, const QStr
                 QWidget* window)
 {
     QSaveFile file(path);
+    // A commit forgets what went wrong when it wrote the last bytes.
     const bool isSaved = file.open(QIODevice::WriteOnly) &&
-                         WriteHtml(editor, 0, editor.GetLength(1), title, file) && file.commit();
+                         WriteHtml(editor, 0, editor.GetLength(1), title, file) && file.flush() &&
+                         file.commit();
     if (!isSaved)
         GetPrompts().Tell(window, Texts::tr("%1 could not be written: %2")
                                       .arg(QDir::toNativeSeparators(path), file.errorString()));

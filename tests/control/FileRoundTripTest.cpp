@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 // Load and save through the real engine.
 #include "tests/control/ControlFixture.h"
+#include "tests/platform/file/FullDisk.h"
 
 #include <QDir>
 
@@ -8,7 +9,6 @@
 #include <iostream>
 #include <random>
 
-#include <sys/resource.h>
 #include <sys/wait.h>
 #include <unistd.h>
 
@@ -311,22 +311,16 @@ TEST_F(Files, ADiskThatFillsUpLeavesTheOldFileWithCare)
     control.SetCarefulFiles(true);
     Open(std::string(300'000, 'n'));
     WriteFile("out.sql", "old text");
-    struct rlimit before;
-    ASSERT_EQ(getrlimit(RLIMIT_FSIZE, &before), 0);
-    const auto handler = std::signal(SIGXFSZ, SIG_IGN);
     for (const rlim_t room : {0ul, 4096ul, 65'536ul, 299'999ul}) {
-        const struct rlimit limit
+        bool saved = true;
         {
-            room, before.rlim_max
-        };
-        ASSERT_EQ(setrlimit(RLIMIT_FSIZE, &limit), 0);
-        const bool saved = Save();
-        setrlimit(RLIMIT_FSIZE, &before);
+            const FullDisk full(room);
+            saved = Save();
+        }
         EXPECT_FALSE(saved) << room;
         EXPECT_EQ(ReadFile("out.sql"), "old text") << room;
         EXPECT_EQ(control.GetFileName().toStdU16String(), PathOf("in.sql"));
     }
-    std::signal(SIGXFSZ, handler);
     EXPECT_EQ(QDir(folder.path()).entryList(QDir::Files | QDir::Hidden).size(), 2);
     EXPECT_TRUE(Save());
     EXPECT_EQ(ReadFile("out.sql").size(), 300'000u);

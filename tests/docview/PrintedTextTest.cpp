@@ -6,6 +6,7 @@
 #include "platform/printing/PrintJob.h"
 #include "platform/printing/PrintService.h"
 #include "platform/windows/DeviceContext.h"
+#include "tests/platform/file/FullDisk.h"
 
 #include <QBuffer>
 #include <QPageSize>
@@ -14,10 +15,6 @@
 
 #include <algorithm>
 #include <random>
-
-#include <sys/resource.h>
-
-#include <csignal>
 
 namespace {
 
@@ -77,23 +74,6 @@ protected:
     }
 
     Pdf pdf;
-};
-
-class NoMoreThan
-{
-public:
-    explicit NoMoreThan(rlim_t bytes)
-    {
-        std::signal(SIGXFSZ, SIG_IGN);
-        getrlimit(RLIMIT_FSIZE, &m_before);
-        rlimit limit = m_before;
-        limit.rlim_cur = bytes;
-        setrlimit(RLIMIT_FSIZE, &limit);
-    }
-    ~NoMoreThan() { setrlimit(RLIMIT_FSIZE, &m_before); }
-
-private:
-    rlimit m_before;
 };
 
 } // namespace
@@ -241,11 +221,28 @@ TEST_F(PrintedText, IsNotThereWhereTheDiskIsFull)
         text += QString::number(line * 7919) + u'\n';
     Put(text, 0, 0);
     {
-        const NoMoreThan limit(20000);
+        const FullDisk full(20000);
         view->OnFilePrint();
     }
     EXPECT_FALSE(pdf.done);
     EXPECT_FALSE(QFile::exists(pdf.path));
+    EXPECT_EQ(QDir(folder.path()).entryList(QDir::Files), QStringList());
+    EXPECT_EQ(user.asked, QStringList{pdf.path + " could not be written."});
+}
+
+// So few of them that they are written when the file is closed.
+TEST_F(PrintedText, IsNotThereWhereItsLastBytesFindNoRoom)
+{
+    Put("text", 0, 0);
+    view->OnFilePrint();
+    ASSERT_TRUE(pdf.done);
+    const qint64 size = QFileInfo(pdf.path).size();
+    ASSERT_TRUE(QFile::remove(pdf.path));
+    {
+        const FullDisk full(static_cast<rlim_t>(size) - 1);
+        view->OnFilePrint();
+    }
+    EXPECT_FALSE(pdf.done);
     EXPECT_EQ(QDir(folder.path()).entryList(QDir::Files), QStringList());
     EXPECT_EQ(user.asked, QStringList{pdf.path + " could not be written."});
 }
@@ -255,7 +252,7 @@ TEST_F(PrintedText, LeavesTheFileThatWasThereWhereItFails)
     Write("printed.pdf", "before");
     Put(QString("some text\n").repeated(3000), 0, 0);
     {
-        const NoMoreThan limit(2000);
+        const FullDisk full(2000);
         view->OnFilePrint();
     }
     EXPECT_FALSE(pdf.done);

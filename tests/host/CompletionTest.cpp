@@ -7,6 +7,7 @@
 #include "host/completion/MacroFile.h"
 #include "host/completion/TemplateStore.h"
 #include "tests/host/WorkbenchTest.h"
+#include "tests/platform/file/FullDisk.h"
 
 #include <QDialog>
 #include <QLineEdit>
@@ -274,6 +275,64 @@ TEST_F(Completion, PlaysAMacroOfAThousandStepsAsOneChange)
     EXPECT_EQ(Text(), QString(1000, u'x'));
     Editor().Undo(1);
     EXPECT_EQ(Text(), QString());
+    FreeMacro();
+}
+
+TEST_F(Completion, SavesAMacroAndLoadsIt)
+{
+    Show("|");
+    for (const char16_t* text : {u"a", u"b"})
+        AppendToMacro(2170, 0, reinterpret_cast<LPARAM>(text));
+    m_window.UpdateAll();
+    m_prompts.file = PathOf("mine");
+    Trigger("saveMacro");
+    EXPECT_EQ(Read("mine.znmacro").toStdString(), "macro 1\ntype a\ntype b\n");
+    FreeMacro();
+    m_prompts.file = PathOf("mine.znmacro");
+    Trigger("loadMacro");
+    Trigger("playMacro");
+    EXPECT_EQ(Text().toStdString(), "ab");
+    EXPECT_EQ(m_prompts.told.join('|').toStdString(), "");
+    FreeMacro();
+}
+
+TEST_F(Completion, KeepsTheMacroThatWasSavedBeforeWhereTheDiskIsFull)
+{
+    Show("|");
+    AppendToMacro(2170, 0, reinterpret_cast<LPARAM>(u"a"));
+    m_window.UpdateAll();
+    m_prompts.file = Write("a.znmacro", "before");
+    {
+        const FullDisk full(0);
+        Trigger("saveMacro");
+    }
+    EXPECT_EQ(Read("a.znmacro"), QByteArray("before"));
+    ASSERT_EQ(m_prompts.told.size(), 1);
+    EXPECT_TRUE(m_prompts.told[0].startsWith("The macro was not saved to " + m_prompts.file));
+    FreeMacro();
+}
+
+TEST_F(Completion, SaysWhyAMacroIsNotLoadedAndKeepsTheOneBefore)
+{
+    Show("|");
+    AppendToMacro(2170, 0, reinterpret_cast<LPARAM>(u"x"));
+    m_prompts.file = Write("a%2%1.znmacro", "macro 1\ntype a\nrun\n");
+    Trigger("loadMacro");
+    ASSERT_EQ(m_prompts.told.size(), 1);
+    EXPECT_EQ(m_prompts.told[0].toStdString(),
+              m_prompts.file.toStdString() + " is not a macro that can be played: line 3 is no "
+                                             "command that is recorded.");
+    m_prompts.file = Write("a.znmacro", "begin\n");
+    Trigger("loadMacro");
+    m_prompts.file = PathOf("none.znmacro");
+    Trigger("loadMacro");
+    ASSERT_EQ(m_prompts.told.size(), 3);
+    EXPECT_EQ(m_prompts.told[1].toStdString(),
+              PathOf("a.znmacro").toStdString() + " is not a macro.");
+    EXPECT_TRUE(
+        m_prompts.told[2].startsWith(PathOf("none.znmacro") + " cannot be read. No such file"));
+    Trigger("playMacro");
+    EXPECT_EQ(Text(), QStringLiteral("x"));
     FreeMacro();
 }
 

@@ -2,6 +2,7 @@
 // Printing, PDFs, rich copies and HTML from the workbench's menus.
 #include "host/printing/WorkbenchPrinter.h"
 #include "tests/host/WorkbenchTest.h"
+#include "tests/platform/file/FullDisk.h"
 
 #include <QClipboard>
 #include <QElapsedTimer>
@@ -296,6 +297,19 @@ TEST_F(PrintingScripts, SavesHtmlThatReadsAsTheScript)
     Trigger("saveHtml");
     ASSERT_EQ(m_prompts.told.size(), 1);
     EXPECT_TRUE(m_prompts.told[0].contains("no/such.html could not be written"));
+}
+
+TEST_F(PrintingScripts, KeepsTheHtmlThatWasThereWhereTheDiskIsFull)
+{
+    Open("a.sql", "select 1;\n");
+    m_paths.path = Write("a.html", "before");
+    {
+        const FullDisk full(0);
+        Trigger("saveHtml");
+    }
+    EXPECT_EQ(Read("a.html"), QByteArray("before"));
+    ASSERT_EQ(m_prompts.told.size(), 1);
+    EXPECT_TRUE(m_prompts.told[0].startsWith(m_paths.path + " could not be written: "));
 }
 
 TEST_F(PrintingScripts, OpensWhatTheCaretStandsOn)

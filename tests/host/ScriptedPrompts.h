@@ -61,6 +61,10 @@ public:
         return buttons == Buttons::Ok ? Answer::Ok : answer;
     }
 
+    QString AskOpenFile(HWND, const QString&) override { return file; }
+    QString AskSaveFile(HWND, const QString&, const QString&) override { return file; }
+
+    QString file; // to open or to save, that is no script
     QStringList filesToOpen;
     std::optional<OpenChoice> whatToOpen;
     std::optional<SaveTarget> saveTarget;

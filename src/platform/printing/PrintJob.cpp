@@ -224,7 +224,8 @@ public:
             return result;
         if (result <= 0 || !m_begun)
             m_file->cancelWriting();
-        return m_file->commit() || !m_begun ? result : -1;
+        // A commit forgets what went wrong when it wrote the last bytes.
+        return (m_file->flush() && m_file->commit()) || !m_begun ? result : -1;
     }
 
     void AbortDoc() override

@@ -16,7 +16,6 @@
 #include <random>
 #include <string>
 
-#include <sys/resource.h>
 #include <sys/stat.h>
 #include <sys/wait.h>
 #include <sys/xattr.h>
@@ -239,27 +238,18 @@ TEST_F(TargetFiles, BesideSurvivesADiskThatFillsUpAtAnyPoint)
     const std::string old = "old text";
     Put("a", old);
     const std::string text(300'000, 'n');
-    struct rlimit before;
-    ASSERT_EQ(getrlimit(RLIMIT_FSIZE, &before), 0);
-    const auto handler = std::signal(SIGXFSZ, SIG_IGN);
     for (const rlim_t room : {0ul, 1ul, 65'535ul, 65'536ul, 200'000ul, 299'999ul}) {
-        const struct rlimit limit
-        {
-            room, before.rlim_max
-        };
-        ASSERT_EQ(setrlimit(RLIMIT_FSIZE, &limit), 0);
         bool closed = true;
         {
+            const FullDisk full(room);
             TargetFile file;
             ASSERT_TRUE(file.OpenBeside(PathOf("a")));
             closed = WriteAll(file, text);
         }
-        setrlimit(RLIMIT_FSIZE, &before);
         EXPECT_FALSE(closed) << room;
         EXPECT_EQ(Get("a"), old) << room;
         EXPECT_EQ(Entries(), 1u) << room;
     }
-    std::signal(SIGXFSZ, handler);
     TargetFile file;
     ASSERT_TRUE(file.OpenBeside(PathOf("a")));
     EXPECT_TRUE(WriteAll(file, text));
