@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "host/window/Reasons.h"
 
+#include "common/Translations.h"
 #include "editing/ZNCoreEditorControlEx.h"
 #include "platform/windows/ActionUI.h"
 
@@ -88,11 +89,6 @@ QAction* ActionFor(UINT command, const QMainWindow& window)
     return nullptr;
 }
 
-QString Plain(QString text)
-{
-    return text.remove(u'&');
-}
-
 constexpr const char* kWithoutScript[] = {"reopenClosed", "saveAll", "next", "previous"};
 
 } // namespace
@@ -144,9 +140,9 @@ void SpeakAsMenus(const QMenu& menu, const QMainWindow& window)
         entry->setProperty(kCommandName, action->objectName());
         const QString own = entry->text().section(u'\t', 0, 0);
         const bool isInPart = menu.menuAction()->property(kCommandName).isValid();
-        const bool isSame = isInPart || Plain(own) == Plain(action->text());
+        const QString words = zncoreeditor::WithoutMnemonic(action->text());
+        const bool isSame = isInPart || zncoreeditor::WithoutMnemonic(own) == words;
         const QString keys = action->shortcut().toString(QKeySequence::NativeText);
-        entry->setText((isSame ? own : Plain(action->text())) +
-                       (keys.isEmpty() ? QString() : u'\t' + keys));
+        entry->setText((isSame ? own : words) + (keys.isEmpty() ? QString() : u'\t' + keys));
     }
 }

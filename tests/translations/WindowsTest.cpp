@@ -7,6 +7,7 @@
 #include <QDialog>
 #include <QLineEdit>
 #include <QMenuBar>
+#include <QRegularExpression>
 #include <QTreeWidget>
 
 #include <algorithm>
@@ -17,6 +18,12 @@ class GermanWindows : public Tour
 {
 protected:
     GermanWindows() : Tour(QStringLiteral("de")) {}
+};
+
+class JapaneseWindows : public Tour
+{
+protected:
+    JapaneseWindows() : Tour(QStringLiteral("ja")) {}
 };
 
 QStringList Words(const QList<QAction*>& actions)
@@ -71,4 +78,18 @@ TEST_F(GermanWindows, LeaveRoomForCommandsBesideTheirKeys)
                           list->fontMetrics().horizontalAdvance(list->topLevelItem(row)->text(0)));
     EXPECT_GT(widest, 0);
     EXPECT_GE(list->columnWidth(0), widest);
+}
+
+// The letter to press stands in brackets behind a word, or not at all.
+TEST_F(JapaneseWindows, HaveNoLetterInAMenuThatCannotBePressed)
+{
+    static const QRegularExpression dead(QStringLiteral("\\([A-Z0-9]\\)"));
+    int entries = 0;
+    ForEachMenu([&entries](QMenu& menu) {
+        for (const QAction* action : menu.actions()) {
+            ++entries;
+            EXPECT_FALSE(action->text().contains(dead)) << action->text().toStdString();
+        }
+    });
+    EXPECT_GT(entries, 200);
 }
