@@ -424,15 +424,15 @@ void MainWindow::OnScriptChanged(ScriptDoc& script)
 void MainWindow::UpdateTitle()
 {
     const ScriptFrame* frame = CurrentFrame();
+    ScriptDoc* script = frame ? frame->Script() : nullptr;
+    const bool isModified = script && script->IsModified();
     QString caption = frame ? frame->Caption() : QString();
-    const bool isModified = caption.endsWith(QLatin1String(" *"));
     if (isModified)
-        caption.chop(1);
+        caption.chop(1); // the star
     const auto verbatim = [](QString text) {
         return text.replace(QLatin1String("[*]"), QLatin1String("[*][*]"));
     };
     // Scripts of one name are told apart by their folders.
-    const ScriptDoc* script = frame ? frame->Script() : nullptr;
     const QString folder = script ? ShortFolder(script->GetPathName()) : QString();
     QString title = QStringLiteral("znworkbench");
     if (frame)

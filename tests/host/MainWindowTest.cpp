@@ -55,6 +55,16 @@ TEST_F(MainWindows, TellsScriptsOfOneNameApartByTheirFolders)
     EXPECT_EQ(m_window.windowTitle().count("–"), 1) << "a script without a file has no folder";
 }
 
+TEST_F(MainWindows, TakesNoStarOfANameForAChange)
+{
+    Open("orders *", "select 1;\n");
+    EXPECT_FALSE(m_window.isWindowModified());
+    EXPECT_TRUE(m_window.windowTitle().startsWith("orders *[*]"));
+    Type(u"x");
+    EXPECT_TRUE(m_window.isWindowModified());
+    EXPECT_TRUE(m_window.windowTitle().startsWith("orders * [*]"));
+}
+
 TEST_F(MainWindows, MarksAChangedScriptUntilTheChangeIsUndone)
 {
     Open("orders.sql", "select 1;\n");
