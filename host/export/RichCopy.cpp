@@ -28,7 +28,10 @@ struct Texts
 void CopyWithColours(CZNCoreEditorControlEx& editor)
 {
     const CharacterRange range = editor.GetSelection();
-    if (editor.SelectionIsRectangle(1) || range.cpMin >= range.cpMax) {
+    const long length = range.cpMax - range.cpMin;
+    const bool isOnePiece =
+        !editor.SelectionIsRectangle(1) && editor.GetSelText(nullptr, 1) - 1 == length;
+    if (!isOnePiece || length <= 0) {
         editor.Copy(1);
         return;
     }

@@ -4,6 +4,7 @@
 #include "tests/host/WorkbenchTest.h"
 #include "tests/platform/file/FullDisk.h"
 
+#include <QAbstractScrollArea>
 #include <QClipboard>
 #include <QElapsedTimer>
 #include <QMimeData>
@@ -14,6 +15,7 @@
 #include <QPrinterInfo>
 #include <QProcess>
 #include <QProgressDialog>
+#include <QTest>
 #include <QTextDocument>
 #include <QTimer>
 
@@ -266,6 +268,27 @@ TEST_F(PrintingScripts, CopiesColoursBesideThePlainText)
     EXPECT_TRUE(data->data("text/rtf").startsWith("{\\rtf1\\ansi"));
     EXPECT_TRUE(data->data("text/rtf").contains("<b> & \\u228?"));
     EXPECT_TRUE(data->hasFormat("application/rtf"));
+}
+
+// Of several selections no single run of colours can be made.
+TEST_F(PrintingScripts, CopiesSeveralSelectionsAsPlainCopyDoes)
+{
+    Open("a.sql", "one two three\n");
+    QWidget* viewport = qobject_cast<QAbstractScrollArea*>(Editor().GetSafeHwnd())->viewport();
+    Editor().GotoPos(0, 1);
+    QTest::mouseClick(
+        viewport, Qt::LeftButton, Qt::ControlModifier,
+        QPoint(Editor().PointXFromPosition(8, 1) + 1, Editor().PointYFromPosition(8, 1) + 3));
+    for (int i = 0; i < 3; ++i)
+        QTest::keyClick(Editor().GetSafeHwnd(), Qt::Key_Right, Qt::ShiftModifier);
+    QApplication::processEvents();
+    m_window.FollowNow();
+    Trigger("copy");
+    const QString plain = QGuiApplication::clipboard()->text();
+    ASSERT_EQ(plain.toStdString(), "onethr");
+    Trigger("copyWithColours");
+    EXPECT_EQ(QGuiApplication::clipboard()->text(), plain);
+    EXPECT_FALSE(QGuiApplication::clipboard()->mimeData()->hasHtml());
 }
 
 TEST_F(PrintingScripts, CopiesWhatRtfHasSignsForAsText)
