@@ -314,13 +314,23 @@ void ScriptView::GoToColumn(long column)
     m_coreEditor.GotoPos(position, 1);
 }
 
+// Of a column without the line ends that stand between its lines in a copy.
+long ScriptView::SelectedCount()
+{
+    if (m_coreEditor.SelectionIsRectangle(1)) {
+        const QString text = m_coreEditor.GetSelText();
+        return static_cast<long>(text.size() - text.count(u'\r') - text.count(u'\n'));
+    }
+    return m_coreEditor.GetSelText(nullptr, 1) - 1; // at all carets
+}
+
 QString ScriptView::CaretText()
 {
     const long caret = m_coreEditor.GetCurrentPos(1);
     const QString place = Texts::tr("Line %1, column %2")
                               .arg(m_coreEditor.LineFromPosition(caret, 1) + 1)
                               .arg(m_coreEditor.GetColumn(caret, 1) + 1);
-    const long selected = m_coreEditor.GetSelectionEnd(1) - m_coreEditor.GetSelectionStart(1);
+    const long selected = SelectedCount();
     return selected > 0 ? place + Texts::tr(" (%1 selected)").arg(selected) : place;
 }
 

@@ -60,6 +60,7 @@ protected:
 
 private:
     QPoint MenuPlaceAtCaret(); // on the screen
+    long SelectedCount();      // UTF-16 units
     ScriptView();
     ~ScriptView() override;
     void LookAtFile(); // and asks about what others did to it

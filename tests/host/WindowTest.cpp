@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 // What the window offers around the script: tabs, the palette, fields that open, the find bar's
 // lights.
+#include "control/EngineModes.h"
 #include "host/finding/FindBar.h"
 #include "host/script/ScriptTabs.h"
 #include "host/window/CommandPalette.h"
@@ -95,6 +96,15 @@ TEST_F(Windows, CountWhatIsSelected)
     Editor().SetSel(0, 4, 1);
     Q_EMIT Script().StateChanged();
     EXPECT_EQ(Status("caret"), QStringLiteral("Line 1, column 5 (4 selected)"));
+}
+
+TEST_F(Windows, CountWhatIsSelectedInAColumnAlone)
+{
+    Open("one.sql", "select 1;\r\nselect 2;\r\nselect 3;\r\n");
+    Editor().SetSel(2, 26, 1); // from the first line's third letter to the third line's fifth
+    Editor().SetSelectionMode(engine::selection::Rectangle, 1);
+    Q_EMIT Script().StateChanged();
+    EXPECT_EQ(Status("caret"), QStringLiteral("Line 3, column 5 (6 selected)"));
 }
 
 TEST_F(Windows, SayWhichMatchIsSelected)
