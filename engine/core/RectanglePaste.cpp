@@ -75,6 +75,7 @@ void PasteRectangle(const Raw& raw, std::string_view bytes)
     const auto caret = raw.Send(Sci::SCI_GETCURRENTPOS);
     raw.Send(Sci::SCI_SETEMPTYSELECTION, static_cast<std::uintptr_t>(caret));
     Target target(raw);
+    bytes = bytes.substr(0, bytes.find_last_not_of("\r\n") + 1); // a copy ends with a line end
     while (!bytes.empty()) {
         const std::size_t end = std::min(bytes.find_first_of("\r\n"), bytes.size());
         target.Put(bytes.substr(0, end));

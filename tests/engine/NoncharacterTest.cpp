@@ -199,6 +199,18 @@ TEST_P(Noncharacters, ChangeNothingElseAboutARectangleThatIsPasted)
     }
 }
 
+TEST_P(Noncharacters, BringNoLineBehindARectangleThatIsPastedIntoTheLastOne)
+{
+    EngineUnderTest source;
+    source.SetText(u"Q\nR");
+    SelectRectangle(source, 0, 3);
+    source.Send(msg::Copy);
+    m_engine.SetText(m_character + u"\na");
+    m_engine.Send(msg::DocumentEnd);
+    m_engine.Send(msg::Paste);
+    EXPECT_EQ(m_engine.Text(), m_character + u"\naQ\n R");
+}
+
 TEST_P(Noncharacters, AreBesideARectangleThatIsPastedWithAllOfItsText)
 {
     const QString pasted = QStringLiteral("Q") + QChar(0) + QStringLiteral("R");
