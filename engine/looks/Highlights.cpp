@@ -27,8 +27,11 @@ Highlights::Highlights(const Raw& raw, const StoredText& text, int indicator,
 
 void Highlights::Show(std::string sought, int flags)
 {
-    if (sought == m_sought && flags == m_flags)
+    if (sought == m_sought && flags == m_flags) {
+        if (!IsShown())
+            Erase(); // what another window of the text has drawn
         return;
+    }
     m_sought = std::move(sought);
     m_flags = flags;
     m_timer.stop();
@@ -60,11 +63,10 @@ void Highlights::SearchAnewSoon()
 
 void Highlights::Erase()
 {
-    if (!m_isDrawn)
+    if (!IsDrawnAnywhere(m_raw, m_indicator))
         return;
     const IndicatorScope scope(m_raw, m_indicator);
     m_raw.Send(Sci::SCI_INDICATORCLEARRANGE, 0, m_raw.Length());
-    m_isDrawn = false;
 }
 
 // Visits matches until one says to stop; the place where the search has come to.
@@ -104,7 +106,6 @@ void Highlights::FillVisible()
     ForEach(from, to, [this](search::Range match) {
         m_raw.Send(Sci::SCI_INDICATORFILLRANGE, static_cast<std::uintptr_t>(match.start),
                    match.end - match.start);
-        m_isDrawn = true;
         return true;
     });
 }

@@ -45,7 +45,6 @@ private:
     QTimer m_timer;
     std::string m_sought;
     int m_flags = 0;
-    bool m_isDrawn = false;
     long m_searched = 0; // bytes from the text's start
     std::vector<long> m_lines;
 };

@@ -25,4 +25,13 @@ private:
     WPARAM m_before;
 };
 
+// Of the document, whichever of its windows has drawn it.
+inline bool IsDrawnAnywhere(const Raw& raw, int indicator)
+{
+    const auto number = static_cast<std::uintptr_t>(indicator);
+    const auto end = raw.Send(QsciScintillaBase::SCI_INDICATOREND, number, std::intptr_t{0});
+    return (end > 0 && end < raw.Length()) ||
+           raw.Send(QsciScintillaBase::SCI_INDICATORVALUEAT, number, std::intptr_t{0}) != 0;
+}
+
 } // namespace engine

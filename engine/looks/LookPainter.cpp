@@ -5,6 +5,7 @@
 #include "engine/looks/IndicatorScope.h"
 #include "engine/looks/TabArrows.h"
 
+#include <QApplication>
 #include <QMouseEvent>
 #include <QPaintEvent>
 #include <QPainter>
@@ -47,10 +48,7 @@ LookPainter::LookPainter(QsciScintillaBase& window, const Raw& raw, const Stored
       })
 {
     m_rest.setSingleShot(true);
-    QObject::connect(&m_rest, &QTimer::timeout, &window, [this] {
-        LookForOccurrences();
-        LightStatement();
-    });
+    QObject::connect(&m_rest, &QTimer::timeout, &window, [this] { Rested(); });
 }
 
 QColor LookPainter::Colour(COLORREF colour) const
@@ -310,6 +308,11 @@ void LookPainter::FocusChanged(bool hasFocus)
         m_raw.Send(Sci::SCI_SETSELBACK, 1,
                    static_cast<std::intptr_t>(hasFocus ? m_looks->selection
                                                        : m_looks->selectionWithoutFocus));
+    // Another window of the text may have lit what belongs to its own caret.
+    if (m_looks && hasFocus) {
+        m_textHasChanged = true;
+        m_rest.start(kRest);
+    }
 }
 
 void LookPainter::Updated(int updated)
@@ -330,11 +333,30 @@ void LookPainter::Updated(int updated)
         m_marks->Soon();
 }
 
-// The word at the caret, or the one that is selected, if there is another of it in sight or below.
-void LookPainter::LookForOccurrences()
+// Windows of one text have what is lit in common: it is that of the one with the focus.
+bool LookPainter::IsOthers() const
+{
+    const auto* other = qobject_cast<QsciScintillaBase*>(QApplication::focusWidget());
+    return other && other != &m_window &&
+           other->SendScintilla(Sci::SCI_GETDOCPOINTER) == m_raw.Send(Sci::SCI_GETDOCPOINTER);
+}
+
+void LookPainter::Rested()
 {
     if (!m_looks)
         return;
+    const bool hasChanged = std::exchange(m_textHasChanged, false);
+    if (hasChanged)
+        m_matches.SearchAnewSoon();
+    if (IsOthers())
+        return;
+    LookForOccurrences(hasChanged);
+    LightStatement();
+}
+
+// The word at the caret, or the one that is selected, if there is another of it in sight or below.
+void LookPainter::LookForOccurrences(bool hasChanged)
+{
     const long caret = static_cast<long>(m_raw.Send(Sci::SCI_GETCURRENTPOS));
     const long start =
         static_cast<long>(m_raw.Send(Sci::SCI_WORDSTARTPOSITION, static_cast<WPARAM>(caret), 1));
@@ -348,13 +370,21 @@ void LookPainter::LookForOccurrences()
     if (isWord)
         word = m_raw.Bytes(start, end);
     const int flags = search::flag::WholeWord | (m_anyCase ? 0 : search::flag::MatchCase);
-    if (std::exchange(m_textHasChanged, false)) {
-        m_matches.SearchAnewSoon();
-        if (word == m_occurrences.Sought())
-            m_occurrences.SearchAnewSoon();
-        m_statement = {-1, -1}; // what is lit may be anywhere
-    }
+    if (hasChanged && word == m_occurrences.Sought())
+        m_occurrences.SearchAnewSoon();
     m_occurrences.Show(std::move(word), flags);
+}
+
+LookPainter::Range LookPainter::LitStatement() const
+{
+    if (!IsDrawnAnywhere(m_raw, kStatementIndicator))
+        return {};
+    const auto endFrom = [this](long place) {
+        return static_cast<long>(m_raw.Send(Sci::SCI_INDICATOREND, kStatementIndicator, place));
+    };
+    const bool fromStart = m_raw.Send(Sci::SCI_INDICATORVALUEAT, kStatementIndicator, 0L) != 0;
+    const long start = fromStart ? 0 : endFrom(0);
+    return {start, endFrom(start)};
 }
 
 // What the command that selects it would take.
@@ -362,7 +392,7 @@ void LookPainter::LightStatement()
 {
     const bool isAsked = m_looks && m_statementAtCaret && m_raw.Length() <= kLongestScript;
     const Range statement = (isAsked ? m_statementAtCaret() : std::nullopt).value_or(Range());
-    if (std::exchange(m_statement, statement) == statement)
+    if (LitStatement() == statement)
         return;
     const IndicatorScope scope(m_raw, kStatementIndicator);
     m_raw.Send(Sci::SCI_INDICATORCLEARRANGE, 0, m_raw.Length());

@@ -73,8 +73,11 @@ private:
     long CaretLine() const;
     void PaintFold(QPainter& painter, const Margins& places, long line, int top, int height);
     QRect HiddenMark(long line) const; // of a folded line; empty for another
-    void LookForOccurrences();
+    void Rested();
+    bool IsOthers() const;
+    void LookForOccurrences(bool hasChanged);
     void LightStatement();
+    Range LitStatement() const;
     QColor Colour(COLORREF colour) const;
 
     QsciScintillaBase& m_window;
@@ -88,7 +91,6 @@ private:
     unsigned m_series = 0;    // if it was in this series
     long m_numberedLine = -1; // whose number stands out
     StatementAtCaret m_statementAtCaret;
-    Range m_statement;             // that is lit
     bool m_textHasChanged = false; // since the last rest
     bool m_isFoldMarginHot = false;
     bool m_anyCase = false;

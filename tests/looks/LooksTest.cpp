@@ -25,6 +25,8 @@
 
 #include <gtest/gtest.h>
 
+#include <memory>
+
 namespace {
 
 using Sci = QsciScintillaBase;
@@ -372,6 +374,62 @@ TEST_F(LooksTest, LightUpTheStatementThatTheCommandWouldSelect)
         EXPECT_EQ(IsMarked(kStatement, at), at >= start && at < end) << at;
     face.setScheme(QString());
     EXPECT_FALSE(IsMarked(kStatement, 12));
+}
+
+// Two panes of one text have their marks in common.
+class LooksOfTwoPanes : public LooksTest
+{
+protected:
+    LooksOfTwoPanes()
+    {
+        Put(QStringLiteral("select aa;\nselect bb, bb, aa;\n"));
+        other->setScheme(QStringLiteral("Light"));
+        other->control().SetDocPointer(control.GetDocPointer(1), 1);
+        other->setLanguage(kTransactSql);
+        other->resize(500, 300);
+        other->show();
+        other->control().GotoPos(19, 1);
+        control.GotoPos(8, 1);
+    }
+
+    static bool Enter(ZNCoreEditorWidget& pane)
+    {
+        pane.activateWindow();
+        pane.setFocus();
+        return Becomes([&] { return pane.control().GetSafeHwnd()->hasFocus(); });
+    }
+    bool IsLitOf(long lit, long dark)
+    {
+        return Becomes([&] {
+            return IsMarked(kStatement, lit) && IsMarked(kOccurrences, lit) &&
+                   !IsMarked(kStatement, dark) && !IsMarked(kOccurrences, dark);
+        });
+    }
+
+    std::unique_ptr<ZNCoreEditorWidget> other = std::make_unique<ZNCoreEditorWidget>();
+};
+
+TEST_F(LooksOfTwoPanes, AreThoseOfThePaneThatHasTheFocus)
+{
+    ASSERT_TRUE(Enter(face));
+    EXPECT_TRUE(IsLitOf(8, 19));
+    ASSERT_TRUE(Enter(*other));
+    EXPECT_TRUE(IsLitOf(19, 8));
+    ASSERT_TRUE(Enter(face));
+    EXPECT_TRUE(IsLitOf(8, 19));
+}
+
+TEST_F(LooksOfTwoPanes, GoWithThePane)
+{
+    control.GotoPos(10, 1); // at no word
+    ASSERT_TRUE(Enter(face));
+    ASSERT_TRUE(Becomes([&] { return IsMarked(kStatement, 8) && !IsMarked(kOccurrences, 8); }));
+    ASSERT_TRUE(Enter(*other));
+    ASSERT_TRUE(IsLitOf(19, 8));
+    other.reset();
+    ASSERT_TRUE(Enter(face));
+    EXPECT_TRUE(Becomes([&] { return IsMarked(kStatement, 8) && !IsMarked(kStatement, 19); }));
+    EXPECT_TRUE(Becomes([&] { return !IsMarked(kOccurrences, 19); }));
 }
 
 // What is lit is no change that has it lit again.
