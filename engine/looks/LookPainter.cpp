@@ -160,8 +160,13 @@ void LookPainter::Paint(QPainter& painter, const QPaintEvent& event)
             continue;
         before = line;
         PaintLine(painter, places, line, static_cast<int>(row - top) * height, height);
+        painter.save();
+        // The text may be scrolled below the margins.
+        painter.setClipRect(m_window.viewport()->rect().adjusted(places.text, 0, 0, 0));
+        PaintHiddenMark(painter, line, height);
         if (arrows.AreShown())
             arrows.Paint(painter, line, height);
+        painter.restore();
     }
     PaintCurrentNumber(painter, height);
 }
@@ -244,6 +249,10 @@ void LookPainter::PaintFold(QPainter& painter, const Margins& places, long line,
     if (width > 0)
         icons::Chevron(painter, QPointF(places.folds + width / 2.0, top + height / 2.0),
                        std::min(height * 0.85, width + 2.0), colour, isOpen);
+}
+
+void LookPainter::PaintHiddenMark(QPainter& painter, long line, int height) const
+{
     const QRect mark = HiddenMark(line);
     if (mark.isEmpty())
         return;

@@ -72,6 +72,7 @@ private:
     QFont NumberFont() const;
     long CaretLine() const;
     void PaintFold(QPainter& painter, const Margins& places, long line, int top, int height);
+    void PaintHiddenMark(QPainter& painter, long line, int height) const;
     QRect HiddenMark(long line) const; // of a folded line; empty for another
     void Rested();
     bool IsOthers() const;

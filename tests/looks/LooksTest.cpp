@@ -469,6 +469,28 @@ TEST_F(LooksTest, DrawTabsAsThinArrows)
     EXPECT_LE(rowsOfTab(), control.TextHeight(0, 1) / 2);
 }
 
+// Of a line that is scrolled below them.
+TEST_F(LooksTest, DrawNothingOfTheTextOverTheMargins)
+{
+    Put(QStringLiteral("begin\t\n  select 1;\nend\n"));
+    control.Colorize(0, -1, 1);
+    control.ToggleFold(0, 1);
+    control.SetCaretLineVisible(0, 1);
+    control.SetViewWS(1, 1);
+    control.SetScrollWidth(1000, 1);
+    int width = 0;
+    for (int margin = 0; margin < 5; ++margin)
+        width += control.GetMarginWidthN(margin, 1);
+    const auto margins = [&](int offset) {
+        control.SetXOffset(offset, 1);
+        return Window().grab().toImage().copy(0, 0, width, control.TextHeight(0, 1));
+    };
+    const QImage plain = margins(0);
+    const int end = static_cast<int>(control.PointXFromPosition(6, 1));
+    for (int offset = end - width; offset < end; offset += 3)
+        EXPECT_TRUE(margins(offset) == plain) << offset;
+}
+
 TEST_F(LooksTest, ScrollAsFarAsFingersGo)
 {
     Put(QStringLiteral("line\n").repeated(400));
