@@ -67,12 +67,35 @@ TEST_F(FaceTemplates, ChangeNothingWithoutAnAnswer)
     EXPECT_TRUE(asked.isEmpty());
 }
 
-// An answer may look like a question, and is none.
+// An answer may look like a question or the caret's mark, and is none.
 TEST_F(FaceTemplates, TakeAnswersAsTheyAre)
 {
-    const auto odd = [](const QString&) { return std::optional(QStringLiteral("^#again#^")); };
-    ASSERT_TRUE(editor.insertTemplate(QStringLiteral("a ^#Name#^"), odd));
-    EXPECT_EQ(editor.text(), QStringLiteral("a ^#again#^"));
+    const auto odd = [](const QString&) { return std::optional(QStringLiteral("^#again#^^!")); };
+    ASSERT_TRUE(editor.insertTemplate(QStringLiteral("a ^#Name#^ ^! b"), odd));
+    EXPECT_EQ(editor.text(), QStringLiteral("a ^#again#^^!  b"));
+    EXPECT_EQ(editor.cursorPosition(), 14);
+}
+
+TEST_F(FaceTemplates, KeepAllOfWhatIsSelected)
+{
+    const QString odd = QStringLiteral("one") + QChar(0) + QStringLiteral("two");
+    editor.setText(odd);
+    editor.selectAll();
+    ASSERT_TRUE(editor.insertTemplate(QStringLiteral("(^!)")));
+    EXPECT_EQ(editor.text(), u'(' + odd + u')');
+}
+
+TEST_F(FaceTemplates, ComeAsPlainTextDoesWithEachOfItsCharacters)
+{
+    const QString odd = QStringLiteral("a\n") + QChar(0) + QStringLiteral("\nb") + QChar(0);
+    editor.setLineEnd(Editor::LineEnd::CrLf);
+    editor.setText(QStringLiteral("[x]"));
+    editor.setSelection({1, 1});
+    editor.insertPlainText(odd);
+    EXPECT_EQ(editor.text(), u'[' + QString(odd).replace(u'\n', QStringLiteral("\r\n")) + u']');
+    EXPECT_EQ(editor.cursorPosition(), editor.length() - 1);
+    editor.undo();
+    EXPECT_EQ(editor.text(), QStringLiteral("[x]"));
 }
 
 TEST_F(FaceTemplates, AskByADialogUnlessTheHostDoes)

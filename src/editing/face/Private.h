@@ -147,4 +147,7 @@ inline long Clamped(CZNCoreEditorControlEx& control, long position)
     return std::clamp(position, 0L, static_cast<long>(control.GetLength(1)));
 }
 
+// Puts a text, NULs included, in the selection's place, in the line ends of the mode.
+void Enter(CZNCoreEditorControlEx& control, const QString& text);
+
 } // namespace face

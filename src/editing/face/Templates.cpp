@@ -11,17 +11,33 @@ constexpr QLatin1String kQuestion("^#");
 constexpr QLatin1String kBehindQuestion("#^");
 constexpr QLatin1String kCaret("^!");
 
+struct Filled
+{
+    QString text;
+    qsizetype caret = -1; // where its mark stood; -1: there was none
+};
+
 // The text with the answers; what an answer holds is not looked at. Nothing if a question is not
 // closed or not answered.
-std::optional<QString> Answered(const QString& text, const ZNCoreEditorWidget::Ask& ask)
+std::optional<Filled> Answered(const QString& text, const ZNCoreEditorWidget::Ask& ask)
 {
     QHash<QString, QString> answers;
-    QString done;
+    Filled done;
+    const auto add = [&done](QString piece) {
+        const qsizetype mark = done.caret < 0 ? piece.indexOf(kCaret) : -1;
+        if (mark >= 0) {
+            done.caret = done.text.size() + mark;
+            piece.remove(mark, kCaret.size());
+        }
+        done.text += piece;
+    };
     qsizetype at = 0;
     for (;;) {
         const qsizetype start = text.indexOf(kQuestion, at);
-        if (start < 0)
-            return done + text.mid(at);
+        if (start < 0) {
+            add(text.mid(at));
+            return done;
+        }
         const qsizetype end = text.indexOf(kBehindQuestion, start + kQuestion.size());
         if (end < 0)
             return std::nullopt;
@@ -32,7 +48,8 @@ std::optional<QString> Answered(const QString& text, const ZNCoreEditorWidget::A
                 return std::nullopt;
             answers.insert(question, *answer);
         }
-        done += text.mid(at, start - at) + answers.value(question);
+        add(text.mid(at, start - at));
+        done.text += answers.value(question);
         at = end + kBehindQuestion.size();
     }
 }
@@ -61,19 +78,22 @@ bool ZNCoreEditorWidget::insertTemplate(const QString& text, const Ask& ask)
                                                      QLineEdit::Normal, QString(), &isAnswered);
         return isAnswered ? std::optional(answer) : std::nullopt;
     };
-    std::optional<QString> answered = Answered(text, ask ? ask : Ask(byDialog));
-    if (!answered || !isThere || isReadOnly())
+    const std::optional<Filled> filled = Answered(text, ask ? ask : Ask(byDialog));
+    if (!filled || !isThere || isReadOnly())
         return false;
-    answered->replace(u'\n', u'\n' + IndentAtCaret(*this));
-    const qsizetype caret = answered->indexOf(kCaret);
-    const QString selected = selectedText();
+    const bool hasCaret = filled->caret >= 0;
+    QString front = hasCaret ? filled->text.left(filled->caret) : filled->text;
+    QString behind = filled->text.mid(front.size());
+    const QString lineStart = u'\n' + IndentAtCaret(*this);
+    front.replace(u'\n', lineStart);
+    behind.replace(u'\n', lineStart);
+    if (hasCaret)
+        front += selectedText();
     return d->Run([&](CZNCoreEditorControlEx& control) {
         control.BeginUndoAction(1);
-        const QString front = caret < 0 ? *answered : answered->left(caret) + selected;
-        control.ReplaceSel(face::Units(front), 1);
+        face::Enter(control, front);
         const long place = control.GetCurrentPos(1);
-        if (caret >= 0)
-            control.ReplaceSel(face::Units(answered->mid(caret + kCaret.size())), 1);
+        face::Enter(control, behind);
         control.EndUndoAction(1);
         control.SetSel(place, place, 1);
         return true;

@@ -8,6 +8,19 @@
 using face::Clamped;
 using face::Units;
 
+// The control takes a NUL for the end of what is entered.
+void face::Enter(CZNCoreEditorControlEx& control, const QString& text)
+{
+    control.ReplaceSel(u"", 1);
+    const QStringList pieces = text.split(QChar(0));
+    for (qsizetype i = 0; i < pieces.size(); ++i) {
+        if (i > 0)
+            control.AddTextNoProcess(1, u"", 1);
+        control.AddText(static_cast<int>(pieces[i].size()), Units(pieces[i]), 1);
+    }
+    control.ScrollCaret(1);
+}
+
 QString ZNCoreEditorWidget::text() const
 {
     return d->m_control->GetText();
@@ -339,7 +352,12 @@ void ZNCoreEditorWidget::selectAll()
 
 void ZNCoreEditorWidget::insertPlainText(const QString& text)
 {
-    d->m_control->ReplaceSel(Units(text), 1);
+    d->Run([&](CZNCoreEditorControlEx& control) {
+        control.BeginUndoAction(1);
+        face::Enter(control, text);
+        control.EndUndoAction(1);
+        return 0;
+    });
 }
 
 void ZNCoreEditorWidget::appendPlainText(const QString& text)
