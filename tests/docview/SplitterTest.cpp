@@ -214,6 +214,17 @@ TEST_F(Splitter, IsDividedByDrawingItsBox)
     EXPECT_EQ(splitter.beside, QList<CView*>{static_cast<CView*>(splitter.GetPane(0, 0))});
 }
 
+TEST_F(Splitter, TakesTheLineAlongWhenItsBoxGoesBeforeTheButtonIsUp)
+{
+    Make(2, 1);
+    QTest::mousePress(Box("rowBox"), Qt::LeftButton, {}, QPoint(3, 3));
+    EXPECT_TRUE(splitter.GetSafeHwnd()->window()->findChild<QRubberBand*>());
+    splitter.SplitRow(200); // by a key
+    Settle();
+    ASSERT_FALSE(Box("rowBox"));
+    EXPECT_FALSE(splitter.GetSafeHwnd()->window()->findChild<QRubberBand*>());
+}
+
 TEST_F(Splitter, LeavesTheScrollBarAllButAFewPixelsForItsBox)
 {
     Make(2, 2);

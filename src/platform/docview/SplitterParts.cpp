@@ -125,6 +125,7 @@ void SplitBox::mousePressEvent(QMouseEvent* event)
         return;
     // Not the splitter's child, which would be a pane.
     m_line = new QRubberBand(QRubberBand::Line, m_owner.GetSafeHwnd()->window());
+    connect(this, &QObject::destroyed, [line = m_line] { delete line; });
     mouseMoveEvent(event);
     m_line->show();
 }
