@@ -118,7 +118,8 @@ void ScriptSource::Propose(const ProposalQuery& query, std::vector<Proposal>& pr
             ProposeColumns(proposals);
         ProposeObjects(query, proposals);
     }
-    ProposeLanguage(query, proposals);
+    if (m_context.quote.isNull()) // what stands in quotes is a name
+        ProposeLanguage(query, proposals);
     if (!query.typed.isEmpty())
         ProposeWords(query, proposals);
 }

@@ -112,6 +112,22 @@ TEST_F(CompleterTest, OpensOnControlAndSpaceAndPutsTheChosenWordIn)
     EXPECT_EQ(m_editor.text(), QStringLiteral("select customer_name from t; select cus"));
 }
 
+TEST_F(CompleterTest, PutsAQuotedNameInBeforeTheQuoteThatIsThere)
+{
+    for (const char* script : {"create table [Or ders] (a int); select * from [or|]",
+                               "create table [Or ders] (a int); select * from [Or |ders] o",
+                               "create table [Or ders] (a int); select * from [or|"}) {
+        const QString text = QString::fromLatin1(script);
+        Show(text);
+        Press(Qt::Key_Space, Qt::ControlModifier);
+        Press(Qt::Key_Return);
+        EXPECT_EQ(m_editor.text().section(u';', 1),
+                  QStringLiteral(" select * from [Or ders]") + text.section(u']', 2))
+            << script;
+        EXPECT_TRUE(m_editor.text().left(m_editor.cursorPosition()).endsWith(u']')) << script;
+    }
+}
+
 TEST_F(CompleterTest, FiltersAsOneTypesAndChoosesByTab)
 {
     Show(QStringLiteral("create table t1 (alpha int, alder int); select x.al| from t1 x"));

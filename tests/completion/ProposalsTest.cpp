@@ -255,6 +255,13 @@ TEST(Proposals, KeepTheQuotesThatANameNeeds)
         "Id [Order] Name");
 }
 
+TEST(Proposals, AreNoWordsOfTheLanguageInQuotes)
+{
+    EXPECT_EQ(Caret(std::u16string(kTables) + u"select * from [ord|]").First(9),
+              "[Orders] [ordered at]");
+    EXPECT_EQ(Caret(std::u16string(kTables) + u"select [sub|").First(9), "");
+}
+
 TEST(Proposals, AreNoColumnsThatAlterTakesAway)
 {
     EXPECT_EQ(Caret(u"create table t (a int, b int, c int, d int);\nalter table t drop column a, "

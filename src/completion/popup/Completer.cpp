@@ -40,10 +40,18 @@ qsizetype CharactersIn(const QString& text)
                          [](QChar unit) { return !unit.isLowSurrogate(); });
 }
 
-// The characters of the word behind the caret that are the end of the proposal as well.
+bool IsQuote(QChar unit)
+{
+    return unit == u'"' || unit == u']' || unit == u'`';
+}
+
+// The characters of the word behind the caret, and of the quote that ends it, that are the end of
+// the proposal as well.
 qsizetype TailOf(const QString& text, const QString& behind)
 {
     const auto* end = std::find_if_not(behind.begin(), behind.end(), IsWordUnit);
+    if (end != behind.end() && IsQuote(*end) && text.endsWith(*end))
+        ++end;
     const QString rest = behind.left(end - behind.begin());
     return text.endsWith(rest, Qt::CaseInsensitive) ? CharactersIn(rest) : 0;
 }
