@@ -14,6 +14,7 @@
 #include <QElapsedTimer>
 #include <QFile>
 #include <QKeyEvent>
+#include <QTimer>
 #include <QTreeView>
 
 #include <algorithm>
@@ -43,9 +44,11 @@ struct Host
     static void WaitFor(Condition condition)
     {
         constexpr qint64 kPatience = 120'000; // milliseconds
+        QTimer wakes; // a loop with a limit of its own would not sleep, and its turns would count
+        wakes.start(20);
         QElapsedTimer clock;
         for (clock.start(); !condition() && clock.elapsed() < kPatience;)
-            QCoreApplication::processEvents(QEventLoop::WaitForMoreEvents, 20);
+            QCoreApplication::processEvents(QEventLoop::WaitForMoreEvents);
         if (!condition())
             std::abort(); // it did not happen: no figure
     }
