@@ -4,9 +4,8 @@
 #include "editing/ZNCoreEditorControlEx.h"
 #include "editing/ZNCoreEditorWidget.h"
 
-#include <QApplication>
-#include <QDeadlineTimer>
 #include <QStringList>
+#include <QTest>
 
 #include <gtest/gtest.h>
 
@@ -32,9 +31,7 @@ protected:
     void Put(const std::u16string& text) { editor.control().SetText(text.c_str(), 1); }
     void Finish()
     {
-        const QDeadlineTimer deadline(10000);
-        while (watch.IsLooking() && !deadline.hasExpired())
-            QApplication::processEvents(QEventLoop::WaitForMoreEvents, 50);
+        ASSERT_TRUE(QTest::qWaitFor([this] { return !watch.IsLooking(); }, 10000));
     }
 
     ZNCoreEditorWidget editor;

@@ -11,7 +11,6 @@
 #include "tests/control/ControlFixture.h"
 
 #include <QApplication>
-#include <QElapsedTimer>
 #include <QHelpEvent>
 #include <QImage>
 #include <QMouseEvent>
@@ -41,10 +40,7 @@ constexpr int kMatches = 29;
 template <class Condition>
 bool Becomes(Condition condition)
 {
-    QElapsedTimer time;
-    for (time.start(); !condition() && time.elapsed() < 5000;)
-        QApplication::processEvents(QEventLoop::WaitForMoreEvents, 20);
-    return condition();
+    return QTest::qWaitFor(condition, 5000);
 }
 
 class LooksTest : public testing::Test
