@@ -371,6 +371,13 @@ long SqlScanner::EndOfDollarTag(long from) const
     return m_text.At(end) == '$' && !IsDigit(m_text.At(from + 1)) ? end + 1 : -1;
 }
 
+SqlScanner::DollarTag SqlScanner::DollarTagAt(long position) const
+{
+    const bool mayBe = m_dialect->dollarStrings && m_text.At(position) == '$';
+    const long end = mayBe ? EndOfDollarTag(position) : -1;
+    return end < 0 ? DollarTag() : DollarTag{end, HashOf(m_text, position, end)};
+}
+
 Token SqlScanner::ScanDollar()
 {
     const long tag = m_dialect->dollarStrings ? EndOfDollarTag(m_position) : -1;

@@ -92,6 +92,14 @@ public:
     Token TakeData(long limit = kNoLimit) { return TakeLines("\\.", limit); }
     Token TakeSource(long limit = kNoLimit) { return TakeLines("/", limit); }
 
+    // What quotes text in dollars and begins at a place; the end is -1 if none does.
+    struct DollarTag
+    {
+        long end = -1;
+        std::uint64_t hash = 0; // tells one tag from another
+    };
+    DollarTag DollarTagAt(long position) const;
+
     // Goes on between tokens, behind what the caller has read by itself.
     void Restart(long position)
     {

@@ -40,6 +40,12 @@ public:
               analysis::SqlWord word);
     void TakeLineEnd();
 
+    // Of a token that is not taken otherwise: what stands in the body of a routine.
+    void NoteBefore(const analysis::TextSpans& text, const analysis::Token& token)
+    {
+        m_rules.NoteBefore(state, text, token);
+    }
+
     // Nothing of the batch goes on behind this.
     void CloseBatch();
 

@@ -26,6 +26,15 @@ std::uint64_t Mix(std::uint64_t hash, std::uint64_t value)
     return hash ^ hash >> 29;
 }
 
+// AS of a routine, and DO, which runs one.
+bool OpensBody(std::string_view word)
+{
+    const auto is = [word](char first, char second) {
+        return (word[0] | 0x20) == first && (word[1] | 0x20) == second;
+    };
+    return word.size() == 2 && (is('a', 's') || is('d', 'o'));
+}
+
 bool IsInsideCharacter(unsigned char byte)
 {
     return (byte & 0xC0U) == 0x80;
@@ -38,7 +47,9 @@ std::uint64_t SqlLineState::Hash() const
     const auto number = [](auto value) { return static_cast<std::uint64_t>(value); };
     std::uint64_t hash = Mix(scan.value, number(scan.inside) | number(scan.close) << 8 |
                                              number(scan.length) << 16 | number(docComment) << 24 |
-                                             number(clientLine) << 25 | number(restStyle) << 32);
+                                             number(clientLine) << 25 | number(bodyMayCome) << 26 |
+                                             number(inBody) << 27 | number(restStyle) << 32);
+    hash = Mix(hash, bodyTag);
     hash = Mix(hash, number(blocks.declarations) << 32 | blocks.blocks);
     hash = Mix(hash, number(blocks.cases) << 32 | blocks.controls);
     hash = Mix(hash, number(blocks.parentheses) << 32);
@@ -112,10 +123,11 @@ bool SqlStyler::Part(long next, long stop)
         BeginLine();
     while (m_scanner.Position() < m_stop) {
         const ScanState before = m_scanner.State();
-        const Token token = m_scanner.Next(m_stop);
+        Token token = m_scanner.Next(m_stop);
         if (token.kind == TokenKind::End)
             break;
-        Take(token, before);
+        if (!m_state.inBody || !CutAtBodyEnd(token))
+            Take(token, before);
     }
     if (isLast)
         FinishLine();
@@ -152,7 +164,8 @@ void SqlStyler::Take(const Token& token, const ScanState& before)
         return;
     case TokenKind::LineEnd:
         Fill(token.start, token.end, 0);
-        m_blocks.TakeLineEnd();
+        if (!m_state.inBody)
+            m_blocks.TakeLineEnd();
         return;
     case TokenKind::LineComment:
     case TokenKind::BlockComment:
@@ -171,6 +184,8 @@ void SqlStyler::Take(const Token& token, const ScanState& before)
         style = m_palette.blockComment;
         break;
     case TokenKind::String:
+        if (TakeBodyTag(token))
+            return;
         style = m_palette.string;
         break;
     case TokenKind::QuotedName:
@@ -198,6 +213,12 @@ void SqlStyler::Feed(const Token& token, SqlWord word)
     m_line.isBlank = false;
     const bool isFirst = m_line.isClean && !token.resumed;
     m_line.isClean = false;
+    m_state.bodyMayCome = false;
+    if (m_state.inBody) {
+        OpenFreshBatch();
+        m_blocks.NoteBefore(m_scanner.Text(), token);
+        return;
+    }
     if (m_line.ignored || (isFirst && !m_separator.text.empty() && TakeSeparator(token)))
         return;
     OpenFreshBatch();
@@ -256,7 +277,7 @@ void SqlStyler::TakeComment(const Token& token)
     m_blankStart = -1;
     m_line.isBlank = false;
     OpenFreshBatch();
-    if (m_dialect.terminatorComment && !token.resumed)
+    if (m_dialect.terminatorComment && !token.resumed && !m_state.inBody)
         SetTerminator(analysis::TerminatorInComment(text, token, !m_blocks.state.hasBegun));
     NoteDepth();
 }
@@ -290,6 +311,7 @@ void SqlStyler::TakeWord(const Token& token)
     if (whole.end > token.end)
         m_scanner.Restart(whole.end);
     Feed(whole, entry->shape);
+    m_state.bodyMayCome = !m_line.ignored && OpensBody(BytesOf(whole));
     m_line.afterName = style == m_palette.identifier;
     m_line.afterGlobalName = false;
     m_blankStart = -1;

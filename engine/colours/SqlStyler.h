@@ -23,6 +23,9 @@ struct SqlLineState
     bool docComment = false;    // the block comment under way is one
     bool clientLine = false;    // the line before was the client's and goes on
     std::uint8_t restStyle = 0; // of the client's text under way
+    bool bodyMayCome = false;   // behind AS and DO
+    bool inBody = false;        // of a routine, between tags of dollars
+    std::uint64_t bodyTag = 0;  // its hash
 
     bool operator==(const SqlLineState&) const = default;
     std::uint64_t Hash() const;
@@ -93,6 +96,8 @@ private:
 
     void Take(const Token& token, const analysis::ScanState& before);
     void TakeComment(const Token& token);
+    bool TakeBodyTag(const Token& token);
+    bool CutAtBodyEnd(Token& token);
     long DirectiveWord(const Token& token) const;
     bool TakeDirective(const Token& token);
     void TakeWord(const Token& token);

@@ -76,7 +76,7 @@ const Sample kSamples[] = {
      {{"select count(*), \"a b\", E'it\\'s', $1 from pg_class -- note",
        "kkkkkk fffffoooo qqqqqo sssssssso ii kkkk TTTTTTTT ccccccc"},
       {"create function f() returns text as $b$ it's $b$ /* a /* b */ c */",
-       "kkkkkk kkkkkkkk ioo kkkkkkk tttt kk ssssssssssss CCCCCCCCCCCCCCCCC"},
+       "kkkkkk kkkkkkkk ioo kkkkkkk tttt kk sss iissssss CCCCCCCCCCCCCCCCC"},
       {"set work_mem = 64; select 1::int;", //
        "kkk gggggggg o nno kkkkkk noottto"},
       {"\\d it's", //

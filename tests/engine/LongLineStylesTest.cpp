@@ -123,6 +123,8 @@ constexpr const char16_t* kPieces[] = {
     u"--",
     u"$$",
     u"$t$",
+    u" as $$",
+    u" do $t$ ",
     u"q'[",
     u"]'",
     u"E'",

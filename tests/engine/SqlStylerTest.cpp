@@ -160,6 +160,20 @@ TEST(SqlStyles, ThePropertyChoosesTheDialectOfTheSharedNumber)
     EXPECT_EQ(sql.Letters(), "CCCCCCCC i oo oio sssssssss");
 }
 
+TEST(SqlStyles, BodiesOfRoutinesAreCode)
+{
+    const std::pair<const char16_t*, const char*> kSamples[] = {
+        {u"as $$a '$' /**/ 12$$ 1", "ii ssi sss CCCC nnss n"},
+        {u"DO\n-- x\n$a$ -- $$ '\n y $a$ 1", "ii\ncccc\nsss ccccccc\n i sss n"},
+        {u"as $$ x $t$ y $$ '$$'", "ii ss i ssssssss ssss"}, // the first tag of the body ends it
+        {u"as $a$ x /* $a$ 1 */", "ii sss i CCCsss n oo"},
+        {u"as t $$x$$", "ii i sssss"},
+        {u"is $$x$$", "ii sssss"},
+    };
+    for (const auto& [text, letters] : kSamples)
+        EXPECT_EQ(Letters(9, text), letters) << QString::fromUtf16(text).toStdString();
+}
+
 TEST(SqlStyles, ThePropertyHasNoEffectWithOtherNumbers)
 {
     const SqlUnderTest sql(9, u"[a]");
@@ -360,6 +374,8 @@ constexpr const char16_t* kPieces[] = {
     u"\r",
     u"$$",
     u"$t$",
+    u" as $$",
+    u" do $t$ ",
     u"q'[",
     u"]'",
     u"E'",

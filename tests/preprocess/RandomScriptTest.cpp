@@ -23,7 +23,7 @@ constexpr const char* kPieces[] = {
     "x &&A, ", "x (&&AB) ", "'x &&B ", "-x &&LONGNAME ", "x.&&A.y ", "x '&&A' ", "x=\"&&B\",",
     "x '&&AB', ", "'&&A'", "/**/&&A ", "&&A.q",
     // What tells strings, comments and a client program's lines.
-    "q'", "q'[", "N'", "e'\\'", "$t$", "$$", "\n", "\nrem ", "\nprompt ", "\nGO\n", ";",
+    "q'", "q'[", "N'", "e'\\'", "$t$", "$$", " as $$", "\n", "\nrem ", "\nprompt ", "\nGO\n", ";",
     "\ndelimiter ", "\nset term ", "\n--#set terminator ", "\nbegin ", " end;\n", "]", "[", "`",
     "\n#define &&A q\n", "\n#define &&B rem\n", "\n#define &&A begin\n", "\n#define &&AB x, /* y\n",
     "\n#define &&B it's\n",
@@ -46,7 +46,7 @@ constexpr const char* kPlainPieces[] = {
     "\n#include b\n", "\n\t#INCLUDE \"c\" \n", "\n#include d\n", "\n#include none\n",
     "\n/* */ #include a\n", "\nx #include a\n", "\n#includes\n", "\n#defined &&A 1\n",
     "\n#define &&B &&A\n", "\n#define &&AB x&&B\n", "x &&A, ", "x (&&AB) ", "'x &&B ",
-    "x '&&A' ", "x=\"&&B\",", "/**/&&A ", "q'", "q'[", "]'", "N'", "nq'(", "e'\\'", "$t$", "$$",
+    "x '&&A' ", "x=\"&&B\",", "/**/&&A ", "q'", "q'[", "]'", "N'", "nq'(", "e'\\'", "$t$", "$$", " as $$", "do\n$t$",
     "\n#define &&A q\n", "\n#define &&AB x, /* y\n", "\n#define &&B it's\n"};
 // clang-format on
 

@@ -3,6 +3,7 @@
 
 #include <algorithm>
 #include <stdexcept>
+#include <utility>
 
 namespace reference {
 
@@ -55,8 +56,8 @@ const Facts& FactsOf(const std::string& language)
 class Reader
 {
 public:
-    Reader(const Facts& facts, const Text& text)
-        : m_facts(facts), m_text(text), m_stretches(text.size(), Stretch::Code)
+    Reader(const Facts& facts, const Text& text, bool inBody = false)
+        : m_facts(facts), m_text(text), m_inBody(inBody), m_stretches(text.size(), Stretch::Code)
     {}
 
     std::vector<Stretch> Read()
@@ -98,6 +99,13 @@ private:
     {
         const char16_t unit = At(m_at);
         const char16_t next = At(m_at + 1);
+        const std::size_t from = m_at;
+        const bool bodyMayCome = std::exchange(m_bodyMayCome, false);
+        if (unit == u'$' && bodyMayCome && !m_inBody && !IsVariable() && m_facts.dollar &&
+            EndOfTag(m_at) > 0) {
+            Body();
+            return;
+        }
         if (unit == u'-' && next == u'-' && (!m_facts.blankDashes || At(m_at + 2) <= u' '))
             Mark(LineEnd(), Stretch::Comment);
         else if (unit == u'/' && next == u'/' && m_facts.slashes)
@@ -123,6 +131,21 @@ private:
             Variable();
         else
             ++m_at;
+        if (unit <= u' ' || m_stretches[from] == Stretch::Comment)
+            m_bodyMayCome = bodyMayCome;
+    }
+
+    // A routine's between two tags is code, up to its tag wherever that stands.
+    void Body()
+    {
+        const Text tag = m_text.substr(m_at, EndOfTag(m_at) - m_at);
+        Mark(m_at + tag.size(), Stretch::String);
+        const std::size_t end = std::min(m_text.find(tag, m_at), m_text.size());
+        const Text body = m_text.substr(m_at, end - m_at);
+        std::ranges::copy(Reader(m_facts, body, true).Read(),
+                          m_stretches.begin() + static_cast<long>(m_at));
+        m_at = end;
+        Mark(end + tag.size(), Stretch::String);
     }
 
     bool IsVariable() const
@@ -154,6 +177,7 @@ private:
             Mark(EndOfQuoting(end + 1), Stretch::String);
         else
             m_at = end;
+        m_bodyMayCome = m_at == end && (word == u"as" || word == u"do");
     }
 
     std::size_t EndOfBlockComment() const
@@ -222,6 +246,8 @@ private:
 
     const Facts& m_facts;
     const Text& m_text;
+    bool m_inBody;
+    bool m_bodyMayCome = false; // behind AS and DO
     std::vector<Stretch> m_stretches;
     std::size_t m_at = 0;
 };
