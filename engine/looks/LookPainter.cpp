@@ -101,9 +101,11 @@ void LookPainter::Set(const Looks* looks)
         m_raw.Send(Sci::SCI_INDICSETOUTLINEALPHA, n, outline);
         m_raw.Send(Sci::SCI_INDICSETUNDER, n, 1);
     };
+    // They lie over each other, over the current line and the selection: faint, so that every style
+    // can be read on all of them at once, and told by their outlines.
     indicator(kStatementIndicator, m_looks->statement, 30, 0);
-    indicator(kOccurrenceIndicator, m_looks->occurrence, 45, 90);
-    indicator(kMatchIndicator, m_looks->match, 75, 180);
+    indicator(kOccurrenceIndicator, m_looks->occurrence, 12, 130);
+    indicator(kMatchIndicator, m_looks->match, 30, 230);
     if (!m_marks)
         m_marks = new ScrollMarks(*m_window.verticalScrollBar(), m_raw);
     m_marks->SetLayers({
