@@ -6,6 +6,7 @@
 #include "platform/services/LongWork.h"
 
 #include <QCoreApplication>
+#include <QScopedValueRollback>
 
 #include <utility>
 
@@ -99,10 +100,8 @@ LRESULT ChangeBySteps(Engine& engine, WPARAM, LPARAM)
     LongWork work(&engine.window, Number == Sci::SCI_UNDO
                                       ? QCoreApplication::translate("EngineWindow", "Undoing")
                                       : QCoreApplication::translate("EngineWindow", "Redoing"));
-    engine.undo = &work;
-    const LRESULT result = engine.raw.Send(Number);
-    engine.undo = nullptr;
-    return result;
+    const QScopedValueRollback<LongWork*> under(engine.undo, &work);
+    return engine.raw.Send(Number);
 }
 
 constexpr HandlerRow kRows[] = {

@@ -87,3 +87,16 @@ TEST_F(LongUndo, TellsNothingWithinTheHostsPatience)
     EXPECT_TRUE(host.told.empty());
     EXPECT_EQ(host.ends, 0);
 }
+
+// A listener may ask for a further one, which does nothing in the midst of this.
+TEST_F(LongUndo, GoesOnTellingBehindOneThatIsAskedForMeanwhile)
+{
+    engine.Parent().onNotify = [](Listener& listener, const SCNotification&) {
+        listener.onNotify = nullptr;
+        SendMessage(listener.editor, msg::Undo, 0, 0);
+    };
+    engine.Send(msg::Undo);
+    EXPECT_EQ(engine.Parent().onNotify, nullptr);
+    EXPECT_EQ(engine.Text(), u"");
+    EXPECT_EQ(host.told, (std::vector<int>{1024, 2048}));
+}
