@@ -277,6 +277,20 @@ TEST_F(EditorFace, BringsItsCaretIntoTheMiddle)
     EXPECT_GT(control.GetFirstVisibleLine(1) + control.LinesOnScreen(1), 150);
 }
 
+TEST_F(EditorFace, BringsACaretFarInAWrappedLineIntoTheMiddle)
+{
+    editor.resize(400, 300);
+    editor.setLineWrapMode(Editor::LineWrapMode::WidgetWidth);
+    editor.setText(QStringLiteral("word ").repeated(2000) +
+                   QStringLiteral("\nselect 1;").repeated(50));
+    editor.show();
+    QApplication::processEvents();
+    editor.setCursorPosition(5000);
+    editor.centerCursor();
+    const int row = control.PointYFromPosition(5000, 1) / control.TextHeight(0, 1);
+    EXPECT_NEAR(static_cast<double>(row), control.LinesOnScreen(1) / 2.0, 1.0);
+}
+
 TEST_F(EditorFace, ShowsTheStartOfItsLinesThoughItWasGivenACaretBefore)
 {
     editor.setLineNumbersVisible(true);

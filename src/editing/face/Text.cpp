@@ -187,9 +187,9 @@ void ZNCoreEditorWidget::centerCursor()
 {
     CZNCoreEditorControlEx& control = *d->m_control;
     ensureCursorVisible();
-    const auto row = control.VisibleFromDocLine(cursorLine(), 1);
-    const auto first = control.GetFirstVisibleLine(1);
-    control.LineScroll(0, static_cast<int>(row - control.LinesOnScreen(1) / 2 - first), 1);
+    // In the window: a line that is wrapped may have more rows than that.
+    const auto row = control.PointYFromPosition(cursorPosition(), 1) / control.TextHeight(0, 1);
+    control.LineScroll(0, static_cast<int>(row - control.LinesOnScreen(1) / 2), 1);
 }
 
 int ZNCoreEditorWidget::lineAt(int position) const
