@@ -2,6 +2,7 @@
 #include "search/files/ReadFileText.h"
 
 #include "search/files/FileText.h"
+#include "search/files/TextCounts.h"
 
 #include <QFile>
 #include <QFileInfo>
@@ -17,5 +18,5 @@ std::optional<QString> ReadFileText(const QString& path, qint64 mostBytes)
     while (file.Read(text, kPiece)) {}
     if (file.Failed())
         return std::nullopt;
-    return QString::fromUtf8(text.data(), static_cast<qsizetype>(text.size()));
+    return TextOf(text);
 }

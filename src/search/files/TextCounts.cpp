@@ -89,16 +89,22 @@ long UnitsIn(std::string_view text)
     return units;
 }
 
+// Qt would take U+FEFF at the start for a mark. A short text needs no more room than it has units.
 QString TextOf(std::string_view text)
 {
+    const auto convert = [text](char16_t* units, std::size_t room) {
+        return static_cast<qsizetype>(platform::utf8::ToUnits(
+            reinterpret_cast<const unsigned char*>(text.data()), text.size(), units, room));
+    };
     constexpr std::size_t kShort = 512; // bytes, and so units at most
-    if (text.size() > kShort)
-        return QString::fromUtf8(text.data(), static_cast<qsizetype>(text.size()));
+    if (text.size() > kShort) {
+        QString made(static_cast<qsizetype>(text.size()), Qt::Uninitialized);
+        made.truncate(convert(reinterpret_cast<char16_t*>(made.data()), text.size()));
+        return made;
+    }
     std::array<char16_t, kShort> units;
-    const std::size_t count =
-        platform::utf8::ToUnits(reinterpret_cast<const unsigned char*>(text.data()), text.size(),
-                                units.data(), units.size());
-    return QString(reinterpret_cast<const QChar*>(units.data()), static_cast<qsizetype>(count));
+    const qsizetype count = convert(units.data(), units.size());
+    return QString(reinterpret_cast<const QChar*>(units.data()), count);
 }
 
 long LineEndsIn(std::string_view text, std::size_t from, std::size_t to)

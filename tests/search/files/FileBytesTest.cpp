@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 // What a search through files makes of bytes that it looks at before it converts them.
 #include "platform/text/SystemCodePage.h"
+#include "search/files/ReadFileText.h"
 #include "tests/search/files/FileSearchFixture.h"
 
 #include <gmock/gmock.h>
@@ -51,6 +52,23 @@ TEST_F(FileBytes, OfASinglePageBecomeItsLetters)
               QString::fromUtf8("select '\u03b1\u03b2 abcdefghijklmnop \u20ac' from t;"));
     found = Search(For(QString::fromUtf8("\u0391\u03b2 A")));
     EXPECT_EQ(found.totals.matches, 1);
+}
+
+// Scripts that were joined with their marks have one more at the start.
+TEST_F(FileBytes, OfASecondMarkAreACharacterOfTheText)
+{
+    const QString path = Write("a.sql", "\xEF\xBB\xBF\xEF\xBB\xBFone");
+    EXPECT_EQ(ReadFileText(path, 100), QChar(0xFEFF) + QStringLiteral("one"));
+    EXPECT_EQ(Search(For("one")).files.at(path).matches[0].column, 1);
+}
+
+TEST_F(FileBytes, OfAMarkAreInALongReplacement)
+{
+    FileSearchRequest request = For("one");
+    request.regExp = true;
+    request.replaces = true;
+    request.replacement = QChar(0xFEFF) + QString(600, u'x');
+    EXPECT_EQ(MatchesIn("one", request)[0].replacement, request.replacement);
 }
 
 TEST_F(FileBytes, OfALargeFileAreReadAgainForTheFirstMatch)
