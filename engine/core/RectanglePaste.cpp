@@ -4,6 +4,7 @@
 #include "engine/text/Characters.h"
 
 #include <algorithm>
+#include <compare>
 #include <string>
 
 namespace engine {
@@ -13,12 +14,33 @@ using Sci = QsciScintillaBase;
 
 constexpr int kStyleOfNewText = 0;
 
+// A place in the text, and so many columns behind it where its line has no more text.
+struct Place
+{
+    long position = 0; // bytes
+    long columns = 0;
+
+    auto operator<=>(const Place&) const = default;
+};
+
+// Of what is selected, whichever way it was.
+Place SelectionStart(const Raw& raw)
+{
+    const auto ask = [&raw](unsigned message) { return static_cast<long>(raw.Send(message)); };
+    if (!ask(Sci::SCI_SELECTIONISRECTANGLE))
+        return {ask(Sci::SCI_GETSELECTIONSTART), 0};
+    return std::min(Place{ask(Sci::SCI_GETRECTANGULARSELECTIONANCHOR),
+                          ask(Sci::SCI_GETRECTANGULARSELECTIONANCHORVIRTUALSPACE)},
+                    Place{ask(Sci::SCI_GETRECTANGULARSELECTIONCARET),
+                          ask(Sci::SCI_GETRECTANGULARSELECTIONCARETVIRTUALSPACE)});
+}
+
 class Target
 {
 public:
-    explicit Target(const Raw& raw)
-        : m_raw(raw), m_line(Ask(Sci::SCI_LINEFROMPOSITION, Ask(Sci::SCI_GETCURRENTPOS))),
-          m_column(Ask(Sci::SCI_GETCOLUMN, Ask(Sci::SCI_GETCURRENTPOS)))
+    Target(const Raw& raw, const Place& start)
+        : m_raw(raw), m_line(Ask(Sci::SCI_LINEFROMPOSITION, start.position)),
+          m_column(Ask(Sci::SCI_GETCOLUMN, start.position) + start.columns)
     {}
 
     void Put(std::string_view piece) const
@@ -72,9 +94,8 @@ void PasteRectangle(const Raw& raw, std::string_view bytes)
     raw.Send(Sci::SCI_BEGINUNDOACTION);
     if (!raw.Send(Sci::SCI_GETSELECTIONEMPTY))
         raw.Send(Sci::SCI_CLEAR);
-    const auto caret = raw.Send(Sci::SCI_GETCURRENTPOS);
-    raw.Send(Sci::SCI_SETEMPTYSELECTION, static_cast<std::uintptr_t>(caret));
-    Target target(raw);
+    const Place start = SelectionStart(raw);
+    Target target(raw, start);
     bytes = bytes.substr(0, bytes.find_last_not_of("\r\n") + 1); // a copy ends with a line end
     while (!bytes.empty()) {
         const std::size_t end = std::min(bytes.find_first_of("\r\n"), bytes.size());
@@ -85,7 +106,7 @@ void PasteRectangle(const Raw& raw, std::string_view bytes)
         bytes.remove_prefix(bytes.starts_with("\r\n") ? 2 : 1);
         target.NextLine();
     }
-    raw.Send(Sci::SCI_SETEMPTYSELECTION, static_cast<std::uintptr_t>(caret));
+    raw.Send(Sci::SCI_SETEMPTYSELECTION, static_cast<std::uintptr_t>(start.position));
     raw.Send(Sci::SCI_ENDUNDOACTION);
 }
 

@@ -13,8 +13,8 @@ namespace engine {
 // Whether a rectangle is to be put in here: there may be noncharacters, or blanks have no width.
 bool NeedsOwnRectanglePaste(const Raw& raw, bool mayHaveNoncharacters);
 
-// Over what is selected, at the caret's column in its line and those below; one undo step. The
-// caret stays before it, as the stock engine leaves it.
+// Over what is selected, at the column where that begins in its first line and those below; one
+// undo step. The caret stays before it, as the stock engine leaves it.
 void PasteRectangle(const Raw& raw, std::string_view bytes);
 
 } // namespace engine

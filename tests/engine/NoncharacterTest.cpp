@@ -211,6 +211,39 @@ TEST_P(Noncharacters, BringNoLineBehindARectangleThatIsPastedIntoTheLastOne)
     EXPECT_EQ(m_engine.Text(), m_character + u"\naQ\n R");
 }
 
+// One goes to where the one begins that it replaces, whichever way that was selected, and behind
+// the ends of lines as well.
+TEST_P(Noncharacters, ChangeNothingAboutWhereARectangleGoes)
+{
+    constexpr WPARAM kDefaultStyle = 32;
+    EngineUnderTest plain;
+    for (EngineUnderTest* engine : {&plain, &m_engine}) {
+        engine->Send(msg::StyleSetFont, kDefaultStyle, u"DejaVu Sans Mono");
+        engine->Send(msg::StyleClearAll);
+        engine->SetText(u"Q\nR");
+        SelectRectangle(*engine, 0, 3);
+        engine->Send(msg::Copy);
+    }
+    const std::u16string text = u"ab\ncdef\nghi\n";
+    for (const WPARAM place : {0U, 2U, 4U}) {
+        for (const UINT down : {msg::LineDownRectExtend, msg::LineUpRectExtend}) {
+            for (const int steps : {0, 1, 3}) {
+                for (EngineUnderTest* engine : {&plain, &m_engine}) {
+                    engine->SetText(text + (engine == &plain ? u"x" : m_character));
+                    engine->Send(msg::GotoPos, place);
+                    engine->Send(down);
+                    for (int i = 0; i < steps; ++i)
+                        engine->Send(msg::CharRightRectExtend);
+                    engine->Send(msg::Paste);
+                }
+                std::u16string expected = plain.Text();
+                expected.replace(expected.rfind(u'x'), 1, m_character);
+                EXPECT_EQ(m_engine.Text(), expected) << place << ' ' << down << ' ' << steps;
+            }
+        }
+    }
+}
+
 TEST_P(Noncharacters, AreBesideARectangleThatIsPastedWithAllOfItsText)
 {
     const QString pasted = QStringLiteral("Q") + QChar(0) + QStringLiteral("R");
