@@ -53,6 +53,7 @@ public:
     {
         if (event->type() != QEvent::Show)
             return false;
+        m_place = Place();
         QMetaObject::invokeMethod(
             this, [this] { Scroll(); }, Qt::QueuedConnection);
         parent()->removeEventFilter(this);
@@ -60,9 +61,15 @@ public:
     }
 
 private:
+    std::pair<int, int> Place() const
+    {
+        return {m_control.GetFirstVisibleLine(1), m_control.GetXOffset(1)};
+    }
+
+    // Not once somebody has scrolled it since.
     void Scroll()
     {
-        if (m_control.GetSafeHwnd() == parent()) {
+        if (m_control.GetSafeHwnd() == parent() && Place() == m_place) {
             m_control.SetXOffset(0, 1);
             m_control.ScrollCaret(1);
         }
@@ -70,6 +77,7 @@ private:
     }
 
     CZNCoreEditorControlEx& m_control;
+    std::pair<int, int> m_place; // as it was shown
 };
 
 } // namespace

@@ -291,6 +291,16 @@ TEST_F(EditorFace, BringsACaretFarInAWrappedLineIntoTheMiddle)
     EXPECT_NEAR(static_cast<double>(row), control.LinesOnScreen(1) / 2.0, 1.0);
 }
 
+TEST_F(EditorFace, StaysWhereItIsScrolledToAsSoonAsItIsShown)
+{
+    editor.resize(400, 300);
+    editor.setText(QStringLiteral("select 1;\n").repeated(300));
+    editor.show();
+    control.LineScroll(0, 100, 1);
+    QApplication::processEvents();
+    EXPECT_EQ(control.GetFirstVisibleLine(1), 100);
+}
+
 TEST_F(EditorFace, ShowsTheStartOfItsLinesThoughItWasGivenACaretBefore)
 {
     editor.setLineNumbersVisible(true);
