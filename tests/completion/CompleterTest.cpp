@@ -342,6 +342,18 @@ TEST_F(CompleterTest, HasItsRowsForAssistiveTechnology)
     EXPECT_TRUE(list->child(1)->state().selected);
 }
 
+TEST_F(CompleterTest, StaysClosedBehindAWordThatWasChosen)
+{
+    m_editor.setCompletesWhileTyping(true);
+    Show(QStringLiteral("customer_name customer_names |"));
+    Type("cus");
+    ASSERT_TRUE(IsOpen());
+    Press(Qt::Key_Tab);
+    QApplication::processEvents();
+    EXPECT_EQ(m_editor.text(), QStringLiteral("customer_name customer_names customer_name"));
+    EXPECT_FALSE(IsOpen());
+}
+
 TEST_F(CompleterTest, ShowsWhatARoutineOfTheScriptTakes)
 {
     m_editor.setCompletesWhileTyping(true);

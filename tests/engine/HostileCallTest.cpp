@@ -538,3 +538,27 @@ TEST(HostileCalls, StepsBeforeAChangeThatWasNotCollectedAreNotUndone)
     engine.Send(msg::AppendText, 1, u"b"); // which a stock engine refuses from then on
     EXPECT_EQ(engine.Text(), u"a b");
 }
+
+TEST(HostileCalls, StepsBeforeTextThatWasPutInFrontAndNotCollectedAreNotUndone)
+{
+    EngineUnderTest engine;
+    engine.SetText(u"");
+    engine.Send(msg::InsertText, 0, u"abc");
+    engine.Send(msg::SetUndoCollection, 0);
+    engine.Send(msg::InsertText, 0, u"longer than that ");
+    engine.Send(msg::SetUndoCollection, 1);
+    EXPECT_NO_THROW(engine.Send(msg::Undo));
+    EXPECT_EQ(engine.Text(), u"longer than that abc");
+}
+
+TEST(HostileCalls, StepsBeforeTextThatWasPutInBehindAndNotCollectedAreUndone)
+{
+    EngineUnderTest engine;
+    engine.SetText(u"");
+    engine.Send(msg::InsertText, 0, u"abc");
+    engine.Send(msg::SetUndoCollection, 0);
+    engine.Send(msg::AppendText, 1, u"x");
+    engine.Send(msg::SetUndoCollection, 1);
+    engine.Send(msg::Undo);
+    EXPECT_EQ(engine.Text(), u"x");
+}

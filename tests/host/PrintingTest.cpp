@@ -193,6 +193,7 @@ TEST_F(PrintingScripts, OutlivesTheScriptInThePreview)
 {
     Open("a.sql", "select 1 from first;\n");
     int pages = 0;
+    QString title;
     QTimer::singleShot(0, [&] {
         auto* dialog = qobject_cast<QPrintPreviewDialog*>(QApplication::activeModalWidget());
         ASSERT_TRUE(dialog);
@@ -201,10 +202,12 @@ TEST_F(PrintingScripts, OutlivesTheScriptInThePreview)
         auto* preview = dialog->findChild<QPrintPreviewWidget*>();
         preview->setOrientation(QPageLayout::Landscape);
         pages = preview->pageCount();
+        title = dialog->windowTitle();
         dialog->reject();
     });
     Trigger("printPreview");
     EXPECT_LE(pages, 1);
+    EXPECT_EQ(title.toStdString(), "a.sql – print preview");
     EXPECT_EQ(m_window.TabCount(), 0);
 }
 
@@ -296,8 +299,11 @@ TEST_F(PrintingScripts, CopiesWhatRtfHasSignsForAsText)
     Open("a.sql", "a {b\\} \t;\r\n\xF0\x9F\x98\x80 end");
     Editor().SelectAll(1);
     QApplication::processEvents();
+    constexpr int kPlain = 32; // the style
+    Editor().StyleSetFont(kPlain, u"A \\ Face", 1);
     Trigger("copyWithColours");
     const QByteArray rtf = QGuiApplication::clipboard()->mimeData()->data("text/rtf");
+    EXPECT_TRUE(rtf.contains(" A \\\\ Face;")) << rtf.toStdString();
     for (const char* part : {"\\{", "\\\\", "\\}", "\\tab ", "\\par\n", "\\u-10179?\\u-8704?"})
         EXPECT_TRUE(rtf.contains(part)) << part << " in " << rtf.toStdString();
     EXPECT_EQ(rtf.count('{') - rtf.count("\\{"), rtf.count('}') - rtf.count("\\}"));

@@ -31,6 +31,15 @@ TEST(Symbols, AreWhatAScriptCreates)
                      "  Parameter @q at @q"}));
 }
 
+TEST(Symbols, StandInNothingButWhatHasColumnsOrParameters)
+{
+    EXPECT_EQ(SymbolsIn("create table t (n int);\ncreate schema s;\ncreate type y as (m int);\n"
+                        "create sequence q;\ncreate index i on t (n);\n",
+                        "PostgreSQL"),
+              (Lines{"Table t at t", "  Column n at n", "Schema s at s", "Type y at y",
+                     "Sequence q at q", "Index i at i"}));
+}
+
 TEST(Symbols, AreTheStepsThatItAnnounces)
 {
     EXPECT_EQ(SymbolsIn("print 'one'\ncreate view v as select 1\n  PRINT N'two'\n", "Transact-SQL"),

@@ -169,6 +169,20 @@ TEST_F(LooksTest, ShowTheLinesOfAReplacementInAllOfAText)
         EXPECT_TRUE(control.MarkerGet(line, 1) & kChanged) << line;
 }
 
+TEST_F(LooksTest, ShowEachLineThatOneStepTakesFrom)
+{
+    Put(QStringLiteral("one\ntwo\nthree\n"));
+    control.BeginUndoAction(1);
+    for (const long start : {8, 0}) {
+        control.SetSel(start, start + 1, 1);
+        control.Clear(1);
+    }
+    control.EndUndoAction(1);
+    EXPECT_TRUE(control.MarkerGet(0, 1) & kChanged);
+    EXPECT_FALSE(control.MarkerGet(1, 1) & kChanged);
+    EXPECT_TRUE(control.MarkerGet(2, 1) & kChanged);
+}
+
 TEST_F(LooksTest, ShowNoLineOfATextThatNobodyCanUndo)
 {
     Put(QStringLiteral("one\ntwo\n"));
@@ -428,6 +442,16 @@ TEST_F(LooksOfTwoPanes, GoWithThePane)
     EXPECT_TRUE(Becomes([&] { return !IsMarked(kOccurrences, 19); }));
 }
 
+TEST_F(LooksTest, LightUpAnOccurrenceThatIsTypedElsewhere)
+{
+    Put(QStringLiteral("stock from\n"));
+    control.GotoPos(2, 1);
+    ASSERT_TRUE(Becomes([&] { return IsMarked(kStatement, 0); })); // the text rests
+    control.InsertText(11, u"stock", 1);
+    ASSERT_EQ(control.GetCurrentPos(1), 2);
+    EXPECT_TRUE(Becomes([&] { return IsMarked(kOccurrences, 12); }));
+}
+
 // What is lit is no change that has it lit again.
 TEST_F(LooksTest, RestOnceTheTextDoes)
 {
@@ -446,9 +470,9 @@ TEST_F(LooksTest, DrawTabsAsThinArrows)
     Put(QStringLiteral("\t\tx\n"));
     control.SetCaretLineVisible(0, 1);
     control.GotoPos(4, 1);
-    const auto rowsOfTab = [this] {
-        const auto left = static_cast<int>(control.PointXFromPosition(0, 1));
-        const auto right = static_cast<int>(control.PointXFromPosition(1, 1));
+    const auto rowsOfTab = [this](long tab) {
+        const auto left = static_cast<int>(control.PointXFromPosition(tab, 1));
+        const auto right = static_cast<int>(control.PointXFromPosition(tab + 1, 1));
         const QImage picture = Window().grab().toImage();
         QSet<int> rows;
         for (int y = 0; y < control.TextHeight(0, 1); ++y) {
@@ -459,10 +483,12 @@ TEST_F(LooksTest, DrawTabsAsThinArrows)
         }
         return rows.size();
     };
-    EXPECT_EQ(rowsOfTab(), 0);
+    EXPECT_EQ(rowsOfTab(0), 0);
     control.SetViewWS(1, 1);
-    EXPECT_GE(rowsOfTab(), 3);
-    EXPECT_LE(rowsOfTab(), control.TextHeight(0, 1) / 2);
+    for (const long tab : {0, 1}) {
+        EXPECT_GE(rowsOfTab(tab), 3) << tab;
+        EXPECT_LE(rowsOfTab(tab), control.TextHeight(0, 1) / 2) << tab;
+    }
 }
 
 // Of a line that is scrolled below them.

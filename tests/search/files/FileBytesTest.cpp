@@ -110,6 +110,21 @@ TEST_F(FileBytes, OfALongLineAreOneMatchUpToTheLastOneThatFits)
     EXPECT_EQ(found.files.at(path).matches[0].length, text.size() - 100);
 }
 
+// More of each than a byte can count, wherever the counting begins in them.
+TEST_F(FileBytes, OfManyLinesAndWideCharactersAreAllCounted)
+{
+    for (int before = 0; before < 16; ++before) {
+        const QByteArray lines(10000, '\n');
+        const QByteArray wide = QByteArray("\xF0\x9F\x98\x80").repeated(10000);
+        const QString path =
+            Write("a.sql", "\xEF\xBB\xBF" + QByteArray(before, 'x') + lines + wide + "here");
+        const Collector found = Search(For("here"));
+        ASSERT_EQ(found.totals.matches, 1);
+        EXPECT_EQ(found.files.at(path).matches[0].line, 10000);
+        EXPECT_EQ(found.files.at(path).matches[0].column, 20000);
+    }
+}
+
 TEST_F(FileBytes, OfTheCodePageAreTextOverManyPieces)
 {
     QByteArray text = QByteArray("W\xF6rter, W\xF6rter\n").repeated(200000);
