@@ -141,6 +141,24 @@ TEST_F(FindInFilesInWindow, FollowsTheTextsThatAreEdited)
     EXPECT_TRUE(QTest::qWaitFor([this] { return Rows(0).size() == 3; })) << "once the text rests";
 }
 
+// Marks of encodings within a text are characters of it.
+TEST_F(FindInFilesInWindow, KeepsMarksThatTheTextsBeginWith)
+{
+    const QString text = QChar(0xFEFF) + QString("one two\n");
+    Write("a.sql", "\xEF\xBB\xBF" + text.toUtf8());
+    Open("b.sql", "");
+    Type(u"\xFEFFone two\n");
+    EXPECT_EQ(Text(), text);
+    Search("one");
+    ASSERT_EQ(Model().rowCount(), 2);
+    for (const int file : {0, 1})
+        EXPECT_EQ(Rows(file).value(0), "1:  " + text.trimmed()) << file;
+    Replace("1");
+    Trigger("save");
+    EXPECT_EQ(Read("a.sql"), "\xEF\xBB\xBF\xEF\xBB\xBF" + QByteArray("1 two\n"));
+    EXPECT_EQ(Text(), QChar(0xFEFF) + QString("1 two\n"));
+}
+
 TEST_F(FindInFilesInWindow, LooksAgainIntoAFileThatOthersHaveChanged)
 {
     Write("a.sql", "one\ntwo\n");

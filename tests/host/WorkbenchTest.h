@@ -10,6 +10,7 @@
 #include "host/script/ScriptView.h"
 #include "host/window/MainWindow.h"
 #include "host/window/Workbench.h"
+#include "platform/base/Units.h"
 #include "platform/windows/Disposal.h"
 #include "tests/host/ScriptedPrompts.h"
 
@@ -76,9 +77,10 @@ protected:
 
     QString Text() const
     {
-        std::u16string buffer(size_t(Editor().GetLength(1)) + 1, u'\0');
+        const long length = Editor().GetLength(1);
+        std::u16string buffer(size_t(length) + 1, u'\0');
         Editor().GetText(int(buffer.size()), buffer.data(), 1);
-        return QString::fromUtf16(buffer.c_str());
+        return FromUnits({buffer.data(), size_t(length)});
     }
 
     QAction& Action(const char* name) const
