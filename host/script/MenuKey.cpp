@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "host/script/MenuKey.h"
 
+#include <QAbstractScrollArea>
 #include <QContextMenuEvent>
 #include <QCoreApplication>
 #include <QKeyEvent>
@@ -9,6 +10,9 @@
 MenuKey::MenuKey(QWidget& window) : QObject(&window)
 {
     window.installEventFilter(this);
+    // The key asks the window, the mouse what the window shows its text in.
+    if (const auto* area = qobject_cast<QAbstractScrollArea*>(&window))
+        area->viewport()->installEventFilter(this);
 }
 
 // Qt makes an event of the menu key alone, and people also press Shift+F10.

@@ -3,6 +3,7 @@
 #include "platform/windows/ActionUI.h"
 #include "tests/host/WorkbenchTest.h"
 
+#include <QAbstractScrollArea>
 #include <QContextMenuEvent>
 #include <QMenu>
 #include <QTest>
@@ -63,6 +64,20 @@ TEST_F(ScriptMenu, ComesUpBelowTheCaretByItsKey)
                Editor().PointYFromPosition(14, 1) + Editor().TextHeight(1, 1)));
     EXPECT_EQ(menu->pos().x(), caret.x());
     EXPECT_LE(menu->pos().y(), caret.y()); // higher up where the screen ends
+}
+
+TEST_F(ScriptMenu, ComesUpAtThePointerByTheMouse)
+{
+    Editor().GotoPos(14, 1);
+    ASSERT_TRUE(Ask()); // by the key once, which is not to be kept in mind
+    Close();
+    QWidget* viewport = qobject_cast<QAbstractScrollArea*>(Editor().GetSafeHwnd())->viewport();
+    const QPoint pointer(150, 5);
+    QContextMenuEvent event(QContextMenuEvent::Mouse, pointer, viewport->mapToGlobal(pointer));
+    QApplication::sendEvent(viewport, &event);
+    const auto* menu = qobject_cast<QMenu*>(QApplication::activePopupWidget());
+    ASSERT_TRUE(menu);
+    EXPECT_EQ(menu->pos().x(), viewport->mapToGlobal(pointer).x());
 }
 
 TEST_F(ScriptMenu, ComesUpByShiftAndF10)
