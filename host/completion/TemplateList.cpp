@@ -1,15 +1,14 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "host/completion/TemplateList.h"
 
+#include "host/lists/ListKeys.h"
+
 #include <QFontDatabase>
 #include <QHBoxLayout>
-#include <QKeyEvent>
 #include <QLineEdit>
 #include <QListWidget>
 #include <QPlainTextEdit>
 #include <QVBoxLayout>
-
-#include <algorithm>
 
 namespace {
 
@@ -26,7 +25,6 @@ TemplateList::TemplateList(std::vector<completion::CodeTemplate> templates, QWid
     setAccessibleName(tr("Templates"));
     m_words->setPlaceholderText(tr("Type the name of a template, or first letters of it"));
     m_words->setAccessibleName(tr("Template"));
-    m_words->installEventFilter(this);
     m_list->setAccessibleName(tr("Templates"));
     m_list->setUniformItemSizes(true);
     m_text->setAccessibleName(tr("Text of the template"));
@@ -43,6 +41,7 @@ TemplateList::TemplateList(std::vector<completion::CodeTemplate> templates, QWid
     connect(m_words, &QLineEdit::textChanged, this, &TemplateList::Filter);
     connect(m_list, &QListWidget::currentRowChanged, this, &TemplateList::ShowMarked);
     connect(m_list, &QListWidget::itemClicked, this, &TemplateList::Choose);
+    new ListKeys(*m_words, *m_list, [this] { Choose(); }); // goes with the line
     Filter({});
     constexpr QSize kSize(720, 380);
     resize(kSize);
@@ -84,25 +83,4 @@ void TemplateList::Choose()
     const completion::CodeTemplate made = *marked;
     close();
     Q_EMIT Chosen(made);
-}
-
-bool TemplateList::eventFilter(QObject* watched, QEvent* event)
-{
-    if (event->type() != QEvent::KeyPress)
-        return QDialog::eventFilter(watched, event);
-    switch (static_cast<QKeyEvent*>(event)->key()) {
-    case Qt::Key_Return:
-    case Qt::Key_Enter:
-        Choose();
-        return true;
-    case Qt::Key_Up:
-    case Qt::Key_Down: {
-        const int step = static_cast<QKeyEvent*>(event)->key() == Qt::Key_Up ? -1 : 1;
-        m_list->setCurrentRow(
-            std::clamp(m_list->currentRow() + step, 0, std::max(m_list->count() - 1, 0)));
-        return true;
-    }
-    default:
-        return QDialog::eventFilter(watched, event);
-    }
 }

@@ -23,9 +23,6 @@ public:
 Q_SIGNALS:
     void Chosen(const completion::CodeTemplate& made); // behind the list, which is closed by then
 
-protected:
-    bool eventFilter(QObject* watched, QEvent* event) override;
-
 private:
     void Filter(const QString& words);
     void ShowMarked();

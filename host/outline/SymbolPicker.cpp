@@ -1,13 +1,12 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "host/outline/SymbolPicker.h"
 
+#include "host/lists/ListKeys.h"
+
 #include <QFrame>
-#include <QKeyEvent>
 #include <QLineEdit>
 #include <QListWidget>
 #include <QVBoxLayout>
-
-#include <algorithm>
 
 SymbolPicker::SymbolPicker(std::vector<Symbol> symbols, QWidget* parent)
     : QDialog(parent, Qt::Popup), m_symbols(std::move(symbols)), m_words(new QLineEdit(this)),
@@ -18,7 +17,6 @@ SymbolPicker::SymbolPicker(std::vector<Symbol> symbols, QWidget* parent)
     setAccessibleName(tr("Go to Symbol"));
     m_words->setPlaceholderText(tr("Type part of a name"));
     m_words->setAccessibleName(tr("Symbol"));
-    m_words->installEventFilter(this);
     m_list->setAccessibleName(tr("Symbols of the script"));
     m_list->setUniformItemSizes(true);
     auto* frame = new QFrame(this); // which sets the popup off against what it covers
@@ -31,6 +29,7 @@ SymbolPicker::SymbolPicker(std::vector<Symbol> symbols, QWidget* parent)
     layout->addWidget(m_list);
     connect(m_words, &QLineEdit::textChanged, this, &SymbolPicker::Filter);
     connect(m_list, &QListWidget::itemClicked, this, &SymbolPicker::Choose);
+    new ListKeys(*m_words, *m_list, [this] { Choose(); }); // goes with the line
     Filter({});
     constexpr QSize kSize(480, 360);
     resize(kSize);
@@ -61,22 +60,4 @@ void SymbolPicker::Choose()
     hide();
     Q_EMIT Chosen(symbol.start, symbol.end);
     close();
-}
-
-// The keys that walk through the list do so from the line above it.
-bool SymbolPicker::eventFilter(QObject* watched, QEvent* event)
-{
-    if (event->type() != QEvent::KeyPress)
-        return QDialog::eventFilter(watched, event);
-    const int key = static_cast<const QKeyEvent&>(*event).key();
-    if (key == Qt::Key_Return || key == Qt::Key_Enter) {
-        Choose();
-        return true;
-    }
-    if (key == Qt::Key_Up || key == Qt::Key_Down) {
-        m_list->setCurrentRow(std::clamp(m_list->currentRow() + (key == Qt::Key_Up ? -1 : 1), 0,
-                                         std::max(0, m_list->count() - 1)));
-        return true;
-    }
-    return QDialog::eventFilter(watched, event);
 }

@@ -20,9 +20,6 @@ public:
 Q_SIGNALS:
     void Chosen(long start, long end); // positions in the script
 
-protected:
-    bool eventFilter(QObject* watched, QEvent* event) override;
-
 private:
     void Filter(const QString& words);
     void Choose();

@@ -2,10 +2,10 @@
 #include "host/window/CommandPalette.h"
 
 #include "common/Translations.h"
+#include "host/lists/ListKeys.h"
 
 #include <QAction>
 #include <QFrame>
-#include <QKeyEvent>
 #include <QLineEdit>
 #include <QListWidget>
 #include <QMenu>
@@ -34,7 +34,6 @@ CommandPalette::CommandPalette(const QMenuBar& menus, QWidget* parent)
     setAccessibleName(tr("Commands"));
     m_words->setPlaceholderText(tr("Type what a command is called"));
     m_words->setAccessibleName(tr("Command"));
-    m_words->installEventFilter(this);
     m_list->setAccessibleName(tr("Commands"));
     m_list->setUniformItemSizes(true);
     auto* frame = new QFrame(this); // which sets the popup off against what it covers
@@ -48,6 +47,7 @@ CommandPalette::CommandPalette(const QMenuBar& menus, QWidget* parent)
     Collect(menus.actions(), {});
     connect(m_words, &QLineEdit::textChanged, this, &CommandPalette::Filter);
     connect(m_list, &QListWidget::itemClicked, this, &CommandPalette::Choose);
+    new ListKeys(*m_words, *m_list, [this] { Choose(); }); // goes with the line
     Filter({});
     constexpr QSize kSize(560, 360);
     resize(kSize);
@@ -99,25 +99,4 @@ void CommandPalette::Choose()
     close();
     if (action && action->isEnabled())
         QMetaObject::invokeMethod(action.data(), &QAction::trigger, Qt::QueuedConnection);
-}
-
-// The keys that walk through the list do so from the line above it.
-bool CommandPalette::eventFilter(QObject* watched, QEvent* event)
-{
-    if (event->type() != QEvent::KeyPress)
-        return QDialog::eventFilter(watched, event);
-    const auto& key = static_cast<const QKeyEvent&>(*event);
-    switch (key.key()) {
-    case Qt::Key_Return:
-    case Qt::Key_Enter:
-        Choose();
-        return true;
-    case Qt::Key_Up:
-    case Qt::Key_Down:
-        m_list->setCurrentRow(std::clamp(m_list->currentRow() + (key.key() == Qt::Key_Up ? -1 : 1),
-                                         0, m_list->count() - 1));
-        return true;
-    default:
-        return QDialog::eventFilter(watched, event);
-    }
 }

@@ -21,9 +21,6 @@ public:
 
     void Choose(); // runs the command that is marked
 
-protected:
-    bool eventFilter(QObject* watched, QEvent* event) override;
-
 private:
     void Collect(const QList<QAction*>& actions, const QString& path);
     void Filter(const QString& words);

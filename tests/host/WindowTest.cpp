@@ -90,6 +90,29 @@ TEST_F(Windows, FindACommandByWordsOfItsName)
     EXPECT_EQ(Text(), QStringLiteral("b\na\n"));
 }
 
+TEST_F(Windows, WalkThroughTheCommandsFromTheLineAboveThem)
+{
+    m_window.ShowCommands();
+    auto* palette = m_window.findChild<QDialog*>(QStringLiteral("commandPalette"));
+    ASSERT_NE(palette, nullptr);
+    QApplication::processEvents();
+    auto* line = palette->findChild<QLineEdit*>();
+    const auto* list = palette->findChild<QListWidget*>();
+    const auto rowBehind = [&](Qt::Key key) {
+        QTest::keyClick(line, key);
+        return list->currentRow();
+    };
+    EXPECT_EQ(rowBehind(Qt::Key_Up), 0);
+    EXPECT_EQ(rowBehind(Qt::Key_Down), 1);
+    const int page = rowBehind(Qt::Key_PageDown);
+    EXPECT_GT(page, 5);
+    EXPECT_EQ(rowBehind(Qt::Key_Up), page - 1);
+    EXPECT_LT(rowBehind(Qt::Key_PageUp), 5);
+    line->setText(QStringLiteral("no such command"));
+    EXPECT_EQ(rowBehind(Qt::Key_Down), -1);
+    palette->close();
+}
+
 TEST_F(Windows, CountWhatIsSelected)
 {
     Open("one.sql", "select\n");
