@@ -50,6 +50,18 @@ protected:
     }
 };
 
+class BlocksStory : public HandsStory
+{
+protected:
+    QByteArray FirstText() const override { return "begin\n  begin\n    select 1;\n  end\nend\n"; }
+};
+
+class BatchesStory : public HandsStory
+{
+protected:
+    QByteArray FirstText() const override { return "select 1;\nGO\nselect 2;\nGO\nselect 3;\n"; }
+};
+
 } // namespace
 
 TEST_F(HandsStory, LinesAreMovedDoubledJoinedAndDeleted)
@@ -155,4 +167,46 @@ TEST_F(HandsStory, TheMiddleButtonClosesATab)
 {
     XDoTool({"mousemove", "--window", m_windowId, "30", "70", "click", "2"});
     EXPECT_TRUE(Eventually([this] { return Title() == "znworkbench"; })) << Title().toStdString();
+}
+
+TEST_F(HandsStory, TheStatementBeforeIsReached)
+{
+    Makes({"Down", "Down", "alt+Prior", "x"}, "select 1;\nxselect 2;\n");
+    Makes({"Down", "alt+Prior", "x"}, "xselect 1;\nselect 2;\n");
+}
+
+TEST_F(HandsStory, WhatIsPastedTakesTheIndentationOfTheCaret)
+{
+    Keys({"ctrl+Home", "ctrl+l", "ctrl+l", "ctrl+c", "ctrl+End", "Tab", "ctrl+shift+v"});
+    Holds("select 1;\nselect 2;\n    select 1;\n    select 2;\n");
+    Keys({"ctrl+z"});
+    Holds("select 1;\nselect 2;\n    ");
+}
+
+TEST_F(HandsStory, AMacroIsRecordedAndPlayedByKeys)
+{
+    Keys({"ctrl+Home", "ctrl+shift+r"});
+    Type("a,");
+    Keys({"ctrl+shift+r", "End", "ctrl+shift+p"});
+    Holds("a,select 1;a,\nselect 2;\n");
+}
+
+TEST_F(BlocksStory, FoldsOfALevelAreClosedAndAllAreOpened)
+{
+    Keys({"ctrl+Home", "ctrl+alt+1", "Down", "Down"});
+    Type("-- ");
+    Holds("begin\n  begin\n    select 1;\n  end\n-- end\n"); // an END is of its block
+    Keys({"ctrl+z", "ctrl+alt+9", "ctrl+Home", "Down", "Down"});
+    Type("-- ");
+    Holds("begin\n  begin\n--     select 1;\n  end\nend\n");
+}
+
+TEST_F(BatchesStory, AreWalkedThroughBothWays)
+{
+    Keys({"ctrl+Home", "ctrl+alt+Next"});
+    Type("x");
+    Holds("select 1;\nGO\nxselect 2;\nGO\nselect 3;\n");
+    Keys({"ctrl+alt+Next", "ctrl+alt+Prior"});
+    Type("y");
+    Holds("select 1;\nGO\nyxselect 2;\nGO\nselect 3;\n");
 }

@@ -17,11 +17,13 @@ protected:
     void SetUp() override
     {
         ASSERT_FALSE(qEnvironmentVariableIsEmpty("DISPLAY"));
-        Write("select 1;\nselect 2;\n");
+        Write(FirstText());
         m_workbench.setProcessEnvironment(OwnPlaces(m_folder.path()));
         m_workbench.setProcessChannelMode(QProcess::ForwardedChannels);
         ASSERT_NO_FATAL_FAILURE(Start({Path()}));
     }
+
+    virtual QByteArray FirstText() const { return "select 1;\nselect 2;\n"; }
 
     void Start(const QStringList& words)
     {
