@@ -164,13 +164,26 @@ void EngineWindow::OnModified(int position, int type, const char* /*text*/, int 
                               int /*linesAdded*/, int line, int foldNow, int foldPrev, int token,
                               int annotationLinesAdded)
 {
+    if (type & (SC_MOD_BEFOREINSERT | SC_MOD_BEFOREDELETE))
+        m_place.EndSoon();
     m_engine.reporter.OnModified(position, type, length, line, foldNow, foldPrev, token,
                                  annotationLinesAdded);
 }
 
 LRESULT EngineWindow::Direct(LRESULT instance, UINT message, WPARAM wParam, LPARAM lParam)
 {
-    return reinterpret_cast<EngineWindow*>(instance)->m_engine.Perform(message, wParam, lParam);
+    return reinterpret_cast<EngineWindow*>(instance)->Answer(message, wParam, lParam);
+}
+
+// Between two lines the stock engine has one more of them.
+LRESULT EngineWindow::Answer(UINT message, WPARAM wParam, LPARAM lParam)
+{
+    if (!m_place.IsBetweenLines())
+        return m_engine.Perform(message, wParam, lParam);
+    if (PixelPlace::IsEndedBy(message))
+        m_place.End();
+    const bool isOneMore = message == message::LinesOnScreen && m_place.IsBetweenLines();
+    return m_engine.Perform(message, wParam, lParam) - (isOneMore ? 1 : 0);
 }
 
 LRESULT EngineWindow::Procedure(HWND window, UINT message, WPARAM wParam, LPARAM lParam)
@@ -186,12 +199,13 @@ LRESULT EngineWindow::Procedure(HWND window, UINT message, WPARAM wParam, LPARAM
         self->m_scrollReports.Scroll(message, wParam);
         return 0;
     }
-    return self->m_engine.Perform(message, wParam, lParam);
+    return self->Answer(message, wParam, lParam);
 }
 
 bool EngineWindow::event(QEvent* event)
 {
     platform::ClearUpperHalves();
+    m_place.See(*event);
     return TellAfter(m_engine, [&] { return QsciScintillaBase::event(event); });
 }
 
@@ -202,14 +216,10 @@ bool EngineWindow::viewportEvent(QEvent* event)
         m_engine.EndEraseRun();
     if (event->type() == QEvent::Leave)
         m_engine.looks.MouseLeft();
+    m_place.SeeInside(*event);
     return TellAfter(m_engine, [&] {
-        return m_fineScroll.Swing(*event, LineHeight()) || QsciScintillaBase::viewportEvent(event);
+        return m_fineScroll.Touch(*event) || QsciScintillaBase::viewportEvent(event);
     });
-}
-
-int EngineWindow::LineHeight() const
-{
-    return static_cast<int>(m_engine.raw.Send(Sci::SCI_TEXTHEIGHT));
 }
 
 QMimeData* EngineWindow::toMimeData(const QByteArray& text, bool rectangular) const
@@ -516,12 +526,11 @@ void EngineWindow::wheelEvent(QWheelEvent* event)
 {
     const bool zooms = event->modifiers().testFlag(Qt::ControlModifier);
     if (!zooms && !event->modifiers().testFlag(Qt::ShiftModifier)) {
-        if (m_fineScroll.Turn(*event, LineHeight()))
-            event->accept();
-        else
+        if (!m_fineScroll.Turn(*event))
             QsciScintillaBase::wheelEvent(event);
         return;
     }
+    m_place.End();
     const QPointer<EngineWindow> alive(this);
     bool isTaken = zooms;
     m_turn += event->angleDelta().y();

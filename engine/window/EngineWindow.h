@@ -8,6 +8,7 @@
 #include "engine/window/Carets.h"
 #include "engine/window/FineScroll.h"
 #include "engine/window/InputMethod.h"
+#include "engine/window/PixelPlace.h"
 #include "engine/window/ScrollReports.h"
 
 #include <QMimeData>
@@ -60,7 +61,7 @@ private:
     void PressKey(QKeyEvent* event);
     bool IsFar(QPoint point, bool makesColumns) const;
     void PressFar(const QMouseEvent& event);
-    int LineHeight() const;
+    LRESULT Answer(UINT message, WPARAM wParam, LPARAM lParam);
     bool TypeInLongLine(const QKeyEvent& event);
     bool IsTurnTaken(const QWheelEvent& event, int step);
 
@@ -68,7 +69,9 @@ private:
     InputMethod m_inputMethod{m_engine};
     Carets m_carets{m_engine.raw};
     ScrollReports m_scrollReports{*this};
-    FineScroll m_fineScroll{*this};
+    PixelPlace m_place{*this, m_engine.raw,
+                       [this](int top, int bottom) { setViewportMargins(0, top, 0, bottom); }};
+    FineScroll m_fineScroll{*this, m_place};
     bool m_addsCaret = false; // the button that is down
     bool m_isDropping = false;
     int m_turn = 0; // of the wheel, beyond its last whole step

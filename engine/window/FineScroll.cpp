@@ -1,8 +1,10 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "engine/window/FineScroll.h"
 
+#include "engine/window/PixelPlace.h"
+
 #include <QAbstractScrollArea>
-#include <QGuiApplication>
+#include <QApplication>
 #include <QInputDevice>
 #include <QMouseEvent>
 #include <QPointingDevice>
@@ -13,13 +15,22 @@
 #include <QStyleHints>
 #include <QWheelEvent>
 
-#include <algorithm>
+#include <chrono>
 
 namespace engine {
+namespace {
 
-FineScroll::FineScroll(QAbstractScrollArea& window) : m_window(window)
+// Momentum may follow the end of a movement. Touchpads that tell of no end pause.
+constexpr std::chrono::milliseconds kEnd(50);
+constexpr std::chrono::milliseconds kPause(150);
+
+} // namespace
+
+FineScroll::FineScroll(QAbstractScrollArea& window, PixelPlace& place)
+    : m_window(window), m_place(place)
 {
-    QScroller::grabGesture(window.viewport(), QScroller::TouchGesture);
+    window.viewport()->setAttribute(Qt::WA_AcceptTouchEvents);
+    window.viewport()->ungrabGesture(Qt::PanGesture); // two fingers' pixels would be lines
 }
 
 // A scroller asks the application as it goes. One of a window that outlives the application stays.
@@ -27,69 +38,115 @@ FineScroll::~FineScroll()
 {
     if (QCoreApplication::instance())
         return;
-    QObject::disconnect(m_window.viewport(), &QObject::destroyed, nullptr, nullptr);
-    if (auto* scroller = m_window.viewport()->findChild<QScroller*>())
+    disconnect(this, &QObject::destroyed, nullptr, nullptr);
+    if (auto* scroller = findChild<QScroller*>())
         scroller->setParent(nullptr);
 }
 
-bool FineScroll::Turn(const QWheelEvent& event, int lineHeight)
+// Many touchpads of X11 tell parts of a wheel's step alone.
+QPointF FineScroll::WayOf(const QWheelEvent& event) const
 {
-    const QPoint way = event.pixelDelta();
+    if (!event.pixelDelta().isNull())
+        return event.pixelDelta();
+    const QPointF steps = QPointF(event.angleDelta()) / QWheelEvent::DefaultDeltasPerStep *
+                          QApplication::wheelScrollLines();
+    return {steps.x() * m_window.horizontalScrollBar()->singleStep(),
+            steps.y() * m_place.LineHeight()};
+}
+
+bool FineScroll::Turn(QWheelEvent& event)
+{
     const bool isOfFingers = event.phase() != Qt::NoScrollPhase ||
                              event.device()->type() == QInputDevice::DeviceType::TouchPad;
-    if (!isOfFingers)
+    if (!isOfFingers) {
+        m_place.End();
         return false;
-    const bool turnsBack = way.y() != 0 && (way.y() > 0) != (m_rest > 0);
-    if (event.phase() == Qt::ScrollBegin || turnsBack)
-        m_rest = 0;
-    if (way.isNull())
-        return false;
-    m_rest += way.y();
-    const int lines = m_rest / std::max(1, lineHeight);
-    m_rest -= lines * lineHeight;
-    QScrollBar& down = *m_window.verticalScrollBar();
-    QScrollBar& across = *m_window.horizontalScrollBar();
-    down.setValue(down.value() - lines);
-    across.setValue(across.value() - way.x());
-    return true;
-}
-
-bool FineScroll::Swing(QEvent& event, int lineHeight)
-{
-    QScrollBar& down = *m_window.verticalScrollBar();
-    QScrollBar& across = *m_window.horizontalScrollBar();
-    if (event.type() == QEvent::ScrollPrepare) {
-        auto& prepare = static_cast<QScrollPrepareEvent&>(event);
-        prepare.setViewportSize(m_window.viewport()->size());
-        prepare.setContentPosRange(
-            QRectF(0, 0, across.maximum(), static_cast<qreal>(down.maximum()) * lineHeight));
-        prepare.setContentPos(
-            QPointF(across.value(), static_cast<qreal>(down.value()) * lineHeight));
-        event.accept();
-        return true;
     }
-    if (event.type() >= QEvent::TouchBegin && event.type() <= QEvent::TouchEnd)
-        return Touch(static_cast<QTouchEvent&>(event));
-    if (event.type() != QEvent::Scroll)
-        return false;
-    m_hasMoved = true;
-    const QPointF place = static_cast<QScrollEvent&>(event).contentPos();
-    down.setValue(qRound(place.y() / std::max(1, lineHeight)));
-    across.setValue(qRound(place.x()));
-    event.accept();
+    if (event.phase() == Qt::ScrollBegin)
+        m_rest = {};
+    m_rest += WayOf(event);
+    const QPoint way(static_cast<int>(m_rest.x()), static_cast<int>(m_rest.y()));
+    m_rest -= way;
+    event.setAccepted(Move(way));
+    if (event.phase() == Qt::ScrollEnd)
+        m_place.Rest(kEnd);
+    else if (event.phase() == Qt::NoScrollPhase)
+        m_place.Rest(kPause);
     return true;
 }
 
-// One that stays where it was is a click.
-bool FineScroll::Touch(QTouchEvent& event)
+bool FineScroll::Move(QPoint way)
 {
-    if (event.device()->type() != QInputDevice::DeviceType::TouchScreen || event.points().isEmpty())
+    QScrollBar& across = *m_window.horizontalScrollBar();
+    const int left = across.value();
+    across.setValue(left - way.x());
+    const bool hasMoved = way.y() != 0 && m_place.MoveTo(m_place.Top() - way.y());
+    return hasMoved || across.value() != left;
+}
+
+bool FineScroll::event(QEvent* event)
+{
+    if (event->type() == QEvent::ScrollPrepare)
+        Prepare(static_cast<QScrollPrepareEvent&>(*event));
+    else if (event->type() == QEvent::Scroll)
+        Swing(static_cast<QScrollEvent&>(*event));
+    else
+        return QObject::event(event);
+    event->accept();
+    return true;
+}
+
+void FineScroll::Prepare(QScrollPrepareEvent& event)
+{
+    m_place.Hold();
+    const QScrollBar& across = *m_window.horizontalScrollBar();
+    event.setViewportSize(m_window.size());
+    event.setContentPosRange(QRectF(0, 0, across.maximum(), static_cast<qreal>(m_place.Last())));
+    event.setContentPos(QPointF(across.value(), static_cast<qreal>(m_place.Top())));
+}
+
+void FineScroll::Swing(QScrollEvent& event)
+{
+    m_hasMoved = true;
+    m_place.MoveTo(qRound64(event.contentPos().y()));
+    m_window.horizontalScrollBar()->setValue(qRound(event.contentPos().x()));
+    if (event.scrollState() == QScrollEvent::ScrollFinished)
+        m_place.Rest(kEnd);
+}
+
+// The scroller counts in the window, since the viewport goes with the text. One finger that stays
+// where it was is a click.
+bool FineScroll::Touch(QEvent& event)
+{
+    if (event.type() == QEvent::TouchCancel) {
+        QScroller::scroller(this)->stop();
+        m_place.Rest(kEnd);
+    }
+    if (event.type() != QEvent::TouchBegin && event.type() != QEvent::TouchUpdate &&
+        event.type() != QEvent::TouchEnd)
+        return false;
+    const auto& touch = static_cast<const QTouchEvent&>(event);
+    if (touch.device()->type() != QInputDevice::DeviceType::TouchScreen || touch.points().isEmpty())
         return false;
     event.accept();
+    const QEventPoint& finger = touch.points().constFirst();
+    QScroller& scroller = *QScroller::scroller(this);
     if (event.type() == QEvent::TouchBegin)
-        m_hasMoved = false;
-    else if (event.type() == QEvent::TouchEnd && !m_hasMoved)
-        Tap(event.points().constFirst().position());
+        m_hasMoved = scroller.state() != QScroller::Inactive; // what it stops
+    if (touch.points().size() > 1) {
+        m_hasMoved = true;
+        scroller.stop();
+    } else {
+        scroller.handleInput(event.type() == QEvent::TouchBegin    ? QScroller::InputPress
+                             : event.type() == QEvent::TouchUpdate ? QScroller::InputMove
+                                                                   : QScroller::InputRelease,
+                             m_window.mapFromGlobal(finger.globalPosition()),
+                             static_cast<qint64>(touch.timestamp()));
+    }
+    if (scroller.state() == QScroller::Inactive)
+        m_place.Rest(kEnd);
+    if (event.type() == QEvent::TouchEnd && !m_hasMoved)
+        Tap(finger.position());
     return true;
 }
 
