@@ -50,12 +50,21 @@ QIcon ZNCoreEditorPlugin::icon() const
     return QIcon(picture);
 }
 
+// Texts and names that a form has are not for translators: each change of the program's language
+// would put them back.
 QString ZNCoreEditorPlugin::domXml() const
 {
     return QStringLiteral(
         "<ui language=\"c++\"><widget class=\"ZNCoreEditorWidget\" name=\"editor\">"
         "<property name=\"geometry\"><rect><x>0</x><y>0</y><width>400</width>"
-        "<height>300</height></rect></property></widget></ui>");
+        "<height>300</height></rect></property></widget>"
+        "<customwidgets><customwidget><class>ZNCoreEditorWidget</class>"
+        "<extends>QWidget</extends><header>ZNCoreEditor/ZNCoreEditorWidget.h</header>"
+        "<propertyspecifications>"
+        "<stringpropertyspecification name=\"text\" notr=\"true\" type=\"multiline\"/>"
+        "<stringpropertyspecification name=\"languageName\" notr=\"true\" type=\"singleline\"/>"
+        "<stringpropertyspecification name=\"scheme\" notr=\"true\" type=\"singleline\"/>"
+        "</propertyspecifications></customwidget></customwidgets></ui>");
 }
 
 QWidget* ZNCoreEditorPlugin::createWidget(QWidget* parent)

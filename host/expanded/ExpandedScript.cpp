@@ -6,7 +6,6 @@
 #include "editing/ZNCoreEditorWidget.h"
 #include "editing/language/Library.h"
 #include "host/script/ScriptDoc.h"
-#include "host/script/ScrollRange.h"
 #include "platform/base/Units.h"
 #include "preprocess/CompileManager.h"
 #include "preprocess/Leftovers.h"
@@ -118,7 +117,6 @@ void ExpandedScript::Expand(ScriptDoc& script, CZNCoreEditorControlEx& editor)
     control.SetReadOnly(1, 1);
     control.GotoPos(0, 1);
     control.SetScrollWidth(1, 1);
-    FitScrollRange();
     m_map = zncoreeditor::GetCompileManager()->GetSourceMap();
     m_goToSource->setEnabled(true);
     m_putBack->setEnabled(control.GetIncludeOrDefineDirectivesFound());
@@ -189,15 +187,6 @@ void ExpandedScript::OnNotified(const SCNotification& record)
 {
     if (record.nmhdr.code == notify::DoubleClick)
         GoToSource();
-    else if (record.nmhdr.code == notify::UpdateUi)
-        FitScrollRange();
-}
-
-void ExpandedScript::FitScrollRange()
-{
-    CZNCoreEditorControlEx& control = m_editor->control();
-    const int first = control.DocLineFromVisible(control.GetFirstVisibleLine(1), 1);
-    FitScrollWidth(control, first, first + control.LinesOnScreen(1));
 }
 
 void ExpandedScript::GoToSource()

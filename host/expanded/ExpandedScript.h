@@ -47,7 +47,6 @@ private:
     void ListErrors();
     void ListLeftovers();
     void ListLine(long line, const QString& message, QStyle::StandardPixmap icon);
-    void FitScrollRange(); // to the lines that are shown
     void Caption(const QString& what);
     void GoToSourceOf(long line);
 

@@ -6,13 +6,16 @@
 #include "control/LongLine.h"
 #include "editing/face/Private.h"
 #include "editing/operations/Macro.h"
+#include "editing/operations/ScrollRange.h"
 #include "looks/Schemes.h"
 #include "platform/windows/ActionUI.h"
 #include "platform/windows/Disposal.h"
 
+#include <QCoreApplication>
 #include <QEvent>
 #include <QLabel>
 #include <QMetaMethod>
+#include <QThread>
 #include <QVBoxLayout>
 
 #include <utility>
@@ -115,6 +118,8 @@ ZNCoreEditorWidget::ZNCoreEditorWidget(QWidget* parent) : QWidget(parent)
     d = std::make_unique<Private>(*this); // which connects to this widget: null until it is made
     auto* layout = new QVBoxLayout(this);
     layout->setContentsMargins(0, 0, 0, 0);
+    if (!d->IsInItsThread())
+        return;
     const HWND editor = CreateWindowOfClass(
         engine::kWindowClass, WS_CHILD | WS_CLIPCHILDREN | WS_HSCROLL | WS_VSCROLL | WS_VISIBLE,
         RECT{0, 0, 100, 100}, this);
@@ -134,6 +139,7 @@ ZNCoreEditorWidget::ZNCoreEditorWidget(QWidget* parent) : QWidget(parent)
     editor->setAccessibleName(tr("Text editor"));
     d->m_control->SubclassWindow(editor);
     new FirstShow(*d->m_control, *editor);
+    d->m_control->SetScrollWidth(1, 1);
     d->m_control->SetScheme(zncoreeditor::kDesktopScheme);
     d->m_told = d->CurrentSettings();
     d->m_index = new completion::LiveIndex(this);
@@ -254,10 +260,40 @@ void ZNCoreEditorWidget::Private::TellChanges()
         Q_EMIT q.charAdded(added[i]);
 }
 
+// Without an application there is no widget, and no thread of its windows.
+bool ZNCoreEditorWidget::Private::IsInItsThread() const
+{
+    const QCoreApplication* application = QCoreApplication::instance();
+    if (!application || QThread::currentThread() == application->thread())
+        return true;
+    qCritical("ZNCoreEditorWidget: an editor belongs to the GUI thread, and was used in another");
+    return false;
+}
+
+// The whole screen if it shows other lines, else the line that is typed in.
+void ZNCoreEditorWidget::Private::FitScrollRange()
+{
+    CZNCoreEditorControlEx& control = *m_control;
+    if (control.GetWrapMode(1) != 0)
+        return;
+    const std::array shown = {
+        static_cast<int>(control.GetFirstVisibleLine(1)), static_cast<int>(control.GetLineCount(1)),
+        static_cast<int>(control.LinesOnScreen(1)), static_cast<int>(control.TextHeight(0, 1))};
+    if (control.GetScrollWidth(1) == 1 || std::exchange(m_measured, shown) != shown) {
+        m_measured = shown;
+        const int first = static_cast<int>(control.DocLineFromVisible(shown[0], 1));
+        FitScrollWidth(control, first, first + shown[2]);
+    } else {
+        const int line = q.cursorLine();
+        FitScrollWidth(control, line, line);
+    }
+}
+
 void ZNCoreEditorWidget::Private::TellUpdate()
 {
     const Lifetime alive(*this);
     m_isUpdated = false;
+    FitScrollRange();
     const long caret = m_control->GetCurrentPos(1);
     const long anchor = m_control->GetAnchor(1);
     const bool hasMoved = caret != m_caret;

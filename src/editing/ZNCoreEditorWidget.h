@@ -33,7 +33,8 @@ struct SCNotification;
 /// outside of the text is taken for the nearest inside. A value that is not one of a property's
 /// (a language that there is not) changes nothing, and the setter gives false where it gives
 /// anything. Files are handled with care: see control/ZNCoreEditorControl.h, SetCarefulFiles.
-/// Without an engine the widget shows why there is none, and every answer is empty.
+/// Without an engine the widget shows why there is none, and every answer is empty. It belongs to
+/// the GUI thread: elsewhere it is made without an engine, changes nothing and says so on stderr.
 ///
 /// Each signal of a change comes once for an operation, a message of the control or an event, when
 /// that is over: the text is whole, and a slot may delete the widget. What tells of the caret and
@@ -41,7 +42,7 @@ struct SCNotification;
 class ZN_API ZNCoreEditorWidget : public QWidget
 {
     Q_OBJECT
-    Q_PROPERTY(QString text READ text WRITE setText NOTIFY textChanged USER true)
+    Q_PROPERTY(QString text READ text WRITE setPlainText NOTIFY textChanged USER true)
     Q_PROPERTY(bool modified READ isModified WRITE setModified NOTIFY modificationChanged)
     Q_PROPERTY(bool readOnly READ isReadOnly WRITE setReadOnly NOTIFY readOnlyChanged)
     Q_PROPERTY(QString languageName READ languageName WRITE setLanguageName NOTIFY languageChanged)
@@ -153,8 +154,12 @@ public:
 
     /// All of it.
     QString text() const;
-    /// Undoable; the save point stays where it was.
+    /// Undoable; the save point stays where it was. As setPlainText, insertPlainText,
+    /// appendPlainText and clear it changes a read-only text, too: that keeps people from it.
     void setText(const QString& text);
+    /// Another text, which counts as saved. Nothing of the one before can be taken back. The
+    /// property does this, so that a form begins unmodified.
+    void setPlainText(const QString& text);
     /// The part of the text; less of it where the text ends before.
     QString textOf(Range range) const;
     /// In units.
@@ -167,7 +172,8 @@ public:
     /// False makes the text, as it is, the one that counts as saved. True does nothing: only the
     /// text can differ.
     void setModified(bool modified);
-    /// Whether people are kept from changing the text, and so are all operations but an open.
+    /// Whether people are kept from changing the text, and so are all operations but an open and
+    /// those that say other.
     bool isReadOnly() const;
     /// Keeps the text as it is, or no longer.
     void setReadOnly(bool readOnly);
@@ -321,11 +327,11 @@ public:
     void setZoom(int points);
     /// NoWrap, unless the options or the host say other.
     LineWrapMode lineWrapMode() const;
-    /// Of this editor, until its language changes.
+    /// Of this editor, whatever its language.
     void setLineWrapMode(LineWrapMode mode);
     /// In the margin.
     bool areLineNumbersVisible() const;
-    /// Shows or hides them.
+    /// Shows or hides them, whatever the language.
     void setLineNumbersVisible(bool visible);
     /// @}
 

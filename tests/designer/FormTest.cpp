@@ -3,7 +3,10 @@
 #include "editing/ZNCoreEditorWidget.h"
 
 #include <QBuffer>
+#include <QMetaProperty>
+#include <QPluginLoader>
 #include <QUiLoader>
+#include <QtUiPlugin/QDesignerCustomWidgetInterface>
 
 #include <gtest/gtest.h>
 
@@ -47,6 +50,31 @@ TEST(DesignerForm, MakesTheEditorWithItsProperties)
     EXPECT_EQ(script->languageName(), QStringLiteral("Transact-SQL"));
     EXPECT_EQ(script->lineWrapMode(), ZNCoreEditorWidget::LineWrapMode::WidgetWidth);
     EXPECT_TRUE(script->isReadOnly());
+}
+
+// What Designer puts down when the editor is dragged onto a form, and what it asks of its texts.
+TEST(DesignerForm, MarksTextsThatAreNotForTranslators)
+{
+    QPluginLoader plugin(QStringLiteral(ZN_PLUGINS "/zncoreeditor_designer.so"));
+    const auto* widget = qobject_cast<QDesignerCustomWidgetInterface*>(plugin.instance());
+    ASSERT_NE(widget, nullptr) << plugin.errorString().toStdString();
+    QByteArray form = widget->domXml().toUtf8();
+    QBuffer buffer(&form);
+    QUiLoader loader;
+    loader.clearPluginPaths();
+    loader.addPluginPath(QStringLiteral(ZN_PLUGINS));
+    const std::unique_ptr<QWidget> made(loader.load(&buffer));
+    ASSERT_NE(qobject_cast<ZNCoreEditorWidget*>(made.get()), nullptr);
+    EXPECT_EQ(made->size(), QSize(400, 300));
+    const QMetaObject& meta = ZNCoreEditorWidget::staticMetaObject;
+    for (int i = meta.propertyOffset(); i < meta.propertyCount(); ++i) {
+        const QMetaProperty property = meta.property(i);
+        const QString row =
+            QStringLiteral("<stringpropertyspecification name=\"%1\" notr=\"true\"");
+        EXPECT_EQ(widget->domXml().contains(row.arg(QLatin1String(property.name()))),
+                  property.metaType() == QMetaType::fromType<QString>())
+            << property.name();
+    }
 }
 
 } // namespace

@@ -193,4 +193,24 @@ TEST_F(LibraryInAFolder, WithoutAnEngineOpensAndSavesNothingAndTellsWhy)
     }
 }
 
+// Each answer ends, and is empty.
+TEST_F(LibraryInAFolder, WithoutAnEngineHasAFaceThatAnswersNothing)
+{
+    WriteConfig(kConfig);
+    ASSERT_TRUE(QFile::remove(Path(QStringLiteral("libZNBaseEditor.so"))));
+    const QString told = Run({QStringLiteral("face")});
+    EXPECT_TRUE(told.contains(QStringLiteral("face: \n"))) << told.toStdString();
+}
+
+TEST_F(LibraryInAFolder, WithoutSettingsHasAnEditorOfPlainTextAndSaysSo)
+{
+    const QString told = Run({QStringLiteral("face")});
+    EXPECT_TRUE(told.contains(QStringLiteral(" undo problems"))) << told.toStdString();
+    EXPECT_EQ(m_errors.count(QStringLiteral("settings cannot be read")), 1);
+    WriteConfig(kConfig);
+    ASSERT_TRUE(QDir(Path(QStringLiteral("Syntax"))).removeRecursively());
+    Run({QStringLiteral("face")});
+    EXPECT_EQ(m_errors.count(QStringLiteral("languages have no files")), 1);
+}
+
 } // namespace

@@ -44,7 +44,7 @@ public:
     // The first match between the two, backwards if they stand so.
     std::optional<Range> Between(long from, long to)
     {
-        if (m_text.isEmpty())
+        if (m_text.isEmpty() || !m_control.GetSafeHwnd())
             return std::nullopt;
         m_control.SetTargetStart(from, 1);
         m_control.SetTargetEnd(to, 1);

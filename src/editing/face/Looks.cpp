@@ -49,15 +49,19 @@ bool ZNCoreEditorWidget::setLanguage(int language)
     if (language < 0 || language >= zncoreeditor::GetFileTypeManager()->GetLanguageCount())
         return false;
     return d->Run([=, this](CZNCoreEditorControlEx& control) {
+        d->KeepOwn();
         control.InitializeLanguage(language, 1);
-        d->ApplyFont();
+        d->ApplyOwn();
         return true;
     });
 }
 
 QString ZNCoreEditorWidget::languageName() const
 {
-    return zncoreeditor::GetFileTypeManager()->GetLanguageName(language());
+    const CFileTypeManager& manager = *zncoreeditor::GetFileTypeManager();
+    const int number = language();
+    return number >= 0 && number < manager.GetLanguageCount() ? manager.GetLanguageName(number)
+                                                              : QString();
 }
 
 bool ZNCoreEditorWidget::setLanguageName(const QString& name)
@@ -86,14 +90,27 @@ bool ZNCoreEditorWidget::setScheme(const QString& name)
         return false;
     return d->Run([&](CZNCoreEditorControlEx& control) {
         control.SetScheme(name);
-        d->ApplyFont();
+        d->ApplyOwn();
         return true;
     });
 }
 
-// A language brings a font for each of its styles, and a width of its tabs.
-void ZNCoreEditorWidget::Private::ApplyFont()
+// What a person has changed by a command since it was set is theirs.
+void ZNCoreEditorWidget::Private::KeepOwn()
 {
+    if (m_wraps)
+        m_wraps = m_control->GetWrapMode(1) != 0;
+    if (m_hasNumbers)
+        m_hasNumbers = m_control->IsVisibleLineNumber();
+}
+
+// A language brings a font for each of its styles, a width of its tabs, and more.
+void ZNCoreEditorWidget::Private::ApplyOwn()
+{
+    if (m_wraps)
+        m_control->SetWrapMode(*m_wraps ? kWrapByWord : 0, 1);
+    if (m_hasNumbers)
+        m_control->SetVisibleLineNumber(*m_hasNumbers);
     if (m_tabWidth > 0)
         m_control->SetTabWidth(m_tabWidth, 1);
     if (!m_font)
@@ -124,7 +141,7 @@ void ZNCoreEditorWidget::setEditorFont(const QFont& font)
     d->m_font = font;
     if (font.pointSize() < 1) // set in pixels
         d->m_font->setPointSize(QFontInfo(font).pointSize());
-    d->ApplyFont();
+    d->ApplyOwn();
     Q_EMIT editorFontChanged();
 }
 
@@ -175,8 +192,9 @@ ZNCoreEditorWidget::LineWrapMode ZNCoreEditorWidget::lineWrapMode() const
 
 void ZNCoreEditorWidget::setLineWrapMode(LineWrapMode mode)
 {
-    d->Run([=](CZNCoreEditorControlEx& control) {
-        control.SetWrapMode(mode == LineWrapMode::WidgetWidth ? kWrapByWord : 0, 1);
+    d->Run([=, this](CZNCoreEditorControlEx& control) {
+        d->m_wraps = mode == LineWrapMode::WidgetWidth;
+        control.SetWrapMode(*d->m_wraps ? kWrapByWord : 0, 1);
         return 0;
     });
 }
@@ -188,7 +206,8 @@ bool ZNCoreEditorWidget::areLineNumbersVisible() const
 
 void ZNCoreEditorWidget::setLineNumbersVisible(bool visible)
 {
-    d->Run([=](CZNCoreEditorControlEx& control) {
+    d->Run([=, this](CZNCoreEditorControlEx& control) {
+        d->m_hasNumbers = visible;
         control.SetVisibleLineNumber(visible);
         return 0;
     });

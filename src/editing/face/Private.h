@@ -11,6 +11,7 @@
 #include <QList>
 #include <QPointer>
 
+#include <array>
 #include <memory>
 #include <optional>
 #include <string>
@@ -61,6 +62,8 @@ public:
     template <typename Operate>
     auto Run(Operate operate)
     {
+        if (!IsInItsThread())
+            return decltype(operate(*m_control)){};
         const Lifetime alive(*this);
         ++m_operations;
         const auto result = operate(*m_control);
@@ -71,6 +74,22 @@ public:
         return result;
     }
 
+    // A text that a host changes, while nobody else may.
+    template <typename Operate>
+    void Write(Operate operate)
+    {
+        Run([&](CZNCoreEditorControlEx& control) {
+            const bool isReadOnly = control.GetReadOnly(1) != 0;
+            if (isReadOnly)
+                control.SetReadOnly(0, 1);
+            operate(control);
+            if (isReadOnly)
+                control.SetReadOnly(1, 1);
+            return 0;
+        });
+    }
+
+    bool IsInItsThread() const; // tells where it is not
     int OnBeforeContextMenu(CWnd* window, CPoint point) override;
 
     LRESULT Notify(LPARAM lParam);
@@ -78,7 +97,9 @@ public:
     void TellChanges();
     void TellUpdate();
     void TellSettings(const Lifetime& alive);
-    void ApplyFont();
+    void KeepOwn();
+    void ApplyOwn();
+    void FitScrollRange();
     void MakeCommands();
     void AskForLine();
     void UpdateCommands();
@@ -119,7 +140,10 @@ public:
     bool m_records = false;      // a macro, unless the process has ended that
     std::optional<QFont> m_font; // that the host has set
     int m_tabWidth = 0;          // the same; 0: the language's
-    QList<QAction*> m_commands;  // made when they are asked for
+    std::optional<bool> m_wraps; // the same, or as a command has left it
+    std::optional<bool> m_hasNumbers;
+    std::array<int, 4> m_measured = {}; // what the range of the scroll bar was measured for
+    QList<QAction*> m_commands;         // made when they are asked for
 
     // What has been told.
     Settings m_told;

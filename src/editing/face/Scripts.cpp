@@ -126,6 +126,8 @@ ZNCoreEditorWidget::Range ZNCoreEditorWidget::batchAtCursor() const
 QList<int> ZNCoreEditorWidget::bookmarks() const
 {
     QList<int> lines;
+    if (!d->m_control->GetSafeHwnd()) // which would find one in each line of no text
+        return lines;
     for (auto line = d->m_control->MarkerNext(0, kBookmark, 1); line >= 0;
          line = d->m_control->MarkerNext(line + 1, kBookmark, 1))
         lines += static_cast<int>(line);

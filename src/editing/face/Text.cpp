@@ -23,18 +23,29 @@ void face::Enter(CZNCoreEditorControlEx& control, const QString& text)
 
 QString ZNCoreEditorWidget::text() const
 {
-    return d->m_control->GetText();
+    return d->IsInItsThread() ? d->m_control->GetText() : QString();
 }
 
 void ZNCoreEditorWidget::setText(const QString& text)
 {
-    d->Run([&](CZNCoreEditorControlEx& control) {
+    d->Write([&](CZNCoreEditorControlEx& control) {
         control.BeginUndoAction(1);
         control.ClearAll(1);
         control.AddTextNoProcess(static_cast<int>(text.size()), Units(text), 1);
         control.SetSel(0, 0, 1);
         control.EndUndoAction(1);
-        return 0;
+        control.SetScrollWidth(1, 1);
+    });
+}
+
+void ZNCoreEditorWidget::setPlainText(const QString& text)
+{
+    d->Write([&](CZNCoreEditorControlEx& control) {
+        control.SetUndoCollection(0, 1);
+        setText(text);
+        control.SetUndoCollection(1, 1);
+        control.EmptyUndoBuffer(1);
+        control.SetSavePoint(1);
     });
 }
 
@@ -224,14 +235,19 @@ QString ZNCoreEditorWidget::wordUnderCursor() const
 
 FileResult ZNCoreEditorWidget::open(const QString& path)
 {
+    if (!d->IsInItsThread())
+        return {FileProblem::NoEngine, path};
     return d->Run([&](CZNCoreEditorControlEx& control) {
         control.OpenFile(Units(path), FileEncodeConverter::encUnknown);
+        control.SetScrollWidth(1, 1);
         return control.GetFileResult();
     });
 }
 
 FileResult ZNCoreEditorWidget::save(const QString& path)
 {
+    if (!d->IsInItsThread())
+        return {FileProblem::NoEngine, path};
     return d->Run([&](CZNCoreEditorControlEx& control) {
         control.SaveFile(Units(path), true);
         return control.GetFileResult();
@@ -246,7 +262,9 @@ std::optional<LostCharacter> ZNCoreEditorWidget::lostBySaving() const
 bool ZNCoreEditorWidget::openFile(const QString& path)
 {
     return d->Run([&](CZNCoreEditorControlEx& control) {
-        return control.OpenFile(Units(path), FileEncodeConverter::encUnknown);
+        const bool isOpen = control.OpenFile(Units(path), FileEncodeConverter::encUnknown);
+        control.SetScrollWidth(1, 1);
+        return isOpen;
     });
 }
 
@@ -342,7 +360,7 @@ void ZNCoreEditorWidget::paste()
 
 void ZNCoreEditorWidget::clear()
 {
-    d->m_control->ClearAll(1);
+    d->Write([](CZNCoreEditorControlEx& control) { control.ClearAll(1); });
 }
 
 void ZNCoreEditorWidget::selectAll()
@@ -352,19 +370,16 @@ void ZNCoreEditorWidget::selectAll()
 
 void ZNCoreEditorWidget::insertPlainText(const QString& text)
 {
-    d->Run([&](CZNCoreEditorControlEx& control) {
+    d->Write([&](CZNCoreEditorControlEx& control) {
         control.BeginUndoAction(1);
         face::Enter(control, text);
         control.EndUndoAction(1);
-        return 0;
     });
 }
 
 void ZNCoreEditorWidget::appendPlainText(const QString& text)
 {
-    if (isReadOnly())
-        return;
-    d->Run([&](CZNCoreEditorControlEx& control) {
+    d->Write([&](CZNCoreEditorControlEx& control) {
         constexpr const char16_t* kEnds[] = {u"\n", u"\r\n", u"\r", u"\n"}; // by the mode
         const QString end = QString(reinterpret_cast<const QChar*>(kEnds[control.GetEOLMode(1)]));
         QString lines = text;
@@ -375,6 +390,5 @@ void ZNCoreEditorWidget::appendPlainText(const QString& text)
         control.BeginUndoAction(1);
         control.AppendText(static_cast<int>(lines.size()), Units(lines), 1);
         control.EndUndoAction(1);
-        return 0;
     });
 }

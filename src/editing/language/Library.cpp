@@ -11,6 +11,8 @@
 #include "platform/system/SpecialFolders.h"
 #include "settings/ConfigFile.h"
 
+#include <QFileInfo>
+
 namespace zncoreeditor {
 
 namespace {
@@ -34,8 +36,15 @@ public:
     {
         config.SetUserCopy(UserSettingsPath(kConfigName));
         configured = config.Parse();
-        if (configured)
-            languages.Init(&config);
+        if (!configured) {
+            qWarning("ZNCoreEditor: the settings cannot be read: %s",
+                     qPrintable(config.GetFilename()));
+            return;
+        }
+        languages.Init(&config);
+        if (const QString folder = GetAppPath() + QStringLiteral("Syntax");
+            !QFileInfo(folder).isDir())
+            qWarning("ZNCoreEditor: the languages have no files: %s", qPrintable(folder));
     }
 
     CConfigFile config;

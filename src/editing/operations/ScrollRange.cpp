@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-#include "host/script/ScrollRange.h"
+#include "editing/operations/ScrollRange.h"
 
 #include "control/ZNCoreEditorControl.h"
 
