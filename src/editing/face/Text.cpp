@@ -198,8 +198,11 @@ void ZNCoreEditorWidget::centerCursor()
 {
     CZNCoreEditorControlEx& control = *d->m_control;
     ensureCursorVisible();
+    const int height = control.TextHeight(0, 1);
+    if (height <= 0) // there is no window
+        return;
     // In the window: a line that is wrapped may have more rows than that.
-    const auto row = control.PointYFromPosition(cursorPosition(), 1) / control.TextHeight(0, 1);
+    const auto row = control.PointYFromPosition(cursorPosition(), 1) / height;
     control.LineScroll(0, static_cast<int>(row - control.LinesOnScreen(1) / 2), 1);
 }
 
