@@ -141,3 +141,12 @@ QIcon Style::standardIcon(StandardPixmap which, const QStyleOption* option,
         return QProxyStyle::standardIcon(which, option, widget);
     }
 }
+
+// So that an entry of a menu that cannot be taken can say why.
+int Style::styleHint(StyleHint hint, const QStyleOption* option, const QWidget* widget,
+                     QStyleHintReturn* more) const
+{
+    return hint == SH_Menu_AllowActiveAndDisabled
+               ? 1
+               : QProxyStyle::styleHint(hint, option, widget, more);
+}

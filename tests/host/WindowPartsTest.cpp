@@ -24,6 +24,7 @@
 #include <QMenu>
 #include <QMenuBar>
 #include <QMessageBox>
+#include <QStatusBar>
 #include <QStyleFactory>
 #include <QTest>
 #include <QToolBar>
@@ -133,6 +134,20 @@ TEST_F(WindowParts, StayReadableWhenTheColoursChangeUnderThem)
         EXPECT_GT(seen, 20);
     }
     appearance::SetCurrent(zncoreeditor::kDesktopScheme);
+    QApplication::setStyle(QStyleFactory::create("fusion"));
+}
+
+TEST_F(WindowParts, SayWhyAnEntryThatIsWalkedOntoCannotBeTaken)
+{
+    Style::Install();
+    Open("a.sql", "a");
+    auto* menu = m_window.menuBar()->actions().at(1)->menu();
+    menu->popup(QPoint());
+    QTest::keyClick(menu, Qt::Key_Down);
+    ASSERT_EQ(menu->activeAction(), &Action("undo"));
+    EXPECT_FALSE(Action("undo").isEnabled());
+    EXPECT_EQ(m_window.statusBar()->currentMessage(), "There is nothing to undo.");
+    menu->close();
     QApplication::setStyle(QStyleFactory::create("fusion"));
 }
 
