@@ -14,6 +14,20 @@
 
 #include <QCursor>
 
+namespace {
+
+// A line that is broken in front of a blank has that blank in its indentation, and the caret stays
+// in front of all of it: who types on would do so in column 0.
+void PutCaretBehindIndent(CZNCoreEditorControlEx& control)
+{
+    const long caret = control.GetCurrentPos(1);
+    const int line = control.LineFromPosition(caret, 1);
+    if (caret == control.PositionFromLine(line, 1) && !control.IsSelection())
+        control.GotoPos(control.GetLineIndentPosition(line, 1), 1);
+}
+
+} // namespace
+
 CZNCoreEditorControlExCallback::~CZNCoreEditorControlExCallback() = default;
 
 int CZNCoreEditorControlExCallback::OnBeforeContextMenu(CWnd* /*window*/, CPoint /*point*/)
@@ -90,9 +104,11 @@ int CZNCoreEditorControlEx::HandleNotify(LPARAM lParam)
     switch (static_cast<UINT>(code)) {
     case notify::CharAdded: {
         const auto character = static_cast<char16_t>(record.ch);
-        if (character == u'\r' || character == u'\n')
+        if (character == u'\r' || character == u'\n') {
             AutoIndentIn(character);
-        else if ((character == u'{' || character == u'}') && m_autoIndent >= 2)
+            if (m_autoIndent >= 1 && !m_scheme.isEmpty())
+                PutCaretBehindIndent(*this);
+        } else if ((character == u'{' || character == u'}') && m_autoIndent >= 2)
             AutoIndentOut(character);
         break;
     }

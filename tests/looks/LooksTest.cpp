@@ -354,6 +354,20 @@ TEST_F(LooksTest, SurroundsWhatIsSelectedByAQuoteThatIsTyped)
     EXPECT_EQ(face.text(), "( two");
 }
 
+TEST_F(LooksTest, GoesOnBehindTheIndentationOfALineThatIsBroken)
+{
+    control.SetAutoIndent(1);
+    Put(QStringLiteral("    select a, b"));
+    control.SetEOLMode(3, 1);
+    control.GotoPos(13, 1); // in front of a blank
+    QTest::keyClick(&Window(), Qt::Key_Return);
+    QTest::keyClicks(&Window(), QStringLiteral("x"));
+    EXPECT_EQ(face.text().toStdString(), "    select a,\n    xb");
+    while (control.CanUndo(1))
+        control.Undo(1);
+    EXPECT_EQ(face.text().toStdString(), "    select a, b");
+}
+
 TEST_F(LooksTest, TellsWhatAFoldHides)
 {
     Put(QStringLiteral("begin\n  one\n  two\n\nend\n"));
