@@ -18,8 +18,9 @@ constexpr std::chrono::milliseconds kRest(300);
 } // namespace
 
 Highlights::Highlights(const Raw& raw, const StoredText& text, int indicator,
-                       std::function<void()> changed)
-    : m_raw(raw), m_searcher(text), m_indicator(indicator), m_changed(std::move(changed))
+                       std::function<void()> changed, std::function<bool()> mayDraw)
+    : m_raw(raw), m_searcher(text), m_indicator(indicator), m_changed(std::move(changed)),
+      m_mayDraw(std::move(mayDraw))
 {
     m_timer.setSingleShot(true);
     QObject::connect(&m_timer, &QTimer::timeout, [this] { SearchOn(); });
@@ -63,7 +64,7 @@ void Highlights::SearchAnewSoon()
 
 void Highlights::Erase()
 {
-    if (!IsDrawnAnywhere(m_raw, m_indicator))
+    if (!MayDraw() || !IsDrawnAnywhere(m_raw, m_indicator))
         return;
     const IndicatorScope scope(m_raw, m_indicator);
     m_raw.Send(Sci::SCI_INDICATORCLEARRANGE, 0, m_raw.Length());
@@ -91,6 +92,8 @@ long Highlights::ForEach(long from, long to, Visit visit)
 
 void Highlights::FillVisible()
 {
+    if (!MayDraw())
+        return;
     const auto first = m_raw.Send(Sci::SCI_GETFIRSTVISIBLELINE);
     const auto lines = m_raw.Send(Sci::SCI_LINESONSCREEN);
     const auto docLine = [this](std::intptr_t shown) {

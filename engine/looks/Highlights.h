@@ -18,9 +18,10 @@ namespace engine {
 class Highlights
 {
 public:
-    // Changed is called when lines have been added.
-    Highlights(const Raw& raw, const StoredText& text, int indicator,
-               std::function<void()> changed);
+    // Changed is called when lines have been added. mayDraw: whether the indicator, which all
+    // windows of a text have in common, is this window's; always without a function.
+    Highlights(const Raw& raw, const StoredText& text, int indicator, std::function<void()> changed,
+               std::function<bool()> mayDraw = {});
 
     void Show(std::string sought, int flags); // UTF-8; empty: nothing more
     void Clear() { Show({}, 0); }
@@ -32,6 +33,7 @@ public:
     const std::vector<long>& Lines() const { return m_lines; } // with a match, as far as searched
 
 private:
+    bool MayDraw() const { return !m_mayDraw || m_mayDraw(); }
     void Erase();
     void FillVisible();
     void SearchOn();
@@ -42,6 +44,7 @@ private:
     search::Searcher m_searcher;
     int m_indicator;
     std::function<void()> m_changed;
+    std::function<bool()> m_mayDraw;
     QTimer m_timer;
     std::string m_sought;
     int m_flags = 0;

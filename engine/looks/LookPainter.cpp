@@ -37,18 +37,19 @@ constexpr unsigned Bit(int marker)
 } // namespace
 
 LookPainter::LookPainter(QsciScintillaBase& window, const Raw& raw, const StoredText& text)
-    : m_window(window), m_raw(raw), m_occurrences(raw, text, kOccurrenceIndicator,
-                                                  [this] {
-                                                      if (m_marks)
-                                                          m_marks->Soon();
-                                                  }),
-      m_matches(raw, text, kMatchIndicator, [this] {
-          if (m_marks)
-              m_marks->Soon();
-      })
+    : m_window(window), m_raw(raw), m_occurrences(
+                                        raw, text, kOccurrenceIndicator, [this] { LinesChanged(); },
+                                        [this] { return !IsOthers(); }),
+      m_matches(raw, text, kMatchIndicator, [this] { LinesChanged(); })
 {
     m_rest.setSingleShot(true);
     QObject::connect(&m_rest, &QTimer::timeout, &window, [this] { Rested(); });
+}
+
+void LookPainter::LinesChanged()
+{
+    if (m_marks)
+        m_marks->Soon();
 }
 
 QColor LookPainter::Colour(COLORREF colour) const
@@ -359,10 +360,9 @@ void LookPainter::Rested()
     const bool hasChanged = std::exchange(m_textHasChanged, false);
     if (hasChanged)
         m_matches.SearchAnewSoon();
-    if (IsOthers())
-        return;
     LookForOccurrences(hasChanged);
-    LightStatement();
+    if (!IsOthers())
+        LightStatement();
 }
 
 // The word at the caret, or the one that is selected, if there is another of it in sight or below.

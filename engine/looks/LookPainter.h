@@ -74,6 +74,7 @@ private:
     void PaintFold(QPainter& painter, const Margins& places, long line, int top, int height);
     void PaintHiddenMark(QPainter& painter, long line, int height) const;
     QRect HiddenMark(long line) const; // of a folded line; empty for another
+    void LinesChanged();               // that have something lit
     void Rested();
     bool IsOthers() const;
     void LookForOccurrences(bool hasChanged);

@@ -443,6 +443,23 @@ TEST_F(LooksOfTwoPanes, AreThoseOfThePaneThatHasTheFocus)
     EXPECT_TRUE(IsLitOf(8, 19));
 }
 
+TEST_F(LooksOfTwoPanes, StayWhenTheOtherPaneIsScrolled)
+{
+    control.AppendText(200, QString(200, u'\n').toStdU16String().c_str(), 1);
+    ASSERT_TRUE(Enter(*other));
+    ASSERT_TRUE(IsLitOf(19, 8));
+    ASSERT_TRUE(Enter(face));
+    ASSERT_TRUE(IsLitOf(8, 19));
+    QApplication::processEvents(); // it looks through the rest of the text
+    int updates = 0;
+    QObject::connect(static_cast<Sci*>(other->control().GetSafeHwnd()), &Sci::SCN_UPDATEUI, &face,
+                     [&updates](int updated) { updates |= updated; });
+    other->control().LineScroll(0, 1, 1);
+    EXPECT_TRUE(Becomes([&] { return (updates & Sci::SC_UPDATE_V_SCROLL) != 0; }));
+    EXPECT_TRUE(IsMarked(kOccurrences, 8));
+    EXPECT_FALSE(IsMarked(kOccurrences, 19));
+}
+
 TEST_F(LooksOfTwoPanes, GoWithThePane)
 {
     control.GotoPos(10, 1); // at no word
