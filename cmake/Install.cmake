@@ -4,8 +4,10 @@
 include(GNUInstallDirs)
 include(CMakePackageConfigHelpers)
 
-# What the library looks for: beside itself, or in this folder beside itself.
-set(ZN_INSTALLED_FOLDER ${CMAKE_INSTALL_LIBDIR}/ZNCoreEditor)
+# What the library looks for: beside itself, or in this folder beside itself. It has the number of the libraries' names, so
+# that those of two versions can be installed together.
+set(ZN_FOLDER ZNCoreEditor-${PROJECT_VERSION_MAJOR}.${PROJECT_VERSION_MINOR})
+set(ZN_INSTALLED_FOLDER ${CMAKE_INSTALL_LIBDIR}/${ZN_FOLDER})
 # Where a host's #include <ZNCoreEditor/...> begins.
 set(ZN_STAGED_HEADERS ${PROJECT_BINARY_DIR}/include)
 
@@ -69,6 +71,13 @@ function(zn_install)
         zn_install_desktop()
     endif()
 
+    # As in the tree, so that one page leads to another.
+    install(DIRECTORY ${PROJECT_SOURCE_DIR}/docs/guides DESTINATION ${CMAKE_INSTALL_DOCDIR}/docs COMPONENT Development)
+    set(pages framework messages keys versions licences benchmarks)
+    list(TRANSFORM pages REPLACE "(.+)" "${PROJECT_SOURCE_DIR}/docs/\\1.md")
+    install(FILES ${pages} DESTINATION ${CMAKE_INSTALL_DOCDIR}/docs COMPONENT Development)
+    install(FILES ${PROJECT_SOURCE_DIR}/README.md ${PROJECT_SOURCE_DIR}/CHANGELOG.md
+            DESTINATION ${CMAKE_INSTALL_DOCDIR} COMPONENT Development)
     install(DIRECTORY ${ZN_STAGED_HEADERS}/ZNCoreEditor
             DESTINATION ${CMAKE_INSTALL_INCLUDEDIR} COMPONENT Development)
     set(package ${CMAKE_INSTALL_LIBDIR}/cmake/ZNCoreEditor)

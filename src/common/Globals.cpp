@@ -63,7 +63,7 @@ QString GetAppPath()
     if (!dladdr(reinterpret_cast<const void*>(&GetAppPath), &info) || !info.dli_fname)
         return QString();
     const QString own = QFileInfo(QFile::decodeName(info.dli_fname)).absolutePath() + u'/';
-    const QString beside = own + QStringLiteral("ZNCoreEditor/");
+    const QString beside = own + QStringLiteral(ZN_FOLDER "/");
     return QFileInfo(beside).isDir() ? beside : own;
 }
 

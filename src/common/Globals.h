@@ -18,7 +18,7 @@ ZN_API const IZNBaseResourceLoader& GetResourceLoader();
 ZN_API void SetResourceLoader(const IZNBaseResourceLoader* loader);
 
 /// The folder of this library, with a separator at its end: the one where it stands, or the folder
-/// "ZNCoreEditor" there, where an installed library has what belongs to it.
+/// of its version, as "ZNCoreEditor-0.1", there, where an installed library has what belongs to it.
 ZN_API QString GetAppPath();
 
 } // namespace zncoreeditor

@@ -29,7 +29,7 @@ HINSTANCE LoadModule(const char16_t* name, QString* problem)
     QString said;
     const QByteArray folder = OwnFolder();
     bool isThere = false;
-    for (const QByteArray& place : {folder + file, folder + "ZNCoreEditor/" + file, file}) {
+    for (const QByteArray& place : {folder + file, folder + ZN_FOLDER "/" + file, file}) {
         if (module)
             break;
         module = dlopen(place.constData(), kMode);

@@ -9,7 +9,7 @@
 #include <QString>
 
 /// Loads a shared library by its bare name, without prefix, ending or folder: it is looked for
-/// beside this library first, then in the folder "ZNCoreEditor" beside it. Null if it cannot be
+/// beside this library first, then in its folder there, "ZNCoreEditor-0.1". Null if it cannot be
 /// loaded. What it registers, it registers while it loads. Problem, if it is given, becomes what
 /// the loader said, empty when it succeeded.
 ZN_API HINSTANCE LoadModule(const char16_t* name, QString* problem = nullptr);
