@@ -15,6 +15,7 @@
 #include <QDir>
 #include <QFileInfo>
 #include <QPointer>
+#include <QScreen>
 #include <QSet>
 #include <QTimer>
 
@@ -93,6 +94,22 @@ SessionFile Describe(const ScriptFrame& frame)
     return file;
 }
 
+// The screen may be a smaller one than the last time, or have a larger scale.
+void FitScreen(QWidget& window)
+{
+    constexpr QMargins kFrame(4, 30, 4, 4); // at most, of a window manager's
+    const QRect room = window.screen()->availableGeometry().marginsRemoved(kFrame);
+    QRect place = window.geometry();
+    if (window.isMaximized() || window.isFullScreen() || room.contains(place))
+        return;
+    place.setSize(place.size().boundedTo(room.size()));
+    place.moveRight(std::min(place.right(), room.right()));
+    place.moveBottom(std::min(place.bottom(), room.bottom()));
+    place.moveLeft(std::max(place.left(), room.left()));
+    place.moveTop(std::max(place.top(), room.top()));
+    window.setGeometry(place);
+}
+
 } // namespace
 
 // A file that has gone meanwhile is passed over: nobody has asked for it.
@@ -105,6 +122,7 @@ void MainWindow::ResumeSession()
     const Session session = found.value_or(Session());
     if (!session.geometry.isEmpty())
         restoreGeometry(session.geometry);
+    FitScreen(*this);
     if (!session.state.isEmpty())
         restoreState(session.state);
     m_expanded->hide();    // what it showed is gone

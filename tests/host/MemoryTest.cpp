@@ -87,7 +87,7 @@ TEST_F(Memory, BringsBackTheScriptsTheirPlacesAndTheOneInFront)
     ASSERT_TRUE(m_app->OpenDocumentFile(Write("b.sql", "b\n")));
     m_app->NewScript();
     m_window->ShowTab(0);
-    m_window->resize(900, 500);
+    m_window->resize(700, 500); // the screen has 800
     End();
 
     Start();
@@ -95,7 +95,7 @@ TEST_F(Memory, BringsBackTheScriptsTheirPlacesAndTheOneInFront)
     EXPECT_EQ(m_window->CurrentFrame()->Script()->Name(), "a.sql");
     EXPECT_EQ(Editor().LineFromPosition(Editor().GetCurrentPos(1), 1), 200);
     EXPECT_EQ(Editor().GetFirstVisibleLine(1), top);
-    EXPECT_EQ(m_window->size(), QSize(900, 500));
+    EXPECT_EQ(m_window->size(), QSize(700, 500));
 }
 
 TEST_F(Memory, BringsBackZoomFoldsAndBookmarks)

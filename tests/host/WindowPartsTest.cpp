@@ -24,6 +24,7 @@
 #include <QMenu>
 #include <QMenuBar>
 #include <QMessageBox>
+#include <QScreen>
 #include <QStatusBar>
 #include <QStyleFactory>
 #include <QTest>
@@ -149,6 +150,17 @@ TEST_F(WindowParts, SayWhyAnEntryThatIsWalkedOntoCannotBeTaken)
     EXPECT_EQ(m_window.statusBar()->currentMessage(), "There is nothing to undo.");
     menu->close();
     QApplication::setStyle(QStyleFactory::create("fusion"));
+}
+
+TEST_F(WindowParts, FitTheScreen)
+{
+    m_window.setGeometry(-50, 500, 3000, 2000);
+    m_window.ResumeSession();
+    EXPECT_TRUE(m_window.screen()->availableGeometry().contains(m_window.geometry()));
+    const QRect place(20, 40, 700, 600);
+    m_window.setGeometry(place);
+    m_window.ResumeSession();
+    EXPECT_EQ(m_window.geometry(), place);
 }
 
 TEST_F(WindowParts, BringAClosedTabBack)
