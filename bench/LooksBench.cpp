@@ -9,13 +9,16 @@
 #include "host/window/MainWindow.h"
 #include "host/window/Workbench.h"
 
+#include <QAbstractScrollArea>
 #include <QAction>
 #include <QApplication>
 #include <QElapsedTimer>
 #include <QFile>
 #include <QKeyEvent>
+#include <QScrollBar>
 #include <QTimer>
 #include <QTreeView>
+#include <QWheelEvent>
 
 #include <algorithm>
 #include <cstdlib>
@@ -187,6 +190,74 @@ void SessionOfManyLines(benchmark::State& state)
     ReportFigure(state, seconds * 1e3, kLimit, "ms for what is remembered of 1,000,000 lines");
 }
 BENCHMARK(SessionOfManyLines)->Iterations(1)->UseManualTime();
+
+struct Paints final : QObject
+{
+    explicit Paints(QWidget& widget) { widget.installEventFilter(this); }
+    bool eventFilter(QObject* /*watched*/, QEvent* event) override
+    {
+        count += event->type() == QEvent::Paint;
+        return false;
+    }
+    int count = 0;
+};
+
+// A step of some pixels, painted, beside a step of the bar by a line. What moves behind a bar for
+// going across is painted whole, without one a line at a time.
+void ScrollByPixels(benchmark::State& state)
+{
+    constexpr int kSteps = 200;
+    constexpr int kRounds = 7;
+    constexpr double kLimit = 1.3;
+    Host host;
+    CZNCoreEditorControlEx& editor =
+        host.Open(WriteFile("scroll.sql", MakeSql(Script::Mixed, 100 * 1024)));
+    const bool hasBar = state.range(0) != 0;
+    editor.SetScrollWidth(hasBar ? 5000 : 100, 1);
+    QCoreApplication::processEvents();
+    auto* area = qobject_cast<QAbstractScrollArea*>(editor.GetSafeHwnd());
+    QScrollBar& bar = *area->verticalScrollBar();
+    const Paints paints(*area->viewport());
+    const auto step = [&paints](auto&& scroll) {
+        const int before = paints.count;
+        return CpuSeconds([&] {
+            scroll();
+            Host::WaitFor([&] { return paints.count > before; });
+        });
+    };
+    const auto steps = [&](auto&& scroll) {
+        bar.setValue(0);
+        QCoreApplication::processEvents();
+        double seconds = 0;
+        for (int at = 0; at < kSteps; ++at)
+            seconds += step(scroll);
+        return seconds / kSteps;
+    };
+    const auto byLine = [&bar] { bar.setValue(bar.value() + 1); };
+    const auto byPixels = [area] {
+        const QPointF place(100, 100);
+        QWheelEvent wheel(place, area->viewport()->mapToGlobal(place), {0, -5}, {0, -5},
+                          Qt::NoButton, Qt::NoModifier, Qt::ScrollUpdate, false);
+        QApplication::sendEvent(area->viewport(), &wheel);
+    };
+    std::vector<double> lines;
+    std::vector<double> pixels;
+    for (auto _ : state) {
+        steps(byLine); // colours what will be seen
+        for (int round = 0; round < kRounds; ++round) {
+            lines.push_back(steps(byLine));
+            pixels.push_back(steps(byPixels));
+            if (area->viewport()->height() <= area->height() ||
+                area->horizontalScrollBar()->isVisible() != hasBar)
+                std::abort(); // it was not between lines, or not so: no figure
+        }
+    }
+    state.counters["ours_ms"] = MedianOf(pixels) * 1e3;
+    state.counters["reference_ms"] = MedianOf(lines) * 1e3;
+    ReportFigure(state, MedianOf(pixels) / MedianOf(lines), kLimit,
+                 "times a step by a line, painted");
+}
+BENCHMARK(ScrollByPixels)->Arg(0)->Arg(1)->Iterations(1)->UseManualTime();
 
 } // namespace
 } // namespace bench

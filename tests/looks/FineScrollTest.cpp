@@ -18,6 +18,16 @@ TEST(FineScrolling, ShowsThePageMovedByEachPixel)
     ExpectEachPixel(editor, PageOf(editor), LastOf(editor, true));
 }
 
+// Without a bar below, what has been painted is moved on the screen.
+TEST(FineScrolling, ShowsWhatIsMovedAsWhatIsPainted)
+{
+    const Editor editor(Script(8), {900, 230});
+    editor.control.SetScrollWidth(100, 1);
+    QApplication::processEvents();
+    ASSERT_FALSE(editor.Window().horizontalScrollBar()->isVisible());
+    ExpectEachPixel(editor, PageOf(editor), LastOf(editor, true));
+}
+
 TEST(FineScrolling, GoesOnToTheLastLineAlone)
 {
     const Editor editor(Script(15));
