@@ -4,8 +4,8 @@
 #include "engine/text/Characters.h"
 
 #include <algorithm>
-#include <compare>
 #include <string>
+#include <tuple>
 
 namespace engine {
 namespace {
@@ -20,7 +20,10 @@ struct Place
     long position = 0; // bytes
     long columns = 0;
 
-    auto operator<=>(const Place&) const = default;
+    bool operator<(const Place& other) const
+    {
+        return std::tie(position, columns) < std::tie(other.position, other.columns);
+    }
 };
 
 // Of what is selected, whichever way it was.
