@@ -2,6 +2,7 @@
 // The list of proposals in an editor, by the keys that a person presses.
 #include "completion/popup/Completer.h"
 #include "completion/popup/LiveIndex.h"
+#include "control/Selections.h"
 #include "editing/ZNCoreEditorControlEx.h"
 #include "editing/ZNCoreEditorWidget.h"
 
@@ -278,6 +279,36 @@ TEST_F(CompleterTest, ReplacesTheRestOfAWordThatItBrings)
     Press(Qt::Key_Space, Qt::ControlModifier);
     Press(Qt::Key_Tab);
     EXPECT_EQ(m_editor.text(), QStringLiteral("customer_name customer_name"));
+}
+
+// A caret elsewhere keeps what stands around it.
+TEST_F(CompleterTest, TakesNothingAtACaretWithOtherLettersBesideIt)
+{
+    struct Row
+    {
+        const char* script; // the bar is the main caret, the dollar the other one
+        const char* after;
+    };
+    constexpr Row kRows[] = {
+        {"select customer; x\n$;\nselect CUS|", "select customer; x\n;\nselect customer"},
+        {"select zebra_x; x\nzeb$;yz;\nselect zeb|_x",
+         "select zebra_x; x\nzeb;yz;\nselect zebra_x"},
+        {"select customer; cus$ select cus|", "select customer; customer select customer"},
+        {"select customer; CUS$ select CUS|", "select customer; customer select customer"},
+    };
+    for (const auto& [script, after] : kRows) {
+        QString text = QString::fromLatin1(script);
+        const auto other = text.indexOf(u'$');
+        text.remove(other, 1);
+        Show(text);
+        const auto caret = static_cast<int>(text.indexOf(u'|'));
+        const engine::SelectionEnds ends[] = {{int(other), int(other)}, {caret, caret}};
+        m_editor.control().Call(engine::kSetSelections, 2, reinterpret_cast<LPARAM>(ends), 1);
+        Press(Qt::Key_Space, Qt::ControlModifier);
+        ASSERT_TRUE(IsOpen()) << script;
+        Press(Qt::Key_Return);
+        EXPECT_EQ(m_editor.text(), QString::fromLatin1(after)) << script;
+    }
 }
 
 TEST_F(CompleterTest, PutsWhatIsChosenInAtSeveralCarets)
