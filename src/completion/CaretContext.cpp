@@ -365,13 +365,37 @@ private:
     CaretContext m_context;
 };
 
+// An alias of an outer query comes before the name of an inner one's table.
+void TellTables(CaretContext& context)
+{
+    ProposalQuery& query = context.query;
+    const auto means = [&](const QString& name) {
+        return !query.qualifier.isEmpty() && !name.isEmpty() &&
+               name.compare(query.qualifier.back(), Qt::CaseInsensitive) == 0;
+    };
+    const auto find = [&](QString ScopedTable::*name) {
+        return std::ranges::find_if(context.tables, means, name);
+    };
+    auto meant = find(&ScopedTable::alias);
+    if (meant == context.tables.end())
+        meant = find(&ScopedTable::name);
+    if (meant != context.tables.end())
+        query.table = meant->name;
+    for (const ScopedTable& table : context.tables) {
+        if (!table.name.isEmpty() && !query.tables.contains(table.name))
+            query.tables += table.name;
+    }
+}
+
 } // namespace
 
 CaretContext ContextAt(const ScriptIndex& index, const ScriptIndex::Read& read, long caret)
 {
     if (!index.Dialect())
         return PlainContext(read, caret);
-    return ContextReader(index, read, caret).Read();
+    CaretContext context = ContextReader(index, read, caret).Read();
+    TellTables(context);
+    return context;
 }
 
 } // namespace completion

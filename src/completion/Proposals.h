@@ -73,6 +73,12 @@ struct ProposalQuery
     long start = 0;                ///< of the word, in units of the text
     long caret = 0;                ///< where somebody types, in units of the text
     bool isAsked = false;          ///< by a person, not by typing
+    /// The tables that the queries around the caret name, the innermost query's first, each once;
+    /// without quotes and schema.
+    QStringList tables;
+    /// The one of them that the last name of the qualifier means, by an alias or by its own name;
+    /// empty: none.
+    QString table;
 };
 
 /// Asked on the GUI thread at each letter, and has to answer within a few milliseconds. One that

@@ -89,6 +89,8 @@ public:
     void Propose(const ProposalQuery& query, std::vector<Proposal>& proposals) override
     {
         m_asked = query.typed;
+        m_table = query.table;
+        m_tables = query.tables;
         proposals.push_back({ProposalKind::Table,
                              QStringLiteral("warehouse"),
                              QStringLiteral("on the server"),
@@ -96,6 +98,8 @@ public:
                              -1});
     }
     QString m_asked;
+    QString m_table;
+    QStringList m_tables;
 };
 
 } // namespace
@@ -271,6 +275,35 @@ TEST_F(CompleterTest, AsksTheSourcesOfTheHost)
               QStringLiteral("warehouse, table, on the server"));
     m_editor.completer()->RemoveSource(source);
     EXPECT_FALSE(IsOpen());
+}
+
+// Which table a name before a point means, so that a source need not read the statement.
+TEST_F(CompleterTest, TellsTheSourcesOfTheHostTheTablesOfTheStatement)
+{
+    HostSource source;
+    m_editor.completer()->AddSource(source);
+    const struct
+    {
+        const char* text;
+        const char* table;
+        const char* tables; // with commas
+    } cases[] = {
+        {"select c.| from customers c join dbo.[orders] as o on 1 = 1", "customers",
+         "customers,orders"},
+        {"select O.| from customers c, dbo.[orders] o", "orders", "customers,orders"},
+        {"select dbo.customers.| from dbo.customers", "customers", "customers"},
+        {"select x.| from customers c", "", "customers"},
+        {"select q.| from (select 1 as one) q, customers", "", "customers"},
+        {"select * from a where exists (select | from b)", "", "b,a"},
+        {"select | ; select 2 from elsewhere", "", ""},
+    };
+    for (const auto& [text, table, tables] : cases) {
+        Show(QString::fromLatin1(text));
+        m_editor.completer()->Open();
+        EXPECT_EQ(source.m_table, QString::fromLatin1(table)) << text;
+        EXPECT_EQ(source.m_tables.join(u','), QString::fromLatin1(tables)) << text;
+    }
+    m_editor.completer()->RemoveSource(source);
 }
 
 TEST_F(CompleterTest, ReplacesTheRestOfAWordThatItBrings)
