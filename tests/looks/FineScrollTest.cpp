@@ -50,6 +50,7 @@ TEST(FineScrolling, IsTheSameWhereTextGoesFromTheRight)
     Editor editor(QString{});
     editor.face.setLayoutDirection(Qt::RightToLeft);
     editor.face.setText(Script(15));
+    editor.control.SetScrollWidth(2000, 1);
     QApplication::processEvents();
     ASSERT_GT(editor.Viewport().x(), 0);
     ExpectEachPixel(editor, PageOf(editor), LastOf(editor, true));

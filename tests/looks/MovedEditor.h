@@ -54,6 +54,7 @@ struct Editor
         face.resize(size);
         face.show();
         control.SetCaretWidth(0, 1);
+        control.SetScrollWidth(2000, 1); // no bar comes on the way
         Window().SendScintilla(QsciScintillaBase::SCI_SETCARETLINEVISIBLEALWAYS, 1);
         // What is lit at the caret comes when it likes.
         for (const int lit : {27, 28})
