@@ -95,8 +95,8 @@ OptionsDialog::OptionsDialog(QWidget* parent)
     m_encoding->setObjectName(QStringLiteral("encoding"));
     for (const EncodingRow& row : kEncodings)
         m_encoding->addItem(tr(row.name), row.type);
-    m_encoding->setCurrentIndex(
-        std::max(0, m_encoding->findData(options.GetInt(option::DefaultTextType))));
+    // None of them where the settings say another, which then stays.
+    m_encoding->setCurrentIndex(m_encoding->findData(options.GetInt(option::DefaultTextType)));
     m_encoding->setToolTip(tr("Of new scripts, and of files that do not tell theirs by a mark or "
                               "by what stands in them"));
 
@@ -183,7 +183,8 @@ void OptionsDialog::Store() const
     StorePrintFont();
     options.SetInt(option::TabWidth, m_tabWidth->value());
     options.SetInt(option::AutoIndent, m_autoIndent->currentIndex());
-    options.SetInt(option::DefaultTextType, m_encoding->currentData().toInt());
+    if (m_encoding->currentIndex() >= 0)
+        options.SetInt(option::DefaultTextType, m_encoding->currentData().toInt());
     options.SetString(option::IncludePath, m_includePath->text());
     for (const auto& [box, key] : m_switches)
         options.SetInt(key, box->isChecked() ? 1 : 0);

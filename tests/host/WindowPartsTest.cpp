@@ -18,6 +18,7 @@
 
 #include <QAbstractButton>
 #include <QComboBox>
+#include <QDir>
 #include <QFileSystemModel>
 #include <QLabel>
 #include <QLineEdit>
@@ -396,6 +397,21 @@ TEST_F(WindowParts, ShowThePathOfTheScript)
     menu->close();
 }
 
+TEST_F(WindowParts, WriteOnesOwnFolderShort)
+{
+    PathField field(nullptr);
+    const auto told = [&field](const QString& path) {
+        field.Show(path);
+        EXPECT_EQ(field.toolTip(), path);
+        return field.accessibleDescription();
+    };
+    const QString home = QDir::homePath();
+    EXPECT_EQ(told(home + "/a/b.sql").toStdString(), "~/a/b.sql");
+    EXPECT_EQ(told(home + "s/b.sql"), home + "s/b.sql");
+    EXPECT_EQ(told("/a" + home + "/b.sql"), "/a" + home + "/b.sql");
+    EXPECT_EQ(told({}), QString());
+}
+
 TEST_F(WindowParts, BringAClosedTabBackAtItsPlace)
 {
     Open("a.sql", QByteArray("begin\n  select 1;\nend\n").repeated(100));
@@ -409,6 +425,35 @@ TEST_F(WindowParts, BringAClosedTabBackAtItsPlace)
     EXPECT_EQ(Editor().GetFirstVisibleLine(1), 120);
     EXPECT_EQ(Editor().MarkerNext(0, 1, 1), 7);
     EXPECT_EQ(Editor().GetZoom(1), 2);
+}
+
+TEST_F(WindowParts, LeaveAnEncodingOfTheSettingsThatTheOptionsDoNotList)
+{
+    CZNOptionsServer& options = *CZNOptionsServer::GetObjectW();
+    const int before = options.GetInt(option::DefaultTextType);
+    constexpr int kUtf16BigEndian = 3;
+    options.SetInt(option::DefaultTextType, kUtf16BigEndian);
+    OptionsDialog(nullptr).Store();
+    EXPECT_EQ(options.GetInt(option::DefaultTextType), kUtf16BigEndian);
+    options.SetInt(option::DefaultTextType, before);
+}
+
+TEST_F(WindowParts, LeaveAFontThatIsNotThere)
+{
+    CZNOptionsServer& options = *CZNOptionsServer::GetObjectW();
+    LOGFONT before;
+    ASSERT_TRUE(options.GetLOGFONT(option::EditorFont, &before));
+    LOGFONT gone = before;
+    constexpr std::u16string_view kFace(u"Font That Is Gone");
+    std::fill(std::begin(gone.lfFaceName), std::end(gone.lfFaceName), u'\0');
+    kFace.copy(gone.lfFaceName, kFace.size());
+    options.SetLOGFONT(option::EditorFont, &gone);
+    OptionsDialog(nullptr).Store();
+    LOGFONT after;
+    options.GetLOGFONT(option::EditorFont, &after);
+    EXPECT_EQ(FromUnits(after.lfFaceName).toStdString(), "Font That Is Gone");
+    EXPECT_EQ(after.lfHeight, before.lfHeight);
+    options.SetLOGFONT(option::EditorFont, &before);
 }
 
 // Bytes that are no UTF-8 tell what they are; plain letters do not.
