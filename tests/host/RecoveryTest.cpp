@@ -12,6 +12,7 @@
 #include <QDir>
 #include <QProcess>
 #include <QPushButton>
+#include <QTest>
 #include <QTreeWidget>
 
 #include <set>
@@ -282,6 +283,16 @@ TEST_F(Recovery, TakesAChoiceForEachAndForAll)
     EXPECT_EQ(dialog.Choices(),
               (QList<RecoveryChoice>{RecoveryChoice::Discard, RecoveryChoice::Recover,
                                      RecoveryChoice::Discard}));
+}
+
+TEST_F(Recovery, GoesOnByEnterWithoutDiscardingAnything)
+{
+    const QString copy = Write(QStringLiteral("copy"), "x");
+    RecoveryDialog dialog(nullptr, {Copy(copy, QString(), State::NeverNamed)});
+    dialog.show();
+    QTest::keyClick(&dialog, Qt::Key_Return);
+    EXPECT_EQ(dialog.result(), QDialog::Accepted);
+    EXPECT_EQ(dialog.Choices(), QList<RecoveryChoice>{RecoveryChoice::Recover});
 }
 
 TEST(AgeOfACopy, IsToldInTheLargestUnit)

@@ -6,6 +6,7 @@
 
 #include <QComboBox>
 #include <QDeadlineTimer>
+#include <QDialog>
 #include <QProgressDialog>
 #include <QPushButton>
 #include <QStatusBar>
@@ -61,6 +62,15 @@ TEST_F(WorkProgressTest, CountsInTheStatusBarWhatNothingCanStopWithoutHandlingAn
     EXPECT_EQ(m_window.statusBar()->currentMessage(), QStringLiteral("Undoing: 12,345 changes"));
     EXPECT_FALSE(Box());
     EXPECT_FALSE(hasHandled);
+    m_progress.Ends();
+    EXPECT_EQ(m_window.statusBar()->currentMessage(), QString());
+}
+
+TEST_F(WorkProgressTest, CountsNothingWhereNoStatusBarIs)
+{
+    QDialog dialog(&m_window);
+    QWidget inside(&dialog);
+    m_progress.Tells(&inside, QStringLiteral("Undoing"), 1);
     m_progress.Ends();
     EXPECT_EQ(m_window.statusBar()->currentMessage(), QString());
 }
