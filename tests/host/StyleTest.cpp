@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 // The plain style's marks are seen on light and on dark grounds.
 #include "host/icons/Style.h"
+#include "tests/looks/Contrast.h"
 
 #include <QApplication>
 #include <QPainter>
@@ -9,27 +10,7 @@
 
 #include <gtest/gtest.h>
 
-#include <algorithm>
-#include <cmath>
-
 namespace {
-
-// Of the Web Content Accessibility Guidelines, which want 3 for what is no text.
-double Luminance(QColor color)
-{
-    const auto part = [](double value) {
-        return value <= 0.03928 ? value / 12.92 : std::pow((value + 0.055) / 1.055, 2.4);
-    };
-    return 0.2126 * part(color.redF()) + 0.7152 * part(color.greenF()) +
-           0.0722 * part(color.blueF());
-}
-
-double Contrast(QColor one, QColor other)
-{
-    const double a = Luminance(one);
-    const double b = Luminance(other);
-    return (std::max(a, b) + 0.05) / (std::min(a, b) + 0.05);
-}
 
 class PlainStyle : public testing::TestWithParam<QColor> // of the grounds
 {
@@ -51,12 +32,7 @@ protected:
         QPainter painter(&picture);
         QApplication::style()->drawPrimitive(element, &option, &painter);
         painter.end();
-        double strongest = 1;
-        for (int y = 0; y < kSize; ++y) {
-            for (int x = 0; x < kSize; ++x)
-                strongest = std::max(strongest, Contrast(picture.pixelColor(x, y), ground));
-        }
-        return strongest;
+        return BestContrast(picture, ground.rgb());
     }
 };
 

@@ -15,6 +15,7 @@
 #include "looks/Schemes.h"
 #include "platform/services/OptionsServer.h"
 #include "tests/host/WorkbenchTest.h"
+#include "tests/looks/Contrast.h"
 
 #include <QAbstractButton>
 #include <QComboBox>
@@ -86,31 +87,6 @@ TEST_F(WindowParts, HaveAPictureForEveryTool)
     EXPECT_GT(tools, 12);
 }
 
-double Lightness(QRgb colour)
-{
-    const auto part = [](int value) {
-        const double share = value / 255.0;
-        return share <= 0.03928 ? share / 12.92 : std::pow((share + 0.055) / 1.055, 2.4);
-    };
-    return 0.2126 * part(qRed(colour)) + 0.7152 * part(qGreen(colour)) +
-           0.0722 * part(qBlue(colour));
-}
-
-// The most that anything painted there stands off from the ground in the corner.
-double BestContrast(const QImage& picture)
-{
-    const double ground = Lightness(picture.pixel(1, 1));
-    double best = 1;
-    for (int y = 0; y < picture.height(); ++y) {
-        for (int x = 0; x < picture.width(); ++x) {
-            const double other = Lightness(picture.pixel(x, y));
-            best =
-                std::max(best, (std::max(ground, other) + 0.05) / (std::min(ground, other) + 0.05));
-        }
-    }
-    return best;
-}
-
 TEST_F(WindowParts, StayReadableWhenTheColoursChangeUnderThem)
 {
     constexpr double kForDrawings = 3;
@@ -126,9 +102,9 @@ TEST_F(WindowParts, StayReadableWhenTheColoursChangeUnderThem)
             if (!button->isVisible() || !button->isEnabled() || button->visibleRegion().isEmpty())
                 continue;
             ++seen;
-            EXPECT_GE(BestContrast(
-                          picture.copy(QRect(button->mapTo(&m_window, QPoint()), button->size()))),
-                      kForDrawings)
+            const QImage drawn =
+                picture.copy(QRect(button->mapTo(&m_window, QPoint()), button->size()));
+            EXPECT_GE(BestContrast(drawn, drawn.pixel(1, 1)), kForDrawings)
                 << scheme << " " << button->objectName().toStdString() << " "
                 << button->accessibleName().toStdString() << " "
                 << button->metaObject()->className();

@@ -1,17 +1,15 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-// The styles of the shipped languages, read by other means than the library's own, and the contrast
-// of two colours as the Web Content Accessibility Guidelines reckon it.
+// The styles of the shipped languages, read by other means than the library's own.
 #pragma once
 
 #include "platform/base/Types.h"
 #include "tests/SourceTree.h"
+#include "tests/looks/Contrast.h"
 
 #include <QDir>
 
 #include <pugixml.hpp>
 
-#include <algorithm>
-#include <cmath>
 #include <cstdlib>
 #include <vector>
 
@@ -47,20 +45,4 @@ inline std::vector<Style> StylesOfAllLanguages()
         }
     }
     return styles;
-}
-
-inline double Luminance(COLORREF colour)
-{
-    const auto part = [colour](int shift) {
-        const double value = (colour >> shift & 0xFF) / 255.0;
-        return value <= 0.03928 ? value / 12.92 : std::pow((value + 0.055) / 1.055, 2.4);
-    };
-    return 0.2126 * part(0) + 0.7152 * part(8) + 0.0722 * part(16);
-}
-
-inline double Contrast(COLORREF one, COLORREF other)
-{
-    const double a = Luminance(one) + 0.05;
-    const double b = Luminance(other) + 0.05;
-    return std::max(a / b, b / a);
 }
