@@ -126,6 +126,17 @@ TEST_F(FindInFilesInWindow, ShowsASearchAsOneTypesInTheStatusBar)
     EXPECT_EQ(m_window.statusBar()->currentMessage(), "");
 }
 
+TEST_F(FindInFilesInWindow, CountsNothingOnceASearchAsOneTypesHasEnded)
+{
+    Open("a.sql", "ab ab x");
+    Frame().View()->OnCmdMsg(54024, nullptr);
+    Frame().View()->HandleInputCharacter(u'a', 1, 0);
+    Frame().View()->StopIncrementalSearch();
+    constexpr int kLongerThanItRests = 300; // milliseconds
+    EXPECT_FALSE(QTest::qWaitFor(
+        [this] { return !m_window.statusBar()->currentMessage().isEmpty(); }, kLongerThanItRests));
+}
+
 TEST_F(FindInFilesInWindow, FollowsTheTextsThatAreEdited)
 {
     Open("a.sql", "one\ntwo one\nthe one\n");

@@ -57,6 +57,15 @@ protected:
         return file.fileName();
     }
 
+    void LeaveAsOpening(const QString& path)
+    {
+        const QString marks = places::DataPath("opening");
+        ASSERT_TRUE(QDir().mkpath(marks));
+        QFile mark(marks + "/dead.opening");
+        ASSERT_TRUE(mark.open(QIODevice::WriteOnly));
+        mark.write(QJsonDocument(QJsonArray{path}).toJson());
+    }
+
     CZNCoreEditorControlEx& Editor() const { return m_window->CurrentFrame()->Editor(); }
 
     QStringList RecentEntries() const
@@ -150,6 +159,7 @@ TEST_F(Memory, BringsBackPanesAndFurtherTabs)
     Start();
     ASSERT_TRUE(m_app->OpenDocumentFile(Write("a.sql", QByteArray("x\n").repeated(300))));
     m_window->CurrentFrame()->Split(Qt::Vertical);
+    Editor().MarkerAdd(7, 0, 1);
     m_window->CurrentFrame()->NewView();
     m_window->CurrentFrame()->View()->GoToLine(200);
     m_window->CurrentFrame()->Split(Qt::Horizontal);
@@ -166,6 +176,8 @@ TEST_F(Memory, BringsBackPanesAndFurtherTabs)
     EXPECT_FALSE(m_window->CurrentFrame()->IsSplit(Qt::Vertical));
     m_window->ShowTab(0);
     EXPECT_TRUE(m_window->CurrentFrame()->IsSplit(Qt::Vertical));
+    Editor().MarkerDelete(7, 0, 1);
+    EXPECT_EQ(Editor().MarkerGet(7, 1), 0) << "one text has a bookmark once, in however many tabs";
     m_window->ShowTab(2);
     EXPECT_FALSE(m_window->CurrentFrame()->IsSplit());
 }
@@ -232,13 +244,7 @@ TEST_F(Memory, OffersToForgetARecentFileThatIsGone)
 TEST_F(Memory, AsksBeforeAFileIsOpenedThatTheLastRunDiedOn)
 {
     const QString path = Write("a.sql", "a\n");
-    const QString marks = places::DataPath("opening");
-    ASSERT_TRUE(QDir().mkpath(marks));
-    QFile mark(marks + "/dead.opening");
-    ASSERT_TRUE(mark.open(QIODevice::WriteOnly));
-    mark.write(QJsonDocument(QJsonArray{path}).toJson());
-    mark.close();
-
+    LeaveAsOpening(path);
     Start();
     EXPECT_FALSE(m_app->OpenDocumentFile(path));
     ASSERT_EQ(m_prompts.asked.size(), 1);
@@ -246,6 +252,19 @@ TEST_F(Memory, AsksBeforeAFileIsOpenedThatTheLastRunDiedOn)
     EXPECT_EQ(m_window->TabCount(), 0);
     EXPECT_TRUE(m_app->OpenDocumentFile(path)) << "the person has been asked";
     EXPECT_EQ(m_prompts.asked.size(), 1);
+}
+
+TEST_F(Memory, AsksOnceAboutAFileOfSeveralTabs)
+{
+    Start();
+    ASSERT_TRUE(m_app->OpenDocumentFile(Write("a.sql", "a\n")));
+    m_window->CurrentFrame()->NewView();
+    const QString path = m_window->CurrentFrame()->Script()->GetPathName();
+    End();
+    LeaveAsOpening(path);
+    Start();
+    EXPECT_EQ(m_prompts.asked.size(), 1);
+    EXPECT_EQ(m_window->TabCount(), 0);
 }
 
 TEST_F(Memory, HoldsNothingAgainstAFileThatWasOpenedWell)

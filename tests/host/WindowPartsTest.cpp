@@ -373,6 +373,18 @@ TEST_F(WindowParts, ShowThePathOfTheScript)
     menu->close();
 }
 
+TEST_F(WindowParts, BringAClosedTabBackWhereItWasLeftLast)
+{
+    Open("a.sql", QByteArray("select 1;\n").repeated(100));
+    for (const int line : {70, 30}) {
+        ASSERT_TRUE(m_app.OpenDocumentFile(PathOf("a.sql")));
+        Editor().GotoLine(line, 1);
+        Trigger("close");
+    }
+    Trigger("reopenClosed");
+    EXPECT_EQ(Editor().LineFromPosition(Editor().GetCurrentPos(1), 1), 30);
+}
+
 TEST_F(WindowParts, WriteOnesOwnFolderShort)
 {
     PathField field(nullptr);

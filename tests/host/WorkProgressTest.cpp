@@ -7,6 +7,8 @@
 #include <QComboBox>
 #include <QDeadlineTimer>
 #include <QDialog>
+#include <QEventLoop>
+#include <QPointer>
 #include <QProgressDialog>
 #include <QPushButton>
 #include <QStatusBar>
@@ -73,6 +75,28 @@ TEST_F(WorkProgressTest, CountsNothingWhereNoStatusBarIs)
     m_progress.Tells(&inside, QStringLiteral("Undoing"), 1);
     m_progress.Ends();
     EXPECT_EQ(m_window.statusBar()->currentMessage(), QString());
+}
+
+TEST_F(WorkProgressTest, KeepsTheWindowOfATextThatIsClosedMeanwhile)
+{
+    Open("a.sql", "one\n");
+    const QPointer<QWidget> editor = Editor().GetSafeHwnd();
+    bool isThere = false;
+    QEventLoop loop; // in which people close things
+    QTimer::singleShot(0, &m_window, [&] {
+        QTimer::singleShot(0, &m_window, [this] { Script().OnCloseDocument(); });
+        for (int looks = 0; looks < 3; ++looks) { // what is closed in one may go in the next
+            m_progress.Ends();
+            GoesOn(1);
+        }
+        isThere = m_window.TabCount() == 0 && editor;
+        m_progress.Ends();
+        loop.quit();
+    });
+    loop.exec();
+    EXPECT_TRUE(isThere) << "the work goes on in it";
+    Disposal::Run();
+    EXPECT_FALSE(editor);
 }
 
 TEST_F(WorkProgressTest, LetsTheWindowFollowTheTextOnlyOnceItIsOver)
