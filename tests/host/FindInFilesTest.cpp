@@ -229,6 +229,22 @@ TEST_F(FindInFilesInWindow, ReplacesWhatIsNotLeftOut)
     EXPECT_EQ(Text(), "one, one");
 }
 
+TEST_F(FindInFilesInWindow, ChecksAFileAgainOnceWhatWasLeftOutIsGone)
+{
+    Open("a.sql", "one\ntwo one\n");
+    Search("one");
+    Pane().Preview("1");
+    ASSERT_TRUE(QTest::qWaitFor([this] { return !Pane().IsSearching(); }));
+    const auto checked = [this] { return File(0).data(Qt::CheckStateRole).toInt(); };
+    EXPECT_EQ(checked(), Qt::Checked);
+    Model().setData(Match(0, 1), Qt::Unchecked, Qt::CheckStateRole);
+    EXPECT_EQ(checked(), Qt::PartiallyChecked);
+    Editor().SetSel(4, 11, 1);
+    Type(u"");
+    ASSERT_TRUE(QTest::qWaitFor([this] { return Rows(0).size() == 1; }));
+    EXPECT_EQ(checked(), Qt::Checked);
+}
+
 TEST_F(FindInFilesInWindow, ReplacesInTheFilesOwnEncoding)
 {
     Write("a.sql", "stra\xDF"

@@ -281,6 +281,39 @@ TEST_F(WindowParts, GoToASymbolByPartOfItsName)
     EXPECT_EQ(Editor().GetSelectionEnd(1), 55);
 }
 
+TEST_F(WindowParts, GoToAStepOfAShortScriptAndToATableOfALongOne)
+{
+    const auto goTo = [this](const char* name) {
+        Trigger("goToSymbol");
+        auto* words = m_window.findChild<SymbolPicker*>()->findChild<QLineEdit*>();
+        words->setText(name);
+        QTest::keyClick(words, Qt::Key_Return);
+        QApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+        return Editor().GetSelText();
+    };
+    Open("a.sql", "print 'load it'\n");
+    m_window.SetLanguage(3);
+    EXPECT_EQ(goTo("load").toStdString(), "load it");
+    Open("b.sql", QByteArray(600'000, ' ') + "\ncreate table far_off (n int);\n");
+    EXPECT_EQ(goTo("far").toStdString(), "far_off");
+}
+
+TEST_F(WindowParts, OpenInTheOutlineWhatStandsAroundTheWordsThatAreSought)
+{
+    Open("a.sql", "create table t (sought int);\ncreate table u (n int);\n");
+    Trigger("outline");
+    ASSERT_TRUE(Wait([&] { return Outlined().size() == 4; }));
+    QTreeView& list = OutlineList();
+    EXPECT_FALSE(list.isExpanded(list.model()->index(0, 0)));
+    auto* words = list.parentWidget()->findChild<QLineEdit*>();
+    words->setText("SOU");
+    EXPECT_EQ(Outlined(), QStringList({"t", "  sought"}));
+    EXPECT_TRUE(list.isExpanded(list.model()->index(0, 0)));
+    words->clear();
+    EXPECT_EQ(Outlined().size(), 4);
+    EXPECT_FALSE(list.isExpanded(list.model()->index(0, 0)));
+}
+
 TEST_F(WindowParts, OpenFilesOfTheFolder)
 {
     Write("other.sql", "other");
