@@ -62,6 +62,7 @@ constexpr unsigned kOthers[] = {
     message::ReplaceTargetRE,
     message::SearchNext,
     message::SearchPrev,
+    message::FormatRange, // with fonts of its own meanwhile
     kSetSelections,
     kSetColumns,
 };

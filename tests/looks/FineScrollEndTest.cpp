@@ -3,12 +3,14 @@
 // lines.
 #include "MovedEditor.h"
 
+#include <QProxyStyle>
 #include <QSignalSpy>
 #include <QTest>
 
 #include <cstdio>
 #include <functional>
 #include <random>
+#include <set>
 
 namespace {
 
@@ -146,6 +148,52 @@ TEST(FineScrolling, StandsAtALineOnceAnotherPaneIsTypedIn)
     ASSERT_FALSE(range.isEmpty());
     EXPECT_EQ(range.last().at(1).toInt(), last + 2);
     second.control.SetDocPointer(0, 1);
+}
+
+class StyleAtRest final : public QProxyStyle
+{
+public:
+    int styleHint(StyleHint hint, const QStyleOption* option, const QWidget* widget,
+                  QStyleHintReturn* data) const override
+    {
+        return hint == SH_Widget_Animation_Duration
+                   ? 0
+                   : QProxyStyle::styleHint(hint, option, widget, data);
+    }
+};
+
+// The places that are seen once the fingers are gone.
+std::set<int> PlacesAfter(const Editor& editor)
+{
+    std::set<int> places;
+    editor.Wheel({}, Qt::ScrollEnd);
+    EXPECT_TRUE(Becomes([&] {
+        places.insert(editor.Top());
+        return editor.IsAtLine();
+    }));
+    return places;
+}
+
+TEST(FineScrolling, GlidesToALineWhereThingsAreAnimated)
+{
+    const Moving editor;
+    std::set<int> places = PlacesAfter(editor);
+    for (int again = 0; places.size() == 2 && again < 10; ++again) { // on a machine that is busy
+        editor.Fingers(5);
+        places = PlacesAfter(editor);
+    }
+    EXPECT_GT(places.size(), 2U);
+    EXPECT_EQ(*places.begin(), 170);
+    EXPECT_EQ(*places.rbegin(), 175);
+}
+
+TEST(FineScrolling, GoesToALineInOneStepWhereNothingIsAnimated)
+{
+    StyleAtRest style;
+    const Moving editor;
+    editor.Window().setStyle(&style);
+    editor.Fingers(4); // the style has ended it
+    EXPECT_EQ(PlacesAfter(editor), (std::set<int>{170, 174}));
 }
 
 // Twins, of which one is moved by fingers and the other by lines.
