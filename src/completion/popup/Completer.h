@@ -77,6 +77,8 @@ private:
     void Fill(const CaretContext& context);
     void Choose(int row);
     void Insert(const Proposal& proposal);
+    static bool IsWordUnit(QChar unit);
+    static QString TailOf(const QString& text, const QString& behind);
     bool AreAllBetween(const QString& before, Qt::CaseSensitivity beforeCase,
                        const QString& behind) const;
     QString TextOf(long start, long end) const;
