@@ -48,17 +48,22 @@ public:
 
     void Put(std::string_view piece) const
     {
-        const long end = Ask(Sci::SCI_GETLINEENDPOSITION, m_line);
-        const long missing = m_column - Ask(Sci::SCI_GETCOLUMN, end);
         if (piece.empty())
             return;
-        if (missing > 0) {
-            Insert(end, std::string(static_cast<std::size_t>(missing), ' ').append(piece));
-            return;
+        auto place =
+            CharacterStart(m_raw, static_cast<long>(m_raw.Send(Sci::SCI_FINDCOLUMN,
+                                                               static_cast<std::uintptr_t>(m_line),
+                                                               std::intptr_t{m_column})));
+        // Behind the line's end, or within a tab, beside whichever of its ends is nearer.
+        long missing = m_column - Ask(Sci::SCI_GETCOLUMN, place);
+        if (place < Ask(Sci::SCI_GETLINEENDPOSITION, m_line)) {
+            const bool isTab = Ask(Sci::SCI_GETCHARAT, place) == '\t';
+            const bool isBehind = isTab && Ask(Sci::SCI_GETCOLUMN, place + 1) - m_column < missing;
+            place += isBehind ? 1 : 0;
+            missing = isTab && !isBehind ? missing : 0;
         }
-        const auto place = static_cast<long>(m_raw.Send(
-            Sci::SCI_FINDCOLUMN, static_cast<std::uintptr_t>(m_line), std::intptr_t{m_column}));
-        Insert(CharacterStart(m_raw, place), piece);
+        Insert(place,
+               std::string(static_cast<std::size_t>(std::max(missing, 0L)), ' ').append(piece));
     }
 
     void NextLine()

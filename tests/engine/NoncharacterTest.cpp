@@ -244,6 +244,31 @@ TEST_P(Noncharacters, ChangeNothingAboutWhereARectangleGoes)
     }
 }
 
+// As far as it reaches into a tab, the column is made of blanks, or the tab stands before it.
+TEST_P(Noncharacters, ChangeNothingAboutARectangleBesideTabs)
+{
+    constexpr WPARAM kDefaultStyle = 32;
+    const std::u16string text = u"abcdefghijkl\n\tz\nxy\tz\n";
+    EngineUnderTest plain;
+    for (EngineUnderTest* engine : {&plain, &m_engine}) {
+        engine->Send(msg::StyleSetFont, kDefaultStyle, u"DejaVu Sans Mono");
+        engine->Send(msg::StyleClearAll);
+        engine->SetText(u"Q\nRS\nT");
+        SelectRectangle(*engine, 0, 6);
+        engine->Send(msg::Copy);
+    }
+    for (WPARAM column = 0; column <= 12; ++column) {
+        for (EngineUnderTest* engine : {&plain, &m_engine}) {
+            engine->SetText(text + (engine == &plain ? u"x" : m_character));
+            engine->Send(msg::GotoPos, column);
+            engine->Send(msg::Paste);
+        }
+        std::u16string expected = plain.Text();
+        expected.replace(expected.rfind(u'x'), 1, m_character);
+        EXPECT_EQ(m_engine.Text(), expected) << column;
+    }
+}
+
 TEST_P(Noncharacters, AreBesideARectangleThatIsPastedWithAllOfItsText)
 {
     const QString pasted = QStringLiteral("Q") + QChar(0) + QStringLiteral("R");
