@@ -98,6 +98,11 @@ public:
     };
     Q_ENUM(LineWrapMode)
 
+    // Qt Designer writes the values of properties without the names of their enumerations.
+    using enum Encoding;
+    using enum LineEnd;
+    using enum LineWrapMode;
+
     /// How a text is looked for; without a flag onwards, in whatever case, anywhere.
     enum FindFlag
     {

@@ -22,7 +22,8 @@ constexpr char kForm[] = R"(<ui version="4.0">
     <widget class="ZNCoreEditorWidget" name="script">
      <property name="text"><string>select 1;</string></property>
      <property name="languageName"><string>Transact-SQL</string></property>
-     <property name="lineWrapMode"><enum>ZNCoreEditorWidget::LineWrapMode::WidgetWidth</enum></property>
+     <property name="lineWrapMode"><enum>ZNCoreEditorWidget::WidgetWidth</enum></property>
+     <property name="lineEnd"><enum>ZNCoreEditorWidget::LineEnd::CrLf</enum></property>
      <property name="readOnly"><bool>true</bool></property>
     </widget>
    </item>
@@ -49,6 +50,7 @@ TEST(DesignerForm, MakesTheEditorWithItsProperties)
     EXPECT_EQ(script->text(), QStringLiteral("select 1;"));
     EXPECT_EQ(script->languageName(), QStringLiteral("Transact-SQL"));
     EXPECT_EQ(script->lineWrapMode(), ZNCoreEditorWidget::LineWrapMode::WidgetWidth);
+    EXPECT_EQ(script->lineEnd(), ZNCoreEditorWidget::LineEnd::CrLf);
     EXPECT_TRUE(script->isReadOnly());
 }
 
