@@ -17,6 +17,7 @@
 #include <QLabel>
 #include <QLineEdit>
 #include <QPushButton>
+#include <QScreen>
 #include <QShortcut>
 #include <QSplitter>
 #include <QStackedWidget>
@@ -195,7 +196,9 @@ void CEditorPrefsDialog::OnBuild(QWidget* window)
     const QFontMetrics metrics = window->fontMetrics();
     halves->setSizes({metrics.averageCharWidth() * kTreeLetters,
                       metrics.averageCharWidth() * (kLetters - kTreeLetters)});
-    window->resize(metrics.averageCharWidth() * kLetters, metrics.height() * kLines);
+    constexpr QSize kFrame(10, 40); // at most, of a window manager's
+    window->resize(QSize(metrics.averageCharWidth() * kLetters, metrics.height() * kLines)
+                       .boundedTo(window->screen()->availableSize() - kFrame));
 }
 
 void CEditorPrefsDialog::AddPage(CEditorPrefsSubDlg& page, UINT templateId, const QString& title,

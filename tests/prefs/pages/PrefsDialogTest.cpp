@@ -11,6 +11,7 @@
 #include <QAccessible>
 #include <QComboBox>
 #include <QPlainTextEdit>
+#include <QScreen>
 #include <QTemporaryDir>
 #include <QTest>
 #include <QTimer>
@@ -75,6 +76,19 @@ TEST(PrefsDialogOfOneLanguage, ShowsColorsAndFontsAlone)
     EXPECT_EQ(dialog.Pages()[0].title, "Colors and Fonts");
     EXPECT_EQ(dialog.Pages()[0].templateId, 28096U);
     EXPECT_EQ(dialog.GetSafeHwnd()->windowTitle(), "One");
+}
+
+TEST_F(PrefsDialog, FitsTheScreenWithLargeLetters)
+{
+    const QFont usual = QApplication::font();
+    QFont large = usual;
+    large.setPointSize(14);
+    QApplication::setFont(large);
+    Open();
+    const QWidget& window = *dialog->GetSafeHwnd();
+    EXPECT_LT(window.height(), window.screen()->availableSize().height());
+    EXPECT_LT(window.width(), window.screen()->availableSize().width());
+    QApplication::setFont(usual);
 }
 
 TEST_F(PrefsDialog, ListsTheLanguagesByTheirNumbers)
