@@ -11,6 +11,7 @@
 #include <QApplication>
 #include <QLabel>
 #include <QListView>
+#include <QPointer>
 #include <QTest>
 #include <QVBoxLayout>
 
@@ -357,6 +358,29 @@ TEST_F(CompleterTest, PutsWhatIsChosenInAtSeveralCarets)
     EXPECT_EQ(m_editor.text().toStdString(), "customer_name\ncustomer_name\ncustomer_name\n");
     m_editor.control().Undo(1);
     EXPECT_EQ(m_editor.text(), QStringLiteral("customer_name\nCUS\nCUS\n"));
+}
+
+// Another editor may show the text on.
+TEST_F(CompleterTest, LeavesNoStepOpenWhereItsEditorGoesMeanwhile)
+{
+    for (const char* script : {"customer_name cus|", "customer_name CUS|"}) { // which is deleted
+        Show(QString::fromLatin1(script));
+        const QPointer<ZNCoreEditorWidget> gone(new ZNCoreEditorWidget);
+        gone->control().SetDocPointer(m_editor.control().GetDocPointer(1), 1);
+        gone->setLanguage(kTransactSql);
+        gone->show();
+        gone->control().GotoPos(17, 1);
+        gone->completer()->Open();
+        ASSERT_TRUE(gone->completer()->IsOpen());
+        QObject::connect(gone, &ZNCoreEditorWidget::textChanged, &m_editor,
+                         [gone] { delete gone; });
+        QTest::keyClick(gone->control().GetSafeHwnd(), Qt::Key_Return);
+        EXPECT_FALSE(gone);
+        m_editor.control().InsertText(0, u"a", 1);
+        m_editor.control().InsertText(0, u"b", 1);
+        m_editor.undo();
+        EXPECT_EQ(m_editor.text().left(2), QStringLiteral("ac")) << script;
+    }
 }
 
 TEST_F(CompleterTest, TypesOverNothing)

@@ -57,17 +57,20 @@ void Completer::Insert(const Proposal& proposal)
     const bool overtypes = m_control.GetOvertype(1) != 0;
     QInputMethodEvent rest;
     rest.setCommitString(goesOn ? proposal.text.mid(typed.size()) : proposal.text);
+    const QPointer<Completer> alive(this); // a change may close the editor
+    const QPointer<QWidget> window(m_window);
     m_control.SetOvertype(0, 1);
     m_control.BeginUndoAction(1);
-    for (qsizetype i = 0; i < before; ++i)
+    for (qsizetype i = 0; alive && i < before; ++i)
         m_control.DeleteBack(1);
-    for (qsizetype i = CharactersIn(tail); i > 0; --i)
+    for (qsizetype i = CharactersIn(tail); alive && i > 0; --i)
         m_control.Clear(1);
-    const QPointer<Completer> alive(this);
-    QCoreApplication::sendEvent(m_window, &rest);
+    if (alive)
+        QCoreApplication::sendEvent(window, &rest);
+    if (window) // another editor may show the text on
+        SendMessage(window, engine::message::EndUndoAction, 0, 0);
     if (!alive)
         return;
-    m_control.EndUndoAction(1);
     m_control.SetOvertype(overtypes, 1);
     m_added = 0; // the text is nobody's typing
 }
