@@ -2,8 +2,6 @@
 #include "engine/window/EngineWindow.h"
 
 #include "engine/changes/AssistiveTechnology.h"
-#include "engine/core/RectanglePaste.h"
-#include "engine/text/Characters.h"
 #include "engine/window/Accessible.h"
 #include "engine/window/StyleLooks.h"
 #include "platform/text/VectorState.h"
@@ -12,18 +10,12 @@
 
 #include <QContextMenuEvent>
 #include <QCoreApplication>
-#include <QDropEvent>
 #include <QGuiApplication>
 #include <QInputMethod>
 #include <QKeyEvent>
 #include <QMenu>
 #include <QPainter>
 #include <QPointer>
-#include <QWheelEvent>
-
-#include <cmath>
-#include <cstdlib>
-#include <utility>
 
 namespace engine {
 namespace {
@@ -102,24 +94,6 @@ bool OnlyMoves(const QKeyEvent& event)
 bool MakesColumns(const QKeyEvent& event)
 {
     return event.modifiers().testFlags(Qt::AltModifier | Qt::ShiftModifier);
-}
-
-QByteArray WithLineEnds(const QByteArray& text, int mode)
-{
-    const char* eol = mode == 1 ? "\r\n" : mode == 2 ? "\r" : "\n";
-    QByteArray result;
-    result.reserve(text.size());
-    for (qsizetype i = 0; i < text.size(); ++i) {
-        const char byte = text[i];
-        if (byte != '\r' && byte != '\n') {
-            result.append(byte);
-            continue;
-        }
-        if (byte == '\r' && i + 1 < text.size() && text[i + 1] == '\n')
-            ++i;
-        result.append(eol);
-    }
-    return result;
 }
 
 } // namespace
@@ -220,61 +194,6 @@ bool EngineWindow::viewportEvent(QEvent* event)
     return TellAfter(m_engine, [&] {
         return m_fineScroll.Touch(*event) || QsciScintillaBase::viewportEvent(event);
     });
-}
-
-QMimeData* EngineWindow::toMimeData(const QByteArray& text, bool rectangular) const
-{
-    return QsciScintillaBase::toMimeData(
-        m_engine.copyEol > 0 ? WithLineEnds(text, m_engine.copyEol) : text, rectangular);
-}
-
-// What is put in here leaves nothing for the stock engine. A macro has the command alone, not what
-// it is made of.
-QByteArray EngineWindow::fromMimeData(const QMimeData* source, bool& rectangular) const
-{
-    QByteArray text = QsciScintillaBase::fromMimeData(source, rectangular);
-    const Raw& raw = m_engine.raw;
-    if (!rectangular || raw.Send(Sci::SCI_GETREADONLY) ||
-        !NeedsOwnRectanglePaste(raw, m_engine.text.MayHaveNoncharacters()))
-        return text;
-    rectangular = false;
-    if (m_isDropping)
-        return text;
-    raw.Send(Sci::SCI_STOPRECORD);
-    PasteRectangle(raw, {text.constData(), static_cast<std::size_t>(text.size())});
-    if (m_engine.wholeCharacters.Listens())
-        raw.Send(Sci::SCI_STARTRECORD);
-    return {};
-}
-
-// The stock engine drops within a character that it takes byte by byte.
-QPointF EngineWindow::BesideCharacter(QPointF point) const
-{
-    const Raw& raw = m_engine.raw;
-    const auto ask = [&raw](UINT message, long first, long second = 0) {
-        return static_cast<long>(
-            raw.Send(message, static_cast<std::uintptr_t>(first), std::intptr_t{second}));
-    };
-    const long place =
-        ask(Sci::SCI_POSITIONFROMPOINT, std::lround(point.x()), std::lround(point.y()));
-    const long whole = CharacterStart(raw, place);
-    if (whole != place)
-        point.setX(double(ask(Sci::SCI_POINTXFROMPOSITION, 0, whole)));
-    return point;
-}
-
-// Text goes to where it was dragged last. A rectangle beside such characters goes in as text.
-void EngineWindow::dropEvent(QDropEvent* event)
-{
-    if (m_engine.text.MayHaveNoncharacters()) {
-        QDragMoveEvent beside(BesideCharacter(event->position()).toPoint(),
-                              event->possibleActions(), event->mimeData(), event->buttons(),
-                              event->modifiers());
-        dragMoveEvent(&beside);
-    }
-    m_isDropping = true;
-    QsciScintillaBase::dropEvent(event);
-    m_isDropping = false;
 }
 
 // Types the text as one undo step. The stock handler of a commit, which types character by
@@ -378,83 +297,6 @@ void EngineWindow::focusOutEvent(QFocusEvent* event)
     m_engine.looks.FocusChanged(false);
 }
 
-// The stock handler takes Control for columns, where Alt is the window manager's. Here Alt makes
-// columns, and Control sets one more caret.
-void EngineWindow::mousePressEvent(QMouseEvent* event)
-{
-    m_engine.EndEraseRun();
-    m_engine.longLines.Prepare();
-    EndComposition();
-    if (m_engine.looks.MousePressed(*event))
-        return;
-    const Qt::KeyboardModifiers held = event->modifiers();
-    const bool isLeft = event->button() == Qt::LeftButton;
-    m_addsCaret = isLeft && held == Qt::ControlModifier && m_carets.Add(event->pos());
-    if (m_addsCaret)
-        return;
-    const bool isColumn = isLeft && held.testFlag(Qt::AltModifier);
-    if (IsFar(event->pos(), isColumn || held.testFlag(Qt::ControlModifier))) {
-        PressFar(*event);
-        return;
-    }
-    if (!isColumn && !held.testFlag(Qt::ControlModifier)) {
-        QsciScintillaBase::mousePressEvent(event);
-        return;
-    }
-    Qt::KeyboardModifiers told = held & ~(Qt::AltModifier | Qt::ControlModifier);
-    told.setFlag(Qt::ControlModifier, isColumn || !m_carets.IsInText(event->pos()));
-    QMouseEvent press(event->type(), event->position(), event->globalPosition(), event->button(),
-                      event->buttons(), told);
-    QsciScintillaBase::mousePressEvent(&press);
-    event->setAccepted(press.isAccepted());
-}
-
-// So far to the right the stock engine aborts, whether a button is pressed or not; for columns in
-// the margins too.
-bool EngineWindow::IsFar(QPoint point, bool makesColumns) const
-{
-    return !m_engine.columns.HaveRoomAt(point.x()) && (makesColumns || m_carets.IsInText(point));
-}
-
-void EngineWindow::PressFar(const QMouseEvent& event)
-{
-    setFocus();
-    if (event.button() != Qt::LeftButton)
-        return;
-    m_engine.columns.Dissolve();
-    if (!event.modifiers().testFlag(Qt::ShiftModifier))
-        m_carets.Place(event.pos());
-    else
-        m_carets.Extend(event.pos());
-}
-
-void EngineWindow::mouseDoubleClickEvent(QMouseEvent* event)
-{
-    if (IsFar(event->pos(), m_engine.columns.AreSelected()))
-        PressFar(*event);
-    else
-        QsciScintillaBase::mouseDoubleClickEvent(event);
-}
-
-void EngineWindow::mouseMoveEvent(QMouseEvent* event)
-{
-    const bool isFar = IsFar(event->pos(), m_engine.columns.AreSelected());
-    if ((m_addsCaret || isFar) && event->buttons().testFlag(Qt::LeftButton))
-        m_carets.Extend(event->pos());
-    else if (!isFar)
-        QsciScintillaBase::mouseMoveEvent(event);
-    m_engine.looks.MouseMoved(event->position().toPoint());
-}
-
-void EngineWindow::mouseReleaseEvent(QMouseEvent* event)
-{
-    if (std::exchange(m_addsCaret, false))
-        return;
-    if (IsFar(event->pos(), m_engine.columns.AreSelected()))
-        m_engine.columns.Dissolve();
-    QsciScintillaBase::mouseReleaseEvent(event);
-}
-
 void EngineWindow::keyPressEvent(QKeyEvent* event)
 {
     const QPointer<EngineWindow> alive(this);
@@ -518,43 +360,6 @@ bool EngineWindow::TypeInLongLine(const QKeyEvent& event)
     return !(held & (Qt::ControlModifier | Qt::AltModifier | Qt::MetaModifier)) &&
            characters.size() == 1 && QChar::isPrint(characters.front()) &&
            m_engine.longLines.Type(event.text().toUtf8().toStdString(), characters.front());
-}
-
-// With Control or Shift a turn is first the parent's. Fine wheels turn by less than a step at a
-// time.
-void EngineWindow::wheelEvent(QWheelEvent* event)
-{
-    const bool zooms = event->modifiers().testFlag(Qt::ControlModifier);
-    if (!zooms && !event->modifiers().testFlag(Qt::ShiftModifier)) {
-        if (!m_fineScroll.Turn(*event))
-            QsciScintillaBase::wheelEvent(event);
-        return;
-    }
-    m_place.End();
-    const QPointer<EngineWindow> alive(this);
-    bool isTaken = zooms;
-    m_turn += event->angleDelta().y();
-    while (alive && std::abs(m_turn) >= WHEEL_DELTA) {
-        const int step = m_turn > 0 ? WHEEL_DELTA : -WHEEL_DELTA;
-        m_turn -= step;
-        if (IsTurnTaken(*event, step))
-            isTaken = true;
-        else if (zooms && alive)
-            m_engine.Perform(step > 0 ? message::ZoomIn : message::ZoomOut, 0, 0);
-    }
-    if (isTaken || !alive)
-        event->accept();
-    else
-        QsciScintillaBase::wheelEvent(event);
-}
-
-bool EngineWindow::IsTurnTaken(const QWheelEvent& event, int step)
-{
-    const UINT flags = (event.modifiers().testFlag(Qt::ControlModifier) ? MK_CONTROL : 0) |
-                       (event.modifiers().testFlag(Qt::ShiftModifier) ? MK_SHIFT : 0);
-    const QPoint at = event.globalPosition().toPoint();
-    return SendMessage(parentWidget(), WM_MOUSEWHEEL, WheelParam(flags, step),
-                       PointParam({at.x(), at.y()})) != 0;
 }
 
 void EngineWindow::paintEvent(QPaintEvent* event)
