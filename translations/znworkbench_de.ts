@@ -1250,6 +1250,14 @@ Mit Qt %1. Lizenziert unter der GNU General Public License, Version 3 oder spät
         <source>Save with &amp;Question Marks</source>
         <translation>&amp;Mit Fragezeichen speichern</translation>
     </message>
+    <message>
+        <source>“%1” is there already.</source>
+        <translation>„%1“ gibt es schon.</translation>
+    </message>
+    <message>
+        <source>&amp;Overwrite</source>
+        <translation>Ü&amp;berschreiben</translation>
+    </message>
 </context>
 <context>
     <name>Reasons</name>

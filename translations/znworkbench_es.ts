@@ -1250,6 +1250,14 @@ Con Qt %1. Con licencia pública general de GNU, versión 3 o posterior.</transl
         <source>Save with &amp;Question Marks</source>
         <translation>Guardar con &amp;signos de interrogación</translation>
     </message>
+    <message>
+        <source>“%1” is there already.</source>
+        <translation>«%1» ya existe.</translation>
+    </message>
+    <message>
+        <source>&amp;Overwrite</source>
+        <translation>&amp;Sobrescribir</translation>
+    </message>
 </context>
 <context>
     <name>Reasons</name>

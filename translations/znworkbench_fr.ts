@@ -1250,6 +1250,14 @@ Avec Qt %1. Sous licence publique générale GNU, version 3 ou ultérieure.</tra
         <source>Save with &amp;Question Marks</source>
         <translation>Enregistrer avec &amp;des points d’interrogation</translation>
     </message>
+    <message>
+        <source>“%1” is there already.</source>
+        <translation>«&#xa0;%1&#xa0;» existe déjà.</translation>
+    </message>
+    <message>
+        <source>&amp;Overwrite</source>
+        <translation>É&amp;craser</translation>
+    </message>
 </context>
 <context>
     <name>Reasons</name>

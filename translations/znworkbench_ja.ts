@@ -1244,6 +1244,14 @@ Qt %1 を使用。GNU General Public License バージョン 3 以降の下で�
         <source>Save with &amp;Question Marks</source>
         <translation>疑問符にして保存(&amp;Q)</translation>
     </message>
+    <message>
+        <source>“%1” is there already.</source>
+        <translation>「%1」は既にあります。</translation>
+    </message>
+    <message>
+        <source>&amp;Overwrite</source>
+        <translation>上書き(&amp;O)</translation>
+    </message>
 </context>
 <context>
     <name>Reasons</name>

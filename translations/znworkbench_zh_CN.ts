@@ -1244,6 +1244,14 @@ Over Qt %1. Licensed under the GNU General Public License, version 3 or later.</
         <source>Save with &amp;Question Marks</source>
         <translation>保存为问号(&amp;Q)</translation>
     </message>
+    <message>
+        <source>“%1” is there already.</source>
+        <translation>“%1”已经存在。</translation>
+    </message>
+    <message>
+        <source>&amp;Overwrite</source>
+        <translation>覆盖(&amp;O)</translation>
+    </message>
 </context>
 <context>
     <name>Reasons</name>

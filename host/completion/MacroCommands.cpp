@@ -37,11 +37,10 @@ void SaveMacro(QWidget* window)
 {
     if (!CanSaveMacro())
         return;
-    QString path = AskSaveFile(window, QStringLiteral("macro") + kEnding, Filter());
+    const QString path = WithEnding(
+        window, AskSaveFile(window, QStringLiteral("macro") + kEnding, Filter()), kEnding);
     if (path.isEmpty())
         return;
-    if (QFileInfo(path).suffix().isEmpty())
-        path += kEnding;
     const QByteArray bytes = WriteMacro(GetMacroHead());
     QSaveFile file(path);
     // A commit forgets what went wrong when it wrote the last bytes.

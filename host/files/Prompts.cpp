@@ -6,7 +6,9 @@
 #include "host/recovery/RecoveryDialog.h"
 
 #include <QCoreApplication>
+#include <QDir>
 #include <QFileDialog>
+#include <QFileInfo>
 #include <QMessageBox>
 #include <QPushButton>
 
@@ -118,4 +120,18 @@ void DialogPrompts::Tell(QWidget* parent, const QString& text)
                     parent);
     box.setTextFormat(Qt::PlainText);
     box.exec();
+}
+
+QString WithEnding(QWidget* parent, const QString& path, const QString& ending)
+{
+    if (path.isEmpty() || !QFileInfo(path).suffix().isEmpty())
+        return path;
+    const QString whole = path + ending;
+    const bool isFree = !QFileInfo::exists(whole);
+    return isFree || GetPrompts().Confirm(
+                         parent,
+                         Texts::tr("“%1” is there already.").arg(QDir::toNativeSeparators(whole)),
+                         Texts::tr("&Overwrite"))
+               ? whole
+               : QString();
 }

@@ -79,3 +79,7 @@ public:
 // brings the dialogs back.
 Prompts& GetPrompts();
 void SetPrompts(Prompts* prompts);
+
+// What a person has chosen to write to, with the ending if the name has none. A file of that name
+// is asked about, since the chooser was not given it; empty: it is to stay.
+QString WithEnding(QWidget* parent, const QString& path, const QString& ending);

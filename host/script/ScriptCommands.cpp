@@ -47,10 +47,7 @@ QString ProposalFor(const ScriptDoc& script, const QString& ending)
 QString AskPath(QWidget* window, const ScriptDoc& script, const QString& ending,
                 const QString& filter)
 {
-    QString path = AskSaveFile(window, ProposalFor(script, ending), filter);
-    if (!path.isEmpty() && QFileInfo(path).suffix().isEmpty())
-        path += ending;
-    return path;
+    return WithEnding(window, AskSaveFile(window, ProposalFor(script, ending), filter), ending);
 }
 
 } // namespace

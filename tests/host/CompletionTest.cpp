@@ -296,6 +296,19 @@ TEST_F(Completion, SavesAMacroAndLoadsIt)
     FreeMacro();
 }
 
+TEST_F(Completion, AsksBeforeAMacroIsSavedOverAnother)
+{
+    Show("|");
+    AppendToMacro(2170, 0, reinterpret_cast<LPARAM>(u"a"));
+    m_window.UpdateAll();
+    Write("mine.znmacro", "before");
+    m_prompts.file = PathOf("mine");
+    Trigger("saveMacro");
+    EXPECT_EQ(m_prompts.asked.size(), 1);
+    EXPECT_EQ(Read("mine.znmacro"), QByteArray("before"));
+    FreeMacro();
+}
+
 TEST_F(Completion, KeepsTheMacroThatWasSavedBeforeWhereTheDiskIsFull)
 {
     Show("|");

@@ -328,6 +328,27 @@ TEST_F(PrintingScripts, SavesHtmlThatReadsAsTheScript)
     EXPECT_TRUE(m_prompts.told[0].contains("no/such.html could not be written"));
 }
 
+// The chooser has asked about the name without its ending.
+TEST_F(PrintingScripts, AsksBeforeItWritesOverAFileThatTheEndingNames)
+{
+    Open("a.sql", "select 1;\n");
+    const QString html = Write("out.html", "before");
+    Write("out.pdf", "before");
+    m_paths.path = PathOf("out");
+    Trigger("saveHtml");
+    Trigger("savePdf");
+    ASSERT_EQ(m_prompts.asked.size(), 2);
+    EXPECT_EQ(m_prompts.asked[0].toStdString(), "“" + html.toStdString() + "” is there already.");
+    EXPECT_EQ(Read("out.html"), QByteArray("before"));
+    EXPECT_EQ(Read("out.pdf"), QByteArray("before"));
+    m_prompts.confirm = true;
+    Trigger("saveHtml");
+    EXPECT_TRUE(Read("out.html").contains("<html>"));
+    m_paths.path = PathOf("out.html"); // which the chooser has asked about
+    Trigger("saveHtml");
+    EXPECT_EQ(m_prompts.asked.size(), 3);
+}
+
 TEST_F(PrintingScripts, KeepsTheHtmlThatWasThereWhereTheDiskIsFull)
 {
     Open("a.sql", "select 1;\n");
