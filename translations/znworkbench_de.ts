@@ -1784,6 +1784,13 @@ Mit Qt %1. Lizenziert unter der GNU General Public License, Version 3 oder spät
     </message>
 </context>
 <context>
+    <name>ScriptFrame</name>
+    <message>
+        <source> (Read Only)</source>
+        <translation> (Schreibgeschützt)</translation>
+    </message>
+</context>
+<context>
     <name>ScriptPrinting</name>
     <message>
         <source>Finding page %1</source>

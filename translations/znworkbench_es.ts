@@ -1784,6 +1784,13 @@ Con Qt %1. Con licencia pública general de GNU, versión 3 o posterior.</transl
     </message>
 </context>
 <context>
+    <name>ScriptFrame</name>
+    <message>
+        <source> (Read Only)</source>
+        <translation> (Solo lectura)</translation>
+    </message>
+</context>
+<context>
     <name>ScriptPrinting</name>
     <message>
         <source>Finding page %1</source>

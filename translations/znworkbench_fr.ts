@@ -1784,6 +1784,13 @@ Avec Qt %1. Sous licence publique générale GNU, version 3 ou ultérieure.</tra
     </message>
 </context>
 <context>
+    <name>ScriptFrame</name>
+    <message>
+        <source> (Read Only)</source>
+        <translation> (Lecture seule)</translation>
+    </message>
+</context>
+<context>
     <name>ScriptPrinting</name>
     <message>
         <source>Finding page %1</source>

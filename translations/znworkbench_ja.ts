@@ -1772,6 +1772,13 @@ Qt %1 を使用。GNU General Public License バージョン 3 以降の下で�
     </message>
 </context>
 <context>
+    <name>ScriptFrame</name>
+    <message>
+        <source> (Read Only)</source>
+        <translation> (読み取り専用)</translation>
+    </message>
+</context>
+<context>
     <name>ScriptPrinting</name>
     <message>
         <source>Finding page %1</source>

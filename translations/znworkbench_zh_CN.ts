@@ -1772,6 +1772,13 @@ Over Qt %1. Licensed under the GNU General Public License, version 3 or later.</
     </message>
 </context>
 <context>
+    <name>ScriptFrame</name>
+    <message>
+        <source> (Read Only)</source>
+        <translation> (只读)</translation>
+    </message>
+</context>
+<context>
     <name>ScriptPrinting</name>
     <message>
         <source>Finding page %1</source>

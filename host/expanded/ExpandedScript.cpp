@@ -110,9 +110,11 @@ void ExpandedScript::Expand(ScriptDoc& script, CZNCoreEditorControlEx& editor)
     control.SetCarefulFiles(true);
     control.SetReadOnly(0, 1);
     control.SetEOLMode(editor.GetEOLMode(1), 1);
+    control.SetUndoCollection(0, 1); // nobody has changed these lines
     control.SetText(Units(editor.GetText()), 1);
     QString expanded;
     control.GetWindowTextW(expanded);
+    control.SetUndoCollection(1, 1);
     control.EmptyUndoBuffer(1);
     control.SetReadOnly(1, 1);
     control.GotoPos(0, 1);

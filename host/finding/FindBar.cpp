@@ -75,6 +75,26 @@ void FindBar::ShowMatches()
         m_result->setToolTip(wrong);
     }
     m_tellsWrong = !wrong.isEmpty();
+    ShowMissing(m_tellsWrong);
+}
+
+// What is not found is seen where it was typed.
+void FindBar::ShowMissing(bool isMissing)
+{
+    m_isMissing = isMissing;
+    const bool isDark = palette().color(QPalette::Base).lightness() < 128;
+    QPalette own; // but for its text as the bar's
+    if (isMissing)
+        own.setColor(QPalette::Text, isDark ? QColor(0xFF, 0x8A, 0x80) : QColor(0xB3, 0x26, 0x1E));
+    m_find->lineEdit()->setPalette(own);
+}
+
+void FindBar::changeEvent(QEvent* event)
+{
+    QWidget::changeEvent(event);
+    if (event->type() == QEvent::PaletteChange) // which the box hands on to its field after this
+        QMetaObject::invokeMethod(
+            this, [this] { ShowMissing(m_isMissing); }, Qt::QueuedConnection);
 }
 
 int FindBar::Flags() const
@@ -187,6 +207,7 @@ bool FindBar::Prepare(Editor* editor)
     if (const QString wrong = WhatIsWrong(*editor); !wrong.isEmpty()) {
         Tell(wrong);
         m_tellsWrong = true;
+        ShowMissing(true);
         return false;
     }
     m_manager.AddFindHistory(sought);
@@ -224,6 +245,7 @@ void FindBar::TellFound(Editor& editor, bool isFound)
 {
     if (!isFound) {
         Tell(tr("Not found"));
+        ShowMissing(true);
         return;
     }
     Tell({});
@@ -325,6 +347,7 @@ void FindBar::Tell(const QString& result)
     m_result->setText(result);
     m_result->setToolTip(result);
     m_tellsWrong = false;
+    ShowMissing(false);
     if (!result.isEmpty())
         show();
     Update();

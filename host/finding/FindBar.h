@@ -53,6 +53,7 @@ Q_SIGNALS:
 
 protected:
     void keyPressEvent(QKeyEvent* event) override;
+    void changeEvent(QEvent* event) override;
     bool eventFilter(QObject* watched, QEvent* event) override;
 
 private:
@@ -96,6 +97,7 @@ private:
     void TellFound(CZNCoreEditorControlEx& editor, bool isFound);
     QString Place(CZNCoreEditorControlEx& editor);
     void ShowMatches();
+    void ShowMissing(bool isMissing);
 
     std::function<CZNCoreEditorControlEx*()> m_editor;
     CFindReplaceManager& m_manager;
@@ -112,6 +114,7 @@ private:
     QWidget* m_replaceRow;
     std::optional<Scope> m_scope;
     bool m_wentRound = false;  // with the last step
+    bool m_isMissing = false;  // what is sought, where it was sought
     bool m_tellsWrong = false; // what is wrong with the expression stands there
     std::vector<std::pair<QAction*, const Row*>> m_actions;
 };

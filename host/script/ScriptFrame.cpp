@@ -10,6 +10,7 @@
 #include "platform/docview/DocTemplate.h"
 #include "platform/windows/Disposal.h"
 
+#include <QCoreApplication>
 #include <QDir>
 
 #include <algorithm>
@@ -90,7 +91,7 @@ QString ScriptFrame::Caption() const
         return {};
     QString caption = script->Name() + NumberOf(this, *script);
     if (script->IsReadOnly())
-        caption += QLatin1String(" (Read Only)");
+        caption += QCoreApplication::translate("ScriptFrame", " (Read Only)");
     if (script->IsModified())
         caption += QLatin1String(" *");
     return caption;

@@ -105,6 +105,24 @@ TEST_F(FaceHabits, ScrollSidewaysOnlyWhereALineIsTooLong)
     EXPECT_TRUE(QTest::qWaitFor([&] { return Bar().isVisible(); }));
 }
 
+// Each other range paints a line again that takes long to paint.
+TEST_F(FaceHabits, LeaveRoomBehindAVeryLongLine)
+{
+    editor.setText(QString(25'000, u'm'));
+    Show();
+    ASSERT_TRUE(QTest::qWaitFor([&] { return Bar().isVisible(); }));
+    const int range = Bar().maximum();
+    const long needed = 25'000 * editor.control().TextWidth(0, u"m", 1);
+    EXPECT_GT(range + Bar().pageStep(), needed);
+    for (int i = 0; i < 100; ++i) {
+        editor.insertPlainText(QStringLiteral("m"));
+        QApplication::processEvents();
+    }
+    EXPECT_EQ(Bar().maximum(), range);
+    editor.insertPlainText(QString(10'000, u'm'));
+    EXPECT_TRUE(QTest::qWaitFor([&] { return Bar().maximum() > range; }));
+}
+
 TEST_F(FaceHabits, ScrollSidewaysInAFileThatWasOpened)
 {
     Show();

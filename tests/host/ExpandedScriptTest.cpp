@@ -52,6 +52,16 @@ TEST_F(ExpandedScripts, ScrollSidewaysAsFarAsTheirLinesReach)
     EXPECT_GT(Result().GetScrollWidth(1), 4000);
 }
 
+TEST_F(ExpandedScripts, HaveNoLinesThatSomebodyChanged)
+{
+    constexpr int kChanged = 1 << 21 | 1 << 22; // and saved
+    Open("main.sql", "#define &&A 1\nselect &&A\n");
+    Trigger("expand");
+    ASSERT_GT(Result().GetLineCount(1), 1);
+    EXPECT_EQ(Result().MarkerNext(0, kChanged, 1), -1);
+    EXPECT_FALSE(Result().CanUndo(1));
+}
+
 TEST_F(ExpandedScripts, LeaveTheScriptAsItIs)
 {
     Open("main.sql", "#define &&A 1\nselect &&A\n");

@@ -8,6 +8,7 @@
 #include "host/finding/MatchCase.h"
 #include "prefs/RegProfile.h"
 #include "search/FindReplaceManager.h"
+#include "tests/looks/Contrast.h"
 
 #include <QAction>
 #include <QApplication>
@@ -136,6 +137,32 @@ TEST_F(FindBars, SaysThatNothingIsFound)
     bar.FindNext();
     EXPECT_EQ(Result(), QStringLiteral("Not found"));
     EXPECT_EQ(Selected(), Range(1, 2));
+}
+
+TEST_F(FindBars, ColourWhatIsNotFoundInLightAndDark)
+{
+    SetText(QStringLiteral("one"));
+    const QLineEdit& field = *Box("findText").lineEdit();
+    const auto ink = [&field] { return field.palette().color(QPalette::Text); };
+    const auto ground = [&field] { return field.palette().color(QPalette::Base); };
+    for (const bool isDark : {false, true, false}) {
+        QPalette palette;
+        palette.setColor(QPalette::Base, isDark ? QColor(30, 31, 34) : QColor(Qt::white));
+        palette.setColor(QPalette::Text, isDark ? QColor(Qt::white) : QColor(Qt::black));
+        Seek(QStringLiteral("two"));
+        bar.FindNext();
+        bar.setPalette(palette); // the scheme changes while it is missing
+        QApplication::processEvents();
+        EXPECT_EQ(ground(), palette.color(QPalette::Base));
+        EXPECT_NE(ink(), palette.color(QPalette::Text));
+        EXPECT_GE(Contrast(ink(), ground()), 4.5);
+        Seek(QStringLiteral("on"));
+        EXPECT_EQ(ink(), palette.color(QPalette::Text));
+    }
+    Set("expression", true);
+    Seek(QStringLiteral("o("));
+    EXPECT_GE(Contrast(ink(), ground()), 4.5);
+    EXPECT_NE(ink(), QColor(Qt::black));
 }
 
 TEST_F(FindBars, SaysWhatIsWrongWithAnExpression)

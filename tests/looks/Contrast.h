@@ -5,6 +5,7 @@
 
 #include "platform/base/Types.h"
 
+#include <QColor>
 #include <QImage>
 
 #include <algorithm>
@@ -26,16 +27,21 @@ inline double Contrast(COLORREF one, COLORREF other)
     return std::max(a / b, b / a);
 }
 
+inline double Contrast(const QColor& one, const QColor& other)
+{
+    const auto colourOf = [](const QColor& colour) {
+        return static_cast<COLORREF>(colour.red() | colour.green() << 8 | colour.blue() << 16);
+    };
+    return Contrast(colourOf(one), colourOf(other));
+}
+
 // Of what is painted most and the ground.
 inline double BestContrast(const QImage& picture, QRgb ground)
 {
-    const auto colourOf = [](QRgb dot) {
-        return static_cast<COLORREF>(qRed(dot) | qGreen(dot) << 8 | qBlue(dot) << 16);
-    };
     double best = 1;
     for (int y = 0; y < picture.height(); ++y) {
         for (int x = 0; x < picture.width(); ++x)
-            best = std::max(best, Contrast(colourOf(picture.pixel(x, y)), colourOf(ground)));
+            best = std::max(best, Contrast(picture.pixelColor(x, y), QColor(ground)));
     }
     return best;
 }

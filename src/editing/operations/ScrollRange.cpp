@@ -15,8 +15,10 @@ int WidthOfLine(CZNCoreEditorControl& editor, int line)
     constexpr long kLayoutLimit = 10000; // laying out a longer line costs more than a paint may
     const long units = editor.LineLength(line, 1);
     if (units > kLayoutLimit) {
+        // With room to type in, since each other range paints the line once more.
         const long unit = editor.TextWidth(0, u"n", 1);
-        return int(std::min<long>(units * unit, std::numeric_limits<int>::max()));
+        const long steps = units / kLayoutLimit + 1;
+        return int(std::min<long>(steps * kLayoutLimit * unit, std::numeric_limits<int>::max()));
     }
     const long start = editor.PositionFromLine(line, 1);
     const long end = editor.GetLineEndPosition(line, 1);
