@@ -111,10 +111,14 @@ void ScriptFrame::Split(Qt::Orientation orientation)
 {
     if (IsSplit(orientation) || !Script())
         return;
-    if (orientation == Qt::Vertical)
-        m_panes.SplitRow(0);
-    else
-        m_panes.SplitColumn(0);
+    int row = 0;
+    int column = 0;
+    if (!m_panes.GetActivePane(&row, &column))
+        return;
+    // Dividing two panes makes two: the keys go to the one out of the pane that had them.
+    if (orientation == Qt::Vertical ? m_panes.SplitRow(0) : m_panes.SplitColumn(0))
+        m_panes.SetActivePane(orientation == Qt::Vertical ? 1 : row,
+                              orientation == Qt::Vertical ? column : 1);
 }
 
 void ScriptFrame::Unsplit(Qt::Orientation orientation)

@@ -80,6 +80,18 @@ TEST_F(Views, OfATabSplitBothWaysAreFour)
     EXPECT_EQ(Script().GetViews().size(), 1u);
 }
 
+TEST_F(Views, OfADividedPaneTakeTheKeysFromItAlone)
+{
+    Open("a.sql", QByteArray("line\n").repeated(400));
+    Trigger("splitBelow");
+    Frame().View()->GoToLine(300);
+    Trigger("otherPane");
+    Frame().View()->GoToLine(11);
+    Trigger("splitBeside");
+    EXPECT_EQ(Editor().LineFromPosition(Editor().GetCurrentPos(1), 1), 11)
+        << "the pane above was divided, not the one at line 300";
+}
+
 TEST_F(Views, BeginAtThePlaceOfTheOther)
 {
     Open("a.sql", QByteArray("line\n").repeated(400));
