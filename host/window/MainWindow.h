@@ -7,6 +7,7 @@
 
 #include <QMainWindow>
 
+#include <initializer_list>
 #include <memory>
 #include <optional>
 #include <span>
@@ -78,6 +79,7 @@ public:
     void ExpandScript();
     void ShowCommands();
     void OpenField(const QString& field);
+    void PopUpActions(std::initializer_list<const char*> names); // at the mouse
     void ChangeOptions();
     void ChangeAutosave();
     void NextScript();

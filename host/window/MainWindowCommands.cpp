@@ -333,6 +333,17 @@ void MainWindow::ShowCommands()
     palette->show();
 }
 
+void MainWindow::PopUpActions(std::initializer_list<const char*> names)
+{
+    auto* menu = new QMenu(this);
+    menu->setAttribute(Qt::WA_DeleteOnClose);
+    for (const char* name : names) {
+        if (auto* action = findChild<QAction*>(QLatin1String(name)))
+            menu->addAction(action);
+    }
+    menu->popup(QCursor::pos());
+}
+
 // Of a field of the status bar that was clicked: what changes the thing it shows.
 void MainWindow::OpenField(const QString& field)
 {
@@ -342,8 +353,10 @@ void MainWindow::OpenField(const QString& field)
         const char* action;
     };
     static constexpr Way kWays[] = {
-        {"caret", "goToLine"}, {"encoding", "openAs"},       {"readOnly", "readOnlySwitch"},
-        {"modified", "save"},  {"recording", "recordMacro"},
+        {"caret", "goToLine"},
+        {"readOnly", "readOnlySwitch"},
+        {"modified", "save"},
+        {"recording", "recordMacro"},
     };
     if (field == QLatin1String("language")) {
         m_languages->popup(QCursor::pos());
@@ -361,16 +374,10 @@ void MainWindow::OpenField(const QString& field)
         connect(menu, &QMenu::triggered, this, &MainWindow::UpdateAll);
         menu->popup(QCursor::pos());
     }
-    if (field == QLatin1String("lineEnds")) {
-        auto* menu = new QMenu(this);
-        menu->setAttribute(Qt::WA_DeleteOnClose);
-        for (const char* name : {"endsWindows", "endsUnix", "endsMac"}) {
-            if (auto* action = findChild<QAction*>(QLatin1String(name)))
-                menu->addAction(action);
-        }
-        menu->popup(QCursor::pos());
-        return;
-    }
+    if (field == QLatin1String("lineEnds"))
+        PopUpActions({"endsWindows", "endsUnix", "endsMac"});
+    if (field == QLatin1String("encoding")) // read with another one, or written
+        PopUpActions({"openAs", "saveAs"});
     for (const Way& way : kWays) {
         auto* action = findChild<QAction*>(QLatin1String(way.action));
         if (field == QLatin1String(way.field) && action)

@@ -406,6 +406,16 @@ TEST_F(WindowParts, ShowThePathOfTheScript)
     menu->close();
 }
 
+TEST_F(WindowParts, OfferToReadAndToWriteWithAnotherEncoding)
+{
+    Open("a.sql", "a");
+    QTest::mouseClick(m_window.findChild<QLabel*>("encoding"), Qt::LeftButton);
+    auto* menu = qobject_cast<QMenu*>(QApplication::activePopupWidget());
+    ASSERT_NE(menu, nullptr);
+    EXPECT_EQ(menu->actions(), (QList<QAction*>{&Action("openAs"), &Action("saveAs")}));
+    menu->close();
+}
+
 TEST_F(WindowParts, BringAClosedTabBackWhereItWasLeftLast)
 {
     Open("a.sql", QByteArray("select 1;\n").repeated(100));
