@@ -1550,14 +1550,14 @@ Mit Qt %1. Lizenziert unter der GNU General Public License, Version 3 oder spät
     </message>
     <message>
         <source>Replace &amp;with</source>
-        <translation>Ersetzen &amp;durch</translation>
+        <translation>Ersetzen du&amp;rch</translation>
     </message>
     <message>
         <source>What the matches are to become. Enter shows it for each of them</source>
         <translation>Was aus den Treffern werden soll. Die Eingabetaste zeigt es für jeden</translation>
     </message>
     <message>
-        <source>Pre&amp;view</source>
+        <source>Prev&amp;iew</source>
         <translation>&amp;Vorschau</translation>
     </message>
     <message>

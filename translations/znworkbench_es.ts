@@ -1542,7 +1542,7 @@ Con Qt %1. Con licencia pública general de GNU, versión 3 o posterior.</transl
     </message>
     <message>
         <source>&amp;Stop</source>
-        <translation>&amp;Detener</translation>
+        <translation>Dete&amp;ner</translation>
     </message>
     <message>
         <source>Re&amp;place...</source>
@@ -1557,12 +1557,12 @@ Con Qt %1. Con licencia pública general de GNU, versión 3 o posterior.</transl
         <translation>En qué se convierten las coincidencias. Intro lo muestra en cada una</translation>
     </message>
     <message>
-        <source>Pre&amp;view</source>
-        <translation>&amp;Vista previa</translation>
+        <source>Prev&amp;iew</source>
+        <translation>Vis&amp;ta previa</translation>
     </message>
     <message>
         <source>&amp;Replace Checked</source>
-        <translation>Reemplazar &amp;las marcadas</translation>
+        <translation>Reemplazar las &amp;marcadas</translation>
     </message>
     <message>
         <source>No search</source>

@@ -1542,7 +1542,7 @@ Avec Qt %1. Sous licence publique générale GNU, version 3 ou ultérieure.</tra
     </message>
     <message>
         <source>&amp;Stop</source>
-        <translation>&amp;Arrêter</translation>
+        <translation>Arrê&amp;ter</translation>
     </message>
     <message>
         <source>Re&amp;place...</source>
@@ -1557,7 +1557,7 @@ Avec Qt %1. Sous licence publique générale GNU, version 3 ou ultérieure.</tra
         <translation>Ce que deviennent les occurrences. Entrée le montre pour chacune</translation>
     </message>
     <message>
-        <source>Pre&amp;view</source>
+        <source>Prev&amp;iew</source>
         <translation>A&amp;perçu</translation>
     </message>
     <message>

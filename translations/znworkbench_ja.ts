@@ -1548,8 +1548,8 @@ Qt %1 を使用。GNU General Public License バージョン 3 以降の下で�
         <translation>一致箇所の置換後の文字列。Enter で箇所ごとに表示します</translation>
     </message>
     <message>
-        <source>Pre&amp;view</source>
-        <translation>プレビュー(&amp;V)</translation>
+        <source>Prev&amp;iew</source>
+        <translation>プレビュー(&amp;I)</translation>
     </message>
     <message>
         <source>&amp;Replace Checked</source>

@@ -1548,8 +1548,8 @@ Over Qt %1. Licensed under the GNU General Public License, version 3 or later.</
         <translation>匹配项将变成的内容。按回车逐项显示</translation>
     </message>
     <message>
-        <source>Pre&amp;view</source>
-        <translation>预览(&amp;V)</translation>
+        <source>Prev&amp;iew</source>
+        <translation>预览(&amp;I)</translation>
     </message>
     <message>
         <source>&amp;Replace Checked</source>

@@ -200,7 +200,7 @@ QWidget* ResultsPane::BuildReplaceRow()
     m_replacement->setObjectName(QStringLiteral("replacement"));
     m_replacement->setAccessibleDescription(
         tr("What the matches are to become. Enter shows it for each of them"));
-    auto* preview = new QPushButton(tr("Pre&view"), m_replaceRow);
+    auto* preview = new QPushButton(tr("Prev&iew"), m_replaceRow);
     m_replace = new QPushButton(tr("&Replace Checked"), m_replaceRow);
     row->addWidget(label);
     row->addWidget(m_replacement, 1);

@@ -165,6 +165,30 @@ TEST_P(Catalogues, GiveALetterWhereEnglishGivesOne)
     }
 }
 
+// A letter that two have opens none of them.
+TEST_P(Catalogues, LeaveTheLettersOfTheMenuBarToIt)
+{
+    static const QRegularExpression letter(QStringLiteral("&([^&\\s])"));
+    const QStringList bar{"&File", "&Edit", "Searc&h", "&View", "&Language", "&Tools"};
+    const auto letterOf = [](const QString& text) {
+        return letter.match(text).captured(1).toLower();
+    };
+    QStringList menus; // in English and in the language
+    QStringList buttons;
+    for (const Message& message : MessagesIn(GetParam())) {
+        const QStringList letters{"en " + letterOf(message.source),
+                                  letterOf(message.translations.front())};
+        if (bar.contains(message.source))
+            menus += letters;
+        else if (message.context == u"ResultsPane" && message.source.contains(letter))
+            buttons += letters;
+    }
+    EXPECT_EQ(menus.size(), 2 * bar.size());
+    EXPECT_GE(buttons.size(), 10);
+    for (const QString& button : buttons)
+        EXPECT_FALSE(menus.contains(button)) << button.toStdString();
+}
+
 // What the sources say by now, as the tool of Qt finds it.
 TEST_P(Catalogues, KnowWhatTheSourcesSay)
 {
