@@ -207,9 +207,9 @@ void LookPainter::PaintCurrentNumber(QPainter& painter, int height)
         return;
     const auto row =
         m_raw.Send(Sci::SCI_VISIBLEFROMDOCLINE, line) - m_raw.Send(Sci::SCI_GETFIRSTVISIBLELINE);
-    const QRect place(width(0), static_cast<int>(row) * height, width(kNumberMargin), height);
-    if (row < 0 || place.top() > m_window.viewport()->height())
+    if (row < 0 || row > m_window.viewport()->height() / height) // as far off as the text is long
         return;
+    const QRect place(width(0), static_cast<int>(row) * height, width(kNumberMargin), height);
     painter.fillRect(place, Colour(m_looks->margin));
     painter.setFont(NumberFont());
     painter.setPen(Colour(m_looks->currentNumber));
