@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 // A text that fingers have moved stands at a line again, and is as if it had been scrolled by
 // lines.
-#include "MovedEditor.h"
+#include "tests/looks/MovedEditor.h"
 
 #include <QProxyStyle>
 #include <QSignalSpy>

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 // A text that fingers move by pixels.
-#include "MovedEditor.h"
+#include "tests/looks/MovedEditor.h"
+#include "tests/looks/TouchScreen.h"
 
 #include <QScrollArea>
 #include <QTest>
@@ -112,7 +113,7 @@ TEST(FineScrolling, TakesPartsOfAStepOfATouchpad)
 TEST(FineScrolling, FollowsAFingerOnTheGlass)
 {
     const Editor editor(Script(15));
-    QPointingDevice* device = QTest::createTouchDevice();
+    QPointingDevice* device = TouchScreen();
     const auto finger = [&] { return QTest::touchEvent(&editor.Viewport(), device); };
     QPoint place(200, 190);
     finger().press(0, place, &editor.Window());
@@ -135,7 +136,7 @@ TEST(FineScrolling, FollowsAFingerOnTheGlass)
 TEST(FineScrolling, TakesTwoFingersForNone)
 {
     const Editor editor(Script(15));
-    QPointingDevice* device = QTest::createTouchDevice();
+    QPointingDevice* device = TouchScreen();
     QWidget* window = &editor.Window();
     const auto touch = [&] { return QTest::touchEvent(&editor.Viewport(), device); };
     touch().press(0, {200, 190}, window).press(1, {240, 190}, window);

@@ -9,6 +9,7 @@
 #include "looks/Schemes.h"
 #include "platform/services/OptionsServer.h"
 #include "tests/control/ControlFixture.h"
+#include "tests/looks/TouchScreen.h"
 
 #include <QApplication>
 #include <QHelpEvent>
@@ -570,7 +571,7 @@ TEST_F(LooksTest, ScrollAsFarAsFingersGo)
 TEST_F(LooksTest, SwingBehindAFinger)
 {
     Put(QStringLiteral("line\n").repeated(400));
-    QPointingDevice* device = QTest::createTouchDevice();
+    QPointingDevice* device = TouchScreen();
     const auto finger = [&] { return QTest::touchEvent(Window().viewport(), device); };
     constexpr int kStep = 12; // pixels
     QPoint place(200, 250);
@@ -595,7 +596,7 @@ TEST_F(LooksTest, SwingBehindAFinger)
 TEST_F(LooksTest, TakeATapForAClick)
 {
     Put(QStringLiteral("one two\n"));
-    QPointingDevice* device = QTest::createTouchDevice();
+    QPointingDevice* device = TouchScreen();
     const QPoint place(control.PointXFromPosition(5, 1) + 1, 8);
     const auto tap = [&] {
         QTest::touchEvent(Window().viewport(), device).press(0, place, Window().viewport());
