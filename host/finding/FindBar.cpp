@@ -321,7 +321,7 @@ void FindBar::MarkAll()
     EachMatch(*editor, [&](long found) {
         const int line = editor->LineFromPosition(found, 1);
         if (!(editor->MarkerGet(line, 1) & 1 << kBookmark))
-            editor->MarkerAdd(line, kBookmark, 1);
+            editor->ToggleBookmark(line);
         ++count;
         return true;
     });

@@ -63,6 +63,12 @@ constexpr EncodingRow kEncodings[] = {
 constexpr int kPathWidth = 320; // pixels, of two folders
 constexpr int kRounding = 2;    // pixels that a hint may lack on a scaled screen
 
+QWidget* FieldOf(const QFormLayout& form, int row)
+{
+    const QLayoutItem* field = form.itemAt(row, QFormLayout::FieldRole);
+    return (field ? field : form.itemAt(row, QFormLayout::SpanningRole))->widget();
+}
+
 } // namespace
 
 OptionsDialog::OptionsDialog(QWidget* parent)
@@ -117,6 +123,8 @@ OptionsDialog::OptionsDialog(QWidget* parent)
 
     form->addRow(tr("P&rint font"), m_printFont);
     form->addRow(tr("Print si&ze"), m_printPoints);
+    for (int row = 1; row < form->rowCount(); ++row)
+        setTabOrder(FieldOf(*form, row - 1), FieldOf(*form, row));
 
     auto* buttons = new QDialogButtonBox(QDialogButtonBox::Ok | QDialogButtonBox::Cancel, this);
     connect(buttons, &QDialogButtonBox::accepted, this, &QDialog::accept);

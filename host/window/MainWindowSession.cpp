@@ -176,8 +176,10 @@ bool MainWindow::Resume(const SessionFile& file)
     if (file.zoom != 0)
         editor.SetZoom(file.zoom, 1);
     if (!open) { // bookmarks are the text's, not the tab's
-        for (const int line : file.bookmarks)
-            editor.MarkerAdd(line, kBookmark, 1);
+        for (const int line : file.bookmarks) {
+            if (!(editor.MarkerGet(line, 1) & 1 << kBookmark))
+                editor.ToggleBookmark(line); // which F2 knows of
+        }
     }
     frame->View()->GoToLine(file.caretLine);
     Fold(editor, file.folds);

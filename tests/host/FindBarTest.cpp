@@ -401,6 +401,7 @@ TEST_F(FindBars, MarksTheLinesOfATextAsItStands)
     EXPECT_TRUE((editor->MarkerGet(0, 1) & 1) != 0);
     EXPECT_FALSE((editor->MarkerGet(1, 1) & 1) != 0);
     EXPECT_TRUE((editor->MarkerGet(2, 1) & 1) != 0);
+    EXPECT_TRUE(editor->HasBookmarks()); // so that F2 goes there
     EXPECT_EQ(editor->GetCurrentPos(1), 1);
     EXPECT_EQ(editor->GetAnchor(1), 2);
     Seek(QStringLiteral("none"));

@@ -127,6 +127,10 @@ TEST_F(Memory, BringsBackZoomFoldsAndBookmarks)
     EXPECT_EQ(Editor().MarkerGet(4, 1) & 1, 1);
     EXPECT_EQ(Editor().MarkerNext(0, 1, 1), 4);
     EXPECT_EQ(Editor().MarkerNext(5, 1, 1), -1);
+    QAction& next = *m_window->findChild<QAction*>("nextBookmark");
+    EXPECT_TRUE(next.isEnabled());
+    next.trigger();
+    EXPECT_EQ(Editor().LineFromPosition(Editor().GetCurrentPos(1), 1), 4);
     EXPECT_FALSE(m_window->CurrentFrame()->Script()->IsModified());
 }
 
