@@ -1,45 +1,56 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-// The upper halves of the vector registers, as another library may leave them.
+// The upper halves of the vector registers, as another library may leave them. Where there are none
+// they are never in use, and what clears them has to leave the processor alone.
 #pragma once
 
-#if defined(__x86_64__)
-#include <cpuid.h>
-#endif
+#include <gtest/gtest.h>
 
 namespace upperhalves {
 
-// Whether the processor tells if they are in use.
-inline bool CanBeAsked()
+inline bool Exist()
 {
 #if defined(__x86_64__)
-    unsigned a = 0, b = 0, c = 0, d = 0;
-    return __builtin_cpu_supports("avx") && __get_cpuid_count(0xD, 1, &a, &b, &c, &d) &&
-           (a & 4) != 0; // XGETBV with ECX = 1
+    return __builtin_cpu_supports("avx") != 0;
 #else
     return false;
+#endif
+}
+
+// By one register for all: they are cleared together.
+inline void Use()
+{
+#if defined(__x86_64__)
+    if (Exist())
+        asm volatile("vpcmpeqd %%xmm15, %%xmm15, %%xmm15\n\t"
+                     "vinsertf128 $1, %%xmm15, %%ymm15, %%ymm15"
+                     :
+                     :
+                     : "xmm15");
 #endif
 }
 
 inline bool AreInUse()
 {
+    unsigned low = 0;
 #if defined(__x86_64__)
-    unsigned low = 0, high = 0;
-    asm volatile("xgetbv" : "=a"(low), "=d"(high) : "c"(1));
-    return (low & 4) != 0;
-#else
-    return false;
+    if (Exist())
+        asm volatile("vextractf128 $1, %%ymm15, %%xmm14\n\t"
+                     "vmovd %%xmm14, %0"
+                     : "=r"(low)
+                     :
+                     : "xmm14");
 #endif
+    return low != 0;
 }
 
-inline void Use()
+class VectorRegisters : public testing::Test
 {
-#if defined(__x86_64__)
-    asm volatile("vpcmpeqd %%xmm15, %%xmm15, %%xmm15\n\t"
-                 "vinsertf128 $1, %%xmm15, %%ymm15, %%ymm15"
-                 :
-                 :
-                 : "xmm15");
-#endif
-}
+protected:
+    void SetUp() override
+    {
+        Use();
+        ASSERT_EQ(AreInUse(), Exist());
+    }
+};
 
 } // namespace upperhalves

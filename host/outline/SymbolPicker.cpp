@@ -1,12 +1,11 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "host/outline/SymbolPicker.h"
 
+#include "host/lists/ListFrame.h"
 #include "host/lists/ListKeys.h"
 
-#include <QFrame>
 #include <QLineEdit>
 #include <QListWidget>
-#include <QVBoxLayout>
 
 SymbolPicker::SymbolPicker(std::vector<Symbol> symbols, QWidget* parent)
     : QDialog(parent, Qt::Popup), m_symbols(std::move(symbols)), m_words(new QLineEdit(this)),
@@ -19,14 +18,7 @@ SymbolPicker::SymbolPicker(std::vector<Symbol> symbols, QWidget* parent)
     m_words->setAccessibleName(tr("Symbol"));
     m_list->setAccessibleName(tr("Symbols of the script"));
     m_list->setUniformItemSizes(true);
-    auto* frame = new QFrame(this); // which sets the popup off against what it covers
-    frame->setFrameShape(QFrame::StyledPanel);
-    auto* whole = new QVBoxLayout(this);
-    whole->setContentsMargins({});
-    whole->addWidget(frame);
-    auto* layout = new QVBoxLayout(frame);
-    layout->addWidget(m_words);
-    layout->addWidget(m_list);
+    FrameList(*this, *m_words, *m_list);
     connect(m_words, &QLineEdit::textChanged, this, &SymbolPicker::Filter);
     connect(m_list, &QListWidget::itemClicked, this, &SymbolPicker::Choose);
     new ListKeys(*m_words, *m_list, [this] { Choose(); }); // goes with the line

@@ -2,15 +2,14 @@
 #include "host/window/CommandPalette.h"
 
 #include "common/Translations.h"
+#include "host/lists/ListFrame.h"
 #include "host/lists/ListKeys.h"
 
 #include <QAction>
-#include <QFrame>
 #include <QLineEdit>
 #include <QListWidget>
 #include <QMenu>
 #include <QMenuBar>
-#include <QVBoxLayout>
 
 #include <algorithm>
 
@@ -36,14 +35,7 @@ CommandPalette::CommandPalette(const QMenuBar& menus, QWidget* parent)
     m_words->setAccessibleName(tr("Command"));
     m_list->setAccessibleName(tr("Commands"));
     m_list->setUniformItemSizes(true);
-    auto* frame = new QFrame(this); // which sets the popup off against what it covers
-    frame->setFrameShape(QFrame::StyledPanel);
-    auto* whole = new QVBoxLayout(this);
-    whole->setContentsMargins({});
-    whole->addWidget(frame);
-    auto* layout = new QVBoxLayout(frame);
-    layout->addWidget(m_words);
-    layout->addWidget(m_list);
+    FrameList(*this, *m_words, *m_list);
     Collect(menus.actions(), {});
     connect(m_words, &QLineEdit::textChanged, this, &CommandPalette::Filter);
     connect(m_list, &QListWidget::itemClicked, this, &CommandPalette::Choose);

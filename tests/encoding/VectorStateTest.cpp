@@ -4,21 +4,9 @@
 #include "tests/UpperHalves.h"
 #include "tests/encoding/OpenConverter.h"
 
-#include <gtest/gtest.h>
-
 namespace {
 
-class VectorRegisters : public testing::Test
-{
-protected:
-    void SetUp() override
-    {
-        if (!upperhalves::CanBeAsked())
-            GTEST_SKIP() << "this processor does not tell";
-        upperhalves::Use();
-        ASSERT_TRUE(upperhalves::AreInUse());
-    }
-};
+using upperhalves::VectorRegisters;
 
 constexpr std::u16string_view kText = u"select 'é' from t";
 

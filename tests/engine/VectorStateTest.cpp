@@ -7,21 +7,11 @@
 #include <QEvent>
 #include <QWidget>
 
-#include <gtest/gtest.h>
-
 namespace {
 
-class VectorRegisters : public testing::Test
+class VectorRegisters : public upperhalves::VectorRegisters
 {
 protected:
-    void SetUp() override
-    {
-        if (!upperhalves::CanBeAsked())
-            GTEST_SKIP() << "this processor does not tell";
-        upperhalves::Use();
-        ASSERT_TRUE(upperhalves::AreInUse());
-    }
-
     EngineUnderTest m_engine;
 };
 
