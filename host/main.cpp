@@ -3,6 +3,7 @@
 #include "control/ZNCoreEditorControl.h"
 #include "host/icons/Icons.h"
 #include "host/icons/Style.h"
+#include "host/instance/RunningInstance.h"
 #include "host/translations/Translations.h"
 #include "host/window/Arguments.h"
 #include "host/window/MainWindow.h"
@@ -27,13 +28,14 @@ bool EngineIsThere()
     return CZNCoreEditorControl::m_hEditorDllHandle != nullptr;
 }
 
-int RunInteractively(const QStringList& files)
+// The first window of a person keeps the session; one beside it does not.
+int RunInteractively(const QStringList& files, RunningInstance& instance, bool keepsSession)
 {
     Workbench app(Workbench::Keeps::Places);
     auto* window = new MainWindow(app);
     window->show();
     app.ChooseWhatToRecover();
-    if (app.GetMainWnd())
+    if (app.GetMainWnd() && keepsSession)
         window->ResumeSession();
     if (app.GetMainWnd())
         window->OpenPlaces(files);
@@ -43,13 +45,36 @@ int RunInteractively(const QStringList& files)
         return 0; // closed while a question stood
     if (window->TabCount() == 0)
         app.NewScript();
+    QObject::connect(&instance, &RunningInstance::Requested, window,
+                     [window](const RunningInstance::Request& request) {
+                         window->OpenForLaterStart(request.words, request.token);
+                     });
+    instance.Serve();
     return QApplication::exec();
+}
+
+int Run(const Arguments& arguments, const QByteArray& token)
+{
+    RunningInstance::Request request{{}, token};
+    for (const QString& word : arguments.files)
+        request.words << RunningInstance::Absolute(word);
+    RunningInstance instance(arguments.newWindow ? QString() : RunningInstance::DefaultAddress());
+    const RunningInstance::Role role = instance.Meet(request);
+    if (role == RunningInstance::Role::Later)
+        return 0;
+    if (role == RunningInstance::Role::Unheard)
+        Print(stderr, QCoreApplication::translate("main", "The workbench that runs does not "
+                                                          "answer. This is a window beside it."));
+    const bool keepsSession = role != RunningInstance::Role::Unheard && !arguments.newWindow;
+    return RunInteractively(arguments.files, instance, keepsSession);
 }
 
 } // namespace
 
 int main(int argc, char** argv)
 {
+    // Qt takes it for its own first window.
+    const QByteArray token = qgetenv("XDG_ACTIVATION_TOKEN");
     QApplication application(argc, argv);
     QApplication::setApplicationName(QStringLiteral("znworkbench"));
     QApplication::setWindowIcon(ApplicationIcon());
@@ -74,5 +99,5 @@ int main(int argc, char** argv)
     }
     if (!arguments.screenshot.isEmpty())
         return TakeScreenshot(arguments.files, arguments.screenshot);
-    return RunInteractively(arguments.files);
+    return Run(arguments, token);
 }

@@ -42,6 +42,10 @@ Mit Qt %1. Lizenziert unter der GNU General Public License, Version 3 oder spät
         <source>--screenshot needs the name of a file.</source>
         <translation>--screenshot braucht den Namen einer Datei.</translation>
     </message>
+    <message>
+        <source>Opens a window of its own, not a tab in the workbench that runs.</source>
+        <translation>Öffnet ein eigenes Fenster, keinen Tab im Programm, das schon läuft.</translation>
+    </message>
 </context>
 <context>
     <name>AutosaveDialog</name>
@@ -2102,6 +2106,10 @@ Eine Farbe „Standard“ folgt dem Schema aus dem Menü Ansicht. Was hier für 
     <message>
         <source>The editing engine cannot be loaded: libZNBaseEditor.so has to stand beside libZNCoreEditor.so, or in the folder ZNCoreEditor there.</source>
         <translation>Das Editormodul kann nicht geladen werden: libZNBaseEditor.so muss neben libZNCoreEditor.so stehen oder dort im Ordner ZNCoreEditor.</translation>
+    </message>
+    <message>
+        <source>The workbench that runs does not answer. This is a window beside it.</source>
+        <translation>Das laufende Programm antwortet nicht. Dies ist ein Fenster daneben.</translation>
     </message>
 </context>
 </TS>

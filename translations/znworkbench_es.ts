@@ -42,6 +42,10 @@ Con Qt %1. Con licencia pública general de GNU, versión 3 o posterior.</transl
         <source>--screenshot needs the name of a file.</source>
         <translation>--screenshot necesita el nombre de un archivo.</translation>
     </message>
+    <message>
+        <source>Opens a window of its own, not a tab in the workbench that runs.</source>
+        <translation>Abre una ventana propia, no una pestaña en el programa que ya está en marcha.</translation>
+    </message>
 </context>
 <context>
     <name>AutosaveDialog</name>
@@ -2102,6 +2106,10 @@ Un color «Predeterminado» sigue el esquema del menú Ver. Lo que se ajusta aqu
     <message>
         <source>The editing engine cannot be loaded: libZNBaseEditor.so has to stand beside libZNCoreEditor.so, or in the folder ZNCoreEditor there.</source>
         <translation>No se puede cargar el motor de edición: libZNBaseEditor.so debe estar junto a libZNCoreEditor.so, o allí en la carpeta ZNCoreEditor.</translation>
+    </message>
+    <message>
+        <source>The workbench that runs does not answer. This is a window beside it.</source>
+        <translation>El programa en marcha no responde. Esta es una ventana aparte.</translation>
     </message>
 </context>
 </TS>

@@ -42,6 +42,10 @@ Avec Qt %1. Sous licence publique générale GNU, version 3 ou ultérieure.</tra
         <source>--screenshot needs the name of a file.</source>
         <translation>--screenshot a besoin d’un nom de fichier.</translation>
     </message>
+    <message>
+        <source>Opens a window of its own, not a tab in the workbench that runs.</source>
+        <translation>Ouvre une fenêtre à part, pas un onglet dans le programme déjà lancé.</translation>
+    </message>
 </context>
 <context>
     <name>AutosaveDialog</name>
@@ -2102,6 +2106,10 @@ Une couleur «&#xa0;Par défaut&#xa0;» suit le thème du menu Affichage. Ce qui
     <message>
         <source>The editing engine cannot be loaded: libZNBaseEditor.so has to stand beside libZNCoreEditor.so, or in the folder ZNCoreEditor there.</source>
         <translation>Impossible de charger le moteur d’édition&#xa0;: libZNBaseEditor.so doit se trouver à côté de libZNCoreEditor.so, ou là dans le dossier ZNCoreEditor.</translation>
+    </message>
+    <message>
+        <source>The workbench that runs does not answer. This is a window beside it.</source>
+        <translation>Le programme déjà lancé ne répond pas. Ceci est une fenêtre à part.</translation>
     </message>
 </context>
 </TS>

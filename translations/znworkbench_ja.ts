@@ -42,6 +42,10 @@ Qt %1 を使用。GNU General Public License バージョン 3 以降の下で�
         <source>--screenshot needs the name of a file.</source>
         <translation>--screenshot にはファイル名が必要です。</translation>
     </message>
+    <message>
+        <source>Opens a window of its own, not a tab in the workbench that runs.</source>
+        <translation>実行中のウィンドウのタブではなく、独立したウィンドウを開きます。</translation>
+    </message>
 </context>
 <context>
     <name>AutosaveDialog</name>
@@ -2090,6 +2094,10 @@ A colour that is &quot;Default&quot; follows the scheme of the View menu. What i
     <message>
         <source>The editing engine cannot be loaded: libZNBaseEditor.so has to stand beside libZNCoreEditor.so, or in the folder ZNCoreEditor there.</source>
         <translation>編集エンジンを読み込めません: libZNBaseEditor.so は libZNCoreEditor.so と同じフォルダーか、その中の ZNCoreEditor フォルダーに置く必要があります。</translation>
+    </message>
+    <message>
+        <source>The workbench that runs does not answer. This is a window beside it.</source>
+        <translation>実行中のプログラムが応答しません。これは別のウィンドウです。</translation>
     </message>
 </context>
 </TS>

@@ -42,6 +42,10 @@ Over Qt %1. Licensed under the GNU General Public License, version 3 or later.</
         <source>--screenshot needs the name of a file.</source>
         <translation>--screenshot 需要一个文件名。</translation>
     </message>
+    <message>
+        <source>Opens a window of its own, not a tab in the workbench that runs.</source>
+        <translation>打开单独的窗口，而不是在已运行的程序中打开标签页。</translation>
+    </message>
 </context>
 <context>
     <name>AutosaveDialog</name>
@@ -2090,6 +2094,10 @@ A colour that is &quot;Default&quot; follows the scheme of the View menu. What i
     <message>
         <source>The editing engine cannot be loaded: libZNBaseEditor.so has to stand beside libZNCoreEditor.so, or in the folder ZNCoreEditor there.</source>
         <translation>无法加载编辑引擎：libZNBaseEditor.so 必须位于 libZNCoreEditor.so 旁边，或其所在位置的 ZNCoreEditor 文件夹中。</translation>
+    </message>
+    <message>
+        <source>The workbench that runs does not answer. This is a window beside it.</source>
+        <translation>已运行的程序没有响应。这是另外的一个窗口。</translation>
     </message>
 </context>
 </TS>

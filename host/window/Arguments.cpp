@@ -19,12 +19,15 @@ Arguments ParseArguments(const QStringList& commandLine)
     parser.setApplicationDescription(Texts::tr("Opens SQL scripts, one tab for each."));
     const QCommandLineOption help({QStringLiteral("h"), QStringLiteral("help")},
                                   Texts::tr("Shows this text."));
+    const QCommandLineOption newWindow(
+        {QStringLiteral("n"), QStringLiteral("new-window")},
+        Texts::tr("Opens a window of its own, not a tab in the workbench that runs."));
     const QCommandLineOption screenshot(QStringLiteral("screenshot"),
                                         Texts::tr("Writes a picture of the window and exits."),
                                         QStringLiteral("FILE"));
     const QCommandLineOption version({QStringLiteral("v"), QStringLiteral("version")},
                                      Texts::tr("Tells which version this is."));
-    parser.addOptions({help, version, screenshot});
+    parser.addOptions({help, version, newWindow, screenshot});
     parser.addPositionalArgument(
         QStringLiteral("FILE"),
         Texts::tr("Scripts to open, each at a line and a column: a.sql:120:7."),
@@ -40,6 +43,7 @@ Arguments ParseArguments(const QStringList& commandLine)
     else if (parser.isSet(version))
         arguments.help = QStringLiteral("znworkbench " ZN_VERSION);
     arguments.files = parser.positionalArguments();
+    arguments.newWindow = parser.isSet(newWindow);
     arguments.screenshot = parser.value(screenshot);
     return arguments;
 }

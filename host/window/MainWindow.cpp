@@ -27,6 +27,7 @@
 #include "host/window/Workbench.h"
 #include "platform/services/OptionsServer.h"
 
+#include <QApplication>
 #include <QClipboard>
 #include <QDir>
 #include <QFile>
@@ -43,6 +44,7 @@
 #include <QVBoxLayout>
 
 #include <algorithm>
+#include <utility>
 
 namespace {
 
@@ -197,6 +199,26 @@ bool MainWindow::OpenPlaces(const QStringList& words)
     if (first)
         m_tabs->setCurrentWidget(first);
     return opened;
+}
+
+void MainWindow::OpenForLaterStart(const QStringList& words, const QByteArray& token)
+{
+    m_asked << words;
+    if (!token.isEmpty())
+        qputenv("XDG_ACTIVATION_TOKEN", token); // which Qt takes along
+    setWindowState(windowState() & ~Qt::WindowMinimized);
+    QWidget* front = QApplication::activeModalWidget();
+    if (!front)
+        front = this;
+    front->raise();
+    front->activateWindow();
+    OpenAsked();
+}
+
+void MainWindow::OpenAsked()
+{
+    if (!m_asked.isEmpty() && !QApplication::activeModalWidget())
+        OpenPlaces(std::exchange(m_asked, {}));
 }
 
 void MainWindow::OpenRecent(const QString& path)
@@ -447,6 +469,8 @@ bool MainWindow::event(QEvent* event)
     if (event->type() == QEvent::ShortcutOverride &&
         MayBeOfAMenu(static_cast<const QKeyEvent&>(*event)))
         FollowNow();
+    if (event->type() == QEvent::WindowUnblocked) // behind the question, not within it
+        QMetaObject::invokeMethod(this, &MainWindow::OpenAsked, Qt::QueuedConnection);
     return QMainWindow::event(event);
 }
 

@@ -43,6 +43,9 @@ public:
     // Opens files as a command line names them, path or path:line, and shows the first of them.
     // False if one was not opened, of which the person knows.
     bool OpenPlaces(const QStringList& words);
+    // The same for another start of the program: the window comes to the front, and opens them
+    // when no question stands.
+    void OpenForLaterStart(const QStringList& words, const QByteArray& token);
 
     ScriptFrame* CurrentFrame() const; // null if there is none
     ScriptFrame* FrameAt(int index) const;
@@ -103,6 +106,7 @@ private:
     void UpdateCommands();
     void ShowViewOf(CZNCoreEditorControlEx* editor);
     void OpenRecent(const QString& path);
+    void OpenAsked();
 
     void OnTabAdded(QWidget* page);
     void OnCurrentChanged();
@@ -156,6 +160,7 @@ private:
     QTimer* m_sessionTimer;
     QList<QAction*> m_actions; // of the named commands, in their order
     bool m_keepsSession = false;
+    QStringList m_asked;       // for by later starts, while a question stands
     QList<SessionFile> m_left; // scripts whose tabs went, the last one last
     // Once a person has chosen; until then as each language has it.
     std::optional<bool> m_showWhitespace;

@@ -28,6 +28,13 @@ TEST(CommandLine, TakesThePictureBesideTheFiles)
     EXPECT_EQ(arguments.files, QStringList{"a.sql"});
 }
 
+TEST(CommandLine, AsksForAWindowOfItsOwn)
+{
+    EXPECT_FALSE(Parse({"a.sql"}).newWindow);
+    EXPECT_TRUE(Parse({"-n", "a.sql"}).newWindow);
+    EXPECT_TRUE(Parse({"--new-window"}).newWindow);
+}
+
 TEST(CommandLine, TakesWhatStandsBehindTwoDashesForFiles)
 {
     EXPECT_EQ(Parse({"--", "--help"}).files, QStringList{"--help"});

@@ -155,3 +155,27 @@ TEST_F(WindowStory, WalksThroughTabsAndBringsAClosedOneBack)
     Keys({"ctrl+shift+t"});
     EXPECT_TRUE(Eventually([this] { return Title().startsWith("story.sql"); }));
 }
+
+TEST_F(WindowStory, ALaterStartOpensItsFileInTheWindowThatIsThere)
+{
+    QFile other(m_folder.filePath(QStringLiteral("later.sql")));
+    ASSERT_TRUE(other.open(QIODevice::WriteOnly));
+    other.write("select 3;\nselect 4;\n");
+    other.close();
+    QProcess later;
+    later.setProcessEnvironment(OwnPlaces(m_folder.path()));
+    later.setWorkingDirectory(m_folder.path());
+    later.start(QStringLiteral(ZN_WORKBENCH), {QStringLiteral("later.sql:2")});
+    ASSERT_TRUE(later.waitForFinished(kPatienceInMs));
+    EXPECT_EQ(later.exitCode(), 0);
+    ASSERT_TRUE(Eventually([this] { return Title().contains(QLatin1String("later.sql")); }))
+        << Title().toStdString();
+    Type(QStringLiteral("-- "));
+    Keys({"ctrl+s"});
+    EXPECT_TRUE(Eventually([&other] {
+        const bool isOpen = other.open(QIODevice::ReadOnly);
+        const QByteArray bytes = other.readAll();
+        other.close();
+        return isOpen && bytes == "select 3;\n-- select 4;\n";
+    }));
+}
