@@ -158,6 +158,13 @@ TEST_F(HandsTest, PasteWithTheIndentationOfThePlace)
     QApplication::clipboard()->clear();
 }
 
+TEST_F(HandsTest, PasteWithTheIndentationOfThePlaceANulToo)
+{
+    QApplication::clipboard()->setText(QStringLiteral("a") + QChar(0) + QStringLiteral("b\nc"));
+    EXPECT_EQ(After("pasteIndented", u"  [x]|y"), std::u16string(u"  a\0b\n  c|y", 11));
+    QApplication::clipboard()->clear();
+}
+
 TEST_F(HandsTest, GoFromStatementToStatement)
 {
     EXPECT_EQ(After("nextStatement", u"se|lect 1;\n-- x\nselect 2;\nselect 3;"),

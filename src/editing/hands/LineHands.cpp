@@ -143,7 +143,10 @@ void PasteIndented(Editor& editor)
                                     : mode == 3 ? QStringLiteral("\n")
                                                 : QStringLiteral("\r\n"));
     const UndoStep step(editor);
-    editor.ReplaceSel(Units(text), 1);
+    const long selected = editor.GetSelectionStart(1);
+    Replace(editor, selected, editor.GetSelectionEnd(1), text); // with a NUL in it, too
+    const long behind = selected + text.size();
+    editor.SetSel(behind, behind, 1);
 }
 
 } // namespace hands
