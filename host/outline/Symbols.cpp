@@ -106,14 +106,22 @@ std::vector<Symbol> SymbolsOf(const QString& text, const QString& language)
     return symbols;
 }
 
+// Columns that INSERT and ALTER name are not created there: they would be listed below whatever
+// stands above.
 std::vector<Symbol> SymbolsOf(std::vector<completion::ScriptName> names)
 {
     std::vector<Symbol> symbols;
     symbols.reserve(names.size());
+    bool isInCreated = false;
     for (completion::ScriptName& name : names) {
         const auto* kind = std::find_if(std::begin(kKinds), std::end(kKinds),
                                         [&](const KindRow& row) { return row.kind == name.kind; });
-        if (kind != std::end(kKinds))
+        if (name.kind == NameKind::InsertUse || name.kind == NameKind::AlterUse)
+            isInCreated = false;
+        if (kind == std::end(kKinds))
+            continue;
+        isInCreated |= !kind->isInside;
+        if (isInCreated)
             symbols.push_back(
                 {std::move(name.name), kind->name, name.start, name.end, kind->isInside});
     }

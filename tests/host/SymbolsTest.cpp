@@ -40,6 +40,20 @@ TEST(Symbols, StandInNothingButWhatHasColumnsOrParameters)
                      "Sequence q at q", "Index i at i"}));
 }
 
+TEST(Symbols, AreNotTheColumnsThatInsertAndAlterName)
+{
+    for (const char* language : {"SQL", "Transact-SQL", "PL/SQL", "MySQL", "PostgreSQL"})
+        EXPECT_EQ(SymbolsIn("insert into a (x, y) values (1, 2);\n"
+                            "create table t (n int);\n"
+                            "insert into t (n) values (1);\n"
+                            "alter table a add z int;\n"
+                            "create view v as select 1;\n"
+                            "insert into t (n) select 2;\n",
+                            language),
+                  (Lines{"Table t at t", "  Column n at n", "View v at v"}))
+            << language;
+}
+
 TEST(Symbols, AreTheStepsThatItAnnounces)
 {
     EXPECT_EQ(SymbolsIn("print 'one'\ncreate view v as select 1\n  PRINT N'two'\n", "Transact-SQL"),
