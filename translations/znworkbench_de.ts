@@ -1917,6 +1917,14 @@ Mit Qt %1. Lizenziert unter der GNU General Public License, Version 3 oder spät
         <source>INS</source>
         <translation>EINF</translation>
     </message>
+    <message>
+        <source>Problems: %1</source>
+        <translation>Probleme: %1</translation>
+    </message>
+    <message>
+        <source>What is wrong with the script</source>
+        <translation>Was am Skript nicht stimmt</translation>
+    </message>
 </context>
 <context>
     <name>SymbolModel</name>

@@ -1917,6 +1917,14 @@ Con Qt %1. Con licencia pública general de GNU, versión 3 o posterior.</transl
         <source>INS</source>
         <translation>INS</translation>
     </message>
+    <message>
+        <source>Problems: %1</source>
+        <translation>Problemas: %1</translation>
+    </message>
+    <message>
+        <source>What is wrong with the script</source>
+        <translation>Lo que está mal en el script</translation>
+    </message>
 </context>
 <context>
     <name>SymbolModel</name>

@@ -1917,6 +1917,14 @@ Avec Qt %1. Sous licence publique générale GNU, version 3 ou ultérieure.</tra
         <source>INS</source>
         <translation>INS</translation>
     </message>
+    <message>
+        <source>Problems: %1</source>
+        <translation>Problèmes&#xa0;: %1</translation>
+    </message>
+    <message>
+        <source>What is wrong with the script</source>
+        <translation>Ce qui ne va pas dans le script</translation>
+    </message>
 </context>
 <context>
     <name>SymbolModel</name>

@@ -1905,6 +1905,14 @@ Qt %1 を使用。GNU General Public License バージョン 3 以降の下で�
         <source>INS</source>
         <translation>挿入</translation>
     </message>
+    <message>
+        <source>Problems: %1</source>
+        <translation>問題: %1</translation>
+    </message>
+    <message>
+        <source>What is wrong with the script</source>
+        <translation>スクリプトの問題点</translation>
+    </message>
 </context>
 <context>
     <name>SymbolModel</name>

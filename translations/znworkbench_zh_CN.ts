@@ -1905,6 +1905,14 @@ Over Qt %1. Licensed under the GNU General Public License, version 3 or later.</
         <source>INS</source>
         <translation>插入</translation>
     </message>
+    <message>
+        <source>Problems: %1</source>
+        <translation>问题：%1</translation>
+    </message>
+    <message>
+        <source>What is wrong with the script</source>
+        <translation>脚本中的问题</translation>
+    </message>
 </context>
 <context>
     <name>SymbolModel</name>

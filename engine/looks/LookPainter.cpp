@@ -96,7 +96,8 @@ void LookPainter::Set(const Looks* looks)
     }
     const auto indicator = [this](int number, COLORREF colour, int alpha, int outline) {
         const auto n = static_cast<WPARAM>(number);
-        m_raw.Send(Sci::SCI_INDICSETSTYLE, n, long{Sci::INDIC_STRAIGHTBOX});
+        m_raw.Send(Sci::SCI_INDICSETSTYLE, n,
+                   long{outline > 0 ? Sci::INDIC_STRAIGHTBOX : Sci::INDIC_FULLBOX});
         m_raw.Send(Sci::SCI_INDICSETFORE, n, static_cast<std::intptr_t>(colour));
         m_raw.Send(Sci::SCI_INDICSETALPHA, n, alpha);
         m_raw.Send(Sci::SCI_INDICSETOUTLINEALPHA, n, outline);
@@ -152,11 +153,14 @@ void LookPainter::Paint(QPainter& painter, const QPaintEvent& event)
     const long top = static_cast<long>(m_raw.Send(Sci::SCI_GETFIRSTVISIBLELINE));
     const long first = top + std::max(0, event.rect().top()) / height;
     const long last = top + event.rect().bottom() / height;
+    const Range statement = LitStatement();
     const TabArrows arrows(m_raw, Colour(m_looks->whitespace), m_window.viewport()->width());
     long before = -1;
     for (long row = first; row <= last; ++row) {
         const auto line =
             static_cast<long>(m_raw.Send(Sci::SCI_DOCLINEFROMVISIBLE, static_cast<WPARAM>(row)));
+        PaintStatementBar(painter, places, statement, line, static_cast<int>(row - top) * height,
+                          height);
         const bool isFirstRow =
             m_raw.Send(Sci::SCI_VISIBLEFROMDOCLINE, static_cast<WPARAM>(line)) == row;
         if (line == before || !isFirstRow)
@@ -237,6 +241,19 @@ void LookPainter::PaintLine(QPainter& painter, const Margins& places, long line,
         painter.fillRect(places.text - kBar, top, kBar, height,
                          Colour(isChanged ? m_looks->lineChanged : m_looks->lineSaved));
     PaintFold(painter, places, line, top, height);
+}
+
+// Beside the text of each line that the statement has a part in: the fill behind letters alone
+// would look as if they were selected.
+void LookPainter::PaintStatementBar(QPainter& painter, const Margins& places,
+                                    const Range& statement, long line, int top, int height) const
+{
+    const auto number = static_cast<WPARAM>(line);
+    constexpr int kGap = 1;
+    constexpr int kBar = 2;
+    if (statement.start < m_raw.Send(Sci::SCI_GETLINEENDPOSITION, number) &&
+        statement.end > m_raw.Send(Sci::SCI_POSITIONFROMLINE, number))
+        painter.fillRect(places.text + kGap, top, kBar, height, Colour(m_looks->statement));
 }
 
 void LookPainter::PaintFold(QPainter& painter, const Margins& places, long line, int top,
@@ -405,6 +422,9 @@ void LookPainter::LightStatement()
     const Range statement = (isAsked ? m_statementAtCaret() : std::nullopt).value_or(Range());
     if (LitStatement() == statement)
         return;
+    const int text = Places().text;
+    m_window.viewport()->update(text, 0, static_cast<int>(m_raw.Send(Sci::SCI_GETMARGINLEFT)),
+                                m_window.viewport()->height());
     const IndicatorScope scope(m_raw, kStatementIndicator);
     m_raw.Send(Sci::SCI_INDICATORCLEARRANGE, 0, m_raw.Length());
     m_raw.Send(Sci::SCI_INDICATORFILLRANGE, static_cast<WPARAM>(statement.start),

@@ -68,6 +68,8 @@ private:
     };
     Margins Places() const;
     void PaintLine(QPainter& painter, const Margins& places, long line, int top, int height);
+    void PaintStatementBar(QPainter& painter, const Margins& places, const Range& statement,
+                           long line, int top, int height) const;
     void PaintCurrentNumber(QPainter& painter, int height);
     QFont NumberFont() const;
     long CaretLine() const;

@@ -101,6 +101,8 @@ MainWindow::MainWindow(Workbench& app)
     setCentralWidget(center);
     addDockWidget(Qt::BottomDockWidgetArea, m_problems);
     resizeDocks({m_problems}, {kProblemsHeight}, Qt::Vertical);
+    m_problems->toggleViewAction()->setObjectName(QStringLiteral("problems"));
+    m_problems->hide(); // until it is asked for: the text has the marks, the status bar the count
     connect(m_problems, &ProblemPane::Chosen, this, [this](long start, long end) {
         if (const ScriptFrame* frame = CurrentFrame())
             frame->View()->SelectRange(start, end);
@@ -253,8 +255,10 @@ void MainWindow::Follow(ScriptDoc& script)
             [this](const QString& text) { statusBar()->showMessage(text); });
     connect(&script, &ScriptDoc::ProblemsChanged, this, [this, &script] {
         const ScriptFrame* frame = CurrentFrame();
-        if (frame && frame->Script() == &script)
+        if (frame && frame->Script() == &script) {
             ListProblems();
+            m_status->Show(frame);
+        }
     });
     connect(&script, &ScriptDoc::LanguageChanged, this, [this, &script] {
         ApplyView(script);
@@ -367,6 +371,7 @@ void MainWindow::NextProblem()
                                      [caret](const ScriptProblem& p) { return p.start > caret; });
     const ScriptProblem& next = behind != problems.end() ? *behind : problems.front();
     frame->View()->SelectRange(next.start, next.end);
+    statusBar()->showMessage(next.text);
 }
 
 // From the script over what is shown around it and back, for somebody without a mouse.

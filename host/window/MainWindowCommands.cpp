@@ -353,10 +353,8 @@ void MainWindow::OpenField(const QString& field)
         const char* action;
     };
     static constexpr Way kWays[] = {
-        {"caret", "goToLine"},
-        {"readOnly", "readOnlySwitch"},
-        {"modified", "save"},
-        {"recording", "recordMacro"},
+        {"caret", "goToLine"},        {"readOnly", "readOnlySwitch"}, {"modified", "save"},
+        {"recording", "recordMacro"}, {"problemCount", "problems"},
     };
     if (field == QLatin1String("language")) {
         m_languages->popup(QCursor::pos());

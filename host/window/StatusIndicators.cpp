@@ -6,6 +6,7 @@
 #include "editing/language/Library.h"
 #include "host/files/Encodings.h"
 #include "host/files/LineEnds.h"
+#include "host/problems/ScriptChecker.h"
 #include "host/script/ScriptDoc.h"
 #include "host/script/ScriptFrame.h"
 #include "host/script/ScriptView.h"
@@ -33,6 +34,8 @@ StatusIndicators::StatusIndicators(QStatusBar* bar)
       m_readOnly(
           AddField("readOnly", tr("Read-only"), QT_TR_NOOP("Whether the script can be changed"))),
       m_modified(AddField("modified", tr("Modified"), QT_TR_NOOP("Save"))),
+      m_problems(AddField("problemCount", tr("Problems: %1").arg(88),
+                          QT_TR_NOOP("What is wrong with the script"))),
       m_caret(AddField("caret", tr("Line %1, column %2").arg(99999).arg(999),
                        QT_TR_NOOP("Go to a line"))),
       m_catalog(AddField("catalog", QStringLiteral("production_db"),
@@ -109,8 +112,9 @@ void StatusIndicators::Show(const ScriptFrame* frame)
     ScriptDoc* script = frame ? frame->Script() : nullptr;
     m_path->Show(script ? script->GetPathName() : QString());
     if (!script || !script->LineEnds()) {
-        for (QLabel* label : {m_recording, m_readOnly, m_modified, m_caret, m_catalog, m_language,
-                              m_encoding, m_lineEnds, m_indentation, m_zoom, m_overtype})
+        for (QLabel* label :
+             {m_recording, m_readOnly, m_modified, m_problems, m_caret, m_catalog, m_language,
+              m_encoding, m_lineEnds, m_indentation, m_zoom, m_overtype})
             label->clear();
         return;
     }
@@ -119,6 +123,9 @@ void StatusIndicators::Show(const ScriptFrame* frame)
     PutIfAny(*m_recording, frame->View()->IsRecording() ? tr("REC") : QString());
     PutIfAny(*m_readOnly, script->IsReadOnly() ? tr("Read-only") : QString());
     Put(*m_modified, script->IsModified() ? tr("Modified") : QString());
+    const ScriptChecker* checker = script->Checker();
+    const std::size_t problems = checker ? checker->Problems().size() : 0;
+    PutIfAny(*m_problems, problems > 0 ? tr("Problems: %1").arg(problems) : QString());
     Put(*m_caret, frame->View()->CaretText());
     PutIfAny(*m_catalog, frame->View()->Catalog());
     Put(*m_language, LanguageName(script->Language()));

@@ -35,6 +35,7 @@ private:
     QLabel* m_recording;
     QLabel* m_readOnly;
     QLabel* m_modified;
+    QLabel* m_problems;
     QLabel* m_caret;
     QLabel* m_catalog;
     QLabel* m_language;

@@ -2,6 +2,7 @@
 // The gestures of hands/Hands.def, by their numbers.
 #include "EditingFixture.h"
 
+#include "control/Selections.h"
 #include "editing/hands/Hands.h"
 #include "editing/language/KeyTable.h"
 
@@ -30,6 +31,19 @@ protected:
             }
         }
         ADD_FAILURE() << name;
+    }
+
+    using Ends = std::vector<std::pair<int, int>>; // anchor and caret
+
+    Ends Selections()
+    {
+        std::vector<engine::SelectionEnds> all(
+            static_cast<std::size_t>(control.Call(engine::kGetSelections, 0, 0, 1)));
+        control.Call(engine::kGetSelections, all.size(), reinterpret_cast<LPARAM>(all.data()), 1);
+        Ends ends;
+        for (const engine::SelectionEnds& each : all)
+            ends.emplace_back(each.anchor, each.caret);
+        return ends;
     }
 
     std::u16string After(const char* name, const std::u16string& marked)
@@ -142,6 +156,50 @@ TEST_F(HandsTest, SelectTheStatementAtTheCaret)
 {
     EXPECT_EQ(After("selectStatement", u"select 1;\nselect\n\n 2|;\nselect 3;"),
               u"select 1;\n[select\n\n 2;]|\nselect 3;");
+}
+
+TEST_F(HandsTest, SelectTheWordAndThenOneOccurrenceMoreEachTime)
+{
+    EXPECT_EQ(After("addNextOccurrence", u"x a; a_b, a|, A; a"), u"x a; a_b, [a]|, A; a");
+    Do("addNextOccurrence");
+    EXPECT_EQ(Selections(), (Ends{{10, 11}, {16, 17}}));
+    Do("addNextOccurrence"); // from the start on
+    EXPECT_EQ(Selections(), (Ends{{10, 11}, {16, 17}, {2, 3}}));
+    Do("addNextOccurrence");
+    EXPECT_EQ(Selections(), (Ends{{10, 11}, {16, 17}, {2, 3}}));
+    Type(u'y');
+    EXPECT_EQ(Text(), u"x y; a_b, y, A; y");
+}
+
+TEST_F(HandsTest, SelectWhatIsNoWordWhereverItStands)
+{
+    EXPECT_EQ(After("addNextOccurrence", u"ab[ab]|c abab"), u"ababc [ab]|ab");
+    Put(u"a|[.b] c.b x.b");
+    Do("selectOccurrences");
+    EXPECT_EQ(Selections(), (Ends{{7, 5}, {11, 9}, {3, 1}}));
+    EXPECT_EQ(After("addNextOccurrence", u" | "), u" | ");
+    EXPECT_EQ(After("selectOccurrences", u"|"), u"|");
+}
+
+TEST_F(HandsTest, SelectAllOccurrencesUpToAsManyAsCanBeEdited)
+{
+    std::u16string text = u"|";
+    for (int i = 0; i < 6000; ++i)
+        text += u"a ";
+    Put(text);
+    Do("selectOccurrences");
+    EXPECT_EQ(Selections().size(), 5000U);
+    EXPECT_EQ(control.GetCurrentPos(1), 1);
+}
+
+TEST_F(HandsTest, GoToTheOtherBracketFromBothSides)
+{
+    EXPECT_EQ(After("matchingBracket", u"a|(b(c))"), u"a(b(c)|)");
+    Do("matchingBracket");
+    EXPECT_EQ(Marked(), u"a|(b(c))");
+    EXPECT_EQ(After("matchingBracket", u"(b)| c"), u"(|b) c");
+    EXPECT_EQ(After("matchingBracket", u"f(a, (b), c| + 1)"), u"f|(a, (b), c + 1)");
+    EXPECT_EQ(After("matchingBracket", u"(a) b| (c)"), u"(a) b| (c)");
 }
 
 TEST_F(HandsTest, SurroundWhatIsSelected)

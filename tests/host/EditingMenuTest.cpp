@@ -16,14 +16,12 @@ TEST_F(EditingMenus, FollowTheRulesOfTheEditor)
     Editor().SetSel(0, 0, 1);
     Q_EMIT Script().StateChanged();
     EXPECT_FALSE(Action("comment").isEnabled());
-    EXPECT_FALSE(Action("matchBrace").isEnabled());
     EXPECT_FALSE(Action("sortUp").isEnabled());
     EXPECT_FALSE(Action("nextBookmark").isEnabled());
     EXPECT_TRUE(Action("bookmark").isEnabled());
     Editor().SetSel(0, 7, 1);
     Q_EMIT Script().StateChanged();
     EXPECT_TRUE(Action("comment").isEnabled());
-    EXPECT_TRUE(Action("matchBrace").isEnabled());
     EXPECT_TRUE(Action("sortUp").isEnabled());
     Trigger("bookmark");
     EXPECT_TRUE(Action("nextBookmark").isEnabled());

@@ -7,6 +7,7 @@
 #include "host/problems/ScriptChecker.h"
 #include "tests/host/WorkbenchTest.h"
 
+#include <QStatusBar>
 #include <QTreeWidget>
 
 namespace {
@@ -184,6 +185,24 @@ TEST_F(WorkbenchProblems, AreThoseOfTheScriptInFront)
     EXPECT_EQ(List().topLevelItemCount(), 0);
     Trigger("previous");
     EXPECT_EQ(List().topLevelItemCount(), 1);
+}
+
+TEST_F(WorkbenchProblems, AreCountedInTheStatusBarUntilTheirListIsAskedFor)
+{
+    Open("a.pgsql", "selekt 1;\nselekt 2;\n");
+    Script().Checker()->Check();
+    auto* count = m_window.findChild<QLabel*>(QStringLiteral("problemCount"));
+    EXPECT_EQ(count->text(), QStringLiteral("Problems: 2"));
+    const auto* pane = m_window.findChild<ProblemPane*>();
+    EXPECT_TRUE(pane->isHidden());
+    m_window.OpenField(count->objectName());
+    EXPECT_TRUE(pane->isVisible());
+    Trigger("nextProblem");
+    EXPECT_EQ(m_window.statusBar()->currentMessage(), List().topLevelItem(1)->text(2));
+    Editor().SetSel(0, -1, 1);
+    Type(u"select 1;");
+    Script().Checker()->Check();
+    EXPECT_TRUE(count->parentWidget()->isHidden());
 }
 
 } // namespace

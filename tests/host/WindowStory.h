@@ -89,10 +89,10 @@ protected:
                                      QFileDevice::FileModificationTime));
     }
 
-    // To the list of problems, and back to the script.
+    // To the find bar, and back to the script.
     void LeaveAndComeBack()
     {
-        Click(500, 660);
+        Keys({"ctrl+f"});
         Click(500, 200);
     }
 

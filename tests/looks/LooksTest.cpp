@@ -383,6 +383,50 @@ TEST_F(LooksTest, TellsWhatAFoldHides)
     EXPECT_EQ(HoverTips::TextAt(control, behind), "");
 }
 
+TEST_F(LooksTest, KeepTheCaretsLineWhereItIsWhenEverythingIsFolded)
+{
+    Put(QStringLiteral("begin\n  a\n  b\nend\n").repeated(200));
+    const int line = 400; // begins a block
+    control.GotoLine(line, 1);
+    control.LineScroll(0, line - 3 - control.GetFirstVisibleLine(1), 1);
+    const auto row = [&] {
+        return control.VisibleFromDocLine(line, 1) - control.GetFirstVisibleLine(1);
+    };
+    ASSERT_EQ(row(), 3);
+    FindHand(54252)->run(control);
+    EXPECT_FALSE(control.GetLineVisible(line + 1, 1));
+    EXPECT_EQ(row(), 3);
+    FindHand(54253)->run(control);
+    EXPECT_TRUE(control.GetLineVisible(line + 1, 1));
+    EXPECT_EQ(row(), 3);
+    EXPECT_EQ(control.GetCurLineNumber(), line);
+}
+
+TEST_F(LooksTest, StandABarBesideTheLinesOfThatStatement)
+{
+    Put(QStringLiteral("select 1;\nselect\n2;\n"));
+    control.GotoPos(12, 1);
+    ASSERT_TRUE(Becomes([&] { return IsMarked(kStatement, 12); }));
+    QColor bar;
+    const auto barAt = [&](int line) {
+        const long start = control.PositionFromLine(line, 1);
+        const QPoint text(static_cast<int>(control.PointXFromPosition(start, 1)),
+                          static_cast<int>(control.PointYFromPosition(start, 1)) + 4);
+        const QImage image = control.GetSafeHwnd()->grab().toImage();
+        for (int x = text.x() - 5; x < text.x(); ++x) {
+            if (image.pixelColor(x, text.y()) == bar)
+                return true;
+        }
+        return false;
+    };
+    const COLORREF colour = control.Scheme()->Of(Drawn::Batch);
+    bar = QColor(colour & 0xFF, colour >> 8 & 0xFF, colour >> 16 & 0xFF);
+    EXPECT_FALSE(barAt(0));
+    EXPECT_TRUE(barAt(1));
+    EXPECT_TRUE(barAt(2));
+    EXPECT_FALSE(barAt(3));
+}
+
 TEST_F(LooksTest, LightUpTheStatementThatTheCommandWouldSelect)
 {
     Put(QStringLiteral("select 1;\nselect\n2;\n"));

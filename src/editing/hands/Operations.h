@@ -32,6 +32,10 @@ void SelectLines(Editor& editor);
 void GrowSelection(Editor& editor); // word, what brackets hold, brackets, statement, batch, all
 void ShrinkSelection(Editor& editor);
 void SelectStatement(Editor& editor);
+// OccurrenceHands.cpp. Of the word at the caret, or of what is selected: as whole words if it is
+// one. Letters count as they are written. Beyond 5,000 carets no more are made.
+void AddNextOccurrence(Editor& editor); // without a selection the word itself
+void SelectOccurrences(Editor& editor);
 void SurroundByParentheses(Editor& editor);
 void SurroundByQuotes(Editor& editor);
 void SurroundByDoubleQuotes(Editor& editor);
@@ -43,6 +47,8 @@ void NextStatement(Editor& editor);
 void PreviousStatement(Editor& editor);
 void NextBatch(Editor& editor);
 void PreviousBatch(Editor& editor);
+// To the partner of the bracket before or behind the caret; else out of the brackets around it.
+void MatchingBracket(Editor& editor);
 void FoldHere(Editor& editor);
 void UnfoldHere(Editor& editor);
 void FoldEverything(Editor& editor);

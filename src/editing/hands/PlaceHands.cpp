@@ -20,6 +20,37 @@ void GoTo(Editor& editor, long position)
     editor.GotoPos(position, 1);
 }
 
+// What is looked at stays where it is in the window, whatever lines come and go above: the caret's
+// line if it is in sight, else the one at the top.
+class InSight
+{
+public:
+    explicit InSight(Editor& editor) : m_editor(editor)
+    {
+        const int top = editor.GetFirstVisibleLine(1);
+        const int caret = editor.GetCurLineNumber();
+        const int row = editor.VisibleFromDocLine(caret, 1) - top;
+        const bool isInSight = row >= 0 && row < editor.LinesOnScreen(1);
+        m_line = isInSight ? caret : editor.DocLineFromVisible(top, 1);
+        m_row = isInSight ? row : 0;
+    }
+    ~InSight()
+    {
+        int line = m_line;
+        while (line > 0 && !m_editor.GetLineVisible(line, 1))
+            line = m_editor.GetFoldParent(line, 1);
+        const int top = std::max(0, m_editor.VisibleFromDocLine(std::max(line, 0), 1) - m_row);
+        m_editor.LineScroll(0, top - m_editor.GetFirstVisibleLine(1), 1);
+    }
+    InSight(const InSight&) = delete;
+    InSight& operator=(const InSight&) = delete;
+
+private:
+    Editor& m_editor;
+    int m_line;
+    int m_row;
+};
+
 std::vector<PartitionInfo> StatementsIn(Editor& editor, long from, long to)
 {
     std::vector<PartitionInfo> statements;
@@ -85,6 +116,27 @@ void PreviousBatch(Editor& editor)
     GoTo(editor, start);
 }
 
+void MatchingBracket(Editor& editor)
+{
+    constexpr long kFarthest = 20000; // units
+    const long caret = editor.GetCurrentPos(1);
+    if (const long before = editor.BraceMatch(caret, 1); before >= 0) {
+        GoTo(editor, before);
+        return;
+    }
+    if (const long behind = caret > 0 ? editor.BraceMatch(caret - 1, 1) : -1; behind >= 0) {
+        GoTo(editor, behind + 1);
+        return;
+    }
+    for (long at = caret - 1; at >= 0 && at > caret - kFarthest; --at) {
+        const int c = editor.GetCharAt(at, 1);
+        if ((c == '(' || c == '[' || c == '{') && editor.BraceMatch(at, 1) >= caret) {
+            GoTo(editor, at);
+            return;
+        }
+    }
+}
+
 void FoldHere(Editor& editor)
 {
     int line = editor.LineFromPosition(editor.GetCurrentPos(1), 1);
@@ -107,6 +159,7 @@ void UnfoldHere(Editor& editor)
 
 void FoldFromDepth(Editor& editor, int depth)
 {
+    const InSight inSight(editor);
     editor.Colorize(0, -1, 1);
     const int count = editor.GetLineCount(1);
     editor.ShowLines(0, count - 1, 1);
