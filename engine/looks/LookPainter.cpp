@@ -382,7 +382,8 @@ void LookPainter::Rested()
         LightStatement();
 }
 
-// The word at the caret, or the one that is selected, if there is another of it in sight or below.
+// The word at the caret if it may be a name, or the one that is selected, if there is another of it
+// in sight or below.
 void LookPainter::LookForOccurrences(bool hasChanged)
 {
     const long caret = static_cast<long>(m_raw.Send(Sci::SCI_GETCURRENTPOS));
@@ -393,7 +394,10 @@ void LookPainter::LookForOccurrences(bool hasChanged)
     const long from = static_cast<long>(m_raw.Send(Sci::SCI_GETSELECTIONSTART));
     const long to = static_cast<long>(m_raw.Send(Sci::SCI_GETSELECTIONEND));
     const bool isOfTheWord = from == to || (from >= start && to <= end);
-    const bool isWord = end - start > 1 && end - start <= kLongestWord && isOfTheWord;
+    const auto style = static_cast<std::size_t>(
+        m_raw.Send(Sci::SCI_GETSTYLEAT, static_cast<WPARAM>(start)) & 0xFF);
+    const bool isQuiet = from == to && style < m_looks->quiet.size() && m_looks->quiet[style];
+    const bool isWord = end - start > 1 && end - start <= kLongestWord && isOfTheWord && !isQuiet;
     std::string word;
     if (isWord)
         word = m_raw.Bytes(start, end);

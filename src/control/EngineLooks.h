@@ -7,6 +7,8 @@
 
 #include "platform/base/Types.h"
 
+#include <bitset>
+
 namespace engine {
 
 /// The colours, 0x00BBGGRR.
@@ -28,6 +30,8 @@ struct Looks
     COLORREF whitespace = 0;            ///< drawn blanks and tabs
     COLORREF selection = 0;             ///< the ground of the selection
     COLORREF selectionWithoutFocus = 0; ///< the same while the focus is elsewhere
+    /// Styles, by number, of words that are nobody's names: one at the caret is not lit elsewhere.
+    std::bitset<128> quiet;
 };
 
 /// Messages of these, outside the table.

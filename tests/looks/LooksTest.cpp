@@ -233,9 +233,24 @@ TEST_F(LooksTest, LightUpTheWordAtTheCaretOnceItRests)
     EXPECT_TRUE(IsMarked(kOccurrences, 12)); // any case in SQL
     EXPECT_FALSE(IsMarked(kOccurrences, 7));
     EXPECT_FALSE(IsMarked(kOccurrences, 24)); // whole words alone
-    control.GotoPos(7, 1);
-    EXPECT_TRUE(Becomes([&] { return IsMarked(kOccurrences, 7); }));
+    control.GotoPos(25, 1);
+    EXPECT_TRUE(Becomes([&] { return IsMarked(kOccurrences, 25); }));
     EXPECT_FALSE(IsMarked(kOccurrences, 0));
+}
+
+TEST_F(LooksTest, LightUpNoWordThatIsNobodysNameUnlessItIsSelected)
+{
+    Put(QStringLiteral("select the from stock /* the the */ where 12 = 12 select stock\n"));
+    control.Colorize(0, -1, 1);
+    for (const int quiet : {2, 12, 26, 44}) { // select, from, the in the comment, 12
+        control.GotoPos(18, 1);
+        ASSERT_TRUE(Becomes([&] { return IsMarked(kOccurrences, 18); }));
+        control.GotoPos(quiet, 1);
+        EXPECT_TRUE(Becomes([&] { return !IsMarked(kOccurrences, 18); })) << quiet;
+        EXPECT_FALSE(IsMarked(kOccurrences, quiet)) << quiet;
+    }
+    control.SetSel(0, 6, 1);
+    EXPECT_TRUE(Becomes([&] { return IsMarked(kOccurrences, 50); }));
 }
 
 TEST_F(LooksTest, ShowTheMatchesThatAreAskedForAndFollowTheText)

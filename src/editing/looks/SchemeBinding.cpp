@@ -15,6 +15,7 @@
 #include "settings/SyntaxFile.h"
 
 #include <QApplication>
+#include <QSet>
 #include <QStyle>
 
 namespace {
@@ -61,8 +62,23 @@ void ApplyGeneral(const ColourScheme& scheme, CZNCoreEditorControlEx& control)
     control.SetEdgeColor(colour(&CConfigFile::GetRightEdgeColor, Drawn::RightEdge), 1);
 }
 
+// Of words that a language has, or that nothing has: SELECT again is nothing to look for.
+std::bitset<128> QuietStyles(const StyleColours& colours)
+{
+    static const QSet<QString> roles = {
+        QStringLiteral("comment"), QStringLiteral("documentation"),
+        QStringLiteral("keyword"), QStringLiteral("documentationKeyword"),
+        QStringLiteral("number"),  QStringLiteral("operator"),
+        QStringLiteral("type"),
+    };
+    std::bitset<128> quiet;
+    for (int style = 0; style <= kLastStyle; ++style)
+        quiet[static_cast<std::size_t>(style)] = roles.contains(colours.RoleOf(style));
+    return quiet;
+}
+
 // The engine draws these itself, sharp at every scale.
-void TakeIcons(const ColourScheme& scheme, CZNCoreEditorControlEx& control)
+void TakeIcons(const ColourScheme& scheme, CSyntaxFile& syntax, CZNCoreEditorControlEx& control)
 {
     constexpr int kEmpty = 5; // Scintilla's number of the symbol
     constexpr int kFirstFolder = 25;
@@ -90,6 +106,7 @@ void TakeIcons(const ColourScheme& scheme, CZNCoreEditorControlEx& control)
     looks.whitespace = scheme.Of(Drawn::Whitespace);
     looks.selection = scheme.Of(Drawn::Selection);
     looks.selectionWithoutFocus = scheme.Of(Drawn::SelectionWithoutFocus);
+    looks.quiet = QuietStyles(StyleColours(scheme, syntax));
     control.Call(engine::kSetLooks, 0, reinterpret_cast<LPARAM>(&looks), 1);
 }
 
@@ -148,6 +165,6 @@ void CZNCoreEditorControlEx::ApplyScheme(const ColourScheme& scheme, CSyntaxFile
     SetWhitespaceFore(1, scheme.Of(Drawn::Whitespace), 1);
     constexpr int kAir = 6; // pixels between the margins and the text
     SetMarginLeft(kAir, 1);
-    TakeIcons(scheme, *this);
+    TakeIcons(scheme, syntax, *this);
     SetLineNumberWidth();
 }

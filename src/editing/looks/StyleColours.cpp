@@ -21,6 +21,11 @@ StyleColours::StyleColours(const ColourScheme& scheme, CSyntaxFile& syntax)
       m_text(scheme.OfRole(QStringLiteral("text")).value_or(Pair{}))
 {}
 
+QString StyleColours::RoleOf(int style) const
+{
+    return zncoreeditor::GetStyleRoles().RoleOf(m_language, m_syntax.GetStyleName(style));
+}
+
 StyleColours::Pair StyleColours::Of(int style) const
 {
     return Of(style, {static_cast<COLORREF>(m_syntax.GetStyleColorForeground(style)),
@@ -32,8 +37,7 @@ StyleColours::Pair StyleColours::Of(int style, Pair own) const
     const QString name = m_syntax.GetStyleName(style);
     if (name.isEmpty())
         return m_text;
-    const Pair painted =
-        m_scheme.OfRole(zncoreeditor::GetStyleRoles().RoleOf(m_language, name)).value_or(own);
+    const Pair painted = m_scheme.OfRole(RoleOf(style)).value_or(own);
     const auto delivered = m_delivered.constFind(style);
     if (delivered == m_delivered.constEnd())
         return painted;

@@ -23,6 +23,7 @@ public:
 
     Pair Of(int style) const;           ///< with the colours that the file has
     Pair Of(int style, Pair own) const; ///< with these in their place
+    QString RoleOf(int style) const;    ///< empty for one without
 
 private:
     const ColourScheme& m_scheme;
