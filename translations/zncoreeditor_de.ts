@@ -1019,6 +1019,18 @@ Soll sie neu geladen werden?</translation>
         <source>To Level &amp;3</source>
         <translation>Bis Ebene &amp;3</translation>
     </message>
+    <message>
+        <source>&amp;Add Next Occurrence</source>
+        <translation>Nächstes Vorkommen hinzu&amp;fügen</translation>
+    </message>
+    <message>
+        <source>All &amp;Occurrences</source>
+        <translation>Alle V&amp;orkommen</translation>
+    </message>
+    <message>
+        <source>&amp;Matching Bracket</source>
+        <translation>&amp;Zugehörige Klammer</translation>
+    </message>
 </context>
 <context>
     <name>InputBox</name>

@@ -1019,6 +1019,18 @@ Do you want to reload it?</source>
         <source>To Level &amp;3</source>
         <translation>Hasta el nivel &amp;3</translation>
     </message>
+    <message>
+        <source>&amp;Add Next Occurrence</source>
+        <translation>Aña&amp;dir la siguiente aparición</translation>
+    </message>
+    <message>
+        <source>All &amp;Occurrences</source>
+        <translation>T&amp;odas las apariciones</translation>
+    </message>
+    <message>
+        <source>&amp;Matching Bracket</source>
+        <translation>Paréntesis &amp;correspondiente</translation>
+    </message>
 </context>
 <context>
     <name>InputBox</name>

@@ -1019,6 +1019,18 @@ Voulez-vous le recharger&#xa0;?</translation>
         <source>To Level &amp;3</source>
         <translation>Jusqu’au niveau &amp;3</translation>
     </message>
+    <message>
+        <source>&amp;Add Next Occurrence</source>
+        <translation>&amp;Ajouter l’occurrence suivante</translation>
+    </message>
+    <message>
+        <source>All &amp;Occurrences</source>
+        <translation>T&amp;outes les occurrences</translation>
+    </message>
+    <message>
+        <source>&amp;Matching Bracket</source>
+        <translation>Parenthèse &amp;correspondante</translation>
+    </message>
 </context>
 <context>
     <name>InputBox</name>

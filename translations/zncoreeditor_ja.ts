@@ -1019,6 +1019,18 @@ Do you want to reload it?</source>
         <source>To Level &amp;3</source>
         <translation>レベル &amp;3 まで</translation>
     </message>
+    <message>
+        <source>&amp;Add Next Occurrence</source>
+        <translation>次の出現箇所を追加(&amp;A)</translation>
+    </message>
+    <message>
+        <source>All &amp;Occurrences</source>
+        <translation>すべての出現箇所(&amp;O)</translation>
+    </message>
+    <message>
+        <source>&amp;Matching Bracket</source>
+        <translation>対応する括弧(&amp;M)</translation>
+    </message>
 </context>
 <context>
     <name>InputBox</name>

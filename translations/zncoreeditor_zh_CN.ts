@@ -1019,6 +1019,18 @@ Do you want to reload it?</source>
         <source>To Level &amp;3</source>
         <translation>到第 &amp;3 级</translation>
     </message>
+    <message>
+        <source>&amp;Add Next Occurrence</source>
+        <translation>添加下一处(&amp;A)</translation>
+    </message>
+    <message>
+        <source>All &amp;Occurrences</source>
+        <translation>全部出现之处(&amp;O)</translation>
+    </message>
+    <message>
+        <source>&amp;Matching Bracket</source>
+        <translation>匹配的括号(&amp;M)</translation>
+    </message>
 </context>
 <context>
     <name>InputBox</name>

@@ -216,7 +216,7 @@ Mit Qt %1. Lizenziert unter der GNU General Public License, Version 3 oder spät
         <translation>A&amp;bsatz</translation>
     </message>
     <message>
-        <source>To Matching &amp;Brace</source>
+        <source>To Matching &amp;Bracket</source>
         <translation>Bis zur zugehörigen &amp;Klammer</translation>
     </message>
     <message>
@@ -246,10 +246,6 @@ Mit Qt %1. Lizenziert unter der GNU General Public License, Version 3 oder spät
     <message>
         <source>&amp;Clear All</source>
         <translation>&amp;Alle entfernen</translation>
-    </message>
-    <message>
-        <source>&amp;Matching Brace</source>
-        <translation>Zu&amp;gehörige Klammer</translation>
     </message>
     <message>
         <source>Insert &amp;File...</source>

@@ -216,7 +216,7 @@ Con Qt %1. Con licencia pública general de GNU, versión 3 o posterior.</transl
         <translation>&amp;Párrafo</translation>
     </message>
     <message>
-        <source>To Matching &amp;Brace</source>
+        <source>To Matching &amp;Bracket</source>
         <translation>&amp;Hasta el paréntesis correspondiente</translation>
     </message>
     <message>
@@ -246,10 +246,6 @@ Con Qt %1. Con licencia pública general de GNU, versión 3 o posterior.</transl
     <message>
         <source>&amp;Clear All</source>
         <translation>&amp;Borrar todos</translation>
-    </message>
-    <message>
-        <source>&amp;Matching Brace</source>
-        <translation>Parénte&amp;sis correspondiente</translation>
     </message>
     <message>
         <source>Insert &amp;File...</source>

@@ -216,7 +216,7 @@ Avec Qt %1. Sous licence publique générale GNU, version 3 ou ultérieure.</tra
         <translation>&amp;Paragraphe</translation>
     </message>
     <message>
-        <source>To Matching &amp;Brace</source>
+        <source>To Matching &amp;Bracket</source>
         <translation>&amp;Jusqu’à la parenthèse correspondante</translation>
     </message>
     <message>
@@ -246,10 +246,6 @@ Avec Qt %1. Sous licence publique générale GNU, version 3 ou ultérieure.</tra
     <message>
         <source>&amp;Clear All</source>
         <translation>&amp;Tout effacer</translation>
-    </message>
-    <message>
-        <source>&amp;Matching Brace</source>
-        <translation>Parent&amp;hèse correspondante</translation>
     </message>
     <message>
         <source>Insert &amp;File...</source>

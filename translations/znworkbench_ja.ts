@@ -216,7 +216,7 @@ Qt %1 を使用。GNU General Public License バージョン 3 以降の下で�
         <translation>段落(&amp;P)</translation>
     </message>
     <message>
-        <source>To Matching &amp;Brace</source>
+        <source>To Matching &amp;Bracket</source>
         <translation>対応する括弧まで(&amp;B)</translation>
     </message>
     <message>
@@ -246,10 +246,6 @@ Qt %1 を使用。GNU General Public License バージョン 3 以降の下で�
     <message>
         <source>&amp;Clear All</source>
         <translation>すべて消去(&amp;C)</translation>
-    </message>
-    <message>
-        <source>&amp;Matching Brace</source>
-        <translation>対応する括弧(&amp;M)</translation>
     </message>
     <message>
         <source>Insert &amp;File...</source>

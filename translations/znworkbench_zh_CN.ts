@@ -216,7 +216,7 @@ Over Qt %1. Licensed under the GNU General Public License, version 3 or later.</
         <translation>段落(&amp;P)</translation>
     </message>
     <message>
-        <source>To Matching &amp;Brace</source>
+        <source>To Matching &amp;Bracket</source>
         <translation>到匹配的括号(&amp;B)</translation>
     </message>
     <message>
@@ -246,10 +246,6 @@ Over Qt %1. Licensed under the GNU General Public License, version 3 or later.</
     <message>
         <source>&amp;Clear All</source>
         <translation>全部清除(&amp;C)</translation>
-    </message>
-    <message>
-        <source>&amp;Matching Brace</source>
-        <translation>匹配的括号(&amp;M)</translation>
     </message>
     <message>
         <source>Insert &amp;File...</source>

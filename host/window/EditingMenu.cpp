@@ -109,7 +109,7 @@ std::span<const EditingMenu::Row> Rows()
         {kSelect,     "selectWord",     QT_TRANSLATE_NOOP("EditingMenu", "&Word"),                  nullptr, 53908},
         {kSelect,     "selectLine",     QT_TRANSLATE_NOOP("EditingMenu", "&Line"),                  nullptr, 53909},
         {kSelect,     "selectParagraph", QT_TRANSLATE_NOOP("EditingMenu", "&Paragraph"),            nullptr, 53916},
-        {kSelect,     "selectToBrace",  QT_TRANSLATE_NOOP("EditingMenu", "To Matching &Brace"),     "Ctrl+Shift+]", 53961},
+        {kSelect,     "selectToBrace",  QT_TRANSLATE_NOOP("EditingMenu", "To Matching &Bracket"),     "Ctrl+Shift+]", 53961},
         {kSelect,     "swapEnds",       QT_TRANSLATE_NOOP("EditingMenu", "&Caret to the Other End"), nullptr, 53934},
         {kBookmarks,  "bookmark",       QT_TRANSLATE_NOOP("EditingMenu", "&Toggle"),                "Ctrl+F2",       54057},
         {kBookmarks,  "nextBookmark",   QT_TRANSLATE_NOOP("EditingMenu", "&Next"),                  "F2",            54056},

@@ -158,6 +158,7 @@ TEST_F(ExpandedScripts, AreReachedAndLeftByKeys)
 {
     Open("main.sql", "\n#include gone.sql\n");
     Trigger("expand");
+    Trigger("problems");
     QWidget* text = Editor().GetSafeHwnd();
     ASSERT_EQ(m_window.focusWidget(), text);
     Trigger("nextArea");
