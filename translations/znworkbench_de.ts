@@ -1029,6 +1029,18 @@ Mit Qt %1. Lizenziert unter der GNU General Public License, Version 3 oder spät
         <source>Previous Resul&amp;t</source>
         <translation>&amp;Vorheriger Treffer</translation>
     </message>
+    <message>
+        <source>&amp;Go to Script...</source>
+        <translation>&amp;Gehe zu Skript...</translation>
+    </message>
+    <message>
+        <source>Las&amp;t Used Script</source>
+        <translation>Zuletzt benutztes Skr&amp;ipt</translation>
+    </message>
+    <message>
+        <source>Longest Unused Script</source>
+        <translation>A&amp;m längsten unbenutztes Skript</translation>
+    </message>
 </context>
 <context>
     <name>OpenAsDialog</name>
@@ -1804,20 +1816,8 @@ Mit Qt %1. Lizenziert unter der GNU General Public License, Version 3 oder spät
         <translation>Liste der Tabs</translation>
     </message>
     <message>
-        <source>&amp;Close</source>
-        <translation>&amp;Schließen</translation>
-    </message>
-    <message>
-        <source>Close &amp;Others</source>
-        <translation>&amp;Andere schließen</translation>
-    </message>
-    <message>
-        <source>Copy &amp;Path</source>
-        <translation>&amp;Pfad kopieren</translation>
-    </message>
-    <message>
-        <source>Open &amp;Folder</source>
-        <translation>&amp;Ordner öffnen</translation>
+        <source>%1, changed</source>
+        <translation>%1, geändert</translation>
     </message>
 </context>
 <context>
@@ -2005,6 +2005,63 @@ Mit Qt %1. Lizenziert unter der GNU General Public License, Version 3 oder spät
     <message>
         <source>Step</source>
         <translation>Schritt</translation>
+    </message>
+</context>
+<context>
+    <name>TabList</name>
+    <message>
+        <source>Scripts</source>
+        <translation>Skripte</translation>
+    </message>
+    <message>
+        <source>Type part of a name</source>
+        <translation>Teil eines Namens eingeben</translation>
+    </message>
+    <message>
+        <source>Script</source>
+        <translation>Skript</translation>
+    </message>
+    <message>
+        <source>%1, in front</source>
+        <translation>%1, vorn</translation>
+    </message>
+</context>
+<context>
+    <name>TabMenu</name>
+    <message>
+        <source>&amp;Save</source>
+        <translation>&amp;Speichern</translation>
+    </message>
+    <message>
+        <source>&amp;Close</source>
+        <translation>S&amp;chließen</translation>
+    </message>
+    <message>
+        <source>Close &amp;Others</source>
+        <translation>&amp;Andere schließen</translation>
+    </message>
+    <message>
+        <source>Close to the &amp;Right</source>
+        <translation>Tabs &amp;rechts davon schließen</translation>
+    </message>
+    <message>
+        <source>Close &amp;All</source>
+        <translation>A&amp;lle schließen</translation>
+    </message>
+    <message>
+        <source>Copy &amp;Path</source>
+        <translation>&amp;Pfad kopieren</translation>
+    </message>
+    <message>
+        <source>Open Containing &amp;Folder</source>
+        <translation>&amp;Enthaltenden Ordner öffnen</translation>
+    </message>
+</context>
+<context>
+    <name>TabWalk</name>
+    <message>
+        <source>Scripts by last use</source>
+        <translation>Skripte nach letzter Benutzung</translation>
     </message>
 </context>
 <context>

@@ -1029,6 +1029,18 @@ Con Qt %1. Con licencia pública general de GNU, versión 3 o posterior.</transl
         <source>Previous Resul&amp;t</source>
         <translation>Resultado &amp;previo</translation>
     </message>
+    <message>
+        <source>&amp;Go to Script...</source>
+        <translation>Ir al scrip&amp;t...</translation>
+    </message>
+    <message>
+        <source>Las&amp;t Used Script</source>
+        <translation>Último script &amp;usado</translation>
+    </message>
+    <message>
+        <source>Longest Unused Script</source>
+        <translation>Script con &amp;más tiempo sin usar</translation>
+    </message>
 </context>
 <context>
     <name>OpenAsDialog</name>
@@ -1804,20 +1816,8 @@ Con Qt %1. Con licencia pública general de GNU, versión 3 o posterior.</transl
         <translation>Lista de pestañas</translation>
     </message>
     <message>
-        <source>&amp;Close</source>
-        <translation>&amp;Cerrar</translation>
-    </message>
-    <message>
-        <source>Close &amp;Others</source>
-        <translation>Cerrar &amp;las demás</translation>
-    </message>
-    <message>
-        <source>Copy &amp;Path</source>
-        <translation>Copiar &amp;ruta</translation>
-    </message>
-    <message>
-        <source>Open &amp;Folder</source>
-        <translation>&amp;Abrir carpeta</translation>
+        <source>%1, changed</source>
+        <translation>%1, modificado</translation>
     </message>
 </context>
 <context>
@@ -2005,6 +2005,63 @@ Con Qt %1. Con licencia pública general de GNU, versión 3 o posterior.</transl
     <message>
         <source>Step</source>
         <translation>Paso</translation>
+    </message>
+</context>
+<context>
+    <name>TabList</name>
+    <message>
+        <source>Scripts</source>
+        <translation>Scripts</translation>
+    </message>
+    <message>
+        <source>Type part of a name</source>
+        <translation>Escriba parte de un nombre</translation>
+    </message>
+    <message>
+        <source>Script</source>
+        <translation>Script</translation>
+    </message>
+    <message>
+        <source>%1, in front</source>
+        <translation>%1, en primer plano</translation>
+    </message>
+</context>
+<context>
+    <name>TabMenu</name>
+    <message>
+        <source>&amp;Save</source>
+        <translation>&amp;Guardar</translation>
+    </message>
+    <message>
+        <source>&amp;Close</source>
+        <translation>&amp;Cerrar</translation>
+    </message>
+    <message>
+        <source>Close &amp;Others</source>
+        <translation>Cerrar &amp;las demás</translation>
+    </message>
+    <message>
+        <source>Close to the &amp;Right</source>
+        <translation>Cerrar las de la &amp;derecha</translation>
+    </message>
+    <message>
+        <source>Close &amp;All</source>
+        <translation>Cerrar &amp;todas</translation>
+    </message>
+    <message>
+        <source>Copy &amp;Path</source>
+        <translation>Copiar &amp;ruta</translation>
+    </message>
+    <message>
+        <source>Open Containing &amp;Folder</source>
+        <translation>&amp;Abrir la carpeta contenedora</translation>
+    </message>
+</context>
+<context>
+    <name>TabWalk</name>
+    <message>
+        <source>Scripts by last use</source>
+        <translation>Scripts por último uso</translation>
     </message>
 </context>
 <context>

@@ -1029,6 +1029,18 @@ Avec Qt %1. Sous licence publique générale GNU, version 3 ou ultérieure.</tra
         <source>Previous Resul&amp;t</source>
         <translation>Résultat précéd&amp;ent</translation>
     </message>
+    <message>
+        <source>&amp;Go to Script...</source>
+        <translation>Aller au scr&amp;ipt...</translation>
+    </message>
+    <message>
+        <source>Las&amp;t Used Script</source>
+        <translation>&amp;Dernier script utilisé</translation>
+    </message>
+    <message>
+        <source>Longest Unused Script</source>
+        <translation>Script inutilisé depuis le plus lon&amp;gtemps</translation>
+    </message>
 </context>
 <context>
     <name>OpenAsDialog</name>
@@ -1804,20 +1816,8 @@ Avec Qt %1. Sous licence publique générale GNU, version 3 ou ultérieure.</tra
         <translation>Liste des onglets</translation>
     </message>
     <message>
-        <source>&amp;Close</source>
-        <translation>&amp;Fermer</translation>
-    </message>
-    <message>
-        <source>Close &amp;Others</source>
-        <translation>Fermer &amp;les autres</translation>
-    </message>
-    <message>
-        <source>Copy &amp;Path</source>
-        <translation>&amp;Copier le chemin</translation>
-    </message>
-    <message>
-        <source>Open &amp;Folder</source>
-        <translation>&amp;Ouvrir le dossier</translation>
+        <source>%1, changed</source>
+        <translation>%1, modifié</translation>
     </message>
 </context>
 <context>
@@ -2005,6 +2005,63 @@ Avec Qt %1. Sous licence publique générale GNU, version 3 ou ultérieure.</tra
     <message>
         <source>Step</source>
         <translation>Étape</translation>
+    </message>
+</context>
+<context>
+    <name>TabList</name>
+    <message>
+        <source>Scripts</source>
+        <translation>Scripts</translation>
+    </message>
+    <message>
+        <source>Type part of a name</source>
+        <translation>Tapez une partie d’un nom</translation>
+    </message>
+    <message>
+        <source>Script</source>
+        <translation>Script</translation>
+    </message>
+    <message>
+        <source>%1, in front</source>
+        <translation>%1, au premier plan</translation>
+    </message>
+</context>
+<context>
+    <name>TabMenu</name>
+    <message>
+        <source>&amp;Save</source>
+        <translation>&amp;Enregistrer</translation>
+    </message>
+    <message>
+        <source>&amp;Close</source>
+        <translation>&amp;Fermer</translation>
+    </message>
+    <message>
+        <source>Close &amp;Others</source>
+        <translation>Fermer &amp;les autres</translation>
+    </message>
+    <message>
+        <source>Close to the &amp;Right</source>
+        <translation>Fermer à &amp;droite</translation>
+    </message>
+    <message>
+        <source>Close &amp;All</source>
+        <translation>&amp;Tout fermer</translation>
+    </message>
+    <message>
+        <source>Copy &amp;Path</source>
+        <translation>&amp;Copier le chemin</translation>
+    </message>
+    <message>
+        <source>Open Containing &amp;Folder</source>
+        <translation>&amp;Ouvrir le dossier contenant</translation>
+    </message>
+</context>
+<context>
+    <name>TabWalk</name>
+    <message>
+        <source>Scripts by last use</source>
+        <translation>Scripts par dernière utilisation</translation>
     </message>
 </context>
 <context>

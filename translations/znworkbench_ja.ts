@@ -1023,6 +1023,18 @@ Qt %1 を使用。GNU General Public License バージョン 3 以降の下で�
         <source>Previous Resul&amp;t</source>
         <translation>前の結果(&amp;T)</translation>
     </message>
+    <message>
+        <source>&amp;Go to Script...</source>
+        <translation>スクリプトへ移動(&amp;G)...</translation>
+    </message>
+    <message>
+        <source>Las&amp;t Used Script</source>
+        <translation>最後に使ったスクリプト(&amp;T)</translation>
+    </message>
+    <message>
+        <source>Longest Unused Script</source>
+        <translation>最も長く使っていないスクリプト</translation>
+    </message>
 </context>
 <context>
     <name>OpenAsDialog</name>
@@ -1792,20 +1804,8 @@ Qt %1 を使用。GNU General Public License バージョン 3 以降の下で�
         <translation>タブの一覧</translation>
     </message>
     <message>
-        <source>&amp;Close</source>
-        <translation>閉じる(&amp;C)</translation>
-    </message>
-    <message>
-        <source>Close &amp;Others</source>
-        <translation>ほかを閉じる(&amp;O)</translation>
-    </message>
-    <message>
-        <source>Copy &amp;Path</source>
-        <translation>パスをコピー(&amp;P)</translation>
-    </message>
-    <message>
-        <source>Open &amp;Folder</source>
-        <translation>フォルダーを開く(&amp;F)</translation>
+        <source>%1, changed</source>
+        <translation>%1、変更あり</translation>
     </message>
 </context>
 <context>
@@ -1993,6 +1993,63 @@ Qt %1 を使用。GNU General Public License バージョン 3 以降の下で�
     <message>
         <source>Step</source>
         <translation>ステップ</translation>
+    </message>
+</context>
+<context>
+    <name>TabList</name>
+    <message>
+        <source>Scripts</source>
+        <translation>スクリプト</translation>
+    </message>
+    <message>
+        <source>Type part of a name</source>
+        <translation>名前の一部を入力</translation>
+    </message>
+    <message>
+        <source>Script</source>
+        <translation>スクリプト</translation>
+    </message>
+    <message>
+        <source>%1, in front</source>
+        <translation>%1、前面</translation>
+    </message>
+</context>
+<context>
+    <name>TabMenu</name>
+    <message>
+        <source>&amp;Save</source>
+        <translation>保存(&amp;S)</translation>
+    </message>
+    <message>
+        <source>&amp;Close</source>
+        <translation>閉じる(&amp;C)</translation>
+    </message>
+    <message>
+        <source>Close &amp;Others</source>
+        <translation>ほかを閉じる(&amp;O)</translation>
+    </message>
+    <message>
+        <source>Close to the &amp;Right</source>
+        <translation>右側を閉じる(&amp;R)</translation>
+    </message>
+    <message>
+        <source>Close &amp;All</source>
+        <translation>すべて閉じる(&amp;A)</translation>
+    </message>
+    <message>
+        <source>Copy &amp;Path</source>
+        <translation>パスをコピー(&amp;P)</translation>
+    </message>
+    <message>
+        <source>Open Containing &amp;Folder</source>
+        <translation>ファイルのあるフォルダーを開く(&amp;F)</translation>
+    </message>
+</context>
+<context>
+    <name>TabWalk</name>
+    <message>
+        <source>Scripts by last use</source>
+        <translation>最近使った順のスクリプト</translation>
     </message>
 </context>
 <context>

@@ -1023,6 +1023,18 @@ Over Qt %1. Licensed under the GNU General Public License, version 3 or later.</
         <source>Previous Resul&amp;t</source>
         <translation>上一个结果(&amp;T)</translation>
     </message>
+    <message>
+        <source>&amp;Go to Script...</source>
+        <translation>转到脚本(&amp;G)...</translation>
+    </message>
+    <message>
+        <source>Las&amp;t Used Script</source>
+        <translation>上次使用的脚本(&amp;T)</translation>
+    </message>
+    <message>
+        <source>Longest Unused Script</source>
+        <translation>最久未使用的脚本</translation>
+    </message>
 </context>
 <context>
     <name>OpenAsDialog</name>
@@ -1792,20 +1804,8 @@ Over Qt %1. Licensed under the GNU General Public License, version 3 or later.</
         <translation>标签页列表</translation>
     </message>
     <message>
-        <source>&amp;Close</source>
-        <translation>关闭(&amp;C)</translation>
-    </message>
-    <message>
-        <source>Close &amp;Others</source>
-        <translation>关闭其他(&amp;O)</translation>
-    </message>
-    <message>
-        <source>Copy &amp;Path</source>
-        <translation>复制路径(&amp;P)</translation>
-    </message>
-    <message>
-        <source>Open &amp;Folder</source>
-        <translation>打开文件夹(&amp;F)</translation>
+        <source>%1, changed</source>
+        <translation>%1，已修改</translation>
     </message>
 </context>
 <context>
@@ -1993,6 +1993,63 @@ Over Qt %1. Licensed under the GNU General Public License, version 3 or later.</
     <message>
         <source>Step</source>
         <translation>步骤</translation>
+    </message>
+</context>
+<context>
+    <name>TabList</name>
+    <message>
+        <source>Scripts</source>
+        <translation>脚本</translation>
+    </message>
+    <message>
+        <source>Type part of a name</source>
+        <translation>输入名称的一部分</translation>
+    </message>
+    <message>
+        <source>Script</source>
+        <translation>脚本</translation>
+    </message>
+    <message>
+        <source>%1, in front</source>
+        <translation>%1，当前</translation>
+    </message>
+</context>
+<context>
+    <name>TabMenu</name>
+    <message>
+        <source>&amp;Save</source>
+        <translation>保存(&amp;S)</translation>
+    </message>
+    <message>
+        <source>&amp;Close</source>
+        <translation>关闭(&amp;C)</translation>
+    </message>
+    <message>
+        <source>Close &amp;Others</source>
+        <translation>关闭其他(&amp;O)</translation>
+    </message>
+    <message>
+        <source>Close to the &amp;Right</source>
+        <translation>关闭右侧(&amp;R)</translation>
+    </message>
+    <message>
+        <source>Close &amp;All</source>
+        <translation>全部关闭(&amp;A)</translation>
+    </message>
+    <message>
+        <source>Copy &amp;Path</source>
+        <translation>复制路径(&amp;P)</translation>
+    </message>
+    <message>
+        <source>Open Containing &amp;Folder</source>
+        <translation>打开所在文件夹(&amp;F)</translation>
+    </message>
+</context>
+<context>
+    <name>TabWalk</name>
+    <message>
+        <source>Scripts by last use</source>
+        <translation>按最近使用排列的脚本</translation>
     </message>
 </context>
 <context>

@@ -60,6 +60,7 @@ constexpr Row kRows[] = {
     {"expand",      nullptr,              nullptr},
     {"commands",    nullptr,              nullptr},
     {"options",     "preferences-system", nullptr},
+    {"modified",    nullptr,              nullptr},
     {"keys",        "help-contents",      "help"},
 };
 // clang-format on

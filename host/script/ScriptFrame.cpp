@@ -3,7 +3,6 @@
 
 #include "host/commands/WorkbenchCommands.h"
 #include "host/script/ScriptDoc.h"
-#include "host/script/ScriptTabs.h"
 #include "host/script/ScriptView.h"
 #include "platform/docview/CommandIds.h"
 #include "platform/docview/CreateContext.h"
@@ -84,16 +83,17 @@ CZNCoreEditorControlEx& ScriptFrame::Editor() const
     return View()->GetCoreEditorControlRef();
 }
 
-QString ScriptFrame::Caption() const
+TabCaption ScriptFrame::Caption() const
 {
     ScriptDoc* script = Script();
     if (!script)
         return {};
-    QString caption = script->Name() + NumberOf(this, *script);
+    TabCaption caption;
+    caption.name = script->Name() + NumberOf(this, *script);
     if (script->IsReadOnly())
-        caption += QCoreApplication::translate("ScriptFrame", " (Read Only)");
-    if (script->IsModified())
-        caption += QLatin1String(" *");
+        caption.marks = QCoreApplication::translate("ScriptFrame", " (Read Only)");
+    caption.path = QDir::toNativeSeparators(script->GetPathName());
+    caption.isModified = script->IsModified() != 0;
     return caption;
 }
 
@@ -196,9 +196,8 @@ void ScriptFrame::ActivateFrame()
 void ScriptFrame::OnUpdateFrameTitle()
 {
     ScriptTabs* tabs = ScriptTabs::OfMainWindow();
-    const ScriptDoc* script = Script();
-    if (tabs && script && GetSafeHwnd())
-        tabs->SetCaption(GetSafeHwnd(), Caption(), QDir::toNativeSeparators(script->GetPathName()));
+    if (tabs && Script() && GetSafeHwnd())
+        tabs->SetCaption(GetSafeHwnd(), Caption());
 }
 
 // The tabs of the same script that are left have other numbers.

@@ -3,9 +3,8 @@
 #pragma once
 
 #include "docview/ZNCoreEditorSplitter.h"
+#include "host/script/ScriptTabs.h"
 #include "platform/docview/FrameWnd.h"
-
-#include <QString>
 
 class CZNCoreEditorControlEx;
 class ScriptDoc;
@@ -30,7 +29,7 @@ public:
     ScriptDoc* Script() const; // null once it is closed
     ScriptView* View() const;  // the active pane; null once it is closed
     CZNCoreEditorControlEx& Editor() const;
-    QString Caption() const; // the name, which of several tabs, and what is to be known of it
+    TabCaption Caption() const;
 
     bool IsSplit() const; // in either direction
     bool IsSplit(Qt::Orientation orientation) const;

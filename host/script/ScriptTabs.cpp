@@ -1,21 +1,24 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "host/script/ScriptTabs.h"
 
-#include "host/icons/MenuButton.h"
+#include "host/files/RecentFiles.h"
+#include "host/icons/Icons.h"
+#include "host/script/TabList.h"
+#include "host/script/TabMenu.h"
+#include "host/script/TabWalk.h"
 #include "platform/docview/WinApp.h"
 #include "platform/windows/Wnd.h"
 
-#include <QClipboard>
 #include <QContextMenuEvent>
-#include <QDesktopServices>
+#include <QDir>
 #include <QFileInfo>
-#include <QGuiApplication>
 #include <QMenu>
 #include <QMouseEvent>
+#include <QPointer>
 #include <QTabBar>
-#include <QUrl>
+#include <QToolButton>
 
-ScriptTabs::ScriptTabs(QWidget* parent) : QTabWidget(parent), m_list(new QMenu(this))
+ScriptTabs::ScriptTabs(QWidget* parent) : QTabWidget(parent), m_walk(new TabWalk(*this))
 {
     setTabsClosable(true);
     setMovable(true);
@@ -24,24 +27,20 @@ ScriptTabs::ScriptTabs(QWidget* parent) : QTabWidget(parent), m_list(new QMenu(t
     tabBar()->setElideMode(Qt::ElideNone);
     tabBar()->setExpanding(false);
     tabBar()->installEventFilter(this);
-    auto* list = new MenuButton(this);
+    auto* list = new QToolButton(this);
     list->setObjectName(QStringLiteral("tabList"));
+    list->setAutoRaise(true);
     list->setAccessibleName(tr("List of tabs"));
     list->setToolTip(tr("List of tabs"));
     list->setArrowType(Qt::DownArrow);
-    list->setMenu(m_list);
-    connect(m_list, &QMenu::aboutToShow, this, &ScriptTabs::FillList);
+    connect(list, &QToolButton::clicked, this, &ScriptTabs::ShowList);
     setCornerWidget(list);
-}
-
-void ScriptTabs::FillList()
-{
-    m_list->clear();
-    for (int i = 0; i < count(); ++i) {
-        QAction* action = m_list->addAction(tabText(i), this, [this, i] { setCurrentIndex(i); });
-        action->setCheckable(true);
-        action->setChecked(i == currentIndex());
-    }
+    connect(this, &QTabWidget::currentChanged, this, [this](int index) {
+        if (QWidget* page = widget(index)) {
+            m_used.removeAll(page);
+            m_used.prepend(page);
+        }
+    });
 }
 
 // The middle button closes a tab, the right one opens its menu.
@@ -67,33 +66,51 @@ bool ScriptTabs::eventFilter(QObject* watched, QEvent* event)
 
 void ScriptTabs::ShowMenu(int index, const QPoint& place)
 {
-    auto* menu = new QMenu(this);
-    menu->setObjectName(QStringLiteral("tabMenu"));
-    menu->setAttribute(Qt::WA_DeleteOnClose);
-    const QString path = tabToolTip(index);
-    const bool isFile = QFileInfo(path).isAbsolute();
-    menu->addAction(tr("&Close"), this, [this, index] { Q_EMIT tabCloseRequested(index); });
-    menu->addAction(tr("Close &Others"), this, [this, index] { CloseOthers(index); })
-        ->setEnabled(count() > 1);
-    menu->addSeparator();
-    menu->addAction(tr("Copy &Path"), this, [path] { QGuiApplication::clipboard()->setText(path); })
-        ->setEnabled(isFile);
-    menu->addAction(tr("Open &Folder"), this,
-                    [path] {
-                        QDesktopServices::openUrl(
-                            QUrl::fromLocalFile(QFileInfo(path).absolutePath()));
-                    })
-        ->setEnabled(isFile);
-    menu->popup(place);
+    if (index >= 0)
+        (new TabMenu(*this, index))->popup(place);
 }
 
-// From the end, so that the places of those that are still to be asked stay.
-void ScriptTabs::CloseOthers(int index)
+void ScriptTabs::ShowList()
 {
-    const QWidget* kept = widget(index);
-    for (int i = count() - 1; i >= 0; --i) {
-        if (widget(i) != kept)
-            Q_EMIT tabCloseRequested(i);
+    auto* list = new TabList(*this);
+    list->ShowBelow(*cornerWidget());
+}
+
+void ScriptTabs::Walk(int step)
+{
+    m_walk->Step(step);
+}
+
+QList<QWidget*> ScriptTabs::From(int index) const
+{
+    QList<QWidget*> pages;
+    for (int i = index; i < count(); ++i)
+        pages << widget(i);
+    return pages;
+}
+
+void ScriptTabs::CloseOthers(const QWidget* page)
+{
+    QList<QWidget*> pages = From(0);
+    if (pages.removeOne(page))
+        Close(pages);
+}
+
+void ScriptTabs::CloseBehind(const QWidget* page)
+{
+    if (const int index = indexOf(page); index >= 0)
+        Close(From(index + 1));
+}
+
+// A question that is broken off leaves its tab, and those that were not asked about.
+void ScriptTabs::Close(const QList<QWidget*>& pages)
+{
+    const QPointer<ScriptTabs> self(this);
+    for (QWidget* page : pages) {
+        if (const int index = indexOf(page); index >= 0)
+            Q_EMIT tabCloseRequested(index);
+        if (!self || indexOf(page) >= 0)
+            return;
     }
 }
 
@@ -119,22 +136,25 @@ void ScriptTabs::Remove(QWidget* page)
     const int index = indexOf(page);
     if (index < 0)
         return;
-    const QString path = tabToolTip(index);
-    setTabToolTip(index, {});
+    const QString path = m_captions.take(page).path;
+    m_used.removeAll(page);
     // Before the tab goes, since the commands are looked at when another one comes to the front.
-    if (QFileInfo(path).isAbsolute() && !IsShown(path)) {
+    if (!path.isEmpty() && !IsShown(path)) {
         m_closed.removeAll(path);
         m_closed << path;
         if (m_closed.size() > kMost)
             m_closed.removeFirst();
     }
+    if (index == currentIndex() && !m_used.isEmpty())
+        setCurrentWidget(m_used.first());
     removeTab(index);
+    Write();
 }
 
 bool ScriptTabs::IsShown(const QString& path) const
 {
     for (int i = 0; i < count(); ++i) {
-        if (tabToolTip(i) == path)
+        if (Path(i) == path)
             return true;
     }
     return false;
@@ -150,15 +170,32 @@ QString ScriptTabs::TakeClosed()
     return {};
 }
 
-void ScriptTabs::SetCaption(QWidget* page, const QString& caption, const QString& toolTip)
+void ScriptTabs::SetCaption(QWidget* page, const TabCaption& caption)
 {
-    const int index = indexOf(page);
-    if (index < 0)
+    if (indexOf(page) < 0 || m_captions.value(page) == caption)
         return;
-    // A single ampersand would mark the letter behind it.
-    const QString text = QString(caption).replace(u'&', QLatin1String("&&"));
-    if (tabText(index) != text)
-        setTabText(index, text);
-    if (tabToolTip(index) != toolTip)
-        setTabToolTip(index, toolTip);
+    m_captions[page] = caption;
+    Write();
+}
+
+void ScriptTabs::Write()
+{
+    QStringList paths;
+    for (int i = 0; i < count(); ++i)
+        paths << QDir::fromNativeSeparators(Path(i));
+    const QStringList names = RecentFileNames(paths);
+    for (int i = 0; i < count(); ++i) {
+        const TabCaption caption = CaptionOf(i);
+        const QString folder = names[i].mid(paths[i].section(u'/', -1).size());
+        const QString text = caption.name + folder + caption.marks;
+        // A single ampersand would mark the letter behind it.
+        const QString shown = QString(text).replace(u'&', QLatin1String("&&"));
+        if (tabText(i) != shown)
+            setTabText(i, shown);
+        if (tabToolTip(i) != caption.path)
+            setTabToolTip(i, caption.path);
+        if (tabIcon(i).isNull() == caption.isModified)
+            setTabIcon(i, caption.isModified ? CommandIcon(QStringLiteral("modified")) : QIcon());
+        tabBar()->setAccessibleTabName(i, caption.isModified ? tr("%1, changed").arg(text) : text);
+    }
 }

@@ -453,9 +453,9 @@ void MainWindow::UpdateTitle()
     const ScriptFrame* frame = CurrentFrame();
     ScriptDoc* script = frame ? frame->Script() : nullptr;
     const bool isModified = script && script->IsModified();
-    QString caption = frame ? frame->Caption() : QString();
+    QString caption = frame ? frame->Caption().Text() : QString();
     if (isModified)
-        caption.chop(1); // the star
+        caption += u' ';
     const auto verbatim = [](QString text) {
         return text.replace(QLatin1String("[*]"), QLatin1String("[*][*]"));
     };

@@ -85,6 +85,9 @@ public:
     void PopUpActions(std::initializer_list<const char*> names); // at the mouse
     void ChangeOptions();
     void ChangeAutosave();
+    void ShowScripts();
+    void LastUsedScript();
+    void LongestUnusedScript();
     void NextScript();
     void PreviousScript();
     void NextArea();

@@ -150,8 +150,11 @@ std::span<const MainWindow::Command> MainWindow::Commands()
         {kView, nullptr},
         {kView, "nextProblem", QT_TR_NOOP("Next Proble&m"), Key::UnknownKey, "F8",   0, When::Script, Run<&W::NextProblem>},
         {kView, nullptr},
-        {kView, "next",      QT_TR_NOOP("Ne&xt Script"),     Key::NextChild,     "Ctrl+PgDown", 0, When::SeveralScripts, Run<&W::NextScript>},
-        {kView, "previous",  QT_TR_NOOP("&Previous Script"), Key::PreviousChild, "Ctrl+PgUp", 0, When::SeveralScripts, Run<&W::PreviousScript>},
+        {kView, "goToScript", QT_TR_NOOP("&Go to Script..."), Key::UnknownKey,   "Ctrl+E", 0, When::Script, Run<&W::ShowScripts>},
+        {kView, "lastUsed",  QT_TR_NOOP("Las&t Used Script"), Key::NextChild,    "Ctrl+Tab", 0, When::SeveralScripts, Run<&W::LastUsedScript>},
+        {kView, "longestUnused", QT_TR_NOOP("Longest Unused Script"), Key::PreviousChild, "Ctrl+Shift+Tab", 0, When::SeveralScripts, Run<&W::LongestUnusedScript>},
+        {kView, "next",      QT_TR_NOOP("Ne&xt Script"),     Key::UnknownKey,    "Ctrl+PgDown", 0, When::SeveralScripts, Run<&W::NextScript>},
+        {kView, "previous",  QT_TR_NOOP("&Previous Script"), Key::UnknownKey,    "Ctrl+PgUp", 0, When::SeveralScripts, Run<&W::PreviousScript>},
 
         {kTools, "expand",   QT_TR_NOOP("&Expanded Script"), Key::UnknownKey, "F9",    0, When::Script, Run<&W::ExpandScript>},
         {kTools, nullptr},
@@ -381,6 +384,21 @@ void MainWindow::OpenField(const QString& field)
         if (field == QLatin1String(way.field) && action)
             action->trigger();
     }
+}
+
+void MainWindow::ShowScripts()
+{
+    m_tabs->ShowList();
+}
+
+void MainWindow::LastUsedScript()
+{
+    m_tabs->Walk(1);
+}
+
+void MainWindow::LongestUnusedScript()
+{
+    m_tabs->Walk(-1);
 }
 
 void MainWindow::NextScript()

@@ -10,7 +10,8 @@ QList<QKeySequence> KnownKeys(const QList<QKeySequence>& keys)
     for (const QKeySequence& sequence : keys) {
         const QKeyCombination combination = sequence[0];
         const Qt::Key key = combination.key();
-        if (key > Qt::Key_F12 && key <= Qt::Key_F35)
+        if ((key > Qt::Key_F12 && key <= Qt::Key_F35) || key == Qt::Key_Back ||
+            key == Qt::Key_Forward)
             continue;
         known << (key == Qt::Key_Backtab
                       ? QKeySequence(QKeyCombination(combination.keyboardModifiers(), Qt::Key_Tab))

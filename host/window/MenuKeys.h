@@ -8,7 +8,8 @@
 
 class QAction;
 
-// Without those of keys behind F12; Backtab is written as Tab, which Qt takes for the same.
+// Without those of keys behind F12, and of the keys that turn pages; Backtab is written as Tab,
+// which Qt takes for the same.
 QList<QKeySequence> KnownKeys(const QList<QKeySequence>& keys);
 
 // A key that one command has first is no further key of another.

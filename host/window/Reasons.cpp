@@ -49,6 +49,8 @@ constexpr Row kRows[] = {
     {"outdent",        true,  true,  nullptr},
     {"sortUp",         true,  true,  nullptr},
     {"sortDown",       true,  true,  nullptr},
+    {"lastUsed",       false, false, QT_TRANSLATE_NOOP("Reasons", "No other script is open.")},
+    {"longestUnused",  false, false, QT_TRANSLATE_NOOP("Reasons", "No other script is open.")},
     {"next",           false, false, QT_TRANSLATE_NOOP("Reasons", "No other script is open.")},
     {"previous",       false, false, QT_TRANSLATE_NOOP("Reasons", "No other script is open.")},
     {"reopenClosed",   false, false, QT_TRANSLATE_NOOP("Reasons", "No tab was closed.")},
@@ -89,7 +91,8 @@ QAction* ActionFor(UINT command, const QMainWindow& window)
     return nullptr;
 }
 
-constexpr const char* kWithoutScript[] = {"reopenClosed", "saveAll", "next", "previous"};
+constexpr const char* kWithoutScript[] = {"reopenClosed",  "saveAll", "lastUsed",
+                                          "longestUnused", "next",    "previous"};
 
 } // namespace
 

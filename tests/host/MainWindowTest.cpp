@@ -19,7 +19,8 @@ protected:
     QString TabCaption() const
     {
         const auto* tabs = m_window.findChild<QTabWidget*>();
-        return tabs->tabText(tabs->currentIndex());
+        const int index = tabs->currentIndex();
+        return tabs->tabText(index) + (tabs->tabIcon(index).isNull() ? "" : " *");
     }
 
     void Press(Qt::Key key, Qt::KeyboardModifiers modifiers = Qt::NoModifier) const

@@ -174,7 +174,7 @@ TEST_F(Memory, BringsBackPanesAndFurtherTabs)
     Start();
     ASSERT_EQ(m_window->TabCount(), 3);
     EXPECT_EQ(m_app->Scripts().size(), 2U);
-    EXPECT_EQ(m_window->CurrentFrame()->Caption(), "a.sql:2");
+    EXPECT_EQ(m_window->CurrentFrame()->Caption().Text(), "a.sql:2");
     EXPECT_EQ(Editor().LineFromPosition(Editor().GetCurrentPos(1), 1), 200);
     EXPECT_TRUE(m_window->CurrentFrame()->IsSplit());
     EXPECT_FALSE(m_window->CurrentFrame()->IsSplit(Qt::Vertical));

@@ -26,7 +26,7 @@ QList<QKeySequence> Keys(const QStringList& names)
 
 TEST(MenuKeys, AreThoseThatKeyboardsHave)
 {
-    EXPECT_EQ(Names(KnownKeys(Keys({"Ctrl+X", "Shift+Del", "F20", "F12"}))),
+    EXPECT_EQ(Names(KnownKeys(Keys({"Ctrl+X", "Back", "Shift+Del", "F20", "F12", "Forward"}))),
               QStringList({"Ctrl+X", "Shift+Del", "F12"}));
 }
 

@@ -47,7 +47,8 @@ protected:
     QString Caption() const
     {
         const auto* tabs = m_window.findChild<QTabWidget*>();
-        return tabs->tabText(tabs->currentIndex());
+        const int index = tabs->currentIndex();
+        return tabs->tabText(index) + (tabs->tabIcon(index).isNull() ? "" : " *");
     }
 
     void MakeReadOnly(const QString& name) const

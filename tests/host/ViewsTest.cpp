@@ -12,7 +12,10 @@ namespace {
 class Views : public WorkbenchTest
 {
 protected:
-    QString Caption(int index) const { return Tabs().tabText(index); }
+    QString Caption(int index) const
+    {
+        return Tabs().tabText(index) + (Tabs().tabIcon(index).isNull() ? "" : " *");
+    }
     ScriptTabs& Tabs() const { return *m_window.findChild<ScriptTabs*>(); }
 
     QStringList Texts() const

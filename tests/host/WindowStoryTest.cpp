@@ -34,6 +34,28 @@ TEST_F(WindowStory, UndoTakesBackWhatTheFileHolds)
         << Read().toStdString();
 }
 
+TEST_F(WindowStory, CtrlAndTabGoBackAndForthBetweenTwoScripts)
+{
+    const auto isInFront = [this](const QString& name) {
+        return Eventually([&] { return Title().startsWith(name); });
+    };
+    Keys({"ctrl+n", "ctrl+n"});
+    ASSERT_TRUE(isInFront("Script 2")) << Title().toStdString();
+    Keys({"ctrl+Tab"});
+    ASSERT_TRUE(isInFront("Script 1")) << Title().toStdString();
+    Keys({"ctrl+Tab"});
+    ASSERT_TRUE(isInFront("Script 2")) << Title().toStdString();
+    // Held: nothing comes to the front before it is let go.
+    XDoTool({"keydown", "ctrl", "key", "Tab", "key", "Tab"});
+    EXPECT_TRUE(Title().startsWith("Script 2")) << Title().toStdString();
+    XDoTool({"keyup", "ctrl"});
+    EXPECT_TRUE(isInFront("story.sql")) << Title().toStdString();
+    XDoTool({"keydown", "ctrl", "key", "Tab", "key", "Escape", "keyup", "ctrl"});
+    Type(QStringLiteral("x"));
+    Keys({"ctrl+s"});
+    EXPECT_TRUE(Eventually([this] { return Read().endsWith("x"); })) << Read().toStdString();
+}
+
 TEST_F(WindowStory, TheQuitKeysEndTheProgram)
 {
     Keys({"ctrl+q"});

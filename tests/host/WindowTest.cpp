@@ -7,11 +7,9 @@
 #include "host/window/CommandPalette.h"
 #include "tests/host/WorkbenchTest.h"
 
-#include <QClipboard>
 #include <QComboBox>
 #include <QLineEdit>
 #include <QListWidget>
-#include <QMenu>
 #include <QTabBar>
 #include <QTest>
 #include <QToolButton>
@@ -37,40 +35,6 @@ TEST_F(Windows, CloseATabByTheMiddleButton)
     QTest::mouseClick(Tabs().tabBar(), Qt::MiddleButton, {}, Tabs().tabBar()->tabRect(0).center());
     Rest();
     EXPECT_EQ(m_window.TabCount(), before - 1);
-}
-
-TEST_F(Windows, CloseAllTabsButOne)
-{
-    Open("one.sql", "1\n");
-    Open("two.sql", "2\n");
-    Open("three.sql", "3\n");
-    Tabs().CloseOthers(1);
-    Rest();
-    ASSERT_EQ(m_window.TabCount(), 1);
-    EXPECT_EQ(Script().Name(), QStringLiteral("two.sql"));
-}
-
-TEST_F(Windows, CopyThePathOfATab)
-{
-    Open("one.sql", "1\n");
-    Tabs().ShowMenu(Tabs().currentIndex(), QPoint(10, 10));
-    const auto* menu = Tabs().findChild<QMenu*>(QStringLiteral("tabMenu"));
-    ASSERT_NE(menu, nullptr);
-    for (QAction* action : menu->actions()) {
-        if (action->text() == QLatin1String("Copy &Path"))
-            action->trigger();
-    }
-    EXPECT_EQ(QApplication::clipboard()->text(), PathOf("one.sql"));
-}
-
-TEST_F(Windows, ShowWholeNamesOnTabsAndAListOfThem)
-{
-    Open("a_name_that_is_really_quite_long_for_a_script.sql", "1\n");
-    EXPECT_EQ(Tabs().tabBar()->elideMode(), Qt::ElideNone);
-    const auto* list = m_window.findChild<QToolButton*>(QStringLiteral("tabList"));
-    ASSERT_NE(list, nullptr);
-    Q_EMIT list->menu()->aboutToShow();
-    EXPECT_EQ(list->menu()->actions().size(), m_window.TabCount());
 }
 
 TEST_F(Windows, FindACommandByWordsOfItsName)
