@@ -1,8 +1,10 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "host/icons/Style.h"
 
+#include "host/icons/FocusFrame.h"
 #include "host/icons/Icons.h"
 
+#include <QAbstractScrollArea>
 #include <QApplication>
 #include <QPainter>
 #include <QStyleOption>
@@ -10,6 +12,13 @@
 namespace {
 
 const QString kPlain = QStringLiteral("fusion");
+constexpr double kFocusWidth = 2; // pixels
+constexpr double kThin = 1;
+
+QColor FocusOn(const QStyleOption& option, QPalette::ColorRole ground)
+{
+    return FocusColour(option.palette, option.palette.color(QPalette::Active, ground));
+}
 
 // Between the ink and the ground, so that it is seen on both.
 QColor Frame(const QStyleOption& option)
@@ -38,7 +47,7 @@ void DrawBox(const QStyleOption& option, QPainter& painter, bool isRound)
     const double corner = isRound ? box.width() / 2 : kCorner;
     painter.setRenderHint(QPainter::Antialiasing);
     const bool isHot = option.state & (QStyle::State_HasFocus | QStyle::State_MouseOver);
-    painter.setPen(isHot ? option.palette.color(QPalette::Link) : Frame(option));
+    painter.setPen(isHot ? FocusOn(option, QPalette::Base) : Frame(option));
     painter.setBrush(
         option.palette.brush(option.state & QStyle::State_Sunken ? QPalette::Mid : QPalette::Base));
     painter.drawRoundedRect(box, corner, corner);
@@ -62,12 +71,40 @@ void DrawBox(const QStyleOption& option, QPainter& painter, bool isRound)
 
 void DrawEditFrame(const QStyleOption& option, QPainter& painter)
 {
-    constexpr double kCorner = 2;
     const bool hasFocus = option.state & QStyle::State_HasFocus;
-    painter.setRenderHint(QPainter::Antialiasing);
-    painter.setPen(hasFocus ? option.palette.color(QPalette::Highlight) : Frame(option));
-    painter.setBrush(Qt::NoBrush);
-    painter.drawRoundedRect(QRectF(option.rect).adjusted(0.5, 0.5, -0.5, -0.5), kCorner, kCorner);
+    DrawFocusFrame(painter, option.rect, hasFocus ? FocusOn(option, QPalette::Base) : Frame(option),
+                   hasFocus ? kFocusWidth : kThin);
+}
+
+// Around words in a window, or a row of a list.
+void DrawFocusRect(const QStyleOption& option, QPainter& painter)
+{
+    const auto* focus = qstyleoption_cast<const QStyleOptionFocusRect*>(&option);
+    const bool isRow = option.state & QStyle::State_Item;
+    const QPalette::ColorRole ground = !isRow                                  ? QPalette::Window
+                                       : option.state & QStyle::State_Selected ? QPalette::Highlight
+                                                                               : QPalette::Base;
+    if (focus)
+        DrawFocusFrame(painter, option.rect, FocusOn(option, ground), kThin);
+}
+
+// The button that Enter presses has a thin frame.
+void DrawButtonFrame(const QStyleOptionButton& option, QPainter& painter)
+{
+    const bool isDefault = option.features & QStyleOptionButton::DefaultButton;
+    const bool hasFocus = option.state & QStyle::State_HasFocus;
+    if ((isDefault || hasFocus) && option.state & QStyle::State_Enabled)
+        DrawFocusFrame(painter, option.rect, FocusOn(option, QPalette::Button),
+                       hasFocus ? kFocusWidth : kThin);
+}
+
+// Of an entry that cannot be taken; the plain style draws the ground of others.
+void DrawEntryGround(const QStyleOption& option, QPainter& painter)
+{
+    constexpr double kFaint = 0.5;
+    QColor ground = option.palette.color(QPalette::Active, QPalette::Highlight);
+    ground.setAlphaF(kFaint);
+    painter.fillRect(option.rect, ground);
 }
 
 // Quiet until the mouse is there.
@@ -108,6 +145,15 @@ void Style::Install()
 void Style::drawPrimitive(PrimitiveElement element, const QStyleOption* option, QPainter* painter,
                           const QWidget* widget) const
 {
+    if (element == PE_FrameFocusRect) {
+        DrawFocusRect(*option, *painter);
+        return;
+    }
+    if (element == PE_Frame && option->state & State_HasFocus &&
+        qobject_cast<const QAbstractScrollArea*>(widget)) {
+        DrawFocusFrame(*painter, option->rect, FocusOn(*option, QPalette::Base), kThin);
+        return;
+    }
     const bool isBox = element == PE_IndicatorCheckBox || element == PE_IndicatorItemViewItemCheck;
     const bool isRound = element == PE_IndicatorRadioButton;
     if (element == PE_FrameLineEdit) {
@@ -126,6 +172,34 @@ void Style::drawPrimitive(PrimitiveElement element, const QStyleOption* option, 
     else
         DrawBox(*option, *painter, isRound);
     painter->restore();
+}
+
+void Style::drawControl(ControlElement element, const QStyleOption* option, QPainter* painter,
+                        const QWidget* widget) const
+{
+    const auto* button = qstyleoption_cast<const QStyleOptionButton*>(option);
+    if (element == CE_PushButton && button) {
+        QStyleOptionButton quiet = *button;
+        quiet.state.setFlag(State_HasFocus, false);
+        QProxyStyle::drawControl(element, &quiet, painter, widget);
+        DrawButtonFrame(*button, *painter);
+        return;
+    }
+    const bool isChosen = element == CE_MenuItem && option->state & State_Selected;
+    if (isChosen && !(option->state & State_Enabled))
+        DrawEntryGround(*option, *painter);
+    QProxyStyle::drawControl(element, option, painter, widget);
+    if (isChosen)
+        DrawFocusFrame(*painter, option->rect, FocusOn(*option, QPalette::Window), kThin);
+}
+
+void Style::drawComplexControl(ComplexControl control, const QStyleOptionComplex* option,
+                               QPainter* painter, const QWidget* widget) const
+{
+    QProxyStyle::drawComplexControl(control, option, painter, widget);
+    const bool isField = control == CC_ComboBox || control == CC_SpinBox;
+    if (isField && option->state & State_HasFocus)
+        DrawFocusFrame(*painter, option->rect, FocusOn(*option, QPalette::Base), kFocusWidth);
 }
 
 QIcon Style::standardIcon(StandardPixmap which, const QStyleOption* option,

@@ -1,12 +1,14 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 // The plain style's marks are seen on light and on dark grounds.
 #include "host/icons/Style.h"
+#include "host/preferences/Appearance.h"
 #include "tests/looks/Contrast.h"
 
 #include <QApplication>
 #include <QPainter>
 #include <QStyleFactory>
 #include <QStyleOptionButton>
+#include <QStyleOptionMenuItem>
 
 #include <gtest/gtest.h>
 
@@ -57,3 +59,87 @@ TEST_P(PlainStyle, TellsWhatIsChosenByMoreThanItsFrame)
 INSTANTIATE_TEST_SUITE_P(OnGrounds, PlainStyle,
                          testing::Values(QColor(0xEF, 0xEF, 0xEF), QColor(0x2B, 0x2F, 0x36),
                                          QColor(Qt::black)));
+
+namespace {
+
+class Schemes : public testing::TestWithParam<const char*>
+{
+protected:
+    Schemes()
+    {
+        Style::Install();
+        appearance::SetCurrent(QLatin1String(GetParam()));
+    }
+    ~Schemes() override
+    {
+        appearance::SetCurrent(QStringLiteral("Desktop"));
+        QApplication::setStyle(QStyleFactory::create("fusion"));
+    }
+
+    template <class Option>
+    static QImage Drawn(QStyle::ControlElement element, Option option, QStyle::State state)
+    {
+        option.rect = QRect(0, 0, 120, 30);
+        option.palette = QApplication::palette();
+        option.text = QStringLiteral("word");
+        option.state |= QStyle::State_KeyboardFocusChange | state;
+        QImage picture(option.rect.size(), QImage::Format_RGB32);
+        picture.fill(option.palette.color(QPalette::Window));
+        QPainter painter(&picture);
+        QApplication::style()->drawControl(element, &option, &painter);
+        return picture;
+    }
+
+    // Dots of the second picture alone that stand out from the window, as a frame has at its top.
+    static int SeenInSecond(const QImage& first, const QImage& second)
+    {
+        constexpr double kSeen = 3;
+        const QColor ground = QApplication::palette().color(QPalette::Window);
+        int seen = 0;
+        for (int y = 0; y < first.height(); ++y) {
+            for (int x = 0; x < first.width(); ++x) {
+                seen += first.pixel(x, y) != second.pixel(x, y) &&
+                        Contrast(second.pixelColor(x, y), ground) >= kSeen;
+            }
+        }
+        return seen;
+    }
+};
+
+constexpr int kFrame = 60; // dots at least around a word
+
+} // namespace
+
+TEST_P(Schemes, TellWhatHasTheFocusByAFrame)
+{
+    for (const auto element :
+         {QStyle::CE_PushButton, QStyle::CE_CheckBox, QStyle::CE_RadioButton}) {
+        const QStyleOptionButton option;
+        EXPECT_GE(
+            SeenInSecond(Drawn(element, option, QStyle::State_Enabled),
+                         Drawn(element, option, QStyle::State_Enabled | QStyle::State_HasFocus)),
+            kFrame)
+            << int(element);
+    }
+}
+
+TEST_P(Schemes, TellTheButtonThatEnterPresses)
+{
+    const QStyleOptionButton plain;
+    QStyleOptionButton byEnter;
+    byEnter.features = QStyleOptionButton::DefaultButton;
+    EXPECT_GE(SeenInSecond(Drawn(QStyle::CE_PushButton, plain, QStyle::State_Enabled),
+                           Drawn(QStyle::CE_PushButton, byEnter, QStyle::State_Enabled)),
+              kFrame);
+}
+
+TEST_P(Schemes, ShowWhichEntryOfAMenuIsWalkedOntoThoughItIsDisabled)
+{
+    const QStyleOptionMenuItem entry;
+    EXPECT_GE(SeenInSecond(Drawn(QStyle::CE_MenuItem, entry, QStyle::State_None),
+                           Drawn(QStyle::CE_MenuItem, entry, QStyle::State_Selected)),
+              kFrame);
+}
+
+INSTANTIATE_TEST_SUITE_P(OfTheWorkbench, Schemes,
+                         testing::Values("Desktop", "Light", "Dark", "High Contrast"));
