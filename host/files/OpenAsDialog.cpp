@@ -2,6 +2,7 @@
 #include "host/files/OpenAsDialog.h"
 
 #include "host/files/Encodings.h"
+#include "host/files/FileDialogs.h"
 
 #include <QComboBox>
 #include <QDir>
@@ -48,6 +49,7 @@ OpenAsDialog::OpenAsDialog(QWidget* parent, const QString& place)
         grid->addWidget(label, row, 0);
         grid->addWidget(m_encoding, row, 1);
     }
+    FitColumns(*this);
 }
 
 OpenChoice OpenAsDialog::Choice() const

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "host/files/Prompts.h"
 
+#include "host/files/FileDialogs.h"
 #include "host/files/OpenAsDialog.h"
 #include "host/files/SaveAsDialog.h"
 #include "host/recovery/RecoveryDialog.h"
@@ -40,9 +41,12 @@ void SetPrompts(Prompts* prompts)
 
 QStringList DialogPrompts::FilesToOpen(QWidget* parent, const QString& folder)
 {
-    return QFileDialog::getOpenFileNames(
-        parent, Texts::tr("Open"), folder,
-        Texts::tr("SQL scripts (*.sql *.pks *.pkb *.ddl);;All files (*)"));
+    QFileDialog dialog(parent, Texts::tr("Open"), folder,
+                       Texts::tr("SQL scripts (*.sql *.pks *.pkb *.ddl);;All files (*)"));
+    dialog.setAcceptMode(QFileDialog::AcceptOpen);
+    dialog.setFileMode(QFileDialog::ExistingFiles);
+    FitColumns(dialog);
+    return dialog.exec() == QDialog::Accepted ? dialog.selectedFiles() : QStringList();
 }
 
 std::optional<OpenChoice> DialogPrompts::WhatToOpen(QWidget* parent, const QString& place)

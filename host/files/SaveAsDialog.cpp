@@ -2,6 +2,7 @@
 #include "host/files/SaveAsDialog.h"
 
 #include "host/files/Encodings.h"
+#include "host/files/FileDialogs.h"
 
 #include <QComboBox>
 #include <QFileInfo>
@@ -32,6 +33,7 @@ SaveAsDialog::SaveAsDialog(QWidget* parent, const SaveTarget& proposal)
         grid->addWidget(label, row, 0);
         grid->addWidget(m_encoding, row, 1);
     }
+    FitColumns(*this);
 }
 
 SaveTarget SaveAsDialog::Target() const

@@ -5,6 +5,8 @@
 #include <QComboBox>
 #include <QSet>
 #include <QTemporaryDir>
+#include <QTest>
+#include <QTreeView>
 
 #include <gtest/gtest.h>
 
@@ -27,6 +29,28 @@ TEST(OpenAsDialog, BeginsWithTheFileThatItIsGiven)
         EXPECT_EQ(dialog.Choice().path, path);
         EXPECT_EQ(dialog.selectedNameFilter().startsWith("All"), path.endsWith(".txt"));
     }
+}
+
+TEST(OpenAsDialog, HasRoomForSizesAndDates)
+{
+    const QTemporaryDir folder;
+    QFile file(folder.filePath("a.sql"));
+    ASSERT_TRUE(file.open(QIODevice::WriteOnly));
+    ASSERT_TRUE(file.resize(123'456));
+    OpenAsDialog dialog(nullptr, folder.path());
+    auto& files = *dialog.findChild<QTreeView*>("treeView");
+    dialog.show();
+    ASSERT_TRUE(
+        QTest::qWaitFor([&files] { return files.model()->rowCount(files.rootIndex()) == 1; }));
+    const QModelIndex name = files.model()->index(0, 0, files.rootIndex());
+    for (const int column : {1, 3}) { // what stands there is read in the background
+        const QModelIndex cell = name.siblingAtColumn(column);
+        EXPECT_TRUE(QTest::qWaitFor([&files, &cell, column] {
+            const int width = files.fontMetrics().horizontalAdvance(cell.data().toString());
+            return width > 0 && files.columnWidth(column) > width;
+        })) << cell.data().toString().toStdString();
+    }
+    EXPECT_GT(files.columnWidth(0), files.fontMetrics().horizontalAdvance("a_long_name_of_a.sql"));
 }
 
 TEST(OpenAsDialog, OffersEveryEncodingOnceAndAnswersTheChosenOne)
