@@ -66,5 +66,8 @@ FileReplacer::Outcome FileReplacer::ReplaceIn(CZNCoreEditorControlEx& editor, co
     }
     editor.EndUndoAction(1);
     editor.SetDoingReplaceAll(false, 1);
+    FileSearchRequest again = m_request;
+    again.replaces = false;
+    outcome.matches = MatchesIn(editor.GetText(), again);
     return outcome;
 }

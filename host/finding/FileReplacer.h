@@ -17,7 +17,8 @@ public:
     struct Outcome
     {
         long replaced = 0;
-        QString reason; // why nothing, for a person; empty if all went well
+        QString reason;                 // why nothing, for a person; empty if all went well
+        std::vector<FileMatch> matches; // of the text by now, where something was replaced
     };
 
     // What the matches were found by, with a replacement.

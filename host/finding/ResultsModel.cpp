@@ -6,7 +6,7 @@
 namespace {
 
 // The number inside an index: 0 for a file and for the head of the notes, 1 for a note, and for a
-// match that of its file's row and 2.
+// match that of its file and 2.
 constexpr quintptr kTop = 0;
 constexpr quintptr kNote = 1;
 constexpr quintptr kFirstFile = 2;
@@ -27,6 +27,23 @@ QString OnOneLine(QString text)
     return text.replace(u'\n', QChar(0x21B5)).remove(u'\r');
 }
 
+// In "C" names have the order of codes alone; English has the one that all share.
+QCollator OrderOfNames()
+{
+    const QLocale locale = QLocale().collation();
+    QCollator collator(locale.language() == QLocale::C ? QLocale(QLocale::English) : locale);
+    collator.setNumericMode(true);
+    collator.setCaseSensitivity(Qt::CaseInsensitive);
+    return collator;
+}
+
+// Folder by folder: this character comes before all others.
+QString InParts(QString path)
+{
+    constexpr char16_t kFirst = 0xFFFE;
+    return path.replace(u'/', QChar(kFirst));
+}
+
 // Lines before a change may have become more or fewer.
 bool IsSame(const FileMatch& a, const FileMatch& b)
 {
@@ -36,31 +53,57 @@ bool IsSame(const FileMatch& a, const FileMatch& b)
 
 } // namespace
 
+ResultsModel::ResultsModel(QObject* parent) : QAbstractItemModel(parent), m_collator(OrderOfNames())
+{}
+
 void ResultsModel::Clear(bool replaces)
 {
     beginResetModel();
     m_files.clear();
-    m_rows.clear();
+    m_order.clear();
+    m_numbers.clear();
     m_notes.clear();
     m_replaces = replaces;
     endResetModel();
 }
 
-void ResultsModel::Add(FoundFile&& file)
+// The row of a file, or where one would be put in. Those of one order stand as they came.
+int ResultsModel::RowFor(const QCollatorSortKey& order, int number) const
 {
-    const auto known = m_rows.constFind(file.path);
-    if (known == m_rows.constEnd()) {
-        const int row = FileCount();
+    const auto isBefore = [this, &order](int one, int other) {
+        const int difference = m_files[static_cast<std::size_t>(one)].order.compare(order);
+        return difference != 0 ? difference < 0 : one < other;
+    };
+    return static_cast<int>(std::lower_bound(m_order.begin(), m_order.end(), number, isBefore) -
+                            m_order.begin());
+}
+
+int ResultsModel::RowOf(const QString& path) const
+{
+    const auto known = m_numbers.constFind(path);
+    return known == m_numbers.constEnd()
+               ? -1
+               : RowFor(m_files[static_cast<std::size_t>(*known)].order, *known);
+}
+
+int ResultsModel::Add(FoundFile&& file)
+{
+    if (!m_numbers.contains(file.path)) {
+        const int number = FileCount();
+        QCollatorSortKey order = m_collator.sortKey(InParts(file.path));
+        const int row = RowFor(order, number);
         beginInsertRows({}, row, row);
-        m_rows.insert(file.path, row);
+        m_numbers.insert(file.path, number);
         std::vector<bool> left(file.matches.size());
-        m_files.push_back({std::move(file), std::move(left)});
+        m_files.push_back({std::move(file), std::move(left), 0, std::move(order)});
+        m_order.insert(m_order.begin() + row, number);
         endInsertRows();
-        return;
+        return row;
     }
-    Entry& into = m_files[static_cast<std::size_t>(*known)];
+    const int row = RowOf(file.path);
+    Entry& into = At(row);
     into.found.count += file.count;
-    const QModelIndex top = Top(*known);
+    const QModelIndex top = Top(row);
     if (!file.matches.empty()) {
         const int first = static_cast<int>(into.found.matches.size());
         beginInsertRows(top, first, first + static_cast<int>(file.matches.size()) - 1);
@@ -69,6 +112,7 @@ void ResultsModel::Add(FoundFile&& file)
         endInsertRows();
     }
     Q_EMIT dataChanged(top, top);
+    return row;
 }
 
 void ResultsModel::AddNotes(const QStringList& notes)
@@ -88,9 +132,31 @@ void ResultsModel::AddNotes(const QStringList& notes)
     Q_EMIT dataChanged(Top(row), Top(row));
 }
 
+void ResultsModel::EndPreview()
+{
+    m_replaces = false;
+    for (Entry& entry : m_files) {
+        for (FileMatch& match : entry.found.matches)
+            match.replacement.clear();
+        entry.left.assign(entry.left.size(), false);
+        entry.leftCount = 0;
+    }
+    for (int row = 0; row < FileCount(); ++row)
+        TellOfAll(row);
+}
+
+void ResultsModel::TellOfAll(int row)
+{
+    const QModelIndex top = Top(row);
+    Q_EMIT dataChanged(top, top);
+    const int count = rowCount(top);
+    if (count > 0)
+        Q_EMIT dataChanged(index(0, 0, top), index(count - 1, 0, top));
+}
+
 int ResultsModel::SetMatches(int row, std::vector<FileMatch> matches)
 {
-    Entry& entry = m_files[static_cast<std::size_t>(row)];
+    Entry& entry = At(row);
     std::vector<FileMatch>& old = entry.found.matches;
     const auto [oldEnd, newEnd] = std::ranges::mismatch(old, matches, IsSame);
     const auto first = oldEnd - old.begin();
@@ -123,12 +189,14 @@ int ResultsModel::SetMatches(int row, std::vector<FileMatch> matches)
     return static_cast<int>(first);
 }
 
+const ResultsModel::Entry& ResultsModel::EntryOf(const QModelIndex& index) const
+{
+    return index.internalId() == kTop ? At(index.row()) : m_files[index.internalId() - kFirstFile];
+}
+
 const FoundFile* ResultsModel::FileAt(const QModelIndex& index) const
 {
-    if (!index.isValid() || IsNote(index))
-        return nullptr;
-    return &File(index.internalId() == kTop ? index.row()
-                                            : static_cast<int>(index.internalId() - kFirstFile));
+    return index.isValid() && !IsNote(index) ? &EntryOf(index).found : nullptr;
 }
 
 const FileMatch* ResultsModel::MatchAt(const QModelIndex& index) const
@@ -140,7 +208,7 @@ const FileMatch* ResultsModel::MatchAt(const QModelIndex& index) const
 
 const std::vector<bool>& ResultsModel::Left(int row) const
 {
-    return m_files[static_cast<std::size_t>(row)].left;
+    return At(row).left;
 }
 
 bool ResultsModel::IsNote(const QModelIndex& index) const
@@ -153,16 +221,20 @@ QModelIndex ResultsModel::index(int row, int column, const QModelIndex& parent) 
 {
     if (!parent.isValid())
         return createIndex(row, column, kTop);
-    return createIndex(row, column,
-                       IsNote(parent) ? kNote : static_cast<quintptr>(parent.row()) + kFirstFile);
+    if (IsNote(parent))
+        return createIndex(row, column, kNote);
+    const int number = m_order[static_cast<std::size_t>(parent.row())];
+    return createIndex(row, column, static_cast<quintptr>(number) + kFirstFile);
 }
 
 QModelIndex ResultsModel::parent(const QModelIndex& index) const
 {
     if (!index.isValid() || index.internalId() == kTop)
         return {};
-    return Top(index.internalId() == kNote ? FileCount()
-                                           : static_cast<int>(index.internalId() - kFirstFile));
+    if (index.internalId() == kNote)
+        return Top(FileCount());
+    const auto number = index.internalId() - kFirstFile;
+    return Top(RowFor(m_files[number].order, static_cast<int>(number)));
 }
 
 int ResultsModel::rowCount(const QModelIndex& parent) const
@@ -189,8 +261,7 @@ QVariant ResultsModel::data(const QModelIndex& index, int role) const
                       : m_notes[index.row() + 1];
     }
     const bool isFile = index.internalId() == kTop;
-    const int row = isFile ? index.row() : static_cast<int>(index.internalId() - kFirstFile);
-    const Entry& entry = m_files[static_cast<std::size_t>(row)];
+    const Entry& entry = EntryOf(index);
     return isFile ? FileData(entry, role)
                   : MatchData(entry, static_cast<std::size_t>(index.row()), role);
 }
@@ -247,24 +318,22 @@ bool ResultsModel::setData(const QModelIndex& index, const QVariant& value, int 
     if (role != Qt::CheckStateRole || !m_replaces || !FileAt(index))
         return false;
     const bool isFile = index.internalId() == kTop;
-    const int row = isFile ? index.row() : static_cast<int>(index.internalId() - kFirstFile);
-    Entry& entry = m_files[static_cast<std::size_t>(row)];
+    const int row = isFile ? index.row() : index.parent().row();
+    Entry& entry = At(row);
     const bool isLeft = value.toInt() == Qt::Unchecked;
     if (isFile)
         entry.left.assign(entry.left.size(), isLeft);
     else
         entry.left[static_cast<std::size_t>(index.row())] = isLeft;
     entry.leftCount = std::ranges::count(entry.left, true);
-    const QModelIndex top = Top(row);
-    Q_EMIT dataChanged(top, top);
-    const int count = rowCount(top);
-    if (count > 0)
-        Q_EMIT dataChanged(this->index(0, 0, top), this->index(count - 1, 0, top));
+    TellOfAll(row);
     return true;
 }
 
 Qt::ItemFlags ResultsModel::flags(const QModelIndex& index) const
 {
+    if (!index.isValid())
+        return Qt::NoItemFlags;
     Qt::ItemFlags flags = Qt::ItemIsEnabled | Qt::ItemIsSelectable;
     flags.setFlag(Qt::ItemIsUserCheckable, m_replaces && FileAt(index));
     return flags;

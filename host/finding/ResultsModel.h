@@ -6,7 +6,11 @@
 #include "search/files/FileSearch.h"
 
 #include <QAbstractItemModel>
+#include <QCollator>
 #include <QHash>
+
+#include <utility>
+#include <vector>
 
 class ResultsModel final : public QAbstractItemModel
 {
@@ -20,19 +24,21 @@ public:
         ReplacementLength, // the replacement stands behind the match; -1: there is none
     };
 
-    using QAbstractItemModel::QAbstractItemModel;
+    explicit ResultsModel(QObject* parent);
 
     void Clear(bool replaces); // with the matches to choose from
-    void Add(FoundFile&& file);
+    // Files stand in the order of their names, whichever comes first. Gives the row of this one.
+    int Add(FoundFile&& file);
     void AddNotes(const QStringList& notes);
 
     // The matches of a file are others by now. What is the same stays the same row.
     // Gives the first row that is another.
     int SetMatches(int row, std::vector<FileMatch> matches);
+    void EndPreview(); // the matches stand for themselves
 
     int FileCount() const { return static_cast<int>(m_files.size()); }
-    const FoundFile& File(int row) const { return m_files[static_cast<std::size_t>(row)].found; }
-    int RowOf(const QString& path) const { return m_rows.value(path, -1); }
+    const FoundFile& File(int row) const { return At(row).found; }
+    int RowOf(const QString& path) const;                     // -1: it is not there
     const FoundFile* FileAt(const QModelIndex& index) const;  // null for a note
     const FileMatch* MatchAt(const QModelIndex& index) const; // null for anything else
     const std::vector<bool>& Left(int row) const; // the matches that are not to be replaced
@@ -51,15 +57,27 @@ private:
         FoundFile found;
         std::vector<bool> left; // of each match
         long leftCount = 0;
+        QCollatorSortKey order; // of its path
     };
 
     bool IsNote(const QModelIndex& index) const;
     QVariant FileData(const Entry& entry, int role) const;
     QVariant MatchData(const Entry& entry, std::size_t row, int role) const;
     QModelIndex Top(int row) const { return index(row, 0, {}); }
+    const Entry& At(int row) const
+    {
+        return m_files[static_cast<std::size_t>(m_order[static_cast<std::size_t>(row)])];
+    }
+    Entry& At(int row) { return const_cast<Entry&>(std::as_const(*this).At(row)); }
+    const Entry& EntryOf(const QModelIndex& index) const; // of a file or a match
+    void TellOfAll(int row);
+    int RowFor(const QCollatorSortKey& order, int number) const;
 
-    std::vector<Entry> m_files;
-    QHash<QString, int> m_rows; // of the paths
+    // An index holds the number of its file, which stays, and not its row.
+    std::vector<Entry> m_files; // as they came
+    std::vector<int> m_order;   // their numbers, by row
+    QHash<QString, int> m_numbers;
+    QCollator m_collator;
     QStringList m_notes;
     bool m_replaces = false;
 };

@@ -109,7 +109,8 @@ namespace {
 constexpr int kPortionEvery = 30; // milliseconds
 constexpr int kPortionTakes = 15; // milliseconds, so that the window never stands still for long
 constexpr int kNotesAtOnce = 1000;
-constexpr int kMostExpanded = 1000;      // matches of a file that are shown unasked
+constexpr int kMostExpanded = 1000;      // matches that are shown unasked
+constexpr int kAir = 8;                  // pixels between the rim and what is written
 constexpr int kRest = 300;               // milliseconds without a change
 constexpr long kShortText = 1024 * 1024; // units that are searched in no time
 
@@ -128,7 +129,7 @@ public:
             const int replacement = index.data(ResultsModel::ReplacementLength).toInt();
             const bool replaces = replacement >= 0;
             Light(*painter, option, index, start, length,
-                  replaces ? QColor(220, 60, 60) : option.palette.color(QPalette::Highlight));
+                  replaces ? QColor(220, 60, 60) : option.palette.color(QPalette::Link));
             if (replaces)
                 Light(*painter, option, index, start + length, replacement, QColor(60, 180, 80));
         }
@@ -157,14 +158,16 @@ private:
 
 ResultsPane::ResultsPane(const QString& title, IFoundTexts& texts, QWidget* parent)
     : QDockWidget(title, parent), m_model(new ResultsModel(this)), m_tree(new QTreeView(this)),
-      m_state(new QLabel(this)), m_stop(new QPushButton(tr("&Stop"), this)),
+      m_state(new QLabel(this)), m_stop(new QPushButton(tr("St&op"), this)),
       m_timer(new QTimer(this)), m_replaces(new QPushButton(tr("Re&place..."), this)),
       m_texts(texts), m_rest(new QTimer(this))
 {
     auto* inside = new QWidget(this);
     auto* rows = new QVBoxLayout(inside);
     rows->setContentsMargins({});
+    rows->setSpacing(0);
     auto* top = new QHBoxLayout;
+    top->setContentsMargins(kAir, kAir / 2, kAir, kAir / 2);
     top->addWidget(m_state, 1);
     top->addWidget(m_replaces);
     top->addWidget(m_stop);
@@ -193,7 +196,7 @@ QWidget* ResultsPane::BuildReplaceRow()
 {
     m_replaceRow = new QWidget(this);
     auto* row = new QHBoxLayout(m_replaceRow);
-    row->setContentsMargins({});
+    row->setContentsMargins(kAir, 0, kAir, kAir / 2);
     m_replacement = new QLineEdit(m_replaceRow);
     auto* label = new QLabel(tr("Replace &with"), m_replaceRow);
     label->setBuddy(m_replacement);
@@ -238,6 +241,7 @@ void ResultsPane::Search(FileSearchRequest request)
     EndReplacing();
     m_model->Clear(request.replaces);
     m_changed.clear();
+    m_unasked = 0;
     m_outcome.clear();
     m_request = request;
     m_request.open.clear();
@@ -291,15 +295,14 @@ void ResultsPane::TakeFound()
     m_model->AddNotes(m_inbox->TakeNotes(kNotesAtOnce));
     FoundFile file;
     while (clock.elapsed() < kPortionTakes && m_inbox->Take(file)) {
-        const int known = m_model->RowOf(file.path);
-        const bool isFirst = m_model->FileCount() == 0;
+        const bool isKnown = m_model->RowOf(file.path) >= 0;
+        m_unasked += static_cast<long>(file.matches.size());
+        const QModelIndex top = m_model->index(m_model->Add(std::move(file)), 0, {});
         // A tree lays all open rows out again for each that comes.
-        if (known == 0 && m_tree->isExpanded(m_model->index(0, 0, {})) &&
-            m_model->File(0).matches.size() > kMostExpanded)
-            m_tree->collapse(m_model->index(0, 0, {}));
-        m_model->Add(std::move(file));
-        if (isFirst && m_model->File(0).matches.size() <= kMostExpanded)
-            m_tree->expand(m_model->index(0, 0, {}));
+        if (isKnown && m_unasked > kMostExpanded && m_model->rowCount(top) > kMostExpanded)
+            m_tree->collapse(top);
+        else if (!isKnown && m_unasked <= kMostExpanded)
+            m_tree->expand(top);
     }
 }
 
@@ -365,7 +368,7 @@ void ResultsPane::ReplaceInNext()
         if (!outcome.reason.isEmpty())
             m_notReplaced += tr("%1: %2").arg(file.path, outcome.reason);
         else
-            CheckFile(row);
+            m_model->SetMatches(row, outcome.matches);
     }
     m_state->setText(tr("Replacing: %1 of %2 files").arg(m_nextFile).arg(m_model->FileCount()));
     QTimer::singleShot(0, this, &ResultsPane::ReplaceInNext);
@@ -376,6 +379,8 @@ void ResultsPane::EndReplacing()
     if (!m_replacer)
         return;
     m_replacer.reset();
+    m_request.replaces = false;
+    m_model->EndPreview();
     m_stop->setEnabled(false);
     m_model->AddNotes(m_notReplaced);
     m_outcome = tr("%n matches replaced in %1 files", nullptr, m_replaced).arg(m_filesReplaced);

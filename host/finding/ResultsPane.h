@@ -79,6 +79,7 @@ private:
     QSet<QString> m_changed; // texts whose matches may be elsewhere by now
     QTimer* m_rest;          // since the last change
     QString m_outcome;       // of the last replacement
+    long m_unasked = 0;      // matches that have come, of which the first are shown
     long m_replaced = 0;
     int m_nextFile = 0; // to be replaced in
     int m_filesReplaced = 0;

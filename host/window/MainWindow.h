@@ -74,7 +74,9 @@ public:
     void ShowWhitespace(bool show);
     void ShowLineEnds(bool show);
     void WrapLines(bool wrap);
-    void NextProblem();
+    void NextProblem() { GoToProblem(true); }
+    void PreviousProblem() { GoToProblem(false); }
+    void GoToProblem(bool forward);
     void FindInFiles();
     void NextResult(); // of the pane that a search was shown in last
     void PreviousResult();
@@ -134,6 +136,7 @@ private:
     void OfferNewFile(const QString& path);             // where there is none
     void MakeLanguageDefault();
     std::shared_ptr<void> MakeSearchLine();
+    void ShowResults(); // of the last search
     void ShowMatch(long line, long column, long length);
 
     void KeepSessionSoon();

@@ -175,8 +175,20 @@ void MainWindow::FindInFiles()
     request.open = m_foundTexts->All();
     m_shownResults = m_results[manager.GetOutputPane2() ? 1 : 0];
     m_shownResults->Search(std::move(request));
+    ShowResults();
+}
+
+// Where the pane comes to the front in an area of a few lines it gets more; the height that it has
+// afterwards is a person's.
+void MainWindow::ShowResults()
+{
+    constexpr int kFewLines = 130;      // pixels
+    constexpr int kResultsHeight = 260; // of some nine lines
+    const bool isShown = m_shownResults->isVisible();
     m_shownResults->show();
     m_shownResults->raise();
+    if (!isShown && !m_shownResults->isFloating() && m_shownResults->height() < kFewLines)
+        resizeDocks({m_shownResults}, {kResultsHeight}, Qt::Vertical);
 }
 
 void MainWindow::NextResult()

@@ -2,6 +2,7 @@
 // Find in Files as the window has it: from the dialog to the place in the script.
 #include "tests/host/WorkbenchTest.h"
 
+#include "host/finding/ResultsModel.h"
 #include "host/finding/ResultsPane.h"
 #include "host/finding/SearchPlace.h"
 #include "platform/dialogs/Dialog.h"
@@ -9,6 +10,7 @@
 #include "search/FindReplaceManager.h"
 
 #include <QAbstractButton>
+#include <QAbstractItemModelTester>
 #include <QComboBox>
 #include <QStatusBar>
 #include <QTest>
@@ -89,6 +91,67 @@ TEST_F(FindInFilesInWindow, WalksTheMatchesOverFilesAndBack)
     EXPECT_EQ(Editor().GetSelectionEnd(1), 11);
     Trigger("previousResult");
     EXPECT_EQ(Editor().GetSelectionStart(1), 0);
+}
+
+TEST_F(FindInFilesInWindow, HasRoomForMoreThanAFewResultsUntilSomebodyResizesIt)
+{
+    m_window.show();
+    Write("a.sql", "one");
+    Settle();
+    Search("one");
+    Settle();
+    const int first = Pane().height();
+    EXPECT_GE(first, 200);
+    m_window.resizeDocks({&Pane()}, {150}, Qt::Vertical);
+    Settle();
+    const int chosen = Pane().height();
+    EXPECT_LT(chosen, first);
+    Search("one");
+    Settle();
+    EXPECT_EQ(Pane().height(), chosen);
+}
+
+TEST_F(FindInFilesInWindow, ListsFilesInTheOrderOfTheirNames)
+{
+    QDir(m_folder.path()).mkpath("b");
+    QStringList expected;
+    for (const char* name :
+         {"A2.sql", "a10.sql", "b/1.sql", "b/c.sql", "b-1.sql", "c.sql", "d.sql"}) {
+        Write(name, "one");
+        expected << PathOf(name) + "  (1)";
+    }
+    Write("d.sql", QByteArray("one\n").repeated(3));
+    expected.back() = PathOf("d.sql") + "  (3)";
+    Open("b-1.sql", "one");
+    Search("one");
+    QStringList files;
+    for (int row = 0; row < Model().rowCount(); ++row)
+        files << File(row).data().toString();
+    EXPECT_EQ(files, expected) << files.join('\n').toStdString();
+    for (int row = 0; row < Model().rowCount(); ++row)
+        EXPECT_EQ(Match(row, 0).parent(), File(row));
+}
+
+TEST_F(FindInFilesInWindow, ListsAFileThatComesLaterAtItsPlace)
+{
+    ResultsModel model(nullptr);
+    const QAbstractItemModelTester tester(&model,
+                                          QAbstractItemModelTester::FailureReportingMode::Fatal);
+    const auto found = [](const char* path, QStringList lines) {
+        FoundFile file{QLatin1String(path), path, false, {}, lines.size()};
+        for (const QString& line : lines)
+            file.matches.push_back({0, 0, 1, 0, line, {}});
+        return file;
+    };
+    EXPECT_EQ(model.Add(found("/m", {"x", "y"})), 0);
+    const QPersistentModelIndex kept = model.index(1, 0, model.index(0, 0, {}));
+    EXPECT_EQ(model.Add(found("/z", {"x"})), 1);
+    EXPECT_EQ(model.Add(found("/a", {"x"})), 0);
+    EXPECT_EQ(model.Add(found("/m", {"z"})), 1);
+    EXPECT_EQ(kept.data().toString(), "1:  y");
+    EXPECT_EQ(kept.parent().data().toString(), "/m  (3)");
+    EXPECT_EQ(model.RowOf("/z"), 2);
+    EXPECT_EQ(model.RowOf("/q"), -1);
 }
 
 TEST(SearchPlace, IsTheFolderOfTheScriptUntilOneIsChosen)
@@ -227,6 +290,18 @@ TEST_F(FindInFilesInWindow, ReplacesWhatIsNotLeftOut)
     EXPECT_EQ(Read("b.sql"), "one, one") << "what is open is not saved";
     Editor().Undo(1);
     EXPECT_EQ(Text(), "one, one");
+}
+
+TEST_F(FindInFilesInWindow, ShowsTheTextsAsTheyAreOnceItHasReplaced)
+{
+    Write("a.sql", "so one\r\none\r\n");
+    Open("b.sql", "one, one");
+    Search("one");
+    Replace("(one)");
+    EXPECT_EQ(Rows(0), QStringList({"1:  so (one)", "2:  (one)"}));
+    EXPECT_EQ(Rows(1), QStringList({"1:  (one), (one)", "1:  (one), (one)"}));
+    for (const QModelIndex& row : {File(0), Match(0, 0), Match(1, 1)})
+        EXPECT_FALSE(row.data(Qt::CheckStateRole).isValid());
 }
 
 TEST_F(FindInFilesInWindow, ChecksAFileAgainOnceWhatWasLeftOutIsGone)
