@@ -15,9 +15,11 @@
 #include <QHeaderView>
 #include <QLabel>
 #include <QPushButton>
+#include <QScreen>
 #include <QSplitter>
 #include <QTreeWidget>
 #include <QVBoxLayout>
+#include <QWindow>
 
 #include <optional>
 
@@ -123,6 +125,10 @@ RecoveryDialog::RecoveryDialog(QWidget* parent, const QList<RecoverableCopy>& co
     layout->addWidget(splitter, 1);
     layout->addLayout(all);
     resize(860, 520);
+    // A window that is about to be shown is not where the window manager is going to put it.
+    const QWindow* window = parent ? parent->window()->windowHandle() : nullptr;
+    if (!window || !window->isExposed())
+        move(screen()->availableGeometry().center() - rect().center());
     splitter->setSizes({160, 280});
 
     connect(m_list, &QTreeWidget::currentItemChanged, this,

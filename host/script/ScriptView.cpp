@@ -122,7 +122,7 @@ void ScriptView::OnSetFocus(HWND previous)
 {
     CView::OnSetFocus(previous);
     m_coreEditor.SetFocus();
-    LookAtFile();
+    LookAtFileIn(std::chrono::milliseconds::zero()); // when the window says whose tab it shows
 }
 
 // Not while a button is down: a question would keep its release from the editor, which would go on
@@ -133,13 +133,18 @@ void ScriptView::LookAtFile()
     ScriptDoc* script = Script();
     if (!script)
         return;
-    if (!IsLeftButtonDown()) {
-        script->CheckLastAccessTime();
-        script->OnFocus();
+    if (IsLeftButtonDown()) {
+        LookAtFileIn(kSoon);
         return;
     }
+    script->CheckLastAccessTime();
+    script->OnFocus();
+}
+
+void ScriptView::LookAtFileIn(std::chrono::milliseconds time)
+{
     QWidget* window = GetSafeHwnd();
-    QTimer::singleShot(kSoon, window, [this, window] {
+    QTimer::singleShot(time, window, [this, window] {
         if (AttachedWnd(window) == this)
             LookAtFile();
     });

@@ -64,6 +64,7 @@ private:
     ScriptView();
     ~ScriptView() override;
     void LookAtFile(); // and asks about what others did to it
+    void LookAtFileIn(std::chrono::milliseconds time);
     void KeepNames(const SCNotification& record);
     void FollowAfter(std::chrono::milliseconds rest);
     void FollowAtRest();

@@ -10,8 +10,10 @@
 
 #include <QComboBox>
 #include <QDir>
+#include <QMainWindow>
 #include <QProcess>
 #include <QPushButton>
+#include <QScreen>
 #include <QTest>
 #include <QTreeWidget>
 
@@ -261,6 +263,20 @@ TEST_F(Recovery, ComparesTheCopyWithTheFile)
     EXPECT_EQ(comparison->control().MarkerGet(0, 1) & 3 << 15, 0);
     EXPECT_EQ(comparison->control().MarkerGet(1, 1) & 3 << 15, 1 << 16);
     EXPECT_EQ(comparison->control().MarkerGet(2, 1) & 3 << 15, 1 << 15);
+}
+
+TEST_F(Recovery, AsksInTheMiddleOfTheScreenUntilTheWindowHasItsPlace)
+{
+    const QString copy = Write(QStringLiteral("copy"), "one");
+    const QList<RecoverableCopy> copies{Copy(copy, QString(), State::NeverNamed)};
+    ASSERT_TRUE(QTest::qWaitForWindowExposed(&m_window));
+    const RecoveryDialog overIt(&m_window, copies);
+    EXPECT_FALSE(overIt.testAttribute(Qt::WA_Moved)) << "Qt puts it over the window";
+    QMainWindow unplaced;
+    RecoveryDialog dialog(&unplaced, copies);
+    dialog.show();
+    const QPoint middle = dialog.screen()->availableGeometry().center();
+    EXPECT_LE((dialog.geometry().center() - middle).manhattanLength(), 8); // a frame
 }
 
 TEST_F(Recovery, ShowsTheTextOfACopyWithoutAFile)

@@ -6,6 +6,7 @@
 #include <QAbstractScrollArea>
 #include <QDropEvent>
 #include <QElapsedTimer>
+#include <QMessageBox>
 #include <QMimeData>
 #include <QTabBar>
 #include <QTabWidget>
@@ -258,6 +259,53 @@ TEST_F(ScriptFiles, ThatAreDeletedStayOnNoAndCanBeSavedAgain)
     EXPECT_EQ(Caption(), "a.sql *");
     Trigger("save");
     EXPECT_EQ(Read("a.sql"), "text");
+}
+
+namespace {
+
+// Counts how often a window is painted until a question is shown, and closes that.
+class Painted final : public QObject
+{
+public:
+    explicit Painted(QWidget& window) : m_window(window) { qApp->installEventFilter(this); }
+    bool eventFilter(QObject* object, QEvent* event) override
+    {
+        auto* widget = qobject_cast<QWidget*>(object);
+        if (event->type() == QEvent::Paint &&
+            (widget == &m_window || m_window.isAncestorOf(widget)))
+            ++m_count;
+        if (event->type() == QEvent::Show && qobject_cast<QMessageBox*>(object)) {
+            beforeQuestion = m_count;
+            title = m_window.window()->windowTitle();
+            QMetaObject::invokeMethod(widget, &QWidget::close, Qt::QueuedConnection);
+        }
+        return false;
+    }
+
+    int beforeQuestion = -1;
+    QString title;
+
+private:
+    QWidget& m_window;
+    int m_count = 0;
+};
+
+} // namespace
+
+TEST_F(ScriptFiles, ThatAreDeletedAreSeenBeforeTheyAreAskedAbout)
+{
+    SetUserQuestions(nullptr); // boxes
+    Open("a.sql", "a");
+    QWidget& shown = *Editor().GetSafeHwnd();
+    Open("b.sql", "b");
+    Settle();
+    QFile::remove(PathOf("a.sql"));
+    const Painted painted(shown);
+    Trigger("previous");
+    SetUserQuestions(&m_prompts);
+    EXPECT_GT(painted.beforeQuestion, 0);
+    EXPECT_TRUE(painted.title.startsWith("a.sql")) << painted.title.toStdString();
+    EXPECT_EQ(m_window.TabCount(), 2);
 }
 
 TEST_F(ScriptFiles, ThatAreDeletedCloseOnYesWithoutAFurtherQuestion)

@@ -61,7 +61,10 @@ private:
     static int Show(HWND owner, const QString& title, const QString& text, QMessageBox::Icon icon,
                     QMessageBox::StandardButtons buttons)
     {
-        QMessageBox box(DialogParent(owner));
+        QWidget* parent = DialogParent(owner);
+        if (parent && parent->isVisible())
+            parent->repaint(); // what the question is about may have come to the front just now
+        QMessageBox box(parent);
         box.setIcon(icon);
         box.setWindowTitle(title);
         box.setTextFormat(Qt::PlainText); // a path may look like markup
