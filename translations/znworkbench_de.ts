@@ -540,7 +540,7 @@ Mit Qt %1. Lizenziert unter der GNU General Public License, Version 3 oder spät
         <translation>Alle &amp;markieren</translation>
     </message>
     <message>
-        <source>&amp;Count</source>
+        <source>Co&amp;unt</source>
         <translation>&amp;Zählen</translation>
     </message>
     <message>
@@ -550,10 +550,6 @@ Mit Qt %1. Lizenziert unter der GNU General Public License, Version 3 oder spät
     <message>
         <source>Replace with</source>
         <translation>Ersetzen durch</translation>
-    </message>
-    <message>
-        <source>Match ca&amp;se</source>
-        <translation>Groß/&amp;klein</translation>
     </message>
     <message>
         <source>&amp;Whole word</source>
@@ -596,6 +592,10 @@ Mit Qt %1. Lizenziert unter der GNU General Public License, Version 3 oder spät
             <numerusform>%n ersetzt</numerusform>
             <numerusform>%n ersetzt</numerusform>
         </translation>
+    </message>
+    <message>
+        <source>Match &amp;case</source>
+        <translation>Groß/&amp;klein</translation>
     </message>
 </context>
 <context>
@@ -720,20 +720,12 @@ Mit Qt %1. Lizenziert unter der GNU General Public License, Version 3 oder spät
         <translation>&amp;Bearbeiten</translation>
     </message>
     <message>
-        <source>Searc&amp;h</source>
-        <translation>S&amp;uchen</translation>
-    </message>
-    <message>
         <source>&amp;View</source>
         <translation>A&amp;nsicht</translation>
     </message>
     <message>
         <source>&amp;Tools</source>
         <translation>E&amp;xtras</translation>
-    </message>
-    <message>
-        <source>Help</source>
-        <translation>Hilfe</translation>
     </message>
     <message>
         <source>&amp;New</source>
@@ -1022,7 +1014,7 @@ Mit Qt %1. Lizenziert unter der GNU General Public License, Version 3 oder spät
         <translation>&amp;In Dateien suchen...</translation>
     </message>
     <message>
-        <source>Next Res&amp;ult</source>
+        <source>Ne&amp;xt Result</source>
         <translation>Nä&amp;chster Treffer</translation>
     </message>
     <message>
@@ -1040,6 +1032,22 @@ Mit Qt %1. Lizenziert unter der GNU General Public License, Version 3 oder spät
     <message>
         <source>Longest Unused Script</source>
         <translation>A&amp;m längsten unbenutztes Skript</translation>
+    </message>
+    <message>
+        <source>&amp;Search</source>
+        <translation>S&amp;uchen</translation>
+    </message>
+    <message>
+        <source>&amp;Help</source>
+        <translation>&amp;Hilfe</translation>
+    </message>
+    <message>
+        <source>Previou&amp;s Problem</source>
+        <translation>Vor&amp;heriges Problem</translation>
+    </message>
+    <message>
+        <source>Stop &amp;Recording</source>
+        <translation>Aufzeichnung been&amp;den</translation>
     </message>
 </context>
 <context>
@@ -1553,10 +1561,6 @@ Mit Qt %1. Lizenziert unter der GNU General Public License, Version 3 oder spät
         <translation>der Ausdruck lief zu lange</translation>
     </message>
     <message>
-        <source>&amp;Stop</source>
-        <translation>&amp;Anhalten</translation>
-    </message>
-    <message>
         <source>Re&amp;place...</source>
         <translation>&amp;Ersetzen...</translation>
     </message>
@@ -1632,6 +1636,10 @@ Mit Qt %1. Lizenziert unter der GNU General Public License, Version 3 oder spät
             <numerusform>. %n Datei blieb, wie sie war, siehe Ende der Liste</numerusform>
             <numerusform>. %n Dateien blieben, wie sie waren, siehe Ende der Liste</numerusform>
         </translation>
+    </message>
+    <message>
+        <source>St&amp;op</source>
+        <translation>&amp;Anhalten</translation>
     </message>
 </context>
 <context>

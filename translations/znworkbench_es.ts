@@ -540,7 +540,7 @@ Con Qt %1. Con licencia pública general de GNU, versión 3 o posterior.</transl
         <translation>&amp;Marcar todo</translation>
     </message>
     <message>
-        <source>&amp;Count</source>
+        <source>Co&amp;unt</source>
         <translation>&amp;Contar</translation>
     </message>
     <message>
@@ -550,10 +550,6 @@ Con Qt %1. Con licencia pública general de GNU, versión 3 o posterior.</transl
     <message>
         <source>Replace with</source>
         <translation>Reemplazar por</translation>
-    </message>
-    <message>
-        <source>Match ca&amp;se</source>
-        <translation>M&amp;ayúsculas/minúsculas</translation>
     </message>
     <message>
         <source>&amp;Whole word</source>
@@ -596,6 +592,10 @@ Con Qt %1. Con licencia pública general de GNU, versión 3 o posterior.</transl
             <numerusform>%n reemplazado</numerusform>
             <numerusform>%n reemplazados</numerusform>
         </translation>
+    </message>
+    <message>
+        <source>Match &amp;case</source>
+        <translation>M&amp;ayúsculas/minúsculas</translation>
     </message>
 </context>
 <context>
@@ -720,20 +720,12 @@ Con Qt %1. Con licencia pública general de GNU, versión 3 o posterior.</transl
         <translation>E&amp;ditar</translation>
     </message>
     <message>
-        <source>Searc&amp;h</source>
-        <translation>B&amp;uscar</translation>
-    </message>
-    <message>
         <source>&amp;View</source>
         <translation>&amp;Ver</translation>
     </message>
     <message>
         <source>&amp;Tools</source>
         <translation>Herram&amp;ientas</translation>
-    </message>
-    <message>
-        <source>Help</source>
-        <translation>Ayuda</translation>
     </message>
     <message>
         <source>&amp;New</source>
@@ -1022,7 +1014,7 @@ Con Qt %1. Con licencia pública general de GNU, versión 3 o posterior.</transl
         <translation>Buscar &amp;en archivos...</translation>
     </message>
     <message>
-        <source>Next Res&amp;ult</source>
+        <source>Ne&amp;xt Result</source>
         <translation>Resultado si&amp;guiente</translation>
     </message>
     <message>
@@ -1040,6 +1032,22 @@ Con Qt %1. Con licencia pública general de GNU, versión 3 o posterior.</transl
     <message>
         <source>Longest Unused Script</source>
         <translation>Script con &amp;más tiempo sin usar</translation>
+    </message>
+    <message>
+        <source>&amp;Search</source>
+        <translation>B&amp;uscar</translation>
+    </message>
+    <message>
+        <source>&amp;Help</source>
+        <translation>A&amp;yuda</translation>
+    </message>
+    <message>
+        <source>Previou&amp;s Problem</source>
+        <translation>Problema a&amp;nterior</translation>
+    </message>
+    <message>
+        <source>Stop &amp;Recording</source>
+        <translation>Detener la &amp;grabación</translation>
     </message>
 </context>
 <context>
@@ -1553,10 +1561,6 @@ Con Qt %1. Con licencia pública general de GNU, versión 3 o posterior.</transl
         <translation>la expresión tardó demasiado</translation>
     </message>
     <message>
-        <source>&amp;Stop</source>
-        <translation>Dete&amp;ner</translation>
-    </message>
-    <message>
         <source>Re&amp;place...</source>
         <translation>&amp;Reemplazar...</translation>
     </message>
@@ -1632,6 +1636,10 @@ Con Qt %1. Con licencia pública general de GNU, versión 3 o posterior.</transl
             <numerusform>. %n archivo quedó como estaba, vea el final de la lista</numerusform>
             <numerusform>. %n archivos quedaron como estaban, vea el final de la lista</numerusform>
         </translation>
+    </message>
+    <message>
+        <source>St&amp;op</source>
+        <translation>Dete&amp;ner</translation>
     </message>
 </context>
 <context>

@@ -540,7 +540,7 @@ Avec Qt %1. Sous licence publique générale GNU, version 3 ou ultérieure.</tra
         <translation>&amp;Tout marquer</translation>
     </message>
     <message>
-        <source>&amp;Count</source>
+        <source>Co&amp;unt</source>
         <translation>C&amp;ompter</translation>
     </message>
     <message>
@@ -552,20 +552,16 @@ Avec Qt %1. Sous licence publique générale GNU, version 3 ou ultérieure.</tra
         <translation>Remplacer par</translation>
     </message>
     <message>
-        <source>Match ca&amp;se</source>
-        <translation>&amp;Casse</translation>
-    </message>
-    <message>
         <source>&amp;Whole word</source>
         <translation>&amp;Mots entiers</translation>
     </message>
     <message>
         <source>E&amp;xpression</source>
-        <translation>&amp;Expression</translation>
+        <translation>E&amp;xpression</translation>
     </message>
     <message>
         <source>&amp;In selection</source>
-        <translation>&amp;Dans la sélection</translation>
+        <translation>Dans la sél&amp;ection</translation>
     </message>
     <message>
         <source>&amp;Keep case</source>
@@ -596,6 +592,10 @@ Avec Qt %1. Sous licence publique générale GNU, version 3 ou ultérieure.</tra
             <numerusform>%n remplacement</numerusform>
             <numerusform>%n remplacements</numerusform>
         </translation>
+    </message>
+    <message>
+        <source>Match &amp;case</source>
+        <translation>&amp;Casse</translation>
     </message>
 </context>
 <context>
@@ -720,20 +720,12 @@ Avec Qt %1. Sous licence publique générale GNU, version 3 ou ultérieure.</tra
         <translation>Éd&amp;ition</translation>
     </message>
     <message>
-        <source>Searc&amp;h</source>
-        <translation>Rec&amp;herche</translation>
-    </message>
-    <message>
         <source>&amp;View</source>
         <translation>&amp;Affichage</translation>
     </message>
     <message>
         <source>&amp;Tools</source>
         <translation>Outil&amp;s</translation>
-    </message>
-    <message>
-        <source>Help</source>
-        <translation>Aide</translation>
     </message>
     <message>
         <source>&amp;New</source>
@@ -1022,7 +1014,7 @@ Avec Qt %1. Sous licence publique générale GNU, version 3 ou ultérieure.</tra
         <translation>Rechercher &amp;dans les fichiers...</translation>
     </message>
     <message>
-        <source>Next Res&amp;ult</source>
+        <source>Ne&amp;xt Result</source>
         <translation>Résultat suiva&amp;nt</translation>
     </message>
     <message>
@@ -1040,6 +1032,22 @@ Avec Qt %1. Sous licence publique générale GNU, version 3 ou ultérieure.</tra
     <message>
         <source>Longest Unused Script</source>
         <translation>Script inutilisé depuis le plus lon&amp;gtemps</translation>
+    </message>
+    <message>
+        <source>&amp;Search</source>
+        <translation>Rec&amp;herche</translation>
+    </message>
+    <message>
+        <source>&amp;Help</source>
+        <translation>Ai&amp;de</translation>
+    </message>
+    <message>
+        <source>Previou&amp;s Problem</source>
+        <translation>Problè&amp;me précédent</translation>
+    </message>
+    <message>
+        <source>Stop &amp;Recording</source>
+        <translation>Arrêter l’e&amp;nregistrement</translation>
     </message>
 </context>
 <context>
@@ -1553,10 +1561,6 @@ Avec Qt %1. Sous licence publique générale GNU, version 3 ou ultérieure.</tra
         <translation>l’expression a duré trop longtemps</translation>
     </message>
     <message>
-        <source>&amp;Stop</source>
-        <translation>Arrê&amp;ter</translation>
-    </message>
-    <message>
         <source>Re&amp;place...</source>
         <translation>R&amp;emplacer...</translation>
     </message>
@@ -1632,6 +1636,10 @@ Avec Qt %1. Sous licence publique générale GNU, version 3 ou ultérieure.</tra
             <numerusform>. %n fichier est resté tel quel, voir la fin de la liste</numerusform>
             <numerusform>. %n fichiers sont restés tels quels, voir la fin de la liste</numerusform>
         </translation>
+    </message>
+    <message>
+        <source>St&amp;op</source>
+        <translation>Arrê&amp;ter</translation>
     </message>
 </context>
 <context>

@@ -538,8 +538,8 @@ Qt %1 を使用。GNU General Public License バージョン 3 以降の下で�
         <translation>すべてに印を付ける(&amp;M)</translation>
     </message>
     <message>
-        <source>&amp;Count</source>
-        <translation>件数を数える(&amp;C)</translation>
+        <source>Co&amp;unt</source>
+        <translation>件数を数える(&amp;U)</translation>
     </message>
     <message>
         <source>Find</source>
@@ -548,10 +548,6 @@ Qt %1 を使用。GNU General Public License バージョン 3 以降の下で�
     <message>
         <source>Replace with</source>
         <translation>置換後</translation>
-    </message>
-    <message>
-        <source>Match ca&amp;se</source>
-        <translation>大/小文字(&amp;S)</translation>
     </message>
     <message>
         <source>&amp;Whole word</source>
@@ -592,6 +588,10 @@ Qt %1 を使用。GNU General Public License バージョン 3 以降の下で�
         <translation>
             <numerusform>%n 件置換しました</numerusform>
         </translation>
+    </message>
+    <message>
+        <source>Match &amp;case</source>
+        <translation>大/小文字(&amp;C)</translation>
     </message>
 </context>
 <context>
@@ -716,20 +716,12 @@ Qt %1 を使用。GNU General Public License バージョン 3 以降の下で�
         <translation>編集(&amp;E)</translation>
     </message>
     <message>
-        <source>Searc&amp;h</source>
-        <translation>検索(&amp;H)</translation>
-    </message>
-    <message>
         <source>&amp;View</source>
         <translation>表示(&amp;V)</translation>
     </message>
     <message>
         <source>&amp;Tools</source>
         <translation>ツール(&amp;T)</translation>
-    </message>
-    <message>
-        <source>Help</source>
-        <translation>ヘルプ</translation>
     </message>
     <message>
         <source>&amp;New</source>
@@ -1016,8 +1008,8 @@ Qt %1 を使用。GNU General Public License バージョン 3 以降の下で�
         <translation>ファイル内を検索(&amp;I)...</translation>
     </message>
     <message>
-        <source>Next Res&amp;ult</source>
-        <translation>次の結果(&amp;U)</translation>
+        <source>Ne&amp;xt Result</source>
+        <translation>次の結果(&amp;X)</translation>
     </message>
     <message>
         <source>Previous Resul&amp;t</source>
@@ -1034,6 +1026,22 @@ Qt %1 を使用。GNU General Public License バージョン 3 以降の下で�
     <message>
         <source>Longest Unused Script</source>
         <translation>最も長く使っていないスクリプト</translation>
+    </message>
+    <message>
+        <source>&amp;Search</source>
+        <translation>検索(&amp;S)</translation>
+    </message>
+    <message>
+        <source>&amp;Help</source>
+        <translation>ヘルプ(&amp;H)</translation>
+    </message>
+    <message>
+        <source>Previou&amp;s Problem</source>
+        <translation>前の問題(&amp;S)</translation>
+    </message>
+    <message>
+        <source>Stop &amp;Recording</source>
+        <translation>記録を停止(&amp;R)</translation>
     </message>
 </context>
 <context>
@@ -1544,10 +1552,6 @@ Qt %1 を使用。GNU General Public License バージョン 3 以降の下で�
         <translation>正規表現の処理が長すぎました</translation>
     </message>
     <message>
-        <source>&amp;Stop</source>
-        <translation>停止(&amp;S)</translation>
-    </message>
-    <message>
         <source>Re&amp;place...</source>
         <translation>置換(&amp;P)...</translation>
     </message>
@@ -1620,6 +1624,10 @@ Qt %1 を使用。GNU General Public License バージョン 3 以降の下で�
         <translation>
             <numerusform>。%n ファイルは元のままです (一覧の末尾を参照)</numerusform>
         </translation>
+    </message>
+    <message>
+        <source>St&amp;op</source>
+        <translation>停止(&amp;O)</translation>
     </message>
 </context>
 <context>

@@ -538,8 +538,8 @@ Over Qt %1. Licensed under the GNU General Public License, version 3 or later.</
         <translation>全部标记(&amp;M)</translation>
     </message>
     <message>
-        <source>&amp;Count</source>
-        <translation>计数(&amp;C)</translation>
+        <source>Co&amp;unt</source>
+        <translation>计数(&amp;U)</translation>
     </message>
     <message>
         <source>Find</source>
@@ -548,10 +548,6 @@ Over Qt %1. Licensed under the GNU General Public License, version 3 or later.</
     <message>
         <source>Replace with</source>
         <translation>替换为</translation>
-    </message>
-    <message>
-        <source>Match ca&amp;se</source>
-        <translation>大小写(&amp;S)</translation>
     </message>
     <message>
         <source>&amp;Whole word</source>
@@ -592,6 +588,10 @@ Over Qt %1. Licensed under the GNU General Public License, version 3 or later.</
         <translation>
             <numerusform>替换了 %n 处</numerusform>
         </translation>
+    </message>
+    <message>
+        <source>Match &amp;case</source>
+        <translation>大小写(&amp;C)</translation>
     </message>
 </context>
 <context>
@@ -716,20 +716,12 @@ Over Qt %1. Licensed under the GNU General Public License, version 3 or later.</
         <translation>编辑(&amp;E)</translation>
     </message>
     <message>
-        <source>Searc&amp;h</source>
-        <translation>搜索(&amp;H)</translation>
-    </message>
-    <message>
         <source>&amp;View</source>
         <translation>视图(&amp;V)</translation>
     </message>
     <message>
         <source>&amp;Tools</source>
         <translation>工具(&amp;T)</translation>
-    </message>
-    <message>
-        <source>Help</source>
-        <translation>帮助</translation>
     </message>
     <message>
         <source>&amp;New</source>
@@ -1016,8 +1008,8 @@ Over Qt %1. Licensed under the GNU General Public License, version 3 or later.</
         <translation>在文件中查找(&amp;I)...</translation>
     </message>
     <message>
-        <source>Next Res&amp;ult</source>
-        <translation>下一个结果(&amp;U)</translation>
+        <source>Ne&amp;xt Result</source>
+        <translation>下一个结果(&amp;X)</translation>
     </message>
     <message>
         <source>Previous Resul&amp;t</source>
@@ -1034,6 +1026,22 @@ Over Qt %1. Licensed under the GNU General Public License, version 3 or later.</
     <message>
         <source>Longest Unused Script</source>
         <translation>最久未使用的脚本</translation>
+    </message>
+    <message>
+        <source>&amp;Search</source>
+        <translation>搜索(&amp;S)</translation>
+    </message>
+    <message>
+        <source>&amp;Help</source>
+        <translation>帮助(&amp;H)</translation>
+    </message>
+    <message>
+        <source>Previou&amp;s Problem</source>
+        <translation>上一个问题(&amp;S)</translation>
+    </message>
+    <message>
+        <source>Stop &amp;Recording</source>
+        <translation>停止录制(&amp;R)</translation>
     </message>
 </context>
 <context>
@@ -1544,10 +1552,6 @@ Over Qt %1. Licensed under the GNU General Public License, version 3 or later.</
         <translation>表达式耗时过长</translation>
     </message>
     <message>
-        <source>&amp;Stop</source>
-        <translation>停止(&amp;S)</translation>
-    </message>
-    <message>
         <source>Re&amp;place...</source>
         <translation>替换(&amp;P)...</translation>
     </message>
@@ -1620,6 +1624,10 @@ Over Qt %1. Licensed under the GNU General Public License, version 3 or later.</
         <translation>
             <numerusform>。%n 个文件保持原样，见列表末尾</numerusform>
         </translation>
+    </message>
+    <message>
+        <source>St&amp;op</source>
+        <translation>停止(&amp;O)</translation>
     </message>
 </context>
 <context>

@@ -48,7 +48,7 @@ std::span<const FindBar::Row> Rows()
         {"replace",          QT_TRANSLATE_NOOP("FindBar", "&Replace"),                "Ctrl+H",        &FindBar::Replace, true},
         {"replaceAll",       QT_TRANSLATE_NOOP("FindBar", "Replace &All"),            nullptr,         &FindBar::ReplaceAll, true, true},
         {"markAll",          QT_TRANSLATE_NOOP("FindBar", "&Mark All"),               nullptr,         &FindBar::MarkAll, false, true},
-        {"countMatches",     QT_TRANSLATE_NOOP("FindBar", "&Count"),                  nullptr,         &FindBar::Count, false, true},
+        {"countMatches",     QT_TRANSLATE_NOOP("FindBar", "Co&unt"),                  nullptr,         &FindBar::Count, false, true},
     };
     // clang-format on
     return rows;
@@ -65,7 +65,7 @@ FindBar::FindBar(std::function<CZNCoreEditorControlEx*()> editor, QWidget* paren
     : QWidget(parent), m_editor(std::move(editor)),
       m_manager(*zncoreeditor::GetFindReplaceManager()), m_find(MakeBox("findText", tr("Find"))),
       m_replace(MakeBox("replaceText", tr("Replace with"))),
-      m_matchCase(MakeOption("matchCase", tr("Match ca&se"), m_manager.GetMatchCase())),
+      m_matchCase(MakeOption("matchCase", tr("Match &case"), m_manager.GetMatchCase())),
       m_wholeWord(MakeOption("wholeWord", tr("&Whole word"), m_manager.GetWholeWord())),
       m_expression(MakeOption("expression", tr("E&xpression"), m_manager.GetRegExp())),
       m_inSelection(MakeOption("inSelection", tr("&In selection"), false)),

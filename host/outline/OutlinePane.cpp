@@ -68,12 +68,34 @@ void OutlinePane::ShowPlace(long position)
         m_list->setCurrentIndex(shown);
 }
 
-// What is found inside is seen.
+// What is found inside is seen; afterwards, what was open before is.
 void OutlinePane::Filter(const QString& words)
 {
+    if (!m_symbols->IsFiltered())
+        RememberOpen();
     m_symbols->Filter(words);
     if (words.isEmpty())
-        m_list->collapseAll();
+        OpenRemembered();
     else
         m_list->expandAll();
+}
+
+void OutlinePane::RememberOpen()
+{
+    m_open.clear();
+    for (int row = 0; row < m_symbols->rowCount(); ++row) {
+        if (const QModelIndex index = m_symbols->index(row, 0); m_list->isExpanded(index))
+            m_open.insert(m_symbols->At(index)->name);
+    }
+}
+
+void OutlinePane::OpenRemembered()
+{
+    m_list->collapseAll();
+    for (int row = 0; row < m_symbols->rowCount(); ++row) {
+        const QModelIndex index = m_symbols->index(row, 0);
+        if (m_open.contains(m_symbols->At(index)->name))
+            m_list->expand(index);
+    }
+    m_list->scrollTo(m_list->currentIndex());
 }

@@ -5,6 +5,7 @@
 #include "host/outline/Symbols.h"
 
 #include <QDockWidget>
+#include <QSet>
 
 class QLabel;
 class QLineEdit;
@@ -29,9 +30,12 @@ Q_SIGNALS:
 
 private:
     void Filter(const QString& words);
+    void RememberOpen();
+    void OpenRemembered();
 
     QLineEdit* m_words;
     SymbolModel* m_symbols;
     QTreeView* m_list;
-    QLabel* m_why; // nothing is listed
+    QLabel* m_why;        // nothing is listed
+    QSet<QString> m_open; // names of what was open before words were sought
 };

@@ -29,6 +29,7 @@ public:
     void Filter(const QString& words);
 
     bool IsEmpty() const { return m_symbols.empty(); }
+    bool IsFiltered() const { return !m_words.isEmpty(); }
     const Symbol* At(const QModelIndex& index) const; // null for none
     // Of those that are shown the last that begins at the place or in front of it.
     QModelIndex IndexAt(long position) const;

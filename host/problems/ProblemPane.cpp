@@ -57,6 +57,14 @@ void ProblemPane::Say(const QString& text)
     m_text->show();
 }
 
+void ProblemPane::ShowCurrent(int problem)
+{
+    QTreeWidgetItem* item = m_list->topLevelItem(problem);
+    m_list->setCurrentItem(item);
+    if (item)
+        m_list->scrollToItem(item);
+}
+
 void ProblemPane::Add(const ScriptProblem& problem, int line, int column)
 {
     auto* item = new QTreeWidgetItem(m_list);

@@ -21,6 +21,7 @@ public:
     void Clear();
     void Add(const ScriptProblem& problem, int line, int column); // from 0
     void Say(const QString& text);                                // instead of a list that is empty
+    void ShowCurrent(int problem); // by its number in the order of adding; -1: none is
 
 Q_SIGNALS:
     void Chosen(long start, long end); // positions in the script

@@ -5,6 +5,8 @@
 #include "editing/language/Library.h"
 
 #include <QActionGroup>
+#include <QApplication>
+#include <QKeyEvent>
 
 #include <algorithm>
 #include <vector>
@@ -46,6 +48,59 @@ void LanguageMenu::AddLanguage(int language)
     action->setData(language);
     action->setCheckable(true);
     m_group->addAction(action);
+}
+
+// One letter again and again goes from name to name.
+void LanguageMenu::keyPressEvent(QKeyEvent* event)
+{
+    const QString text = event->text();
+    const bool isLetter = !(event->modifiers() & ~Qt::ShiftModifier) && text.size() == 1 &&
+                          text.front().isPrint() && text.front() != u' ';
+    if (!isLetter) {
+        m_letters.clear();
+        QMenu::keyPressEvent(event);
+        return;
+    }
+    if (m_pressed.isValid() && m_pressed.hasExpired(QApplication::keyboardInputInterval()))
+        m_letters.clear();
+    m_pressed.start();
+    if (m_letters != text)
+        m_letters += text;
+    if (!GoToName(m_letters)) {
+        m_letters.clear();
+        QMenu::keyPressEvent(event);
+    }
+}
+
+// From the current name on; with more than one letter that name may be meant still.
+bool LanguageMenu::GoToName(const QString& letters)
+{
+    const QList<QAction*> names = m_group->actions();
+    const qsizetype current = names.indexOf(activeAction());
+    const qsizetype first = current + (letters.size() > 1 && current >= 0 ? 0 : 1);
+    for (qsizetype i = 0; i < names.size(); ++i) {
+        QAction* action = names[(first + i) % names.size()];
+        if (action->text().startsWith(letters, Qt::CaseInsensitive)) {
+            setActiveAction(action);
+            return true;
+        }
+    }
+    return false;
+}
+
+// Where not all have room, the marked one is among those that have. The bar that opens the menu
+// goes to the first entry after this.
+void LanguageMenu::showEvent(QShowEvent* event)
+{
+    QMenu::showEvent(event);
+    m_letters.clear();
+    QMetaObject::invokeMethod(
+        this,
+        [this] {
+            if (QAction* marked = m_group->checkedAction(); marked && isVisible())
+                setActiveAction(marked);
+        },
+        Qt::QueuedConnection);
 }
 
 void LanguageMenu::ShowLanguage(int language)

@@ -14,6 +14,7 @@
 #include "host/script/ScriptDoc.h"
 #include "host/script/ScriptFrame.h"
 #include "host/script/ScriptTabs.h"
+#include "host/script/ScriptView.h"
 #include "host/window/CommandPalette.h"
 #include "host/window/EditingMenu.h"
 #include "host/window/FieldMenus.h"
@@ -66,10 +67,10 @@ namespace {
 // The menus, told apart by their addresses.
 constexpr const char* kFile = QT_TRANSLATE_NOOP("MainWindow", "&File");
 constexpr const char* kEdit = QT_TRANSLATE_NOOP("MainWindow", "&Edit");
-constexpr const char* kSearch = QT_TRANSLATE_NOOP("MainWindow", "Searc&h");
+constexpr const char* kSearch = QT_TRANSLATE_NOOP("MainWindow", "&Search");
 constexpr const char* kView = QT_TRANSLATE_NOOP("MainWindow", "&View");
 constexpr const char* kTools = QT_TRANSLATE_NOOP("MainWindow", "&Tools");
-constexpr const char* kHelp = QT_TRANSLATE_NOOP("MainWindow", "Help");
+constexpr const char* kHelp = QT_TRANSLATE_NOOP("MainWindow", "&Help");
 
 template <auto Member>
 void Run(MainWindow& window, bool checked)
@@ -129,7 +130,7 @@ std::span<const MainWindow::Command> MainWindow::Commands()
         {kSearch, "goToSymbol",     QT_TR_NOOP("Go to S&ymbol..."),          Key::UnknownKey, "Ctrl+Shift+G", 0, When::Script, Run<&W::GoToSymbol>},
         {kSearch, nullptr},
         {kSearch, "findInFiles",    QT_TR_NOOP("Find in F&iles..."), Key::UnknownKey, "Ctrl+Shift+F", 0, When::Always, Run<&W::FindInFiles>},
-        {kSearch, "nextResult",     QT_TR_NOOP("Next Res&ult"),      Key::UnknownKey, "F4",           0, When::Always, Run<&W::NextResult>},
+        {kSearch, "nextResult",     QT_TR_NOOP("Ne&xt Result"),      Key::UnknownKey, "F4",           0, When::Always, Run<&W::NextResult>},
         {kSearch, "previousResult", QT_TR_NOOP("Previous Resul&t"),  Key::UnknownKey, "Shift+F4",     0, When::Always, Run<&W::PreviousResult>},
         {kSearch, "stopSearch",     QT_TR_NOOP("&Stop Search"),      Key::UnknownKey, nullptr,        0, When::Always, Run<&W::StopSearch>},
 
@@ -149,6 +150,7 @@ std::span<const MainWindow::Command> MainWindow::Commands()
         {kView, "newView",     QT_TR_NOOP("New &View"),              Key::UnknownKey, nullptr,         ID_WINDOW_NEW},
         {kView, nullptr},
         {kView, "nextProblem", QT_TR_NOOP("Next Proble&m"), Key::UnknownKey, "F8",   0, When::Script, Run<&W::NextProblem>},
+        {kView, "previousProblem", QT_TR_NOOP("Previou&s Problem"), Key::UnknownKey, "Shift+F8", 0, When::Script, Run<&W::PreviousProblem>},
         {kView, nullptr},
         {kView, "goToScript", QT_TR_NOOP("&Go to Script..."), Key::UnknownKey,   "Ctrl+E", 0, When::Script, Run<&W::ShowScripts>},
         {kView, "lastUsed",  QT_TR_NOOP("Las&t Used Script"), Key::NextChild,    "Ctrl+Tab", 0, When::SeveralScripts, Run<&W::LastUsedScript>},
@@ -268,6 +270,11 @@ bool MainWindow::IsPossible(When when) const
 void MainWindow::UpdateCommands()
 {
     UpdateActions(m_actions, *m_frame);
+    const ScriptFrame* frame = CurrentFrame();
+    const bool isRecording = frame && frame->View()->IsRecording();
+    // The view's own words have no letter to press.
+    findChild<QAction*>(QStringLiteral("recordMacro"))
+        ->setText(isRecording ? tr("Stop &Recording") : tr("&Record Macro"));
     auto action = m_actions.begin();
     for (const Command& command : Commands()) {
         if (command.name && command.id == 0)

@@ -69,6 +69,23 @@ TEST_F(Keys, OfLettersStandForOneEntryInEachMenu)
     }
 }
 
+TEST_F(Keys, OfLettersAreKeptByTheMenuBarAndByWhatRecords)
+{
+    for (const QAction* menu : m_window.menuBar()->actions())
+        EXPECT_FALSE(QKeySequence::mnemonic(menu->text()).isEmpty()) << menu->text().toStdString();
+    Open("a.sql", "a");
+    const auto letter = [this] {
+        return QKeySequence::mnemonic(Action("recordMacro").text()).toString();
+    };
+    EXPECT_EQ(letter(), "Alt+R");
+    Trigger("recordMacro");
+    Settle();
+    EXPECT_EQ(Action("recordMacro").text(), "Stop &Recording");
+    Trigger("recordMacro");
+    Settle();
+    EXPECT_EQ(Action("recordMacro").text(), "&Record Macro");
+}
+
 TEST_F(Keys, OfLettersInTheFindBarStandForOneControlAndNoMenu)
 {
     QMap<QString, QString> letters;

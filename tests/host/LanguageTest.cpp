@@ -12,6 +12,7 @@
 #include <QComboBox>
 #include <QFontComboBox>
 #include <QSpinBox>
+#include <QTest>
 
 #include <map>
 
@@ -23,7 +24,32 @@ QString NameOf(int language)
 }
 
 class WorkbenchLanguages : public WorkbenchTest
-{};
+{
+protected:
+    // What the letters lead to in the menu, from the entry that is marked.
+    QString Sought(const char* letters)
+    {
+        auto* menu = m_window.findChild<LanguageMenu*>();
+        menu->popup({});
+        Settle();
+        QTest::keyClicks(menu, QLatin1String(letters));
+        const QString found = menu->activeAction() ? menu->activeAction()->text() : QString();
+        menu->hide();
+        return found;
+    }
+};
+
+TEST_F(WorkbenchLanguages, AreReachedByTheFirstLettersOfTheirNames)
+{
+    m_window.show();
+    Open("a.sql", "select 1\n");
+    EXPECT_EQ(Sought(""), "SQL") << "the one that is marked";
+    EXPECT_EQ(Sought("po"), "PostgreSQL");
+    EXPECT_EQ(Sought("tr"), "Transact-SQL");
+    EXPECT_EQ(Sought("m"), "Makefile");
+    EXPECT_EQ(Sought("mm"), "MySQL") << "the next one of the letter";
+    EXPECT_EQ(Sought("C+"), "C++");
+}
 
 TEST(FileLanguages, GoByTheNameOfTheFile)
 {

@@ -177,6 +177,35 @@ TEST_F(WorkbenchProblems, AreReachedOneByOneByAKey)
     EXPECT_EQ(Editor().GetSelectionStart(1), 0);
 }
 
+TEST_F(WorkbenchProblems, AreReachedBackwardsToo)
+{
+    Open("a.pgsql", "selekt 1;\nselekt 2;\nselekt 3;\n");
+    Script().Checker()->Check();
+    GoTo(15);
+    QList<long> reached;
+    for (int i = 0; i < 4; ++i) {
+        Trigger("previousProblem");
+        reached << Editor().GetSelectionStart(1);
+    }
+    EXPECT_EQ(reached, QList<long>({10, 0, 20, 10}));
+}
+
+TEST_F(WorkbenchProblems, AreSelectedInTheListAsAKeyReachesThem)
+{
+    Open("a.pgsql", "selekt 1;\nselekt 2;\n");
+    Script().Checker()->Check();
+    GoTo(0);
+    const auto current = [this] { return List().indexOfTopLevelItem(List().currentItem()); };
+    EXPECT_EQ(current(), -1);
+    Trigger("nextProblem");
+    EXPECT_EQ(current(), 1);
+    EXPECT_TRUE(List().topLevelItem(1)->isSelected());
+    Q_EMIT Script().ProblemsChanged(); // the same ones again
+    EXPECT_EQ(current(), 1);
+    Trigger("previousProblem");
+    EXPECT_EQ(current(), 0);
+}
+
 TEST_F(WorkbenchProblems, AreThoseOfTheScriptInFront)
 {
     Open("a.pgsql", "selekt 2;\n");

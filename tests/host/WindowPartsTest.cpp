@@ -314,6 +314,21 @@ TEST_F(WindowParts, OpenInTheOutlineWhatStandsAroundTheWordsThatAreSought)
     EXPECT_FALSE(list.isExpanded(list.model()->index(0, 0)));
 }
 
+TEST_F(WindowParts, LeaveOpenInTheOutlineWhatWasBeforeWordsWereSought)
+{
+    Open("a.sql", "create table t (sought int);\ncreate table u (n int);\n");
+    Trigger("outline");
+    ASSERT_TRUE(Wait([&] { return Outlined().size() == 4; }));
+    QTreeView& list = OutlineList();
+    list.expand(list.model()->index(1, 0));
+    auto* words = list.parentWidget()->findChild<QLineEdit*>();
+    words->setText("S");
+    words->setText("SO");
+    words->clear();
+    EXPECT_FALSE(list.isExpanded(list.model()->index(0, 0)));
+    EXPECT_TRUE(list.isExpanded(list.model()->index(1, 0)));
+}
+
 TEST_F(WindowParts, OpenFilesOfTheFolder)
 {
     Write("other.sql", "other");
