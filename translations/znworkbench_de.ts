@@ -1049,6 +1049,18 @@ Mit Qt %1. Lizenziert unter der GNU General Public License, Version 3 oder spät
         <source>Stop &amp;Recording</source>
         <translation>Aufzeichnung been&amp;den</translation>
     </message>
+    <message>
+        <source>Back</source>
+        <translation>Zurück</translation>
+    </message>
+    <message>
+        <source>Forward</source>
+        <translation>Vorwärts</translation>
+    </message>
+    <message>
+        <source>The caret was nowhere else before.</source>
+        <translation>Die Einfügemarke war vorher nirgends sonst.</translation>
+    </message>
 </context>
 <context>
     <name>OpenAsDialog</name>
@@ -1336,6 +1348,10 @@ Mit Qt %1. Lizenziert unter der GNU General Public License, Version 3 oder spät
     <message>
         <source>Convert Line Ends to</source>
         <translation>Zeilenenden umwandeln in</translation>
+    </message>
+    <message>
+        <source>There was no step back.</source>
+        <translation>Es gab keinen Schritt zurück.</translation>
     </message>
 </context>
 <context>

@@ -1049,6 +1049,18 @@ Con Qt %1. Con licencia pública general de GNU, versión 3 o posterior.</transl
         <source>Stop &amp;Recording</source>
         <translation>Detener la &amp;grabación</translation>
     </message>
+    <message>
+        <source>Back</source>
+        <translation>Atrás</translation>
+    </message>
+    <message>
+        <source>Forward</source>
+        <translation>Adelante</translation>
+    </message>
+    <message>
+        <source>The caret was nowhere else before.</source>
+        <translation>El cursor no ha estado antes en otro sitio.</translation>
+    </message>
 </context>
 <context>
     <name>OpenAsDialog</name>
@@ -1336,6 +1348,10 @@ Con Qt %1. Con licencia pública general de GNU, versión 3 o posterior.</transl
     <message>
         <source>Convert Line Ends to</source>
         <translation>Convertir los finales de línea a</translation>
+    </message>
+    <message>
+        <source>There was no step back.</source>
+        <translation>No ha habido ningún paso atrás.</translation>
     </message>
 </context>
 <context>

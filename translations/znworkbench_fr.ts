@@ -1049,6 +1049,18 @@ Avec Qt %1. Sous licence publique générale GNU, version 3 ou ultérieure.</tra
         <source>Stop &amp;Recording</source>
         <translation>Arrêter l’e&amp;nregistrement</translation>
     </message>
+    <message>
+        <source>Back</source>
+        <translation>Retour</translation>
+    </message>
+    <message>
+        <source>Forward</source>
+        <translation>Avancer</translation>
+    </message>
+    <message>
+        <source>The caret was nowhere else before.</source>
+        <translation>Le curseur n’était nulle part ailleurs auparavant.</translation>
+    </message>
 </context>
 <context>
     <name>OpenAsDialog</name>
@@ -1336,6 +1348,10 @@ Avec Qt %1. Sous licence publique générale GNU, version 3 ou ultérieure.</tra
     <message>
         <source>Convert Line Ends to</source>
         <translation>Convertir les fins de ligne en</translation>
+    </message>
+    <message>
+        <source>There was no step back.</source>
+        <translation>Il n’y a pas eu de retour en arrière.</translation>
     </message>
 </context>
 <context>

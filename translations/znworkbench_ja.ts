@@ -1043,6 +1043,18 @@ Qt %1 を使用。GNU General Public License バージョン 3 以降の下で�
         <source>Stop &amp;Recording</source>
         <translation>記録を停止(&amp;R)</translation>
     </message>
+    <message>
+        <source>Back</source>
+        <translation>戻る</translation>
+    </message>
+    <message>
+        <source>Forward</source>
+        <translation>進む</translation>
+    </message>
+    <message>
+        <source>The caret was nowhere else before.</source>
+        <translation>カーソルは以前に他の場所にありませんでした。</translation>
+    </message>
 </context>
 <context>
     <name>OpenAsDialog</name>
@@ -1330,6 +1342,10 @@ Qt %1 を使用。GNU General Public License バージョン 3 以降の下で�
     <message>
         <source>Convert Line Ends to</source>
         <translation>改行コードを変換</translation>
+    </message>
+    <message>
+        <source>There was no step back.</source>
+        <translation>まだ戻っていません。</translation>
     </message>
 </context>
 <context>

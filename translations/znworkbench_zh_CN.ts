@@ -1043,6 +1043,18 @@ Over Qt %1. Licensed under the GNU General Public License, version 3 or later.</
         <source>Stop &amp;Recording</source>
         <translation>停止录制(&amp;R)</translation>
     </message>
+    <message>
+        <source>Back</source>
+        <translation>后退</translation>
+    </message>
+    <message>
+        <source>Forward</source>
+        <translation>前进</translation>
+    </message>
+    <message>
+        <source>The caret was nowhere else before.</source>
+        <translation>光标之前没有到过其他位置。</translation>
+    </message>
 </context>
 <context>
     <name>OpenAsDialog</name>
@@ -1330,6 +1342,10 @@ Over Qt %1. Licensed under the GNU General Public License, version 3 or later.</
     <message>
         <source>Convert Line Ends to</source>
         <translation>将行尾转换为</translation>
+    </message>
+    <message>
+        <source>There was no step back.</source>
+        <translation>没有后退过。</translation>
     </message>
 </context>
 <context>

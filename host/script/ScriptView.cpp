@@ -182,12 +182,17 @@ bool ScriptView::HasSomethingToEnd()
            m_coreEditor.CallTipActive(1);
 }
 
-// Of the views of a text one tells its names what has changed.
-void ScriptView::KeepNames(const SCNotification& record)
+// Of the views of a text one tells what has changed.
+void ScriptView::TellChange(const SCNotification& record)
 {
     ScriptDoc* script = record.nmhdr.code == notify::Modified ? Script() : nullptr;
     if (script && script->Names().Editor() == &m_coreEditor)
         script->Names().OnModified(record);
+    if (!script || record.linesAdded == 0 || script->FirstView() != this)
+        return;
+    const int line = m_coreEditor.LineFromPosition(record.position, 1);
+    const bool isAtStart = m_coreEditor.PositionFromLine(line, 1) == record.position;
+    Q_EMIT script->LinesMoved(isAtStart ? line : line + 1, static_cast<int>(record.linesAdded));
 }
 
 void ScriptView::CompleteWord()
@@ -207,7 +212,7 @@ int ScriptView::OnNotify(WPARAM wParam, LPARAM lParam, LRESULT* result)
 {
     const bool isOwn = m_coreEditor.IsBaseEditorNotify(lParam);
     if (isOwn)
-        KeepNames(*reinterpret_cast<const SCNotification*>(lParam));
+        TellChange(*reinterpret_cast<const SCNotification*>(lParam));
     const int known = CZNCoreEditorView::OnNotify(wParam, lParam, result);
     ScriptDoc* script = GetSafeHwnd() ? Script() : nullptr;
     if (!isOwn || !script)
@@ -298,14 +303,27 @@ void ScriptView::FitScrollRange()
 
 void ScriptView::SelectRange(long start, long end)
 {
+    const int top = m_coreEditor.GetFirstVisibleLine(1);
     m_coreEditor.EnsureRangeVisible(static_cast<int>(start), static_cast<int>(end));
     m_coreEditor.SetSel(start, end, 1);
+    GiveRoomAround(top);
     SetFocus();
+}
+
+// A place that was out of sight comes with a third of the window above it, not at its edge.
+void ScriptView::GiveRoomAround(int topBefore)
+{
+    const int screen = m_coreEditor.LinesOnScreen(1);
+    const int row = m_coreEditor.VisibleFromDocLine(m_coreEditor.GetCurLineNumber(), 1);
+    if (row < topBefore || row >= topBefore + screen)
+        m_coreEditor.LineScroll(0, row - screen / 3 - m_coreEditor.GetFirstVisibleLine(1), 1);
 }
 
 void ScriptView::GoToLine(long line)
 {
+    const int top = m_coreEditor.GetFirstVisibleLine(1);
     m_coreEditor.GotoLineEnsureVisible(static_cast<int>(line));
+    GiveRoomAround(top);
 }
 
 // As tools count them, in characters whatever their width.

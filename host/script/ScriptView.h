@@ -65,8 +65,9 @@ private:
     ~ScriptView() override;
     void LookAtFile(); // and asks about what others did to it
     void LookAtFileIn(std::chrono::milliseconds time);
-    void KeepNames(const SCNotification& record);
+    void TellChange(const SCNotification& record);
     void FollowAfter(std::chrono::milliseconds rest);
+    void GiveRoomAround(int topBefore);
     void FollowAtRest();
     void FitScrollRange();
     void CloseFrame();

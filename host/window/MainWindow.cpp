@@ -124,6 +124,7 @@ MainWindow::MainWindow(Workbench& app)
     FileDrops::Take(*this);
     FileDrops::Take(*m_tabs->tabBar());
 
+    BuildPlaces();
     BuildMenus();
     connect(m_status, &StatusIndicators::Chosen, this, &MainWindow::OpenField);
     connect(QGuiApplication::clipboard(), &QClipboard::dataChanged, this,
@@ -242,6 +243,7 @@ void MainWindow::OnTabAdded(QWidget* page)
 void MainWindow::Follow(ScriptDoc& script)
 {
     script.disconnect(this);
+    FollowPlaces(script);
     connect(&script, &ScriptDoc::StateChanged, this, [this, &script] { OnScriptChanged(script); });
     connect(&script, &ScriptDoc::TextChanged, this, [this, &script] { TellResults(script); });
     script.Names().disconnect(this);
@@ -272,6 +274,7 @@ void MainWindow::Follow(ScriptDoc& script)
 void MainWindow::OnCurrentChanged()
 {
     GoToScript();
+    NotePlace();
     UpdateAll();
     ListProblems();
     UpdateOutlineSoon();
@@ -460,6 +463,7 @@ void MainWindow::OnScriptChanged(ScriptDoc& script)
     }
     const ScriptFrame* frame = CurrentFrame();
     if (frame && frame->Script() == &script) {
+        NotePlaceSoon();
         UpdateAll();
         UpdateOutlineSoon();
     }

@@ -4,8 +4,10 @@
 #pragma once
 
 #include "host/session/Session.h"
+#include "host/window/PlaceHistory.h"
 
 #include <QMainWindow>
+#include <QPointer>
 
 #include <initializer_list>
 #include <memory>
@@ -77,6 +79,8 @@ public:
     void NextProblem() { GoToProblem(true); }
     void PreviousProblem() { GoToProblem(false); }
     void GoToProblem(bool forward);
+    void GoBack();
+    void GoForward();
     void FindInFiles();
     void NextResult(); // of the pane that a search was shown in last
     void PreviousResult();
@@ -139,6 +143,14 @@ private:
     void ShowResults(); // of the last search
     void ShowMatch(long line, long column, long length);
 
+    void BuildPlaces();
+    void FollowPlaces(ScriptDoc& script);
+    void NotePlace();
+    void NotePlaceSoon();
+    void NotePlaceIn(const ScriptFrame& frame);
+    bool CanGoForward() const;
+    bool ShowPlace(const PlaceHistory::Place& place);
+
     void KeepSessionSoon();
     void KeepSession();
     bool PutSessionAside();
@@ -157,6 +169,9 @@ private:
     OutlinePane* m_outline = nullptr;
     FolderPane* m_folder = nullptr;
     QTimer* m_outlineTimer = nullptr;
+    std::shared_ptr<PlaceHistory> m_places;
+    QTimer* m_placeTimer = nullptr;
+    QPointer<QWidget> m_placePage;       // of the script that was in front when it was started
     std::size_t m_outlined = 0;          // of which text the outline is
     std::vector<ResultsPane*> m_results; // two of them
     ResultsPane* m_shownResults = nullptr;

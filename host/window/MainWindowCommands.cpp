@@ -45,6 +45,7 @@ enum class MainWindow::When
     Script, // a script is shown
     SeveralScripts,
     SomethingClosed,
+    SomethingForward,
 };
 
 // A row has the number of a command, which is routed from the script in front to the application
@@ -128,6 +129,8 @@ std::span<const MainWindow::Command> MainWindow::Commands()
         {kSearch, "replaceDialog",  QT_TR_NOOP("R&eplace with a Dialog..."), Key::UnknownKey, "Ctrl+Alt+R", 53896},
         {kSearch, "goToLine",       QT_TR_NOOP("&Go to Line..."),            Key::UnknownKey, "Ctrl+G",     54049},
         {kSearch, "goToSymbol",     QT_TR_NOOP("Go to S&ymbol..."),          Key::UnknownKey, "Ctrl+Shift+G", 0, When::Script, Run<&W::GoToSymbol>},
+        {kSearch, "back",           QT_TR_NOOP("Back"),                     Key::UnknownKey, "Alt+Left",   0, When::Script, Run<&W::GoBack>},
+        {kSearch, "forward",        QT_TR_NOOP("Forward"),                  Key::UnknownKey, "Alt+Right",  0, When::SomethingForward, Run<&W::GoForward>},
         {kSearch, nullptr},
         {kSearch, "findInFiles",    QT_TR_NOOP("Find in F&iles..."), Key::UnknownKey, "Ctrl+Shift+F", 0, When::Always, Run<&W::FindInFiles>},
         {kSearch, "nextResult",     QT_TR_NOOP("Ne&xt Result"),      Key::UnknownKey, "F4",           0, When::Always, Run<&W::NextResult>},
@@ -262,6 +265,8 @@ bool MainWindow::IsPossible(When when) const
         return TabCount() > 1;
     case When::SomethingClosed:
         return m_tabs->HasClosed();
+    case When::SomethingForward:
+        return CanGoForward();
     default:
         return true;
     }

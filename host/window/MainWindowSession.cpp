@@ -139,6 +139,8 @@ void MainWindow::ResumeSession()
     }
     if (front)
         m_tabs->setCurrentWidget(front);
+    *m_places = PlaceHistory(); // nobody has gone from tab to tab
+    NotePlace();
     m_sessionTimer->setSingleShot(true);
     m_sessionTimer->setInterval(kRest);
     connect(m_sessionTimer, &QTimer::timeout, this, &MainWindow::KeepSession);

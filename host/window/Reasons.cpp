@@ -53,6 +53,7 @@ constexpr Row kRows[] = {
     {"longestUnused",  false, false, QT_TRANSLATE_NOOP("Reasons", "No other script is open.")},
     {"next",           false, false, QT_TRANSLATE_NOOP("Reasons", "No other script is open.")},
     {"previous",       false, false, QT_TRANSLATE_NOOP("Reasons", "No other script is open.")},
+    {"forward",        false, false, QT_TRANSLATE_NOOP("Reasons", "There was no step back.")},
     {"reopenClosed",   false, false, QT_TRANSLATE_NOOP("Reasons", "No tab was closed.")},
     {"otherPane",      false, false, QT_TRANSLATE_NOOP("Reasons", "The script is not split.")},
     {"previousPane",   false, false, QT_TRANSLATE_NOOP("Reasons", "The script is not split.")},
