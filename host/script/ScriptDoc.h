@@ -87,7 +87,7 @@ Q_SIGNALS:
     void StateChanged(); // text, caret, modified flag, zoom: anything that a window shows
     void TextChanged();
     void LinesMoved(int first, int added); // from there on; below 0: that many went
-    void LanguageChanged();               // the looks are those of the language again, in all views
+    void LanguageChanged(); // the looks are those of the language again, in all views
     void ProblemsChanged();
     void MenuOpened(QMenu* menu);   // one of a view's own, filled
     void Told(const QString& text); // what a person should know, and need not answer
