@@ -98,6 +98,9 @@ public:
     // from there: at once, or when the changes under way are told.
     static void WhenSettled(QObject* context, std::function<void()> act);
 
+    // No message and no event is under way.
+    static bool IsOver() { return s_depth == 0; }
+
     static bool IsInsideChange() { return s_inside > 0; }
 
     // What the stock engine says of a modification, which the window hands on.

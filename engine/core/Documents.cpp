@@ -2,6 +2,7 @@
 #include "engine/core/Documents.h"
 
 #include "engine/colours/Colouring.h"
+#include "engine/core/CaretSteps.h"
 #include "engine/core/EraseRun.h"
 #include "engine/core/ErrorList.h"
 
@@ -20,6 +21,7 @@ struct Record
     std::shared_ptr<Colouring> colouring = std::make_shared<Colouring>();
     ErrorList errors;
     EraseRun eraseRun;
+    CaretSteps caretSteps;
 };
 
 std::unordered_map<Document, Record>& All()
@@ -98,6 +100,11 @@ void Created(Document document)
 EraseRun& EraseRunOf(Document document)
 {
     return All()[document].eraseRun;
+}
+
+CaretSteps& CaretStepsOf(Document document)
+{
+    return All()[document].caretSteps;
 }
 
 bool AddReference(Document document)

@@ -9,6 +9,7 @@
 #include <vector>
 
 namespace engine {
+class CaretSteps;
 class Colouring;
 class Engine;
 class EraseRun;
@@ -35,6 +36,9 @@ ErrorList& Errors(Document document);
 
 // The run of Backspace or Delete over a document that a window shows.
 EraseRun& EraseRunOf(Document document);
+
+// The steps that were made with several carets in a document that a window shows.
+CaretSteps& CaretStepsOf(Document document);
 
 // References of hosts. Release gives false if hosts hold none.
 void Created(Document document);

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "engine/core/Engine.h"
 
+#include "engine/core/CaretSteps.h"
 #include "engine/core/Documents.h"
 #include "engine/core/EraseRun.h"
 #include "engine/core/ErrorList.h"
@@ -163,12 +164,13 @@ LRESULT Engine::Perform(UINT message, WPARAM wParam, LPARAM lParam)
     const UINT slot = message - kFirstNumber;
     if (slot >= kNumbers)
         return 0;
-    if (EraseRun::AnyIsOpen() && EraseRun::IsEndedBy(message))
-        EndEraseRun();
+    if ((EraseRun::AnyIsOpen() || CaretSteps::AnyIsOpen()) && EraseRun::IsEndedBy(message))
+        EndRuns();
     const Answerer& answerer = answerers[slot];
     LRESULT result = 0;
     {
         const ChangeReporter::Scope scope;
+        const CaretSteps::Acting acting(*this);
         if (!ChangeReporter::IsInsideChange())
             columns.Settle();
         const bool keepsWhole = text.MayHaveNoncharacters();
@@ -191,6 +193,7 @@ LRESULT Engine::Perform(UINT message, WPARAM wParam, LPARAM lParam)
         if (keepsWhole)
             wholeCharacters.End();
     }
+    Settle();
     if (ChangeReporter::AnyPending()) // from here on the window may be gone
         ChangeReporter::FlushAll();
     return result;
@@ -234,6 +237,7 @@ void Engine::EditBegins(const TextEdit& edit)
         undo->Tell();
     if (EraseRun::AnyIsOpen())
         documents::EraseRunOf(m_document).EditBegins(raw, edit);
+    documents::CaretStepsOf(m_document).EditBegins(*this, edit);
     NoteUncollected(edit);
     KeepFirstLineVisible(edit);
     target.Follow(edit);
@@ -273,6 +277,18 @@ void Engine::EraseKeyEnds()
 void Engine::EndEraseRun()
 {
     documents::EraseRunOf(m_document).Close(raw);
+}
+
+void Engine::EndRuns()
+{
+    EndEraseRun();
+    documents::CaretStepsOf(m_document).Close(raw);
+}
+
+void Engine::Settle()
+{
+    if (CaretSteps::AnyIsNoted() && ChangeReporter::IsOver())
+        documents::CaretStepsOf(m_document).Settle(*this);
 }
 
 long Engine::Bytes(LPARAM position) const

@@ -96,6 +96,11 @@ public:
     void EraseKeyEnds();
     void EndEraseRun();
 
+    // Before anything that is no key: the runs of keys are over.
+    void EndRuns();
+    // A message or an event is over.
+    void Settle();
+
     // Whether changes can be undone. It is asked for each of them; whoever sets it for a document,
     // in whatever window, says so.
     bool CollectsUndo();

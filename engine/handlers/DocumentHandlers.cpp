@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 // Messages about the text as a whole: which one a window shows, and how its changes are grouped.
+#include "engine/core/CaretSteps.h"
 #include "engine/core/Documents.h"
 #include "engine/core/Engine.h"
 #include "engine/core/Handlers.h"
@@ -101,7 +102,12 @@ LRESULT ChangeBySteps(Engine& engine, WPARAM, LPARAM)
                                       ? QCoreApplication::translate("EngineWindow", "Undoing")
                                       : QCoreApplication::translate("EngineWindow", "Redoing"));
     const QScopedValueRollback<LongWork*> under(engine.undo, &work);
-    return engine.raw.Send(Number);
+    const documents::Document document = engine.Document();
+    documents::CaretStepsOf(document).StepBegins(engine);
+    const LRESULT result = engine.raw.Send(Number);
+    if (engine.Document() == document)
+        documents::CaretStepsOf(document).StepEnds(engine, Number == Sci::SCI_UNDO);
+    return result;
 }
 
 constexpr HandlerRow kRows[] = {

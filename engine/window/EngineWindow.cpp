@@ -2,6 +2,8 @@
 #include "engine/window/EngineWindow.h"
 
 #include "engine/changes/AssistiveTechnology.h"
+#include "engine/core/CaretSteps.h"
+#include "engine/core/Documents.h"
 #include "engine/window/Accessible.h"
 #include "engine/window/StyleLooks.h"
 #include "platform/text/VectorState.h"
@@ -27,19 +29,22 @@ template <typename Handle>
 bool TellAfter(Engine& engine, Handle handle)
 {
     bool handled = false;
+    const QPointer<QObject> window(&engine.window);
     {
         const ChangeReporter::Scope scope;
+        const CaretSteps::Acting acting(engine);
         engine.columns.Settle();
         if (engine.text.MayHaveNoncharacters()) {
-            const QPointer<QObject> alive(&engine.window);
             engine.wholeCharacters.Begin();
             handled = handle();
-            if (alive)
+            if (window)
                 engine.wholeCharacters.End();
         } else {
             handled = handle();
         }
     }
+    if (window)
+        engine.Settle();
     if (ChangeReporter::AnyPending())
         ChangeReporter::FlushAll();
     return handled;
@@ -89,6 +94,17 @@ bool OnlyMoves(const QKeyEvent& event)
         event.modifiers() & (Qt::ControlModifier | Qt::AltModifier | Qt::MetaModifier);
     const bool moves = event.key() >= Qt::Key_Home && event.key() <= Qt::Key_PageDown;
     return (moves && !isCommand) || (event.key() >= Qt::Key_Shift && event.key() <= Qt::Key_Alt);
+}
+
+CaretSteps::Key KeyOf(const QKeyEvent& event)
+{
+    using Key = CaretSteps::Key;
+    if (IsEraseKey(event))
+        return Key::Erases;
+    const bool isCommand =
+        event.modifiers() & (Qt::ControlModifier | Qt::AltModifier | Qt::MetaModifier);
+    const QString text = event.text();
+    return !isCommand && !text.isEmpty() && text.front().isPrint() ? Key::Types : Key::Other;
 }
 
 bool MakesColumns(const QKeyEvent& event)
@@ -187,7 +203,7 @@ bool EngineWindow::viewportEvent(QEvent* event)
 {
     platform::ClearUpperHalves();
     if (event->type() == QEvent::Drop)
-        m_engine.EndEraseRun();
+        m_engine.EndRuns();
     if (event->type() == QEvent::Leave)
         m_engine.looks.MouseLeft();
     m_place.SeeInside(*event);
@@ -212,7 +228,7 @@ void EngineWindow::TypeText(const QString& text)
 
 void EngineWindow::inputMethodEvent(QInputMethodEvent* event)
 {
-    m_engine.EndEraseRun();
+    m_engine.EndRuns();
     const bool changesText = !event->commitString().isEmpty() || event->replacementLength() > 0;
     if (changesText)
         m_engine.Perform(message::BeginUndoAction, 0, 0);
@@ -305,9 +321,14 @@ void EngineWindow::keyPressEvent(QKeyEvent* event)
         m_engine.EraseKeyBegins(event->key() == Qt::Key_Backspace);
     else if (!OnlyMoves(*event))
         m_engine.EndEraseRun();
+    if (!OnlyMoves(*event))
+        documents::CaretStepsOf(m_engine.Document()).KeyBegins(m_engine, KeyOf(*event));
     PressKey(event);
-    if (erases && alive)
+    if (!alive)
+        return;
+    if (erases)
         m_engine.EraseKeyEnds();
+    documents::CaretStepsOf(m_engine.Document()).KeyEnds();
 }
 
 // The stock handler types the character of a key that no command took, whatever is held with it,

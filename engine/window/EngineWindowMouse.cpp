@@ -17,7 +17,7 @@ namespace engine {
 // columns, and Control sets one more caret.
 void EngineWindow::mousePressEvent(QMouseEvent* event)
 {
-    m_engine.EndEraseRun();
+    m_engine.EndRuns();
     m_engine.longLines.Prepare();
     EndComposition();
     if (m_engine.looks.MousePressed(*event))
