@@ -73,7 +73,14 @@ ChangeReporter::~ChangeReporter()
 void ChangeReporter::SetModEventMask(int mask)
 {
     m_mask = mask;
-    m_raw.Send(Sci::SCI_SETMODEVENTMASK, static_cast<std::uintptr_t>((mask & kHarmless) | kBefore));
+    m_raw.Send(Sci::SCI_SETMODEVENTMASK,
+               static_cast<std::uintptr_t>((mask & kHarmless) | kBefore | m_heard));
+}
+
+void ChangeReporter::HearStyles(bool hear)
+{
+    m_heard = hear ? modification::ChangeStyle : 0;
+    SetModEventMask(m_mask);
 }
 
 // A change that is noted while another is may be told behind the message that makes it, when its

@@ -56,6 +56,8 @@ public:
 
     int ModEventMask() const { return m_mask; }
     void SetModEventMask(int mask);
+    // Lets the window hear of changed styles, whoever else does.
+    void HearStyles(bool hear);
 
     // Tells what waits, in every window of the process: a document may stand in several. While no
     // Scope lives, also that a message or an event is over, to who has asked for that.
@@ -152,6 +154,7 @@ private:
     TextIndex& m_text;
     std::shared_ptr<Colouring> m_colouring;
     int m_mask = kDefaultModEventMask;
+    int m_heard = 0; // bits beside those of the mask
     Change m_change;
     Offered m_offered;
     SCNotification m_blank; // to copy one is quicker than to blank it

@@ -7,6 +7,7 @@
 #include "engine/core/ErrorList.h"
 #include "engine/core/Fences.h"
 #include "engine/core/Handlers.h"
+#include "engine/looks/DocumentMap.h"
 #include "engine/text/Characters.h"
 #include "platform/services/LongWork.h"
 
@@ -105,6 +106,8 @@ Engine::Engine(QsciScintillaBase& widget)
     });
     // A load, which nobody can undo, changes no line.
     reporter.SetMarker([this](long position, long end) {
+        if (map)
+            map->EditEnds();
         if (CollectsUndo())
             looks.MarkChange(position, end);
     });
@@ -156,6 +159,8 @@ void Engine::PrepareDocument()
         errors->SetLook(*this, errorLook);
     analysis.Forget();
     StoredText::WordsMayChange();
+    if (map)
+        map->Forget();
 }
 
 LRESULT Engine::Perform(UINT message, WPARAM wParam, LPARAM lParam)
@@ -244,6 +249,8 @@ void Engine::EditBegins(const TextEdit& edit)
     searcher.TextChanges([&edit](long place) { return edit.Moved(place); });
     errors->NoteChange(*this, edit.inserts, edit.position, edit.bytes);
     looks.TextChanges();
+    if (map)
+        map->EditBegins(edit);
 }
 
 // One caret, behind what a line begins with: Backspace may take more of that.

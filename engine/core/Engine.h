@@ -20,6 +20,7 @@
 #include "engine/text/TextIndex.h"
 #include "engine/text/Utf.h"
 
+#include <functional>
 #include <memory>
 #include <optional>
 #include <set>
@@ -29,6 +30,7 @@ class LongWork;
 
 namespace engine {
 
+class DocumentMap;
 class ErrorList;
 
 // What SearchInTarget searches and ReplaceTarget replaces. The stock engine learns of it when it
@@ -124,6 +126,8 @@ public:
     const StoredText stored;
     search::Searcher searcher;
     LookPainter looks;
+    DocumentMap* map = nullptr;                // the window's child; null: not shown
+    std::function<void(int width)> setMapRoom; // gives the map pixels of the window
     SearchTarget target;
     const Columns columns{raw};
     LongLines longLines{*this};

@@ -4,6 +4,9 @@
 
 #include "engine/core/Engine.h"
 #include "engine/core/Handlers.h"
+#include "engine/looks/DocumentMap.h"
+
+#include <utility>
 
 namespace engine {
 namespace {
@@ -27,10 +30,27 @@ LRESULT NextFolded(Engine& engine, WPARAM wParam, LPARAM)
     return engine.raw.Send(QsciScintillaBase::SCI_CONTRACTEDFOLDNEXT, wParam);
 }
 
+LRESULT ShowDocumentMap(Engine& engine, WPARAM wParam, LPARAM)
+{
+    if (wParam && !engine.map)
+        engine.map = new DocumentMap(engine.window, engine.raw, engine.setMapRoom);
+    else if (!wParam && engine.map)
+        std::exchange(engine.map, nullptr)->End();
+    engine.reporter.HearStyles(engine.map != nullptr);
+    return 0;
+}
+
+LRESULT IsDocumentMapShown(Engine& engine, WPARAM, LPARAM)
+{
+    return engine.map ? 1 : 0;
+}
+
 constexpr HandlerRow kRows[] = {
     {kSetLooks, SetLooks},
     {kShowMatches, ShowMatches},
     {kNextFolded, NextFolded},
+    {kShowDocumentMap, ShowDocumentMap},
+    {kIsDocumentMapShown, IsDocumentMapShown},
 };
 
 } // namespace

@@ -4,6 +4,7 @@
 #include "engine/changes/AssistiveTechnology.h"
 #include "engine/core/CaretSteps.h"
 #include "engine/core/Documents.h"
+#include "engine/looks/DocumentMap.h"
 #include "engine/window/Accessible.h"
 #include "engine/window/StyleLooks.h"
 #include "platform/text/VectorState.h"
@@ -129,6 +130,12 @@ EngineWindow::EngineWindow(QWidget* parent) : QsciScintillaBase(parent), m_engin
     m_engine.raw.Send(Sci::SCI_SETMARGINMASKN, 1, 0L);
     m_engine.raw.Send(Sci::SCI_SETMARGINWIDTHN, 1, 0L);
     m_engine.raw.Send(Sci::SCI_SETFOLDFLAGS, Sci::SC_FOLDFLAG_LINEAFTER_CONTRACTED);
+    m_engine.setMapRoom = [this](int width) {
+        m_place.End();
+        QMargins margins = viewportMargins();
+        margins.setRight(width);
+        setViewportMargins(margins);
+    };
     setAccessibleName(QCoreApplication::translate("EngineWindow", "Text editor"));
     connect(this, &Sci::SCN_UPDATEUI, this, [this](int updated) {
         m_engine.looks.Updated(updated);
@@ -156,6 +163,8 @@ void EngineWindow::OnModified(int position, int type, const char* /*text*/, int 
 {
     if (type & (SC_MOD_BEFOREINSERT | SC_MOD_BEFOREDELETE))
         m_place.EndSoon();
+    else if (m_engine.map && type & SC_MOD_CHANGESTYLE)
+        m_engine.map->StylesChanged(position, length);
     m_engine.reporter.OnModified(position, type, length, line, foldNow, foldPrev, token,
                                  annotationLinesAdded);
 }

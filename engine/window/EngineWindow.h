@@ -69,8 +69,9 @@ private:
     InputMethod m_inputMethod{m_engine};
     Carets m_carets{m_engine.raw};
     ScrollReports m_scrollReports{*this};
-    PixelPlace m_place{*this, m_engine.raw,
-                       [this](int top, int bottom) { setViewportMargins(0, top, 0, bottom); }};
+    PixelPlace m_place{*this, m_engine.raw, [this](int top, int bottom) {
+                           setViewportMargins(0, top, viewportMargins().right(), bottom);
+                       }};
     FineScroll m_fineScroll{*this, m_place};
     bool m_addsCaret = false; // the button that is down
     bool m_isDropping = false;

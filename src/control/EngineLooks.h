@@ -1,8 +1,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 /// \file
 /// What an engine draws by itself beside and over its text, in which colours: icons in the margins,
-/// fold marks, bars at changed lines, highlights, marks on the scroll bar. Nothing, until it is
-/// told.
+/// fold marks, bars at changed lines, highlights, marks on the scroll bar, a map of the text.
+/// Nothing, until it is told.
 #pragma once
 
 #include "platform/base/Types.h"
@@ -38,6 +38,8 @@ struct Looks
 inline constexpr UINT kSetLooks = 4020;    ///< lParam: const Looks*, copied; null: nothing more
 inline constexpr UINT kShowMatches = 4021; ///< wParam: search flags, lParam: UTF-16, null: none
 inline constexpr UINT kNextFolded = 4023;  ///< wParam: line; the next folded from it on, -1: none
+inline constexpr UINT kShowDocumentMap = 4027;    ///< wParam: whether there is one beside the text
+inline constexpr UINT kIsDocumentMapShown = 4028; ///< 1 if there is one
 
 /// The markers that stand for what is drawn: their own symbols are to be empty then.
 namespace lookmarker {
