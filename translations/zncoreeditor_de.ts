@@ -360,6 +360,13 @@ Soll sie neu geladen werden?</translation>
     </message>
 </context>
 <context>
+    <name>DocumentMap</name>
+    <message>
+        <source>Document map</source>
+        <translation>Dokumentkarte</translation>
+    </message>
+</context>
+<context>
     <name>EditListBox</name>
     <message>
         <source>Add</source>
@@ -2871,6 +2878,10 @@ Eintragen?</translation>
     <message>
         <source>Pla&amp;y Macro</source>
         <translation>Makro &amp;abspielen</translation>
+    </message>
+    <message>
+        <source>&amp;Document Map</source>
+        <translation>Do&amp;kumentkarte</translation>
     </message>
 </context>
 </TS>

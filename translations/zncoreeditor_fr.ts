@@ -360,6 +360,13 @@ Voulez-vous le recharger&#xa0;?</translation>
     </message>
 </context>
 <context>
+    <name>DocumentMap</name>
+    <message>
+        <source>Document map</source>
+        <translation>Carte du document</translation>
+    </message>
+</context>
+<context>
     <name>EditListBox</name>
     <message>
         <source>Add</source>
@@ -2871,6 +2878,10 @@ Les écrire&#xa0;?</translation>
     <message>
         <source>Pla&amp;y Macro</source>
         <translation>&amp;Jouer la macro</translation>
+    </message>
+    <message>
+        <source>&amp;Document Map</source>
+        <translation>Carte du &amp;document</translation>
     </message>
 </context>
 </TS>

@@ -360,6 +360,13 @@ Do you want to reload it?</source>
     </message>
 </context>
 <context>
+    <name>DocumentMap</name>
+    <message>
+        <source>Document map</source>
+        <translation>文档缩略图</translation>
+    </message>
+</context>
+<context>
     <name>EditListBox</name>
     <message>
         <source>Add</source>
@@ -2871,6 +2878,10 @@ Write them?</source>
     <message>
         <source>Pla&amp;y Macro</source>
         <translation>播放宏(&amp;Y)</translation>
+    </message>
+    <message>
+        <source>&amp;Document Map</source>
+        <translation>文档缩略图(&amp;D)</translation>
     </message>
 </context>
 </TS>

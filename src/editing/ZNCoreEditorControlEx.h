@@ -144,6 +144,10 @@ public:
     virtual void SetVisibleLineNumber(bool visible);
     /// As SetVisibleLineNumber has set it.
     bool IsVisibleLineNumber() const { return m_visibleLineNumber; }
+    /// The text in small beside the scroll bar, with a box around what the window shows. Of this
+    /// window alone, whatever the language; off at first, and in a window that is very narrow.
+    void SetDocumentMap(bool visible);
+    bool IsDocumentMapVisible(); ///< as SetDocumentMap has set it
     /// Shows the texts of SetExtendedText in margin 0, or the line numbers again.
     void SetExtendedMargin(bool on);
     /// Texts with a line for each line, of so many units.

@@ -337,6 +337,7 @@ ZNCoreEditorWidget::Private::Settings ZNCoreEditorWidget::Private::CurrentSettin
             control.GetTabWidth(1),
             control.GetWrapMode(1) != 0,
             control.IsVisibleLineNumber(),
+            control.IsDocumentMapVisible(),
             control.SchemeName(),
             control.GetFileName()};
 }
@@ -366,4 +367,5 @@ void ZNCoreEditorWidget::Private::TellSettings(const Lifetime& alive)
     tell(now.wraps != before.wraps, [&] { Q_EMIT q.lineWrapModeChanged(q.lineWrapMode()); });
     tell(now.hasNumbers != before.hasNumbers,
          [&] { Q_EMIT q.lineNumbersVisibleChanged(now.hasNumbers); });
+    tell(now.hasMap != before.hasMap, [&] { Q_EMIT q.documentMapVisibleChanged(now.hasMap); });
 }

@@ -62,6 +62,8 @@ class ZN_API ZNCoreEditorWidget : public QWidget
                    lineWrapModeChanged)
     Q_PROPERTY(bool lineNumbersVisible READ areLineNumbersVisible WRITE setLineNumbersVisible NOTIFY
                    lineNumbersVisibleChanged)
+    Q_PROPERTY(bool documentMapVisible READ isDocumentMapVisible WRITE setDocumentMapVisible NOTIFY
+                   documentMapVisibleChanged)
     Q_PROPERTY(bool undoAvailable READ isUndoAvailable NOTIFY undoAvailable STORED false)
     Q_PROPERTY(bool redoAvailable READ isRedoAvailable NOTIFY redoAvailable STORED false)
     Q_PROPERTY(bool recording READ isRecording NOTIFY recordingChanged STORED false)
@@ -338,6 +340,10 @@ public:
     bool areLineNumbersVisible() const;
     /// Shows or hides them, whatever the language.
     void setLineNumbersVisible(bool visible);
+    /// Whether the text stands in small beside the scroll bar, with a box around what can be seen.
+    bool isDocumentMapVisible() const;
+    /// Off at first. A click there goes to the place; an editor that is very narrow shows none.
+    void setDocumentMapVisible(bool visible);
     /// @}
 
     /// \name Finding
@@ -489,6 +495,8 @@ Q_SIGNALS:
     void lineWrapModeChanged(ZNCoreEditorWidget::LineWrapMode mode);
     /// By the host, by a command, or by another language.
     void lineNumbersVisibleChanged(bool visible);
+    /// By the host, or by the command.
+    void documentMapVisibleChanged(bool visible);
     /// By the host, or by the wheel with Control held.
     void zoomChanged(int points);
     /// The host has set others.

@@ -81,11 +81,15 @@ TEST_F(FaceHabits, KeepWrapAndNumbersThatWereSetWhateverTheLanguage)
         const auto mode = on ? Editor::LineWrapMode::WidgetWidth : Editor::LineWrapMode::NoWrap;
         editor.setLineWrapMode(mode);
         editor.setLineNumbersVisible(on);
+        editor.setDocumentMapVisible(on);
         EXPECT_TRUE(
             editor.setLanguageName(on ? QStringLiteral("Transact-SQL") : QStringLiteral("PL/SQL")));
         EXPECT_EQ(editor.lineWrapMode(), mode);
         EXPECT_EQ(editor.areLineNumbersVisible(), on);
+        EXPECT_EQ(editor.isDocumentMapVisible(), on);
     }
+    editor.command(QStringLiteral("documentMap"))->trigger();
+    EXPECT_TRUE(editor.isDocumentMapVisible());
     editor.command(QStringLiteral("lineNumbers"))->trigger();
     editor.setLanguageName(QStringLiteral("SQL"));
     EXPECT_TRUE(editor.areLineNumbersVisible());

@@ -81,6 +81,8 @@ const Question kQuestions[] = {
      [](Control& c) { return long(c.GetZoom(1)); }},
     {"areLineNumbersVisible", [](Editor& e) { return long{e.areLineNumbersVisible()}; },
      [](Control& c) { return long{c.IsVisibleLineNumber()}; }},
+    {"isDocumentMapVisible", [](Editor& e) { return long{e.isDocumentMapVisible()}; },
+     [](Control& c) { return long{c.IsDocumentMapVisible()}; }},
     {"overwriteMode", [](Editor& e) { return long{e.overwriteMode()}; },
      [](Control& c) { return long(c.GetOvertype(1)); }},
     {"lineWrapMode", [](Editor& e) { return static_cast<long>(e.lineWrapMode()); },
@@ -118,6 +120,8 @@ const Deed kDeeds[] = {
     {"zoom", [](Control& c) { c.SetZoom(4, 1); }, [](Editor& e) { e.zoomIn(4); }},
     {"lineNumbers", [](Control& c) { c.SetVisibleLineNumber(true); },
      [](Editor& e) { e.setLineNumbersVisible(true); }},
+    {"documentMap", [](Control& c) { c.SetDocumentMap(true); },
+     [](Editor& e) { e.setDocumentMapVisible(true); }},
     {"mark", [](Control& c) { c.SetWriteEncodingSig(false); },
      [](Editor& e) { e.setByteOrderMark(false); }},
     {"clear", [](Control& c) { c.ClearAll(1); }, [](Editor& e) { e.clear(); }},
@@ -240,15 +244,17 @@ TEST_F(EditorFace, TellsOfEachSettingOnce)
     QSignalSpy tabs(&editor, &Editor::tabWidthChanged);
     QSignalSpy wrap(&editor, &Editor::lineWrapModeChanged);
     QSignalSpy numbers(&editor, &Editor::lineNumbersVisibleChanged);
+    QSignalSpy map(&editor, &Editor::documentMapVisibleChanged);
     QSignalSpy completes(&editor, &Editor::completesWhileTypingChanged);
     for (int i = 0; i < 2; ++i) { // the second time nothing changes
         editor.setOverwriteMode(true);
         editor.setTabWidth(13);
         editor.setLineWrapMode(Editor::LineWrapMode::WidgetWidth);
         editor.setLineNumbersVisible(!hadNumbers);
+        editor.setDocumentMapVisible(true);
         editor.setCompletesWhileTyping(true);
     }
-    for (const QSignalSpy* each : {&overwrite, &tabs, &wrap, &numbers, &completes})
+    for (const QSignalSpy* each : {&overwrite, &tabs, &wrap, &numbers, &map, &completes})
         EXPECT_EQ(each->count(), 1) << each->signal().toStdString();
 }
 

@@ -109,6 +109,11 @@ void ZNCoreEditorWidget::Private::MakeCommands()
     });
     QAction* play = addMacro("playMacro", ZNCoreEditorWidget::tr("Pla&y Macro"), Qt::Key_P);
     connect(play, &QAction::triggered, &q, [this] { q.playMacro(); });
+    auto* map = new QAction(ZNCoreEditorWidget::tr("&Document Map"), &q);
+    map->setObjectName(QStringLiteral("documentMap"));
+    map->setCheckable(true);
+    connect(map, &QAction::triggered, &q, &ZNCoreEditorWidget::setDocumentMapVisible);
+    m_commands += map;
     for (const HandRow& row : Hands())
         add(row.name, HandText(row.text), row.number, QKeySequence(row.key | row.modifiers));
     for (const QAction* action : std::as_const(m_commands)) {
@@ -119,7 +124,7 @@ void ZNCoreEditorWidget::Private::MakeCommands()
     UpdateCommands();
 }
 
-// A macro has no number that a control would know of.
+// What has no number that a control would know of.
 void ZNCoreEditorWidget::Private::UpdateCommands()
 {
     if (m_commands.isEmpty())
@@ -131,6 +136,8 @@ void ZNCoreEditorWidget::Private::UpdateCommands()
             action->setEnabled(q.isRecording() || !IsMacroRecording());
         } else if (action->objectName() == QLatin1String("playMacro")) {
             action->setEnabled(q.hasMacro() && !q.isReadOnly());
+        } else if (action->objectName() == QLatin1String("documentMap")) {
+            action->setChecked(q.isDocumentMapVisible());
         }
     }
 }

@@ -213,6 +213,19 @@ void ZNCoreEditorWidget::setLineNumbersVisible(bool visible)
     });
 }
 
+bool ZNCoreEditorWidget::isDocumentMapVisible() const
+{
+    return d->m_control->IsDocumentMapVisible();
+}
+
+void ZNCoreEditorWidget::setDocumentMapVisible(bool visible)
+{
+    d->Run([=](CZNCoreEditorControlEx& control) {
+        control.SetDocumentMap(visible);
+        return 0;
+    });
+}
+
 // As they are painted, whether a scheme, the settings or a person has chosen them.
 QPalette ZNCoreEditorWidget::textPalette() const
 {

@@ -124,6 +124,7 @@ public:
         int tabWidth = 0;
         bool wraps = false;
         bool hasNumbers = false;
+        bool hasMap = false;
         QString scheme;
         QString file;
     };

@@ -2,6 +2,7 @@
 // CZNCoreEditorControlEx: the language, and the host's options on their way into it.
 #include "editing/ZNCoreEditorControlEx.h"
 
+#include "control/EngineLooks.h"
 #include "editing/language/FileTypeManager.h"
 #include "editing/language/Library.h"
 #include "platform/services/OptionsServer.h"
@@ -225,6 +226,16 @@ void CZNCoreEditorControlEx::SetLineNumberWidth()
         width = TextWidth(kLineNumberStyle, u"9", 1) * DigitsOf(GetLineCount(1)) + kMarginRoom +
                 (m_scheme.isEmpty() ? 0 : kSchemeRoom);
     SetMarginWidthN(kNumberMargin, width, 1);
+}
+
+void CZNCoreEditorControlEx::SetDocumentMap(bool visible)
+{
+    Call(engine::kShowDocumentMap, visible ? 1 : 0, 0, 1);
+}
+
+bool CZNCoreEditorControlEx::IsDocumentMapVisible()
+{
+    return Call(engine::kIsDocumentMapShown, 0, 0, 1) != 0;
 }
 
 void CZNCoreEditorControlEx::SetExtendedMargin(bool on)
