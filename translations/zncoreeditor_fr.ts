@@ -363,7 +363,7 @@ Voulez-vous le recharger&#xa0;?</translation>
     <name>DocumentMap</name>
     <message>
         <source>Document map</source>
-        <translation>Carte du document</translation>
+        <translation>Aperçu global du document</translation>
     </message>
 </context>
 <context>
@@ -2881,7 +2881,7 @@ Les écrire&#xa0;?</translation>
     </message>
     <message>
         <source>&amp;Document Map</source>
-        <translation>Carte du &amp;document</translation>
+        <translation>Aperçu &amp;global</translation>
     </message>
 </context>
 </TS>

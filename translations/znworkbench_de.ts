@@ -1031,7 +1031,7 @@ Mit Qt %1. Lizenziert unter der GNU General Public License, Version 3 oder spät
     </message>
     <message>
         <source>Longest Unused Script</source>
-        <translation>A&amp;m längsten unbenutztes Skript</translation>
+        <translation>Am längsten unbenutztes Skript</translation>
     </message>
     <message>
         <source>&amp;Search</source>
@@ -1060,6 +1060,10 @@ Mit Qt %1. Lizenziert unter der GNU General Public License, Version 3 oder spät
     <message>
         <source>The caret was nowhere else before.</source>
         <translation>Die Einfügemarke war vorher nirgends sonst.</translation>
+    </message>
+    <message>
+        <source>&amp;Document Map</source>
+        <translation>Do&amp;kumentkarte</translation>
     </message>
 </context>
 <context>

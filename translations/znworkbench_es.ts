@@ -1031,7 +1031,7 @@ Con Qt %1. Con licencia pública general de GNU, versión 3 o posterior.</transl
     </message>
     <message>
         <source>Longest Unused Script</source>
-        <translation>Script con &amp;más tiempo sin usar</translation>
+        <translation>Script con más tiempo sin usar</translation>
     </message>
     <message>
         <source>&amp;Search</source>
@@ -1060,6 +1060,10 @@ Con Qt %1. Con licencia pública general de GNU, versión 3 o posterior.</transl
     <message>
         <source>The caret was nowhere else before.</source>
         <translation>El cursor no ha estado antes en otro sitio.</translation>
+    </message>
+    <message>
+        <source>&amp;Document Map</source>
+        <translation>&amp;Mapa del documento</translation>
     </message>
 </context>
 <context>

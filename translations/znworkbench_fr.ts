@@ -1031,7 +1031,7 @@ Avec Qt %1. Sous licence publique générale GNU, version 3 ou ultérieure.</tra
     </message>
     <message>
         <source>Longest Unused Script</source>
-        <translation>Script inutilisé depuis le plus lon&amp;gtemps</translation>
+        <translation>Script inutilisé depuis le plus longtemps</translation>
     </message>
     <message>
         <source>&amp;Search</source>
@@ -1060,6 +1060,10 @@ Avec Qt %1. Sous licence publique générale GNU, version 3 ou ultérieure.</tra
     <message>
         <source>The caret was nowhere else before.</source>
         <translation>Le curseur n’était nulle part ailleurs auparavant.</translation>
+    </message>
+    <message>
+        <source>&amp;Document Map</source>
+        <translation>Aperçu &amp;global</translation>
     </message>
 </context>
 <context>

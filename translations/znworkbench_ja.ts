@@ -1055,6 +1055,10 @@ Qt %1 を使用。GNU General Public License バージョン 3 以降の下で�
         <source>The caret was nowhere else before.</source>
         <translation>カーソルは以前に他の場所にありませんでした。</translation>
     </message>
+    <message>
+        <source>&amp;Document Map</source>
+        <translation>ドキュメント マップ(&amp;D)</translation>
+    </message>
 </context>
 <context>
     <name>OpenAsDialog</name>

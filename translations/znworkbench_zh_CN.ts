@@ -1055,6 +1055,10 @@ Over Qt %1. Licensed under the GNU General Public License, version 3 or later.</
         <source>The caret was nowhere else before.</source>
         <translation>光标之前没有到过其他位置。</translation>
     </message>
+    <message>
+        <source>&amp;Document Map</source>
+        <translation>文档缩略图(&amp;D)</translation>
+    </message>
 </context>
 <context>
     <name>OpenAsDialog</name>

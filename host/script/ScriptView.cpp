@@ -113,6 +113,7 @@ void ScriptView::ShowAs(ScriptView& other)
     CZNCoreEditorControlEx& editor = other.m_coreEditor;
     const int top = editor.GetFirstVisibleLine(1);
     m_coreEditor.SetZoom(editor.GetZoom(1), 1);
+    m_coreEditor.SetDocumentMap(editor.IsDocumentMapVisible());
     m_coreEditor.SetScrollWidth(editor.GetScrollWidth(1), 1);
     m_coreEditor.SetSel(editor.GetAnchor(1), editor.GetCurrentPos(1), 1);
     m_coreEditor.LineScroll(0, top - m_coreEditor.GetFirstVisibleLine(1), 1);

@@ -44,7 +44,7 @@ public:
     void GoToColumn(long column);           // of the caret's line, from 0, as far as it goes
     void FollowScheme(const QString& name);
     void FollowNow();               // what is shown around it, which else waits until the keys rest
-    void ShowAs(ScriptView& other); // place, selection and zoom
+    void ShowAs(ScriptView& other); // place, selection, zoom and map
     EditorCompletion* Completion() const { return m_completion.get(); } // null without a window
     QString CaretText();                                                // line and column, from 1
     QString Catalog(); // the database in force at the caret, empty if unknown

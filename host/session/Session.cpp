@@ -24,6 +24,7 @@ const QString kFiles = QStringLiteral("files");
 const QString kFront = QStringLiteral("front");
 const QString kGeometry = QStringLiteral("geometry");
 const QString kState = QStringLiteral("state");
+const QString kDocumentMap = QStringLiteral("documentMap");
 const QString kPath = QStringLiteral("path");
 const QString kEncoding = QStringLiteral("encoding");
 const QString kCaretLine = QStringLiteral("caretLine");
@@ -126,7 +127,8 @@ QByteArray Session::ToBytes() const
     const QJsonObject object = {{kFiles, entries},
                                 {kFront, front},
                                 {kGeometry, QString::fromLatin1(geometry.toBase64())},
-                                {kState, QString::fromLatin1(state.toBase64())}};
+                                {kState, QString::fromLatin1(state.toBase64())},
+                                {kDocumentMap, documentMap}};
     return QJsonDocument(object).toJson(QJsonDocument::Compact);
 }
 
@@ -149,6 +151,7 @@ Session Session::FromBytes(const QByteArray& bytes)
     }
     session.geometry = LayoutOf(object[kGeometry]);
     session.state = LayoutOf(object[kState]);
+    session.documentMap = object[kDocumentMap].toBool();
     return session;
 }
 

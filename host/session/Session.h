@@ -45,6 +45,7 @@ struct Session
     int front = 0;            // the tab in front; 0 if there is none
     QByteArray geometry;      // as QWidget::saveGeometry gives it, which checks it on the way back
     QByteArray state;         // as QMainWindow::saveState gives it
+    bool documentMap = false; // it is shown
 
     bool operator==(const Session&) const = default;
 

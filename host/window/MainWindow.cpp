@@ -300,6 +300,7 @@ void MainWindow::ApplyView(const ScriptDoc& script)
             editor.SetViewEOL(*m_showLineEnds, 1);
         if (m_wrapLines)
             editor.SetWrapMode(*m_wrapLines ? 1 : 0, 1);
+        editor.SetDocumentMap(m_showsMap);
     }
 }
 

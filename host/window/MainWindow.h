@@ -76,6 +76,7 @@ public:
     void ShowWhitespace(bool show);
     void ShowLineEnds(bool show);
     void WrapLines(bool wrap);
+    void ShowDocumentMap(bool show);
     void NextProblem() { GoToProblem(true); }
     void PreviousProblem() { GoToProblem(false); }
     void GoToProblem(bool forward);
@@ -187,4 +188,5 @@ private:
     std::optional<bool> m_showWhitespace;
     std::optional<bool> m_showLineEnds;
     std::optional<bool> m_wrapLines;
+    bool m_showsMap = false;
 };

@@ -144,6 +144,7 @@ std::span<const MainWindow::Command> MainWindow::Commands()
         {kView, "whitespace", QT_TR_NOOP("&Whitespace"),  Key::UnknownKey,   nullptr,  0, When::Always, Run<&W::ShowWhitespace>, true},
         {kView, "lineEnds",   QT_TR_NOOP("Line &Ends"),   Key::UnknownKey,   nullptr,  0, When::Always, Run<&W::ShowLineEnds>,   true},
         {kView, "wrap",       QT_TR_NOOP("Wrap &Lines"),  Key::UnknownKey,   nullptr,  0, When::Always, Run<&W::WrapLines>,      true},
+        {kView, "documentMap", QT_TR_NOOP("&Document Map"), Key::UnknownKey, nullptr,  0, When::Always, Run<&W::ShowDocumentMap>, true},
         {kView, nullptr},
         {kView, "splitBelow",  QT_TR_NOOP("Split &Above and Below"), Key::UnknownKey, "Ctrl+\\",       command::SplitBelow},
         {kView, "splitBeside", QT_TR_NOOP("Split Side &by Side"),    Key::UnknownKey, "Ctrl+Shift+\\", command::SplitBeside},
@@ -239,7 +240,7 @@ void MainWindow::BuildMenus()
             menu->addSeparator();
         if (command.id == command::OpenAs)
             menu->addMenu(recent);
-        if (command.name && QLatin1String(command.name) == QLatin1String("wrap"))
+        if (command.name && QLatin1String(command.name) == QLatin1String("documentMap"))
             menu->addMenu(schemes);
     }
     m_editing = new EditingMenu(*edit, [this] {
@@ -295,11 +296,12 @@ void MainWindow::UpdateCommands()
 // What is shown follows the language until a person chooses.
 void MainWindow::ShowViewOf(CZNCoreEditorControlEx* editor)
 {
-    if (!editor)
-        return;
     const auto mark = [this](const char* name, bool on) {
         findChild<QAction*>(QLatin1String(name))->setChecked(on);
     };
+    mark("documentMap", m_showsMap);
+    if (!editor)
+        return;
     mark("whitespace", editor->GetViewWS(1) != 0);
     mark("lineEnds", editor->GetViewEOL(1) != 0);
     mark("wrap", editor->GetWrapMode(1) != 0);
@@ -321,6 +323,13 @@ void MainWindow::WrapLines(bool wrap)
 {
     m_wrapLines = wrap;
     ApplyViewToAll();
+}
+
+void MainWindow::ShowDocumentMap(bool show)
+{
+    m_showsMap = show;
+    ApplyViewToAll();
+    KeepSessionSoon();
 }
 
 void MainWindow::ReopenClosed()

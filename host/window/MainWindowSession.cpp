@@ -125,6 +125,8 @@ void MainWindow::ResumeSession()
     FitScreen(*this);
     if (!session.state.isEmpty())
         restoreState(session.state);
+    m_showsMap = session.documentMap;
+    ApplyViewToAll();
     m_expanded->hide();    // what it showed is gone
     QSet<QString> refused; // for all of their tabs
     QPointer<QWidget> front;
@@ -239,6 +241,7 @@ void MainWindow::KeepSession()
     }
     session.geometry = saveGeometry();
     session.state = saveState();
+    session.documentMap = m_showsMap;
     session.Store(Session::DefaultPath());
 }
 

@@ -107,6 +107,23 @@ TEST_F(Memory, BringsBackTheScriptsTheirPlacesAndTheOneInFront)
     EXPECT_EQ(m_window->size(), QSize(700, 500));
 }
 
+TEST_F(Memory, BringsBackTheDocumentMap)
+{
+    for (const bool shown : {true, false}) {
+        Start();
+        ASSERT_TRUE(m_app->OpenDocumentFile(Write("a.sql", "a\n")));
+        auto* action = m_window->findChild<QAction*>(QStringLiteral("documentMap"));
+        EXPECT_NE(action->isChecked(), shown);
+        action->trigger();
+        End();
+        Start();
+        EXPECT_EQ(Editor().IsDocumentMapVisible(), shown);
+        m_window->FollowNow();
+        EXPECT_EQ(m_window->findChild<QAction*>(QStringLiteral("documentMap"))->isChecked(), shown);
+        End();
+    }
+}
+
 TEST_F(Memory, BringsBackZoomFoldsAndBookmarks)
 {
     Start();

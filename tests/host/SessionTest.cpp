@@ -27,6 +27,7 @@ Session Example()
     session.front = 1;
     session.geometry = QByteArray("\0\1geometry", 10);
     session.state = "state";
+    session.documentMap = true;
     return session;
 }
 

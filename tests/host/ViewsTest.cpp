@@ -83,6 +83,33 @@ TEST_F(Views, OfATabSplitBothWaysAreFour)
     EXPECT_EQ(Script().GetViews().size(), 1u);
 }
 
+TEST_F(Views, HaveADocumentMapAllOrNone)
+{
+    Open("a.sql", "one\n");
+    const auto maps = [this] {
+        int count = 0;
+        for (CView* view : Script().GetViews())
+            count +=
+                dynamic_cast<ScriptView*>(view)->GetCoreEditorControl()->IsDocumentMapVisible();
+        return count;
+    };
+    EXPECT_EQ(maps(), 0);
+    Trigger("documentMap");
+    EXPECT_TRUE(Action("documentMap").isChecked());
+    Trigger("splitBelow");
+    Trigger("splitBeside");
+    Trigger("newView");
+    EXPECT_EQ(maps(), 5);
+    Open("b.sql", "two\n");
+    EXPECT_EQ(maps(), 1);
+    Script().SetLanguage(3);
+    EXPECT_EQ(maps(), 1);
+    Trigger("documentMap");
+    EXPECT_EQ(maps(), 0);
+    m_window.ShowTab(0);
+    EXPECT_EQ(maps(), 0);
+}
+
 TEST_F(Views, OfADividedPaneTakeTheKeysFromItAlone)
 {
     Open("a.sql", QByteArray("line\n").repeated(400));
