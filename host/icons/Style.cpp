@@ -9,6 +9,8 @@
 #include <QPainter>
 #include <QStyleOption>
 
+#include <algorithm>
+
 namespace {
 
 const QString kPlain = QStringLiteral("fusion");
@@ -98,6 +100,16 @@ void DrawButtonFrame(const QStyleOptionButton& option, QPainter& painter)
                        hasFocus ? kFocusWidth : kThin);
 }
 
+// So that a menu over a text is set off against it. Qt tells of no state here.
+void DrawMenuFrame(QStyleOption option, QPainter& painter)
+{
+    option.state |= QStyle::State_Enabled;
+    painter.save();
+    painter.setPen(Frame(option));
+    painter.drawRect(option.rect.adjusted(0, 0, -1, -1));
+    painter.restore();
+}
+
 // Of an entry that cannot be taken; the plain style draws the ground of others.
 void DrawEntryGround(const QStyleOption& option, QPainter& painter)
 {
@@ -145,6 +157,10 @@ void Style::Install()
 void Style::drawPrimitive(PrimitiveElement element, const QStyleOption* option, QPainter* painter,
                           const QWidget* widget) const
 {
+    if (element == PE_FrameMenu) {
+        DrawMenuFrame(*option, *painter);
+        return;
+    }
     if (element == PE_FrameFocusRect) {
         DrawFocusRect(*option, *painter);
         return;
@@ -185,12 +201,27 @@ void Style::drawControl(ControlElement element, const QStyleOption* option, QPai
         DrawButtonFrame(*button, *painter);
         return;
     }
-    const bool isChosen = element == CE_MenuItem && option->state & State_Selected;
-    if (isChosen && !(option->state & State_Enabled))
-        DrawEntryGround(*option, *painter);
-    QProxyStyle::drawControl(element, option, painter, widget);
-    if (isChosen)
-        DrawFocusFrame(*painter, option->rect, FocusOn(*option, QPalette::Window), kThin);
+    const auto* entry = qstyleoption_cast<const QStyleOptionMenuItem*>(option);
+    if (element == CE_MenuItem && entry && option->state & State_Selected)
+        DrawChosenEntry(*entry, *painter, widget);
+    else
+        QProxyStyle::drawControl(element, option, painter, widget);
+}
+
+// Its icon is in the colour of its words.
+void Style::DrawChosenEntry(QStyleOptionMenuItem entry, QPainter& painter,
+                            const QWidget* widget) const
+{
+    const bool isEnabled = entry.state & State_Enabled;
+    if (!isEnabled) {
+        DrawEntryGround(entry, painter);
+    } else if (!entry.icon.isNull()) {
+        const int size = proxy()->pixelMetric(PM_SmallIconSize, &entry, widget);
+        const double ratio = painter.device()->devicePixelRatioF();
+        entry.icon = QIcon(entry.icon.pixmap(QSize(size, size), ratio, QIcon::Selected));
+    }
+    QProxyStyle::drawControl(CE_MenuItem, &entry, &painter, widget);
+    DrawFocusFrame(painter, entry.rect, FocusOn(entry, QPalette::Window), kThin);
 }
 
 void Style::drawComplexControl(ComplexControl control, const QStyleOptionComplex* option,
@@ -214,6 +245,13 @@ QIcon Style::standardIcon(StandardPixmap which, const QStyleOption* option,
     default:
         return QProxyStyle::standardIcon(which, option, widget);
     }
+}
+
+// The plain style leaves a menu no room for a frame.
+int Style::pixelMetric(PixelMetric metric, const QStyleOption* option, const QWidget* widget) const
+{
+    const int pixels = QProxyStyle::pixelMetric(metric, option, widget);
+    return metric == PM_MenuPanelWidth ? std::max(pixels, 1) : pixels;
 }
 
 // So that an entry of a menu that cannot be taken can say why.

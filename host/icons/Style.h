@@ -5,6 +5,7 @@
 #pragma once
 
 #include <QProxyStyle>
+#include <QStyleOptionMenuItem>
 
 class Style final : public QProxyStyle
 {
@@ -19,6 +20,8 @@ public:
                      const QWidget* widget) const override;
     void drawComplexControl(ComplexControl control, const QStyleOptionComplex* option,
                             QPainter* painter, const QWidget* widget) const override;
+    int pixelMetric(PixelMetric metric, const QStyleOption* option,
+                    const QWidget* widget) const override;
     int styleHint(StyleHint hint, const QStyleOption* option, const QWidget* widget,
                   QStyleHintReturn* more) const override;
     QIcon standardIcon(StandardPixmap which, const QStyleOption* option,
@@ -26,4 +29,7 @@ public:
 
 private:
     Style();
+
+    void DrawChosenEntry(QStyleOptionMenuItem entry, QPainter& painter,
+                         const QWidget* widget) const;
 };

@@ -1,16 +1,20 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 // The plain style's marks are seen on light and on dark grounds.
 #include "host/icons/Style.h"
+#include "host/icons/Icons.h"
 #include "host/preferences/Appearance.h"
 #include "tests/looks/Contrast.h"
 
 #include <QApplication>
+#include <QMenu>
 #include <QPainter>
 #include <QStyleFactory>
 #include <QStyleOptionButton>
 #include <QStyleOptionMenuItem>
 
 #include <gtest/gtest.h>
+
+#include <algorithm>
 
 namespace {
 
@@ -139,6 +143,49 @@ TEST_P(Schemes, ShowWhichEntryOfAMenuIsWalkedOntoThoughItIsDisabled)
     EXPECT_GE(SeenInSecond(Drawn(QStyle::CE_MenuItem, entry, QStyle::State_None),
                            Drawn(QStyle::CE_MenuItem, entry, QStyle::State_Selected)),
               kFrame);
+}
+
+// A drawing in one colour for lines and one to set apart, which may be that of the chosen entry.
+TEST_P(Schemes, ShowTheIconOfTheEntryThatIsChosen)
+{
+    QStyleOptionMenuItem entry;
+    entry.maxIconWidth = 24;
+    const auto drawn = [&entry](const QIcon& icon) {
+        entry.icon = icon;
+        return Drawn(QStyle::CE_MenuItem, entry, QStyle::State_Enabled | QStyle::State_Selected);
+    };
+    const QImage without = drawn({});
+    const QImage with = drawn(CommandIcon("find"));
+    const QColor words = QApplication::palette().color(QPalette::HighlightedText);
+    int dots = 0;
+    for (int y = 0; y < with.height(); ++y) {
+        for (int x = 0; x < with.width() / 4; ++x) {
+            if (with.pixel(x, y) == without.pixel(x, y))
+                continue;
+            ++dots;
+            const QColor dot = with.pixelColor(x, y);
+            const QColor ground = without.pixelColor(x, y);
+            // Between the two, whatever share of the dot the line has.
+            for (const auto part : {&QColor::red, &QColor::green, &QColor::blue}) {
+                const auto [low, high] = std::minmax({(words.*part)(), (ground.*part)()});
+                EXPECT_GE((dot.*part)(), low - 2);
+                EXPECT_LE((dot.*part)(), high + 2);
+            }
+        }
+    }
+    EXPECT_GT(dots, 20);
+}
+
+// At its edge, half way down.
+TEST_P(Schemes, SetAMenuOffAgainstTheTextBelow)
+{
+    constexpr double kSeen = 3;
+    QMenu menu;
+    menu.addAction(QStringLiteral("word"));
+    menu.addAction(QStringLiteral("other"));
+    const QImage picture = menu.grab().toImage();
+    const QColor text = QApplication::palette().color(QPalette::Base);
+    EXPECT_GE(Contrast(picture.pixelColor(0, picture.height() / 2), text), kSeen);
 }
 
 INSTANTIATE_TEST_SUITE_P(OfTheWorkbench, Schemes,
