@@ -76,6 +76,10 @@ Mit Qt %1. Lizenziert unter der GNU General Public License, Version 3 oder spät
         <source>Command</source>
         <translation>Befehl</translation>
     </message>
+    <message>
+        <source>No command has these words in its name</source>
+        <translation>Kein Befehl hat diese Wörter in seinem Namen</translation>
+    </message>
 </context>
 <context>
     <name>EditingMenu</name>

@@ -76,6 +76,10 @@ Con Qt %1. Con licencia pública general de GNU, versión 3 o posterior.</transl
         <source>Command</source>
         <translation>Orden</translation>
     </message>
+    <message>
+        <source>No command has these words in its name</source>
+        <translation>Ninguna orden tiene estas palabras en su nombre</translation>
+    </message>
 </context>
 <context>
     <name>EditingMenu</name>

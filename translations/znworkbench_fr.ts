@@ -76,6 +76,10 @@ Avec Qt %1. Sous licence publique générale GNU, version 3 ou ultérieure.</tra
         <source>Command</source>
         <translation>Commande</translation>
     </message>
+    <message>
+        <source>No command has these words in its name</source>
+        <translation>Aucune commande n’a ces mots dans son nom</translation>
+    </message>
 </context>
 <context>
     <name>EditingMenu</name>

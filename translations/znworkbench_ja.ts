@@ -76,6 +76,10 @@ Qt %1 を使用。GNU General Public License バージョン 3 以降の下で�
         <source>Command</source>
         <translation>コマンド</translation>
     </message>
+    <message>
+        <source>No command has these words in its name</source>
+        <translation>この語句を名前に含むコマンドはありません</translation>
+    </message>
 </context>
 <context>
     <name>EditingMenu</name>

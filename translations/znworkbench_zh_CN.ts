@@ -76,6 +76,10 @@ Over Qt %1. Licensed under the GNU General Public License, version 3 or later.</
         <source>Command</source>
         <translation>命令</translation>
     </message>
+    <message>
+        <source>No command has these words in its name</source>
+        <translation>没有名称包含这些词的命令</translation>
+    </message>
 </context>
 <context>
     <name>EditingMenu</name>

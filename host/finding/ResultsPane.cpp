@@ -283,7 +283,7 @@ void ResultsPane::TakePortion()
         return;
     m_timer->stop();
     m_search.reset();
-    m_stop->setEnabled(false);
+    Disable(*m_stop);
     m_replaces->setEnabled(true);
     m_replace->setEnabled(m_request.replaces && HasResults());
 }
@@ -342,9 +342,17 @@ void ResultsPane::ReplaceChosen()
     m_nextFile = m_filesReplaced = 0;
     m_replaced = 0;
     m_notReplaced.clear();
-    m_replace->setEnabled(false);
+    Disable(*m_replace);
     m_stop->setEnabled(true);
     QTimer::singleShot(0, this, &ResultsPane::ReplaceInNext);
+}
+
+// The keys of one that is disabled would go to whatever is next, which may be outside.
+void ResultsPane::Disable(QPushButton& button)
+{
+    if (button.hasFocus())
+        m_tree->setFocus();
+    button.setEnabled(false);
 }
 
 void ResultsPane::ReplaceInNext()
@@ -381,7 +389,7 @@ void ResultsPane::EndReplacing()
     m_replacer.reset();
     m_request.replaces = false;
     m_model->EndPreview();
-    m_stop->setEnabled(false);
+    Disable(*m_stop);
     m_model->AddNotes(m_notReplaced);
     m_outcome = tr("%n matches replaced in %1 files", nullptr, m_replaced).arg(m_filesReplaced);
     if (!m_notReplaced.isEmpty())

@@ -58,6 +58,7 @@ private:
     void TakeFound();
     void ReplaceInNext();
     void EndReplacing();
+    void Disable(QPushButton& button);
     void Refresh(const QString& path);
     void RefreshShort();
     void CheckFile(int row);

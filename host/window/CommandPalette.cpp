@@ -77,14 +77,18 @@ void CommandPalette::Filter(const QString& words)
         if (!entry.action->isEnabled())
             item->setForeground(palette().brush(QPalette::Disabled, QPalette::Text));
     }
-    m_list->setCurrentRow(0);
+    if (m_list->count() > 0)
+        m_list->setCurrentRow(0);
+    else
+        (new QListWidgetItem(tr("No command has these words in its name"), m_list))
+            ->setFlags(Qt::NoItemFlags);
 }
 
 // The palette is gone before the command runs, so that it finds the focus where it was.
 void CommandPalette::Choose()
 {
     const QListWidgetItem* item = m_list->currentItem();
-    if (!item)
+    if (!item || !item->data(kEntry).isValid())
         return;
     const QPointer<QAction> action =
         m_entries[static_cast<std::size_t>(item->data(kEntry).toInt())].action;

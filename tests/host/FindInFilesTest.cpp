@@ -12,6 +12,8 @@
 #include <QAbstractButton>
 #include <QAbstractItemModelTester>
 #include <QComboBox>
+#include <QLineEdit>
+#include <QPushButton>
 #include <QStatusBar>
 #include <QTest>
 #include <QTimer>
@@ -302,6 +304,26 @@ TEST_F(FindInFilesInWindow, ShowsTheTextsAsTheyAreOnceItHasReplaced)
     EXPECT_EQ(Rows(1), QStringList({"1:  (one), (one)", "1:  (one), (one)"}));
     for (const QModelIndex& row : {File(0), Match(0, 0), Match(1, 1)})
         EXPECT_FALSE(row.data(Qt::CheckStateRole).isValid());
+}
+
+TEST_F(FindInFilesInWindow, KeepsTheKeysOfTheButtonThatReplaces)
+{
+    Open("a.sql", "one");
+    Search("one");
+    Pane().findChild<QLineEdit*>("replacement")->parentWidget()->show();
+    Pane().Preview("two");
+    ASSERT_TRUE(QTest::qWaitFor([this] { return !Pane().IsSearching(); }));
+    m_window.activateWindow();
+    ASSERT_TRUE(QTest::qWaitForWindowActive(&m_window));
+    for (auto* button : Pane().findChildren<QPushButton*>()) {
+        if (button->text() == "&Replace Checked") {
+            button->setFocus();
+            ASSERT_TRUE(button->hasFocus());
+            button->click();
+        }
+    }
+    ASSERT_TRUE(QTest::qWaitFor([this] { return !Pane().IsReplacing() && Text() == "two"; }));
+    EXPECT_TRUE(Pane().ListArea()->hasFocus());
 }
 
 TEST_F(FindInFilesInWindow, ChecksAFileAgainOnceWhatWasLeftOutIsGone)

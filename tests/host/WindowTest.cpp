@@ -74,6 +74,10 @@ TEST_F(Windows, WalkThroughTheCommandsFromTheLineAboveThem)
     EXPECT_LT(rowBehind(Qt::Key_PageUp), 5);
     line->setText(QStringLiteral("no such command"));
     EXPECT_EQ(rowBehind(Qt::Key_Down), -1);
+    ASSERT_EQ(list->count(), 1);
+    EXPECT_EQ(list->item(0)->text(), "No command has these words in its name");
+    QTest::keyClick(line, Qt::Key_Return);
+    EXPECT_TRUE(palette->isVisible()) << "there is nothing to choose";
     palette->close();
 }
 

@@ -10,7 +10,7 @@
 #include "settings/ConfigFile.h"
 #include "settings/SyntaxFile.h"
 
-#include <QCoreApplication>
+#include <QApplication>
 #include <QFileInfo>
 #include <QHBoxLayout>
 #include <QKeyEvent>
@@ -34,6 +34,7 @@ namespace id = prefscontrol;
 
 constexpr int kNoPagesLanguage = 11; // has none in the tree
 constexpr int kPlainLanguage = 1;    // has no code and no keywords
+const QString kFilter = QStringLiteral("filter");
 
 } // namespace
 
@@ -66,10 +67,6 @@ public:
 private:
     bool IsOfTheFilter(const QKeyEvent& key)
     {
-        if (key.key() == Qt::Key_Escape && !m_filter.text().isEmpty()) {
-            m_filter.clear();
-            return true;
-        }
         if (key.key() != Qt::Key_Down && key.key() != Qt::Key_Return && key.key() != Qt::Key_Enter)
             return false;
         m_tree.setFocus();
@@ -113,7 +110,7 @@ QWidget* CEditorPrefsDialog::BuildTree()
     auto* column = new QVBoxLayout(side);
     column->setContentsMargins({});
     auto* filter = new QLineEdit;
-    filter->setObjectName(QStringLiteral("filter"));
+    filter->setObjectName(kFilter);
     filter->setPlaceholderText(Texts::tr("Find a language or a page"));
     filter->setAccessibleName(filter->placeholderText());
     filter->setClearButtonEnabled(true);
@@ -436,11 +433,16 @@ void CEditorPrefsDialog::OnHelp()
         host->OnHelp(GetSafeHwnd());
 }
 
-// Escape closes nothing: what was set up over several pages would be gone by a slip.
+// Escape takes back what was sought, and closes nothing: what was set up over several pages would
+// be gone by a slip.
 int CEditorPrefsDialog::PreTranslateMessage(MSG* message)
 {
-    if (message->message == WM_KEYDOWN && message->wParam == Qt::Key_Escape)
+    if (message->message == WM_KEYDOWN && message->wParam == Qt::Key_Escape) {
+        auto* filter = qobject_cast<QLineEdit*>(QApplication::focusWidget());
+        if (filter && filter->objectName() == kFilter)
+            filter->clear();
         return 1;
+    }
     return CDialog::PreTranslateMessage(message);
 }
 
