@@ -41,6 +41,7 @@ public:
     void FindPrevious();
     void FindNextWord(); // of what is selected, or the word at the caret
     void FindPreviousWord();
+    void OpenReplacing(); // with the keyboard in it, from one box to the other
     void Replace(); // what is found and selected, and goes on to the next; first shows its row
     void ReplaceAll();
     void MarkAll(); // bookmarks the lines

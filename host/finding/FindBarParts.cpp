@@ -32,6 +32,7 @@ struct FindBar::Row
     void (FindBar::*run)();
     bool changesText = false;
     bool needsSought = false;
+    void (FindBar::*press)() = nullptr; // of the button, where that is something else
 };
 
 namespace {
@@ -45,7 +46,7 @@ std::span<const FindBar::Row> Rows()
         {"findPrevious",     QT_TRANSLATE_NOOP("FindBar", "Find &Previous"),          "Shift+F3",      &FindBar::FindPrevious},
         {"findNextWord",     QT_TRANSLATE_NOOP("FindBar", "Find the &Word Next"),     "Ctrl+F3",       &FindBar::FindNextWord},
         {"findPreviousWord", QT_TRANSLATE_NOOP("FindBar", "Find the W&ord Previous"), "Ctrl+Shift+F3", &FindBar::FindPreviousWord},
-        {"replace",          QT_TRANSLATE_NOOP("FindBar", "&Replace"),                "Ctrl+H",        &FindBar::Replace, true},
+        {"replace",          QT_TRANSLATE_NOOP("FindBar", "&Replace"),                "Ctrl+H",        &FindBar::OpenReplacing, true, false, &FindBar::Replace},
         {"replaceAll",       QT_TRANSLATE_NOOP("FindBar", "Replace &All"),            nullptr,         &FindBar::ReplaceAll, true, true},
         {"markAll",          QT_TRANSLATE_NOOP("FindBar", "&Mark All"),               nullptr,         &FindBar::MarkAll, false, true},
         {"countMatches",     QT_TRANSLATE_NOOP("FindBar", "Co&unt"),                  nullptr,         &FindBar::Count, false, true},
@@ -158,7 +159,7 @@ QPushButton* FindBar::MakeButton(const char* name)
     auto* button = new QPushButton(tr(row.text), this);
     button->setObjectName(QLatin1String(name) + QStringLiteral("Button"));
     button->setAutoDefault(false);
-    connect(button, &QPushButton::clicked, this, row.run);
+    connect(button, &QPushButton::clicked, this, row.press ? row.press : row.run);
     return button;
 }
 

@@ -8,21 +8,29 @@
 
 #include <QCheckBox>
 #include <QComboBox>
+#include <QLineEdit>
 
 #include <algorithm>
 
 using Editor = CZNCoreEditorControlEx;
 
+void FindBar::OpenReplacing()
+{
+    const bool isHere = isVisible() && isAncestorOf(window()->focusWidget());
+    ShowReplaceRow(true);
+    if (!isHere)
+        Open();
+    else {
+        m_replace->setFocus();
+        m_replace->lineEdit()->selectAll();
+    }
+}
+
 void FindBar::Replace()
 {
     Editor* editor = m_editor();
     if (editor && !m_replaceRow->isVisible()) {
-        const bool isOpen = isVisible();
-        ShowReplaceRow(true);
-        if (!isOpen)
-            Open();
-        else
-            m_replace->setFocus();
+        OpenReplacing();
     } else if (Prepare(editor)) {
         m_manager.AddReplaceHistory(m_replace->currentText());
         const Range searched = Searched(*editor);

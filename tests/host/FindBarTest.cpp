@@ -18,6 +18,7 @@
 #include <QLabel>
 #include <QLineEdit>
 #include <QMenu>
+#include <QPushButton>
 #include <QToolButton>
 #include <QVBoxLayout>
 
@@ -449,6 +450,8 @@ TEST_F(FindBars, HaveOneLineUntilSomethingIsToBeReplaced)
     EXPECT_EQ(editor->GetText(), "one two") << "the first time it only shows where to type";
     ReplaceWith("1");
     Action("replace").trigger();
+    EXPECT_EQ(editor->GetText(), "one two") << "nor later: that is the button's";
+    bar.findChild<QPushButton*>("replaceButton")->click();
     EXPECT_EQ(editor->GetText(), "1 two");
     RowForReplacing().click();
     EXPECT_FALSE(Box("replaceText").isVisible());
