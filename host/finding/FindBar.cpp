@@ -45,7 +45,8 @@ void FindBar::Open()
                          editor->LineFromPosition(editor->GetSelectionEnd(1), 1);
     if (isHidden())
         m_inSelection->setChecked(isLines);
-    const QString found = isLines ? QString() : editor->GetFindString();
+    const bool isTyped = isLines || (isVisible() && IsOwn(*editor)); // maybe as an expression
+    const QString found = isTyped ? QString() : editor->GetFindString();
     const QString sought = found.isEmpty() ? m_find->currentText() : found;
     const QString replacement = m_replace->currentText();
     m_manager.FillFindCombo(*m_find);
@@ -55,6 +56,12 @@ void FindBar::Open()
     m_result->clear();
     show();
     ShowMatches();
+    m_seek.stop(); // the caret stays until somebody types
+    KeepOrigin(*editor);
+    if (!found.isEmpty() && !editor->IsSelection())
+        m_origin->from = editor->WordStartPosition(m_origin->caret, true, 1);
+    m_tellsPlace = true;
+    m_recount.start(0);
     m_find->setFocus();
     m_find->lineEdit()->selectAll();
 }
@@ -122,9 +129,11 @@ QString FindBar::WhatIsWrong(Editor& editor) const
 void FindBar::ScopeSelection(bool isOn)
 {
     m_scope.reset();
+    SeekSoon();
     Editor* editor = m_editor();
     if (!isOn || !editor)
         return;
+    GoBack(*editor);
     const long start = editor->GetSelectionStart(1);
     const long end = editor->GetSelectionEnd(1);
     if (start < end) {
@@ -144,7 +153,6 @@ FindBar::Range FindBar::Searched(Editor& editor) const
     return {start, std::max(start, length - m_scope->behind)};
 }
 
-// Nothing matches twice at one place.
 template <typename Match>
 void FindBar::EachMatch(Editor& editor, Match match)
 {
@@ -154,31 +162,8 @@ void FindBar::EachMatch(Editor& editor, Match match)
                                                  static_cast<int>(searched.end), true);
         if (found < 0 || !match(found))
             return;
-        const long end = editor.GetTargetEnd(1);
-        from = end > found ? end : std::max(end + 1, editor.PositionAfter(end, 1));
+        from = Behind(editor, found);
     }
-}
-
-// Which of how many the selection is, where there are not too many to count at once.
-QString FindBar::Place(Editor& editor)
-{
-    constexpr int kMost = 1000;
-    constexpr int kLongest = 4'000'000; // units
-    const long selected = editor.GetSelectionStart(1);
-    int all = 0;
-    int place = 0;
-    if (editor.GetLength(1) <= kLongest)
-        EachMatch(editor, [&](long found) {
-            ++all;
-            place = found <= selected ? all : place;
-            return all <= kMost;
-        });
-    QString text = tr("%1 of %2").arg(place).arg(all);
-    if (all == 0)
-        text.clear();
-    else if (all > kMost)
-        text = tr("more than %1").arg(kMost);
-    return text;
 }
 
 void FindBar::Close()
@@ -188,6 +173,10 @@ void FindBar::Close()
     hide();
     m_inSelection->setChecked(false);
     ShowMatches();
+    m_seek.stop();
+    m_recount.stop();
+    m_count->Stop();
+    m_origin.reset();
     m_manager.Save();
     if (Editor* editor = m_editor())
         editor->SetFocus();
@@ -211,13 +200,19 @@ bool FindBar::Prepare(Editor* editor)
         return false;
     }
     m_manager.AddFindHistory(sought);
+    HandOver();
+    return true;
+}
+
+void FindBar::HandOver() const
+{
+    m_manager.SetFind(m_find->currentText());
     m_manager.SetMatchCase(m_matchCase->isChecked());
     m_manager.SetWholeWord(m_wholeWord->isChecked());
     m_manager.SetRegExp(m_expression->isChecked());
     m_manager.SetPerlSyntax(m_help->IsPerl());
     m_manager.SetWrap(true);
     m_manager.SetDown(true);
-    return true;
 }
 
 void FindBar::FindNext()
@@ -232,6 +227,7 @@ void FindBar::FindPrevious()
 
 void FindBar::Find(bool down)
 {
+    SeekNow(); // what was typed last counts as shown
     Editor* editor = m_editor();
     if (!Prepare(editor))
         return;
@@ -249,13 +245,15 @@ void FindBar::TellFound(Editor& editor, bool isFound)
         return;
     }
     Tell({});
-    if (isVisible()) {
-        const QString place = Place(editor);
-        m_result->setText(!m_wentRound      ? place
-                          : place.isEmpty() ? tr("gone round")
-                                            : tr("%1, gone round").arg(place));
-    }
+    m_origin.reset();
     ShowMatches();
+    if (!isVisible())
+        return;
+    m_tellsPlace = true;
+    if (m_count->IsStarted())
+        TellPlace();
+    else
+        CountMatches(editor);
 }
 
 void FindBar::FindNextWord()
@@ -306,8 +304,7 @@ bool FindBar::SelectNext(Editor& editor, bool down)
     if (found < 0)
         return false;
     const long matchEnd = editor.GetTargetEnd(1);
-    editor.EnsureVisibleEnforcePolicy(editor.LineFromPosition(found, 1), 1);
-    editor.SetSel(found, matchEnd, 1);
+    Select(editor, found, matchEnd);
     return true;
 }
 
@@ -347,6 +344,8 @@ void FindBar::Tell(const QString& result)
     m_result->setText(result);
     m_result->setToolTip(result);
     m_tellsWrong = false;
+    m_tellsPlace = false;
+    m_seek.stop();
     ShowMissing(false);
     if (!result.isEmpty())
         show();
@@ -356,9 +355,11 @@ void FindBar::Tell(const QString& result)
 void FindBar::keyPressEvent(QKeyEvent* event)
 {
     const bool isEnter = event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter;
-    if (event->key() == Qt::Key_Escape)
+    if (event->key() == Qt::Key_Escape) {
+        if (Editor* editor = m_editor())
+            GoBack(*editor);
         Close();
-    else if (isEnter && qobject_cast<QCheckBox*>(focusWidget())) // where its letter has led
+    } else if (isEnter && qobject_cast<QCheckBox*>(focusWidget())) // where its letter has led
         event->modifiers() & Qt::ShiftModifier ? FindPrevious() : FindNext();
     else
         QWidget::keyPressEvent(event);

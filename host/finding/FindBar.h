@@ -3,6 +3,9 @@
 // is the find manager's, which all windows of the process share.
 #pragma once
 
+#include "host/finding/MatchCount.h"
+
+#include <QTimer>
 #include <QWidget>
 
 #include <functional>
@@ -33,6 +36,8 @@ public:
     // Appends the bar's commands, with their keys.
     void AddActions(QMenu& menu);
     void Update(); // of what is possible
+
+    void OnTextChanged(); // of the script in front, by anybody
 
     void Open(); // with what is selected, or the word at the caret, as what is sought
     void Close();
@@ -70,6 +75,18 @@ private:
     {
         long start = 0;
         long end = 0;
+        bool operator==(const Range&) const = default;
+    };
+    // What was there before the bar showed what is being typed.
+    struct Origin
+    {
+        const CZNCoreEditorControlEx* editor = nullptr;
+        long anchor = 0;
+        long caret = 0;
+        long from = 0; // where the search starts
+        int top = 0;   // display line
+        int left = 0;  // pixels
+        Range shown;   // selected by now
     };
     // Which the find bar searches instead of the whole text. Its end is counted from the text's:
     // what is replaced inside leaves both where they are.
@@ -79,7 +96,8 @@ private:
         long start = 0;
         long behind = 0; // units from its end to the text's
     };
-    // Hands the bar's settings to the manager. False if there is nothing to do, of which the person
+    void HandOver() const; // what is sought and how, to the manager
+    // The same, remembering it. False if there is nothing to do, of which the person
     // knows then.
     bool Prepare(CZNCoreEditorControlEx* editor);
     QString
@@ -96,9 +114,22 @@ private:
     void EachMatch(CZNCoreEditorControlEx& editor, Match match);
     void Tell(const QString& result);
     void TellFound(CZNCoreEditorControlEx& editor, bool isFound);
-    QString Place(CZNCoreEditorControlEx& editor);
+    void TellPlace(); // which of how many, as far as that is known
     void ShowMatches();
     void ShowMissing(bool isMissing);
+
+    void SeekSoon(); // once no key is waiting
+    bool SeekNow();  // what is due; whether something was
+    void Seek();
+    void KeepOrigin(CZNCoreEditorControlEx& editor);
+    void GoBack(CZNCoreEditorControlEx& editor); // unless somebody has moved the caret
+    void Select(CZNCoreEditorControlEx& editor, long start, long end);
+    bool IsOwn(CZNCoreEditorControlEx& editor) const; // selected by the bar
+    static Range SelectedIn(CZNCoreEditorControlEx& editor);
+    void CountMatches(CZNCoreEditorControlEx& editor);
+    void CountAnew();
+    MatchCount::Step StepOf(CZNCoreEditorControlEx& editor, long from);
+    static long Behind(CZNCoreEditorControlEx& editor, long found); // the match that is the target
 
     std::function<CZNCoreEditorControlEx*()> m_editor;
     CFindReplaceManager& m_manager;
@@ -114,6 +145,14 @@ private:
     QToolButton* m_showReplace;
     QWidget* m_replaceRow;
     std::optional<Scope> m_scope;
+    std::optional<Origin> m_origin;
+    const CZNCoreEditorControlEx* m_matchIn = nullptr;
+    Range m_match; // the last that was selected, there
+    const CZNCoreEditorControlEx* m_shownIn = nullptr;
+    MatchCount* m_count;
+    QTimer m_seek;
+    QTimer m_recount;
+    bool m_tellsPlace = false; // not something that was done
     bool m_wentRound = false;  // with the last step
     bool m_isMissing = false;  // what is sought, where it was sought
     bool m_tellsWrong = false; // what is wrong with the expression stands there

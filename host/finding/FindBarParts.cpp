@@ -72,7 +72,8 @@ FindBar::FindBar(std::function<CZNCoreEditorControlEx*()> editor, QWidget* paren
       m_inSelection(MakeOption("inSelection", tr("&In selection"), false)),
       m_preserveCase(MakeOption("preserveCase", tr("&Keep case"), false)),
       m_help(new ExpressionHelp(this)), m_result(new QLabel(this)),
-      m_showReplace(new QToolButton(this)), m_replaceRow(new QWidget(this))
+      m_showReplace(new QToolButton(this)), m_replaceRow(new QWidget(this)),
+      m_count(new MatchCount(this))
 {
     m_showReplace->setObjectName(QStringLiteral("showReplace"));
     m_showReplace->setCheckable(true);
@@ -103,12 +104,17 @@ FindBar::FindBar(std::function<CZNCoreEditorControlEx*()> editor, QWidget* paren
     connect(m_showReplace, &QToolButton::toggled, this, &FindBar::ShowReplaceRow);
     ShowReplaceRow(false);
     for (QCheckBox* option : {m_matchCase, m_wholeWord, m_expression})
-        connect(option, &QCheckBox::toggled, this, &FindBar::ShowMatches);
-    connect(m_find, &QComboBox::editTextChanged, this, &FindBar::ShowMatches);
+        connect(option, &QCheckBox::toggled, this, &FindBar::SeekSoon);
+    connect(m_find, &QComboBox::editTextChanged, this, &FindBar::SeekSoon);
+    for (QTimer* timer : {&m_seek, &m_recount})
+        timer->setSingleShot(true);
+    connect(&m_seek, &QTimer::timeout, this, &FindBar::Seek);
+    connect(&m_recount, &QTimer::timeout, this, &FindBar::CountAnew);
+    connect(m_count, &MatchCount::Grown, this, &FindBar::TellPlace);
     connect(m_inSelection, &QCheckBox::toggled, this, &FindBar::ScopeSelection);
     connect(m_help, &ExpressionHelp::GrammarChanged, this, [this] {
         m_manager.SetPerlSyntax(m_help->IsPerl());
-        ShowMatches();
+        SeekSoon();
     });
     connect(m_help, &ExpressionHelp::Picked, this, [this](const QString& piece) {
         m_expression->setChecked(true);
@@ -218,6 +224,13 @@ void FindBar::Update()
         if (auto* button =
                 findChild<QPushButton*>(QLatin1String(row.name) + QStringLiteral("Button")))
             button->setEnabled(IsPossible(row));
+    }
+    const Editor* editor = m_editor();
+    if (editor != std::exchange(m_shownIn, editor) && isVisible()) {
+        ShowMatches();
+        m_count->Stop();
+        m_tellsPlace = true;
+        m_recount.start(0);
     }
 }
 

@@ -31,6 +31,9 @@ void FindBar::Replace()
     Editor* editor = m_editor();
     if (editor && !m_replaceRow->isVisible()) {
         OpenReplacing();
+    } else if (SeekNow()) { // nobody has seen it yet
+        if (m_origin && IsOwn(*editor))
+            m_origin.reset();
     } else if (Prepare(editor)) {
         m_manager.AddReplaceHistory(m_replace->currentText());
         const Range searched = Searched(*editor);
@@ -44,6 +47,7 @@ void FindBar::Replace()
             editor->BeginUndoAction(1);
             ReplaceTarget(*editor);
             editor->EndUndoAction(1);
+            m_count->Stop();
             const long behind = editor->GetTargetEnd(1);
             editor->SetSel(behind, behind, 1);
         }
@@ -115,6 +119,7 @@ void FindBar::ReplaceAll()
     const int count = isPlain ? m_manager.ReplaceAll(editor, false) : ReplaceEach(*editor);
     if (!m_scope)
         caret.Restore();
+    m_count->Stop();
     Tell(isPlain && m_manager.WasStopped() ? tr("Stopped, %n replaced", nullptr, count)
                                            : tr("%n replaced", nullptr, count));
 }

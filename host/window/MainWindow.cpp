@@ -245,7 +245,11 @@ void MainWindow::Follow(ScriptDoc& script)
     script.disconnect(this);
     FollowPlaces(script);
     connect(&script, &ScriptDoc::StateChanged, this, [this, &script] { OnScriptChanged(script); });
-    connect(&script, &ScriptDoc::TextChanged, this, [this, &script] { TellResults(script); });
+    connect(&script, &ScriptDoc::TextChanged, this, [this, &script] {
+        TellResults(script);
+        if (CurrentFrame() && CurrentFrame()->Script() == &script)
+            m_find->OnTextChanged();
+    });
     script.Names().disconnect(this);
     connect(&script.Names(), &completion::LiveIndex::Finished, this,
             [this, &script] { OnNamesRead(script); });

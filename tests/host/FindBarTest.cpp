@@ -17,8 +17,10 @@
 #include <QKeyEvent>
 #include <QLabel>
 #include <QLineEdit>
+#include <QLocale>
 #include <QMenu>
 #include <QPushButton>
+#include <QTest>
 #include <QToolButton>
 #include <QVBoxLayout>
 
@@ -75,6 +77,12 @@ protected:
     }
     QString Result() { return bar.findChild<QLabel*>(QStringLiteral("findResult"))->text(); }
     QAction& Action(const char* name) { return *menu.findChild<QAction*>(QLatin1String(name)); }
+
+    static void Settle() // what is shown once no key is waiting
+    {
+        for (int i = 0; i < 3; ++i)
+            QApplication::processEvents();
+    }
 
     // Start and end of the selection.
     std::pair<long, long> Selected()
@@ -469,6 +477,121 @@ TEST_F(FindBars, FindsOnEnter)
     EXPECT_EQ(Selected(), Range(8, 11));
     Press(Box("replaceText"), Qt::Key_Enter);
     EXPECT_EQ(widget.text(), QStringLiteral("one two 1"));
+}
+
+TEST_F(FindBars, ShowTheFirstMatchFromWhereTheyWereOpenedAtEachLetter)
+{
+    SetText("only on one once");
+    editor->SetSel(5, 5, 1);
+    bar.Open();
+    for (const auto& [typed, start, result] : {std::tuple("o", 5L, "2 of 4"),
+                                               {"on", 5L, "2 of 4"},
+                                               {"one", 8L, "1 of 1"},
+                                               {"on", 5L, "2 of 4"},
+                                               {"onl", 0L, "1 of 1, gone round"}}) {
+        Seek(typed);
+        Settle();
+        EXPECT_EQ(Selected(), Range(start, start + qsizetype(strlen(typed)))) << typed;
+        EXPECT_EQ(Result(), result) << typed;
+    }
+    Seek("on");
+    Set("wholeWord", true);
+    Settle();
+    EXPECT_EQ(Result(), "1 of 1");
+    Seek("none");
+    Settle();
+    EXPECT_EQ(Result(), "Not found");
+    EXPECT_EQ(Selected(), Range(5, 5));
+}
+
+TEST_F(FindBars, GoBackOnEscapeUnlessEnterWasPressed)
+{
+    SetText("a--b" + QString("\n").repeated(196) + "one two one");
+    editor->SetSel(3, 1, 1);
+    const int top = editor->GetFirstVisibleLine(1);
+    bar.Open();
+    Seek("two");
+    Settle();
+    ASSERT_EQ(Selected(), Range(204, 207));
+    Press(Box("findText"), Qt::Key_Escape);
+    EXPECT_EQ(editor->GetAnchor(1), 3);
+    EXPECT_EQ(editor->GetCurrentPos(1), 1);
+    EXPECT_EQ(editor->GetFirstVisibleLine(1), top);
+    bar.Open();
+    Seek("one");
+    Settle();
+    Press(Box("findText"), Qt::Key_Return);
+    Press(Box("findText"), Qt::Key_Escape);
+    EXPECT_EQ(Selected(), Range(208, 211));
+}
+
+TEST_F(FindBars, LeaveACaretThatSomebodyElseHasMoved)
+{
+    SetText("one two one");
+    bar.Open();
+    Seek("two");
+    Settle();
+    editor->SetSel(9, 9, 1);
+    Press(Box("findText"), Qt::Key_Escape);
+    EXPECT_EQ(Selected(), Range(9, 9));
+}
+
+TEST_F(FindBars, TellThePlaceOfTheWordAtTheCaretAndLeaveIt)
+{
+    SetText("one two one");
+    editor->SetSel(10, 10, 1);
+    bar.Open();
+    Settle();
+    EXPECT_EQ(Result(), "2 of 2");
+    EXPECT_EQ(Selected(), Range(10, 10));
+}
+
+TEST_F(FindBars, KeepTheExpressionWhoseMatchIsSelected)
+{
+    SetText("one two");
+    bar.Open();
+    Set("expression", true);
+    Seek("t.o");
+    Settle();
+    ASSERT_EQ(Selected(), Range(4, 7));
+    bar.Open();
+    EXPECT_EQ(Box("findText").currentText(), "t.o");
+}
+
+TEST_F(FindBars, ReplaceOnTheFirstEnterOnlyWhatWasShown)
+{
+    SetText("one two one");
+    bar.Open();
+    Seek("one");
+    ReplaceWith("1");
+    Press(Box("replaceText"), Qt::Key_Return);
+    EXPECT_EQ(widget.text(), "one two one");
+    EXPECT_EQ(Selected(), Range(0, 3));
+    Press(Box("replaceText"), Qt::Key_Return);
+    EXPECT_EQ(widget.text(), "1 two one");
+    EXPECT_EQ(Result(), "1 of 1");
+}
+
+TEST_F(FindBars, CountMoreThanAThousand)
+{
+    SetText(QString("one\n").repeated(30000));
+    bar.Open();
+    Seek("one");
+    bar.FindNext();
+    const QString all = QString("1 of %1").arg(QLocale().toString(30000));
+    EXPECT_TRUE(QTest::qWaitFor([&] { return Result() == all; })) << Result().toStdString();
+}
+
+TEST_F(FindBars, CountAnewOnceTheTextHasChanged)
+{
+    SetText("one two one");
+    bar.Open();
+    Seek("one");
+    Settle();
+    ASSERT_EQ(Result(), "1 of 2");
+    editor->InsertText(11, u" one", 1);
+    bar.OnTextChanged();
+    EXPECT_TRUE(QTest::qWaitFor([&] { return Result() == "1 of 3"; })) << Result().toStdString();
 }
 
 TEST_F(FindBars, OffersWhatIsPossible)

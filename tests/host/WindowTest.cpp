@@ -104,7 +104,7 @@ TEST_F(Windows, SayWhichMatchIsSelected)
     Editor().GotoPos(0, 1);
     m_window.Find().Open();
     m_window.Find().findChild<QComboBox*>(QStringLiteral("findText"))->setEditText("a");
-    m_window.Find().FindNext();
+    QCoreApplication::processEvents();
     const auto* result = m_window.Find().findChild<QLabel*>(QStringLiteral("findResult"));
     EXPECT_EQ(result->text(), QStringLiteral("1 of 2"));
     m_window.Find().FindNext();
