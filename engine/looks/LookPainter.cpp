@@ -82,6 +82,9 @@ void LookPainter::Set(const Looks* looks)
     // Hidden lines have a button to show them, and without looks a line.
     if (m_looks.has_value() != (looks != nullptr))
         m_raw.Send(Sci::SCI_SETFOLDFLAGS, looks ? 0 : Sci::SC_FOLDFLAG_LINEAFTER_CONTRACTED);
+    // Capitals with accents rise above what a font calls its ascent; the line above covers that.
+    constexpr long kAbove = 2;
+    m_raw.Send(Sci::SCI_SETEXTRAASCENT, static_cast<WPARAM>(looks ? kAbove : 0));
     m_raw.Send(Sci::SCI_SETTABDRAWMODE, looks ? Sci::SCTD_STRIKEOUT : Sci::SCTD_LONGARROW);
     m_looks = looks ? std::optional<Looks>(*looks) : std::nullopt;
     m_window.viewport()->setMouseTracking(true);

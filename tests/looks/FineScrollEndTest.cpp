@@ -106,7 +106,7 @@ TEST(FineScrolling, StandsAtALineAtOnceForWhatIsDoneToTheText)
     for (const auto& [name, act] : acts) {
         const Editor moved(Script(15));
         const Editor scrolled(Script(15));
-        moved.Fingers(175);
+        moved.Fingers(10 * moved.Height() + 5);
         ASSERT_FALSE(moved.IsAtLine());
         scrolled.control.LineScroll(0, 10, 1);
         act(moved);
@@ -183,8 +183,8 @@ TEST(FineScrolling, GlidesToALineWhereThingsAreAnimated)
         places = PlacesAfter(editor);
     }
     EXPECT_GT(places.size(), 2U);
-    EXPECT_EQ(*places.begin(), 170);
-    EXPECT_EQ(*places.rbegin(), 175);
+    EXPECT_EQ(*places.begin(), 10 * editor.Height());
+    EXPECT_EQ(*places.rbegin(), 10 * editor.Height() + 5);
 }
 
 TEST(FineScrolling, GoesToALineInOneStepWhereNothingIsAnimated)
@@ -193,7 +193,8 @@ TEST(FineScrolling, GoesToALineInOneStepWhereNothingIsAnimated)
     const Moving editor;
     editor.Window().setStyle(&style);
     editor.Fingers(4); // the style has ended it
-    EXPECT_EQ(PlacesAfter(editor), (std::set<int>{170, 174}));
+    const int line = 10 * editor.Height();
+    EXPECT_EQ(PlacesAfter(editor), (std::set<int>{line, line + 4}));
 }
 
 // Twins, of which one is moved by fingers and the other by lines.

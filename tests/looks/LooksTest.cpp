@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 // What an editor with a scheme draws beside and over its text.
 #include "control/EngineLooks.h"
+#include "control/EngineRecords.h"
 #include "control/ErrorInfo.h"
 #include "editing/ZNCoreEditorControlEx.h"
 #include "editing/ZNCoreEditorWidget.h"
@@ -12,6 +13,7 @@
 #include "tests/looks/TouchScreen.h"
 
 #include <QApplication>
+#include <QFontMetrics>
 #include <QHelpEvent>
 #include <QImage>
 #include <QMouseEvent>
@@ -415,6 +417,26 @@ TEST_F(LooksTest, KeepTheCaretsLineWhereItIsWhenEverythingIsFolded)
     EXPECT_TRUE(control.GetLineVisible(line + 1, 1));
     EXPECT_EQ(row(), 3);
     EXPECT_EQ(control.GetCurLineNumber(), line);
+}
+
+TEST_F(LooksTest, HaveRoomForTheAccentsOfCapitals)
+{
+    Put(QStringLiteral("\u00DC\u00C5\n")); // in the first line, which none above leaves room for
+    StyleLook look;
+    SendMessage(control.GetSafeHwnd(), kGetStyleLook, 0, reinterpret_cast<LPARAM>(&look));
+    for (const int zoom : {-2, 0, 3}) {
+        control.SetZoom(zoom, 1);
+        QFont font(QString::fromUtf16(look.face));
+        font.setPointSizeF(look.points + zoom);
+        const QFontMetrics metrics(font);
+        const int above = -metrics.boundingRect(QStringLiteral("\u00DC\u00C5")).top();
+        EXPECT_GE(control.TextHeight(0, 1), above + metrics.descent()) << zoom;
+    }
+    control.SetZoom(0, 1);
+    face.setScheme(QString());
+    const long plain = control.TextHeight(0, 1);
+    face.setScheme(QStringLiteral("Light"));
+    EXPECT_EQ(control.TextHeight(0, 1), plain + 2);
 }
 
 TEST_F(LooksTest, StandABarBesideTheLinesOfThatStatement)

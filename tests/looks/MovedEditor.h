@@ -211,9 +211,11 @@ struct Touchpad : QPointingDevice
     {}
 };
 
+// By fingers, to five pixels below the top of its tenth line.
 struct Moving : Editor
 {
-    explicit Moving(int pixels = 175) : Editor(Script(15)) { Fingers(pixels); }
+    Moving() : Editor(Script(15)) { Fingers(10 * Height() + 5); }
+    explicit Moving(int pixels) : Editor(Script(15)) { Fingers(pixels); }
 };
 
 } // namespace finescroll
