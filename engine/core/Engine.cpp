@@ -9,6 +9,7 @@
 #include "engine/core/Handlers.h"
 #include "engine/looks/DocumentMap.h"
 #include "engine/text/Characters.h"
+#include "engine/text/RightToLeft.h"
 #include "platform/services/LongWork.h"
 
 #include <array>
@@ -148,6 +149,7 @@ void Engine::PrepareDocument()
     documents::Shown(m_document, *this);
     documents::Left(left, *this);
     raw.Send(Sci::SCI_SETCODEPAGE, Sci::SC_CP_UTF8);
+    m_showsRightToLeft = false;
     text.Reset();
     LookPainter::MarksMayGo();
     readOnly = {};
@@ -161,6 +163,15 @@ void Engine::PrepareDocument()
     StoredText::WordsMayChange();
     if (map)
         map->Forget();
+}
+
+// Letters are shown in some way once there may be any: what is kept of each costs memory.
+void Engine::PrepareToPaint()
+{
+    if (m_showsRightToLeft || text.IsAscii())
+        return;
+    m_showsRightToLeft = true;
+    ShowRightToLeft(raw);
 }
 
 LRESULT Engine::Perform(UINT message, WPARAM wParam, LPARAM lParam)

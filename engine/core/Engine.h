@@ -79,6 +79,8 @@ public:
     // Answers a message. A number outside the table answers 0.
     LRESULT Perform(UINT message, WPARAM wParam, LPARAM lParam);
 
+    void PrepareToPaint();
+
     // 0: an empty one of its own.
     void ShowDocument(LPARAM document);
     LRESULT Document() const { return m_document; }
@@ -160,6 +162,7 @@ private:
 
     LRESULT m_document = 0;
     KeptAnswer m_collectsUndo;
+    bool m_showsRightToLeft = false;
     bool m_owesSelection = false; // it has not been told
 };
 

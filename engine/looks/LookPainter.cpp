@@ -254,7 +254,8 @@ void LookPainter::PaintStatementBar(QPainter& painter, const Margins& places,
     const auto number = static_cast<WPARAM>(line);
     constexpr int kGap = 1;
     constexpr int kBar = 2;
-    if (statement.start < m_raw.Send(Sci::SCI_GETLINEENDPOSITION, number) &&
+    const bool isLine = line < m_raw.Send(Sci::SCI_GETLINECOUNT); // none below the text
+    if (isLine && statement.start < m_raw.Send(Sci::SCI_GETLINEENDPOSITION, number) &&
         statement.end > m_raw.Send(Sci::SCI_POSITIONFROMLINE, number))
         painter.fillRect(places.text + kGap, top, kBar, height, Colour(m_looks->statement));
 }

@@ -394,6 +394,7 @@ bool EngineWindow::TypeInLongLine(const QKeyEvent& event)
 
 void EngineWindow::paintEvent(QPaintEvent* event)
 {
+    m_engine.PrepareToPaint();
     m_engine.longLines.Prepare();
     QsciScintillaBase::paintEvent(event);
     if (m_engine.looks.IsOn()) {

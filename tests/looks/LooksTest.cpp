@@ -419,6 +419,36 @@ TEST_F(LooksTest, KeepTheCaretsLineWhereItIsWhenEverythingIsFolded)
     EXPECT_EQ(control.GetCurLineNumber(), line);
 }
 
+// The stock engine gives a text from the right no width, and has it lie over what follows.
+TEST_F(LooksTest, ShowLettersFromTheRightOneByOne)
+{
+    const QStringList texts = {
+        QStringLiteral("-- \u05D4\u05E2\u05E8\u05D4: \u05E1\u05E4\u05D9\u05E8\u05D4"), // Hebrew
+        QStringLiteral("'\u0645\u0644\u0627\u062D\u0638\u0629'"),                      // Arabic
+        QStringLiteral("'admin\u202E'")}; // an override
+    for (const QString& text : texts) {
+        Put(text + QStringLiteral(" where a = 1\n"));
+        const QImage image = control.GetSafeHwnd()->grab().toImage();
+        const auto xOf = [&](long position) {
+            return static_cast<int>(control.PointXFromPosition(position, 1));
+        };
+        const auto hasInk = [&](int from, int to) {
+            std::set<QRgb> colours;
+            for (int x = from; x < to; ++x) {
+                for (int y = 0; y < control.TextHeight(0, 1); ++y)
+                    colours.insert(image.pixel(x, y));
+            }
+            return colours.size() > 1;
+        };
+        for (int i = 0; i < text.size(); ++i) {
+            EXPECT_GT(xOf(i + 1), xOf(i) + 2) << i;
+            EXPECT_EQ(hasInk(xOf(i), xOf(i + 1)), text[i] != u' ') << i;
+        }
+        EXPECT_EQ(xOf(text.size() + 5) - xOf(text.size()),
+                  5 * control.TextWidth(32, u"x", 1)); // what follows stands behind
+    }
+}
+
 TEST_F(LooksTest, HaveRoomForTheAccentsOfCapitals)
 {
     Put(QStringLiteral("\u00DC\u00C5\n")); // in the first line, which none above leaves room for
@@ -446,9 +476,8 @@ TEST_F(LooksTest, StandABarBesideTheLinesOfThatStatement)
     ASSERT_TRUE(Becomes([&] { return IsMarked(kStatement, 12); }));
     QColor bar;
     const auto barAt = [&](int line) {
-        const long start = control.PositionFromLine(line, 1);
-        const QPoint text(static_cast<int>(control.PointXFromPosition(start, 1)),
-                          static_cast<int>(control.PointYFromPosition(start, 1)) + 4);
+        const QPoint text(static_cast<int>(control.PointXFromPosition(0, 1)),
+                          line * static_cast<int>(control.TextHeight(0, 1)) + 4);
         const QImage image = control.GetSafeHwnd()->grab().toImage();
         for (int x = text.x() - 5; x < text.x(); ++x) {
             if (image.pixelColor(x, text.y()) == bar)
@@ -461,7 +490,8 @@ TEST_F(LooksTest, StandABarBesideTheLinesOfThatStatement)
     EXPECT_FALSE(barAt(0));
     EXPECT_TRUE(barAt(1));
     EXPECT_TRUE(barAt(2));
-    EXPECT_FALSE(barAt(3));
+    for (const int below : {3, 4, 7})
+        EXPECT_FALSE(barAt(below)) << below;
 }
 
 TEST_F(LooksTest, LightUpTheStatementThatTheCommandWouldSelect)
