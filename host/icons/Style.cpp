@@ -110,6 +110,18 @@ void DrawMenuFrame(QStyleOption option, QPainter& painter)
     painter.restore();
 }
 
+// On a dark ground the plain style's thumb is a shade of its groove.
+void DrawThumbFrame(const QStyleOption& option, QPainter& painter, const QRect& thumb)
+{
+    constexpr int kHalf = 128; // of a lightness
+    const bool isDark = option.palette.color(QPalette::Window).lightness() < kHalf;
+    constexpr double kShare = 0.65; // of the ink, over the groove
+    QColor edge = option.palette.color(QPalette::Active, QPalette::WindowText);
+    edge.setAlphaF(kShare);
+    if (isDark && option.state & QStyle::State_Enabled)
+        DrawFocusFrame(painter, thumb, edge, kThin);
+}
+
 // Of an entry that cannot be taken; the plain style draws the ground of others.
 void DrawEntryGround(const QStyleOption& option, QPainter& painter)
 {
@@ -228,6 +240,11 @@ void Style::drawComplexControl(ComplexControl control, const QStyleOptionComplex
                                QPainter* painter, const QWidget* widget) const
 {
     QProxyStyle::drawComplexControl(control, option, painter, widget);
+    if (control == CC_ScrollBar) {
+        DrawThumbFrame(*option, *painter,
+                       proxy()->subControlRect(control, option, SC_ScrollBarSlider, widget));
+        return;
+    }
     const bool isField = control == CC_ComboBox || control == CC_SpinBox;
     if (isField && option->state & State_HasFocus)
         DrawFocusFrame(*painter, option->rect, FocusOn(*option, QPalette::Base), kFocusWidth);

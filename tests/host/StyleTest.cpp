@@ -3,11 +3,13 @@
 #include "host/icons/Style.h"
 #include "host/icons/Icons.h"
 #include "host/preferences/Appearance.h"
+#include "looks/Schemes.h"
 #include "tests/looks/Contrast.h"
 
 #include <QApplication>
 #include <QMenu>
 #include <QPainter>
+#include <QScrollBar>
 #include <QStyleFactory>
 #include <QStyleOptionButton>
 #include <QStyleOptionMenuItem>
@@ -174,6 +176,20 @@ TEST_P(Schemes, ShowTheIconOfTheEntryThatIsChosen)
         }
     }
     EXPECT_GT(dots, 20);
+}
+
+TEST_P(Schemes, SetTheThumbOfAScrollBarOffAgainstItsGroove)
+{
+    constexpr double kSeen = 3;
+    if (!zncoreeditor::IsDesktopDark())
+        GTEST_SKIP() << "the plain style is left as it is";
+    QScrollBar bar(Qt::Vertical);
+    bar.setRange(0, 100);
+    bar.setPageStep(50);
+    bar.resize(16, 300);
+    const QImage picture = bar.grab().toImage();
+    const QColor groove = picture.pixelColor(8, 250);
+    EXPECT_GE(BestContrast(picture.copy(0, 20, 16, 130), groove.rgb()), kSeen);
 }
 
 // At its edge, half way down.
