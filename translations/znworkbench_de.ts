@@ -1300,6 +1300,37 @@ Mit Qt %1. Lizenziert unter der GNU General Public License, Version 3 oder spät
     </message>
 </context>
 <context>
+    <name>ReadLoss</name>
+    <message>
+        <source>The file itself is as it was, and stays so until it is saved.</source>
+        <translation>Die Datei selbst ist, wie sie war, und bleibt so, bis sie gespeichert wird.</translation>
+    </message>
+    <message>
+        <source>Only the first part of “%1” is shown: byte %L2 of the file is a NUL, which no text has.</source>
+        <translation>Nur der erste Teil von „%1“ wird gezeigt: Byte %L2 der Datei ist ein NUL, das kein Text hat.</translation>
+    </message>
+    <message>
+        <source>File &gt; Open with Encoding reads it in another encoding.</source>
+        <translation>„Datei &gt; Mit Kodierung öffnen“ liest sie in einer anderen Kodierung.</translation>
+    </message>
+    <message>
+        <source>Only the first part of “%1” is shown: what follows is no text in %2, or cannot be read.</source>
+        <translation>Nur der erste Teil von „%1“ wird gezeigt: Was folgt, ist kein Text in %2 oder kann nicht gelesen werden.</translation>
+    </message>
+    <message>
+        <source>“%1” has bytes that are no %2: %L3, the first in line %L4. They are shown as “%5”.</source>
+        <translation>„%1“ hat Bytes, die kein %2 sind: %L3, das erste in Zeile %L4. Sie werden als „%5“ gezeigt.</translation>
+    </message>
+    <message>
+        <source>Only the first part of “%1” could be read. Saving it under its own name loses the rest of the file.</source>
+        <translation>Nur der erste Teil von „%1“ konnte gelesen werden. Beim Speichern unter demselben Namen geht der Rest der Datei verloren.</translation>
+    </message>
+    <message>
+        <source>“%1” was read as %2 and has bytes that are none: %L3. Saving it under its own name puts “%4” in their place for good.</source>
+        <translation>„%1“ wurde als %2 gelesen und hat Bytes, die keines sind: %L3. Beim Speichern unter demselben Namen tritt „%4“ endgültig an ihre Stelle.</translation>
+    </message>
+</context>
+<context>
     <name>Reasons</name>
     <message>
         <source>There is nothing to undo.</source>
@@ -1815,16 +1846,16 @@ Mit Qt %1. Lizenziert unter der GNU General Public License, Version 3 oder spät
         <translation>„%1“ ist in einem anderen Tab offen. Schließen Sie diesen erst, oder wählen Sie einen anderen Namen.</translation>
     </message>
     <message>
-        <source>Only the first part of “%1” could be read. Saving it under its own name loses the rest of the file.</source>
-        <translation>Nur der erste Teil von „%1“ konnte gelesen werden. Beim Speichern unter demselben Namen geht der Rest der Datei verloren.</translation>
-    </message>
-    <message>
         <source>&amp;Overwrite</source>
         <translation>Ü&amp;berschreiben</translation>
     </message>
     <message>
         <source>“%1” has been changed outside of the workbench since it was read. Saving it replaces those changes.</source>
         <translation>„%1“ wurde außerhalb des Programms geändert, seit die Datei gelesen wurde. Das Speichern ersetzt diese Änderungen.</translation>
+    </message>
+    <message>
+        <source>Your changes that are not saved are lost.</source>
+        <translation>Ihre nicht gespeicherten Änderungen gehen verloren.</translation>
     </message>
 </context>
 <context>
@@ -2146,6 +2177,10 @@ Mit Qt %1. Lizenziert unter der GNU General Public License, Version 3 oder spät
     <message>
         <source>&amp;Open</source>
         <translation>Ö&amp;ffnen</translation>
+    </message>
+    <message>
+        <source>%1 was read anew: it is %2</source>
+        <translation>%1 wurde neu gelesen: %2</translation>
     </message>
 </context>
 <context>

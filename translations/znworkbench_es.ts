@@ -1300,6 +1300,37 @@ Con Qt %1. Con licencia pública general de GNU, versión 3 o posterior.</transl
     </message>
 </context>
 <context>
+    <name>ReadLoss</name>
+    <message>
+        <source>The file itself is as it was, and stays so until it is saved.</source>
+        <translation>El archivo en sí está como estaba, y así sigue hasta que se guarde.</translation>
+    </message>
+    <message>
+        <source>Only the first part of “%1” is shown: byte %L2 of the file is a NUL, which no text has.</source>
+        <translation>Solo se muestra la primera parte de «%1»: el byte %L2 del archivo es un NUL, que ningún texto tiene.</translation>
+    </message>
+    <message>
+        <source>File &gt; Open with Encoding reads it in another encoding.</source>
+        <translation>Archivo &gt; Abrir con codificación lo lee con otra codificación.</translation>
+    </message>
+    <message>
+        <source>Only the first part of “%1” is shown: what follows is no text in %2, or cannot be read.</source>
+        <translation>Solo se muestra la primera parte de «%1»: lo que sigue no es texto en %2 o no se puede leer.</translation>
+    </message>
+    <message>
+        <source>“%1” has bytes that are no %2: %L3, the first in line %L4. They are shown as “%5”.</source>
+        <translation>«%1» tiene bytes que no son %2: %L3, el primero en la línea %L4. Se muestran como «%5».</translation>
+    </message>
+    <message>
+        <source>Only the first part of “%1” could be read. Saving it under its own name loses the rest of the file.</source>
+        <translation>Solo se pudo leer la primera parte de «%1». Al guardarlo con su mismo nombre se pierde el resto del archivo.</translation>
+    </message>
+    <message>
+        <source>“%1” was read as %2 and has bytes that are none: %L3. Saving it under its own name puts “%4” in their place for good.</source>
+        <translation>«%1» se leyó como %2 y tiene bytes que no lo son: %L3. Al guardarlo con su propio nombre, «%4» ocupa su lugar para siempre.</translation>
+    </message>
+</context>
+<context>
     <name>Reasons</name>
     <message>
         <source>There is nothing to undo.</source>
@@ -1815,16 +1846,16 @@ Con Qt %1. Con licencia pública general de GNU, versión 3 o posterior.</transl
         <translation>«%1» está abierto en otra pestaña. Ciérrelo primero, o elija otro nombre.</translation>
     </message>
     <message>
-        <source>Only the first part of “%1” could be read. Saving it under its own name loses the rest of the file.</source>
-        <translation>Solo se pudo leer la primera parte de «%1». Al guardarlo con su mismo nombre se pierde el resto del archivo.</translation>
-    </message>
-    <message>
         <source>&amp;Overwrite</source>
         <translation>&amp;Sobrescribir</translation>
     </message>
     <message>
         <source>“%1” has been changed outside of the workbench since it was read. Saving it replaces those changes.</source>
         <translation>«%1» se ha modificado fuera del programa desde que se leyó. Al guardarlo se reemplazan esos cambios.</translation>
+    </message>
+    <message>
+        <source>Your changes that are not saved are lost.</source>
+        <translation>Se pierden los cambios que no ha guardado.</translation>
     </message>
 </context>
 <context>
@@ -2146,6 +2177,10 @@ Con Qt %1. Con licencia pública general de GNU, versión 3 o posterior.</transl
     <message>
         <source>&amp;Open</source>
         <translation>&amp;Abrir</translation>
+    </message>
+    <message>
+        <source>%1 was read anew: it is %2</source>
+        <translation>%1 se ha vuelto a leer: es %2</translation>
     </message>
 </context>
 <context>

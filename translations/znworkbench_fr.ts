@@ -1300,6 +1300,37 @@ Avec Qt %1. Sous licence publique générale GNU, version 3 ou ultérieure.</tra
     </message>
 </context>
 <context>
+    <name>ReadLoss</name>
+    <message>
+        <source>The file itself is as it was, and stays so until it is saved.</source>
+        <translation>Le fichier lui-même est tel qu’il était et le reste jusqu’à son enregistrement.</translation>
+    </message>
+    <message>
+        <source>Only the first part of “%1” is shown: byte %L2 of the file is a NUL, which no text has.</source>
+        <translation>Seule la première partie de «&#xa0;%1&#xa0;» est affichée&#xa0;: l’octet %L2 du fichier est un NUL, qu’aucun texte ne contient.</translation>
+    </message>
+    <message>
+        <source>File &gt; Open with Encoding reads it in another encoding.</source>
+        <translation>Fichier &gt; Ouvrir avec un encodage le lit dans un autre encodage.</translation>
+    </message>
+    <message>
+        <source>Only the first part of “%1” is shown: what follows is no text in %2, or cannot be read.</source>
+        <translation>Seule la première partie de «&#xa0;%1&#xa0;» est affichée&#xa0;: la suite n’est pas du texte en %2 ou ne peut pas être lue.</translation>
+    </message>
+    <message>
+        <source>“%1” has bytes that are no %2: %L3, the first in line %L4. They are shown as “%5”.</source>
+        <translation>«&#xa0;%1&#xa0;» contient des octets qui ne sont pas du %2&#xa0;: %L3, le premier à la ligne %L4. Ils sont affichés comme «&#xa0;%5&#xa0;».</translation>
+    </message>
+    <message>
+        <source>Only the first part of “%1” could be read. Saving it under its own name loses the rest of the file.</source>
+        <translation>Seule la première partie de «&#xa0;%1&#xa0;» a pu être lue. L’enregistrer sous son propre nom perd le reste du fichier.</translation>
+    </message>
+    <message>
+        <source>“%1” was read as %2 and has bytes that are none: %L3. Saving it under its own name puts “%4” in their place for good.</source>
+        <translation>«&#xa0;%1&#xa0;» a été lu comme %2 et contient des octets qui n’en sont pas&#xa0;: %L3. L’enregistrer sous son propre nom met définitivement «&#xa0;%4&#xa0;» à leur place.</translation>
+    </message>
+</context>
+<context>
     <name>Reasons</name>
     <message>
         <source>There is nothing to undo.</source>
@@ -1815,16 +1846,16 @@ Avec Qt %1. Sous licence publique générale GNU, version 3 ou ultérieure.</tra
         <translation>«&#xa0;%1&#xa0;» est ouvert dans un autre onglet. Fermez-le d’abord, ou choisissez un autre nom.</translation>
     </message>
     <message>
-        <source>Only the first part of “%1” could be read. Saving it under its own name loses the rest of the file.</source>
-        <translation>Seule la première partie de «&#xa0;%1&#xa0;» a pu être lue. L’enregistrer sous son propre nom perd le reste du fichier.</translation>
-    </message>
-    <message>
         <source>&amp;Overwrite</source>
         <translation>É&amp;craser</translation>
     </message>
     <message>
         <source>“%1” has been changed outside of the workbench since it was read. Saving it replaces those changes.</source>
         <translation>«&#xa0;%1&#xa0;» a été modifié en dehors du programme depuis sa lecture. L’enregistrer remplace ces modifications.</translation>
+    </message>
+    <message>
+        <source>Your changes that are not saved are lost.</source>
+        <translation>Vos modifications non enregistrées seront perdues.</translation>
     </message>
 </context>
 <context>
@@ -2146,6 +2177,10 @@ Avec Qt %1. Sous licence publique générale GNU, version 3 ou ultérieure.</tra
     <message>
         <source>&amp;Open</source>
         <translation>&amp;Ouvrir</translation>
+    </message>
+    <message>
+        <source>%1 was read anew: it is %2</source>
+        <translation>%1 a été relu&#xa0;: c’est du %2</translation>
     </message>
 </context>
 <context>

@@ -1294,6 +1294,37 @@ Qt %1 を使用。GNU General Public License バージョン 3 以降の下で�
     </message>
 </context>
 <context>
+    <name>ReadLoss</name>
+    <message>
+        <source>The file itself is as it was, and stays so until it is saved.</source>
+        <translation>ファイル自体は元のままで、保存するまで変わりません。</translation>
+    </message>
+    <message>
+        <source>Only the first part of “%1” is shown: byte %L2 of the file is a NUL, which no text has.</source>
+        <translation>「%1」の最初の部分だけを表示しています。ファイルの %L2 バイト目が、テキストにはない NUL です。</translation>
+    </message>
+    <message>
+        <source>File &gt; Open with Encoding reads it in another encoding.</source>
+        <translation>［ファイル］&gt;［文字コードを指定して開く］で、別の文字コードで読み込めます。</translation>
+    </message>
+    <message>
+        <source>Only the first part of “%1” is shown: what follows is no text in %2, or cannot be read.</source>
+        <translation>「%1」の最初の部分だけを表示しています。続きは %2 のテキストではないか、読み込めません。</translation>
+    </message>
+    <message>
+        <source>“%1” has bytes that are no %2: %L3, the first in line %L4. They are shown as “%5”.</source>
+        <translation>「%1」には %2 ではないバイトが %L3 個あります。最初のものは %L4 行目です。これらは「%5」と表示されます。</translation>
+    </message>
+    <message>
+        <source>Only the first part of “%1” could be read. Saving it under its own name loses the rest of the file.</source>
+        <translation>「%1」は先頭部分しか読み込めませんでした。同じ名前で保存すると、ファイルの残りは失われます。</translation>
+    </message>
+    <message>
+        <source>“%1” was read as %2 and has bytes that are none: %L3. Saving it under its own name puts “%4” in their place for good.</source>
+        <translation>「%1」は %2 として読み込まれましたが、そうでないバイトが %L3 個あります。同じ名前で保存すると、それらは「%4」に置き換わり、元に戻せません。</translation>
+    </message>
+</context>
+<context>
     <name>Reasons</name>
     <message>
         <source>There is nothing to undo.</source>
@@ -1803,16 +1834,16 @@ Qt %1 を使用。GNU General Public License バージョン 3 以降の下で�
         <translation>「%1」は別のタブで開かれています。先にそれを閉じるか、別の名前を選んでください。</translation>
     </message>
     <message>
-        <source>Only the first part of “%1” could be read. Saving it under its own name loses the rest of the file.</source>
-        <translation>「%1」は先頭部分しか読み込めませんでした。同じ名前で保存すると、ファイルの残りは失われます。</translation>
-    </message>
-    <message>
         <source>&amp;Overwrite</source>
         <translation>上書き(&amp;O)</translation>
     </message>
     <message>
         <source>“%1” has been changed outside of the workbench since it was read. Saving it replaces those changes.</source>
         <translation>「%1」は読み込み後にプログラムの外で変更されています。保存するとその変更は置き換えられます。</translation>
+    </message>
+    <message>
+        <source>Your changes that are not saved are lost.</source>
+        <translation>保存していない変更は失われます。</translation>
     </message>
 </context>
 <context>
@@ -2134,6 +2165,10 @@ Qt %1 を使用。GNU General Public License バージョン 3 以降の下で�
     <message>
         <source>&amp;Open</source>
         <translation>開く(&amp;O)</translation>
+    </message>
+    <message>
+        <source>%1 was read anew: it is %2</source>
+        <translation>%1 を読み直しました: %2</translation>
     </message>
 </context>
 <context>

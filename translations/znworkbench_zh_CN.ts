@@ -1294,6 +1294,37 @@ Over Qt %1. Licensed under the GNU General Public License, version 3 or later.</
     </message>
 </context>
 <context>
+    <name>ReadLoss</name>
+    <message>
+        <source>The file itself is as it was, and stays so until it is saved.</source>
+        <translation>文件本身保持原样，保存之前不会改变。</translation>
+    </message>
+    <message>
+        <source>Only the first part of “%1” is shown: byte %L2 of the file is a NUL, which no text has.</source>
+        <translation>仅显示“%1”的前一部分：文件的第 %L2 个字节是文本中不会出现的 NUL。</translation>
+    </message>
+    <message>
+        <source>File &gt; Open with Encoding reads it in another encoding.</source>
+        <translation>用“文件 &gt; 以指定编码打开”可按其他编码读取。</translation>
+    </message>
+    <message>
+        <source>Only the first part of “%1” is shown: what follows is no text in %2, or cannot be read.</source>
+        <translation>仅显示“%1”的前一部分：后面的内容不是 %2 文本，或无法读取。</translation>
+    </message>
+    <message>
+        <source>“%1” has bytes that are no %2: %L3, the first in line %L4. They are shown as “%5”.</source>
+        <translation>“%1”中有不属于 %2 的字节：%L3 个，第一个在第 %L4 行。它们显示为“%5”。</translation>
+    </message>
+    <message>
+        <source>Only the first part of “%1” could be read. Saving it under its own name loses the rest of the file.</source>
+        <translation>只读取了“%1”的开头部分。以原名保存将丢失文件的其余部分。</translation>
+    </message>
+    <message>
+        <source>“%1” was read as %2 and has bytes that are none: %L3. Saving it under its own name puts “%4” in their place for good.</source>
+        <translation>“%1”按 %2 读取，但有 %L3 个字节不属于它。以原名保存会使“%4”永久取代它们。</translation>
+    </message>
+</context>
+<context>
     <name>Reasons</name>
     <message>
         <source>There is nothing to undo.</source>
@@ -1803,16 +1834,16 @@ Over Qt %1. Licensed under the GNU General Public License, version 3 or later.</
         <translation>“%1”已在另一标签页中打开。请先关闭它，或选择其他名称。</translation>
     </message>
     <message>
-        <source>Only the first part of “%1” could be read. Saving it under its own name loses the rest of the file.</source>
-        <translation>只读取了“%1”的开头部分。以原名保存将丢失文件的其余部分。</translation>
-    </message>
-    <message>
         <source>&amp;Overwrite</source>
         <translation>覆盖(&amp;O)</translation>
     </message>
     <message>
         <source>“%1” has been changed outside of the workbench since it was read. Saving it replaces those changes.</source>
         <translation>“%1”自读取以来已在本程序之外被更改。保存将覆盖这些更改。</translation>
+    </message>
+    <message>
+        <source>Your changes that are not saved are lost.</source>
+        <translation>未保存的更改将丢失。</translation>
     </message>
 </context>
 <context>
@@ -2134,6 +2165,10 @@ Over Qt %1. Licensed under the GNU General Public License, version 3 or later.</
     <message>
         <source>&amp;Open</source>
         <translation>打开(&amp;O)</translation>
+    </message>
+    <message>
+        <source>%1 was read anew: it is %2</source>
+        <translation>已重新读取 %1：编码为 %2</translation>
     </message>
 </context>
 <context>

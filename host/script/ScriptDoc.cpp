@@ -191,11 +191,13 @@ int ScriptDoc::OnOpenDocument(const QString& path)
 int ScriptDoc::OnOpenDocumentEx(const QString& path, FileEncodeConverter::encodingType encoding)
 {
     m_told = false;
+    const QuietLoad quiet;
     if (QFileInfo(path).isDir() || !CZNCoreEditorDoc::OnOpenDocumentEx(path, encoding)) {
         if (!m_told && !IsClosed())
             ReportSaveLoadException(path, nullptr, false, IDP_FAILED_TO_OPEN);
         return 0;
     }
+    LookForUnread();
     if (encoding == FileEncodeConverter::encUnknown)
         TakeDefaultEncoding(FirstView()->GetCoreEditorControlRef());
     m_onlyHere = false;
@@ -357,6 +359,16 @@ void ScriptDoc::OnTextChanged()
 // to a file that is gone ends it too, but the close that it asked for is on its way, ahead of this.
 void ScriptDoc::OnFocus()
 {
+    const auto readAt = m_lastAccessTime;
+    {
+        const QuietLoad quiet;
+        CheckLastAccessTime();
+    }
+    if (IsClosed())
+        return;
+    if (m_lastAccessTime != 0 && m_lastAccessTime != readAt)
+        LookForUnread();
+    TellUnread();
     if (IsClosed())
         return;
     if (m_isTracked && m_lastAccessTime == 0)
@@ -384,11 +396,16 @@ void ScriptDoc::SetModifiedFlag(int modified)
 // The base's command, with an end of what was kept against the file.
 void ScriptDoc::OnReload()
 {
-    const QString text = tr("Do you want to reload '%1' ?");
-    if (m_strPathName.isEmpty() || !AskYesNo(Window(), text.arg(m_strPathName)) || IsClosed())
+    QString text = tr("Do you want to reload '%1' ?").arg(m_strPathName);
+    if (IsModified())
+        text += u'\n' + tr("Your changes that are not saved are lost.");
+    if (m_strPathName.isEmpty() || !AskYesNo(Window(), text) || IsClosed())
         return;
     m_onlyHere = false;
+    const QuietLoad quiet;
     ReloadFile();
+    LookForUnread();
+    TellUnread();
 }
 
 void ScriptDoc::OnReadOnly()

@@ -6,6 +6,7 @@
 #include "completion/popup/LiveIndex.h"
 #include "docview/ZNCoreEditorDoc.h"
 #include "host/files/Prompts.h"
+#include "host/script/ReadLoss.h"
 
 #include <QObject>
 
@@ -81,7 +82,7 @@ public:
     void OnViewGoes(ScriptView& view); // while its editor still stands
     void OnViewShown();                // its editor has the looks of its language
     void OnTextChanged();
-    void OnFocus(); // what others did to the file has been asked about
+    void OnFocus(); // asks about what others did to the file, tells what a load could not show
 
 Q_SIGNALS:
     void StateChanged(); // text, caret, modified flag, zoom: anything that a window shows
@@ -97,12 +98,14 @@ protected:
 
 private:
     int SaveTo(const SaveTarget& target);
-    bool MayReplaceLongerFile(const SaveTarget& target);
+    bool MayReplaceUnread(const SaveTarget& target);
     bool MayReplaceChangedFile(const SaveTarget& target);
     bool MayLoseCharacters(SaveTarget& target); // the person may choose another encoding
     int WriteTo(const SaveTarget& target);
     void OnReload();
     void OnReadOnly();
+    void LookForUnread();
+    void TellUnread();
     void ServeView(ScriptView& view);
     void MarkAsOnlyHere();
     void NameCopies(CZNCoreEditorControlEx& editor) const;
@@ -116,6 +119,8 @@ private:
     int m_chosenEncoding = -1;
     bool m_onlyHere = false;  // the file has another text by now, or is gone, and this one is kept
     bool m_isTracked = false; // what others do to the file is asked about
+    ReadLoss m_loss;          // of the file that the text was read from
+    bool m_tellsLoss = false;
     bool m_asking = false;
     bool m_told = false; // why the file was not read
 };

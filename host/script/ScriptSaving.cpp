@@ -91,23 +91,33 @@ int ScriptDoc::SaveTo(const SaveTarget& target)
     }
     // A question gives the focus back, with which others would be looked for before this is saved.
     const QScopedValueRollback<bool> checking(m_checkingAccessTime, true);
-    if (!MayReplaceLongerFile(chosen) || !MayReplaceChangedFile(chosen) ||
-        !MayLoseCharacters(chosen) || !FirstView())
+    if (!MayReplaceUnread(chosen) || !MayReplaceChangedFile(chosen) || !MayLoseCharacters(chosen) ||
+        !FirstView())
         return 0;
     return WriteTo(chosen);
 }
 
-bool ScriptDoc::MayReplaceLongerFile(const SaveTarget& target)
+bool ScriptDoc::MayReplaceUnread(const SaveTarget& target)
 {
-    if (!IsSameFile(target.path, m_strPathName) ||
-        !FirstView()->GetCoreEditorControl()->WasCutShort())
-        return true;
-    return GetPrompts().Confirm(
-        Window(),
-        tr("Only the first part of “%1” could be read. Saving it under its own name "
-           "loses the rest of the file.")
-            .arg(Name()),
-        tr("&Overwrite"));
+    ReadLoss loss = m_loss;
+    loss.isCutShort = FirstView()->GetCoreEditorControl()->WasCutShort(); // of a copy, too
+    return !loss || !IsSameFile(target.path, m_strPathName) ||
+           GetPrompts().Confirm(Window(), OverwriteQuestion(loss, Name()), tr("&Overwrite"));
+}
+
+void ScriptDoc::LookForUnread()
+{
+    m_loss = FirstView() ? LookForLoss(FirstView()->GetCoreEditorControlRef(), m_strPathName)
+                         : ReadLoss();
+    m_tellsLoss = bool(m_loss);
+}
+
+// Only over its own tab, once that is seen.
+void ScriptDoc::TellUnread()
+{
+    const ScriptView* view = FirstView();
+    if (view && view->GetSafeHwnd()->isVisible() && std::exchange(m_tellsLoss, false))
+        GetPrompts().Tell(Window(), LossNotice(m_loss, Name()));
 }
 
 // Others are looked for when the focus comes; they may have written since.
@@ -172,6 +182,8 @@ int ScriptDoc::OnSaveDocument(const QString& path)
     const bool wasOnlyHere = std::exchange(m_onlyHere, false);
     if (CZNCoreEditorDoc::OnSaveDocument(path)) {
         m_isTracked = m_lastAccessTime != 0;
+        m_loss = {};
+        m_tellsLoss = false;
         return 1;
     }
     m_onlyHere = wasOnlyHere;

@@ -138,7 +138,6 @@ void ScriptView::LookAtFile()
         LookAtFileIn(kSoon);
         return;
     }
-    script->CheckLastAccessTime();
     script->OnFocus();
 }
 

@@ -3,6 +3,7 @@
 
 #include "editing/language/Library.h"
 #include "host/commands/WorkbenchCommands.h"
+#include "host/files/Encodings.h"
 #include "host/files/Places.h"
 #include "host/files/Prompts.h"
 #include "host/preferences/Appearance.h"
@@ -230,8 +231,15 @@ void Workbench::OnOpenAs()
     const bool hasFile = script && !script->GetPathName().isEmpty();
     const std::optional<OpenChoice> choice = GetPrompts().WhatToOpen(
         WindowOf(*this), hasFile ? script->GetPathName() : FolderToStartIn(script));
-    if (choice)
+    if (!choice)
+        return;
+    ScriptDoc* open = FindOpen(choice->path);
+    if (!open || choice->encoding >= 0)
         OpenScript(choice->path, choice->encoding);
+    else if (OpenDocumentFile(choice->path) == open && open->Reopen(choice->encoding))
+        Q_EMIT open->Told(Texts::tr("%1 was read anew: it is %2")
+                              .arg(open->Name(), EncodingName(open->CurrentTarget().encoding,
+                                                              open->CurrentTarget().mark)));
 }
 
 void Workbench::ChooseScheme(const QString& name)

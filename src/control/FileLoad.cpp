@@ -23,9 +23,11 @@ constexpr UINT kNoMemoryText = 57346;
 constexpr int kLinesToJudge = 200;
 constexpr int kEnoughLineEnds = 10;
 
+// A host whose loader has no text for it tells it in its own way.
 void ShowText(HWND owner, UINT id)
 {
-    ShowMessage(owner, zncoreeditor::GetResourceLoader().LoadString(id));
+    if (const QString text = zncoreeditor::GetResourceLoader().LoadString(id); !text.isEmpty())
+        ShowMessage(owner, text);
 }
 
 // Storage for a long text is asked for at once, since growing to it step by step takes as long as

@@ -8,6 +8,7 @@
 #include <QElapsedTimer>
 #include <QMessageBox>
 #include <QMimeData>
+#include <QStatusBar>
 #include <QTabBar>
 #include <QTabWidget>
 #include <QUrl>
@@ -98,6 +99,20 @@ TEST_F(ScriptFiles, OpenInAnEncodingOfChoice)
     EXPECT_EQ(Status("encoding"), "UTF-8");
 }
 
+TEST_F(ScriptFiles, AreReadAnewInTheEncodingThatIsDetected)
+{
+    Write("a.sql", "caf\xE9 au lait");
+    m_prompts.whatToOpen = OpenChoice{PathOf("a.sql"), 6};
+    Trigger("openAs");
+    EXPECT_EQ(Status("encoding"), "UTF-8");
+    m_prompts.whatToOpen = OpenChoice{PathOf("a.sql"), -1};
+    Trigger("openAs");
+    EXPECT_EQ(m_window.TabCount(), 1);
+    EXPECT_EQ(Text(), QStringLiteral("café au lait"));
+    EXPECT_EQ(Status("encoding"), "windows-1252");
+    EXPECT_EQ(m_window.statusBar()->currentMessage(), "a.sql was read anew: it is windows-1252");
+}
+
 TEST_F(ScriptFiles, KeepTheirChangesOverAnotherEncodingUnlessThePersonGivesThemUp)
 {
     Open("a.sql", "caf\xC3\xA9");
@@ -146,6 +161,7 @@ TEST_F(ScriptFiles, ComeBackAsTheyAreOnDisk)
     Trigger("reload");
     ASSERT_EQ(m_prompts.told.size(), 1);
     EXPECT_TRUE(m_prompts.told[0].contains("reload"));
+    EXPECT_TRUE(m_prompts.told[0].contains("changes that are not saved are lost"));
     EXPECT_EQ(Text(), "xa");
     m_prompts.answer = Answer::Yes;
     Trigger("reload");
