@@ -101,7 +101,7 @@ void ScriptSource::SetLanguage(std::vector<LanguageWord> words)
 void ScriptSource::Propose(const ProposalQuery& query, std::vector<Proposal>& proposals)
 {
     if (query.place == Place::Comment || query.place == Place::String) {
-        ProposeWords(query, proposals);
+        ProposeWords(query, true, proposals);
         return;
     }
     if (!query.qualifier.isEmpty()) {
@@ -109,7 +109,7 @@ void ScriptSource::Propose(const ProposalQuery& query, std::vector<Proposal>& pr
             return;
         ProposeObjects(query, proposals);
         if (!query.typed.isEmpty())
-            ProposeWords(query, proposals);
+            ProposeWords(query, true, proposals);
         return;
     }
     if (m_index.Dialect()) {
@@ -118,10 +118,23 @@ void ScriptSource::Propose(const ProposalQuery& query, std::vector<Proposal>& pr
             ProposeColumns(proposals);
         ProposeObjects(query, proposals);
     }
+    const bool takesKeywords = !FitsTable(query, proposals);
     if (m_context.quote.isNull()) // what stands in quotes is a name
-        ProposeLanguage(query, proposals);
+        ProposeLanguage(query, takesKeywords, proposals);
     if (!query.typed.isEmpty())
-        ProposeWords(query, proposals);
+        ProposeWords(query, takesKeywords, proposals);
+}
+
+// Where a table is wanted and one of the script's begins with what is typed, ORDER and its like are
+// not meant, however well they fit.
+bool ScriptSource::FitsTable(const ProposalQuery& query, const std::vector<Proposal>& proposals)
+{
+    return query.place == Place::Table && !query.typed.isEmpty() &&
+           std::any_of(proposals.begin(), proposals.end(), [&](const Proposal& each) {
+               return (each.kind == ProposalKind::Table || each.kind == ProposalKind::View ||
+                       each.kind == ProposalKind::Cte) &&
+                      each.Compared().startsWith(query.typed, Qt::CaseInsensitive);
+           });
 }
 
 // What had quotes where it was given keeps them if it says something else without.
@@ -256,13 +269,15 @@ bool ScriptSource::IsQuotedAt(long position) const
 }
 
 // In the case that the person types in.
-void ScriptSource::ProposeLanguage(const ProposalQuery& query,
+void ScriptSource::ProposeLanguage(const ProposalQuery& query, bool takesKeywords,
                                    std::vector<Proposal>& proposals) const
 {
     const bool isCapital = query.typed.size() > 0 && query.typed != query.typed.toLower() &&
                            query.typed == query.typed.toUpper();
     const bool isScript = m_index.Dialect() != nullptr;
     for (const LanguageWord& word : m_words) {
+        if (!takesKeywords && word.kind == ProposalKind::Keyword)
+            continue;
         const bool isTable = word.kind == ProposalKind::System;
         const int rank = query.place == Place::Table ? (isTable ? Rank::Third : Rank::Fifth)
                          : query.place == Place::Routine
@@ -274,7 +289,8 @@ void ScriptSource::ProposeLanguage(const ProposalQuery& query,
     }
 }
 
-void ScriptSource::ProposeWords(const ProposalQuery& query, std::vector<Proposal>& proposals) const
+void ScriptSource::ProposeWords(const ProposalQuery& query, bool takesKeywords,
+                                std::vector<Proposal>& proposals) const
 {
     struct Fitting
     {
@@ -296,9 +312,11 @@ void ScriptSource::ProposeWords(const ProposalQuery& query, std::vector<Proposal
                    ? one.match < other.match
                    : ComesFirst(m_index.Words().Text(one.id), m_index.Words().Text(other.id));
     });
-    for (const Fitting& each : fitting)
-        proposals.push_back(
-            Named(ProposalKind::Word, ToText(m_index.Words().Text(each.id)), Rank::Last));
+    for (const Fitting& each : fitting) {
+        const QString word = ToText(m_index.Words().Text(each.id));
+        if (takesKeywords || !IsKeyword(word))
+            proposals.push_back(Named(ProposalKind::Word, word, Rank::Last));
+    }
 }
 
 } // namespace completion

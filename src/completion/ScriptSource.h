@@ -28,8 +28,11 @@ private:
     bool ProposeQualified(const ProposalQuery& query, std::vector<Proposal>& proposals) const;
     void ProposeLocals(const ProposalQuery& query, std::vector<Proposal>& proposals) const;
     void ProposeObjects(const ProposalQuery& query, std::vector<Proposal>& proposals) const;
-    void ProposeLanguage(const ProposalQuery& query, std::vector<Proposal>& proposals) const;
-    void ProposeWords(const ProposalQuery& query, std::vector<Proposal>& proposals) const;
+    void ProposeLanguage(const ProposalQuery& query, bool takesKeywords,
+                         std::vector<Proposal>& proposals) const;
+    void ProposeWords(const ProposalQuery& query, bool takesKeywords,
+                      std::vector<Proposal>& proposals) const;
+    static bool FitsTable(const ProposalQuery& query, const std::vector<Proposal>& proposals);
     void AddColumns(const std::vector<Column>& columns, int& rank,
                     std::vector<Proposal>& proposals) const;
     bool IsKeyword(const QString& name) const;

@@ -76,6 +76,20 @@ TEST(Proposals, AreTablesFirstBehindFrom)
     EXPECT_EQ(caret.First(1), "Orders");
 }
 
+TEST(Proposals, AreNoKeywordsWhereATableFits)
+{
+    const std::u16string script = std::u16string(kTables) + u"select 1 from t Order by 1;\n";
+    for (const char16_t* begun :
+         {u"select * from ORDER|", u"select * from t a join order|", u"insert into order|",
+          u"update order|", u"delete from Order|", u"SELECT * FROM ord|"}) {
+        Caret caret(script + begun);
+        EXPECT_EQ(caret.First(1), "Orders") << QString::fromUtf16(begun).toStdString();
+        EXPECT_FALSE(caret.Texts().contains(QStringLiteral("order"), Qt::CaseInsensitive));
+    }
+    EXPECT_TRUE(Caret(script + u"select * from t ord|").Texts().contains("order"));
+    EXPECT_EQ(Caret(u"select * from ord|").First(1), "order");
+}
+
 TEST(Proposals, AreTheColumnsOfTheStatementBeforeKeywords)
 {
     Caret caret(std::u16string(kTables) + u"select o| from orders ord where 1 = 1");
