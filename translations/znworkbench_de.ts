@@ -1198,6 +1198,10 @@ Mit Qt %1. Lizenziert unter der GNU General Public License, Version 3 oder spät
         <source>&amp;Encoding without a mark</source>
         <translation>Kodie&amp;rung ohne BOM</translation>
     </message>
+    <message>
+        <source>Close brackets and &amp;quotes</source>
+        <translation>Kla&amp;mmern und Anführungszeichen schließen</translation>
+    </message>
 </context>
 <context>
     <name>OutlinePane</name>

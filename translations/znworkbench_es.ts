@@ -1198,6 +1198,10 @@ Con Qt %1. Con licencia pública general de GNU, versión 3 o posterior.</transl
         <source>&amp;Encoding without a mark</source>
         <translation>C&amp;odificación sin marca</translation>
     </message>
+    <message>
+        <source>Close brackets and &amp;quotes</source>
+        <translation>Cerrar corc&amp;hetes, paréntesis y comillas</translation>
+    </message>
 </context>
 <context>
     <name>OutlinePane</name>

@@ -1198,6 +1198,10 @@ Avec Qt %1. Sous licence publique générale GNU, version 3 ou ultérieure.</tra
         <source>&amp;Encoding without a mark</source>
         <translation>Enc&amp;odage sans marque</translation>
     </message>
+    <message>
+        <source>Close brackets and &amp;quotes</source>
+        <translation>Fermer les parent&amp;hèses et les guillemets</translation>
+    </message>
 </context>
 <context>
     <name>OutlinePane</name>

@@ -1192,6 +1192,10 @@ Qt %1 を使用。GNU General Public License バージョン 3 以降の下で�
         <source>&amp;Encoding without a mark</source>
         <translation>マークのないファイルのエンコーディング(&amp;E)</translation>
     </message>
+    <message>
+        <source>Close brackets and &amp;quotes</source>
+        <translation>かっこと引用符を閉じる(&amp;Q)</translation>
+    </message>
 </context>
 <context>
     <name>OutlinePane</name>

@@ -1192,6 +1192,10 @@ Over Qt %1. Licensed under the GNU General Public License, version 3 or later.</
         <source>&amp;Encoding without a mark</source>
         <translation>无标记时的编码(&amp;E)</translation>
     </message>
+    <message>
+        <source>Close brackets and &amp;quotes</source>
+        <translation>自动补全括号和引号(&amp;Q)</translation>
+    </message>
 </context>
 <context>
     <name>OutlinePane</name>

@@ -39,6 +39,8 @@ constexpr SwitchRow kSwitches[] = {
     {"surroundSelection",
      QT_TRANSLATE_NOOP("OptionsDialog", "T&yped quotes and brackets surround the selection"),
      option::SurroundSelection},
+    {"closePairs", QT_TRANSLATE_NOOP("OptionsDialog", "Close brackets and &quotes"),
+     option::ClosePairs},
     {"printColours", QT_TRANSLATE_NOOP("OptionsDialog", "&Print in colours"), option::PrintColours},
     {"printGround", QT_TRANSLATE_NOOP("OptionsDialog", "Print the &grounds of colours"),
      option::PrintGround},

@@ -5,6 +5,7 @@
 
 #include "host/files/OpenGuard.h"
 #include "host/files/RecentFiles.h"
+#include "host/options/WorkbenchOptions.h"
 #include "host/preferences/WorkbenchPreferences.h"
 #include "host/printing/WorkbenchPrinter.h"
 #include "host/recovery/RecoverableCopy.h"
@@ -64,6 +65,7 @@ private:
     void RecoverScript(const RecoverableCopy& copy);
 
     Keeps m_keeps;
+    WorkbenchOptions m_options;
     OpenGuard m_guard;
     WorkbenchPrinter m_printer;
     WorkProgress m_progress;

@@ -1,10 +1,26 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "host/options/OptionsDialog.h"
+#include "host/options/WorkbenchOptions.h"
 
 #include <QApplication>
 #include <QTest>
 
 #include <gtest/gtest.h>
+
+TEST(TheOptions, OfTheWorkbenchHelpTypingUnlessSomebodyHasChosen)
+{
+    for (const int key : {option::ClosePairs, option::SurroundSelection}) {
+        const QString kept = CZNOptionsServer::GetObjectW()->GetString(key);
+        WorkbenchOptions options;
+        ASSERT_EQ(CZNOptionsServer::GetObjectW(), &options);
+        options.SetString(key, QString());
+        EXPECT_TRUE(options.GetBool(key));
+        EXPECT_FALSE(CZNOptionsServer().GetBool(key));
+        options.SetInt(key, 0);
+        EXPECT_FALSE(options.GetBool(key));
+        options.SetString(key, kept);
+    }
+}
 
 // From the top, as it is read.
 TEST(TheOptions, AreWalkedThroughRowByRow)

@@ -3,6 +3,7 @@
 #include "editing/ZNCoreEditorControlEx.h"
 
 #include "control/EngineLooks.h"
+#include "editing/hands/PairKeys.h"
 #include "editing/hands/SurroundKeys.h"
 #include "editing/language/FileTypeManager.h"
 #include "editing/language/Library.h"
@@ -122,6 +123,7 @@ void CZNCoreEditorControlEx::SetScheme(const QString& name)
         });
         new HoverTips(*this, m_desktopWatch); // which it goes with
         new SurroundKeys(*this, m_desktopWatch);
+        new PairKeys(*this, m_desktopWatch);
     }
     if (name.isEmpty() && GetSafeHwnd()) {
         Call(engine::kSetLooks, 0, 0, 1);

@@ -77,6 +77,7 @@ enum Key : int
     PrintGround = 50513,       ///< bool: the colours' grounds are printed too
     PrintOwnFont = 50514,      ///< bool: printed in the print font, else in the editor's
     SurroundSelection = 50515, ///< bool: a quote or bracket that is typed surrounds the selection
+    ClosePairs = 50516,        ///< bool: a typed bracket or quote gets its partner
     DefaultTextType = 50637,   ///< int: znutils::TextType of files without a mark
     ContinueComments = 50827   ///< bool: Enter continues a comment
 };
