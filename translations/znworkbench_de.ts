@@ -684,6 +684,14 @@ Mit Qt %1. Lizenziert unter der GNU General Public License, Version 3 oder spät
         <source>%1 is not a macro that can be played: line %2 is no command that is recorded.</source>
         <translation>%1 ist kein Makro, das abgespielt werden kann: Zeile %2 ist kein Befehl, der aufgezeichnet wird.</translation>
     </message>
+    <message>
+        <source>Macro loaded: %1</source>
+        <translation>Makro geladen: %1</translation>
+    </message>
+    <message>
+        <source>Macro loaded: %1. %2 plays it.</source>
+        <translation>Makro geladen: %1. %2 spielt es ab.</translation>
+    </message>
 </context>
 <context>
     <name>MainWindow</name>

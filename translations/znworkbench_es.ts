@@ -684,6 +684,14 @@ Con Qt %1. Con licencia pública general de GNU, versión 3 o posterior.</transl
         <source>%1 is not a macro that can be played: line %2 is no command that is recorded.</source>
         <translation>%1 no es una macro que se pueda reproducir: la línea %2 no es una orden que se grabe.</translation>
     </message>
+    <message>
+        <source>Macro loaded: %1</source>
+        <translation>Macro cargada: %1</translation>
+    </message>
+    <message>
+        <source>Macro loaded: %1. %2 plays it.</source>
+        <translation>Macro cargada: %1. %2 la reproduce.</translation>
+    </message>
 </context>
 <context>
     <name>MainWindow</name>

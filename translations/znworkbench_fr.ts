@@ -684,6 +684,14 @@ Avec Qt %1. Sous licence publique générale GNU, version 3 ou ultérieure.</tra
         <source>%1 is not a macro that can be played: line %2 is no command that is recorded.</source>
         <translation>%1 n’est pas une macro jouable&#xa0;: la ligne %2 n’est pas une commande qui s’enregistre.</translation>
     </message>
+    <message>
+        <source>Macro loaded: %1</source>
+        <translation>Macro chargée&#xa0;: %1</translation>
+    </message>
+    <message>
+        <source>Macro loaded: %1. %2 plays it.</source>
+        <translation>Macro chargée&#xa0;: %1. %2 la joue.</translation>
+    </message>
 </context>
 <context>
     <name>MainWindow</name>

@@ -680,6 +680,14 @@ Qt %1 を使用。GNU General Public License バージョン 3 以降の下で�
         <source>%1 is not a macro that can be played: line %2 is no command that is recorded.</source>
         <translation>%1 は実行できるマクロではありません: %2 行目は記録されるコマンドではありません。</translation>
     </message>
+    <message>
+        <source>Macro loaded: %1</source>
+        <translation>マクロを読み込みました: %1</translation>
+    </message>
+    <message>
+        <source>Macro loaded: %1. %2 plays it.</source>
+        <translation>マクロを読み込みました: %1。%2 で再生します。</translation>
+    </message>
 </context>
 <context>
     <name>MainWindow</name>

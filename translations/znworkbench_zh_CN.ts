@@ -680,6 +680,14 @@ Over Qt %1. Licensed under the GNU General Public License, version 3 or later.</
         <source>%1 is not a macro that can be played: line %2 is no command that is recorded.</source>
         <translation>%1 不是可以播放的宏：第 %2 行不是可录制的命令。</translation>
     </message>
+    <message>
+        <source>Macro loaded: %1</source>
+        <translation>已加载宏:%1</translation>
+    </message>
+    <message>
+        <source>Macro loaded: %1. %2 plays it.</source>
+        <translation>已加载宏:%1。按 %2 播放。</translation>
+    </message>
 </context>
 <context>
     <name>MainWindow</name>

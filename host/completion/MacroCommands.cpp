@@ -6,10 +6,13 @@
 #include "host/files/Prompts.h"
 #include "platform/windows/Questions.h"
 
+#include <QAction>
 #include <QCoreApplication>
 #include <QFile>
 #include <QFileInfo>
+#include <QMainWindow>
 #include <QSaveFile>
+#include <QStatusBar>
 
 namespace {
 
@@ -19,11 +22,26 @@ struct Texts
 };
 
 constexpr qint64 kLongest = 64 << 20; // bytes
+constexpr int kMessageTime = 10000;   // milliseconds
 constexpr QLatin1String kEnding(".znmacro");
 
 QString Filter()
 {
     return Texts::tr("Macros (*.znmacro)");
+}
+
+// With the key that plays it, if a menu has one.
+void TellLoaded(QWidget& window, const QString& name)
+{
+    auto* main = qobject_cast<QMainWindow*>(window.window());
+    if (!main)
+        return;
+    const auto* play = main->findChild<QAction*>(QStringLiteral("playMacro"));
+    const QString key = play ? play->shortcut().toString(QKeySequence::NativeText) : QString();
+    main->statusBar()->showMessage(key.isEmpty()
+                                       ? Texts::tr("Macro loaded: %1").arg(name)
+                                       : Texts::tr("Macro loaded: %1. %2 plays it.").arg(name, key),
+                                   kMessageTime);
 }
 
 } // namespace
@@ -76,4 +94,5 @@ void LoadMacro(QWidget* window)
     }
     FreeMacro();
     SetMacroHead(read.head);
+    TellLoaded(*window, info.fileName());
 }

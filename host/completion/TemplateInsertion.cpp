@@ -30,7 +30,8 @@ bool IsNameUnit(QChar unit)
     return unit.isLetterOrNumber() || unit == u'_' || unit == u'-';
 }
 
-// The word up to the caret, empty if one goes on behind it.
+} // namespace
+
 QString NameBeforeCaret(CZNCoreEditorControlEx& editor)
 {
     const long caret = editor.GetCurrentPos(1);
@@ -46,8 +47,6 @@ QString NameBeforeCaret(CZNCoreEditorControlEx& editor)
         --start;
     return text.mid(start);
 }
-
-} // namespace
 
 void InsertTemplate(CZNCoreEditorView& view, const CodeTemplate& made, long start)
 {

@@ -7,8 +7,12 @@
 
 #include <QObject>
 
+class CZNCoreEditorControlEx;
 class CZNCoreEditorView;
 class EditorCompletion;
+
+// What may be the beginning of a template's short name: the word up to the caret.
+QString NameBeforeCaret(CZNCoreEditorControlEx& editor);
 
 // In place of the units from start to the caret, in one undo step. The person may be asked for
 // values, and the view may be gone afterwards.

@@ -8,6 +8,8 @@
 #include <QLineEdit>
 #include <QListWidget>
 #include <QPlainTextEdit>
+#include <QRegularExpression>
+#include <QTextCursor>
 #include <QVBoxLayout>
 
 namespace {
@@ -16,7 +18,8 @@ constexpr std::size_t kMostRows = 500;
 
 } // namespace
 
-TemplateList::TemplateList(std::vector<completion::CodeTemplate> templates, QWidget* parent)
+TemplateList::TemplateList(std::vector<completion::CodeTemplate> templates, const QString& typed,
+                           QWidget* parent)
     : QDialog(parent, Qt::Popup), m_templates(std::move(templates)), m_words(new QLineEdit(this)),
       m_list(new QListWidget(this)), m_text(new QPlainTextEdit(this))
 {
@@ -43,6 +46,9 @@ TemplateList::TemplateList(std::vector<completion::CodeTemplate> templates, QWid
     connect(m_list, &QListWidget::itemClicked, this, &TemplateList::Choose);
     new ListKeys(*m_words, *m_list, [this] { Choose(); }); // goes with the line
     Filter({});
+    if (!completion::FindTemplates(m_templates, typed, 1).empty())
+        m_words->setText(typed);
+    m_words->selectAll();
     constexpr QSize kSize(720, 380);
     resize(kSize);
     m_words->setFocus();
@@ -72,7 +78,27 @@ const completion::CodeTemplate* TemplateList::Marked() const
 void TemplateList::ShowMarked()
 {
     const completion::CodeTemplate* made = Marked();
-    m_text->setPlainText(made ? made->lines.join(u'\n') : QString());
+    m_text->clear();
+    if (made)
+        ShowText(made->lines.join(u'\n'));
+}
+
+// As it will stand in the script, with the names of what will be asked for.
+void TemplateList::ShowText(const QString& text)
+{
+    static const QRegularExpression kMark(QStringLiteral("\\^!|\\^#(.*?)#\\^"));
+    QTextCharFormat asked;
+    asked.setFontItalic(true);
+    asked.setForeground(m_text->palette().brush(QPalette::Link));
+    QTextCursor cursor(m_text->document());
+    qsizetype done = 0;
+    for (const QRegularExpressionMatch& mark : kMark.globalMatch(text)) {
+        cursor.insertText(text.mid(done, mark.capturedStart() - done), QTextCharFormat());
+        cursor.insertText(mark.captured(1), asked);
+        done = mark.capturedEnd();
+    }
+    cursor.insertText(text.mid(done), QTextCharFormat());
+    m_text->moveCursor(QTextCursor::Start);
 }
 
 void TemplateList::Choose()

@@ -15,8 +15,10 @@ class TemplateList final : public QDialog
     Q_OBJECT
 
 public:
-    // A copy: the store may read its file again.
-    TemplateList(std::vector<completion::CodeTemplate> templates, QWidget* parent);
+    // A copy: the store may read its file again. The list begins with those that fit what was
+    // typed, if there are any.
+    TemplateList(std::vector<completion::CodeTemplate> templates, const QString& typed,
+                 QWidget* parent);
 
     void Choose(); // the one that is marked
 
@@ -26,6 +28,7 @@ Q_SIGNALS:
 private:
     void Filter(const QString& words);
     void ShowMarked();
+    void ShowText(const QString& text);
     const completion::CodeTemplate* Marked() const;
 
     std::vector<completion::CodeTemplate> m_templates;

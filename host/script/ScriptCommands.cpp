@@ -79,18 +79,24 @@ void ScriptView::CopyWithColours()
     ::CopyWithColours(m_coreEditor);
 }
 
-// At the caret, below the line that is written in.
+// At the caret, below the line that is written in. The word there begins the name of what is meant.
 void ScriptView::ChooseTemplate()
 {
     QWidget* window = GetSafeHwnd();
-    auto* list =
-        new TemplateList(TemplateStore::Global().Of(m_coreEditor.GetCurrentLanguage()), window);
+    auto* list = new TemplateList(
+        TemplateStore::Global().Of(m_coreEditor.GetCurrentLanguage()),
+        m_coreEditor.IsSelection() ? QString() : NameBeforeCaret(m_coreEditor), window);
     QObject::connect(list, &TemplateList::Chosen, window,
                      [this, window](const completion::CodeTemplate& made) {
                          if (AttachedWnd(window) != this || m_coreEditor.GetReadOnly(1))
                              return;
                          SetFocus();
-                         InsertTemplate(*this, made, m_coreEditor.GetCurrentPos(1));
+                         const QString typed =
+                             m_coreEditor.IsSelection() ? QString() : NameBeforeCaret(m_coreEditor);
+                         const bool isName = made.shortName.startsWith(typed, Qt::CaseInsensitive);
+                         InsertTemplate(*this, made,
+                                        m_coreEditor.GetCurrentPos(1) -
+                                            (isName ? static_cast<long>(typed.size()) : 0));
                      });
     const QPoint top = window->mapToGlobal(QPoint((window->width() - list->width()) / 2, 0));
     list->move(top);

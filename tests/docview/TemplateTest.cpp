@@ -140,6 +140,18 @@ TEST_F(Template, IndentsByNoMoreThanTheLineBufferHolds)
     EXPECT_EQ(second.trimmed(), QStringLiteral("b"));
 }
 
+TEST(InputBox, IsAsWideAsItsTitle)
+{
+    const QString title = QStringLiteral("A title of forty characters or some more");
+    CInputBox box(QStringLiteral("Name"), QStringLiteral("x"), 0, title, nullptr);
+    QTimer::singleShot(0, [&title] {
+        QWidget* window = QApplication::activeModalWidget();
+        EXPECT_GT(window->width(), window->fontMetrics().horizontalAdvance(title) + 100);
+        SendMessage(window, WM_COMMAND, IDOK, 0);
+    });
+    EXPECT_EQ(box.DoModal(), IDOK);
+}
+
 TEST(InputBox, RefusesAnEmptyValueWhereOneIsNeeded)
 {
     struct Told final : IUserQuestions

@@ -13,6 +13,8 @@
 #include <QLineEdit>
 #include <QListView>
 #include <QListWidget>
+#include <QPlainTextEdit>
+#include <QStatusBar>
 #include <QTest>
 #include <QTimer>
 
@@ -191,6 +193,36 @@ TEST_F(Completion, PutsATemplateInFromItsList)
         << Text().toStdString();
 }
 
+TEST_F(Completion, PutsATemplateInPlaceOfTheWordThatBeginsItsName)
+{
+    Show("  de|");
+    Trigger("insertTemplate");
+    auto* list = m_window.findChild<QDialog*>(QStringLiteral("templateList"));
+    ASSERT_TRUE(list);
+    auto* words = list->findChild<QLineEdit*>();
+    EXPECT_EQ(words->text(), QStringLiteral("de"));
+    words->setText(QStringLiteral("del"));
+    EXPECT_EQ(list->findChild<QPlainTextEdit*>()->toPlainText(),
+              QStringLiteral("DELETE FROM Table\nWHERE Condition;"));
+    Answer({QStringLiteral("orders"), QStringLiteral("id = 1")});
+    QTest::keyClick(words, Qt::Key_Return);
+    QApplication::processEvents();
+    EXPECT_EQ(Text().toStdString(), "  DELETE FROM orders\n  WHERE id = 1;\n");
+    Editor().Undo(1);
+    EXPECT_EQ(Text().toStdString(), "  de");
+}
+
+TEST_F(Completion, ListsAllTemplatesBehindAWordThatBeginsNone)
+{
+    Show("qqzx|");
+    Trigger("insertTemplate");
+    auto* list = m_window.findChild<QDialog*>(QStringLiteral("templateList"));
+    ASSERT_TRUE(list);
+    EXPECT_EQ(list->findChild<QLineEdit*>()->text(), QString());
+    EXPECT_GT(list->findChild<QListWidget*>()->count(), 5);
+    list->close();
+}
+
 TEST_F(Completion, OpensAFileOfTemplatesOfOnesOwn)
 {
     Show("|");
@@ -290,6 +322,8 @@ TEST_F(Completion, SavesAMacroAndLoadsIt)
     FreeMacro();
     m_prompts.file = PathOf("mine.znmacro");
     Trigger("loadMacro");
+    EXPECT_EQ(m_window.statusBar()->currentMessage(),
+              QStringLiteral("Macro loaded: mine.znmacro. Ctrl+Shift+P plays it."));
     Trigger("playMacro");
     EXPECT_EQ(Text().toStdString(), "ab");
     EXPECT_EQ(m_prompts.told.join('|').toStdString(), "");

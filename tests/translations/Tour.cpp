@@ -118,7 +118,7 @@ void Tour::OwnDialogs(const LookAtWindow& look)
     copy.name = QStringLiteral("a.sql");
     show(RecoveryDialog(&m_window, {copy, copy}));
     show(SymbolPicker({}, &m_window));
-    show(TemplateList({}, &m_window));
+    show(TemplateList({}, QString(), &m_window));
 }
 
 // Those that one answers.

@@ -18,6 +18,7 @@ struct Texts
 };
 
 constexpr int kWidestPrompt = 60; // characters, before it is broken into lines
+constexpr int kBesideTitle = 150; // pixels, of the icon and the buttons that windows have there
 
 } // namespace
 
@@ -37,6 +38,8 @@ void CInputBox::OnBuild(QWidget* window)
         prompt->setMinimumWidth(prompt->fontMetrics().averageCharWidth() * kWidestPrompt);
     }
     auto* value = AddControl(kValue, new QLineEdit(window));
+    value->setMinimumWidth(window->fontMetrics().horizontalAdvance(window->windowTitle()) +
+                           kBesideTitle);
     value->setAccessibleName(m_prompt.isEmpty() ? window->windowTitle() : m_prompt);
     auto* buttons = new QDialogButtonBox(QDialogButtonBox::Ok | QDialogButtonBox::Cancel, window);
     AddControl(IDOK, buttons->button(QDialogButtonBox::Ok))->setDefault(true);
