@@ -603,6 +603,13 @@ Mit Qt %1. Lizenziert unter der GNU General Public License, Version 3 oder spät
     </message>
 </context>
 <context>
+    <name>FolderModel</name>
+    <message>
+        <source>%1, in front</source>
+        <translation>%1, vorn</translation>
+    </message>
+</context>
+<context>
     <name>FolderPane</name>
     <message>
         <source>Folder</source>
@@ -617,8 +624,60 @@ Mit Qt %1. Lizenziert unter der GNU General Public License, Version 3 oder spät
         <translation>Aufwärts</translation>
     </message>
     <message>
-        <source>Of the Script</source>
-        <translation>Des Skripts</translation>
+        <source>&amp;Folder</source>
+        <translation>Ordner</translation>
+    </message>
+    <message>
+        <source>Part of a name, or *.sql</source>
+        <translation>Teil eines Namens oder *.sql</translation>
+    </message>
+    <message>
+        <source>Filter</source>
+        <translation>Filter</translation>
+    </message>
+    <message>
+        <source>Open Folder</source>
+        <translation>Ordner öffnen</translation>
+    </message>
+    <message>
+        <source>Open another folder</source>
+        <translation>Einen anderen Ordner öffnen</translation>
+    </message>
+    <message>
+        <source>Show the folder around this one</source>
+        <translation>Den übergeordneten Ordner zeigen</translation>
+    </message>
+    <message>
+        <source>Show Script</source>
+        <translation>Skript zeigen</translation>
+    </message>
+    <message>
+        <source>Show the script in front among its files</source>
+        <translation>Das Skript vorn unter seinen Dateien zeigen</translation>
+    </message>
+    <message>
+        <source>&amp;Open</source>
+        <translation>Ö&amp;ffnen</translation>
+    </message>
+    <message>
+        <source>Open &amp;Behind the Script in Front</source>
+        <translation>&amp;Hinter dem Skript vorn öffnen</translation>
+    </message>
+    <message>
+        <source>Show &amp;Only This Folder</source>
+        <translation>&amp;Nur diesen Ordner zeigen</translation>
+    </message>
+    <message>
+        <source>&amp;New Script Here</source>
+        <translation>Neues S&amp;kript hier</translation>
+    </message>
+    <message>
+        <source>Copy &amp;Path</source>
+        <translation>&amp;Pfad kopieren</translation>
+    </message>
+    <message>
+        <source>Open Containing &amp;Folder</source>
+        <translation>&amp;Enthaltenden Ordner öffnen</translation>
     </message>
 </context>
 <context>
@@ -748,7 +807,7 @@ Mit Qt %1. Lizenziert unter der GNU General Public License, Version 3 oder spät
         <translation>Ö&amp;ffnen...</translation>
     </message>
     <message>
-        <source>Open with &amp;Encoding...</source>
+        <source>Open &amp;with Encoding...</source>
         <translation>&amp;Mit Kodierung öffnen...</translation>
     </message>
     <message>
@@ -1077,6 +1136,10 @@ Mit Qt %1. Lizenziert unter der GNU General Public License, Version 3 oder spät
         <source>&amp;Document Map</source>
         <translation>Do&amp;kumentkarte</translation>
     </message>
+    <message>
+        <source>Open Fold&amp;er...</source>
+        <translation>&amp;Ordner öffnen...</translation>
+    </message>
 </context>
 <context>
     <name>OpenAsDialog</name>
@@ -1309,6 +1372,10 @@ Mit Qt %1. Lizenziert unter der GNU General Public License, Version 3 oder spät
     <message>
         <source>&amp;Overwrite</source>
         <translation>Ü&amp;berschreiben</translation>
+    </message>
+    <message>
+        <source>Open Folder</source>
+        <translation>Ordner öffnen</translation>
     </message>
 </context>
 <context>

@@ -603,6 +603,13 @@ Con Qt %1. Con licencia pública general de GNU, versión 3 o posterior.</transl
     </message>
 </context>
 <context>
+    <name>FolderModel</name>
+    <message>
+        <source>%1, in front</source>
+        <translation>%1, en primer plano</translation>
+    </message>
+</context>
+<context>
     <name>FolderPane</name>
     <message>
         <source>Folder</source>
@@ -617,8 +624,60 @@ Con Qt %1. Con licencia pública general de GNU, versión 3 o posterior.</transl
         <translation>Subir</translation>
     </message>
     <message>
-        <source>Of the Script</source>
-        <translation>La del script</translation>
+        <source>&amp;Folder</source>
+        <translation>Carpeta</translation>
+    </message>
+    <message>
+        <source>Part of a name, or *.sql</source>
+        <translation>Parte de un nombre, o *.sql</translation>
+    </message>
+    <message>
+        <source>Filter</source>
+        <translation>Filtro</translation>
+    </message>
+    <message>
+        <source>Open Folder</source>
+        <translation>Abrir carpeta</translation>
+    </message>
+    <message>
+        <source>Open another folder</source>
+        <translation>Abrir otra carpeta</translation>
+    </message>
+    <message>
+        <source>Show the folder around this one</source>
+        <translation>Mostrar la carpeta que contiene a esta</translation>
+    </message>
+    <message>
+        <source>Show Script</source>
+        <translation>Mostrar el script</translation>
+    </message>
+    <message>
+        <source>Show the script in front among its files</source>
+        <translation>Mostrar el script en primer plano entre sus archivos</translation>
+    </message>
+    <message>
+        <source>&amp;Open</source>
+        <translation>&amp;Abrir</translation>
+    </message>
+    <message>
+        <source>Open &amp;Behind the Script in Front</source>
+        <translation>Abrir &amp;detrás del script en primer plano</translation>
+    </message>
+    <message>
+        <source>Show &amp;Only This Folder</source>
+        <translation>Mostrar &amp;solo esta carpeta</translation>
+    </message>
+    <message>
+        <source>&amp;New Script Here</source>
+        <translation>&amp;Nuevo script aquí</translation>
+    </message>
+    <message>
+        <source>Copy &amp;Path</source>
+        <translation>&amp;Copiar ruta</translation>
+    </message>
+    <message>
+        <source>Open Containing &amp;Folder</source>
+        <translation>Abrir la carpeta con&amp;tenedora</translation>
     </message>
 </context>
 <context>
@@ -748,7 +807,7 @@ Con Qt %1. Con licencia pública general de GNU, versión 3 o posterior.</transl
         <translation>&amp;Abrir...</translation>
     </message>
     <message>
-        <source>Open with &amp;Encoding...</source>
+        <source>Open &amp;with Encoding...</source>
         <translation>A&amp;brir con codificación...</translation>
     </message>
     <message>
@@ -1077,6 +1136,10 @@ Con Qt %1. Con licencia pública general de GNU, versión 3 o posterior.</transl
         <source>&amp;Document Map</source>
         <translation>&amp;Mapa del documento</translation>
     </message>
+    <message>
+        <source>Open Fold&amp;er...</source>
+        <translation>Abrir carpeta...</translation>
+    </message>
 </context>
 <context>
     <name>OpenAsDialog</name>
@@ -1309,6 +1372,10 @@ Con Qt %1. Con licencia pública general de GNU, versión 3 o posterior.</transl
     <message>
         <source>&amp;Overwrite</source>
         <translation>&amp;Sobrescribir</translation>
+    </message>
+    <message>
+        <source>Open Folder</source>
+        <translation>Abrir carpeta</translation>
     </message>
 </context>
 <context>

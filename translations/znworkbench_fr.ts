@@ -603,6 +603,13 @@ Avec Qt %1. Sous licence publique générale GNU, version 3 ou ultérieure.</tra
     </message>
 </context>
 <context>
+    <name>FolderModel</name>
+    <message>
+        <source>%1, in front</source>
+        <translation>%1, au premier plan</translation>
+    </message>
+</context>
+<context>
     <name>FolderPane</name>
     <message>
         <source>Folder</source>
@@ -617,8 +624,60 @@ Avec Qt %1. Sous licence publique générale GNU, version 3 ou ultérieure.</tra
         <translation>Dossier parent</translation>
     </message>
     <message>
-        <source>Of the Script</source>
-        <translation>Celui du script</translation>
+        <source>&amp;Folder</source>
+        <translation>&amp;Dossier</translation>
+    </message>
+    <message>
+        <source>Part of a name, or *.sql</source>
+        <translation>Partie d’un nom, ou *.sql</translation>
+    </message>
+    <message>
+        <source>Filter</source>
+        <translation>Filtre</translation>
+    </message>
+    <message>
+        <source>Open Folder</source>
+        <translation>Ouvrir un dossier</translation>
+    </message>
+    <message>
+        <source>Open another folder</source>
+        <translation>Ouvrir un autre dossier</translation>
+    </message>
+    <message>
+        <source>Show the folder around this one</source>
+        <translation>Afficher le dossier qui contient celui-ci</translation>
+    </message>
+    <message>
+        <source>Show Script</source>
+        <translation>Montrer le script</translation>
+    </message>
+    <message>
+        <source>Show the script in front among its files</source>
+        <translation>Montrer le script au premier plan parmi ses fichiers</translation>
+    </message>
+    <message>
+        <source>&amp;Open</source>
+        <translation>&amp;Ouvrir</translation>
+    </message>
+    <message>
+        <source>Open &amp;Behind the Script in Front</source>
+        <translation>Ouvrir &amp;derrière le script au premier plan</translation>
+    </message>
+    <message>
+        <source>Show &amp;Only This Folder</source>
+        <translation>Afficher &amp;seulement ce dossier</translation>
+    </message>
+    <message>
+        <source>&amp;New Script Here</source>
+        <translation>Nouveau script &amp;ici</translation>
+    </message>
+    <message>
+        <source>Copy &amp;Path</source>
+        <translation>&amp;Copier le chemin</translation>
+    </message>
+    <message>
+        <source>Open Containing &amp;Folder</source>
+        <translation>Ouvrir le dossier co&amp;ntenant</translation>
     </message>
 </context>
 <context>
@@ -748,7 +807,7 @@ Avec Qt %1. Sous licence publique générale GNU, version 3 ou ultérieure.</tra
         <translation>&amp;Ouvrir...</translation>
     </message>
     <message>
-        <source>Open with &amp;Encoding...</source>
+        <source>Open &amp;with Encoding...</source>
         <translation>Ouvrir &amp;avec un encodage...</translation>
     </message>
     <message>
@@ -1039,7 +1098,7 @@ Avec Qt %1. Sous licence publique générale GNU, version 3 ou ultérieure.</tra
     </message>
     <message>
         <source>Las&amp;t Used Script</source>
-        <translation>&amp;Dernier script utilisé</translation>
+        <translation>Dernier script utilisé</translation>
     </message>
     <message>
         <source>Longest Unused Script</source>
@@ -1076,6 +1135,10 @@ Avec Qt %1. Sous licence publique générale GNU, version 3 ou ultérieure.</tra
     <message>
         <source>&amp;Document Map</source>
         <translation>Aperçu &amp;global</translation>
+    </message>
+    <message>
+        <source>Open Fold&amp;er...</source>
+        <translation>Ouvrir un &amp;dossier...</translation>
     </message>
 </context>
 <context>
@@ -1309,6 +1372,10 @@ Avec Qt %1. Sous licence publique générale GNU, version 3 ou ultérieure.</tra
     <message>
         <source>&amp;Overwrite</source>
         <translation>É&amp;craser</translation>
+    </message>
+    <message>
+        <source>Open Folder</source>
+        <translation>Ouvrir un dossier</translation>
     </message>
 </context>
 <context>

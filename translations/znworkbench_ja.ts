@@ -599,6 +599,13 @@ Qt %1 を使用。GNU General Public License バージョン 3 以降の下で�
     </message>
 </context>
 <context>
+    <name>FolderModel</name>
+    <message>
+        <source>%1, in front</source>
+        <translation>%1、前面</translation>
+    </message>
+</context>
+<context>
     <name>FolderPane</name>
     <message>
         <source>Folder</source>
@@ -613,8 +620,60 @@ Qt %1 を使用。GNU General Public License バージョン 3 以降の下で�
         <translation>上へ</translation>
     </message>
     <message>
-        <source>Of the Script</source>
-        <translation>スクリプトのフォルダー</translation>
+        <source>&amp;Folder</source>
+        <translation>フォルダー(&amp;F)</translation>
+    </message>
+    <message>
+        <source>Part of a name, or *.sql</source>
+        <translation>名前の一部、または *.sql</translation>
+    </message>
+    <message>
+        <source>Filter</source>
+        <translation>絞り込み</translation>
+    </message>
+    <message>
+        <source>Open Folder</source>
+        <translation>フォルダーを開く</translation>
+    </message>
+    <message>
+        <source>Open another folder</source>
+        <translation>ほかのフォルダーを開く</translation>
+    </message>
+    <message>
+        <source>Show the folder around this one</source>
+        <translation>このフォルダーを含むフォルダーを表示</translation>
+    </message>
+    <message>
+        <source>Show Script</source>
+        <translation>スクリプトを表示</translation>
+    </message>
+    <message>
+        <source>Show the script in front among its files</source>
+        <translation>前面のスクリプトをファイルの中に表示</translation>
+    </message>
+    <message>
+        <source>&amp;Open</source>
+        <translation>開く(&amp;O)</translation>
+    </message>
+    <message>
+        <source>Open &amp;Behind the Script in Front</source>
+        <translation>前面のスクリプトの後ろに開く(&amp;B)</translation>
+    </message>
+    <message>
+        <source>Show &amp;Only This Folder</source>
+        <translation>このフォルダーだけを表示(&amp;O)</translation>
+    </message>
+    <message>
+        <source>&amp;New Script Here</source>
+        <translation>ここに新しいスクリプト(&amp;N)</translation>
+    </message>
+    <message>
+        <source>Copy &amp;Path</source>
+        <translation>パスをコピー(&amp;P)</translation>
+    </message>
+    <message>
+        <source>Open Containing &amp;Folder</source>
+        <translation>ファイルのあるフォルダーを開く(&amp;F)</translation>
     </message>
 </context>
 <context>
@@ -744,7 +803,7 @@ Qt %1 を使用。GNU General Public License バージョン 3 以降の下で�
         <translation>開く(&amp;O)...</translation>
     </message>
     <message>
-        <source>Open with &amp;Encoding...</source>
+        <source>Open &amp;with Encoding...</source>
         <translation>文字コードを指定して開く(&amp;E)...</translation>
     </message>
     <message>
@@ -1071,6 +1130,10 @@ Qt %1 を使用。GNU General Public License バージョン 3 以降の下で�
         <source>&amp;Document Map</source>
         <translation>ドキュメント マップ(&amp;D)</translation>
     </message>
+    <message>
+        <source>Open Fold&amp;er...</source>
+        <translation>フォルダーを開く(&amp;W)...</translation>
+    </message>
 </context>
 <context>
     <name>OpenAsDialog</name>
@@ -1303,6 +1366,10 @@ Qt %1 を使用。GNU General Public License バージョン 3 以降の下で�
     <message>
         <source>&amp;Overwrite</source>
         <translation>上書き(&amp;O)</translation>
+    </message>
+    <message>
+        <source>Open Folder</source>
+        <translation>フォルダーを開く</translation>
     </message>
 </context>
 <context>

@@ -599,6 +599,13 @@ Over Qt %1. Licensed under the GNU General Public License, version 3 or later.</
     </message>
 </context>
 <context>
+    <name>FolderModel</name>
+    <message>
+        <source>%1, in front</source>
+        <translation>%1，当前</translation>
+    </message>
+</context>
+<context>
     <name>FolderPane</name>
     <message>
         <source>Folder</source>
@@ -613,8 +620,60 @@ Over Qt %1. Licensed under the GNU General Public License, version 3 or later.</
         <translation>向上</translation>
     </message>
     <message>
-        <source>Of the Script</source>
-        <translation>脚本所在文件夹</translation>
+        <source>&amp;Folder</source>
+        <translation>文件夹(&amp;F)</translation>
+    </message>
+    <message>
+        <source>Part of a name, or *.sql</source>
+        <translation>名称的一部分，或 *.sql</translation>
+    </message>
+    <message>
+        <source>Filter</source>
+        <translation>筛选</translation>
+    </message>
+    <message>
+        <source>Open Folder</source>
+        <translation>打开文件夹</translation>
+    </message>
+    <message>
+        <source>Open another folder</source>
+        <translation>打开其他文件夹</translation>
+    </message>
+    <message>
+        <source>Show the folder around this one</source>
+        <translation>显示上一级文件夹</translation>
+    </message>
+    <message>
+        <source>Show Script</source>
+        <translation>显示脚本</translation>
+    </message>
+    <message>
+        <source>Show the script in front among its files</source>
+        <translation>在文件中显示当前脚本</translation>
+    </message>
+    <message>
+        <source>&amp;Open</source>
+        <translation>打开(&amp;O)</translation>
+    </message>
+    <message>
+        <source>Open &amp;Behind the Script in Front</source>
+        <translation>在当前脚本后面打开(&amp;B)</translation>
+    </message>
+    <message>
+        <source>Show &amp;Only This Folder</source>
+        <translation>只显示此文件夹(&amp;O)</translation>
+    </message>
+    <message>
+        <source>&amp;New Script Here</source>
+        <translation>在此新建脚本(&amp;N)</translation>
+    </message>
+    <message>
+        <source>Copy &amp;Path</source>
+        <translation>复制路径(&amp;P)</translation>
+    </message>
+    <message>
+        <source>Open Containing &amp;Folder</source>
+        <translation>打开所在文件夹(&amp;F)</translation>
     </message>
 </context>
 <context>
@@ -744,7 +803,7 @@ Over Qt %1. Licensed under the GNU General Public License, version 3 or later.</
         <translation>打开(&amp;O)...</translation>
     </message>
     <message>
-        <source>Open with &amp;Encoding...</source>
+        <source>Open &amp;with Encoding...</source>
         <translation>以指定编码打开(&amp;E)...</translation>
     </message>
     <message>
@@ -1071,6 +1130,10 @@ Over Qt %1. Licensed under the GNU General Public License, version 3 or later.</
         <source>&amp;Document Map</source>
         <translation>文档缩略图(&amp;D)</translation>
     </message>
+    <message>
+        <source>Open Fold&amp;er...</source>
+        <translation>打开文件夹(&amp;W)...</translation>
+    </message>
 </context>
 <context>
     <name>OpenAsDialog</name>
@@ -1303,6 +1366,10 @@ Over Qt %1. Licensed under the GNU General Public License, version 3 or later.</
     <message>
         <source>&amp;Overwrite</source>
         <translation>覆盖(&amp;O)</translation>
+    </message>
+    <message>
+        <source>Open Folder</source>
+        <translation>打开文件夹</translation>
     </message>
 </context>
 <context>

@@ -49,6 +49,11 @@ QStringList DialogPrompts::FilesToOpen(QWidget* parent, const QString& folder)
     return dialog.exec() == QDialog::Accepted ? dialog.selectedFiles() : QStringList();
 }
 
+QString DialogPrompts::FolderToShow(QWidget* parent, const QString& folder)
+{
+    return QFileDialog::getExistingDirectory(parent, Texts::tr("Open Folder"), folder);
+}
+
 std::optional<OpenChoice> DialogPrompts::WhatToOpen(QWidget* parent, const QString& place)
 {
     OpenAsDialog dialog(parent, place);

@@ -47,6 +47,7 @@ public:
     virtual ~Prompts() = default;
 
     virtual QStringList FilesToOpen(QWidget* parent, const QString& folder) = 0; // empty: none
+    virtual QString FolderToShow(QWidget* parent, const QString& folder) = 0;    // empty: none
     // Which file, and how to read it; nothing if the person thought better of it.
     virtual std::optional<OpenChoice> WhatToOpen(QWidget* parent, const QString& place) = 0;
     // Where and how to save; nothing if the person thought better of it.
@@ -65,6 +66,7 @@ class DialogPrompts final : public Prompts
 {
 public:
     QStringList FilesToOpen(QWidget* parent, const QString& folder) override;
+    QString FolderToShow(QWidget* parent, const QString& folder) override;
     std::optional<OpenChoice> WhatToOpen(QWidget* parent, const QString& place) override;
     std::optional<SaveTarget> WhereToSave(QWidget* parent, const SaveTarget& proposal) override;
     LoseChanges BeforeLosing(QWidget* parent, const QString& name) override;

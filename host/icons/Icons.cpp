@@ -61,6 +61,12 @@ constexpr Row kRows[] = {
     {"commands",    nullptr,              nullptr},
     {"options",     "preferences-system", nullptr},
     {"modified",    nullptr,              nullptr},
+    {"filePlain",   nullptr,              nullptr},
+    {"fileFolder",  nullptr,              nullptr},
+    {"fileScript",  nullptr,              nullptr},
+    {"openFolder",  "folder-open",        nullptr},
+    {"showScript",  nullptr,              nullptr},
+    {"upFolder",    "go-up",              nullptr},
     {"keys",        "help-contents",      "help"},
 };
 // clang-format on

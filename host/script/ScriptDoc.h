@@ -58,7 +58,8 @@ public:
     // which the person knows.
     bool Recover(const RecoverableCopy& copy);
 
-    QString Name() const; // the file's, or the one given
+    QString Name() const;                                        // the file's, or the one given
+    void SetFolder(const QString& folder) { m_folder = folder; } // for a first file
     // Where a plain save goes: the file behind the text, the path empty if there is none yet.
     SaveTarget CurrentTarget() const;
     int ChosenEncoding() const { return m_chosenEncoding; } // by a person; -1: detected
@@ -116,6 +117,7 @@ private:
     std::unique_ptr<LineEndWatch> m_lineEnds;
     int LanguageToOpenWith(const QString& path) const;
 
+    QString m_folder; // empty: the current one
     int m_chosenEncoding = -1;
     bool m_onlyHere = false;  // the file has another text by now, or is gone, and this one is kept
     bool m_isTracked = false; // what others do to the file is asked about

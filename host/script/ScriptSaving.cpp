@@ -72,7 +72,8 @@ int ScriptDoc::SaveAs()
 {
     SaveTarget proposal = CurrentTarget();
     if (proposal.path.isEmpty())
-        proposal.path = QDir::current().filePath(Name() + QStringLiteral(".sql"));
+        proposal.path = QDir(m_folder.isEmpty() ? QDir::currentPath() : m_folder)
+                            .filePath(Name() + QStringLiteral(".sql"));
     const std::optional<SaveTarget> target = GetPrompts().WhereToSave(Window(), proposal);
     return target && !IsClosed() ? SaveTo(*target) : 0;
 }

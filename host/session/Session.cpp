@@ -25,6 +25,7 @@ const QString kFront = QStringLiteral("front");
 const QString kGeometry = QStringLiteral("geometry");
 const QString kState = QStringLiteral("state");
 const QString kDocumentMap = QStringLiteral("documentMap");
+const QString kFolder = QStringLiteral("folder");
 const QString kPath = QStringLiteral("path");
 const QString kEncoding = QStringLiteral("encoding");
 const QString kCaretLine = QStringLiteral("caretLine");
@@ -128,7 +129,8 @@ QByteArray Session::ToBytes() const
                                 {kFront, front},
                                 {kGeometry, QString::fromLatin1(geometry.toBase64())},
                                 {kState, QString::fromLatin1(state.toBase64())},
-                                {kDocumentMap, documentMap}};
+                                {kDocumentMap, documentMap},
+                                {kFolder, folder}};
     return QJsonDocument(object).toJson(QJsonDocument::Compact);
 }
 
@@ -152,6 +154,9 @@ Session Session::FromBytes(const QByteArray& bytes)
     session.geometry = LayoutOf(object[kGeometry]);
     session.state = LayoutOf(object[kState]);
     session.documentMap = object[kDocumentMap].toBool();
+    const QString folder = object[kFolder].toString();
+    if (places::CanBeFile(folder))
+        session.folder = folder;
     return session;
 }
 

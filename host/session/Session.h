@@ -46,6 +46,7 @@ struct Session
     QByteArray geometry;      // as QWidget::saveGeometry gives it, which checks it on the way back
     QByteArray state;         // as QMainWindow::saveState gives it
     bool documentMap = false; // it is shown
+    QString folder;           // of the pane beside the scripts, absolute; empty: none yet
 
     bool operator==(const Session&) const = default;
 

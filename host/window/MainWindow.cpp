@@ -518,5 +518,6 @@ void MainWindow::UpdateAll()
     UpdateTitle();
     m_status->Show(frame);
     m_languages->ShowLanguage(frame ? frame->Script()->Language() : -1);
+    m_folder->SetFront(frame ? frame->Script()->GetPathName() : QString());
     UpdateCommands();
 }

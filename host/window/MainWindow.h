@@ -69,6 +69,7 @@ public:
     void FollowNow();
 
     // The commands of the menus that are the window's own.
+    void OpenFolder();
     void GoToSymbol();
     void ReopenClosed();
     void ShowKeys();
@@ -116,6 +117,7 @@ private:
     void UpdateCommands();
     void ShowViewOf(CZNCoreEditorControlEx* editor);
     void OpenRecent(const QString& path);
+    void OpenBehind(const QString& path);
     void OpenAsked();
 
     void OnTabAdded(QWidget* page);

@@ -92,7 +92,8 @@ std::span<const MainWindow::Command> MainWindow::Commands()
     static const Command commands[] = {
         {kFile, "new",       QT_TR_NOOP("&New"),          Key::New,          nullptr,        ID_FILE_NEW},
         {kFile, "open",      QT_TR_NOOP("&Open..."),      Key::Open,         nullptr,        ID_FILE_OPEN},
-        {kFile, "openAs",    QT_TR_NOOP("Open with &Encoding..."), Key::UnknownKey, "Ctrl+Shift+O", command::OpenAs},
+        {kFile, "openAs",    QT_TR_NOOP("Open &with Encoding..."), Key::UnknownKey, "Ctrl+Shift+O", command::OpenAs},
+        {kFile, "openFolder", QT_TR_NOOP("Open Fold&er..."), Key::UnknownKey, nullptr,       0, When::Always, Run<&W::OpenFolder>},
         {kFile, nullptr},
         {kFile, "openAtCaret", QT_TR_NOOP("Open a&t Caret"), Key::UnknownKey, "F12",         54026},
         {kFile, "save",      QT_TR_NOOP("&Save"),         Key::Save,         nullptr,        ID_FILE_SAVE},

@@ -4,6 +4,7 @@
 #include "editing/ZNCoreEditorControlEx.h"
 #include "host/expanded/ExpandedScript.h"
 #include "host/files/Prompts.h"
+#include "host/folder/FolderPane.h"
 #include "host/script/ScriptDoc.h"
 #include "host/script/ScriptFrame.h"
 #include "host/script/ScriptTabs.h"
@@ -123,6 +124,8 @@ void MainWindow::ResumeSession()
     if (!session.geometry.isEmpty())
         restoreGeometry(session.geometry);
     FitScreen(*this);
+    if (QFileInfo(session.folder).isDir())
+        m_folder->SetFolder(session.folder);
     if (!session.state.isEmpty())
         restoreState(session.state);
     m_showsMap = session.documentMap;
@@ -242,6 +245,7 @@ void MainWindow::KeepSession()
     session.geometry = saveGeometry();
     session.state = saveState();
     session.documentMap = m_showsMap;
+    session.folder = m_folder->Folder();
     session.Store(Session::DefaultPath());
 }
 

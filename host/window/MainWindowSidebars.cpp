@@ -4,19 +4,24 @@
 #include "editing/language/FileTypeManager.h"
 #include "editing/language/Library.h"
 #include "host/files/LanguageMemory.h"
+#include "host/files/Prompts.h"
 #include "host/folder/FolderPane.h"
 #include "host/outline/OutlinePane.h"
 #include "host/outline/SymbolPicker.h"
 #include "host/script/ScriptDoc.h"
 #include "host/script/ScriptFrame.h"
+#include "host/script/ScriptTabs.h"
 #include "host/script/ScriptView.h"
 #include "host/window/MainWindow.h"
 #include "host/window/Workbench.h"
 
+#include <QApplication>
 #include <QDir>
 #include <QFileInfo>
 #include <QMenuBar>
+#include <QPointer>
 #include <QTimer>
+#include <QTreeView>
 
 #include <chrono>
 
@@ -61,11 +66,42 @@ void MainWindow::BuildSidebars()
     connect(m_outline, &OutlinePane::Chosen, this, &MainWindow::SelectInScript);
     connect(m_folder, &FolderPane::Chosen, this,
             [this](const QString& path) { m_app.OpenDocumentFile(path); });
-    connect(m_folder, &FolderPane::ScriptFolderWanted, this, [this] {
-        const ScriptFrame* frame = CurrentFrame();
-        const QString path = frame ? frame->Script()->GetPathName() : QString();
-        m_folder->SetFolder(path.isEmpty() ? QDir::homePath() : QFileInfo(path).absolutePath());
+    connect(m_folder, &FolderPane::ChosenBehind, this, &MainWindow::OpenBehind);
+    connect(m_folder, &FolderPane::FolderWanted, this, &MainWindow::OpenFolder);
+    connect(m_folder, &FolderPane::FolderChanged, this, &MainWindow::KeepSessionSoon);
+    connect(m_folder, &FolderPane::NewScriptWanted, this, [this](const QString& folder) {
+        m_app.NewScript();
+        if (const ScriptFrame* frame = CurrentFrame())
+            frame->Script()->SetFolder(folder);
     });
+}
+
+void MainWindow::OpenFolder()
+{
+    const ScriptFrame* frame = CurrentFrame();
+    const QString path = frame ? frame->Script()->GetPathName() : QString();
+    QString place = m_folder->Folder();
+    if (place.isEmpty())
+        place = path.isEmpty() ? QDir::currentPath() : QFileInfo(path).absolutePath();
+    const QString folder = GetPrompts().FolderToShow(this, place);
+    if (folder.isEmpty())
+        return;
+    m_folder->SetFolder(folder);
+    m_folder->show();
+    m_folder->raise();
+    m_folder->ListArea()->setFocus();
+}
+
+// Whoever opens several files in a row stays where they are chosen.
+void MainWindow::OpenBehind(const QString& path)
+{
+    const QPointer<QWidget> front = m_tabs->currentWidget();
+    const QPointer<QWidget> focus = QApplication::focusWidget();
+    m_app.OpenDocumentFile(path);
+    if (front && m_tabs->indexOf(front) >= 0)
+        m_tabs->setCurrentWidget(front);
+    if (focus)
+        focus->setFocus();
 }
 
 void MainWindow::UpdateOutlineSoon()

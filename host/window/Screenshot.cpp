@@ -41,6 +41,7 @@ public:
     }
 
     QStringList FilesToOpen(QWidget*, const QString&) override { return {}; }
+    QString FolderToShow(QWidget*, const QString&) override { return {}; }
     std::optional<OpenChoice> WhatToOpen(QWidget*, const QString&) override { return {}; }
     std::optional<SaveTarget> WhereToSave(QWidget*, const SaveTarget&) override { return {}; }
     LoseChanges BeforeLosing(QWidget*, const QString&) override { return LoseChanges::Cancel; }

@@ -2,6 +2,7 @@
 // What the workbench remembers from one run to the next: the session, recent files, and a file that
 // it died on.
 #include "host/files/Places.h"
+#include "host/folder/FolderPane.h"
 #include "host/session/Session.h"
 #include "host/window/RecentMenu.h"
 #include "platform/system/SpecialFolders.h"
@@ -122,6 +123,28 @@ TEST_F(Memory, BringsBackTheDocumentMap)
         EXPECT_EQ(m_window->findChild<QAction*>(QStringLiteral("documentMap"))->isChecked(), shown);
         End();
     }
+}
+
+TEST_F(Memory, BringsBackTheFolderBesideTheScripts)
+{
+    Start();
+    ASSERT_TRUE(m_app->OpenDocumentFile(Write("a.sql", "a\n")));
+    const QString folder = m_files.filePath("sub");
+    ASSERT_TRUE(QDir().mkpath(folder));
+    m_prompts.folder = folder;
+    m_window->OpenFolder();
+    End();
+
+    Start();
+    const auto* pane = m_window->findChild<FolderPane*>();
+    EXPECT_TRUE(pane->isVisible());
+    EXPECT_EQ(pane->Folder(), folder);
+    End();
+
+    ASSERT_TRUE(QDir().rmdir(folder));
+    Start();
+    EXPECT_EQ(m_window->findChild<FolderPane*>()->Folder(), m_files.path())
+        << "that of the script, where the other one is gone";
 }
 
 TEST_F(Memory, BringsBackZoomFoldsAndBookmarks)

@@ -21,6 +21,12 @@ public:
 
     QStringList FilesToOpen(QWidget*, const QString&) override { return filesToOpen; }
 
+    QString FolderToShow(QWidget*, const QString& at) override
+    {
+        proposals << at;
+        return folder;
+    }
+
     std::optional<OpenChoice> WhatToOpen(QWidget*, const QString&) override { return whatToOpen; }
 
     std::optional<SaveTarget> WhereToSave(QWidget*, const SaveTarget& proposal) override
@@ -64,7 +70,8 @@ public:
     QString AskOpenFile(HWND, const QString&) override { return file; }
     QString AskSaveFile(HWND, const QString&, const QString&) override { return file; }
 
-    QString file; // to open or to save, that is no script
+    QString file;   // to open or to save, that is no script
+    QString folder; // to show
     QStringList filesToOpen;
     std::optional<OpenChoice> whatToOpen;
     std::optional<SaveTarget> saveTarget;

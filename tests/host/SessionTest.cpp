@@ -28,6 +28,7 @@ Session Example()
     session.geometry = QByteArray("\0\1geometry", 10);
     session.state = "state";
     session.documentMap = true;
+    session.folder = "/x/y";
     return session;
 }
 

@@ -1,7 +1,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 // Parts of the main window beside the script: tool bar, help, outline, folder, fields of the status
 // bar, tabs that were closed.
-#include "host/folder/FolderPane.h"
 #include "host/help/KeysDialog.h"
 #include "host/icons/Style.h"
 #include "host/options/OptionsDialog.h"
@@ -20,7 +19,6 @@
 #include <QAbstractButton>
 #include <QComboBox>
 #include <QDir>
-#include <QFileSystemModel>
 #include <QLabel>
 #include <QLineEdit>
 #include <QMenu>
@@ -327,22 +325,6 @@ TEST_F(WindowParts, LeaveOpenInTheOutlineWhatWasBeforeWordsWereSought)
     words->clear();
     EXPECT_FALSE(list.isExpanded(list.model()->index(0, 0)));
     EXPECT_TRUE(list.isExpanded(list.model()->index(1, 0)));
-}
-
-TEST_F(WindowParts, OpenFilesOfTheFolder)
-{
-    Write("other.sql", "other");
-    Open("a.sql", "a");
-    Trigger("folder");
-    auto* pane = m_window.findChild<FolderPane*>();
-    EXPECT_EQ(QFileInfo(pane->Folder()).canonicalFilePath(),
-              QFileInfo(PathOf("a.sql")).canonicalPath());
-    auto* model = qobject_cast<QFileSystemModel*>(pane->ListArea()->model());
-    ASSERT_NE(model, nullptr);
-    const QModelIndex other = model->index(pane->Folder() + "/other.sql");
-    ASSERT_TRUE(other.isValid());
-    Q_EMIT pane->ListArea()->activated(other);
-    EXPECT_EQ(Script().Name(), "other.sql");
 }
 
 TEST_F(WindowParts, SayWhyThereAreNoProblems)
