@@ -179,6 +179,34 @@ void LookPainter::Paint(QPainter& painter, const QPaintEvent& event)
         painter.restore();
     }
     PaintCurrentNumber(painter, height);
+    painter.setClipRect(m_window.viewport()->rect().adjusted(places.text, 0, 0, 0));
+    PaintCurrentMatch(painter, height);
+}
+
+// The match that is selected, told at a glance from the others, whose frames are thin.
+void LookPainter::PaintCurrentMatch(QPainter& painter, int height) const
+{
+    constexpr int kFrame = 2; // pixels
+    const auto start = static_cast<WPARAM>(m_raw.Send(Sci::SCI_GETSELECTIONSTART));
+    const auto end = m_raw.Send(Sci::SCI_GETSELECTIONEND);
+    const auto isLit = [this](std::intptr_t place) {
+        return m_raw.Send(Sci::SCI_INDICATORVALUEAT, kMatchIndicator, place) != 0;
+    };
+    const auto from = static_cast<std::intptr_t>(start);
+    if (!m_matches.IsShown() || end <= from || !isLit(from) || !isLit(end - 1))
+        return;
+    const auto place = [this](std::intptr_t at) {
+        return QPoint(static_cast<int>(m_raw.Send(Sci::SCI_POINTXFROMPOSITION, 0, at)),
+                      static_cast<int>(m_raw.Send(Sci::SCI_POINTYFROMPOSITION, 0, at)));
+    };
+    const QPoint first = place(from);
+    const QPoint last = place(end);
+    if (first.y() != last.y() || first.x() >= last.x()) // over several rows
+        return;
+    painter.setPen(
+        QPen(Colour(m_looks->match), kFrame, Qt::SolidLine, Qt::SquareCap, Qt::MiterJoin));
+    painter.setBrush(Qt::NoBrush);
+    painter.drawRect(QRect(first, QSize(last.x() - first.x(), height)).adjusted(0, 1, 0, -1));
 }
 
 long LookPainter::CaretLine() const

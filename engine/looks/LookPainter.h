@@ -71,6 +71,7 @@ private:
     void PaintStatementBar(QPainter& painter, const Margins& places, const Range& statement,
                            long line, int top, int height) const;
     void PaintCurrentNumber(QPainter& painter, int height);
+    void PaintCurrentMatch(QPainter& painter, int height) const;
     QFont NumberFont() const;
     long CaretLine() const;
     void PaintFold(QPainter& painter, const Margins& places, long line, int top, int height);

@@ -255,6 +255,21 @@ TEST_F(LooksTest, LightUpNoWordThatIsNobodysNameUnlessItIsSelected)
     EXPECT_TRUE(Becomes([&] { return IsMarked(kOccurrences, 50); }));
 }
 
+TEST_F(LooksTest, FrameTheMatchThatIsSelected)
+{
+    Put("aa b aa\n");
+    control.Call(engine::kShowMatches, 0, reinterpret_cast<LPARAM>(u"aa"), 1);
+    const QRect text = Window().viewport()->rect().adjusted(0, 0, -20, 0);
+    const auto framed = [&](long start, long end) {
+        control.SetSel(start, end, 1);
+        QApplication::processEvents();
+        return CountOf(Drawn::Match, text);
+    };
+    EXPECT_EQ(framed(0, 0), 0) << "the others are paler";
+    EXPECT_GT(framed(5, 7), 30);
+    EXPECT_EQ(framed(3, 4), 0);
+}
+
 TEST_F(LooksTest, ShowTheMatchesThatAreAskedForAndFollowTheText)
 {
     Put(QStringLiteral("aa b aa\n"));
