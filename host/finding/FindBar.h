@@ -69,6 +69,7 @@ private:
     QCheckBox* MakeOption(const char* name, const QString& label, bool isOn);
     QPushButton* MakeButton(const char* name);
     QLayout* MakeFindRow();
+    QToolButton* MakeCloseButton();
     void ShowReplaceRow(bool isShown);
     bool IsPossible(const Row& row) const;
     struct Range // of UTF-16 units

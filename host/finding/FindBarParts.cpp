@@ -4,6 +4,7 @@
 #include "editing/ZNCoreEditorControlEx.h"
 #include "host/finding/ExpressionHelp.h"
 #include "host/finding/FindBar.h"
+#include "host/finding/WrapRow.h"
 #include "host/icons/Icons.h"
 #include "search/FindReplaceManager.h"
 
@@ -82,20 +83,20 @@ FindBar::FindBar(std::function<CZNCoreEditorControlEx*()> editor, QWidget* paren
     m_showReplace->setAccessibleName(tr("Replacing"));
     m_result->setObjectName(QStringLiteral("findResult"));
     // A long result is cut rather than widening the window; its tool tip has all of it.
-    m_result->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Preferred);
+    QSizePolicy policy(QSizePolicy::Ignored, QSizePolicy::Preferred);
+    policy.setHorizontalStretch(1);
+    m_result->setSizePolicy(policy);
     m_preserveCase->setToolTip(tr("A replacement is in capitals where what it replaces is"));
     m_manager.SetPerlSyntax(m_help->IsPerl());
     auto* layout = new QGridLayout(this);
     layout->setContentsMargins(4, 2, 4, 2);
-    layout->setColumnStretch(1, 2);
-    layout->setColumnStretch(2, 3);
-    layout->addWidget(m_showReplace, 0, 0);
-    layout->addWidget(m_find, 0, 1);
-    layout->addLayout(MakeFindRow(), 0, 2);
+    layout->setColumnStretch(1, 1);
+    layout->addWidget(m_showReplace, 0, 0, Qt::AlignTop);
+    layout->addLayout(MakeFindRow(), 0, 1);
+    layout->addWidget(MakeCloseButton(), 0, 2, Qt::AlignTop);
     layout->addWidget(m_replaceRow, 1, 1, 1, 2);
-    auto* replacing = new QHBoxLayout(m_replaceRow);
-    replacing->setContentsMargins(0, 0, 0, 0);
-    replacing->addWidget(m_replace, 1);
+    auto* replacing = new WrapRow(m_replaceRow);
+    replacing->addWidget(m_replace);
     for (const char* name : {"replace", "replaceAll"})
         replacing->addWidget(MakeButton(name));
     replacing->addWidget(m_preserveCase);
@@ -130,9 +131,10 @@ FindBar::FindBar(std::function<CZNCoreEditorControlEx*()> editor, QWidget* paren
 QLayout* FindBar::MakeFindRow()
 {
     constexpr int kResultWidth = 12; // characters, at least
-    auto* row = new QHBoxLayout;
+    auto* row = new WrapRow;
     m_result->setMinimumWidth(fontMetrics().averageCharWidth() * kResultWidth);
-    row->addWidget(m_result, 1);
+    row->addWidget(m_find);
+    row->addWidget(m_result);
     for (const char* name : {"findPrevious", "findNext"}) {
         QPushButton* button = MakeButton(name);
         // The arrow stands for the words, whose letter stays.
@@ -145,9 +147,19 @@ QLayout* FindBar::MakeFindRow()
         button->setToolTip(button->accessibleName());
         row->addWidget(button);
     }
-    for (QWidget* option : {m_matchCase, m_wholeWord, m_inSelection, m_expression})
+    for (QWidget* option : {m_matchCase, m_wholeWord, m_inSelection})
         row->addWidget(option);
-    row->addWidget(m_help);
+    auto* expression = new QWidget(this); // with its help, which a row does not part
+    auto* parts = new QHBoxLayout(expression);
+    parts->setContentsMargins(0, 0, 0, 0);
+    parts->addWidget(m_expression);
+    parts->addWidget(m_help);
+    row->addWidget(expression);
+    return row;
+}
+
+QToolButton* FindBar::MakeCloseButton()
+{
     auto* close = new QToolButton(this);
     close->setObjectName(QStringLiteral("closeFind"));
     close->setIcon(CommandIcon(QStringLiteral("close")));
@@ -155,8 +167,7 @@ QLayout* FindBar::MakeFindRow()
     close->setAccessibleName(tr("Close"));
     close->setAutoRaise(true);
     connect(close, &QToolButton::clicked, this, &FindBar::Close);
-    row->addWidget(close);
-    return row;
+    return close;
 }
 
 QPushButton* FindBar::MakeButton(const char* name)
@@ -178,9 +189,13 @@ void FindBar::ShowReplaceRow(bool isShown)
 
 QComboBox* FindBar::MakeBox(const char* name, const QString& label)
 {
-    constexpr int kLeastLength = 14; // characters
+    constexpr int kLeastLength = 10; // characters
     auto* box = new QComboBox(this);
+    box->setSizeAdjustPolicy(QComboBox::AdjustToMinimumContentsLengthWithIcon);
     box->setMinimumContentsLength(kLeastLength);
+    QSizePolicy policy = box->sizePolicy();
+    policy.setHorizontalStretch(2);
+    box->setSizePolicy(policy);
     box->setObjectName(QLatin1String(name));
     box->setEditable(true);
     box->setInsertPolicy(QComboBox::NoInsert);

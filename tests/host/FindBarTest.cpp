@@ -594,6 +594,39 @@ TEST_F(FindBars, CountAnewOnceTheTextHasChanged)
     EXPECT_TRUE(QTest::qWaitFor([&] { return Result() == "1 of 3"; })) << Result().toStdString();
 }
 
+TEST_F(FindBars, HaveAllInSightInANarrowWindow)
+{
+    bar.Open();
+    for (const int width : {1100, 480, 330}) {
+        window.resize(width, 500);
+        Settle();
+        EXPECT_EQ(window.width(), width);
+        for (const QWidget* part : bar.findChildren<QWidget*>()) {
+            if (!part->isVisible() || part->isWindow())
+                continue;
+            const QRect place(part->mapTo(&window, QPoint()), part->size());
+            EXPECT_TRUE(window.rect().contains(place))
+                << width << ' ' << part->objectName().toStdString();
+            EXPECT_GE(part->width(),
+                      qobject_cast<const QCheckBox*>(part) ? part->sizeHint().width() : 1);
+        }
+    }
+}
+
+TEST_F(FindBars, ShowAllThatIsWrong)
+{
+    bar.Open();
+    Set("expression", true);
+    Seek("[a");
+    const auto* result = bar.findChild<QLabel*>("findResult");
+    ASSERT_TRUE(Result().startsWith("No expression"));
+    for (const int width : {1500, 1100, 560}) {
+        window.resize(width, 500);
+        Settle();
+        EXPECT_GE(result->width(), result->sizeHint().width()) << width;
+    }
+}
+
 TEST_F(FindBars, OffersWhatIsPossible)
 {
     Seek(QString());
