@@ -294,8 +294,8 @@ Mit Qt %1. Lizenziert unter der GNU General Public License, Version 3 oder spät
         <translation>Expandiertes Skript</translation>
     </message>
     <message>
-        <source>Files are looked for in the folders that Tools &gt; Options names.</source>
-        <translation>Dateien werden in den Ordnern gesucht, die unter Extras &gt; Optionen stehen.</translation>
+        <source>Files are looked for beside the script, and in the folders that Tools &gt; Options names.</source>
+        <translation>Dateien werden neben dem Skript gesucht und in den Ordnern, die unter Extras &gt; Optionen stehen.</translation>
     </message>
     <message>
         <source>Problems of the expanded script</source>
@@ -1849,6 +1849,10 @@ Mit Qt %1. Lizenziert unter der GNU General Public License, Version 3 oder spät
     <message>
         <source>No problems found.</source>
         <translation>Keine Probleme gefunden.</translation>
+    </message>
+    <message>
+        <source>Scripts in SQL are not checked. Choose PostgreSQL or SQLite in the Language menu to have this one checked.</source>
+        <translation>Skripte in SQL werden nicht geprüft. Damit dieses geprüft wird, im Menü Sprache PostgreSQL oder SQLite wählen.</translation>
     </message>
 </context>
 <context>

@@ -294,8 +294,8 @@ Con Qt %1. Con licencia pública general de GNU, versión 3 o posterior.</transl
         <translation>Script expandido</translation>
     </message>
     <message>
-        <source>Files are looked for in the folders that Tools &gt; Options names.</source>
-        <translation>Los archivos se buscan en las carpetas que indica Herramientas &gt; Opciones.</translation>
+        <source>Files are looked for beside the script, and in the folders that Tools &gt; Options names.</source>
+        <translation>Los archivos se buscan junto al script y en las carpetas que indica Herramientas &gt; Opciones.</translation>
     </message>
     <message>
         <source>Problems of the expanded script</source>
@@ -1849,6 +1849,10 @@ Con Qt %1. Con licencia pública general de GNU, versión 3 o posterior.</transl
     <message>
         <source>No problems found.</source>
         <translation>No se encontraron problemas.</translation>
+    </message>
+    <message>
+        <source>Scripts in SQL are not checked. Choose PostgreSQL or SQLite in the Language menu to have this one checked.</source>
+        <translation>Los scripts en SQL no se comprueban. Para comprobar este, elija PostgreSQL o SQLite en el menú Lenguaje.</translation>
     </message>
 </context>
 <context>

@@ -294,8 +294,8 @@ Avec Qt %1. Sous licence publique générale GNU, version 3 ou ultérieure.</tra
         <translation>Script développé</translation>
     </message>
     <message>
-        <source>Files are looked for in the folders that Tools &gt; Options names.</source>
-        <translation>Les fichiers sont cherchés dans les dossiers indiqués par Outils &gt; Options.</translation>
+        <source>Files are looked for beside the script, and in the folders that Tools &gt; Options names.</source>
+        <translation>Les fichiers sont cherchés à côté du script et dans les dossiers indiqués par Outils &gt; Options.</translation>
     </message>
     <message>
         <source>Problems of the expanded script</source>
@@ -1849,6 +1849,10 @@ Avec Qt %1. Sous licence publique générale GNU, version 3 ou ultérieure.</tra
     <message>
         <source>No problems found.</source>
         <translation>Aucun problème trouvé.</translation>
+    </message>
+    <message>
+        <source>Scripts in SQL are not checked. Choose PostgreSQL or SQLite in the Language menu to have this one checked.</source>
+        <translation>Les scripts en SQL ne sont pas vérifiés. Pour faire vérifier celui-ci, choisissez PostgreSQL ou SQLite dans le menu Langage.</translation>
     </message>
 </context>
 <context>

@@ -294,8 +294,8 @@ Qt %1 を使用。GNU General Public License バージョン 3 以降の下で�
         <translation>展開後のスクリプト</translation>
     </message>
     <message>
-        <source>Files are looked for in the folders that Tools &gt; Options names.</source>
-        <translation>ファイルは「ツール &gt; オプション」で指定したフォルダーから探されます。</translation>
+        <source>Files are looked for beside the script, and in the folders that Tools &gt; Options names.</source>
+        <translation>ファイルはスクリプトと同じフォルダーと、「ツール &gt; オプション」で指定したフォルダーから探されます。</translation>
     </message>
     <message>
         <source>Problems of the expanded script</source>
@@ -1837,6 +1837,10 @@ Qt %1 を使用。GNU General Public License バージョン 3 以降の下で�
     <message>
         <source>No problems found.</source>
         <translation>問題は見つかりませんでした。</translation>
+    </message>
+    <message>
+        <source>Scripts in SQL are not checked. Choose PostgreSQL or SQLite in the Language menu to have this one checked.</source>
+        <translation>SQL のスクリプトは検査されません。検査するには「言語」メニューで PostgreSQL または SQLite を選んでください。</translation>
     </message>
 </context>
 <context>

@@ -294,8 +294,8 @@ Over Qt %1. Licensed under the GNU General Public License, version 3 or later.</
         <translation>展开的脚本</translation>
     </message>
     <message>
-        <source>Files are looked for in the folders that Tools &gt; Options names.</source>
-        <translation>将在“工具 &gt; 选项”指定的文件夹中查找文件。</translation>
+        <source>Files are looked for beside the script, and in the folders that Tools &gt; Options names.</source>
+        <translation>将在脚本所在的文件夹和“工具 &gt; 选项”指定的文件夹中查找文件。</translation>
     </message>
     <message>
         <source>Problems of the expanded script</source>
@@ -1837,6 +1837,10 @@ Over Qt %1. Licensed under the GNU General Public License, version 3 or later.</
     <message>
         <source>No problems found.</source>
         <translation>未发现问题。</translation>
+    </message>
+    <message>
+        <source>Scripts in SQL are not checked. Choose PostgreSQL or SQLite in the Language menu to have this one checked.</source>
+        <translation>不检查 SQL 脚本。要检查此脚本，请在“语言”菜单中选择 PostgreSQL 或 SQLite。</translation>
     </message>
 </context>
 <context>

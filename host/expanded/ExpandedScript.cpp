@@ -11,6 +11,7 @@
 #include "preprocess/Leftovers.h"
 
 #include <QAction>
+#include <QFileInfo>
 #include <QHeaderView>
 #include <QLabel>
 #include <QShortcut>
@@ -37,7 +38,8 @@ ExpandedScript::ExpandedScript(QWidget* parent)
     m_editor->setObjectName(QStringLiteral("expandedText"));
     m_editor->setAccessibleName(tr("Expanded script"));
     m_hint->setObjectName(QStringLiteral("includeHint"));
-    m_hint->setText(tr("Files are looked for in the folders that Tools > Options names."));
+    m_hint->setText(tr(
+        "Files are looked for beside the script, and in the folders that Tools > Options names."));
     m_hint->setWordWrap(true);
     m_hint->setMargin(4);
     m_hint->hide();
@@ -109,6 +111,8 @@ void ExpandedScript::Expand(ScriptDoc& script, CZNCoreEditorControlEx& editor)
     CZNCoreEditorControlEx& control = m_editor->control();
     control.SetCarefulFiles(true);
     control.SetReadOnly(0, 1);
+    const QString path = script.GetPathName();
+    control.SetDatasourceSearchPath(path.isEmpty() ? path : QFileInfo(path).absolutePath());
     control.SetEOLMode(editor.GetEOLMode(1), 1);
     control.SetUndoCollection(0, 1); // nobody has changed these lines
     control.SetText(Units(editor.GetText()), 1);

@@ -70,9 +70,32 @@ const DialectRow* DialectNamed(const QString& language)
 
 constexpr const char* kStep = QT_TRANSLATE_NOOP("Symbols", "Step");
 
-// What clients print between the parts of a script.
+// Whether a routine begins in front of the place whose batch has not ended there.
+bool IsInRoutine(const QString& text, const std::vector<Symbol>& symbols, qsizetype place)
+{
+    static const QRegularExpression batchEnd(QStringLiteral("^[ \\t]*go\\b"),
+                                             QRegularExpression::MultilineOption |
+                                                 QRegularExpression::CaseInsensitiveOption);
+    const auto isRoutine = [](const Symbol& symbol) {
+        return std::ranges::any_of(kKinds, [&](const KindRow& row) {
+            return row.name == symbol.kind &&
+                   (row.kind == NameKind::Procedure || row.kind == NameKind::Function ||
+                    row.kind == NameKind::Trigger);
+        });
+    };
+    const auto before = std::find_if(symbols.rbegin(), symbols.rend(), [&](const Symbol& symbol) {
+        return symbol.start < place && isRoutine(symbol);
+    });
+    if (before == symbols.rend())
+        return false;
+    const QRegularExpressionMatch end = batchEnd.match(text, before->end);
+    return !end.hasMatch() || end.capturedStart() > place;
+}
+
+// What clients print between the parts of a script. What a routine prints is no step of it.
 void AddSteps(const QString& text, std::vector<Symbol>& symbols)
 {
+    const std::vector<Symbol> created = symbols;
     static const QRegularExpression step(
         QStringLiteral("^[ \\t]*(?:print[ \\t]+N?'([^'\\r\\n]+)'|prompt[ \\t]+([^\\r\\n]+)|"
                        "(?:\\\\q?echo|\\.print)[ \\t]+([^\\r\\n]+))"),
@@ -80,6 +103,9 @@ void AddSteps(const QString& text, std::vector<Symbol>& symbols)
     for (auto at = step.globalMatch(text); at.hasNext();) {
         const QRegularExpressionMatch match = at.next();
         const int group = match.lastCapturedIndex();
+        constexpr int kStatement = 1; // the others are commands of a client
+        if (group == kStatement && IsInRoutine(text, created, match.capturedStart()))
+            continue;
         symbols.push_back({match.captured(group).trimmed(), kStep,
                            static_cast<long>(match.capturedStart(group)),
                            static_cast<long>(match.capturedEnd(group))});

@@ -6,6 +6,8 @@
 #include "editing/ZNCoreEditorControlEx.h"
 #include "platform/base/Units.h"
 
+#include <QRegularExpression>
+
 #include <chrono>
 #include <utility>
 
@@ -54,11 +56,31 @@ void ScriptChecker::Check()
 
 QString ScriptChecker::WhyNone() const
 {
+    if (!m_check && m_language == QLatin1String("SQL"))
+        return tr(
+            "Scripts in SQL are not checked. Choose PostgreSQL or SQLite in the Language menu "
+            "to have this one checked.");
     if (!m_check)
         return tr("Scripts in %1 are not checked: there is no parser for it here.").arg(m_language);
     if (m_control.GetLength(1) > kLongestChecked)
         return tr("The script is too long to be checked.");
     return tr("No problems found.");
+}
+
+// A statement as the parser may see it: blanks for lines of the pre-processor; nothing where a
+// variable of it may stand for anything.
+std::optional<QString> ScriptChecker::WithoutDirectives(QString text)
+{
+    static const QRegularExpression directive(
+        QStringLiteral("^[ \\t]*#(include|define)\\b[^\r\n]*"),
+        QRegularExpression::MultilineOption);
+    static const QRegularExpression variable(QStringLiteral("&&[A-Za-z_]"));
+    for (auto at = directive.globalMatch(text); at.hasNext();) {
+        const QRegularExpressionMatch match = at.next();
+        text.replace(match.capturedStart(), match.capturedLength(),
+                     QString(match.capturedLength(), u' '));
+    }
+    return text.contains(variable) ? std::nullopt : std::optional(text);
 }
 
 std::vector<ScriptStatement> ScriptChecker::Statements() const
@@ -67,8 +89,8 @@ std::vector<ScriptStatement> ScriptChecker::Statements() const
     m_control.PartitionGetAll(parts, 0, partitioner::ToEnd, 1);
     std::vector<ScriptStatement> statements;
     for (const PartitionInfo& part : parts) {
-        if (part.pszText)
-            statements.push_back({part.nFirst, FromUnits(part.pszText)});
+        if (auto text = part.pszText ? WithoutDirectives(FromUnits(part.pszText)) : std::nullopt)
+            statements.push_back({part.nFirst, *text});
     }
     return statements;
 }

@@ -30,6 +30,7 @@ Q_SIGNALS:
     void ProblemsChanged();
 
 private:
+    static std::optional<QString> WithoutDirectives(QString text);
     std::vector<ScriptStatement> Statements() const;
     void Mark();
 

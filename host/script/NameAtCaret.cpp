@@ -21,7 +21,9 @@ bool IsAddress(const QString& name)
                                [&](const QString& scheme) { return name.startsWith(scheme); });
 }
 
-FilePlace FindNamed(const QString& name, const QString& script)
+namespace {
+
+FilePlace FindFile(const QString& name, const QString& script)
 {
     FilePlace place = ParseFilePlace(QString(name).replace(u'\\', u'/'));
     const bool isAbsolute = QDir::isAbsolutePath(place.path);
@@ -36,6 +38,18 @@ FilePlace FindNamed(const QString& name, const QString& script)
         }
     }
     return {};
+}
+
+} // namespace
+
+// A script that Oracle's client runs is named behind one or two at signs.
+FilePlace FindNamed(const QString& name, const QString& script)
+{
+    const qsizetype signs = name.startsWith(QLatin1String("@@")) ? 2
+                            : name.startsWith(u'@')              ? 1
+                                                                 : 0;
+    const auto found = FindFile(name, script);
+    return found.path.isEmpty() && signs > 0 ? FindFile(name.mid(signs), script) : found;
 }
 
 QString NameAround(CZNCoreEditorControlEx& editor, long position)

@@ -8,6 +8,7 @@
 #include "platform/services/OptionsServer.h"
 #include "tests/host/WorkbenchTest.h"
 
+#include <QDir>
 #include <QLineEdit>
 #include <QTest>
 #include <QTreeWidget>
@@ -83,6 +84,16 @@ TEST_F(ExpandedScripts, ListWhatCannotBeIncluded)
               "Unable to open the included file 'gone.sql': No such file or directory");
     EXPECT_EQ(Errors().topLevelItem(0)->toolTip(1), Errors().topLevelItem(0)->text(1));
     EXPECT_TRUE(Errors().isVisible());
+}
+
+TEST_F(ExpandedScripts, LookForFilesBesideTheScript)
+{
+    ASSERT_TRUE(QDir(PathOf({})).mkpath(QStringLiteral("deep/sub")));
+    Write("deep/sub/more.sql", "select 7\n");
+    Open("deep/main.sql", "#include sub/more.sql\n");
+    Trigger("expand");
+    EXPECT_EQ(Errors().topLevelItemCount(), 0);
+    EXPECT_TRUE(Result().GetText().contains(QLatin1String("select 7")));
 }
 
 TEST_F(ExpandedScripts, ListVariablesThatNothingDefines)

@@ -377,6 +377,20 @@ TEST_F(PrintingScripts, OpensWhatTheCaretStandsOn)
     EXPECT_EQ(m_prompts.told, QStringList{"There is no file nothing.sql."});
 }
 
+TEST_F(PrintingScripts, OpensWhatStandsBehindAtSigns)
+{
+    Write("b.sql", "one\n");
+    Write("@c.sql", "two\n");
+    Open("a.sql", "@b.sql\n@@b.sql\n@c.sql\n");
+    for (const auto& [at, name] : {std::pair(3, "b.sql"), {10, "b.sql"}, {18, "@c.sql"}}) {
+        m_window.ShowTab(0);
+        Editor().SetSel(at, at, 1);
+        Trigger("openAtCaret");
+        EXPECT_EQ(Script().GetPathName(), PathOf(QLatin1String(name))) << at;
+    }
+    EXPECT_TRUE(m_prompts.told.isEmpty());
+}
+
 TEST_F(PrintingScripts, OffersTheFileAtTheCaretInTheContextMenuIfItIsThere)
 {
     Write("b.sql", "one\n");

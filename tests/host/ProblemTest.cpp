@@ -206,6 +206,15 @@ TEST_F(WorkbenchProblems, AreSelectedInTheListAsAKeyReachesThem)
     EXPECT_EQ(current(), 0);
 }
 
+TEST_F(WorkbenchProblems, AreNotTheLinesOfThePreProcessor)
+{
+    Open("a.pgsql", "#include sub/more.sql\n#define &&T orders\nselect 1;\nselect &&T from;\n"
+                    "  #include x.sql\nselekt 2;\n");
+    Script().Checker()->Check();
+    ASSERT_EQ(List().topLevelItemCount(), 1);
+    EXPECT_EQ(List().topLevelItem(0)->text(0), QStringLiteral("6"));
+}
+
 TEST_F(WorkbenchProblems, AreThoseOfTheScriptInFront)
 {
     Open("a.pgsql", "selekt 2;\n");

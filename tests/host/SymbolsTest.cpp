@@ -62,6 +62,14 @@ TEST(Symbols, AreTheStepsThatItAnnounces)
               Lines{"Step Loading data at Loading data"});
 }
 
+TEST(Symbols, AreNotTheStepsOfARoutine)
+{
+    EXPECT_EQ(SymbolsIn("print 'one'\ngo\ncreate procedure p as begin\n  print 'inside'\nend\n"
+                        "GO\nprint 'two'\n",
+                        "Transact-SQL"),
+              (Lines{"Step one at one", "Procedure p at p", "Step two at two"}));
+}
+
 TEST(Symbols, AreNoneOfALanguageThatIsNoSql)
 {
     EXPECT_EQ(SymbolsIn("create table a (x int);", "C++"), Lines());
