@@ -74,11 +74,12 @@ void CaretSteps::EditBegins(Engine& engine, const TextEdit& edit)
     if (!m_undone.empty())
         Forget(m_undone);
     if (!m_isNoted) {
-        if (!IsFollowed(engine) || !engine.CollectsUndo())
+        if (!(m_action || IsFollowed(engine)) || !engine.CollectsUndo())
             return;
         m_step = {.mark = {.before = engine.raw.Length()},
-                  .before = CaretPlaces(engine.raw),
-                  .after = {}};
+                  .before = m_action ? m_action->carets : CaretPlaces(engine.raw),
+                  .after = {},
+                  .top = m_action ? m_action->top : -1};
         m_isNoted = true;
         ++s_noted;
     }
@@ -86,9 +87,16 @@ void CaretSteps::EditBegins(Engine& engine, const TextEdit& edit)
     m_isFresh = true;
 }
 
+void CaretSteps::ActionBegins(Engine& engine)
+{
+    if (engine.bulkChange && engine.looks.IsOn() && engine.CollectsUndo() &&
+        CaretsOf(engine.raw) <= kMostCarets)
+        m_action = {CaretPlaces(engine.raw), engine.raw.Send(Sci::SCI_GETFIRSTVISIBLELINE)};
+}
+
 void CaretSteps::Settle(const Engine& engine)
 {
-    if (!m_isNoted)
+    if (!m_isNoted || (m_action && documents::HasUndoActions(engine.Document())))
         return;
     if (std::exchange(m_isFresh, false)) { // else the carets have only moved
         m_step.mark.after = engine.raw.Length();
@@ -142,7 +150,10 @@ void CaretSteps::StepEnds(const Engine& engine, bool isUndo)
     if (from.empty() || !(from.back().mark == m_seen))
         return;
     (isUndo ? from.back().before : from.back().after).PutBack(engine.raw);
-    engine.raw.Send(Sci::SCI_SCROLLCARET);
+    if (isUndo && from.back().top >= 0)
+        engine.raw.Send(Sci::SCI_SETFIRSTVISIBLELINE, static_cast<std::uintptr_t>(from.back().top));
+    else
+        engine.raw.Send(Sci::SCI_SCROLLCARET);
     (isUndo ? m_undone : m_done).push_back(std::move(from.back()));
     from.pop_back();
 }

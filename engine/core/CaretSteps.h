@@ -4,6 +4,8 @@
 // stays open between their keys, and ends before anything else. What was selected before and behind
 // a step comes back with it, which the stock engine keeps for none. A step is known again by what
 // it does to the text, so that whatever becomes of the stock engine's history does no harm.
+// A change of many places by a command is such a step, too: where the caret was comes back, with
+// the view of it, rather than the first place that has changed.
 #pragma once
 
 #include "engine/core/CaretPlaces.h"
@@ -11,6 +13,7 @@
 
 #include <cstdint>
 #include <deque>
+#include <optional>
 #include <vector>
 
 namespace engine {
@@ -52,6 +55,10 @@ public:
     // Before an edit. Each window that shows the document may tell of it.
     void EditBegins(Engine& engine, const TextEdit& edit);
 
+    // Around an action of the host's that none is around.
+    void ActionBegins(Engine& engine);
+    void ActionEnds() { m_action.reset(); }
+
     // A message or an event is over, and none is around it.
     void Settle(const Engine& engine);
 
@@ -84,6 +91,13 @@ private:
         Mark mark;
         CaretPlaces before;
         CaretPlaces after;
+        std::intptr_t top = -1; // display line, of an action; -1: of keys
+    };
+
+    struct View
+    {
+        CaretPlaces carets;
+        std::intptr_t top; // display line
     };
 
     static std::size_t SizeOf(const Step& step) { return step.before.Size() + step.after.Size(); }
@@ -100,7 +114,8 @@ private:
     bool m_isFresh = false; // edited since it settled
     Key m_key = Key::Other; // of the action that is open
     Step m_step;
-    Mark m_seen; // of the undo or redo at hand
+    std::optional<View> m_action; // before the one that changes many places
+    Mark m_seen;                  // of the undo or redo at hand
     std::deque<Step> m_done;
     std::deque<Step> m_undone;
     std::size_t m_kept = 0; // selections in both

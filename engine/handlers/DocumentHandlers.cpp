@@ -50,7 +50,10 @@ LRESULT ReleaseDocument(Engine& engine, WPARAM, LPARAM lParam)
 
 LRESULT BeginUndoAction(Engine& engine, WPARAM, LPARAM)
 {
-    documents::BeginUndoAction(engine.Document());
+    const documents::Document document = engine.Document();
+    if (!documents::HasUndoActions(document))
+        documents::CaretStepsOf(document).ActionBegins(engine);
+    documents::BeginUndoAction(document);
     return engine.raw.Send(Sci::SCI_BEGINUNDOACTION);
 }
 
@@ -58,6 +61,8 @@ LRESULT EndUndoAction(Engine& engine, WPARAM, LPARAM)
 {
     if (documents::EndUndoAction(engine.Document()))
         engine.raw.Send(Sci::SCI_ENDUNDOACTION);
+    if (!documents::HasUndoActions(engine.Document()))
+        documents::CaretStepsOf(engine.Document()).ActionEnds();
     return 0;
 }
 

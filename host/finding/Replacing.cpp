@@ -114,6 +114,7 @@ void FindBar::ReplaceAll()
     if (!Prepare(editor))
         return;
     m_manager.AddReplaceHistory(m_replace->currentText());
+    GoBack(*editor); // from the match that was shown
     const bool isPlain = !m_scope && !m_preserveCase->isChecked();
     const CaretPlace caret(*editor);
     const int count = isPlain ? m_manager.ReplaceAll(editor, false) : ReplaceEach(*editor);

@@ -193,6 +193,29 @@ TEST_F(CaretSteps, GiveBackColumnsWithTheirBlanks)
 }
 
 // As it is of a single caret, whose steps the stock engine makes.
+TEST_F(CaretSteps, GiveBackThePlaceAndTheViewBeforeAChangeOfManyPlaces)
+{
+    std::u16string text;
+    for (int line = 0; line < 200; ++line)
+        text += u"one\n";
+    Start(text);
+    Select({{401, 403}});
+    m_engine.Send(msg::LineScroll, 0, 90 - m_engine.Send(msg::GetFirstVisibleLine));
+    m_engine.Send(msg::SetDoingReplaceAll, 1);
+    m_engine.Send(msg::BeginUndoAction);
+    for (const int place : {4, 0, 400}) {
+        m_engine.Send(msg::SetSel, place, place + 3);
+        m_engine.Send(msg::ReplaceSel, 0, u"three");
+    }
+    m_engine.Send(msg::EndUndoAction);
+    m_engine.Send(msg::SetDoingReplaceAll, 0);
+    m_engine.Send(msg::GotoPos, 0);
+    m_engine.Send(msg::Undo);
+    EXPECT_EQ(m_engine.Text(), text);
+    EXPECT_EQ(Selected(), (Ends{{401, 403}}));
+    EXPECT_EQ(m_engine.Send(msg::GetFirstVisibleLine), 90);
+}
+
 TEST_F(CaretSteps, AreTheStockEnginesWithoutLooks)
 {
     m_engine.Send(engine::kSetLooks, 0, LPARAM{0});

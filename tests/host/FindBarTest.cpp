@@ -400,6 +400,20 @@ TEST_F(FindBars, ReplaceAllAndStayAtTheLine)
     EXPECT_EQ(Selected(), Range(28, 28));
 }
 
+TEST_F(FindBars, ReplaceAllAndGoBackFromTheMatchThatWasShown)
+{
+    SetText("one\n--\none\n");
+    editor->SetSel(5, 5, 1);
+    bar.Open();
+    Seek("one");
+    Settle();
+    ASSERT_EQ(Selected(), Range(7, 10));
+    ReplaceWith("two");
+    bar.ReplaceAll();
+    EXPECT_EQ(widget.text(), "two\n--\ntwo\n");
+    EXPECT_EQ(Selected(), Range(5, 5));
+}
+
 TEST_F(FindBars, MarksTheLinesOfATextAsItStands)
 {
     SetText(QStringLiteral("a.b\naxb\na.b a.b\n"));
