@@ -1940,6 +1940,10 @@ Mit Qt %1. Lizenziert unter der GNU General Public License, Version 3 oder spät
         <source>Your changes that are not saved are lost.</source>
         <translation>Ihre nicht gespeicherten Änderungen gehen verloren.</translation>
     </message>
+    <message>
+        <source>%1: %2, as other files of this folder</source>
+        <translation>%1: %2, wie andere Dateien in diesem Ordner</translation>
+    </message>
 </context>
 <context>
     <name>ScriptFrame</name>

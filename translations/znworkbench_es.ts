@@ -1940,6 +1940,10 @@ Con Qt %1. Con licencia pública general de GNU, versión 3 o posterior.</transl
         <source>Your changes that are not saved are lost.</source>
         <translation>Se pierden los cambios que no ha guardado.</translation>
     </message>
+    <message>
+        <source>%1: %2, as other files of this folder</source>
+        <translation>%1: %2, como otros archivos de esta carpeta</translation>
+    </message>
 </context>
 <context>
     <name>ScriptFrame</name>

@@ -1940,6 +1940,10 @@ Avec Qt %1. Sous licence publique générale GNU, version 3 ou ultérieure.</tra
         <source>Your changes that are not saved are lost.</source>
         <translation>Vos modifications non enregistrées seront perdues.</translation>
     </message>
+    <message>
+        <source>%1: %2, as other files of this folder</source>
+        <translation>%1&#xa0;: %2, comme d’autres fichiers de ce dossier</translation>
+    </message>
 </context>
 <context>
     <name>ScriptFrame</name>

@@ -1928,6 +1928,10 @@ Qt %1 を使用。GNU General Public License バージョン 3 以降の下で�
         <source>Your changes that are not saved are lost.</source>
         <translation>保存していない変更は失われます。</translation>
     </message>
+    <message>
+        <source>%1: %2, as other files of this folder</source>
+        <translation>%1: このフォルダーの他のファイルと同じ %2</translation>
+    </message>
 </context>
 <context>
     <name>ScriptFrame</name>

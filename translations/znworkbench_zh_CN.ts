@@ -1928,6 +1928,10 @@ Over Qt %1. Licensed under the GNU General Public License, version 3 or later.</
         <source>Your changes that are not saved are lost.</source>
         <translation>未保存的更改将丢失。</translation>
     </message>
+    <message>
+        <source>%1: %2, as other files of this folder</source>
+        <translation>%1：%2，与此文件夹中的其他文件相同</translation>
+    </message>
 </context>
 <context>
     <name>ScriptFrame</name>

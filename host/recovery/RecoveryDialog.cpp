@@ -13,6 +13,7 @@
 #include <QDir>
 #include <QFileInfo>
 #include <QHeaderView>
+#include <QKeyEvent>
 #include <QLabel>
 #include <QPushButton>
 #include <QScreen>
@@ -141,7 +142,27 @@ RecoveryDialog::RecoveryDialog(QWidget* parent, const QList<RecoverableCopy>& co
         before = choice;
     }
     setTabOrder(before, m_comparison);
+    m_list->installEventFilter(this);
     m_list->setFocus();
+}
+
+// Tab goes to the box of the current row, and Space goes to the next of its choices.
+bool RecoveryDialog::eventFilter(QObject* watched, QEvent* event)
+{
+    const int row = m_list->indexOfTopLevelItem(m_list->currentItem());
+    if (watched != m_list || event->type() != QEvent::KeyPress || row < 0)
+        return QDialog::eventFilter(watched, event);
+    QComboBox* choice = m_choices[static_cast<std::size_t>(row)];
+    switch (static_cast<const QKeyEvent&>(*event).key()) {
+    case Qt::Key_Tab:
+        choice->setFocus(Qt::TabFocusReason);
+        return true;
+    case Qt::Key_Space:
+        choice->setCurrentIndex((choice->currentIndex() + 1) % choice->count());
+        return true;
+    default:
+        return QDialog::eventFilter(watched, event);
+    }
 }
 
 // The editor goes after this part of the dialog does.

@@ -26,6 +26,8 @@ public:
     // One for each copy. A dialog that was not accepted leaves all for later.
     QList<RecoveryChoice> Choices() const;
 
+    bool eventFilter(QObject* watched, QEvent* event) override;
+
 private:
     void AddCopy(const RecoverableCopy& copy);
     void ChooseForAll(RecoveryChoice choice);

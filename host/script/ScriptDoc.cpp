@@ -9,19 +9,25 @@
 #include "host/files/LanguageMemory.h"
 #include "host/files/LineEnds.h"
 #include "host/problems/ScriptChecker.h"
+#include "host/recovery/LineEdits.h"
 #include "host/script/ScriptView.h"
 #include "host/session/AutosaveSettings.h"
 #include "platform/docview/CommandIds.h"
+#include "platform/docview/DocTemplate.h"
 #include "platform/services/OptionsServer.h"
 #include "platform/windows/Questions.h"
+#include "platform/windows/Timer.h"
 
 #include <QDir>
 #include <QFileInfo>
 
 #include <algorithm>
+#include <chrono>
 #include <utility>
 
 namespace {
+
+constexpr std::chrono::seconds kCopyPause(4);
 
 int encodingToOpenAs = -1;
 
@@ -90,6 +96,28 @@ QString WhyNotRecovered(const RecoverableCopy& copy)
         .arg(copy.name, QDir::toNativeSeparators(copy.path));
 }
 
+// The document's own, or counted on: a recovered script has brought its number along.
+QString FreeTitle(const ScriptDoc& script)
+{
+    const QString own = script.Name();
+    const CDocTemplate* scripts = script.GetDocTemplate();
+    QStringList taken;
+    if (scripts) {
+        for (const CDocument* other : scripts->GetDocuments()) {
+            if (const auto* document = dynamic_cast<const ScriptDoc*>(other);
+                document && document != &script && document->GetPathName().isEmpty())
+                taken << document->Name();
+        }
+    }
+    qsizetype digits = own.size();
+    while (digits > 0 && own[digits - 1].isDigit())
+        --digits;
+    QString title = own;
+    for (int number = own.mid(digits).toInt() + 1; taken.contains(title); ++number)
+        title = own.left(digits) + QString::number(number);
+    return title;
+}
+
 int LanguageOfName(const QString& name)
 {
     const CFileTypeManager& languages = *zncoreeditor::GetFileTypeManager();
@@ -98,6 +126,38 @@ int LanguageOfName(const QString& name)
             return language;
     }
     return -1;
+}
+
+QString TextOf(CZNCoreEditorControlEx& editor)
+{
+    QString text(editor.GetLength(1), Qt::Uninitialized);
+    if (!text.isEmpty()) // which has no room for the terminator
+        editor.GetRange(0, text.size(), reinterpret_cast<char16_t*>(text.data()));
+    return text;
+}
+
+// A copy has just replaced the text of the file as a whole; only the lines that differ are to count
+// as changed. One undo brings the file's text back in either case.
+void ChangeLinesAlone(CZNCoreEditorControlEx& editor)
+{
+    constexpr long kMost = 4'000'000; // units
+    if (editor.GetLength(1) > kMost)
+        return;
+    const QString copied = TextOf(editor);
+    editor.Undo(1);
+    const QString filed = TextOf(editor);
+    if (filed.size() > kMost || filed == copied) {
+        editor.Redo(1);
+        return;
+    }
+    editor.BeginUndoAction(1);
+    for (const LineEdit& edit : LineEdits(filed, copied)) {
+        editor.SetTargetStart(edit.start, 1);
+        editor.SetTargetEnd(edit.start + edit.length, 1);
+        editor.ReplaceTarget(static_cast<int>(edit.text.size()),
+                             reinterpret_cast<const char16_t*>(edit.text.utf16()), 1);
+    }
+    editor.EndUndoAction(1);
 }
 
 } // namespace
@@ -112,7 +172,13 @@ ScriptDoc::OpenAs::~OpenAs()
     encodingToOpenAs = -1;
 }
 
-ScriptDoc::ScriptDoc() = default;
+ScriptDoc::ScriptDoc()
+{
+    m_copySoon.setObjectName(QStringLiteral("copySoon"));
+    m_copySoon.setSingleShot(true);
+    m_copySoon.setInterval(kCopyPause);
+    connect(&m_copySoon, &QTimer::timeout, this, &ScriptDoc::CopyNow);
+}
 
 ScriptDoc::~ScriptDoc() = default;
 
@@ -141,6 +207,7 @@ int ScriptDoc::OnNewDocument()
     if (!CZNCoreEditorDoc::OnNewDocument())
         return 0;
     m_docPointer = FirstView()->GetCoreEditorControl()->GetDocPointer(1);
+    SetTitle(FreeTitle(*this));
     SetLanguage(LanguageNamed(languages::Default(), LanguageOfNewScripts()));
     return 1;
 }
@@ -167,11 +234,15 @@ bool ScriptDoc::Recover(const RecoverableCopy& copy)
             GetPrompts().Tell(Window(), WhyNotRecovered(copy));
         return false;
     }
+    if (!m_strPathName.isEmpty())
+        ChangeLinesAlone(editor);
     if (m_strPathName.isEmpty() && !copy.document.isEmpty()) {
         SetPathName(copy.document, false);
         SetLanguage(LanguageOfFile(copy.document));
         m_onlyHere = true;
     } else if (m_strPathName.isEmpty()) {
+        SetTitle(copy.name);
+        SetTitle(FreeTitle(*this));
         if (const int language = LanguageOfName(copy.language); language >= 0)
             SetLanguage(language);
     }
@@ -211,7 +282,7 @@ int ScriptDoc::OnOpenDocumentEx(const QString& path, FileEncodeConverter::encodi
 
 // What a person chose for the file counts most, then a name that says more than SQL, then what
 // stands in it.
-int ScriptDoc::LanguageToOpenWith(const QString& path) const
+int ScriptDoc::LanguageToOpenWith(const QString& path)
 {
     const int byName = LanguageOfFile(path);
     const int chosen = LanguageNamed(languages::ChosenFor(path), -1);
@@ -222,12 +293,29 @@ int ScriptDoc::LanguageToOpenWith(const QString& path) const
     QString front(std::min(editor.GetLength(1), kLookedAt), Qt::Uninitialized);
     if (!front.isEmpty()) // which has no room for the terminator
         editor.GetRange(0, front.size(), reinterpret_cast<char16_t*>(front.data()));
-    for (const QString& name :
-         {DialectOfText(front), languages::ChosenInFolder(path), languages::Default()}) {
-        if (const int language = LanguageNamed(name, -1); language >= 0)
-            return language;
+    if (const int language = LanguageNamed(DialectOfText(front), -1); language >= 0)
+        return language;
+    const QString ofFolder = languages::ChosenInFolder(path);
+    if (const int language = LanguageNamed(ofFolder, -1); language >= 0) {
+        if (language != byName)
+            TellLater(tr("%1: %2, as other files of this folder")
+                          .arg(QFileInfo(path).fileName(), ofFolder));
+        return language;
     }
-    return byName;
+    return LanguageNamed(languages::Default(), byName);
+}
+
+// Once its tab is there and in front; nobody is told of others.
+void ScriptDoc::TellLater(const QString& text)
+{
+    QMetaObject::invokeMethod(
+        this,
+        [this, text] {
+            const ScriptView* view = IsClosed() ? nullptr : FirstView();
+            if (view && view->GetSafeHwnd() && view->GetSafeHwnd()->isVisible())
+                Q_EMIT Told(text);
+        },
+        Qt::QueuedConnection);
 }
 
 int ScriptDoc::Reopen(int encoding)
@@ -352,7 +440,22 @@ void ScriptDoc::OnTextChanged()
         return;
     m_checker->CheckSoon();
     m_lineEnds->TextChanged();
+    m_copySoon.start();
     Q_EMIT TextChanged();
+}
+
+// Keys have rested: what a crash would take is what is typed from now on. A long text takes a
+// while to write and is left to the minutes.
+void ScriptDoc::CopyNow()
+{
+    constexpr UINT kAutosave = 100;   // the editor's timer
+    constexpr long kMost = 4'000'000; // units
+    ScriptView* view = IsClosed() ? nullptr : FirstView();
+    if (!view)
+        return;
+    CZNCoreEditorControlEx& editor = view->GetCoreEditorControlRef();
+    if (editor.GetAutoSaveOn() && editor.GetSafeHwnd() && editor.GetLength(1) <= kMost)
+        SendMessage(editor.GetSafeHwnd(), WM_TIMER, kAutosave, 0);
 }
 
 // A No ends the tracking: the text that is kept is not to be lost without a further question. A Yes

@@ -9,6 +9,7 @@
 #include "host/script/ReadLoss.h"
 
 #include <QObject>
+#include <QTimer>
 
 #include <memory>
 
@@ -107,6 +108,9 @@ private:
     void OnReadOnly();
     void LookForUnread();
     void TellUnread();
+    int LanguageToOpenWith(const QString& path);
+    void TellLater(const QString& text);
+    void CopyNow();
     void ServeView(ScriptView& view);
     void MarkAsOnlyHere();
     void NameCopies(CZNCoreEditorControlEx& editor) const;
@@ -115,9 +119,8 @@ private:
     completion::LiveIndex m_names;
     std::unique_ptr<ScriptChecker> m_checker;
     std::unique_ptr<LineEndWatch> m_lineEnds;
-    int LanguageToOpenWith(const QString& path) const;
-
-    QString m_folder; // empty: the current one
+    QString m_folder;        // empty: the current one
+    QTimer m_copySoon{this}; // to the copy that a crash would leave
     int m_chosenEncoding = -1;
     bool m_onlyHere = false;  // the file has another text by now, or is gone, and this one is kept
     bool m_isTracked = false; // what others do to the file is asked about

@@ -13,6 +13,7 @@
 #include "host/files/FileDrops.h"
 #include "host/preferences/Appearance.h"
 #include "host/script/BatchMark.h"
+#include "host/script/FileWatch.h"
 #include "host/script/MenuKey.h"
 #include "host/script/NameAtCaret.h"
 #include "host/script/ScriptDoc.h"
@@ -74,6 +75,7 @@ int ScriptView::OnCreate(CCreateContext* context)
     m_coreEditor.GetSafeHwnd()->setAccessibleName(Texts::tr("Script"));
     FileDrops::Take(*m_coreEditor.GetSafeHwnd());
     new NameClicks(*this); // goes with the editor's window
+    new FileWatch(*m_coreEditor.GetSafeHwnd(), [this] { LookAtFile(); }); // the same
     m_menuKey = new MenuKey(*m_coreEditor.GetSafeHwnd());
     if (ScriptDoc* script = Script()) {
         script->OnViewMade(*this);

@@ -12,6 +12,7 @@
 #include <QComboBox>
 #include <QFontComboBox>
 #include <QSpinBox>
+#include <QStatusBar>
 #include <QTest>
 
 #include <map>
@@ -99,6 +100,30 @@ TEST_F(WorkbenchLanguages, TakesTheLanguageFromTheFilesName)
     EXPECT_EQ(Status("language"), QStringLiteral("CSS"));
     Trigger("previous");
     EXPECT_EQ(Status("language"), QStringLiteral("MySQL"));
+}
+
+TEST_F(WorkbenchLanguages, SaysThatOtherFilesOfTheFolderDecided)
+{
+    languages::Remember(PathOf("chosen.sql"), "PostgreSQL");
+    Open("plain.sql", "select 1;\n");
+    QApplication::processEvents();
+    EXPECT_EQ(Status("language"), "PostgreSQL");
+    EXPECT_EQ(m_window.statusBar()->currentMessage(),
+              "plain.sql: PostgreSQL, as other files of this folder");
+    m_window.statusBar()->clearMessage();
+    Open("clear.sql", "create or replace package p as\n  x varchar2(10);\nend p;\n/\n");
+    QApplication::processEvents();
+    EXPECT_EQ(Status("language"), "PL/SQL") << "what stands in the file comes first";
+    EXPECT_EQ(m_window.statusBar()->currentMessage(), "");
+}
+
+TEST_F(WorkbenchLanguages, PutsTabsIntoMakefiles)
+{
+    Open("Makefile", "all:\n");
+    EXPECT_EQ(Status("language"), "Makefile");
+    EXPECT_TRUE(Editor().GetUseTabs(1));
+    Open("a.sql", "select 1;\n");
+    EXPECT_FALSE(Editor().GetUseTabs(1));
 }
 
 TEST_F(WorkbenchLanguages, BeginsAScriptInSql)

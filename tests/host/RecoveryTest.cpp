@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 // What crashes have left, in the workbench: the list of it at the start, and each script that comes
 // back. The crashes are those of other processes, which are killed.
+#include "control/EngineLooks.h"
 #include "control/LeftCopies.h"
 #include "editing/ZNCoreEditorWidget.h"
 #include "host/files/Places.h"
@@ -15,6 +16,7 @@
 #include <QPushButton>
 #include <QScreen>
 #include <QTest>
+#include <QTimer>
 #include <QTreeWidget>
 
 #include <set>
@@ -130,6 +132,63 @@ TEST_F(Recovery, KeepsTheLanguageOfAScriptThatNeverHadAName)
     Crash({QStringLiteral("--new"), QStringLiteral("--language"), QStringLiteral("5")});
     StartAgain(RecoveryChoice::Recover);
     EXPECT_EQ(WorkbenchTest::Script().Language(), 5);
+}
+
+TEST_F(Recovery, KeepsTheNameThatTheListShowed)
+{
+    Crash({QStringLiteral("--new"), QStringLiteral("--new")});
+    LeftCopies copies;
+    QStringList names;
+    for (const LeftCopies::Copy& copy : copies.All()) {
+        const RecoverableCopy described = Describe(copy);
+        names << described.name;
+        if (described.name != QStringLiteral("Script 2"))
+            continue;
+        m_app.NewScript();
+        ASSERT_EQ(WorkbenchTest::Script().Name(), QStringLiteral("Script 1"));
+        copies.Release(described.path);
+        EXPECT_TRUE(WorkbenchTest::Script().Recover(described));
+    }
+    ASSERT_TRUE(names.contains(QStringLiteral("Script 2")));
+    EXPECT_EQ(WorkbenchTest::Script().Name(), QStringLiteral("Script 2"));
+    m_app.NewScript();
+    EXPECT_EQ(WorkbenchTest::Script().Name(), QStringLiteral("Script 3")) << "one of each name";
+}
+
+TEST_F(Recovery, ChangesOnlyTheLinesThatDifferFromTheFile)
+{
+    const QString script = Write(QStringLiteral("a.sql"), "one\r\ntwo\nthree\n");
+    Crash({script});
+    StartAgain(RecoveryChoice::Recover);
+    EXPECT_EQ(Text(), QStringLiteral("-- typed\none\r\ntwo\nthree\n"));
+    constexpr int kChanged = 1 << engine::lookmarker::kLineChanged;
+    EXPECT_TRUE(Editor().MarkerGet(0, 1) & kChanged);
+    for (int line = 2; line < 4; ++line) // that behind an insertion counts as touched
+        EXPECT_FALSE(Editor().MarkerGet(line, 1) & kChanged) << line;
+    Trigger("undo");
+    EXPECT_EQ(Text(), QStringLiteral("one\r\ntwo\nthree\n"));
+    EXPECT_FALSE(WorkbenchTest::Script().IsModified());
+}
+
+TEST_F(Recovery, FindsWhatWasTypedUntilTheKeysRested)
+{
+    const QString script = Write(QStringLiteral("a.sql"), "select 1;\n");
+    ASSERT_TRUE(m_app.OpenDocumentFile(script));
+    auto* soon = WorkbenchTest::Script().findChild<QTimer*>(QStringLiteral("copySoon"));
+    ASSERT_TRUE(soon);
+    EXPECT_LE(soon->interval(), 5000) << "some seconds";
+    soon->setInterval(1);
+    Type(u"-- last\n");
+    const QDir folder(QFileInfo(places::DataPath(QString())).filePath() + QStringLiteral("Backup"));
+    const auto copied = [&] {
+        for (const QFileInfo& info : folder.entryInfoList({QStringLiteral("~ZN*")}, QDir::Files)) {
+            QFile copy(info.filePath());
+            if (copy.open(QIODevice::ReadOnly) && copy.readAll() == "-- last\nselect 1;\n")
+                return true;
+        }
+        return false;
+    };
+    EXPECT_TRUE(QTest::qWaitFor(copied, kPatienceInMs));
 }
 
 TEST_F(Recovery, BringsBackAScriptWhoseFileWasDeletedUnderItsName)
@@ -299,6 +358,28 @@ TEST_F(Recovery, TakesAChoiceForEachAndForAll)
     EXPECT_EQ(dialog.Choices(),
               (QList<RecoveryChoice>{RecoveryChoice::Discard, RecoveryChoice::Recover,
                                      RecoveryChoice::Discard}));
+}
+
+TEST_F(Recovery, TakesTheChoiceOfTheCurrentRowFromTheKeyboard)
+{
+    const QString copy = Write(QStringLiteral("copy"), "x");
+    RecoveryDialog dialog(nullptr,
+                          QList<RecoverableCopy>(3, Copy(copy, QString(), State::NeverNamed)));
+    dialog.show();
+    ASSERT_TRUE(QTest::qWaitForWindowActive(&dialog));
+    auto* list = dialog.findChild<QTreeWidget*>(QStringLiteral("recoverable"));
+    list->setFocus();
+    QTest::keyClick(list, Qt::Key_Down);
+    QTest::keyClick(list, Qt::Key_Space);
+    QTest::keyClick(list, Qt::Key_Down);
+    QTest::keyClick(list, Qt::Key_Tab);
+    const QWidget* box = list->itemWidget(list->topLevelItem(2), list->columnCount() - 1);
+    EXPECT_EQ(dialog.focusWidget(), box);
+    EXPECT_EQ(list->indexOfTopLevelItem(list->currentItem()), 2);
+    dialog.accept();
+    EXPECT_EQ(dialog.Choices(),
+              (QList<RecoveryChoice>{RecoveryChoice::Recover, RecoveryChoice::Discard,
+                                     RecoveryChoice::Recover}));
 }
 
 TEST_F(Recovery, GoesOnByEnterWithoutDiscardingAnything)

@@ -11,6 +11,7 @@
 #include <QStatusBar>
 #include <QTabBar>
 #include <QTabWidget>
+#include <QTimer>
 #include <QUrl>
 
 #include <sys/stat.h>
@@ -211,6 +212,20 @@ TEST_F(ScriptFiles, ThatOthersRewriteAreReadAgainOnYes)
     EXPECT_EQ(Text(), "new");
     EXPECT_FALSE(Script().IsModified());
     LeaveAndComeBack();
+    EXPECT_EQ(m_prompts.told.size(), 1);
+}
+
+TEST_F(ScriptFiles, ThatOthersRewriteAreNoticedWithoutAKey)
+{
+    Open("a.sql", "old");
+    LeaveAndComeBack();
+    auto* watch = Editor().GetSafeHwnd()->findChild<QTimer*>("fileWatch");
+    ASSERT_TRUE(watch);
+    EXPECT_LE(watch->interval(), 5000) << "some seconds";
+    watch->setInterval(1);
+    WriteFromOutside("a.sql", "new");
+    m_prompts.answer = Answer::Yes;
+    EXPECT_TRUE(WaitUntil([this] { return Text() == "new"; }));
     EXPECT_EQ(m_prompts.told.size(), 1);
 }
 

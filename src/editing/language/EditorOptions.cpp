@@ -3,6 +3,7 @@
 #include "editing/ZNCoreEditorControlEx.h"
 
 #include "control/EngineLooks.h"
+#include "control/EngineModes.h"
 #include "editing/language/FileTypeManager.h"
 #include "editing/language/Library.h"
 #include "platform/services/OptionsServer.h"
@@ -120,10 +121,13 @@ void CZNCoreEditorControlEx::WriteOptions(CSyntaxFile& syntax, const LanguageOpt
         return;
     }
     const bool wasModified = syntax.GetModified();
+    LanguageOptions fitting = options;
+    if (syntax.GetLexerNumber() == engine::lexer::Makefile)
+        fitting.tabsToSpaces = false; // a recipe begins with a tab
     if (QFile::exists(syntax.GetCustomFilename()))
-        syntax.FillFonts(options);
+        syntax.FillFonts(fitting);
     else
-        syntax.WriteOptions(options);
+        syntax.WriteOptions(fitting);
     syntax.SetModified(wasModified);
 }
 
