@@ -2,7 +2,7 @@
 // A workbench in which somebody types into the given scripts (--new: one without a name; --text and
 // --language: what is typed, and in what), and which is killed as soon as the copies of that have
 // been written. With --recover it first brings back what the last one left. With "opening" behind
-// the script it is killed as soon as a file that it opens makes it say something.
+// the script it is killed while it opens it.
 #include "editing/ZNCoreEditorControlEx.h"
 #include "host/script/ScriptDoc.h"
 #include "host/script/ScriptFrame.h"
@@ -12,30 +12,32 @@
 #include "tests/host/ScriptedPrompts.h"
 
 #include <QApplication>
+#include <QEvent>
 
 #include <csignal>
 
 namespace {
 
-class Death final : public IUserQuestions
+// As soon as an editor comes, which is in the midst of opening.
+class DeathAtAnEditor final : public QObject
 {
-public:
-    Answer Ask(HWND /*owner*/, const QString& /*text*/, Buttons /*buttons*/) override
+protected:
+    bool eventFilter(QObject* watched, QEvent* event) override
     {
-        std::raise(SIGKILL);
-        return Answer::No;
+        if (event->type() == QEvent::Polish && watched->inherits("QsciScintillaBase"))
+            std::raise(SIGKILL);
+        return QObject::eventFilter(watched, event);
     }
 };
 
 int DieOpening(const QString& path)
 {
-    Death death;
-    SetUserQuestions(&death);
+    DeathAtAnEditor death;
     Workbench app(Workbench::Keeps::Places);
     auto* window = new MainWindow(app);
     window->show();
+    qApp->installEventFilter(&death);
     app.OpenDocumentFile(path);
-    SetUserQuestions(nullptr);
     return 1;
 }
 

@@ -112,6 +112,9 @@ protected:
     }
 };
 
+class DarkSchemes : public Schemes
+{};
+
 constexpr int kFrame = 60; // dots at least around a word
 
 } // namespace
@@ -178,11 +181,10 @@ TEST_P(Schemes, ShowTheIconOfTheEntryThatIsChosen)
     EXPECT_GT(dots, 20);
 }
 
-TEST_P(Schemes, SetTheThumbOfAScrollBarOffAgainstItsGroove)
+// In the light the plain style is left as it is.
+TEST_P(DarkSchemes, SetTheThumbOfAScrollBarOffAgainstItsGroove)
 {
     constexpr double kSeen = 3;
-    if (!zncoreeditor::IsDesktopDark())
-        GTEST_SKIP() << "the plain style is left as it is";
     QScrollBar bar(Qt::Vertical);
     bar.setRange(0, 100);
     bar.setPageStep(50);
@@ -204,5 +206,6 @@ TEST_P(Schemes, SetAMenuOffAgainstTheTextBelow)
     EXPECT_GE(Contrast(picture.pixelColor(0, picture.height() / 2), text), kSeen);
 }
 
+INSTANTIATE_TEST_SUITE_P(OfTheWorkbench, DarkSchemes, testing::Values("Dark", "High Contrast"));
 INSTANTIATE_TEST_SUITE_P(OfTheWorkbench, Schemes,
                          testing::Values("Desktop", "Light", "Dark", "High Contrast"));

@@ -160,7 +160,7 @@ TEST_F(WindowStory, FindsByAnExpressionThatIsTyped)
 {
     Keys({"ctrl+Home", "ctrl+f"});
     Type("sel(ect) \\d;");
-    Keys({"alt+x", "Return", "Return", "Escape"});
+    Keys({"alt+x", "Return", "Escape"}); // from the first match, which is shown, to the second
     Type("x");
     Keys({"ctrl+s"});
     EXPECT_TRUE(Eventually([this] { return Read() == "select 1;\nx\n"; })) << Read().toStdString();
