@@ -702,6 +702,90 @@ Mit Qt %1. Lizenziert unter der GNU General Public License, Version 3 oder spät
         <source>Command</source>
         <translation>Befehl</translation>
     </message>
+    <message>
+        <source>New key</source>
+        <translation>Neue Taste</translation>
+    </message>
+    <message>
+        <source>Press a key</source>
+        <translation>Eine Taste drücken</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>Abbrechen</translation>
+    </message>
+    <message>
+        <source>C&amp;hange...</source>
+        <translation>Än&amp;dern...</translation>
+    </message>
+    <message>
+        <source>&amp;Remove</source>
+        <translation>&amp;Entfernen</translation>
+    </message>
+    <message>
+        <source>R&amp;eset</source>
+        <translation>&amp;Zurücksetzen</translation>
+    </message>
+    <message>
+        <source>Reset &amp;All...</source>
+        <translation>&amp;Alle zurücksetzen...</translation>
+    </message>
+    <message>
+        <source>&amp;Close</source>
+        <translation>S&amp;chließen</translation>
+    </message>
+    <message>
+        <source>Changed. It comes without a key.</source>
+        <translation>Geändert. Ursprünglich ohne Taste.</translation>
+    </message>
+    <message>
+        <source>Changed. It comes with %1.</source>
+        <translation>Geändert. Ursprünglich %1.</translation>
+    </message>
+    <message>
+        <source>No command has these words in its name or its keys.</source>
+        <translation>Kein Befehl hat diese Wörter im Namen oder in den Tasten.</translation>
+    </message>
+    <message>
+        <source>%1 is the key of no command.</source>
+        <translation>%1 ist die Taste keines Befehls.</translation>
+    </message>
+    <message>
+        <source>Press the key for “%1”. Escape leaves it as it is.</source>
+        <translation>Drücken Sie die Taste für „%1“. Escape lässt alles, wie es ist.</translation>
+    </message>
+    <message>
+        <source>%1 alone is for writing and for moving about. Take it with Ctrl or Alt, or take a function key.</source>
+        <translation>%1 allein dient dem Schreiben und Bewegen. Nehmen Sie die Taste mit Strg oder Alt, oder eine Funktionstaste.</translation>
+    </message>
+    <message>
+        <source>%1 opens the menu “%2”.</source>
+        <translation>%1 öffnet das Menü „%2“.</translation>
+    </message>
+    <message>
+        <source>%1 presses the button “%2” of the window.</source>
+        <translation>%1 drückt die Schaltfläche „%2“ des Fensters.</translation>
+    </message>
+    <message>
+        <source>%1 is the key of “%2”. Do you want to move it to “%3”?</source>
+        <translation>%1 ist die Taste von „%2“. Möchten Sie sie „%3“ geben?</translation>
+    </message>
+    <message>
+        <source>&amp;Move</source>
+        <translation>&amp;Verschieben</translation>
+    </message>
+    <message>
+        <source>Do you want to give all commands their first keys again?</source>
+        <translation>Möchten Sie allen Befehlen wieder ihre ursprünglichen Tasten geben?</translation>
+    </message>
+    <message>
+        <source>&amp;Reset</source>
+        <translation>&amp;Zurücksetzen</translation>
+    </message>
+    <message>
+        <source>The keys could not be written to the settings. They are as shown until the workbench ends.</source>
+        <translation>Die Tasten konnten nicht in die Einstellungen geschrieben werden. Sie gelten, bis die Anwendung endet.</translation>
+    </message>
 </context>
 <context>
     <name>LanguageMenu</name>

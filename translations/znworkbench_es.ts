@@ -702,6 +702,90 @@ Con Qt %1. Con licencia pública general de GNU, versión 3 o posterior.</transl
         <source>Command</source>
         <translation>Orden</translation>
     </message>
+    <message>
+        <source>New key</source>
+        <translation>Tecla nueva</translation>
+    </message>
+    <message>
+        <source>Press a key</source>
+        <translation>Pulse una tecla</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>Cancelar</translation>
+    </message>
+    <message>
+        <source>C&amp;hange...</source>
+        <translation>Ca&amp;mbiar...</translation>
+    </message>
+    <message>
+        <source>&amp;Remove</source>
+        <translation>&amp;Quitar</translation>
+    </message>
+    <message>
+        <source>R&amp;eset</source>
+        <translation>&amp;Restablecer</translation>
+    </message>
+    <message>
+        <source>Reset &amp;All...</source>
+        <translation>Restablecer &amp;todo...</translation>
+    </message>
+    <message>
+        <source>&amp;Close</source>
+        <translation>&amp;Cerrar</translation>
+    </message>
+    <message>
+        <source>Changed. It comes without a key.</source>
+        <translation>Cambiado. Originalmente sin tecla.</translation>
+    </message>
+    <message>
+        <source>Changed. It comes with %1.</source>
+        <translation>Cambiado. Originalmente %1.</translation>
+    </message>
+    <message>
+        <source>No command has these words in its name or its keys.</source>
+        <translation>Ningún comando tiene estas palabras en su nombre o en sus teclas.</translation>
+    </message>
+    <message>
+        <source>%1 is the key of no command.</source>
+        <translation>%1 no es la tecla de ningún comando.</translation>
+    </message>
+    <message>
+        <source>Press the key for “%1”. Escape leaves it as it is.</source>
+        <translation>Pulse la tecla para «%1». Escape lo deja como está.</translation>
+    </message>
+    <message>
+        <source>%1 alone is for writing and for moving about. Take it with Ctrl or Alt, or take a function key.</source>
+        <translation>%1 sola sirve para escribir y moverse. Úsela con Ctrl o Alt, o use una tecla de función.</translation>
+    </message>
+    <message>
+        <source>%1 opens the menu “%2”.</source>
+        <translation>%1 abre el menú «%2».</translation>
+    </message>
+    <message>
+        <source>%1 presses the button “%2” of the window.</source>
+        <translation>%1 pulsa el botón «%2» de la ventana.</translation>
+    </message>
+    <message>
+        <source>%1 is the key of “%2”. Do you want to move it to “%3”?</source>
+        <translation>%1 es la tecla de «%2». ¿Desea pasarla a «%3»?</translation>
+    </message>
+    <message>
+        <source>&amp;Move</source>
+        <translation>&amp;Mover</translation>
+    </message>
+    <message>
+        <source>Do you want to give all commands their first keys again?</source>
+        <translation>¿Desea devolver a todos los comandos sus teclas originales?</translation>
+    </message>
+    <message>
+        <source>&amp;Reset</source>
+        <translation>&amp;Restablecer</translation>
+    </message>
+    <message>
+        <source>The keys could not be written to the settings. They are as shown until the workbench ends.</source>
+        <translation>No se pudieron escribir las teclas en la configuración. Valen hasta que termine la aplicación.</translation>
+    </message>
 </context>
 <context>
     <name>LanguageMenu</name>

@@ -702,6 +702,90 @@ Avec Qt %1. Sous licence publique générale GNU, version 3 ou ultérieure.</tra
         <source>Command</source>
         <translation>Commande</translation>
     </message>
+    <message>
+        <source>New key</source>
+        <translation>Nouvelle touche</translation>
+    </message>
+    <message>
+        <source>Press a key</source>
+        <translation>Appuyez sur une touche</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>Annuler</translation>
+    </message>
+    <message>
+        <source>C&amp;hange...</source>
+        <translation>&amp;Modifier...</translation>
+    </message>
+    <message>
+        <source>&amp;Remove</source>
+        <translation>&amp;Retirer</translation>
+    </message>
+    <message>
+        <source>R&amp;eset</source>
+        <translation>Réta&amp;blir</translation>
+    </message>
+    <message>
+        <source>Reset &amp;All...</source>
+        <translation>&amp;Tout rétablir...</translation>
+    </message>
+    <message>
+        <source>&amp;Close</source>
+        <translation>&amp;Fermer</translation>
+    </message>
+    <message>
+        <source>Changed. It comes without a key.</source>
+        <translation>Modifié. Sans touche à l’origine.</translation>
+    </message>
+    <message>
+        <source>Changed. It comes with %1.</source>
+        <translation>Modifié. %1 à l’origine.</translation>
+    </message>
+    <message>
+        <source>No command has these words in its name or its keys.</source>
+        <translation>Aucune commande n’a ces mots dans son nom ou ses touches.</translation>
+    </message>
+    <message>
+        <source>%1 is the key of no command.</source>
+        <translation>%1 n’est la touche d’aucune commande.</translation>
+    </message>
+    <message>
+        <source>Press the key for “%1”. Escape leaves it as it is.</source>
+        <translation>Appuyez sur la touche pour «&#xa0;%1&#xa0;». Échap laisse tout tel quel.</translation>
+    </message>
+    <message>
+        <source>%1 alone is for writing and for moving about. Take it with Ctrl or Alt, or take a function key.</source>
+        <translation>%1 seule sert à écrire et à se déplacer. Prenez-la avec Ctrl ou Alt, ou prenez une touche de fonction.</translation>
+    </message>
+    <message>
+        <source>%1 opens the menu “%2”.</source>
+        <translation>%1 ouvre le menu «&#xa0;%2&#xa0;».</translation>
+    </message>
+    <message>
+        <source>%1 presses the button “%2” of the window.</source>
+        <translation>%1 actionne le bouton «&#xa0;%2&#xa0;» de la fenêtre.</translation>
+    </message>
+    <message>
+        <source>%1 is the key of “%2”. Do you want to move it to “%3”?</source>
+        <translation>%1 est la touche de «&#xa0;%2&#xa0;». Voulez-vous la donner à «&#xa0;%3&#xa0;»&#xa0;?</translation>
+    </message>
+    <message>
+        <source>&amp;Move</source>
+        <translation>&amp;Déplacer</translation>
+    </message>
+    <message>
+        <source>Do you want to give all commands their first keys again?</source>
+        <translation>Voulez-vous redonner à toutes les commandes leurs touches d’origine&#xa0;?</translation>
+    </message>
+    <message>
+        <source>&amp;Reset</source>
+        <translation>&amp;Rétablir</translation>
+    </message>
+    <message>
+        <source>The keys could not be written to the settings. They are as shown until the workbench ends.</source>
+        <translation>Les touches n’ont pas pu être écrites dans les réglages. Elles valent jusqu’à la fin de l’application.</translation>
+    </message>
 </context>
 <context>
     <name>LanguageMenu</name>

@@ -698,6 +698,90 @@ Qt %1 を使用。GNU General Public License バージョン 3 以降の下で�
         <source>Command</source>
         <translation>コマンド</translation>
     </message>
+    <message>
+        <source>New key</source>
+        <translation>新しいキー</translation>
+    </message>
+    <message>
+        <source>Press a key</source>
+        <translation>キーを押してください</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>キャンセル</translation>
+    </message>
+    <message>
+        <source>C&amp;hange...</source>
+        <translation>変更(&amp;H)...</translation>
+    </message>
+    <message>
+        <source>&amp;Remove</source>
+        <translation>削除(&amp;R)</translation>
+    </message>
+    <message>
+        <source>R&amp;eset</source>
+        <translation>元に戻す(&amp;E)</translation>
+    </message>
+    <message>
+        <source>Reset &amp;All...</source>
+        <translation>すべて元に戻す(&amp;A)...</translation>
+    </message>
+    <message>
+        <source>&amp;Close</source>
+        <translation>閉じる(&amp;C)</translation>
+    </message>
+    <message>
+        <source>Changed. It comes without a key.</source>
+        <translation>変更されています。最初のキーはありません。</translation>
+    </message>
+    <message>
+        <source>Changed. It comes with %1.</source>
+        <translation>変更されています。最初のキーは %1 です。</translation>
+    </message>
+    <message>
+        <source>No command has these words in its name or its keys.</source>
+        <translation>名前またはキーにこの語を含むコマンドはありません。</translation>
+    </message>
+    <message>
+        <source>%1 is the key of no command.</source>
+        <translation>%1 はどのコマンドのキーでもありません。</translation>
+    </message>
+    <message>
+        <source>Press the key for “%1”. Escape leaves it as it is.</source>
+        <translation>「%1」のキーを押してください。Escape キーで変更せずに戻ります。</translation>
+    </message>
+    <message>
+        <source>%1 alone is for writing and for moving about. Take it with Ctrl or Alt, or take a function key.</source>
+        <translation>%1 だけでは入力や移動に使われます。Ctrl か Alt と組み合わせるか、ファンクションキーを使ってください。</translation>
+    </message>
+    <message>
+        <source>%1 opens the menu “%2”.</source>
+        <translation>%1 はメニュー「%2」を開きます。</translation>
+    </message>
+    <message>
+        <source>%1 presses the button “%2” of the window.</source>
+        <translation>%1 はウィンドウのボタン「%2」を押します。</translation>
+    </message>
+    <message>
+        <source>%1 is the key of “%2”. Do you want to move it to “%3”?</source>
+        <translation>%1 は「%2」のキーです。「%3」に移しますか?</translation>
+    </message>
+    <message>
+        <source>&amp;Move</source>
+        <translation>移動(&amp;M)</translation>
+    </message>
+    <message>
+        <source>Do you want to give all commands their first keys again?</source>
+        <translation>すべてのコマンドのキーを最初の状態に戻しますか?</translation>
+    </message>
+    <message>
+        <source>&amp;Reset</source>
+        <translation>元に戻す(&amp;R)</translation>
+    </message>
+    <message>
+        <source>The keys could not be written to the settings. They are as shown until the workbench ends.</source>
+        <translation>キーを設定に書き込めませんでした。終了するまでは表示のとおりです。</translation>
+    </message>
 </context>
 <context>
     <name>LanguageMenu</name>

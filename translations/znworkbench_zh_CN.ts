@@ -698,6 +698,90 @@ Over Qt %1. Licensed under the GNU General Public License, version 3 or later.</
         <source>Command</source>
         <translation>命令</translation>
     </message>
+    <message>
+        <source>New key</source>
+        <translation>新按键</translation>
+    </message>
+    <message>
+        <source>Press a key</source>
+        <translation>请按键</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>取消</translation>
+    </message>
+    <message>
+        <source>C&amp;hange...</source>
+        <translation>更改(&amp;H)...</translation>
+    </message>
+    <message>
+        <source>&amp;Remove</source>
+        <translation>移除(&amp;R)</translation>
+    </message>
+    <message>
+        <source>R&amp;eset</source>
+        <translation>重置(&amp;E)</translation>
+    </message>
+    <message>
+        <source>Reset &amp;All...</source>
+        <translation>全部重置(&amp;A)...</translation>
+    </message>
+    <message>
+        <source>&amp;Close</source>
+        <translation>关闭(&amp;C)</translation>
+    </message>
+    <message>
+        <source>Changed. It comes without a key.</source>
+        <translation>已更改。原来没有按键。</translation>
+    </message>
+    <message>
+        <source>Changed. It comes with %1.</source>
+        <translation>已更改。原来是 %1。</translation>
+    </message>
+    <message>
+        <source>No command has these words in its name or its keys.</source>
+        <translation>没有命令的名称或按键包含这些词。</translation>
+    </message>
+    <message>
+        <source>%1 is the key of no command.</source>
+        <translation>%1 不是任何命令的按键。</translation>
+    </message>
+    <message>
+        <source>Press the key for “%1”. Escape leaves it as it is.</source>
+        <translation>请按“%1”的按键。按 Esc 保持不变。</translation>
+    </message>
+    <message>
+        <source>%1 alone is for writing and for moving about. Take it with Ctrl or Alt, or take a function key.</source>
+        <translation>单独的 %1 用于输入和移动。请与 Ctrl 或 Alt 一起使用，或使用功能键。</translation>
+    </message>
+    <message>
+        <source>%1 opens the menu “%2”.</source>
+        <translation>%1 用于打开菜单“%2”。</translation>
+    </message>
+    <message>
+        <source>%1 presses the button “%2” of the window.</source>
+        <translation>%1 用于按下窗口的按钮“%2”。</translation>
+    </message>
+    <message>
+        <source>%1 is the key of “%2”. Do you want to move it to “%3”?</source>
+        <translation>%1 是“%2”的按键。要把它移给“%3”吗？</translation>
+    </message>
+    <message>
+        <source>&amp;Move</source>
+        <translation>移动(&amp;M)</translation>
+    </message>
+    <message>
+        <source>Do you want to give all commands their first keys again?</source>
+        <translation>要让所有命令恢复原来的按键吗？</translation>
+    </message>
+    <message>
+        <source>&amp;Reset</source>
+        <translation>重置(&amp;R)</translation>
+    </message>
+    <message>
+        <source>The keys could not be written to the settings. They are as shown until the workbench ends.</source>
+        <translation>无法把按键写入设置。在程序结束之前按显示的生效。</translation>
+    </message>
 </context>
 <context>
     <name>LanguageMenu</name>

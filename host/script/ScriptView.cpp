@@ -6,6 +6,7 @@
 #include "editing/language/EditorCompletion.h"
 #include "editing/looks/DesktopWatch.h"
 #include "editing/operations/ScrollRange.h"
+#include "host/commands/CommandKeys.h"
 #include "host/commands/WorkbenchCommands.h"
 #include "host/completion/MacroCommands.h"
 #include "host/completion/TemplateInsertion.h"
@@ -175,6 +176,10 @@ int ScriptView::PreTranslateMessage(MSG* message)
 {
     if (message->message == WM_KEYDOWN && message->wParam == Qt::Key_Escape && !HasSomethingToEnd())
         OnCommand(command::CloseFind, 0);
+    if (message->message == WM_KEYDOWN &&
+        CommandKeys::IsSpokenFor(QKeyCombination::fromCombined(static_cast<int>(message->wParam) |
+                                                               static_cast<int>(message->lParam))))
+        return 1; // the menu's command is not possible
     return CZNCoreEditorView::PreTranslateMessage(message);
 }
 

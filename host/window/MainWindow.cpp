@@ -3,6 +3,7 @@
 // remembered between two runs in MainWindowSession.
 #include "host/window/MainWindow.h"
 
+#include "host/commands/CommandKeys.h"
 #include "host/expanded/ExpandedScript.h"
 #include "host/files/FileDrops.h"
 #include "host/files/FilePlace.h"

@@ -16,6 +16,7 @@
 #include <vector>
 
 class CZNCoreEditorControlEx;
+class CommandKeys;
 class EditingMenu;
 class ExpandedScript;
 class FindBar;
@@ -183,6 +184,7 @@ private:
     FindBar* m_find = nullptr;
     QTimer* m_sessionTimer;
     QList<QAction*> m_actions; // of the named commands, in their order
+    std::unique_ptr<CommandKeys> m_keys;
     bool m_keepsSession = false;
     QStringList m_asked;       // for by later starts, while a question stands
     QList<SessionFile> m_left; // scripts whose tabs went, the last one last

@@ -4,6 +4,7 @@
 // Keys: a menu's shortcut comes first, then the key table of the view with the focus, then the
 // editor. Where the table has a key of a menu, both stand for the same command.
 #include "editing/ZNCoreEditorControlEx.h"
+#include "host/commands/CommandKeys.h"
 #include "host/commands/WorkbenchCommands.h"
 #include "host/finding/FindBar.h"
 #include "host/folder/FolderPane.h"
@@ -249,6 +250,7 @@ void MainWindow::BuildMenus()
         return frame ? frame->View() : nullptr;
     });
     GiveFirstKeysWay(findChildren<QAction*>());
+    m_keys = std::make_unique<CommandKeys>(CommandsOf(*menuBar()));
     FillToolBar(*bar, *this);
     for (QMenu* each : menuBar()->findChildren<QMenu*>()) {
         connect(each, &QMenu::aboutToShow, this, [this, each] {
@@ -342,7 +344,7 @@ void MainWindow::ReopenClosed()
 
 void MainWindow::ShowKeys()
 {
-    (new KeysDialog(*menuBar(), this))->show();
+    (new KeysDialog(*menuBar(), *m_keys, this))->show();
 }
 
 void MainWindow::ShowAboutBox()

@@ -2,6 +2,8 @@
 #include "host/window/MenuKeys.h"
 
 #include <QAction>
+#include <QMenu>
+#include <QMenuBar>
 #include <QSet>
 
 QList<QKeySequence> KnownKeys(const QList<QKeySequence>& keys)
@@ -33,4 +35,18 @@ void GiveFirstKeysWay(const QList<QAction*>& commands)
         if (keys.removeIf(isTaken) > 0)
             command->setShortcuts(keys);
     }
+}
+
+QList<QAction*> CommandsOf(const QMenuBar& menus)
+{
+    QList<QAction*> commands;
+    QList<QAction*> entries = menus.actions();
+    while (!entries.isEmpty()) {
+        QAction* entry = entries.takeFirst();
+        if (entry->menu())
+            entries += entry->menu()->actions();
+        else if (!entry->isSeparator())
+            commands << entry;
+    }
+    return commands;
 }

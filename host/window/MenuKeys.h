@@ -7,6 +7,7 @@
 #include <QList>
 
 class QAction;
+class QMenuBar;
 
 // Without those of keys behind F12, and of the keys that turn pages; Backtab is written as Tab,
 // which Qt takes for the same.
@@ -14,3 +15,6 @@ QList<QKeySequence> KnownKeys(const QList<QKeySequence>& keys);
 
 // A key that one command has first is no further key of another.
 void GiveFirstKeysWay(const QList<QAction*>& commands);
+
+// All entries of the menus that open no further menu.
+QList<QAction*> CommandsOf(const QMenuBar& menus);
