@@ -6,6 +6,7 @@
 
 #include <QAbstractScrollArea>
 #include <QApplication>
+#include <QDockWidget>
 #include <QPainter>
 #include <QStyleOption>
 
@@ -122,6 +123,12 @@ void DrawThumbFrame(const QStyleOption& option, QPainter& painter, const QRect& 
         DrawFocusFrame(painter, thumb, edge, kThin);
 }
 
+bool HasKeys(const QWidget& pane)
+{
+    const QWidget* focus = QApplication::focusWidget();
+    return focus && pane.isAncestorOf(focus);
+}
+
 // Of an entry that cannot be taken; the plain style draws the ground of others.
 void DrawEntryGround(const QStyleOption& option, QPainter& painter)
 {
@@ -158,7 +165,17 @@ void DrawTabClose(const QStyleOption& option, QPainter& painter)
 
 } // namespace
 
-Style::Style() : QProxyStyle(kPlain) {}
+Style::Style() : QProxyStyle(kPlain)
+{
+    connect(qApp, &QApplication::focusChanged, this, [](QWidget* before, QWidget* after) {
+        for (QWidget* widget : {before, after}) {
+            while (widget && !qobject_cast<QDockWidget*>(widget))
+                widget = widget->parentWidget();
+            if (widget)
+                widget->update();
+        }
+    });
+}
 
 void Style::Install()
 {
@@ -211,6 +228,11 @@ void Style::drawControl(ControlElement element, const QStyleOption* option, QPai
         quiet.state.setFlag(State_HasFocus, false);
         QProxyStyle::drawControl(element, &quiet, painter, widget);
         DrawButtonFrame(*button, *painter);
+        return;
+    }
+    if (element == CE_DockWidgetTitle && widget && HasKeys(*widget)) {
+        QProxyStyle::drawControl(element, option, painter, widget);
+        DrawFocusFrame(*painter, option->rect, FocusOn(*option, QPalette::Window), kFocusWidth);
         return;
     }
     const auto* entry = qstyleoption_cast<const QStyleOptionMenuItem*>(option);

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 // Style: what the plain style of Qt draws too faintly on a dark ground or as a bitmap: check boxes,
-// radio buttons, the frames of edit fields, what has the focus, and the marks that close and float
-// tabs and panes. A desktop's own style stays as it is.
+// radio buttons, the frames of edit fields, what has the focus, panes among it, and the marks
+// that close and float tabs and panes. A desktop's own style stays as it is.
 #pragma once
 
 #include <QProxyStyle>

@@ -7,12 +7,16 @@
 #include "tests/looks/Contrast.h"
 
 #include <QApplication>
+#include <QDockWidget>
+#include <QLineEdit>
+#include <QMainWindow>
 #include <QMenu>
 #include <QPainter>
 #include <QScrollBar>
 #include <QStyleFactory>
 #include <QStyleOptionButton>
 #include <QStyleOptionMenuItem>
+#include <QTest>
 
 #include <gtest/gtest.h>
 
@@ -60,6 +64,35 @@ TEST_P(PlainStyle, TellsWhatIsChosenByMoreThanItsFrame)
     for (const auto element : {QStyle::PE_IndicatorCheckBox, QStyle::PE_IndicatorRadioButton})
         EXPECT_GT(Strongest(element, QStyle::State_On), Strongest(element, QStyle::State_Off) * 1.5)
             << int(element);
+}
+
+TEST_P(PlainStyle, LightsTheTitleOfThePaneWithTheKeys)
+{
+    QMainWindow window;
+    window.setPalette(QPalette(GetParam()));
+    auto* text = new QLineEdit(&window);
+    window.setCentralWidget(text);
+    auto* pane = new QDockWidget(QStringLiteral("Pane"), &window);
+    auto* list = new QLineEdit(pane);
+    pane->setWidget(list);
+    window.addDockWidget(Qt::LeftDockWidgetArea, pane);
+    window.resize(400, 200);
+    window.show();
+    window.activateWindow();
+    ASSERT_TRUE(QTest::qWaitForWindowActive(&window));
+    const auto title = [&] {
+        const QRect rect(0, 0, pane->width(), list->y());
+        return pane->grab(rect).toImage().convertToFormat(QImage::Format_RGB32);
+    };
+    text->setFocus();
+    const QImage quiet = title();
+    list->setFocus();
+    const QImage lit = title();
+    const QPoint edge(lit.width() / 2, 1);
+    constexpr double kSeen = 3;
+    EXPECT_GE(Contrast(lit.pixelColor(edge), quiet.pixelColor(edge)), kSeen);
+    text->setFocus();
+    EXPECT_EQ(title(), quiet);
 }
 
 INSTANTIATE_TEST_SUITE_P(OnGrounds, PlainStyle,
