@@ -12,6 +12,8 @@
 #include <QFileInfo>
 #include <QMessageBox>
 #include <QPushButton>
+#include <QScreen>
+#include <QWindow>
 
 namespace {
 
@@ -119,6 +121,15 @@ bool DialogPrompts::Confirm(QWidget* parent, const QString& text, const QString&
     box.setTextFormat(Qt::PlainText);
     const auto* yes = box.addButton(doIt, QMessageBox::AcceptRole);
     box.setDefaultButton(QMessageBox::Cancel);
+    // A window that is about to be shown is not where the window manager is going to put it.
+    const QWindow* window = parent ? parent->window()->windowHandle() : nullptr;
+    if (!window || !window->isExposed()) {
+        box.setAttribute(Qt::WA_DontShowOnScreen); // it has its size once it is shown
+        box.show();
+        box.hide();
+        box.setAttribute(Qt::WA_DontShowOnScreen, false);
+        box.move(box.screen()->availableGeometry().center() - box.rect().center());
+    }
     box.exec();
     return box.clickedButton() == yes;
 }

@@ -1,9 +1,15 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "host/files/OpenGuard.h"
+#include "host/files/Prompts.h"
 
+#include <QApplication>
 #include <QDir>
 #include <QFile>
+#include <QMainWindow>
+#include <QMessageBox>
+#include <QScreen>
 #include <QTemporaryDir>
+#include <QTimer>
 
 #include <gtest/gtest.h>
 
@@ -196,6 +202,21 @@ TEST_F(OpenGuardTest, IsAbsentWithoutAFolder)
     OpenGuard refused(folder.filePath("file/below"));
     const OpenGuard::Mark other = refused.Open("/x/a.sql");
     EXPECT_TRUE(refused.DiedOn().isEmpty());
+}
+
+TEST(OpenGuard, AsksInTheMiddleOfTheScreenUntilTheWindowHasItsPlace)
+{
+    QMainWindow unplaced;
+    QPoint off;
+    QTimer::singleShot(0, [&off] {
+        QWidget* box = QApplication::activeModalWidget();
+        ASSERT_NE(box, nullptr);
+        off = box->geometry().center() - box->screen()->availableGeometry().center();
+        EXPECT_TRUE(box->testAttribute(Qt::WA_Moved));
+        box->close();
+    });
+    EXPECT_FALSE(DialogPrompts().Confirm(&unplaced, OpenAgainQuestion("/x.sql"), "Open"));
+    EXPECT_LE(off.manhattanLength(), 12); // a frame
 }
 
 TEST_F(OpenGuardTest, HasAPlaceOfTheUsersAndAQuestion)
