@@ -625,7 +625,7 @@ Mit Qt %1. Lizenziert unter der GNU General Public License, Version 3 oder spät
     </message>
     <message>
         <source>&amp;Folder</source>
-        <translation>Ordner</translation>
+        <translation>&amp;Ordner</translation>
     </message>
     <message>
         <source>Part of a name, or *.sql</source>
@@ -1016,7 +1016,7 @@ Mit Qt %1. Lizenziert unter der GNU General Public License, Version 3 oder spät
     </message>
     <message>
         <source>&amp;Reset Zoom</source>
-        <translation>Z&amp;oom zurücksetzen</translation>
+        <translation>Zoo&amp;m zurücksetzen</translation>
     </message>
     <message>
         <source>&amp;Whitespace</source>
@@ -2322,6 +2322,29 @@ Mit Qt %1. Lizenziert unter der GNU General Public License, Version 3 oder spät
     <message>
         <source>Tool Bar</source>
         <translation>Werkzeugleiste</translation>
+    </message>
+</context>
+<context>
+    <name>UnsavedDialog</name>
+    <message>
+        <source>Unsaved changes</source>
+        <translation>Ungespeicherte Änderungen</translation>
+    </message>
+    <message>
+        <source>These scripts have changes that are not saved. Those without a tick lose them.</source>
+        <translation>Diese Skripte haben ungespeicherte Änderungen. Ohne Häkchen gehen sie verloren.</translation>
+    </message>
+    <message>
+        <source>Scripts to save</source>
+        <translation>Skripte, die gespeichert werden</translation>
+    </message>
+    <message>
+        <source>&amp;Save</source>
+        <translation>&amp;Speichern</translation>
+    </message>
+    <message>
+        <source>&amp;Discard All</source>
+        <translation>Alle &amp;verwerfen</translation>
     </message>
 </context>
 <context>

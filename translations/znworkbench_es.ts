@@ -625,7 +625,7 @@ Con Qt %1. Con licencia pública general de GNU, versión 3 o posterior.</transl
     </message>
     <message>
         <source>&amp;Folder</source>
-        <translation>Carpeta</translation>
+        <translation>&amp;Carpeta</translation>
     </message>
     <message>
         <source>Part of a name, or *.sql</source>
@@ -2322,6 +2322,29 @@ Con Qt %1. Con licencia pública general de GNU, versión 3 o posterior.</transl
     <message>
         <source>Tool Bar</source>
         <translation>Barra de herramientas</translation>
+    </message>
+</context>
+<context>
+    <name>UnsavedDialog</name>
+    <message>
+        <source>Unsaved changes</source>
+        <translation>Cambios sin guardar</translation>
+    </message>
+    <message>
+        <source>These scripts have changes that are not saved. Those without a tick lose them.</source>
+        <translation>Estos scripts tienen cambios sin guardar. Los que no estén marcados los perderán.</translation>
+    </message>
+    <message>
+        <source>Scripts to save</source>
+        <translation>Scripts que se guardan</translation>
+    </message>
+    <message>
+        <source>&amp;Save</source>
+        <translation>&amp;Guardar</translation>
+    </message>
+    <message>
+        <source>&amp;Discard All</source>
+        <translation>&amp;Descartar todo</translation>
     </message>
 </context>
 <context>

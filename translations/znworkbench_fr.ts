@@ -2325,6 +2325,29 @@ Avec Qt %1. Sous licence publique générale GNU, version 3 ou ultérieure.</tra
     </message>
 </context>
 <context>
+    <name>UnsavedDialog</name>
+    <message>
+        <source>Unsaved changes</source>
+        <translation>Modifications non enregistrées</translation>
+    </message>
+    <message>
+        <source>These scripts have changes that are not saved. Those without a tick lose them.</source>
+        <translation>Ces scripts contiennent des modifications non enregistrées. Celles des scripts non cochés seront perdues.</translation>
+    </message>
+    <message>
+        <source>Scripts to save</source>
+        <translation>Scripts à enregistrer</translation>
+    </message>
+    <message>
+        <source>&amp;Save</source>
+        <translation>&amp;Enregistrer</translation>
+    </message>
+    <message>
+        <source>&amp;Discard All</source>
+        <translation>&amp;Tout abandonner</translation>
+    </message>
+</context>
+<context>
     <name>WorkProgress</name>
     <message>
         <source>&amp;Stop</source>

@@ -2313,6 +2313,29 @@ Qt %1 を使用。GNU General Public License バージョン 3 以降の下で�
     </message>
 </context>
 <context>
+    <name>UnsavedDialog</name>
+    <message>
+        <source>Unsaved changes</source>
+        <translation>保存していない変更</translation>
+    </message>
+    <message>
+        <source>These scripts have changes that are not saved. Those without a tick lose them.</source>
+        <translation>これらのスクリプトには保存されていない変更があります。チェックを外したスクリプトの変更は失われます。</translation>
+    </message>
+    <message>
+        <source>Scripts to save</source>
+        <translation>保存するスクリプト</translation>
+    </message>
+    <message>
+        <source>&amp;Save</source>
+        <translation>保存(&amp;S)</translation>
+    </message>
+    <message>
+        <source>&amp;Discard All</source>
+        <translation>すべて破棄(&amp;D)</translation>
+    </message>
+</context>
+<context>
     <name>WorkProgress</name>
     <message>
         <source>&amp;Stop</source>

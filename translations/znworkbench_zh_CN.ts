@@ -2313,6 +2313,29 @@ Over Qt %1. Licensed under the GNU General Public License, version 3 or later.</
     </message>
 </context>
 <context>
+    <name>UnsavedDialog</name>
+    <message>
+        <source>Unsaved changes</source>
+        <translation>未保存的更改</translation>
+    </message>
+    <message>
+        <source>These scripts have changes that are not saved. Those without a tick lose them.</source>
+        <translation>这些脚本有未保存的更改。未勾选的脚本将丢失更改。</translation>
+    </message>
+    <message>
+        <source>Scripts to save</source>
+        <translation>要保存的脚本</translation>
+    </message>
+    <message>
+        <source>&amp;Save</source>
+        <translation>保存(&amp;S)</translation>
+    </message>
+    <message>
+        <source>&amp;Discard All</source>
+        <translation>全部放弃(&amp;D)</translation>
+    </message>
+</context>
+<context>
     <name>WorkProgress</name>
     <message>
         <source>&amp;Stop</source>

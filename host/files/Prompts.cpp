@@ -4,6 +4,7 @@
 #include "host/files/FileDialogs.h"
 #include "host/files/OpenAsDialog.h"
 #include "host/files/SaveAsDialog.h"
+#include "host/files/UnsavedDialog.h"
 #include "host/recovery/RecoveryDialog.h"
 
 #include <QCoreApplication>
@@ -90,6 +91,12 @@ LoseChanges DialogPrompts::BeforeLosing(QWidget* parent, const QString& name)
     default:
         return LoseChanges::Cancel;
     }
+}
+
+std::optional<QList<bool>> DialogPrompts::WhichToSave(QWidget* parent, const QStringList& names)
+{
+    UnsavedDialog dialog(parent, names);
+    return dialog.exec() == QDialog::Accepted ? std::optional(dialog.Choices()) : std::nullopt;
 }
 
 LoseCharacters DialogPrompts::BeforeQuestionMarks(QWidget* parent, const QString& text)

@@ -53,6 +53,8 @@ public:
     // Where and how to save; nothing if the person thought better of it.
     virtual std::optional<SaveTarget> WhereToSave(QWidget* parent, const SaveTarget& proposal) = 0;
     virtual LoseChanges BeforeLosing(QWidget* parent, const QString& name) = 0;
+    // The same of several at once: whether each is to be saved; nothing: all is to stay.
+    virtual std::optional<QList<bool>> WhichToSave(QWidget* parent, const QStringList& names) = 0;
     virtual LoseCharacters BeforeQuestionMarks(QWidget* parent, const QString& text) = 0;
     // One choice for each of the copies.
     virtual QList<RecoveryChoice> WhatToRecover(QWidget* parent,
@@ -70,6 +72,7 @@ public:
     std::optional<OpenChoice> WhatToOpen(QWidget* parent, const QString& place) override;
     std::optional<SaveTarget> WhereToSave(QWidget* parent, const SaveTarget& proposal) override;
     LoseChanges BeforeLosing(QWidget* parent, const QString& name) override;
+    std::optional<QList<bool>> WhichToSave(QWidget* parent, const QStringList& names) override;
     LoseCharacters BeforeQuestionMarks(QWidget* parent, const QString& text) override;
     QList<RecoveryChoice> WhatToRecover(QWidget* parent,
                                         const QList<RecoverableCopy>& copies) override;

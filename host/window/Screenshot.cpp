@@ -45,6 +45,10 @@ public:
     std::optional<OpenChoice> WhatToOpen(QWidget*, const QString&) override { return {}; }
     std::optional<SaveTarget> WhereToSave(QWidget*, const SaveTarget&) override { return {}; }
     LoseChanges BeforeLosing(QWidget*, const QString&) override { return LoseChanges::Cancel; }
+    std::optional<QList<bool>> WhichToSave(QWidget*, const QStringList&) override
+    {
+        return std::nullopt;
+    }
     void Tell(QWidget*, const QString& text) override { Report(text); }
 
     QList<RecoveryChoice> WhatToRecover(QWidget*, const QList<RecoverableCopy>& copies) override

@@ -18,6 +18,7 @@
 #include <QCoreApplication>
 #include <QDir>
 #include <QFileInfo>
+#include <QPointer>
 
 #include <algorithm>
 #include <utility>
@@ -65,6 +66,31 @@ Workbench::Workbench(Keeps keeps)
     AddDocTemplate(std::make_unique<CMultiDocTemplate>(Strings(), ScriptDoc::GetThisClass(),
                                                        ScriptFrame::GetThisClass(),
                                                        ScriptView::GetThisClass()));
+}
+
+// What is not to be saved goes with its script: until then nothing is lost, whatever fails.
+int Workbench::SaveAllModified()
+{
+    std::vector<QPointer<ScriptDoc>> changed;
+    QStringList names;
+    for (ScriptDoc* script : Scripts()) {
+        if (script->IsModified()) {
+            changed.emplace_back(script);
+            names << script->Name();
+        }
+    }
+    if (changed.size() < 2)
+        return CWinApp::SaveAllModified();
+    const CWnd* main = GetMainWnd();
+    const auto choices = GetPrompts().WhichToSave(main ? main->GetSafeHwnd() : nullptr, names);
+    if (!choices || !GetMainWnd())
+        return 0;
+    for (std::size_t i = 0; i < changed.size(); ++i) {
+        const bool isToSave = choices->value(static_cast<qsizetype>(i), true);
+        if (isToSave && changed[i] && !changed[i]->DoFileSave())
+            return 0;
+    }
+    return 1;
 }
 
 Workbench::~Workbench()

@@ -41,6 +41,8 @@ public:
     void ChooseWhatToRecover();
     void Recover();
 
+    // Several with changes are asked about at once.
+    int SaveAllModified() override;
     int SaveAll(); // without a word about what has a name; 0 as soon as one is not saved
     bool CanSaveAll() const;
 

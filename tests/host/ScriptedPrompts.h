@@ -41,6 +41,17 @@ public:
         return loseChanges;
     }
 
+    std::optional<QList<bool>> WhichToSave(QWidget*, const QStringList& names) override
+    {
+        asked << names;
+        if (loseChanges == LoseChanges::Cancel)
+            return std::nullopt;
+        QList<bool> all(names.size(), loseChanges == LoseChanges::Save);
+        for (qsizetype i = 0; i < names.size(); ++i)
+            all[i] = all[i] && !notToSave.contains(names[i]);
+        return all;
+    }
+
     LoseCharacters BeforeQuestionMarks(QWidget*, const QString& text) override
     {
         asked << text;
@@ -75,6 +86,7 @@ public:
     QStringList filesToOpen;
     std::optional<OpenChoice> whatToOpen;
     std::optional<SaveTarget> saveTarget;
+    QStringList notToSave; // of several
     LoseChanges loseChanges = LoseChanges::Cancel;
     LoseCharacters loseCharacters = LoseCharacters::Cancel;
     bool confirm = false;

@@ -126,6 +126,11 @@ void Tour::Questions(const LookAtWindow& look)
 {
     DialogPrompts prompts;
     Modal([&] { prompts.BeforeLosing(&m_window, QStringLiteral("a.sql")); }, look);
+    Modal(
+        [&] {
+            prompts.WhichToSave(&m_window, {QStringLiteral("-"), QStringLiteral("-")});
+        },
+        look);
     Modal([&] { prompts.BeforeQuestionMarks(&m_window, QStringLiteral("-")); }, look);
     Modal(
         [] {
