@@ -625,7 +625,7 @@ Con Qt %1. Con licencia pública general de GNU, versión 3 o posterior.</transl
     </message>
     <message>
         <source>&amp;Folder</source>
-        <translation>&amp;Carpeta</translation>
+        <translation>Arc&amp;hivos de la carpeta</translation>
     </message>
     <message>
         <source>Part of a name, or *.sql</source>
@@ -892,7 +892,7 @@ Con Qt %1. Con licencia pública general de GNU, versión 3 o posterior.</transl
     </message>
     <message>
         <source>Open &amp;with Encoding...</source>
-        <translation>A&amp;brir con codificación...</translation>
+        <translation>Abrir con codi&amp;ficación...</translation>
     </message>
     <message>
         <source>Open a&amp;t Caret</source>
@@ -1222,7 +1222,7 @@ Con Qt %1. Con licencia pública general de GNU, versión 3 o posterior.</transl
     </message>
     <message>
         <source>Open Fold&amp;er...</source>
-        <translation>Abrir carpeta...</translation>
+        <translation>A&amp;brir carpeta...</translation>
     </message>
 </context>
 <context>

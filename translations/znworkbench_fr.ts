@@ -1182,7 +1182,7 @@ Avec Qt %1. Sous licence publique générale GNU, version 3 ou ultérieure.</tra
     </message>
     <message>
         <source>Las&amp;t Used Script</source>
-        <translation>Dernier script utilisé</translation>
+        <translation>Script &amp;quitté en dernier</translation>
     </message>
     <message>
         <source>Longest Unused Script</source>
