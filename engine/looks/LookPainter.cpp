@@ -83,8 +83,11 @@ void LookPainter::Set(const Looks* looks)
     if (m_looks.has_value() != (looks != nullptr))
         m_raw.Send(Sci::SCI_SETFOLDFLAGS, looks ? 0 : Sci::SC_FOLDFLAG_LINEAFTER_CONTRACTED);
     // Capitals with accents rise above what a font calls its ascent; the line above covers that.
+    // Underscores lie on its descent's last row, where frames have their lower edge.
     constexpr long kAbove = 2;
+    constexpr long kBelow = 1;
     m_raw.Send(Sci::SCI_SETEXTRAASCENT, static_cast<WPARAM>(looks ? kAbove : 0));
+    m_raw.Send(Sci::SCI_SETEXTRADESCENT, static_cast<WPARAM>(looks ? kBelow : 0));
     m_raw.Send(Sci::SCI_SETTABDRAWMODE, looks ? Sci::SCTD_STRIKEOUT : Sci::SCTD_LONGARROW);
     m_looks = looks ? std::optional<Looks>(*looks) : std::nullopt;
     m_window.viewport()->setMouseTracking(true);
@@ -203,10 +206,13 @@ void LookPainter::PaintCurrentMatch(QPainter& painter, int height) const
     const QPoint last = place(end);
     if (first.y() != last.y() || first.x() >= last.x()) // over several rows
         return;
-    painter.setPen(
-        QPen(Colour(m_looks->match), kFrame, Qt::SolidLine, Qt::SquareCap, Qt::MiterJoin));
-    painter.setBrush(Qt::NoBrush);
-    painter.drawRect(QRect(first, QSize(last.x() - first.x(), height)).adjusted(0, 1, 0, -1));
+    const QColor colour = Colour(m_looks->match);
+    const QRect match(first, QSize(last.x() - first.x(), height));
+    const QRect outside = match.adjusted(-1, 0, 1, 0);
+    painter.fillRect(outside.x(), outside.y(), outside.width(), kFrame, colour);
+    painter.fillRect(outside.x(), outside.y(), kFrame, height, colour);
+    painter.fillRect(outside.right() + 1 - kFrame, outside.y(), kFrame, height, colour);
+    painter.fillRect(outside.x(), match.bottom(), outside.width(), 1, colour); // below underscores
 }
 
 long LookPainter::CaretLine() const

@@ -120,17 +120,21 @@ void RunningInstance::Read(QLocalSocket& socket)
     }
     socket.write(kTaken);
     socket.flush();
-    if (m_isServing)
-        Q_EMIT Requested(*request);
-    else
-        m_waiting << *request;
+    // Behind the socket's own signal: what is opened may ask, and the other side has gone by then.
+    m_waiting << *request;
+    QMetaObject::invokeMethod(this, &RunningInstance::Tell, Qt::QueuedConnection);
 }
 
 void RunningInstance::Serve()
 {
     m_isServing = true;
-    for (const Request& request : std::exchange(m_waiting, {}))
-        Q_EMIT Requested(request);
+    Tell();
+}
+
+void RunningInstance::Tell()
+{
+    while (m_isServing && !m_waiting.isEmpty())
+        Q_EMIT Requested(m_waiting.takeFirst());
 }
 
 QString RunningInstance::DefaultAddress()

@@ -63,6 +63,7 @@ Q_SIGNALS:
 
 private:
     void Read(QLocalSocket& socket);
+    void Tell();
 
     QString m_address;
     QLocalServer* m_server;

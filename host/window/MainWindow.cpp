@@ -173,15 +173,18 @@ void MainWindow::ShowTab(int index)
 }
 
 // One that is named and not there may be a slip, or one to begin.
-void MainWindow::OfferNewFile(const QString& path)
+bool MainWindow::OfferNewFile(const QString& path)
 {
     const QFileInfo info(path);
-    if (info.exists() || info.isSymLink() || !QFileInfo(info.absolutePath()).isDir() ||
-        !GetPrompts().Confirm(this, tr("There is no “%1”.").arg(path), tr("&Create")))
-        return;
+    if (info.exists() || info.isSymLink() || !QFileInfo(info.absolutePath()).isDir())
+        return true;
+    if (!GetPrompts().Confirm(this, tr("There is no “%1”.").arg(path), tr("&Create")))
+        return false;
     QFile file(path);
-    if (!file.open(QIODevice::WriteOnly | QIODevice::NewOnly))
-        GetPrompts().Tell(this, tr("“%1” cannot be created: %2").arg(path, file.errorString()));
+    if (file.open(QIODevice::WriteOnly | QIODevice::NewOnly))
+        return true;
+    GetPrompts().Tell(this, tr("“%1” cannot be created: %2").arg(path, file.errorString()));
+    return false;
 }
 
 bool MainWindow::OpenPlaces(const QStringList& words)
@@ -190,8 +193,9 @@ bool MainWindow::OpenPlaces(const QStringList& words)
     QPointer<QWidget> first;
     for (const QString& word : words) {
         const FilePlace place = ParseFilePlace(word);
-        OfferNewFile(place.path);
-        const ScriptFrame* frame = m_app.OpenDocumentFile(place.path) ? CurrentFrame() : nullptr;
+        const bool isWanted = OfferNewFile(place.path);
+        const ScriptFrame* frame =
+            isWanted && m_app.OpenDocumentFile(place.path) ? CurrentFrame() : nullptr;
         if (frame && place.line > 0)
             frame->View()->GoToLine(place.line - 1);
         if (frame && place.column > 1)

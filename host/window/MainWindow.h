@@ -141,7 +141,7 @@ private:
     void ShowOutline(std::vector<Symbol> symbols, const QString& language);
     void SelectInScript(long start, long end);
     static QString LanguageOf(const ScriptDoc& script); // its name
-    void OfferNewFile(const QString& path);             // where there is none
+    bool OfferNewFile(const QString& path); // where there is none; false: it is not wanted
     void MakeLanguageDefault();
     std::shared_ptr<void> MakeSearchLine();
     void ShowResults(); // of the last search

@@ -7,6 +7,7 @@
 #include <QLocalServer>
 #include <QLocalSocket>
 #include <QSignalSpy>
+#include <QTest>
 
 #include <future>
 
@@ -49,6 +50,7 @@ TEST_F(RunningInstances, ALaterStartGivesItsFilesToTheFirst)
     const Request request{{QStringLiteral("/a b/ü.sql:12"), QStringLiteral("/c.sql")}, "token"};
     EXPECT_EQ(MeetBeside(request), Role::Later);
     EXPECT_EQ(MeetBeside({}), Role::Later);
+    QCoreApplication::processEvents();
     EXPECT_EQ(asked, QList<Request>({request, {}}));
 }
 
@@ -64,6 +66,24 @@ TEST_F(RunningInstances, WhatComesWhileTheFirstOneStartsIsToldWhenItServes)
     EXPECT_EQ(asked.size(), 0);
     first.Serve();
     EXPECT_EQ(asked, QList<Request>({request}));
+}
+
+// As a question does, while the other side goes.
+TEST_F(RunningInstances, WhatIsDoneForARequestMayTakeItsTime)
+{
+    RunningInstance first(Address());
+    ASSERT_EQ(first.Meet({}), Role::First);
+    first.Serve();
+    int asked = 0;
+    QObject::connect(&first, &RunningInstance::Requested, [&] {
+        ++asked;
+        EXPECT_TRUE(first.findChildren<QLocalSocket*>().isEmpty() ||
+                    QTest::qWaitFor([&] { return first.findChildren<QLocalSocket*>().isEmpty(); }));
+    });
+    EXPECT_EQ(MeetBeside({{QStringLiteral("/a.sql")}, {}}), Role::Later);
+    EXPECT_TRUE(QTest::qWaitFor([&] { return asked == 1; }));
+    EXPECT_EQ(MeetBeside({{QStringLiteral("/b.sql")}, {}}), Role::Later);
+    EXPECT_TRUE(QTest::qWaitFor([&] { return asked == 2; }));
 }
 
 TEST_F(RunningInstances, AFirstOneThatWasKilledIsReplaced)

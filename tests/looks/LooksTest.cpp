@@ -3,6 +3,7 @@
 #include "control/EngineLooks.h"
 #include "control/EngineRecords.h"
 #include "control/ErrorInfo.h"
+#include "control/Selections.h"
 #include "editing/ZNCoreEditorControlEx.h"
 #include "editing/ZNCoreEditorWidget.h"
 #include "editing/hands/Hands.h"
@@ -387,6 +388,30 @@ TEST_F(LooksTest, SurroundsWhatIsSelectedByAQuoteThatIsTyped)
     EXPECT_EQ(face.text(), "( two");
 }
 
+TEST_F(LooksTest, SurroundsEachLineOfColumnsAndEachOfSeveralSelections)
+{
+    CZNOptionsServer& options = *CZNOptionsServer::GetObjectW();
+    options.SetInt(option::SurroundSelection, 1);
+    const auto select = [&](int from, int to) {
+        const engine::ColumnCorners corners{.ends = {from, to}};
+        control.Call(engine::kSetColumns, 0, reinterpret_cast<LPARAM>(&corners), 1);
+    };
+    Put(QStringLiteral("abc\ndef\nghi\n"));
+    select(1, 11);
+    QTest::keyClick(control.GetSafeHwnd(), '\'');
+    EXPECT_EQ(face.text(), "a'bc'\nd'ef'\ng'hi'\n");
+    QTest::keyClick(control.GetSafeHwnd(), '(');
+    EXPECT_EQ(face.text(), "a'(bc)'\nd'(ef)'\ng'(hi)'\n");
+    control.Undo(1);
+    control.Undo(1);
+    EXPECT_EQ(face.text(), "abc\ndef\nghi\n");
+    select(1, 9); // carets
+    QTest::keyClick(control.GetSafeHwnd(), '(');
+    QTest::keyClick(control.GetSafeHwnd(), 'x');
+    EXPECT_EQ(face.text(), "a(xbc\nd(xef\ng(xhi\n");
+    options.SetInt(option::SurroundSelection, 0);
+}
+
 TEST_F(LooksTest, GoesOnBehindTheIndentationOfALineThatIsBroken)
 {
     control.SetAutoIndent(1);
@@ -481,7 +506,7 @@ TEST_F(LooksTest, HaveRoomForTheAccentsOfCapitals)
     face.setScheme(QString());
     const long plain = control.TextHeight(0, 1);
     face.setScheme(QStringLiteral("Light"));
-    EXPECT_EQ(control.TextHeight(0, 1), plain + 2);
+    EXPECT_EQ(control.TextHeight(0, 1), plain + 3);
 }
 
 TEST_F(LooksTest, StandABarBesideTheLinesOfThatStatement)

@@ -3,10 +3,13 @@
 // count UTF-16 units.
 #pragma once
 
+#include "control/Selections.h"
 #include "editing/ZNCoreEditorControlEx.h"
 #include "platform/base/Units.h"
 
 #include <QString>
+
+#include <vector>
 
 namespace hands {
 
@@ -28,6 +31,20 @@ inline void Replace(CZNCoreEditorControlEx& editor, long start, long end, const 
 inline void Insert(CZNCoreEditorControlEx& editor, long at, const QString& text)
 {
     Replace(editor, at, at, text);
+}
+
+// That of the main caret last; columns have one for each line.
+inline std::vector<engine::SelectionEnds> SelectionsOf(CZNCoreEditorControlEx& editor)
+{
+    std::vector<engine::SelectionEnds> all(
+        static_cast<std::size_t>(editor.Call(engine::kGetSelections, 0, 0, 1)));
+    editor.Call(engine::kGetSelections, all.size(), reinterpret_cast<LPARAM>(all.data()), 1);
+    return all;
+}
+
+inline void Select(CZNCoreEditorControlEx& editor, const std::vector<engine::SelectionEnds>& all)
+{
+    editor.Call(engine::kSetSelections, all.size(), reinterpret_cast<LPARAM>(all.data()), 1);
 }
 
 } // namespace hands

@@ -1,6 +1,5 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "control/EngineModes.h"
-#include "control/Selections.h"
 #include "editing/hands/EditedText.h"
 #include "editing/hands/Operations.h"
 
@@ -15,19 +14,6 @@ using engine::SelectionEnds;
 
 // More than anybody edits at once, and what the engine takes without a wait.
 constexpr std::size_t kMostCarets = 5000;
-
-std::vector<SelectionEnds> SelectionsOf(Editor& editor)
-{
-    std::vector<SelectionEnds> all(
-        static_cast<std::size_t>(editor.Call(engine::kGetSelections, 0, 0, 1)));
-    editor.Call(engine::kGetSelections, all.size(), reinterpret_cast<LPARAM>(all.data()), 1);
-    return all;
-}
-
-void Select(Editor& editor, const std::vector<SelectionEnds>& all)
-{
-    editor.Call(engine::kSetSelections, all.size(), reinterpret_cast<LPARAM>(all.data()), 1);
-}
 
 // The word at a caret; whether there is one.
 bool SelectWordAtCaret(Editor& editor)

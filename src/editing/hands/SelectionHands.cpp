@@ -2,9 +2,11 @@
 #include "control/Analysis.h"
 #include "control/PartitionInfo.h"
 #include "editing/ZNCoreEditorControlEx.h"
+#include "editing/hands/EditedText.h"
 #include "editing/hands/Operations.h"
 #include "editing/operations/EditScopes.h"
 
+#include <algorithm>
 #include <optional>
 #include <vector>
 
@@ -73,16 +75,30 @@ std::vector<Span> Around(Editor& editor)
     return spans;
 }
 
+// Each of several selections, and each line of columns; a caret alone stays as it is.
 void SurroundBy(Editor& editor, const char16_t* open, const char16_t* close)
 {
-    const Span span = SelectionOf(editor);
-    const bool caretInFront = editor.GetCurrentPos(1) < span.end;
+    std::vector<engine::SelectionEnds> all = SelectionsOf(editor);
+    std::vector<engine::SelectionEnds*> inOrder;
+    for (engine::SelectionEnds& each : all)
+        inOrder.push_back(&each);
+    std::ranges::sort(inOrder, {},
+                      [](const auto* each) { return std::min(each->anchor, each->caret); });
     const UndoStep step(editor);
-    editor.InsertText(span.end, close, 1);
-    editor.InsertText(span.start, open, 1);
-    const long start = span.start + 1;
-    const long end = span.end + 1;
-    editor.SetSel(caretInFront ? end : start, caretInFront ? start : end, 1);
+    int shift = 0;
+    for (engine::SelectionEnds* each : inOrder) {
+        const int start = std::min(each->anchor, each->caret);
+        const int end = std::max(each->anchor, each->caret);
+        if (start < end) {
+            editor.InsertText(end + shift, close, 1);
+            editor.InsertText(start + shift, open, 1);
+            ++shift;
+        }
+        each->anchor += shift;
+        each->caret += shift;
+        shift += start < end ? 1 : 0;
+    }
+    Select(editor, all);
 }
 
 } // namespace

@@ -2,6 +2,7 @@
 #include "editing/hands/SurroundKeys.h"
 
 #include "editing/ZNCoreEditorControlEx.h"
+#include "editing/hands/EditedText.h"
 #include "editing/hands/Hands.h"
 #include "platform/services/OptionsServer.h"
 
@@ -31,6 +32,13 @@ SurroundKeys::SurroundKeys(CZNCoreEditorControlEx& control, QObject* parent)
     control.GetSafeHwnd()->installEventFilter(this);
 }
 
+// Columns without a width are carets, one in each line.
+bool SurroundKeys::HasSelectedText()
+{
+    return std::ranges::any_of(hands::SelectionsOf(m_control),
+                               [](const auto& each) { return each.anchor != each.caret; });
+}
+
 bool SurroundKeys::eventFilter(QObject* watched, QEvent* event)
 {
     if (event->type() != QEvent::KeyPress || !m_control.GetSafeHwnd())
@@ -40,7 +48,7 @@ bool SurroundKeys::eventFilter(QObject* watched, QEvent* event)
         return text == QChar(candidate.typed);
     });
     const HandRow* hand = row == std::end(kRows) ? nullptr : FindHand(row->command);
-    if (!hand || !IsPossible(*hand, m_control) ||
+    if (!hand || !IsPossible(*hand, m_control) || !HasSelectedText() ||
         !CZNOptionsServer::GetObjectW()->GetBool(option::SurroundSelection))
         return QObject::eventFilter(watched, event);
     hand->run(m_control);

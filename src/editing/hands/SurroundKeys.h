@@ -17,5 +17,7 @@ protected:
     bool eventFilter(QObject* watched, QEvent* event) override;
 
 private:
+    bool HasSelectedText();
+
     CZNCoreEditorControlEx& m_control;
 };
