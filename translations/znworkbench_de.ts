@@ -2028,6 +2028,14 @@ Mit Qt %1. Lizenziert unter der GNU General Public License, Version 3 oder spät
         <source>%1: %2, as other files of this folder</source>
         <translation>%1: %2, wie andere Dateien in diesem Ordner</translation>
     </message>
+    <message>
+        <source>“%1” has been changed outside of the workbench. If it is read again, your changes that are not saved are lost.</source>
+        <translation>„%1“ wurde außerhalb des Programms geändert. Wird die Datei neu gelesen, gehen Ihre ungespeicherten Änderungen verloren.</translation>
+    </message>
+    <message>
+        <source>&amp;Read Again</source>
+        <translation>&amp;Neu lesen</translation>
+    </message>
 </context>
 <context>
     <name>ScriptFrame</name>

@@ -2028,6 +2028,14 @@ Con Qt %1. Con licencia pública general de GNU, versión 3 o posterior.</transl
         <source>%1: %2, as other files of this folder</source>
         <translation>%1: %2, como otros archivos de esta carpeta</translation>
     </message>
+    <message>
+        <source>“%1” has been changed outside of the workbench. If it is read again, your changes that are not saved are lost.</source>
+        <translation>«%1» se ha modificado fuera del programa. Si se vuelve a leer, se pierden sus cambios sin guardar.</translation>
+    </message>
+    <message>
+        <source>&amp;Read Again</source>
+        <translation>&amp;Volver a leer</translation>
+    </message>
 </context>
 <context>
     <name>ScriptFrame</name>

@@ -2028,6 +2028,14 @@ Avec Qt %1. Sous licence publique générale GNU, version 3 ou ultérieure.</tra
         <source>%1: %2, as other files of this folder</source>
         <translation>%1&#xa0;: %2, comme d’autres fichiers de ce dossier</translation>
     </message>
+    <message>
+        <source>“%1” has been changed outside of the workbench. If it is read again, your changes that are not saved are lost.</source>
+        <translation>«&#xa0;%1&#xa0;» a été modifié en dehors du programme. S’il est relu, vos modifications non enregistrées seront perdues.</translation>
+    </message>
+    <message>
+        <source>&amp;Read Again</source>
+        <translation>&amp;Relire</translation>
+    </message>
 </context>
 <context>
     <name>ScriptFrame</name>

@@ -2016,6 +2016,14 @@ Qt %1 を使用。GNU General Public License バージョン 3 以降の下で�
         <source>%1: %2, as other files of this folder</source>
         <translation>%1: このフォルダーの他のファイルと同じ %2</translation>
     </message>
+    <message>
+        <source>“%1” has been changed outside of the workbench. If it is read again, your changes that are not saved are lost.</source>
+        <translation>「%1」は外部で変更されました。読み直すと、保存されていない変更は失われます。</translation>
+    </message>
+    <message>
+        <source>&amp;Read Again</source>
+        <translation>読み直す(&amp;R)</translation>
+    </message>
 </context>
 <context>
     <name>ScriptFrame</name>

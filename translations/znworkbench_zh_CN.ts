@@ -2016,6 +2016,14 @@ Over Qt %1. Licensed under the GNU General Public License, version 3 or later.</
         <source>%1: %2, as other files of this folder</source>
         <translation>%1：%2，与此文件夹中的其他文件相同</translation>
     </message>
+    <message>
+        <source>“%1” has been changed outside of the workbench. If it is read again, your changes that are not saved are lost.</source>
+        <translation>“%1”已在程序之外被更改。重新读取会丢失您未保存的更改。</translation>
+    </message>
+    <message>
+        <source>&amp;Read Again</source>
+        <translation>重新读取(&amp;R)</translation>
+    </message>
 </context>
 <context>
     <name>ScriptFrame</name>

@@ -59,9 +59,15 @@ void OutlinePane::Show(std::vector<Symbol> symbols)
     m_symbols->Show(std::move(symbols));
 }
 
-void OutlinePane::ShowPlace(long position)
+void OutlinePane::ShowPlace(long position, long lineStart, long lineEnd)
 {
-    const QModelIndex index = m_symbols->IndexAt(position);
+    const auto isInLine = [&](const QModelIndex& index) {
+        const Symbol* symbol = m_symbols->At(index);
+        return symbol && symbol->start >= lineStart;
+    };
+    QModelIndex index = m_symbols->IndexAt(position);
+    if (const QModelIndex last = m_symbols->IndexAt(lineEnd); !isInLine(index) && isInLine(last))
+        index = isInLine(last.parent()) ? last.parent() : last;
     const QModelIndex outer = index.parent();
     const QModelIndex shown = outer.isValid() && !m_list->isExpanded(outer) ? outer : index;
     if (m_list->currentIndex() != shown)

@@ -23,7 +23,8 @@ public:
 
     void Show(std::vector<Symbol> symbols);
     void ShowNothing(const QString& why);
-    void ShowPlace(long position); // of the caret
+    // Of the caret, and of the line around it: in front of the first name of a line it is at that.
+    void ShowPlace(long position, long lineStart, long lineEnd);
 
 Q_SIGNALS:
     void Chosen(long start, long end); // positions in the script

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 // ScriptDoc: open, language, views. Saving stands in ScriptSaving.
 #include "host/script/ScriptDoc.h"
+#include "host/files/Prompts.h"
 
 #include "editing/language/FileLanguages.h"
 #include "editing/language/FileTypeManager.h"
@@ -15,11 +16,13 @@
 #include "platform/docview/CommandIds.h"
 #include "platform/docview/DocTemplate.h"
 #include "platform/services/OptionsServer.h"
+#include "platform/system/File.h"
 #include "platform/windows/Questions.h"
 #include "platform/windows/Timer.h"
 
 #include <QDir>
 #include <QFileInfo>
+#include <QScopedValueRollback>
 
 #include <algorithm>
 #include <chrono>
@@ -458,6 +461,30 @@ void ScriptDoc::CopyNow()
         SendMessage(editor.GetSafeHwnd(), WM_TIMER, kAutosave, 0);
 }
 
+// The base's question says nothing of changes that are not saved, and its default reads the file.
+void ScriptDoc::AskBeforeLosingToFile()
+{
+    CFileStatus status;
+    if (m_checkingAccessTime || !IsModified() || !IsTracked() ||
+        CZNOptionsServer::GetObjectW()->GetInt(option::ReloadWithoutAsking) ||
+        !CFile::GetStatus(m_strPathName, status) || status.m_mtime == m_lastAccessTime)
+        return;
+    const QScopedValueRollback<bool> checking(m_checkingAccessTime, true);
+    m_lastAccessTime = status.m_mtime;
+    const bool isToRead = GetPrompts().Confirm(
+        Window(),
+        tr("“%1” has been changed outside of the workbench. If it is read again, your changes that "
+           "are not saved are lost.")
+            .arg(Name()),
+        tr("&Read Again"));
+    if (IsClosed())
+        return;
+    if (isToRead)
+        ReloadFile();
+    else
+        m_lastAccessTime = 0; // as the base does for a No
+}
+
 // A No ends the tracking: the text that is kept is not to be lost without a further question. A Yes
 // to a file that is gone ends it too, but the close that it asked for is on its way, ahead of this.
 void ScriptDoc::OnFocus()
@@ -465,6 +492,7 @@ void ScriptDoc::OnFocus()
     const auto readAt = m_lastAccessTime;
     {
         const QuietLoad quiet;
+        AskBeforeLosingToFile();
         CheckLastAccessTime();
     }
     if (IsClosed())
@@ -474,8 +502,11 @@ void ScriptDoc::OnFocus()
     TellUnread();
     if (IsClosed())
         return;
-    if (m_isTracked && m_lastAccessTime == 0)
+    if (m_isTracked && m_lastAccessTime == 0) {
+        CFileStatus status;
+        m_keptAt = CFile::GetStatus(m_strPathName, status) ? status.m_mtime : 0;
         QMetaObject::invokeMethod(this, &ScriptDoc::MarkAsOnlyHere, Qt::QueuedConnection);
+    }
     m_isTracked = m_lastAccessTime != 0;
     Q_EMIT StateChanged();
 }

@@ -122,9 +122,12 @@ private:
     QString m_folder;        // empty: the current one
     QTimer m_copySoon{this}; // to the copy that a crash would leave
     int m_chosenEncoding = -1;
-    bool m_onlyHere = false;  // the file has another text by now, or is gone, and this one is kept
-    bool m_isTracked = false; // what others do to the file is asked about
-    ReadLoss m_loss;          // of the file that the text was read from
+    void AskBeforeLosingToFile();
+
+    std::int64_t m_keptAt = 0; // the file's write time when this one was kept; 0: it was not
+    bool m_onlyHere = false;   // the file has another text by now, or is gone, and this one is kept
+    bool m_isTracked = false;  // what others do to the file is asked about
+    ReadLoss m_loss;           // of the file that the text was read from
     bool m_tellsLoss = false;
     bool m_asking = false;
     bool m_told = false; // why the file was not read

@@ -121,12 +121,14 @@ void ScriptDoc::TellUnread()
         GetPrompts().Tell(Window(), LossNotice(m_loss, Name()));
 }
 
-// Others are looked for when the focus comes; they may have written since.
+// Others are looked for when the focus comes; they may have written since. A person who kept this
+// text against the file's meant the file of that moment.
 bool ScriptDoc::MayReplaceChangedFile(const SaveTarget& target)
 {
     CFileStatus status;
-    if (m_lastAccessTime == 0 || !IsSameFile(target.path, m_strPathName) ||
-        !CFile::GetStatus(m_strPathName, status) || status.m_mtime == m_lastAccessTime)
+    const std::int64_t known = m_lastAccessTime != 0 ? m_lastAccessTime : m_keptAt;
+    if (known == 0 || !IsSameFile(target.path, m_strPathName) ||
+        !CFile::GetStatus(m_strPathName, status) || status.m_mtime == known)
         return true;
     return GetPrompts().Confirm(
         Window(),

@@ -4,6 +4,7 @@
 #include "editing/ZNCoreEditorControlEx.h"
 #include "host/expanded/ExpandedScript.h"
 #include "host/files/Prompts.h"
+#include "host/finding/ResultsPane.h"
 #include "host/folder/FolderPane.h"
 #include "host/script/ScriptDoc.h"
 #include "host/script/ScriptFrame.h"
@@ -130,7 +131,9 @@ void MainWindow::ResumeSession()
         restoreState(session.state);
     m_showsMap = session.documentMap;
     ApplyViewToAll();
-    m_expanded->hide();    // what it showed is gone
+    m_expanded->hide(); // what it showed is gone
+    for (ResultsPane* results : m_results)
+        results->hide();   // likewise
     QSet<QString> refused; // for all of their tabs
     QPointer<QWidget> front;
     for (int i = 0; i < session.files.size(); ++i) {

@@ -128,7 +128,10 @@ void MainWindow::UpdateOutline()
         if (std::exchange(m_outlined, outlined) != outlined)
             ShowOutline(SymbolsOf(text, language), language);
     }
-    m_outline->ShowPlace(frame->Editor().GetCurrentPos(1));
+    CZNCoreEditorControlEx& editor = frame->Editor();
+    const int line = editor.GetCurLineNumber();
+    m_outline->ShowPlace(editor.GetCurrentPos(1), editor.PositionFromLine(line, 1),
+                         editor.GetLineEndPosition(line, 1));
 }
 
 // As far as the text has been read by now, and again until it is.

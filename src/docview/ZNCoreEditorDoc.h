@@ -112,8 +112,9 @@ protected:
     bool m_checkingAccessTime = false; ///< the user is being asked already
     bool m_fileReadOnly = false;       ///< as last seen
 
+    bool IsTracked() const; ///< whether others' changes of the file are asked about
+
 private:
-    bool IsTracked() const;
     void OnFileGone();
     void OnFileRewritten();
     void AdoptAttributes(CZNCoreEditorControlEx& control, const CFileStatus& status);

@@ -86,7 +86,7 @@ TEST(Screenshot, NamesTheScriptThatIsMissing)
         Start({"--screenshot", folder.filePath("window.png"), folder.filePath("no.sql")});
     EXPECT_EQ(outcome.exitCode, 1);
     EXPECT_TRUE(outcome.errors.contains(QStringLiteral("no.sql")));
-    EXPECT_TRUE(outcome.errors.contains(QStringLiteral("does not exist")));
+    EXPECT_TRUE(outcome.errors.contains(QStringLiteral("There is no")));
 }
 
 TEST(Screenshot, TellsThatItCannotBeWritten)

@@ -136,7 +136,8 @@ TEST_F(ScriptFiles, OpenAtTheLineThatTheCommandLineNames)
     EXPECT_TRUE(m_window.OpenPlaces({path + ":1:2147483647"}));
     EXPECT_EQ(Editor().GetCurrentPos(1), 3) << "the line's end";
     EXPECT_FALSE(m_window.OpenPlaces({PathOf("gone.sql:3")}));
-    EXPECT_TRUE(m_prompts.told.value(0).contains("gone.sql” does not exist"));
+    EXPECT_TRUE(m_prompts.asked.value(0).contains("gone.sql")) << "whether it is to be made";
+    EXPECT_TRUE(m_prompts.told.isEmpty());
 }
 
 TEST_F(ScriptFiles, AreAllSavedByOneCommand)
@@ -245,6 +246,47 @@ TEST_F(ScriptFiles, ThatOthersRewriteAreNotReplacedWithoutAQuestion)
     Type(u"y");
     EXPECT_TRUE(Script().DoFileSave());
     EXPECT_EQ(m_prompts.asked.size(), 2) << "the own save is no change from outside";
+}
+
+TEST_F(ScriptFiles, ThatOthersRewriteAreNotReadAgainOverChangesUnlessThePersonSaysSo)
+{
+    Open("a.sql", "old");
+    LeaveAndComeBack();
+    Type(u"x");
+    WriteFromOutside("a.sql", "new");
+    LeaveAndComeBack();
+    ASSERT_EQ(m_prompts.asked.size(), 1);
+    EXPECT_TRUE(m_prompts.asked[0].contains("not saved are lost"));
+    EXPECT_TRUE(m_prompts.told.isEmpty());
+    EXPECT_EQ(Text(), "xold");
+    LeaveAndComeBack();
+    EXPECT_EQ(m_prompts.asked.size(), 1) << "once";
+}
+
+TEST_F(ScriptFiles, ThatOthersRewriteAreReadAgainOverChangesIfThePersonSaysSo)
+{
+    Open("a.sql", "old");
+    LeaveAndComeBack();
+    Type(u"x");
+    WriteFromOutside("a.sql", "new");
+    m_prompts.confirm = true;
+    LeaveAndComeBack();
+    EXPECT_EQ(Text(), "new");
+    EXPECT_FALSE(Script().IsModified());
+}
+
+TEST_F(ScriptFiles, ThatOthersRewriteOnceMoreAfterANoAreAskedAboutBeforeASave)
+{
+    Open("a.sql", "old");
+    LeaveAndComeBack();
+    WriteFromOutside("a.sql", "new");
+    LeaveAndComeBack(); // No
+    Write("a.sql", "newer");
+    EXPECT_FALSE(Script().DoFileSave());
+    EXPECT_EQ(Read("a.sql"), "newer");
+    ASSERT_EQ(m_prompts.asked.size(), 1);
+    EXPECT_TRUE(m_prompts.asked[0].contains("changed outside"));
+    WriteFromOutside("a.sql", "new");
 }
 
 TEST_F(ScriptFiles, ThatOthersRewriteAreNotLostAfterANo)

@@ -147,7 +147,8 @@ void FoldHere(Editor& editor)
     if (line < 0)
         return;
     editor.ToggleFold(line, 1);
-    editor.GotoLine(line, 1);
+    if (line != editor.GetCurLineNumber())
+        editor.GotoLine(line, 1);
 }
 
 void UnfoldHere(Editor& editor)
