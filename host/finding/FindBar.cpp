@@ -355,11 +355,9 @@ void FindBar::Tell(const QString& result)
 void FindBar::keyPressEvent(QKeyEvent* event)
 {
     const bool isEnter = event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter;
-    if (event->key() == Qt::Key_Escape) {
-        if (Editor* editor = m_editor())
-            GoBack(*editor);
-        Close();
-    } else if (isEnter && qobject_cast<QCheckBox*>(focusWidget())) // where its letter has led
+    if (event->key() == Qt::Key_Escape)
+        Close(); // at the match that is shown, which is what somebody wants to edit
+    else if (isEnter && qobject_cast<QCheckBox*>(focusWidget())) // where its letter has led
         event->modifiers() & Qt::ShiftModifier ? FindPrevious() : FindNext();
     else
         QWidget::keyPressEvent(event);

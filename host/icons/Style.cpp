@@ -132,7 +132,7 @@ bool HasKeys(const QWidget& pane)
 // Of an entry that cannot be taken; the plain style draws the ground of others.
 void DrawEntryGround(const QStyleOption& option, QPainter& painter)
 {
-    constexpr double kFaint = 0.5;
+    constexpr double kFaint = 0.25;
     QColor ground = option.palette.color(QPalette::Active, QPalette::Highlight);
     ground.setAlphaF(kFaint);
     painter.fillRect(option.rect, ground);
@@ -249,6 +249,7 @@ void Style::DrawChosenEntry(QStyleOptionMenuItem entry, QPainter& painter,
     const bool isEnabled = entry.state & State_Enabled;
     if (!isEnabled) {
         DrawEntryGround(entry, painter);
+        entry.state.setFlag(State_Selected, false); // whose words would be as pale as the ground
     } else if (!entry.icon.isNull()) {
         const int size = proxy()->pixelMetric(PM_SmallIconSize, &entry, widget);
         const double ratio = painter.device()->devicePixelRatioF();

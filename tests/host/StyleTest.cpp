@@ -183,6 +183,19 @@ TEST_P(Schemes, ShowWhichEntryOfAMenuIsWalkedOntoThoughItIsDisabled)
               kFrame);
 }
 
+TEST_P(Schemes, LeaveTheWordsOfADisabledEntryThatIsWalkedOntoReadable)
+{
+    QStyleOptionMenuItem entry;
+    entry.text = QStringLiteral("MMMM");
+    const auto contrast = [&entry](QStyle::State state) {
+        const QImage picture = Drawn(QStyle::CE_MenuItem, entry, state);
+        const QImage middle = picture.copy(picture.rect().adjusted(4, 4, -4, -4));
+        return BestContrast(middle, middle.pixel(middle.width() - 1, 0));
+    };
+    constexpr double kShare = 0.75; // of what one that is passed over has
+    EXPECT_GE(contrast(QStyle::State_Selected), kShare * contrast(QStyle::State_None));
+}
+
 // A drawing in one colour for lines and one to set apart, which may be that of the chosen entry.
 TEST_P(Schemes, ShowTheIconOfTheEntryThatIsChosen)
 {
