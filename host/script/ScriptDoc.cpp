@@ -461,13 +461,19 @@ void ScriptDoc::CopyNow()
         SendMessage(editor.GetSafeHwnd(), WM_TIMER, kAutosave, 0);
 }
 
-// The base's question says nothing of changes that are not saved, and its default reads the file.
+// The base's questions say nothing of a text that is nowhere else, and their default lets it go.
+// That of a file which is gone is asked about like a change by who closes it.
 void ScriptDoc::AskBeforeLosingToFile()
 {
+    if (m_checkingAccessTime || !IsTracked())
+        return;
     CFileStatus status;
-    if (m_checkingAccessTime || !IsModified() || !IsTracked() ||
-        CZNOptionsServer::GetObjectW()->GetInt(option::ReloadWithoutAsking) ||
-        !CFile::GetStatus(m_strPathName, status) || status.m_mtime == m_lastAccessTime)
+    if (!CFile::GetStatus(m_strPathName, status)) {
+        KeepAsOnlyHere();
+        return;
+    }
+    if (!IsModified() || CZNOptionsServer::GetObjectW()->GetInt(option::ReloadWithoutAsking) ||
+        status.m_mtime == m_lastAccessTime)
         return;
     const QScopedValueRollback<bool> checking(m_checkingAccessTime, true);
     m_lastAccessTime = status.m_mtime;
@@ -513,8 +519,12 @@ void ScriptDoc::OnFocus()
 
 void ScriptDoc::MarkAsOnlyHere()
 {
-    if (IsClosed() || m_lastAccessTime != 0)
-        return;
+    if (!IsClosed() && m_lastAccessTime == 0)
+        KeepAsOnlyHere();
+}
+
+void ScriptDoc::KeepAsOnlyHere()
+{
     m_onlyHere = true;
     SetModifiedFlag(1);
     if (ScriptView* view = FirstView()) // copies are made of what is modified

@@ -123,6 +123,7 @@ private:
     QTimer m_copySoon{this}; // to the copy that a crash would leave
     int m_chosenEncoding = -1;
     void AskBeforeLosingToFile();
+    void KeepAsOnlyHere();
 
     std::int64_t m_keptAt = 0; // the file's write time when this one was kept; 0: it was not
     bool m_onlyHere = false;   // the file has another text by now, or is gone, and this one is kept

@@ -381,15 +381,16 @@ TEST_F(ScriptFiles, ThatAreDeletedAreSeenBeforeTheyAreAskedAbout)
     EXPECT_EQ(m_window.TabCount(), 2);
 }
 
-TEST_F(ScriptFiles, ThatAreDeletedCloseOnYesWithoutAFurtherQuestion)
+TEST_F(ScriptFiles, ThatAreDeletedCloseOnYesIfTheirTextIsNotWanted)
 {
     Open("a.sql", "text");
     LeaveAndComeBack();
     QFile::remove(PathOf("a.sql"));
     m_prompts.answer = Answer::Yes;
+    m_prompts.loseChanges = LoseChanges::Discard;
     LeaveAndComeBack();
     EXPECT_EQ(m_window.TabCount(), 0);
-    EXPECT_TRUE(m_prompts.asked.isEmpty());
+    EXPECT_EQ(m_prompts.asked, QStringList{"a.sql"}) << "it is the last copy";
 }
 
 TEST_F(ScriptFiles, ThatOthersLockBecomeReadOnlyHere)
