@@ -11,6 +11,7 @@
 #include <QDir>
 #include <QFileDialog>
 #include <QFileInfo>
+#include <QKeyEvent>
 #include <QMessageBox>
 #include <QPushButton>
 #include <QScreen>
@@ -21,6 +22,24 @@ namespace {
 struct Texts
 {
     Q_DECLARE_TR_FUNCTIONS(Prompts)
+};
+
+// A letter alone presses no button: the box may have come up while somebody typed.
+class Box final : public QMessageBox
+{
+public:
+    using QMessageBox::QMessageBox;
+
+protected:
+    void keyPressEvent(QKeyEvent* event) override
+    {
+        const bool isTyped = !event->text().isEmpty() && event->text().front().isPrint() &&
+                             event->key() != Qt::Key_Space;
+        if (isTyped && !(event->modifiers() & (Qt::AltModifier | Qt::ControlModifier)))
+            event->ignore();
+        else
+            QMessageBox::keyPressEvent(event);
+    }
 };
 
 Prompts*& Current()
@@ -123,8 +142,7 @@ QList<RecoveryChoice> DialogPrompts::WhatToRecover(QWidget* parent,
 
 bool DialogPrompts::Confirm(QWidget* parent, const QString& text, const QString& doIt)
 {
-    QMessageBox box(QMessageBox::Warning, QStringLiteral("znworkbench"), text, QMessageBox::Cancel,
-                    parent);
+    Box box(QMessageBox::Warning, QStringLiteral("znworkbench"), text, QMessageBox::Cancel, parent);
     box.setTextFormat(Qt::PlainText);
     const auto* yes = box.addButton(doIt, QMessageBox::AcceptRole);
     box.setDefaultButton(QMessageBox::Cancel);
