@@ -159,7 +159,9 @@ void LookPainter::Paint(QPainter& painter, const QPaintEvent& event)
     const long top = static_cast<long>(m_raw.Send(Sci::SCI_GETFIRSTVISIBLELINE));
     const long first = top + std::max(0, event.rect().top()) / height;
     const long last = top + event.rect().bottom() / height;
-    const Range statement = LitStatement();
+    const bool isHidden = // with the fill beside it
+        m_raw.Send(Sci::SCI_INDICGETSTYLE, kStatementIndicator) == Sci::INDIC_HIDDEN;
+    const Range statement = isHidden ? Range() : LitStatement();
     const TabArrows arrows(m_raw, Colour(m_looks->whitespace), m_window.viewport()->width());
     long before = -1;
     for (long row = first; row <= last; ++row) {
