@@ -32,7 +32,7 @@ protected:
     void MoveTo(int line, int column)
     {
         constexpr int kFirst = 94; // pixels of the window
-        constexpr int kLine = 17;
+        constexpr int kLine = 20;
         constexpr int kText = 94;
         constexpr int kColumn = 9;
         constexpr int kNumbers = 36;
@@ -85,6 +85,18 @@ TEST_F(HandsStory, WhatIsSelectedIsSurroundedGrownAndDeleted)
     Makes({"ctrl+shift+Up", "Delete"}, " 1;\nselect 2;\n");
     Makes({"ctrl+l", "ctrl+l", "Delete"}, "");
     Makes({"alt+Next", "x"}, "select 1;\nxselect 2;\n");
+}
+
+TEST_F(HandsStory, OccurrencesAreSelectedAndBracketsFoundAndClosed)
+{
+    Makes({"alt+j", "alt+j", "x"}, "x 1;\nx 2;\n");
+    Makes({"alt+shift+j", "y"}, "y 1;\ny 2;\n");
+    Keys({"Escape", "ctrl+Home", "shift+End", "alt+9", "Home", "ctrl+bracketright"});
+    Type("x");
+    Holds("(select 1;x)\nselect 2;\n");
+    Keys({"ctrl+End"});
+    Type("(a)b"); // the bracket that came by itself is stepped over
+    Holds("(select 1;x)\nselect 2;\n(a)b");
 }
 
 TEST_F(HandsStory, ColumnsAreTypedIntoByKeysAndMouse)
