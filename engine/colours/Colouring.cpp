@@ -14,7 +14,7 @@ namespace {
 using Sci = QsciScintillaBase;
 
 constexpr long kChunk = 64 * 1024; // bytes that are walked over before they are handed on
-constexpr long kPlaceStep = 1024;  // between places inside a line; each takes 88 bytes
+constexpr long kPlaceStep = 1024;  // between places inside a line; each takes 136 bytes
 constexpr long kSmallStep = 64;    // from where there can be none
 constexpr long kNowhere = std::numeric_limits<long>::max();
 

@@ -37,6 +37,23 @@ void SqlBlocks::TakeLineEnd()
         m_rules.SettlePending(state, TokenKind::LineEnd, SqlWord::None);
 }
 
+// Behind two points stands the end of a range, and no name.
+void SqlBlocks::TakeInBody(const analysis::TextSpans& text, const analysis::Token& token,
+                           SqlWord word)
+{
+    using Before = SqlBlockState::Before;
+    state.body.Take(text, token, state.before == Before::Point ? SqlWord::None : word);
+    m_rules.NoteBefore(state, text, token);
+    if (state.before == Before::Point && text.At(token.start - 1) == '.')
+        state.before = Before::Operator;
+}
+
+void SqlBlocks::EndBody(const analysis::TextSpans& text, const analysis::Token& tag)
+{
+    state.body = {};
+    m_rules.NoteBefore(state, text, tag);
+}
+
 void SqlBlocks::Take(const analysis::TextSpans& text, const analysis::Token& token, SqlWord word)
 {
     m_behind = Behind::Code;

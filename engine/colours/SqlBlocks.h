@@ -4,6 +4,7 @@
 #pragma once
 
 #include "engine/analysis/BlockRules.h"
+#include "engine/colours/BodyBlocks.h"
 
 namespace engine {
 
@@ -21,11 +22,15 @@ struct SqlBlockState : analysis::BlockState
     bool inStatement = false;
     bool hasBegun = false; // there was something else than blanks and comments
     bool divided = false;  // a separator stands above
+    BodyBlocks body;       // of a routine, if one is under way
 
     bool operator==(const SqlBlockState&) const = default;
 
     // What stands open in the statement.
-    std::uint32_t Depth() const { return declarations + blocks + cases + controls + parentheses; }
+    std::uint32_t Depth() const
+    {
+        return declarations + blocks + cases + controls + parentheses + body.Depth();
+    }
 };
 
 class SqlBlocks
@@ -40,11 +45,12 @@ public:
               analysis::SqlWord word);
     void TakeLineEnd();
 
-    // Of a token that is not taken otherwise: what stands in the body of a routine.
-    void NoteBefore(const analysis::TextSpans& text, const analysis::Token& token)
-    {
-        m_rules.NoteBefore(state, text, token);
-    }
+    // The same in the body of a routine, between the tags.
+    void TakeInBody(const analysis::TextSpans& text, const analysis::Token& token,
+                    analysis::SqlWord word);
+
+    // The tag that ends the body: what was left open in it is not open behind it.
+    void EndBody(const analysis::TextSpans& text, const analysis::Token& tag);
 
     // Nothing of the batch goes on behind this.
     void CloseBatch();

@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 // SqlStyler: bodies of routines, which some dialects write as strings between tags of dollars. They
-// are coloured as the code that they are; partitions and folds take them for the strings that they
+// are coloured and folded as the code that they are; partitions take them for the strings that they
 // are to the server. A body ends at its tag wherever that stands, inside a comment or a string too.
 #include "engine/analysis/ByteSearch.h"
 #include "engine/colours/SqlStyler.h"
@@ -38,11 +38,15 @@ bool SqlStyler::CutAtBodyEnd(Token& token)
             continue;
         if (at == token.start) {
             Fill(at, tag.end, m_palette.string);
+            const bool isFirst = m_line.isBlank;
             m_line.isBlank = m_line.isClean = false;
             m_line.afterName = m_line.afterGlobalName = false;
             m_blankStart = -1;
             OpenFreshBatch();
-            m_blocks.NoteBefore(text, {.kind = TokenKind::String, .start = at, .end = tag.end});
+            m_blocks.EndBody(text, {.kind = TokenKind::String, .start = at, .end = tag.end});
+            if (isFirst)
+                m_line.startDepth = VisibleDepth();
+            NoteDepth();
             m_state.inBody = false;
             m_state.bodyTag = 0;
             m_state.docComment = false;

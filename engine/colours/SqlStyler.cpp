@@ -52,7 +52,9 @@ std::uint64_t SqlLineState::Hash() const
     hash = Mix(hash, bodyTag);
     hash = Mix(hash, number(blocks.declarations) << 32 | blocks.blocks);
     hash = Mix(hash, number(blocks.cases) << 32 | blocks.controls);
-    hash = Mix(hash, number(blocks.parentheses) << 32);
+    hash = Mix(hash, number(blocks.parentheses) << 32 | blocks.body.depth);
+    hash = Mix(hash, blocks.body.frames ^ number(blocks.body.place) << 62 ^
+                         number(blocks.body.pending) << 60);
     for (const char c : blocks.terminator.Text())
         hash = Mix(hash, static_cast<unsigned char>(c));
     return Mix(hash, number(blocks.batch) | number(blocks.head) << 8 |
@@ -216,7 +218,10 @@ void SqlStyler::Feed(const Token& token, SqlWord word)
     m_state.bodyMayCome = false;
     if (m_state.inBody) {
         OpenFreshBatch();
-        m_blocks.NoteBefore(m_scanner.Text(), token);
+        const std::uint32_t depth = m_blocks.state.body.depth;
+        m_blocks.TakeInBody(m_scanner.Text(), token, word);
+        if (m_blocks.state.body.depth < depth)
+            NoteDepth();
         return;
     }
     if (m_line.ignored || (isFirst && !m_separator.text.empty() && TakeSeparator(token)))

@@ -1,10 +1,33 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "engine/core/CaretPlaces.h"
 
+#include <algorithm>
+#include <numeric>
+#include <utility>
+
 namespace engine {
 namespace {
 
 using Sci = QsciScintillaBase;
+
+// What is selected is painted as another program's until the display's server is told of it, which
+// the stock engine does for few messages.
+void ClaimSelection(const Raw& raw)
+{
+    const std::intptr_t main = raw.Send(Sci::SCI_GETMAINSELECTION);
+    const auto blanks = [&](unsigned message) {
+        return raw.Send(message, static_cast<std::uintptr_t>(main));
+    };
+    if (!raw.Send(Sci::SCI_GETSELECTIONEMPTY) &&
+        blanks(Sci::SCI_GETSELECTIONNANCHORVIRTUALSPACE) == 0 &&
+        blanks(Sci::SCI_GETSELECTIONNCARETVIRTUALSPACE) == 0)
+        raw.Send(Sci::SCI_SETANCHOR, static_cast<std::uintptr_t>(raw.Send(Sci::SCI_GETANCHOR)));
+}
+
+bool IsCaret(const std::array<long, 4>& range)
+{
+    return range[0] == range[1];
+}
 
 } // namespace
 
@@ -41,15 +64,28 @@ void CaretPlaces::PutBack(const Raw& raw) const
         tell(Sci::SCI_SETRECTANGULARSELECTIONCARETVIRTUALSPACE, caretBlanks);
         return;
     }
-    for (std::size_t i = 0; i < m_ranges.size(); ++i) {
+    // Edits may have brought a caret to the edge of a selection, which takes it in when it is
+    // added, and would be cut by it.
+    std::vector<std::size_t> order(m_ranges.size());
+    std::iota(order.begin(), order.end(), std::size_t{0});
+    std::stable_partition(order.begin(), order.end(),
+                          [this](std::size_t i) { return IsCaret(m_ranges[i]); });
+    bool isFirst = true;
+    const auto last = [&raw] { return static_cast<long>(raw.Send(Sci::SCI_GETSELECTIONS)) - 1; };
+    long main = 0;
+    for (const std::size_t i : order) {
         const auto [anchor, caret, anchorBlanks, caretBlanks] = m_ranges[i];
-        if (i == 0)
+        if (isFirst)
             tell(Sci::SCI_SETEMPTYSELECTION, caret);
-        tell(i == 0 ? Sci::SCI_SETSELECTION : Sci::SCI_ADDSELECTION, caret, anchor);
-        tell(Sci::SCI_SETSELECTIONNANCHORVIRTUALSPACE, static_cast<long>(i), anchorBlanks);
-        tell(Sci::SCI_SETSELECTIONNCARETVIRTUALSPACE, static_cast<long>(i), caretBlanks);
+        tell(std::exchange(isFirst, false) ? Sci::SCI_SETSELECTION : Sci::SCI_ADDSELECTION, caret,
+             anchor);
+        tell(Sci::SCI_SETSELECTIONNANCHORVIRTUALSPACE, last(), anchorBlanks);
+        tell(Sci::SCI_SETSELECTIONNCARETVIRTUALSPACE, last(), caretBlanks);
+        if (i == m_main)
+            main = last();
     }
-    tell(Sci::SCI_SETMAINSELECTION, static_cast<long>(m_main));
+    tell(Sci::SCI_SETMAINSELECTION, std::min(main, last()));
+    ClaimSelection(raw);
 }
 
 } // namespace engine

@@ -22,7 +22,8 @@ std::size_t CaretsOf(const Raw& raw)
 bool IsFollowed(const Engine& engine)
 {
     const std::size_t carets = CaretsOf(engine.raw);
-    return carets > 1 && carets <= kMostCarets && engine.looks.IsOn();
+    return carets <= kMostCarets && engine.looks.IsOn() &&
+           (carets > 1 || !engine.raw.Send(Sci::SCI_GETSELECTIONEMPTY));
 }
 
 } // namespace
@@ -45,10 +46,13 @@ void CaretSteps::Mark::Add(const TextEdit& edit)
 
 void CaretSteps::KeyBegins(Engine& engine, Key key)
 {
-    const bool joins = key != Key::Other && IsFollowed(engine) && engine.CollectsUndo() &&
+    const bool goesOn =
+        m_isOpen && key == m_key && m_isNoted && m_step.after == CaretPlaces(engine.raw);
+    const bool isFollowed = IsFollowed(engine) || (goesOn && key == Key::Types);
+    const bool joins = key != Key::Other && isFollowed && engine.CollectsUndo() &&
                        !engine.raw.Send(Sci::SCI_GETREADONLY) &&
                        !documents::HasUndoActions(engine.Document());
-    if (!joins || key != m_key || !m_isNoted || !(m_step.after == CaretPlaces(engine.raw)))
+    if (!joins || !goesOn)
         Close(engine.raw);
     if (!joins)
         return;
@@ -89,8 +93,7 @@ void CaretSteps::EditBegins(Engine& engine, const TextEdit& edit)
 
 void CaretSteps::ActionBegins(Engine& engine)
 {
-    if (engine.bulkChange && engine.looks.IsOn() && engine.CollectsUndo() &&
-        CaretsOf(engine.raw) <= kMostCarets)
+    if (engine.looks.IsOn() && engine.CollectsUndo() && CaretsOf(engine.raw) <= kMostCarets)
         m_action = {CaretPlaces(engine.raw), engine.raw.Send(Sci::SCI_GETFIRSTVISIBLELINE)};
 }
 
@@ -139,6 +142,16 @@ void CaretSteps::Forget(std::deque<Step>& steps)
 void CaretSteps::StepBegins(const Engine& engine)
 {
     m_seen = {.before = engine.raw.Length()};
+    m_top = engine.raw.Send(Sci::SCI_GETFIRSTVISIBLELINE);
+}
+
+// Whether the main caret is in the view that was there before.
+bool CaretSteps::IsInView(const Raw& raw) const
+{
+    const auto caret = static_cast<std::uintptr_t>(raw.Send(Sci::SCI_GETCURRENTPOS));
+    const auto line = static_cast<std::uintptr_t>(raw.Send(Sci::SCI_LINEFROMPOSITION, caret));
+    const std::intptr_t row = raw.Send(Sci::SCI_VISIBLEFROMDOCLINE, line);
+    return row >= m_top && row < m_top + raw.Send(Sci::SCI_LINESONSCREEN);
 }
 
 void CaretSteps::StepEnds(const Engine& engine, bool isUndo)
@@ -151,7 +164,9 @@ void CaretSteps::StepEnds(const Engine& engine, bool isUndo)
         return;
     (isUndo ? from.back().before : from.back().after).PutBack(engine.raw);
     if (isUndo && from.back().top >= 0)
-        engine.raw.Send(Sci::SCI_SETFIRSTVISIBLELINE, static_cast<std::uintptr_t>(from.back().top));
+        engine.raw.Send(
+            Sci::SCI_SETFIRSTVISIBLELINE,
+            static_cast<std::uintptr_t>(IsInView(engine.raw) ? m_top : from.back().top));
     else
         engine.raw.Send(Sci::SCI_SCROLLCARET);
     (isUndo ? m_undone : m_done).push_back(std::move(from.back()));

@@ -1,11 +1,13 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-// CaretSteps: undo where there are several carets, in a document of windows with looks. Characters
+// CaretSteps: undo where several carets are or something is selected, in a document of windows with
+// looks. Characters
 // that are typed one after the other are one step, as they are at a single caret: an undo action
-// stays open between their keys, and ends before anything else. What was selected before and behind
+// stays open between their keys, and ends before anything else. So are those that are typed over a
+// selection. What was selected before and behind
 // a step comes back with it, which the stock engine keeps for none. A step is known again by what
 // it does to the text, so that whatever becomes of the stock engine's history does no harm.
-// A change of many places by a command is such a step, too: where the caret was comes back, with
-// the view of it, rather than the first place that has changed.
+// A command's change is such a step, too: what was selected comes back rather than the first place
+// that has changed, with the view of it unless it is in sight.
 #pragma once
 
 #include "engine/core/CaretPlaces.h"
@@ -100,6 +102,7 @@ private:
         std::intptr_t top; // display line
     };
 
+    bool IsInView(const Raw& raw) const;
     static std::size_t SizeOf(const Step& step) { return step.before.Size() + step.after.Size(); }
     void Note();
     void Forget(std::deque<Step>& steps);
@@ -116,6 +119,7 @@ private:
     Step m_step;
     std::optional<View> m_action; // before the one that changes many places
     Mark m_seen;                  // of the undo or redo at hand
+    std::intptr_t m_top = 0;      // before it, display line
     std::deque<Step> m_done;
     std::deque<Step> m_undone;
     std::size_t m_kept = 0; // selections in both

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "engine/core/Engine.h"
 
+#include "control/Selections.h"
 #include "engine/core/CaretSteps.h"
 #include "engine/core/Documents.h"
 #include "engine/core/EraseRun.h"
@@ -25,6 +26,24 @@ constexpr UINT kNumbers = 2048;
 
 unsigned undoVersion = 1; // of all answers whether changes are collected
 
+enum class CaretMove : unsigned char
+{
+    None,
+    Jump,   // to a place that the host names
+    ByLines // in the column that is aimed at
+};
+
+constexpr UINT kJumps[] = {message::GotoLine, message::GotoPos, message::SetSel,
+                           message::SetCurrentPos, kSetSelections};
+// First and last of each row of numbers: lines and pages, columns, and pages that stop at the edge.
+constexpr std::pair<UINT, UINT> kByLines[] = {
+    {Sci::SCI_LINEDOWN, Sci::SCI_LINEUPEXTEND},
+    {Sci::SCI_PAGEUP, Sci::SCI_PAGEDOWNEXTEND},
+    {Sci::SCI_LINEDOWNRECTEXTEND, Sci::SCI_LINEUPRECTEXTEND},
+    {Sci::SCI_PAGEUPRECTEXTEND, Sci::SCI_PAGEDOWNRECTEXTEND},
+    {Sci::SCI_STUTTEREDPAGEUP, Sci::SCI_STUTTEREDPAGEDOWNEXTEND},
+};
+
 // What answers a number: nothing, a handler, the stock engine as it is, or the row's translation.
 struct Answerer
 {
@@ -39,6 +58,7 @@ struct Answerer
     const MessageRow* row = nullptr;
     Handler handler = nullptr;
     Fence fence = nullptr; // of a row that is translated
+    CaretMove move = CaretMove::None;
 };
 
 constexpr bool IsPlain(Kind kind)
@@ -83,6 +103,12 @@ const Answerers& AllAnswerers()
             Answerer& answerer = all[row.number - kFirstNumber];
             answerer.fence = row.admits;
             answerer.way = Answerer::Way::Translate;
+        }
+        for (const UINT number : kJumps)
+            all[number - kFirstNumber].move = CaretMove::Jump;
+        for (const auto& [first, last] : kByLines) {
+            for (UINT number = first; number <= last; ++number)
+                all[number - kFirstNumber].move = CaretMove::ByLines;
         }
         return all;
     }();
@@ -152,6 +178,7 @@ void Engine::PrepareDocument()
     m_showsRightToLeft = false;
     text.Reset();
     LookPainter::MarksMayGo();
+    looks.ShowMatchesWithin({});
     readOnly = {};
     m_collectsUndo = {};
     colouring = documents::ColouringOf(m_document);
@@ -183,6 +210,10 @@ LRESULT Engine::Perform(UINT message, WPARAM wParam, LPARAM lParam)
     if ((EraseRun::AnyIsOpen() || CaretSteps::AnyIsOpen()) && EraseRun::IsEndedBy(message))
         EndRuns();
     const Answerer& answerer = answerers[slot];
+    if (answerer.move == CaretMove::Jump)
+        CaretJumps();
+    else if (answerer.move == CaretMove::ByLines)
+        AimAtCaret();
     LRESULT result = 0;
     {
         const ChangeReporter::Scope scope;
@@ -259,7 +290,7 @@ void Engine::EditBegins(const TextEdit& edit)
     target.Follow(edit);
     searcher.TextChanges([&edit](long place) { return edit.Moved(place); });
     errors->NoteChange(*this, edit.inserts, edit.position, edit.bytes);
-    looks.TextChanges();
+    looks.EditBegins(edit);
     if (map)
         map->EditBegins(edit);
 }
@@ -295,6 +326,23 @@ void Engine::EraseKeyEnds()
 void Engine::EndEraseRun()
 {
     documents::EraseRunOf(m_document).Close(raw);
+}
+
+// The stock engine makes one step of all that is typed without a move of the caret, over any number
+// of lines. An action without an edit ends it, and leaves no step of its own.
+void Engine::EndTypedStep()
+{
+    if (!looks.IsOn() || raw.Send(Sci::SCI_GETREADONLY) || !CollectsUndo() ||
+        documents::HasUndoActions(m_document))
+        return;
+    raw.Send(Sci::SCI_BEGINUNDOACTION);
+    raw.Send(Sci::SCI_ENDUNDOACTION);
+}
+
+void Engine::AimAtCaret()
+{
+    if (std::exchange(m_hasJumped, false) && looks.IsOn())
+        raw.Send(Sci::SCI_CHOOSECARETX);
 }
 
 void Engine::EndRuns()

@@ -100,10 +100,19 @@ public:
     void EraseKeyEnds();
     void EndEraseRun();
 
+    // Before a key that types a line's end, or types where the caret has come to: with looks, what
+    // it types is a step of undo of its own.
+    void EndTypedStep();
+
     // Before anything that is no key: the runs of keys are over.
     void EndRuns();
     // A message or an event is over.
     void Settle();
+
+    // Before the caret moves by lines: with looks, Up and Down keep the column that the host has
+    // put it to. The stock engine keeps the one before.
+    void AimAtCaret();
+    void CaretJumps() { m_hasJumped = true; }
 
     // Whether changes can be undone. It is asked for each of them; whoever sets it for a document,
     // in whatever window, says so.
@@ -149,6 +158,7 @@ public:
     long searchAnchor = 0;    // bytes; stays when the text changes
     int status = 0;           // as it was set; the stock engine's own tells of failures
     bool recording = false;   // of a macro
+    bool isInCommand = false; // which is recorded as a whole
     std::string callTip;      // UTF-8
     int lengthForEncode = -1; // bytes; -1: up to the terminator
 
@@ -164,6 +174,7 @@ private:
     KeptAnswer m_collectsUndo;
     bool m_showsRightToLeft = false;
     bool m_owesSelection = false; // it has not been told
+    bool m_hasJumped = false;     // the caret, since it last moved by lines
 };
 
 } // namespace engine

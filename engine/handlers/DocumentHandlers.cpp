@@ -9,6 +9,7 @@
 #include <QCoreApplication>
 #include <QScopedValueRollback>
 
+#include <algorithm>
 #include <utility>
 
 namespace engine {
@@ -99,6 +100,26 @@ LRESULT EmptyUndoBuffer(Engine& engine, WPARAM, LPARAM)
     return 0;
 }
 
+// The stock engine scrolls as little as it can, and leaves the caret at the left edge of what a
+// long line has left. A step that has scrolled shows the lines from their start if the caret is
+// there.
+void ShowFromTheLeft(Engine& engine)
+{
+    constexpr int kAside = 20; // pixels
+    const auto ask = [&engine](unsigned message, std::uintptr_t value = 0) {
+        return static_cast<long>(engine.raw.Send(message, value));
+    };
+    long left = 0;
+    for (std::uintptr_t margin = 0; margin < static_cast<std::uintptr_t>(ask(Sci::SCI_GETMARGINS));
+         ++margin)
+        left += ask(Sci::SCI_GETMARGINWIDTHN, margin);
+    const long place = static_cast<long>(
+        engine.raw.Send(Sci::SCI_POINTXFROMPOSITION, 0, ask(Sci::SCI_GETCURRENTPOS)));
+    const long room = engine.window.viewport()->width() - kAside;
+    if (place + ask(Sci::SCI_GETXOFFSET) < std::max(room, left))
+        engine.raw.Send(Sci::SCI_SETXOFFSET, 0);
+}
+
 // A step may be of a million changes, and nothing stops the stock engine within it.
 template <UINT Number>
 LRESULT ChangeBySteps(Engine& engine, WPARAM, LPARAM)
@@ -109,9 +130,13 @@ LRESULT ChangeBySteps(Engine& engine, WPARAM, LPARAM)
     const QScopedValueRollback<LongWork*> under(engine.undo, &work);
     const documents::Document document = engine.Document();
     documents::CaretStepsOf(document).StepBegins(engine);
+    const std::intptr_t offset = engine.raw.Send(Sci::SCI_GETXOFFSET);
     const LRESULT result = engine.raw.Send(Number);
+    engine.CaretJumps();
     if (engine.Document() == document)
         documents::CaretStepsOf(document).StepEnds(engine, Number == Sci::SCI_UNDO);
+    if (engine.looks.IsOn() && engine.raw.Send(Sci::SCI_GETXOFFSET) != offset)
+        ShowFromTheLeft(engine);
     return result;
 }
 

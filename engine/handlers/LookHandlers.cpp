@@ -6,6 +6,8 @@
 #include "engine/core/Handlers.h"
 #include "engine/looks/DocumentMap.h"
 
+#include <algorithm>
+#include <optional>
 #include <utility>
 
 namespace engine {
@@ -23,6 +25,38 @@ LRESULT ShowMatches(Engine& engine, WPARAM wParam, LPARAM lParam)
     const Utf8Text sought(TerminatedText(reinterpret_cast<const char16_t*>(lParam)));
     engine.looks.ShowMatches(std::string(sought.View()), static_cast<int>(wParam));
     return 0;
+}
+
+LRESULT ShowMatchesWithin(Engine& engine, WPARAM wParam, LPARAM lParam)
+{
+    const long from = engine.Bytes(static_cast<LPARAM>(wParam));
+    const long to = engine.Bytes(lParam);
+    engine.looks.ShowMatchesWithin(
+        from < 0 ? std::nullopt : std::optional(search::Range{from, std::max(from, to)}));
+    return 0;
+}
+
+LRESULT MatchesFrom(Engine& engine, WPARAM, LPARAM)
+{
+    const auto& range = engine.looks.MatchesWithin();
+    return range ? engine.Units(range->start) : -1;
+}
+
+LRESULT MatchesTo(Engine& engine, WPARAM, LPARAM)
+{
+    const auto& range = engine.looks.MatchesWithin();
+    return range ? engine.Units(range->end) : -1;
+}
+
+LRESULT SetViewEOL(Engine& engine, WPARAM wParam, LPARAM)
+{
+    engine.looks.ShowLineEnds(wParam != 0);
+    return 0;
+}
+
+LRESULT GetViewEOL(Engine& engine, WPARAM, LPARAM)
+{
+    return engine.looks.ShowsLineEnds();
 }
 
 LRESULT NextFolded(Engine& engine, WPARAM wParam, LPARAM)
@@ -48,7 +82,12 @@ LRESULT IsDocumentMapShown(Engine& engine, WPARAM, LPARAM)
 constexpr HandlerRow kRows[] = {
     {kSetLooks, SetLooks},
     {kShowMatches, ShowMatches},
+    {kShowMatchesWithin, ShowMatchesWithin},
+    {kMatchesFrom, MatchesFrom},
+    {kMatchesTo, MatchesTo},
     {kNextFolded, NextFolded},
+    {message::SetViewEOL, SetViewEOL},
+    {message::GetViewEOL, GetViewEOL},
     {kShowDocumentMap, ShowDocumentMap},
     {kIsDocumentMapShown, IsDocumentMapShown},
 };

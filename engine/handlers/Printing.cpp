@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 // Printing: the range on paper, and how styles differ there.
 #include "engine/core/Engine.h"
+#include "engine/core/ErrorList.h"
 #include "engine/core/Handlers.h"
 
 #include <QPainter>
@@ -23,9 +24,12 @@ public:
     {
         // A window matches them as it is painted, which may not have been since a style changed.
         engine.colouring->Alike().Match(engine.raw);
-        for (const int lit : {kStatementIndicator, kOccurrenceIndicator,
-                              kMatchIndicator}) // for the eye on the screen
-            Put(Sci::SCI_INDICGETSTYLE, Sci::SCI_INDICSETSTYLE, lit, Sci::INDIC_HIDDEN);
+        for (const int lit : {kStatementIndicator, kOccurrenceIndicator, kMatchIndicator})
+            Darken(lit);
+        for (const int marked : engine.errors->Look().indicators) {
+            if (marked != kNoMark)
+                Darken(marked);
+        }
         const PrintStyle& print = engine.print;
         for (int style = 0; style < kStyles; ++style) {
             if (print.bold)
@@ -41,8 +45,9 @@ public:
 
     ~PrintStyles()
     {
-        for (const Saved& saved : m_saved)
-            m_engine.raw.Send(saved.setter, static_cast<WPARAM>(saved.style), saved.value);
+        // Backwards: one may have been put twice.
+        for (auto saved = m_saved.rbegin(); saved != m_saved.rend(); ++saved)
+            m_engine.raw.Send(saved->setter, static_cast<WPARAM>(saved->style), saved->value);
         for (std::size_t style = 0; style < m_fonts.size(); ++style)
             m_engine.raw.Send(Sci::SCI_STYLESETFONT, style, m_fonts[style].c_str());
     }
@@ -63,6 +68,12 @@ private:
         const auto word = static_cast<WPARAM>(style);
         m_saved.push_back({setter, style, m_engine.raw.Send(getter, word)});
         m_engine.raw.Send(setter, word, value);
+    }
+
+    // An indicator for the eye on the screen.
+    void Darken(int indicator)
+    {
+        Put(Sci::SCI_INDICGETSTYLE, Sci::SCI_INDICSETSTYLE, indicator, Sci::INDIC_HIDDEN);
     }
 
     void PutFont(int style)

@@ -2,11 +2,13 @@
 // Messages that search: over the target, from the anchor and in a range. What is found in between,
 // the target and its flags are this engine's own.
 #include "control/ExpressionCheck.h"
+#include "control/Recording.h"
 #include "engine/core/Engine.h"
 #include "engine/core/Handlers.h"
 
 #include <algorithm>
 #include <new>
+#include <utility>
 
 namespace engine {
 namespace {
@@ -142,8 +144,23 @@ LRESULT SetRecording(Engine& engine, WPARAM, LPARAM)
 {
     engine.raw.Send(Number);
     engine.recording = Recording;
+    engine.isInCommand = false;
     engine.wholeCharacters.RecordingBecame(Recording);
     return 0;
+}
+
+LRESULT RecordCommand(Engine& engine, WPARAM number, LPARAM)
+{
+    if (number == 0) {
+        engine.recording |= std::exchange(engine.isInCommand, false);
+        return 0;
+    }
+    if (!engine.recording)
+        return 0;
+    engine.reporter.Tell(notify::MacroRecord, {.message = static_cast<int>(number)});
+    engine.recording = false;
+    engine.isInCommand = true;
+    return 1;
 }
 
 LRESULT TellExpressionProblem(Engine& engine, WPARAM wParam, LPARAM lParam)
@@ -166,6 +183,7 @@ LRESULT TellExpressionProblem(Engine& engine, WPARAM wParam, LPARAM lParam)
 
 constexpr HandlerRow kRows[] = {
     {kExpressionProblem, TellExpressionProblem},
+    {kRecordCommand, RecordCommand},
     {message::SetTargetStart, SetTargetEdge<&SearchTarget::start>},
     {message::GetTargetStart, GetTargetEdge<&SearchTarget::start>},
     {message::SetTargetEnd, SetTargetEdge<&SearchTarget::end>},

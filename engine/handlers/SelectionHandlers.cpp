@@ -91,10 +91,28 @@ LRESULT SetColumns(Engine& engine, WPARAM, LPARAM lParam)
     return 0;
 }
 
+LRESULT GetColumns(Engine& engine, WPARAM, LPARAM lParam)
+{
+    auto* corners = reinterpret_cast<ColumnCorners*>(lParam);
+    if (!corners || !engine.columns.AreSelected())
+        return 0;
+    const auto ask = [&engine](UINT message) {
+        return static_cast<long>(engine.raw.Send(message));
+    };
+    const auto place = [&](UINT message) { return static_cast<int>(engine.Units(ask(message))); };
+    corners->ends = {place(Sci::SCI_GETRECTANGULARSELECTIONANCHOR),
+                     place(Sci::SCI_GETRECTANGULARSELECTIONCARET)};
+    corners->anchorBlanks =
+        static_cast<int>(ask(Sci::SCI_GETRECTANGULARSELECTIONANCHORVIRTUALSPACE));
+    corners->caretBlanks = static_cast<int>(ask(Sci::SCI_GETRECTANGULARSELECTIONCARETVIRTUALSPACE));
+    return 1;
+}
+
 constexpr HandlerRow kRows[] = {
     {kGetSelections, GetSelections},
     {kSetSelections, SetSelections},
     {kSetColumns, SetColumns},
+    {kGetColumns, GetColumns},
 };
 
 } // namespace

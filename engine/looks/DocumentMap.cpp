@@ -29,7 +29,11 @@ constexpr double kInk = 0.7; // of a style's colour, over the ground
 constexpr std::chrono::milliseconds
     kRest(40); // keys that are typed on and on are not each followed
 constexpr std::chrono::milliseconds kAtOnce(0);
-constexpr qint64 kSlice = 2'000'000; // nanoseconds of drawing in one go
+constexpr qint64 kSlice = 2'000'000;  // nanoseconds of drawing in one go
+constexpr long kColoured = 16L << 10; // bytes in one go
+// Bytes from the last that is coloured. Farther down, where a long line may lie between, the map is
+// without colours until the window comes there.
+constexpr long kFarthest = 1L << 20;
 
 } // namespace
 
@@ -184,6 +188,24 @@ std::vector<MapRow> DocumentMap::RowsOf(const MapLayout& layout) const
     return rows;
 }
 
+// The stock engine colours up to the line behind the one whose last child it is asked for, and what
+// has no level has none. Told to colour, it would paint the window each time.
+bool DocumentMap::Colour(const std::vector<MapRow>& rows) const
+{
+    const long styled = Ask(Sci::SCI_GETENDSTYLED);
+    if (rows.empty() || styled >= m_raw.Length())
+        return false;
+    const long last = rows.back().line;
+    const long start = Ask(Sci::SCI_POSITIONFROMLINE, last);
+    const long end = start + std::min(Ask(Sci::SCI_LINELENGTH, last), kColoured);
+    if (styled >= end || end - styled > kFarthest)
+        return false;
+    const long line = std::min(last, Ask(Sci::SCI_LINEFROMPOSITION, styled + kColoured));
+    if (line > 0)
+        Ask(Sci::SCI_GETLASTCHILD, line - 1, Sci::SC_FOLDLEVELNUMBERMASK);
+    return Ask(Sci::SCI_GETENDSTYLED) > styled;
+}
+
 // In the middle of an edit neither the lines nor their numbers can be relied on: its end comes back
 // here.
 bool DocumentMap::Refresh()
@@ -200,13 +222,16 @@ bool DocumentMap::Refresh()
                            static_cast<int>(std::max(1L, Ask(Sci::SCI_GETTABWIDTH)))});
     bool hasChanged = m_picture.TakeColours(kInk);
     const MapLayout layout = CurrentLayout();
-    hasChanged |= m_picture.Show(RowsOf(layout));
+    const std::vector<MapRow> rows = RowsOf(layout);
+    hasChanged |= m_picture.Show(rows);
     hasChanged |= !(std::exchange(m_layout, layout) == layout);
     QElapsedTimer clock;
     clock.start();
     bool isLeft = true;
     while ((isLeft = m_picture.DrawNext()) && clock.nsecsElapsed() < kSlice)
         hasChanged = true;
+    if (!isLeft)
+        isLeft = Colour(rows);
     if (isLeft)
         Soon(kAtOnce);
     if (hasChanged || isLeft)

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 // DocumentMap: a narrow column beside an engine's text that shows the script in small, with a box
-// around what the window shows. A click goes there, and the box can be dragged. Nothing is styled
-// for it, and it is drawn in pieces when there is nothing else to do.
+// around what the window shows. A click goes there, and the box can be dragged. It is drawn in
+// pieces when there is nothing else to do, and so is coloured what it shows below the window.
 #pragma once
 
 #include "engine/looks/MapLayout.h"
@@ -57,6 +57,8 @@ private:
     MapLayout CurrentLayout() const;
     double Top() const; // of the text, in rows
     std::vector<MapRow> RowsOf(const MapLayout& layout) const;
+    // A slice of what is shown and not coloured; whether there was any.
+    bool Colour(const std::vector<MapRow>& rows) const;
     void GoTo(double top) const;
     double PixelOf(const QMouseEvent& event) const; // the screen's
     long Ask(unsigned message, long wParam = 0, long lParam = 0) const;

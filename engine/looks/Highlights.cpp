@@ -3,6 +3,7 @@
 
 #include "engine/looks/IndicatorScope.h"
 
+#include <algorithm>
 #include <chrono>
 
 namespace engine {
@@ -12,7 +13,7 @@ using Sci = QsciScintillaBase;
 
 constexpr long kSlice = 2L << 20;         // bytes, some 2 ms
 constexpr long kLongestScreen = 1L << 20; // bytes of a screen that are looked at
-constexpr std::size_t kMostLines = 20000; // more than any scroll bar can show
+constexpr long kMostLines = 20000;        // more than any scroll bar can show
 constexpr std::chrono::milliseconds kRest(300);
 
 } // namespace
@@ -35,11 +36,24 @@ void Highlights::Show(std::string sought, int flags)
     }
     m_sought = std::move(sought);
     m_flags = flags;
+    Restart();
+}
+
+void Highlights::SetWithin(std::optional<search::Range> range)
+{
+    if (range == m_within)
+        return;
+    m_within = range;
+    Restart();
+}
+
+void Highlights::Restart()
+{
     m_timer.stop();
     Erase();
     const bool hadLines = !m_lines.empty();
     m_lines.clear();
-    m_searched = 0;
+    m_searched = -1;
     if (IsShown()) {
         FillVisible();
         m_timer.start(0);
@@ -58,8 +72,26 @@ void Highlights::SearchAnewSoon()
 {
     if (!IsShown())
         return;
-    m_searched = 0;
+    m_searched = -1;
     m_timer.start(kRest);
+}
+
+// What goes in at an edge belongs to it: there a replacement stands for a match.
+void Highlights::EditBegins(const TextEdit& edit)
+{
+    if (!m_within)
+        return;
+    const bool isAtEnd = edit.inserts && edit.position == m_within->end;
+    m_within->start = edit.Moved(m_within->start);
+    m_within->end = isAtEnd ? m_within->end + edit.bytes : edit.Moved(m_within->end);
+}
+
+search::Range Highlights::Searched() const
+{
+    const long length = m_raw.Length();
+    if (!m_within)
+        return {0, length};
+    return {std::min(m_within->start, length), std::min(m_within->end, length)};
 }
 
 void Highlights::Erase()
@@ -70,24 +102,21 @@ void Highlights::Erase()
     m_raw.Send(Sci::SCI_INDICATORCLEARRANGE, 0, m_raw.Length());
 }
 
-// Visits matches until one says to stop; the place where the search has come to.
+// Visits matches; each visit says from where to go on.
 template <class Visit>
-long Highlights::ForEach(long from, long to, Visit visit)
+void Highlights::ForEach(long from, long to, Visit visit)
 {
     while (from < to) {
         const std::optional<search::Range> match = m_searcher.Find(m_sought, m_flags, from, to);
         if (!match)
-            return to;
-        if (match->end > match->start && !visit(*match))
-            return match->end;
+            return;
         from = match->end > match->start
-                   ? match->end
+                   ? visit(*match)
                    : static_cast<long>(m_raw.Send(Sci::SCI_POSITIONAFTER,
                                                   static_cast<std::uintptr_t>(match->end)));
         if (from <= match->start)
-            return to;
+            return;
     }
-    return to;
 }
 
 void Highlights::FillVisible()
@@ -103,39 +132,50 @@ void Highlights::FillVisible()
     const auto from = static_cast<long>(m_raw.Send(Sci::SCI_POSITIONFROMLINE, docLine(first)));
     const auto end =
         static_cast<long>(m_raw.Send(Sci::SCI_GETLINEENDPOSITION, docLine(first + lines + 1)));
-    const long to = std::min(end, from + kLongestScreen);
+    const search::Range searched = Searched();
+    const long to = std::min({end, from + kLongestScreen, searched.end});
     Erase();
     const IndicatorScope scope(m_raw, m_indicator);
-    ForEach(from, to, [this](search::Range match) {
+    ForEach(std::max(from, searched.start), to, [this](search::Range match) {
         m_raw.Send(Sci::SCI_INDICATORFILLRANGE, static_cast<std::uintptr_t>(match.start),
                    match.end - match.start);
-        return true;
+        return match.end;
     });
 }
 
-// A slice ends with a line, so that no match of one lies across its edge.
+// A slice ends with a line, so that no match of one lies across its edge. Of a long text's lines
+// those close behind one with a match are left out: they have no place of their own on the bar.
 void Highlights::SearchOn()
 {
-    const long length = m_raw.Length();
-    if (m_searched == 0) {
+    const search::Range searched = Searched();
+    if (m_searched < 0) {
         m_lines.clear();
         FillVisible();
+        m_searched = searched.start;
     }
     const auto lineAt = [this](long position) {
         return static_cast<long>(
             m_raw.Send(Sci::SCI_LINEFROMPOSITION, static_cast<std::uintptr_t>(position)));
     };
-    const long last = lineAt(std::min(m_searched + kSlice, length));
-    const auto to = std::max(m_searched + 1,
-                             static_cast<long>(m_raw.Send(Sci::SCI_POSITIONFROMLINE,
-                                                          static_cast<std::uintptr_t>(last) + 1)));
-    m_searched = ForEach(m_searched, std::min(to, length), [&](search::Range match) {
+    const auto startOf = [this](long line) { // the last one's end behind it
+        return static_cast<long>(
+            m_raw.Send(Sci::SCI_POSITIONFROMLINE,
+                       static_cast<std::uintptr_t>(std::min(line, m_raw.LineCount()))));
+    };
+    const long step = 1 + m_raw.LineCount() / kMostLines;
+    const long to = std::min(
+        searched.end,
+        std::max(m_searched + 1, startOf(1 + lineAt(std::min(m_searched + kSlice, searched.end)))));
+    long next = to;
+    ForEach(m_searched, to, [&](search::Range match) {
         const long line = lineAt(match.start);
-        if (m_lines.empty() || m_lines.back() != line)
-            m_lines.push_back(line);
-        return m_lines.size() < kMostLines;
+        m_lines.push_back(line);
+        const long from = std::max(match.end, startOf(line + step));
+        next = std::max(to, from);
+        return from;
     });
-    if (m_searched < length && m_lines.size() < kMostLines)
+    m_searched = next;
+    if (m_searched < searched.end)
         m_timer.start(0);
     else
         m_changed();

@@ -6,10 +6,12 @@
 #include "engine/search/Searcher.h"
 #include "engine/text/Raw.h"
 #include "engine/text/StoredText.h"
+#include "engine/text/TextEdit.h"
 
 #include <QTimer>
 
 #include <functional>
+#include <optional>
 #include <string>
 #include <vector>
 
@@ -25,20 +27,28 @@ public:
 
     void Show(std::string sought, int flags); // UTF-8; empty: nothing more
     void Clear() { Show({}, 0); }
-    void Refresh();        // after a scroll
+    // What is found in there alone, which follows the text; nothing: everywhere.
+    void SetWithin(std::optional<search::Range> range);
+    const std::optional<search::Range>& Within() const { return m_within; }
+
+    void Refresh(); // after a scroll
+    void EditBegins(const TextEdit& edit);
     void SearchAnewSoon(); // after a change of the text
 
     bool IsShown() const { return !m_sought.empty(); }
     const std::string& Sought() const { return m_sought; }
-    const std::vector<long>& Lines() const { return m_lines; } // with a match, as far as searched
+    // With a match, as far as searched: no more of them than a scroll bar can show.
+    const std::vector<long>& Lines() const { return m_lines; }
 
 private:
     bool MayDraw() const { return !m_mayDraw || m_mayDraw(); }
     void Erase();
     void FillVisible();
+    void Restart();
     void SearchOn();
+    search::Range Searched() const;
     template <class Visit>
-    long ForEach(long from, long to, Visit visit);
+    void ForEach(long from, long to, Visit visit);
 
     const Raw& m_raw;
     search::Searcher m_searcher;
@@ -48,7 +58,8 @@ private:
     QTimer m_timer;
     std::string m_sought;
     int m_flags = 0;
-    long m_searched = 0; // bytes from the text's start
+    std::optional<search::Range> m_within; // bytes
+    long m_searched = -1;                  // as far as this place; -1: not begun
     std::vector<long> m_lines;
 };
 

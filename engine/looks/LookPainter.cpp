@@ -3,7 +3,10 @@
 
 #include "engine/looks/Icons.h"
 #include "engine/looks/IndicatorScope.h"
+#include "engine/looks/LineEnds.h"
+#include "engine/looks/RangeFrame.h"
 #include "engine/looks/TabArrows.h"
+#include "platform/base/Colours.h"
 
 #include <QApplication>
 #include <QMouseEvent>
@@ -52,12 +55,6 @@ void LookPainter::LinesChanged()
         m_marks->Soon();
 }
 
-QColor LookPainter::Colour(COLORREF colour) const
-{
-    return QColor(static_cast<int>(colour & 0xFF), static_cast<int>(colour >> 8 & 0xFF),
-                  static_cast<int>(colour >> 16 & 0xFF));
-}
-
 // What replaces is two changes at one place, and an undo makes hundreds of thousands of them.
 void LookPainter::MarkChange(long position, long end)
 {
@@ -70,7 +67,13 @@ void LookPainter::MarkChange(long position, long end)
         return m_raw.Send(Sci::SCI_LINEFROMPOSITION, static_cast<WPARAM>(place));
     };
     const std::intptr_t first = lineOf(position);
-    const std::intptr_t last = end > position ? lineOf(end) : first;
+    std::intptr_t last = end > position ? lineOf(end) : first;
+    // Whole lines put in front of one leave that as it was.
+    const auto isStart = [this](std::intptr_t line, long place) {
+        return m_raw.Send(Sci::SCI_POSITIONFROMLINE, static_cast<WPARAM>(line)) == place;
+    };
+    if (last > first && isStart(first, position) && isStart(last, end))
+        --last;
     for (auto line = static_cast<WPARAM>(first); line <= static_cast<WPARAM>(last); ++line) {
         if (!(m_raw.Send(Sci::SCI_MARKERGET, line) & Bit(lookmarker::kLineChanged)))
             m_raw.Send(Sci::SCI_MARKERADD, line, long{lookmarker::kLineChanged});
@@ -90,6 +93,7 @@ void LookPainter::Set(const Looks* looks)
     m_raw.Send(Sci::SCI_SETEXTRADESCENT, static_cast<WPARAM>(looks ? kBelow : 0));
     m_raw.Send(Sci::SCI_SETTABDRAWMODE, looks ? Sci::SCTD_STRIKEOUT : Sci::SCTD_LONGARROW);
     m_looks = looks ? std::optional<Looks>(*looks) : std::nullopt;
+    ShowLineEnds(m_showsLineEnds);
     m_window.viewport()->setMouseTracking(true);
     if (!m_looks) {
         m_occurrences.Clear();
@@ -117,21 +121,44 @@ void LookPainter::Set(const Looks* looks)
     if (!m_marks)
         m_marks = new ScrollMarks(*m_window.verticalScrollBar(), m_raw);
     m_marks->SetLayers({
-        {Colour(m_looks->lineSaved), lookmarker::kLineSaved, nullptr, true},
-        {Colour(m_looks->lineChanged), lookmarker::kLineChanged, nullptr, true},
-        {Colour(m_looks->occurrence), -1, &m_occurrences.Lines()},
-        {Colour(m_looks->match), -1, &m_matches.Lines()},
-        {Colour(m_looks->bookmark), lookmarker::kBookmark},
-        {Colour(m_looks->warning), lookmarker::kWarning},
-        {Colour(m_looks->error), lookmarker::kError},
+        {ToQColor(m_looks->lineSaved), lookmarker::kLineSaved, nullptr, true},
+        {ToQColor(m_looks->lineChanged), lookmarker::kLineChanged, nullptr, true},
+        {ToQColor(m_looks->occurrence), -1, &m_occurrences.Lines()},
+        {ToQColor(m_looks->match), -1, &m_matches.Lines()},
+        {ToQColor(m_looks->bookmark), lookmarker::kBookmark},
+        {ToQColor(m_looks->warning), lookmarker::kWarning},
+        {ToQColor(m_looks->error), lookmarker::kError},
     });
     FocusChanged(m_window.hasFocus());
+    m_window.viewport()->update();
+}
+
+void LookPainter::ShowLineEnds(bool show)
+{
+    m_showsLineEnds = show;
+    m_raw.Send(Sci::SCI_SETVIEWEOL, static_cast<WPARAM>(show && !m_looks));
     m_window.viewport()->update();
 }
 
 void LookPainter::ShowMatches(const std::string& sought, int flags)
 {
     m_matches.Show(IsOn() ? sought : std::string(), flags);
+}
+
+void LookPainter::ShowMatchesWithin(std::optional<search::Range> range)
+{
+    if (range == MatchesWithin())
+        return;
+    m_matches.SetWithin(range);
+    m_window.viewport()->update();
+    if (m_looks)
+        m_rest.start(kRest);
+}
+
+void LookPainter::EditBegins(const TextEdit& edit)
+{
+    m_textHasChanged = true;
+    m_matches.EditBegins(edit);
 }
 
 LookPainter::Margins LookPainter::Places() const
@@ -153,6 +180,10 @@ void LookPainter::Paint(QPainter& painter, const QPaintEvent& event)
 {
     if (!m_looks)
         return;
+    if (m_awaitsColour && IsColoured(m_raw.Send(Sci::SCI_GETCURRENTPOS))) {
+        m_awaitsColour = false;
+        m_rest.start(kRest);
+    }
     painter.setRenderHint(QPainter::Antialiasing);
     const Margins places = Places();
     const auto height = static_cast<int>(m_raw.Send(Sci::SCI_TEXTHEIGHT));
@@ -162,7 +193,7 @@ void LookPainter::Paint(QPainter& painter, const QPaintEvent& event)
     const bool isHidden = // with the fill beside it
         m_raw.Send(Sci::SCI_INDICGETSTYLE, kStatementIndicator) == Sci::INDIC_HIDDEN;
     const Range statement = isHidden ? Range() : LitStatement();
-    const TabArrows arrows(m_raw, Colour(m_looks->whitespace), m_window.viewport()->width());
+    const TabArrows arrows(m_raw, ToQColor(m_looks->whitespace), m_window.viewport()->width());
     long before = -1;
     for (long row = first; row <= last; ++row) {
         const auto line =
@@ -181,10 +212,16 @@ void LookPainter::Paint(QPainter& painter, const QPaintEvent& event)
         PaintHiddenMark(painter, line, height);
         if (arrows.AreShown())
             arrows.Paint(painter, line, height);
+        if (m_showsLineEnds)
+            LineEnds(m_raw).Paint(painter, ToQColor(m_looks->whitespace), line, height);
         painter.restore();
     }
     PaintCurrentNumber(painter, height);
     painter.setClipRect(m_window.viewport()->rect().adjusted(places.text, 0, 0, 0));
+    if (MatchesWithin())
+        PaintFrame(painter, m_raw, *MatchesWithin(),
+                   m_window.viewport()->rect().adjusted(places.text, 0, 0, 0), height,
+                   ToQColor(m_looks->match));
     PaintCurrentMatch(painter, height);
 }
 
@@ -208,7 +245,7 @@ void LookPainter::PaintCurrentMatch(QPainter& painter, int height) const
     const QPoint last = place(end);
     if (first.y() != last.y() || first.x() >= last.x()) // over several rows
         return;
-    const QColor colour = Colour(m_looks->match);
+    const QColor colour = ToQColor(m_looks->match);
     const QRect match(first, QSize(last.x() - first.x(), height));
     const QRect outside = match.adjusted(-1, 0, 1, 0);
     painter.fillRect(outside.x(), outside.y(), outside.width(), kFrame, colour);
@@ -253,9 +290,9 @@ void LookPainter::PaintCurrentNumber(QPainter& painter, int height)
     if (row < 0 || row > m_window.viewport()->height() / height) // as far off as the text is long
         return;
     const QRect place(width(0), static_cast<int>(row) * height, width(kNumberMargin), height);
-    painter.fillRect(place, Colour(m_looks->margin));
+    painter.fillRect(place, ToQColor(m_looks->margin));
     painter.setFont(NumberFont());
-    painter.setPen(Colour(m_looks->currentNumber));
+    painter.setPen(ToQColor(m_looks->currentNumber));
     painter.drawText(place.adjusted(0, 0, -kPadding, 0), Qt::AlignRight | Qt::AlignVCenter,
                      QString::number(line + 1));
 }
@@ -269,16 +306,16 @@ void LookPainter::PaintLine(QPainter& painter, const Margins& places, long line,
     const qreal side = std::min(height * 0.72, symbolWidth * 0.72);
     const QPointF middle(places.symbols + symbolWidth / 2.0, top + height / 2.0);
     if (symbolWidth > 0 && marks & Bit(lookmarker::kError))
-        icons::Error(painter, middle, side, Colour(m_looks->error));
+        icons::Error(painter, middle, side, ToQColor(m_looks->error));
     else if (symbolWidth > 0 && marks & Bit(lookmarker::kWarning))
-        icons::Warning(painter, middle, side, Colour(m_looks->warning));
+        icons::Warning(painter, middle, side, ToQColor(m_looks->warning));
     else if (symbolWidth > 0 && marks & Bit(lookmarker::kBookmark))
-        icons::Bookmark(painter, middle, side, Colour(m_looks->bookmark));
+        icons::Bookmark(painter, middle, side, ToQColor(m_looks->bookmark));
     constexpr int kBar = 3;
     const bool isChanged = marks & Bit(lookmarker::kLineChanged);
     if ((isChanged || marks & Bit(lookmarker::kLineSaved)) && places.text > kBar)
         painter.fillRect(places.text - kBar, top, kBar, height,
-                         Colour(isChanged ? m_looks->lineChanged : m_looks->lineSaved));
+                         ToQColor(isChanged ? m_looks->lineChanged : m_looks->lineSaved));
     PaintFold(painter, places, line, top, height);
 }
 
@@ -293,7 +330,7 @@ void LookPainter::PaintStatementBar(QPainter& painter, const Margins& places,
     const bool isLine = line < m_raw.Send(Sci::SCI_GETLINECOUNT); // none below the text
     if (isLine && statement.start < m_raw.Send(Sci::SCI_GETLINEENDPOSITION, number) &&
         statement.end > m_raw.Send(Sci::SCI_POSITIONFROMLINE, number))
-        painter.fillRect(places.text + kGap, top, kBar, height, Colour(m_looks->statement));
+        painter.fillRect(places.text + kGap, top, kBar, height, ToQColor(m_looks->statement));
 }
 
 void LookPainter::PaintFold(QPainter& painter, const Margins& places, long line, int top,
@@ -303,7 +340,7 @@ void LookPainter::PaintFold(QPainter& painter, const Margins& places, long line,
     if (!(level & Sci::SC_FOLDLEVELHEADERFLAG))
         return;
     const bool isOpen = m_raw.Send(Sci::SCI_GETFOLDEXPANDED, static_cast<WPARAM>(line)) != 0;
-    const QColor colour = Colour(!isOpen || m_isFoldMarginHot ? m_looks->foldHot : m_looks->fold);
+    const QColor colour = ToQColor(!isOpen || m_isFoldMarginHot ? m_looks->foldHot : m_looks->fold);
     constexpr int kForBar = 3;
     const int width = places.text - places.folds - kForBar;
     if (width > 0)
@@ -316,11 +353,11 @@ void LookPainter::PaintHiddenMark(QPainter& painter, long line, int height) cons
     const QRect mark = HiddenMark(line);
     if (mark.isEmpty())
         return;
-    painter.setPen(QPen(Colour(m_looks->fold), 1));
-    painter.setBrush(Colour(m_looks->foldedLine));
+    painter.setPen(QPen(ToQColor(m_looks->fold), 1));
+    painter.setBrush(ToQColor(m_looks->foldedLine));
     painter.drawRoundedRect(QRectF(mark).adjusted(0.5, 0.5, -0.5, -0.5), 3, 3);
     painter.setPen(Qt::NoPen);
-    painter.setBrush(Colour(m_looks->foldHot));
+    painter.setBrush(ToQColor(m_looks->foldHot));
     for (const int dot : {-1, 0, 1})
         painter.drawEllipse(QRectF(mark).center() + QPointF(dot * mark.width() / 4.0, 0),
                             height / 14.0, height / 14.0);
@@ -337,7 +374,8 @@ QRect LookPainter::HiddenMark(long line) const
     const auto x = static_cast<int>(m_raw.Send(Sci::SCI_POINTXFROMPOSITION, 0, end));
     const auto y = static_cast<int>(m_raw.Send(Sci::SCI_POINTYFROMPOSITION, 0, end));
     const auto height = static_cast<int>(m_raw.Send(Sci::SCI_TEXTHEIGHT));
-    return {x + height / 3, y + height / 5, height * 5 / 4, height * 3 / 5 + 1};
+    const int lineEnd = m_showsLineEnds ? LineEnds(m_raw).WidthOf(line, height) : 0;
+    return {x + lineEnd + height / 3, y + height / 5, height * 5 / 4, height * 3 / 5 + 1};
 }
 
 void LookPainter::MouseMoved(const QPoint& place)
@@ -422,8 +460,13 @@ void LookPainter::Rested()
         LightStatement();
 }
 
+bool LookPainter::IsColoured(std::intptr_t position) const
+{
+    return position < m_raw.Send(Sci::SCI_GETENDSTYLED) || position >= m_raw.Length();
+}
+
 // The word at the caret if it may be a name, or the one that is selected, if there is another of it
-// in sight or below.
+// in sight or below. Where a part of the text is searched, all else counts for nothing.
 void LookPainter::LookForOccurrences(bool hasChanged)
 {
     const long caret = static_cast<long>(m_raw.Send(Sci::SCI_GETCURRENTPOS));
@@ -436,8 +479,12 @@ void LookPainter::LookForOccurrences(bool hasChanged)
     const bool isOfTheWord = from == to || (from >= start && to <= end);
     const auto style = static_cast<std::size_t>(
         m_raw.Send(Sci::SCI_GETSTYLEAT, static_cast<WPARAM>(start)) & 0xFF);
-    const bool isQuiet = from == to && style < m_looks->quiet.size() && m_looks->quiet[style];
-    const bool isWord = end - start > 1 && end - start <= kLongestWord && isOfTheWord && !isQuiet;
+    // What is to be coloured yet has the style of whatever stood there.
+    m_awaitsColour = from == to && m_looks->quiet.any() && !IsColoured(start);
+    const bool isQuiet =
+        m_awaitsColour || (from == to && style < m_looks->quiet.size() && m_looks->quiet[style]);
+    const bool isWord = end - start > 1 && end - start <= kLongestWord && isOfTheWord && !isQuiet &&
+                        !MatchesWithin();
     std::string word;
     if (isWord)
         word = m_raw.Bytes(start, end);

@@ -43,6 +43,11 @@ public:
     void Set(const Looks* looks); // null: nothing more
     bool IsOn() const { return m_looks.has_value(); }
     void ShowMatches(const std::string& sought, int flags); // UTF-8; empty: none
+    // Of the searcher's bytes, those in there alone, inside a frame; it follows the text.
+    void ShowMatchesWithin(std::optional<search::Range> range);
+    const std::optional<search::Range>& MatchesWithin() const { return m_matches.Within(); }
+    void ShowLineEnds(bool show); // in the way of the stock engine while there are no looks
+    bool ShowsLineEnds() const { return m_showsLineEnds; }
     // Words that differ in their letters' case are the same.
     void SetAnyCase(bool anyCase) { m_anyCase = anyCase; }
 
@@ -53,7 +58,7 @@ public:
     bool MousePressed(const QMouseEvent& event); // true: that was all
     void FocusChanged(bool hasFocus);
     void Updated(int updated); // SCN_UPDATEUI
-    void TextChanges() { m_textHasChanged = true; }
+    void EditBegins(const TextEdit& edit);
     // The lines from one place to another have changed; bytes.
     void MarkChange(long position, long end);
     // From here on the mark of the last change, in whatever window, may have gone.
@@ -81,9 +86,9 @@ private:
     void Rested();
     bool IsOthers() const;
     void LookForOccurrences(bool hasChanged);
+    bool IsColoured(std::intptr_t position) const; // bytes
     void LightStatement();
     Range LitStatement() const;
-    QColor Colour(COLORREF colour) const;
 
     QsciScintillaBase& m_window;
     const Raw& m_raw;
@@ -98,6 +103,8 @@ private:
     StatementAtCaret m_statementAtCaret;
     bool m_textHasChanged = false; // since the last rest
     bool m_isFoldMarginHot = false;
+    bool m_showsLineEnds = false;
+    bool m_awaitsColour = false; // to know whether the word at the caret is a name
     bool m_anyCase = false;
 
     static inline unsigned s_series = 1; // of changes that nothing came between

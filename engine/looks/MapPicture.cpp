@@ -2,6 +2,7 @@
 #include "engine/looks/MapPicture.h"
 
 #include "engine/text/Characters.h"
+#include "platform/base/Colours.h"
 
 #include <algorithm>
 #include <cstring>
@@ -17,8 +18,7 @@ constexpr int kSpareRows = 64; // so that a window that grows makes few images
 
 QRgb ToRgb(std::intptr_t colour)
 {
-    return qRgb(static_cast<int>(colour & 0xFF), static_cast<int>(colour >> 8 & 0xFF),
-                static_cast<int>(colour >> 16 & 0xFF));
+    return ToQColor(static_cast<COLORREF>(colour)).rgb();
 }
 
 QRgb Between(QRgb ground, QRgb ink, double share)

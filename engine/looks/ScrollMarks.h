@@ -37,7 +37,6 @@ protected:
 
 private:
     void Gather();
-    int RowOf(long line) const;
 
     QScrollBar& m_bar;
     const Raw& m_raw;

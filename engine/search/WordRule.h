@@ -11,6 +11,7 @@ struct Range
 {
     long start = 0;
     long end = 0;
+    bool operator==(const Range&) const = default;
 };
 
 struct WordRule

@@ -54,7 +54,10 @@ void Carets::DissolveColumn()
     if (!Columns(m_raw).AreSelected())
         return;
     std::vector<std::pair<std::intptr_t, std::intptr_t>> ranges; // caret and anchor
+    constexpr std::uintptr_t kMost = 10 * 1000; // each is compared with all before it
     const auto count = static_cast<std::uintptr_t>(m_raw.Send(Sci::SCI_GETSELECTIONS));
+    if (count > kMost)
+        return;
     for (std::uintptr_t i = 0; i < count; ++i)
         ranges.emplace_back(m_raw.Send(Sci::SCI_GETSELECTIONNCARET, i),
                             m_raw.Send(Sci::SCI_GETSELECTIONNANCHOR, i));
@@ -84,6 +87,20 @@ bool Carets::Remove(long position)
 void Carets::Place(QPoint point)
 {
     m_raw.Send(Sci::SCI_SETEMPTYSELECTION, static_cast<std::uintptr_t>(PositionAt(point)));
+}
+
+void Carets::PlaceForMenu(QPoint point)
+{
+    if (!IsInText(point))
+        return;
+    const std::intptr_t position = PositionAt(point);
+    const auto count = static_cast<std::uintptr_t>(m_raw.Send(Sci::SCI_GETSELECTIONS));
+    for (std::uintptr_t i = 0; i < count; ++i) {
+        if (position >= m_raw.Send(Sci::SCI_GETSELECTIONNSTART, i) &&
+            position <= m_raw.Send(Sci::SCI_GETSELECTIONNEND, i))
+            return;
+    }
+    Place(point);
 }
 
 void Carets::Extend(QPoint point)

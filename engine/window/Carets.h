@@ -24,15 +24,20 @@ public:
     // One caret, at the point.
     void Place(QPoint point);
 
+    // The same, where a menu is opened: what is selected there stays, as all does for a margin.
+    void PlaceForMenu(QPoint point);
+
     // The selection of the main caret goes to the point.
     void Extend(QPoint point);
 
     // Of several the main one stays.
     void Drop();
 
+    // Those of a column become carets like any others, unless they are too many to be followed.
+    void DissolveColumn();
+
 private:
     long PositionAt(QPoint point) const;
-    void DissolveColumn();
     bool Remove(long position);
 
     const Raw& m_raw;

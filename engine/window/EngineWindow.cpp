@@ -88,13 +88,39 @@ bool IsEraseKey(const QKeyEvent& event)
            (event.modifiers() & ~Qt::KeypadModifier) == Qt::NoModifier;
 }
 
+bool IsLineKey(const QKeyEvent& event)
+{
+    return event.key() == Qt::Key_Return || event.key() == Qt::Key_Enter;
+}
+
+bool MovesCaret(const QKeyEvent& event)
+{
+    return event.key() >= Qt::Key_Home && event.key() <= Qt::Key_PageDown;
+}
+
+bool MovesByLines(const QKeyEvent& event)
+{
+    const int key = event.key();
+    return key == Qt::Key_Up || key == Qt::Key_Down || key == Qt::Key_PageUp ||
+           key == Qt::Key_PageDown;
+}
+
+bool MovesAlongLine(const QKeyEvent& event)
+{
+    const Qt::KeyboardModifiers held = event.modifiers();
+    const bool isArrow = event.key() == Qt::Key_Left || event.key() == Qt::Key_Right;
+    const bool isEnd = event.key() == Qt::Key_Home || event.key() == Qt::Key_End;
+    return !(held & (Qt::AltModifier | Qt::MetaModifier)) &&
+           (isArrow || (isEnd && !held.testFlag(Qt::ControlModifier)));
+}
+
 // A key that changes no text: the caret's, or a modifier alone.
 bool OnlyMoves(const QKeyEvent& event)
 {
     const bool isCommand =
         event.modifiers() & (Qt::ControlModifier | Qt::AltModifier | Qt::MetaModifier);
-    const bool moves = event.key() >= Qt::Key_Home && event.key() <= Qt::Key_PageDown;
-    return (moves && !isCommand) || (event.key() >= Qt::Key_Shift && event.key() <= Qt::Key_Alt);
+    return (MovesCaret(event) && !isCommand) ||
+           (event.key() >= Qt::Key_Shift && event.key() <= Qt::Key_Alt);
 }
 
 CaretSteps::Key KeyOf(const QKeyEvent& event)
@@ -332,6 +358,15 @@ void EngineWindow::keyPressEvent(QKeyEvent* event)
         m_engine.EndEraseRun();
     if (!OnlyMoves(*event))
         documents::CaretStepsOf(m_engine.Document()).KeyBegins(m_engine, KeyOf(*event));
+    if (IsLineKey(*event) || (m_hasMoved && KeyOf(*event) != CaretSteps::Key::Other)) {
+        m_engine.EndTypedStep();
+        m_hasMoved = false;
+    }
+    m_hasMoved |= MovesCaret(*event);
+    if (MovesByLines(*event))
+        m_engine.AimAtCaret();
+    if (MovesAlongLine(*event) && m_engine.looks.IsOn())
+        m_carets.DissolveColumn();
     PressKey(event);
     if (!alive)
         return;

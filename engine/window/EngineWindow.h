@@ -75,7 +75,8 @@ private:
     FineScroll m_fineScroll{*this, m_place};
     bool m_addsCaret = false; // the button that is down
     bool m_isDropping = false;
-    int m_turn = 0; // of the wheel, beyond its last whole step
+    bool m_hasMoved = false; // the caret, since something was typed
+    int m_turn = 0;          // of the wheel, beyond its last whole step
 };
 
 // Makes the window class known. Once for the process.

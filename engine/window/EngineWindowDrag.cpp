@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 // EngineWindow: text that comes from and goes to the clipboard and other windows.
 #include "engine/core/RectanglePaste.h"
+#include "engine/core/SelectionPieces.h"
 #include "engine/text/Characters.h"
 #include "engine/window/EngineWindow.h"
 
@@ -35,8 +36,17 @@ QByteArray WithLineEnds(const QByteArray& text, int mode)
 
 QMimeData* EngineWindow::toMimeData(const QByteArray& text, bool rectangular) const
 {
-    return QsciScintillaBase::toMimeData(
-        m_engine.copyEol > 0 ? WithLineEnds(text, m_engine.copyEol) : text, rectangular);
+    const auto ended = [this](const QByteArray& all) {
+        return m_engine.copyEol > 0 ? WithLineEnds(all, m_engine.copyEol) : all;
+    };
+    const auto pieces = m_engine.looks.IsOn() && !rectangular
+                            ? SelectionPieces::Of(m_engine.raw, text)
+                            : std::nullopt;
+    if (!pieces)
+        return QsciScintillaBase::toMimeData(ended(text), rectangular);
+    QMimeData* const told = QsciScintillaBase::toMimeData(ended(pieces->Text()), false);
+    pieces->TellIn(*told);
+    return told;
 }
 
 // What is put in here leaves nothing for the stock engine. A macro has the command alone, not what
@@ -45,6 +55,12 @@ QByteArray EngineWindow::fromMimeData(const QMimeData* source, bool& rectangular
 {
     QByteArray text = QsciScintillaBase::fromMimeData(source, rectangular);
     const Raw& raw = m_engine.raw;
+    if (m_engine.looks.IsOn() && !m_isDropping && !raw.Send(Sci::SCI_GETREADONLY) &&
+        !m_engine.text.MayHaveNoncharacters()) {
+        const auto pieces = SelectionPieces::From(*source, text);
+        if (pieces && pieces->Paste(raw))
+            return {};
+    }
     if (!rectangular || raw.Send(Sci::SCI_GETREADONLY) ||
         !NeedsOwnRectanglePaste(raw, m_engine.text.MayHaveNoncharacters()))
         return text;

@@ -20,8 +20,11 @@ void EngineWindow::mousePressEvent(QMouseEvent* event)
     m_engine.EndRuns();
     m_engine.longLines.Prepare();
     EndComposition();
+    m_hasMoved = true;
     if (m_engine.looks.MousePressed(*event))
         return;
+    if (event->button() == Qt::RightButton && m_engine.looks.IsOn())
+        m_carets.PlaceForMenu(event->pos());
     const Qt::KeyboardModifiers held = event->modifiers();
     const bool isLeft = event->button() == Qt::LeftButton;
     m_addsCaret = isLeft && held == Qt::ControlModifier && m_carets.Add(event->pos());

@@ -37,7 +37,11 @@ struct Looks
 /// Messages of these, outside the table.
 inline constexpr UINT kSetLooks = 4020;    ///< lParam: const Looks*, copied; null: nothing more
 inline constexpr UINT kShowMatches = 4021; ///< wParam: search flags, lParam: UTF-16, null: none
-inline constexpr UINT kNextFolded = 4023;  ///< wParam: line; the next folded from it on, -1: none
+inline constexpr UINT kShowMatchesWithin = 4030; ///< wParam, lParam: from and to, UTF-16 units that
+                                                 ///< follow the text; from < 0: everywhere
+inline constexpr UINT kMatchesFrom = 4031;       ///< where that starts by now, -1: everywhere
+inline constexpr UINT kMatchesTo = 4032;         ///< where it ends by now, -1: everywhere
+inline constexpr UINT kNextFolded = 4023; ///< wParam: line; the next folded from it on, -1: none
 inline constexpr UINT kShowDocumentMap = 4027;    ///< wParam: whether there is one beside the text
 inline constexpr UINT kIsDocumentMapShown = 4028; ///< 1 if there is one
 

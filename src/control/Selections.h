@@ -37,4 +37,7 @@ inline constexpr UINT kSetSelections = 4025;
 /// a line is too long for columns.
 inline constexpr UINT kSetColumns = 4026;
 
+/// Tells the columns. lParam: ColumnCorners*. Answers 1, and 0 if there are none.
+inline constexpr UINT kGetColumns = 4029;
+
 } // namespace engine

@@ -4,9 +4,13 @@
 #include "control/Selections.h"
 #include "tests/engine/EngineFixture.h"
 
+#include <QAbstractScrollArea>
 #include <QApplication>
+#include <QClipboard>
 #include <QKeyEvent>
+#include <QMimeData>
 #include <QString>
+#include <QTest>
 
 #include <gtest/gtest.h>
 
@@ -121,6 +125,212 @@ TEST_F(CaretSteps, EndWithAMoveOfTheCarets)
     EXPECT_EQ(Selected(), kThree);
 }
 
+TEST_F(CaretSteps, TakeLinesThatWereTypedOneByOne)
+{
+    Start(u"");
+    Type("one");
+    Press(Qt::Key_Return, "\r");
+    Type("two");
+    Press(Qt::Key_Enter, "\r", Qt::KeypadModifier);
+    Type("ten");
+    EXPECT_EQ(Text(), "one\ntwo\nten");
+    for (const char* left : {"one\ntwo", "one", ""}) {
+        m_engine.Send(msg::Undo);
+        EXPECT_EQ(Text(), left);
+    }
+    EXPECT_FALSE(m_engine.Send(msg::CanUndo));
+    EXPECT_FALSE(m_engine.Send(msg::GetModify));
+    for (const char* back : {"one", "one\ntwo", "one\ntwo\nten"}) {
+        m_engine.Send(msg::Redo);
+        EXPECT_EQ(Text(), back);
+    }
+}
+
+TEST_F(CaretSteps, BeginAnewWhereTheCaretHasComeBackFromElsewhere)
+{
+    Start(u"");
+    Type("ab");
+    Press(Qt::Key_Home);
+    Press(Qt::Key_End);
+    Press(Qt::Key_Shift, {}, Qt::ShiftModifier);
+    Type("c");
+    Press(Qt::Key_Shift, {}, Qt::ShiftModifier);
+    Type("d");
+    m_engine.Send(msg::Undo);
+    EXPECT_EQ(Text(), "ab");
+    m_engine.Send(msg::Undo);
+    EXPECT_EQ(Text(), "");
+}
+
+TEST_F(CaretSteps, OfAColumnGoOnAsSeveralCaretsAlongTheirLines)
+{
+    Start(u"one,\nseventy\ntwo");
+    for (int line = 0; line < 2; ++line)
+        Press(Qt::Key_Down, {}, Qt::AltModifier | Qt::ShiftModifier);
+    Press(Qt::Key_End);
+    Type(";");
+    EXPECT_EQ(Text(), "one,;\nseventy;\ntwo;");
+    Press(Qt::Key_Home);
+    Type("-");
+    EXPECT_EQ(Text(), "-one,;\n-seventy;\n-two;");
+    m_engine.Send(msg::Undo);
+    m_engine.Send(msg::Undo);
+    EXPECT_EQ(Text(), "one,\nseventy\ntwo");
+}
+
+TEST_F(CaretSteps, LoseNothingToALineThatCannotBeTyped)
+{
+    Start(u"");
+    Type("a");
+    m_engine.Send(msg::Undo);
+    m_engine.Send(msg::SetReadOnly, 1);
+    Press(Qt::Key_Return, "\r");
+    m_engine.Send(msg::SetReadOnly, 0);
+    m_engine.Send(msg::Redo);
+    EXPECT_EQ(Text(), "a");
+}
+
+TEST_F(CaretSteps, TakeLinesThatWereTypedAtSeveralCaretsOneByOne)
+{
+    Start(u"one\ntwo\nten\n");
+    Select(kThree);
+    Type("a");
+    Press(Qt::Key_Return, "\r");
+    Type("b");
+    EXPECT_EQ(Text(), "a\nbone\na\nbtwo\na\nbten\n");
+    m_engine.Send(msg::Undo);
+    EXPECT_EQ(Text(), "a\none\na\ntwo\na\nten\n");
+    m_engine.Send(msg::Undo);
+    EXPECT_EQ(Text(), "aone\natwo\naten\n");
+    EXPECT_EQ(Selected(), (Ends{{1, 1}, {6, 6}, {11, 11}}));
+    m_engine.Send(msg::Undo);
+    EXPECT_EQ(Text(), "one\ntwo\nten\n");
+    EXPECT_EQ(Selected(), kThree);
+    EXPECT_FALSE(m_engine.Send(msg::CanUndo));
+    EXPECT_FALSE(m_engine.Send(msg::GetModify));
+    for (const char* back :
+         {"aone\natwo\naten\n", "a\none\na\ntwo\na\nten\n", "a\nbone\na\nbtwo\na\nbten\n"}) {
+        m_engine.Send(msg::Redo);
+        EXPECT_EQ(Text(), back);
+    }
+}
+
+TEST_F(CaretSteps, TakeLinesThatWereTypedOverOthersOneByOne)
+{
+    Start(u"abcdef");
+    m_engine.Send(msg::GotoPos, 0);
+    m_engine.Send(msg::SetOvertype, 1);
+    Type("xy");
+    Press(Qt::Key_Enter, "\r", Qt::KeypadModifier);
+    Type("z");
+    EXPECT_EQ(Text(), "xy\nzdef");
+    for (const char* left : {"xy\ncdef", "xycdef", "xbcdef", "abcdef"}) { // one by one, as ever
+        m_engine.Send(msg::Undo);
+        EXPECT_EQ(Text(), left);
+    }
+    EXPECT_FALSE(m_engine.Send(msg::CanUndo));
+}
+
+TEST_F(CaretSteps, AreNoneWhereNothingIsCollected)
+{
+    Start(u"");
+    m_engine.Send(msg::SetUndoCollection, 0);
+    Type("a");
+    Press(Qt::Key_Return, "\r");
+    Type("b");
+    Press(Qt::Key_Home);
+    Type("c");
+    EXPECT_EQ(Text(), "a\ncb");
+    EXPECT_FALSE(m_engine.Send(msg::CanUndo));
+    m_engine.Send(msg::SetUndoCollection, 1);
+    EXPECT_FALSE(m_engine.Send(msg::CanUndo));
+    m_engine.Send(msg::Undo);
+    EXPECT_EQ(Text(), "a\ncb");
+}
+
+TEST_F(CaretSteps, AreNotEndedByALineThatCannotBeTyped)
+{
+    Start(u"");
+    Type("a");
+    m_engine.Send(msg::SetReadOnly, 1);
+    Press(Qt::Key_Return, "\r");
+    m_engine.Send(msg::SetReadOnly, 0);
+    Type("b");
+    m_engine.Send(msg::Undo);
+    EXPECT_EQ(Text(), "");
+}
+
+TEST_F(CaretSteps, AreAPartOfTheActionThatIsOpen)
+{
+    Start(u"");
+    m_engine.Send(msg::BeginUndoAction);
+    Type("a");
+    Press(Qt::Key_Return, "\r");
+    Type("b");
+    m_engine.Send(msg::EndUndoAction);
+    EXPECT_EQ(Text(), "a\nb");
+    m_engine.Send(msg::Undo);
+    EXPECT_EQ(Text(), "");
+}
+
+TEST_F(CaretSteps, BeginAnewBehindEveryKeyThatMoves)
+{
+    for (const int key : {Qt::Key_Home, Qt::Key_End, Qt::Key_Left, Qt::Key_Up, Qt::Key_Right,
+                          Qt::Key_Down, Qt::Key_PageUp, Qt::Key_PageDown}) {
+        Start(u"");
+        Type("ab");
+        Press(key);
+        m_engine.Send(msg::GotoPos, 2);
+        Type("c");
+        EXPECT_EQ(Text(), "abc");
+        m_engine.Send(msg::Undo);
+        EXPECT_EQ(Text(), "ab") << key;
+    }
+}
+
+TEST_F(CaretSteps, BeginAnewBehindAClick)
+{
+    Start(u"");
+    Type("ab");
+    QTest::mouseClick(static_cast<QAbstractScrollArea*>(m_engine.Window())->viewport(),
+                      Qt::LeftButton, {}, QPoint(300, 5));
+    EXPECT_EQ(Selected(), (Ends{{2, 2}}));
+    Type("c");
+    m_engine.Send(msg::Undo);
+    EXPECT_EQ(Text(), "ab");
+}
+
+TEST_F(CaretSteps, OfAColumnStayAColumnWhileItIsMadeWider)
+{
+    Start(u"abc\nabc\nabc");
+    Press(Qt::Key_Down, {}, Qt::AltModifier | Qt::ShiftModifier);
+    Press(Qt::Key_Right, {}, Qt::AltModifier | Qt::ShiftModifier);
+    engine::ColumnCorners corners;
+    ASSERT_TRUE(m_engine.Send(engine::kGetColumns, 0, &corners));
+    EXPECT_EQ(corners.ends, (SelectionEnds{0, 5}));
+    EXPECT_EQ(Selected(), (Ends{{0, 1}, {4, 5}}));
+}
+
+TEST_F(CaretSteps, OfAColumnGoToItsLastLineAloneWithoutLooks)
+{
+    m_engine.Send(engine::kSetLooks, 0, nullptr);
+    Start(u"abc\nabc\nabc");
+    Press(Qt::Key_Down, {}, Qt::AltModifier | Qt::ShiftModifier);
+    Press(Qt::Key_End);
+    EXPECT_EQ(Selected().size(), 1U);
+}
+
+TEST_F(CaretSteps, TakeAllThatIsTypedWithoutLooks)
+{
+    m_engine.Send(engine::kSetLooks, 0, nullptr);
+    Start(u"");
+    Type("one");
+    Press(Qt::Key_Return, "\r");
+    Type("two");
+    m_engine.Send(msg::Undo);
+    EXPECT_EQ(Text(), "");
+}
+
 TEST_F(CaretSteps, EndWhereTheTextIsSaved)
 {
     Start(u"one\ntwo\nten\n");
@@ -214,6 +424,151 @@ TEST_F(CaretSteps, GiveBackThePlaceAndTheViewBeforeAChangeOfManyPlaces)
     EXPECT_EQ(m_engine.Text(), text);
     EXPECT_EQ(Selected(), (Ends{{401, 403}}));
     EXPECT_EQ(m_engine.Send(msg::GetFirstVisibleLine), 90);
+}
+
+TEST_F(CaretSteps, KeepTheViewIfWhatTheyGiveBackIsInSight)
+{
+    std::u16string text;
+    for (int line = 0; line < 200; ++line)
+        text += u"one\n";
+    m_engine.Window()->grab(); // a window that was never shown is laid out first
+    Start(text);
+    Select({{40, 43}});
+    m_engine.Send(msg::BeginUndoAction);
+    m_engine.Send(msg::ReplaceSel, 0, u"three");
+    m_engine.Send(msg::EndUndoAction);
+    m_engine.Send(msg::LineScroll, 0, 5 - m_engine.Send(msg::GetFirstVisibleLine));
+    ASSERT_GT(m_engine.Send(msg::LinesOnScreen), 6) << "the caret is in sight";
+    m_engine.Send(msg::Undo);
+    EXPECT_EQ(Selected(), (Ends{{40, 43}}));
+    EXPECT_EQ(m_engine.Send(msg::GetFirstVisibleLine), 5);
+}
+
+TEST_F(CaretSteps, BringBackWhatWasTypedOverInOneStep)
+{
+    Start(u"end loop;\n");
+    Select({{0, 4}});
+    Type("abcd");
+    EXPECT_EQ(Text(), "abcdloop;\n");
+    m_engine.Send(msg::Undo);
+    EXPECT_EQ(Text(), "end loop;\n");
+    EXPECT_EQ(Selected(), (Ends{{0, 4}}));
+    m_engine.Send(msg::Redo);
+    EXPECT_EQ(Text(), "abcdloop;\n");
+    EXPECT_EQ(Selected(), (Ends{{4, 4}}));
+    EXPECT_EQ(m_engine.Send(msg::CanRedo), 0);
+}
+
+TEST_F(CaretSteps, BringBackTheLinesThatWereIndentedOrErased)
+{
+    const std::u16string text = u"one\ntwo\nten\nsix\n";
+    struct KeyRow
+    {
+        int key;
+        Qt::KeyboardModifiers held;
+    };
+    for (const KeyRow row : {KeyRow{Qt::Key_Tab, Qt::NoModifier},
+                             {Qt::Key_Delete, Qt::NoModifier},
+                             {Qt::Key_Backspace, Qt::NoModifier},
+                             {Qt::Key_Return, Qt::NoModifier}}) {
+        Start(text);
+        Select({{0, 8}});
+        Press(row.key, {}, row.held);
+        ASSERT_NE(m_engine.Text(), text) << row.key;
+        m_engine.Send(msg::Undo);
+        EXPECT_EQ(m_engine.Text(), text) << row.key;
+        EXPECT_EQ(Selected(), (Ends{{0, 8}})) << row.key;
+        EXPECT_EQ(m_engine.Send(msg::CanUndo), 0) << row.key;
+    }
+}
+
+TEST_F(CaretSteps, EndBehindATextThatWasTypedOverWhenTheCaretMoves)
+{
+    Start(u"end loop;\n");
+    Select({{0, 4}});
+    Type("ab");
+    Press(Qt::Key_Right);
+    Type("cd");
+    EXPECT_EQ(Text(), "ablcdoop;\n");
+    m_engine.Send(msg::Undo);
+    EXPECT_EQ(Text(), "abloop;\n");
+    m_engine.Send(msg::Undo);
+    EXPECT_EQ(Text(), "end loop;\n");
+}
+
+TEST_F(CaretSteps, LeaveTheColumnOfTheCaretToUpAndDown)
+{
+    Start(u"one\ntwo\nlonger line\nlonger line\n");
+    Select({{8, 19}});
+    Press(Qt::Key_Delete);
+    Press(Qt::Key_Up);
+    m_engine.Send(msg::Undo); // with the caret behind the third line
+    ASSERT_EQ(Selected(), (Ends{{8, 19}}));
+    Press(Qt::Key_Down);
+    EXPECT_EQ(Selected(), (Ends{{31, 31}}));
+}
+
+TEST_F(CaretSteps, ShowLinesFromTheirStartOnceALongOneIsGone)
+{
+    m_engine.Window()->grab(); // a window that was never shown is laid out first
+    Start(u"one\ntwo\n");
+    Select({{8, 8}});
+    m_engine.Send(msg::ReplaceSel, 0, std::u16string(500, u'x').c_str());
+    m_engine.Send(msg::ScrollCaret);
+    ASSERT_GT(m_engine.Send(msg::GetXOffset), 0);
+    m_engine.Send(msg::Undo);
+    EXPECT_EQ(m_engine.Send(msg::GetXOffset), 0);
+    EXPECT_EQ(Selected(), (Ends{{8, 8}}));
+}
+
+TEST_F(CaretSteps, GiveBackWhatWasPastedAtEachCaret)
+{
+    Start(u"one two\nten six\nelf\n");
+    Select({{0, 3}, {8, 11}, {16, 19}});
+    m_engine.Send(msg::Copy);
+    EXPECT_EQ(QApplication::clipboard()->text(), QStringLiteral("one\nten\nelf"));
+    Select({{7, 7}, {12, 15}, {19, 19}});
+    m_engine.Send(msg::Paste);
+    EXPECT_EQ(Text(), "one twoone\nten ten\nelfelf\n");
+    EXPECT_EQ(Selected(), (Ends{{10, 10}, {18, 18}, {25, 25}}));
+    m_engine.Send(msg::Undo);
+    EXPECT_EQ(Text(), "one two\nten six\nelf\n");
+    Ends again = Selected();
+    std::ranges::sort(again, {}, &SelectionEnds::caret);
+    EXPECT_EQ(again, (Ends{{7, 7}, {12, 15}, {19, 19}}));
+    EXPECT_FALSE(m_engine.Send(msg::CanUndo));
+    Select({{20, 20}}); // one place has all, a line for each
+    m_engine.Send(msg::Paste);
+    EXPECT_EQ(Text(), "one two\nten six\nelf\none\nten\nelf");
+}
+
+TEST_F(CaretSteps, TakeWhatIsCutWithItsPieces)
+{
+    Start(u"a \u00e9\U0001F600;\nb two\nlines;\n");
+    Select({{2, 5}, {8, 18}});
+    m_engine.Send(msg::Cut);
+    EXPECT_EQ(Text(), "a ;\nb;\n");
+    m_engine.Send(msg::SetEOLMode, 1); // CR LF, of what is put in
+    Select({{0, 0}, {4, 4}});
+    m_engine.Send(msg::Paste);
+    EXPECT_EQ(Text(), "\u00e9\U0001F600a ;\n two\r\nlinesb;\n");
+}
+
+// Anything may stand on the clipboard.
+TEST_F(CaretSteps, PasteAsTextWhatSaysWrongThingsOfItsPieces)
+{
+    for (const char* told : {"3 3", "3", "3 -4 9", "3 4", "99999999999999999999 1", "a b", " ",
+                             "3 3 3", "9223372036854775807 3"}) {
+        auto* data = new QMimeData;
+        data->setText(QStringLiteral("one\ntwo!"));
+        data->setData(QStringLiteral("application/x-zncoreeditor-pieces"), told);
+        QApplication::clipboard()->setMimeData(data);
+        Start(u".\n.\n");
+        Select({{0, 0}, {2, 2}});
+        m_engine.Send(msg::Paste);
+        EXPECT_EQ(Text(), QByteArray(told) == "3 4" ? "one.\ntwo!.\n" : "one\ntwo!.\none\ntwo!.\n")
+            << told;
+    }
 }
 
 TEST_F(CaretSteps, AreTheStockEnginesWithoutLooks)

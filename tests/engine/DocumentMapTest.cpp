@@ -136,6 +136,24 @@ TEST_F(DocumentMapTest, DrawsStylesInTheirColoursOnceTheyAreThere)
     EXPECT_EQ(InkOf(Picture(), 0, 8), "rrrr ## ");
 }
 
+// The window itself colours no further than it shows.
+TEST_F(DocumentMapTest, ColoursWhatItShowsBelowTheWindow)
+{
+    m_engine.Send(msg::SetLexer, 3); // Transact-SQL
+    m_engine.SetText(Lines(150, u"-- a\n"));
+    m_engine.Send(msg::StyleSetFore, 2, 0x00A000); // comments
+    EXPECT_EQ(InkOf(Picture(), 140, 4), "gg g");
+    EXPECT_EQ(m_engine.Send(msg::GetEndStyled), 150 * 5);
+}
+
+TEST_F(DocumentMapTest, ColoursNothingFarBelow)
+{
+    m_engine.Send(msg::SetLexer, 3);
+    m_engine.SetText(Lines(50, u"-- a\n") + std::u16string(3 << 20, u'a') + u"\n-- a\n");
+    Settle();
+    EXPECT_LT(m_engine.Send(msg::GetEndStyled), 2 << 20);
+}
+
 TEST_F(DocumentMapTest, GivesWideCharactersTwoColumns)
 {
     m_engine.SetText(u"\u00E9a \u6F22\u5B57 x\n");

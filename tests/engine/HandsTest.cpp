@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 // What a person does with keyboard, mouse, menu and clipboard, and what the parent hears of it.
+#include "control/EngineLooks.h"
 #include "tests/engine/EngineFixture.h"
 
 #include <QAbstractScrollArea>
@@ -346,6 +347,50 @@ TEST_F(Hands, WordKeysTakeLettersOfEveryScript)
     EXPECT_EQ(places, (std::vector<long>{4, 8, 11}));
     Press(Qt::Key_Left, Qt::ControlModifier | Qt::ShiftModifier);
     EXPECT_EQ(m_engine.Send(msg::GetSelectionStart), 8);
+}
+
+TEST_F(Hands, DownKeepsTheColumnThatAJumpWentTo)
+{
+    const engine::Looks looks;
+    m_engine.Send(engine::kSetLooks, 0, &looks);
+    for (const auto& [message, value] :
+         {std::pair{msg::GotoLine, 1L}, std::pair{msg::GotoPos, 14L}}) {
+        Start(u"a longer line\nx\nanother line\nlast\n");
+        m_engine.Send(msg::GotoPos, 5);
+        Press(Qt::Key_End); // which aims at its column
+        m_engine.Send(message, static_cast<WPARAM>(value));
+        Press(Qt::Key_Down);
+        EXPECT_EQ(Caret(), 16) << "the start of the third line";
+    }
+    m_engine.Send(msg::SetSel, 20, 20);
+    Press(Qt::Key_Up);
+    EXPECT_EQ(Caret(), 15) << "behind the letter of a line that is shorter";
+    Press(Qt::Key_Up);
+    EXPECT_EQ(Caret(), 4);
+}
+
+TEST_F(Hands, TheRightButtonTakesTheCaretAlongUnlessItIsOnWhatIsSelected)
+{
+    const engine::Looks looks;
+    m_engine.Send(engine::kSetLooks, 0, &looks);
+    Start(u"first line\nsecond line\nthird line\n", 12, 18);
+    auto& area = *qobject_cast<QAbstractScrollArea*>(m_engine.Window());
+    area.grab();
+    const auto press = [&](long position) {
+        const QPoint at(static_cast<int>(m_engine.Send(msg::PointXFromPosition, 0,
+                                                       static_cast<LPARAM>(position))) +
+                            1,
+                        static_cast<int>(m_engine.Send(msg::PointYFromPosition, 0,
+                                                       static_cast<LPARAM>(position))) +
+                            3);
+        QTest::mouseClick(area.viewport(), Qt::RightButton, Qt::NoModifier, at);
+    };
+    press(14);
+    EXPECT_EQ(m_engine.Send(msg::GetSelectionStart), 12);
+    EXPECT_EQ(m_engine.Send(msg::GetSelectionEnd), 18);
+    press(25);
+    EXPECT_EQ(m_engine.Send(msg::GetSelectionStart), 25);
+    EXPECT_EQ(m_engine.Send(msg::GetSelectionEnd), 25);
 }
 
 TEST_F(Hands, PageKeysMoveByWhatIsOnTheScreen)

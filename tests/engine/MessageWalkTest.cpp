@@ -202,14 +202,24 @@ TEST(MessageWalk, NumbersOutsideTheTableAnswerNothing)
 {
     EngineUnderTest engine;
     engine.SetText(kMixed);
-    std::map<UINT, bool> known{
-        {msg::GetDirectFunction, true},   {msg::GetDirectPointer, true},
-        {engine::kRestyle, true},         {engine::kExtendedTexts, true},
-        {engine::kExtendedText, true},    {engine::kSetLooks, true},
-        {engine::kShowMatches, true},     {engine::kExpressionProblem, true},
-        {engine::kNextFolded, true},      {engine::kGetSelections, true},
-        {engine::kSetSelections, true},   {engine::kSetColumns, true},
-        {engine::kShowDocumentMap, true}, {engine::kIsDocumentMapShown, true}};
+    std::map<UINT, bool> known{{msg::GetDirectFunction, true},
+                               {msg::GetDirectPointer, true},
+                               {engine::kRestyle, true},
+                               {engine::kExtendedTexts, true},
+                               {engine::kExtendedText, true},
+                               {engine::kSetLooks, true},
+                               {engine::kShowMatches, true},
+                               {engine::kExpressionProblem, true},
+                               {engine::kNextFolded, true},
+                               {engine::kGetSelections, true},
+                               {engine::kSetSelections, true},
+                               {engine::kSetColumns, true},
+                               {engine::kGetColumns, true},
+                               {engine::kShowDocumentMap, true},
+                               {engine::kIsDocumentMapShown, true},
+                               {engine::kShowMatchesWithin, true},
+                               {engine::kMatchesFrom, true},
+                               {engine::kMatchesTo, true}};
     for (const MessageRow& row : engine::kMessageRows)
         known[row.number] = true;
     for (UINT number = 0; number <= 5000; ++number) {

@@ -3,6 +3,8 @@
 #include "tests/engine/EngineFixture.h"
 
 #include "control/EngineLooks.h"
+#include "control/EngineModes.h"
+#include "tests/engine/ErrorFixture.h"
 
 #include <QBuffer>
 #include <QImage>
@@ -245,6 +247,32 @@ TEST_F(Printing, WhatIsLitOnTheScreenIsNotOnPaper)
     EXPECT_TRUE(HasColour(screen));
     EXPECT_EQ(Drawn(), plain);
     EXPECT_EQ(m_engine.Window()->grab().toImage(), screen);
+}
+
+TEST_F(Printing, ProblemsAreNotMarkedOnPaper)
+{
+    using Sci = QsciScintillaBase;
+    constexpr int kOfTheHost = 6;
+    m_engine.SetText(u"some text of a script");
+    for (const int each : {kErrorIndicator, kOfTheHost}) {
+        m_engine.Send(msg::IndicSetStyle, static_cast<WPARAM>(each),
+                      engine::indicator::StraightBox);
+        m_engine.Send(msg::IndicSetFore, static_cast<WPARAM>(each), 0x0000FF);
+    }
+    const QImage plain = Drawn();
+    const Errors errors(m_engine);
+    errors.SetNumbers();
+    m_engine.Send(msg::WarningsSetIndic, kErrorIndicator); // both classes may have one
+    errors.Add(5, 9);
+    m_engine.Send(msg::ErrorsShow);
+    const QImage screen = m_engine.Window()->grab().toImage();
+    EXPECT_TRUE(HasColour(screen));
+    EXPECT_EQ(Drawn(), plain);
+    EXPECT_EQ(m_engine.Window()->grab().toImage(), screen);
+    auto& stock = *qobject_cast<Sci*>(m_engine.Window());
+    stock.SendScintilla(Sci::SCI_SETINDICATORCURRENT, kOfTheHost);
+    stock.SendScintilla(Sci::SCI_INDICATORFILLRANGE, 0UL, 4L);
+    EXPECT_TRUE(HasColour(Drawn())) << "what a host marks is its own";
 }
 
 TEST_F(Printing, SizesChangeWhatFitsOnAPage)

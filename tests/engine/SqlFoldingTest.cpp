@@ -16,20 +16,6 @@ namespace {
 constexpr int kAse = 2, kTransactSql = 3, kDb2 = 4, kOracle = 5, kGeneric = 9, kMySql = 14,
               kInterBase = 15, kIq = 18;
 
-// Cuts a picture's fronts off, styles what is left and gives the picture of that.
-std::string FoldsOf(int lexer, const std::string& picture, const char16_t* dialect = u"sql")
-{
-    QStringList lines;
-    for (const QString& line : QString::fromStdString(picture).split(u'\n'))
-        lines += line.mid(line.indexOf(u'|') + 1);
-    lines.removeLast();
-    const SqlUnderTest sql(lexer, lines.join(u'\n').toStdU16String());
-    sql.SetProperty(u"sql.dialect", dialect);
-    sql.FoldAlso();
-    sql.Style();
-    return sql.Folds();
-}
-
 void ExpectFolds(int lexer, const std::string& picture, const char16_t* dialect = u"sql")
 {
     EXPECT_EQ(FoldsOf(lexer, picture, dialect), picture);

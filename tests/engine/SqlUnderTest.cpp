@@ -76,6 +76,19 @@ std::vector<int> SqlUnderTest::Levels() const
     return levels;
 }
 
+std::string FoldsOf(int lexer, const std::string& picture, const char16_t* dialect)
+{
+    QStringList lines;
+    for (const QString& line : QString::fromStdString(picture).split(u'\n'))
+        lines += line.mid(line.indexOf(u'|') + 1);
+    lines.removeLast();
+    const SqlUnderTest sql(lexer, lines.join(u'\n').toStdU16String());
+    sql.SetProperty(u"sql.dialect", dialect);
+    sql.FoldAlso();
+    sql.Style();
+    return sql.Folds();
+}
+
 std::string SqlUnderTest::Folds() const
 {
     std::string picture;

@@ -31,3 +31,6 @@ public:
 private:
     int m_lexer;
 };
+
+// Cuts the fronts off a picture of folds, styles what is left and gives the picture of that.
+std::string FoldsOf(int lexer, const std::string& picture, const char16_t* dialect = u"sql");
