@@ -103,11 +103,14 @@ void CZNCoreEditorControl::CleanUpAutoSave()
 // The note goes first: a copy without one is never offered.
 void CZNCoreEditorControl::DeleteAutoSaveFile()
 {
+    m_bCopyFailed = false; // there is nothing more that it should hold
     if (m_strAutoSaveFile.isEmpty())
         return;
     if (Policy().passesUnwritten)
         autosave::EmptyCopy(m_strAutoSaveFile);
     autosave::RemoveNote(m_strAutoSaveFile);
+    if (Policy().notesOrigin)
+        autosave::RemoveOrigin(m_strAutoSaveFile);
     autosave::RemoveCopy(m_strAutoSaveFile);
     m_strAutoSaveFile.clear();
     m_bHasWrittenCopy = false;
@@ -126,12 +129,12 @@ void CZNCoreEditorControl::OnTimer(UINT id)
 {
     if (id == kTimer) {
         KillTimer(kTimer);
-        if (m_bModified && GetReadOnly(1) == 0 && GetLineCount(1) > 0 && !NameForNote().isEmpty()) {
-            if (!Policy().sparesEqual || DiffersFromFile())
-                WriteAutoSaveCopy(NameForNote());
-            else if (m_bHasWrittenCopy) // everything was undone
-                DeleteAutoSaveFile();
-        }
+        const bool isEqual = Policy().sparesEqual && !DiffersFromFile();
+        if (isEqual && (m_bHasWrittenCopy || m_bCopyFailed)) // everything was undone
+            DeleteAutoSaveFile();
+        else if (!isEqual && m_bModified && GetReadOnly(1) == 0 && GetLineCount(1) > 0 &&
+                 !NameForNote().isEmpty())
+            WriteAutoSaveCopy(NameForNote());
         SetAutoSave(m_bAutoSaveOn, m_nAutoSaveMinutes);
     }
     CWnd::OnTimer(id);
@@ -142,12 +145,19 @@ void CZNCoreEditorControl::OnTimer(UINT id)
 // the note may name a copy that is cut short.
 void CZNCoreEditorControl::WriteAutoSaveCopy(const QString& documentPath)
 {
+    m_bCopyFailed = true;
     try {
         MakeAutoSaveFile();
         if (m_strAutoSaveFile.isEmpty())
             return;
         autosave::WriteNote(m_strAutoSaveFile, documentPath);
-        m_bHasWrittenCopy = WriteToFile(Units(m_strAutoSaveFile)) || m_bHasWrittenCopy;
+        if (Policy().notesOrigin && !m_strFileName.isEmpty())
+            autosave::WriteOrigin(m_strAutoSaveFile, {m_fileStamp, m_nFileCodePage});
+        const bool isWritten = WriteToFile(Units(m_strAutoSaveFile));
+        m_bHasWrittenCopy = isWritten || m_bHasWrittenCopy;
+        // Among the temporary files nobody finds it.
+        m_bCopyFailed = !isWritten || m_strAutoSaveDir.isEmpty() ||
+                        !m_strAutoSaveFile.startsWith(m_strAutoSaveDir);
     } catch (const std::bad_alloc&) {
         // The longest line needs a buffer, for which there may be memory later.
     }
@@ -244,7 +254,8 @@ bool CZNCoreEditorControl::RecoverCopy(const QString& copyPath, Encoding encodin
 
 // The save point stays with the file on disk, and one undo brings its text back. A copy that cannot
 // be opened stays for later. With care one that was loaded goes on as this control's own, so that
-// its text is never in memory alone.
+// its text is never in memory alone; it stems from the file that its writer read, whatever the file
+// has become.
 bool CZNCoreEditorControl::LoadAutoSaveCopy(Encoding encoding)
 {
     FilePointer file = OpenForReading(Units(m_strAutoSaveFile));
@@ -255,6 +266,10 @@ bool CZNCoreEditorControl::LoadAutoSaveCopy(Encoding encoding)
     // ASCII is taken for the code page's, though a copy in UTF-8 may come to nothing else.
     const bool keepsUtf8 = Policy().keepsUtf8 && encoding == FileEncodeConverter::encUnknown &&
                            m_nEncoding == FileEncodeConverter::encUTF8 && IsAscii(file.get());
+    const std::optional<autosave::Origin> origin =
+        Policy().notesOrigin ? autosave::OriginOf(m_strAutoSaveFile) : std::nullopt;
+    if (origin)
+        SetFileCodePage(origin->codePage);
     BeginUndoAction(1);
     ClearAll(1);
     ReadInFileContents(file.release(), encoding, false);
@@ -262,6 +277,8 @@ bool CZNCoreEditorControl::LoadAutoSaveCopy(Encoding encoding)
     EndUndoAction(1);
     if (keepsUtf8)
         m_nEncoding = FileEncodeConverter::encUTF8;
+    if (origin)
+        m_fileStamp = origin->stamp;
     const bool isWhole = !m_bCutShort;
     // A complete copy of a text that was cut short does not bring back the rest of its file.
     m_bCutShort = m_bCutShort || fileWasCutShort;

@@ -9,6 +9,7 @@
 #include <QDir>
 #include <QDirIterator>
 #include <QFile>
+#include <QStringList>
 
 #include <fcntl.h>
 #include <sys/stat.h>
@@ -19,6 +20,7 @@ namespace autosave {
 namespace {
 
 const QString kSection = QStringLiteral("Backup");
+const QString kOrigins = QStringLiteral("BackupOrigins");
 
 // Also a link to nowhere, which is offered like every copy that cannot be read.
 bool IsThere(const QString& path)
@@ -86,9 +88,37 @@ void RemoveNote(const QString& copyPath)
     ApplicationProfile().WriteString(kSection, NameOf(copyPath), nullptr);
 }
 
+void RemoveOrigin(const QString& copyPath)
+{
+    if (OriginOf(copyPath))
+        ApplicationProfile().WriteString(kOrigins, NameOf(copyPath), nullptr);
+}
+
 QString NoteOf(const QString& copyPath)
 {
     return ApplicationProfile().GetString(kSection, NameOf(copyPath), QString());
+}
+
+void WriteOrigin(const QString& copyPath, const Origin& origin)
+{
+    if (OriginOf(copyPath) == origin)
+        return;
+    const FileStamp& stamp = origin.stamp;
+    QString told =
+        QStringLiteral("%1 %2 %3").arg(stamp.size).arg(stamp.seconds).arg(stamp.nanoseconds);
+    if (origin.codePage != 0)
+        told += QStringLiteral(" %1").arg(origin.codePage);
+    ApplicationProfile().WriteString(kOrigins, NameOf(copyPath), Units(told));
+}
+
+std::optional<Origin> OriginOf(const QString& copyPath)
+{
+    const QStringList numbers =
+        ApplicationProfile().GetString(kOrigins, NameOf(copyPath), QString()).split(u' ');
+    if (numbers.size() != 3 && numbers.size() != 4)
+        return std::nullopt;
+    return Origin{{numbers[0].toLongLong(), numbers[1].toLongLong(), numbers[2].toLongLong()},
+                  numbers.value(3).toInt()};
 }
 
 void EmptyCopy(const QString& copyPath)
@@ -150,6 +180,7 @@ void RemoveUnwritten()
             QFile::remove(file.filePath());
         } else {
             RemoveNote(copy);
+            RemoveOrigin(copy);
             RemoveCopy(copy);
         }
     }

@@ -2,9 +2,12 @@
 // Autosave copies on disk and their notes in the application profile. Knows no control and no text.
 #pragma once
 
+#include "control/FileStamp.h"
+
 #include <QString>
 
 #include <functional>
+#include <optional>
 
 namespace autosave {
 
@@ -19,6 +22,20 @@ QString MakeCopyFile(const QString& folder);
 void WriteNote(const QString& copyPath, const QString& documentPath);
 void RemoveNote(const QString& copyPath);
 QString NoteOf(const QString& copyPath); // empty if there is none
+
+// Beside the note: what the file was when the text was read from it or saved to it, and the code
+// page that the encoding 0 stands for in it; 0: the system's.
+struct Origin
+{
+    FileStamp stamp;
+    int codePage = 0;
+
+    bool operator==(const Origin&) const = default;
+};
+
+void WriteOrigin(const QString& copyPath, const Origin& origin);
+void RemoveOrigin(const QString& copyPath);
+std::optional<Origin> OriginOf(const QString& copyPath);
 
 // Takes the text out of a copy that is not needed any more, so that a process which dies before it
 // has removed note and copy leaves one that counts as unwritten.

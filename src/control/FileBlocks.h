@@ -14,8 +14,12 @@ class FileBlocks
 public:
     static constexpr unsigned int kBlockSize = 8192; // bytes
 
-    // The file stays the caller's and outlives this object.
-    FileBlocks(std::FILE* file, const SeamRule& rule) : m_file(file), m_rule(rule) {}
+    // The file stays the caller's and outlives this object. The code page is what encANSI stands
+    // for; 0: the system's.
+    FileBlocks(std::FILE* file, const SeamRule& rule, int codePage = 0) : m_file(file), m_rule(rule)
+    {
+        m_converter.SetCodePage(codePage);
+    }
 
     // Reads the first block, decides the encoding on it and converts it. False if it cannot be
     // converted into UTF-16 at all.

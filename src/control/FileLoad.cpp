@@ -8,6 +8,7 @@
 #include "control/FileBlocks.h"
 #include "control/LineEnds.h"
 #include "platform/file/TargetFile.h"
+#include "platform/text/CodePage.h"
 #include "platform/windows/Questions.h"
 
 #include <cerrno>
@@ -54,6 +55,15 @@ bool IsUnicode(int encoding)
 const FilePolicy& CZNCoreEditorControl::Policy() const
 {
     return m_bCarefulFiles ? kCarefulFiles : kPlainFiles;
+}
+
+// In a page that is not known a file would be read as empty, and saved so.
+bool CZNCoreEditorControl::SetFileCodePage(int codePage)
+{
+    if (platform::MaxUnitCount(codePage, 1) == 0)
+        return false;
+    m_nFileCodePage = codePage;
+    return true;
 }
 
 // Without an engine a load would leave nothing under the file's name, and a save would empty it.
@@ -117,7 +127,7 @@ void CZNCoreEditorControl::ReadInFileContents(std::FILE* file, Encoding encoding
     FilePointer closer(file);
     const int selector =
         convertEOLs ? lineends::SelectorOf(GetEOLMode(1)) : static_cast<int>(lineends::kAsItIs);
-    FileBlocks blocks(file, Policy().load);
+    FileBlocks blocks(file, Policy().load, m_nFileCodePage);
     bool ranOut = false;
     try {
         if (blocks.Start(encoding, m_bWriteEncodingSig)) {
@@ -146,6 +156,7 @@ void CZNCoreEditorControl::AdoptFile(const CZNCoreEditorControl& other)
 {
     m_strFileName = other.m_strFileName;
     m_nEncoding = other.m_nEncoding;
+    m_nFileCodePage = other.m_nFileCodePage;
     m_bWriteEncodingSig = other.m_bWriteEncodingSig;
     m_bCutShort = other.m_bCutShort;
     m_fileStamp = other.m_fileStamp;
@@ -190,7 +201,7 @@ void CZNCoreEditorControl::ReplaceTextWithFile(const char16_t* path, Encoding en
     FilePointer file = OpenForReading(path);
     if (!file)
         return;
-    FileBlocks blocks(file.get(), Policy().replace);
+    FileBlocks blocks(file.get(), Policy().replace, m_nFileCodePage);
     int selector = lineends::kAsItIs;
     bool ranOut = false;
     BeginUndoAction(1);

@@ -29,6 +29,7 @@ struct FilePolicy
     bool opensReadOnly;   // a load reaches a text that is read-only, and leaves it so
     bool sparesEqual;     // no copy is written, or offered, of a text that is the file's
     bool keepsCopies;     // a copy goes once its text is saved or given up, and not before
+    bool notesOrigin;     // beside a copy's note stands what its file was when it was read
     bool forgetsHistory;  // what was undone before a load cannot be undone behind it
 };
 
@@ -51,6 +52,7 @@ inline constexpr FilePolicy kPlainFiles = {
     .opensReadOnly = false,
     .sparesEqual = false,
     .keepsCopies = false,
+    .notesOrigin = false,
     .forgetsHistory = false,
 };
 
@@ -70,5 +72,6 @@ inline constexpr FilePolicy kCarefulFiles = {
     .opensReadOnly = true,
     .sparesEqual = true,
     .keepsCopies = true,
+    .notesOrigin = true,
     .forgetsHistory = true,
 };

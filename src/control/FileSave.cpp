@@ -43,11 +43,12 @@ bool IsFileEncoding(int encoding)
 class ConvertedText
 {
 public:
-    ConvertedText(TargetFile& target, Encoding encoding, bool demandsAll)
+    ConvertedText(TargetFile& target, Encoding encoding, int codePage, bool demandsAll)
         : m_target(target), m_guardSize(GuardSize(encoding)), m_demandsAll(demandsAll)
     {
         m_converter.SetInputType(FileEncodeConverter::encUTF16LE);
         m_converter.SetOutputType(encoding);
+        m_converter.SetCodePage(codePage);
     }
 
     void WriteMark()
@@ -166,7 +167,7 @@ bool CZNCoreEditorControl::WriteToFile(const char16_t* path, Encoding encoding, 
 // a pair, so that the bytes are those of the lines one by one.
 bool CZNCoreEditorControl::WriteText(TargetFile& target, Encoding encoding, bool writeMark)
 {
-    ConvertedText converted(target, encoding, Policy().demandsAllText);
+    ConvertedText converted(target, encoding, m_nFileCodePage, Policy().demandsAllText);
     if (writeMark)
         converted.WriteMark();
     std::vector<char16_t> buffer(kBufferUnits);

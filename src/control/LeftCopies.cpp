@@ -32,7 +32,10 @@ LeftCopies::LeftCopies(const QString& document)
         if (stands.isEmpty() || (!document.isEmpty() && stands != document) || file.size() == 0 ||
             !claim->Take(path) || !QFile::exists(path))
             continue;
-        m_copies.push_back({path, stands});
+        const std::optional<autosave::Origin> origin = autosave::OriginOf(path);
+        const auto isOfThisFile =
+            origin ? std::optional(origin->stamp == StampOf(Units(stands))) : std::nullopt;
+        m_copies.push_back({path, stands, isOfThisFile, origin ? origin->codePage : 0});
         m_claims.push_back(std::move(claim));
         if (HaveSameBytes(Units(path), Units(stands))) {
             Discard(path);
@@ -56,6 +59,7 @@ void LeftCopies::Discard(const QString& path)
 {
     autosave::EmptyCopy(path);
     autosave::RemoveNote(path);
+    autosave::RemoveOrigin(path);
     autosave::RemoveCopy(path);
     Release(path);
 }

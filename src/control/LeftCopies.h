@@ -9,6 +9,7 @@
 #include <QString>
 
 #include <memory>
+#include <optional>
 #include <vector>
 
 class CopyClaim;
@@ -22,6 +23,10 @@ public:
     {
         QString path;     ///< of the copy itself
         QString document; ///< of the file it stands for; of a text without one, its untitled name
+        /// Whether the file is the one that the text was read from, or saved to, before it was
+        /// changed; nothing if the editor that wrote the copy did not note it.
+        std::optional<bool> isOfThisFile;
+        int codePage = 0; ///< of the copy and its file, if they are no Unicode; 0: the system's
     };
 
     /// The copies of one document, or all with an empty name. One that has the bytes of its file is

@@ -62,13 +62,14 @@ struct LossFinder::Conversion
     std::vector<char16_t> units; // what is converted, since a conversion may write into it
 };
 
-LossFinder::LossFinder(int encoding)
+LossFinder::LossFinder(int encoding, int codePage)
 {
     if (encoding != FileEncodeConverter::encANSI)
         return;
     m_conversion = std::make_unique<Conversion>();
     m_conversion->converter.SetInputType(FileEncodeConverter::encUTF16LE);
     m_conversion->converter.SetOutputType(FileEncodeConverter::encANSI);
+    m_conversion->converter.SetCodePage(codePage);
 }
 
 LossFinder::~LossFinder() = default;
@@ -119,7 +120,13 @@ long LossFinder::FindIn(std::u16string_view text)
 
 std::optional<LostCharacter> FindLostCharacter(CZNCoreEditorControl& editor, int encoding)
 {
-    LossFinder finder(encoding);
+    return FindLostCharacter(editor, encoding, editor.GetFileCodePage());
+}
+
+std::optional<LostCharacter> FindLostCharacter(CZNCoreEditorControl& editor, int encoding,
+                                               int codePage)
+{
+    LossFinder finder(encoding, codePage);
     TextPieces pieces(editor);
     long start = 0;
     for (std::u16string_view piece = pieces.Next(); !piece.empty(); piece = pieces.Next()) {

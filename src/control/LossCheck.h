@@ -19,8 +19,9 @@ class CZNCoreEditorControl;
 class ZN_API LossFinder
 {
 public:
-    explicit LossFinder(int encoding); ///< the encoding is a number of FileEncodeConverter
-    ~LossFinder();                     ///< what it converted with goes
+    /// The encoding is a number of FileEncodeConverter, the code page what 0 stands for among them.
+    explicit LossFinder(int encoding, int codePage = 0);
+    ~LossFinder(); ///< what it converted with goes
 
     /// Its place in the text, which ends in no half of a pair; -1 if none is lost.
     long FindIn(std::u16string_view text);
@@ -34,6 +35,9 @@ private:
 
 /// The first character of the editor's text that is lost; nothing if none is. 64 million characters
 /// take 0.14 s, and 0.38 s if none of them is ASCII.
+ZN_API std::optional<LostCharacter> FindLostCharacter(CZNCoreEditorControl& editor, int encoding,
+                                                      int codePage);
+/// In the editor's own code page.
 ZN_API std::optional<LostCharacter> FindLostCharacter(CZNCoreEditorControl& editor, int encoding);
 
 /// The character as a sentence can show it: in quotes if it has a form of its own, and its number.

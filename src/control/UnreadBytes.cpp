@@ -15,7 +15,6 @@ namespace {
 
 constexpr char16_t kReplacement = 0xFFFD;
 constexpr std::size_t kBlock = 1 << 20; // bytes
-constexpr int kAnsi = 0;                // the system's code page
 
 // The file block after block; what a block leaves comes in front of the next.
 class Blocks
@@ -138,39 +137,39 @@ UnreadBytes InUtf32(Blocks& blocks, bool isBigEndian)
     return unread;
 }
 
-bool IsUnknown(const char* character, std::size_t size)
+bool IsUnknown(int codePage, const char* character, std::size_t size)
 {
     std::array<char16_t, 4> units{};
-    const int count = platform::MultiByteToWideChar(kAnsi, character, static_cast<int>(size),
+    const int count = platform::MultiByteToWideChar(codePage, character, static_cast<int>(size),
                                                     units.data(), static_cast<int>(units.size()));
     return std::find(units.begin(), units.begin() + count, kReplacement) != units.begin() + count;
 }
 
 // Whether each byte above ASCII is a character by itself, and one that the page has.
-bool HasAllBytes()
+bool HasAllBytes(int codePage)
 {
     for (int byte = 0x80; byte <= 0xFF; ++byte) {
         const std::array<char, 2> text = {static_cast<char>(byte), 'a'};
-        if (platform::CharNextExA(kAnsi, text.data(), text.data() + 2) != text.data() + 1 ||
-            IsUnknown(text.data(), 1))
+        if (platform::CharNextExA(codePage, text.data(), text.data() + 2) != text.data() + 1 ||
+            IsUnknown(codePage, text.data(), 1))
             return false;
     }
     return true;
 }
 
-UnreadBytes InCodePage(Blocks& blocks)
+UnreadBytes InCodePage(Blocks& blocks, int codePage)
 {
     UnreadBytes unread;
-    if (HasAllBytes())
+    if (HasAllBytes(codePage))
         return unread;
     while (blocks.Next()) {
         while (blocks.Left() > 1 || (blocks.IsLast() && blocks.Left() > 0)) {
             const char* const at = reinterpret_cast<const char*>(blocks.At());
-            const auto size =
-                static_cast<std::size_t>(platform::CharNextExA(kAnsi, at, at + blocks.Left()) - at);
+            const auto size = static_cast<std::size_t>(
+                platform::CharNextExA(codePage, at, at + blocks.Left()) - at);
             if (size == 0)
                 return unread;
-            if (*blocks.At() >= 0x80 && IsUnknown(at, size))
+            if (*blocks.At() >= 0x80 && IsUnknown(codePage, at, size))
                 blocks.TakeUnread(size, unread);
             else
                 blocks.Take(size);
@@ -183,7 +182,7 @@ UnreadBytes InCodePage(Blocks& blocks)
 
 } // namespace
 
-UnreadBytes FindUnreadBytes(const QString& path, int encoding)
+UnreadBytes FindUnreadBytes(const QString& path, int encoding, int codePage)
 {
     QFile file(path);
     if (!file.open(QFile::ReadOnly | QFile::Unbuffered))
@@ -200,6 +199,6 @@ UnreadBytes FindUnreadBytes(const QString& path, int encoding)
     case FileEncodeConverter::encUTF32BE:
         return InUtf32(blocks, encoding == FileEncodeConverter::encUTF32BE);
     default:
-        return InCodePage(blocks);
+        return InCodePage(blocks, codePage);
     }
 }

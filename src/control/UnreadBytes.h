@@ -19,5 +19,6 @@ struct UnreadBytes
 
 /// Reads the file in the encoding, a number of FileEncodeConverter as GetEncoding() of the control
 /// gives it behind a load. A file that cannot be read has none, and neither has what stands behind
-/// a NUL in a code page, where a load ends. Costs a further read of the file, block after block.
-ZN_API UnreadBytes FindUnreadBytes(const QString& path, int encoding);
+/// a NUL in a code page, where a load ends. The code page is what the encoding 0 stands for; 0: the
+/// system's. Costs a further read of the file, block after block.
+ZN_API UnreadBytes FindUnreadBytes(const QString& path, int encoding, int codePage = 0);

@@ -95,6 +95,11 @@ public:
     /// written.
     void SetEncoding(int encoding) { m_nEncoding = encoding; }
     int GetEncoding() const { return m_nEncoding; } ///< of the file, or of the next save
+    /// The code page that the encoding 0 stands for in the files of this control, as they are read,
+    /// saved, inserted and copied for a crash. 0, as at first: the system's. Set it in front of
+    /// OpenFile. False for one that is not known, and nothing changes.
+    bool SetFileCodePage(int codePage);
+    int GetFileCodePage() const { return m_nFileCodePage; } ///< as it was set
     /// Of the next save.
     void SetWriteEncodingSig(const bool& write) { m_bWriteEncodingSig = write; }
     /// Whether the next save writes one.
@@ -138,6 +143,9 @@ public:
     void setAutoSaveMinutes(int minutes); ///< between two copies, while autosave is on
     bool GetAutoSaveOn() const { return m_bAutoSaveOn; }          ///< off at first
     int GetAutoSaveMinutes() const { return m_nAutoSaveMinutes; } ///< 1 at first
+    /// Whether the latest copy could not be written, for want of room or rights: what was typed
+    /// since the one before is in memory alone. It is tried again at the next interval.
+    bool AutoSaveFailed() const { return m_bCopyFailed; }
     /// A name makes copies of a text without a file, too, which are noted under it and offered to
     /// nobody: a host finds them by LeftCopies. It is no absolute path. Empty, as from the start:
     /// there are none.
@@ -277,6 +285,7 @@ protected:
     int m_bCreated = 0;       ///< made by a Create, so subclassing has nothing to do
     int m_bFirstInstance = 0; ///< no other control was alive when this one was constructed
     int m_nEncoding = FileEncodeConverter::encUTF16LE;  ///< of the file behind the text
+    int m_nFileCodePage = 0;                            ///< 0: the system's
     int m_nLineEndingStyle = -1;                        ///< for Copy; -1: as they stand
     engine::DirectFunction m_pDirectFunction = nullptr; ///< null until SetupDirectAccess
     LRESULT m_pDirectPointer = 0;                       ///< what it takes first
@@ -325,6 +334,7 @@ private:
     QString m_untitledName;
     bool m_offersCopies = true;
     bool m_bHasWrittenCopy = false; // the autosave file has a text of this control's
+    bool m_bCopyFailed = false;     // the latest one was not written
     bool m_bCutShort = false;
     std::unique_ptr<CopyClaim> m_copyClaim; // on the autosave file
 };

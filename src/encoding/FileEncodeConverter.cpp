@@ -74,7 +74,8 @@ template <auto Member, int... codePages>
 void Run(Converter& converter, const unsigned char* buffer, unsigned int length,
          unsigned int& remaining)
 {
-    (converter.*Member)(buffer, length, remaining, codePages...);
+    (converter.*Member)(buffer, length, remaining,
+                        (codePages == kAnsi ? converter.GetCodePage() : codePages)...);
 }
 
 } // namespace

@@ -19,7 +19,7 @@ public:
     enum encodingType : int
     {
         encUnknown = -1,    ///< to be found in the first block
-        encANSI = 0,        ///< the system's code page
+        encANSI = 0,        ///< a code page, the system's if no other was set
         encUTF16LE = 2,     ///< low byte first
         encUTF16BE = 4,     ///< high byte first
         encUTF8 = 6,        ///< with a mark or without
@@ -37,6 +37,10 @@ public:
     void SetInputType(encodingType type);
     encodingType GetInputType() const { return m_inputType; } ///< what the file is, or encUnknown
     void SetOutputType(encodingType type) { m_outputType = type; } ///< what the bytes are to become
+
+    /// The code page that encANSI stands for; 0, as at first: the system's.
+    void SetCodePage(int codePage) { m_codePage = codePage; }
+    int GetCodePage() const { return m_codePage; } ///< as it was set
 
     /// The input encoding with its mark; ttNone while it is unknown, and for encUTF8Cookie.
     znutils::TextType GetInputTextType() const;
@@ -119,5 +123,6 @@ private:
     encodingType m_inputType = encUnknown;
     encodingType m_outputType = encUnknown;
     bool m_bHadMark = false;
+    int m_codePage = 0;
     ByteVector m_converted;
 };

@@ -109,9 +109,105 @@ TEST_P(AutosaveFaults, TheDiskIsFull)
         const FullDisk full(4);
         editor.Tick();
         EXPECT_EQ(Read(control().m_strAutoSaveFile).size(), GetParam() ? 0 : 4);
+        EXPECT_TRUE(control().AutoSaveFailed());
     }
     ExpectUntouched();
     ExpectCopyAtNextTick();
+    EXPECT_FALSE(control().AutoSaveFailed());
+}
+
+TEST_P(AutosaveFaults, NothingFailedOfWhatWasSavedOrUndone)
+{
+    {
+        const FullDisk full(4);
+        editor.Tick();
+        ASSERT_TRUE(control().AutoSaveFailed());
+    }
+    ASSERT_TRUE(control().SaveFile(PathOf("doc.sql").toStdU16String().c_str(), true));
+    EXPECT_FALSE(control().AutoSaveFailed());
+    editor.Type(u"y");
+    {
+        const FullDisk full(4);
+        editor.Tick();
+        ASSERT_TRUE(control().AutoSaveFailed());
+    }
+    control().Undo(1);
+    editor.Tick();
+    EXPECT_EQ(control().AutoSaveFailed(), !GetParam()) << "the other one looks at no file";
+}
+
+TEST_P(AutosaveFaults, ATextWithoutAFileHasNoCopyOnAFullDisk)
+{
+    const Editor other;
+    other.control->SetCarefulFiles(GetParam());
+    other.control->setAutoSaveOn(true);
+    other.control->SetUntitledName(QStringLiteral("Script 1"));
+    other.Type(u"typed");
+    {
+        const FullDisk full(2);
+        other.Tick();
+        EXPECT_TRUE(other.control->AutoSaveFailed());
+    }
+    EXPECT_EQ(other.Text(), u"typed");
+    other.Tick();
+    EXPECT_FALSE(other.control->AutoSaveFailed());
+    const QString copy = other.control->m_strAutoSaveFile;
+    EXPECT_EQ(Read(copy), QByteArray("\xFF\xFEt\0y\0p\0e\0d\0", 12));
+    EXPECT_EQ(Note(QFileInfo(copy).fileName()), QStringLiteral("Script 1"));
+    EXPECT_EQ(ApplicationProfile().GetString(QStringLiteral("BackupOrigins"),
+                                             QFileInfo(copy).fileName(), QStringLiteral("none")),
+              QStringLiteral("none"))
+        << "there is no file that it stems from";
+    other.control->Undo(1); // where there was nothing, nothing is to be kept
+    other.Tick();
+    EXPECT_EQ(QFile::exists(copy), !GetParam());
+}
+
+TEST_P(AutosaveFaults, ATextThatWasRecoveredKeepsItsCopyOnAFullDisk)
+{
+    const QString copy = Plant("~ZN1.tmp", "recovered");
+    control().SetOffersCopies(false);
+    control().SetCarefulFiles(true);
+    ASSERT_TRUE(control().RecoverCopy(copy, kDetect));
+    EXPECT_FALSE(control().AutoSaveFailed());
+    editor.Type(u"more ");
+    {
+        const FullDisk full(4);
+        editor.Tick();
+        EXPECT_TRUE(control().AutoSaveFailed());
+    }
+    EXPECT_EQ(Read(copy), QByteArray("recovered"));
+    editor.Tick();
+    EXPECT_FALSE(control().AutoSaveFailed());
+    EXPECT_EQ(Read(copy), QByteArray("more recovered"));
+}
+
+TEST_P(AutosaveFaults, ATextThatHasBecomeReadOnlyGetsItsCopyOnceItIsNot)
+{
+    {
+        const FullDisk full(4);
+        editor.Tick();
+    }
+    control().SetReadOnly(1, 1);
+    editor.Tick();
+    EXPECT_TRUE(control().AutoSaveFailed()) << "there is none still";
+    ExpectUntouched();
+    control().SetReadOnly(0, 1);
+    ExpectCopyAtNextTick();
+    EXPECT_FALSE(control().AutoSaveFailed());
+    control().SetReadOnly(1, 1);
+    editor.Tick();
+    EXPECT_FALSE(control().AutoSaveFailed()) << "it is there";
+}
+
+TEST_P(AutosaveFaults, ACopyThatNobodyFindsIsNone)
+{
+    folders.hasData = false;
+    editor.Tick();
+    EXPECT_TRUE(control().AutoSaveFailed());
+    folders.hasData = true;
+    editor.Tick();
+    EXPECT_EQ(control().AutoSaveFailed(), !GetParam()) << "the other one leaves it there";
 }
 
 TEST_P(AutosaveFaults, TheDiskFillsUpOverAnEarlierCopy)
@@ -122,6 +218,7 @@ TEST_P(AutosaveFaults, TheDiskFillsUpOverAnEarlierCopy)
     {
         const FullDisk full(4);
         editor.Tick();
+        EXPECT_TRUE(control().AutoSaveFailed());
     }
     // With care the last complete copy is still there; without it the new one is cut short.
     EXPECT_EQ(Read(copy), QByteArray(GetParam() ? "xselect 1;" : "xyys"));

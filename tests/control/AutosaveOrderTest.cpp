@@ -224,8 +224,9 @@ TEST_F(AutosaveOrder, ACarefulTickNotesTheCopyBeforeItWritesItToo)
     control.SetCarefulFiles(true);
     HoldChangedDocument();
     SayModified();
-    EXPECT_EQ(Tick(), (Strings{"GetReadOnly", "GetLineCount", "GetModify", "read Backup",
-                               "note Backup, empty copy", "GetLineCount", "LineLength 0",
+    EXPECT_EQ(Tick(), (Strings{"GetModify", "GetReadOnly", "GetLineCount", "read Backup",
+                               "note Backup, empty copy", "read BackupOrigins",
+                               "note BackupOrigins, empty copy", "GetLineCount", "LineLength 0",
                                "GetLine 0", "SetAutoSave 0 1", std::to_string(WM_TIMER)}));
 }
 
@@ -274,5 +275,5 @@ TEST_F(AutosaveOrder, ACarefulSaveTakesTheCopyAwayOnceItHasWritten)
     EXPECT_EQ(TakeEvents(),
               (Strings{"GetLineCount", "LineLength 0", "GetLine 0", "CleanUpAutoSave",
                        "SetAutoSave 0 0", "DeleteAutoSaveFile", "remove note Backup, empty copy",
-                       "SetSavePoint", "SetAutoSave 0 1"}));
+                       "read BackupOrigins", "SetSavePoint", "SetAutoSave 0 1"}));
 }

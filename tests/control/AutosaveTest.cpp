@@ -198,6 +198,25 @@ TEST_F(Autosave, OfATextWithoutChangesWritesNothing)
     EXPECT_EQ(editor.Interval(), kMinute);
 }
 
+TEST_F(Autosave, WithCareTakesTheCopyAwayOfWhatWasUndone)
+{
+    control().SetCarefulFiles(true);
+    ASSERT_TRUE(Open("select 1;"));
+    control().setAutoSaveOn(true);
+    editor.Type(u"x");
+    editor.Tick();
+    const QString name = Copies().value(0);
+    ASSERT_FALSE(name.isEmpty());
+    control().Undo(1);
+    ASSERT_FALSE(control().GetModified());
+    editor.Tick();
+    EXPECT_TRUE(Copies().isEmpty());
+    EXPECT_EQ(Note(name), QString());
+    control().Redo(1);
+    editor.Tick();
+    EXPECT_EQ(Read(OnlyCopy()), QByteArray("xselect 1;"));
+}
+
 TEST_F(Autosave, OfAReadOnlyTextWritesNothing)
 {
     OpenAndChange();

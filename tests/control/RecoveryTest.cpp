@@ -513,6 +513,37 @@ TEST_F(Recovery, WithCareACopyOfAReadOnlyTextIsLeftForLater)
     EXPECT_EQ(Read(copy), QByteArray("select 2;"));
 }
 
+TEST_F(Recovery, WithCareTheCopySaysWhatItsFileWasWhenItWasRead)
+{
+    const auto origin = [this] {
+        const QString name = QFileInfo(control().m_strAutoSaveFile).fileName();
+        return ApplicationProfile().GetString(QStringLiteral("BackupOrigins"), name, QString());
+    };
+    control().SetCarefulFiles(true);
+    ASSERT_TRUE(Open("select 1;"));
+    Write(PathOf("doc.sql"), "others have written");
+    editor.Type(u"x");
+    editor.Tick();
+    EXPECT_TRUE(origin().startsWith(QStringLiteral("9 "))) << origin().toStdString();
+    const QString copy = QFileInfo(control().m_strAutoSaveFile).fileName();
+    editor.Close();
+    EXPECT_EQ(
+        ApplicationProfile().GetString(QStringLiteral("BackupOrigins"), copy, QStringLiteral("-")),
+        QStringLiteral("-"));
+}
+
+TEST_F(Recovery, WithoutCareTheCopySaysNothingButItsFile)
+{
+    ASSERT_TRUE(Open("select 1;"));
+    editor.Type(u"x");
+    editor.Tick();
+    const QString copy = QFileInfo(OnlyCopy()).fileName();
+    EXPECT_EQ(Note(copy), PathOf("doc.sql"));
+    EXPECT_EQ(
+        ApplicationProfile().GetString(QStringLiteral("BackupOrigins"), copy, QStringLiteral("-")),
+        QStringLiteral("-"));
+}
+
 TEST_F(Recovery, WithCareATextThatIsTheFilesGetsNoCopy)
 {
     control().SetCarefulFiles(true);
@@ -595,6 +626,21 @@ TEST_F(Recovery, AHostThatShowsTheCopiesItselfIsNotAskedFor)
     EXPECT_EQ(control().m_strAutoSaveFile, copy);
     EXPECT_NE(control().GetModify(1), 0);
     EXPECT_EQ(Read(copy), QByteArray("typed"));
+}
+
+TEST_F(Recovery, WhatIsDiscardedLeavesNothingBehind)
+{
+    const QString copy = Plant("~ZN1.tmp", "typed");
+    const QString name = QFileInfo(copy).fileName();
+    ApplicationProfile().WriteString(QStringLiteral("BackupOrigins"), name, u"5 1 2");
+    LeftCopies left;
+    ASSERT_EQ(left.All().size(), 1u);
+    left.Discard(copy);
+    EXPECT_FALSE(QFile::exists(copy));
+    EXPECT_EQ(Note(name), QString());
+    EXPECT_EQ(
+        ApplicationProfile().GetString(QStringLiteral("BackupOrigins"), name, QStringLiteral("-")),
+        QStringLiteral("-"));
 }
 
 TEST_F(Recovery, NoCopyOfALivingEditorIsRecovered)

@@ -43,6 +43,8 @@ public:
     {
         return (++m_steps % kStepsBetween != 0 || Ask(hundredths)) && !m_isStopped;
     }
+    /// The same for steps beside which a look at the clock is nothing.
+    bool LongStep(int hundredths) { return Ask(hundredths) && !m_isStopped; }
     bool IsStopped() const { return m_isStopped; } ///< by the host
     /// Once for each step of work that nothing can stop.
     void Tell()

@@ -1,7 +1,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "platform/system/SystemColors.h"
 
-#include <QColor>
+#include "platform/base/Colours.h"
+
 #include <QGuiApplication>
 #include <QPalette>
 
@@ -34,8 +35,7 @@ COLORREF GetSysColor(int number)
     for (const ColorRow& row : kColors) {
         if (row.number != number)
             continue;
-        const QColor color = QGuiApplication::palette().color(row.group, row.role);
-        return static_cast<COLORREF>(color.red() | color.green() << 8 | color.blue() << 16);
+        return FromQColor(QGuiApplication::palette().color(row.group, row.role));
     }
     return 0;
 }

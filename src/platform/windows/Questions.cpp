@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "platform/windows/Questions.h"
 
+#include "platform/base/Colours.h"
 #include "platform/windows/Disposal.h"
 
 #include <QApplication>
@@ -152,12 +153,10 @@ Answer IUserQuestions::AskUnder(HWND owner, const QString& /*title*/, const QStr
 
 std::optional<COLORREF> IUserQuestions::AskColor(HWND owner, COLORREF color)
 {
-    const auto part = [color](int shift) { return static_cast<int>(color >> shift & 0xFF); };
-    const QColor chosen =
-        QColorDialog::getColor(QColor(part(0), part(8), part(16)), DialogParent(owner));
+    const QColor chosen = QColorDialog::getColor(ToQColor(color), DialogParent(owner));
     if (!chosen.isValid())
         return std::nullopt;
-    return static_cast<COLORREF>(chosen.red() | chosen.green() << 8 | chosen.blue() << 16);
+    return FromQColor(chosen);
 }
 
 void SetUserQuestions(IUserQuestions* questions)

@@ -199,7 +199,7 @@ void CFileSearch::Job::Finish()
 
 void CFileSearch::Job::Run()
 {
-    Tools tools{TextSearch(m_request, m_stop), {}};
+    Tools tools{TextSearch(m_request, m_stop), FileText(m_request.codePage)};
     for (Task task; Take(task); Finish()) {
         if (task.kind == Task::Folder)
             WalkFolder(task.name);

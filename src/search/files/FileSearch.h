@@ -37,6 +37,7 @@ struct FileSearchRequest
     QStringList folders;        ///< where files are looked for
     QString types;              ///< patterns of names, parted by ';' or ','; none: all files
     bool subFolders = true;     ///< folders below, too
+    int codePage = 0;           ///< of files that are no Unicode; 0: the system's
 
     int threads = 0; ///< 0: as many as the machine has processors
 };

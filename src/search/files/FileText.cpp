@@ -147,7 +147,7 @@ bool FileText::BeginConversion()
         return false;
     std::setvbuf(m_file.get(), nullptr, _IONBF, 0);
     m_atEnd = m_failed = false;
-    m_blocks = std::make_unique<FileBlocks>(m_file.get(), kCarefulFiles.load);
+    m_blocks = std::make_unique<FileBlocks>(m_file.get(), kCarefulFiles.load, m_codePage);
     bool mark = false;
     m_blocks->Start(Encoding::encUnknown, mark);
     return true;

@@ -28,7 +28,8 @@ public:
         NotAFile,
     };
 
-    FileText() = default;
+    // The code page of files that are no Unicode; 0: the system's.
+    explicit FileText(int codePage) : m_codePage(codePage), m_page(codePage) {}
     FileText(const FileText&) = delete;
     FileText& operator=(const FileText&) = delete;
     ~FileText() { Close(); }
@@ -61,6 +62,7 @@ private:
     int m_handle = -1;
     FilePointer m_file; // of a conversion; owns the handle then
     std::unique_ptr<FileBlocks> m_blocks;
+    int m_codePage;
     SinglePage m_page;
     ByteBuffer m_first; // what was read before it was known what it is
     ByteBuffer m_raw;

@@ -7,9 +7,9 @@
 #include <QFile>
 #include <QFileInfo>
 
-std::optional<QString> ReadFileText(const QString& path, qint64 mostBytes)
+std::optional<QString> ReadFileText(const QString& path, qint64 mostBytes, int codePage)
 {
-    FileText file;
+    FileText file(codePage);
     constexpr std::size_t kPiece = 1024 * 1024;
     if (QFileInfo(path).size() > mostBytes ||
         file.Open(QFile::encodeName(path).toStdString(), true, kPiece) != FileText::Kind::Text)

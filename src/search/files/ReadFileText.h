@@ -9,5 +9,6 @@
 
 #include <optional>
 
-/// Nothing for what is no text, cannot be read or has more bytes than these.
-ZN_API std::optional<QString> ReadFileText(const QString& path, qint64 mostBytes);
+/// Nothing for what is no text, cannot be read or has more bytes than these. The code page is that
+/// of a file that is no Unicode; 0: the system's.
+ZN_API std::optional<QString> ReadFileText(const QString& path, qint64 mostBytes, int codePage = 0);

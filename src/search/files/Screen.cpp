@@ -41,7 +41,7 @@ Screen::Screen(const FileSearchRequest& request)
     // other bytes for them.
     const bool hasOtherForms =
         !request.matchCase && required.find_first_of("kKsS") != required.npos;
-    const SinglePage page;
+    const SinglePage page(request.codePage);
     m_isForPage = !hasOtherForms || (page.IsOne() && !page.Has(0x212A) && !page.Has(0x17F));
 }
 

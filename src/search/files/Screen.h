@@ -16,7 +16,7 @@ class Screen
 public:
     explicit Screen(const FileSearchRequest& request);
 
-    // False if no match can be in the bytes, which are UTF-8 or of the system's code page, well-
+    // False if no match can be in the bytes, which are UTF-8 or of the request's code page, well-
     // formed or not. They hold whole matches of what is looked for: of pieces that follow each
     // other, Overlap bytes come twice.
     bool Admits(std::string_view bytes, bool isUtf8) const;

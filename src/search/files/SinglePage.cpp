@@ -8,16 +8,16 @@
 #include <algorithm>
 #include <cstring>
 
-SinglePage::SinglePage()
+SinglePage::SinglePage(int codePage)
 {
     constexpr int kUtf8 = 65001;
     std::array<char, 256> all{};
     for (std::size_t i = 0; i < all.size(); ++i)
         all[i] = static_cast<char>(i);
     constexpr int kCount = static_cast<int>(all.size());
-    m_isOne =
-        platform::GetSystemCodePage() != kUtf8 &&
-        platform::MultiByteToWideChar(0, all.data(), kCount, m_units.data(), kCount) == kCount;
+    m_isOne = (codePage != 0 ? codePage : platform::GetSystemCodePage()) != kUtf8 &&
+              platform::MultiByteToWideChar(codePage, all.data(), kCount, m_units.data(), kCount) ==
+                  kCount;
     for (std::size_t i = 0; m_isOne && i < all.size(); ++i) {
         Character& character = m_characters[i];
         character.size = static_cast<unsigned char>(platform::utf8::ToBytes(

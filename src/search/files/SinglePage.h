@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-// SinglePage: the system's code page as UTF-8, if each of its characters has one byte.
+// SinglePage: a code page as UTF-8, if each of its characters has one byte.
 #pragma once
 
 #include <array>
@@ -10,7 +10,7 @@ class SinglePage
 public:
     static constexpr std::size_t kMostBytes = 3; // of a character as UTF-8
 
-    SinglePage();
+    explicit SinglePage(int codePage); // 0: the system's
     bool IsOne() const { return m_isOne; }
     bool Has(char16_t unit) const;
 

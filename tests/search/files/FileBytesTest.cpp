@@ -54,6 +54,20 @@ TEST_F(FileBytes, OfASinglePageBecomeItsLetters)
     EXPECT_EQ(found.totals.matches, 1);
 }
 
+TEST_F(FileBytes, AreOfTheCodePageThatTheSearchNames)
+{
+    const QString path = Write("a.sql", "select '\xCF\xF0' from t;");
+    FileSearchRequest request = For(QString::fromUtf8("\u041F\u0440"));
+    EXPECT_EQ(Search(request).totals.matches, 0);
+    request.codePage = 1251;
+    EXPECT_EQ(Search(request).totals.matches, 1);
+    EXPECT_EQ(ReadFileText(path, 100, 1251), QString::fromUtf8("select '\u041F\u0440' from t;"));
+    Write("b.sql", "x \x83\x41 \x83\x42"); // in 932 two letters whose second bytes are A and B
+    request = For("A");
+    request.codePage = 932;
+    EXPECT_EQ(Search(request).totals.matches, 0);
+}
+
 // Scripts that were joined with their marks have one more at the start.
 TEST_F(FileBytes, OfASecondMarkAreACharacterOfTheText)
 {
