@@ -8,6 +8,7 @@
 CColorStatic::CColorStatic(const QString& text, QWidget* parent) : QFrame(parent), m_text(text)
 {
     setFrameStyle(QFrame::StyledPanel | QFrame::Plain);
+    setSizePolicy(QSizePolicy::Preferred, QSizePolicy::Minimum); // it is not squeezed away
     setAccessibleName(text);
 }
 

@@ -2,22 +2,10 @@
 // Colours of settings as they are painted.
 #pragma once
 
-#include "platform/base/Types.h"
+#include "platform/base/Colours.h"
 
-#include <QColor>
 #include <QPainter>
 #include <QPalette>
-
-inline QColor ToQColor(COLORREF color)
-{
-    return QColor(static_cast<int>(color & 0xFF), static_cast<int>(color >> 8 & 0xFF),
-                  static_cast<int>(color >> 16 & 0xFF));
-}
-
-inline COLORREF FromQColor(const QColor& color)
-{
-    return static_cast<COLORREF>(color.red() | color.green() << 8 | color.blue() << 16);
-}
 
 // With an edge that is seen on every ground.
 inline void PaintSwatch(QPainter& painter, const QRect& rect, COLORREF color,

@@ -18,9 +18,11 @@
 #include <QLineEdit>
 #include <QPushButton>
 #include <QScreen>
+#include <QScrollArea>
 #include <QShortcut>
 #include <QSplitter>
 #include <QStackedWidget>
+#include <QStyle>
 #include <QTreeWidget>
 
 namespace {
@@ -35,6 +37,24 @@ namespace id = prefscontrol;
 constexpr int kNoPagesLanguage = 11; // has none in the tree
 constexpr int kPlainLanguage = 1;    // has no code and no keywords
 const QString kFilter = QStringLiteral("filter");
+
+// For a screen that is too low for all of a page.
+QScrollArea* InScrollArea(QWidget* page)
+{
+    auto* area = new QScrollArea;
+    area->setFrameShape(QFrame::NoFrame);
+    area->setFocusPolicy(Qt::NoFocus);
+    area->setWidgetResizable(true);
+    area->setWidget(page);
+    area->setMinimumWidth(page->minimumSizeHint().width() +
+                          area->style()->pixelMetric(QStyle::PM_ScrollBarExtent, nullptr, area));
+    return area;
+}
+
+QWidget* AreaOf(const QWidget& page)
+{
+    return page.parentWidget()->parentWidget(); // around the area's inside
+}
 
 } // namespace
 
@@ -272,11 +292,11 @@ void CEditorPrefsDialog::ShowPage(int page)
     if (!record.page->GetSafeHwnd()) {
         record.page->CreateInside(m_frame);
         SetDlgCtrlID(record.page->GetSafeHwnd(), record.templateId);
-        m_frame->addWidget(record.page->GetSafeHwnd());
+        m_frame->addWidget(InScrollArea(record.page->GetSafeHwnd()));
         TakeIntoTabOrder(*record.page->GetSafeHwnd());
     }
     m_current = page;
-    m_frame->setCurrentWidget(record.page->GetSafeHwnd());
+    m_frame->setCurrentWidget(AreaOf(*record.page->GetSafeHwnd()));
     const QString around =
         record.parent ? m_items.value(record.parent)->text(0) + QStringLiteral(" – ") : QString();
     m_caption->SetTitle(record.title);
@@ -306,8 +326,9 @@ void CEditorPrefsDialog::ReloadPages()
         QWidget* window = record.page->GetSafeHwnd();
         if (!window)
             continue;
-        m_frame->removeWidget(window);
+        QWidget* area = AreaOf(*window);
         record.page->DestroyWindow();
+        delete area;
         record.page->SetUnchanged();
     }
     SetChanged(false);

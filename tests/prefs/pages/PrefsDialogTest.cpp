@@ -3,6 +3,7 @@
 #include "editing/ZNCoreEditorControlEx.h"
 #include "editing/ZNCoreEditorWidget.h"
 #include "platform/windows/Accelerators.h"
+#include "prefs/controls/ColorStatic.h"
 #include "prefs/pages/EditorPrefsStatic.h"
 #include "prefs/pages/Preferences.h"
 #include "tests/prefs/pages/PrefsFixture.h"
@@ -22,7 +23,6 @@
 namespace {
 
 namespace id = prefscontrol;
-using testing::ElementsAre;
 
 class PrefsDialog : public PrefsTest
 {
@@ -89,6 +89,26 @@ TEST_F(PrefsDialog, FitsTheScreenWithLargeLetters)
     EXPECT_LT(window.height(), window.screen()->availableSize().height());
     EXPECT_LT(window.width(), window.screen()->availableSize().width());
     QApplication::setFont(usual);
+}
+
+TEST_F(PrefsDialog, KeepsItsButtonsInSightOnALowScreenWhicheverPageIsShown)
+{
+    Open();
+    QWidget& window = *dialog->GetSafeHwnd();
+    window.show();
+    constexpr int kLow = 400; // pixels
+    window.resize(window.width(), kLow);
+    for (int page = 0; page < 8; ++page) {
+        dialog->ShowPage(page);
+        QApplication::processEvents();
+        EXPECT_EQ(window.height(), kLow) << page;
+        const QWidget& ok = *dialog->GetDlgItem(IDOK);
+        EXPECT_TRUE(window.rect().contains(QRect(ok.mapTo(&window, QPoint()), ok.size()))) << page;
+        const QWidget& shown = *dialog->Pages()[size_t(page)].page->GetSafeHwnd();
+        EXPECT_FALSE(shown.visibleRegion().isEmpty());
+        for (const auto* sample : shown.findChildren<CColorStatic*>())
+            EXPECT_GE(sample->height(), sample->sizeHint().height());
+    }
 }
 
 TEST_F(PrefsDialog, ListsTheLanguagesByTheirNumbers)
