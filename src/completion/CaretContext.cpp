@@ -131,6 +131,7 @@ private:
             isWord = true;
         }
         const NameMachine machine(m_dialect, isWord ? atWord : m_names);
+        m_context.behind = machine.Now().previous;
         query.place = machine.WantsOwnName()   ? Place::OwnName
                       : machine.WantsTable()   ? Place::Table
                       : machine.WantsRoutine() ? Place::Routine
@@ -145,6 +146,7 @@ private:
             query.place = Place::String;
         else if (last.kind == TokenKind::Number)
             query.place = Place::OwnName;
+        m_context.beginsStatement = query.place == Place::Anywhere && machine.AtStatement();
 
         long start = text.Size();
         if (isWord) {

@@ -28,8 +28,10 @@ struct QueryTable
 struct CaretContext
 {
     ProposalQuery query;
-    QString rest; // of the word, behind the caret
-    QChar quote;  // that the word begins with, none if it is not quoted
+    QString rest;                      // of the word, behind the caret
+    QChar quote;                       // that the word begins with, none if it is not quoted
+    NameWord behind = NameWord::Other; // what stands before the word
+    bool beginsStatement = false;      // the word does, or may
     // Of the queries that the caret stands in, the innermost first, before the caret and behind it.
     std::vector<ScopedTable> tables;
     // Variables, parameters, cursors, common tables and their columns, from some way before the

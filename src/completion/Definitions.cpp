@@ -147,6 +147,16 @@ Column ColumnOf(const ScriptName& name, const QString& type, const QString& tabl
 
 } // namespace
 
+TableColumns::TableColumns(const ScriptIndex& index, const ScriptIndex::Read& read,
+                           const CaretContext& context, std::span<const OtherText> others)
+    : m_index(index), m_read(read), m_context(context)
+{
+    static const CaretContext kNone;
+    m_others.reserve(others.size());
+    for (const OtherText& other : others)
+        m_others.emplace_back(*other.index, other.read, kNone);
+}
+
 void TableColumns::LookAhead()
 {
     QStringList names;
@@ -154,9 +164,23 @@ void TableColumns::LookAhead()
         if (!table.name.isEmpty() && !names.contains(table.name, Qt::CaseInsensitive))
             names << table.name;
     }
-    std::vector<TablePlaces> places = FindTables(m_index, names);
-    for (std::size_t i = 0; i < places.size(); ++i)
-        m_known.emplace_back(names[static_cast<qsizetype>(i)], std::move(places[i]));
+    LookAhead(names);
+}
+
+void TableColumns::LookAhead(const QStringList& tables)
+{
+    std::vector<TablePlaces> places = FindTables(m_index, tables);
+    QStringList elsewhere;
+    for (std::size_t i = 0; i < places.size(); ++i) {
+        const QString& name = tables[static_cast<qsizetype>(i)];
+        if (!places[i].created)
+            elsewhere << name;
+        m_known.emplace_back(name, std::move(places[i]));
+    }
+    for (TableColumns& other : m_others) {
+        if (!elsewhere.isEmpty())
+            other.LookAhead(elsewhere);
+    }
 }
 
 TablePlaces TableColumns::PlacesOf(const QString& table) const
@@ -216,10 +240,26 @@ void TableColumns::Add(const QString& table, std::vector<Column>& columns, int d
             AddItems(query->items, table, columns, deep);
     }
     const TablePlaces places = PlacesOf(table);
-    if (const auto& place = places.created ? places.created : places.filled)
+    const bool isElsewhere =
+        !places.created && columns.size() == first && AddOfOthers(table, columns, deep);
+    if (const auto& place = places.created ? places.created : places.filled; place && !isElsewhere)
         AddDefined(*place, table, columns, deep);
     for (const Object& altered : places.altered)
         Alter(altered, table, columns, first);
+}
+
+// The first script counts that creates it.
+bool TableColumns::AddOfOthers(const QString& table, std::vector<Column>& columns, int deep) const
+{
+    const auto other =
+        std::find_if(m_others.begin(), m_others.end(), [&](const TableColumns& each) {
+            return each.PlacesOf(table).created.has_value();
+        });
+    if (other == m_others.end())
+        return false;
+    const std::size_t before = columns.size();
+    other->Add(table, columns, deep);
+    return columns.size() > before;
 }
 
 // From where the script creates or fills it.

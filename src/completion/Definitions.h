@@ -6,6 +6,7 @@
 #include "completion/Signatures.h"
 
 #include <optional>
+#include <span>
 #include <utility>
 #include <vector>
 
@@ -18,6 +19,14 @@ struct Column
     QString description;   // its type if it is known, and its table
 };
 
+// A text beside that of the caret, and what it is called.
+struct OtherText
+{
+    const ScriptIndex* index = nullptr;
+    ScriptIndex::Read read;
+    QString name;
+};
+
 struct TablePlaces
 {
     std::optional<ScriptIndex::Object> created; // the first one
@@ -26,17 +35,17 @@ struct TablePlaces
 };
 
 // The columns of the tables around a caret: of those that the script creates, alters or at least
-// fills, and of queries by what they select. Goes before what it is made from.
+// fills, of those that another script creates, and of queries by what they select. Goes before what
+// it is made from.
 class TableColumns
 {
 public:
     TableColumns(const ScriptIndex& index, const ScriptIndex::Read& read,
-                 const CaretContext& context)
-        : m_index(index), m_read(read), m_context(context)
-    {}
+                 const CaretContext& context, std::span<const OtherText> others = {});
 
-    // Finds all tables of the context in one walk through the index, where Of takes one for each.
-    void LookAhead();
+    // Finds the tables in one walk through each index, where Of takes one for each.
+    void LookAhead(const QStringList& tables);
+    void LookAhead(); // for those of the context
 
     // In their order; empty if nothing is known.
     std::vector<Column> Of(const ScopedTable& table) const;
@@ -45,6 +54,7 @@ public:
 private:
     TablePlaces PlacesOf(const QString& table) const;
     void Add(const QString& table, std::vector<Column>& columns, int deep) const;
+    bool AddOfOthers(const QString& table, std::vector<Column>& columns, int deep) const;
     bool AddLocals(const QString& table, std::vector<Column>& columns) const;
     void AddItems(const std::vector<SelectItem>& items, const QString& table,
                   std::vector<Column>& columns, int deep) const;
@@ -57,6 +67,7 @@ private:
     const ScriptIndex::Read& m_read;
     const CaretContext& m_context;
     std::vector<std::pair<QString, TablePlaces>> m_known;
+    std::vector<TableColumns> m_others;
 };
 
 // A routine that the script creates. Empty if it creates none of the name.

@@ -51,6 +51,11 @@ bool NameMachine::IsHead(NameWord word) const
     case W::With:
         return IsOneOf(s.previous, {W::Begins, W::As, W::Open});
     case W::Replace:
+    case W::Analyze:
+    case W::Comment:
+    case W::Copy:
+    case W::Describe:
+    case W::Vacuum:
         return s.previous == W::Begins;
     default:
         return false;
@@ -67,6 +72,24 @@ void NameMachine::Begin(NameWord word)
     else if (word == W::Begin || s.verb == W::Fetch)
         s.verb = W::Other;
     Set(s.froms, false);
+}
+
+// ON of a join names no table, but that of what belongs to one does.
+void NameMachine::ReadOn()
+{
+    State& s = m_state;
+    if (s.depth > 0)
+        return;
+    const bool gives = IsOneOf(s.verb, {W::Create, W::Alter});
+    if (gives && s.object == NameKind::Index) {
+        s.step = Step::TableName;
+    } else if (gives && s.object == NameKind::Trigger) {
+        s.object = NameKind::Table; // the next ON is one of its statements
+        MentionTable();
+    } else if (s.verb == W::Drop ||
+               (IsOneOf(s.verb, {W::Grant, W::Revoke, W::Deny}) && s.previous != W::Execute)) {
+        MentionTable();
+    }
 }
 
 void NameMachine::ReadClause(const Token& token, NameWord word)
@@ -125,8 +148,24 @@ void NameMachine::ReadClause(const Token& token, NameWord word)
             s.step = Step::TableName;
         return;
     case W::Table:
-        if (IsOneOf(s.verb, {W::Truncate, W::Drop, W::Lock}))
+        if (IsOneOf(s.verb, {W::Truncate, W::Drop, W::Lock})) {
             s.step = Step::TableName;
+            Set(s.froms, true); // commas part tables
+        } else if (s.verb == W::Comment ||
+                   (s.verb == W::Other && s.depth == 0 && !Has(s.selects))) {
+            MentionTable();
+        }
+        return;
+    case W::Column:
+        if (s.verb == W::Comment)
+            MentionTable();
+        return;
+    case W::Analyze:
+    case W::Copy:
+    case W::Describe:
+    case W::Vacuum:
+        if (m_beganPart)
+            MentionTable();
         return;
     case W::Truncate:
         if (m_beganPart && NextByte(token.end) != '(')
@@ -135,6 +174,8 @@ void NameMachine::ReadClause(const Token& token, NameWord word)
     case W::View:
         if (s.verb == W::Drop)
             s.step = Step::TableName;
+        else if (s.verb == W::Comment)
+            MentionTable();
         return;
     case W::References:
         s.step = Step::TableName;
@@ -183,11 +224,14 @@ void NameMachine::ReadClause(const Token& token, NameWord word)
         if (m_dialect->separator == "GO")
             EndStatement();
         return;
+    case W::On:
+        Set(s.froms, false);
+        ReadOn();
+        return;
     case W::Where:
     case W::Group:
     case W::Order:
     case W::Having:
-    case W::On:
     case W::Set:
     case W::Union:
     case W::Except:

@@ -138,6 +138,8 @@ void NameMachine::TakeVariable(const Token& token)
 void NameMachine::TakeOperator(char byte)
 {
     State& s = m_state;
+    if (s.step == Step::MentionedTable && byte != '.')
+        s.step = s.next;
     switch (byte) {
     case '(':
         OpenParenthesis();
@@ -280,6 +282,16 @@ bool NameMachine::WantsOwnName() const
     default:
         return false;
     }
+}
+
+// THEN is one of IF or of MERGE, unless it stands in an expression's CASE.
+bool NameMachine::AtStatement() const
+{
+    const State& s = m_state;
+    if (s.step != Step::Code || s.depth > 0 || s.declares)
+        return false;
+    return s.previous == W::Begins ||
+           (s.previous == W::Then && !Has(s.selects) && IsOneOf(s.verb, {W::Other, W::Merge}));
 }
 
 void NameMachine::Emit(NameKind kind, const Token& token)

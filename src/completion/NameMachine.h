@@ -32,7 +32,8 @@ struct NameState
         Items,          // in the list: columns, parameters
         BareParameters, // without parentheses
         TableName,
-        AfterTable, // an alias may come
+        MentionedTable, // one that nothing is read from: REFERENCES, GRANT
+        AfterTable,     // an alias may come
         AfterAs,
         AfterInsert, // the list of columns
         CteName,
@@ -61,6 +62,7 @@ struct NameState
     };
 
     Step step = Step::Code;
+    Step next = Step::Code; // behind MentionedTable
     Before before = Before::LineEnd;
     NameKind object = NameKind::Table;
     NameWord verb = NameWord::Other; // that the statement began with
@@ -105,10 +107,13 @@ public:
     // What a name in this place would be.
     bool WantsTable() const
     {
-        return m_state.step == Step::TableName || m_state.step == Step::AlteredTable;
+        const Step step = m_state.step;
+        return step == Step::TableName || step == Step::MentionedTable ||
+               step == Step::AlteredTable;
     }
     bool WantsRoutine() const { return m_state.step == Step::CallName; }
     bool WantsOwnName() const; // one that nothing has yet
+    bool AtStatement() const;  // a word in this place would begin one
 
 private:
     void TakeToken(const Token& token);
@@ -126,6 +131,8 @@ private:
     bool ReadCreated(NameWord word);
     void ReadItem(const Token& token, NameWord word);
     void EmitAlias(const Token& token);
+    void MentionTable();
+    void ReadOn();
     void EnterBody();
     bool IsHead(NameWord word) const;
     void Begin(NameWord word);

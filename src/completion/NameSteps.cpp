@@ -72,7 +72,12 @@ bool NameMachine::ReadStep(const Token& token, NameWord word)
         }
         return true;
     case Step::Items:
-        if (s.itemBegins && s.depth == s.listDepth)
+        if (s.depth != s.listDepth)
+            return true;
+        if (s.object == NameKind::Table && s.verb != W::Insert &&
+            (word == W::References || (word == W::Like && s.previous == W::Open)))
+            MentionTable();
+        else if (s.itemBegins)
             ReadItem(token, word);
         return true;
     case Step::BareParameters:
@@ -89,7 +94,9 @@ bool NameMachine::ReadStep(const Token& token, NameWord word)
         }
         if (!isLast)
             return true;
-        if (NextByte(token.end) == '(') {
+        if (s.object == NameKind::Index && IsOneOf(s.verb, {W::Create, W::Alter})) {
+            s.object = NameKind::Table; // what ON names later is none
+        } else if (NextByte(token.end) == '(') {
             if (s.verb != W::Insert)
                 return true; // what a function gives, and its parenthesis comes
             Emit(NameKind::InsertUse, token);
@@ -99,6 +106,17 @@ bool NameMachine::ReadStep(const Token& token, NameWord word)
         Emit(NameKind::TableUse, token);
         s.isDerived = false;
         s.step = Step::AfterTable;
+        return true;
+    case Step::MentionedTable:
+        if (IsOneOf(word, {W::Table, W::Only, W::If, W::Exists, W::Full, W::Analyze, W::Freeze,
+                           W::Verbose}))
+            return true;
+        if (!MayBeName(word)) {
+            s.step = s.next;
+            return s.step != Step::Code && ReadStep(token, word);
+        }
+        if (isLast)
+            s.step = s.next;
         return true;
     case Step::AfterTable:
         if (word == W::As) {
@@ -169,6 +187,10 @@ bool NameMachine::ReadStep(const Token& token, NameWord word)
         s.step = Step::AfterAdded;
         return true;
     case Step::AfterAdded:
+        if (word == W::References) {
+            MentionTable();
+            return true;
+        }
         if (IsHead(word))
             s.step = Step::Code;
         return false;
@@ -253,6 +275,14 @@ void NameMachine::EmitAlias(const Token& token)
     Emit(s.isDerived ? NameKind::DerivedAlias : NameKind::Alias, token);
     if (s.isDerived && NextByte(token.end) == '(')
         s.step = Step::AfterDerived;
+}
+
+// What stands behind the name is read as what stands here is.
+void NameMachine::MentionTable()
+{
+    m_state.itemBegins = false;
+    m_state.next = m_state.step;
+    m_state.step = Step::MentionedTable;
 }
 
 void NameMachine::ReadItem(const Token& token, NameWord word)

@@ -71,11 +71,12 @@ NameWord NameWordOf(std::string_view word)
 bool MayBeName(NameWord word)
 {
     using W = NameWord;
-    return IsOneOf(word,
-                   {W::Other,  W::Type,   W::Package,      W::Sequence,    W::Schema,    W::Body,
-                    W::Key,    W::Block,  W::Option,       W::Only,        W::Offset,    W::Output,
-                    W::Start,  W::Undo,   W::Window,       W::Ignore,      W::Immediate, W::Returns,
-                    W::Change, W::Rename, W::Materialized, W::Concurrently});
+    return IsOneOf(word, {W::Other,        W::Type,         W::Package, W::Sequence, W::Schema,
+                          W::Body,         W::Key,          W::Block,   W::Option,   W::Only,
+                          W::Offset,       W::Output,       W::Start,   W::Undo,     W::Window,
+                          W::Ignore,       W::Immediate,    W::Returns, W::Change,   W::Rename,
+                          W::Materialized, W::Concurrently, W::Analyze, W::Comment,  W::Copy,
+                          W::Describe,     W::Freeze,       W::Vacuum,  W::Verbose});
 }
 
 } // namespace completion

@@ -5,7 +5,10 @@
 #include "completion/Utf8Text.h"
 #include "completion/WrittenName.h"
 
+#include <QSet>
+
 #include <algorithm>
+#include <array>
 #include <tuple>
 
 namespace completion {
@@ -19,9 +22,11 @@ constexpr std::size_t kMostWords = 400;
 // Among what fits equally well. Columns stand in the order of their table.
 enum Rank : int
 {
+    BeforeAll = -1,
     First,
     Second = 10000,
     Third = 20000,
+    Fourth = 30000,
     Fifth = 40000,
     Last = 90000,
 };
@@ -76,15 +81,128 @@ bool ComesFirst(std::string_view one, std::string_view other)
         [&](char left, char right) { return lower(left) < lower(right); });
 }
 
+// The words that may stand where a table is wanted, in lower case between blanks, by the word in
+// front of them. What stands in no row has those of FROM.
+struct Standing
+{
+    NameWord behind;
+    QLatin1String words;
+};
+constexpr QLatin1String kBehindFrom(
+    " dual deleted final generate_series inserted json_table lateral only opendatasource openjson "
+    "openquery openrowset openxml string_split table unnest xmltable ");
+constexpr std::array kStanding = {
+    Standing{NameWord::Analyze, QLatin1String(" freeze full local no_write_to_binlog only table "
+                                              "verbose ")},
+    Standing{NameWord::Describe, QLatin1String(" analyze delete extended format insert replace "
+                                               "select update ")},
+    Standing{NameWord::If, QLatin1String(" exists not ")},
+    Standing{NameWord::Insert, QLatin1String(" all delayed first high_priority ignore into "
+                                             "low_priority or overwrite top ")},
+    Standing{NameWord::Into, QLatin1String(" table ")},
+    Standing{NameWord::Merge, QLatin1String(" into top ")},
+    Standing{NameWord::On,
+             QLatin1String(" all database directory domain foreign function language large only "
+                           "package procedure routine schema sequence table tablespace type ")},
+    Standing{NameWord::Or, QLatin1String(" abort fail ignore replace rollback ")},
+    Standing{NameWord::Replace, QLatin1String(" delayed into low_priority ")},
+    Standing{NameWord::Table, QLatin1String(" if only ")},
+    Standing{NameWord::Truncate, QLatin1String(" only table ")},
+    Standing{NameWord::Update, QLatin1String(" ignore low_priority only or statistics top ")},
+    Standing{NameWord::Vacuum, QLatin1String(" analyze freeze full verbose ")},
+    Standing{NameWord::View, QLatin1String(" if ")},
+};
+
+bool StandsForTable(const QString& word, NameWord behind)
+{
+    const auto* row =
+        std::find_if(kStanding.begin(), kStanding.end(),
+                     [behind](const Standing& each) { return each.behind == behind; });
+    const QLatin1String words = row != kStanding.end() ? row->words : kBehindFrom;
+    return words.contains(u' ' + word + u' ', Qt::CaseInsensitive);
+}
+
+// The words that statements begin with, in blocks too, in lower case between blanks. Those that a
+// language does not know are not proposed.
+constexpr QLatin1String kBeginStatements(
+    " abort alter analyze assert associate attach audit backup begin bulk call case change "
+    "checkpoint close cluster comment commit connect continue copy create cursor dbcc deallocate "
+    "declare delete deny desc describe detach disable disassociate discard disconnect do drop else "
+    "elseif elsif enable end exception exec execute exit explain export fetch flashback flush for "
+    "forall foreach get go goto grant handler help if import insert install iterate kill leave "
+    "listen load lock loop merge move noaudit notify null open optimize pragma prepare print "
+    "procedure purge raise raiserror readtext reassign reconfigure recover refresh reindex release "
+    "rename repair repeat replace reset resignal restore return revert revoke rollback save "
+    "savepoint select set setuser show shutdown signal start stop suspend table throw truncate "
+    "unlisten unlock update updatetext upsert use vacuum values waitfor when while with writetext "
+    "xa ");
+
+bool BeginsStatements(const LanguageWord& word)
+{
+    return word.kind == ProposalKind::Keyword &&
+           kBeginStatements.contains(u' ' + word.text + u' ', Qt::CaseInsensitive);
+}
+
+bool IsQuotedAt(const ScriptIndex& index, const ScriptIndex::Read& read, long position)
+{
+    std::u16string unit;
+    if (position < index.Size()) // the text may have been cut since it was read
+        read(position, position + 1, unit);
+    return !unit.empty() && (unit[0] == u'"' || unit[0] == u'[' || unit[0] == u'`');
+}
+
+// An object of an index that may be meant.
+struct Fitting
+{
+    int match;
+    int rank;
+    std::string_view name;
+    ScriptIndex::Object object;
+};
+
 // So many, in no order.
-template <typename Fitting, typename IsBetter>
-void KeepBest(std::vector<Fitting>& fitting, std::size_t most, IsBetter isBetter)
+template <typename Found, typename IsBetter>
+void KeepBest(std::vector<Found>& fitting, std::size_t most, IsBetter isBetter)
 {
     if (fitting.size() <= most)
         return;
     std::nth_element(fitting.begin(), fitting.begin() + static_cast<std::ptrdiff_t>(most),
                      fitting.end(), isBetter);
     fitting.resize(most);
+}
+
+// The best objects, each name once for a kind of proposal. Many may fit the first letters: only
+// these become proposals.
+template <typename RankOf> // int(const ScriptIndex::Object&), below 0: it is not wanted
+std::vector<Fitting> FittingObjects(const ScriptIndex& index, const QString& typed, RankOf rankOf)
+{
+    std::vector<Fitting> fitting;
+    std::vector<std::uint32_t> known; // by name, a bit for each kind
+    const QByteArray bytes = typed.toUtf8();
+    const Typed wanted(std::string_view(bytes.data(), static_cast<std::size_t>(bytes.size())));
+    index.ForEachObject([&](const ScriptIndex::Object& object) {
+        const int rank = rankOf(object);
+        if (rank < 0)
+            return true;
+        if (object.name >= known.size())
+            known.resize(std::max<std::size_t>(object.name + 1, known.size() * 2));
+        const std::uint32_t bit = 1U << static_cast<unsigned>(KindOf(object.kind));
+        if (known[object.name] & bit)
+            return true;
+        known[object.name] |= bit;
+        const std::string_view name = index.Words().Text(object.name);
+        const Match match = index.Words().MatchOf(object.name, wanted);
+        // What is a use of one letter is an alias more often than a table.
+        if (match != Match::None && (object.kind < NameKind::TableUse || name.size() > 1))
+            fitting.push_back({Weight(match), rank, name, object});
+        return true;
+    });
+    KeepBest(fitting, kMostObjects, [](const Fitting& one, const Fitting& other) {
+        return std::tie(one.match, one.rank) != std::tie(other.match, other.rank)
+                   ? std::tie(one.match, one.rank) < std::tie(other.match, other.rank)
+                   : ComesFirst(one.name, other.name);
+    });
+    return fitting;
 }
 
 } // namespace
@@ -108,6 +226,7 @@ void ScriptSource::Propose(const ProposalQuery& query, std::vector<Proposal>& pr
         if (ProposeQualified(query, proposals))
             return;
         ProposeObjects(query, proposals);
+        ProposeOthers(query, proposals);
         if (!query.typed.isEmpty())
             ProposeWords(query, true, proposals);
         return;
@@ -117,24 +236,29 @@ void ScriptSource::Propose(const ProposalQuery& query, std::vector<Proposal>& pr
         if (query.place == Place::Anywhere)
             ProposeColumns(proposals);
         ProposeObjects(query, proposals);
+        ProposeOthers(query, proposals);
     }
-    const bool takesKeywords = !FitsTable(query, proposals);
+    const bool takesKeywords = TakesKeywords(query, proposals);
     if (m_context.quote.isNull()) // what stands in quotes is a name
         ProposeLanguage(query, takesKeywords, proposals);
     if (!query.typed.isEmpty())
         ProposeWords(query, takesKeywords, proposals);
 }
 
-// Where a table is wanted and one of the script's begins with what is typed, ORDER and its like are
-// not meant, however well they fit.
-bool ScriptSource::FitsTable(const ProposalQuery& query, const std::vector<Proposal>& proposals)
+// Where a table is wanted ORDER and its like are not meant, however well they fit. A person who
+// asks where no table fits gets what there is.
+bool ScriptSource::TakesKeywords(const ProposalQuery& query, const std::vector<Proposal>& proposals)
 {
-    return query.place == Place::Table && !query.typed.isEmpty() &&
-           std::any_of(proposals.begin(), proposals.end(), [&](const Proposal& each) {
-               return (each.kind == ProposalKind::Table || each.kind == ProposalKind::View ||
-                       each.kind == ProposalKind::Cte) &&
-                      each.Compared().startsWith(query.typed, Qt::CaseInsensitive);
-           });
+    if (query.place != Place::Table || !query.isAsked)
+        return query.place != Place::Table;
+    const QByteArray bytes = query.typed.toUtf8();
+    const Typed typed(std::string_view(bytes.data(), static_cast<std::size_t>(bytes.size())));
+    return std::none_of(proposals.begin(), proposals.end(), [&](const Proposal& each) {
+        const QByteArray name = each.Compared().toUtf8();
+        return (each.kind == ProposalKind::Table || each.kind == ProposalKind::View ||
+                each.kind == ProposalKind::Cte) &&
+               typed.Of({name.data(), static_cast<std::size_t>(name.size())}) != Match::None;
+    });
 }
 
 // What had quotes where it was given keeps them if it says something else without.
@@ -170,7 +294,7 @@ void ScriptSource::AddColumns(const std::vector<Column>& columns, int& rank,
 
 void ScriptSource::ProposeColumns(std::vector<Proposal>& proposals) const
 {
-    TableColumns columns(m_index, m_read, m_context);
+    TableColumns columns(m_index, m_read, m_context, m_others);
     columns.LookAhead();
     int rank = Rank::First;
     for (const ScopedTable& table : m_context.tables) {
@@ -185,13 +309,14 @@ void ScriptSource::ProposeColumns(std::vector<Proposal>& proposals) const
 bool ScriptSource::ProposeQualified(const ProposalQuery& query,
                                     std::vector<Proposal>& proposals) const
 {
-    const TableColumns columns(m_index, m_read, m_context);
+    TableColumns columns(m_index, m_read, m_context, m_others);
     const QString& qualifier = query.qualifier.back();
     const std::size_t before = proposals.size();
     int rank = Rank::First;
     const auto table =
         std::find_if(m_context.tables.begin(), m_context.tables.end(),
                      [&](const ScopedTable& each) { return IsSame(each.alias, qualifier); });
+    columns.LookAhead({table != m_context.tables.end() ? table->name : qualifier});
     AddColumns(table != m_context.tables.end() ? columns.Of(*table) : columns.Of(qualifier), rank,
                proposals);
     return proposals.size() > before;
@@ -213,59 +338,52 @@ void ScriptSource::ProposeLocals(const ProposalQuery& query, std::vector<Proposa
     }
 }
 
-// Many names may fit the first letters: only the best become proposals.
 void ScriptSource::ProposeObjects(const ProposalQuery& query,
                                   std::vector<Proposal>& proposals) const
 {
-    struct Fitting
-    {
-        int match;
-        int rank;
-        std::string_view name;
-        ScriptIndex::Object object;
+    const auto rankOf = [&](const ScriptIndex::Object& object) -> int {
+        if (object.position == query.start || object.kind == NameKind::Index)
+            return -1; // what is being typed
+        if (query.place == Place::Table)
+            return IsTable(object.kind) ? Rank::Second : Rank::Fifth;
+        if (query.place == Place::Routine)
+            return IsRoutine(object.kind) ? Rank::First : Rank::Fifth;
+        return Rank::Third;
     };
-    std::vector<Fitting> fitting;
-    std::vector<std::uint32_t> known; // by name, a bit for each kind
-    const QByteArray bytes = query.typed.toUtf8();
-    const Typed typed(std::string_view(bytes.data(), static_cast<std::size_t>(bytes.size())));
-    m_index.ForEachObject([&](const ScriptIndex::Object& object) {
-        if (object.position == query.start)
-            return true; // what is being typed
-        if (object.name >= known.size())
-            known.resize(std::max<std::size_t>(object.name + 1, known.size() * 2));
-        const std::uint32_t bit = 1U << static_cast<unsigned>(KindOf(object.kind));
-        if (known[object.name] & bit)
-            return true;
-        known[object.name] |= bit;
-        const std::string_view name = m_index.Words().Text(object.name);
-        const Match match = m_index.Words().MatchOf(object.name, typed);
-        // What is a use of one letter is an alias more often than a table.
-        if (match == Match::None || object.kind == NameKind::Index ||
-            (object.kind >= NameKind::TableUse && name.size() < 2))
-            return true;
-        const int rank =
-            query.place == Place::Table     ? (IsTable(object.kind) ? Rank::Second : Rank::Fifth)
-            : query.place == Place::Routine ? (IsRoutine(object.kind) ? Rank::First : Rank::Fifth)
-                                            : Rank::Third;
-        fitting.push_back({Weight(match), rank, name, object});
-        return true;
-    });
-    KeepBest(fitting, kMostObjects, [](const Fitting& one, const Fitting& other) {
-        return std::tie(one.match, one.rank) != std::tie(other.match, other.rank)
-                   ? std::tie(one.match, one.rank) < std::tie(other.match, other.rank)
-                   : ComesFirst(one.name, other.name);
-    });
-    for (const Fitting& each : fitting)
+    for (const Fitting& each : FittingObjects(m_index, query.typed, rankOf))
         proposals.push_back(Named(KindOf(each.object.kind), ToText(each.name), each.rank, {},
-                                  IsQuotedAt(each.object.position)));
+                                  IsQuotedAt(m_index, m_read, each.object.position)));
 }
 
-bool ScriptSource::IsQuotedAt(long position) const
+// Behind what the script has itself, and no name of it twice.
+void ScriptSource::ProposeOthers(const ProposalQuery& query, std::vector<Proposal>& proposals) const
 {
-    std::u16string unit;
-    if (position < m_index.Size()) // the text may have been cut since it was read
-        m_read(position, position + 1, unit);
-    return !unit.empty() && (unit[0] == u'"' || unit[0] == u'[' || unit[0] == u'`');
+    if (m_others.empty())
+        return;
+    QSet<QString> known;
+    for (const Proposal& each : proposals)
+        known.insert(each.Compared().toCaseFolded());
+    const auto rankOf = [&](const ScriptIndex::Object& object) -> int {
+        const bool isTable = object.kind == NameKind::Table || object.kind == NameKind::View;
+        const bool isRoutine =
+            object.kind == NameKind::Procedure || object.kind == NameKind::Function;
+        if (query.place == Place::Table)
+            return isTable ? Rank::Second + 1 : -1;
+        if (query.place == Place::Routine)
+            return isRoutine ? Rank::First + 1 : -1;
+        return isTable || isRoutine ? Rank::Fourth : -1;
+    };
+    for (const OtherText& other : m_others) {
+        for (const Fitting& each : FittingObjects(*other.index, query.typed, rankOf)) {
+            const QString name = ToText(each.name);
+            const QString key = name.toCaseFolded();
+            if (known.contains(key))
+                continue;
+            known.insert(key);
+            proposals.push_back(Named(KindOf(each.object.kind), name, each.rank, other.name,
+                                      IsQuotedAt(*other.index, other.read, each.object.position)));
+        }
+    }
 }
 
 // In the case that the person types in.
@@ -276,10 +394,13 @@ void ScriptSource::ProposeLanguage(const ProposalQuery& query, bool takesKeyword
                            query.typed == query.typed.toUpper();
     const bool isScript = m_index.Dialect() != nullptr;
     for (const LanguageWord& word : m_words) {
-        if (!takesKeywords && word.kind == ProposalKind::Keyword)
-            continue;
         const bool isTable = word.kind == ProposalKind::System;
-        const int rank = query.place == Place::Table ? (isTable ? Rank::Third : Rank::Fifth)
+        const bool mayStand = isTable ? word.text.startsWith(query.typed, Qt::CaseInsensitive)
+                                      : StandsForTable(word.text, m_context.behind);
+        if (!takesKeywords && !mayStand)
+            continue;
+        const int rank = m_context.beginsStatement && BeginsStatements(word) ? Rank::BeforeAll
+                         : query.place == Place::Table ? (isTable ? Rank::Third : Rank::Fifth)
                          : query.place == Place::Routine
                              ? (word.kind == ProposalKind::Procedure ? Rank::Second : Rank::Fifth)
                          : isTable ? Rank::Fifth

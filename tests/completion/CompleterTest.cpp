@@ -9,9 +9,11 @@
 #include <QAbstractScrollArea>
 #include <QAccessible>
 #include <QApplication>
+#include <QElapsedTimer>
 #include <QLabel>
 #include <QListView>
 #include <QPointer>
+#include <QSignalSpy>
 #include <QTest>
 #include <QVBoxLayout>
 
@@ -104,6 +106,21 @@ public:
 };
 
 } // namespace
+
+// Whichever came first to the editor: its gestures look at Enter, too.
+TEST_F(CompleterTest, TakesEnterBeforeTheGesturesOfTheEditor)
+{
+    Show(QStringLiteral("sel|"));
+    Press(Qt::Key_Space, Qt::ControlModifier);
+    Press(Qt::Key_Escape);
+    m_editor.setScheme(QStringLiteral("Light")); // behind completion
+    m_editor.control().SetAutoIndent(1);
+    Show(QStringLiteral("select customer_name from t;\n    cus|"));
+    Press(Qt::Key_Space, Qt::ControlModifier);
+    ASSERT_TRUE(IsOpen());
+    Press(Qt::Key_Return);
+    EXPECT_EQ(m_editor.text(), QStringLiteral("select customer_name from t;\n    customer_name"));
+}
 
 TEST_F(CompleterTest, OpensOnControlAndSpaceAndPutsTheChosenWordIn)
 {
@@ -201,6 +218,24 @@ TEST_F(CompleterTest, LeavesEnterToTheEditorInAListThatTypingOpened)
     Press(Qt::Key_Space, Qt::ControlModifier);
     Press(Qt::Key_Down);
     ASSERT_TRUE(IsOpen());
+}
+
+TEST_F(CompleterTest, TellsWhichKeyTakesARowOfAListThatTypingOpened)
+{
+    m_editor.setCompletesWhileTyping(true);
+    Show(QStringLiteral("select customer_name from t; select |"));
+    Type("cus");
+    ASSERT_TRUE(IsOpen());
+    const auto* keys = List()->parentWidget()->findChild<QLabel*>();
+    EXPECT_TRUE(keys->isVisible());
+    EXPECT_EQ(keys->text(), QStringLiteral("Tab takes the first row"));
+    EXPECT_GE(keys->height(), keys->sizeHint().height());
+    EXPECT_GE(List()->height(), List()->sizeHintForRow(0));
+    Press(Qt::Key_Down);
+    EXPECT_EQ(keys->text(), QStringLiteral("Tab or Enter takes the row"));
+    Press(Qt::Key_Escape);
+    Press(Qt::Key_Space, Qt::ControlModifier);
+    EXPECT_TRUE(keys->isHidden());
 }
 
 TEST_F(CompleterTest, StaysAwayFromNamesThatAreGivenFromCommentsAndFromStrings)
@@ -383,12 +418,215 @@ TEST_F(CompleterTest, LeavesNoStepOpenWhereItsEditorGoesMeanwhile)
     }
 }
 
+TEST_F(CompleterTest, ReadsTheOtherScriptsAndProposesTheirTables)
+{
+    ZNCoreEditorWidget beside;
+    beside.setLanguage(kTransactSql);
+    beside.setText(QStringLiteral("create table sales_order (id int, amount money)"));
+    m_editor.completer()->SetOtherScripts([&beside] {
+        return std::vector<completion::OtherScript>{
+            {beside.findChild<completion::LiveIndex*>(), QStringLiteral("schema.sql")}};
+    });
+    m_editor.setCompletesWhileTyping(true);
+    Show(QStringLiteral("select o.| from sales_order o"));
+    Press(Qt::Key_Space, Qt::ControlModifier);
+    EXPECT_TRUE(QTest::qWaitFor([this] {
+        Press(Qt::Key_Space, Qt::ControlModifier);
+        return Rows() == QStringList({QStringLiteral("id"), QStringLiteral("amount")});
+    })) << Rows().join(u' ').toStdString();
+    Show(QStringLiteral("select * from |"));
+    Type("sal");
+    ASSERT_TRUE(IsOpen());
+    EXPECT_EQ(Rows().join(u' ').toStdString(), "sales_order");
+    EXPECT_EQ(List()->model()->index(0, 0).data(Qt::AccessibleTextRole).toString(),
+              QStringLiteral("sales_order, table, schema.sql"));
+    m_editor.completer()->SetOtherScripts({});
+}
+
+TEST_F(CompleterTest, ReadsTheOtherScriptsOneByOneTheShortestFirst)
+{
+    ZNCoreEditorWidget dump;
+    ZNCoreEditorWidget schema;
+    dump.setLanguage(kTransactSql);
+    schema.setLanguage(kTransactSql);
+    dump.setText(QStringLiteral("insert into t values (1);\n").repeated(20000));
+    schema.setText(QStringLiteral("create table t (id int)"));
+    auto* first = schema.findChild<completion::LiveIndex*>();
+    auto* second = dump.findChild<completion::LiveIndex*>();
+    m_editor.completer()->SetOtherScripts([=] {
+        return std::vector<completion::OtherScript>{{second, QString()}, {first, QString()}};
+    });
+    bool wasAlone = false;
+    QObject::connect(first, &completion::LiveIndex::Finished, &m_editor,
+                     [&] { wasAlone = second->Known() == nullptr; });
+    Show(QStringLiteral("select * from |"));
+    Press(Qt::Key_Space, Qt::ControlModifier);
+    EXPECT_TRUE(QTest::qWaitFor([=] { return first->IsDone() && second->IsDone(); }));
+    EXPECT_TRUE(wasAlone);
+    m_editor.completer()->SetOtherScripts({});
+}
+
+TEST_F(CompleterTest, OpensTheListOnceTheOtherScriptHasWhatWasTyped)
+{
+    m_editor.setCompletesWhileTyping(true);
+    for (const int anchor : {-1, 0, 3}) { // -1: the caret stays
+        const bool stays = anchor < 0;
+        ZNCoreEditorWidget beside;
+        beside.setLanguage(kTransactSql);
+        beside.setText(QStringLiteral("insert into t values (1);\n").repeated(20000) +
+                       QStringLiteral("create table zz_order (id int)"));
+        auto* index = beside.findChild<completion::LiveIndex*>();
+        m_editor.completer()->SetOtherScripts([index] {
+            return std::vector<completion::OtherScript>{{index, QString()}};
+        });
+        Show(QStringLiteral("select * from |"));
+        Type("zz_");
+        if (!stays)
+            m_editor.control().SetSel(anchor, anchor > 0 ? m_editor.cursorPosition() : 0, 1);
+        EXPECT_TRUE(QTest::qWaitFor([&] { return index->IsDone() && IsOpen() == stays; }));
+        EXPECT_EQ(Rows(), QStringList(QStringLiteral("zz_order"))); // a closed list keeps its rows
+        m_editor.completer()->SetOtherScripts({});
+    }
+}
+
+TEST_F(CompleterTest, FillsAnOpenListOnceAnotherScriptIsRead)
+{
+    ZNCoreEditorWidget beside;
+    beside.setLanguage(kTransactSql);
+    beside.setText(QStringLiteral("create table sales_order (id int)"));
+    m_editor.completer()->SetOtherScripts([&beside] {
+        return std::vector<completion::OtherScript>{
+            {beside.findChild<completion::LiveIndex*>(), QStringLiteral("schema.sql")}};
+    });
+    Show(QStringLiteral("create table sales_old (id int); select * from sa|"));
+    Press(Qt::Key_Space, Qt::ControlModifier);
+    EXPECT_TRUE(QTest::qWaitFor([this] {
+        return Rows().mid(0, 2) ==
+               QStringList({QStringLiteral("sales_old"), QStringLiteral("sales_order")});
+    })) << Rows().join(u' ').toStdString();
+    m_editor.completer()->SetOtherScripts({});
+}
+
+// Time alone tells: what is read in one go is not read before keys have rested.
+TEST_F(CompleterTest, PutsOffTheOtherScriptsWhileSomebodyTypes)
+{
+    constexpr qint64 kLeast = 35; // milliseconds, of 40 and what a timer may be early by
+    ZNCoreEditorWidget beside;
+    beside.setLanguage(kTransactSql);
+    beside.setText(QStringLiteral("create table t (id int)"));
+    auto* index = beside.findChild<completion::LiveIndex*>();
+    m_editor.completer()->SetOtherScripts([=] {
+        return std::vector<completion::OtherScript>{{index, QString()}};
+    });
+    m_editor.setCompletesWhileTyping(true);
+    Show(QStringLiteral("select 1 -- |"));
+    QElapsedTimer since;
+    qint64 waited = -1;
+    QObject::connect(index, &completion::LiveIndex::Finished, &m_editor,
+                     [&] { waited = since.elapsed(); });
+    since.start();
+    Type("x");
+    EXPECT_TRUE(QTest::qWaitFor([&] { return waited >= 0; }));
+    EXPECT_GE(waited, kLeast);
+    m_editor.completer()->SetOtherScripts({});
+}
+
+TEST_F(CompleterTest, ReadsNoOtherScriptsForKeysThatOpenNoList)
+{
+    ZNCoreEditorWidget beside;
+    ZNCoreEditorWidget probe;
+    for (ZNCoreEditorWidget* each : {&beside, &probe}) {
+        each->setLanguage(kTransactSql);
+        each->setText(QStringLiteral("create table t (id int)"));
+    }
+    auto* index = beside.findChild<completion::LiveIndex*>();
+    auto* read = probe.findChild<completion::LiveIndex*>();
+    m_editor.completer()->SetOtherScripts([=] {
+        return std::vector<completion::OtherScript>{{index, QString()}};
+    });
+    Show(QStringLiteral("select 1|"));
+    index->Defer(); // of what is not read at all
+    for (const bool opens : {false, true}) {
+        m_editor.setCompletesWhileTyping(opens);
+        if (opens)
+            Press(Qt::Key_Left);
+        else
+            Type("x");
+        // Begun later, and put off as long, it comes later.
+        read->Start();
+        read->Defer();
+        QSignalSpy finished(read, &completion::LiveIndex::Finished);
+        ASSERT_TRUE(finished.wait());
+        EXPECT_EQ(index->Known(), nullptr) << opens;
+    }
+    m_editor.completer()->SetOtherScripts({});
+}
+
+TEST_F(CompleterTest, LeavesScriptsInNoSqlAlone)
+{
+    ZNCoreEditorWidget other;
+    ZNCoreEditorWidget sql;
+    other.setLanguageName(QStringLiteral("C++"));
+    ASSERT_NE(other.language(), kTransactSql);
+    other.setText(QStringLiteral("zz_c"));
+    sql.setLanguage(kTransactSql);
+    sql.setText(QStringLiteral("create table zz_sql (id int)"));
+    auto* first = other.findChild<completion::LiveIndex*>();
+    auto* second = sql.findChild<completion::LiveIndex*>();
+    m_editor.completer()->SetOtherScripts([=] {
+        return std::vector<completion::OtherScript>{{first, QString()}, {second, QString()}};
+    });
+    Show(QStringLiteral("select * from |"));
+    Press(Qt::Key_Space, Qt::ControlModifier);
+    ASSERT_TRUE(QTest::qWaitFor([=] { return second->IsDone(); }));
+    EXPECT_EQ(first->Known(), nullptr);
+    m_editor.completer()->SetOtherScripts({});
+}
+
+TEST_F(CompleterTest, ReadsAllOtherScriptsThoughTheListIsClosed)
+{
+    ZNCoreEditorWidget one;
+    ZNCoreEditorWidget two;
+    std::vector<completion::OtherScript> others;
+    for (ZNCoreEditorWidget* each : {&one, &two}) {
+        each->setLanguage(kTransactSql);
+        each->setText(QStringLiteral("create table t (id int)"));
+        others.push_back({each->findChild<completion::LiveIndex*>(), QString()});
+    }
+    m_editor.completer()->SetOtherScripts([=] { return others; });
+    Show(QStringLiteral("select * from |"));
+    QTest::keyClick(&Window(), Qt::Key_Space, Qt::ControlModifier);
+    m_editor.completer()->Close();
+    EXPECT_TRUE(
+        QTest::qWaitFor([&] { return others[0].index->IsDone() && others[1].index->IsDone(); }));
+    EXPECT_FALSE(IsOpen());
+    m_editor.completer()->SetOtherScripts({});
+}
+
+TEST_F(CompleterTest, ReadsAScriptAnewWhoseLanguageHasChanged)
+{
+    ZNCoreEditorWidget beside;
+    beside.setLanguage(kTransactSql);
+    beside.setText(QStringLiteral("create table t (id int)"));
+    auto* index = beside.findChild<completion::LiveIndex*>();
+    index->Start();
+    ASSERT_TRUE(QTest::qWaitFor([=] { return index->IsDone(); }));
+    beside.setLanguageName(QStringLiteral("PostgreSQL"));
+    ASSERT_TRUE(index->Known());
+    EXPECT_FALSE(index->IsDone());
+    EXPECT_TRUE(QTest::qWaitFor([=] { return index->IsDone(); }));
+}
+
 TEST_F(CompleterTest, TypesOverNothing)
 {
     Show(QStringLiteral("customer_name cus| = 1"));
-    m_editor.control().SetOvertype(1, 1);
+    m_editor.setOverwriteMode(true);
+    QApplication::processEvents();
+    const QSignalSpy modes(&m_editor, &ZNCoreEditorWidget::overwriteModeChanged);
     Press(Qt::Key_Space, Qt::ControlModifier);
     Press(Qt::Key_Tab);
+    QApplication::processEvents();
+    EXPECT_EQ(modes.count(), 0);
     EXPECT_EQ(m_editor.text(), QStringLiteral("customer_name customer_name = 1"));
     EXPECT_TRUE(m_editor.control().GetOvertype(1));
 }

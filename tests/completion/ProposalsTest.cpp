@@ -5,6 +5,8 @@
 
 #include <gtest/gtest.h>
 
+#include <memory>
+
 using namespace completion;
 
 namespace {
@@ -21,17 +23,41 @@ public:
         m_text.Finish();
         m_source.SetLanguage({{QStringLiteral("select")},
                               {QStringLiteral("order")},
+                              {QStringLiteral("lateral")},
+                              {QStringLiteral("into")},
+                              {QStringLiteral("insensitive")},
+                              {QStringLiteral("insert")},
+                              {QStringLiteral("comments")},
+                              {QStringLiteral("commit")},
+                              {QStringLiteral("rowset")},
+                              {QStringLiteral("sysorders"), ProposalKind::System},
                               {QStringLiteral("substring"), ProposalKind::Function}});
         m_source.SetContext(ContextAt(m_text.Index(), m_text.Reader(), m_caret));
     }
 
     const ProposalQuery& Query() const { return m_source.Context().query; }
+    Caret& Asked()
+    {
+        m_isAsked = true;
+        return *this;
+    }
+    // The script that is open beside, in a dialect of its own.
+    Caret& Beside(std::u16string script, const char* dialect = "postgresql")
+    {
+        m_beside = std::make_unique<IndexedText>(engine::analysis::DialectByName(dialect),
+                                                 std::move(script), 4096);
+        m_beside->Finish();
+        m_source.SetOthers({{&m_beside->Index(), m_beside->Reader(), QStringLiteral("beside")}});
+        return *this;
+    }
 
     std::vector<Proposal> Best()
     {
         std::vector<Proposal> proposals;
-        m_source.Propose(Query(), proposals);
-        return BestOf(std::move(proposals), Query().typed, 100);
+        ProposalQuery query = Query();
+        query.isAsked = m_isAsked;
+        m_source.Propose(query, proposals);
+        return BestOf(std::move(proposals), query.typed, 100);
     }
     QStringList Texts()
     {
@@ -49,7 +75,9 @@ public:
 private:
     long m_caret;
     IndexedText m_text;
+    std::unique_ptr<IndexedText> m_beside;
     ScriptSource m_source;
+    bool m_isAsked = false;
 };
 
 constexpr const char16_t* kTables = u"create table dbo.Orders (id int, [ordered at] date, customer "
@@ -76,18 +104,184 @@ TEST(Proposals, AreTablesFirstBehindFrom)
     EXPECT_EQ(caret.First(1), "Orders");
 }
 
+TEST(Proposals, AreNoPartsOfTheWordsThatMayStandForATable)
+{
+    EXPECT_EQ(Caret(u"select rows|").First(9), "rowset");
+    EXPECT_EQ(Caret(u"select * from rows|").First(9), ""); // it stands in "openrowset"
+}
+
+TEST(Proposals, AreATableAndARoutineOfOneName)
+{
+    Caret caret(u"create table pay (id int);\ngo\ncreate procedure pay as select 1;\ngo\npa|");
+    QStringList kinds;
+    for (const Proposal& each : caret.Asked().Best()) {
+        if (each.text == QStringLiteral("pay"))
+            kinds << QString::number(int(each.kind));
+    }
+    EXPECT_EQ(kinds.size(), 2);
+}
+
 TEST(Proposals, AreNoKeywordsWhereATableFits)
 {
     const std::u16string script = std::u16string(kTables) + u"select 1 from t Order by 1;\n";
     for (const char16_t* begun :
          {u"select * from ORDER|", u"select * from t a join order|", u"insert into order|",
           u"update order|", u"delete from Order|", u"SELECT * FROM ord|"}) {
-        Caret caret(script + begun);
-        EXPECT_EQ(caret.First(1), "Orders") << QString::fromUtf16(begun).toStdString();
-        EXPECT_FALSE(caret.Texts().contains(QStringLiteral("order"), Qt::CaseInsensitive));
+        for (const bool isAsked : {false, true}) {
+            Caret caret(script + begun);
+            if (isAsked)
+                caret.Asked();
+            EXPECT_EQ(caret.First(1), "Orders") << QString::fromUtf16(begun).toStdString();
+            EXPECT_FALSE(caret.Texts().contains(QStringLiteral("order"), Qt::CaseInsensitive));
+        }
     }
     EXPECT_TRUE(Caret(script + u"select * from t ord|").Texts().contains("order"));
-    EXPECT_EQ(Caret(u"select * from ord|").First(1), "order");
+}
+
+TEST(Proposals, AreTablesFirstWhereverATableIsNamed)
+{
+    const std::u16string script = std::u16string(kTables) + u"select 1 from t Order by 1;\n";
+    for (const char16_t* begun : {u"create table a (id int references or|",
+                                  u"create table a (id int, b int constraint c references or|",
+                                  u"create table a (like or|",
+                                  u"create table a (id int, foreign key (id) references or|",
+                                  u"alter table t add constraint c foreign key (id) references or|",
+                                  u"alter table t add id int references or|",
+                                  u"comment on table or|",
+                                  u"comment on column or|",
+                                  u"comment on view or|",
+                                  u"create index i on or|",
+                                  u"create unique index if not exists i on only or|",
+                                  u"create index on or|",
+                                  u"drop index i on or|",
+                                  u"create trigger i after insert or update on or|",
+                                  u"grant select, insert on or|",
+                                  u"grant select on table or|",
+                                  u"revoke all on or|",
+                                  u"truncate or|",
+                                  u"truncate table or|",
+                                  u"drop table a, or|",
+                                  u"alter table or|",
+                                  u"lock table or|",
+                                  u"optimize table or|",
+                                  u"vacuum or|",
+                                  u"vacuum full or|",
+                                  u"analyze or|",
+                                  u"vacuum analyze or|",
+                                  u"copy or|",
+                                  u"describe or|",
+                                  u"merge into t using or|",
+                                  u"select * from t left join or|"}) {
+        Caret caret(script + begun, "postgresql");
+        EXPECT_EQ(caret.First(1), "Orders") << QString::fromUtf16(begun).toStdString();
+        EXPECT_FALSE(caret.Texts().contains(QStringLiteral("order"), Qt::CaseInsensitive))
+            << QString::fromUtf16(begun).toStdString();
+    }
+    for (const char16_t* begun :
+         {u"select * from t a join u b on or|", u"create table a (id int) on or|",
+          u"create table a (id int references t or|", u"grant execute on or|",
+          u"create trigger i on t as select 1 from t join u on or|", u"comment or|",
+          u"select analyze or|", u"create index i on t (id) where or|"})
+        EXPECT_TRUE(Caret(script + begun).Texts().contains("order"))
+            << QString::fromUtf16(begun).toStdString();
+}
+
+TEST(Proposals, AreTheColumnsOfATableThatIsNamed)
+{
+    EXPECT_EQ(Caret(std::u16string(kTables) + u"create index i on customers (|").First(2),
+              "id name");
+    EXPECT_EQ(Caret(std::u16string(kTables) + u"comment on column customers.|").First(9),
+              "id name");
+}
+
+TEST(Proposals, AreNoKeywordsWhereATableIsWantedUnlessSomebodyAsks)
+{
+    EXPECT_EQ(Caret(u"select * from ord|").First(9), "");
+    EXPECT_EQ(Caret(u"select * from syso|").First(9), "sysorders");
+    EXPECT_EQ(Caret(u"select * from t join sel|").First(9), "");
+    EXPECT_EQ(Caret(u"select * from sub|").First(9), "");
+    EXPECT_EQ(Caret(u"select * from ord|").Asked().First(9), "order sysorders");
+    EXPECT_EQ(Caret(std::u16string(kTables) + u"select * from ers|").Asked().First(9),
+              "customers Orders");
+}
+
+TEST(Proposals, AreTheKeywordsThatMayStandInFrontOfATable)
+{
+    EXPECT_EQ(Caret(u"select * from t, LAT|").First(9), "LATERAL");
+    EXPECT_EQ(Caret(u"select * from int|").First(9), "");
+    EXPECT_EQ(Caret(u"insert int|").First(9), "into");
+    EXPECT_EQ(Caret(u"insert lat|").First(9), "");
+    EXPECT_EQ(Caret(u"select * from (sel|").First(1), "select");
+}
+
+TEST(Proposals, AreTheWordsThatBeginStatementsFirstWhereOneBegins)
+{
+    for (const char16_t* begun :
+         {u"ins|", u"select 1;\n-- one\nIns|", u"begin ins|", u"if 1 = 1 begin ins|",
+          u"if a then ins|", u"select 1\nGO\nins|", u"create table insertions (id int);\nins|",
+          u"begin select case when a then 1 end; ins|",
+          u"merge into t using u on t.a = u.a when not matched then ins|"})
+        EXPECT_EQ(Caret(begun).First(1), "insert") << QString::fromUtf16(begun).toStdString();
+    EXPECT_EQ(Caret(u"create function f() returns int as $$ begin COM|", "postgresql").First(2),
+              "COMMIT COMMENTS");
+    for (const char16_t* within :
+         {u"select ins|", u"select case when a then ins|", u"declare c ins|", u"(ins|",
+          u"update t set a = case when b then ins|"})
+        EXPECT_EQ(Caret(within).First(2), "insensitive insert")
+            << QString::fromUtf16(within).toStdString();
+    QStringList declared = Caret(u"create procedure p is ins|", "oracle").Texts();
+    declared.removeAll(QStringLiteral("ins")); // the variable that it may be
+    EXPECT_EQ(declared.mid(0, 2).join(u' ').toStdString(), "insensitive insert");
+}
+
+TEST(Proposals, AreTheTablesOfOtherScriptsBehindTheScriptsOwn)
+{
+    const char16_t* beside = u"create table order_line (id int);\ncreate view ord_open as select "
+                             u"1 as x;\ncreate table orders (z int);\nselect * from ordinal;";
+    Caret caret(std::u16string(kTables) + u"select * from ord|");
+    EXPECT_EQ(caret.Beside(beside).First(9), "Orders ord_open order_line [ordered at]");
+    EXPECT_EQ(caret.Best()[1].kind, ProposalKind::View);
+    EXPECT_EQ(caret.Best()[2].description, QStringLiteral("beside"));
+    EXPECT_EQ(Caret(u"select * from t where ord|").Beside(beside).First(9),
+              "order ord_open order_line orders sysorders");
+}
+
+TEST(Proposals, AreTheRoutinesOfOtherScriptsBehindExec)
+{
+    EXPECT_EQ(Caret(u"exec pa|")
+                  .Beside(u"create procedure pay_all() as select 1;\ncreate table pages (id int);")
+                  .First(9),
+              "pay_all");
+}
+
+TEST(Proposals, AreTheColumnsOfTablesOfOtherScripts)
+{
+    const char16_t* beside = u"create table orders (id int, \"Total\" int);\n"
+                             u"alter table orders add paid bool;\n"
+                             u"create view v as select o.*, 1 as one from orders o;";
+    EXPECT_EQ(Caret(u"select o.| from orders o").Beside(beside).First(9), "id Total paid");
+    EXPECT_EQ(Caret(u"select x.| from v x").Beside(beside).First(9), "id Total paid one");
+    EXPECT_EQ(Caret(u"select to| from t, orders o").Beside(beside).First(1), "Total");
+    EXPECT_EQ(Caret(u"with c as (select * from orders) select c.| from c").Beside(beside).First(9),
+              "id Total paid");
+    EXPECT_EQ(Caret(u"insert into orders (id) values (1);\nselect o.| from orders o")
+                  .Beside(beside)
+                  .First(9),
+              "id Total paid");
+    EXPECT_EQ(Caret(u"select o.tot| from Orders o", "postgresql").Beside(beside).First(9),
+              "\"Total\"");
+}
+
+TEST(Proposals, AreTheColumnsOfTheScriptsOwnTableAlone)
+{
+    EXPECT_EQ(Caret(std::u16string(kTables) + u"select o.| from orders o")
+                  .Beside(u"create table orders (a int);")
+                  .First(9),
+              "id [ordered at] customer");
+    EXPECT_EQ(Caret(u"with orders as (select 1 as n) select o.| from orders o")
+                  .Beside(u"create table orders (a int);")
+                  .First(9),
+              "n");
 }
 
 TEST(Proposals, AreTheColumnsOfTheStatementBeforeKeywords)

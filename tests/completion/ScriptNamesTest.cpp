@@ -147,6 +147,14 @@ TEST(ScriptNames, AreNotThoseOfGrants)
               "trigger t1");
 }
 
+TEST(ScriptNames, AreNotTheTablesThatColumnsReferTo)
+{
+    EXPECT_EQ(Told(u"create table a (b int references s.t (x, y), comment int references t, copy "
+                   u"int references , c int);\nalter table a add d int references u (x), e int;"),
+              "table a, column a.b, column a.comment, column a.copy, column a.c, "
+              "alter a, column a.d, column a.e");
+}
+
 TEST(ScriptNames, StandWhereTheirQuotesBegin)
 {
     const auto names = NamesIn(u"-- \u00e9\U0001F600\nselect * from [A]]B] x", 1);

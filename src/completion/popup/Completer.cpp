@@ -65,6 +65,11 @@ void Completer::SetLanguage(std::vector<LanguageWord> words, Signatures signatur
     m_signatures = std::move(signatures);
 }
 
+void Completer::SetOtherScripts(std::function<std::vector<OtherScript>()> others)
+{
+    m_others = std::move(others);
+}
+
 void Completer::SetPrepare(std::function<void()> prepare)
 {
     m_prepare = std::move(prepare);
@@ -120,11 +125,80 @@ std::vector<Proposal> Completer::Ask(const CaretContext& context)
     ScriptSource script(m_index.Around(context.query.caret), m_index.Reader());
     script.SetLanguage(m_words);
     script.SetContext(context);
+    script.SetOthers(OtherTexts());
     std::vector<Proposal> proposals;
-    script.Propose(context.query, proposals);
     for (ProposalSource* source : m_sources)
         source->Propose(context.query, proposals);
+    script.Propose(context.query, proposals);
     return BestOf(std::move(proposals), context.query.typed, kMost);
+}
+
+std::vector<OtherScript> Completer::OtherScripts() const
+{
+    return m_others ? m_others() : std::vector<OtherScript>();
+}
+
+std::vector<OtherText> Completer::OtherTexts()
+{
+    std::vector<OtherScript> others = OtherScripts();
+    if (!IsReading())
+        ReadNextOf(others);
+    std::vector<OtherText> texts;
+    for (OtherScript& other : others) {
+        const ScriptIndex* known = other.index->Known();
+        if (known && known->Dialect())
+            texts.push_back({known, other.index->Reader(), std::move(other.name)});
+    }
+    return texts;
+}
+
+void Completer::ReadOthers()
+{
+    if (!IsReading())
+        ReadNextOf(OtherScripts());
+}
+
+// A key asks nothing of a hundred scripts while one of them is being read.
+bool Completer::IsReading() const
+{
+    const CZNCoreEditorControl* editor = m_reading ? m_reading->Editor() : nullptr;
+    return editor && editor->GetSafeHwnd() && m_reading->IsFollowing() && !m_reading->IsDone();
+}
+
+// The shortest first, so that a dump keeps nobody waiting, and the next one when it is done: a
+// hundred at a time would hold up keys.
+void Completer::ReadNextOf(const std::vector<OtherScript>& others)
+{
+    LiveIndex* next = nullptr;
+    long shortest = 0;
+    for (const OtherScript& other : others) {
+        if (other.index->IsDone())
+            continue;
+        CZNCoreEditorControl* editor = other.index->Editor();
+        if (!editor || !editor->GetSafeHwnd() || !DialectOf(*editor))
+            continue;
+        const long length = editor->GetLength(1);
+        if (!next || length < shortest) {
+            next = other.index;
+            shortest = length;
+        }
+    }
+    m_reading = next;
+    if (!next)
+        return;
+    connect(next, &LiveIndex::Finished, this, &Completer::OnOtherRead, Qt::UniqueConnection);
+    if (!next->IsFollowing())
+        next->Start();
+}
+
+void Completer::OnOtherRead()
+{
+    ReadOthers();
+    Refresh();
+    if (m_unanswered < 0 || IsOpen() || !MayOpen() || !m_window->hasFocus())
+        return;
+    if (m_control.GetCurrentPos(1) == m_unanswered && m_control.GetAnchor(1) == m_unanswered)
+        Fill(ContextAtCaret());
 }
 
 void Completer::Open()
@@ -161,6 +235,7 @@ void Completer::Fill(const CaretContext& context)
         std::any_of(proposals.begin(), proposals.end(), [&](const Proposal& each) {
             return each.Compared().compare(query.typed, Qt::CaseInsensitive) == 0;
         });
+    m_unanswered = proposals.empty() && !query.isAsked ? query.caret : -1;
     if (proposals.empty() || isComplete) {
         Close();
         return;
@@ -175,7 +250,7 @@ void Completer::Fill(const CaretContext& context)
             row = static_cast<int>(i);
     }
     list.SetColours(m_scheme ? m_scheme() : nullptr);
-    list.SetProposals(std::move(proposals), false);
+    list.SetProposals(std::move(proposals), !m_query.isAsked);
     list.ShowAt(LineAt(m_query.start));
     if (row >= 0)
         list.SetCurrent(row);
@@ -254,6 +329,11 @@ void Completer::Follow()
     const char32_t added = std::exchange(m_added, 0);
     if (!MayOpen())
         return;
+    if (added != 0 && m_opensAfter > 0) {
+        ReadOthers();
+        if (m_reading)
+            m_reading->Defer();
+    }
     FollowCall();
     if (m_showsCalls && (added == U'(' || added == U','))
         ShowCall();

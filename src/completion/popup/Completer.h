@@ -4,7 +4,8 @@
 ///
 /// Ctrl+Space opens the list, and Ctrl+Shift+Space. While it is open it takes Up, Down, Page Up,
 /// Page Down, Tab, Enter and Escape without modifiers, and no other key. A list that typing has
-/// opened has no current row: Enter goes to the editor until somebody walks into the list.
+/// opened has no current row: Tab takes the first one, and Enter goes to the editor until somebody
+/// walks into the list; it says so below its rows.
 #pragma once
 
 #include "completion/LanguageWords.h"
@@ -25,7 +26,15 @@ namespace completion {
 class CallTip;
 struct CaretContext;
 class LiveIndex;
+struct OtherText;
 class ProposalList;
+
+/// A script beside the one that is edited.
+struct OtherScript
+{
+    LiveIndex* index = nullptr; ///< of its text; not null
+    QString name;               ///< as its proposals are described
+};
 
 /// Goes before its control, or with the control's window. The index is that of the control's text
 /// and may be shared by the editors that show it. GUI thread.
@@ -44,6 +53,10 @@ public:
     void RemoveSource(ProposalSource& source); ///< it is not asked again
     /// What the language itself proposes, and what its functions take.
     void SetLanguage(std::vector<LanguageWord> words, Signatures signatures);
+    /// The scripts whose tables, views and routines are proposed behind those of the editor's own.
+    /// Asked whenever something is proposed; their indexes are read in idle time, the shortest
+    /// first. Those that it gives live until the control comes back to the event loop.
+    void SetOtherScripts(std::function<std::vector<OtherScript>()> others);
     void SetPrepare(std::function<void()> prepare); ///< called before anything is proposed
     void SetScheme(std::function<const ColourScheme*()> scheme); ///< asked whenever something shows
 
@@ -58,6 +71,8 @@ public:
     void Refresh();             ///< a source knows more
     bool IsOpen() const;        ///< whether the list shows
     bool IsShowingCall() const; ///< whether the call tip shows
+    /// What was chosen is on its way into the text; until it stands there, nothing is typed over.
+    bool IsInserting() const { return m_isInserting; }
 
     /// Each notification of the control, once it has dealt with it.
     void OnNotify(const SCNotification& record);
@@ -74,6 +89,12 @@ private:
     bool OpensHere(const ProposalQuery& query) const;
     CaretContext ContextAtCaret();
     std::vector<Proposal> Ask(const CaretContext& context);
+    std::vector<OtherScript> OtherScripts() const;
+    std::vector<OtherText> OtherTexts();
+    void ReadOthers();
+    bool IsReading() const;
+    void ReadNextOf(const std::vector<OtherScript>& others);
+    void OnOtherRead();
     void Fill(const CaretContext& context);
     void Choose(int row);
     void Insert(const Proposal& proposal);
@@ -97,6 +118,8 @@ private:
     Signatures m_signatures;
     std::function<const ColourScheme*()> m_scheme;
     std::function<void()> m_prepare;
+    std::function<std::vector<OtherScript>()> m_others;
+    QPointer<LiveIndex> m_reading; // the one of them that is read
     QPointer<ProposalList> m_list;
     QPointer<CallTip> m_tip;
     ProposalQuery m_query; // that the list answers
@@ -105,7 +128,8 @@ private:
     bool m_isWalked = false; // somebody has chosen a row
     bool m_isFollowing = false;
     bool m_isInserting = false;
-    char32_t m_added = 0; // the last character that was typed
+    long m_unanswered = -1; // where typing has opened no list for want of proposals
+    char32_t m_added = 0;   // the last character that was typed
 };
 
 } // namespace completion

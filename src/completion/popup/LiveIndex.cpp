@@ -15,7 +15,8 @@ namespace completion {
 namespace {
 
 constexpr std::chrono::milliseconds kRest(150); // behind the last change
-constexpr long kSlice = 65536;                  // units that are read between two events
+constexpr std::chrono::milliseconds kBetweenKeys(40);
+constexpr long kSlice = 65536; // units that are read between two events
 
 } // namespace
 
@@ -129,6 +130,16 @@ std::vector<ScriptName> LiveIndex::CreatedInAll()
     return Listed();
 }
 
+const ScriptIndex* LiveIndex::Known()
+{
+    if (!m_index || !m_editor || !m_editor->GetSafeHwnd())
+        return nullptr;
+    Ensure();
+    if (!m_index->IsDone() && !m_idle.isActive())
+        m_idle.start(kRest);
+    return m_index.get();
+}
+
 bool LiveIndex::IsDone() const
 {
     return m_index && m_index->IsDone();
@@ -142,7 +153,13 @@ std::size_t LiveIndex::MemoryBytes() const
 void LiveIndex::Start()
 {
     m_isFollowing = true;
-    m_idle.start(kRest);
+    m_idle.start(std::chrono::milliseconds(0));
+}
+
+void LiveIndex::Defer()
+{
+    if (m_idle.isActive())
+        m_idle.start(kBetweenKeys);
 }
 
 void LiveIndex::WorkAhead()

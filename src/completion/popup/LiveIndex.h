@@ -55,10 +55,15 @@ public:
     std::vector<ScriptName> Created();
     std::vector<ScriptName> CreatedInAll(); ///< the same, all of it at once
 
+    /// As far as it has been read by now, without reading; null before somebody asks. Good until
+    /// the control comes back to the event loop.
+    const ScriptIndex* Known();
+
     bool IsDone() const;             ///< nothing is left to be read, of what has been asked for
     std::size_t MemoryBytes() const; ///< that it takes
 
     void Start(); ///< to follow and to read, before anybody asks
+    void Defer(); ///< what is read goes on when keys have rested for a moment
 
 Q_SIGNALS:
     void Finished(); ///< nothing is left to be read

@@ -2,19 +2,11 @@
 #include "completion/popup/PopupColours.h"
 
 #include "looks/ColourScheme.h"
+#include "platform/base/Colours.h"
 
 #include <QGuiApplication>
 
 namespace completion {
-namespace {
-
-QColor Colour(COLORREF colour)
-{
-    return QColor(static_cast<int>(colour & 0xFF), static_cast<int>(colour >> 8 & 0xFF),
-                  static_cast<int>(colour >> 16 & 0xFF));
-}
-
-} // namespace
 
 QPalette PopupPalette(const ColourScheme* scheme, const QString& role)
 {
@@ -27,12 +19,12 @@ QPalette PopupPalette(const ColourScheme* scheme, const QString& role)
     if (!tip || !weak)
         return colours;
     for (const QPalette::ColorRole ground : {QPalette::Base, QPalette::Window, QPalette::Button})
-        colours.setColor(ground, Colour(tip->back));
+        colours.setColor(ground, ToQColor(tip->back));
     for (const QPalette::ColorRole fore :
          {QPalette::Text, QPalette::WindowText, QPalette::HighlightedText})
-        colours.setColor(fore, Colour(tip->fore));
-    colours.setColor(QPalette::Highlight, Colour(scheme->Of(Drawn::Selection)));
-    colours.setColor(QPalette::PlaceholderText, Colour(weak->fore));
+        colours.setColor(fore, ToQColor(tip->fore));
+    colours.setColor(QPalette::Highlight, ToQColor(scheme->Of(Drawn::Selection)));
+    colours.setColor(QPalette::PlaceholderText, ToQColor(weak->fore));
     return colours;
 }
 

@@ -7,6 +7,7 @@
 #include <QAccessible>
 #include <QCoreApplication>
 #include <QGuiApplication>
+#include <QLabel>
 #include <QListView>
 #include <QPainter>
 #include <QScreen>
@@ -124,7 +125,8 @@ private:
 
 ProposalList::ProposalList(QWidget* editor)
     : QFrame(editor, Qt::ToolTip | Qt::FramelessWindowHint | Qt::WindowDoesNotAcceptFocus),
-      m_view(new QListView(this)), m_model(new ProposalModel(this))
+      m_view(new QListView(this)), m_edge(new QFrame(this)), m_keys(new QLabel(this)),
+      m_model(new ProposalModel(this))
 {
     setAttribute(Qt::WA_ShowWithoutActivating);
     setFocusPolicy(Qt::NoFocus);
@@ -140,10 +142,19 @@ ProposalList::ProposalList(QWidget* editor)
     m_view->setEditTriggers(QAbstractItemView::NoEditTriggers);
     m_view->setModel(m_model);
     m_view->setItemDelegate(new RowPainter(m_view));
+    m_edge->setFrameStyle(QFrame::HLine | QFrame::Plain);
+    m_edge->setForegroundRole(QPalette::PlaceholderText);
+    m_edge->setFixedHeight(1);
+    m_keys->setMargin(kMargin / 2);
+    m_keys->setIndent(kMargin / 2);
+    m_keys->setForegroundRole(QPalette::PlaceholderText);
     auto* layout = new QVBoxLayout(this);
     layout->setContentsMargins(1, 1, 1, 1);
     layout->setSizeConstraint(QLayout::SetNoConstraint); // a view would have room for three rows
+    layout->setSpacing(0);
     layout->addWidget(m_view);
+    layout->addWidget(m_edge);
+    layout->addWidget(m_keys);
     connect(m_view, &QListView::clicked, this,
             [this](const QModelIndex& index) { Q_EMIT Clicked(index.row()); });
 }
@@ -153,16 +164,26 @@ void ProposalList::SetColours(const ColourScheme* scheme)
     const QPalette colours = PopupPalette(scheme, QStringLiteral("text"));
     setPalette(colours);
     m_view->setPalette(colours);
+    m_edge->setPalette(colours);
+    m_keys->setPalette(colours);
 }
 
-void ProposalList::SetProposals(std::vector<Proposal> proposals, bool marksFirst)
+void ProposalList::SetProposals(std::vector<Proposal> proposals, bool tellsKeys)
 {
     m_model->Set(std::move(proposals));
     m_view->scrollToTop();
-    if (marksFirst)
-        SetCurrent(0);
+    m_edge->setVisible(tellsKeys);
+    m_keys->setVisible(tellsKeys);
+    TellKeys();
     if (isVisible())
         Fit();
+}
+
+void ProposalList::TellKeys()
+{
+    m_keys->setText(
+        Current() < 0 ? QCoreApplication::translate("ProposalList", "Tab takes the first row")
+                      : QCoreApplication::translate("ProposalList", "Tab or Enter takes the row"));
 }
 
 int ProposalList::Count() const
@@ -189,6 +210,7 @@ void ProposalList::SetCurrent(int row)
 {
     m_view->setCurrentIndex(m_model->index(row));
     m_view->scrollTo(m_view->currentIndex());
+    TellKeys();
     Tell(row);
 }
 
@@ -228,14 +250,15 @@ void ProposalList::Fit()
     const int rowHeight = std::max(m_view->sizeHintForRow(0), 1);
     const int frame = 2 * (frameWidth() + 1);
     const int bar = Count() > kMostRows ? m_view->verticalScrollBar()->sizeHint().width() : 0;
-    int width = kNarrowest;
+    const int keys = m_keys->isHidden() ? 0 : m_keys->sizeHint().height() + m_edge->height();
+    int width = std::max(kNarrowest, keys > 0 ? m_keys->sizeHint().width() : 0);
     for (int row = 0; row < std::min(Count(), 10 * kMostRows); ++row)
         width = std::max(width, m_view->sizeHintForIndex(m_model->index(row)).width());
     const QScreen* screen = QGuiApplication::screenAt(m_line.center());
     const QRect room = screen ? screen->availableGeometry()
                               : QGuiApplication::primaryScreen()->availableGeometry();
     const QSize size(std::min({width + bar + frame, kWidest, room.width()}),
-                     std::max(RowsShown(), 1) * rowHeight + frame);
+                     std::max(RowsShown(), 1) * rowHeight + keys + frame);
     const bool isBelow = m_line.bottom() + size.height() <= room.bottom() ||
                          room.bottom() - m_line.bottom() >= m_line.top() - room.top();
     const int top = isBelow ? m_line.bottom() + 1 : m_line.top() - size.height();

@@ -8,6 +8,7 @@
 #include <QFrame>
 
 class ColourScheme;
+class QLabel;
 class QListView;
 
 namespace completion {
@@ -22,8 +23,9 @@ public:
     explicit ProposalList(QWidget* editor);
 
     void SetColours(const ColourScheme* scheme); // null: the application's
-    // With the first row current, or none.
-    void SetProposals(std::vector<Proposal> proposals, bool marksFirst);
+    // None is current. The list may tell which key takes a row: with none current Enter is the
+    // editor's.
+    void SetProposals(std::vector<Proposal> proposals, bool tellsKeys);
     // Below the place, or above it if there is more room: a line of text on the screen.
     void ShowAt(const QRect& line);
 
@@ -41,8 +43,11 @@ Q_SIGNALS:
 private:
     void Fit();
     void Tell(int row);
+    void TellKeys();
 
     QListView* m_view;
+    QFrame* m_edge; // between the rows and the keys
+    QLabel* m_keys;
     ProposalModel* m_model;
     QRect m_line;
 };
