@@ -4,8 +4,11 @@
 
 #include "docview/dialogs/InputBox.h"
 #include "editing/operations/Macro.h"
+#include "platform/services/LongWork.h"
 
 #include <QCoreApplication>
+
+#include <cstdint>
 
 namespace {
 
@@ -59,8 +62,11 @@ void CZNCoreEditorView::PlayMacro(int times)
 {
     if (times <= 0)
         return;
+    constexpr int kAll = 100;
+    LongWork work(m_coreEditor.GetSafeHwnd(), Texts::tr("Repeating the macro"));
     m_coreEditor.BeginUndoAction(1);
-    for (int i = 0; i < times; ++i)
+    for (int i = 0; i < times && work.LongStep(static_cast<int>(std::int64_t{i} * kAll / times));
+         ++i)
         m_coreEditor.PerformMacro(GetMacroHead());
     m_coreEditor.EndUndoAction(1);
 }

@@ -324,6 +324,8 @@ void ZNCoreEditorWidget::Private::TellUpdate()
 ZNCoreEditorWidget::Private::Settings ZNCoreEditorWidget::Private::CurrentSettings()
 {
     CZNCoreEditorControlEx& control = *m_control;
+    // What completion puts in is not typed over, which is no change of the mode.
+    const bool keepsMode = m_completion && *m_completion && (*m_completion)->IsInserting();
     return {control.GetReadOnly(1) != 0,
             control.CanUndo(1) != 0,
             control.CanRedo(1) != 0,
@@ -333,7 +335,7 @@ ZNCoreEditorWidget::Private::Settings ZNCoreEditorWidget::Private::CurrentSettin
             control.GetWriteEncodingSig(),
             control.GetEOLMode(1),
             control.GetZoom(1),
-            control.GetOvertype(1) != 0,
+            keepsMode ? m_told.overwrites : control.GetOvertype(1) != 0,
             control.GetTabWidth(1),
             control.GetWrapMode(1) != 0,
             control.IsVisibleLineNumber(),

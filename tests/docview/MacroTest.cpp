@@ -4,6 +4,7 @@
 
 #include "docview/dialogs/InputBox.h"
 #include "editing/operations/Macro.h"
+#include "platform/services/LongWork.h"
 
 #include <QKeyEvent>
 #include <QLineEdit>
@@ -87,6 +88,39 @@ TEST_F(Macro, RepeatsCommandsOfTheEngine)
     EXPECT_EQ(Text(), QStringLiteral("one\nthree\n"));
 }
 
+TEST_F(Macro, RepeatsGestures)
+{
+    constexpr UINT kDeleteLines = 54209;
+    constexpr UINT kMoveLinesDown = 54206;
+    Put(QStringLiteral("one\ntwo\nthree\nfour\nfive\n"), 0, 0);
+    Run(kRecord);
+    EXPECT_TRUE(Control().OnCmdMsg(kDeleteLines, CN_COMMAND, nullptr, nullptr));
+    EXPECT_TRUE(Control().OnCmdMsg(kMoveLinesDown, CN_COMMAND, nullptr, nullptr));
+    Run(kRecord);
+    ASSERT_EQ(Text(), QStringLiteral("three\ntwo\nfour\nfive\n"));
+    ASSERT_NE(GetMacroHead(), nullptr);
+    EXPECT_EQ(GetMacroHead()->m_message, int(kDeleteLines));
+    ASSERT_NE(GetMacroHead()->m_next, nullptr);
+    EXPECT_EQ(GetMacroHead()->m_next->m_message, int(kMoveLinesDown));
+    EXPECT_EQ(GetMacroHead()->m_next->m_next, nullptr) << "and nothing of what they send";
+    Run(kPlay);
+    EXPECT_EQ(Text(), QStringLiteral("three\nfive\nfour\n"));
+    Control().Undo(1);
+    EXPECT_EQ(Text(), QStringLiteral("three\ntwo\nfour\nfive\n"));
+}
+
+TEST_F(Macro, GoesOnBehindAGesture)
+{
+    Put(QStringLiteral("one\ntwo\nthree\n"), 0, 0);
+    Run(kRecord);
+    EXPECT_TRUE(Control().OnCmdMsg(54209, CN_COMMAND, nullptr, nullptr));
+    Type(*view, QStringLiteral("x"));
+    Run(kRecord);
+    EXPECT_TRUE(Control().OnCmdMsg(54209, CN_COMMAND, nullptr, nullptr)) << "which is not recorded";
+    Run(kPlay);
+    EXPECT_EQ(Text(), QStringLiteral("x"));
+}
+
 TEST_F(Macro, KeepsNoTextButASingleCharacter)
 {
     Run(kRecord);
@@ -128,6 +162,19 @@ TEST_F(Macro, PlaysInAViewOfAnotherDocument)
     EXPECT_EQ(there->GetCoreEditorControlRef().GetText(), QStringLiteral("ab"));
 }
 
+// The recording is ended for the engine of the view where the command is given.
+TEST_F(Macro, PlaysOnceInTheViewWhoseRecordingWasEndedInAnother)
+{
+    Run(kRecord);
+    Type(*view, QStringLiteral("ab"));
+    auto* other = static_cast<OpenDoc*>(viewed.OpenDocumentFile(QString(), false));
+    EXPECT_TRUE(static_cast<OpenView*>(other->GetViews().front())->OnCmdMsg(kRecord, nullptr));
+    for (const char* text : {"abab", "ababab"}) {
+        Run(kPlay);
+        EXPECT_EQ(Text(), text);
+    }
+}
+
 TEST_F(Macro, ShowsInItsLabelWhatTheCommandDoes)
 {
     EXPECT_EQ(Probe(kRecord, *view).text, QStringLiteral("Record Macro\tCtrl+Shift+R"));
@@ -152,6 +199,28 @@ TEST_F(Macro, IsRepeatedInOneUndoStep)
     EXPECT_EQ(Text(), QStringLiteral("abababab"));
     Control().Undo(1);
     EXPECT_EQ(Text(), QStringLiteral("ab"));
+}
+
+TEST_F(Macro, IsRepeatedUntilTheHostStopsIt)
+{
+    class Stopper final : public ILongWork
+    {
+    public:
+        Stopper() { SetLongWork(this); }
+        ~Stopper() override { SetLongWork(nullptr); }
+        bool GoesOn(HWND, const QString&, int) override { return ++asked < 5; }
+        void Ends() override {}
+        int Patience() const override { return 0; }
+
+        int asked = 0;
+    };
+    Record(QStringLiteral("a"));
+    const Stopper stopper;
+    AnswerNext(QStringLiteral("1000000"));
+    Run(kRepeat);
+    EXPECT_EQ(Text(), QStringLiteral("aaaaa")) << "the one that was recorded, and four";
+    Control().Undo(1);
+    EXPECT_EQ(Text(), QStringLiteral("a"));
 }
 
 TEST_F(Macro, IsNotRepeatedForWhatIsNoNumberAboveZero)

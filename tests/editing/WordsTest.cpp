@@ -355,6 +355,23 @@ TEST_F(Words, AFileIsInsertedInTheTextsLineEndsAndTheCaretStays)
     EXPECT_EQ(Text(), u"ab");
 }
 
+TEST_F(Words, AnInsertedFileLeavesTheEncodingOfTheTextWithCareAlone)
+{
+    QTemporaryDir folder;
+    const QString path = folder.filePath(QStringLiteral("in.sql"));
+    std::ofstream(path.toStdString(), std::ios::binary) << "plain";
+    for (const bool careful : {false, true}) {
+        control.SetCarefulFiles(careful);
+        control.SetEncoding(FileEncodeConverter::encUTF8);
+        control.SetWriteEncodingSig(true);
+        EXPECT_TRUE(
+            control.InsertFile(path.toStdU16String().c_str(), FileEncodeConverter::encUnknown));
+        EXPECT_EQ(control.GetEncoding(),
+                  careful ? FileEncodeConverter::encUTF8 : FileEncodeConverter::encANSI);
+        EXPECT_EQ(control.GetWriteEncodingSig(), careful);
+    }
+}
+
 TEST_F(Words, ARangeIsReadAsItIsWithoutAWayToGrow)
 {
     Put(u"ab cd\r\n|");

@@ -9,6 +9,7 @@
 #include "editing/hands/Hands.h"
 #include "editing/looks/HoverTips.h"
 #include "looks/Schemes.h"
+#include "platform/base/Colours.h"
 #include "platform/services/OptionsServer.h"
 #include "tests/control/ControlFixture.h"
 #include "tests/looks/TouchScreen.h"
@@ -75,9 +76,7 @@ protected:
     int CountOf(Drawn what, QRect area = {})
     {
         const COLORREF colour = zncoreeditor::FindScheme(QStringLiteral("Light"))->Of(what);
-        const QRgb wanted =
-            qRgb(static_cast<int>(colour & 0xFF), static_cast<int>(colour >> 8 & 0xFF),
-                 static_cast<int>(colour >> 16 & 0xFF));
+        const QRgb wanted = ToQColor(colour).rgb();
         const QImage image = Window().grab().toImage().convertToFormat(QImage::Format_RGB32);
         area = area.isNull() ? image.rect() : area & image.rect();
         int count = 0;
@@ -136,6 +135,19 @@ TEST_F(LooksTest, ShowLinesThatChangedUntilTheyAreAsTheyWere)
     EXPECT_GT(CountOf(Drawn::LineChanged), 20);
     control.Undo(1);
     EXPECT_EQ(control.MarkerNext(0, kChanged, 1), -1);
+}
+
+TEST_F(LooksTest, LeaveTheLineThatWholeLinesArePutInFrontOf)
+{
+    Put(QStringLiteral("one\ntwo\nthree\n"));
+    control.GotoPos(4, 1);
+    control.ReplaceSel(u"a\nb\n", 1);
+    for (const auto& [line, isChanged] : {std::pair(0, false), {1, true}, {2, true}, {3, false}})
+        EXPECT_EQ((control.MarkerGet(line, 1) & kChanged) != 0, isChanged) << line;
+    control.GotoPos(1, 1);
+    control.ReplaceSel(u"x\n", 1); // within a line it is two that change
+    EXPECT_TRUE(control.MarkerGet(0, 1) & kChanged);
+    EXPECT_TRUE(control.MarkerGet(1, 1) & kChanged);
 }
 
 TEST_F(LooksTest, ShowLinesThatWereSavedSinceTheyChanged)
@@ -256,6 +268,111 @@ TEST_F(LooksTest, LightUpNoWordThatIsNobodysNameUnlessItIsSelected)
     EXPECT_TRUE(Becomes([&] { return IsMarked(kOccurrences, 50); }));
 }
 
+// What is far below the window is not coloured.
+TEST_F(LooksTest, LightUpNoWordBeforeItIsKnownWhetherItIsAName)
+{
+    constexpr int kFar = 19000;
+    const QString line = QStringLiteral("select stock;\n");
+    Put(line.repeated(20000));
+    const auto select = kFar * line.size();
+    const auto isLit = [&] { return IsMarked(kOccurrences, 0) || IsMarked(kOccurrences, 7); };
+    for (const auto place : {select, select + 8}) {
+        Window().SendScintilla(Sci::SCI_SETEMPTYSELECTION, static_cast<unsigned long>(place));
+        EXPECT_FALSE(QTest::qWaitFor(isLit, 600)) << place;
+    }
+    control.ScrollCaret(1);
+    EXPECT_TRUE(Becomes([&] { return IsMarked(kOccurrences, select + 8); }));
+    EXPECT_FALSE(IsMarked(kOccurrences, select));
+}
+
+TEST_F(LooksTest, DrawLineEndsAsFaintAsBlanks)
+{
+    Put(QStringLiteral("a\nb\r\nc\n"));
+    const int without = CountOf(Drawn::Whitespace);
+    control.SetViewEOL(1, 1);
+    EXPECT_EQ(control.GetViewEOL(1), 1);
+    EXPECT_EQ(Window().SendScintilla(Sci::SCI_GETVIEWEOL), 0); // whose boxes are as strong as text
+    EXPECT_GT(CountOf(Drawn::Whitespace), without + 60);
+    control.Call(engine::kSetLooks, 0, 0, 1);
+    EXPECT_EQ(Window().SendScintilla(Sci::SCI_GETVIEWEOL), 1);
+    control.SetViewEOL(0, 1);
+    EXPECT_EQ(Window().SendScintilla(Sci::SCI_GETVIEWEOL), 0);
+    face.setScheme(QStringLiteral("Light"));
+    EXPECT_EQ(CountOf(Drawn::Whitespace), without);
+}
+
+TEST_F(LooksTest, DrawTheKindOfEachLineEnd)
+{
+    Put(QStringLiteral("a"));
+    const int none = CountOf(Drawn::Whitespace);
+    control.SetViewEOL(1, 1);
+    const auto drawn = [this](const char* text) {
+        Put(QString::fromLatin1(text));
+        return CountOf(Drawn::Whitespace);
+    };
+    EXPECT_EQ(drawn("a"), none) << "the last line has no end";
+    const int cr = drawn("a\r");
+    const int lf = drawn("a\n");
+    const int both = drawn("a\r\n");
+    EXPECT_GT(std::min(cr, lf), none + 10);
+    EXPECT_GT(both, std::max(cr, lf)) << "four letters";
+    control.SetViewEOL(0, 1);
+}
+
+// The range of the horizontal scroll bar.
+class ScrollRangeTest : public LooksTest
+{
+protected:
+    QScrollBar& Bar() { return *Window().horizontalScrollBar(); }
+    int WidthOf(int letters)
+    {
+        return control.TextWidth(0, std::u16string(letters, u'x').data(), 1);
+    }
+    void DeleteLine(int line)
+    {
+        control.SetSel(control.PositionFromLine(line, 1), control.PositionFromLine(line + 1, 1), 1);
+        control.Clear(1);
+    }
+};
+
+TEST_F(ScrollRangeTest, GoesBackOnceALongLineIsGone)
+{
+    Put(QString(170, u'x') + QStringLiteral("\nb\n"));
+    ASSERT_TRUE(Becomes([&] { return Bar().maximum() > 0; }));
+    DeleteLine(0);
+    EXPECT_TRUE(Becomes([&] { return Bar().maximum() == 0; }));
+    EXPECT_LT(control.GetScrollWidth(1), 100);
+}
+
+TEST_F(ScrollRangeTest, GoesBackToTheLongestLineThatIsLeftSeenOrNot)
+{
+    Put(QString(400, u'x') + QStringLiteral("\nb\n") + QStringLiteral("\n").repeated(500) +
+        QString(200, u'x') + QStringLiteral("\n") + QString(100, u'x'));
+    ASSERT_TRUE(Becomes([&] { return control.GetScrollWidth(1) > WidthOf(400); }));
+    DeleteLine(0);
+    EXPECT_TRUE(Becomes([&] { return control.GetScrollWidth(1) < WidthOf(300); }));
+    EXPECT_GT(control.GetScrollWidth(1), WidthOf(200));
+}
+
+TEST_F(ScrollRangeTest, ShowsHowFarTheCaretHasGone)
+{
+    Put(QString());
+    QTest::keyClicks(&Window(), QString(170, u'x'));
+    ASSERT_TRUE(Becomes([&] { return Bar().maximum() > 0; }));
+    EXPECT_GT(control.GetXOffset(1), 0);
+    EXPECT_EQ(Bar().value(), control.GetXOffset(1));
+}
+
+TEST_F(ScrollRangeTest, StaysWhileTheLongestLineIsThere)
+{
+    Put(QStringLiteral("a\n") + QString(170, u'x') + QStringLiteral("\nb\n"));
+    ASSERT_TRUE(Becomes([&] { return Bar().maximum() > 0; }));
+    const int range = control.GetScrollWidth(1);
+    DeleteLine(2);
+    DeleteLine(0);
+    EXPECT_FALSE(QTest::qWaitFor([&] { return control.GetScrollWidth(1) != range; }, 800));
+}
+
 TEST_F(LooksTest, FrameTheMatchThatIsSelected)
 {
     Put("aa b aa\n");
@@ -283,6 +400,88 @@ TEST_F(LooksTest, ShowTheMatchesThatAreAskedForAndFollowTheText)
     EXPECT_TRUE(Becomes([&] { return IsMarked(kMatches, 3); }));
     control.Call(engine::kShowMatches, 0, 0, 1);
     EXPECT_FALSE(IsMarked(kMatches, 0));
+}
+
+TEST_F(LooksTest, ShowTheMatchesOfARangeThatFollowsTheText)
+{
+    Put("aa\naa\naa\naa\n");
+    control.Call(engine::kShowMatches, 0, reinterpret_cast<LPARAM>(u"aa"), 1);
+    control.Call(engine::kShowMatchesWithin, 3, 8, 1); // the two in the middle
+    const auto lit = [this] {
+        std::vector<long> starts;
+        for (long at = 0; at < control.GetLength(1); ++at) {
+            if (IsMarked(kMatches, at) && (at == 0 || !IsMarked(kMatches, at - 1)))
+                starts.push_back(at);
+        }
+        return starts;
+    };
+    const auto range = [this] {
+        return std::pair(control.Call(engine::kMatchesFrom, 0, 0, 1),
+                         control.Call(engine::kMatchesTo, 0, 0, 1));
+    };
+    EXPECT_EQ(lit(), (std::vector<long>{3, 6}));
+    control.InsertText(0, u"aa\n", 1); // in front of it
+    control.InsertText(8, u"\naa", 1); // in it
+    EXPECT_EQ(range(), std::pair(6L, 14L));
+    EXPECT_TRUE(Becomes([&] { return lit() == std::vector<long>{6, 9, 12}; }));
+    control.SetTarget(12, 14); // a match at its end
+    control.ReplaceTarget(3, u"bbb", 1);
+    EXPECT_EQ(range(), std::pair(6L, 15L));
+    control.Call(engine::kShowMatchesWithin, static_cast<WPARAM>(-1), 0, 1);
+    EXPECT_EQ(lit(), (std::vector<long>{0, 3, 6, 9, 16}));
+    EXPECT_EQ(range(), std::pair(-1L, -1L));
+}
+
+TEST_F(LooksTest, LightUpNoOccurrencesWhileARangeIsSearched)
+{
+    Put("stock stock stock\n");
+    control.SetSel(0, 5, 1);
+    ASSERT_TRUE(Becomes([&] { return IsMarked(kOccurrences, 12); }));
+    control.Call(engine::kShowMatchesWithin, 0, 11, 1);
+    EXPECT_TRUE(Becomes([&] { return !IsMarked(kOccurrences, 12); }));
+    control.Call(engine::kShowMatchesWithin, static_cast<WPARAM>(-1), 0, 1);
+    EXPECT_TRUE(Becomes([&] { return IsMarked(kOccurrences, 12); }));
+}
+
+TEST_F(LooksTest, FrameTheRangeThatIsSearched)
+{
+    Put("one\ntwo\nthree\nfour\n");
+    const int row = static_cast<int>(control.TextHeight(0, 1));
+    const auto drawn = [&](int line) {
+        return CountOf(Drawn::Match, QRect(0, line * row, Window().viewport()->width(), row));
+    };
+    EXPECT_EQ(drawn(1), 0);
+    control.Call(engine::kShowMatchesWithin, 4, 13, 1);
+    QApplication::processEvents();
+    EXPECT_EQ(drawn(0), 0);
+    EXPECT_GT(drawn(1), 100) << "its upper edge";
+    EXPECT_GT(drawn(2), 50) << "its lower edge";
+    EXPECT_EQ(drawn(3), 0);
+    control.InsertText(0, u"x\n", 1);
+    QApplication::processEvents();
+    EXPECT_EQ(drawn(1), 0);
+    EXPECT_GT(drawn(3), 50);
+    control.Call(engine::kShowMatchesWithin, static_cast<WPARAM>(-1), 0, 1);
+    EXPECT_EQ(drawn(2) + drawn(3), 0);
+}
+
+TEST_F(LooksTest, MarkTheScrollBarBesideAllOfALongText)
+{
+    constexpr int kLines = 100'000;
+    Put(QStringLiteral("aa\n").repeated(kLines));
+    const QScrollBar& bar = *Window().verticalScrollBar();
+    const auto marks = [&](int part) { // of ten
+        const QRect area(bar.mapTo(&Window(), QPoint(0, 0)), bar.size());
+        const int height = area.height() / 10;
+        return CountOf(Drawn::Match,
+                       QRect(area.left(), area.top() + part * height, area.width(), height - 1));
+    };
+    control.Call(engine::kShowMatches, 0, reinterpret_cast<LPARAM>(u"aa"), 1);
+    EXPECT_TRUE(Becomes([&] { return marks(1) > 20; }));
+    EXPECT_EQ(marks(8), marks(1));
+    control.Call(engine::kShowMatchesWithin, 3 * kLines / 2, 3 * kLines * 3 / 4, 1);
+    EXPECT_TRUE(Becomes([&] { return marks(6) > 20 && marks(1) == 0; }));
+    EXPECT_EQ(marks(8), 0);
 }
 
 TEST_F(LooksTest, MarkTheScrollBarWhereSomethingIs)

@@ -98,6 +98,24 @@ TEST_F(PairKeysTest, LeaveAQuoteAloneWhereItEndsSomething)
     EXPECT_EQ(Typed("[a |]", "'"), "[a '|]"); // a name
 }
 
+TEST_F(PairKeysTest, LeaveABracketAloneInCommentsAndStrings)
+{
+    EXPECT_EQ(Typed("-- close |", "(this"), "-- close (this|");
+    EXPECT_EQ(Typed("/* a |", "["), "/* a [|");
+    EXPECT_EQ(Typed("select 'a |'", "("), "select 'a (|'");
+    EXPECT_EQ(Typed("-- above\n|", "("), "-- above\n(|)");
+}
+
+TEST_F(PairKeysTest, AreTakenBackLineByLine)
+{
+    EXPECT_EQ(Typed("|", "f(a\nb"), "f(a\nb|)");
+    control.Undo(1);
+    EXPECT_EQ(Shown(), "f(a|)");
+    while (control.CanUndo(1))
+        control.Undo(1);
+    EXPECT_EQ(Shown(), "|");
+}
+
 TEST_F(PairKeysTest, AreSteppedOverByTypingThem)
 {
     EXPECT_EQ(Typed("|", "f(g(1), [a])"), "f(g(1), [a])|");

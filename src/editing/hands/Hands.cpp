@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "editing/hands/Hands.h"
 
+#include "control/Recording.h"
 #include "editing/ZNCoreEditorControlEx.h"
 #include "editing/hands/Operations.h"
 
@@ -61,6 +62,14 @@ bool IsPossible(const HandRow& row, CZNCoreEditorControlEx& editor)
            (row.needs != HandNeeds::WritableSelection || editor.IsSelection());
 }
 
+void RunHand(const HandRow& row, CZNCoreEditorControlEx& editor)
+{
+    const bool isRecorded = editor.Call(engine::kRecordCommand, row.number, 0, 1) != 0;
+    row.run(editor);
+    if (isRecorded)
+        editor.Call(engine::kRecordCommand, 0, 0, 1);
+}
+
 // A row without a key has one that no keyboard sends.
 HACCEL HandKeyTable()
 {
@@ -80,6 +89,6 @@ int CZNCoreEditorControlEx::OnCmdMsg(UINT id, int code, void* extra, CommandHand
     else if (code == CN_UPDATE_COMMAND_UI)
         static_cast<CCmdUI*>(extra)->Enable(IsPossible(*row, *this));
     else if (code == CN_COMMAND && IsPossible(*row, *this))
-        row->run(*this);
+        RunHand(*row, *this);
     return 1;
 }

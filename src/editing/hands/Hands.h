@@ -32,7 +32,7 @@ struct HandRow
     int key;          ///< Qt::Key, 0: none
     int modifiers;    ///< Qt::KeyboardModifiers
     HandNeeds needs;  ///< when it is possible
-    void (*run)(CZNCoreEditorControlEx& editor); ///< does it, whether it is possible or not
+    void (*run)(CZNCoreEditorControlEx& editor); ///< does it, possible or not; see RunHand
 };
 
 ZN_API std::span<const HandRow> Hands(); ///< all of them, in the order of menus
@@ -42,6 +42,9 @@ ZN_API QString HandText(const char* english);
 ZN_API const HandRow* FindHand(UINT number);
 /// Whether what it needs is the case.
 ZN_API bool IsPossible(const HandRow& row, CZNCoreEditorControlEx& editor);
+
+/// Does it. A macro that is being recorded has it as a whole.
+ZN_API void RunHand(const HandRow& row, CZNCoreEditorControlEx& editor);
 
 /// For a window that offers keys to TranslateAccelerator: behind the table of the editor.
 ZN_API HACCEL HandKeyTable();

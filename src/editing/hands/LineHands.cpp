@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "editing/hands/EditedText.h"
+#include "editing/hands/LineBlocks.h"
 #include "editing/hands/Operations.h"
 #include "editing/operations/EditScopes.h"
 
@@ -8,9 +9,22 @@
 #include <QRegularExpression>
 
 #include <algorithm>
+#include <set>
+#include <vector>
 
 namespace hands {
 namespace {
+
+using engine::SelectionEnds;
+
+// That lines are typed with.
+QString LineEndOf(Editor& editor)
+{
+    const int mode = editor.GetEOLMode(1);
+    return mode == 2   ? QStringLiteral("\r")
+           : mode == 3 ? QStringLiteral("\n")
+                       : QStringLiteral("\r\n");
+}
 
 bool IsLastLine(Editor& editor, int line)
 {
@@ -18,100 +32,193 @@ bool IsLastLine(Editor& editor, int line)
 }
 
 // Takes a line to the other side of the block beside it, with the line end that stands between
-// them: so the block keeps its marks, and a last line without an end leaves none behind.
-void CarryOver(Editor& editor, int line, const LineRange& block)
+// them: so the block keeps its marks, and a last line without an end leaves none behind. The units
+// that the block has moved by.
+long CarryOver(Editor& editor, int line, const LineBlock& block)
 {
-    const long anchor = editor.GetAnchor(1);
-    const long caret = editor.GetCurrentPos(1);
     const bool isAbove = line < block.first;
     const long start = editor.PositionFromLine(line, 1);
     const long end = editor.GetLineEndPosition(line, 1);
     const QString text = TextOf(editor, start, end);
-    const UndoStep step(editor);
-    long shift = 0;
     if (isAbove) {
         const long next = editor.PositionFromLine(block.first, 1);
         const QString lineEnd = TextOf(editor, end, next);
         Insert(editor, editor.GetLineEndPosition(block.last, 1), lineEnd + text);
         Replace(editor, start, next, {});
-        shift = start - next;
-    } else {
-        const long before = editor.GetLineEndPosition(block.last, 1);
-        const QString lineEnd = TextOf(editor, before, start);
-        Replace(editor, before, end, {});
-        Insert(editor, editor.PositionFromLine(block.first, 1), text + lineEnd);
-        shift = end - before;
+        return start - next;
     }
-    editor.SetSel(anchor + shift, caret + shift, 1);
+    const long before = editor.GetLineEndPosition(block.last, 1);
+    const QString lineEnd = TextOf(editor, before, start);
+    Replace(editor, before, end, {});
+    Insert(editor, editor.PositionFromLine(block.first, 1), text + lineEnd);
+    return end - before;
+}
+
+// From the last block to the first, so that the lines of those to come are where they were. A block
+// at the text's end stays there while the others move.
+void MoveBlocks(Editor& editor, bool isUp)
+{
+    const LineBlocks lines(editor);
+    const std::vector<LineBlock>& blocks = lines.All();
+    std::vector<long> shifts(blocks.size());
+    const UndoStep step(editor);
+    for (std::size_t i = blocks.size(); i-- > 0;) {
+        const LineBlock& block = blocks[i];
+        if (isUp && block.first > 0)
+            shifts[i] = CarryOver(editor, block.first - 1, block);
+        else if (!isUp && !IsLastLine(editor, block.last))
+            shifts[i] = CarryOver(editor, block.last + 1, block);
+    }
+    if (std::ranges::any_of(shifts, [](long shift) { return shift != 0; }))
+        lines.SelectMoved(shifts);
+}
+
+// One blank takes the place of a line end and the indentation behind it, none beside a blank or an
+// empty line.
+void JoinWithNext(Editor& editor, int line)
+{
+    const long end = editor.GetLineEndPosition(line, 1);
+    const long next = editor.GetLineIndentPosition(line + 1, 1);
+    const bool isNextEmpty = next == editor.GetLineEndPosition(line + 1, 1);
+    const bool isFirstEmpty = end == editor.PositionFromLine(line, 1);
+    const QString before = isFirstEmpty ? QString() : TextOf(editor, end - 1, end);
+    const bool hasBlank = !before.isEmpty() && before.back().isSpace();
+    Replace(editor, end, next,
+            isNextEmpty || isFirstEmpty || hasBlank ? QString() : QStringLiteral(" "));
+}
+
+// A line alone is joined with the next one. The caret comes to the first seam.
+BlockChange JoinBlock(Editor& editor, const LineBlock& block)
+{
+    const int wanted = block.last == block.first ? block.last + 1 : block.last;
+    const int last = std::min(wanted, editor.GetLineCount(1) - 1);
+    if (last == block.first)
+        return {};
+    const long before = editor.GetLength(1);
+    const auto seam = static_cast<int>(editor.GetLineEndPosition(block.first, 1));
+    for (int line = last - 1; line >= block.first; --line)
+        JoinWithNext(editor, line);
+    return {{{seam, seam}}, editor.GetLength(1) - before};
+}
+
+BlockChange DeleteBlock(Editor& editor, const LineBlock& block)
+{
+    long start = editor.PositionFromLine(block.first, 1);
+    long end = editor.GetLineEndPosition(block.last, 1);
+    if (!IsLastLine(editor, block.last))
+        end = editor.PositionFromLine(block.last + 1, 1);
+    else if (block.first > 0) // the text ends with the line before
+        start = editor.GetLineEndPosition(block.first - 1, 1);
+    Replace(editor, start, end, {});
+    const int line = editor.LineFromPosition(start, 1);
+    const auto place = static_cast<int>(editor.PositionFromLine(line, 1));
+    return {{{place, place}}, start - end};
+}
+
+bool IsEmpty(const SelectionEnds& ends)
+{
+    return ends.anchor == ends.caret;
+}
+
+// What goes in, at the end of what it is a copy of.
+struct Copy
+{
+    long at;
+    QString text;
+};
+
+// The selections, each moved by what has come in before it. One that is copied is that of its copy.
+void PutIn(Editor& editor, const std::vector<Copy>& copies, std::vector<SelectionEnds> all)
+{
+    const auto shiftOf = [&copies](long end, bool isWithIt) {
+        long shift = 0;
+        for (const Copy& copy : copies) {
+            if (copy.at < end || (isWithIt && copy.at == end))
+                shift += copy.text.size();
+        }
+        return static_cast<int>(shift);
+    };
+    for (SelectionEnds& ends : all) {
+        const int shift = shiftOf(std::max(ends.anchor, ends.caret), !IsEmpty(ends));
+        ends.anchor += shift;
+        ends.caret += shift;
+    }
+    const UndoStep step(editor);
+    for (auto copy = copies.rbegin(); copy != copies.rend(); ++copy)
+        Insert(editor, copy->at, copy->text);
+    SelectInSight(editor, all);
+}
+
+// Carets among them stay as they are.
+void DuplicateSelections(Editor& editor, const std::vector<SelectionEnds>& all)
+{
+    std::vector<Copy> copies;
+    for (const auto& [anchor, caret] : all) {
+        const auto [start, end] = std::minmax(anchor, caret);
+        if (start < end)
+            copies.push_back({end, TextOf(editor, start, end)});
+    }
+    std::ranges::sort(copies, {}, &Copy::at);
+    PutIn(editor, copies, all);
+}
+
+// Each once, however many carets stand in it.
+void DuplicateLines(Editor& editor, const std::vector<SelectionEnds>& all)
+{
+    std::set<int> lines;
+    for (const SelectionEnds& ends : all)
+        lines.insert(editor.LineFromPosition(ends.caret, 1));
+    std::vector<Copy> copies;
+    for (const int line : lines) {
+        const long end = editor.GetLineEndPosition(line, 1);
+        copies.push_back(
+            {end, LineEndOf(editor) + TextOf(editor, editor.PositionFromLine(line, 1), end)});
+    }
+    PutIn(editor, copies, all);
+}
+
+void ChangeBlocks(Editor& editor, BlockChange (*change)(Editor&, const LineBlock&))
+{
+    const LineBlocks lines(editor);
+    const std::vector<LineBlock>& blocks = lines.All();
+    std::vector<BlockChange> changes(blocks.size());
+    const UndoStep step(editor);
+    for (std::size_t i = blocks.size(); i-- > 0;)
+        changes[i] = change(editor, blocks[i]);
+    lines.SelectChanged(changes);
 }
 
 } // namespace
 
 void MoveLinesUp(Editor& editor)
 {
-    const LineRange block = SelectedLines(editor);
-    if (block.first > 0)
-        CarryOver(editor, block.first - 1, block);
+    MoveBlocks(editor, true);
 }
 
 void MoveLinesDown(Editor& editor)
 {
-    const LineRange block = SelectedLines(editor);
-    if (!IsLastLine(editor, block.last))
-        CarryOver(editor, block.last + 1, block);
+    MoveBlocks(editor, false);
 }
 
 void Duplicate(Editor& editor)
 {
-    if (!editor.IsSelection()) {
+    const std::vector<SelectionEnds> all = SelectionsOf(editor);
+    if (!std::ranges::all_of(all, IsEmpty))
+        DuplicateSelections(editor, all);
+    else if (all.size() == 1)
         editor.LineDuplicate(1);
-        return;
-    }
-    const long start = editor.GetSelectionStart(1);
-    const long end = editor.GetSelectionEnd(1);
-    const bool caretInFront = editor.GetCurrentPos(1) < end;
-    const UndoStep step(editor);
-    Insert(editor, end, TextOf(editor, start, end));
-    const long behind = end + (end - start);
-    editor.SetSel(caretInFront ? behind : end, caretInFront ? end : behind, 1);
+    else
+        DuplicateLines(editor, all);
 }
 
-// One blank takes the place of a line end and the indentation behind it, none beside a blank or an
-// empty line.
 void JoinLines(Editor& editor)
 {
-    LineRange lines = SelectedLines(editor);
-    if (lines.last == lines.first)
-        ++lines.last;
-    lines.last = std::min(lines.last, editor.GetLineCount(1) - 1);
-    const UndoStep step(editor);
-    for (int line = lines.last; line > lines.first; --line) {
-        const long end = editor.GetLineEndPosition(line - 1, 1);
-        const long next = editor.GetLineIndentPosition(line, 1);
-        const bool isNextEmpty = next == editor.GetLineEndPosition(line, 1);
-        const bool isFirstEmpty = end == editor.PositionFromLine(line - 1, 1);
-        const QString before = isFirstEmpty ? QString() : TextOf(editor, end - 1, end);
-        const bool hasBlank = !before.isEmpty() && before.back().isSpace();
-        Replace(editor, end, next,
-                isNextEmpty || isFirstEmpty || hasBlank ? QString() : QStringLiteral(" "));
-        if (line == lines.first + 1)
-            editor.SetSel(end, end, 1);
-    }
+    ChangeBlocks(editor, JoinBlock);
 }
 
 void DeleteLines(Editor& editor)
 {
-    const LineRange lines = SelectedLines(editor);
-    long start = editor.PositionFromLine(lines.first, 1);
-    long end = editor.GetLineEndPosition(lines.last, 1);
-    if (!IsLastLine(editor, lines.last))
-        end = editor.PositionFromLine(lines.last + 1, 1);
-    else if (lines.first > 0) // the text ends with the line before
-        start = editor.GetLineEndPosition(lines.first - 1, 1);
-    const UndoStep step(editor);
-    Replace(editor, start, end, {});
-    const long line = editor.PositionFromLine(editor.LineFromPosition(start, 1), 1);
-    editor.SetSel(line, line, 1);
+    ChangeBlocks(editor, DeleteBlock);
 }
 
 void PasteIndented(Editor& editor)
@@ -138,10 +245,7 @@ void PasteIndented(Editor& editor)
             lines[i].mid(std::min(std::max<qsizetype>(least, 0), indentOf(lines[i])));
         lines[i] = i == 0 || text.isEmpty() ? text : indent + text;
     }
-    const int mode = editor.GetEOLMode(1);
-    const QString text = lines.join(mode == 2   ? QStringLiteral("\r")
-                                    : mode == 3 ? QStringLiteral("\n")
-                                                : QStringLiteral("\r\n"));
+    const QString text = lines.join(LineEndOf(editor));
     const UndoStep step(editor);
     const long selected = editor.GetSelectionStart(1);
     Replace(editor, selected, editor.GetSelectionEnd(1), text); // with a NUL in it, too

@@ -8,18 +8,11 @@ namespace hands {
 
 using Editor = CZNCoreEditorControlEx;
 
-// The lines of the selection, or the caret's; one that is only reached at its column 0 is left out.
-struct LineRange
-{
-    int first;
-    int last;
-};
-LineRange SelectedLines(Editor& editor);
-
-// Comments.cpp. Lines that are all comments lose their marker, others get one: twice is as before.
+// CommentHands.cpp. Lines that are all comments lose their marker, others get one: twice is as
+// before.
 void ToggleComment(Editor& editor);
 
-// LineHands.cpp
+// LineHands.cpp. At several carets and selections, each line that one has a part in, once.
 void MoveLinesUp(Editor& editor);
 void MoveLinesDown(Editor& editor);
 void Duplicate(Editor& editor); // the selection, behind itself; without one the line

@@ -3,9 +3,7 @@
 
 #include "control/Selections.h"
 #include "editing/ZNCoreEditorControlEx.h"
-#include "editing/language/FileTypeManager.h"
-#include "editing/language/Library.h"
-#include "editing/looks/StyleColours.h"
+#include "editing/hands/CodePlaces.h"
 #include "editing/operations/EditScopes.h"
 #include "platform/services/OptionsServer.h"
 
@@ -13,7 +11,6 @@
 #include <QKeyEvent>
 #include <QPointer>
 #include <QScopedValueRollback>
-#include <QSet>
 #include <QWidget>
 
 #include <algorithm>
@@ -136,34 +133,10 @@ bool PairKeys::MayGetPartner(char16_t typed, long caret)
     if (caret < m_control.GetLength(1) &&
         kLeavesRoom.find(UnitAt(caret)) == std::u16string_view::npos)
         return false;
-    if (!IsQuote(typed))
-        return true;
+    if (hands::IsInStringOrComment(m_control, caret))
+        return false;
     const char16_t before = caret > 0 ? UnitAt(caret - 1) : u' ';
-    return !IsOfWord(before) && !IsQuote(before) && !IsInStringOrComment(caret);
-}
-
-// By the style of what stands before the caret in its line, or of the line's end above.
-bool PairKeys::IsInStringOrComment(long caret)
-{
-    static const QSet<QString> kRoles = {
-        QStringLiteral("comment"),  QStringLiteral("documentation"),
-        QStringLiteral("string"),   QStringLiteral("documentationKeyword"),
-        QStringLiteral("unclosed"), QStringLiteral("quotedName"),
-    };
-    const ColourScheme* scheme = m_control.Scheme();
-    CSyntaxFile* syntax =
-        zncoreeditor::GetFileTypeManager()->GetSyntaxFile(m_control.GetCurrentLanguage());
-    if (!scheme || !syntax || caret == 0)
-        return false;
-    // A block comment or a quoted name is over behind its last mark.
-    const char16_t before = UnitAt(caret - 1);
-    if (before == u']' || before == u'`' ||
-        (before == u'/' && caret > 1 && UnitAt(caret - 2) == u'*'))
-        return false;
-    const int line = m_control.LineFromPosition(caret, 1);
-    m_control.Colorize(m_control.PositionFromLine(line, 1), caret, 1);
-    const int style = m_control.GetStyleAt(caret - 1, 1) & 0xFF;
-    return kRoles.contains(StyleColours(*scheme, *syntax).RoleOf(style));
+    return !IsQuote(typed) || (!IsOfWord(before) && !IsQuote(before));
 }
 
 // The partner goes in by a command that a macro repeats, and that nobody takes for typing.

@@ -31,7 +31,6 @@ private:
 
     bool Press(QKeyEvent& event);
     bool MayGetPartner(char16_t typed, long caret);
-    bool IsInStringOrComment(long caret);
     bool TypePair(QKeyEvent& event, char16_t closes);
     char16_t UnitAt(long position);
     void DropLeft();

@@ -51,6 +51,6 @@ bool SurroundKeys::eventFilter(QObject* watched, QEvent* event)
     if (!hand || !IsPossible(*hand, m_control) || !HasSelectedText() ||
         !CZNOptionsServer::GetObjectW()->GetBool(option::SurroundSelection))
         return QObject::eventFilter(watched, event);
-    hand->run(m_control);
+    RunHand(*hand, m_control);
     return true;
 }

@@ -3,6 +3,7 @@
 #include "editing/ZNCoreEditorControlEx.h"
 
 #include "control/EngineLooks.h"
+#include "editing/hands/EnterKeys.h"
 #include "editing/hands/PairKeys.h"
 #include "editing/hands/SurroundKeys.h"
 #include "editing/language/FileTypeManager.h"
@@ -11,6 +12,7 @@
 #include "editing/looks/DesktopWatch.h"
 #include "editing/looks/HoverTips.h"
 #include "editing/looks/StyleColours.h"
+#include "editing/operations/ScrollRest.h"
 #include "looks/Schemes.h"
 #include "settings/ConfigFile.h"
 #include "settings/SyntaxFile.h"
@@ -124,6 +126,8 @@ void CZNCoreEditorControlEx::SetScheme(const QString& name)
         new HoverTips(*this, m_desktopWatch); // which it goes with
         new SurroundKeys(*this, m_desktopWatch);
         new PairKeys(*this, m_desktopWatch);
+        new EnterKeys(*this, m_desktopWatch);
+        new ScrollRest(*this, m_desktopWatch);
     }
     if (name.isEmpty() && GetSafeHwnd()) {
         Call(engine::kSetLooks, 0, 0, 1);

@@ -3,6 +3,9 @@
 #include "editing/operations/Macro.h"
 
 #include "editing/ZNCoreEditorControlEx.h"
+#include "editing/hands/Hands.h"
+
+#include <QScopedValueRollback>
 
 #include <memory>
 
@@ -13,6 +16,7 @@ constexpr int kReplaceSel = 2170; // how the engine reports a typed character
 MacroHolder* s_macroHead = nullptr;
 MacroHolder* s_macroTail = nullptr; // null: to be looked for
 int s_macroRecording = 0;
+bool s_isPlaying = false;
 
 // A recording of hours is not walked at each message.
 MacroHolder* Tail()
@@ -64,6 +68,8 @@ void FreeMacro()
 
 void AppendToMacro(int message, WPARAM wParam, LPARAM lParam)
 {
+    if (s_isPlaying)
+        return;
     auto* node = new MacroHolder;
     node->m_message = message;
     node->m_wParam = wParam;
@@ -80,10 +86,17 @@ void AppendToMacro(int message, WPARAM wParam, LPARAM lParam)
     s_macroTail = node;
 }
 
-// Whatever the message, the node's own text goes along: what needs another gets an empty one.
+// Whatever the message, the node's own text goes along: what needs another gets an empty one. A
+// recording that was ended in another view goes on in this one's engine; a macro to which its own
+// messages were appended would never end.
 void CZNCoreEditorControlEx::PerformMacro(MacroHolder* node)
 {
-    for (; node; node = node->m_next)
-        Call(static_cast<UINT>(node->m_message), node->m_wParam,
-             reinterpret_cast<LPARAM>(node->m_text), 1);
+    const QScopedValueRollback playing(s_isPlaying, true);
+    for (; node; node = node->m_next) {
+        const auto number = static_cast<UINT>(node->m_message);
+        if (FindHand(number))
+            OnCmdMsg(number, CN_COMMAND, nullptr, nullptr);
+        else
+            Call(number, node->m_wParam, reinterpret_cast<LPARAM>(node->m_text), 1);
+    }
 }

@@ -7,7 +7,7 @@
 #include "common/Export.h"
 #include "platform/base/Types.h"
 
-/// One message. A list owns what stands behind its head.
+/// One message, or a gesture (hands/Hands.h). A list owns what stands behind its head.
 struct ZN_API MacroHolder
 {
     MacroHolder() = default; ///< a message that does nothing
@@ -34,5 +34,6 @@ ZN_API void SetMacroRecording(int recording);
 ZN_API void FreeMacro();
 
 /// Puts a message behind the last one. The text is read for ReplaceSel alone, and kept if it is one
-/// character: so a macro repeats what was typed and commanded, and no text of any length.
+/// character: so a macro repeats what was typed and commanded, and no text of any length. What is
+/// played is not appended.
 ZN_API void AppendToMacro(int message, WPARAM wParam, LPARAM lParam);

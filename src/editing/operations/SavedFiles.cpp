@@ -91,15 +91,22 @@ bool CZNCoreEditorControlEx::InsertFile(const char16_t* path,
     return true;
 }
 
-// That the inserted file was cut short says nothing of the file behind the text.
+// That the inserted file was cut short says nothing of the file behind the text, and with care
+// neither does what it is written in.
 bool CZNCoreEditorControlEx::InsertFile(std::FILE* file, FileEncodeConverter::encodingType encoding)
 {
     const bool wasCutShort = WasCutShort();
+    const int ownEncoding = GetEncoding();
+    const bool ownMark = GetWriteEncodingSig();
     const long caret = GetCurrentPos(1);
     const UndoStep step(*this);
     ReadInFileContents(file, encoding, true);
     GotoPos(caret, 1);
     SetSel(caret, caret, 1);
+    if (GetCarefulFiles()) {
+        SetEncoding(ownEncoding);
+        SetWriteEncodingSig(ownMark);
+    }
     const bool isWhole = !WasCutShort();
     SetCutShort(wasCutShort);
     return isWhole;

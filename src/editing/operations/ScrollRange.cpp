@@ -2,28 +2,19 @@
 #include "editing/operations/ScrollRange.h"
 
 #include "control/ZNCoreEditorControl.h"
+#include "editing/operations/LineWidth.h"
+#include "editing/operations/ScrollRest.h"
 
-#include <algorithm>
-#include <limits>
+#include <QAbstractScrollArea>
+#include <QScrollBar>
 
 namespace {
 
-// In pixels, with room for the caret behind the line's end.
-int WidthOfLine(CZNCoreEditorControl& editor, int line)
+// The bar could not follow a caret that went farther than its range was.
+void ShowPlace(CZNCoreEditorControl& editor)
 {
-    constexpr long kRoomForTheCaret = 12;
-    constexpr long kLayoutLimit = 10000; // laying out a longer line costs more than a paint may
-    const long units = editor.LineLength(line, 1);
-    if (units > kLayoutLimit) {
-        // With room to type in, since each other range paints the line once more.
-        const long unit = editor.TextWidth(0, u"n", 1);
-        const long steps = units / kLayoutLimit + 1;
-        return int(std::min<long>(steps * kLayoutLimit * unit, std::numeric_limits<int>::max()));
-    }
-    const long start = editor.PositionFromLine(line, 1);
-    const long end = editor.GetLineEndPosition(line, 1);
-    return int(editor.PointXFromPosition(end, 1) - editor.PointXFromPosition(start, 1) +
-               kRoomForTheCaret);
+    if (auto* area = qobject_cast<QAbstractScrollArea*>(editor.GetSafeHwnd()))
+        area->horizontalScrollBar()->setValue(editor.GetXOffset(1));
 }
 
 } // namespace
@@ -32,9 +23,19 @@ void FitScrollWidth(CZNCoreEditorControl& editor, int firstLine, int lastLine)
 {
     const int last = std::min(lastLine, editor.GetLineCount(1) - 1);
     const int before = editor.GetScrollWidth(1);
-    int widest = before;
-    for (int line = firstLine; line <= last; ++line)
-        widest = std::max(widest, WidthOfLine(editor, line));
-    if (widest > before)
-        editor.SetScrollWidth(widest, 1);
+    int width = before;
+    int widest = -1;
+    for (int line = firstLine; line <= last; ++line) {
+        if (const int each = WidthOfLine(editor, line); each > width) {
+            width = each;
+            widest = line;
+        }
+    }
+    if (width > before) {
+        editor.SetScrollWidth(width, 1);
+        ShowPlace(editor);
+    }
+    const HWND window = editor.GetSafeHwnd();
+    if (ScrollRest* rest = window ? ScrollRest::Of(*window) : nullptr)
+        rest->Measured(widest);
 }

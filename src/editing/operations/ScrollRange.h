@@ -8,5 +8,6 @@
 
 class CZNCoreEditorControl;
 
-/// Widens the range of the horizontal scroll bar to the longest of the lines; it never shrinks.
+/// Widens the range of the horizontal scroll bar to the longest of the lines. In an editor with a
+/// scheme it is set back once the text has rested and is much narrower.
 ZN_API void FitScrollWidth(CZNCoreEditorControl& editor, int firstLine, int lastLine);
