@@ -8,8 +8,8 @@ cmake_minimum_required(VERSION 3.25)
 file(GLOB_RECURSE sources RELATIVE ${FROM} ${FROM}/*.h)
 # Numbers and records alone, which a host works with.
 set(waiting control/Analysis.h control/Completion.h control/EngineLooks.h control/EngineModes.h
-    control/ExpressionCheck.h control/LongLine.h control/Selections.h control/SqlStyles.h docview/ViewCommandNumbers.h platform/base/Units.h
-    platform/docview/CommandIds.h platform/docview/CreateContext.h)
+    control/ExpressionCheck.h control/LongLine.h control/Recording.h control/Selections.h control/SqlStyles.h
+    docview/ViewCommandNumbers.h platform/base/Units.h platform/docview/CommandIds.h platform/docview/CreateContext.h)
 foreach(header IN LISTS sources)
     file(STRINGS ${FROM}/${header} exports REGEX "ZN_API" LIMIT_COUNT 1)
     if(exports)

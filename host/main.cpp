@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 // znworkbench: an example host. It opens SQL scripts in tabs, edits and saves them.
 #include "control/ZNCoreEditorControl.h"
+#include "host/icons/FitScreen.h"
 #include "host/icons/Icons.h"
 #include "host/icons/Style.h"
 #include "host/instance/RunningInstance.h"
@@ -11,8 +12,10 @@
 #include "host/window/Workbench.h"
 
 #include <QApplication>
+#include <QPointer>
 
 #include <cstdio>
+#include <utility>
 
 namespace {
 
@@ -28,11 +31,14 @@ bool EngineIsThere()
     return CZNCoreEditorControl::m_hEditorDllHandle != nullptr;
 }
 
-// The first window of a person keeps the session; one beside it does not.
-int RunInteractively(const QStringList& files, RunningInstance& instance, bool keepsSession)
+// The first window of a person keeps the session; one beside it does not. What later starts have
+// asked for, and the window has not opened before it went, is left in asked.
+int RunInteractively(const QStringList& files, RunningInstance& instance, bool keepsSession,
+                     QList<QStringList>& asked)
 {
     Workbench app(Workbench::Keeps::Places);
-    auto* window = new MainWindow(app);
+    const QPointer<MainWindow> window = new MainWindow(app);
+    FitScreen(*window);
     window->show();
     app.ChooseWhatToRecover();
     if (app.GetMainWnd() && keepsSession)
@@ -45,12 +51,34 @@ int RunInteractively(const QStringList& files, RunningInstance& instance, bool k
         return 0; // closed while a question stood
     if (window->TabCount() == 0)
         app.NewScript();
-    QObject::connect(&instance, &RunningInstance::Requested, window,
-                     [window](const RunningInstance::Request& request) {
-                         window->OpenForLaterStart(request.words, request.token);
+    const QObject context; // of the connection, which this call outlives
+    QObject::connect(&instance, &RunningInstance::Requested, &context,
+                     [&](const RunningInstance::Request& request) {
+                         if (window)
+                             window->OpenForLaterStart(request.words, request.token);
+                         else
+                             app.Asked() << request.words;
                      });
     instance.Serve();
-    return QApplication::exec();
+    const int result = QApplication::exec();
+    instance.Pause();
+    asked = app.Asked();
+    return result;
+}
+
+// Somebody may start the program again while its window asks whether it may go: the next window
+// is theirs.
+int RunUntilNobodyAsks(QStringList files, RunningInstance& instance, bool keepsSession)
+{
+    for (;;) {
+        QList<QStringList> asked;
+        const int result = RunInteractively(files, instance, keepsSession, asked);
+        if (asked.isEmpty() && !instance.HasWaiting())
+            return result;
+        files.clear();
+        for (const QStringList& words : std::as_const(asked))
+            files << words;
+    }
 }
 
 int Run(const Arguments& arguments, const QByteArray& token)
@@ -66,7 +94,7 @@ int Run(const Arguments& arguments, const QByteArray& token)
         Print(stderr, QCoreApplication::translate("main", "The workbench that runs does not "
                                                           "answer. This is a window beside it."));
     const bool keepsSession = role != RunningInstance::Role::Unheard && !arguments.newWindow;
-    return RunInteractively(arguments.files, instance, keepsSession);
+    return RunUntilNobodyAsks(arguments.files, instance, keepsSession);
 }
 
 } // namespace

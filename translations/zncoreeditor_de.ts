@@ -217,6 +217,10 @@ Soll sie neu geladen werden?</translation>
         <source>EOL</source>
         <translation>Zeilenenden</translation>
     </message>
+    <message>
+        <source>Repeating the macro</source>
+        <translation>Makro wird wiederholt</translation>
+    </message>
 </context>
 <context>
     <name>ColorPopup</name>
@@ -943,10 +947,6 @@ Soll sie neu geladen werden?</translation>
         <translation>&amp;Anweisung</translation>
     </message>
     <message>
-        <source>Surround</source>
-        <translation>Einfassen</translation>
-    </message>
-    <message>
         <source>By &amp;Parentheses</source>
         <translation>In &amp;runde Klammern</translation>
     </message>
@@ -975,10 +975,6 @@ Soll sie neu geladen werden?</translation>
         <translation>&amp;Passend eingerückt einfügen</translation>
     </message>
     <message>
-        <source>Go</source>
-        <translation>Gehe zu</translation>
-    </message>
-    <message>
         <source>&amp;Next Statement</source>
         <translation>Nächste &amp;Anweisung</translation>
     </message>
@@ -993,10 +989,6 @@ Soll sie neu geladen werden?</translation>
     <message>
         <source>Previous B&amp;atch</source>
         <translation>&amp;Vorheriger Batch</translation>
-    </message>
-    <message>
-        <source>Folds</source>
-        <translation>Faltungen</translation>
     </message>
     <message>
         <source>&amp;Fold</source>
@@ -1037,6 +1029,18 @@ Soll sie neu geladen werden?</translation>
     <message>
         <source>&amp;Matching Bracket</source>
         <translation>&amp;Zugehörige Klammer</translation>
+    </message>
+    <message>
+        <source>Surrou&amp;nd</source>
+        <translation>Ein&amp;fassen</translation>
+    </message>
+    <message>
+        <source>&amp;Go</source>
+        <translation>&amp;Gehe zu</translation>
+    </message>
+    <message>
+        <source>&amp;Folds</source>
+        <translation>Fal&amp;tungen</translation>
     </message>
 </context>
 <context>
@@ -1448,6 +1452,14 @@ Soll sie neu geladen werden?</translation>
     <message>
         <source>Proposals</source>
         <translation>Vorschläge</translation>
+    </message>
+    <message>
+        <source>Tab takes the first row</source>
+        <translation>Tab übernimmt die erste Zeile</translation>
+    </message>
+    <message>
+        <source>Tab or Enter takes the row</source>
+        <translation>Tab oder Enter übernimmt die Zeile</translation>
     </message>
 </context>
 <context>

@@ -217,6 +217,10 @@ Do you want to reload it?</source>
         <source>EOL</source>
         <translation>Fines de línea</translation>
     </message>
+    <message>
+        <source>Repeating the macro</source>
+        <translation>Repitiendo la macro</translation>
+    </message>
 </context>
 <context>
     <name>ColorPopup</name>
@@ -943,10 +947,6 @@ Do you want to reload it?</source>
         <translation>&amp;Sentencia</translation>
     </message>
     <message>
-        <source>Surround</source>
-        <translation>Rodear</translation>
-    </message>
-    <message>
         <source>By &amp;Parentheses</source>
         <translation>Con &amp;paréntesis</translation>
     </message>
@@ -975,10 +975,6 @@ Do you want to reload it?</source>
         <translation>&amp;Pegar con la sangría de aquí</translation>
     </message>
     <message>
-        <source>Go</source>
-        <translation>Ir</translation>
-    </message>
-    <message>
         <source>&amp;Next Statement</source>
         <translation>S&amp;entencia siguiente</translation>
     </message>
@@ -993,10 +989,6 @@ Do you want to reload it?</source>
     <message>
         <source>Previous B&amp;atch</source>
         <translation>&amp;Lote anterior</translation>
-    </message>
-    <message>
-        <source>Folds</source>
-        <translation>Pliegues</translation>
     </message>
     <message>
         <source>&amp;Fold</source>
@@ -1037,6 +1029,18 @@ Do you want to reload it?</source>
     <message>
         <source>&amp;Matching Bracket</source>
         <translation>Paréntesis &amp;correspondiente</translation>
+    </message>
+    <message>
+        <source>Surrou&amp;nd</source>
+        <translation>En&amp;volver</translation>
+    </message>
+    <message>
+        <source>&amp;Go</source>
+        <translation>&amp;Saltar a</translation>
+    </message>
+    <message>
+        <source>&amp;Folds</source>
+        <translation>Plieg&amp;ues</translation>
     </message>
 </context>
 <context>
@@ -1448,6 +1452,14 @@ Do you want to reload it?</source>
     <message>
         <source>Proposals</source>
         <translation>Propuestas</translation>
+    </message>
+    <message>
+        <source>Tab takes the first row</source>
+        <translation>Tab toma la primera fila</translation>
+    </message>
+    <message>
+        <source>Tab or Enter takes the row</source>
+        <translation>Tab o Intro toma la fila</translation>
     </message>
 </context>
 <context>

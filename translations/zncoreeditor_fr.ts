@@ -217,6 +217,10 @@ Voulez-vous le recharger&#xa0;?</translation>
         <source>EOL</source>
         <translation>Fins de ligne</translation>
     </message>
+    <message>
+        <source>Repeating the macro</source>
+        <translation>Répétition de la macro</translation>
+    </message>
 </context>
 <context>
     <name>ColorPopup</name>
@@ -943,10 +947,6 @@ Voulez-vous le recharger&#xa0;?</translation>
         <translation>&amp;Instruction</translation>
     </message>
     <message>
-        <source>Surround</source>
-        <translation>Entourer</translation>
-    </message>
-    <message>
         <source>By &amp;Parentheses</source>
         <translation>De &amp;parenthèses</translation>
     </message>
@@ -975,10 +975,6 @@ Voulez-vous le recharger&#xa0;?</translation>
         <translation>&amp;Coller avec le retrait d’ici</translation>
     </message>
     <message>
-        <source>Go</source>
-        <translation>Aller à</translation>
-    </message>
-    <message>
         <source>&amp;Next Statement</source>
         <translation>&amp;Instruction suivante</translation>
     </message>
@@ -993,10 +989,6 @@ Voulez-vous le recharger&#xa0;?</translation>
     <message>
         <source>Previous B&amp;atch</source>
         <translation>Lot &amp;précédent</translation>
-    </message>
-    <message>
-        <source>Folds</source>
-        <translation>Plis</translation>
     </message>
     <message>
         <source>&amp;Fold</source>
@@ -1037,6 +1029,18 @@ Voulez-vous le recharger&#xa0;?</translation>
     <message>
         <source>&amp;Matching Bracket</source>
         <translation>Parenthèse &amp;correspondante</translation>
+    </message>
+    <message>
+        <source>Surrou&amp;nd</source>
+        <translation>Entou&amp;rer</translation>
+    </message>
+    <message>
+        <source>&amp;Go</source>
+        <translation>Navi&amp;guer</translation>
+    </message>
+    <message>
+        <source>&amp;Folds</source>
+        <translation>Plis &amp;du texte</translation>
     </message>
 </context>
 <context>
@@ -1448,6 +1452,14 @@ Voulez-vous le recharger&#xa0;?</translation>
     <message>
         <source>Proposals</source>
         <translation>Propositions</translation>
+    </message>
+    <message>
+        <source>Tab takes the first row</source>
+        <translation>Tab prend la première ligne</translation>
+    </message>
+    <message>
+        <source>Tab or Enter takes the row</source>
+        <translation>Tab ou Entrée prend la ligne</translation>
     </message>
 </context>
 <context>

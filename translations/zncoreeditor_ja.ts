@@ -217,6 +217,10 @@ Do you want to reload it?</source>
         <source>EOL</source>
         <translation>改行文字</translation>
     </message>
+    <message>
+        <source>Repeating the macro</source>
+        <translation>マクロを繰り返しています</translation>
+    </message>
 </context>
 <context>
     <name>ColorPopup</name>
@@ -943,10 +947,6 @@ Do you want to reload it?</source>
         <translation>文(&amp;S)</translation>
     </message>
     <message>
-        <source>Surround</source>
-        <translation>囲む</translation>
-    </message>
-    <message>
         <source>By &amp;Parentheses</source>
         <translation>丸括弧で囲む(&amp;P)</translation>
     </message>
@@ -975,10 +975,6 @@ Do you want to reload it?</source>
         <translation>ここのインデントに合わせて貼り付け(&amp;P)</translation>
     </message>
     <message>
-        <source>Go</source>
-        <translation>移動</translation>
-    </message>
-    <message>
         <source>&amp;Next Statement</source>
         <translation>次の文(&amp;N)</translation>
     </message>
@@ -993,10 +989,6 @@ Do you want to reload it?</source>
     <message>
         <source>Previous B&amp;atch</source>
         <translation>前のバッチ(&amp;A)</translation>
-    </message>
-    <message>
-        <source>Folds</source>
-        <translation>折りたたみ</translation>
     </message>
     <message>
         <source>&amp;Fold</source>
@@ -1037,6 +1029,18 @@ Do you want to reload it?</source>
     <message>
         <source>&amp;Matching Bracket</source>
         <translation>対応する括弧(&amp;M)</translation>
+    </message>
+    <message>
+        <source>Surrou&amp;nd</source>
+        <translation>囲む(&amp;N)</translation>
+    </message>
+    <message>
+        <source>&amp;Go</source>
+        <translation>移動(&amp;G)</translation>
+    </message>
+    <message>
+        <source>&amp;Folds</source>
+        <translation>折りたたみ(&amp;F)</translation>
     </message>
 </context>
 <context>
@@ -1448,6 +1452,14 @@ Do you want to reload it?</source>
     <message>
         <source>Proposals</source>
         <translation>候補</translation>
+    </message>
+    <message>
+        <source>Tab takes the first row</source>
+        <translation>Tab で先頭の行を選びます</translation>
+    </message>
+    <message>
+        <source>Tab or Enter takes the row</source>
+        <translation>Tab または Enter でこの行を選びます</translation>
     </message>
 </context>
 <context>

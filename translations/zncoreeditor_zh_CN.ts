@@ -217,6 +217,10 @@ Do you want to reload it?</source>
         <source>EOL</source>
         <translation>行尾符</translation>
     </message>
+    <message>
+        <source>Repeating the macro</source>
+        <translation>正在重复执行宏</translation>
+    </message>
 </context>
 <context>
     <name>ColorPopup</name>
@@ -943,10 +947,6 @@ Do you want to reload it?</source>
         <translation>语句(&amp;S)</translation>
     </message>
     <message>
-        <source>Surround</source>
-        <translation>包围</translation>
-    </message>
-    <message>
         <source>By &amp;Parentheses</source>
         <translation>用圆括号(&amp;P)</translation>
     </message>
@@ -975,10 +975,6 @@ Do you want to reload it?</source>
         <translation>按此处缩进粘贴(&amp;P)</translation>
     </message>
     <message>
-        <source>Go</source>
-        <translation>转到</translation>
-    </message>
-    <message>
         <source>&amp;Next Statement</source>
         <translation>下一条语句(&amp;N)</translation>
     </message>
@@ -993,10 +989,6 @@ Do you want to reload it?</source>
     <message>
         <source>Previous B&amp;atch</source>
         <translation>上一个批(&amp;A)</translation>
-    </message>
-    <message>
-        <source>Folds</source>
-        <translation>折叠</translation>
     </message>
     <message>
         <source>&amp;Fold</source>
@@ -1037,6 +1029,18 @@ Do you want to reload it?</source>
     <message>
         <source>&amp;Matching Bracket</source>
         <translation>匹配的括号(&amp;M)</translation>
+    </message>
+    <message>
+        <source>Surrou&amp;nd</source>
+        <translation>包围(&amp;N)</translation>
+    </message>
+    <message>
+        <source>&amp;Go</source>
+        <translation>转到(&amp;G)</translation>
+    </message>
+    <message>
+        <source>&amp;Folds</source>
+        <translation>折叠(&amp;F)</translation>
     </message>
 </context>
 <context>
@@ -1448,6 +1452,14 @@ Do you want to reload it?</source>
     <message>
         <source>Proposals</source>
         <translation>建议</translation>
+    </message>
+    <message>
+        <source>Tab takes the first row</source>
+        <translation>Tab 选用第一行</translation>
+    </message>
+    <message>
+        <source>Tab or Enter takes the row</source>
+        <translation>Tab 或 Enter 选用此行</translation>
     </message>
 </context>
 <context>

@@ -82,6 +82,36 @@ Mit Qt %1. Lizenziert unter der GNU General Public License, Version 3 oder spät
     </message>
 </context>
 <context>
+    <name>ComparisonDialog</name>
+    <message>
+        <source>Compare</source>
+        <translation>Vergleichen</translation>
+    </message>
+    <message>
+        <source>&amp;Close</source>
+        <translation>S&amp;chließen</translation>
+    </message>
+    <message>
+        <source>%1 is not compared: what is no text, longer than 8 MB or cannot be read is not shown.</source>
+        <translation>%1 wird nicht verglichen: Was kein Text ist, länger als 8 MB ist oder nicht gelesen werden kann, wird nicht gezeigt.</translation>
+    </message>
+    <message>
+        <source>%1: lines with - are in the file alone, those with + in the script alone.</source>
+        <translation>%1: Zeilen mit - stehen nur in der Datei, Zeilen mit + nur im Skript.</translation>
+    </message>
+    <message>
+        <source>%1: script and file have the same text.</source>
+        <translation>%1: Skript und Datei haben denselben Text.</translation>
+    </message>
+</context>
+<context>
+    <name>ComparisonView</name>
+    <message>
+        <source>Comparison</source>
+        <translation>Vergleich</translation>
+    </message>
+</context>
+<context>
     <name>EditingMenu</name>
     <message>
         <source>C&amp;omments</source>
@@ -252,7 +282,7 @@ Mit Qt %1. Lizenziert unter der GNU General Public License, Version 3 oder spät
         <translation>&amp;Alle entfernen</translation>
     </message>
     <message>
-        <source>Insert &amp;File...</source>
+        <source>Ins&amp;ert File...</source>
         <translation>&amp;Datei einfügen...</translation>
     </message>
 </context>
@@ -281,6 +311,62 @@ Mit Qt %1. Lizenziert unter der GNU General Public License, Version 3 oder spät
     <message>
         <source>Unknown encoding</source>
         <translation>Unbekannte Kodierung</translation>
+    </message>
+    <message>
+        <source>Western European</source>
+        <translation>Westeuropäisch</translation>
+    </message>
+    <message>
+        <source>Central European</source>
+        <translation>Mitteleuropäisch</translation>
+    </message>
+    <message>
+        <source>Cyrillic</source>
+        <translation>Kyrillisch</translation>
+    </message>
+    <message>
+        <source>Greek</source>
+        <translation>Griechisch</translation>
+    </message>
+    <message>
+        <source>Turkish</source>
+        <translation>Türkisch</translation>
+    </message>
+    <message>
+        <source>Baltic</source>
+        <translation>Baltisch</translation>
+    </message>
+    <message>
+        <source>Hebrew</source>
+        <translation>Hebräisch</translation>
+    </message>
+    <message>
+        <source>Arabic</source>
+        <translation>Arabisch</translation>
+    </message>
+    <message>
+        <source>Vietnamese</source>
+        <translation>Vietnamesisch</translation>
+    </message>
+    <message>
+        <source>Thai</source>
+        <translation>Thailändisch</translation>
+    </message>
+    <message>
+        <source>Japanese</source>
+        <translation>Japanisch</translation>
+    </message>
+    <message>
+        <source>Simplified Chinese</source>
+        <translation>Chinesisch, vereinfacht</translation>
+    </message>
+    <message>
+        <source>Traditional Chinese</source>
+        <translation>Chinesisch, traditionell</translation>
+    </message>
+    <message>
+        <source>Korean</source>
+        <translation>Koreanisch</translation>
     </message>
 </context>
 <context>
@@ -320,6 +406,18 @@ Mit Qt %1. Lizenziert unter der GNU General Public License, Version 3 oder spät
     <message>
         <source>Original Script</source>
         <translation>Originalskript</translation>
+    </message>
+    <message>
+        <source>Nothing was expanded. #include, #define and &amp;&amp;NAME are; the lines by which client programs read files (\i, @, :r) stay as they are.</source>
+        <translation>Nichts wurde expandiert. Expandiert werden #include, #define und &amp;&amp;NAME; Zeilen, mit denen Client-Programme Dateien lesen (\i, @, :r), bleiben, wie sie sind.</translation>
+    </message>
+    <message>
+        <source>%1 (out of date)</source>
+        <translation>%1 (veraltet)</translation>
+    </message>
+    <message>
+        <source>The script was changed since. Tools &gt; Expanded Script shows it as it is.</source>
+        <translation>Das Skript wurde seitdem geändert. Extras &gt; Expandiertes Skript zeigt es, wie es ist.</translation>
     </message>
 </context>
 <context>
@@ -786,6 +884,10 @@ Mit Qt %1. Lizenziert unter der GNU General Public License, Version 3 oder spät
         <source>The keys could not be written to the settings. They are as shown until the workbench ends.</source>
         <translation>Die Tasten konnten nicht in die Einstellungen geschrieben werden. Sie gelten, bis die Anwendung endet.</translation>
     </message>
+    <message>
+        <source>%1 is a key of the text, for “%2”. Do you want to move it to “%3”?</source>
+        <translation>%1 ist eine Taste des Textes, für „%2“. Soll sie zu „%3“ verschoben werden?</translation>
+    </message>
 </context>
 <context>
     <name>LanguageMenu</name>
@@ -979,10 +1081,6 @@ Mit Qt %1. Lizenziert unter der GNU General Public License, Version 3 oder spät
         <translation>Alles a&amp;uswählen</translation>
     </message>
     <message>
-        <source>Complete Word</source>
-        <translation>Wort vervollständigen</translation>
-    </message>
-    <message>
         <source>Function Arguments</source>
         <translation>Funktionsargumente</translation>
     </message>
@@ -1015,14 +1113,6 @@ Mit Qt %1. Lizenziert unter der GNU General Public License, Version 3 oder spät
         <translation>V&amp;erkleinern</translation>
     </message>
     <message>
-        <source>&amp;Reset Zoom</source>
-        <translation>Zoo&amp;m zurücksetzen</translation>
-    </message>
-    <message>
-        <source>&amp;Whitespace</source>
-        <translation>&amp;Leerzeichen</translation>
-    </message>
-    <message>
         <source>Line &amp;Ends</source>
         <translation>&amp;Zeilenenden</translation>
     </message>
@@ -1035,36 +1125,12 @@ Mit Qt %1. Lizenziert unter der GNU General Public License, Version 3 oder spät
         <translation>Übereinander &amp;teilen</translation>
     </message>
     <message>
-        <source>Split Side &amp;by Side</source>
-        <translation>&amp;Nebeneinander teilen</translation>
-    </message>
-    <message>
         <source>Ot&amp;her Pane</source>
         <translation>An&amp;derer Bereich</translation>
     </message>
     <message>
-        <source>Previo&amp;us Pane</source>
-        <translation>Vorheriger &amp;Bereich</translation>
-    </message>
-    <message>
         <source>&amp;Next Area</source>
         <translation>Nä&amp;chster Fensterteil</translation>
-    </message>
-    <message>
-        <source>New &amp;View</source>
-        <translation>Neue &amp;Ansicht</translation>
-    </message>
-    <message>
-        <source>Next Proble&amp;m</source>
-        <translation>Nächstes &amp;Problem</translation>
-    </message>
-    <message>
-        <source>Ne&amp;xt Script</source>
-        <translation>Nächstes &amp;Skript</translation>
-    </message>
-    <message>
-        <source>&amp;Previous Script</source>
-        <translation>Vo&amp;rheriges Skript</translation>
     </message>
     <message>
         <source>&amp;Expanded Script</source>
@@ -1197,10 +1263,6 @@ Mit Qt %1. Lizenziert unter der GNU General Public License, Version 3 oder spät
         <translation>&amp;Hilfe</translation>
     </message>
     <message>
-        <source>Previou&amp;s Problem</source>
-        <translation>Vor&amp;heriges Problem</translation>
-    </message>
-    <message>
         <source>Stop &amp;Recording</source>
         <translation>Aufzeichnung been&amp;den</translation>
     </message>
@@ -1223,6 +1285,74 @@ Mit Qt %1. Lizenziert unter der GNU General Public License, Version 3 oder spät
     <message>
         <source>Open Fold&amp;er...</source>
         <translation>&amp;Ordner öffnen...</translation>
+    </message>
+    <message>
+        <source>Split Side b&amp;y Side</source>
+        <translation>&amp;Nebeneinander teilen</translation>
+    </message>
+    <message>
+        <source>O&amp;utline</source>
+        <translation>Gliede&amp;rung</translation>
+    </message>
+    <message>
+        <source>&amp;Folder</source>
+        <translation>&amp;Ordner</translation>
+    </message>
+    <message>
+        <source>Tool &amp;Bar</source>
+        <translation>&amp;Werkzeugleiste</translation>
+    </message>
+    <message>
+        <source>Complete Word</source>
+        <translation>Wort vervollständigen</translation>
+    </message>
+    <message>
+        <source>&amp;Reset Zoom</source>
+        <translation>Zoo&amp;m zurücksetzen</translation>
+    </message>
+    <message>
+        <source>&amp;Whitespace</source>
+        <translation>&amp;Leerzeichen</translation>
+    </message>
+    <message>
+        <source>Previous Pane</source>
+        <translation>Vorheriger Bereich</translation>
+    </message>
+    <message>
+        <source>New &amp;View</source>
+        <translation>Neue &amp;Ansicht</translation>
+    </message>
+    <message>
+        <source>Next Problem</source>
+        <translation>Nächstes Problem</translation>
+    </message>
+    <message>
+        <source>Previous Problem</source>
+        <translation>Vorheriges Problem</translation>
+    </message>
+    <message>
+        <source>Next Script</source>
+        <translation>Nächstes Skript</translation>
+    </message>
+    <message>
+        <source>Previous Script</source>
+        <translation>Vorheriges Skript</translation>
+    </message>
+    <message>
+        <source>&amp;Problems</source>
+        <translation>&amp;Probleme</translation>
+    </message>
+    <message>
+        <source>E&amp;xpanded Script</source>
+        <translation>E&amp;xpandiertes Skript</translation>
+    </message>
+    <message>
+        <source>Find Re&amp;sults</source>
+        <translation>&amp;Suchergebnisse</translation>
+    </message>
+    <message>
+        <source>Find Results &amp;2</source>
+        <translation>Suchergebnisse &amp;2</translation>
     </message>
 </context>
 <context>
@@ -1357,6 +1487,30 @@ Mit Qt %1. Lizenziert unter der GNU General Public License, Version 3 oder spät
         <source>Close brackets and &amp;quotes</source>
         <translation>Kla&amp;mmern und Anführungszeichen schließen</translation>
     </message>
+    <message>
+        <source>Print na&amp;me, page numbers and date</source>
+        <translation>Name, Seitenzahl und Datum dru&amp;cken</translation>
+    </message>
+    <message>
+        <source>None of Unicode: as below</source>
+        <translation>Kein Unicode: wie unten</translation>
+    </message>
+    <message>
+        <source>What a file is read as that has no mark and is not UTF-8. One that looks wrong can be opened with another: click its encoding in the status bar.</source>
+        <translation>Wie eine Datei gelesen wird, die keine Marke hat und nicht UTF-8 ist. Eine, die falsch aussieht, lässt sich mit einer anderen öffnen: auf die Kodierung in der Statusleiste klicken.</translation>
+    </message>
+    <message>
+        <source>Files that are no &amp;Unicode</source>
+        <translation>&amp;Was kein Unicode ist</translation>
+    </message>
+    <message>
+        <source>By the language: as the line above, and a step further in behind {, ) and : alone, which is for languages with braces. With &quot;Close brackets and quotes&quot; what brackets hold is a step further in either way.</source>
+        <translation>Nach der Sprache: wie die Zeile darüber, und einen Schritt weiter eingerückt nur hinter {, ) und :, was für Sprachen mit geschweiften Klammern gedacht ist. Mit „Klammern und Anführungszeichen schließen“ ist in beiden Fällen einen Schritt weiter eingerückt, was in Klammern steht.</translation>
+    </message>
+    <message>
+        <source>There is no font “%1”.</source>
+        <translation>Es gibt keine Schriftart „%1“.</translation>
+    </message>
 </context>
 <context>
     <name>OutlinePane</name>
@@ -1460,6 +1614,10 @@ Mit Qt %1. Lizenziert unter der GNU General Public License, Version 3 oder spät
     <message>
         <source>Open Folder</source>
         <translation>Ordner öffnen</translation>
+    </message>
+    <message>
+        <source>Co&amp;mpare...</source>
+        <translation>&amp;Vergleichen...</translation>
     </message>
 </context>
 <context>
@@ -1705,10 +1863,6 @@ Mit Qt %1. Lizenziert unter der GNU General Public License, Version 3 oder spät
         <translation>Aktion</translation>
     </message>
     <message>
-        <source>Comparison of copy and file</source>
-        <translation>Vergleich von Kopie und Datei</translation>
-    </message>
-    <message>
         <source>All scripts:</source>
         <translation>Alle Skripte:</translation>
     </message>
@@ -1754,6 +1908,22 @@ Mit Qt %1. Lizenziert unter der GNU General Public License, Version 3 oder spät
     <message>
         <source>%1%2: &quot;%3&quot; becomes &quot;%4&quot;</source>
         <translation>%1%2: Aus „%3“ wird „%4“</translation>
+    </message>
+    <message>
+        <source>not open: is saved at once, no undo</source>
+        <translation>nicht geöffnet: wird sofort gespeichert, nicht rückgängig zu machen</translation>
+    </message>
+    <message>
+        <source>saved</source>
+        <translation>gespeichert</translation>
+    </message>
+    <message>
+        <source>open, not saved</source>
+        <translation>geöffnet, nicht gespeichert</translation>
+    </message>
+    <message>
+        <source>closed</source>
+        <translation>geschlossen</translation>
     </message>
 </context>
 <context>
@@ -1807,10 +1977,10 @@ Mit Qt %1. Lizenziert unter der GNU General Public License, Version 3 oder spät
         <translation>„%1“: %2</translation>
     </message>
     <message numerus="yes">
-        <source>&apos;%1&apos;: %n matches in %2 of %3 files</source>
+        <source>&apos;%1&apos;: %Ln matches in %2 of %3 files</source>
         <translation>
-            <numerusform>„%1“: %n Treffer in %2 von %3 Dateien</numerusform>
-            <numerusform>„%1“: %n Treffer in %2 von %3 Dateien</numerusform>
+            <numerusform>„%1“: %Ln Treffer in %2 von %3 Dateien</numerusform>
+            <numerusform>„%1“: %Ln Treffer in %2 von %3 Dateien</numerusform>
         </translation>
     </message>
     <message>
@@ -1842,22 +2012,48 @@ Mit Qt %1. Lizenziert unter der GNU General Public License, Version 3 oder spät
         <translation>Ersetzen: %1 von %2 Dateien</translation>
     </message>
     <message numerus="yes">
-        <source>%n matches replaced in %1 files</source>
+        <source>. %Ln files were left as they are, see the end of the list</source>
         <translation>
-            <numerusform>%n Treffer in %1 Dateien ersetzt</numerusform>
-            <numerusform>%n Treffer in %1 Dateien ersetzt</numerusform>
-        </translation>
-    </message>
-    <message numerus="yes">
-        <source>. %n files were left as they are, see the end of the list</source>
-        <translation>
-            <numerusform>. %n Datei blieb, wie sie war, siehe Ende der Liste</numerusform>
-            <numerusform>. %n Dateien blieben, wie sie waren, siehe Ende der Liste</numerusform>
+            <numerusform>. %Ln Datei blieb, wie sie war, siehe Ende der Liste</numerusform>
+            <numerusform>. %Ln Dateien blieben, wie sie waren, siehe Ende der Liste</numerusform>
         </translation>
     </message>
     <message>
         <source>St&amp;op</source>
         <translation>&amp;Anhalten</translation>
+    </message>
+    <message>
+        <source>1 file saved</source>
+        <translation>1 Datei gespeichert</translation>
+    </message>
+    <message numerus="yes">
+        <source>%Ln files saved</source>
+        <translation>
+            <numerusform>%Ln Datei gespeichert</numerusform>
+            <numerusform>%Ln Dateien gespeichert</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>1 open script changed, not saved</source>
+        <translation>1 offenes Skript geändert, nicht gespeichert</translation>
+    </message>
+    <message numerus="yes">
+        <source>%Ln open scripts changed, not saved</source>
+        <translation>
+            <numerusform>%Ln offenes Skript geändert, nicht gespeichert</numerusform>
+            <numerusform>%Ln offene Skripte geändert, nicht gespeichert</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>1 match replaced</source>
+        <translation>1 Treffer ersetzt</translation>
+    </message>
+    <message numerus="yes">
+        <source>%Ln matches replaced</source>
+        <translation>
+            <numerusform>%Ln Treffer ersetzt</numerusform>
+            <numerusform>%Ln Treffer ersetzt</numerusform>
+        </translation>
     </message>
 </context>
 <context>
@@ -1961,6 +2157,18 @@ Mit Qt %1. Lizenziert unter der GNU General Public License, Version 3 oder spät
         <source>Open &amp;Document</source>
         <translation>&amp;Dokument öffnen</translation>
     </message>
+    <message>
+        <source>“%1” was written: 1 page</source>
+        <translation>„%1“ wurde geschrieben: 1 Seite</translation>
+    </message>
+    <message>
+        <source>“%1” was written: %L2 pages</source>
+        <translation>„%1“ wurde geschrieben: %L2 Seiten</translation>
+    </message>
+    <message>
+        <source>“%1” was written</source>
+        <translation>„%1“ wurde geschrieben</translation>
+    </message>
 </context>
 <context>
     <name>ScriptDoc</name>
@@ -2036,6 +2244,18 @@ Mit Qt %1. Lizenziert unter der GNU General Public License, Version 3 oder spät
         <source>&amp;Read Again</source>
         <translation>&amp;Neu lesen</translation>
     </message>
+    <message>
+        <source>No copy of “%1” could be written in case of a crash: the disk may be full. Save it.</source>
+        <translation>Für den Fall eines Absturzes konnte keine Kopie von „%1“ geschrieben werden: Vielleicht ist der Datenträger voll. Speichern Sie es.</translation>
+    </message>
+    <message>
+        <source>“%1” is read-only, and nothing was changed. Save As makes a copy that you can change.</source>
+        <translation>„%1“ ist schreibgeschützt, nichts wurde geändert. „Speichern unter“ macht eine Kopie, die Sie ändern können.</translation>
+    </message>
+    <message>
+        <source>“%1” is read-only, and nothing was changed. File &gt; Read Only ends that.</source>
+        <translation>„%1“ ist schreibgeschützt, nichts wurde geändert. Datei &gt; Schreibgeschützt hebt das auf.</translation>
+    </message>
 </context>
 <context>
     <name>ScriptFrame</name>
@@ -2049,6 +2269,14 @@ Mit Qt %1. Lizenziert unter der GNU General Public License, Version 3 oder spät
     <message>
         <source>Finding page %1</source>
         <translation>Seite %1 wird gesucht</translation>
+    </message>
+    <message>
+        <source>Page %1 of %2</source>
+        <translation>Seite %1 von %2</translation>
+    </message>
+    <message>
+        <source>Page %1</source>
+        <translation>Seite %1</translation>
     </message>
 </context>
 <context>
@@ -2193,6 +2421,14 @@ Mit Qt %1. Lizenziert unter der GNU General Public License, Version 3 oder spät
         <source>Symbols of the script</source>
         <translation>Symbole des Skripts</translation>
     </message>
+    <message>
+        <source>The script creates nothing that could be listed</source>
+        <translation>Das Skript legt nichts an, das aufgelistet werden könnte</translation>
+    </message>
+    <message>
+        <source>Nothing that the script creates has this name</source>
+        <translation>Nichts, was das Skript anlegt, hat diesen Namen</translation>
+    </message>
 </context>
 <context>
     <name>Symbols</name>
@@ -2267,6 +2503,10 @@ Mit Qt %1. Lizenziert unter der GNU General Public License, Version 3 oder spät
         <source>%1, in front</source>
         <translation>%1, vorn</translation>
     </message>
+    <message>
+        <source>No script has this in its name</source>
+        <translation>Kein Skript hat das in seinem Namen</translation>
+    </message>
 </context>
 <context>
     <name>TabMenu</name>
@@ -2307,6 +2547,17 @@ Mit Qt %1. Lizenziert unter der GNU General Public License, Version 3 oder spät
     </message>
 </context>
 <context>
+    <name>TemplateForm</name>
+    <message>
+        <source>Insert Template</source>
+        <translation>Vorlage einfügen</translation>
+    </message>
+    <message>
+        <source>&amp;Insert</source>
+        <translation>&amp;Einfügen</translation>
+    </message>
+</context>
+<context>
     <name>TemplateList</name>
     <message>
         <source>Templates</source>
@@ -2323,6 +2574,93 @@ Mit Qt %1. Lizenziert unter der GNU General Public License, Version 3 oder spät
     <message>
         <source>Text of the template</source>
         <translation>Text der Vorlage</translation>
+    </message>
+</context>
+<context>
+    <name>TextKeys</name>
+    <message>
+        <source>Word Left</source>
+        <translation>Wort nach links</translation>
+    </message>
+    <message>
+        <source>Word Right</source>
+        <translation>Wort nach rechts</translation>
+    </message>
+    <message>
+        <source>Select Word Left</source>
+        <translation>Wort nach links auswählen</translation>
+    </message>
+    <message>
+        <source>Select Word Right</source>
+        <translation>Wort nach rechts auswählen</translation>
+    </message>
+    <message>
+        <source>Start of the Text</source>
+        <translation>Anfang des Textes</translation>
+    </message>
+    <message>
+        <source>End of the Text</source>
+        <translation>Ende des Textes</translation>
+    </message>
+    <message>
+        <source>Select to the Start of the Text</source>
+        <translation>Bis zum Anfang des Textes auswählen</translation>
+    </message>
+    <message>
+        <source>Select to the End of the Text</source>
+        <translation>Bis zum Ende des Textes auswählen</translation>
+    </message>
+    <message>
+        <source>Scroll Up</source>
+        <translation>Nach oben rollen</translation>
+    </message>
+    <message>
+        <source>Scroll Down</source>
+        <translation>Nach unten rollen</translation>
+    </message>
+    <message>
+        <source>Delete Word Left</source>
+        <translation>Wort links löschen</translation>
+    </message>
+    <message>
+        <source>Delete Word Right</source>
+        <translation>Wort rechts löschen</translation>
+    </message>
+    <message>
+        <source>Delete to the Start of the Line</source>
+        <translation>Bis zum Zeilenanfang löschen</translation>
+    </message>
+    <message>
+        <source>Delete to the End of the Line</source>
+        <translation>Bis zum Zeilenende löschen</translation>
+    </message>
+    <message>
+        <source>Select Columns</source>
+        <translation>Spalten auswählen</translation>
+    </message>
+    <message>
+        <source>Delete Line</source>
+        <translation>Zeile löschen</translation>
+    </message>
+    <message>
+        <source>Swap with the Line Above</source>
+        <translation>Mit der Zeile darüber tauschen</translation>
+    </message>
+    <message>
+        <source>Paragraph Up</source>
+        <translation>Absatz nach oben</translation>
+    </message>
+    <message>
+        <source>Select Paragraph Up</source>
+        <translation>Absatz nach oben auswählen</translation>
+    </message>
+    <message>
+        <source>Start of the Row</source>
+        <translation>Anfang der Bildschirmzeile</translation>
+    </message>
+    <message>
+        <source>End of the Row</source>
+        <translation>Ende der Bildschirmzeile</translation>
     </message>
 </context>
 <context>

@@ -82,6 +82,36 @@ Con Qt %1. Con licencia pública general de GNU, versión 3 o posterior.</transl
     </message>
 </context>
 <context>
+    <name>ComparisonDialog</name>
+    <message>
+        <source>Compare</source>
+        <translation>Comparar</translation>
+    </message>
+    <message>
+        <source>&amp;Close</source>
+        <translation>&amp;Cerrar</translation>
+    </message>
+    <message>
+        <source>%1 is not compared: what is no text, longer than 8 MB or cannot be read is not shown.</source>
+        <translation>%1 no se compara: lo que no es texto, pasa de 8 MB o no se puede leer no se muestra.</translation>
+    </message>
+    <message>
+        <source>%1: lines with - are in the file alone, those with + in the script alone.</source>
+        <translation>%1: las líneas con - solo están en el archivo; las líneas con +, solo en el script.</translation>
+    </message>
+    <message>
+        <source>%1: script and file have the same text.</source>
+        <translation>%1: el script y el archivo tienen el mismo texto.</translation>
+    </message>
+</context>
+<context>
+    <name>ComparisonView</name>
+    <message>
+        <source>Comparison</source>
+        <translation>Comparación</translation>
+    </message>
+</context>
+<context>
     <name>EditingMenu</name>
     <message>
         <source>C&amp;omments</source>
@@ -252,7 +282,7 @@ Con Qt %1. Con licencia pública general de GNU, versión 3 o posterior.</transl
         <translation>&amp;Borrar todos</translation>
     </message>
     <message>
-        <source>Insert &amp;File...</source>
+        <source>Ins&amp;ert File...</source>
         <translation>Insertar arc&amp;hivo...</translation>
     </message>
 </context>
@@ -281,6 +311,62 @@ Con Qt %1. Con licencia pública general de GNU, versión 3 o posterior.</transl
     <message>
         <source>Unknown encoding</source>
         <translation>Codificación desconocida</translation>
+    </message>
+    <message>
+        <source>Western European</source>
+        <translation>Europeo occidental</translation>
+    </message>
+    <message>
+        <source>Central European</source>
+        <translation>Europeo central</translation>
+    </message>
+    <message>
+        <source>Cyrillic</source>
+        <translation>Cirílico</translation>
+    </message>
+    <message>
+        <source>Greek</source>
+        <translation>Griego</translation>
+    </message>
+    <message>
+        <source>Turkish</source>
+        <translation>Turco</translation>
+    </message>
+    <message>
+        <source>Baltic</source>
+        <translation>Báltico</translation>
+    </message>
+    <message>
+        <source>Hebrew</source>
+        <translation>Hebreo</translation>
+    </message>
+    <message>
+        <source>Arabic</source>
+        <translation>Árabe</translation>
+    </message>
+    <message>
+        <source>Vietnamese</source>
+        <translation>Vietnamita</translation>
+    </message>
+    <message>
+        <source>Thai</source>
+        <translation>Tailandés</translation>
+    </message>
+    <message>
+        <source>Japanese</source>
+        <translation>Japonés</translation>
+    </message>
+    <message>
+        <source>Simplified Chinese</source>
+        <translation>Chino simplificado</translation>
+    </message>
+    <message>
+        <source>Traditional Chinese</source>
+        <translation>Chino tradicional</translation>
+    </message>
+    <message>
+        <source>Korean</source>
+        <translation>Coreano</translation>
     </message>
 </context>
 <context>
@@ -320,6 +406,18 @@ Con Qt %1. Con licencia pública general de GNU, versión 3 o posterior.</transl
     <message>
         <source>Original Script</source>
         <translation>Script original</translation>
+    </message>
+    <message>
+        <source>Nothing was expanded. #include, #define and &amp;&amp;NAME are; the lines by which client programs read files (\i, @, :r) stay as they are.</source>
+        <translation>No se ha expandido nada. Se expanden #include, #define y &amp;&amp;NAME; las líneas con las que los programas cliente leen archivos (\i, @, :r) quedan como están.</translation>
+    </message>
+    <message>
+        <source>%1 (out of date)</source>
+        <translation>%1 (desactualizado)</translation>
+    </message>
+    <message>
+        <source>The script was changed since. Tools &gt; Expanded Script shows it as it is.</source>
+        <translation>El script ha cambiado desde entonces. Herramientas &gt; Script expandido lo muestra como está.</translation>
     </message>
 </context>
 <context>
@@ -786,6 +884,10 @@ Con Qt %1. Con licencia pública general de GNU, versión 3 o posterior.</transl
         <source>The keys could not be written to the settings. They are as shown until the workbench ends.</source>
         <translation>No se pudieron escribir las teclas en la configuración. Valen hasta que termine la aplicación.</translation>
     </message>
+    <message>
+        <source>%1 is a key of the text, for “%2”. Do you want to move it to “%3”?</source>
+        <translation>%1 es una tecla del texto, para «%2». ¿Quiere pasarla a «%3»?</translation>
+    </message>
 </context>
 <context>
     <name>LanguageMenu</name>
@@ -979,10 +1081,6 @@ Con Qt %1. Con licencia pública general de GNU, versión 3 o posterior.</transl
         <translation>Seleccio&amp;nar todo</translation>
     </message>
     <message>
-        <source>Complete Word</source>
-        <translation>Completar palabra</translation>
-    </message>
-    <message>
         <source>Function Arguments</source>
         <translation>Argumentos de la función</translation>
     </message>
@@ -1015,14 +1113,6 @@ Con Qt %1. Con licencia pública general de GNU, versión 3 o posterior.</transl
         <translation>A&amp;lejar</translation>
     </message>
     <message>
-        <source>&amp;Reset Zoom</source>
-        <translation>Restablecer &amp;zoom</translation>
-    </message>
-    <message>
-        <source>&amp;Whitespace</source>
-        <translation>&amp;Espacios en blanco</translation>
-    </message>
-    <message>
         <source>Line &amp;Ends</source>
         <translation>&amp;Fines de línea</translation>
     </message>
@@ -1035,36 +1125,12 @@ Con Qt %1. Con licencia pública general de GNU, versión 3 o posterior.</transl
         <translation>Dividir arriba &amp;y abajo</translation>
     </message>
     <message>
-        <source>Split Side &amp;by Side</source>
-        <translation>&amp;Dividir lado a lado</translation>
-    </message>
-    <message>
         <source>Ot&amp;her Pane</source>
         <translation>&amp;Otro panel</translation>
     </message>
     <message>
-        <source>Previo&amp;us Pane</source>
-        <translation>&amp;Panel anterior</translation>
-    </message>
-    <message>
         <source>&amp;Next Area</source>
         <translation>Área &amp;siguiente</translation>
-    </message>
-    <message>
-        <source>New &amp;View</source>
-        <translation>&amp;Vista nueva</translation>
-    </message>
-    <message>
-        <source>Next Proble&amp;m</source>
-        <translation>Pro&amp;blema siguiente</translation>
-    </message>
-    <message>
-        <source>Ne&amp;xt Script</source>
-        <translation>Scr&amp;ipt siguiente</translation>
-    </message>
-    <message>
-        <source>&amp;Previous Script</source>
-        <translation>Sc&amp;ript anterior</translation>
     </message>
     <message>
         <source>&amp;Expanded Script</source>
@@ -1197,10 +1263,6 @@ Con Qt %1. Con licencia pública general de GNU, versión 3 o posterior.</transl
         <translation>A&amp;yuda</translation>
     </message>
     <message>
-        <source>Previou&amp;s Problem</source>
-        <translation>Problema a&amp;nterior</translation>
-    </message>
-    <message>
         <source>Stop &amp;Recording</source>
         <translation>Detener la &amp;grabación</translation>
     </message>
@@ -1223,6 +1285,74 @@ Con Qt %1. Con licencia pública general de GNU, versión 3 o posterior.</transl
     <message>
         <source>Open Fold&amp;er...</source>
         <translation>A&amp;brir carpeta...</translation>
+    </message>
+    <message>
+        <source>Split Side b&amp;y Side</source>
+        <translation>&amp;Dividir lado a lado</translation>
+    </message>
+    <message>
+        <source>O&amp;utline</source>
+        <translation>Es&amp;quema</translation>
+    </message>
+    <message>
+        <source>&amp;Folder</source>
+        <translation>Ca&amp;rpeta</translation>
+    </message>
+    <message>
+        <source>Tool &amp;Bar</source>
+        <translation>&amp;Barra de herramientas</translation>
+    </message>
+    <message>
+        <source>Complete Word</source>
+        <translation>Completar palabra</translation>
+    </message>
+    <message>
+        <source>&amp;Reset Zoom</source>
+        <translation>Restablecer &amp;zoom</translation>
+    </message>
+    <message>
+        <source>&amp;Whitespace</source>
+        <translation>&amp;Espacios en blanco</translation>
+    </message>
+    <message>
+        <source>Previous Pane</source>
+        <translation>Panel anterior</translation>
+    </message>
+    <message>
+        <source>New &amp;View</source>
+        <translation>&amp;Vista nueva</translation>
+    </message>
+    <message>
+        <source>Next Problem</source>
+        <translation>Problema siguiente</translation>
+    </message>
+    <message>
+        <source>Previous Problem</source>
+        <translation>Problema anterior</translation>
+    </message>
+    <message>
+        <source>Next Script</source>
+        <translation>Script siguiente</translation>
+    </message>
+    <message>
+        <source>Previous Script</source>
+        <translation>Script anterior</translation>
+    </message>
+    <message>
+        <source>&amp;Problems</source>
+        <translation>&amp;Problemas</translation>
+    </message>
+    <message>
+        <source>E&amp;xpanded Script</source>
+        <translation>Script e&amp;xpandido</translation>
+    </message>
+    <message>
+        <source>Find Re&amp;sults</source>
+        <translation>Resultados de la búsqueda (&amp;K)</translation>
+    </message>
+    <message>
+        <source>Find Results &amp;2</source>
+        <translation>Resultados de la búsqueda &amp;2</translation>
     </message>
 </context>
 <context>
@@ -1357,6 +1487,30 @@ Con Qt %1. Con licencia pública general de GNU, versión 3 o posterior.</transl
         <source>Close brackets and &amp;quotes</source>
         <translation>Cerrar corc&amp;hetes, paréntesis y comillas</translation>
     </message>
+    <message>
+        <source>Print na&amp;me, page numbers and date</source>
+        <translation>Imprimir nom&amp;bre, números de página y fecha</translation>
+    </message>
+    <message>
+        <source>None of Unicode: as below</source>
+        <translation>Ninguna de Unicode: como abajo</translation>
+    </message>
+    <message>
+        <source>What a file is read as that has no mark and is not UTF-8. One that looks wrong can be opened with another: click its encoding in the status bar.</source>
+        <translation>Cómo se lee un archivo que no tiene marca y no es UTF-8. Uno que se ve mal puede abrirse con otra: haga clic en su codificación en la barra de estado.</translation>
+    </message>
+    <message>
+        <source>Files that are no &amp;Unicode</source>
+        <translation>Archivos &amp;que no son Unicode</translation>
+    </message>
+    <message>
+        <source>By the language: as the line above, and a step further in behind {, ) and : alone, which is for languages with braces. With &quot;Close brackets and quotes&quot; what brackets hold is a step further in either way.</source>
+        <translation>Según el lenguaje: como la línea de arriba, y un paso más adentro solo después de {, ) y :, lo que es para lenguajes con llaves. Con «Cerrar corchetes, paréntesis y comillas», lo que contienen los corchetes va un paso más adentro en ambos casos.</translation>
+    </message>
+    <message>
+        <source>There is no font “%1”.</source>
+        <translation>No hay ninguna fuente «%1».</translation>
+    </message>
 </context>
 <context>
     <name>OutlinePane</name>
@@ -1460,6 +1614,10 @@ Con Qt %1. Con licencia pública general de GNU, versión 3 o posterior.</transl
     <message>
         <source>Open Folder</source>
         <translation>Abrir carpeta</translation>
+    </message>
+    <message>
+        <source>Co&amp;mpare...</source>
+        <translation>Co&amp;mparar...</translation>
     </message>
 </context>
 <context>
@@ -1705,10 +1863,6 @@ Con Qt %1. Con licencia pública general de GNU, versión 3 o posterior.</transl
         <translation>Acción</translation>
     </message>
     <message>
-        <source>Comparison of copy and file</source>
-        <translation>Comparación de la copia y el archivo</translation>
-    </message>
-    <message>
         <source>All scripts:</source>
         <translation>Todos los scripts:</translation>
     </message>
@@ -1754,6 +1908,22 @@ Con Qt %1. Con licencia pública general de GNU, versión 3 o posterior.</transl
     <message>
         <source>%1%2: &quot;%3&quot; becomes &quot;%4&quot;</source>
         <translation>%1%2: «%3» pasa a «%4»</translation>
+    </message>
+    <message>
+        <source>not open: is saved at once, no undo</source>
+        <translation>no abierto: se guarda enseguida, no se puede deshacer</translation>
+    </message>
+    <message>
+        <source>saved</source>
+        <translation>guardado</translation>
+    </message>
+    <message>
+        <source>open, not saved</source>
+        <translation>abierto, sin guardar</translation>
+    </message>
+    <message>
+        <source>closed</source>
+        <translation>cerrado</translation>
     </message>
 </context>
 <context>
@@ -1807,10 +1977,10 @@ Con Qt %1. Con licencia pública general de GNU, versión 3 o posterior.</transl
         <translation>«%1»: %2</translation>
     </message>
     <message numerus="yes">
-        <source>&apos;%1&apos;: %n matches in %2 of %3 files</source>
+        <source>&apos;%1&apos;: %Ln matches in %2 of %3 files</source>
         <translation>
-            <numerusform>«%1»: %n coincidencia en %2 de %3 archivos</numerusform>
-            <numerusform>«%1»: %n coincidencias en %2 de %3 archivos</numerusform>
+            <numerusform>«%1»: %Ln coincidencia en %2 de %3 archivos</numerusform>
+            <numerusform>«%1»: %Ln coincidencias en %2 de %3 archivos</numerusform>
         </translation>
     </message>
     <message>
@@ -1842,22 +2012,48 @@ Con Qt %1. Con licencia pública general de GNU, versión 3 o posterior.</transl
         <translation>Reemplazando: %1 de %2 archivos</translation>
     </message>
     <message numerus="yes">
-        <source>%n matches replaced in %1 files</source>
+        <source>. %Ln files were left as they are, see the end of the list</source>
         <translation>
-            <numerusform>%n coincidencia reemplazada en %1 archivos</numerusform>
-            <numerusform>%n coincidencias reemplazadas en %1 archivos</numerusform>
-        </translation>
-    </message>
-    <message numerus="yes">
-        <source>. %n files were left as they are, see the end of the list</source>
-        <translation>
-            <numerusform>. %n archivo quedó como estaba, vea el final de la lista</numerusform>
-            <numerusform>. %n archivos quedaron como estaban, vea el final de la lista</numerusform>
+            <numerusform>. %Ln archivo quedó como estaba, vea el final de la lista</numerusform>
+            <numerusform>. %Ln archivos quedaron como estaban, vea el final de la lista</numerusform>
         </translation>
     </message>
     <message>
         <source>St&amp;op</source>
         <translation>Dete&amp;ner</translation>
+    </message>
+    <message>
+        <source>1 file saved</source>
+        <translation>1 archivo guardado</translation>
+    </message>
+    <message numerus="yes">
+        <source>%Ln files saved</source>
+        <translation>
+            <numerusform>%Ln archivo guardado</numerusform>
+            <numerusform>%Ln archivos guardados</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>1 open script changed, not saved</source>
+        <translation>1 script abierto cambiado, sin guardar</translation>
+    </message>
+    <message numerus="yes">
+        <source>%Ln open scripts changed, not saved</source>
+        <translation>
+            <numerusform>%Ln script abierto cambiado, sin guardar</numerusform>
+            <numerusform>%Ln scripts abiertos cambiados, sin guardar</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>1 match replaced</source>
+        <translation>1 coincidencia reemplazada</translation>
+    </message>
+    <message numerus="yes">
+        <source>%Ln matches replaced</source>
+        <translation>
+            <numerusform>%Ln coincidencia reemplazada</numerusform>
+            <numerusform>%Ln coincidencias reemplazadas</numerusform>
+        </translation>
     </message>
 </context>
 <context>
@@ -1961,6 +2157,18 @@ Con Qt %1. Con licencia pública general de GNU, versión 3 o posterior.</transl
         <source>Open &amp;Document</source>
         <translation>Abrir doc&amp;umento</translation>
     </message>
+    <message>
+        <source>“%1” was written: 1 page</source>
+        <translation>Se ha escrito «%1»: 1 página</translation>
+    </message>
+    <message>
+        <source>“%1” was written: %L2 pages</source>
+        <translation>Se ha escrito «%1»: %L2 páginas</translation>
+    </message>
+    <message>
+        <source>“%1” was written</source>
+        <translation>Se ha escrito «%1»</translation>
+    </message>
 </context>
 <context>
     <name>ScriptDoc</name>
@@ -2036,6 +2244,18 @@ Con Qt %1. Con licencia pública general de GNU, versión 3 o posterior.</transl
         <source>&amp;Read Again</source>
         <translation>&amp;Volver a leer</translation>
     </message>
+    <message>
+        <source>No copy of “%1” could be written in case of a crash: the disk may be full. Save it.</source>
+        <translation>No se pudo escribir una copia de «%1» por si el programa termina mal: quizá el disco esté lleno. Guárdelo.</translation>
+    </message>
+    <message>
+        <source>“%1” is read-only, and nothing was changed. Save As makes a copy that you can change.</source>
+        <translation>«%1» es de solo lectura y no se ha cambiado nada. «Guardar como» crea una copia que puede cambiar.</translation>
+    </message>
+    <message>
+        <source>“%1” is read-only, and nothing was changed. File &gt; Read Only ends that.</source>
+        <translation>«%1» es de solo lectura y no se ha cambiado nada. Archivo &gt; Solo lectura lo desactiva.</translation>
+    </message>
 </context>
 <context>
     <name>ScriptFrame</name>
@@ -2049,6 +2269,14 @@ Con Qt %1. Con licencia pública general de GNU, versión 3 o posterior.</transl
     <message>
         <source>Finding page %1</source>
         <translation>Buscando la página %1</translation>
+    </message>
+    <message>
+        <source>Page %1 of %2</source>
+        <translation>Página %1 de %2</translation>
+    </message>
+    <message>
+        <source>Page %1</source>
+        <translation>Página %1</translation>
     </message>
 </context>
 <context>
@@ -2193,6 +2421,14 @@ Con Qt %1. Con licencia pública general de GNU, versión 3 o posterior.</transl
         <source>Symbols of the script</source>
         <translation>Símbolos del script</translation>
     </message>
+    <message>
+        <source>The script creates nothing that could be listed</source>
+        <translation>El script no crea nada que se pueda mostrar</translation>
+    </message>
+    <message>
+        <source>Nothing that the script creates has this name</source>
+        <translation>Nada de lo que crea el script tiene este nombre</translation>
+    </message>
 </context>
 <context>
     <name>Symbols</name>
@@ -2267,6 +2503,10 @@ Con Qt %1. Con licencia pública general de GNU, versión 3 o posterior.</transl
         <source>%1, in front</source>
         <translation>%1, en primer plano</translation>
     </message>
+    <message>
+        <source>No script has this in its name</source>
+        <translation>Ningún script tiene esto en su nombre</translation>
+    </message>
 </context>
 <context>
     <name>TabMenu</name>
@@ -2307,6 +2547,17 @@ Con Qt %1. Con licencia pública general de GNU, versión 3 o posterior.</transl
     </message>
 </context>
 <context>
+    <name>TemplateForm</name>
+    <message>
+        <source>Insert Template</source>
+        <translation>Insertar plantilla</translation>
+    </message>
+    <message>
+        <source>&amp;Insert</source>
+        <translation>&amp;Insertar</translation>
+    </message>
+</context>
+<context>
     <name>TemplateList</name>
     <message>
         <source>Templates</source>
@@ -2323,6 +2574,93 @@ Con Qt %1. Con licencia pública general de GNU, versión 3 o posterior.</transl
     <message>
         <source>Text of the template</source>
         <translation>Texto de la plantilla</translation>
+    </message>
+</context>
+<context>
+    <name>TextKeys</name>
+    <message>
+        <source>Word Left</source>
+        <translation>Palabra a la izquierda</translation>
+    </message>
+    <message>
+        <source>Word Right</source>
+        <translation>Palabra a la derecha</translation>
+    </message>
+    <message>
+        <source>Select Word Left</source>
+        <translation>Seleccionar palabra a la izquierda</translation>
+    </message>
+    <message>
+        <source>Select Word Right</source>
+        <translation>Seleccionar palabra a la derecha</translation>
+    </message>
+    <message>
+        <source>Start of the Text</source>
+        <translation>Principio del texto</translation>
+    </message>
+    <message>
+        <source>End of the Text</source>
+        <translation>Final del texto</translation>
+    </message>
+    <message>
+        <source>Select to the Start of the Text</source>
+        <translation>Seleccionar hasta el principio del texto</translation>
+    </message>
+    <message>
+        <source>Select to the End of the Text</source>
+        <translation>Seleccionar hasta el final del texto</translation>
+    </message>
+    <message>
+        <source>Scroll Up</source>
+        <translation>Desplazar hacia arriba</translation>
+    </message>
+    <message>
+        <source>Scroll Down</source>
+        <translation>Desplazar hacia abajo</translation>
+    </message>
+    <message>
+        <source>Delete Word Left</source>
+        <translation>Eliminar palabra a la izquierda</translation>
+    </message>
+    <message>
+        <source>Delete Word Right</source>
+        <translation>Eliminar palabra a la derecha</translation>
+    </message>
+    <message>
+        <source>Delete to the Start of the Line</source>
+        <translation>Eliminar hasta el principio de la línea</translation>
+    </message>
+    <message>
+        <source>Delete to the End of the Line</source>
+        <translation>Eliminar hasta el final de la línea</translation>
+    </message>
+    <message>
+        <source>Select Columns</source>
+        <translation>Seleccionar columnas</translation>
+    </message>
+    <message>
+        <source>Delete Line</source>
+        <translation>Eliminar línea</translation>
+    </message>
+    <message>
+        <source>Swap with the Line Above</source>
+        <translation>Intercambiar con la línea de arriba</translation>
+    </message>
+    <message>
+        <source>Paragraph Up</source>
+        <translation>Párrafo arriba</translation>
+    </message>
+    <message>
+        <source>Select Paragraph Up</source>
+        <translation>Seleccionar párrafo hacia arriba</translation>
+    </message>
+    <message>
+        <source>Start of the Row</source>
+        <translation>Principio de la fila</translation>
+    </message>
+    <message>
+        <source>End of the Row</source>
+        <translation>Final de la fila</translation>
     </message>
 </context>
 <context>

@@ -82,6 +82,36 @@ Avec Qt %1. Sous licence publique générale GNU, version 3 ou ultérieure.</tra
     </message>
 </context>
 <context>
+    <name>ComparisonDialog</name>
+    <message>
+        <source>Compare</source>
+        <translation>Comparer</translation>
+    </message>
+    <message>
+        <source>&amp;Close</source>
+        <translation>&amp;Fermer</translation>
+    </message>
+    <message>
+        <source>%1 is not compared: what is no text, longer than 8 MB or cannot be read is not shown.</source>
+        <translation>%1 n’est pas comparé&#xa0;: ce qui n’est pas du texte, dépasse 8 Mo ou ne peut être lu n’est pas montré.</translation>
+    </message>
+    <message>
+        <source>%1: lines with - are in the file alone, those with + in the script alone.</source>
+        <translation>%1&#xa0;: les lignes avec - ne sont que dans le fichier, celles avec + que dans le script.</translation>
+    </message>
+    <message>
+        <source>%1: script and file have the same text.</source>
+        <translation>%1&#xa0;: le script et le fichier ont le même texte.</translation>
+    </message>
+</context>
+<context>
+    <name>ComparisonView</name>
+    <message>
+        <source>Comparison</source>
+        <translation>Comparaison</translation>
+    </message>
+</context>
+<context>
     <name>EditingMenu</name>
     <message>
         <source>C&amp;omments</source>
@@ -252,7 +282,7 @@ Avec Qt %1. Sous licence publique générale GNU, version 3 ou ultérieure.</tra
         <translation>&amp;Tout effacer</translation>
     </message>
     <message>
-        <source>Insert &amp;File...</source>
+        <source>Ins&amp;ert File...</source>
         <translation>Insérer un &amp;fichier...</translation>
     </message>
 </context>
@@ -281,6 +311,62 @@ Avec Qt %1. Sous licence publique générale GNU, version 3 ou ultérieure.</tra
     <message>
         <source>Unknown encoding</source>
         <translation>Encodage inconnu</translation>
+    </message>
+    <message>
+        <source>Western European</source>
+        <translation>Europe occidentale</translation>
+    </message>
+    <message>
+        <source>Central European</source>
+        <translation>Europe centrale</translation>
+    </message>
+    <message>
+        <source>Cyrillic</source>
+        <translation>Cyrillique</translation>
+    </message>
+    <message>
+        <source>Greek</source>
+        <translation>Grec</translation>
+    </message>
+    <message>
+        <source>Turkish</source>
+        <translation>Turc</translation>
+    </message>
+    <message>
+        <source>Baltic</source>
+        <translation>Balte</translation>
+    </message>
+    <message>
+        <source>Hebrew</source>
+        <translation>Hébreu</translation>
+    </message>
+    <message>
+        <source>Arabic</source>
+        <translation>Arabe</translation>
+    </message>
+    <message>
+        <source>Vietnamese</source>
+        <translation>Vietnamien</translation>
+    </message>
+    <message>
+        <source>Thai</source>
+        <translation>Thaï</translation>
+    </message>
+    <message>
+        <source>Japanese</source>
+        <translation>Japonais</translation>
+    </message>
+    <message>
+        <source>Simplified Chinese</source>
+        <translation>Chinois simplifié</translation>
+    </message>
+    <message>
+        <source>Traditional Chinese</source>
+        <translation>Chinois traditionnel</translation>
+    </message>
+    <message>
+        <source>Korean</source>
+        <translation>Coréen</translation>
     </message>
 </context>
 <context>
@@ -320,6 +406,18 @@ Avec Qt %1. Sous licence publique générale GNU, version 3 ou ultérieure.</tra
     <message>
         <source>Original Script</source>
         <translation>Script d’origine</translation>
+    </message>
+    <message>
+        <source>Nothing was expanded. #include, #define and &amp;&amp;NAME are; the lines by which client programs read files (\i, @, :r) stay as they are.</source>
+        <translation>Rien n’a été développé. #include, #define et &amp;&amp;NAME le sont&#xa0;; les lignes par lesquelles des programmes clients lisent des fichiers (\i, @, :r) restent telles quelles.</translation>
+    </message>
+    <message>
+        <source>%1 (out of date)</source>
+        <translation>%1 (périmé)</translation>
+    </message>
+    <message>
+        <source>The script was changed since. Tools &gt; Expanded Script shows it as it is.</source>
+        <translation>Le script a été modifié depuis. Outils &gt; Script développé le montre tel qu’il est.</translation>
     </message>
 </context>
 <context>
@@ -786,6 +884,10 @@ Avec Qt %1. Sous licence publique générale GNU, version 3 ou ultérieure.</tra
         <source>The keys could not be written to the settings. They are as shown until the workbench ends.</source>
         <translation>Les touches n’ont pas pu être écrites dans les réglages. Elles valent jusqu’à la fin de l’application.</translation>
     </message>
+    <message>
+        <source>%1 is a key of the text, for “%2”. Do you want to move it to “%3”?</source>
+        <translation>%1 est une touche du texte, pour «&#xa0;%2&#xa0;». Voulez-vous la déplacer vers «&#xa0;%3&#xa0;»&#xa0;?</translation>
+    </message>
 </context>
 <context>
     <name>LanguageMenu</name>
@@ -979,10 +1081,6 @@ Avec Qt %1. Sous licence publique générale GNU, version 3 ou ultérieure.</tra
         <translation>&amp;Tout sélectionner</translation>
     </message>
     <message>
-        <source>Complete Word</source>
-        <translation>Compléter le mot</translation>
-    </message>
-    <message>
         <source>Function Arguments</source>
         <translation>Arguments de la fonction</translation>
     </message>
@@ -1015,14 +1113,6 @@ Avec Qt %1. Sous licence publique générale GNU, version 3 ou ultérieure.</tra
         <translation>&amp;Zoom arrière</translation>
     </message>
     <message>
-        <source>&amp;Reset Zoom</source>
-        <translation>Réinitialiser &amp;le zoom</translation>
-    </message>
-    <message>
-        <source>&amp;Whitespace</source>
-        <translation>&amp;Espaces</translation>
-    </message>
-    <message>
         <source>Line &amp;Ends</source>
         <translation>&amp;Fins de ligne</translation>
     </message>
@@ -1035,36 +1125,12 @@ Avec Qt %1. Sous licence publique générale GNU, version 3 ou ultérieure.</tra
         <translation>Partager en &amp;haut et en bas</translation>
     </message>
     <message>
-        <source>Split Side &amp;by Side</source>
-        <translation>&amp;Partager côte à côte</translation>
-    </message>
-    <message>
         <source>Ot&amp;her Pane</source>
         <translation>Autre &amp;volet</translation>
     </message>
     <message>
-        <source>Previo&amp;us Pane</source>
-        <translation>V&amp;olet précédent</translation>
-    </message>
-    <message>
         <source>&amp;Next Area</source>
         <translation>Zone s&amp;uivante</translation>
-    </message>
-    <message>
-        <source>New &amp;View</source>
-        <translation>&amp;Nouvelle vue</translation>
-    </message>
-    <message>
-        <source>Next Proble&amp;m</source>
-        <translation>Pro&amp;blème suivant</translation>
-    </message>
-    <message>
-        <source>Ne&amp;xt Script</source>
-        <translation>Sc&amp;ript suivant</translation>
-    </message>
-    <message>
-        <source>&amp;Previous Script</source>
-        <translation>&amp;Script précédent</translation>
     </message>
     <message>
         <source>&amp;Expanded Script</source>
@@ -1197,10 +1263,6 @@ Avec Qt %1. Sous licence publique générale GNU, version 3 ou ultérieure.</tra
         <translation>Ai&amp;de</translation>
     </message>
     <message>
-        <source>Previou&amp;s Problem</source>
-        <translation>Problè&amp;me précédent</translation>
-    </message>
-    <message>
         <source>Stop &amp;Recording</source>
         <translation>Arrêter l’e&amp;nregistrement</translation>
     </message>
@@ -1223,6 +1285,74 @@ Avec Qt %1. Sous licence publique générale GNU, version 3 ou ultérieure.</tra
     <message>
         <source>Open Fold&amp;er...</source>
         <translation>Ouvrir un &amp;dossier...</translation>
+    </message>
+    <message>
+        <source>Split Side b&amp;y Side</source>
+        <translation>&amp;Partager côte à côte</translation>
+    </message>
+    <message>
+        <source>O&amp;utline</source>
+        <translation>P&amp;lan</translation>
+    </message>
+    <message>
+        <source>&amp;Folder</source>
+        <translation>&amp;Dossier</translation>
+    </message>
+    <message>
+        <source>Tool &amp;Bar</source>
+        <translation>Barre d’&amp;outils</translation>
+    </message>
+    <message>
+        <source>Complete Word</source>
+        <translation>Compléter le mot</translation>
+    </message>
+    <message>
+        <source>&amp;Reset Zoom</source>
+        <translation>&amp;Réinitialiser le zoom</translation>
+    </message>
+    <message>
+        <source>&amp;Whitespace</source>
+        <translation>&amp;Espaces</translation>
+    </message>
+    <message>
+        <source>Previous Pane</source>
+        <translation>Volet précédent</translation>
+    </message>
+    <message>
+        <source>New &amp;View</source>
+        <translation>&amp;Nouvelle vue</translation>
+    </message>
+    <message>
+        <source>Next Problem</source>
+        <translation>Problème suivant</translation>
+    </message>
+    <message>
+        <source>Previous Problem</source>
+        <translation>Problème précédent</translation>
+    </message>
+    <message>
+        <source>Next Script</source>
+        <translation>Script suivant</translation>
+    </message>
+    <message>
+        <source>Previous Script</source>
+        <translation>Script précédent</translation>
+    </message>
+    <message>
+        <source>&amp;Problems</source>
+        <translation>Pro&amp;blèmes</translation>
+    </message>
+    <message>
+        <source>E&amp;xpanded Script</source>
+        <translation>Script développé (&amp;X)</translation>
+    </message>
+    <message>
+        <source>Find Re&amp;sults</source>
+        <translation>Ré&amp;sultats de la recherche</translation>
+    </message>
+    <message>
+        <source>Find Results &amp;2</source>
+        <translation>Résultats de la recherche &amp;2</translation>
     </message>
 </context>
 <context>
@@ -1357,6 +1487,30 @@ Avec Qt %1. Sous licence publique générale GNU, version 3 ou ultérieure.</tra
         <source>Close brackets and &amp;quotes</source>
         <translation>Fermer les parent&amp;hèses et les guillemets</translation>
     </message>
+    <message>
+        <source>Print na&amp;me, page numbers and date</source>
+        <translation>Imprimer a&amp;vec nom, numéros de page et date</translation>
+    </message>
+    <message>
+        <source>None of Unicode: as below</source>
+        <translation>Aucun d’Unicode : comme ci-dessous</translation>
+    </message>
+    <message>
+        <source>What a file is read as that has no mark and is not UTF-8. One that looks wrong can be opened with another: click its encoding in the status bar.</source>
+        <translation>Comment est lu un fichier qui n’a pas de marque et n’est pas en UTF-8. Celui qui s’affiche mal peut être ouvert avec un autre : cliquez sur son encodage dans la barre d’état.</translation>
+    </message>
+    <message>
+        <source>Files that are no &amp;Unicode</source>
+        <translation>Fichiers &amp;qui ne sont pas en Unicode</translation>
+    </message>
+    <message>
+        <source>By the language: as the line above, and a step further in behind {, ) and : alone, which is for languages with braces. With &quot;Close brackets and quotes&quot; what brackets hold is a step further in either way.</source>
+        <translation>Selon le langage&#xa0;: comme la ligne au-dessus, et un cran plus loin seulement après {, ) et :, ce qui convient aux langages à accolades. Avec «&#xa0;Fermer les parenthèses et les guillemets&#xa0;», ce que contiennent les crochets est un cran plus loin dans les deux cas.</translation>
+    </message>
+    <message>
+        <source>There is no font “%1”.</source>
+        <translation>Il n’y a pas de police «&#xa0;%1&#xa0;».</translation>
+    </message>
 </context>
 <context>
     <name>OutlinePane</name>
@@ -1460,6 +1614,10 @@ Avec Qt %1. Sous licence publique générale GNU, version 3 ou ultérieure.</tra
     <message>
         <source>Open Folder</source>
         <translation>Ouvrir un dossier</translation>
+    </message>
+    <message>
+        <source>Co&amp;mpare...</source>
+        <translation>Co&amp;mparer...</translation>
     </message>
 </context>
 <context>
@@ -1705,10 +1863,6 @@ Avec Qt %1. Sous licence publique générale GNU, version 3 ou ultérieure.</tra
         <translation>Action</translation>
     </message>
     <message>
-        <source>Comparison of copy and file</source>
-        <translation>Comparaison de la copie et du fichier</translation>
-    </message>
-    <message>
         <source>All scripts:</source>
         <translation>Tous les scripts&#xa0;:</translation>
     </message>
@@ -1754,6 +1908,22 @@ Avec Qt %1. Sous licence publique générale GNU, version 3 ou ultérieure.</tra
     <message>
         <source>%1%2: &quot;%3&quot; becomes &quot;%4&quot;</source>
         <translation>%1%2&#xa0;: «&#xa0;%3&#xa0;» devient «&#xa0;%4&#xa0;»</translation>
+    </message>
+    <message>
+        <source>not open: is saved at once, no undo</source>
+        <translation>non ouvert&#xa0;: enregistré aussitôt, sans annulation</translation>
+    </message>
+    <message>
+        <source>saved</source>
+        <translation>enregistré</translation>
+    </message>
+    <message>
+        <source>open, not saved</source>
+        <translation>ouvert, non enregistré</translation>
+    </message>
+    <message>
+        <source>closed</source>
+        <translation>fermé</translation>
     </message>
 </context>
 <context>
@@ -1807,10 +1977,10 @@ Avec Qt %1. Sous licence publique générale GNU, version 3 ou ultérieure.</tra
         <translation>«&#xa0;%1&#xa0;»&#xa0;: %2</translation>
     </message>
     <message numerus="yes">
-        <source>&apos;%1&apos;: %n matches in %2 of %3 files</source>
+        <source>&apos;%1&apos;: %Ln matches in %2 of %3 files</source>
         <translation>
-            <numerusform>«&#xa0;%1&#xa0;»&#xa0;: %n occurrence dans %2 fichiers sur %3</numerusform>
-            <numerusform>«&#xa0;%1&#xa0;»&#xa0;: %n occurrences dans %2 fichiers sur %3</numerusform>
+            <numerusform>«&#xa0;%1&#xa0;»&#xa0;: %Ln occurrence dans %2 fichiers sur %3</numerusform>
+            <numerusform>«&#xa0;%1&#xa0;»&#xa0;: %Ln occurrences dans %2 fichiers sur %3</numerusform>
         </translation>
     </message>
     <message>
@@ -1842,22 +2012,48 @@ Avec Qt %1. Sous licence publique générale GNU, version 3 ou ultérieure.</tra
         <translation>Remplacement&#xa0;: %1 fichiers sur %2</translation>
     </message>
     <message numerus="yes">
-        <source>%n matches replaced in %1 files</source>
+        <source>. %Ln files were left as they are, see the end of the list</source>
         <translation>
-            <numerusform>%n occurrence remplacée dans %1 fichiers</numerusform>
-            <numerusform>%n occurrences remplacées dans %1 fichiers</numerusform>
-        </translation>
-    </message>
-    <message numerus="yes">
-        <source>. %n files were left as they are, see the end of the list</source>
-        <translation>
-            <numerusform>. %n fichier est resté tel quel, voir la fin de la liste</numerusform>
-            <numerusform>. %n fichiers sont restés tels quels, voir la fin de la liste</numerusform>
+            <numerusform>. %Ln fichier est resté tel quel, voir la fin de la liste</numerusform>
+            <numerusform>. %Ln fichiers sont restés tels quels, voir la fin de la liste</numerusform>
         </translation>
     </message>
     <message>
         <source>St&amp;op</source>
         <translation>Arrê&amp;ter</translation>
+    </message>
+    <message>
+        <source>1 file saved</source>
+        <translation>1 fichier enregistré</translation>
+    </message>
+    <message numerus="yes">
+        <source>%Ln files saved</source>
+        <translation>
+            <numerusform>%Ln fichier enregistré</numerusform>
+            <numerusform>%Ln fichiers enregistrés</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>1 open script changed, not saved</source>
+        <translation>1 script ouvert modifié, non enregistré</translation>
+    </message>
+    <message numerus="yes">
+        <source>%Ln open scripts changed, not saved</source>
+        <translation>
+            <numerusform>%Ln script ouvert modifié, non enregistré</numerusform>
+            <numerusform>%Ln scripts ouverts modifiés, non enregistrés</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>1 match replaced</source>
+        <translation>1 occurrence remplacée</translation>
+    </message>
+    <message numerus="yes">
+        <source>%Ln matches replaced</source>
+        <translation>
+            <numerusform>%Ln occurrence remplacée</numerusform>
+            <numerusform>%Ln occurrences remplacées</numerusform>
+        </translation>
     </message>
 </context>
 <context>
@@ -1961,6 +2157,18 @@ Avec Qt %1. Sous licence publique générale GNU, version 3 ou ultérieure.</tra
         <source>Open &amp;Document</source>
         <translation>Ou&amp;vrir le document</translation>
     </message>
+    <message>
+        <source>“%1” was written: 1 page</source>
+        <translation>«&#xa0;%1&#xa0;» a été écrit&#xa0;: 1 page</translation>
+    </message>
+    <message>
+        <source>“%1” was written: %L2 pages</source>
+        <translation>«&#xa0;%1&#xa0;» a été écrit&#xa0;: %L2 pages</translation>
+    </message>
+    <message>
+        <source>“%1” was written</source>
+        <translation>«&#xa0;%1&#xa0;» a été écrit</translation>
+    </message>
 </context>
 <context>
     <name>ScriptDoc</name>
@@ -2036,6 +2244,18 @@ Avec Qt %1. Sous licence publique générale GNU, version 3 ou ultérieure.</tra
         <source>&amp;Read Again</source>
         <translation>&amp;Relire</translation>
     </message>
+    <message>
+        <source>No copy of “%1” could be written in case of a crash: the disk may be full. Save it.</source>
+        <translation>Aucune copie de « %1 » n’a pu être écrite en cas de plantage : le disque est peut-être plein. Enregistrez-le.</translation>
+    </message>
+    <message>
+        <source>“%1” is read-only, and nothing was changed. Save As makes a copy that you can change.</source>
+        <translation>«&#xa0;%1&#xa0;» est en lecture seule, rien n’a été modifié. «&#xa0;Enregistrer sous&#xa0;» crée une copie que vous pouvez modifier.</translation>
+    </message>
+    <message>
+        <source>“%1” is read-only, and nothing was changed. File &gt; Read Only ends that.</source>
+        <translation>«&#xa0;%1&#xa0;» est en lecture seule, rien n’a été modifié. Fichier &gt; Lecture seule y met fin.</translation>
+    </message>
 </context>
 <context>
     <name>ScriptFrame</name>
@@ -2049,6 +2269,14 @@ Avec Qt %1. Sous licence publique générale GNU, version 3 ou ultérieure.</tra
     <message>
         <source>Finding page %1</source>
         <translation>Recherche de la page %1</translation>
+    </message>
+    <message>
+        <source>Page %1 of %2</source>
+        <translation>Page %1 sur %2</translation>
+    </message>
+    <message>
+        <source>Page %1</source>
+        <translation>Page %1</translation>
     </message>
 </context>
 <context>
@@ -2193,6 +2421,14 @@ Avec Qt %1. Sous licence publique générale GNU, version 3 ou ultérieure.</tra
         <source>Symbols of the script</source>
         <translation>Symboles du script</translation>
     </message>
+    <message>
+        <source>The script creates nothing that could be listed</source>
+        <translation>Le script ne crée rien qui puisse être listé</translation>
+    </message>
+    <message>
+        <source>Nothing that the script creates has this name</source>
+        <translation>Rien de ce que crée le script ne porte ce nom</translation>
+    </message>
 </context>
 <context>
     <name>Symbols</name>
@@ -2267,6 +2503,10 @@ Avec Qt %1. Sous licence publique générale GNU, version 3 ou ultérieure.</tra
         <source>%1, in front</source>
         <translation>%1, au premier plan</translation>
     </message>
+    <message>
+        <source>No script has this in its name</source>
+        <translation>Aucun script n’a cela dans son nom</translation>
+    </message>
 </context>
 <context>
     <name>TabMenu</name>
@@ -2307,6 +2547,17 @@ Avec Qt %1. Sous licence publique générale GNU, version 3 ou ultérieure.</tra
     </message>
 </context>
 <context>
+    <name>TemplateForm</name>
+    <message>
+        <source>Insert Template</source>
+        <translation>Insérer un modèle</translation>
+    </message>
+    <message>
+        <source>&amp;Insert</source>
+        <translation>&amp;Insérer</translation>
+    </message>
+</context>
+<context>
     <name>TemplateList</name>
     <message>
         <source>Templates</source>
@@ -2323,6 +2574,93 @@ Avec Qt %1. Sous licence publique générale GNU, version 3 ou ultérieure.</tra
     <message>
         <source>Text of the template</source>
         <translation>Texte du modèle</translation>
+    </message>
+</context>
+<context>
+    <name>TextKeys</name>
+    <message>
+        <source>Word Left</source>
+        <translation>Mot à gauche</translation>
+    </message>
+    <message>
+        <source>Word Right</source>
+        <translation>Mot à droite</translation>
+    </message>
+    <message>
+        <source>Select Word Left</source>
+        <translation>Sélectionner le mot à gauche</translation>
+    </message>
+    <message>
+        <source>Select Word Right</source>
+        <translation>Sélectionner le mot à droite</translation>
+    </message>
+    <message>
+        <source>Start of the Text</source>
+        <translation>Début du texte</translation>
+    </message>
+    <message>
+        <source>End of the Text</source>
+        <translation>Fin du texte</translation>
+    </message>
+    <message>
+        <source>Select to the Start of the Text</source>
+        <translation>Sélectionner jusqu’au début du texte</translation>
+    </message>
+    <message>
+        <source>Select to the End of the Text</source>
+        <translation>Sélectionner jusqu’à la fin du texte</translation>
+    </message>
+    <message>
+        <source>Scroll Up</source>
+        <translation>Défiler vers le haut</translation>
+    </message>
+    <message>
+        <source>Scroll Down</source>
+        <translation>Défiler vers le bas</translation>
+    </message>
+    <message>
+        <source>Delete Word Left</source>
+        <translation>Supprimer le mot à gauche</translation>
+    </message>
+    <message>
+        <source>Delete Word Right</source>
+        <translation>Supprimer le mot à droite</translation>
+    </message>
+    <message>
+        <source>Delete to the Start of the Line</source>
+        <translation>Supprimer jusqu’au début de la ligne</translation>
+    </message>
+    <message>
+        <source>Delete to the End of the Line</source>
+        <translation>Supprimer jusqu’à la fin de la ligne</translation>
+    </message>
+    <message>
+        <source>Select Columns</source>
+        <translation>Sélectionner des colonnes</translation>
+    </message>
+    <message>
+        <source>Delete Line</source>
+        <translation>Supprimer la ligne</translation>
+    </message>
+    <message>
+        <source>Swap with the Line Above</source>
+        <translation>Échanger avec la ligne du dessus</translation>
+    </message>
+    <message>
+        <source>Paragraph Up</source>
+        <translation>Paragraphe précédent</translation>
+    </message>
+    <message>
+        <source>Select Paragraph Up</source>
+        <translation>Sélectionner le paragraphe précédent</translation>
+    </message>
+    <message>
+        <source>Start of the Row</source>
+        <translation>Début de la rangée</translation>
+    </message>
+    <message>
+        <source>End of the Row</source>
+        <translation>Fin de la rangée</translation>
     </message>
 </context>
 <context>

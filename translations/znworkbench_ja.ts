@@ -82,6 +82,36 @@ Qt %1 を使用。GNU General Public License バージョン 3 以降の下で�
     </message>
 </context>
 <context>
+    <name>ComparisonDialog</name>
+    <message>
+        <source>Compare</source>
+        <translation>比較</translation>
+    </message>
+    <message>
+        <source>&amp;Close</source>
+        <translation>閉じる(&amp;C)</translation>
+    </message>
+    <message>
+        <source>%1 is not compared: what is no text, longer than 8 MB or cannot be read is not shown.</source>
+        <translation>%1 は比較されません。テキストでないもの、8 MB を超えるもの、読み込めないものは表示されません。</translation>
+    </message>
+    <message>
+        <source>%1: lines with - are in the file alone, those with + in the script alone.</source>
+        <translation>%1: - の行はファイルだけに、+ の行はスクリプトだけにあります。</translation>
+    </message>
+    <message>
+        <source>%1: script and file have the same text.</source>
+        <translation>%1: スクリプトとファイルのテキストは同じです。</translation>
+    </message>
+</context>
+<context>
+    <name>ComparisonView</name>
+    <message>
+        <source>Comparison</source>
+        <translation>比較</translation>
+    </message>
+</context>
+<context>
     <name>EditingMenu</name>
     <message>
         <source>C&amp;omments</source>
@@ -252,8 +282,8 @@ Qt %1 を使用。GNU General Public License バージョン 3 以降の下で�
         <translation>すべて消去(&amp;C)</translation>
     </message>
     <message>
-        <source>Insert &amp;File...</source>
-        <translation>ファイルを挿入(&amp;F)...</translation>
+        <source>Ins&amp;ert File...</source>
+        <translation>ファイルを挿入(&amp;E)...</translation>
     </message>
 </context>
 <context>
@@ -281,6 +311,62 @@ Qt %1 を使用。GNU General Public License バージョン 3 以降の下で�
     <message>
         <source>Unknown encoding</source>
         <translation>不明な文字コード</translation>
+    </message>
+    <message>
+        <source>Western European</source>
+        <translation>西ヨーロッパ</translation>
+    </message>
+    <message>
+        <source>Central European</source>
+        <translation>中央ヨーロッパ</translation>
+    </message>
+    <message>
+        <source>Cyrillic</source>
+        <translation>キリル文字</translation>
+    </message>
+    <message>
+        <source>Greek</source>
+        <translation>ギリシャ語</translation>
+    </message>
+    <message>
+        <source>Turkish</source>
+        <translation>トルコ語</translation>
+    </message>
+    <message>
+        <source>Baltic</source>
+        <translation>バルト語</translation>
+    </message>
+    <message>
+        <source>Hebrew</source>
+        <translation>ヘブライ語</translation>
+    </message>
+    <message>
+        <source>Arabic</source>
+        <translation>アラビア語</translation>
+    </message>
+    <message>
+        <source>Vietnamese</source>
+        <translation>ベトナム語</translation>
+    </message>
+    <message>
+        <source>Thai</source>
+        <translation>タイ語</translation>
+    </message>
+    <message>
+        <source>Japanese</source>
+        <translation>日本語</translation>
+    </message>
+    <message>
+        <source>Simplified Chinese</source>
+        <translation>中国語（簡体字）</translation>
+    </message>
+    <message>
+        <source>Traditional Chinese</source>
+        <translation>中国語（繁体字）</translation>
+    </message>
+    <message>
+        <source>Korean</source>
+        <translation>韓国語</translation>
     </message>
 </context>
 <context>
@@ -320,6 +406,18 @@ Qt %1 を使用。GNU General Public License バージョン 3 以降の下で�
     <message>
         <source>Original Script</source>
         <translation>元のスクリプト</translation>
+    </message>
+    <message>
+        <source>Nothing was expanded. #include, #define and &amp;&amp;NAME are; the lines by which client programs read files (\i, @, :r) stay as they are.</source>
+        <translation>展開されたものはありません。展開されるのは #include、#define、&amp;&amp;NAME です。クライアントプログラムがファイルを読み込む行 (\i、@、:r) はそのまま残ります。</translation>
+    </message>
+    <message>
+        <source>%1 (out of date)</source>
+        <translation>%1(最新ではありません)</translation>
+    </message>
+    <message>
+        <source>The script was changed since. Tools &gt; Expanded Script shows it as it is.</source>
+        <translation>スクリプトはその後変更されています。「ツール &gt; スクリプトを展開」で現在の内容を表示します。</translation>
     </message>
 </context>
 <context>
@@ -782,6 +880,10 @@ Qt %1 を使用。GNU General Public License バージョン 3 以降の下で�
         <source>The keys could not be written to the settings. They are as shown until the workbench ends.</source>
         <translation>キーを設定に書き込めませんでした。終了するまでは表示のとおりです。</translation>
     </message>
+    <message>
+        <source>%1 is a key of the text, for “%2”. Do you want to move it to “%3”?</source>
+        <translation>%1 はテキストのキーで、「%2」に使われます。「%3」に移しますか?</translation>
+    </message>
 </context>
 <context>
     <name>LanguageMenu</name>
@@ -975,10 +1077,6 @@ Qt %1 を使用。GNU General Public License バージョン 3 以降の下で�
         <translation>すべて選択(&amp;A)</translation>
     </message>
     <message>
-        <source>Complete Word</source>
-        <translation>単語を補完</translation>
-    </message>
-    <message>
         <source>Function Arguments</source>
         <translation>関数の引数</translation>
     </message>
@@ -1011,14 +1109,6 @@ Qt %1 を使用。GNU General Public License バージョン 3 以降の下で�
         <translation>縮小(&amp;O)</translation>
     </message>
     <message>
-        <source>&amp;Reset Zoom</source>
-        <translation>ズームをリセット(&amp;R)</translation>
-    </message>
-    <message>
-        <source>&amp;Whitespace</source>
-        <translation>空白文字(&amp;W)</translation>
-    </message>
-    <message>
         <source>Line &amp;Ends</source>
         <translation>改行文字(&amp;E)</translation>
     </message>
@@ -1031,36 +1121,12 @@ Qt %1 を使用。GNU General Public License バージョン 3 以降の下で�
         <translation>上下に分割(&amp;A)</translation>
     </message>
     <message>
-        <source>Split Side &amp;by Side</source>
-        <translation>左右に分割(&amp;B)</translation>
-    </message>
-    <message>
         <source>Ot&amp;her Pane</source>
         <translation>別のペイン(&amp;H)</translation>
     </message>
     <message>
-        <source>Previo&amp;us Pane</source>
-        <translation>前のペイン(&amp;U)</translation>
-    </message>
-    <message>
         <source>&amp;Next Area</source>
         <translation>次の領域(&amp;N)</translation>
-    </message>
-    <message>
-        <source>New &amp;View</source>
-        <translation>新しいビュー(&amp;V)</translation>
-    </message>
-    <message>
-        <source>Next Proble&amp;m</source>
-        <translation>次の問題(&amp;M)</translation>
-    </message>
-    <message>
-        <source>Ne&amp;xt Script</source>
-        <translation>次のスクリプト(&amp;X)</translation>
-    </message>
-    <message>
-        <source>&amp;Previous Script</source>
-        <translation>前のスクリプト(&amp;P)</translation>
     </message>
     <message>
         <source>&amp;Expanded Script</source>
@@ -1191,10 +1257,6 @@ Qt %1 を使用。GNU General Public License バージョン 3 以降の下で�
         <translation>ヘルプ(&amp;H)</translation>
     </message>
     <message>
-        <source>Previou&amp;s Problem</source>
-        <translation>前の問題(&amp;S)</translation>
-    </message>
-    <message>
         <source>Stop &amp;Recording</source>
         <translation>記録を停止(&amp;R)</translation>
     </message>
@@ -1217,6 +1279,74 @@ Qt %1 を使用。GNU General Public License バージョン 3 以降の下で�
     <message>
         <source>Open Fold&amp;er...</source>
         <translation>フォルダーを開く(&amp;W)...</translation>
+    </message>
+    <message>
+        <source>Split Side b&amp;y Side</source>
+        <translation>左右に分割(&amp;Y)</translation>
+    </message>
+    <message>
+        <source>O&amp;utline</source>
+        <translation>アウトライン(&amp;U)</translation>
+    </message>
+    <message>
+        <source>&amp;Folder</source>
+        <translation>フォルダー(&amp;F)</translation>
+    </message>
+    <message>
+        <source>Tool &amp;Bar</source>
+        <translation>ツールバー(&amp;B)</translation>
+    </message>
+    <message>
+        <source>Complete Word</source>
+        <translation>単語を補完</translation>
+    </message>
+    <message>
+        <source>&amp;Reset Zoom</source>
+        <translation>ズームをリセット(&amp;R)</translation>
+    </message>
+    <message>
+        <source>&amp;Whitespace</source>
+        <translation>空白文字(&amp;W)</translation>
+    </message>
+    <message>
+        <source>Previous Pane</source>
+        <translation>前のペイン</translation>
+    </message>
+    <message>
+        <source>New &amp;View</source>
+        <translation>新しいビュー(&amp;V)</translation>
+    </message>
+    <message>
+        <source>Next Problem</source>
+        <translation>次の問題</translation>
+    </message>
+    <message>
+        <source>Previous Problem</source>
+        <translation>前の問題</translation>
+    </message>
+    <message>
+        <source>Next Script</source>
+        <translation>次のスクリプト</translation>
+    </message>
+    <message>
+        <source>Previous Script</source>
+        <translation>前のスクリプト</translation>
+    </message>
+    <message>
+        <source>&amp;Problems</source>
+        <translation>問題(&amp;P)</translation>
+    </message>
+    <message>
+        <source>E&amp;xpanded Script</source>
+        <translation>展開後のスクリプト(&amp;X)</translation>
+    </message>
+    <message>
+        <source>Find Re&amp;sults</source>
+        <translation>検索結果(&amp;S)</translation>
+    </message>
+    <message>
+        <source>Find Results &amp;2</source>
+        <translation>検索結果 &amp;2</translation>
     </message>
 </context>
 <context>
@@ -1351,6 +1481,30 @@ Qt %1 を使用。GNU General Public License バージョン 3 以降の下で�
         <source>Close brackets and &amp;quotes</source>
         <translation>かっこと引用符を閉じる(&amp;Q)</translation>
     </message>
+    <message>
+        <source>Print na&amp;me, page numbers and date</source>
+        <translation>名前、ページ番号、日付を印刷(&amp;M)</translation>
+    </message>
+    <message>
+        <source>None of Unicode: as below</source>
+        <translation>Unicode以外：下のとおり</translation>
+    </message>
+    <message>
+        <source>What a file is read as that has no mark and is not UTF-8. One that looks wrong can be opened with another: click its encoding in the status bar.</source>
+        <translation>マークがなくUTF-8でもないファイルの読み方です。正しく表示されないファイルは別のもので開けます：ステータスバーのエンコーディングをクリックします。</translation>
+    </message>
+    <message>
+        <source>Files that are no &amp;Unicode</source>
+        <translation>Unicodeでないファイル(&amp;U)</translation>
+    </message>
+    <message>
+        <source>By the language: as the line above, and a step further in behind {, ) and : alone, which is for languages with braces. With &quot;Close brackets and quotes&quot; what brackets hold is a step further in either way.</source>
+        <translation>「言語に合わせる」: 上の行と同じにし、{、)、: の後だけ 1 段深く字下げします。波かっこを使う言語向けです。「かっこと引用符を閉じる」が有効なら、どちらの場合もかっこの中は 1 段深く字下げされます。</translation>
+    </message>
+    <message>
+        <source>There is no font “%1”.</source>
+        <translation>フォント「%1」はありません。</translation>
+    </message>
 </context>
 <context>
     <name>OutlinePane</name>
@@ -1454,6 +1608,10 @@ Qt %1 を使用。GNU General Public License バージョン 3 以降の下で�
     <message>
         <source>Open Folder</source>
         <translation>フォルダーを開く</translation>
+    </message>
+    <message>
+        <source>Co&amp;mpare...</source>
+        <translation>比較(&amp;M)...</translation>
     </message>
 </context>
 <context>
@@ -1696,10 +1854,6 @@ Qt %1 を使用。GNU General Public License バージョン 3 以降の下で�
         <translation>操作</translation>
     </message>
     <message>
-        <source>Comparison of copy and file</source>
-        <translation>コピーとファイルの比較</translation>
-    </message>
-    <message>
         <source>All scripts:</source>
         <translation>すべてのスクリプト:</translation>
     </message>
@@ -1745,6 +1899,22 @@ Qt %1 を使用。GNU General Public License バージョン 3 以降の下で�
     <message>
         <source>%1%2: &quot;%3&quot; becomes &quot;%4&quot;</source>
         <translation>%1%2: 「%3」を「%4」に</translation>
+    </message>
+    <message>
+        <source>not open: is saved at once, no undo</source>
+        <translation>開いていません: すぐに保存され、元に戻せません</translation>
+    </message>
+    <message>
+        <source>saved</source>
+        <translation>保存済み</translation>
+    </message>
+    <message>
+        <source>open, not saved</source>
+        <translation>開いています、未保存</translation>
+    </message>
+    <message>
+        <source>closed</source>
+        <translation>閉じました</translation>
     </message>
 </context>
 <context>
@@ -1798,9 +1968,9 @@ Qt %1 を使用。GNU General Public License バージョン 3 以降の下で�
         <translation>「%1」: %2</translation>
     </message>
     <message numerus="yes">
-        <source>&apos;%1&apos;: %n matches in %2 of %3 files</source>
+        <source>&apos;%1&apos;: %Ln matches in %2 of %3 files</source>
         <translation>
-            <numerusform>「%1」: %3 ファイル中 %2 ファイルで %n 件一致</numerusform>
+            <numerusform>「%1」: %3 ファイル中 %2 ファイルで %Ln 件一致</numerusform>
         </translation>
     </message>
     <message>
@@ -1832,20 +2002,44 @@ Qt %1 を使用。GNU General Public License バージョン 3 以降の下で�
         <translation>置換中: %2 ファイル中 %1 ファイル</translation>
     </message>
     <message numerus="yes">
-        <source>%n matches replaced in %1 files</source>
+        <source>. %Ln files were left as they are, see the end of the list</source>
         <translation>
-            <numerusform>%1 ファイルで %n 件置換しました</numerusform>
-        </translation>
-    </message>
-    <message numerus="yes">
-        <source>. %n files were left as they are, see the end of the list</source>
-        <translation>
-            <numerusform>。%n ファイルは元のままです (一覧の末尾を参照)</numerusform>
+            <numerusform>。%Ln ファイルは元のままです (一覧の末尾を参照)</numerusform>
         </translation>
     </message>
     <message>
         <source>St&amp;op</source>
         <translation>停止(&amp;O)</translation>
+    </message>
+    <message>
+        <source>1 file saved</source>
+        <translation>1 ファイルを保存</translation>
+    </message>
+    <message numerus="yes">
+        <source>%Ln files saved</source>
+        <translation>
+            <numerusform>%Ln ファイルを保存</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>1 open script changed, not saved</source>
+        <translation>開いている 1 スクリプトを変更 (未保存)</translation>
+    </message>
+    <message numerus="yes">
+        <source>%Ln open scripts changed, not saved</source>
+        <translation>
+            <numerusform>開いている %Ln スクリプトを変更 (未保存)</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>1 match replaced</source>
+        <translation>1 件置換しました</translation>
+    </message>
+    <message numerus="yes">
+        <source>%Ln matches replaced</source>
+        <translation>
+            <numerusform>%Ln 件置換しました</numerusform>
+        </translation>
     </message>
 </context>
 <context>
@@ -1949,6 +2143,18 @@ Qt %1 を使用。GNU General Public License バージョン 3 以降の下で�
         <source>Open &amp;Document</source>
         <translation>文書を開く(&amp;D)</translation>
     </message>
+    <message>
+        <source>“%1” was written: 1 page</source>
+        <translation>「%1」に書き込みました: 1 ページ</translation>
+    </message>
+    <message>
+        <source>“%1” was written: %L2 pages</source>
+        <translation>「%1」に書き込みました: %L2 ページ</translation>
+    </message>
+    <message>
+        <source>“%1” was written</source>
+        <translation>「%1」に書き込みました</translation>
+    </message>
 </context>
 <context>
     <name>ScriptDoc</name>
@@ -2024,6 +2230,18 @@ Qt %1 を使用。GNU General Public License バージョン 3 以降の下で�
         <source>&amp;Read Again</source>
         <translation>読み直す(&amp;R)</translation>
     </message>
+    <message>
+        <source>No copy of “%1” could be written in case of a crash: the disk may be full. Save it.</source>
+        <translation>異常終了に備えた「%1」のコピーを書き込めませんでした。ディスクに空きがない可能性があります。保存してください。</translation>
+    </message>
+    <message>
+        <source>“%1” is read-only, and nothing was changed. Save As makes a copy that you can change.</source>
+        <translation>「%1」は読み取り専用のため、何も変更されていません。［名前を付けて保存］で変更できるコピーを作成します。</translation>
+    </message>
+    <message>
+        <source>“%1” is read-only, and nothing was changed. File &gt; Read Only ends that.</source>
+        <translation>「%1」は読み取り専用のため、何も変更されていません。［ファイル］&gt;［読み取り専用］で解除します。</translation>
+    </message>
 </context>
 <context>
     <name>ScriptFrame</name>
@@ -2037,6 +2255,14 @@ Qt %1 を使用。GNU General Public License バージョン 3 以降の下で�
     <message>
         <source>Finding page %1</source>
         <translation>%1 ページを探しています</translation>
+    </message>
+    <message>
+        <source>Page %1 of %2</source>
+        <translation>%2 ページ中 %1 ページ</translation>
+    </message>
+    <message>
+        <source>Page %1</source>
+        <translation>%1 ページ</translation>
     </message>
 </context>
 <context>
@@ -2181,6 +2407,14 @@ Qt %1 を使用。GNU General Public License バージョン 3 以降の下で�
         <source>Symbols of the script</source>
         <translation>スクリプトのシンボル</translation>
     </message>
+    <message>
+        <source>The script creates nothing that could be listed</source>
+        <translation>一覧に表示できるものをスクリプトは作成していません</translation>
+    </message>
+    <message>
+        <source>Nothing that the script creates has this name</source>
+        <translation>スクリプトが作成するものにこの名前はありません</translation>
+    </message>
 </context>
 <context>
     <name>Symbols</name>
@@ -2255,6 +2489,10 @@ Qt %1 を使用。GNU General Public License バージョン 3 以降の下で�
         <source>%1, in front</source>
         <translation>%1、前面</translation>
     </message>
+    <message>
+        <source>No script has this in its name</source>
+        <translation>これを名前に含むスクリプトはありません</translation>
+    </message>
 </context>
 <context>
     <name>TabMenu</name>
@@ -2295,6 +2533,17 @@ Qt %1 を使用。GNU General Public License バージョン 3 以降の下で�
     </message>
 </context>
 <context>
+    <name>TemplateForm</name>
+    <message>
+        <source>Insert Template</source>
+        <translation>テンプレートを挿入</translation>
+    </message>
+    <message>
+        <source>&amp;Insert</source>
+        <translation>挿入(&amp;I)</translation>
+    </message>
+</context>
+<context>
     <name>TemplateList</name>
     <message>
         <source>Templates</source>
@@ -2311,6 +2560,93 @@ Qt %1 を使用。GNU General Public License バージョン 3 以降の下で�
     <message>
         <source>Text of the template</source>
         <translation>テンプレートの内容</translation>
+    </message>
+</context>
+<context>
+    <name>TextKeys</name>
+    <message>
+        <source>Word Left</source>
+        <translation>左の単語へ</translation>
+    </message>
+    <message>
+        <source>Word Right</source>
+        <translation>右の単語へ</translation>
+    </message>
+    <message>
+        <source>Select Word Left</source>
+        <translation>左の単語を選択</translation>
+    </message>
+    <message>
+        <source>Select Word Right</source>
+        <translation>右の単語を選択</translation>
+    </message>
+    <message>
+        <source>Start of the Text</source>
+        <translation>テキストの先頭</translation>
+    </message>
+    <message>
+        <source>End of the Text</source>
+        <translation>テキストの末尾</translation>
+    </message>
+    <message>
+        <source>Select to the Start of the Text</source>
+        <translation>テキストの先頭まで選択</translation>
+    </message>
+    <message>
+        <source>Select to the End of the Text</source>
+        <translation>テキストの末尾まで選択</translation>
+    </message>
+    <message>
+        <source>Scroll Up</source>
+        <translation>上へスクロール</translation>
+    </message>
+    <message>
+        <source>Scroll Down</source>
+        <translation>下へスクロール</translation>
+    </message>
+    <message>
+        <source>Delete Word Left</source>
+        <translation>左の単語を削除</translation>
+    </message>
+    <message>
+        <source>Delete Word Right</source>
+        <translation>右の単語を削除</translation>
+    </message>
+    <message>
+        <source>Delete to the Start of the Line</source>
+        <translation>行頭まで削除</translation>
+    </message>
+    <message>
+        <source>Delete to the End of the Line</source>
+        <translation>行末まで削除</translation>
+    </message>
+    <message>
+        <source>Select Columns</source>
+        <translation>列を選択</translation>
+    </message>
+    <message>
+        <source>Delete Line</source>
+        <translation>行を削除</translation>
+    </message>
+    <message>
+        <source>Swap with the Line Above</source>
+        <translation>上の行と入れ替え</translation>
+    </message>
+    <message>
+        <source>Paragraph Up</source>
+        <translation>前の段落へ</translation>
+    </message>
+    <message>
+        <source>Select Paragraph Up</source>
+        <translation>前の段落まで選択</translation>
+    </message>
+    <message>
+        <source>Start of the Row</source>
+        <translation>表示行の先頭</translation>
+    </message>
+    <message>
+        <source>End of the Row</source>
+        <translation>表示行の末尾</translation>
     </message>
 </context>
 <context>

@@ -82,6 +82,36 @@ Over Qt %1. Licensed under the GNU General Public License, version 3 or later.</
     </message>
 </context>
 <context>
+    <name>ComparisonDialog</name>
+    <message>
+        <source>Compare</source>
+        <translation>比较</translation>
+    </message>
+    <message>
+        <source>&amp;Close</source>
+        <translation>关闭(&amp;C)</translation>
+    </message>
+    <message>
+        <source>%1 is not compared: what is no text, longer than 8 MB or cannot be read is not shown.</source>
+        <translation>未比较 %1：不显示非文本、超过 8 MB 或无法读取的内容。</translation>
+    </message>
+    <message>
+        <source>%1: lines with - are in the file alone, those with + in the script alone.</source>
+        <translation>%1：带 - 的行仅在文件中，带 + 的行仅在脚本中。</translation>
+    </message>
+    <message>
+        <source>%1: script and file have the same text.</source>
+        <translation>%1：脚本与文件的文本相同。</translation>
+    </message>
+</context>
+<context>
+    <name>ComparisonView</name>
+    <message>
+        <source>Comparison</source>
+        <translation>比较</translation>
+    </message>
+</context>
+<context>
     <name>EditingMenu</name>
     <message>
         <source>C&amp;omments</source>
@@ -252,8 +282,8 @@ Over Qt %1. Licensed under the GNU General Public License, version 3 or later.</
         <translation>全部清除(&amp;C)</translation>
     </message>
     <message>
-        <source>Insert &amp;File...</source>
-        <translation>插入文件(&amp;F)...</translation>
+        <source>Ins&amp;ert File...</source>
+        <translation>插入文件(&amp;E)...</translation>
     </message>
 </context>
 <context>
@@ -281,6 +311,62 @@ Over Qt %1. Licensed under the GNU General Public License, version 3 or later.</
     <message>
         <source>Unknown encoding</source>
         <translation>未知编码</translation>
+    </message>
+    <message>
+        <source>Western European</source>
+        <translation>西欧</translation>
+    </message>
+    <message>
+        <source>Central European</source>
+        <translation>中欧</translation>
+    </message>
+    <message>
+        <source>Cyrillic</source>
+        <translation>西里尔文</translation>
+    </message>
+    <message>
+        <source>Greek</source>
+        <translation>希腊文</translation>
+    </message>
+    <message>
+        <source>Turkish</source>
+        <translation>土耳其文</translation>
+    </message>
+    <message>
+        <source>Baltic</source>
+        <translation>波罗的海文</translation>
+    </message>
+    <message>
+        <source>Hebrew</source>
+        <translation>希伯来文</translation>
+    </message>
+    <message>
+        <source>Arabic</source>
+        <translation>阿拉伯文</translation>
+    </message>
+    <message>
+        <source>Vietnamese</source>
+        <translation>越南文</translation>
+    </message>
+    <message>
+        <source>Thai</source>
+        <translation>泰文</translation>
+    </message>
+    <message>
+        <source>Japanese</source>
+        <translation>日文</translation>
+    </message>
+    <message>
+        <source>Simplified Chinese</source>
+        <translation>简体中文</translation>
+    </message>
+    <message>
+        <source>Traditional Chinese</source>
+        <translation>繁体中文</translation>
+    </message>
+    <message>
+        <source>Korean</source>
+        <translation>韩文</translation>
     </message>
 </context>
 <context>
@@ -320,6 +406,18 @@ Over Qt %1. Licensed under the GNU General Public License, version 3 or later.</
     <message>
         <source>Original Script</source>
         <translation>原始脚本</translation>
+    </message>
+    <message>
+        <source>Nothing was expanded. #include, #define and &amp;&amp;NAME are; the lines by which client programs read files (\i, @, :r) stay as they are.</source>
+        <translation>没有展开任何内容。会展开的是 #include、#define 和 &amp;&amp;NAME；客户端程序用来读取文件的行 (\i、@、:r) 保持原样。</translation>
+    </message>
+    <message>
+        <source>%1 (out of date)</source>
+        <translation>%1（已过期）</translation>
+    </message>
+    <message>
+        <source>The script was changed since. Tools &gt; Expanded Script shows it as it is.</source>
+        <translation>脚本之后已被更改。“工具 &gt; 展开脚本”可显示其当前内容。</translation>
     </message>
 </context>
 <context>
@@ -782,6 +880,10 @@ Over Qt %1. Licensed under the GNU General Public License, version 3 or later.</
         <source>The keys could not be written to the settings. They are as shown until the workbench ends.</source>
         <translation>无法把按键写入设置。在程序结束之前按显示的生效。</translation>
     </message>
+    <message>
+        <source>%1 is a key of the text, for “%2”. Do you want to move it to “%3”?</source>
+        <translation>%1 是文本的按键，用于“%2”。要把它移给“%3”吗？</translation>
+    </message>
 </context>
 <context>
     <name>LanguageMenu</name>
@@ -975,10 +1077,6 @@ Over Qt %1. Licensed under the GNU General Public License, version 3 or later.</
         <translation>全选(&amp;A)</translation>
     </message>
     <message>
-        <source>Complete Word</source>
-        <translation>补全单词</translation>
-    </message>
-    <message>
         <source>Function Arguments</source>
         <translation>函数参数</translation>
     </message>
@@ -1011,14 +1109,6 @@ Over Qt %1. Licensed under the GNU General Public License, version 3 or later.</
         <translation>缩小(&amp;O)</translation>
     </message>
     <message>
-        <source>&amp;Reset Zoom</source>
-        <translation>重置缩放(&amp;R)</translation>
-    </message>
-    <message>
-        <source>&amp;Whitespace</source>
-        <translation>空白字符(&amp;W)</translation>
-    </message>
-    <message>
         <source>Line &amp;Ends</source>
         <translation>行尾符(&amp;E)</translation>
     </message>
@@ -1031,36 +1121,12 @@ Over Qt %1. Licensed under the GNU General Public License, version 3 or later.</
         <translation>上下拆分(&amp;A)</translation>
     </message>
     <message>
-        <source>Split Side &amp;by Side</source>
-        <translation>左右拆分(&amp;B)</translation>
-    </message>
-    <message>
         <source>Ot&amp;her Pane</source>
         <translation>另一窗格(&amp;H)</translation>
     </message>
     <message>
-        <source>Previo&amp;us Pane</source>
-        <translation>上一窗格(&amp;U)</translation>
-    </message>
-    <message>
         <source>&amp;Next Area</source>
         <translation>下一区域(&amp;N)</translation>
-    </message>
-    <message>
-        <source>New &amp;View</source>
-        <translation>新建视图(&amp;V)</translation>
-    </message>
-    <message>
-        <source>Next Proble&amp;m</source>
-        <translation>下一个问题(&amp;M)</translation>
-    </message>
-    <message>
-        <source>Ne&amp;xt Script</source>
-        <translation>下一个脚本(&amp;X)</translation>
-    </message>
-    <message>
-        <source>&amp;Previous Script</source>
-        <translation>上一个脚本(&amp;P)</translation>
     </message>
     <message>
         <source>&amp;Expanded Script</source>
@@ -1191,10 +1257,6 @@ Over Qt %1. Licensed under the GNU General Public License, version 3 or later.</
         <translation>帮助(&amp;H)</translation>
     </message>
     <message>
-        <source>Previou&amp;s Problem</source>
-        <translation>上一个问题(&amp;S)</translation>
-    </message>
-    <message>
         <source>Stop &amp;Recording</source>
         <translation>停止录制(&amp;R)</translation>
     </message>
@@ -1217,6 +1279,74 @@ Over Qt %1. Licensed under the GNU General Public License, version 3 or later.</
     <message>
         <source>Open Fold&amp;er...</source>
         <translation>打开文件夹(&amp;W)...</translation>
+    </message>
+    <message>
+        <source>Split Side b&amp;y Side</source>
+        <translation>左右拆分(&amp;Y)</translation>
+    </message>
+    <message>
+        <source>O&amp;utline</source>
+        <translation>大纲(&amp;U)</translation>
+    </message>
+    <message>
+        <source>&amp;Folder</source>
+        <translation>文件夹(&amp;F)</translation>
+    </message>
+    <message>
+        <source>Tool &amp;Bar</source>
+        <translation>工具栏(&amp;B)</translation>
+    </message>
+    <message>
+        <source>Complete Word</source>
+        <translation>补全单词</translation>
+    </message>
+    <message>
+        <source>&amp;Reset Zoom</source>
+        <translation>重置缩放(&amp;R)</translation>
+    </message>
+    <message>
+        <source>&amp;Whitespace</source>
+        <translation>空白字符(&amp;W)</translation>
+    </message>
+    <message>
+        <source>Previous Pane</source>
+        <translation>上一窗格</translation>
+    </message>
+    <message>
+        <source>New &amp;View</source>
+        <translation>新建视图(&amp;V)</translation>
+    </message>
+    <message>
+        <source>Next Problem</source>
+        <translation>下一个问题</translation>
+    </message>
+    <message>
+        <source>Previous Problem</source>
+        <translation>上一个问题</translation>
+    </message>
+    <message>
+        <source>Next Script</source>
+        <translation>下一个脚本</translation>
+    </message>
+    <message>
+        <source>Previous Script</source>
+        <translation>上一个脚本</translation>
+    </message>
+    <message>
+        <source>&amp;Problems</source>
+        <translation>问题(&amp;P)</translation>
+    </message>
+    <message>
+        <source>E&amp;xpanded Script</source>
+        <translation>展开的脚本(&amp;X)</translation>
+    </message>
+    <message>
+        <source>Find Re&amp;sults</source>
+        <translation>查找结果(&amp;S)</translation>
+    </message>
+    <message>
+        <source>Find Results &amp;2</source>
+        <translation>查找结果 &amp;2</translation>
     </message>
 </context>
 <context>
@@ -1351,6 +1481,30 @@ Over Qt %1. Licensed under the GNU General Public License, version 3 or later.</
         <source>Close brackets and &amp;quotes</source>
         <translation>自动补全括号和引号(&amp;Q)</translation>
     </message>
+    <message>
+        <source>Print na&amp;me, page numbers and date</source>
+        <translation>打印名称、页码和日期(&amp;M)</translation>
+    </message>
+    <message>
+        <source>None of Unicode: as below</source>
+        <translation>非 Unicode：如下</translation>
+    </message>
+    <message>
+        <source>What a file is read as that has no mark and is not UTF-8. One that looks wrong can be opened with another: click its encoding in the status bar.</source>
+        <translation>没有标记且不是 UTF-8 的文件按此读取。显示不正常的文件可以用其他编码打开：点击状态栏中的编码。</translation>
+    </message>
+    <message>
+        <source>Files that are no &amp;Unicode</source>
+        <translation>非 &amp;Unicode 文件</translation>
+    </message>
+    <message>
+        <source>By the language: as the line above, and a step further in behind {, ) and : alone, which is for languages with braces. With &quot;Close brackets and quotes&quot; what brackets hold is a step further in either way.</source>
+        <translation>按语言：与上一行相同，且仅在 {、) 和 : 之后多缩进一级，适用于使用花括号的语言。启用“自动补全括号和引号”时，两种方式下括号内的内容都多缩进一级。</translation>
+    </message>
+    <message>
+        <source>There is no font “%1”.</source>
+        <translation>没有字体“%1”。</translation>
+    </message>
 </context>
 <context>
     <name>OutlinePane</name>
@@ -1454,6 +1608,10 @@ Over Qt %1. Licensed under the GNU General Public License, version 3 or later.</
     <message>
         <source>Open Folder</source>
         <translation>打开文件夹</translation>
+    </message>
+    <message>
+        <source>Co&amp;mpare...</source>
+        <translation>比较(&amp;M)...</translation>
     </message>
 </context>
 <context>
@@ -1696,10 +1854,6 @@ Over Qt %1. Licensed under the GNU General Public License, version 3 or later.</
         <translation>操作</translation>
     </message>
     <message>
-        <source>Comparison of copy and file</source>
-        <translation>副本与文件的比较</translation>
-    </message>
-    <message>
         <source>All scripts:</source>
         <translation>所有脚本：</translation>
     </message>
@@ -1745,6 +1899,22 @@ Over Qt %1. Licensed under the GNU General Public License, version 3 or later.</
     <message>
         <source>%1%2: &quot;%3&quot; becomes &quot;%4&quot;</source>
         <translation>%1%2：“%3”变为“%4”</translation>
+    </message>
+    <message>
+        <source>not open: is saved at once, no undo</source>
+        <translation>未打开：立即保存，无法撤销</translation>
+    </message>
+    <message>
+        <source>saved</source>
+        <translation>已保存</translation>
+    </message>
+    <message>
+        <source>open, not saved</source>
+        <translation>已打开，未保存</translation>
+    </message>
+    <message>
+        <source>closed</source>
+        <translation>已关闭</translation>
     </message>
 </context>
 <context>
@@ -1798,9 +1968,9 @@ Over Qt %1. Licensed under the GNU General Public License, version 3 or later.</
         <translation>“%1”：%2</translation>
     </message>
     <message numerus="yes">
-        <source>&apos;%1&apos;: %n matches in %2 of %3 files</source>
+        <source>&apos;%1&apos;: %Ln matches in %2 of %3 files</source>
         <translation>
-            <numerusform>“%1”：%3 个文件中的 %2 个有 %n 处匹配</numerusform>
+            <numerusform>“%1”：%3 个文件中的 %2 个有 %Ln 处匹配</numerusform>
         </translation>
     </message>
     <message>
@@ -1832,20 +2002,44 @@ Over Qt %1. Licensed under the GNU General Public License, version 3 or later.</
         <translation>正在替换：第 %1 个文件，共 %2 个</translation>
     </message>
     <message numerus="yes">
-        <source>%n matches replaced in %1 files</source>
+        <source>. %Ln files were left as they are, see the end of the list</source>
         <translation>
-            <numerusform>已在 %1 个文件中替换 %n 处</numerusform>
-        </translation>
-    </message>
-    <message numerus="yes">
-        <source>. %n files were left as they are, see the end of the list</source>
-        <translation>
-            <numerusform>。%n 个文件保持原样，见列表末尾</numerusform>
+            <numerusform>。%Ln 个文件保持原样，见列表末尾</numerusform>
         </translation>
     </message>
     <message>
         <source>St&amp;op</source>
         <translation>停止(&amp;O)</translation>
+    </message>
+    <message>
+        <source>1 file saved</source>
+        <translation>1 个文件已保存</translation>
+    </message>
+    <message numerus="yes">
+        <source>%Ln files saved</source>
+        <translation>
+            <numerusform>%Ln 个文件已保存</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>1 open script changed, not saved</source>
+        <translation>1 个打开的脚本已更改，未保存</translation>
+    </message>
+    <message numerus="yes">
+        <source>%Ln open scripts changed, not saved</source>
+        <translation>
+            <numerusform>%Ln 个打开的脚本已更改，未保存</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>1 match replaced</source>
+        <translation>已替换 1 处</translation>
+    </message>
+    <message numerus="yes">
+        <source>%Ln matches replaced</source>
+        <translation>
+            <numerusform>已替换 %Ln 处</numerusform>
+        </translation>
     </message>
 </context>
 <context>
@@ -1949,6 +2143,18 @@ Over Qt %1. Licensed under the GNU General Public License, version 3 or later.</
         <source>Open &amp;Document</source>
         <translation>打开文档(&amp;D)</translation>
     </message>
+    <message>
+        <source>“%1” was written: 1 page</source>
+        <translation>已写入“%1”：1 页</translation>
+    </message>
+    <message>
+        <source>“%1” was written: %L2 pages</source>
+        <translation>已写入“%1”：%L2 页</translation>
+    </message>
+    <message>
+        <source>“%1” was written</source>
+        <translation>已写入“%1”</translation>
+    </message>
 </context>
 <context>
     <name>ScriptDoc</name>
@@ -2024,6 +2230,18 @@ Over Qt %1. Licensed under the GNU General Public License, version 3 or later.</
         <source>&amp;Read Again</source>
         <translation>重新读取(&amp;R)</translation>
     </message>
+    <message>
+        <source>No copy of “%1” could be written in case of a crash: the disk may be full. Save it.</source>
+        <translation>无法写入“%1”的崩溃备份:磁盘可能已满。请保存。</translation>
+    </message>
+    <message>
+        <source>“%1” is read-only, and nothing was changed. Save As makes a copy that you can change.</source>
+        <translation>“%1”是只读的，没有任何更改。“另存为”会创建一个可以更改的副本。</translation>
+    </message>
+    <message>
+        <source>“%1” is read-only, and nothing was changed. File &gt; Read Only ends that.</source>
+        <translation>“%1”是只读的，没有任何更改。“文件 &gt; 只读”可取消只读。</translation>
+    </message>
 </context>
 <context>
     <name>ScriptFrame</name>
@@ -2037,6 +2255,14 @@ Over Qt %1. Licensed under the GNU General Public License, version 3 or later.</
     <message>
         <source>Finding page %1</source>
         <translation>正在查找第 %1 页</translation>
+    </message>
+    <message>
+        <source>Page %1 of %2</source>
+        <translation>第 %1 页，共 %2 页</translation>
+    </message>
+    <message>
+        <source>Page %1</source>
+        <translation>第 %1 页</translation>
     </message>
 </context>
 <context>
@@ -2181,6 +2407,14 @@ Over Qt %1. Licensed under the GNU General Public License, version 3 or later.</
         <source>Symbols of the script</source>
         <translation>脚本的符号</translation>
     </message>
+    <message>
+        <source>The script creates nothing that could be listed</source>
+        <translation>脚本没有创建可以列出的内容</translation>
+    </message>
+    <message>
+        <source>Nothing that the script creates has this name</source>
+        <translation>脚本创建的内容中没有此名称</translation>
+    </message>
 </context>
 <context>
     <name>Symbols</name>
@@ -2255,6 +2489,10 @@ Over Qt %1. Licensed under the GNU General Public License, version 3 or later.</
         <source>%1, in front</source>
         <translation>%1，当前</translation>
     </message>
+    <message>
+        <source>No script has this in its name</source>
+        <translation>没有名称包含此内容的脚本</translation>
+    </message>
 </context>
 <context>
     <name>TabMenu</name>
@@ -2295,6 +2533,17 @@ Over Qt %1. Licensed under the GNU General Public License, version 3 or later.</
     </message>
 </context>
 <context>
+    <name>TemplateForm</name>
+    <message>
+        <source>Insert Template</source>
+        <translation>插入模板</translation>
+    </message>
+    <message>
+        <source>&amp;Insert</source>
+        <translation>插入(&amp;I)</translation>
+    </message>
+</context>
+<context>
     <name>TemplateList</name>
     <message>
         <source>Templates</source>
@@ -2311,6 +2560,93 @@ Over Qt %1. Licensed under the GNU General Public License, version 3 or later.</
     <message>
         <source>Text of the template</source>
         <translation>模板内容</translation>
+    </message>
+</context>
+<context>
+    <name>TextKeys</name>
+    <message>
+        <source>Word Left</source>
+        <translation>左移一词</translation>
+    </message>
+    <message>
+        <source>Word Right</source>
+        <translation>右移一词</translation>
+    </message>
+    <message>
+        <source>Select Word Left</source>
+        <translation>向左选择一词</translation>
+    </message>
+    <message>
+        <source>Select Word Right</source>
+        <translation>向右选择一词</translation>
+    </message>
+    <message>
+        <source>Start of the Text</source>
+        <translation>文本开头</translation>
+    </message>
+    <message>
+        <source>End of the Text</source>
+        <translation>文本末尾</translation>
+    </message>
+    <message>
+        <source>Select to the Start of the Text</source>
+        <translation>选择到文本开头</translation>
+    </message>
+    <message>
+        <source>Select to the End of the Text</source>
+        <translation>选择到文本末尾</translation>
+    </message>
+    <message>
+        <source>Scroll Up</source>
+        <translation>向上滚动</translation>
+    </message>
+    <message>
+        <source>Scroll Down</source>
+        <translation>向下滚动</translation>
+    </message>
+    <message>
+        <source>Delete Word Left</source>
+        <translation>删除左侧单词</translation>
+    </message>
+    <message>
+        <source>Delete Word Right</source>
+        <translation>删除右侧单词</translation>
+    </message>
+    <message>
+        <source>Delete to the Start of the Line</source>
+        <translation>删除到行首</translation>
+    </message>
+    <message>
+        <source>Delete to the End of the Line</source>
+        <translation>删除到行尾</translation>
+    </message>
+    <message>
+        <source>Select Columns</source>
+        <translation>选择列</translation>
+    </message>
+    <message>
+        <source>Delete Line</source>
+        <translation>删除行</translation>
+    </message>
+    <message>
+        <source>Swap with the Line Above</source>
+        <translation>与上一行交换</translation>
+    </message>
+    <message>
+        <source>Paragraph Up</source>
+        <translation>上移一段</translation>
+    </message>
+    <message>
+        <source>Select Paragraph Up</source>
+        <translation>向上选择一段</translation>
+    </message>
+    <message>
+        <source>Start of the Row</source>
+        <translation>显示行开头</translation>
+    </message>
+    <message>
+        <source>End of the Row</source>
+        <translation>显示行末尾</translation>
     </message>
 </context>
 <context>

@@ -19,16 +19,17 @@ struct Range
     int last;
 };
 constexpr Range kCommands[] = {
-    {2004, 2004}, // clear all
-    {2011, 2011}, // redo
-    {2013, 2013}, // select all
-    {2176, 2180}, // undo, cut, copy, paste, clear
-    {2300, 2349}, // caret movements, deletions, new line, tab, case, zoom
-    {2390, 2396}, // by parts of words
-    {2404, 2404}, // line duplicate
-    {2413, 2416}, // paragraphs
-    {2426, 2442}, // rectangles, stuttered pages, word ends
-    {2450, 2455}, // home and end with wrapped lines, line copy
+    {2004, 2004},   // clear all
+    {2011, 2011},   // redo
+    {2013, 2013},   // select all
+    {2176, 2180},   // undo, cut, copy, paste, clear
+    {2300, 2349},   // caret movements, deletions, new line, tab, case, zoom
+    {2390, 2396},   // by parts of words
+    {2404, 2404},   // line duplicate
+    {2413, 2416},   // paragraphs
+    {2426, 2442},   // rectangles, stuttered pages, word ends
+    {2450, 2455},   // home and end with wrapped lines, line copy
+    {54200, 54299}, // gestures
 };
 
 bool IsCommand(int message)

@@ -5,6 +5,7 @@
 #include "editing/language/EditorCompletion.h"
 #include "editing/language/FileTypeManager.h"
 #include "editing/language/Library.h"
+#include "host/completion/TemplateForm.h"
 #include "host/completion/TemplateStore.h"
 #include "platform/windows/Disposal.h"
 #include "settings/SyntaxFile.h"
@@ -50,9 +51,20 @@ QString NameBeforeCaret(CZNCoreEditorControlEx& editor)
 
 void InsertTemplate(CZNCoreEditorView& view, const CodeTemplate& made, long start)
 {
-    const FrameworkCall call; // a prompt may outlive what it was asked for
+    const FrameworkCall call; // the form may outlive what it was asked for
     QStringList lines = made.lines;
     CZNCoreEditorControlEx& editor = view.GetCoreEditorControlRef();
+    if (const QStringList names = TemplateForm::NamesIn(lines); !names.isEmpty()) {
+        const QPointer<QWidget> window(editor.GetSafeHwnd());
+        const QPointer<TemplateForm> form(new TemplateForm(made, names, window));
+        const bool isWanted = form->exec() == QDialog::Accepted;
+        if (!window) // and the form with it
+            return;
+        lines = form->Filled(lines);
+        delete form;
+        if (!isWanted)
+            return;
+    }
     editor.BeginUndoAction(1);
     if (start < editor.GetCurrentPos(1)) {
         editor.SetSel(start, editor.GetCurrentPos(1), 1);

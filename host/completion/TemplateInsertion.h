@@ -14,8 +14,8 @@ class EditorCompletion;
 // What may be the beginning of a template's short name: the word up to the caret.
 QString NameBeforeCaret(CZNCoreEditorControlEx& editor);
 
-// In place of the units from start to the caret, in one undo step. The person may be asked for
-// values, and the view may be gone afterwards.
+// In place of the units from start to the caret, in one undo step. The person is asked for values
+// first, and may decide that nothing is inserted; the view may be gone afterwards.
 void InsertTemplate(CZNCoreEditorView& view, const completion::CodeTemplate& made, long start);
 
 // Takes Tab, or the space bar if the language's settings say so (AutoCompKey), behind the short

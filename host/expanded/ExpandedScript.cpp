@@ -20,6 +20,8 @@
 #include <QTreeWidget>
 #include <QVBoxLayout>
 
+#include <utility>
+
 namespace {
 
 constexpr int kLineColumn = 0;
@@ -38,8 +40,6 @@ ExpandedScript::ExpandedScript(QWidget* parent)
     m_editor->setObjectName(QStringLiteral("expandedText"));
     m_editor->setAccessibleName(tr("Expanded script"));
     m_hint->setObjectName(QStringLiteral("includeHint"));
-    m_hint->setText(tr(
-        "Files are looked for beside the script, and in the folders that Tools > Options names."));
     m_hint->setWordWrap(true);
     m_hint->setMargin(4);
     m_hint->hide();
@@ -103,19 +103,24 @@ ScriptDoc* ExpandedScript::Script() const
     return m_script && !m_script->IsClosed() ? m_script.data() : nullptr;
 }
 
-void ExpandedScript::Expand(ScriptDoc& script, CZNCoreEditorControlEx& editor)
+void ExpandedScript::Expand(ScriptDoc& doc, CZNCoreEditorControlEx& editor)
 {
-    m_script = &script;
+    disconnect(m_changes);
+    m_changes = connect(&doc, &ScriptDoc::TextChanged, this, &ExpandedScript::GrowStale);
+    m_isStale = false;
+    m_script = &doc;
     Caption(tr("Expanded Script"));
-    m_editor->setLanguage(script.Language());
+    m_editor->setLanguage(doc.Language());
     CZNCoreEditorControlEx& control = m_editor->control();
     control.SetCarefulFiles(true);
     control.SetReadOnly(0, 1);
-    const QString path = script.GetPathName();
+    const QString path = doc.GetPathName();
     control.SetDatasourceSearchPath(path.isEmpty() ? path : QFileInfo(path).absolutePath());
     control.SetEOLMode(editor.GetEOLMode(1), 1);
     control.SetUndoCollection(0, 1); // nobody has changed these lines
-    control.SetText(Units(editor.GetText()), 1);
+    const QString script = editor.GetText();
+    m_text = qHash(script);
+    control.SetText(Units(script), 1);
     QString expanded;
     control.GetWindowTextW(expanded);
     control.SetUndoCollection(1, 1);
@@ -128,12 +133,38 @@ void ExpandedScript::Expand(ScriptDoc& script, CZNCoreEditorControlEx& editor)
     m_putBack->setEnabled(control.GetIncludeOrDefineDirectivesFound());
     ListErrors();
     ListLeftovers();
-    m_errors->setVisible(m_errors->topLevelItemCount() > 0);
+    const bool hasProblems = m_errors->topLevelItemCount() > 0;
+    m_errors->setVisible(hasProblems);
+    if (!hasProblems && expanded == script)
+        ShowHint(tr("Nothing was expanded. #include, #define and &&NAME are; the lines by which "
+                    "client programs read files (\\i, @, :r) stay as they are."));
+}
+
+void ExpandedScript::ShowHint(const QString& hint)
+{
+    m_hint->setText(hint);
+    m_hint->show();
+}
+
+bool ExpandedScript::Shows(const ScriptDoc& script, CZNCoreEditorControlEx& editor) const
+{
+    return isVisible() && !m_isStale && Script() == &script && m_text == qHash(editor.GetText());
 }
 
 void ExpandedScript::Caption(const QString& what)
 {
     setWindowTitle(m_script ? what + QStringLiteral(" – ") + m_script->Name() : what);
+}
+
+// Lines that have moved since would lead to others.
+void ExpandedScript::GrowStale()
+{
+    if (m_isStale)
+        return;
+    m_isStale = true;
+    m_goToSource->setEnabled(false);
+    setWindowTitle(tr("%1 (out of date)").arg(windowTitle()));
+    ShowHint(tr("The script was changed since. Tools > Expanded Script shows it as it is."));
 }
 
 void ExpandedScript::PutOriginalBack()
@@ -148,16 +179,22 @@ void ExpandedScript::PutOriginalBack()
     m_errors->hide();
     m_hint->hide();
     m_putBack->setEnabled(false);
+    const bool wasStale = std::exchange(m_isStale, false);
     Caption(tr("Original Script"));
+    if (wasStale)
+        GrowStale();
 }
 
 void ExpandedScript::ListErrors()
 {
     m_errors->clear();
+    m_hint->hide();
     const auto errors = m_editor->control().GetIncludeDirectiveErrorMessageAndLine();
     for (const auto& [line, message] : errors)
         ListLine(line, message, QStyle::SP_MessageBoxCritical);
-    m_hint->setVisible(!errors.empty());
+    if (!errors.empty())
+        ShowHint(tr("Files are looked for beside the script, and in the folders that Tools > "
+                    "Options names."));
 }
 
 // Marked in the text too, which has no marks of an expansion before.
@@ -203,6 +240,8 @@ void ExpandedScript::GoToSource()
 
 void ExpandedScript::GoToSourceOf(long line)
 {
+    if (m_isStale)
+        return;
     const SourceLine place = m_map.Locate(line);
     Q_EMIT SourceChosen(place.path, place.line);
 }

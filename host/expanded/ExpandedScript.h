@@ -26,7 +26,10 @@ public:
     ~ExpandedScript() override;
 
     // Works on a copy, so the script, its caret and its undo stay as they are.
-    void Expand(ScriptDoc& script, CZNCoreEditorControlEx& editor);
+    void Expand(ScriptDoc& doc, CZNCoreEditorControlEx& editor);
+    // Whether a further expansion would show the same, but for what other files say. A script that
+    // was changed is expanded again, even if it is what it was.
+    bool Shows(const ScriptDoc& script, CZNCoreEditorControlEx& editor) const;
 
     // The script that is shown, null once it is closed.
     ScriptDoc* Script() const;
@@ -36,7 +39,7 @@ public:
     QWidget* ErrorArea() const;
 
     void PutOriginalBack();
-    void GoToSource(); // of the caret's line
+    void GoToSource(); // of the caret's line, unless the script was changed since
 
 Q_SIGNALS:
     // The line from 0, in the file or, if the path is empty, in the script.
@@ -47,14 +50,19 @@ private:
     void ListErrors();
     void ListLeftovers();
     void ListLine(long line, const QString& message, QStyle::StandardPixmap icon);
+    void ShowHint(const QString& hint);
     void Caption(const QString& what);
+    void GrowStale();
     void GoToSourceOf(long line);
 
     ZNCoreEditorWidget* m_editor;
     QTreeWidget* m_errors;
-    QLabel* m_hint; // what to do about the errors
+    QLabel* m_hint; // what to do about the errors, or why nothing is another
     QAction* m_goToSource = nullptr;
     QAction* m_putBack = nullptr;
     QPointer<ScriptDoc> m_script;
+    std::size_t m_text = 0; // of the script, when it was expanded
+    bool m_isStale = false; // the script was changed since
+    QMetaObject::Connection m_changes;
     SourceMap m_map;
 };

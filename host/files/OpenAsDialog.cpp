@@ -33,7 +33,9 @@ OpenAsDialog::OpenAsDialog(QWidget* parent, const QString& place)
     // A mark at the file's start is read past in any case.
     for (const EncodingChoice& choice : EncodingChoices()) {
         if (m_encoding->findData(choice.encoding) < 0)
-            m_encoding->addItem(EncodingName(choice.encoding, false), choice.encoding);
+            m_encoding->addItem(choice.script ? EncodingTitle(choice)
+                                              : EncodingName(choice.encoding, false),
+                                choice.encoding);
     }
 
     if (QFileInfo(place).isFile()) {

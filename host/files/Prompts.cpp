@@ -8,6 +8,7 @@
 #include "host/recovery/RecoveryDialog.h"
 
 #include <QCoreApplication>
+#include <QDialogButtonBox>
 #include <QDir>
 #include <QFileDialog>
 #include <QFileInfo>
@@ -142,9 +143,26 @@ QList<RecoveryChoice> DialogPrompts::WhatToRecover(QWidget* parent,
 
 bool DialogPrompts::Confirm(QWidget* parent, const QString& text, const QString& doIt)
 {
+    return ConfirmComparing(parent, text, doIt, {});
+}
+
+bool DialogPrompts::ConfirmComparing(QWidget* parent, const QString& text, const QString& doIt,
+                                     const Comparison& comparison)
+{
     Box box(QMessageBox::Warning, QStringLiteral("znworkbench"), text, QMessageBox::Cancel, parent);
     box.setTextFormat(Qt::PlainText);
     const auto* yes = box.addButton(doIt, QMessageBox::AcceptRole);
+    if (comparison.text) {
+        auto* compare = box.addButton(Texts::tr("Co&mpare..."), QMessageBox::ActionRole);
+        // Which ends the question.
+        QObject::disconnect(compare, &QAbstractButton::clicked, box.findChild<QDialogButtonBox*>(),
+                            nullptr);
+        QObject::connect(compare, &QAbstractButton::clicked, &box, [&] {
+            ComparisonDialog dialog(&box, comparison);
+            QObject::connect(&box, &QDialog::finished, &dialog, &QDialog::reject);
+            dialog.exec();
+        });
+    }
     box.setDefaultButton(QMessageBox::Cancel);
     // A window that is about to be shown is not where the window manager is going to put it.
     const QWindow* window = parent ? parent->window()->windowHandle() : nullptr;

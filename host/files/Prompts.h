@@ -4,6 +4,7 @@
 // through IUserQuestions.
 #pragma once
 
+#include "host/recovery/ComparisonDialog.h"
 #include "host/recovery/RecoverableCopy.h"
 
 #include <QList>
@@ -17,14 +18,14 @@ class QWidget;
 struct SaveTarget
 {
     QString path;
-    int encoding = 0;
+    int encoding = 0; // a number of host/files/Encodings.h
     bool mark = false;
 };
 
 struct OpenChoice
 {
     QString path;
-    int encoding = -1; // a number of FileEncodeConverter; -1: detect it
+    int encoding = -1; // a number of host/files/Encodings.h; -1: detect it
 };
 
 enum class LoseChanges
@@ -60,6 +61,9 @@ public:
     virtual QList<RecoveryChoice> WhatToRecover(QWidget* parent,
                                                 const QList<RecoverableCopy>& copies) = 0;
     virtual bool Confirm(QWidget* parent, const QString& text, const QString& doIt) = 0;
+    // The same of a script and its file, which may be compared before the answer.
+    virtual bool ConfirmComparing(QWidget* parent, const QString& text, const QString& doIt,
+                                  const Comparison& comparison) = 0;
     virtual void Tell(QWidget* parent, const QString& text) = 0;
 };
 
@@ -77,6 +81,8 @@ public:
     QList<RecoveryChoice> WhatToRecover(QWidget* parent,
                                         const QList<RecoverableCopy>& copies) override;
     bool Confirm(QWidget* parent, const QString& text, const QString& doIt) override;
+    bool ConfirmComparing(QWidget* parent, const QString& text, const QString& doIt,
+                          const Comparison& comparison) override;
     void Tell(QWidget* parent, const QString& text) override;
 };
 

@@ -22,7 +22,7 @@ SaveAsDialog::SaveAsDialog(QWidget* parent, const SaveTarget& proposal)
     selectFile(QFileInfo(proposal.path).fileName());
 
     for (const EncodingChoice& choice : EncodingChoices())
-        m_encoding->addItem(EncodingName(choice.encoding, choice.mark));
+        m_encoding->addItem(EncodingTitle(choice));
     m_encoding->setCurrentIndex(IndexOfEncoding(proposal.encoding, proposal.mark));
     m_encoding->setObjectName(QStringLiteral("encoding"));
 

@@ -29,6 +29,7 @@ FileReplacer::Outcome FileReplacer::ReplaceInFile(const FoundFile& file,
     if (!QFileInfo(file.path).isWritable())
         return {0, Texts::tr("it may not be written")};
     ZNCoreEditorWidget editor;
+    editor.control().SetFileCodePage(m_request.codePage);
     if (const FileResult read = editor.open(file.path); !read)
         return {0, read.Reason()};
     Outcome outcome = ReplaceIn(editor.control(), file, left);

@@ -35,6 +35,12 @@ bool IsSelected(Editor& editor, long start, long end)
 
 } // namespace
 
+void FindBar::OpenFinding()
+{
+    ShowReplaceRow(false);
+    Open();
+}
+
 void FindBar::Open()
 {
     Editor* editor = m_editor();
@@ -72,6 +78,8 @@ void FindBar::ShowMatches()
     Editor* editor = m_editor();
     if (!editor)
         return;
+    if (m_scoped != editor) // and never was, or no longer is
+        editor->Call(engine::kShowMatchesWithin, static_cast<WPARAM>(-1), 0, 1);
     const std::u16string sought =
         isHidden() ? std::u16string() : m_find->currentText().toStdU16String();
     editor->Call(engine::kShowMatches, static_cast<WPARAM>(Flags()),
@@ -128,29 +136,34 @@ QString FindBar::WhatIsWrong(Editor& editor) const
 
 void FindBar::ScopeSelection(bool isOn)
 {
-    m_scope.reset();
-    SeekSoon();
+    m_scoped = nullptr;
     Editor* editor = m_editor();
-    if (!isOn || !editor)
-        return;
-    GoBack(*editor);
-    const long start = editor->GetSelectionStart(1);
-    const long end = editor->GetSelectionEnd(1);
-    if (start < end) {
-        m_scope = {editor, start, editor->GetLength(1) - end};
-        return;
+    if (isOn && editor) {
+        GoBack(*editor);
+        const Range selected = SelectedIn(*editor);
+        if (selected.start < selected.end) {
+            m_scoped = editor;
+            editor->Call(engine::kShowMatchesWithin, static_cast<WPARAM>(selected.start),
+                         selected.end, 1);
+        }
     }
-    m_inSelection->setChecked(false);
-    Tell(tr("Nothing is selected"));
+    SeekSoon();
+    if (isOn && editor && !m_scoped) {
+        m_inSelection->setChecked(false);
+        Tell(tr("Nothing is selected"));
+    }
+}
+
+bool FindBar::IsScoped(Editor& editor) const
+{
+    return m_scoped == &editor && editor.Call(engine::kMatchesFrom, 0, 0, 1) >= 0;
 }
 
 FindBar::Range FindBar::Searched(Editor& editor) const
 {
-    const long length = editor.GetLength(1);
-    if (!m_scope)
-        return {0, length};
-    const long start = std::min(m_scope->start, length);
-    return {start, std::max(start, length - m_scope->behind)};
+    if (!IsScoped(editor))
+        return {0, editor.GetLength(1)};
+    return {editor.Call(engine::kMatchesFrom, 0, 0, 1), editor.Call(engine::kMatchesTo, 0, 0, 1)};
 }
 
 template <typename Match>
@@ -191,8 +204,6 @@ bool FindBar::Prepare(Editor* editor)
         Open();
         return false;
     }
-    if (m_scope && m_scope->editor != editor) // of another script
-        m_inSelection->setChecked(false);
     if (const QString wrong = WhatIsWrong(*editor); !wrong.isEmpty()) {
         Tell(wrong);
         m_tellsWrong = true;
@@ -288,7 +299,7 @@ bool FindBar::SelectNext(Editor& editor, bool down)
         return m_manager.FindInRange(&editor, static_cast<int>(from), static_cast<int>(to), true);
     };
     // While all of it is selected the search has not begun.
-    const bool isFresh = m_scope && IsSelected(editor, searched.start, searched.end);
+    const bool isFresh = IsScoped(editor) && IsSelected(editor, searched.start, searched.end);
     const bool fromEnd = isFresh ? !down : down;
     const long from = std::clamp(fromEnd ? editor.GetSelectionEnd(1) : editor.GetSelectionStart(1),
                                  searched.start, searched.end);
@@ -359,6 +370,8 @@ void FindBar::keyPressEvent(QKeyEvent* event)
         Close(); // at the match that is shown, which is what somebody wants to edit
     else if (isEnter && qobject_cast<QCheckBox*>(focusWidget())) // where its letter has led
         event->modifiers() & Qt::ShiftModifier ? FindPrevious() : FindNext();
+    else if (auto* button = qobject_cast<QAbstractButton*>(focusWidget()); isEnter && button)
+        button->click();
     else
         QWidget::keyPressEvent(event);
 }
@@ -369,6 +382,9 @@ bool FindBar::eventFilter(QObject* watched, QEvent* event)
     if (event->type() != QEvent::KeyPress)
         return QWidget::eventFilter(watched, event);
     const auto* key = static_cast<QKeyEvent*>(event);
+    const QString typed = key->text();
+    if (key->modifiers() == Qt::AltModifier && !typed.isEmpty() && typed.front().isPrint())
+        return true; // of a button that cannot be pressed, and no letter to be found
     if (key->key() != Qt::Key_Return && key->key() != Qt::Key_Enter)
         return QWidget::eventFilter(watched, event);
     if (key->modifiers() & Qt::ShiftModifier)

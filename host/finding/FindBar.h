@@ -39,14 +39,16 @@ public:
 
     void OnTextChanged(); // of the script in front, by anybody
 
-    void Open(); // with what is selected, or the word at the caret, as what is sought
+    void OpenFinding(); // without the row for replacing
+    void Open(); // as it is, with what is selected, or the word at the caret, as what is sought
     void Close();
 
     void FindNext();
     void FindPrevious();
     void FindNextWord(); // of what is selected, or the word at the caret
     void FindPreviousWord();
-    void OpenReplacing(); // with the keyboard in it, from one box to the other
+    // With its row: the keyboard goes to what is sought, from there to what it becomes.
+    void OpenReplacing();
     void Replace(); // what is found and selected, and goes on to the next; first shows its row
     void ReplaceAll();
     void MarkAll(); // bookmarks the lines
@@ -89,14 +91,6 @@ private:
         int left = 0;  // pixels
         Range shown;   // selected by now
     };
-    // Which the find bar searches instead of the whole text. Its end is counted from the text's:
-    // what is replaced inside leaves both where they are.
-    struct Scope
-    {
-        const CZNCoreEditorControlEx* editor = nullptr;
-        long start = 0;
-        long behind = 0; // units from its end to the text's
-    };
     void HandOver() const; // what is sought and how, to the manager
     // The same, remembering it. False if there is nothing to do, of which the person
     // knows then.
@@ -105,6 +99,7 @@ private:
     WhatIsWrong(CZNCoreEditorControlEx& editor) const; // with the expression; empty: nothing
     int Flags() const;                                 // of the engine's search
     void ScopeSelection(bool isOn);
+    bool IsScoped(CZNCoreEditorControlEx& editor) const;
     Range Searched(CZNCoreEditorControlEx& editor) const;
     void Find(bool down);
     void FindWord(bool down);
@@ -145,7 +140,8 @@ private:
     QLabel* m_result;
     QToolButton* m_showReplace;
     QWidget* m_replaceRow;
-    std::optional<Scope> m_scope;
+    // Whose range is searched instead of the whole text; the range is the engine's. Null: none.
+    const CZNCoreEditorControlEx* m_scoped = nullptr;
     std::optional<Origin> m_origin;
     const CZNCoreEditorControlEx* m_matchIn = nullptr;
     Range m_match; // the last that was selected, there

@@ -42,7 +42,7 @@ std::span<const FindBar::Row> Rows()
 {
     // clang-format off
     static const FindBar::Row rows[] = {
-        {"find",             QT_TRANSLATE_NOOP("FindBar", "&Find..."),                "Ctrl+F",        &FindBar::Open},
+        {"find",             QT_TRANSLATE_NOOP("FindBar", "&Find..."),                "Ctrl+F",        &FindBar::OpenFinding},
         {"findNext",         QT_TRANSLATE_NOOP("FindBar", "Find &Next"),              "F3",            &FindBar::FindNext},
         {"findPrevious",     QT_TRANSLATE_NOOP("FindBar", "Find &Previous"),          "Shift+F3",      &FindBar::FindPrevious},
         {"findNextWord",     QT_TRANSLATE_NOOP("FindBar", "Find the &Word Next"),     "Ctrl+F3",       &FindBar::FindNextWord},
@@ -241,8 +241,12 @@ void FindBar::Update()
             button->setEnabled(IsPossible(row));
     }
     const Editor* editor = m_editor();
-    if (editor != std::exchange(m_shownIn, editor) && isVisible()) {
-        ShowMatches();
+    if (editor == std::exchange(m_shownIn, editor))
+        return;
+    if (m_scoped != editor)
+        m_inSelection->setChecked(false);
+    ShowMatches();
+    if (isVisible()) {
         m_count->Stop();
         m_tellsPlace = true;
         m_recount.start(0);

@@ -16,14 +16,16 @@ using Editor = CZNCoreEditorControlEx;
 
 void FindBar::OpenReplacing()
 {
-    const bool isHere = isVisible() && isAncestorOf(window()->focusWidget());
+    const QWidget* focus = isVisible() ? window()->focusWidget() : nullptr;
+    const bool isSought = focus == m_find && !m_find->currentText().isEmpty();
     ShowReplaceRow(true);
-    if (!isHere)
+    if (!isAncestorOf(focus)) {
         Open();
-    else {
-        m_replace->setFocus();
-        m_replace->lineEdit()->selectAll();
+        return;
     }
+    QComboBox* box = isSought ? m_replace : m_find;
+    box->setFocus();
+    box->lineEdit()->selectAll();
 }
 
 void FindBar::Replace()
@@ -115,10 +117,10 @@ void FindBar::ReplaceAll()
         return;
     m_manager.AddReplaceHistory(m_replace->currentText());
     GoBack(*editor); // from the match that was shown
-    const bool isPlain = !m_scope && !m_preserveCase->isChecked();
+    const bool isPlain = !IsScoped(*editor) && !m_preserveCase->isChecked();
     const CaretPlace caret(*editor);
     const int count = isPlain ? m_manager.ReplaceAll(editor, false) : ReplaceEach(*editor);
-    if (!m_scope)
+    if (!IsScoped(*editor))
         caret.Restore();
     m_count->Stop();
     Tell(isPlain && m_manager.WasStopped() ? tr("Stopped, %n replaced", nullptr, count)
@@ -152,7 +154,7 @@ int FindBar::ReplaceEach(Editor& editor)
     editor.EndUndoAction(1);
     editor.SetDoingReplaceAll(false, 1);
     const Range searched = Searched(editor);
-    if (m_scope)
+    if (IsScoped(editor))
         editor.SetSel(searched.start, searched.end, 1);
     else
         editor.SetSel(std::min(anchor, searched.end), std::min(caret, searched.end), 1);

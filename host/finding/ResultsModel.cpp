@@ -53,7 +53,8 @@ bool IsSame(const FileMatch& a, const FileMatch& b)
 
 } // namespace
 
-ResultsModel::ResultsModel(QObject* parent) : QAbstractItemModel(parent), m_collator(OrderOfNames())
+ResultsModel::ResultsModel(QObject* parent, PlaceOf placeOf)
+    : QAbstractItemModel(parent), m_placeOf(std::move(placeOf)), m_collator(OrderOfNames())
 {}
 
 void ResultsModel::Clear(bool replaces)
@@ -95,7 +96,7 @@ int ResultsModel::Add(FoundFile&& file)
         beginInsertRows({}, row, row);
         m_numbers.insert(file.path, number);
         std::vector<bool> left(file.matches.size());
-        m_files.push_back({std::move(file), std::move(left), 0, std::move(order)});
+        m_files.push_back({std::move(file), std::move(left), 0, {}, std::move(order)});
         m_order.insert(m_order.begin() + row, number);
         endInsertRows();
         return row;
@@ -129,6 +130,12 @@ void ResultsModel::AddNotes(const QStringList& notes)
     beginInsertRows(Top(row), first, first + static_cast<int>(notes.size()) - 1);
     m_notes += notes;
     endInsertRows();
+    Q_EMIT dataChanged(Top(row), Top(row));
+}
+
+void ResultsModel::SetReplaced(int row, Place place)
+{
+    At(row).replacedIn = place;
     Q_EMIT dataChanged(Top(row), Top(row));
 }
 
@@ -257,7 +264,8 @@ QVariant ResultsModel::data(const QModelIndex& index, int role) const
             return -1;
         if (role != Qt::DisplayRole)
             return {};
-        return isHead ? tr("Not searched or not replaced  (%1)").arg(m_notes.size() - 1)
+        return isHead ? tr("Not searched or not replaced  (%1)")
+                            .arg(QLocale().toString(m_notes.size() - 1))
                       : m_notes[index.row() + 1];
     }
     const bool isFile = index.internalId() == kTop;
@@ -266,11 +274,31 @@ QVariant ResultsModel::data(const QModelIndex& index, int role) const
                   : MatchData(entry, static_cast<std::size_t>(index.row()), role);
 }
 
+// What is to be known before anything is replaced, and where it was.
+QString ResultsModel::StateOf(const Entry& entry) const
+{
+    if (!m_replaces && !entry.replacedIn)
+        return {}; // and nobody is asked about the place
+    const Place place = m_placeOf ? m_placeOf(entry.found.path) : Place::Script;
+    if (m_replaces)
+        return place == Place::Disk ? tr("not open: is saved at once, no undo") : QString();
+    if (*entry.replacedIn == Place::Disk || place == Place::Script)
+        return tr("saved");
+    return place == Place::UnsavedScript ? tr("open, not saved") : tr("closed");
+}
+
 QVariant ResultsModel::FileData(const Entry& entry, int role) const
 {
     switch (role) {
-    case Qt::DisplayRole:
-        return QStringLiteral("%1  (%2)").arg(entry.found.path, QString::number(entry.found.count));
+    case Qt::DisplayRole: {
+        const QString state = StateOf(entry);
+        QStringList words;
+        if (entry.found.count > 0 || state.isEmpty())
+            words += QLocale().toString(entry.found.count);
+        if (!state.isEmpty())
+            words += state;
+        return QStringLiteral("%1  (%2)").arg(entry.found.path, words.join(QStringLiteral(", ")));
+    }
     case Qt::CheckStateRole:
         if (!m_replaces)
             return {};

@@ -9,6 +9,8 @@
 #include <QCollator>
 #include <QHash>
 
+#include <functional>
+#include <optional>
 #include <utility>
 #include <vector>
 
@@ -24,7 +26,16 @@ public:
         ReplacementLength, // the replacement stands behind the match; -1: there is none
     };
 
-    explicit ResultsModel(QObject* parent);
+    enum class Place
+    {
+        Disk,   // alone
+        Script, // open, and as saved
+        UnsavedScript,
+    };
+    using PlaceOf = std::function<Place(const QString& path)>; // by now
+
+    // Without a function all files are open scripts.
+    explicit ResultsModel(QObject* parent, PlaceOf placeOf = {});
 
     void Clear(bool replaces); // with the matches to choose from
     // Files stand in the order of their names, whichever comes first. Gives the row of this one.
@@ -34,7 +45,8 @@ public:
     // The matches of a file are others by now. What is the same stays the same row.
     // Gives the first row that is another.
     int SetMatches(int row, std::vector<FileMatch> matches);
-    void EndPreview(); // the matches stand for themselves
+    void SetReplaced(int row, Place place); // where that was done
+    void EndPreview();                      // the matches stand for themselves
 
     int FileCount() const { return static_cast<int>(m_files.size()); }
     const FoundFile& File(int row) const { return At(row).found; }
@@ -57,10 +69,12 @@ private:
         FoundFile found;
         std::vector<bool> left; // of each match
         long leftCount = 0;
+        std::optional<Place> replacedIn;
         QCollatorSortKey order; // of its path
     };
 
     bool IsNote(const QModelIndex& index) const;
+    QString StateOf(const Entry& entry) const;
     QVariant FileData(const Entry& entry, int role) const;
     QVariant MatchData(const Entry& entry, std::size_t row, int role) const;
     QModelIndex Top(int row) const { return index(row, 0, {}); }
@@ -77,6 +91,7 @@ private:
     std::vector<Entry> m_files; // as they came
     std::vector<int> m_order;   // their numbers, by row
     QHash<QString, int> m_numbers;
+    PlaceOf m_placeOf;
     QCollator m_collator;
     QStringList m_notes;
     bool m_replaces = false;

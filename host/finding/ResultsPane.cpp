@@ -4,105 +4,22 @@
 #include "editing/ZNCoreEditorControlEx.h"
 #include "host/finding/FileReplacer.h"
 #include "host/finding/FoundTexts.h"
+#include "host/finding/MatchDelegate.h"
+#include "host/finding/ResultsInbox.h"
 #include "host/finding/ResultsModel.h"
 
-#include <QApplication>
 #include <QBoxLayout>
 #include <QElapsedTimer>
+#include <QKeyEvent>
 #include <QLabel>
 #include <QLineEdit>
-#include <QPainter>
+#include <QLocale>
 #include <QPushButton>
 #include <QShortcut>
-#include <QStyledItemDelegate>
 #include <QTimer>
 #include <QTreeView>
 
 #include <algorithm>
-#include <deque>
-#include <mutex>
-
-// Between the threads of the search and the window.
-class ResultsInbox final : public IFileSearchListener
-{
-public:
-    void OnFound(FoundFile&& file) override
-    {
-        const std::lock_guard lock(m_lock);
-        m_found.push_back(std::move(file));
-    }
-    void OnNote(FileNote note, const QString& path) override
-    {
-        const std::lock_guard lock(m_lock);
-        m_ranAway = m_ranAway || note == FileNote::RanAway;
-        if (note == FileNote::NoExpression)
-            m_fault = path;
-        else
-            m_notes += path + QStringLiteral(": ") + Reason(note);
-    }
-    void OnDone(const FileSearchTotals& /*totals*/) override
-    {
-        const std::lock_guard lock(m_lock);
-        m_isDone = true;
-    }
-
-    // At most so many.
-    QStringList TakeNotes(qsizetype most)
-    {
-        const std::lock_guard lock(m_lock);
-        const QStringList notes = m_notes.mid(0, most);
-        m_notes.remove(0, notes.size());
-        return notes;
-    }
-    QString Fault() const
-    {
-        const std::lock_guard lock(m_lock);
-        return m_fault;
-    }
-    bool Take(FoundFile& file)
-    {
-        const std::lock_guard lock(m_lock);
-        if (m_found.empty())
-            return false;
-        file = std::move(m_found.front());
-        m_found.pop_front();
-        return true;
-    }
-    bool IsDone() const
-    {
-        const std::lock_guard lock(m_lock);
-        return m_isDone && m_found.empty() && m_notes.isEmpty();
-    }
-    bool RanAway() const
-    {
-        const std::lock_guard lock(m_lock);
-        return m_ranAway;
-    }
-
-private:
-    mutable std::mutex m_lock;
-    static QString Reason(FileNote note)
-    {
-        switch (note) {
-        case FileNote::Binary:
-            return ResultsPane::tr("no text");
-        case FileNote::Unreadable:
-            return ResultsPane::tr("could not be read");
-        case FileNote::NotAFile:
-            return ResultsPane::tr("a device or a pipe");
-        case FileNote::Loop:
-            return ResultsPane::tr("a folder that has been searched already");
-        default:
-            return ResultsPane::tr("the expression went on for too long");
-        }
-    }
-
-    std::deque<FoundFile> m_found;
-    QStringList m_notes;
-    QString m_fault;
-    bool m_isDone = false;
-    bool m_ranAway = false;
-};
 
 namespace {
 
@@ -114,53 +31,14 @@ constexpr int kAir = 8;                  // pixels between the rim and what is w
 constexpr int kRest = 300;               // milliseconds without a change
 constexpr long kShortText = 1024 * 1024; // units that are searched in no time
 
-// Lights the match in its line, and what it would become.
-class MatchDelegate final : public QStyledItemDelegate
-{
-public:
-    using QStyledItemDelegate::QStyledItemDelegate;
-
-    void paint(QPainter* painter, const QStyleOptionViewItem& option,
-               const QModelIndex& index) const override
-    {
-        const int start = index.data(ResultsModel::MatchStart).toInt();
-        if (start >= 0 && !(option.state & QStyle::State_Selected)) {
-            const int length = index.data(ResultsModel::MatchLength).toInt();
-            const int replacement = index.data(ResultsModel::ReplacementLength).toInt();
-            const bool replaces = replacement >= 0;
-            Light(*painter, option, index, start, length,
-                  replaces ? QColor(220, 60, 60) : option.palette.color(QPalette::Link));
-            if (replaces)
-                Light(*painter, option, index, start + length, replacement, QColor(60, 180, 80));
-        }
-        QStyledItemDelegate::paint(painter, option, index);
-    }
-
-private:
-    void Light(QPainter& painter, const QStyleOptionViewItem& option, const QModelIndex& index,
-               int start, int length, QColor light) const
-    {
-        QStyleOptionViewItem item = option;
-        initStyleOption(&item, index);
-        const QWidget* widget = option.widget;
-        const QStyle* style = widget ? widget->style() : QApplication::style();
-        const int margin = style->pixelMetric(QStyle::PM_FocusFrameHMargin, nullptr, widget) + 1;
-        const QRect text = style->subElementRect(QStyle::SE_ItemViewItemText, &item, widget);
-        const int from = option.fontMetrics.horizontalAdvance(item.text.left(start));
-        const int width = option.fontMetrics.horizontalAdvance(item.text.mid(start, length));
-        light.setAlpha(90);
-        const QRect place(text.left() + margin + from, text.top(), width, text.height());
-        painter.fillRect(place.intersected(option.rect), light);
-    }
-};
-
 } // namespace
 
 ResultsPane::ResultsPane(const QString& title, IFoundTexts& texts, QWidget* parent)
-    : QDockWidget(title, parent), m_model(new ResultsModel(this)), m_tree(new QTreeView(this)),
-      m_state(new QLabel(this)), m_stop(new QPushButton(tr("St&op"), this)),
-      m_timer(new QTimer(this)), m_replaces(new QPushButton(tr("Re&place..."), this)),
-      m_texts(texts), m_rest(new QTimer(this))
+    : QDockWidget(title, parent),
+      m_model(new ResultsModel(this, [this](const QString& path) { return PlaceOf(path); })),
+      m_tree(new QTreeView(this)), m_state(new QLabel(this)),
+      m_stop(new QPushButton(tr("St&op"), this)), m_timer(new QTimer(this)),
+      m_replaces(new QPushButton(tr("Re&place..."), this)), m_texts(texts), m_rest(new QTimer(this))
 {
     auto* inside = new QWidget(this);
     auto* rows = new QVBoxLayout(inside);
@@ -175,6 +53,7 @@ ResultsPane::ResultsPane(const QString& title, IFoundTexts& texts, QWidget* pare
     rows->addWidget(BuildReplaceRow());
     rows->addWidget(m_tree);
     setWidget(inside);
+    setFocusProxy(m_tree);
     m_state->setTextFormat(Qt::PlainText);
     m_state->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Preferred);
     m_tree->setAccessibleName(title);
@@ -215,19 +94,47 @@ QWidget* ResultsPane::BuildReplaceRow()
     // By its letter at once: a button's own waits a tenth of a second, in which one types on.
     auto* letter = new QShortcut(m_replaces->shortcut(), m_replaces);
     m_replaces->setShortcut({});
-    connect(letter, &QShortcut::activated, m_replaces, &QPushButton::toggle);
+    // A click leaves the keyboard where it is, which tells what is meant.
+    m_replaces->setFocusPolicy(Qt::TabFocus);
+    connect(letter, &QShortcut::activated, m_replaces, &QPushButton::click);
     const auto show = [this] { Preview(m_replacement->text()); };
     connect(m_replacement, &QLineEdit::returnPressed, this, show);
     connect(preview, &QPushButton::clicked, this, show);
     connect(m_replacement, &QLineEdit::textEdited, m_replace,
             [this] { m_replace->setEnabled(false); });
     connect(m_replace, &QPushButton::clicked, this, &ResultsPane::ReplaceChosen);
-    connect(m_replaces, &QPushButton::toggled, this, [this](bool on) {
-        m_replaceRow->setVisible(on);
-        if (on)
-            m_replacement->setFocus();
-    });
+    connect(m_replaces, &QPushButton::clicked, this, &ResultsPane::ShowReplaceRow);
+    m_chain = {m_replaces, m_stop, m_replacement, preview, m_replace, m_tree};
     return m_replaceRow;
+}
+
+// Goes again once one is in it, as the find bar's does.
+void ResultsPane::ShowReplaceRow()
+{
+    const bool goes = m_replaceRow->isVisible() && window()->focusWidget() == m_replacement;
+    m_replaceRow->setVisible(!goes);
+    m_replaces->setChecked(!goes);
+    if (goes) {
+        m_tree->setFocus();
+    } else {
+        m_replacement->setFocus();
+        m_replacement->selectAll();
+    }
+}
+
+// Round within the pane: outside of it is the text, where a further Tab would be written.
+bool ResultsPane::focusNextPrevChild(bool next)
+{
+    const auto count = m_chain.size();
+    const auto from = std::max<qsizetype>(m_chain.indexOf(window()->focusWidget()), 0);
+    for (qsizetype step = 1; step <= count; ++step) {
+        QWidget* part = m_chain[(from + (next ? step : count - step)) % count];
+        if (!part->isVisible() || !part->isEnabled())
+            continue;
+        part->setFocus(next ? Qt::TabFocusReason : Qt::BacktabFocusReason);
+        break;
+    }
+    return true;
 }
 
 ResultsPane::~ResultsPane()
@@ -319,13 +226,14 @@ QString ResultsPane::StateOf(const FileSearchTotals& totals) const
 {
     if (const QString fault = m_inbox->Fault(); !fault.isEmpty())
         return tr("'%1': %2").arg(m_request.text, fault);
+    const QLocale locale;
     QString text =
-        tr("'%1': %n matches in %2 of %3 files", nullptr, totals.matches)
-            .arg(m_request.text, QString::number(totals.found), QString::number(totals.files));
+        tr("'%1': %Ln matches in %2 of %3 files", nullptr, totals.matches)
+            .arg(m_request.text, locale.toString(totals.found), locale.toString(totals.files));
     if (totals.failures > 0)
-        text += tr(", %1 not read").arg(totals.failures);
+        text += tr(", %1 not read").arg(locale.toString(totals.failures));
     if (totals.skipped > 0)
-        text += tr(", %1 skipped").arg(totals.skipped);
+        text += tr(", %1 skipped").arg(locale.toString(totals.skipped));
     if (m_inbox->RanAway())
         text += tr(". The expression went on for too long in some of them");
     if (totals.isStopped)
@@ -339,7 +247,7 @@ void ResultsPane::ReplaceChosen()
     if (m_search || m_replacer || !m_request.replaces)
         return;
     m_replacer = std::make_unique<FileReplacer>(m_request);
-    m_nextFile = m_filesReplaced = 0;
+    m_nextFile = m_filesSaved = m_scriptsChanged = 0;
     m_replaced = 0;
     m_notReplaced.clear();
     Disable(*m_replace);
@@ -372,13 +280,18 @@ void ResultsPane::ReplaceInNext()
             Refresh(file.path);
         const FileReplacer::Outcome outcome = m_replacer->Replace(file, left, editor);
         m_replaced += outcome.replaced;
-        m_filesReplaced += outcome.replaced > 0;
+        (editor ? m_scriptsChanged : m_filesSaved) += outcome.replaced > 0;
         if (!outcome.reason.isEmpty())
             m_notReplaced += tr("%1: %2").arg(file.path, outcome.reason);
         else
             m_model->SetMatches(row, outcome.matches);
+        if (outcome.replaced > 0)
+            m_model->SetReplaced(row,
+                                 editor ? ResultsModel::Place::Script : ResultsModel::Place::Disk);
     }
-    m_state->setText(tr("Replacing: %1 of %2 files").arg(m_nextFile).arg(m_model->FileCount()));
+    m_state->setText(
+        tr("Replacing: %1 of %2 files")
+            .arg(QLocale().toString(m_nextFile), QLocale().toString(m_model->FileCount())));
     QTimer::singleShot(0, this, &ResultsPane::ReplaceInNext);
 }
 
@@ -391,12 +304,51 @@ void ResultsPane::EndReplacing()
     m_model->EndPreview();
     Disable(*m_stop);
     m_model->AddNotes(m_notReplaced);
-    m_outcome = tr("%n matches replaced in %1 files", nullptr, m_replaced).arg(m_filesReplaced);
+    m_outcome = OutcomeOfReplacing();
     if (!m_notReplaced.isEmpty())
-        m_outcome += tr(". %n files were left as they are, see the end of the list", nullptr,
+        m_outcome += tr(". %Ln files were left as they are, see the end of the list", nullptr,
                         static_cast<int>(m_notReplaced.size()));
     m_state->setText(m_outcome);
     m_state->setToolTip(m_outcome);
+}
+
+// What stands on the disk by now is told from what can be undone.
+QString ResultsPane::OutcomeOfReplacing() const
+{
+    QStringList parts;
+    if (m_filesSaved > 0)
+        parts +=
+            m_filesSaved == 1 ? tr("1 file saved") : tr("%Ln files saved", nullptr, m_filesSaved);
+    if (m_scriptsChanged > 0)
+        parts += m_scriptsChanged == 1
+                     ? tr("1 open script changed, not saved")
+                     : tr("%Ln open scripts changed, not saved", nullptr, m_scriptsChanged);
+    const QString all =
+        m_replaced == 1 ? tr("1 match replaced") : tr("%Ln matches replaced", nullptr, m_replaced);
+    return parts.isEmpty() ? all : tr("%1: %2").arg(all, parts.join(QStringLiteral(", ")));
+}
+
+ResultsModel::Place ResultsPane::PlaceOf(const QString& path) const
+{
+    CZNCoreEditorControlEx* editor = m_texts.EditorOf(path);
+    if (!editor)
+        return ResultsModel::Place::Disk;
+    return editor->GetModify(1) ? ResultsModel::Place::UnsavedScript : ResultsModel::Place::Script;
+}
+
+void ResultsPane::OnScriptsChanged()
+{
+    m_tree->viewport()->update();
+}
+
+// Buttons beside an editor take no Enter by themselves.
+void ResultsPane::keyPressEvent(QKeyEvent* event)
+{
+    auto* button = qobject_cast<QAbstractButton*>(focusWidget());
+    if (button && (event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter))
+        button->click();
+    else
+        QDockWidget::keyPressEvent(event);
 }
 
 void ResultsPane::OnTextChanged(const QString& path)

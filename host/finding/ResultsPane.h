@@ -4,6 +4,7 @@
 // Matches can be replaced: each shows what it would become, and can be left out.
 #pragma once
 
+#include "host/finding/ResultsModel.h"
 #include "search/files/FileSearch.h"
 
 #include <QDockWidget>
@@ -20,7 +21,6 @@ class QPushButton;
 class QTimer;
 class QTreeView;
 class ResultsInbox;
-class ResultsModel;
 
 class ResultsPane final : public QDockWidget
 {
@@ -43,6 +43,8 @@ public:
     // The open text has changed: its matches are found again once it rests, or is jumped into.
     void OnTextChanged(const QString& path);
 
+    void OnScriptsChanged(); // one was opened, closed, changed or saved
+
     bool HasResults() const;
     void GoOn(bool forward); // to the next match, or to the first or last one
 
@@ -52,8 +54,15 @@ Q_SIGNALS:
     // In the text that has been opened; the line and the column from 0, the length in UTF-16 units.
     void Chosen(long line, long column, long length);
 
+protected:
+    void keyPressEvent(QKeyEvent* event) override;
+    bool focusNextPrevChild(bool next) override;
+
 private:
     QWidget* BuildReplaceRow();
+    void ShowReplaceRow();
+    ResultsModel::Place PlaceOf(const QString& path) const;
+    QString OutcomeOfReplacing() const;
     void TakePortion();
     void TakeFound();
     void ReplaceInNext();
@@ -75,6 +84,7 @@ private:
     QWidget* m_replaceRow = nullptr;
     QLineEdit* m_replacement = nullptr;
     QPushButton* m_replace = nullptr;
+    QWidgetList m_chain; // what Tab walks through
     IFoundTexts& m_texts;
     FileSearchRequest m_request;
     QSet<QString> m_changed; // texts whose matches may be elsewhere by now
@@ -83,7 +93,8 @@ private:
     long m_unasked = 0;      // matches that have come, of which the first are shown
     long m_replaced = 0;
     int m_nextFile = 0; // to be replaced in
-    int m_filesReplaced = 0;
+    int m_filesSaved = 0;
+    int m_scriptsChanged = 0;
     QStringList m_notReplaced;
     std::unique_ptr<FileReplacer> m_replacer;
     std::unique_ptr<ResultsInbox> m_inbox;

@@ -198,6 +198,15 @@ void FolderPane::OpenFirst()
     Open(index, false);
 }
 
+// With a row that the next key can begin from, unless one is there still.
+void FolderPane::EnterList()
+{
+    const QModelIndex current = m_list->currentIndex();
+    if (m_model && (!current.isValid() || !m_list->visualRect(current).isValid()))
+        m_list->setCurrentIndex(m_model->index(0, 0, m_list->rootIndex()));
+    m_list->setFocus();
+}
+
 QString FolderPane::FolderOf(const QModelIndex& index) const
 {
     if (!index.isValid())
@@ -238,7 +247,7 @@ bool FolderPane::OnKey(const QKeyEvent& key, const QObject* watched)
 {
     const bool isEnter = key.key() == Qt::Key_Return || key.key() == Qt::Key_Enter;
     if (watched == m_words && (key.key() == Qt::Key_Down || key.key() == Qt::Key_Up)) {
-        m_list->setFocus();
+        EnterList();
         return true;
     }
     if (watched == m_list && isEnter && key.modifiers() == Qt::ControlModifier) {

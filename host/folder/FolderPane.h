@@ -50,6 +50,7 @@ private:
     void Reach(const QString& path);
     void Open(const QModelIndex& index, bool behind);
     void OpenFirst();
+    void EnterList();
     bool OnKey(const QKeyEvent& key, const QObject* watched);
     QString FolderOf(const QModelIndex& index) const;
 

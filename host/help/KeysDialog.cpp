@@ -4,6 +4,7 @@
 #include "common/Translations.h"
 #include "host/commands/CommandKeys.h"
 #include "host/files/Prompts.h"
+#include "host/help/TextKeys.h"
 
 #include <QAbstractButton>
 #include <QAction>
@@ -334,9 +335,11 @@ void KeysDialog::ClearKey()
 
 void KeysDialog::EndField()
 {
+    const bool hadKeys = m_field->isAncestorOf(focusWidget());
     m_told->hide();
     m_field->hide();
-    m_list->setFocus();
+    if (hadKeys)
+        m_list->setFocus();
 }
 
 void KeysDialog::TakePressed()
@@ -378,20 +381,22 @@ QString KeysDialog::WhyNot(const QKeySequence& key) const
     return {};
 }
 
-// A key of another command is asked about, with the name of that command.
+// A key of another command, or of the text, is asked about with what it does there.
 bool KeysDialog::MayMove(const QList<QKeySequence>& keys, const QAction& to)
 {
-    for (const QKeySequence& key : keys) {
+    return std::ranges::all_of(keys, [&](const QKeySequence& key) {
         const QAction* owner = m_keys.OwnerOf(key);
-        if (owner && owner != &to &&
-            !GetPrompts().Confirm(
-                this,
-                tr("%1 is the key of “%2”. Do you want to move it to “%3”?")
-                    .arg(key.toString(QKeySequence::NativeText), NameOf(*owner), NameOf(to)),
-                tr("&Move")))
-            return false;
-    }
-    return true;
+        const QString use = owner ? QString() : UseInText(key);
+        if (owner == &to || (!owner && use.isEmpty()))
+            return true;
+        const QString text = owner ? tr("%1 is the key of “%2”. Do you want to move it to “%3”?")
+                                   : tr("%1 is a key of the text, for “%2”. Do you want to move it "
+                                        "to “%3”?");
+        return GetPrompts().Confirm(this,
+                                    text.arg(key.toString(QKeySequence::NativeText),
+                                             owner ? NameOf(*owner) : use, NameOf(to)),
+                                    tr("&Move"));
+    });
 }
 
 void KeysDialog::Remove()

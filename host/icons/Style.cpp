@@ -152,8 +152,8 @@ void DrawTabClose(const QStyleOption& option, QPainter& painter)
         painter.setBrush(ground);
         painter.drawRoundedRect(option.rect, kCorner, kCorner);
     }
-    constexpr double kSize = 0.26; // of the place, from its middle
-    constexpr double kWidth = 1.4;
+    constexpr double kSize = 0.2; // of the place, from its middle
+    constexpr double kWidth = 1.3;
     const QPointF middle = QRectF(option.rect).center();
     const double arm = option.rect.width() * kSize;
     const bool isStrong = isHot || option.state & QStyle::State_Selected;
@@ -298,7 +298,13 @@ int Style::pixelMetric(PixelMetric metric, const QStyleOption* option, const QWi
 int Style::styleHint(StyleHint hint, const QStyleOption* option, const QWidget* widget,
                      QStyleHintReturn* more) const
 {
-    return hint == SH_Menu_AllowActiveAndDisabled
-               ? 1
-               : QProxyStyle::styleHint(hint, option, widget, more);
+    switch (hint) {
+    case SH_Menu_AllowActiveAndDisabled:
+    case SH_Menu_Scrollable: // rather than columns that cover the window
+        return 1;
+    case SH_EtchDisabledText: // twice, one pixel aside
+        return 0;
+    default:
+        return QProxyStyle::styleHint(hint, option, widget, more);
+    }
 }

@@ -13,6 +13,7 @@
 #include <QLocalSocket>
 #include <QLockFile>
 #include <QStandardPaths>
+#include <QThread>
 
 #include <utility>
 
@@ -90,7 +91,8 @@ RunningInstance::RunningInstance(const QString& address, QObject* parent)
 
 RunningInstance::~RunningInstance() = default;
 
-// Two that start at once come one after the other; one that was killed leaves its socket behind.
+// Two that start at once come one after the other; one that was killed leaves its socket behind,
+// and one may end while it is asked: its place is free then, or there is a third one.
 RunningInstance::Role RunningInstance::Meet(const Request& request, Milliseconds patience)
 {
     if (m_address.isEmpty())
@@ -98,12 +100,22 @@ RunningInstance::Role RunningInstance::Meet(const Request& request, Milliseconds
     QLockFile lock(m_address + QLatin1String(".lock"));
     if (!lock.tryLock(Count(patience)))
         return Role::Alone;
-    QLocalSocket socket;
-    socket.connectToServer(m_address);
-    if (socket.waitForConnected(Count(patience)))
-        return HandOver(socket, request.ToBytes(), patience) ? Role::Later : Role::Unheard;
-    QLocalServer::removeServer(m_address);
-    return m_server->listen(m_address) ? Role::First : Role::Alone;
+    constexpr int kTries = 20;           // an end has its stages
+    constexpr unsigned long kPause = 10; // milliseconds
+    for (int tries = 0; tries < kTries; ++tries) {
+        QLocalSocket socket;
+        socket.connectToServer(m_address);
+        if (!socket.waitForConnected(Count(patience))) {
+            QLocalServer::removeServer(m_address);
+            return m_server->listen(m_address) ? Role::First : Role::Alone;
+        }
+        if (HandOver(socket, request.ToBytes(), patience))
+            return Role::Later;
+        if (socket.state() == QLocalSocket::ConnectedState)
+            break;
+        QThread::msleep(kPause);
+    }
+    return Role::Unheard;
 }
 
 void RunningInstance::Read(QLocalSocket& socket)

@@ -52,6 +52,9 @@ public:
 
     // From here on, and what has come before: Requested is emitted.
     void Serve();
+    // What comes waits until the next call of Serve.
+    void Pause() { m_isServing = false; }
+    bool HasWaiting() const { return !m_waiting.isEmpty(); }
 
     // Empty if there is no such folder.
     static QString DefaultAddress();

@@ -17,3 +17,14 @@ void FrameList(QWidget& popup, QLineEdit& line, QListWidget& list)
     layout->addWidget(&line);
     layout->addWidget(&list);
 }
+
+void EndList(QListWidget& list, const QString& none)
+{
+    if (list.count() > 0) {
+        list.setCurrentRow(0);
+        return;
+    }
+    auto* row = new QListWidgetItem(none, &list);
+    row->setFlags(Qt::NoItemFlags);
+    row->setForeground(list.palette().text()); // it is to be read
+}

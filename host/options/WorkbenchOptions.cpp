@@ -1,13 +1,16 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "host/options/WorkbenchOptions.h"
 
+#include "host/printing/HeadAndFoot.h"
+
 #include <algorithm>
 #include <array>
 
 namespace {
 
 // Off in the library, where no host has asked for them.
-constexpr std::array<int, 2> kOn = {option::SurroundSelection, option::ClosePairs};
+constexpr std::array<int, 3> kOn = {option::SurroundSelection, option::ClosePairs,
+                                    headandfoot::kOption};
 
 } // namespace
 

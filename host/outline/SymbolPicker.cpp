@@ -40,13 +40,14 @@ void SymbolPicker::Filter(const QString& words)
             new QListWidgetItem(symbol.name + QStringLiteral("    ") + KindText(symbol), m_list);
         item->setData(Qt::UserRole, static_cast<int>(i));
     }
-    m_list->setCurrentRow(0);
+    EndList(*m_list, m_symbols.empty() ? tr("The script creates nothing that could be listed")
+                                       : tr("Nothing that the script creates has this name"));
 }
 
 void SymbolPicker::Choose()
 {
     const QListWidgetItem* item = m_list->currentItem();
-    if (!item)
+    if (!item || !item->data(Qt::UserRole).isValid())
         return;
     const Symbol symbol = m_symbols[static_cast<std::size_t>(item->data(Qt::UserRole).toInt())];
     hide();

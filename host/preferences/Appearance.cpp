@@ -2,10 +2,10 @@
 #include "host/preferences/Appearance.h"
 
 #include "looks/Schemes.h"
+#include "platform/base/Colours.h"
 #include "platform/system/SettingsFile.h"
 
 #include <QApplication>
-#include <QColor>
 
 #include <optional>
 
@@ -13,12 +13,6 @@ namespace appearance {
 namespace {
 
 const QString kKey = QStringLiteral("scheme");
-
-QColor ColorOf(COLORREF color)
-{
-    return QColor(static_cast<int>(color & 0xFF), static_cast<int>(color >> 8 & 0xFF),
-                  static_cast<int>(color >> 16 & 0xFF));
-}
 
 QColor Between(const QColor& one, const QColor& other, double share)
 {
@@ -34,12 +28,12 @@ QPalette PaletteOf(const ColourScheme& scheme)
     constexpr double kButton = 0.12;
     constexpr double kFaint = 0.45;
     const auto text = scheme.OfRole(QStringLiteral("text")).value_or(ColourScheme::Pair{});
-    const QColor ground = ColorOf(scheme.Of(Drawn::Ground));
-    const QColor ink = ColorOf(text.fore);
+    const QColor ground = ToQColor(scheme.Of(Drawn::Ground));
+    const QColor ink = ToQColor(text.fore);
     const QColor faint = Between(ink, ground, kFaint);
     QPalette palette(Between(ground, ink, kButton), Between(ground, ink, kWindow));
     palette.setColor(QPalette::Base, ground);
-    palette.setColor(QPalette::AlternateBase, ColorOf(scheme.Of(Drawn::CurrentLine)));
+    palette.setColor(QPalette::AlternateBase, ToQColor(scheme.Of(Drawn::CurrentLine)));
     for (const auto role : {QPalette::Text, QPalette::WindowText, QPalette::ButtonText,
                             QPalette::ToolTipText, QPalette::HighlightedText}) {
         palette.setColor(role, ink);
@@ -47,8 +41,8 @@ QPalette PaletteOf(const ColourScheme& scheme)
     }
     palette.setColor(QPalette::ToolTipBase, Between(ground, ink, kButton));
     palette.setColor(QPalette::PlaceholderText, faint);
-    palette.setColor(QPalette::Highlight, ColorOf(scheme.Of(Drawn::Selection)));
-    palette.setColor(QPalette::Link, ColorOf(scheme.Of(Drawn::FoldHot)));
+    palette.setColor(QPalette::Highlight, ToQColor(scheme.Of(Drawn::Selection)));
+    palette.setColor(QPalette::Link, ToQColor(scheme.Of(Drawn::FoldHot)));
     return palette;
 }
 

@@ -39,23 +39,24 @@ WorkbenchPrinter::~WorkbenchPrinter()
     delete m_progress;
 }
 
-void WorkbenchPrinter::SavePdf(CView& view, const QString& path)
+UINT WorkbenchPrinter::SavePdf(CView& view, const QString& path)
 {
     if (!current)
-        return;
+        return 0;
     current->m_pdf = path;
+    current->m_pages = 0;
     view.OnFilePrint();
-    if (current)
-        current->m_pdf.clear();
+    if (!current)
+        return 0;
+    current->m_pdf.clear();
+    return current->m_pages;
 }
 
-// Into a PDF goes the whole text: nobody has been asked whether the selection alone is meant.
 std::unique_ptr<QPrinter> WorkbenchPrinter::ChoosePrinter(HWND owner, PRINTDLG& record)
 {
     m_begun.invalidate();
     if (m_pdf.isEmpty())
         return IPrintService::ChoosePrinter(owner, record);
-    record.Flags &= ~PD_SELECTION;
     auto printer = std::make_unique<QPrinter>(QPrinter::HighResolution);
     printer->setOutputFormat(QPrinter::PdfFormat);
     printer->setOutputFileName(m_pdf);
@@ -118,6 +119,7 @@ void WorkbenchPrinter::EndSteps()
 
 bool WorkbenchPrinter::OnPage(HWND owner, UINT page, UINT lastPage)
 {
+    m_pages = page;
     return Step(owner, Texts::tr("Page %1 of %2").arg(page).arg(lastPage),
                 static_cast<int>(page) - 1, static_cast<int>(lastPage));
 }
@@ -126,6 +128,8 @@ bool WorkbenchPrinter::OnPage(HWND owner, UINT page, UINT lastPage)
 void WorkbenchPrinter::OnDone(HWND owner, bool succeeded, const QString& file)
 {
     EndSteps();
+    if (!succeeded || m_isStopped)
+        m_pages = 0;
     if (!m_isStopped)
         IPrintService::OnDone(owner, succeeded, file);
     m_isStopped = false;

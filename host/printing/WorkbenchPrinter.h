@@ -18,8 +18,9 @@ public:
     WorkbenchPrinter(); // takes effect
     ~WorkbenchPrinter() override;
 
-    // Prints all of the view's text into a PDF. The file is there once it is whole.
-    static void SavePdf(CView& view, const QString& path);
+    // Prints all of the view's text into a PDF. The file is there once it is whole. Gives the
+    // number of its pages, 0 if it was not written, of which the person knows.
+    static UINT SavePdf(CView& view, const QString& path);
 
     // Whether the job goes on after a step of it, the box brought up to date where it is shown.
     static bool GoesOn(QWidget* owner, const QString& step, int done, int all);
@@ -34,7 +35,8 @@ private:
     bool Step(QWidget* owner, const QString& step, int done, int all);
     void EndSteps();
 
-    QString m_pdf; // where the job goes that is under way
+    QString m_pdf;    // where the job goes that is under way
+    UINT m_pages = 0; // of that job, once it is done
     QElapsedTimer m_begun;
     QElapsedTimer m_shown;
     QPointer<QProgressDialog> m_progress;

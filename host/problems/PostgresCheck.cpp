@@ -2,9 +2,12 @@
 #include "host/problems/PostgresCheck.h"
 
 #include "host/files/Utf8Place.h"
+#include "host/problems/StatementPieces.h"
 
 #include <pg_query.h>
 
+#include <algorithm>
+#include <iterator>
 #include <memory>
 #include <optional>
 
@@ -57,10 +60,8 @@ std::vector<ScriptProblem> PostgresCheck::Check(const std::vector<ScriptStatemen
 {
     std::vector<ScriptProblem> problems;
     for (const ScriptStatement& statement : statements) {
-        if (statement.text.isEmpty())
-            continue;
-        if (std::optional<ScriptProblem> problem = ProblemOf(statement))
-            problems.push_back(*std::move(problem));
+        if (!statement.text.isEmpty())
+            std::ranges::move(ProblemsOfPieces(statement, ProblemOf), std::back_inserter(problems));
     }
     return problems;
 }

@@ -2,9 +2,12 @@
 #include "host/problems/SqliteCheck.h"
 
 #include "host/files/Utf8Place.h"
+#include "host/problems/StatementPieces.h"
 
 #include <sqlite3.h>
 
+#include <algorithm>
+#include <iterator>
 #include <memory>
 #include <optional>
 
@@ -110,11 +113,13 @@ std::vector<ScriptProblem> SqliteCheck::Check(const std::vector<ScriptStatement>
     const Database database = OpenInMemory();
     if (!database)
         return problems;
+    const auto check = [&](const ScriptStatement& statement) {
+        return ProblemOf(statement, database.get());
+    };
     for (const ScriptStatement& statement : statements) {
         if (statement.text.isEmpty() || IsForTheClient(statement.text))
             continue;
-        if (std::optional<ScriptProblem> problem = ProblemOf(statement, database.get()))
-            problems.push_back(*std::move(problem));
+        std::ranges::move(ProblemsOfPieces(statement, check), std::back_inserter(problems));
     }
     return problems;
 }

@@ -29,7 +29,8 @@ class SyntaxCheck
 public:
     virtual ~SyntaxCheck() = default;
 
-    // At most one problem for each statement, in their order. Nothing of the script is run against
+    // In their order, at most one for each statement, and for each that stands behind a parenthesis
+    // of it that is not closed. Nothing of the script is run against
     // a database that exists.
     virtual std::vector<ScriptProblem> Check(const std::vector<ScriptStatement>& statements) = 0;
 };

@@ -18,6 +18,24 @@ qsizetype BehindLine(QStringView text, qsizetype at)
     return std::min(at + 1, text.size());
 }
 
+qsizetype EndLength(QStringView text)
+{
+    if (text.endsWith(u"\r\n"))
+        return 2;
+    return text.endsWith(u'\n') || text.endsWith(u'\r') ? 1 : 0;
+}
+
+// An end that both have stays: the line behind it is not touched then.
+void LeaveLastEnd(QStringView from, LineEdit& edit)
+{
+    const QStringView gone = from.sliced(edit.start, edit.length);
+    const qsizetype end = EndLength(gone);
+    if (end == 0 || gone.last(end) != QStringView(edit.text).last(EndLength(edit.text)))
+        return;
+    edit.length -= static_cast<long>(end);
+    edit.text.chop(end);
+}
+
 } // namespace
 
 std::vector<LineEdit> LineEdits(QStringView from, QStringView to)
@@ -47,6 +65,8 @@ std::vector<LineEdit> LineEdits(QStringView from, QStringView to)
             target = next;
         }
     }
+    for (LineEdit& edit : edits)
+        LeaveLastEnd(from, edit);
     std::ranges::reverse(edits);
     return edits;
 }

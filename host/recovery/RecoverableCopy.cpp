@@ -17,13 +17,14 @@ using State = RecoverableCopy::State;
 
 constexpr QChar kSeparator = u'\t';
 
-State StateOf(const QFileInfo& file, const QDateTime& copyTime)
+State StateOf(const QFileInfo& file, const LeftCopies::Copy& copy, const QDateTime& copyTime)
 {
     if (!file.exists() && !file.isSymLink())
         return State::Deleted;
     if (!file.isFile() || !file.isReadable())
         return State::Unreadable;
-    return file.lastModified() > copyTime ? State::Changed : State::Unchanged;
+    const bool isSame = copy.isOfThisFile.value_or(file.lastModified() <= copyTime);
+    return isSame ? State::Unchanged : State::Changed;
 }
 
 template <class Several>
@@ -38,6 +39,7 @@ RecoverableCopy Describe(const LeftCopies::Copy& copy)
 {
     RecoverableCopy described;
     described.path = copy.path;
+    described.codePage = copy.codePage;
     described.copyTime = QFileInfo(copy.path).lastModified();
     if (!QDir::isAbsolutePath(copy.document)) {
         described.name = copy.document.section(kSeparator, 0, 0);
@@ -50,7 +52,7 @@ RecoverableCopy Describe(const LeftCopies::Copy& copy)
     described.name = file.fileName();
     if (file.exists())
         described.fileTime = file.lastModified();
-    described.state = StateOf(file, described.copyTime);
+    described.state = StateOf(file, copy, described.copyTime);
     return described;
 }
 

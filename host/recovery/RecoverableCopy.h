@@ -18,8 +18,8 @@ struct RecoverableCopy
 {
     enum class State
     {
-        Unchanged,  // the file is older than the copy
-        Changed,    // the file is newer
+        Unchanged,  // the file is the one that the text was read from
+        Changed,    // others have written to it since
         Deleted,    // there is no file any more
         Unreadable, // there is something that cannot be read
         NeverNamed, // there never was a file
@@ -32,6 +32,7 @@ struct RecoverableCopy
     QDateTime copyTime;
     QDateTime fileTime; // of the last change; invalid if there is no file
     State state = State::Unchanged;
+    int codePage = 0; // of copy and file, if they are no Unicode; 0: the system's
 };
 
 RecoverableCopy Describe(const LeftCopies::Copy& copy);

@@ -1,10 +1,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "host/recovery/RecoveryDialog.h"
 
-#include "editing/ZNCoreEditorControlEx.h"
-#include "editing/ZNCoreEditorWidget.h"
-#include "host/recovery/LineDiff.h"
-#include "looks/Schemes.h"
+#include "host/icons/FitScreen.h"
+#include "host/recovery/ComparisonView.h"
 #include "search/files/ReadFileText.h"
 
 #include <QComboBox>
@@ -37,11 +35,6 @@ enum Column
     Columns,
 };
 
-constexpr int kAddedMarker = 15; // nobody else's
-constexpr int kRemovedMarker = 16;
-constexpr int kBackground = 22; // a marker that is the line's background
-constexpr qint64 kMostBytes = 8 * 1024 * 1024;
-
 struct ChoiceText
 {
     RecoveryChoice choice;
@@ -58,16 +51,11 @@ constexpr ChoiceText kChoices[] = {
      QT_TRANSLATE_NOOP("RecoveryDialog", "Decide &Later")},
 };
 
-QChar SignOf(DiffLine::Kind kind)
-{
-    return kind == DiffLine::Kind::Added ? u'+' : kind == DiffLine::Kind::Removed ? u'-' : u' ';
-}
-
 } // namespace
 
 RecoveryDialog::RecoveryDialog(QWidget* parent, const QList<RecoverableCopy>& copies)
-    : QDialog(parent), m_copies(copies), m_list(new QTreeWidget(this)), m_heading(new QLabel(this)),
-      m_comparison(new ZNCoreEditorWidget(this))
+    : QDialog(parent), m_copies(copies), m_list(new QTreeWidget(this)),
+      m_comparison(new ComparisonView(this))
 {
     setWindowTitle(tr("Recover Scripts"));
     auto* told = new QLabel(tr("The workbench ended unexpectedly. These scripts had "
@@ -87,21 +75,9 @@ RecoveryDialog::RecoveryDialog(QWidget* parent, const QList<RecoverableCopy>& co
     m_list->header()->setSectionResizeMode(QHeaderView::ResizeToContents);
     m_list->header()->setSectionResizeMode(Folder, QHeaderView::Stretch);
 
-    m_comparison->setObjectName(QStringLiteral("comparison"));
-    m_comparison->setAccessibleName(tr("Comparison of copy and file"));
-    CZNCoreEditorControlEx& editor = m_comparison->control();
-    const bool isDark = zncoreeditor::IsDesktopDark();
-    editor.DefineMarker(kAddedMarker, kBackground, 0, isDark ? 0x2A4A1E : 0xD6F5D6);
-    editor.DefineMarker(kRemovedMarker, kBackground, 0, isDark ? 0x2B2B5A : 0xDADAFB);
-
-    auto* lower = new QWidget(this);
-    auto* lowerLayout = new QVBoxLayout(lower);
-    lowerLayout->setContentsMargins(0, 0, 0, 0);
-    lowerLayout->addWidget(m_heading);
-    lowerLayout->addWidget(m_comparison, 1);
     auto* splitter = new QSplitter(Qt::Vertical, this);
     splitter->addWidget(m_list);
-    splitter->addWidget(lower);
+    splitter->addWidget(m_comparison);
     splitter->setStretchFactor(1, 1);
     splitter->setChildrenCollapsible(false);
 
@@ -125,7 +101,7 @@ RecoveryDialog::RecoveryDialog(QWidget* parent, const QList<RecoverableCopy>& co
     layout->addWidget(told);
     layout->addWidget(splitter, 1);
     layout->addLayout(all);
-    resize(860, 520);
+    resize(FittingScreen(*this, {860, 520}));
     // A window that is about to be shown is not where the window manager is going to put it.
     const QWindow* window = parent ? parent->window()->windowHandle() : nullptr;
     if (!window || !window->isExposed())
@@ -214,60 +190,30 @@ void RecoveryDialog::ChooseForAll(RecoveryChoice choice)
     }
 }
 
+// A script without a file is shown as it is; there is nothing to compare it with.
 void RecoveryDialog::Compare(int row)
 {
     if (row < 0)
         return;
-    CZNCoreEditorControlEx& editor = m_comparison->control();
-    editor.SetReadOnly(0, 1);
-    CompareTexts(m_copies[row]);
-    editor.EmptyUndoBuffer(1);
-    editor.SetReadOnly(1, 1);
-    editor.GotoPos(0, 1);
-    editor.SetScrollWidth(1, 1);
-    constexpr int kMargins = 5; // of a script: they would number the lines of the comparison
-    for (int margin = 0; margin < kMargins; ++margin)
-        editor.SetMarginWidthN(margin, 0, 1);
-}
-
-// A script without a file is shown as it is; there is nothing to compare it with.
-void RecoveryDialog::CompareTexts(const RecoverableCopy& copy)
-{
-    constexpr int kAround = 3; // lines
+    const RecoverableCopy& copy = m_copies[row];
     const bool hasFile = copy.state == RecoverableCopy::State::Unchanged ||
                          copy.state == RecoverableCopy::State::Changed;
-    m_comparison->control().MarkerDeleteAll(-1, 1);
-    m_comparison->setText(QString());
-    const std::optional<QString> copied = ReadFileText(copy.path, kMostBytes);
-    const std::optional<QString> filed =
-        hasFile ? ReadFileText(copy.document, kMostBytes) : QString();
-    if (!copied || !filed) {
-        m_heading->setText(tr("%1 and its copy are not compared: what is no text, "
-                              "longer than 8 MB or cannot be read is not shown.")
-                               .arg(copy.name));
-        return;
-    }
-    if (!hasFile) {
-        m_heading->setText(tr("The copy of %1:").arg(copy.name));
-        m_comparison->setText(*copied);
-        return;
-    }
-    m_heading->setText(tr("%1: lines with - are in the file alone, those with + in the copy alone.")
-                           .arg(copy.name));
-    const std::vector<DiffLine> lines = UnifiedDiff(*filed, *copied, kAround);
-    if (lines.empty())
-        m_heading->setText(tr("%1 and its copy differ in their encoding alone.").arg(copy.name));
-    QString text;
-    for (const DiffLine& line : lines) {
-        const bool isGap = line.kind == DiffLine::Kind::Gap;
-        text += isGap ? QStringLiteral("...") : SignOf(line.kind) + u' ' + line.text;
-        text += u'\n';
-    }
-    m_comparison->setText(text.chopped(text.isEmpty() ? 0 : 1));
-    for (std::size_t i = 0; i < lines.size(); ++i) {
-        if (lines[i].kind == DiffLine::Kind::Added)
-            m_comparison->control().MarkerAdd(static_cast<long>(i), kAddedMarker, 1);
-        else if (lines[i].kind == DiffLine::Kind::Removed)
-            m_comparison->control().MarkerAdd(static_cast<long>(i), kRemovedMarker, 1);
-    }
+    const auto read = [&](const QString& path) {
+        return ReadFileText(path, ComparisonView::kMostBytes, copy.codePage);
+    };
+    const std::optional<QString> copied = read(copy.path);
+    const std::optional<QString> filed = hasFile ? read(copy.document) : QString();
+    if (!copied || !filed)
+        m_comparison->ShowText(tr("%1 and its copy are not compared: what is no text, "
+                                  "longer than 8 MB or cannot be read is not shown.")
+                                   .arg(copy.name),
+                               QString());
+    else if (!hasFile)
+        m_comparison->ShowText(tr("The copy of %1:").arg(copy.name), *copied);
+    else if (!m_comparison->ShowDifferences(
+                 tr("%1: lines with - are in the file alone, those with + in the copy alone.")
+                     .arg(copy.name),
+                 *filed, *copied))
+        m_comparison->SetHeading(
+            tr("%1 and its copy differ in their encoding alone.").arg(copy.name));
 }

@@ -10,10 +10,9 @@
 
 #include <vector>
 
+class ComparisonView;
 class QComboBox;
-class QLabel;
 class QTreeWidget;
-class ZNCoreEditorWidget;
 
 class RecoveryDialog final : public QDialog
 {
@@ -32,11 +31,9 @@ private:
     void AddCopy(const RecoverableCopy& copy);
     void ChooseForAll(RecoveryChoice choice);
     void Compare(int row);
-    void CompareTexts(const RecoverableCopy& copy);
 
     QList<RecoverableCopy> m_copies;
     QTreeWidget* m_list;
     std::vector<QComboBox*> m_choices;
-    QLabel* m_heading; // of the comparison
-    ZNCoreEditorWidget* m_comparison;
+    ComparisonView* m_comparison;
 };

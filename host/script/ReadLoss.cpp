@@ -56,8 +56,8 @@ ReadLoss LookForLoss(CZNCoreEditorControlEx& editor, const QString& path)
 {
     const int encoding = editor.GetEncoding();
     ReadLoss loss;
-    loss.encoding = EncodingName(encoding, false);
-    loss.unread = FindUnreadBytes(path, encoding).count;
+    loss.encoding = EncodingName(EncodingOf(editor), false);
+    loss.unread = FindUnreadBytes(path, encoding, editor.GetFileCodePage()).count;
     if (loss.unread > 0)
         loss.line = LineOfFirstReplacement(editor);
     loss.isCutShort = editor.WasCutShort();

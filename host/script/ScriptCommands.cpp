@@ -8,6 +8,7 @@
 #include "host/export/RichCopy.h"
 #include "host/files/FilePlace.h"
 #include "host/files/Prompts.h"
+#include "host/icons/FitScreen.h"
 #include "host/printing/WorkbenchPrinter.h"
 #include "host/script/MenuKey.h"
 #include "host/script/NameAtCaret.h"
@@ -54,12 +55,19 @@ QString AskPath(QWidget* window, const ScriptDoc& script, const QString& ending,
 
 void ScriptView::SaveAsPdf()
 {
-    const ScriptDoc* script = Script();
-    const QString path = script ? AskPath(GetSafeHwnd(), *script, QStringLiteral(".pdf"),
-                                          QStringLiteral("PDF (*.pdf)"))
-                                : QString();
-    if (!path.isEmpty() && GetSafeHwnd())
-        WorkbenchPrinter::SavePdf(*this, path);
+    const ScriptDoc* asked = Script();
+    const QString path = asked ? AskPath(GetSafeHwnd(), *asked, QStringLiteral(".pdf"),
+                                         QStringLiteral("PDF (*.pdf)"))
+                               : QString();
+    const UINT pages =
+        path.isEmpty() || !GetSafeHwnd() ? 0 : WorkbenchPrinter::SavePdf(*this, path);
+    // The script may have gone while the pages were printed.
+    ScriptDoc* script = GetSafeHwnd() && pages > 0 ? Script() : nullptr;
+    if (!script)
+        return;
+    const QString file = QDir::toNativeSeparators(path);
+    Q_EMIT script->Told(pages == 1 ? Texts::tr("“%1” was written: 1 page").arg(file)
+                                   : Texts::tr("“%1” was written: %L2 pages").arg(file).arg(pages));
 }
 
 void ScriptView::SaveAsHtml()
@@ -69,9 +77,10 @@ void ScriptView::SaveAsHtml()
                                          QStringLiteral("HTML (*.html *.htm)"))
                                : QString();
     // The script may have gone while the dialog was open.
-    const ScriptDoc* script = Script();
-    if (script && !path.isEmpty())
-        ::SaveAsHtml(m_coreEditor, script->Name(), path, GetSafeHwnd());
+    ScriptDoc* script = Script();
+    if (script && !path.isEmpty() &&
+        ::SaveAsHtml(m_coreEditor, script->Name(), path, GetSafeHwnd()))
+        Q_EMIT script->Told(Texts::tr("“%1” was written").arg(QDir::toNativeSeparators(path)));
 }
 
 void ScriptView::CopyWithColours()
@@ -100,6 +109,7 @@ void ScriptView::ChooseTemplate()
                      });
     const QPoint top = window->mapToGlobal(QPoint((window->width() - list->width()) / 2, 0));
     list->move(top);
+    FitWindow(*list, *window->window());
     list->show();
 }
 

@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-// ScriptDoc: open, language, views. Saving stands in ScriptSaving.
+// ScriptDoc: open, language, views, what others do to the file. Saving stands in ScriptSaving,
+// copies in ScriptRecovery.
 #include "host/script/ScriptDoc.h"
 #include "host/files/Prompts.h"
 
@@ -7,10 +8,10 @@
 #include "editing/language/FileTypeManager.h"
 #include "editing/language/Library.h"
 #include "host/TextLanguage.h"
+#include "host/files/Encodings.h"
 #include "host/files/LanguageMemory.h"
 #include "host/files/LineEnds.h"
 #include "host/problems/ScriptChecker.h"
-#include "host/recovery/LineEdits.h"
 #include "host/script/ScriptView.h"
 #include "host/session/AutosaveSettings.h"
 #include "platform/docview/CommandIds.h"
@@ -18,7 +19,6 @@
 #include "platform/services/OptionsServer.h"
 #include "platform/system/File.h"
 #include "platform/windows/Questions.h"
-#include "platform/windows/Timer.h"
 
 #include <QDir>
 #include <QFileInfo>
@@ -31,6 +31,7 @@
 namespace {
 
 constexpr std::chrono::seconds kCopyPause(4);
+constexpr std::int64_t kGone = -1; // the write time of a file that there is none of
 
 int encodingToOpenAs = -1;
 
@@ -92,77 +93,6 @@ QString WhyNotWritten(const QString& path)
         .arg(QDir::toNativeSeparators(path), reason);
 }
 
-QString WhyNotRecovered(const RecoverableCopy& copy)
-{
-    return ScriptDoc::tr("The copy of “%1” cannot be read, or another window of the workbench has "
-                         "it by now. It is still there: “%2”.")
-        .arg(copy.name, QDir::toNativeSeparators(copy.path));
-}
-
-// The document's own, or counted on: a recovered script has brought its number along.
-QString FreeTitle(const ScriptDoc& script)
-{
-    const QString own = script.Name();
-    const CDocTemplate* scripts = script.GetDocTemplate();
-    QStringList taken;
-    if (scripts) {
-        for (const CDocument* other : scripts->GetDocuments()) {
-            if (const auto* document = dynamic_cast<const ScriptDoc*>(other);
-                document && document != &script && document->GetPathName().isEmpty())
-                taken << document->Name();
-        }
-    }
-    qsizetype digits = own.size();
-    while (digits > 0 && own[digits - 1].isDigit())
-        --digits;
-    QString title = own;
-    for (int number = own.mid(digits).toInt() + 1; taken.contains(title); ++number)
-        title = own.left(digits) + QString::number(number);
-    return title;
-}
-
-int LanguageOfName(const QString& name)
-{
-    const CFileTypeManager& languages = *zncoreeditor::GetFileTypeManager();
-    for (int language = 0; language < languages.GetLanguageCount(); ++language) {
-        if (languages.GetLanguageName(language) == name)
-            return language;
-    }
-    return -1;
-}
-
-QString TextOf(CZNCoreEditorControlEx& editor)
-{
-    QString text(editor.GetLength(1), Qt::Uninitialized);
-    if (!text.isEmpty()) // which has no room for the terminator
-        editor.GetRange(0, text.size(), reinterpret_cast<char16_t*>(text.data()));
-    return text;
-}
-
-// A copy has just replaced the text of the file as a whole; only the lines that differ are to count
-// as changed. One undo brings the file's text back in either case.
-void ChangeLinesAlone(CZNCoreEditorControlEx& editor)
-{
-    constexpr long kMost = 4'000'000; // units
-    if (editor.GetLength(1) > kMost)
-        return;
-    const QString copied = TextOf(editor);
-    editor.Undo(1);
-    const QString filed = TextOf(editor);
-    if (filed.size() > kMost || filed == copied) {
-        editor.Redo(1);
-        return;
-    }
-    editor.BeginUndoAction(1);
-    for (const LineEdit& edit : LineEdits(filed, copied)) {
-        editor.SetTargetStart(edit.start, 1);
-        editor.SetTargetEnd(edit.start + edit.length, 1);
-        editor.ReplaceTarget(static_cast<int>(edit.text.size()),
-                             reinterpret_cast<const char16_t*>(edit.text.utf16()), 1);
-    }
-    editor.EndUndoAction(1);
-}
-
 } // namespace
 
 ScriptDoc::OpenAs::OpenAs(int encoding)
@@ -210,63 +140,33 @@ int ScriptDoc::OnNewDocument()
     if (!CZNCoreEditorDoc::OnNewDocument())
         return 0;
     m_docPointer = FirstView()->GetCoreEditorControl()->GetDocPointer(1);
-    SetTitle(FreeTitle(*this));
+    SetTitle(FreeTitle());
     SetLanguage(LanguageNamed(languages::Default(), LanguageOfNewScripts()));
     return 1;
-}
-
-// A script that never had a file is copied under its name, with the language that somebody chose.
-void ScriptDoc::NameCopies(CZNCoreEditorControlEx& editor) const
-{
-    const CFileTypeManager& languages = *zncoreeditor::GetFileTypeManager();
-    if (m_strPathName.isEmpty())
-        editor.SetUntitledName(
-            UntitledName(Name(), languages.GetLanguageName(editor.GetCurrentLanguage())));
-}
-
-// The place in the text is that of before, as far as there is one.
-bool ScriptDoc::Recover(const RecoverableCopy& copy)
-{
-    ScriptView* view = FirstView();
-    if (!view)
-        return false;
-    CZNCoreEditorControlEx& editor = view->GetCoreEditorControlRef();
-    const long line = editor.LineFromPosition(editor.GetCurrentPos(1), 1);
-    if (!editor.RecoverCopy(copy.path, FileEncodeConverter::encodingType(m_chosenEncoding))) {
-        if (!IsClosed())
-            GetPrompts().Tell(Window(), WhyNotRecovered(copy));
-        return false;
-    }
-    if (!m_strPathName.isEmpty())
-        ChangeLinesAlone(editor);
-    if (m_strPathName.isEmpty() && !copy.document.isEmpty()) {
-        SetPathName(copy.document, false);
-        SetLanguage(LanguageOfFile(copy.document));
-        m_onlyHere = true;
-    } else if (m_strPathName.isEmpty()) {
-        SetTitle(copy.name);
-        SetTitle(FreeTitle(*this));
-        if (const int language = LanguageOfName(copy.language); language >= 0)
-            SetLanguage(language);
-    }
-    SetModifiedFlag(1);
-    view->GoToLine(line);
-    m_lineEnds->Look();
-    Q_EMIT StateChanged();
-    return true;
 }
 
 int ScriptDoc::OnOpenDocument(const QString& path)
 {
     m_chosenEncoding = encodingToOpenAs;
-    return OnOpenDocumentEx(path, FileEncodeConverter::encodingType(m_chosenEncoding));
+    return OnOpenDocumentEx(path, FileEncodeConverter::encodingType(FormOf(m_chosenEncoding)));
 }
 
 int ScriptDoc::OnOpenDocumentEx(const QString& path, FileEncodeConverter::encodingType encoding)
 {
     m_told = false;
     const QuietLoad quiet;
+    // What is kept because the file was not read is still in the page that it was read in.
+    int codePage = CodePageToOpenWith(path);
+    const auto exchange = [&] {
+        if (ScriptView* view = FirstView()) {
+            CZNCoreEditorControlEx& editor = view->GetCoreEditorControlRef();
+            const int before = editor.GetFileCodePage();
+            editor.SetFileCodePage(std::exchange(codePage, before));
+        }
+    };
+    exchange();
     if (QFileInfo(path).isDir() || !CZNCoreEditorDoc::OnOpenDocumentEx(path, encoding)) {
+        exchange();
         if (!m_told && !IsClosed())
             ReportSaveLoadException(path, nullptr, false, IDP_FAILED_TO_OPEN);
         return 0;
@@ -274,8 +174,8 @@ int ScriptDoc::OnOpenDocumentEx(const QString& path, FileEncodeConverter::encodi
     LookForUnread();
     if (encoding == FileEncodeConverter::encUnknown)
         TakeDefaultEncoding(FirstView()->GetCoreEditorControlRef());
+    TellCodePage();
     m_onlyHere = false;
-    m_isTracked = m_lastAccessTime != 0;
     if (IsReadOnly())
         SetTitle(GetTitle()); // which marks it
     SetLanguage(LanguageToOpenWith(path));
@@ -308,6 +208,31 @@ int ScriptDoc::LanguageToOpenWith(const QString& path)
     return LanguageNamed(languages::Default(), byName);
 }
 
+// Which what is Unicode does without.
+int ScriptDoc::CodePageToOpenWith(const QString& path) const
+{
+    if (m_chosenEncoding > FileEncodeConverter::encUnknown)
+        return CodePageOf(m_chosenEncoding);
+    if (const int chosen = ChosenCodePage(path); chosen != 0)
+        return chosen;
+    const int ofFolder = ChosenCodePageInFolder(path);
+    return ofFolder != 0 ? ofFolder : DefaultCodePage();
+}
+
+// One that nobody chose for this file.
+void ScriptDoc::TellCodePage()
+{
+    const int encoding = CurrentTarget().encoding;
+    if (m_chosenEncoding > FileEncodeConverter::encUnknown) {
+        RememberCodePage(m_strPathName, encoding);
+        return;
+    }
+    if (encoding == ChosenCodePageInFolder(m_strPathName) && encoding != DefaultCodePage() &&
+        ChosenCodePage(m_strPathName) == 0)
+        TellLater(
+            tr("%1: %2, as other files of this folder").arg(Name(), EncodingName(encoding, false)));
+}
+
 // Once its tab is there and in front; nobody is told of others.
 void ScriptDoc::TellLater(const QString& text)
 {
@@ -325,8 +250,12 @@ int ScriptDoc::Reopen(int encoding)
 {
     if (!SaveModified() || IsClosed())
         return 0;
-    m_chosenEncoding = encoding;
-    return OnOpenDocumentEx(QString(m_strPathName), FileEncodeConverter::encodingType(encoding));
+    const int before = std::exchange(m_chosenEncoding, encoding);
+    if (OnOpenDocumentEx(QString(m_strPathName),
+                         FileEncodeConverter::encodingType(FormOf(encoding))))
+        return 1;
+    m_chosenEncoding = before;
+    return 0;
 }
 
 void ScriptDoc::ReportSaveLoadException(const QString& path, const CFileException* /*exception*/,
@@ -339,7 +268,7 @@ void ScriptDoc::ReportSaveLoadException(const QString& path, const CFileExceptio
 QString ScriptDoc::Name() const
 {
     if (!m_strPathName.isEmpty())
-        return QFileInfo(m_strPathName).fileName();
+        return m_strPathName.mid(m_strPathName.lastIndexOf(u'/') + 1);
     const QString title = GetTitle();
     return title.endsWith(QLatin1String(" *")) ? title.chopped(2) : title;
 }
@@ -348,6 +277,16 @@ bool ScriptDoc::IsReadOnly() const
 {
     ScriptView* view = FirstView();
     return view && view->GetCoreEditorControl()->GetReadOnly(1) != 0;
+}
+
+void ScriptDoc::TellReadOnly()
+{
+    const QString text = IsFileReadOnly()
+                             ? tr("“%1” is read-only, and nothing was changed. Save As makes a "
+                                  "copy that you can change.")
+                             : tr("“%1” is read-only, and nothing was changed. File > Read Only "
+                                  "ends that.");
+    Q_EMIT Told(text.arg(Name()));
 }
 
 bool ScriptDoc::IsUntouched()
@@ -396,6 +335,20 @@ void ScriptDoc::OnViewMade(ScriptView& view)
         ServeView(view);
     else if (first)
         view.GetCoreEditorControl()->AdoptFile(first->GetCoreEditorControlRef());
+}
+
+std::vector<ScriptDoc*> ScriptDoc::OpenBeside() const
+{
+    std::vector<ScriptDoc*> scripts;
+    const CDocTemplate* made = GetDocTemplate();
+    if (!made)
+        return scripts;
+    for (CDocument* document : made->GetDocuments()) {
+        auto* script = dynamic_cast<ScriptDoc*>(document);
+        if (script && script != this)
+            scripts.push_back(script);
+    }
+    return scripts;
 }
 
 // The one view that checks the text, watches its line ends and keeps the copies.
@@ -447,20 +400,6 @@ void ScriptDoc::OnTextChanged()
     Q_EMIT TextChanged();
 }
 
-// Keys have rested: what a crash would take is what is typed from now on. A long text takes a
-// while to write and is left to the minutes.
-void ScriptDoc::CopyNow()
-{
-    constexpr UINT kAutosave = 100;   // the editor's timer
-    constexpr long kMost = 4'000'000; // units
-    ScriptView* view = IsClosed() ? nullptr : FirstView();
-    if (!view)
-        return;
-    CZNCoreEditorControlEx& editor = view->GetCoreEditorControlRef();
-    if (editor.GetAutoSaveOn() && editor.GetSafeHwnd() && editor.GetLength(1) <= kMost)
-        SendMessage(editor.GetSafeHwnd(), WM_TIMER, kAutosave, 0);
-}
-
 // The base's questions say nothing of a text that is nowhere else, and their default lets it go.
 // That of a file which is gone is asked about like a change by who closes it.
 void ScriptDoc::AskBeforeLosingToFile()
@@ -472,55 +411,60 @@ void ScriptDoc::AskBeforeLosingToFile()
         KeepAsOnlyHere();
         return;
     }
-    if (!IsModified() || CZNOptionsServer::GetObjectW()->GetInt(option::ReloadWithoutAsking) ||
-        status.m_mtime == m_lastAccessTime)
+    const bool isReadUnasked =
+        CZNOptionsServer::GetObjectW()->GetInt(option::ReloadWithoutAsking) && !m_onlyHere;
+    if (!IsModified() || isReadUnasked || status.m_mtime == m_lastAccessTime)
         return;
     const QScopedValueRollback<bool> checking(m_checkingAccessTime, true);
     m_lastAccessTime = status.m_mtime;
-    const bool isToRead = GetPrompts().Confirm(
+    const bool isToRead = GetPrompts().ConfirmComparing(
         Window(),
         tr("“%1” has been changed outside of the workbench. If it is read again, your changes that "
            "are not saved are lost.")
             .arg(Name()),
-        tr("&Read Again"));
+        tr("&Read Again"), WithFile());
     if (IsClosed())
         return;
-    if (isToRead)
+    m_onlyHere = !isToRead;
+    if (isToRead) {
         ReloadFile();
-    else
-        m_lastAccessTime = 0; // as the base does for a No
+        LookForUnread();
+    } else {
+        KeepAsOnlyHere();
+    }
 }
 
-// A No ends the tracking: the text that is kept is not to be lost without a further question. A Yes
-// to a file that is gone ends it too, but the close that it asked for is on its way, ahead of this.
+// The base ends the tracking with a No, and leaves what others do from then on to the save. Here
+// the text is kept against the file of that moment alone, and each further change is asked about. A
+// Yes to a file that is gone ends the tracking too, but the close that it asked for is on its way,
+// ahead of this.
 void ScriptDoc::OnFocus()
 {
-    const auto readAt = m_lastAccessTime;
-    {
+    CFileStatus file;
+    const bool isThere = CFile::GetStatus(m_strPathName, file);
+    const bool wasTracked = m_lastAccessTime != 0;
+    auto known = m_lastAccessTime;
+    if (isThere || known != kGone) {
         const QuietLoad quiet;
         AskBeforeLosingToFile();
+        known = m_lastAccessTime;
         CheckLastAccessTime();
     }
     if (IsClosed())
         return;
-    if (m_lastAccessTime != 0 && m_lastAccessTime != readAt)
+    if (wasTracked && m_lastAccessTime == 0) {
+        m_lastAccessTime = isThere ? file.m_mtime : kGone;
+        const auto keep = [this, keptAt = m_lastAccessTime] {
+            if (!IsClosed() && m_lastAccessTime == keptAt)
+                KeepAsOnlyHere();
+        };
+        QMetaObject::invokeMethod(this, keep, Qt::QueuedConnection);
+    } else if (m_lastAccessTime != known) {
         LookForUnread();
-    TellUnread();
-    if (IsClosed())
-        return;
-    if (m_isTracked && m_lastAccessTime == 0) {
-        CFileStatus status;
-        m_keptAt = CFile::GetStatus(m_strPathName, status) ? status.m_mtime : 0;
-        QMetaObject::invokeMethod(this, &ScriptDoc::MarkAsOnlyHere, Qt::QueuedConnection);
     }
-    m_isTracked = m_lastAccessTime != 0;
-    Q_EMIT StateChanged();
-}
-
-void ScriptDoc::MarkAsOnlyHere()
-{
-    if (!IsClosed() && m_lastAccessTime == 0)
-        KeepAsOnlyHere();
+    TellUnread();
+    if (!IsClosed())
+        Q_EMIT StateChanged();
 }
 
 void ScriptDoc::KeepAsOnlyHere()

@@ -65,7 +65,8 @@ public:
     SaveTarget CurrentTarget() const;
     int ChosenEncoding() const { return m_chosenEncoding; } // by a person; -1: detected
     bool IsReadOnly() const;
-    bool IsUntouched(); // no file, no text, no change
+    void TellReadOnly(); // and what to do about it
+    bool IsUntouched();  // no file, no text, no change
 
     // A load takes the language from the file's name. All views have the same.
     int Language() const;
@@ -78,6 +79,7 @@ public:
     ScriptView* FirstView() const;
     // The words and names of the text, through one of the views.
     completion::LiveIndex& Names() { return m_names; }
+    std::vector<ScriptDoc*> OpenBeside() const; // the other scripts of the application
 
     // From the views
     void OnViewMade(ScriptView& view);
@@ -102,6 +104,7 @@ private:
     int SaveTo(const SaveTarget& target);
     bool MayReplaceUnread(const SaveTarget& target);
     bool MayReplaceChangedFile(const SaveTarget& target);
+    Comparison WithFile() const;
     bool MayLoseCharacters(SaveTarget& target); // the person may choose another encoding
     int WriteTo(const SaveTarget& target);
     void OnReload();
@@ -109,11 +112,13 @@ private:
     void LookForUnread();
     void TellUnread();
     int LanguageToOpenWith(const QString& path);
+    int CodePageToOpenWith(const QString& path) const;
+    void TellCodePage();
     void TellLater(const QString& text);
     void CopyNow();
     void ServeView(ScriptView& view);
-    void MarkAsOnlyHere();
     void NameCopies(CZNCoreEditorControlEx& editor) const;
+    QString FreeTitle() const; // of a script without a file
     QWidget* Window() const;
 
     completion::LiveIndex m_names;
@@ -125,10 +130,9 @@ private:
     void AskBeforeLosingToFile();
     void KeepAsOnlyHere();
 
-    std::int64_t m_keptAt = 0; // the file's write time when this one was kept; 0: it was not
-    bool m_onlyHere = false;   // the file has another text by now, or is gone, and this one is kept
-    bool m_isTracked = false;  // what others do to the file is asked about
-    ReadLoss m_loss;           // of the file that the text was read from
+    bool m_onlyHere = false;  // the file has another text by now, or is gone, and this one is kept
+    bool m_isOfOther = false; // the text was read from what the file was once, and is no more
+    ReadLoss m_loss;          // of the file that the text was read from
     bool m_tellsLoss = false;
     bool m_asking = false;
     bool m_told = false; // why the file was not read

@@ -55,7 +55,10 @@ ScriptFrame* ScriptFrame::Of(const QWidget* page)
 // It gets its tab when it has something to show.
 HWND ScriptFrame::MakeWidget()
 {
-    return new QWidget(ScriptTabs::OfMainWindow());
+    ScriptTabs* tabs = ScriptTabs::OfMainWindow();
+    auto* page = new QWidget(tabs);
+    page->setEnabled(!tabs || !tabs->AddingBehind());
+    return page;
 }
 
 bool ScriptFrame::OnCreateClient(CCreateContext* context)
@@ -190,7 +193,8 @@ void ScriptFrame::ActivateFrame()
         return;
     tabs->Show(GetSafeHwnd());
     OnUpdateFrameTitle();
-    BecomeActive();
+    if (tabs->currentWidget() == GetSafeHwnd())
+        BecomeActive();
 }
 
 void ScriptFrame::OnUpdateFrameTitle()

@@ -35,7 +35,7 @@ SaveTarget ScriptDoc::CurrentTarget() const
     if (!view)
         return {m_strPathName, FileEncodeConverter::encUTF8, false};
     const CZNCoreEditorControlEx& editor = view->GetCoreEditorControlRef();
-    return {m_strPathName, editor.GetEncoding(), editor.GetWriteEncodingSig()};
+    return {m_strPathName, EncodingOf(editor), editor.GetWriteEncodingSig()};
 }
 
 // The person is shown what the question is about.
@@ -106,8 +106,10 @@ bool ScriptDoc::MayReplaceUnread(const SaveTarget& target)
            GetPrompts().Confirm(Window(), OverwriteQuestion(loss, Name()), tr("&Overwrite"));
 }
 
+// Behind each read of the file.
 void ScriptDoc::LookForUnread()
 {
+    m_isOfOther = false;
     m_loss = FirstView() ? LookForLoss(FirstView()->GetCoreEditorControlRef(), m_strPathName)
                          : ReadLoss();
     m_tellsLoss = bool(m_loss);
@@ -126,22 +128,34 @@ void ScriptDoc::TellUnread()
 bool ScriptDoc::MayReplaceChangedFile(const SaveTarget& target)
 {
     CFileStatus status;
-    const std::int64_t known = m_lastAccessTime != 0 ? m_lastAccessTime : m_keptAt;
-    if (known == 0 || !IsSameFile(target.path, m_strPathName) ||
-        !CFile::GetStatus(m_strPathName, status) || status.m_mtime == known)
+    if ((m_lastAccessTime == 0 && !m_isOfOther) || !IsSameFile(target.path, m_strPathName) ||
+        !CFile::GetStatus(m_strPathName, status) ||
+        (status.m_mtime == m_lastAccessTime && !m_isOfOther))
         return true;
-    return GetPrompts().Confirm(
+    return GetPrompts().ConfirmComparing(
         Window(),
         tr("“%1” has been changed outside of the workbench since it was read. Saving "
            "it replaces those changes.")
             .arg(Name()),
-        tr("&Overwrite"));
+        tr("&Overwrite"), WithFile());
+}
+
+Comparison ScriptDoc::WithFile() const
+{
+    const auto text = [this] {
+        ScriptView* view = FirstView();
+        return view ? view->GetCoreEditorControlRef().GetText() : QString();
+    };
+    ScriptView* view = FirstView();
+    const int codePage = view ? view->GetCoreEditorControlRef().GetFileCodePage() : 0;
+    return {Name(), m_strPathName, text, codePage};
 }
 
 bool ScriptDoc::MayLoseCharacters(SaveTarget& target)
 {
     CZNCoreEditorControlEx& editor = FirstView()->GetCoreEditorControlRef();
-    const std::optional<LostCharacter> lost = FindLostCharacter(editor, target.encoding);
+    const std::optional<LostCharacter> lost =
+        FindLostCharacter(editor, FormOf(target.encoding), CodePageOf(target.encoding));
     if (!lost)
         return true;
     const QString question = LossQuestion(QFileInfo(target.path).fileName(),
@@ -168,11 +182,15 @@ int ScriptDoc::WriteTo(const SaveTarget& target)
     const int wasModified = IsModified();
     if (before.encoding != target.encoding || before.mark != target.mark)
         SetModifiedFlag(1);
-    editor.SetEncoding(target.encoding);
+    SetEncodingOf(editor, target.encoding);
     editor.SetWriteEncodingSig(target.mark);
     const int saved = DoSave(target.path, 1);
+    if (saved && before.encoding != target.encoding) {
+        m_chosenEncoding = target.encoding;
+        RememberCodePage(target.path, target.encoding);
+    }
     if (!saved && !IsClosed()) {
-        editor.SetEncoding(before.encoding);
+        SetEncodingOf(editor, before.encoding);
         editor.SetWriteEncodingSig(before.mark);
         SetModifiedFlag(wasModified);
     }
@@ -184,7 +202,7 @@ int ScriptDoc::OnSaveDocument(const QString& path)
 {
     const bool wasOnlyHere = std::exchange(m_onlyHere, false);
     if (CZNCoreEditorDoc::OnSaveDocument(path)) {
-        m_isTracked = m_lastAccessTime != 0;
+        m_isOfOther = false;
         m_loss = {};
         m_tellsLoss = false;
         return 1;

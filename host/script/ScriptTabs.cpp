@@ -22,6 +22,7 @@ ScriptTabs::ScriptTabs(QWidget* parent) : QTabWidget(parent), m_walk(new TabWalk
 {
     setTabsClosable(true);
     setMovable(true);
+    tabBar()->setChangeCurrentOnDrag(true);
     setDocumentMode(true);
     setUsesScrollButtons(true);
     tabBar()->setElideMode(Qt::ElideNone);
@@ -72,12 +73,14 @@ void ScriptTabs::ShowMenu(int index, const QPoint& place)
 
 void ScriptTabs::ShowList()
 {
+    Q_EMIT AllWanted();
     auto* list = new TabList(*this);
     list->ShowBelow(*cornerWidget());
 }
 
 void ScriptTabs::Walk(int step)
 {
+    Q_EMIT AllWanted();
     m_walk->Step(step);
 }
 
@@ -91,6 +94,7 @@ QList<QWidget*> ScriptTabs::From(int index) const
 
 void ScriptTabs::CloseOthers(const QWidget* page)
 {
+    Q_EMIT AllWanted();
     QList<QWidget*> pages = From(0);
     if (pages.removeOne(page))
         Close(pages);
@@ -98,6 +102,7 @@ void ScriptTabs::CloseOthers(const QWidget* page)
 
 void ScriptTabs::CloseBehind(const QWidget* page)
 {
+    Q_EMIT AllWanted();
     if (const int index = indexOf(page); index >= 0)
         Close(From(index + 1));
 }
@@ -120,9 +125,46 @@ ScriptTabs* ScriptTabs::OfMainWindow()
     return main ? main->GetSafeHwnd()->findChild<ScriptTabs*>() : nullptr;
 }
 
+void ScriptTabs::CloseAll()
+{
+    Q_EMIT AllWanted();
+    Close(From(0));
+}
+
+ScriptTabs::Behind::Behind(ScriptTabs& tabs, int place) : m_tabs(tabs), m_place(place)
+{
+    tabs.m_behind = this;
+}
+
+ScriptTabs::Behind::~Behind()
+{
+    m_tabs.m_behind = nullptr;
+    if (m_page)
+        m_page->setEnabled(true);
+}
+
+// Shown and hidden before anything is painted: lines are scrolled to in a window of its size.
+void ScriptTabs::AddBehind(QWidget* page)
+{
+    m_behind->m_page = page;
+    insertTab(m_behind->m_place, page, {});
+    if (!m_used.contains(page))
+        m_used << page;
+    if (const QWidget* front = currentWidget(); front != page) {
+        page->setGeometry(front->geometry());
+        page->show();
+        page->hide();
+    }
+    Q_EMIT Added(page);
+}
+
 void ScriptTabs::Show(QWidget* page)
 {
     const bool isNew = indexOf(page) < 0;
+    if (isNew && m_behind) {
+        AddBehind(page);
+        return;
+    }
     if (isNew)
         addTab(page, {});
     setCurrentWidget(page);

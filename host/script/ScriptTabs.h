@@ -3,6 +3,7 @@
 #pragma once
 
 #include <QHash>
+#include <QPointer>
 #include <QTabWidget>
 
 class TabWalk;
@@ -28,6 +29,26 @@ public:
 
     // Those of the application's main window. Null without one.
     static ScriptTabs* OfMainWindow();
+
+    // As long as this exists a page that is added stands behind the one in front, its tab at that
+    // place, and takes no keys.
+    class Behind
+    {
+    public:
+        Behind(ScriptTabs& tabs, int place);
+        ~Behind();
+        Behind(const Behind&) = delete;
+        Behind& operator=(const Behind&) = delete;
+
+        QWidget* Page() const { return m_page; } // null: none was added
+
+    private:
+        friend class ScriptTabs;
+        ScriptTabs& m_tabs;
+        int m_place;
+        QPointer<QWidget> m_page;
+    };
+    const Behind* AddingBehind() const { return m_behind; } // null: not now
 
     void Show(QWidget* page); // adds it if it has no tab yet
     void Remove(QWidget* page);
@@ -56,7 +77,7 @@ public:
     void Close(const QList<QWidget*>& pages);
     void CloseOthers(const QWidget* page);
     void CloseBehind(const QWidget* page); // to the right of it
-    void CloseAll() { Close(From(0)); }
+    void CloseAll();
 
 protected:
     bool eventFilter(QObject* watched, QEvent* event) override;
@@ -65,14 +86,17 @@ private:
     TabCaption CaptionOf(int index) const { return m_captions.value(widget(index)); }
     QList<QWidget*> From(int index) const;
     bool IsShown(const QString& path) const;
+    void AddBehind(QWidget* page);
     void Write();
 
     TabWalk* m_walk;
     QHash<const QWidget*, TabCaption> m_captions;
     QList<QWidget*> m_used;
     QStringList m_closed; // files, the last one last
+    Behind* m_behind = nullptr;
 
 Q_SIGNALS:
     void Added(QWidget* page);
     void Leaving(QWidget* page); // which still shows its script
+    void AllWanted();            // before something is done that knows all tabs
 };

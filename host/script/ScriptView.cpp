@@ -5,6 +5,7 @@
 #include "control/LongLine.h"
 #include "editing/language/EditorCompletion.h"
 #include "editing/looks/DesktopWatch.h"
+#include "editing/operations/Macro.h"
 #include "editing/operations/ScrollRange.h"
 #include "host/commands/CommandKeys.h"
 #include "host/commands/WorkbenchCommands.h"
@@ -82,6 +83,12 @@ int ScriptView::OnCreate(CCreateContext* context)
         script->OnViewMade(*this);
         m_completion = std::make_unique<EditorCompletion>(m_coreEditor, script->Names());
         m_completion->SetOpensWhileTyping(true);
+        (*m_completion)->SetOtherScripts([script] {
+            std::vector<completion::OtherScript> others;
+            for (ScriptDoc* other : script->OpenBeside())
+                others.push_back({&other->Names(), other->Name()});
+            return others;
+        });
         new TemplateKeys(*this, *m_completion); // goes with the editor's window
     }
     return 0;
@@ -215,9 +222,20 @@ void ScriptView::ShowCall()
 }
 
 // The base may close the view; then nothing is left to follow.
+// The command ends a recording in the view that it is given in alone.
+bool ScriptView::EndsRecording(const SCNotification& record)
+{
+    if (record.nmhdr.code != notify::MacroRecord || IsMacroRecording())
+        return false;
+    m_coreEditor.StopRecord(1);
+    return true;
+}
+
 int ScriptView::OnNotify(WPARAM wParam, LPARAM lParam, LRESULT* result)
 {
     const bool isOwn = m_coreEditor.IsBaseEditorNotify(lParam);
+    if (isOwn && EndsRecording(*reinterpret_cast<const SCNotification*>(lParam)))
+        return 1;
     if (isOwn)
         TellChange(*reinterpret_cast<const SCNotification*>(lParam));
     const int known = CZNCoreEditorView::OnNotify(wParam, lParam, result);
@@ -237,6 +255,10 @@ int ScriptView::OnNotify(WPARAM wParam, LPARAM lParam, LRESULT* result)
         if (record.modificationType & kTextBits)
             script->OnTextChanged();
         FollowAfter(kRest);
+        break;
+    case notify::ModifyAttemptReadOnly:
+        if (!m_incrementalForward && !m_incrementalReverse) // which keep the text as it is
+            script->TellReadOnly();
         break;
     case engine::kLongLineShown:
         Q_EMIT script->Told(

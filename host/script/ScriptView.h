@@ -34,8 +34,10 @@ public:
     // Escape closes the find bar too, unless it has a list or a search of the editor's to end.
     int PreTranslateMessage(MSG* message) override;
     void OnInitialUpdate() override;
+    int OnPreparePrinting(CPrintInfo* info) override; // the selection is offered, not chosen
     // All of a selection, and finding the pages can be stopped.
     void OnBeginPrinting(CDC* dc, CPrintInfo* info) override;
+    void OnPrint(CDC* dc, CPrintInfo* info) override; // with head and foot, if they are wanted
     void OnActivateView(int activate, CView* activated, CView* deactivated) override;
 
     void OpenNamed(const QString& name); // a file or an address; the person hears if there is none
@@ -65,6 +67,7 @@ private:
     ~ScriptView() override;
     void LookAtFile(); // and asks about what others did to it
     void LookAtFileIn(std::chrono::milliseconds time);
+    bool EndsRecording(const SCNotification& record);
     void TellChange(const SCNotification& record);
     void FollowAfter(std::chrono::milliseconds rest);
     void GiveRoomAround(int topBefore);
@@ -83,6 +86,7 @@ private:
     bool HasSomethingToEnd();
 
     std::unique_ptr<EditorCompletion> m_completion;
+    QString m_printTime;         // of the job under way; empty: without head and foot
     QTimer m_rest;               // runs while there is something to follow
     int m_measuredFrom = -1;     // the first line on screen when lines were last measured
     QPointer<MenuKey> m_menuKey; // goes with the editor's window

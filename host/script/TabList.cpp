@@ -105,7 +105,9 @@ void TabList::Filter(const QString& words)
         if (m_tabs.tabText(i).contains(words, Qt::CaseInsensitive))
             Add(*m_list, m_tabs, m_tabs.widget(i));
     }
-    m_list->setCurrentRow(words.isEmpty() ? m_tabs.currentIndex() : 0);
+    EndList(*m_list, tr("No script has this in its name"));
+    if (words.isEmpty())
+        m_list->setCurrentRow(m_tabs.currentIndex());
 }
 
 void TabList::Choose()

@@ -8,6 +8,8 @@
 #include <QGuiApplication>
 #include <QKeyEvent>
 #include <QListWidget>
+#include <QPainter>
+#include <QStyleOption>
 #include <QTimer>
 #include <QVBoxLayout>
 
@@ -17,6 +19,7 @@ namespace {
 
 // Of a key that is pressed once: nobody wants to see a list come and go.
 constexpr int kGlimpse = 150; // milliseconds
+constexpr int kMargin = 4;    // pixels around the list
 
 } // namespace
 
@@ -24,19 +27,29 @@ TabWalk::TabWalk(ScriptTabs& tabs)
     : QFrame(&tabs), m_tabs(tabs), m_list(new QListWidget(this)), m_wait(new QTimer(this))
 {
     setObjectName(QStringLiteral("tabWalk"));
-    setFrameShape(QFrame::StyledPanel);
     setAutoFillBackground(true);
     m_list->setFocusPolicy(Qt::NoFocus);
     m_list->setFrameShape(QFrame::NoFrame);
     m_list->setAccessibleName(tr("Scripts by last use"));
     m_list->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
     auto* layout = new QVBoxLayout(this);
+    layout->setContentsMargins(kMargin, kMargin, kMargin, kMargin);
     layout->addWidget(m_list);
     m_wait->setSingleShot(true);
     m_wait->setInterval(kGlimpse);
     connect(m_wait, &QTimer::timeout, this, &TabWalk::Unfold);
     connect(m_list, &QListWidget::itemClicked, this, &TabWalk::Take);
     hide();
+}
+
+// Set off against the text that it lies over, as a menu is.
+void TabWalk::paintEvent(QPaintEvent* event)
+{
+    QFrame::paintEvent(event);
+    QStyleOption option;
+    option.initFrom(this);
+    QPainter painter(this);
+    style()->drawPrimitive(QStyle::PE_FrameMenu, &option, &painter, this);
 }
 
 void TabWalk::Step(int by)
@@ -70,7 +83,7 @@ void TabWalk::Unfold()
     constexpr int kRim = 48; // pixels, of the frame and a scroll bar
     constexpr int kNarrow = 260;
     const int rows = m_list->sizeHintForRow(0) * m_list->count();
-    QSize size(std::max(m_list->sizeHintForColumn(0) + kRim, kNarrow), rows + kRim / 2 + 2);
+    QSize size(std::max(m_list->sizeHintForColumn(0) + kRim, kNarrow), rows + 2 * kMargin + 2);
     size = size.boundedTo(m_tabs.size() - QSize(kRim, kRim));
     setGeometry(QRect(
         QPoint((m_tabs.width() - size.width()) / 2, (m_tabs.height() - size.height()) / 2), size));

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "host/session/Session.h"
 
+#include "host/files/EncodingChoices.h"
 #include "host/files/Places.h"
 
 #include <QFile>
@@ -18,28 +19,27 @@
 namespace {
 
 constexpr qint64 kMostBytes = 4 * 1024 * 1024;
+constexpr qsizetype kLongestName = 100;         // of a language
 constexpr qsizetype kLongestLayout = 64 * 1024; // bytes
 
 const QString kFiles = QStringLiteral("files");
 const QString kFront = QStringLiteral("front");
 const QString kGeometry = QStringLiteral("geometry");
+const QString kMaximised = QStringLiteral("maximised");
 const QString kState = QStringLiteral("state");
 const QString kDocumentMap = QStringLiteral("documentMap");
 const QString kFolder = QStringLiteral("folder");
 const QString kPath = QStringLiteral("path");
 const QString kEncoding = QStringLiteral("encoding");
 const QString kCaretLine = QStringLiteral("caretLine");
+const QString kCaretColumn = QStringLiteral("caretColumn");
 const QString kFirstVisible = QStringLiteral("firstVisible");
 const QString kReadOnly = QStringLiteral("readOnly");
 const QString kPanes = QStringLiteral("panes");
+const QString kLanguage = QStringLiteral("language");
 const QString kZoom = QStringLiteral("zoom");
 const QString kFolds = QStringLiteral("folds");
 const QString kBookmarks = QStringLiteral("bookmarks");
-
-bool IsEncoding(int number)
-{
-    return number == -1 || number == 11 || (number >= 0 && number <= 10 && number % 2 == 0);
-}
 
 // Numbers that are no whole numbers in the range are 0.
 long LineOf(const QJsonValue& value)
@@ -96,9 +96,11 @@ SessionFile FileOf(const QJsonObject& entry)
     const int encoding = entry[kEncoding].toInt(-1);
     file.encoding = IsEncoding(encoding) ? encoding : -1;
     file.caretLine = LineOf(entry[kCaretLine]);
+    file.caretColumn = LineOf(entry[kCaretColumn]);
     file.firstVisible = LineOf(entry[kFirstVisible]);
     file.readOnly = entry[kReadOnly].toBool();
     file.panes = PanesOf(entry[kPanes]);
+    file.language = entry[kLanguage].toString().left(kLongestName);
     file.zoom = ZoomOf(entry[kZoom]);
     file.folds = LinesOf(entry[kFolds]);
     file.bookmarks = LinesOf(entry[kBookmarks]);
@@ -110,9 +112,11 @@ QJsonObject EntryOf(const SessionFile& file)
     return {{kPath, file.path},
             {kEncoding, file.encoding},
             {kCaretLine, static_cast<int>(file.caretLine)},
+            {kCaretColumn, static_cast<int>(file.caretColumn)},
             {kFirstVisible, static_cast<int>(file.firstVisible)},
             {kReadOnly, file.readOnly},
             {kPanes, static_cast<int>(file.panes)},
+            {kLanguage, file.language},
             {kZoom, file.zoom},
             {kFolds, ArrayOf(file.folds)},
             {kBookmarks, ArrayOf(file.bookmarks)}};
@@ -128,6 +132,7 @@ QByteArray Session::ToBytes() const
     const QJsonObject object = {{kFiles, entries},
                                 {kFront, front},
                                 {kGeometry, QString::fromLatin1(geometry.toBase64())},
+                                {kMaximised, maximised},
                                 {kState, QString::fromLatin1(state.toBase64())},
                                 {kDocumentMap, documentMap},
                                 {kFolder, folder}};
@@ -152,6 +157,7 @@ Session Session::FromBytes(const QByteArray& bytes)
         session.files.append(file);
     }
     session.geometry = LayoutOf(object[kGeometry]);
+    session.maximised = object[kMaximised].toBool();
     session.state = LayoutOf(object[kState]);
     session.documentMap = object[kDocumentMap].toBool();
     const QString folder = object[kFolder].toString();

@@ -24,11 +24,13 @@ struct SessionFile
     static constexpr int kMostLines = 1000;
 
     QString path;          // absolute
-    int encoding = -1;     // a number of FileEncodeConverter; -1: detect it
+    int encoding = -1;     // a number of host/files/Encodings.h; -1: detect it
     long caretLine = 0;    // lines count from 0, and may lie behind the end of a file that changed
+    long caretColumn = 0;  // units; may lie behind the line's end
     long firstVisible = 0; // the line at the top of the window
     bool readOnly = false; // by the user's choice
     SessionPanes panes = SessionPanes::One;
+    QString language; // by its name in the registry; empty: as the file is opened
     int zoom = 0;     // points that the letters are larger, as the engine counts
     QList<int> folds; // lines that a hidden block begins with; may lie behind the end, as others
     QList<int> bookmarks; // lines
@@ -44,6 +46,7 @@ struct Session
     QList<SessionFile> files; // in the order of the tabs
     int front = 0;            // the tab in front; 0 if there is none
     QByteArray geometry;      // as QWidget::saveGeometry gives it, which checks it on the way back
+    bool maximised = false;   // which the geometry tells as well, but for a screen of another size
     QByteArray state;         // as QMainWindow::saveState gives it
     bool documentMap = false; // it is shown
     QString folder;           // of the pane beside the scripts, absolute; empty: none yet

@@ -5,6 +5,7 @@
 
 #include <QCoreApplication>
 #include <QLibraryInfo>
+#include <QLocale>
 #include <QPointer>
 #include <QTranslator>
 
@@ -12,6 +13,9 @@
 
 void InstallTranslations()
 {
+    // "C" orders names by their codes alone, so that "10" comes before "2".
+    if (QLocale().language() == QLocale::C)
+        QLocale::setDefault(QLocale(QLocale::English, QLocale::World));
     static std::vector<QPointer<QTranslator>> installed; // the application's
     for (const QPointer<QTranslator>& translator : installed)
         delete translator.data(); // which takes it out of the application

@@ -77,11 +77,7 @@ void CommandPalette::Filter(const QString& words)
         if (!entry.action->isEnabled())
             item->setForeground(palette().brush(QPalette::Disabled, QPalette::Text));
     }
-    if (m_list->count() > 0)
-        m_list->setCurrentRow(0);
-    else
-        (new QListWidgetItem(tr("No command has these words in its name"), m_list))
-            ->setFlags(Qt::NoItemFlags);
+    EndList(*m_list, tr("No command has these words in its name"));
 }
 
 // The palette is gone before the command runs, so that it finds the focus where it was.

@@ -117,7 +117,7 @@ std::span<const EditingMenu::Row> Rows()
         {kBookmarks,  "firstBookmark",  QT_TRANSLATE_NOOP("EditingMenu", "&First"),                 nullptr, 53913},
         {kBookmarks,  "lastBookmark",   QT_TRANSLATE_NOOP("EditingMenu", "&Last"),                  nullptr, 53914},
         {kBookmarks,  "clearBookmarks", QT_TRANSLATE_NOOP("EditingMenu", "&Clear All"),             "Ctrl+Shift+F2", 54059},
-        {nullptr,       "insertFile",     QT_TRANSLATE_NOOP("EditingMenu", "Insert &File..."),        nullptr,         54038},
+        {nullptr,       "insertFile",     QT_TRANSLATE_NOOP("EditingMenu", "Ins&ert File..."),        nullptr,         54038},
     };
     // clang-format on
     return rows;

@@ -38,7 +38,7 @@ void MainFrame::RunFind(CCmdTarget& target)
 const CommandMap& MainFrame::GetCommandMap() const
 {
     static constexpr CommandEntry kCommands[] = {
-        {57636, &RunFind<&FindBar::Open>},          {57640, &RunFind<&FindBar::FindNext>},
+        {57636, &RunFind<&FindBar::OpenFinding>},   {57640, &RunFind<&FindBar::FindNext>},
         {54063, &RunFind<&FindBar::FindNext>},      {53902, &RunFind<&FindBar::FindPrevious>},
         {53903, &RunFind<&FindBar::FindNextWord>},  {53904, &RunFind<&FindBar::FindPreviousWord>},
         {57641, &RunFind<&FindBar::OpenReplacing>}, {command::CloseFind, &RunFind<&FindBar::Close>},

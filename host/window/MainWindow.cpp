@@ -11,11 +11,11 @@
 #include "host/files/Prompts.h"
 #include "host/files/RecentFiles.h"
 #include "host/finding/FindBar.h"
+#include "host/finding/ResultsPane.h"
 #include "host/folder/FolderPane.h"
 #include "host/options/OptionsDialog.h"
 #include "host/outline/OutlinePane.h"
 #include "host/problems/ProblemPane.h"
-#include "host/problems/ScriptChecker.h"
 #include "host/script/ScriptDoc.h"
 #include "host/script/ScriptFrame.h"
 #include "host/script/ScriptTabs.h"
@@ -23,6 +23,7 @@
 #include "host/session/AutosaveDialog.h"
 #include "host/window/LanguageMenu.h"
 #include "host/window/MainFrame.h"
+#include "host/window/MenuKeys.h"
 #include "host/window/Reasons.h"
 #include "host/window/StatusIndicators.h"
 #include "host/window/Workbench.h"
@@ -83,12 +84,23 @@ bool MayBeOfAMenu(const QKeyEvent& key)
     return !types && !edits && !moves;
 }
 
+// Whether the key is that of a command which would change the script, if that could be.
+bool IsOfAReadOnlyScript(const QKeyEvent& key, QMenuBar& menus, CZNCoreEditorControlEx& editor)
+{
+    const QKeySequence pressed(key.keyCombination());
+    return std::ranges::any_of(CommandsOf(menus), [&](const QAction* action) {
+        return !action->isEnabled() && action->shortcuts().contains(pressed) &&
+               IsDisabledAsReadOnly(action->objectName(), editor);
+    });
+}
+
 } // namespace
 
 MainWindow::MainWindow(Workbench& app)
     : m_app(app), m_frame(new MainFrame(*this)), m_tabs(new ScriptTabs(this)),
       m_status(new StatusIndicators(statusBar())), m_problems(new ProblemPane(this)),
-      m_expanded(new ExpandedScript(this)), m_sessionTimer(new QTimer(this))
+      m_expanded(new ExpandedScript(this)), m_sessionTimer(new QTimer(this)),
+      m_resumeTimer(new QTimer(this))
 {
     m_find = new FindBar([this] { return CurrentEditor(); });
     connect(m_find, &FindBar::Told, this,
@@ -110,17 +122,29 @@ MainWindow::MainWindow(Workbench& app)
     });
     addDockWidget(Qt::RightDockWidgetArea, m_expanded);
     m_expanded->hide();
+    m_expanded->toggleViewAction()->setObjectName(QStringLiteral("expandedScriptPane"));
+    connect(m_expanded->toggleViewAction(), &QAction::triggered, this, [this](bool isShown) {
+        m_expanded->hide();
+        if (isShown) // with the script as it is by now
+            ExpandScript();
+    });
     BuildResults();
     BuildSidebars();
     connect(m_expanded, &ExpandedScript::SourceChosen, this, &MainWindow::ShowSource);
     connect(m_tabs, &ScriptTabs::Added, this, &MainWindow::OnTabAdded);
+    connect(m_tabs, &ScriptTabs::AllWanted, this, &MainWindow::FinishResuming);
     connect(m_tabs, &ScriptTabs::Leaving, this, &MainWindow::NoteLeft);
     connect(m_tabs, &ScriptTabs::currentChanged, this, &MainWindow::OnCurrentChanged);
     connect(m_tabs->tabBar(), &QTabBar::tabMoved, this, &MainWindow::KeepSessionSoon);
     connect(m_tabs, &ScriptTabs::tabCloseRequested, this, &MainWindow::CloseTab);
     for (QDockWidget* pane : findChildren<QDockWidget*>()) {
-        auto* back = new QShortcut(Qt::Key_Escape, pane, this, &MainWindow::GoToScript);
+        auto* back = new QShortcut(Qt::Key_Escape, pane);
         back->setContext(Qt::WidgetWithChildrenShortcut);
+        connect(back, &QShortcut::activated, this, [this, pane] {
+            if (pane == m_expanded) // a look at the script, which is over
+                pane->hide();
+            GoToScript();
+        });
     }
     FileDrops::Take(*this);
     FileDrops::Take(*m_tabs->tabBar());
@@ -137,6 +161,7 @@ MainWindow::MainWindow(Workbench& app)
 // The tabs go after this part of the window does, and tell of it.
 MainWindow::~MainWindow()
 {
+    m_app.BeforeOpening({});
     m_tabs->disconnect(this);
     m_outline->disconnect(this);
     m_folder->disconnect(this);
@@ -211,7 +236,7 @@ bool MainWindow::OpenPlaces(const QStringList& words)
 
 void MainWindow::OpenForLaterStart(const QStringList& words, const QByteArray& token)
 {
-    m_asked << words;
+    m_app.Asked() << words;
     if (!token.isEmpty())
         qputenv("XDG_ACTIVATION_TOKEN", token); // which Qt takes along
     setWindowState(windowState() & ~Qt::WindowMinimized);
@@ -223,10 +248,13 @@ void MainWindow::OpenForLaterStart(const QStringList& words, const QByteArray& t
     OpenAsked();
 }
 
+// A window that is on its way out leaves it to the next one.
 void MainWindow::OpenAsked()
 {
-    if (!m_asked.isEmpty() && !QApplication::activeModalWidget())
-        OpenPlaces(std::exchange(m_asked, {}));
+    if (!m_app.GetMainWnd() || QApplication::activeModalWidget())
+        return;
+    for (const QStringList& words : std::exchange(m_app.Asked(), {}))
+        OpenPlaces(words);
 }
 
 void MainWindow::OpenRecent(const QString& path)
@@ -262,8 +290,9 @@ void MainWindow::Follow(ScriptDoc& script)
         SpeakAsMenus(*menu, *this);
         ExplainEntries(*menu, CurrentEditor());
     });
-    connect(&script, &ScriptDoc::Told, this,
-            [this](const QString& text) { statusBar()->showMessage(text); });
+    connect(&script, &ScriptDoc::Told, this, [this](const QString& text) {
+        statusBar()->showMessage(text, StatusIndicators::kSentenceTime);
+    });
     connect(&script, &ScriptDoc::ProblemsChanged, this, [this, &script] {
         const ScriptFrame* frame = CurrentFrame();
         if (frame && frame->Script() == &script) {
@@ -282,12 +311,14 @@ void MainWindow::Follow(ScriptDoc& script)
 
 void MainWindow::OnCurrentChanged()
 {
+    statusBar()->clearMessage(); // which is of the script that was in front
     GoToScript();
     NotePlace();
     UpdateAll();
     ListProblems();
     UpdateOutlineSoon();
     KeepSessionSoon();
+    TellOfScripts();
 }
 
 void MainWindow::CloseTab(int index)
@@ -357,54 +388,6 @@ void MainWindow::FollowOptions()
         script->FollowOptions();
 }
 
-void MainWindow::ListProblems()
-{
-    m_problems->Clear();
-    const ScriptFrame* frame = CurrentFrame();
-    const ScriptChecker* checker = frame ? frame->Script()->Checker() : nullptr;
-    if (!checker)
-        return;
-    const std::vector<ScriptProblem>& problems = checker->Problems();
-    for (const ScriptProblem& problem : problems)
-        m_problems->Add(problem, frame->Editor().LineFromPosition(problem.start, 1),
-                        static_cast<int>(frame->Editor().GetColumn(problem.start, 1)));
-    if (problems.empty())
-        m_problems->Say(checker->WhyNone());
-    // A list that is made again has its current one still.
-    const long start = frame->Editor().GetSelectionStart(1);
-    const long end = frame->Editor().GetSelectionEnd(1);
-    const auto selected =
-        std::ranges::find_if(problems, [start, end](const ScriptProblem& problem) {
-            return end > start && problem.start == start && problem.end == end;
-        });
-    if (selected != problems.end())
-        m_problems->ShowCurrent(static_cast<int>(selected - problems.begin()));
-}
-
-// The first one behind the caret, from the end on the first of all; or the other way round.
-void MainWindow::GoToProblem(bool forward)
-{
-    const ScriptFrame* frame = CurrentFrame();
-    const ScriptChecker* checker = frame ? frame->Script()->Checker() : nullptr;
-    if (!checker || checker->Problems().empty())
-        return;
-    const std::vector<ScriptProblem>& problems = checker->Problems();
-    const long caret = frame->Editor().GetSelectionStart(1);
-    const auto isBehind = [caret](const ScriptProblem& p) { return p.start > caret; };
-    const auto isBefore = [caret](const ScriptProblem& p) { return p.start < caret; };
-    auto next = problems.begin();
-    if (forward) {
-        const auto found = std::find_if(problems.begin(), problems.end(), isBehind);
-        next = found != problems.end() ? found : problems.begin();
-    } else {
-        const auto found = std::find_if(problems.rbegin(), problems.rend(), isBefore);
-        next = std::prev(found != problems.rend() ? found.base() : problems.end());
-    }
-    frame->View()->SelectRange(next->start, next->end);
-    statusBar()->showMessage(next->text);
-    m_problems->ShowCurrent(static_cast<int>(next - problems.begin()));
-}
-
 // From the script over what is shown around it and back, for somebody without a mouse.
 void MainWindow::NextArea()
 {
@@ -413,8 +396,15 @@ void MainWindow::NextArea()
                                m_expanded->TextArea(),
                                m_expanded->ErrorArea(),
                                m_problems->ListArea(),
+                               m_results[0],
+                               m_results[1],
                                m_outline->ListArea(),
                                m_folder->ListArea()};
+    // Those behind others are visible to Qt, on the left of the window.
+    const auto isShown = [this](const QWidget& area) {
+        return area.isVisible() &&
+               (area.window() != this || area.mapTo(this, area.rect().bottomRight()).x() >= 0);
+    };
     const QWidget* focus = focusWidget();
     qsizetype at = 0;
     for (qsizetype i = 0; i < areas.size(); ++i) {
@@ -423,7 +413,7 @@ void MainWindow::NextArea()
     }
     do
         at = (at + 1) % areas.size();
-    while (!areas[at]->isVisible());
+    while (!isShown(*areas[at]));
     if (areas[at] != m_tabs)
         areas[at]->setFocus(Qt::TabFocusReason);
     else
@@ -439,6 +429,10 @@ void MainWindow::GoToScript()
 void MainWindow::ExpandScript()
 {
     if (const ScriptFrame* frame = CurrentFrame()) {
+        if (m_expanded->Shows(*frame->Script(), frame->Editor())) {
+            m_expanded->hide();
+            return;
+        }
         m_expanded->Expand(*frame->Script(), frame->Editor());
         if (m_expanded->isHidden())
             resizeDocks({m_expanded}, {kExpandedWidth}, Qt::Horizontal);
@@ -467,6 +461,7 @@ void MainWindow::ShowSource(const QString& path, long line)
 void MainWindow::OnScriptChanged(ScriptDoc& script)
 {
     KeepSessionSoon();
+    TellOfScripts();
     for (const CView* view : script.GetViews()) {
         if (CFrameWnd* frame = view->GetParentFrame())
             frame->OnUpdateFrameTitle();
@@ -504,8 +499,13 @@ void MainWindow::UpdateTitle()
 bool MainWindow::event(QEvent* event)
 {
     if (event->type() == QEvent::ShortcutOverride &&
-        MayBeOfAMenu(static_cast<const QKeyEvent&>(*event)))
+        MayBeOfAMenu(static_cast<const QKeyEvent&>(*event))) {
         FollowNow();
+        const ScriptFrame* frame = CurrentFrame();
+        if (frame &&
+            IsOfAReadOnlyScript(static_cast<const QKeyEvent&>(*event), *menuBar(), frame->Editor()))
+            frame->Script()->TellReadOnly();
+    }
     if (event->type() == QEvent::WindowUnblocked) // behind the question, not within it
         QMetaObject::invokeMethod(this, &MainWindow::OpenAsked, Qt::QueuedConnection);
     return QMainWindow::event(event);

@@ -6,6 +6,7 @@
 #include "host/session/Session.h"
 #include "host/window/PlaceHistory.h"
 
+#include <QElapsedTimer>
 #include <QMainWindow>
 #include <QPointer>
 
@@ -56,9 +57,12 @@ public:
     int TabCount() const;
     void ShowTab(int index);
 
-    // What was open when the last window closed, and where that stood. From here on it is kept up
-    // to date.
+    // What was open when the last window closed, and where that stood: the script in front at
+    // once, the others one by one as long as nothing else is to be done. From here on it is kept
+    // up to date.
     void ResumeSession();
+    void FinishResuming(); // reads at once what is left of it
+    bool IsResuming() const;
     void EndSession(); // the last state is that of this moment
 
     FindBar& Find() const { return *m_find; } // in the script in front
@@ -133,7 +137,9 @@ private:
     void UpdateTitle();
     void BuildResults();
     void TellResults(const ScriptDoc& script); // that its text has changed
+    void TellOfScripts();                      // that one has been opened, closed or saved
     void BuildSidebars();
+    void ShareSide();
     void UpdateOutlineSoon();
     void UpdateOutline();
     void OutlineByIndex(ScriptDoc& script, const QString& language);
@@ -158,9 +164,23 @@ private:
     void KeepSessionSoon();
     void KeepSession();
     bool PutSessionAside();
-    bool Resume(const SessionFile& file); // false if it is not opened
-    void NoteLeft(const QWidget* page);   // how the script is shown whose tab goes
+    void ResumeInFront(std::size_t index);
+    void ResumeBehind(std::size_t index);
+    bool ResumeNext(); // false if there is none
+    void ResumeAtLeisure();
+    void ResumeOpened(const QString& path); // the one that is being opened
+    void AddUnread(Session& session, QList<const QWidget*> pages) const;
+    ScriptFrame* OpenAgain(const SessionFile& file);
+    QWidget* Resume(const SessionFile& file); // its page; null if it is not opened
+    void NoteLeft(const QWidget* page);       // how the script is shown whose tab goes
     void ReopenAsLeft(const QString& path);
+
+    struct ResumedTab
+    {
+        SessionFile file;
+        QPointer<QWidget> page; // null until it is read, and once it is closed
+        bool isRead = false;    // or refused
+    };
 
     Workbench& m_app;
     MainFrame* m_frame; // goes with this window
@@ -185,8 +205,10 @@ private:
     QTimer* m_sessionTimer;
     QList<QAction*> m_actions; // of the named commands, in their order
     std::unique_ptr<CommandKeys> m_keys;
+    std::vector<ResumedTab> m_resumed; // in the order of the tabs
+    QTimer* m_resumeTimer;
+    QElapsedTimer m_sinceResume;
     bool m_keepsSession = false;
-    QStringList m_asked;       // for by later starts, while a question stands
     QList<SessionFile> m_left; // scripts whose tabs went, the last one last
     // Once a person has chosen; until then as each language has it.
     std::optional<bool> m_showWhitespace;

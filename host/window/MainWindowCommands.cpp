@@ -6,7 +6,9 @@
 #include "editing/ZNCoreEditorControlEx.h"
 #include "host/commands/CommandKeys.h"
 #include "host/commands/WorkbenchCommands.h"
+#include "host/expanded/ExpandedScript.h"
 #include "host/finding/FindBar.h"
+#include "host/finding/ResultsPane.h"
 #include "host/folder/FolderPane.h"
 #include "host/help/About.h"
 #include "host/help/KeysDialog.h"
@@ -33,6 +35,7 @@
 
 #include <QAction>
 #include <QCursor>
+#include <QDockWidget>
 #include <QKeySequence>
 #include <QMenu>
 #include <QMenuBar>
@@ -149,20 +152,20 @@ std::span<const MainWindow::Command> MainWindow::Commands()
         {kView, "documentMap", QT_TR_NOOP("&Document Map"), Key::UnknownKey, nullptr,  0, When::Always, Run<&W::ShowDocumentMap>, true},
         {kView, nullptr},
         {kView, "splitBelow",  QT_TR_NOOP("Split &Above and Below"), Key::UnknownKey, "Ctrl+\\",       command::SplitBelow},
-        {kView, "splitBeside", QT_TR_NOOP("Split Side &by Side"),    Key::UnknownKey, "Ctrl+Shift+\\", command::SplitBeside},
+        {kView, "splitBeside", QT_TR_NOOP("Split Side b&y Side"),    Key::UnknownKey, "Ctrl+Shift+\\", command::SplitBeside},
         {kView, "otherPane",   QT_TR_NOOP("Ot&her Pane"),            Key::UnknownKey, "F6",            command::OtherPane},
-        {kView, "previousPane", QT_TR_NOOP("Previo&us Pane"),        Key::UnknownKey, "Alt+F6", command::PreviousPane},
+        {kView, "previousPane", QT_TR_NOOP("Previous Pane"),        Key::UnknownKey, "Alt+F6", command::PreviousPane},
         {kView, "nextArea",    QT_TR_NOOP("&Next Area"),             Key::UnknownKey, "Shift+F6",      0, When::Script, Run<&W::NextArea>},
         {kView, "newView",     QT_TR_NOOP("New &View"),              Key::UnknownKey, nullptr,         ID_WINDOW_NEW},
         {kView, nullptr},
-        {kView, "nextProblem", QT_TR_NOOP("Next Proble&m"), Key::UnknownKey, "F8",   0, When::Script, Run<&W::NextProblem>},
-        {kView, "previousProblem", QT_TR_NOOP("Previou&s Problem"), Key::UnknownKey, "Shift+F8", 0, When::Script, Run<&W::PreviousProblem>},
+        {kView, "nextProblem", QT_TR_NOOP("Next Problem"), Key::UnknownKey, "F8",   0, When::Script, Run<&W::NextProblem>},
+        {kView, "previousProblem", QT_TR_NOOP("Previous Problem"), Key::UnknownKey, "Shift+F8", 0, When::Script, Run<&W::PreviousProblem>},
         {kView, nullptr},
         {kView, "goToScript", QT_TR_NOOP("&Go to Script..."), Key::UnknownKey,   "Ctrl+E", 0, When::Script, Run<&W::ShowScripts>},
         {kView, "lastUsed",  QT_TR_NOOP("Las&t Used Script"), Key::NextChild,    "Ctrl+Tab", 0, When::SeveralScripts, Run<&W::LastUsedScript>},
         {kView, "longestUnused", QT_TR_NOOP("Longest Unused Script"), Key::PreviousChild, "Ctrl+Shift+Tab", 0, When::SeveralScripts, Run<&W::LongestUnusedScript>},
-        {kView, "next",      QT_TR_NOOP("Ne&xt Script"),     Key::UnknownKey,    "Ctrl+PgDown", 0, When::SeveralScripts, Run<&W::NextScript>},
-        {kView, "previous",  QT_TR_NOOP("&Previous Script"), Key::UnknownKey,    "Ctrl+PgUp", 0, When::SeveralScripts, Run<&W::PreviousScript>},
+        {kView, "next",      QT_TR_NOOP("Next Script"),     Key::UnknownKey,    "Ctrl+PgDown", 0, When::SeveralScripts, Run<&W::NextScript>},
+        {kView, "previous",  QT_TR_NOOP("Previous Script"), Key::UnknownKey,    "Ctrl+PgUp", 0, When::SeveralScripts, Run<&W::PreviousScript>},
 
         {kTools, "expand",   QT_TR_NOOP("&Expanded Script"), Key::UnknownKey, "F9",    0, When::Script, Run<&W::ExpandScript>},
         {kTools, nullptr},
@@ -222,10 +225,20 @@ void MainWindow::BuildMenus()
         if (command.menu != title) {
             title = command.menu;
             if (title == kTools) {
-                menu->addAction(m_problems->toggleViewAction());
-                menu->addAction(m_outline->toggleViewAction());
-                menu->addAction(m_folder->toggleViewAction());
-                menu->addAction(bar->toggleViewAction());
+                for (const auto& [pane, text] :
+                     {std::pair(m_problems->toggleViewAction(), QT_TR_NOOP("&Problems")),
+                      {m_outline->toggleViewAction(), QT_TR_NOOP("O&utline")},
+                      {m_folder->toggleViewAction(), QT_TR_NOOP("&Folder")},
+                      {m_expanded->toggleViewAction(), QT_TR_NOOP("E&xpanded Script")},
+                      {m_results[0]->toggleViewAction(), QT_TR_NOOP("Find Re&sults")},
+                      {m_results[1]->toggleViewAction(), QT_TR_NOOP("Find Results &2")},
+                      {bar->toggleViewAction(), QT_TR_NOOP("Tool &Bar")}}) {
+                    pane->setText(tr(text)); // that of the pane, with a letter
+                    if (const auto* dock = qobject_cast<QDockWidget*>(pane->parent()))
+                        connect(dock, &QWidget::windowTitleChanged, pane,
+                                [pane = pane, text = text] { pane->setText(tr(text)); });
+                    menu->addAction(pane);
+                }
                 menuBar()->addMenu(m_languages);
             }
             menu = menuBar()->addMenu(tr(title));
@@ -266,7 +279,7 @@ bool MainWindow::IsPossible(When when) const
     case When::Script:
         return CurrentFrame() != nullptr;
     case When::SeveralScripts:
-        return TabCount() > 1;
+        return TabCount() > 1 || IsResuming();
     case When::SomethingClosed:
         return m_tabs->HasClosed();
     case When::SomethingForward:
@@ -291,6 +304,7 @@ void MainWindow::UpdateCommands()
         if (command.name)
             ++action;
     }
+    m_expanded->toggleViewAction()->setEnabled(frame || m_expanded->isVisible());
     ShowViewOf(CurrentEditor());
     m_editing->Update();
     m_find->Update();
@@ -427,10 +441,12 @@ void MainWindow::LongestUnusedScript()
 
 void MainWindow::NextScript()
 {
+    FinishResuming();
     ShowTab((m_tabs->currentIndex() + 1) % TabCount());
 }
 
 void MainWindow::PreviousScript()
 {
+    FinishResuming();
     ShowTab((m_tabs->currentIndex() + TabCount() - 1) % TabCount());
 }

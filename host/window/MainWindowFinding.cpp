@@ -3,6 +3,7 @@
 #include "docview/SearchStatus.h"
 #include "docview/ZNCoreEditorView.h"
 #include "editing/ZNCoreEditorControlEx.h"
+#include "host/files/Encodings.h"
 #include "host/finding/FoundTexts.h"
 #include "host/finding/ResultsPane.h"
 #include "host/finding/SearchPlace.h"
@@ -20,12 +21,14 @@
 #include <QStatusBar>
 #include <QTimer>
 
+#include <algorithm>
+
 namespace {
 
 QString NameOf(const ScriptDoc& script)
 {
     const QString& path = script.GetPathName();
-    return path.isEmpty() ? script.GetTitle() : path;
+    return path.isEmpty() ? script.Name() : path;
 }
 
 } // namespace
@@ -107,6 +110,7 @@ public:
 
     std::vector<OpenText> All() const override
     {
+        m_window.FinishResuming();
         std::vector<OpenText> texts;
         for (const ScriptDoc* script : m_window.m_app.Scripts())
             texts.push_back(
@@ -140,6 +144,10 @@ void MainWindow::BuildResults()
         pane->setObjectName(QString(QLatin1String(title)).remove(u' '));
         addDockWidget(Qt::BottomDockWidgetArea, pane);
         pane->hide();
+        const bool isFirst = m_results.empty();
+        pane->toggleViewAction()->setObjectName(isFirst ? QStringLiteral("findResults")
+                                                        : QStringLiteral("findResults2"));
+        pane->toggleViewAction()->setVisible(isFirst); // the other one once there is something
         connect(pane, &ResultsPane::Chosen, this, &MainWindow::ShowMatch);
         m_results.push_back(pane);
     }
@@ -170,6 +178,7 @@ void MainWindow::FindInFiles()
     request.countOnly = manager.GetCountOnly();
     request.subFolders = manager.GetSubFolders();
     request.types = manager.GetFileType();
+    request.codePage = DefaultCodePage();
     request.folders = dialog.m_aFolders;
     request.openOnly = manager.GetFindIn() == kInOpenFiles;
     request.open = m_foundTexts->All();
@@ -185,10 +194,11 @@ void MainWindow::ShowResults()
     constexpr int kFewLines = 130;      // pixels
     constexpr int kResultsHeight = 260; // of some nine lines
     const bool isShown = m_shownResults->isVisible();
+    m_shownResults->toggleViewAction()->setVisible(true);
     m_shownResults->show();
     m_shownResults->raise();
     if (!isShown && !m_shownResults->isFloating() && m_shownResults->height() < kFewLines)
-        resizeDocks({m_shownResults}, {kResultsHeight}, Qt::Vertical);
+        resizeDocks({m_shownResults}, {std::min(kResultsHeight, height() / 3)}, Qt::Vertical);
 }
 
 void MainWindow::NextResult()
@@ -212,6 +222,12 @@ void MainWindow::TellResults(const ScriptDoc& script)
     const QString name = NameOf(script);
     for (ResultsPane* pane : m_results)
         pane->OnTextChanged(name);
+}
+
+void MainWindow::TellOfScripts()
+{
+    for (ResultsPane* pane : m_results)
+        pane->OnScriptsChanged();
 }
 
 // In the script that has come to the front. A place that it has no longer is the nearest that it

@@ -83,7 +83,7 @@ void MainWindow::GoBack()
 {
     NotePlace();
     if (!m_places->HasBack())
-        statusBar()->showMessage(tr("The caret was nowhere else before."));
+        statusBar()->showMessage(tr("The caret was nowhere else before."), 4000);
     while (const auto place = m_places->Back()) {
         if (ShowPlace(*place))
             break;

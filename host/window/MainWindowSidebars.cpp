@@ -59,6 +59,9 @@ void MainWindow::BuildSidebars()
     m_folder->hide();
     m_outline->toggleViewAction()->setObjectName(QStringLiteral("outline"));
     m_folder->toggleViewAction()->setObjectName(QStringLiteral("folder"));
+    for (const QDockWidget* pane :
+         {static_cast<QDockWidget*>(m_outline), static_cast<QDockWidget*>(m_folder)})
+        connect(pane->toggleViewAction(), &QAction::triggered, this, &MainWindow::ShareSide);
     m_outlineTimer = new QTimer(this);
     m_outlineTimer->setSingleShot(true);
     connect(m_outlineTimer, &QTimer::timeout, this, &MainWindow::UpdateOutline);
@@ -76,6 +79,13 @@ void MainWindow::BuildSidebars()
     });
 }
 
+// Who opens one beside the other wants to see both.
+void MainWindow::ShareSide()
+{
+    if (m_outline->isVisible() && m_folder->isVisible())
+        resizeDocks({m_outline, m_folder}, {1, 1}, Qt::Vertical); // as parts of what there is
+}
+
 void MainWindow::OpenFolder()
 {
     const ScriptFrame* frame = CurrentFrame();
@@ -87,7 +97,10 @@ void MainWindow::OpenFolder()
     if (folder.isEmpty())
         return;
     m_folder->SetFolder(folder);
-    m_folder->show();
+    if (!m_folder->isVisible()) {
+        m_folder->show();
+        ShareSide();
+    }
     m_folder->raise();
     m_folder->ListArea()->setFocus();
 }

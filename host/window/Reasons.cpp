@@ -38,7 +38,7 @@ constexpr Row kRows[] = {
     {"copyWithColours", false, true, nullptr},
     {"paste",          true,  false, QT_TRANSLATE_NOOP("Reasons", "The clipboard holds no text.")},
     {"delete",         true,  true,  nullptr},
-    {"save",           false, false, QT_TRANSLATE_NOOP("Reasons", "There is nothing to save.")},
+    {"save",           true,  false, QT_TRANSLATE_NOOP("Reasons", "There is nothing to save.")},
     {"saveAll",        false, false, QT_TRANSLATE_NOOP("Reasons", "There is nothing to save.")},
     {"reload",         false, false, QT_TRANSLATE_NOOP("Reasons", "The script has no file yet.")},
     {"replace",        true,  false, nullptr},
@@ -92,6 +92,14 @@ QAction* ActionFor(UINT command, const QMainWindow& window)
     return nullptr;
 }
 
+const Row* RowOf(const QString& command)
+{
+    const auto* row = std::find_if(std::begin(kRows), std::end(kRows), [&](const Row& candidate) {
+        return command == QLatin1String(candidate.command);
+    });
+    return row == std::end(kRows) ? nullptr : row;
+}
+
 constexpr const char* kWithoutScript[] = {"reopenClosed",  "saveAll", "lastUsed",
                                           "longestUnused", "next",    "previous"};
 
@@ -100,17 +108,21 @@ constexpr const char* kWithoutScript[] = {"reopenClosed",  "saveAll", "lastUsed"
 QString WhyDisabled(const QString& command, CZNCoreEditorControlEx* editor)
 {
     const auto isIt = [&](const char* name) { return command == QLatin1String(name); };
-    const auto* row = std::find_if(std::begin(kRows), std::end(kRows),
-                                   [&](const Row& candidate) { return isIt(candidate.command); });
-    const bool isKnown = row != std::end(kRows);
+    const Row* row = RowOf(command);
     if (!editor && std::none_of(std::begin(kWithoutScript), std::end(kWithoutScript), isIt))
         return Texts::tr("No script is open.");
-    if (editor && editor->GetReadOnly(1) && (!isKnown || row->changesText))
+    if (editor && IsDisabledAsReadOnly(command, *editor))
         return Texts::tr("The script is read-only.");
-    if (editor && isKnown && row->needsSelection && !editor->IsSelection())
+    if (editor && row && row->needsSelection && !editor->IsSelection())
         return Texts::tr("Nothing is selected.");
-    return isKnown && row->reason ? Texts::tr(row->reason)
-                                  : Texts::tr("The script has nothing here to do this with.");
+    return row && row->reason ? Texts::tr(row->reason)
+                              : Texts::tr("The script has nothing here to do this with.");
+}
+
+bool IsDisabledAsReadOnly(const QString& command, CZNCoreEditorControlEx& editor)
+{
+    const Row* row = RowOf(command);
+    return editor.GetReadOnly(1) && (!row || row->changesText);
 }
 
 void ExplainEntries(const QMenu& menu, CZNCoreEditorControlEx* editor)

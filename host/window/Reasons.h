@@ -14,6 +14,9 @@ class QMainWindow;
 // script in front, null if there is none.
 QString WhyDisabled(const QString& command, CZNCoreEditorControlEx* editor);
 
+// Whether that is so because its script is read-only.
+bool IsDisabledAsReadOnly(const QString& command, CZNCoreEditorControlEx& editor);
+
 // Gives the entries of a menu their status tips: why they are disabled, nothing for the others.
 void ExplainEntries(const QMenu& menu, CZNCoreEditorControlEx* editor);
 

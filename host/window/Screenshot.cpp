@@ -68,6 +68,12 @@ public:
         return false;
     }
 
+    bool ConfirmComparing(QWidget* parent, const QString& text, const QString& doIt,
+                          const Comparison&) override
+    {
+        return Confirm(parent, text, doIt);
+    }
+
     Answer Ask(HWND, const QString& text, Buttons buttons) override
     {
         Report(text);

@@ -17,7 +17,13 @@
 #include <QLabel>
 #include <QStatusBar>
 
+#include <algorithm>
+#include <iterator>
+#include <utility>
+
 namespace {
+
+constexpr int kBetween = 6; // pixels from field to field
 
 QString LanguageName(int language)
 {
@@ -51,6 +57,45 @@ StatusIndicators::StatusIndicators(QStatusBar* bar)
 {
     bar->addWidget(m_path, 1); // a message stands in its place for a while
     connect(m_path, &PathField::Chosen, this, [this] { Q_EMIT Chosen(m_path->objectName()); });
+    connect(bar, &QStatusBar::messageChanged, this, &StatusIndicators::MakeRoom);
+    bar->setMinimumWidth(1); // a window is not as wide as all fields need, they give way
+    bar->installEventFilter(this);
+}
+
+// A message has the room that it needs, and the path some of it: fields give way, first those that
+// say nothing, then the least important, and the place of the caret to a message alone. A message
+// is there as a tip as well.
+void StatusIndicators::MakeRoom()
+{
+    constexpr int kAir = 40;   // pixels, of both ends and the size grip
+    constexpr int kPath = 120; // pixels, enough for most names
+    const QString message = m_bar->currentMessage();
+    m_bar->setToolTip(message);
+    const QSize room = static_cast<const QWidget*>(m_path)->sizeHint();
+    int missing = kAir - m_bar->width();
+    missing += message.isEmpty() ? std::min(room.width(), kPath)
+                                 : m_bar->fontMetrics().horizontalAdvance(message);
+    QList<const QLabel*> shown;
+    for (const QLabel* label : std::as_const(m_labels)) {
+        if (m_unwanted.contains(label))
+            continue;
+        shown << label;
+        missing += label->parentWidget()->width() + kBetween;
+    }
+    QList<const QLabel*> yielding;
+    std::ranges::copy_if(shown, std::back_inserter(yielding),
+                         [](const QLabel* label) { return label->text().isEmpty(); });
+    yielding << m_overtype << m_zoom << m_indentation << m_lineEnds << m_encoding << m_language
+             << m_catalog << m_modified;
+    if (!message.isEmpty())
+        yielding << m_caret;
+    yielding << m_readOnly << m_problems << m_recording;
+    for (const QLabel* label : std::as_const(yielding)) {
+        if (missing > 0 && shown.removeOne(label))
+            missing -= label->parentWidget()->width() + kBetween;
+    }
+    for (const QLabel* label : std::as_const(m_labels))
+        label->parentWidget()->setVisible(shown.contains(label));
 }
 
 // As wide as its widest text from the start, so that the fields beside it do not jump. A label
@@ -70,11 +115,17 @@ QLabel* StatusIndicators::AddField(const char* name, const QString& widest, cons
     FitField(*label);
     label->clear();
     m_bar->addPermanentWidget(field);
+    m_labels << label;
     return label;
 }
 
 bool StatusIndicators::eventFilter(QObject* watched, QEvent* event)
 {
+    if (watched == m_bar) {
+        if (event->type() == QEvent::Resize)
+            MakeRoom();
+        return false;
+    }
     if (event->type() == QEvent::MouseButtonRelease &&
         !static_cast<QLabel*>(watched)->text().isEmpty())
         Q_EMIT Chosen(watched->objectName());
@@ -104,7 +155,10 @@ void StatusIndicators::Put(QLabel& label, const QString& text)
 void StatusIndicators::PutIfAny(QLabel& label, const QString& text)
 {
     Put(label, text);
-    label.parentWidget()->setVisible(!text.isEmpty());
+    if (text.isEmpty())
+        m_unwanted.insert(&label);
+    else
+        m_unwanted.remove(&label);
 }
 
 void StatusIndicators::Show(const ScriptFrame* frame)
@@ -116,6 +170,7 @@ void StatusIndicators::Show(const ScriptFrame* frame)
              {m_recording, m_readOnly, m_modified, m_problems, m_caret, m_catalog, m_language,
               m_encoding, m_lineEnds, m_indentation, m_zoom, m_overtype})
             label->clear();
+        MakeRoom();
         return;
     }
     const SaveTarget target = script->CurrentTarget();
@@ -134,4 +189,5 @@ void StatusIndicators::Show(const ScriptFrame* frame)
     Put(*m_indentation, IndentationText(editor));
     Put(*m_zoom, ZoomText(editor));
     Put(*m_overtype, editor.GetOvertype(1) ? tr("OVR") : tr("INS"));
+    MakeRoom();
 }

@@ -2,11 +2,14 @@
 // The fields of the status bar, beside and right of its messages.
 #pragma once
 
+#include <QList>
 #include <QObject>
+#include <QSet>
 
 class PathField;
 class QLabel;
 class QStatusBar;
+class QWidget;
 class ScriptFrame;
 
 class StatusIndicators final : public QObject
@@ -14,6 +17,8 @@ class StatusIndicators final : public QObject
     Q_OBJECT
 
 public:
+    static constexpr int kSentenceTime = 10000; // milliseconds, of a message of some length
+
     explicit StatusIndicators(QStatusBar* bar);
 
     void Show(const ScriptFrame* frame); // null: all empty
@@ -26,12 +31,15 @@ protected:
 
 private:
     QLabel* AddField(const char* name, const QString& widest, const char* toolTip);
+    void MakeRoom();
     static void FitField(QLabel& label);
     static void Put(QLabel& label, const QString& text);
-    static void PutIfAny(QLabel& label, const QString& text);
+    void PutIfAny(QLabel& label, const QString& text);
 
     QStatusBar* m_bar;
     PathField* m_path;
+    QList<const QLabel*> m_labels;  // from left to right
+    QSet<const QLabel*> m_unwanted; // say nothing, and take no room
     QLabel* m_recording;
     QLabel* m_readOnly;
     QLabel* m_modified;

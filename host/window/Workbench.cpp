@@ -135,9 +135,16 @@ bool Workbench::MayOpen(const QString& path)
     return false;
 }
 
+void Workbench::TellBeforeOpening(const QString& path) const
+{
+    if (m_beforeOpening && !m_isResuming)
+        m_beforeOpening(path);
+}
+
 CDocument* Workbench::OpenDocumentFile(const QString& path)
 {
     const QString absolute = QFileInfo(path).absoluteFilePath();
+    TellBeforeOpening(absolute);
     if (FindOpen(absolute))
         return CWinApp::OpenDocumentFile(absolute);
     if (!MayOpen(absolute))
@@ -227,8 +234,22 @@ void Workbench::RecoverFor(ScriptDoc& script)
     }
 }
 
+CDocument* Workbench::OpenResumed(const QString& path, int encoding)
+{
+    if (!MayOpen(path))
+        return nullptr;
+    const FrameworkCall call;
+    const ScriptDoc::OpenAs as(encoding);
+    const OpenGuard::Mark mark = m_guard.Open(path);
+    m_isResuming = true;
+    CDocument* document = CWinApp::OpenDocumentFile(path);
+    m_isResuming = false;
+    return document && !document->IsClosed() ? document : nullptr;
+}
+
 CDocument* Workbench::OpenScript(const QString& path, int encoding)
 {
+    TellBeforeOpening(path);
     if (ScriptDoc* open = FindOpen(path); open && encoding >= 0) {
         OpenDocumentFile(path);
         return open->Reopen(encoding) ? open : nullptr;
@@ -239,7 +260,7 @@ CDocument* Workbench::OpenScript(const QString& path, int encoding)
 
 void Workbench::AddToRecentFileList(const QString& path)
 {
-    if (m_keeps == Keeps::Places)
+    if (m_keeps == Keeps::Places && !m_isResuming)
         m_recent.Add(path);
 }
 
@@ -259,6 +280,7 @@ void Workbench::OnOpenAs()
         WindowOf(*this), hasFile ? script->GetPathName() : FolderToStartIn(script));
     if (!choice)
         return;
+    TellBeforeOpening(choice->path);
     ScriptDoc* open = FindOpen(choice->path);
     if (!open || choice->encoding >= 0)
         OpenScript(choice->path, choice->encoding);

@@ -14,6 +14,9 @@
 
 #include <QList>
 
+#include <functional>
+#include <utility>
+
 class ScriptDoc;
 class ScriptFrame;
 
@@ -32,6 +35,13 @@ public:
     // was not wanted.
     CDocument* OpenDocumentFile(const QString& path) override;
     CDocument* OpenScript(const QString& path, int encoding = -1); // -1: detect it
+    // What was open in the last run: it is recent already, and its copies were asked about.
+    CDocument* OpenResumed(const QString& path, int encoding);
+    // Who knows of scripts that are still to be resumed may do so with one that is asked for.
+    void BeforeOpening(std::function<void(const QString& path)> call)
+    {
+        m_beforeOpening = std::move(call);
+    }
     void NewScript() { OnFileNew(); }
     void AddToRecentFileList(const QString& path) override;
 
@@ -53,6 +63,8 @@ public:
     void ChooseScheme(const QString& name);
     void OpenPreferences();
     RecentFiles& Recent() { return m_recent; }
+    // What later starts have asked for, one list of words for each, until a window opens it.
+    QList<QStringList>& Asked() { return m_asked; }
 
 protected:
     const CommandMap& GetCommandMap() const override;
@@ -60,6 +72,7 @@ protected:
 private:
     void OnOpen();
     void OnOpenAs();
+    void TellBeforeOpening(const QString& path) const;
     bool MayOpen(const QString& path);
     CDocument* OpenGuarded(const QString& absolute);
     QList<RecoverableCopy> AskAbout(LeftCopies& copies);
@@ -74,5 +87,8 @@ private:
     RecentFiles m_recent;
     WorkbenchPreferences m_preferences;
     QList<RecoverableCopy> m_toRecover;
+    QList<QStringList> m_asked;
+    std::function<void(const QString& path)> m_beforeOpening;
     bool m_isStarting = false; // between the choice and the recovery
+    bool m_isResuming = false;
 };

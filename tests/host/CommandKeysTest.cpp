@@ -84,6 +84,17 @@ TEST_F(CommandKeysOfPeople, AreAskedForByEnterAndKeptForTheNextStart)
     EXPECT_TRUE(atTheNextStart.IsChanged(next));
 }
 
+TEST_F(CommandKeysOfPeople, LeaveTheKeyboardToAFilterThatIsTypedInMeanwhile)
+{
+    Ask(QStringLiteral("go to line"));
+    Words().setFocus();
+    Words().selectAll();
+    QTest::keyClick(Dialog().focusWidget(), Qt::Key_D);
+    QTest::keyClick(Dialog().focusWidget(), Qt::Key_U);
+    EXPECT_EQ(Words().text(), "du");
+    EXPECT_FALSE(Find<QKeySequenceEdit>("newKey").isVisible());
+}
+
 TEST_F(CommandKeysOfPeople, AreTakenFromAnotherCommandOnlyWhenThePersonSaysSo)
 {
     Ask(QStringLiteral("go to line"));
@@ -95,6 +106,18 @@ TEST_F(CommandKeysOfPeople, AreTakenFromAnotherCommandOnlyWhenThePersonSaysSo)
     Press(Qt::Key_D, Qt::ControlModifier);
     EXPECT_EQ(KeysOf("goToLine"), "Ctrl+D");
     EXPECT_EQ(KeysOf("duplicate"), "");
+}
+
+TEST_F(CommandKeysOfPeople, AreTakenFromTheTextOnlyWhenThePersonSaysSo)
+{
+    Ask(QStringLiteral("go to line"));
+    Press(Qt::Key_Left, Qt::ControlModifier);
+    ASSERT_EQ(m_prompts.asked.size(), 1);
+    EXPECT_TRUE(m_prompts.asked.front().contains("Word Left"));
+    EXPECT_EQ(KeysOf("goToLine"), "Ctrl+G");
+    m_prompts.confirm = true;
+    Press(Qt::Key_Left, Qt::ControlModifier);
+    EXPECT_EQ(KeysOf("goToLine"), "Ctrl+Left");
 }
 
 TEST_F(CommandKeysOfPeople, AreNoneThatTypeMoveOrOpenAMenu)

@@ -79,6 +79,40 @@ TEST_F(CompletionStory, ControlAndSpaceOpenItForTwoLetters)
     ExpectSaved("alpha_two");
 }
 
+TEST_F(CompletionStory, TabTakesATableOfAnotherScript)
+{
+    Keys({"ctrl+n"});
+    Type("create table sales_order (id int);");
+    Keys({"Escape", "ctrl+Tab"});
+    Type("select * from sal");
+    ASSERT_TRUE(Eventually([this] { // the other script may not be read yet
+        if (!IsListThere()) {
+            Keys({"BackSpace"});
+            Type("l");
+        }
+        return IsListThere();
+    }));
+    Keys({"Tab"});
+    ExpectSaved("select * from sales_order");
+}
+
+TEST_F(CompletionStory, EscapeInTheFormOfATemplateLeavesItsName)
+{
+    Type("del");
+    Keys({"Escape", "Tab"});
+    QString form;
+    ASSERT_TRUE(Eventually([&form] {
+        form = Visible("^Insert Template$");
+        return !form.isEmpty();
+    }));
+    XDoTool({"windowfocus", "--sync", form});
+    Type("orders");
+    Keys({"Return", "Escape"});
+    ASSERT_TRUE(Eventually([] { return Visible("^Insert Template$").isEmpty(); }));
+    XDoTool({"windowfocus", "--sync", m_windowId});
+    ExpectSaved("del");
+}
+
 TEST_F(CompletionStory, KeepsOutOfCommentsAndStrings)
 {
     Type("-- alph");

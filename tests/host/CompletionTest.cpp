@@ -1,10 +1,10 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 // Completion, templates and macros of the workbench.
 #include "completion/popup/LiveIndex.h"
-#include "docview/dialogs/InputBox.h"
 #include "editing/language/EditorCompletion.h"
 #include "editing/operations/Macro.h"
 #include "host/completion/MacroFile.h"
+#include "host/completion/TemplateForm.h"
 #include "host/completion/TemplateStore.h"
 #include "tests/host/WorkbenchTest.h"
 #include "tests/platform/file/FullDisk.h"
@@ -14,6 +14,7 @@
 #include <QListView>
 #include <QListWidget>
 #include <QPlainTextEdit>
+#include <QScreen>
 #include <QStatusBar>
 #include <QTest>
 #include <QTimer>
@@ -57,23 +58,38 @@ protected:
         return rows;
     }
 
-    // Each prompt gets the next answer.
+    // The form of a template gets the answers; a null one cancels it. Keeps what it asks for.
     void Answer(QStringList answers)
     {
         m_answers = std::move(answers);
         m_clock.setInterval(0);
         QObject::connect(&m_clock, &QTimer::timeout, &m_window, [this] {
-            QWidget* box = QApplication::activeModalWidget();
-            auto* edit = box ? box->findChild<QLineEdit*>() : nullptr;
-            if (!edit || m_answers.isEmpty())
+            QWidget* form = QApplication::activeModalWidget();
+            if (!form || m_asked++ > 0)
                 return;
-            edit->setText(m_answers.takeFirst());
-            QTest::keyClick(edit, Qt::Key_Return);
+            m_names = NamesOf(*form);
+            m_textMeanwhile = Text();
+            for (const QString& answer : std::as_const(m_answers)) {
+                auto* edit = qobject_cast<QLineEdit*>(form->focusWidget());
+                ASSERT_TRUE(edit);
+                edit->setText(answer);
+                QTest::keyClick(edit, answer.isNull() ? Qt::Key_Escape : Qt::Key_Return);
+            }
         });
         m_clock.start();
     }
+    static QStringList NamesOf(const QWidget& form)
+    {
+        QStringList names;
+        for (const auto* edit : form.findChildren<QLineEdit*>())
+            names << edit->accessibleName();
+        return names;
+    }
 
     QStringList m_answers;
+    QStringList m_names;
+    QString m_textMeanwhile;
+    int m_asked = 0;
     QTimer m_clock;
 };
 
@@ -168,6 +184,51 @@ TEST_F(Completion, PutsATemplateInBehindItsShortNameAndTab)
     EXPECT_EQ(Text(), QStringLiteral("del"));
 }
 
+TEST_F(Completion, InsertsNothingIfATemplatesQuestionsAreCancelled)
+{
+    Show("del|");
+    Answer({QStringLiteral("orders"), QString()});
+    Press(Qt::Key_Tab);
+    EXPECT_EQ(m_asked, 1);
+    EXPECT_EQ(m_names, QStringList({QStringLiteral("Table"), QStringLiteral("Condition")}));
+    EXPECT_EQ(m_textMeanwhile, QStringLiteral("del"));
+    EXPECT_EQ(Text(), QStringLiteral("del"));
+    EXPECT_FALSE(Editor().CanUndo(1));
+}
+
+TEST(TemplateForm, AsksOnceForWhatATemplateHasTwice)
+{
+    ASSERT_EQ(TemplateForm::NamesIn({QStringLiteral("^#a#^ ^#b c#^^!"), QStringLiteral("^#a#^")}),
+              QStringList({QStringLiteral("a"), QStringLiteral("b c")}));
+    const completion::CodeTemplate made{"x", "y", {"^#a#^ ^! ^#b#^", "<^#a#^>"}};
+    TemplateForm form(made, {QStringLiteral("a"), QStringLiteral("b")}, nullptr);
+    const auto edits = form.findChildren<QLineEdit*>();
+    ASSERT_EQ(edits.size(), 2);
+    edits[0]->setText(QStringLiteral("^#b#^"));
+    EXPECT_EQ(form.Filled(made.lines), QStringList({"^#b#^ ^! ", "<^#b#^>"}));
+}
+
+TEST_F(Completion, ProposesTheTablesOfTheOtherScripts)
+{
+    Open("schema.sql", "create table sales_order (id int, amount int);");
+    Open("query.sql", "select o. from sales_order o");
+    Editor().GotoPos(9, 1);
+    const auto rows = [this] {
+        Trigger("completeWord");
+        return Rows();
+    };
+    EXPECT_TRUE(QTest::qWaitFor([&] {
+        return rows() == QStringList({QStringLiteral("id"), QStringLiteral("amount")});
+    })) << Rows().join(u' ').toStdString();
+    Editor().SetText(u"select * from ", 1);
+    Editor().GotoPos(14, 1);
+    Keys("sal");
+    ASSERT_TRUE(IsOpen());
+    EXPECT_EQ(Rows().join(u' ').toStdString(), "sales_order");
+    Press(Qt::Key_Tab);
+    EXPECT_EQ(Text(), QStringLiteral("select * from sales_order"));
+}
+
 TEST_F(Completion, LeavesTabToTheEditorBehindAnyOtherWord)
 {
     Show("delx|");
@@ -221,6 +282,24 @@ TEST_F(Completion, ListsAllTemplatesBehindAWordThatBeginsNone)
     EXPECT_EQ(list->findChild<QLineEdit*>()->text(), QString());
     EXPECT_GT(list->findChild<QListWidget*>()->count(), 5);
     list->close();
+}
+
+TEST_F(Completion, ListsTemplatesInsideTheWindow)
+{
+    Show("|");
+    for (const QRect place : {QRect(300, 200, 400, 300), QRect(500, 300, 600, 700)}) {
+        m_window.setGeometry(place); // of a screen of 800 by 800
+        QApplication::processEvents();
+        Trigger("insertTemplate");
+        auto* list = m_window.findChild<QDialog*>(QStringLiteral("templateList"));
+        ASSERT_TRUE(list);
+        EXPECT_TRUE(m_window.geometry().contains(list->geometry()));
+        EXPECT_TRUE(m_window.screen()->geometry().contains(list->geometry()));
+        EXPECT_GE(list->width(), 280);
+        list->close();
+        Disposal::Run();
+        QApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+    }
 }
 
 TEST_F(Completion, OpensAFileOfTemplatesOfOnesOwn)
@@ -280,6 +359,22 @@ TEST_F(Completion, SaysThatAMacroIsRecordedUntilItIsStoppedWhateverIsClosed)
     EXPECT_EQ(Status("recording"), QString());
     Trigger("playMacro");
     EXPECT_EQ(Text(), QStringLiteral("abc"));
+    FreeMacro();
+}
+
+TEST_F(Completion, RecordsNothingBehindTheEndOfAMacroThatWasGivenInAnotherScript)
+{
+    Show("|");
+    Trigger("recordMacro");
+    Keys("ab");
+    Trigger("new");
+    Trigger("recordMacro");
+    m_window.ShowTab(0);
+    Keys("c");
+    Trigger("playMacro");
+    EXPECT_EQ(Text(), QStringLiteral("abcab"));
+    Trigger("playMacro");
+    EXPECT_EQ(Text(), QStringLiteral("abcabab"));
     FreeMacro();
 }
 

@@ -1,8 +1,9 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 // A workbench in which somebody types into the given scripts (--new: one without a name; --text and
-// --language: what is typed, and in what), and which is killed as soon as the copies of that have
-// been written. With --recover it first brings back what the last one left. With "opening" behind
-// the script it is killed while it opens it.
+// --language: what is typed, and in what; --others: what others write to the file after it was
+// read), and which is killed as soon as the copies of that have been written. With --recover it
+// first brings back what the last one left. With "opening" behind the script it is killed while it
+// opens it.
 #include "editing/ZNCoreEditorControlEx.h"
 #include "host/script/ScriptDoc.h"
 #include "host/script/ScriptFrame.h"
@@ -13,6 +14,7 @@
 
 #include <QApplication>
 #include <QEvent>
+#include <QFile>
 
 #include <csignal>
 
@@ -58,15 +60,19 @@ int TypeAndDie(Workbench& app, MainWindow& window, ScriptedPrompts& prompts,
                const QStringList& words)
 {
     std::u16string text = u"-- typed\n";
+    QByteArray others;
     int language = -1;
     for (int i = 0; i < words.size(); ++i) {
         if (words[i] == QLatin1String("--text"))
             text = words[++i].toStdU16String();
         else if (words[i] == QLatin1String("--language"))
             language = words[++i].toInt();
+        else if (words[i] == QLatin1String("--others"))
+            others = words[++i].toUtf8();
     }
     for (int i = 0; i < words.size(); ++i) {
-        if (words[i] == QLatin1String("--text") || words[i] == QLatin1String("--language")) {
+        if (words[i] == QLatin1String("--text") || words[i] == QLatin1String("--language") ||
+            words[i] == QLatin1String("--others")) {
             ++i;
             continue;
         }
@@ -80,6 +86,8 @@ int TypeAndDie(Workbench& app, MainWindow& window, ScriptedPrompts& prompts,
             app.NewScript();
         else if (!app.OpenDocumentFile(words[i]))
             return 1;
+        if (QFile file(words[i]); !others.isEmpty() && file.open(QIODevice::Append))
+            file.write(others);
         if (language >= 0)
             window.CurrentFrame()->Script()->SetLanguage(language);
         window.CurrentFrame()->Editor().ReplaceSel(text.c_str(), 1);

@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "host/files/Encodings.h"
 
+#include "control/ZNCoreEditorControl.h"
+
 #include <gtest/gtest.h>
 
 #include <set>
@@ -34,12 +36,34 @@ TEST(EncodingChoices, KnowNoMarkForACodePage)
 {
     EXPECT_EQ(EncodingName(0, false), QStringLiteral("windows-1252"));
     EXPECT_EQ(EncodingName(0, true), QStringLiteral("windows-1252"));
+    EXPECT_EQ(EncodingName(1251, true), QStringLiteral("windows-1251"));
 }
 
 TEST(EncodingChoices, FallBackToUtf8AndSayThatTheyDoNotKnow)
 {
     EXPECT_EQ(EncodingChoices()[size_t(IndexOfEncoding(77, false))].encoding, 6);
     EXPECT_EQ(EncodingName(-1, false), QStringLiteral("Unknown encoding"));
+}
+
+// Each of them has to be one that the library converts.
+TEST(EncodingChoices, AreWhatAControlIsSetToAndSays)
+{
+    CZNCoreEditorControl control;
+    for (const EncodingChoice& choice : EncodingChoices()) {
+        SetEncodingOf(control, choice.encoding);
+        EXPECT_EQ(EncodingOf(control), choice.encoding) << choice.name;
+        EXPECT_TRUE(IsEncoding(choice.encoding)) << choice.name;
+    }
+    EXPECT_FALSE(IsEncoding(3));
+    EXPECT_FALSE(IsEncoding(1200));
+}
+
+TEST(EncodingChoices, SayWhatIsWrittenInACodePage)
+{
+    EXPECT_EQ(EncodingTitle(EncodingChoices()[size_t(IndexOfEncoding(866, false))]),
+              QStringLiteral("IBM866 (Cyrillic)"));
+    EXPECT_EQ(EncodingTitle(EncodingChoices()[size_t(IndexOfEncoding(6, false))]),
+              QStringLiteral("UTF-8"));
 }
 
 TEST(LineEndNames, FollowTheModesOfTheControl)

@@ -113,6 +113,32 @@ TEST_F(ExpandedScripts, ListVariablesThatNothingDefines)
     EXPECT_EQ(Script().Name(), "part.sql");
 }
 
+TEST_F(ExpandedScripts, SayThatTheyAreOutOfDateAndLeadNowhereUntilTheyAreRenewed)
+{
+    const auto* hint = m_window.findChild<QLabel*>("includeHint");
+    Open("main.sql", "#define &&A sales\nselect &&A\n");
+    Trigger("expand");
+    EXPECT_FALSE(hint->isVisible());
+    const QString caption = Pane().windowTitle();
+    Editor().InsertText(0, u"-- \n-- ", 1);
+    EXPECT_EQ(Pane().windowTitle(), caption + " (out of date)");
+    EXPECT_TRUE(hint->isVisible());
+    EXPECT_FALSE(m_window.findChild<QAction*>("goToSource")->isEnabled());
+    const auto line = [this] { return Editor().LineFromPosition(Editor().GetCurrentPos(1), 1); };
+    const auto kept = line();
+    Result().GotoLine(1, 1);
+    Pane().GoToSource();
+    EXPECT_EQ(line(), kept);
+    Trigger("expand");
+    EXPECT_TRUE(Pane().isVisible()) << "renewed, not closed";
+    EXPECT_EQ(Pane().windowTitle(), caption);
+    EXPECT_TRUE(m_window.findChild<QAction*>("goToSource")->isEnabled());
+    EXPECT_EQ(Result().GetText(), "-- \n-- #define &&A sales\nselect &&A\n");
+    Result().GotoLine(2, 1);
+    Pane().GoToSource();
+    EXPECT_EQ(line(), 2);
+}
+
 TEST_F(ExpandedScripts, TellWhereFilesAreLookedForIfOneIsMissing)
 {
     Open("main.sql", "#include gone.sql\n");
@@ -121,6 +147,23 @@ TEST_F(ExpandedScripts, TellWhereFilesAreLookedForIfOneIsMissing)
     Write("gone.sql", "part\n");
     Trigger("expand");
     EXPECT_FALSE(m_window.findChild<QLabel*>("includeHint")->isVisible());
+}
+
+TEST_F(ExpandedScripts, TellThatNothingWasExpanded)
+{
+    const auto* hint = m_window.findChild<QLabel*>("includeHint");
+    Open("main.sql", "\\i sub/more.sql\nselect 1;\n");
+    Trigger("expand");
+    EXPECT_EQ(Result().GetText(), "\\i sub/more.sql\nselect 1;\n");
+    EXPECT_TRUE(hint->isVisible());
+    EXPECT_TRUE(hint->text().startsWith("Nothing was expanded."));
+    Open("named.sql", "#define &&A 1\nselect &&A;\n");
+    Trigger("expand");
+    EXPECT_FALSE(hint->isVisible());
+    Open("missing.sql", "select &&B;\n");
+    Trigger("expand");
+    EXPECT_TRUE(Errors().isVisible());
+    EXPECT_FALSE(hint->isVisible());
 }
 
 TEST_F(ExpandedScripts, OfferWhatIsPossible)
@@ -165,6 +208,24 @@ TEST_F(ExpandedScripts, LeadFromAnErrorToItsLine)
     EXPECT_EQ(Editor().LineFromPosition(Editor().GetCurrentPos(1), 1), 1);
 }
 
+TEST_F(ExpandedScripts, GoByTheirOwnKeyUnlessThereIsSomethingElseToShow)
+{
+    Open("main.sql", "select 1;\n");
+    const auto* pane = m_window.findChild<ExpandedScript*>();
+    Trigger("expand");
+    EXPECT_TRUE(pane->isVisible());
+    Trigger("expand");
+    EXPECT_FALSE(pane->isVisible());
+    Trigger("expand");
+    EXPECT_TRUE(pane->isVisible());
+    Type(u"x");
+    Trigger("expand");
+    EXPECT_TRUE(pane->isVisible()) << "it shows what was typed";
+    Open("other.sql", "select 2;\n");
+    Trigger("expand");
+    EXPECT_TRUE(pane->isVisible()) << "and the other script";
+}
+
 TEST_F(ExpandedScripts, AreReachedAndLeftByKeys)
 {
     Open("main.sql", "\n#include gone.sql\n");
@@ -187,6 +248,9 @@ TEST_F(ExpandedScripts, AreReachedAndLeftByKeys)
         ASSERT_NE(m_window.focusWidget(), text);
         QTest::keyClick(m_window.focusWidget(), Qt::Key_Escape);
         EXPECT_EQ(m_window.focusWidget(), text) << steps;
+        EXPECT_EQ(m_window.findChild<ExpandedScript*>()->isVisible(), steps == 3) << steps;
+        if (steps < 3)
+            Trigger("expand");
     }
 
     Trigger("nextArea");
@@ -194,6 +258,24 @@ TEST_F(ExpandedScripts, AreReachedAndLeftByKeys)
     QTest::keyClick(Result().GetSafeHwnd(), Qt::Key_Return);
     EXPECT_EQ(m_window.focusWidget(), text);
     EXPECT_EQ(Editor().LineFromPosition(Editor().GetCurrentPos(1), 1), 1);
+}
+
+TEST_F(ExpandedScripts, ComeAndGoInTheViewMenuWithTheScriptAsItIs)
+{
+    auto& shown = Action("expandedScriptPane");
+    EXPECT_FALSE(shown.isEnabled()) << "there is no script";
+    Open("main.sql", "select 1;\n");
+    const auto* pane = m_window.findChild<ExpandedScript*>();
+    for (const char16_t* typed : {u"a", u"b"}) {
+        Type(typed);
+        EXPECT_TRUE(shown.isEnabled() && !shown.isChecked());
+        Trigger("expandedScriptPane");
+        EXPECT_TRUE(pane->isVisible() && shown.isChecked());
+        EXPECT_EQ(Result().GetText(), Text());
+        EXPECT_EQ(shown.text(), "E&xpanded Script") << "not the title, which names the script";
+        Trigger("expandedScriptPane");
+        EXPECT_FALSE(pane->isVisible());
+    }
 }
 
 TEST_F(ExpandedScripts, PutTheOriginalBack)

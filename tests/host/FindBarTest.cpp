@@ -2,6 +2,7 @@
 // The find bar over an editor of its own: what it finds, selects, replaces and says.
 #include "host/finding/FindBar.h"
 
+#include "control/EngineLooks.h"
 #include "editing/ZNCoreEditorControlEx.h"
 #include "editing/ZNCoreEditorWidget.h"
 #include "host/finding/ExpressionHelp.h"
@@ -270,6 +271,44 @@ TEST_F(FindBars, StayInTheSelection)
     EXPECT_EQ(widget.text(), QStringLiteral("one\none one\none"));
 }
 
+TEST_F(FindBars, KeepTheSelectionTheySearchWhileTheTextIsEdited)
+{
+    SetText("one\none one\none");
+    Seek("one");
+    editor->SetSel(4, 11, 1);
+    Set("inSelection", true);
+    editor->InsertText(0, u"one\n", 1);
+    editor->InsertText(11, u" one", 1);
+    bar.Count();
+    EXPECT_EQ(Result(), "3 found");
+    bar.FindNext();
+    bar.FindPrevious();
+    EXPECT_EQ(Selected(), Range(16, 19));
+    const auto from = [this] { return editor->Call(engine::kMatchesFrom, 0, 0, 1); };
+    EXPECT_EQ(from(), 8);
+    bar.Close();
+    EXPECT_EQ(from(), -1);
+}
+
+TEST_F(FindBars, SearchAllOfTheNextScript)
+{
+    SetText("one\none one\none");
+    bar.Open();
+    Seek("one");
+    editor->SetSel(4, 11, 1);
+    Set("inSelection", true);
+    ZNCoreEditorWidget other;
+    other.setText("one one");
+    editor = &other.control();
+    bar.Update();
+    EXPECT_FALSE(bar.findChild<QCheckBox*>("inSelection")->isChecked());
+    bar.Count();
+    EXPECT_EQ(Result(), "2 found");
+    editor = &widget.control();
+    bar.Update();
+    EXPECT_EQ(editor->Call(engine::kMatchesFrom, 0, 0, 1), -1) << "nor is it framed there";
+}
+
 TEST_F(FindBars, SearchLinesThatAreSelected)
 {
     SetText(QStringLiteral("one\none one\none"));
@@ -389,6 +428,20 @@ TEST_F(FindBars, ReplacesAllInOneStep)
     EXPECT_EQ(widget.text(), QStringLiteral("one two one"));
 }
 
+TEST_F(FindBars, TakeNoLetterOfAButtonThatCannotBePressed)
+{
+    SetText("one");
+    Seek("zz");
+    editor->SetReadOnly(1, 1);
+    bar.Update();
+    Box("findText").setFocus();
+    QTest::keyClick(&Box("findText"), Qt::Key_A, Qt::AltModifier);
+    EXPECT_EQ(Box("findText").currentText(), "zz");
+    QTest::keyClick(&Box("findText"), Qt::Key_A);
+    EXPECT_EQ(Box("findText").currentText(), "zza");
+    editor->SetReadOnly(0, 1);
+}
+
 TEST_F(FindBars, ReplaceAllAndStayAtTheLine)
 {
     SetText(QStringLiteral("one\none\nhere\none"));
@@ -477,6 +530,54 @@ TEST_F(FindBars, HaveOneLineUntilSomethingIsToBeReplaced)
     EXPECT_EQ(editor->GetText(), "1 two");
     RowForReplacing().click();
     EXPECT_FALSE(Box("replaceText").isVisible());
+}
+
+TEST_F(FindBars, HaveTheRowForReplacingOnlyWhereItIsAskedFor)
+{
+    SetText("one two");
+    Action("replace").trigger();
+    EXPECT_TRUE(Box("replaceText").isVisible());
+    Action("find").trigger();
+    EXPECT_FALSE(Box("replaceText").isVisible());
+}
+
+TEST_F(FindBars, LeadFromWhatIsSoughtToWhatItBecomes)
+{
+    SetText("one two");
+    Seek("");
+    const auto press = [this] {
+        Action("replace").trigger();
+        return window.focusWidget();
+    };
+    EXPECT_EQ(press(), &Box("findText"));
+    Seek("");
+    EXPECT_EQ(press(), &Box("findText")) << "which is to be typed first";
+    Seek("two");
+    EXPECT_EQ(press(), &Box("replaceText"));
+    EXPECT_EQ(press(), &Box("findText"));
+    EXPECT_EQ(Box("findText").lineEdit()->selectedText(), "two");
+    bar.findChild<QPushButton*>("replaceAllButton")->setFocus();
+    EXPECT_EQ(press(), &Box("findText"));
+    EXPECT_EQ(editor->GetText(), "one two");
+}
+
+TEST_F(FindBars, PressTheButtonThatHasTheKeyboard)
+{
+    SetText("one two one");
+    bar.Open();
+    Seek("one");
+    ReplaceWith("1");
+    const auto enter = [this](const char* button) {
+        auto* pressed = bar.findChild<QAbstractButton*>(QLatin1String(button));
+        pressed->setFocus();
+        Press(*pressed, Qt::Key_Return);
+    };
+    enter("countMatchesButton");
+    EXPECT_EQ(Result(), "2 found");
+    enter("replaceAllButton");
+    EXPECT_EQ(editor->GetText(), "1 two 1");
+    enter("closeFind");
+    EXPECT_FALSE(bar.isVisible());
 }
 
 TEST_F(FindBars, FindsOnEnter)

@@ -2,10 +2,13 @@
 // Find in Files as the window has it: from the dialog to the place in the script.
 #include "tests/host/WorkbenchTest.h"
 
+#include "host/files/Encodings.h"
 #include "host/finding/ResultsModel.h"
 #include "host/finding/ResultsPane.h"
 #include "host/finding/SearchPlace.h"
+#include "host/session/Session.h"
 #include "platform/dialogs/Dialog.h"
+#include "platform/services/OptionsServer.h"
 #include "prefs/RegProfile.h"
 #include "search/FindReplaceManager.h"
 
@@ -14,12 +17,15 @@
 #include <QComboBox>
 #include <QLineEdit>
 #include <QPushButton>
+#include <QScopeGuard>
 #include <QStatusBar>
 #include <QTest>
 #include <QTimer>
 #include <QTreeView>
 
 #include <unistd.h>
+
+#include <algorithm>
 
 namespace {
 
@@ -42,7 +48,7 @@ protected:
     {
         QTimer::singleShot(0, &m_window, [=, this] {
             auto& dialog = *static_cast<CDialog*>(AttachedWnd(QApplication::activeModalWidget()));
-            dialog.GetDlgItem<QComboBox>(kFindBox)->setEditText(QLatin1String(text));
+            dialog.GetDlgItem<QComboBox>(kFindBox)->setEditText(QString::fromUtf8(text));
             dialog.GetDlgItem<QComboBox>(kTypeBox)->setEditText(QStringLiteral("*.sql"));
             dialog.GetDlgItem<QComboBox>(kFolderBox)->setEditText(m_folder.path());
             if (inOpenFiles)
@@ -54,10 +60,15 @@ protected:
     }
     void Replace(const char* replacement)
     {
-        Pane().Preview(QLatin1String(replacement));
+        Pane().Preview(QString::fromUtf8(replacement));
         ASSERT_TRUE(QTest::qWaitFor([this] { return !Pane().IsSearching(); }));
         Pane().ReplaceChosen();
         ASSERT_TRUE(QTest::qWaitFor([this] { return !Pane().IsReplacing(); }));
+    }
+    QPushButton& Button(const char* text) const
+    {
+        const auto buttons = Pane().findChildren<QPushButton*>();
+        return **std::ranges::find(buttons, QLatin1String(text), &QPushButton::text);
     }
     QAbstractItemModel& Model() const { return *Pane().ListArea()->model(); }
     QModelIndex File(int row) const { return Model().index(row, 0); }
@@ -177,6 +188,42 @@ TEST_F(FindInFilesInWindow, FindsOpenScriptsAsTheyAreEdited)
     Search("it is", true);
     Trigger("nextResult");
     EXPECT_EQ(Editor().GetSelectionStart(1), 5);
+}
+
+TEST_F(FindInFilesInWindow, ComesAndGoesInTheViewMenu)
+{
+    Open("a.sql", "one");
+    Search("one", true);
+    EXPECT_FALSE(Action("findResults2").isVisible()) << "nothing was found there";
+    EXPECT_TRUE(Action("findResults").isVisible() && Action("findResults").isChecked());
+    Trigger("findResults");
+    EXPECT_FALSE(Pane().isVisible());
+    Trigger("findResults");
+    EXPECT_TRUE(Pane().isVisible());
+}
+
+TEST_F(FindInFilesInWindow, FollowsAScriptWithoutAFileToItsSavedPoint)
+{
+    m_app.NewScript();
+    Type(u"one");
+    Search("one", true);
+    EXPECT_EQ(File(0).data().toString(), Script().Name() + "  (1)");
+    Editor().Undo(1);
+    EXPECT_TRUE(
+        QTest::qWaitFor([this] { return File(0).data().toString() == Script().Name() + "  (0)"; }));
+}
+
+TEST_F(FindInFilesInWindow, FindsInScriptsOfTheSessionThatAreNotReadYet)
+{
+    const QString behind = Write("behind.sql", "sought here");
+    const QString front = Write("front.sql", "not here");
+    ASSERT_TRUE(Session({.files = {{.path = behind}, {.path = front}}, .front = 1})
+                    .Store(Session::DefaultPath()));
+    m_window.ResumeSession();
+    ASSERT_TRUE(m_window.IsResuming());
+    Search("sought", true);
+    EXPECT_EQ(Rows(0), QStringList{"1:  sought here"});
+    QFile::remove(Session::DefaultPath());
 }
 
 TEST_F(FindInFilesInWindow, ShowsASearchAsOneTypesInTheStatusBar)
@@ -326,6 +373,147 @@ TEST_F(FindInFilesInWindow, KeepsTheKeysOfTheButtonThatReplaces)
     EXPECT_TRUE(Pane().ListArea()->hasFocus());
 }
 
+TEST_F(FindInFilesInWindow, TellsWhatItSavedFromWhatCanBeUndone)
+{
+    Write("a.sql", "one one");
+    Write("b.sql", "one");
+    Open("c.sql", "one");
+    Search("one");
+    Pane().Preview("two");
+    ASSERT_TRUE(QTest::qWaitFor([this] { return !Pane().IsSearching(); }));
+    const auto row = [this](int file) { return File(file).data().toString(); };
+    EXPECT_EQ(row(0), PathOf("a.sql") + "  (2, not open: is saved at once, no undo)");
+    EXPECT_EQ(row(2), PathOf("c.sql") + "  (1)");
+    Pane().ReplaceChosen();
+    ASSERT_TRUE(QTest::qWaitFor([this] { return !Pane().IsReplacing(); }));
+    const auto labels = Pane().findChildren<QLabel*>();
+    EXPECT_TRUE(std::ranges::any_of(labels, [](const QLabel* label) {
+        return label->text() ==
+               "4 matches replaced: 2 files saved, 1 open script changed, not saved";
+    }));
+    EXPECT_EQ(row(0), PathOf("a.sql") + "  (saved)");
+    EXPECT_EQ(row(2), PathOf("c.sql") + "  (open, not saved)");
+    Trigger("save");
+    EXPECT_EQ(row(2), PathOf("c.sql") + "  (saved)");
+    Editor().Undo(1);
+    EXPECT_TRUE(
+        QTest::qWaitFor([&] { return row(2) == PathOf("c.sql") + "  (1, open, not saved)"; }));
+}
+
+TEST_F(FindInFilesInWindow, PressesTheButtonThatHasTheKeyboard)
+{
+    Write("a.sql", "one");
+    Search("one");
+    const auto enter = [this](const char* text) {
+        for (auto* button : Pane().findChildren<QPushButton*>()) {
+            if (button->text() == text) {
+                button->setFocus();
+                QTest::keyClick(button, Qt::Key_Return);
+            }
+        }
+    };
+    enter("Re&place...");
+    Pane().findChild<QLineEdit*>("replacement")->setText("two");
+    enter("Prev&iew");
+    ASSERT_TRUE(QTest::qWaitFor([this] { return !Pane().IsSearching(); }));
+    EXPECT_EQ(Rows(0), QStringList("1:  onetwo"));
+    enter("&Replace Checked");
+    ASSERT_TRUE(QTest::qWaitFor([this] { return Read("a.sql") == "two"; }));
+}
+
+TEST_F(FindInFilesInWindow, IsWalkedThroughByTabAndNeverLeftByIt)
+{
+    Open("a.sql", "one\n");
+    Search("one");
+    QStringList walked;
+    const auto walk = [&](Qt::Key key) {
+        walked.clear();
+        for (int i = 0; i < 7; ++i) {
+            QTest::keyClick(m_window.focusWidget(), key);
+            const auto* button = qobject_cast<QPushButton*>(m_window.focusWidget());
+            walked << (button ? button->text() : m_window.focusWidget()->metaObject()->className());
+        }
+    };
+    Pane().setFocus();
+    ASSERT_EQ(m_window.focusWidget(), Pane().ListArea());
+    QTest::keyClick(m_window.focusWidget(), Qt::Key_Tab);
+    EXPECT_EQ(m_window.focusWidget(), &Button("Re&place..."));
+    Button("Re&place...").click();
+    Pane().Preview("two");
+    ASSERT_TRUE(QTest::qWaitFor([this] { return !Pane().IsSearching(); }));
+    Pane().setFocus();
+    walk(Qt::Key_Tab);
+    EXPECT_EQ(walked, (QStringList{"Re&place...", "QLineEdit", "Prev&iew", "&Replace Checked",
+                                   "QTreeView", "Re&place...", "QLineEdit"}));
+    walk(Qt::Key_Backtab);
+    EXPECT_EQ(walked, (QStringList{"Re&place...", "QTreeView", "&Replace Checked", "Prev&iew",
+                                   "QLineEdit", "Re&place...", "QTreeView"}));
+    EXPECT_EQ(Text(), "one\n");
+}
+
+TEST_F(FindInFilesInWindow, PutsTheKeyboardIntoTheFieldByEachClickOnReplaceAndClosesItFromThere)
+{
+    Open("a.sql", "one\n");
+    Search("one");
+    auto* field = Pane().findChild<QLineEdit*>("replacement");
+    QPushButton* replaces = &Button("Re&place...");
+    const auto click = [&] { QTest::mouseClick(replaces, Qt::LeftButton); };
+    click();
+    EXPECT_EQ(m_window.focusWidget(), field);
+    m_window.GoToScript();
+    click();
+    EXPECT_EQ(m_window.focusWidget(), field);
+    EXPECT_TRUE(replaces->isChecked());
+    click();
+    EXPECT_FALSE(field->isVisible());
+    EXPECT_FALSE(replaces->isChecked());
+    EXPECT_EQ(m_window.focusWidget(), Pane().ListArea());
+}
+
+TEST_F(FindInFilesInWindow, ShowsInTheSelectedRowWhichMatchItIs)
+{
+    Write("a.sql", "one one\n");
+    Search("one");
+    QTreeView& tree = *Pane().ListArea();
+    ASSERT_EQ(Match(0, 0).data().toString(), Match(0, 1).data().toString());
+    const auto selected = [&](int row) {
+        tree.setCurrentIndex(Match(0, row));
+        return tree.viewport()->grab(tree.visualRect(Match(0, row))).toImage();
+    };
+    const QImage first = selected(0);
+    EXPECT_NE(first, selected(1));
+    EXPECT_EQ(first, selected(0));
+}
+
+TEST_F(FindInFilesInWindow, GroupsTheDigitsOfLargeNumbers)
+{
+    const QLocale kept;
+    const auto back = qScopeGuard([&] { QLocale::setDefault(kept); });
+    QLocale::setDefault(QLocale(QLocale::English));
+    Write("a.sql", QByteArray("one\n").repeated(1234));
+    Search("one");
+    EXPECT_EQ(File(0).data().toString(), PathOf("a.sql") + "  (1,234)");
+    QStringList told;
+    for (const QLabel* label : Pane().findChildren<QLabel*>())
+        told << label->text();
+    EXPECT_TRUE(told.contains("'one': 1,234 matches in 1 of 1 files"))
+        << told.join('|').toStdString();
+}
+
+TEST_F(FindInFilesInWindow, IsReachedByTheKeyOfTheNextAreaAndLeftByIt)
+{
+    Open("a.sql", "one\n");
+    Search("one");
+    m_window.GoToScript();
+    const auto isReached = [this] { return Pane().isAncestorOf(m_window.focusWidget()); };
+    for (int i = 0; i < 8 && !isReached(); ++i)
+        m_window.NextArea();
+    EXPECT_EQ(m_window.focusWidget(), Pane().ListArea());
+    Button("Re&place...").setFocus();
+    m_window.NextArea();
+    EXPECT_FALSE(isReached());
+}
+
 TEST_F(FindInFilesInWindow, ChecksAFileAgainOnceWhatWasLeftOutIsGone)
 {
     Open("a.sql", "one\ntwo one\n");
@@ -352,6 +540,17 @@ TEST_F(FindInFilesInWindow, ReplacesInTheFilesOwnEncoding)
     EXPECT_EQ(Read("a.sql"), "stra\xDF"
                              "e two\n");
     EXPECT_EQ(Read("b.sql"), QByteArray("\xFF\xFEt\0w\0o\0", 8));
+}
+
+TEST_F(FindInFilesInWindow, ReadsAndReplacesInTheCodePageOfTheOptions)
+{
+    CZNOptionsServer& options = *CZNOptionsServer::GetObjectW();
+    options.SetInt(kCodePageOption, 1251);
+    const auto restored = qScopeGuard([&] { options.SetInt(kCodePageOption, 0); });
+    Write("a.sql", "\xCF\xF0 one\n");
+    Search("\u041F\u0440");
+    Replace("\u042F");
+    EXPECT_EQ(Read("a.sql"), "\xDF one\n");
 }
 
 TEST_F(FindInFilesInWindow, ReportsWhatWasNotReplaced)

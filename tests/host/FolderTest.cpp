@@ -8,6 +8,7 @@
 #include <QDir>
 #include <QFileSystemModel>
 #include <QLineEdit>
+#include <QLocale>
 #include <QMenu>
 #include <QTest>
 #include <QTreeView>
@@ -152,6 +153,35 @@ TEST_F(Folders, ListFilesByAPartOfTheirNames)
     EXPECT_TRUE(Shows({"[a].sql"})) << Rows().join(' ').toStdString();
     QTest::keyClick(&Words(), Qt::Key_Return);
     EXPECT_EQ(Script().Name(), "[a].sql");
+}
+
+TEST_F(Folders, AreEnteredFromTheFilterAtTheirFirstRow)
+{
+    Show();
+    Words().setText("r");
+    ASSERT_TRUE(Shows({"sub", "readme.txt", "report.sql"}));
+    QTest::keyClick(&Words(), Qt::Key_Down);
+    EXPECT_EQ(List().currentIndex().data().toString(), "sub");
+    List().setCurrentIndex(At("report.sql"));
+    QTest::keyClick(&Words(), Qt::Key_Down);
+    EXPECT_EQ(List().currentIndex().data().toString(), "report.sql");
+    Words().setText("readme");
+    ASSERT_TRUE(QTest::qWaitFor([this] { return !Rows().contains("report.sql"); }));
+    QTest::keyClick(&Words(), Qt::Key_Down);
+    EXPECT_EQ(List().currentIndex().data().toString(), Rows().constFirst());
+}
+
+TEST_F(Folders, HaveNumbersInTheOrderOfTheirValues)
+{
+    const QLocale before;
+    QLocale::setDefault(QLocale(QLocale::English, QLocale::World));
+    for (const char* name : {"sub/step_10.sql", "sub/step_2.sql", "sub/Step_1.sql"})
+        Write(name, "1");
+    m_prompts.folder = PathOf("sub");
+    Trigger("openFolder");
+    EXPECT_TRUE(Shows({"deep", "inner.sql", "Step_1.sql", "step_2.sql", "step_10.sql"}))
+        << Rows().join(' ').toStdString();
+    QLocale::setDefault(before);
 }
 
 TEST_F(Folders, OpenFilesByEnter)

@@ -107,6 +107,20 @@ TEST_F(HandsStory, ColumnsAreTypedIntoByKeysAndMouse)
     Holds("yselect 1;\nyselect 2;\n");
 }
 
+TEST_F(HandsStory, EachLineWithACaretIsChangedOnce)
+{
+    Makes({"alt+shift+Down", "ctrl+slash"}, "-- select 1;\n-- select 2;\n");
+    Makes({"alt+shift+Down", "alt+Down"}, "\nselect 1;\nselect 2;");
+    Makes({"alt+shift+Down", "alt+shift+Down", "ctrl+shift+k"}, "");
+    Keys({"ctrl+Home"});
+    MoveTo(2, 0);
+    XDoTool({"keydown", "ctrl", "click", "1", "keyup", "ctrl"});
+    Keys({"alt+Up"}); // the first line has nowhere to go
+    Holds("select 1;\n\nselect 2;");
+    Type("x");
+    Holds("xselect 1;\nx\nselect 2;");
+}
+
 TEST_F(HandsStory, AColumnIsDrawnWithAltAndTheMouse)
 {
     XDoTool({"keydown", "alt"});

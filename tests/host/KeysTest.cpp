@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 // What a key stands for in the workbench: menus, then the view's key table, then the engine.
 #include "host/finding/FindBar.h"
+#include "host/help/TextKeys.h"
 #include "platform/windows/ActionUI.h"
 #include "tests/host/WorkbenchTest.h"
 
@@ -227,4 +228,43 @@ TEST_F(Keys, OfTheKeyTableAloneReachTheBarTooAndSoDoMenusOfAView)
     for (const UINT id : {57636u, 57640u, 57641u})
         EXPECT_TRUE(Frame().HasCommand(id)) << id;
     EXPECT_FALSE(Frame().HasCommand(1));
+}
+
+// All that the editor does with a key that no menu has, and nothing else.
+TEST_F(Keys, OfTheTextAreKnownByWhatTheyDo)
+{
+    m_app.NewScript();
+    CZNCoreEditorControlEx& editor = Editor();
+    const auto state = [&] {
+        return QList<QVariant>{editor.GetText(),
+                               qlonglong(editor.GetCurrentPos(1)),
+                               qlonglong(editor.GetSelectionStart(1)),
+                               qlonglong(editor.GetSelectionEnd(1)),
+                               editor.GetFirstVisibleLine(1),
+                               editor.GetSelectionMode(1)};
+    };
+    QList<int> keys = {Qt::Key_BracketLeft, Qt::Key_BracketRight, Qt::Key_Slash, Qt::Key_Backslash};
+    for (int key = Qt::Key_Home; key <= Qt::Key_PageDown; ++key)
+        keys << key;
+    for (int key = Qt::Key_A; key <= Qt::Key_Z; ++key)
+        keys << key;
+    keys << Qt::Key_Backspace << Qt::Key_Delete << Qt::Key_Return << Qt::Key_Insert;
+    const QString text = QStringLiteral("one two three\n\nfour five six\n").repeated(100);
+    const auto menus = Shortcuts();
+    constexpr Qt::KeyboardModifiers kAll[] = {Qt::ControlModifier,
+                                              Qt::ControlModifier | Qt::ShiftModifier,
+                                              Qt::AltModifier, Qt::AltModifier | Qt::ShiftModifier};
+    for (const int key : keys) {
+        for (const Qt::KeyboardModifiers modifiers : kAll) {
+            const QKeySequence written(QKeyCombination(modifiers, static_cast<Qt::Key>(key)));
+            if (menus.contains(written.toString(QKeySequence::PortableText)))
+                continue;
+            editor.SetText(Units(text), 1);
+            editor.GotoPos(text.size() / 2 + 21, 1);
+            const auto before = state();
+            Press(key, modifiers);
+            EXPECT_EQ(state() != before, !UseInText(written).isEmpty())
+                << written.toString().toStdString();
+        }
+    }
 }

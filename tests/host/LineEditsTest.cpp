@@ -22,7 +22,7 @@ TEST(LinesThatDiffer, AreReplacedAndNoOthers)
 {
     const auto edits = LineEdits(u"a\nb\nc\nd\n", u"a\nB\nc\nd\ne\n");
     const std::vector<LineEdit> expected = {{8, 0, QStringLiteral("e\n")},
-                                            {2, 2, QStringLiteral("B\n")}};
+                                            {2, 1, QStringLiteral("B")}};
     EXPECT_EQ(edits, expected);
 }
 

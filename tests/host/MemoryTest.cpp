@@ -1,6 +1,9 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 // What the workbench remembers from one run to the next: the session, recent files, and a file that
 // it died on.
+#include "editing/language/FileLanguages.h"
+#include "editing/language/FileTypeManager.h"
+#include "editing/language/Library.h"
 #include "host/files/Places.h"
 #include "host/folder/FolderPane.h"
 #include "host/session/Session.h"
@@ -41,6 +44,8 @@ protected:
         m_window = new MainWindow(*m_app);
         m_window->show();
         m_window->ResumeSession();
+        while (m_window->IsResuming())
+            QApplication::processEvents(QEventLoop::WaitForMoreEvents);
         QApplication::processEvents();
     }
 
@@ -93,6 +98,7 @@ TEST_F(Memory, BringsBackTheScriptsTheirPlacesAndTheOneInFront)
     Start();
     ASSERT_TRUE(m_app->OpenDocumentFile(Write("a.sql", QByteArray("x\n").repeated(300))));
     m_window->CurrentFrame()->View()->GoToLine(200);
+    Editor().GotoPos(Editor().GetCurrentPos(1) + 1, 1);
     const int top = Editor().GetFirstVisibleLine(1);
     ASSERT_TRUE(m_app->OpenDocumentFile(Write("b.sql", "b\n")));
     m_app->NewScript();
@@ -104,6 +110,7 @@ TEST_F(Memory, BringsBackTheScriptsTheirPlacesAndTheOneInFront)
     EXPECT_EQ(m_window->TabCount(), 2) << "a script without a file is nothing to come back to";
     EXPECT_EQ(m_window->CurrentFrame()->Script()->Name(), "a.sql");
     EXPECT_EQ(Editor().LineFromPosition(Editor().GetCurrentPos(1), 1), 200);
+    EXPECT_EQ(Editor().GetCurrentPos(1) - Editor().PositionFromLine(200, 1), 1);
     EXPECT_EQ(Editor().GetFirstVisibleLine(1), top);
     EXPECT_EQ(m_window->size(), QSize(700, 500));
 }
@@ -172,6 +179,26 @@ TEST_F(Memory, BringsBackZoomFoldsAndBookmarks)
     next.trigger();
     EXPECT_EQ(Editor().LineFromPosition(Editor().GetCurrentPos(1), 1), 4);
     EXPECT_FALSE(m_window->CurrentFrame()->Script()->IsModified());
+}
+
+TEST_F(Memory, KeepsTheLanguageThatAScriptHad)
+{
+    const auto language = [this](int tab) {
+        m_window->ShowTab(tab);
+        return zncoreeditor::GetFileTypeManager()
+            ->GetLanguageName(Editor().GetCurrentLanguage())
+            .toStdString();
+    };
+    Start();
+    ASSERT_TRUE(m_app->OpenDocumentFile(Write("a.sql", "select 1;\n")));
+    ASSERT_TRUE(m_app->OpenDocumentFile(Write("b.sql", "select 2;\n")));
+    m_window->SetLanguage(LanguageNamed("PostgreSQL", -1));
+    ASSERT_EQ(language(0), "SQL");
+    End();
+
+    Start();
+    EXPECT_EQ(language(0), "SQL") << "the choice was for the other one";
+    EXPECT_EQ(language(1), "PostgreSQL");
 }
 
 TEST_F(Memory, PassesOverLinesThatAreNoMore)
@@ -267,6 +294,9 @@ TEST_F(Memory, ListsRecentFilesTheLastOneFirst)
     EXPECT_EQ(RecentEntries(), QStringList{"No files yet"});
     ASSERT_TRUE(m_app->OpenDocumentFile(Write("a.sql", "a\n")));
     ASSERT_TRUE(m_app->OpenDocumentFile(Write("b.sql", "b\n")));
+    EXPECT_EQ(RecentEntries(), (QStringList{"&1 b.sql", "&2 a.sql", "", "&Clear List"}));
+    End();
+    Start();
     EXPECT_EQ(RecentEntries(), (QStringList{"&1 b.sql", "&2 a.sql", "", "&Clear List"}));
 }
 

@@ -63,7 +63,8 @@ TEST(OpenAsDialog, OffersEveryEncodingOnceAndAnswersTheChosenOne)
     for (int i = 1; i < encodings->count(); ++i) {
         encodings->setCurrentIndex(i);
         offered << dialog.Choice().encoding;
-        EXPECT_EQ(encodings->currentText(), EncodingName(dialog.Choice().encoding, false));
+        EXPECT_TRUE(
+            encodings->currentText().startsWith(EncodingName(dialog.Choice().encoding, false)));
     }
     EXPECT_EQ(offered.size(), encodings->count() - 1);
     for (const EncodingChoice& choice : EncodingChoices())

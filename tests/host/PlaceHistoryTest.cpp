@@ -142,6 +142,21 @@ TEST_F(WorkbenchPlaces, AreGoneBackToInAndBetweenScripts)
     EXPECT_FALSE(Action("forward").isEnabled());
 }
 
+TEST_F(WorkbenchPlaces, AreThoseOfThePersonWhenATabIsBroughtBack)
+{
+    Open("a.sql", QByteArray("select 1;\n").repeated(300));
+    Frame().View()->GoToLine(100);
+    Trigger("close");
+    Open("b.sql", "select 2;\n");
+    Trigger("reopenClosed");
+    ASSERT_EQ(Line(), 100);
+    Trigger("back");
+    EXPECT_EQ(Script().Name(), "b.sql");
+    Trigger("forward");
+    EXPECT_EQ(Script().Name(), "a.sql");
+    EXPECT_EQ(Line(), 100);
+}
+
 TEST_F(WorkbenchPlaces, OfAClosedFileOpenItAgain)
 {
     Open("a.sql", QByteArray("select 1;\n").repeated(300));

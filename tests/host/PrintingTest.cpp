@@ -1,12 +1,16 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 // Printing, PDFs, rich copies and HTML from the workbench's menus.
+#include "host/printing/HeadAndFoot.h"
 #include "host/printing/WorkbenchPrinter.h"
+#include "platform/services/OptionsServer.h"
 #include "tests/host/WorkbenchTest.h"
 #include "tests/platform/file/FullDisk.h"
 
 #include <QAbstractScrollArea>
 #include <QClipboard>
+#include <QDateTime>
 #include <QElapsedTimer>
+#include <QLocale>
 #include <QMimeData>
 #include <QPageLayout>
 #include <QPrintPreviewDialog>
@@ -15,6 +19,7 @@
 #include <QPrinterInfo>
 #include <QProcess>
 #include <QProgressDialog>
+#include <QStatusBar>
 #include <QTest>
 #include <QTextDocument>
 #include <QTimer>
@@ -51,6 +56,17 @@ protected:
         EXPECT_TRUE(reader.waitForFinished());
         return QString::fromUtf8(reader.readAllStandardOutput()).simplified();
     }
+    QStringList PagesOfPdf(const QString& path)
+    {
+        QProcess reader;
+        reader.start("pdftotext", {"-layout", path, "-"});
+        EXPECT_TRUE(reader.waitForFinished());
+        QStringList pages;
+        for (const QString& page :
+             QString::fromUtf8(reader.readAllStandardOutput()).split(u'\f', Qt::SkipEmptyParts))
+            pages << page.simplified();
+        return pages;
+    }
     PathPrompts m_paths;
 };
 
@@ -66,9 +82,60 @@ TEST_F(PrintingScripts, SavesAllOfAScriptAsAPdf)
     EXPECT_TRUE(TextOfPdf(PathOf("out.pdf")).contains("select 1 from first; "));
     EXPECT_TRUE(TextOfPdf(PathOf("out.pdf")).contains("select 2 from second;"));
     EXPECT_TRUE(m_paths.told.isEmpty());
+    EXPECT_EQ(m_window.statusBar()->currentMessage(),
+              "“" + PathOf("out.pdf") + "” was written: 1 page");
+    m_window.statusBar()->clearMessage();
     m_paths.path.clear();
     Trigger("savePdf");
+    EXPECT_EQ(m_window.statusBar()->currentMessage(), "") << "nothing was";
     EXPECT_EQ(QDir(m_folder.path()).entryList(QDir::Files).size(), 2);
+}
+
+TEST_F(PrintingScripts, HasAHeadAndAFootOnEachPage)
+{
+    Open("orders.sql", QByteArray("select 1 from first;\n").repeated(150));
+    CZNOptionsServer::GetObjectW()->SetInt(headandfoot::kOption, 1);
+    m_paths.path = PathOf("with.pdf");
+    const QString before = QLocale().toString(QDateTime::currentDateTime(), QLocale::ShortFormat);
+    Trigger("savePdf");
+    const QString after = QLocale().toString(QDateTime::currentDateTime(), QLocale::ShortFormat);
+    const QStringList pages = PagesOfPdf(PathOf("with.pdf"));
+    ASSERT_GE(pages.size(), 2);
+    int lines = 0;
+    for (qsizetype i = 0; i < pages.size(); ++i) {
+        const QString number = QStringLiteral("Page %1 of %2").arg(i + 1).arg(pages.size());
+        EXPECT_TRUE(pages[i].startsWith("orders.sql " + number)) << pages[i].toStdString();
+        EXPECT_TRUE(pages[i].endsWith(before) || pages[i].endsWith(after))
+            << pages[i].right(60).toStdString();
+        lines += static_cast<int>(pages[i].count("select 1 from first;"));
+    }
+    EXPECT_EQ(lines, 150);
+    EXPECT_EQ(
+        m_window.statusBar()->currentMessage(),
+        QStringLiteral("“%1” was written: %2 pages").arg(PathOf("with.pdf")).arg(pages.size()));
+}
+
+TEST_F(PrintingScripts, HasTheScriptsNameWithoutItsMarks)
+{
+    Open("orders.sql", "select 1 from first;\n");
+    Type(u"-- changed\n");
+    ASSERT_TRUE(Script().GetTitle().endsWith("*"));
+    CZNOptionsServer::GetObjectW()->SetInt(headandfoot::kOption, 1);
+    m_paths.path = PathOf("named.pdf");
+    Trigger("savePdf");
+    const QString text = TextOfPdf(PathOf("named.pdf"));
+    EXPECT_TRUE(text.startsWith("orders.sql Page 1 of 1")) << text.toStdString();
+}
+
+TEST_F(PrintingScripts, HasNeitherIfTheyAreNotWanted)
+{
+    Open("orders.sql", "select 1 from first;\n");
+    CZNOptionsServer::GetObjectW()->SetInt(headandfoot::kOption, 0);
+    m_paths.path = PathOf("without.pdf");
+    Trigger("savePdf");
+    const QString text = TextOfPdf(PathOf("without.pdf"));
+    EXPECT_TRUE(text.endsWith("select 1 from first;")) << text.toStdString();
+    EXPECT_FALSE(text.contains("Page") || text.contains("orders.sql")) << text.toStdString();
 }
 
 TEST_F(PrintingScripts, OffersAPdfWhereThereIsNoPrinter)
@@ -83,21 +150,25 @@ TEST_F(PrintingScripts, OffersAPdfWhereThereIsNoPrinter)
     EXPECT_TRUE(TextOfPdf(PathOf("instead.pdf")).contains("select 1 from first;"));
 }
 
-TEST_F(PrintingScripts, PrintsASelection)
+TEST_F(PrintingScripts, PrintsTheSelectionIfItIsChosen)
 {
     struct Selection final : IPrintService
     {
         std::unique_ptr<QPrinter> ChoosePrinter(HWND, PRINTDLG& record) override
         {
-            EXPECT_TRUE(record.Flags & PD_SELECTION);
+            EXPECT_FALSE(record.Flags & (PD_NOSELECTION | PD_SELECTION)) << "offered, not chosen";
+            if (isChosen)
+                record.Flags |= PD_SELECTION;
             auto printer = std::make_unique<QPrinter>();
             printer->setOutputFormat(QPrinter::PdfFormat);
             printer->setOutputFileName(path);
             return printer;
         }
         QString path;
+        bool isChosen = true;
     } service;
     SetPrintService(&service);
+    CZNOptionsServer::GetObjectW()->SetInt(headandfoot::kOption, 0);
     Open("a.sql", "first;\nsecond;\nthird;\n");
     Editor().SetSel(7, 15, 1);
     service.path = PathOf("part.pdf");
@@ -108,6 +179,10 @@ TEST_F(PrintingScripts, PrintsASelection)
     Trigger("print");
     const QString ofCharacter = TextOfPdf(service.path);
     EXPECT_TRUE(ofCharacter.contains(u'f') && !ofCharacter.contains("irst"));
+    service.path = PathOf("unchosen.pdf");
+    service.isChosen = false;
+    Trigger("print");
+    EXPECT_EQ(TextOfPdf(service.path), "1 first; 2 second; 3 third;");
     service.path = ofLines;
     SetPrintService(nullptr);
     EXPECT_TRUE(TextOfPdf(service.path).contains("second;"));
@@ -131,6 +206,26 @@ TEST_F(PrintingScripts, ShowsPagesBesideEachOther)
     });
     Trigger("printPreview");
     EXPECT_GE(pages, 3);
+}
+
+TEST_F(PrintingScripts, PreviewsAllOfAScriptWithASelection)
+{
+    Open("a.sql", QByteArray("select 1 from first;\n").repeated(200));
+    const auto pages = [this] {
+        int count = 0;
+        QTimer::singleShot(0, [&count] {
+            auto* dialog = qobject_cast<QPrintPreviewDialog*>(QApplication::activeModalWidget());
+            ASSERT_TRUE(dialog);
+            count = dialog->findChild<QPrintPreviewWidget*>()->pageCount();
+            dialog->reject();
+        });
+        Trigger("printPreview");
+        return count;
+    };
+    const int all = pages();
+    EXPECT_GE(all, 3);
+    Editor().SetSel(0, 6, 1);
+    EXPECT_EQ(pages(), all);
 }
 
 TEST_F(PrintingScripts, PreviewsNoMoreThanItCanKeep)
@@ -288,7 +383,7 @@ TEST_F(PrintingScripts, CopiesSeveralSelectionsAsPlainCopyDoes)
     m_window.FollowNow();
     Trigger("copy");
     const QString plain = QGuiApplication::clipboard()->text();
-    ASSERT_EQ(plain.toStdString(), "onethr");
+    ASSERT_EQ(plain.toStdString(), "one\nthr");
     Trigger("copyWithColours");
     EXPECT_EQ(QGuiApplication::clipboard()->text(), plain);
     EXPECT_FALSE(QGuiApplication::clipboard()->mimeData()->hasHtml());
@@ -322,8 +417,11 @@ TEST_F(PrintingScripts, SavesHtmlThatReadsAsTheScript)
     page.setHtml(QString::fromUtf8(Read("a.html")));
     EXPECT_EQ(page.toPlainText().trimmed(),
               QString::fromUtf8(text).replace("\r\n", "\n").trimmed());
+    EXPECT_EQ(m_window.statusBar()->currentMessage(), "“" + PathOf("a.html") + "” was written");
+    m_window.statusBar()->clearMessage();
     m_paths.path = PathOf("no/such.html");
     Trigger("saveHtml");
+    EXPECT_EQ(m_window.statusBar()->currentMessage(), "");
     ASSERT_EQ(m_prompts.told.size(), 1);
     EXPECT_TRUE(m_prompts.told[0].contains("no/such.html could not be written"));
 }

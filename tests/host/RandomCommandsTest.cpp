@@ -10,6 +10,7 @@
 #include <QMenu>
 #include <QSet>
 
+#include <cstdio>
 #include <random>
 
 namespace {
@@ -158,6 +159,8 @@ TEST_F(RandomCommands, LoseNothing)
     const unsigned int seed =
         qEnvironmentVariableIsSet("ZN_SEED") ? qgetenv("ZN_SEED").toUInt() : std::random_device{}();
     SCOPED_TRACE(seed);
+    std::printf("seed %u\n", seed); // which is all that a run without an end leaves
+    std::fflush(stdout);
     m_random.seed(seed);
     m_hasOthers = Below(2) != 0;
     for (const char* name : {"0.sql", "1.sql", "2.sql", "3.sql"})

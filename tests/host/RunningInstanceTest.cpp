@@ -138,6 +138,38 @@ TEST_F(RunningInstances, BytesThatAreNoRequestAreDropped)
     EXPECT_EQ(MeetBeside({}), Role::Later);
 }
 
+TEST_F(RunningInstances, OneThatEndsWhileItIsAskedLeavesItsPlace)
+{
+    auto ending = std::make_unique<QLocalServer>();
+    ASSERT_TRUE(ending->listen(Address()));
+    auto later = std::async(std::launch::async, [&] {
+        RunningInstance instance(Address());
+        return instance.Meet({{QStringLiteral("/a.sql")}, {}});
+    });
+    ASSERT_TRUE(ending->waitForNewConnection(5000));
+    ending.reset();
+    EXPECT_EQ(later.get(), Role::First);
+}
+
+TEST_F(RunningInstances, WhatComesInAPauseIsToldBehindIt)
+{
+    RunningInstance first(Address());
+    ASSERT_EQ(first.Meet({}), Role::First);
+    QList<Request> asked;
+    QObject::connect(&first, &RunningInstance::Requested,
+                     [&](const Request& request) { asked << request; });
+    first.Serve();
+    first.Pause();
+    const Request request{{QStringLiteral("/a.sql")}, {}};
+    EXPECT_EQ(MeetBeside(request), Role::Later);
+    QCoreApplication::processEvents();
+    EXPECT_TRUE(first.HasWaiting());
+    EXPECT_EQ(asked.size(), 0);
+    first.Serve();
+    EXPECT_EQ(asked, QList<Request>({request}));
+    EXPECT_FALSE(first.HasWaiting());
+}
+
 TEST_F(RunningInstances, WordsThatCannotBeFilesAreLeftOut)
 {
     const auto read = Request::FromBytes(R"({"words":["/a.sql","b.sql","/c\u0000",7]})");
@@ -164,8 +196,10 @@ TEST_F(WorkbenchTest, AFileOfALaterStartIsOpenedWhenTheQuestionIsAnswered)
     m_window.OpenForLaterStart({path + QStringLiteral(":2")}, {});
     QApplication::processEvents();
     EXPECT_EQ(m_window.TabCount(), before);
+    EXPECT_EQ(m_app.Asked().size(), 1) << "for the next window, if this one goes";
     question->close();
     QApplication::processEvents();
+    EXPECT_EQ(m_app.Asked().size(), 0);
     ASSERT_EQ(m_window.TabCount(), before + 1);
     EXPECT_EQ(Editor().LineFromPosition(Editor().GetCurrentPos(1), 1), 1);
 }

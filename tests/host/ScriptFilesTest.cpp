@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 // A script and its file: opened, saved, reloaded, and changed by others meanwhile.
+#include "host/files/Encodings.h"
 #include "host/files/LineEnds.h"
+#include "platform/services/OptionsServer.h"
 #include "tests/host/WorkbenchTest.h"
 
 #include <QAbstractScrollArea>
@@ -8,9 +10,11 @@
 #include <QElapsedTimer>
 #include <QMessageBox>
 #include <QMimeData>
+#include <QScopeGuard>
 #include <QStatusBar>
 #include <QTabBar>
 #include <QTabWidget>
+#include <QTest>
 #include <QTimer>
 #include <QUrl>
 
@@ -22,12 +26,12 @@ class ScriptFiles : public WorkbenchTest
 {
 protected:
     // Somebody else writes; the time is another one even within the second.
-    void WriteFromOutside(const QString& name, const QByteArray& bytes) const
+    void WriteFromOutside(const QString& name, const QByteArray& bytes, int hoursAgo = 1) const
     {
         const QString path = Write(name, bytes);
         QFile file(path);
         ASSERT_TRUE(file.open(QIODevice::ReadWrite));
-        ASSERT_TRUE(file.setFileTime(QDateTime::currentDateTime().addSecs(-3600),
+        ASSERT_TRUE(file.setFileTime(QDateTime::currentDateTime().addSecs(-3600 * hoursAgo),
                                      QFileDevice::FileModificationTime));
     }
 
@@ -98,6 +102,101 @@ TEST_F(ScriptFiles, OpenInAnEncodingOfChoice)
     EXPECT_EQ(m_window.TabCount(), 1);
     EXPECT_EQ(Text(), QStringLiteral("café"));
     EXPECT_EQ(Status("encoding"), "UTF-8");
+}
+
+TEST_F(ScriptFiles, AreReadAndSavedInACodePageOfChoiceWhileOthersAreInTheirs)
+{
+    Write("a.sql", "\xCF\xF0\xE8\xE2\xE5\xF2\n");
+    Open("b.sql", "caf\xE9\n");
+    m_prompts.whatToOpen = OpenChoice{PathOf("a.sql"), 1251};
+    Trigger("openAs");
+    EXPECT_EQ(Text(), QString::fromUtf8("\u041F\u0440\u0438\u0432\u0435\u0442\n"));
+    EXPECT_EQ(Status("encoding"), "windows-1251");
+    Editor().ReplaceSel(u"\u042F", 1);
+    Trigger("save");
+    EXPECT_EQ(Read("a.sql"), "\xDF\xCF\xF0\xE8\xE2\xE5\xF2\n");
+    m_window.ShowTab(0);
+    Settle();
+    EXPECT_EQ(Status("encoding"), "windows-1252");
+    EXPECT_EQ(Text(), QString::fromUtf8("caf\u00E9\n"));
+}
+
+TEST_F(ScriptFiles, AreSavedAsAnotherCodePageUnlessThatLosesCharacters)
+{
+    Open("a.sql", "\xD0\x9F\xD1\x80 -- UTF-8\n");
+    m_prompts.saveTarget = SaveTarget{PathOf("a.sql"), 866, false};
+    Trigger("saveAs");
+    EXPECT_EQ(Read("a.sql"), "\x8F\xE0 -- UTF-8\n");
+    EXPECT_EQ(Status("encoding"), "IBM866");
+    m_prompts.saveTarget = SaveTarget{PathOf("a.sql"), 1252, false};
+    m_prompts.loseCharacters = LoseCharacters::Cancel;
+    Trigger("saveAs");
+    EXPECT_EQ(Read("a.sql"), "\x8F\xE0 -- UTF-8\n");
+    EXPECT_EQ(Status("encoding"), "IBM866");
+}
+
+TEST_F(ScriptFiles, AreInTheCodePageOfTheOptionsWhereNobodyChose)
+{
+    CZNOptionsServer& options = *CZNOptionsServer::GetObjectW();
+    options.SetInt(kCodePageOption, 1251);
+    const auto restored = qScopeGuard([&] { options.SetInt(kCodePageOption, 0); });
+    Open("a.sql", "\xCF\xF0\xE8\xE2\xE5\xF2\n");
+    EXPECT_EQ(Text(), QString::fromUtf8("\u041F\u0440\u0438\u0432\u0435\u0442\n"));
+    EXPECT_EQ(Status("encoding"), "windows-1251");
+    options.SetInt(kCodePageOption, 4711);
+    Open("b.sql", "caf\xE9\n");
+    EXPECT_EQ(Status("encoding"), "windows-1252") << "which is none";
+}
+
+TEST_F(ScriptFiles, AreInTheCodePageThatWasChosenForThemOrForOthersOfTheirFolder)
+{
+    m_prompts.whatToOpen = OpenChoice{Write("a.sql", "\xCF\xF0\n"), 1251};
+    Trigger("openAs");
+    Trigger("close");
+    Open("a.sql", "\xCF\xF0\n");
+    EXPECT_EQ(Text(), QString::fromUtf8("\u041F\u0440\n"));
+    Open("b.sql", "\xDF\xCF\n");
+    EXPECT_EQ(Text(), QString::fromUtf8("\u042F\u041F\n"));
+    EXPECT_TRUE(WaitUntil([this] {
+        return m_window.statusBar()->currentMessage() ==
+               "b.sql: windows-1251, as other files of this folder";
+    }));
+    Open("c.sql", "caf\xC3\xA9 in UTF-8\n");
+    EXPECT_EQ(Status("encoding"), "UTF-8");
+    ASSERT_TRUE(QDir(PathOf("")).mkdir("other"));
+    Open("other/d.sql", "caf\xE9\n");
+    EXPECT_EQ(Status("encoding"), "windows-1252");
+}
+
+TEST_F(ScriptFiles, KeepTheirCodePageIfTheyCannotBeReadInAnother)
+{
+    Open("a.sql", "caf\xE9\n");
+    const QString path = PathOf("a.sql");
+    ASSERT_TRUE(QFile::remove(path) && QDir().mkdir(path)); // which nobody can read
+    m_prompts.whatToOpen = OpenChoice{path, 1251};
+    Trigger("openAs");
+    EXPECT_EQ(Status("encoding"), "windows-1252");
+    EXPECT_EQ(Script().ChosenEncoding(), -1);
+    ASSERT_TRUE(QDir().rmdir(path));
+    Editor().ReplaceSel(u"\u00e9", 1);
+    m_prompts.saveTarget = SaveTarget{path, Script().CurrentTarget().encoding, false};
+    Trigger("saveAs");
+    EXPECT_EQ(Read("a.sql"), "\xE9"
+                             "caf\xE9\n");
+}
+
+TEST_F(ScriptFiles, AreReadAgainAsTheyWereSavedLast)
+{
+    m_prompts.whatToOpen = OpenChoice{Write("a.sql", "\xCF\xF0\n"), 1251};
+    Trigger("openAs");
+    EXPECT_EQ(Script().ChosenEncoding(), 1251);
+    m_prompts.saveTarget = SaveTarget{PathOf("a.sql"), 6, false};
+    Trigger("saveAs");
+    EXPECT_EQ(Read("a.sql"), "\xD0\x9F\xD1\x80\n");
+    EXPECT_EQ(Script().ChosenEncoding(), 6) << "which the session remembers";
+    m_prompts.saveTarget = SaveTarget{PathOf("a.sql"), 866, false};
+    Trigger("saveAs");
+    EXPECT_EQ(Script().ChosenEncoding(), 866);
 }
 
 TEST_F(ScriptFiles, AreReadAnewInTheEncodingThatIsDetected)
@@ -200,6 +299,42 @@ TEST_F(ScriptFiles, ThatMayNotBeWrittenAreMarkedAndSavedElsewhere)
     EXPECT_EQ(Caption(), "b.sql");
 }
 
+TEST_F(ScriptFiles, ThatMayNotBeWrittenSaySoAtTheFirstKeyThatWouldChangeThem)
+{
+    Write("a.sql", "a");
+    MakeReadOnly("a.sql");
+    ASSERT_TRUE(m_app.OpenDocumentFile(PathOf("a.sql")));
+    const QStatusBar& bar = *m_window.statusBar();
+    QTest::keyClick(Editor().GetSafeHwnd(), Qt::Key_Right);
+    QTest::keyClick(&m_window, Qt::Key_T, Qt::ControlModifier | Qt::ShiftModifier);
+    EXPECT_EQ(bar.currentMessage(), "") << "which change no text";
+    QTest::keyClick(Editor().GetSafeHwnd(), Qt::Key_X);
+    EXPECT_EQ(bar.currentMessage(), QString::fromUtf8("“a.sql” is read-only, and nothing was "
+                                                      "changed. Save As makes a copy that you can "
+                                                      "change."));
+    EXPECT_TRUE(Action("saveAs").isEnabled());
+    for (const Qt::Key command : {Qt::Key_K, Qt::Key_S}) { // Delete Line; Save As, which works
+        m_window.statusBar()->clearMessage();
+        QTest::keyClick(&m_window, command, Qt::ControlModifier | Qt::ShiftModifier);
+        EXPECT_EQ(bar.currentMessage().isEmpty(), command == Qt::Key_S);
+    }
+    EXPECT_EQ(m_prompts.proposals, QStringList{PathOf("a.sql")});
+    EXPECT_EQ(Text(), "a");
+}
+
+TEST_F(ScriptFiles, ThatTheSwitchLocksTellHowItEnds)
+{
+    Open("a.sql", "a");
+    Trigger("readOnlySwitch");
+    QTest::keyClick(&m_window, Qt::Key_S, Qt::ControlModifier);
+    EXPECT_TRUE(m_window.statusBar()->currentMessage().contains("File > Read Only"));
+    m_window.statusBar()->clearMessage();
+    Trigger("readOnlySwitch");
+    QTest::keyClick(Editor().GetSafeHwnd(), Qt::Key_X);
+    EXPECT_EQ(Text(), "xa");
+    EXPECT_EQ(m_window.statusBar()->currentMessage(), "");
+}
+
 TEST_F(ScriptFiles, ThatOthersRewriteAreReadAgainOnYes)
 {
     Open("a.sql", "old");
@@ -240,6 +375,7 @@ TEST_F(ScriptFiles, ThatOthersRewriteAreNotReplacedWithoutAQuestion)
     EXPECT_TRUE(Script().IsModified());
     ASSERT_EQ(m_prompts.asked.size(), 1);
     EXPECT_TRUE(m_prompts.asked[0].contains("changed outside"));
+    EXPECT_EQ(m_prompts.compared, QStringList({Script().GetPathName(), "xold"}));
     m_prompts.confirm = true;
     EXPECT_TRUE(Script().DoFileSave());
     EXPECT_EQ(Read("a.sql"), "xold");
@@ -257,10 +393,64 @@ TEST_F(ScriptFiles, ThatOthersRewriteAreNotReadAgainOverChangesUnlessThePersonSa
     LeaveAndComeBack();
     ASSERT_EQ(m_prompts.asked.size(), 1);
     EXPECT_TRUE(m_prompts.asked[0].contains("not saved are lost"));
+    EXPECT_EQ(m_prompts.compared, QStringList({Script().GetPathName(), "xold"}));
     EXPECT_TRUE(m_prompts.told.isEmpty());
     EXPECT_EQ(Text(), "xold");
     LeaveAndComeBack();
     EXPECT_EQ(m_prompts.asked.size(), 1) << "once";
+}
+
+TEST_F(ScriptFiles, ThatOthersRewriteAreAskedAboutAtEachFurtherChange)
+{
+    Open("a.sql", "old");
+    LeaveAndComeBack();
+    Type(u"x");
+    for (const int hours : {1, 2}) {
+        WriteFromOutside("a.sql", "new", hours);
+        LeaveAndComeBack(); // Cancel
+        LeaveAndComeBack();
+    }
+    EXPECT_EQ(m_prompts.asked.size(), 2);
+    EXPECT_EQ(Text(), "xold");
+    m_prompts.confirm = true;
+    WriteFromOutside("a.sql", "newest", 3);
+    LeaveAndComeBack();
+    EXPECT_EQ(Text(), "newest");
+    EXPECT_EQ(Caption(), "a.sql");
+}
+
+TEST_F(ScriptFiles, ThatOthersRewriteAfterANoAreAskedAboutWithTheTextThatStandsHere)
+{
+    Open("a.sql", "old");
+    LeaveAndComeBack();
+    WriteFromOutside("a.sql", "new");
+    LeaveAndComeBack(); // No
+    CZNOptionsServer::GetObjectW()->SetInt(option::ReloadWithoutAsking, 1);
+    WriteFromOutside("a.sql", "newer", 2);
+    LeaveAndComeBack();
+    CZNOptionsServer::GetObjectW()->SetInt(option::ReloadWithoutAsking, 0);
+    EXPECT_EQ(m_prompts.told.size(), 1);
+    EXPECT_EQ(m_prompts.compared, QStringList({Script().GetPathName(), "old"}));
+    EXPECT_EQ(Text(), "old");
+    EXPECT_EQ(Caption(), "a.sql *");
+}
+
+TEST_F(ScriptFiles, ThatOthersBringBackAreAskedAbout)
+{
+    Open("a.sql", "old");
+    LeaveAndComeBack();
+    QFile::remove(PathOf("a.sql"));
+    LeaveAndComeBack(); // No, as it stays
+    LeaveAndComeBack();
+    EXPECT_EQ(m_prompts.told.size(), 1);
+    WriteFromOutside("a.sql", "new");
+    EXPECT_FALSE(Script().DoFileSave());
+    EXPECT_EQ(Read("a.sql"), "new");
+    m_prompts.confirm = true;
+    LeaveAndComeBack();
+    EXPECT_EQ(m_prompts.asked.size(), 2);
+    EXPECT_EQ(Text(), "new");
+    EXPECT_EQ(Caption(), "a.sql");
 }
 
 TEST_F(ScriptFiles, ThatOthersRewriteAreReadAgainOverChangesIfThePersonSaysSo)

@@ -70,6 +70,14 @@ public:
         return confirm;
     }
 
+    bool ConfirmComparing(QWidget*, const QString& text, const QString&,
+                          const Comparison& comparison) override
+    {
+        asked << text;
+        compared << comparison.path << comparison.text();
+        return confirm;
+    }
+
     void Tell(QWidget*, const QString& text) override { told << text; }
 
     Answer Ask(HWND, const QString& text, Buttons buttons) override
@@ -95,6 +103,7 @@ public:
     RecoveryChoice recovery = RecoveryChoice::Later;
 
     QList<RecoverableCopy> recoverable; // all that were shown
+    QStringList compared;               // files and texts
     QStringList proposals;
     QStringList asked;
     QStringList told;

@@ -16,16 +16,22 @@ namespace {
 Session Example()
 {
     Session session;
-    session.files = {{.path = "/x/a.sql", .encoding = 6, .caretLine = 120, .firstVisible = 100},
+    session.files = {{.path = "/x/a.sql",
+                      .encoding = 1251,
+                      .caretLine = 120,
+                      .caretColumn = 7,
+                      .firstVisible = 100},
                      {.path = "/x/\u00E9 \"b\".sql",
                       .caretLine = INT_MAX,
                       .readOnly = true,
                       .panes = SessionPanes::Beside,
+                      .language = "PostgreSQL",
                       .zoom = 4,
                       .folds = {3, 70},
                       .bookmarks = {0, 2, 9}}};
     session.front = 1;
     session.geometry = QByteArray("\0\1geometry", 10);
+    session.maximised = true;
     session.state = "state";
     session.documentMap = true;
     session.folder = "/x/y";
@@ -124,9 +130,10 @@ TEST(SessionData, BringsNumbersIntoTheirRange)
     for (const char* members :
          {R"("caretLine":-1,"firstVisible":-5,"encoding":-2)", R"("caretLine":1e30)",
           R"("caretLine":"7","encoding":"6")", R"("encoding":3)", R"("encoding":12)",
-          R"("firstVisible":2147483648)", R"("caretLine":1.5)", R"("readOnly":"yes")",
-          R"("panes":4)", R"("panes":-1)", R"("panes":"1")", R"("zoom":-11)", R"("zoom":61)",
-          R"("folds":[-1,"2",1e30,[3]])", R"("folds":7)", R"("bookmarks":{"0":1})"}) {
+          R"("encoding":1200)", R"("firstVisible":2147483648)", R"("caretLine":1.5)",
+          R"("readOnly":"yes")", R"("panes":4)", R"("panes":-1)", R"("panes":"1")", R"("zoom":-11)",
+          R"("zoom":61)", R"("folds":[-1,"2",1e30,[3]])", R"("folds":7)",
+          R"("bookmarks":{"0":1})"}) {
         const Session session = Read(WithFile(members));
         ASSERT_EQ(session.files.size(), 1) << members;
         EXPECT_EQ(session.files[0], plain) << members;

@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 // The parsers of the databases, over statements.
-#include "host/problems/SyntaxCheck.h"
+#include "host/problems/StatementPieces.h"
 
 #include <QStringList>
 
@@ -62,6 +62,73 @@ TEST(PostgresChecks, PointAtTheWord)
               QStringLiteral("selekt"));
     EXPECT_EQ(Underlined("PostgreSQL", QStringLiteral("select '\u00e9\U0001F600' frm t")),
               QStringLiteral("t"));
+}
+
+// As the partitioner gives it: a parenthesis that is open takes semicolons in.
+TEST(SyntaxChecks, GoOnBehindAParenthesisThatIsNotClosed)
+{
+    const QString script = QStringLiteral("insert into t (id, a values (1, 2);\n\nselct 1;\n"
+                                          "\nselect 2;\n");
+    for (const char* language : {"PostgreSQL", "SQLite"}) {
+        const auto problems = SyntaxCheckFor(QLatin1String(language))->Check({{10, script}});
+        ASSERT_EQ(problems.size(), 2U) << language;
+        EXPECT_EQ(script.mid(problems[1].start - 10, problems[1].end - problems[1].start),
+                  QStringLiteral("selct"));
+    }
+}
+
+QStringList Pieces(const char* text)
+{
+    QStringList pieces;
+    const QString whole = QString::fromUtf8(text);
+    for (const ScriptStatement& piece : PiecesOf({7, whole})) {
+        EXPECT_EQ(whole.mid(piece.start - 7, piece.text.size()), piece.text);
+        pieces << piece.text;
+    }
+    return pieces;
+}
+
+TEST(PiecesOfAStatement, BeginBehindAnEmptyLineAtTheFirstColumn)
+{
+    EXPECT_EQ(Pieces("f(a;\n\nb);\nc (; -- d\r\n \r\n\r\n-- e\ng"),
+              QStringList({"f(a;", "b);\nc (;", "-- e\ng"}));
+    for (const char* whole : {"", "f(a;\nb", "f(a;\n\n b", "f(a;\n\n)b", "f(a)\n\nb;\n\nc"})
+        EXPECT_EQ(Pieces(whole), QStringList(whole)) << whole;
+}
+
+TEST(PiecesOfAStatement, DoNotBeginInStringsCommentsAndNames)
+{
+    for (const char* whole : {"f('(') ;\n\nb", "f(';\n\nb", "f(\"x;\n\nb\")", "f(/* ;\n\nb */)",
+                              "f(1 -- ;\n\nb", "f($$;\n\nb$$", "f($a$;\n\nb", "--", "(-", "($"})
+        EXPECT_EQ(Pieces(whole), QStringList(whole)) << whole;
+    EXPECT_EQ(Pieces("f($1;\n\nb").size(), 2);
+}
+
+TEST(PiecesOfAStatement, BeginBehindUnitsThatAreNoCharacters)
+{
+    const QString text = QStringLiteral("f(a;\n\nb '") + QChar(0xD800) + u'\'';
+    EXPECT_EQ(PiecesOf({0, text}).size(), 2U);
+}
+
+// A dump whose first parenthesis is open is one statement, with a semicolon in each line: minutes,
+// if each looks at all that follows.
+TEST(PiecesOfAStatement, TakeATimeThatGrowsWithTheText)
+{
+    const QString text = u'(' + QStringLiteral("v ($1);\n").repeated(400'000);
+    EXPECT_EQ(PiecesOf({0, text}).size(), 1U);
+}
+
+TEST(PiecesOfAStatement, AreCheckedOnceEach)
+{
+    std::vector<long> checked;
+    const auto check = [&](const ScriptStatement& statement) {
+        checked.push_back(statement.start);
+        return std::optional(ScriptProblem{statement.start, 1, {}});
+    };
+    EXPECT_EQ(ProblemsOfPieces({4, QStringLiteral("select (1;")}, check).size(), 1U);
+    EXPECT_EQ(checked, std::vector<long>({4}));
+    EXPECT_EQ(ProblemsOfPieces({0, QStringLiteral("f(a;\n\nb(")}, check).size(), 2U);
+    EXPECT_EQ(checked, std::vector<long>({4, 0, 0, 6}));
 }
 
 TEST(PostgresChecks, PointAtTheEndOfAStatementThatStops)

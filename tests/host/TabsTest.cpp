@@ -238,6 +238,24 @@ TEST_F(Tabs, AreChosenFromTheListByAPartOfTheName)
     EXPECT_EQ(Script().Name(), "two.sql");
 }
 
+TEST_F(Tabs, AreNotChosenFromAListThatSaysThatItHasNone)
+{
+    OpenThree();
+    Trigger("goToScript");
+    auto* list = m_window.findChild<QDialog*>(QStringLiteral("tabListPopup"));
+    ASSERT_NE(list, nullptr);
+    auto* words = list->findChild<QLineEdit*>();
+    QTest::keyClicks(words, "zzz");
+    EXPECT_EQ(Rows(*list), QStringList{"No script has this in its name"});
+    QTest::keyClick(words, Qt::Key_Down);
+    QTest::keyClick(words, Qt::Key_Return);
+    EXPECT_TRUE(list->isVisible()) << "there is nothing to choose";
+    EXPECT_EQ(Script().Name(), "three.sql");
+    words->clear();
+    EXPECT_EQ(Rows(*list).size(), 3);
+    list->close();
+}
+
 TEST_F(Tabs, HaveTheirListOnTheScreen)
 {
     OpenThree();
@@ -256,6 +274,7 @@ TEST_F(Tabs, HaveTheirListOnTheScreen)
 
 TEST_F(Tabs, AreGoneToByLastUseWithoutAKeyHeld)
 {
+    Release(); // what an earlier test may hold
     OpenThree();
     m_window.ShowTab(0);
     Trigger("lastUsed");

@@ -2,6 +2,7 @@
 // Parts of the main window beside the script: tool bar, help, outline, folder, fields of the status
 // bar, tabs that were closed.
 #include "host/help/KeysDialog.h"
+#include "host/icons/FitScreen.h"
 #include "host/icons/Style.h"
 #include "host/options/OptionsDialog.h"
 #include "host/outline/OutlinePane.h"
@@ -19,8 +20,10 @@
 #include <QAbstractButton>
 #include <QComboBox>
 #include <QDir>
+#include <QDockWidget>
 #include <QLabel>
 #include <QLineEdit>
+#include <QListWidget>
 #include <QMenu>
 #include <QMenuBar>
 #include <QMessageBox>
@@ -63,6 +66,22 @@ protected:
         return names;
     }
 };
+
+TEST(FitScreens, BringAWindowOntoItsScreenWithItsFrame)
+{
+    for (const QRect place :
+         {QRect(-300, -200, 5000, 5000), QRect(5000, 5000, 300, 200), QRect(-50, 10, 300, 200)}) {
+        QWidget window;
+        window.setGeometry(place);
+        FitScreen(window);
+        EXPECT_TRUE(window.screen()->availableGeometry().contains(window.geometry()));
+        EXPECT_EQ(window.size(), place.size().boundedTo(window.size()));
+    }
+    QWidget inside;
+    inside.setGeometry(100, 100, 300, 200);
+    FitScreen(inside);
+    EXPECT_EQ(inside.geometry(), QRect(100, 100, 300, 200));
+}
 
 TEST_F(WindowParts, HaveAPictureForEveryTool)
 {
@@ -279,6 +298,30 @@ TEST_F(WindowParts, GoToASymbolByPartOfItsName)
     EXPECT_EQ(Editor().GetSelectionEnd(1), 55);
 }
 
+TEST_F(WindowParts, TellThatNoSymbolHasTheName)
+{
+    Open("a.sql", "create table one (n int);\n");
+    Trigger("goToSymbol");
+    auto* picker = m_window.findChild<SymbolPicker*>();
+    auto* list = picker->findChild<QListWidget*>();
+    auto* words = picker->findChild<QLineEdit*>();
+    words->setText("zzz");
+    ASSERT_EQ(list->count(), 1);
+    EXPECT_EQ(list->item(0)->text(), "Nothing that the script creates has this name");
+    EXPECT_EQ(list->item(0)->foreground().color(), list->palette().color(QPalette::Text));
+    QTest::keyClick(words, Qt::Key_Down);
+    QTest::keyClick(words, Qt::Key_Return);
+    EXPECT_TRUE(picker->isVisible()) << "there is nothing to choose";
+    words->clear();
+    EXPECT_TRUE(list->item(0)->text().startsWith("one"));
+    picker->close();
+    QApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+    Editor().SetText(u"", 1);
+    Trigger("goToSymbol");
+    EXPECT_EQ(m_window.findChild<SymbolPicker*>()->findChild<QListWidget*>()->item(0)->text(),
+              "The script creates nothing that could be listed");
+}
+
 TEST_F(WindowParts, GoToAStepOfAShortScriptAndToATableOfALongOne)
 {
     const auto goTo = [this](const char* name) {
@@ -493,7 +536,7 @@ TEST_F(WindowParts, TakeTheEncodingOfTheOptionsWhereAFileTellsNone)
         OptionsDialog dialog(nullptr);
         auto* box = dialog.findChild<QComboBox*>("encoding");
         EXPECT_EQ(box->currentText(), "UTF-8");
-        box->setCurrentText("windows-1252");
+        box->setCurrentText("None of Unicode: as below");
         dialog.Store();
     }
     EXPECT_EQ(options.GetInt(option::DefaultTextType), 0);
@@ -513,3 +556,99 @@ TEST_F(WindowParts, TakeTheEncodingOfTheOptionsWhereAFileTellsNone)
 }
 
 } // namespace
+
+TEST_F(WindowParts, GiveAMessageTheRoomThatItNeeds)
+{
+    Open("a.sql", "select 1;\n");
+    m_window.resize(900, 480);
+    QStatusBar& bar = *m_window.statusBar();
+    const auto shown = [&] {
+        QList<QWidget*> fields;
+        for (QLabel* label : bar.findChildren<QLabel*>()) {
+            if (label->parentWidget() != &bar && label->isVisible())
+                fields << label->parentWidget();
+        }
+        return fields;
+    };
+    QApplication::processEvents();
+    const QList<QWidget*> before = shown();
+    const QString message = QStringLiteral("latin1b.sql was read anew: it is windows-1252, as is "
+                                           "everything in this folder");
+    bar.showMessage(message);
+    QApplication::processEvents();
+    int room = bar.width();
+    for (const QWidget* field : shown())
+        room = std::min(room, field->x());
+    EXPECT_GT(room, bar.fontMetrics().horizontalAdvance(message));
+    EXPECT_EQ(bar.toolTip(), message);
+    bar.showMessage(QStringLiteral("saved"));
+    EXPECT_EQ(shown(), before) << "there is room";
+    bar.showMessage(message);
+    bar.clearMessage();
+    EXPECT_EQ(shown(), before);
+    EXPECT_EQ(bar.toolTip(), QString());
+}
+
+TEST_F(WindowParts, SayNothingOfAScriptThatIsNoLongerInFront)
+{
+    Open("a.sql", "a");
+    Open("b.sql", "b");
+    Q_EMIT Script().Told("of b");
+    EXPECT_EQ(m_window.statusBar()->currentMessage(), "of b");
+    m_window.ShowTab(0);
+    EXPECT_EQ(m_window.statusBar()->currentMessage(), "");
+}
+
+TEST_F(WindowParts, HaveFieldsThatGiveWayToThePlaceOfTheCaret)
+{
+    Open("a.sql", "select 1;\n");
+    Editor().ReplaceSel(u"x", 1);
+    Settle();
+    const QStatusBar& bar = *m_window.statusBar();
+    const auto field = [&bar](const char* name) {
+        return bar.findChild<QLabel*>(QLatin1String(name))->parentWidget();
+    };
+    for (const int width : {1200, 800, 560, 400, 800, 1200}) {
+        m_window.resize(width, 480);
+        Settle();
+        ASSERT_EQ(bar.width(), width);
+        ASSERT_TRUE(field("caret")->isVisible()) << width;
+        int end = 0;
+        int count = 0;
+        for (const char* name :
+             {"readOnly", "modified", "problemCount", "caret", "catalog", "language", "encoding",
+              "lineEnds", "indentation", "zoom", "overtype"}) {
+            if (!field(name)->isVisible())
+                continue;
+            ++count;
+            EXPECT_GE(field(name)->x(), end) << name << " at " << width;
+            end = field(name)->geometry().right() + 1;
+        }
+        EXPECT_LE(end, width);
+        EXPECT_EQ(field("overtype")->isVisible(), width == 1200) << width;
+        EXPECT_EQ(field("zoom")->isVisible(), width == 1200) << width;
+        EXPECT_EQ(field("language")->isVisible(), width >= 560) << width;
+        EXPECT_EQ(count == 8, width == 1200) << count; // all that say something
+    }
+    EXPECT_EQ(Status("caret"), "Line 1, column 2");
+}
+
+TEST_F(WindowParts, ShareTheSideBetweenOutlineAndFolder)
+{
+    Open("a.sql", "select 1;\n");
+    m_window.resize(900, 700);
+    Trigger("outline");
+    QApplication::processEvents();
+    Trigger("folder");
+    QApplication::processEvents();
+    const auto height = [this](const char* name) {
+        const auto* action = m_window.findChild<QAction*>(QLatin1String(name));
+        for (const auto* pane : m_window.findChildren<QDockWidget*>()) {
+            if (pane->toggleViewAction() == action)
+                return pane->height();
+        }
+        return 0;
+    };
+    EXPECT_GT(height("folder"), 150);
+    EXPECT_NEAR(height("folder"), height("outline"), 20);
+}

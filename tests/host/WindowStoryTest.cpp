@@ -201,3 +201,21 @@ TEST_F(WindowStory, ALaterStartOpensItsFileInTheWindowThatIsThere)
         return isOpen && bytes == "select 3;\n-- select 4;\n";
     }));
 }
+
+TEST_F(WindowStory, ALaterStartWhileTheWindowAsksWhetherToGoHasAWindow)
+{
+    QFile other(m_folder.filePath(QStringLiteral("later.sql")));
+    ASSERT_TRUE(other.open(QIODevice::WriteOnly));
+    other.close();
+    Type("x");
+    Keys({"ctrl+q"});
+    ASSERT_TRUE(Eventually([] { return !Visible("Unsaved changes").isEmpty(); }));
+    QProcess later;
+    later.setProcessEnvironment(OwnPlaces(m_folder.path()));
+    later.start(QStringLiteral(ZN_WORKBENCH), {other.fileName()});
+    ASSERT_TRUE(later.waitForFinished(kPatienceInMs));
+    XDoTool({"windowfocus", "--sync", Visible("Unsaved changes")});
+    Keys({"alt+d"});
+    EXPECT_TRUE(Eventually([] { return !Visible("later.sql").isEmpty(); }));
+    EXPECT_EQ(Read(), QByteArray("select 1;\nselect 2;\n"));
+}

@@ -59,7 +59,7 @@ TEST_F(WorkProgressTest, StopsByItsButton)
 TEST_F(WorkProgressTest, CountsInTheStatusBarWhatNothingCanStopWithoutHandlingAnEvent)
 {
     bool hasHandled = false;
-    QTimer::singleShot(0, [&hasHandled] { hasHandled = true; });
+    QTimer::singleShot(0, &m_window, [&hasHandled] { hasHandled = true; });
     m_progress.Tells(m_window.centralWidget(), QStringLiteral("Undoing"), 12345);
     EXPECT_EQ(m_window.statusBar()->currentMessage(), QStringLiteral("Undoing: 12,345 changes"));
     EXPECT_FALSE(Box());

@@ -5,6 +5,7 @@
 #include "host/translations/Translations.h"
 
 #include <QCoreApplication>
+#include <QLocale>
 #include <QPushButton>
 
 #include <gtest/gtest.h>
@@ -83,6 +84,17 @@ TEST_F(UiLanguage, BringsTheTextsOfQtAlong)
     zncoreeditor::SetUiLanguage(QStringLiteral("en"));
     InstallTranslations();
     EXPECT_EQ(QCoreApplication::translate("QPlatformTheme", "Cancel"), "Cancel");
+}
+
+TEST_F(UiLanguage, TakesEnglishOrderAndNumbersWhereTheDesktopHasNone)
+{
+    QLocale::setDefault(QLocale::c());
+    InstallTranslations();
+    EXPECT_EQ(QLocale().language(), QLocale::English);
+    QLocale::setDefault(QLocale(QLocale::German));
+    InstallTranslations();
+    EXPECT_EQ(QLocale().language(), QLocale::German);
+    QLocale::setDefault(QLocale::system());
 }
 
 TEST(WordsWithoutMnemonic, KeepNoLetterInBrackets)
