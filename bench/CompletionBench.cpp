@@ -82,9 +82,9 @@ const std::string& TextOf(int kind)
 
 struct Typist
 {
-    explicit Typist(int kind)
+    explicit Typist(const std::string& text)
     {
-        const std::string path = WriteFile("completion.sql", TextOf(kind));
+        const std::string path = WriteFile("completion.sql", text);
         const std::u16string wide(path.begin(), path.end());
         editor.resize(900, 600);
         editor.show();
@@ -118,9 +118,8 @@ struct Typist
 };
 
 // From a key to the list behind it, painted.
-void CompletionKey(benchmark::State& state)
+void TypeWords(benchmark::State& state, Typist& typist)
 {
-    Typist typist(static_cast<int>(state.range(0)));
     const QString words[] = {QStringLiteral("select "),   QStringLiteral("customer"),
                              QStringLiteral(" sales"),    QStringLiteral(" o"),
                              QStringLiteral(" amount_1"), QStringLiteral(" from art")};
@@ -142,11 +141,33 @@ void CompletionKey(benchmark::State& state)
     std::sort(keys.begin(), keys.end());
     ReportFigure(state, keys[keys.size() * 99 / 100], 16, "ms a key, 99th percentile");
 }
+
+void CompletionKey(benchmark::State& state)
+{
+    Typist typist(TextOf(static_cast<int>(state.range(0))));
+    TypeWords(state, typist);
+}
 BENCHMARK(CompletionKey)->DenseRange(0, 2)->Iterations(20)->Unit(benchmark::kMillisecond);
+
+// In a short script, with nothing beside it and with a script of 29 MB full of names.
+void CompletionBeside(benchmark::State& state)
+{
+    constexpr std::size_t kBeside = 29 << 20;
+    Typist beside(TextOf(2).substr(0, kBeside));
+    Typist typist("select 1;\n");
+    if (state.range(0) == 1) {
+        typist.editor.completer()->SetOtherScripts([&beside] {
+            return std::vector<completion::OtherScript>{{&beside.Index(), QString()}};
+        });
+    }
+    TypeWords(state, typist);
+    typist.editor.completer()->SetOtherScripts({});
+}
+BENCHMARK(CompletionBeside)->DenseRange(0, 1)->Iterations(20)->Unit(benchmark::kMillisecond);
 
 void CompletionMemory(benchmark::State& state)
 {
-    Typist typist(static_cast<int>(state.range(0)));
+    Typist typist(TextOf(static_cast<int>(state.range(0))));
     const double size = static_cast<double>(TextOf(static_cast<int>(state.range(0))).size());
     double memory = 0;
     for (auto _ : state)
