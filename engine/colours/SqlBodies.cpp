@@ -49,6 +49,7 @@ bool SqlStyler::CutAtBodyEnd(Token& token)
             NoteDepth();
             m_state.inBody = false;
             m_state.bodyTag = 0;
+            m_state.bodyMayCome = false;
             m_state.docComment = false;
             m_scanner.Restart(tag.end);
             return true;

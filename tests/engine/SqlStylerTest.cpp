@@ -169,6 +169,7 @@ TEST(SqlStyles, BodiesOfRoutinesAreCode)
         {u"as $a$ x /* $a$ 1 */", "ii sss i CCCsss n oo"},
         {u"as t $$x$$", "ii i sssss"},
         {u"is $$x$$", "ii sssss"},
+        {u"as $$ x as $$$$ y $$ 1", "ii ss i ii sssssssss n"}, // AS of the body opens none behind it
     };
     for (const auto& [text, letters] : kSamples)
         EXPECT_EQ(Letters(9, text), letters) << QString::fromUtf16(text).toStdString();
