@@ -10,7 +10,7 @@
 #include "engine/core/Handlers.h"
 #include "engine/looks/DocumentMap.h"
 #include "engine/text/Characters.h"
-#include "engine/text/RightToLeft.h"
+#include "engine/text/ShownCharacters.h"
 #include "platform/services/LongWork.h"
 
 #include <array>
@@ -175,7 +175,7 @@ void Engine::PrepareDocument()
     documents::Shown(m_document, *this);
     documents::Left(left, *this);
     raw.Send(Sci::SCI_SETCODEPAGE, Sci::SC_CP_UTF8);
-    m_showsRightToLeft = false;
+    m_showsCharacters = false;
     text.Reset();
     LookPainter::MarksMayGo();
     looks.ShowMatchesWithin({});
@@ -195,10 +195,10 @@ void Engine::PrepareDocument()
 // Letters are shown in some way once there may be any: what is kept of each costs memory.
 void Engine::PrepareToPaint()
 {
-    if (m_showsRightToLeft || text.IsAscii())
+    if (m_showsCharacters || text.IsAscii())
         return;
-    m_showsRightToLeft = true;
-    ShowRightToLeft(raw);
+    m_showsCharacters = true;
+    ShowCharacters(raw);
 }
 
 LRESULT Engine::Perform(UINT message, WPARAM wParam, LPARAM lParam)

@@ -172,7 +172,7 @@ private:
 
     LRESULT m_document = 0;
     KeptAnswer m_collectsUndo;
-    bool m_showsRightToLeft = false;
+    bool m_showsCharacters = false;
     bool m_owesSelection = false; // it has not been told
     bool m_hasJumped = false;     // the caret, since it last moved by lines
 };

@@ -688,6 +688,23 @@ TEST_F(LooksTest, ShowLettersFromTheRightOneByOne)
     }
 }
 
+// To a database they are no blanks: what is pasted from a web page fails for no reason to be seen.
+TEST_F(LooksTest, NameWhatLooksLikeABlankOrNothing)
+{
+    for (const char16_t c : {u'\u00A0', u'\u202F', u'\u00AD', u'\u200B', u'\u200D', u'\uFEFF'}) {
+        Put(QStringLiteral("a") + QChar(c) + QStringLiteral("b\n"));
+        const QImage image = control.GetSafeHwnd()->grab().toImage();
+        const auto left = static_cast<int>(control.PointXFromPosition(1, 1));
+        const auto right = static_cast<int>(control.PointXFromPosition(2, 1));
+        EXPECT_GT(right - left, 2 * control.TextWidth(32, u"x", 1)) << std::hex << int(c);
+        const int middle = static_cast<int>(control.TextHeight(0, 1)) / 2;
+        std::set<QRgb> colours;
+        for (int x = left; x < right; ++x)
+            colours.insert(image.pixel(x, middle));
+        EXPECT_GT(colours.size(), 1U) << std::hex << int(c);
+    }
+}
+
 TEST_F(LooksTest, HaveRoomForTheAccentsOfCapitals)
 {
     Put(QStringLiteral("\u00DC\u00C5\n")); // in the first line, which none above leaves room for

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-// Letters that are written from the right, and the characters that turn the order around.
+// Characters that would mislead, or not be seen at all, as their font has them.
 #pragma once
 
 #include "engine/text/Raw.h"
@@ -9,7 +9,8 @@ namespace engine {
 // The stock engine measures a text from the left and has it drawn in the order that it is written
 // in: letters from the right had no width, and lay over what follows them. They are shown one by
 // one in the order of the text, each in a box of its own; what turns the order around by its name,
-// so that no code looks like another. For the document that is shown.
-void ShowRightToLeft(const Raw& raw);
+// so that no code looks like another. So is what looks like a blank, or like nothing, and is none to
+// a database. For the document that is shown.
+void ShowCharacters(const Raw& raw);
 
 } // namespace engine

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-#include "engine/text/RightToLeft.h"
+#include "engine/text/ShownCharacters.h"
 
 #include <Qsci/qsciscintillabase.h>
 
@@ -25,16 +25,39 @@ constexpr Blocks kBlocks[] = {
     {0xFE70, 0xFEFC},
 };
 
-struct Turn
+struct Named
 {
     char16_t character;
-    const char* name; // as the Unicode Bidirectional Algorithm has it
+    const char* name; // as the Unicode Standard abbreviates it
 };
 
-constexpr Turn kTurns[] = {
-    {0x061C, "ALM"}, {0x200E, "LRM"}, {0x200F, "RLM"}, {0x202A, "LRE"},
-    {0x202B, "RLE"}, {0x202C, "PDF"}, {0x202D, "LRO"}, {0x202E, "RLO"},
-    {0x2066, "LRI"}, {0x2067, "RLI"}, {0x2068, "FSI"}, {0x2069, "PDI"},
+// U+3000 is not among them: texts in Chinese and Japanese are full of it, and it is as wide as a
+// letter.
+constexpr Named kNamed[] = {
+    // What turns the order around.
+    {0x061C, "ALM"},
+    {0x200E, "LRM"},
+    {0x200F, "RLM"},
+    {0x202A, "LRE"},
+    {0x202B, "RLE"},
+    {0x202C, "PDF"},
+    {0x202D, "LRO"},
+    {0x202E, "RLO"},
+    {0x2066, "LRI"},
+    {0x2067, "RLI"},
+    {0x2068, "FSI"},
+    {0x2069, "PDI"},
+    // What looks like a blank.
+    {0x00A0, "NBSP"},
+    {0x2007, "FSP"},
+    {0x202F, "NNBSP"},
+    // What is not seen.
+    {0x00AD, "SHY"},
+    {0x200B, "ZWSP"},
+    {0x200C, "ZWNJ"},
+    {0x200D, "ZWJ"},
+    {0x2060, "WJ"},
+    {0xFEFF, "BOM"},
 };
 
 struct Shown
@@ -58,14 +81,14 @@ std::vector<Shown> AllShown()
             }
         }
     }
-    for (const Turn& turn : kTurns)
-        all.push_back({QString(QChar(turn.character)).toUtf8(), turn.name});
+    for (const Named& named : kNamed)
+        all.push_back({QString(QChar(named.character)).toUtf8(), named.name});
     return all;
 }
 
 } // namespace
 
-void ShowRightToLeft(const Raw& raw)
+void ShowCharacters(const Raw& raw)
 {
     static const std::vector<Shown> all = AllShown();
     for (const Shown& each : all)
