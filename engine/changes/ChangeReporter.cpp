@@ -265,7 +265,12 @@ void ChangeReporter::OnModified(int position, int type, int length, int line, in
         Flush();
         // It may move marks, of which a host can be told: before there is a change that waits.
         if (m_follow)
-            m_follow(type & modification::BeforeInsert, position, length);
+            m_follow({.inserts = (type & modification::BeforeInsert) != 0,
+                      .position = position,
+                      .bytes = length,
+                      .origin = type & modification::Undo   ? EditOrigin::Undo
+                                : type & modification::Redo ? EditOrigin::Redo
+                                                            : EditOrigin::Person});
         Note(type, {position}, length);
         --s_inside;
         --s_noting;

@@ -9,6 +9,7 @@
 
 #include "control/EngineMessages.h"
 #include "engine/colours/Colouring.h"
+#include "engine/text/TextEdit.h"
 #include "engine/text/TextIndex.h"
 #include "engine/text/Utf.h"
 
@@ -35,7 +36,7 @@ public:
     }
 
     // Called for each change before it is noted, while the text is as it was.
-    void SetFollower(std::function<void(bool inserts, long position, long bytes)> follow)
+    void SetFollower(std::function<void(const TextEdit& edit)> follow)
     {
         m_follow = std::move(follow);
     }
@@ -162,7 +163,7 @@ private:
     bool m_hasListener = false;
     bool m_asksOver = false; // the parent wants to hear when this is over
     UINT m_id = 0;           // of the window, as soon as it has one
-    std::function<void(bool inserts, long position, long bytes)> m_follow;
+    std::function<void(const TextEdit&)> m_follow;
     std::function<void(long position, long end)> m_markChange;
     std::function<bool(UINT number)> m_listen;
     Utf16Text m_changed;            // text of a noted deletion; storage otherwise

@@ -5,6 +5,7 @@
 #include "engine/core/CaretSteps.h"
 #include "engine/core/EraseRun.h"
 #include "engine/core/ErrorList.h"
+#include "engine/looks/ChangeBars.h"
 
 #include <algorithm>
 #include <unordered_map>
@@ -22,6 +23,7 @@ struct Record
     ErrorList errors;
     EraseRun eraseRun;
     CaretSteps caretSteps;
+    ChangeBars changeBars;
 };
 
 std::unordered_map<Document, Record>& All()
@@ -105,6 +107,11 @@ EraseRun& EraseRunOf(Document document)
 CaretSteps& CaretStepsOf(Document document)
 {
     return All()[document].caretSteps;
+}
+
+ChangeBars& ChangeBarsOf(Document document)
+{
+    return All()[document].changeBars;
 }
 
 bool AddReference(Document document)

@@ -10,6 +10,7 @@
 
 namespace engine {
 class CaretSteps;
+class ChangeBars;
 class Colouring;
 class Engine;
 class EraseRun;
@@ -39,6 +40,9 @@ EraseRun& EraseRunOf(Document document);
 
 // The steps that were made with several carets in a document that a window shows.
 CaretSteps& CaretStepsOf(Document document);
+
+// The marks of the lines that have changed in a document that a window shows.
+ChangeBars& ChangeBarsOf(Document document);
 
 // References of hosts. Release gives false if hosts hold none.
 void Created(Document document);

@@ -128,15 +128,13 @@ Engine::Engine(QsciScintillaBase& widget)
       stored(raw, text), searcher(stored), looks(widget, raw, stored)
 {
     PrepareDocument();
-    reporter.SetFollower([this](bool inserts, long position, long bytes) {
-        EditBegins({inserts, position, bytes});
-    });
+    reporter.SetFollower([this](const TextEdit& edit) { EditBegins(edit); });
     // A load, which nobody can undo, changes no line.
     reporter.SetMarker([this](long position, long end) {
         if (map)
             map->EditEnds();
-        if (CollectsUndo())
-            looks.MarkChange(position, end);
+        if (MarksChanges())
+            bars->EditEnds(raw, position, end);
     });
     reporter.SetCommandListener([this](UINT number) {
         wholeCharacters.OnCommand(number);
@@ -177,13 +175,14 @@ void Engine::PrepareDocument()
     raw.Send(Sci::SCI_SETCODEPAGE, Sci::SC_CP_UTF8);
     m_showsCharacters = false;
     text.Reset();
-    LookPainter::MarksMayGo();
+    ChangeBars::MarksMayGo();
     looks.ShowMatchesWithin({});
     readOnly = {};
     m_collectsUndo = {};
     colouring = documents::ColouringOf(m_document);
     reporter.SetColouring(colouring);
     errors = &documents::Errors(m_document);
+    bars = &documents::ChangeBarsOf(m_document);
     if (errors->Look() == ErrorLook())
         errors->SetLook(*this, errorLook);
     analysis.Forget();
@@ -278,6 +277,17 @@ void Engine::NoteUncollected(const TextEdit& edit)
         documents::HasStaleHistory(m_document) = true;
 }
 
+// One of the windows that show the document does, for each of them may tell of an edit.
+bool Engine::MarksChanges()
+{
+    if (!looks.IsOn() || !CollectsUndo())
+        return false;
+    const std::vector<Engine*>& windows = documents::Windows(m_document);
+    const auto first = std::find_if(windows.begin(), windows.end(),
+                                    [](const Engine* shown) { return shown->looks.IsOn(); });
+    return first != windows.end() && *first == this;
+}
+
 void Engine::EditBegins(const TextEdit& edit)
 {
     if (undo)
@@ -291,6 +301,10 @@ void Engine::EditBegins(const TextEdit& edit)
     searcher.TextChanges([&edit](long place) { return edit.Moved(place); });
     errors->NoteChange(*this, edit.inserts, edit.position, edit.bytes);
     looks.EditBegins(edit);
+    if (MarksChanges())
+        bars->EditBegins(raw, edit);
+    else if (!CollectsUndo() || !looks.IsOn())
+        bars->Forget();
     if (map)
         map->EditBegins(edit);
 }

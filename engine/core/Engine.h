@@ -12,6 +12,7 @@
 #include "engine/core/ScriptAnalysis.h"
 #include "engine/core/WholeCharacters.h"
 #include "engine/errors/ErrorMarks.h"
+#include "engine/looks/ChangeBars.h"
 #include "engine/looks/LookPainter.h"
 #include "engine/search/Searcher.h"
 #include "engine/text/Raw.h"
@@ -118,6 +119,8 @@ public:
     // in whatever window, says so.
     bool CollectsUndo();
     static void CollectingMayChange();
+    // Whether this window is the one that keeps the marks of changed lines.
+    bool MarksChanges();
 
     // Replaces the target by the bytes, which it is then.
     void ReplaceTarget(std::string_view bytes);
@@ -134,6 +137,7 @@ public:
     ScriptAnalysis analysis;
 
     ErrorList* errors = nullptr; // of the text that the window shows
+    ChangeBars* bars = nullptr;  // of it, too
     const StoredText stored;
     search::Searcher searcher;
     LookPainter looks;

@@ -207,7 +207,7 @@ bool MakesDefaultWords(const Engine&, WPARAM&, LPARAM&)
 
 bool TakesMarkers(const Engine&, WPARAM&, LPARAM&)
 {
-    LookPainter::MarksMayGo();
+    ChangeBars::MarksMayGo();
     return true;
 }
 

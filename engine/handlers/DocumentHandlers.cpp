@@ -72,6 +72,7 @@ void ForgetHistory(Engine& engine)
 {
     const bool isModified = engine.raw.Send(Sci::SCI_GETMODIFY) != 0;
     engine.raw.Send(Sci::SCI_EMPTYUNDOBUFFER);
+    engine.bars->Forget();
     if (isModified)
         engine.raw.Send(Sci::SCI_ADDUNDOACTION);
 }
@@ -95,9 +96,17 @@ LRESULT SetUndoCollection(Engine& engine, WPARAM wParam, LPARAM)
 
 LRESULT EmptyUndoBuffer(Engine& engine, WPARAM, LPARAM)
 {
-    ChangeReporter::WhenSettled(&engine.window,
-                                [&engine] { engine.raw.Send(Sci::SCI_EMPTYUNDOBUFFER); });
+    ChangeReporter::WhenSettled(&engine.window, [&engine] {
+        engine.raw.Send(Sci::SCI_EMPTYUNDOBUFFER);
+        engine.bars->Forget();
+    });
     return 0;
+}
+
+LRESULT SetSavePoint(Engine& engine, WPARAM, LPARAM)
+{
+    engine.bars->SavePointSet();
+    return engine.raw.Send(Sci::SCI_SETSAVEPOINT);
 }
 
 // The stock engine scrolls as little as it can, and leaves the caret at the left edge of what a
@@ -145,6 +154,7 @@ constexpr HandlerRow kRows[] = {
     {message::AddRefDocument, AddRefDocument},       {message::ReleaseDocument, ReleaseDocument},
     {message::BeginUndoAction, BeginUndoAction},     {message::EndUndoAction, EndUndoAction},
     {message::SetUndoCollection, SetUndoCollection}, {message::EmptyUndoBuffer, EmptyUndoBuffer},
+    {message::SetSavePoint, SetSavePoint},
     {message::Undo, ChangeBySteps<Sci::SCI_UNDO>},   {message::Redo, ChangeBySteps<Sci::SCI_REDO>},
 };
 

@@ -56,30 +56,6 @@ void LookPainter::LinesChanged()
 }
 
 // What replaces is two changes at one place, and an undo makes hundreds of thousands of them.
-void LookPainter::MarkChange(long position, long end)
-{
-    const bool isMarked = m_series == s_series && position == m_marked && end == position;
-    if (!m_looks || isMarked)
-        return;
-    m_marked = position;
-    m_series = s_series;
-    const auto lineOf = [this](long place) {
-        return m_raw.Send(Sci::SCI_LINEFROMPOSITION, static_cast<WPARAM>(place));
-    };
-    const std::intptr_t first = lineOf(position);
-    std::intptr_t last = end > position ? lineOf(end) : first;
-    // Whole lines put in front of one leave that as it was.
-    const auto isStart = [this](std::intptr_t line, long place) {
-        return m_raw.Send(Sci::SCI_POSITIONFROMLINE, static_cast<WPARAM>(line)) == place;
-    };
-    if (last > first && isStart(first, position) && isStart(last, end))
-        --last;
-    for (auto line = static_cast<WPARAM>(first); line <= static_cast<WPARAM>(last); ++line) {
-        if (!(m_raw.Send(Sci::SCI_MARKERGET, line) & Bit(lookmarker::kLineChanged)))
-            m_raw.Send(Sci::SCI_MARKERADD, line, long{lookmarker::kLineChanged});
-    }
-}
-
 void LookPainter::Set(const Looks* looks)
 {
     // Hidden lines have a button to show them, and without looks a line.

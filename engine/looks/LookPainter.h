@@ -59,10 +59,6 @@ public:
     void FocusChanged(bool hasFocus);
     void Updated(int updated); // SCN_UPDATEUI
     void EditBegins(const TextEdit& edit);
-    // The lines from one place to another have changed; bytes.
-    void MarkChange(long position, long end);
-    // From here on the mark of the last change, in whatever window, may have gone.
-    static void MarksMayGo() { ++s_series; }
 
 private:
     struct Margins
@@ -97,8 +93,6 @@ private:
     Highlights m_matches;
     ScrollMarks* m_marks = nullptr; // goes with the scroll bar
     QTimer m_rest;
-    long m_marked = 0;        // where the last change was marked, bytes,
-    unsigned m_series = 0;    // if it was in this series
     long m_numberedLine = -1; // whose number stands out
     StatementAtCaret m_statementAtCaret;
     bool m_textHasChanged = false; // since the last rest
@@ -106,8 +100,6 @@ private:
     bool m_showsLineEnds = false;
     bool m_awaitsColour = false; // to know whether the word at the caret is a name
     bool m_anyCase = false;
-
-    static inline unsigned s_series = 1; // of changes that nothing came between
 };
 
 } // namespace engine

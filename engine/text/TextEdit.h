@@ -6,11 +6,19 @@
 
 namespace engine {
 
+enum class EditOrigin
+{
+    Person, // or a program
+    Undo,
+    Redo
+};
+
 struct TextEdit
 {
     bool inserts = false;
     long position = 0;
     long bytes = 0;
+    EditOrigin origin = EditOrigin::Person;
 
     // A place goes along with the text behind it. Where text goes in it stays, and what is deleted
     // around it leaves it at the deletion.

@@ -11,6 +11,7 @@
 #include "looks/Schemes.h"
 #include "platform/base/Colours.h"
 #include "platform/services/OptionsServer.h"
+#include "tests/RandomSeed.h"
 #include "tests/control/ControlFixture.h"
 #include "tests/looks/TouchScreen.h"
 
@@ -29,7 +30,9 @@
 
 #include <gtest/gtest.h>
 
+#include <array>
 #include <memory>
+#include <random>
 
 namespace {
 
@@ -135,6 +138,86 @@ TEST_F(LooksTest, ShowLinesThatChangedUntilTheyAreAsTheyWere)
     EXPECT_GT(CountOf(Drawn::LineChanged), 20);
     control.Undo(1);
     EXPECT_EQ(control.MarkerNext(0, kChanged, 1), -1);
+}
+
+TEST_F(LooksTest, ShowTheBarsThatWereThereWhenChangesAreUndoneAndRedone)
+{
+    Put(QStringLiteral("a\na b\nc\nd a\n"));
+    const auto bars = [&] {
+        QString text; // a letter for each line
+        for (int line = 0; line < control.GetLineCount(1); ++line) {
+            const int marks = control.MarkerGet(line, 1) & (kChanged | kSaved);
+            text += QLatin1Char(marks & kChanged ? 'c' : marks ? 's' : '-');
+        }
+        return text.toStdString();
+    };
+    control.GotoPos(6, 1);
+    control.ReplaceSel(u"x", 1);
+    EXPECT_EQ(bars(), "--c--");
+    control.BeginUndoAction(1);
+    control.SetSel(9, 12, 1); // "d a"
+    control.ReplaceSel(u"d\ne", 1);
+    control.SetSel(0, 4, 1); // "a\na "
+    control.ReplaceSel(u"", 1);
+    control.EndUndoAction(1);
+    EXPECT_EQ(bars(), "cccc-");
+    control.Undo(1);
+    EXPECT_EQ(bars(), "--c--");
+    control.Redo(1);
+    EXPECT_EQ(bars(), "cccc-");
+
+    QTemporaryDir folder;
+    ASSERT_TRUE(face.saveFile(folder.filePath(QStringLiteral("a.sql"))));
+    EXPECT_EQ(bars(), "ssss-");
+    control.Undo(1);
+    EXPECT_EQ(bars(), "ccsc-"); // but for one the file has these lines otherwise
+    control.Redo(1);
+    EXPECT_EQ(bars(), "ssss-");
+}
+
+TEST_F(LooksTest, ShowBarsAtRandomEditsAsTheirStatesHadThem)
+{
+    const unsigned seed = RandomSeed();
+    SCOPED_TRACE("seed " + std::to_string(seed));
+    std::mt19937 random(seed);
+    const auto below = [&](int limit) { return static_cast<int>(random() % unsigned(limit)); };
+    for (int round = 0; round < 20; ++round) {
+        Put(QStringLiteral("one\ntwo\n\nfour\nfive\n"));
+        const auto state = [&] {
+            std::string bars;
+            for (int line = 0; line < control.GetLineCount(1); ++line)
+                bars += control.MarkerGet(line, 1) & kChanged ? 'c' : '-';
+            return std::pair(control.GetText(), bars);
+        };
+        std::vector states(1, state());
+        std::size_t at = 0; // of them
+        for (int step = 0; step < 60 && !HasFailure(); ++step) {
+            const int what = below(5);
+            if (what == 0 && at > 0) {
+                control.Undo(1);
+                --at;
+            } else if (what == 1 && at + 1 < states.size()) {
+                control.Redo(1);
+                ++at;
+            } else {
+                // An action of one edit or more is one step, and none joins the one before it.
+                control.BeginUndoAction(1);
+                for (int edits = below(3); edits >= 0; --edits) {
+                    const long length = control.GetLength(1);
+                    const long from = below(int(length) + 1);
+                    control.SetSel(from, std::min<long>(length, from + below(7)), 1);
+                    control.ReplaceSel(std::array{u"", u"x", u"\n", u"a\nb", u"a\n"}[below(5)], 1);
+                }
+                control.ReplaceSel(u".", 1); // no action is empty
+                control.EndUndoAction(1);
+                states.resize(++at);
+                states.push_back(state());
+            }
+            // Where the text is the file's there are none.
+            EXPECT_TRUE(at > 0 || control.MarkerNext(0, kChanged, 1) < 0);
+            EXPECT_EQ(state(), states[at]) << "step " << step;
+        }
+    }
 }
 
 TEST_F(LooksTest, LeaveTheLineThatWholeLinesArePutInFrontOf)
