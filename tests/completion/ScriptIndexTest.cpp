@@ -1,4 +1,5 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
+#include "tests/RandomSeed.h"
 #include "tests/completion/IndexedText.h"
 
 #include <gtest/gtest.h>
@@ -18,12 +19,6 @@ const engine::analysis::SqlDialect* Dialect(const char* name)
 bool Has(const std::vector<std::string>& lines, const std::string& line)
 {
     return std::find(lines.begin(), lines.end(), line) != lines.end();
-}
-
-unsigned Seed()
-{
-    const char* set = std::getenv("ZN_SEED");
-    return set ? static_cast<unsigned>(std::strtoul(set, nullptr, 10)) : std::random_device{}();
 }
 
 constexpr const char16_t* kPieces[] = {
@@ -123,8 +118,8 @@ TEST(ScriptIndex, TakesNoMoreWordsThanItsShareOfTheText)
 
 TEST(ScriptIndex, IsThatOfAFreshOneBehindAnyEdits)
 {
-    const unsigned seed = Seed();
-    SCOPED_TRACE("ZN_SEED=" + std::to_string(seed));
+    const unsigned seed = RandomSeed();
+    SCOPED_TRACE("ZN_TEST_SEED=" + std::to_string(seed));
     std::mt19937 random(seed);
     for (const char* name : {"transact-sql", "postgresql", "oracle", "mysql", "sqlite", ""}) {
         IndexedText text(*name ? Dialect(name) : nullptr, u"", 64 + long(random() % 200));

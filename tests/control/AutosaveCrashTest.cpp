@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 // A process that edits a script is killed again and again around its autosave write. What it leaves
 // is offered by the next open, and is one of the texts that it had.
+#include "tests/RandomSeed.h"
 #include "tests/control/AutosaveFixture.h"
 
 #include <QApplication>
@@ -124,7 +125,7 @@ class AutosaveCrash : public testing::Test
 protected:
     static constexpr int kRuns = 220;
 
-    AutosaveCrash() : m_seed(std::random_device{}()), m_random(m_seed)
+    AutosaveCrash() : m_seed(RandomSeed()), m_random(m_seed)
     {
         std::cout << "seed " << m_seed << '\n';
     }

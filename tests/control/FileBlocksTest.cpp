@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 // Files as UTF-16, block by block: what a seam does to a character, with and without care.
 #include "control/FileBlocks.h"
+#include "tests/RandomSeed.h"
 
 #include <gtest/gtest.h>
 
@@ -206,7 +207,7 @@ std::u16string RandomText(std::mt19937& random, std::size_t units)
 
 TEST(Seams, CareCarriesEveryCharacterOverEverySeam)
 {
-    const auto seed = std::random_device{}();
+    const auto seed = RandomSeed();
     std::cout << "seed " << seed << '\n';
     std::mt19937 random(seed);
     constexpr FileEncodeConverter::encodingType kAll[] = {kUtf16, FileEncodeConverter::encUTF16BE,

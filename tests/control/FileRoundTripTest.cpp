@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 // Load and save through the real engine.
+#include "tests/RandomSeed.h"
 #include "tests/control/ControlFixture.h"
 #include "tests/platform/file/FullDisk.h"
 
@@ -328,7 +329,7 @@ TEST_F(Files, ADiskThatFillsUpLeavesTheOldFileWithCare)
 
 TEST_F(Files, AKilledSaveLeavesTheOldFileOrTheNewOne)
 {
-    const auto seed = std::random_device{}();
+    const auto seed = RandomSeed();
     std::cout << "seed " << seed << '\n';
     std::mt19937 random(seed);
     control.SetCarefulFiles(true);
@@ -381,7 +382,7 @@ class EveryEncoding : public Files, public testing::WithParamInterface<Encoding>
 
 TEST_P(EveryEncoding, GivesTheSameBytesBackWithCare)
 {
-    const auto seed = std::random_device{}();
+    const auto seed = RandomSeed();
     std::cout << "seed " << seed << '\n';
     std::mt19937 random(seed);
     const Encoding encoding = GetParam();

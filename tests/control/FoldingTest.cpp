@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 // What the folding operations send to the engine, in which order.
+#include "tests/RandomSeed.h"
 #include "tests/control/ControlFixture.h"
 #include "tests/control/RecordingEngine.h"
 
@@ -194,7 +195,7 @@ TEST_F(Folding, ForcedWalksHideBelowTheLevelsThatAreVisible)
 
 TEST_F(Folding, AWalkSendsWhatARecursionWouldSend)
 {
-    const unsigned seed = std::random_device{}();
+    const unsigned seed = RandomSeed();
     SCOPED_TRACE(seed);
     std::mt19937 random(seed);
     const auto upTo = [&random](int last) {

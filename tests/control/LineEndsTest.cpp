@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "control/LineEnds.h"
+#include "tests/RandomSeed.h"
 
 #include <gtest/gtest.h>
 
@@ -84,7 +85,7 @@ TEST(LineEnds, ACrAtABlocksEndWaitsForItsLf)
 
 TEST(LineEnds, BlocksOfAnySizeGiveWhatTheWholeTextGives)
 {
-    const auto seed = std::random_device{}();
+    const auto seed = RandomSeed();
     std::cout << "seed " << seed << '\n';
     std::mt19937 random(seed);
     for (int round = 0; round < 2000; ++round) {

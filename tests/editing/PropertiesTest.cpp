@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 // What holds for every text and every selection.
+#include "tests/RandomSeed.h"
 #include "tests/editing/EditingFixture.h"
 
 #include <functional>
@@ -54,7 +55,7 @@ protected:
 
 TEST_P(EveryOperation, IsTakenBackByOneUndo)
 {
-    const unsigned seed = std::random_device{}();
+    const unsigned seed = RandomSeed();
     SCOPED_TRACE(testing::Message() << "seed " << seed);
     RandomText random(seed);
     for (int round = 0; round < 150; ++round) {
@@ -70,7 +71,7 @@ TEST_P(EveryOperation, IsTakenBackByOneUndo)
 
 TEST_P(EveryOperation, LeavesAReadOnlyTextAlone)
 {
-    const unsigned seed = std::random_device{}();
+    const unsigned seed = RandomSeed();
     SCOPED_TRACE(testing::Message() << "seed " << seed);
     RandomText random(seed);
     for (int round = 0; round < 40; ++round) {
@@ -126,7 +127,7 @@ std::u16string Visible(const std::u16string& text, std::size_t width)
 
 TEST_F(AnyText, LooksTheSameWithBlanksInPlaceOfTabs)
 {
-    const unsigned seed = std::random_device{}();
+    const unsigned seed = RandomSeed();
     SCOPED_TRACE(testing::Message() << "seed " << seed);
     RandomText random(seed);
     for (int round = 0; round < 200; ++round) {
@@ -141,7 +142,7 @@ TEST_F(AnyText, LooksTheSameWithBlanksInPlaceOfTabs)
 
 TEST_F(AnyText, OfWholeLinesComesBackFromLineComments)
 {
-    const unsigned seed = std::random_device{}();
+    const unsigned seed = RandomSeed();
     SCOPED_TRACE(testing::Message() << "seed " << seed);
     RandomText random(seed);
     int commented = 0;
@@ -163,7 +164,7 @@ TEST_F(AnyText, OfWholeLinesComesBackFromLineComments)
 
 TEST_F(AnyText, IsTrimmedOfNothingButWhatTrails)
 {
-    const unsigned seed = std::random_device{}();
+    const unsigned seed = RandomSeed();
     SCOPED_TRACE(testing::Message() << "seed " << seed);
     RandomText random(seed);
     for (int round = 0; round < 100; ++round) {

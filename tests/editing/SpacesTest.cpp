@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 // White space of one line.
 #include "editing/text/Spaces.h"
+#include "tests/RandomSeed.h"
 
 #include <gtest/gtest.h>
 
@@ -75,7 +76,7 @@ std::u16string SlowBlanksToTabs(const std::u16string& line, std::size_t width)
 
 TEST(BlanksToTabs, AgreesWithAPlainWalkAndComesBackFromTabs)
 {
-    const unsigned seed = std::random_device{}();
+    const unsigned seed = RandomSeed();
     SCOPED_TRACE(testing::Message() << "seed " << seed);
     std::mt19937 random(seed);
     for (int round = 0; round < 5000; ++round) {

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "platform/text/CodePage.h"
 #include "platform/text/CodePageTable.h"
+#include "tests/RandomSeed.h"
 #include "tests/reference/SlowEncoding.h"
 
 #include <gtest/gtest.h>
@@ -203,7 +204,7 @@ TEST(CodePages, TellHalvesFromPairsAtTheirLimits)
 
 TEST(CodePages, FillExactlyTheRoomThatWasMeasured)
 {
-    const unsigned int seed = std::random_device{}();
+    const unsigned int seed = RandomSeed();
     std::cout << "seed " << seed << '\n';
     std::mt19937 random(seed);
     static constexpr char32_t kFirst[] = {0x80, 0xE0, 0x431, 0x800, 0x4E2D, 0xF000, 0x1F600};

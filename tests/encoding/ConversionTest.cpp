@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "platform/text/CodePage.h"
+#include "tests/RandomSeed.h"
 #include "tests/encoding/OpenConverter.h"
 #include "tests/reference/SlowEncoding.h"
 
@@ -42,7 +43,7 @@ Bytes CutCharacter(int encoding)
 
 unsigned int Seed()
 {
-    const unsigned int seed = std::random_device{}();
+    const unsigned int seed = RandomSeed();
     std::cout << "seed " << seed << '\n';
     return seed;
 }

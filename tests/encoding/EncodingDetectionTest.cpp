@@ -1,4 +1,5 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
+#include "tests/RandomSeed.h"
 #include "tests/encoding/OpenConverter.h"
 #include "tests/reference/SlowDetection.h"
 
@@ -56,7 +57,7 @@ int DetectText(std::string_view text)
 
 unsigned int Seed()
 {
-    const unsigned int seed = std::random_device{}();
+    const unsigned int seed = RandomSeed();
     std::cout << "seed " << seed << '\n';
     return seed;
 }

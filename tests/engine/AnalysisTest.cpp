@@ -2,6 +2,7 @@
 // The partitioner's messages over a real engine window: units, settings, switches, ownership.
 #include "control/Analysis.h"
 #include "control/PartitionInfo.h"
+#include "tests/RandomSeed.h"
 #include "tests/engine/EngineFixture.h"
 
 #include <QApplication>
@@ -443,7 +444,7 @@ TEST_F(Analysis, WorksAheadInIdleTimeWithoutHarm)
 // afresh has to say the same.
 TEST_F(Analysis, EqualsAFreshOneAfterAnyEdits)
 {
-    const unsigned seed = std::random_device()();
+    const unsigned seed = RandomSeed();
     SCOPED_TRACE("seed " + std::to_string(seed));
     std::mt19937 random(seed);
     const std::u16string pieces[] = {u"'",

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 // Folds in the bodies of routines that stand between tags of dollars. Bodies that are grown at
 // random know their own depth.
+#include "tests/RandomSeed.h"
 #include "tests/engine/SqlUnderTest.h"
 
 #include <gtest/gtest.h>
@@ -13,12 +14,6 @@ namespace msg = engine::message;
 namespace {
 
 constexpr int kGeneric = 9;
-
-unsigned Seed()
-{
-    const char* seed = std::getenv("ZN_SEED");
-    return seed ? static_cast<unsigned>(std::atoi(seed)) : std::random_device()();
-}
 
 void ExpectFolds(const std::string& picture)
 {
@@ -314,12 +309,12 @@ private:
 
 TEST(BodyFolds, AreThoseThatABodyWasGrownBy)
 {
-    const unsigned seed = Seed();
+    const unsigned seed = RandomSeed();
     std::mt19937 random(seed);
     for (int round = 0; round < 100; ++round) {
         const std::string picture = GrownBody(random).Picture();
         ASSERT_EQ(FoldsOf(kGeneric, picture, u"postgresql"), picture)
-            << "ZN_SEED=" << seed << " round " << round;
+            << "ZN_TEST_SEED=" << seed << " round " << round;
     }
 }
 

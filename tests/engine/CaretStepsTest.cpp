@@ -2,6 +2,7 @@
 // Undo and redo of what is typed at several carets, and what is selected behind them.
 #include "control/EngineLooks.h"
 #include "control/Selections.h"
+#include "tests/RandomSeed.h"
 #include "tests/engine/EngineFixture.h"
 
 #include <QAbstractScrollArea>
@@ -602,7 +603,7 @@ TEST_F(CaretSteps, AreForgottenWithTheHistory)
 // it.
 TEST_F(CaretSteps, LeadBackThroughWhatWasThere)
 {
-    const unsigned seed = std::random_device{}();
+    const unsigned seed = RandomSeed();
     SCOPED_TRACE(testing::Message() << "seed " << seed);
     std::mt19937 random(seed);
     const auto below = [&random](int end) {

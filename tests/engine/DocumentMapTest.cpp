@@ -2,6 +2,7 @@
 // The map beside a text: what is drawn, that it stays right, and what the mouse does there.
 #include "engine/looks/DocumentMap.h"
 #include "control/EngineLooks.h"
+#include "tests/RandomSeed.h"
 #include "tests/engine/EngineFixture.h"
 
 #include <QApplication>
@@ -369,7 +370,7 @@ private:
 
 TEST_F(DocumentMapTest, IsAfterAllWorkWhatItWouldBeIfItWereDrawnAnew)
 {
-    const unsigned seed = std::random_device{}();
+    const unsigned seed = RandomSeed();
     SCOPED_TRACE(seed);
     m_engine.SetText(Lines(150, u"select a, b from t -- c\n\tx\n"));
     EngineUnderTest other;

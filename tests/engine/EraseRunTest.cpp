@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 // Runs of Backspace and Delete over letters of any length make the undo steps that they make over
 // ASCII, which are the stock engine's.
+#include "tests/RandomSeed.h"
 #include "tests/engine/EngineFixture.h"
 
 #include <QApplication>
@@ -193,10 +194,7 @@ TEST(EraseRuns, EndAtAnEditInAnotherWindowOfTheText)
 
 TEST(EraseRuns, MakeTheStepsThatTheyMakeOverAscii)
 {
-    const char* given = std::getenv("ZN_SEED");
-    const unsigned seed =
-        given ? static_cast<unsigned>(std::strtoul(given, nullptr, 10)) : std::random_device()();
-    std::printf("seed %u\n", seed);
+    const unsigned seed = RandomSeed();
     std::mt19937 random(seed);
     Keyboard ascii(false);
     Keyboard other(true);

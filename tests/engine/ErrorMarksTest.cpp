@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 // What is to be seen of the problems in a text, and that it follows the text's edits.
+#include "tests/RandomSeed.h"
 #include "tests/engine/ErrorFixture.h"
 
 #include <climits>
@@ -261,7 +262,7 @@ TEST_F(ErrorMarksTest, AReadOnlyTextCanBeMarked)
 
 TEST_F(ErrorMarksTest, MarksStandWhereTheProblemsStandAfterAnyEdits)
 {
-    const unsigned seed = std::random_device{}();
+    const unsigned seed = RandomSeed();
     SCOPED_TRACE(seed);
     std::mt19937 random(seed);
     const auto upTo = [&random](long last) {

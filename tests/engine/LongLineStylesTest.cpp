@@ -3,6 +3,7 @@
 // over the whole line, and an edit is followed from near its place to near its place.
 #include "engine/colours/SqlStyler.h"
 #include "engine/window/EngineWindow.h"
+#include "tests/RandomSeed.h"
 #include "tests/engine/SqlUnderTest.h"
 
 #include <QString>
@@ -31,15 +32,6 @@ constexpr Dialect kDialects[] = {
 
 constexpr const char16_t* kWords[] = {u"select from begin end if create as prompt rem", u"int date",
                                       u"sys.objects", u"error", u"count"};
-
-unsigned Seed()
-{
-    const char* given = std::getenv("ZN_SEED");
-    const unsigned seed =
-        given ? static_cast<unsigned>(std::strtoul(given, nullptr, 10)) : std::random_device()();
-    std::printf("seed %u\n", seed);
-    return seed;
-}
 
 Sci& Stock(const SqlUnderTest& sql)
 {
@@ -286,7 +278,7 @@ class StylesOfLongLines : public testing::TestWithParam<Dialect>
 
 TEST_P(StylesOfLongLines, AreThoseOfAFreshTextAfterEdits)
 {
-    const unsigned seed = Seed();
+    const unsigned seed = RandomSeed();
     for (unsigned round = 0; round < 3; ++round) {
         SCOPED_TRACE(seed + round);
         LongLines(GetParam(), seed + round).EditOften(160);

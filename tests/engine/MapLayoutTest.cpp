@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 // The numbers of a document map, for texts and windows of all sizes.
 #include "engine/looks/MapLayout.h"
+#include "tests/RandomSeed.h"
 
 #include <gtest/gtest.h>
 
@@ -54,7 +55,7 @@ private:
 template <typename Check>
 void ForAll(Check check)
 {
-    const unsigned seed = std::random_device{}();
+    const unsigned seed = RandomSeed();
     SCOPED_TRACE(seed);
     Cases cases(seed);
     for (int i = 0; i < 400 && !testing::Test::HasFailure(); ++i) {

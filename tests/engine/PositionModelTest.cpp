@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 // The engine against a plain UTF-16 string: whatever is edited, positions, lines, columns, texts,
 // targets and notifications agree.
+#include "tests/RandomSeed.h"
 #include "tests/engine/EngineFixture.h"
 
 #include <gtest/gtest.h>
@@ -297,16 +298,9 @@ private:
     long m_limit = 400;
 };
 
-// ZN_TEST_SEED repeats a run that failed.
-unsigned Seed()
-{
-    const char* given = std::getenv("ZN_TEST_SEED");
-    return given ? static_cast<unsigned>(std::strtoul(given, nullptr, 10)) : std::random_device()();
-}
-
 void WalkSteps(int steps, int restartEvery, std::u16string_view alphabet)
 {
-    const unsigned seed = Seed();
+    const unsigned seed = RandomSeed();
     std::cout << "seed " << seed << '\n';
     SCOPED_TRACE("ZN_TEST_SEED=" + std::to_string(seed));
     std::mt19937 seeds(seed);
@@ -338,7 +332,7 @@ TEST(PositionModel, MixedTextAgreesAtEveryStep)
 
 TEST(PositionModel, LongMixedLinesAgreeAtEveryStep)
 {
-    const unsigned seed = Seed();
+    const unsigned seed = RandomSeed();
     std::cout << "seed " << seed << '\n';
     SCOPED_TRACE("ZN_TEST_SEED=" + std::to_string(seed));
     Walk walk(seed, u"ab\u00e9\u4e2d\xD83D ");

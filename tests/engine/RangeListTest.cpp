@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 // Ranges that follow an edited text, beside the plainest way to do it.
 #include "engine/errors/RangeList.h"
+#include "tests/RandomSeed.h"
 
 #include <gtest/gtest.h>
 
@@ -76,7 +77,7 @@ public:
 
 TEST(RangeList, MovesRangesAsAPlainListDoes)
 {
-    const unsigned seed = std::random_device{}();
+    const unsigned seed = RandomSeed();
     SCOPED_TRACE(seed);
     std::mt19937 random(seed);
     const auto upTo = [&random](long last) {

@@ -4,6 +4,7 @@
 #include "engine/search/Budget.h"
 #include "engine/search/Expression.h"
 #include "engine/search/Searcher.h"
+#include "tests/RandomSeed.h"
 #include "tests/engine/PlainText.h"
 
 #include <gtest/gtest.h>
@@ -36,7 +37,7 @@ public:
 private:
     static unsigned NewSeed()
     {
-        const unsigned seed = std::random_device{}();
+        const unsigned seed = RandomSeed();
         std::cout << "seed " << seed << std::endl;
         return seed;
     }

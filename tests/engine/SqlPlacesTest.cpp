@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 // Places that follow a text's edits, beside a plain list of them.
 #include "engine/colours/SqlPlaces.h"
+#include "tests/RandomSeed.h"
 
 #include <gtest/gtest.h>
 
@@ -82,8 +83,7 @@ private:
 
 TEST(SqlPlaces, AreThoseOfAPlainListAfterEdits)
 {
-    const unsigned seed = std::random_device()();
-    std::printf("seed %u\n", seed);
+    const unsigned seed = RandomSeed();
     PlacesAndList both(seed);
     for (int edit = 1; edit <= 3000 && !testing::Test::HasFatalFailure(); ++edit) {
         both.Edit();

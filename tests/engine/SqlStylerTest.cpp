@@ -3,6 +3,7 @@
 // and no more.
 #include "engine/colours/SqlVocabulary.h"
 #include "engine/window/EngineWindow.h"
+#include "tests/RandomSeed.h"
 #include "tests/engine/SqlUnderTest.h"
 
 #include <gtest/gtest.h>
@@ -17,15 +18,6 @@ namespace msg = engine::message;
 namespace {
 
 constexpr int kSqlLexers[] = {2, 3, 4, 5, 9, 10, 14, 15, 16, 17, 18};
-
-unsigned Seed()
-{
-    const char* given = std::getenv("ZN_SEED");
-    const unsigned seed =
-        given ? static_cast<unsigned>(std::strtoul(given, nullptr, 10)) : std::random_device()();
-    std::printf("seed %u\n", seed);
-    return seed;
-}
 
 std::string Letters(int lexer, const std::u16string& text)
 {
@@ -169,7 +161,7 @@ TEST(SqlStyles, BodiesOfRoutinesAreCode)
         {u"as $a$ x /* $a$ 1 */", "ii sss i CCCsss n oo"},
         {u"as t $$x$$", "ii i sssss"},
         {u"is $$x$$", "ii sssss"},
-        {u"as $$ x as $$$$ y $$ 1", "ii ss i ii sssssssss n"}, // AS of the body opens none behind it
+        {u"as $$ x as $$$$ y $$ 1", "ii ss i ii sssssssss n"}, // nor does AS of the body open one
     };
     for (const auto& [text, letters] : kSamples)
         EXPECT_EQ(Letters(9, text), letters) << QString::fromUtf16(text).toStdString();
@@ -333,7 +325,7 @@ TEST(SqlStyles, NoCharacterIsOfTwoStyles)
 {
     const std::u16string pieces[] = {u"\u00e9",   u"\u4e2d", u"\U0001F600", u"'",  u"q'\u00e9",
                                      u"$\u00e9$", u"@",      u"#",          u"--", u"\\"};
-    std::mt19937 random(Seed());
+    std::mt19937 random(RandomSeed());
     for (int round = 0; round < 200; ++round) {
         std::u16string text;
         for (int i = 0; i < 20; ++i)
@@ -521,7 +513,7 @@ class StylesAfterEdits : public testing::TestWithParam<int>
 
 TEST_P(StylesAfterEdits, AreThoseOfAFreshText)
 {
-    const unsigned seed = Seed();
+    const unsigned seed = RandomSeed();
     for (unsigned round = 0; round < 3; ++round)
         EditAndCompare(GetParam(), u"sql", seed + round, 400);
 }
@@ -530,7 +522,7 @@ INSTANTIATE_TEST_SUITE_P(OfEveryLexer, StylesAfterEdits, testing::ValuesIn(kSqlL
 
 TEST(StylesAfterEdits, AreThoseOfAFreshTextInTheDialectsWithoutANumber)
 {
-    const unsigned seed = Seed();
+    const unsigned seed = RandomSeed();
     EditAndCompare(9, u"postgresql", seed, 800);
     EditAndCompare(9, u"sqlite", seed, 800);
 }
@@ -606,7 +598,7 @@ TEST(SharedLanguage, BelongsToTheDocument)
 
 TEST(SharedLanguage, IsFollowedThroughEditsInBothWindows)
 {
-    const unsigned seed = Seed();
+    const unsigned seed = RandomSeed();
     std::mt19937 random(seed);
     const SqlUnderTest first(14, u"select 1;\n");
     const SqlUnderTest second(14);

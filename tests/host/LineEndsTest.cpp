@@ -3,6 +3,7 @@
 
 #include "editing/ZNCoreEditorControlEx.h"
 #include "editing/ZNCoreEditorWidget.h"
+#include "tests/RandomSeed.h"
 
 #include <QStringList>
 #include <QTest>
@@ -57,7 +58,7 @@ TEST(LineEnds, AreOfOneKindOrMixed)
 
 TEST(LineEnds, AreTheSameWhereverTheTextIsDivided)
 {
-    const unsigned int seed = std::random_device{}();
+    const unsigned int seed = RandomSeed();
     SCOPED_TRACE(seed);
     std::mt19937 random(seed);
     for (int i = 0; i < 2000; ++i) {

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 // Whatever a person and others do in whatever order: the workbench stays up, the panes of a script
 // show one text, and a script that counts as saved is in its file.
+#include "tests/RandomSeed.h"
 #include "tests/host/WorkbenchTest.h"
 
 #include <QApplication>
@@ -156,10 +157,8 @@ protected:
 
 TEST_F(RandomCommands, LoseNothing)
 {
-    const unsigned int seed =
-        qEnvironmentVariableIsSet("ZN_SEED") ? qgetenv("ZN_SEED").toUInt() : std::random_device{}();
+    const unsigned int seed = RandomSeed();
     SCOPED_TRACE(seed);
-    std::printf("seed %u\n", seed); // which is all that a run without an end leaves
     std::fflush(stdout);
     m_random.seed(seed);
     m_hasOthers = Below(2) != 0;

@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "host/session/Session.h"
+#include "tests/RandomSeed.h"
 
 #include <QDir>
 #include <QFile>
@@ -91,7 +92,7 @@ TEST(SessionData, OfAnyOtherFormIsEmpty)
 
 TEST(SessionData, SurvivesDamage)
 {
-    const unsigned int seed = std::random_device{}();
+    const unsigned int seed = RandomSeed();
     SCOPED_TRACE(seed);
     std::mt19937 random(seed);
     const QByteArray whole = Example().ToBytes();

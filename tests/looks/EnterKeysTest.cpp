@@ -5,6 +5,7 @@
 #include "editing/ZNCoreEditorControlEx.h"
 #include "editing/ZNCoreEditorWidget.h"
 #include "platform/services/OptionsServer.h"
+#include "tests/RandomSeed.h"
 #include "tests/control/ControlFixture.h"
 
 #include <QTest>
@@ -243,7 +244,7 @@ protected:
         return text;
     }
 
-    const unsigned seed = std::random_device{}();
+    const unsigned seed = RandomSeed();
     std::mt19937 random{seed};
     testing::ScopedTrace trace{__FILE__, __LINE__, "seed " + std::to_string(seed)};
 };

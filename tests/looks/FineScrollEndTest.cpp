@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 // A text that fingers have moved stands at a line again, and is as if it had been scrolled by
 // lines.
+#include "tests/RandomSeed.h"
 #include "tests/looks/MovedEditor.h"
 
 #include <QProxyStyle>
@@ -288,10 +289,7 @@ private:
 
 TEST(FineScrolling, IsAsByLinesWhateverIsDoneBetweenMovements)
 {
-    const unsigned seed = qEnvironmentVariableIsSet("ZN_SEED")
-                              ? qEnvironmentVariable("ZN_SEED").toUInt()
-                              : std::random_device()();
-    std::printf("ZN_SEED=%u\n", seed);
+    const unsigned seed = RandomSeed();
     TwinEditors twins(seed);
     for (int act = 0; act < 150 && !testing::Test::HasFailure(); ++act) {
         SCOPED_TRACE(act);

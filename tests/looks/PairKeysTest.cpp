@@ -4,6 +4,7 @@
 #include "editing/ZNCoreEditorControlEx.h"
 #include "editing/ZNCoreEditorWidget.h"
 #include "platform/services/OptionsServer.h"
+#include "tests/RandomSeed.h"
 #include "tests/control/ControlFixture.h"
 
 #include <QApplication>
@@ -217,7 +218,7 @@ TEST_F(PairKeysTest, ArePlayedByMacros)
 // With a partner for each or without: what is typed straight on is the text.
 TEST_F(PairKeysTest, LeaveTheTextThatIsTyped)
 {
-    const unsigned seed = std::random_device{}();
+    const unsigned seed = RandomSeed();
     SCOPED_TRACE(testing::Message() << "seed " << seed);
     std::mt19937 random(seed);
     const QString letters = QStringLiteral("()[]{}''\"\"(['\"ab ,;-\n*/");

@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 // Random scripts with includes, beside the plain reference.
+#include "tests/RandomSeed.h"
 #include "tests/preprocess/PreprocessFixture.h"
 #include "tests/reference/PlainPreprocessor.h"
 #include "tests/reference/PlainStyles.h"
@@ -60,9 +61,7 @@ class RandomScripts : public PreprocessTest
 protected:
     std::string Seed() // and how to come by it again
     {
-        const char* given = std::getenv("ZN_TEST_SEED");
-        const unsigned seed = given ? static_cast<unsigned>(std::strtoul(given, nullptr, 10))
-                                    : std::random_device{}();
+        const unsigned seed = RandomSeed();
         m_random.seed(seed);
         return "repeat with ZN_TEST_SEED=" + std::to_string(seed);
     }

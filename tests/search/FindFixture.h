@@ -6,6 +6,7 @@
 #include "platform/base/Units.h"
 #include "platform/system/Registry.h"
 #include "search/FindReplaceManager.h"
+#include "tests/RandomSeed.h"
 
 #include <QWidget>
 
@@ -99,7 +100,7 @@ private:
 
 inline unsigned SeedOfTest()
 {
-    const unsigned seed = std::random_device()();
+    const unsigned seed = RandomSeed();
     testing::Test::RecordProperty("seed", std::to_string(seed));
     return seed;
 }

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 // The tree: what is remembered of searches is what a walk finds, whatever has been changed.
 #include "PlainSearch.h"
+#include "tests/RandomSeed.h"
 
 #include <gtest/gtest.h>
 
@@ -152,7 +153,7 @@ QString RandomTree::Dump() const
 
 TEST(XMLTree, CountsEveryChange)
 {
-    const auto seed = std::random_device{}();
+    const auto seed = RandomSeed();
     std::cout << "seed " << seed << '\n';
     for (unsigned int tree = 0; tree < 200; ++tree) {
         RandomTree random(seed + tree);
@@ -184,7 +185,7 @@ std::vector<xml_node> RandomTree::FoundElements() const
 
 TEST(XMLTree, CountsWhatMayChangeASearch)
 {
-    const auto seed = std::random_device{}();
+    const auto seed = RandomSeed();
     std::cout << "seed " << seed << '\n';
     for (unsigned int tree = 0; tree < 40; ++tree) {
         RandomTree random(seed + tree);
@@ -216,7 +217,7 @@ TEST(XMLTree, CountsNoValueThatWasThere)
 
 TEST(XMLTree, SearchesFindWhatAWalkFinds)
 {
-    const auto seed = std::random_device{}();
+    const auto seed = RandomSeed();
     std::cout << "seed " << seed << '\n';
     for (unsigned int tree = 0; tree < 200; ++tree) {
         RandomTree random(seed + tree);

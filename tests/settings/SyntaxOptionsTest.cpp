@@ -5,6 +5,7 @@
 
 #include "settings/SyntaxFile.h"
 #include "settings/XMLWriter.h"
+#include "tests/RandomSeed.h"
 
 #include <iostream>
 #include <random>
@@ -248,7 +249,7 @@ void SyntaxOptions::Compare()
 
 TEST_F(SyntaxOptions, StandAsIfEachWereSetEveryTime)
 {
-    const auto seed = std::random_device{}();
+    const auto seed = RandomSeed();
     std::cout << "seed " << seed << '\n';
     for (unsigned int file = 0; file < 200; ++file) {
         Start(seed + file);

@@ -2,6 +2,7 @@
 // What is no settings file reads as empty, and is never written over.
 #include "OpenXMLFile.h"
 #include "SettingsFolder.h"
+#include "tests/RandomSeed.h"
 #include "tests/platform/file/FullDisk.h"
 #include "tests/platform/file/OrdinaryUser.h"
 
@@ -241,7 +242,7 @@ TEST_F(XMLBadInput, AFullDiskKeepsTheFileAndTheChange)
 
 TEST_F(XMLBadInput, DamagedFilesNeverCrash)
 {
-    const auto seed = std::random_device{}();
+    const auto seed = RandomSeed();
     std::cout << "seed " << seed << '\n';
     std::mt19937 random(seed);
     const QByteArray whole = "<?p q?><!DOCTYPE S [<!ENTITY a 'b'>]><S a=\"1\" b='2'><!--c-->"

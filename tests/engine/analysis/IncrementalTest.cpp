@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 // What is kept through edits is what a fresh look at the text gives.
+#include "tests/RandomSeed.h"
 #include "tests/engine/analysis/ScriptUnderTest.h"
 
 #include <gtest/gtest.h>
@@ -111,13 +112,6 @@ constexpr const char* kPieces[] = {"'",
 constexpr const char* kDialects[] = {"sql",    "transact-sql", "ase",       "iq",         "db2",
                                      "oracle", "mysql",        "interbase", "postgresql", "sqlite"};
 
-// ZN_SEED repeats a run.
-unsigned Seed()
-{
-    const char* given = std::getenv("ZN_SEED");
-    return given ? static_cast<unsigned>(std::strtoul(given, nullptr, 10)) : std::random_device()();
-}
-
 std::string Piece(std::mt19937& random)
 {
     if (random() % 200 == 0) // longer than a token is kept whole
@@ -161,8 +155,7 @@ void EditAtRandom(ScriptUnderTest& script, std::mt19937& random)
 // 10 dialects, 6000 edits each; what is asked in between is what drives the reading.
 TEST(IncrementalPartitions, EqualFreshOnesAfterAnyEdits)
 {
-    const unsigned seed = Seed();
-    std::printf("seed %u\n", seed);
+    const unsigned seed = RandomSeed();
     std::mt19937 random(seed);
     for (const char* dialect : kDialects) {
         ScriptUnderTest script(dialect, Pieces(random, 2000));
@@ -188,8 +181,7 @@ TEST(IncrementalPartitions, EqualFreshOnesAfterAnyEdits)
 // Small scripts, so that every edit can be compared.
 TEST(IncrementalPartitions, EqualFreshOnesAfterEveryEdit)
 {
-    const unsigned seed = Seed();
-    std::printf("seed %u\n", seed);
+    const unsigned seed = RandomSeed();
     std::mt19937 random(seed);
     for (const char* dialect : kDialects) {
         ScriptUnderTest script(dialect, Pieces(random, 200));

@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "engine/analysis/SqlScanner.h"
+#include "tests/RandomSeed.h"
 
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
@@ -201,7 +202,7 @@ static std::vector<Piece> PiecesOf(const SqlDialect& dialect, const TextSpans& t
 
 TEST(SqlScanner, GivesTheSameTokensWhereverItIsCutAndWhereverTheGapLies)
 {
-    const unsigned seed = std::random_device()();
+    const unsigned seed = RandomSeed();
     std::mt19937 random(seed);
     SCOPED_TRACE("seed " + std::to_string(seed));
     static const char* const kWords[] = {"'",  "\"", "`",  "[",  "]",  "/*", "*/",  "--", "\n",

@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 // Random scripts, divided here and by the client programs themselves.
+#include "tests/RandomSeed.h"
 #include "tests/engine/analysis/ScriptUnderTest.h"
 #include "tests/engine/clients/FakeServers.h"
 
@@ -59,11 +60,8 @@ class RealClients : public testing::Test
 protected:
     RealClients()
     {
-        const char* given = std::getenv("ZN_SEED");
-        m_seed = given ? static_cast<unsigned>(std::strtoul(given, nullptr, 10))
-                       : std::random_device()();
+        m_seed = RandomSeed();
         m_random.seed(m_seed);
-        std::printf("seed %u\n", m_seed);
     }
 
     std::string Script(std::span<const char* const> pieces)

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 // Writing in place and beside: what stands on the disk after every failure.
 #include "platform/file/TargetFile.h"
+#include "tests/RandomSeed.h"
 #include "tests/platform/file/FullDisk.h"
 
 #include <gtest/gtest.h>
@@ -269,7 +270,7 @@ TEST_F(TargetFiles, BesideFailsIfTheFolderGoesAway)
 
 TEST_F(TargetFiles, AKilledProcessLeavesTheOldFileOrTheNewOne)
 {
-    const auto seed = std::random_device{}();
+    const auto seed = RandomSeed();
     std::cout << "seed " << seed << '\n';
     std::mt19937 random(seed);
     const std::string texts[] = {std::string(400'000, 'a'), std::string(500'000, 'b')};

@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "preprocess/language/Directives.h"
+#include "tests/RandomSeed.h"
 
 #include <gtest/gtest.h>
 
@@ -106,7 +107,7 @@ TEST(Definition, MayBeFiftyMegabytesLong)
 // The same lines through the standard library's expressions.
 TEST(Definition, AgreesWithTheRegularExpressions)
 {
-    const unsigned seed = std::random_device{}();
+    const unsigned seed = RandomSeed();
     std::mt19937 random(seed);
     SCOPED_TRACE("seed " + std::to_string(seed));
     const std::regex test("(^#define\\s+).*$", std::regex::ECMAScript);

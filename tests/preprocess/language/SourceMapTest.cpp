@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "preprocess/language/SourceMap.h"
+#include "tests/RandomSeed.h"
 
 #include <gtest/gtest.h>
 
@@ -74,7 +75,7 @@ TEST(SourceMap, ForgetsThroughClear)
 
 TEST(SourceMap, AgreesWithAListOfLines)
 {
-    const unsigned seed = std::random_device{}();
+    const unsigned seed = RandomSeed();
     std::mt19937 random(seed);
     SCOPED_TRACE("seed " + std::to_string(seed));
     for (int round = 0; round < 300; ++round) {
