@@ -135,6 +135,9 @@ Engine::Engine(QsciScintillaBase& widget)
             map->EditEnds();
         if (MarksChanges())
             bars->EditEnds(raw, position, end);
+        // The stock engine forgets the markers of a text that goes whole, and what it has drawn.
+        if (raw.Length() == 0)
+            window.viewport()->update();
     });
     reporter.SetCommandListener([this](UINT number) {
         wholeCharacters.OnCommand(number);

@@ -154,8 +154,8 @@ constexpr HandlerRow kRows[] = {
     {message::AddRefDocument, AddRefDocument},       {message::ReleaseDocument, ReleaseDocument},
     {message::BeginUndoAction, BeginUndoAction},     {message::EndUndoAction, EndUndoAction},
     {message::SetUndoCollection, SetUndoCollection}, {message::EmptyUndoBuffer, EmptyUndoBuffer},
-    {message::SetSavePoint, SetSavePoint},
-    {message::Undo, ChangeBySteps<Sci::SCI_UNDO>},   {message::Redo, ChangeBySteps<Sci::SCI_REDO>},
+    {message::SetSavePoint, SetSavePoint},           {message::Undo, ChangeBySteps<Sci::SCI_UNDO>},
+    {message::Redo, ChangeBySteps<Sci::SCI_REDO>},
 };
 
 } // namespace

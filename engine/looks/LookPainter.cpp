@@ -169,6 +169,11 @@ void LookPainter::Paint(QPainter& painter, const QPaintEvent& event)
     const bool isHidden = // with the fill beside it
         m_raw.Send(Sci::SCI_INDICGETSTYLE, kStatementIndicator) == Sci::INDIC_HIDDEN;
     const Range statement = isHidden ? Range() : LitStatement();
+    // It may have been lit from another window, where the text alone is painted anew here.
+    if (statement != m_barred) {
+        m_barred = statement;
+        UpdateBar();
+    }
     const TabArrows arrows(m_raw, ToQColor(m_looks->whitespace), m_window.viewport()->width());
     long before = -1;
     for (long row = first; row <= last; ++row) {
@@ -313,8 +318,8 @@ void LookPainter::PaintFold(QPainter& painter, const Margins& places, long line,
                             int height)
 {
     const auto level = m_raw.Send(Sci::SCI_GETFOLDLEVEL, static_cast<WPARAM>(line));
-    if (!(level & Sci::SC_FOLDLEVELHEADERFLAG))
-        return;
+    if (!(level & Sci::SC_FOLDLEVELHEADERFLAG) || line + 1 == m_raw.LineCount())
+        return; // of the last line nothing can be hidden
     const bool isOpen = m_raw.Send(Sci::SCI_GETFOLDEXPANDED, static_cast<WPARAM>(line)) != 0;
     const QColor colour = ToQColor(!isOpen || m_isFoldMarginHot ? m_looks->foldHot : m_looks->fold);
     constexpr int kForBar = 3;
@@ -482,6 +487,13 @@ LookPainter::Range LookPainter::LitStatement() const
     return {start, endFrom(start)};
 }
 
+void LookPainter::UpdateBar()
+{
+    m_window.viewport()->update(Places().text, 0,
+                                static_cast<int>(m_raw.Send(Sci::SCI_GETMARGINLEFT)),
+                                m_window.viewport()->height());
+}
+
 // What the command that selects it would take.
 void LookPainter::LightStatement()
 {
@@ -489,9 +501,7 @@ void LookPainter::LightStatement()
     const Range statement = (isAsked ? m_statementAtCaret() : std::nullopt).value_or(Range());
     if (LitStatement() == statement)
         return;
-    const int text = Places().text;
-    m_window.viewport()->update(text, 0, static_cast<int>(m_raw.Send(Sci::SCI_GETMARGINLEFT)),
-                                m_window.viewport()->height());
+    UpdateBar();
     const IndicatorScope scope(m_raw, kStatementIndicator);
     m_raw.Send(Sci::SCI_INDICATORCLEARRANGE, 0, m_raw.Length());
     m_raw.Send(Sci::SCI_INDICATORFILLRANGE, static_cast<WPARAM>(statement.start),

@@ -84,6 +84,7 @@ private:
     void LookForOccurrences(bool hasChanged);
     bool IsColoured(std::intptr_t position) const; // bytes
     void LightStatement();
+    void UpdateBar(); // beside it
     Range LitStatement() const;
 
     QsciScintillaBase& m_window;
@@ -95,6 +96,7 @@ private:
     QTimer m_rest;
     long m_numberedLine = -1; // whose number stands out
     StatementAtCaret m_statementAtCaret;
+    Range m_barred;                // the statement that the bar was painted for
     bool m_textHasChanged = false; // since the last rest
     bool m_isFoldMarginHot = false;
     bool m_showsLineEnds = false;

@@ -27,8 +27,8 @@ constexpr Blocks kBlocks[] = {
 
 struct Named
 {
-    char16_t character;
-    const char* name; // as the Unicode Standard abbreviates it
+    char32_t character;
+    const char* name; // as the code charts of the Unicode Standard abbreviate it
 };
 
 // U+3000 is not among them: texts in Chinese and Japanese are full of it, and it is as wide as a
@@ -49,8 +49,21 @@ constexpr Named kNamed[] = {
     {0x2069, "PDI"},
     // What looks like a blank.
     {0x00A0, "NBSP"},
+    {0x2000, "NQSP"},
+    {0x2001, "MQSP"},
+    {0x2002, "ENSP"},
+    {0x2003, "EMSP"},
+    {0x2004, "3/MSP"},
+    {0x2005, "4/MSP"},
+    {0x2006, "6/MSP"},
     {0x2007, "FSP"},
+    {0x2008, "PSP"},
+    {0x2009, "THSP"},
+    {0x200A, "HSP"},
     {0x202F, "NNBSP"},
+    {0x205F, "MMSP"},
+    {0x3164, "HF"},
+    {0xFFA0, "HWHF"},
     // What is not seen.
     {0x00AD, "SHY"},
     {0x200B, "ZWSP"},
@@ -58,6 +71,14 @@ constexpr Named kNamed[] = {
     {0x200D, "ZWJ"},
     {0x2060, "WJ"},
     {0xFEFF, "BOM"},
+    {0x034F, "CGJ"},
+    {0x115F, "HC"},
+    {0x1160, "HJ"},
+    {0x180E, "MVS"},
+    {0x2061, "f()"},
+    {0x2062, "x"},
+    {0x2063, ","},
+    {0x2064, "+"},
 };
 
 struct Shown
@@ -65,6 +86,15 @@ struct Shown
     QByteArray character; // UTF-8
     QByteArray text;
 };
+
+// Letters that once told a language, of which nothing is seen.
+constexpr char32_t kFirstTag = 0xE0001;
+constexpr char32_t kLastTag = 0xE007F;
+
+QByteArray Utf8(char32_t character)
+{
+    return QStringView(QChar::fromUcs4(character)).toUtf8();
+}
 
 // An override has a letter measured and drawn from the left.
 std::vector<Shown> AllShown()
@@ -82,7 +112,9 @@ std::vector<Shown> AllShown()
         }
     }
     for (const Named& named : kNamed)
-        all.push_back({QString(QChar(named.character)).toUtf8(), named.name});
+        all.push_back({Utf8(named.character), named.name});
+    for (char32_t c = kFirstTag; c <= kLastTag; ++c)
+        all.push_back({Utf8(c), "TAG"});
     return all;
 }
 

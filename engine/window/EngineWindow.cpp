@@ -20,6 +20,8 @@
 #include <QPainter>
 #include <QPointer>
 
+#include <utility>
+
 namespace engine {
 namespace {
 
@@ -165,16 +167,34 @@ EngineWindow::EngineWindow(QWidget* parent) : QsciScintillaBase(parent), m_engin
     setAccessibleName(QCoreApplication::translate("EngineWindow", "Text editor"));
     connect(this, &Sci::SCN_UPDATEUI, this, [this](int updated) {
         m_engine.looks.Updated(updated);
-        if (!(updated & Sci::SC_UPDATE_SELECTION))
-            return;
-        if (hasFocus()) // the method's list of candidates follows the caret
-            updateMicroFocus();
-        if (!g_assistiveTechnology.listens())
-            return;
-        QAccessibleTextCursorEvent moved(
-            this, static_cast<int>(m_engine.Units(SendScintilla(SCI_GETCURRENTPOS))));
-        g_assistiveTechnology.tell(&moved);
+        if (updated & Sci::SC_UPDATE_SELECTION && hasFocus())
+            updateMicroFocus(); // the method's list of candidates follows the caret
+        if (updated & (Sci::SC_UPDATE_SELECTION | Sci::SC_UPDATE_CONTENT))
+            TellCaret();
     });
+}
+
+// To assistive technology, where the caret is and what is selected, if that is news.
+void EngineWindow::TellCaret()
+{
+    if (!g_assistiveTechnology.listens())
+        return;
+    const auto units = [this](unsigned message) {
+        return static_cast<int>(m_engine.Units(static_cast<long>(m_engine.raw.Send(message))));
+    };
+    const Told now{units(SCI_GETCURRENTPOS), units(SCI_GETSELECTIONSTART),
+                   units(SCI_GETSELECTIONEND)};
+    const Told before = std::exchange(m_told, now);
+    if (now.caret != before.caret) {
+        QAccessibleTextCursorEvent moved(this, now.caret);
+        g_assistiveTechnology.tell(&moved);
+    }
+    const bool isSelection = now.start != now.end || before.start != before.end;
+    if (isSelection && (now.start != before.start || now.end != before.end)) {
+        QAccessibleTextSelectionEvent selected(this, now.start, now.end);
+        selected.setCursorPosition(now.caret);
+        g_assistiveTechnology.tell(&selected);
+    }
 }
 
 // The stock engine tells of a list that it takes down with it.

@@ -55,6 +55,14 @@ private Q_SLOTS:
                     int foldNow, int foldPrev, int token, int annotationLinesAdded);
 
 private:
+    struct Told // to assistive technology; units
+    {
+        int caret = 0;
+        int start = 0; // of the selection
+        int end = 0;
+    };
+
+    void TellCaret();
     QPointF BesideCharacter(QPointF point) const;
     void EndComposition();
     void TypeText(const QString& text);
@@ -75,6 +83,7 @@ private:
     FineScroll m_fineScroll{*this, m_place};
     bool m_addsCaret = false; // the button that is down
     bool m_isDropping = false;
+    Told m_told;
     bool m_hasMoved = false; // the caret, since something was typed
     int m_turn = 0;          // of the wheel, beyond its last whole step
 };

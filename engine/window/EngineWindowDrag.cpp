@@ -102,6 +102,9 @@ void EngineWindow::dropEvent(QDropEvent* event)
     m_isDropping = true;
     QsciScintillaBase::dropEvent(event);
     m_isDropping = false;
+    // The stock engine would go on to draw the caret where the drag was.
+    QDragLeaveEvent leave;
+    dragLeaveEvent(&leave);
 }
 
 } // namespace engine

@@ -124,13 +124,14 @@ void ScriptDoc::TellUnread()
 }
 
 // Others are looked for when the focus comes; they may have written since. A person who kept this
-// text against the file's meant the file of that moment.
+// text has agreed to lose none of the file's.
 bool ScriptDoc::MayReplaceChangedFile(const SaveTarget& target)
 {
     CFileStatus status;
-    if ((m_lastAccessTime == 0 && !m_isOfOther) || !IsSameFile(target.path, m_strPathName) ||
+    const bool isKnown = m_isOfOther || m_onlyHere;
+    if ((m_lastAccessTime == 0 && !isKnown) || !IsSameFile(target.path, m_strPathName) ||
         !CFile::GetStatus(m_strPathName, status) ||
-        (status.m_mtime == m_lastAccessTime && !m_isOfOther))
+        (status.m_mtime == m_lastAccessTime && !isKnown))
         return true;
     return GetPrompts().ConfirmComparing(
         Window(),

@@ -4,6 +4,9 @@
 #include "engine/changes/AssistiveTechnology.h"
 #include "tests/engine/EngineFixture.h"
 
+#include <QApplication>
+#include <QKeyEvent>
+
 #include <gtest/gtest.h>
 
 namespace msg = engine::message;
@@ -51,6 +54,10 @@ void Listen(QAccessibleEvent* event)
     } else if (event->type() == QAccessible::TextCaretMoved) {
         auto* moved = static_cast<QAccessibleTextCursorEvent*>(event);
         s_spoken.push_back({event->type(), moved->cursorPosition(), {}});
+    } else if (event->type() == QAccessible::TextSelectionChanged) {
+        auto* selected = static_cast<QAccessibleTextSelectionEvent*>(event);
+        s_spoken.push_back(
+            {event->type(), selected->selectionStart(), QString::number(selected->selectionEnd())});
     }
 }
 
@@ -226,6 +233,40 @@ TEST_F(AccessibleText, TellsChangesAndCaretWhileSomebodyListens)
     EXPECT_EQ(s_spoken[1].text.toStdU16String(), u"\u4e2d");
     EXPECT_EQ(s_spoken.back().type, QAccessible::TextCaretMoved);
     EXPECT_EQ(s_spoken.back().position, 6);
+}
+
+TEST_F(AccessibleText, TellsTheCaretBehindEachLetterThatIsTyped)
+{
+    m_engine.SetText(kText);
+    m_engine.Send(msg::GotoPos, 3);
+    m_engine.Window()->grab();
+    const Listening listening(true);
+    QKeyEvent key(QEvent::KeyPress, Qt::Key_X, Qt::NoModifier, QStringLiteral("x"));
+    QApplication::sendEvent(m_engine.Window(), &key);
+    m_engine.Window()->grab();
+    ASSERT_EQ(s_spoken.size(), 2u);
+    EXPECT_EQ(s_spoken[0].type, QAccessible::TextInserted);
+    EXPECT_EQ(s_spoken[1].type, QAccessible::TextCaretMoved);
+    EXPECT_EQ(s_spoken[1].position, 4);
+}
+
+TEST_F(AccessibleText, TellsWhatIsSelectedAndThatNothingIsAnyMore)
+{
+    m_engine.SetText(kText);
+    m_engine.Window()->grab();
+    const Listening listening(true);
+    m_engine.Send(msg::SetSel, 5, 7);
+    m_engine.Window()->grab();
+    ASSERT_EQ(s_spoken.size(), 2u);
+    EXPECT_EQ(s_spoken[0].position, 7);
+    EXPECT_EQ(s_spoken[1].type, QAccessible::TextSelectionChanged);
+    EXPECT_EQ(s_spoken[1].position, 5);
+    EXPECT_EQ(s_spoken[1].text, QStringLiteral("7"));
+    m_engine.Send(msg::SetSel, 7, 7);
+    m_engine.Window()->grab();
+    ASSERT_EQ(s_spoken.size(), 3u) << "the caret is where it was";
+    EXPECT_EQ(s_spoken[2].type, QAccessible::TextSelectionChanged);
+    EXPECT_EQ(s_spoken[2].text, QStringLiteral("7"));
 }
 
 TEST_F(AccessibleText, TellsNothingWhileNobodyListens)

@@ -480,6 +480,23 @@ TEST_F(Hands, DroppedFilesAreToldAndDoNotComeIn)
               u"/tmp/\u00e9 1.sql");
 }
 
+TEST_F(Hands, TheCaretOfADragGoesWithIt)
+{
+    Start(u"abc");
+    const auto picture = [this] { return m_engine.Window()->grab().toImage(); };
+    m_engine.Send(msg::SetCaretPeriod, 0);
+    m_engine.Send(msg::SetText, 0, u"aXbc");
+    m_engine.Send(msg::GotoPos, 4);
+    const QImage before = picture();
+    m_engine.Send(msg::SetText, 0, u"abc");
+    QMimeData data;
+    data.setText("X");
+    Drop(data, 1, Qt::CopyAction);
+    ASSERT_EQ(m_engine.Text(), u"aXbc");
+    m_engine.Send(msg::GotoPos, 4);
+    EXPECT_EQ(picture(), before);
+}
+
 TEST_F(Hands, AReadOnlyTextTakesNoDrop)
 {
     Start(u"abc");

@@ -493,8 +493,16 @@ TEST_F(ScriptFiles, ThatOthersRewriteAreNotLostAfterANo)
     Trigger("close");
     EXPECT_EQ(m_prompts.asked, QStringList{"a.sql"});
     Trigger("save");
+    EXPECT_EQ(Read("a.sql"), "new") << "nobody has agreed to lose that";
+    ASSERT_EQ(m_prompts.asked.size(), 2);
+    EXPECT_TRUE(m_prompts.asked[1].contains("Saving it replaces those changes"));
+    m_prompts.confirm = true;
+    Trigger("save");
     EXPECT_EQ(Read("a.sql"), "old");
     EXPECT_EQ(Caption(), "a.sql");
+    Type(u"y");
+    Trigger("save");
+    EXPECT_EQ(m_prompts.asked.size(), 3) << "once is enough";
 }
 
 TEST_F(ScriptFiles, ThatWereKeptAgainstTheFileCanStillBeReloaded)
