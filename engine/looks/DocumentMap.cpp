@@ -1,9 +1,12 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "engine/looks/DocumentMap.h"
 
+#include "engine/looks/MapPreview.h"
+
 #include <QApplication>
 #include <QContextMenuEvent>
 #include <QElapsedTimer>
+#include <QHelpEvent>
 #include <QMouseEvent>
 #include <QPainter>
 #include <QScrollBar>
@@ -50,9 +53,14 @@ DocumentMap::DocumentMap(QsciScintillaBase& window, const Raw& raw, SetRoom setR
     // Whatever looks other in the window is painted there; what moves it is told at once.
     connect(&window, &Sci::SCN_PAINTED, this, [this] { Soon(kRest); });
     const QScrollBar* bar = window.verticalScrollBar();
-    connect(bar, &QScrollBar::valueChanged, this, [this] { Soon(kAtOnce); });
+    connect(bar, &QScrollBar::valueChanged, this, [this] {
+        EndPreview();
+        Soon(kAtOnce);
+    });
     connect(bar, &QScrollBar::rangeChanged, this, [this] { Soon(kAtOnce); });
     connect(&window, &Sci::SCN_UPDATEUI, this, [this](int updated) {
+        if (updated & (Sci::SC_UPDATE_V_SCROLL | Sci::SC_UPDATE_H_SCROLL))
+            EndPreview();
         if (updated & Sci::SC_UPDATE_V_SCROLL)
             Soon(kAtOnce);
     });
@@ -62,6 +70,8 @@ DocumentMap::DocumentMap(QsciScintillaBase& window, const Raw& raw, SetRoom setR
     show();
 }
 
+DocumentMap::~DocumentMap() = default;
+
 void DocumentMap::End()
 {
     m_window.removeEventFilter(this);
@@ -69,6 +79,7 @@ void DocumentMap::End()
     m_window.disconnect(this);
     m_window.verticalScrollBar()->disconnect(this);
     m_timer.stop();
+    EndPreview();
     hide();
     m_setRoom(0);
     deleteLater(); // an event of its own may be what has led here
@@ -91,6 +102,7 @@ void DocumentMap::EditBegins(const TextEdit& edit)
 {
     if (m_isEdited)
         EditEnds();
+    EndPreview();
     m_isEdited = true;
     m_lines = m_raw.LineCount();
     m_bytesBehind = m_raw.Length() + (edit.inserts ? edit.bytes : -edit.bytes);
@@ -119,6 +131,7 @@ void DocumentMap::StylesChanged(long position, long bytes)
 
 void DocumentMap::Forget()
 {
+    EndPreview();
     m_isEdited = false;
     m_picture.Forget();
     Soon(kAtOnce);
@@ -146,6 +159,7 @@ void DocumentMap::TakeRoom()
 // A viewport that is moved by part of a line is not in the window's height.
 void DocumentMap::TakePlace()
 {
+    EndPreview();
     const QScrollBar& across = *m_window.horizontalScrollBar();
     const QRect text = m_window.viewport()->geometry();
     const int below = across.isVisibleTo(&m_window) ? across.height() : 0;
@@ -172,6 +186,14 @@ MapLayout DocumentMap::CurrentLayout() const
             static_cast<int>(std::lround(kRow * scale)), text};
 }
 
+MapRow DocumentMap::RowOf(long row) const
+{
+    const long line = Ask(Sci::SCI_DOCLINEFROMVISIBLE, row);
+    const long first = Ask(Sci::SCI_VISIBLEFROMDOCLINE, line);
+    const long behind = std::max(Ask(Sci::SCI_VISIBLEFROMDOCLINE, line + 1), row + 1);
+    return {line, row - first, behind - first};
+}
+
 std::vector<MapRow> DocumentMap::RowsOf(const MapLayout& layout) const
 {
     const auto begin = static_cast<long>(layout.FirstRow());
@@ -179,11 +201,9 @@ std::vector<MapRow> DocumentMap::RowsOf(const MapLayout& layout) const
     std::vector<MapRow> rows;
     rows.reserve(static_cast<std::size_t>(end - begin));
     for (long row = begin; row < end;) {
-        const long line = Ask(Sci::SCI_DOCLINEFROMVISIBLE, row);
-        const long first = Ask(Sci::SCI_VISIBLEFROMDOCLINE, line);
-        const long behind = std::max(Ask(Sci::SCI_VISIBLEFROMDOCLINE, line + 1), row + 1);
-        for (; row < std::min(behind, end); ++row)
-            rows.push_back({line, row - first, behind - first});
+        MapRow one = RowOf(row);
+        for (; one.part < one.parts && row < end; ++one.part, ++row)
+            rows.push_back(one);
     }
     return rows;
 }
@@ -234,6 +254,8 @@ bool DocumentMap::Refresh()
         isLeft = Colour(rows);
     if (isLeft)
         Soon(kAtOnce);
+    if (hasChanged && m_preview)
+        m_preview->Renew();
     if (hasChanged || isLeft)
         update();
     return !isLeft;
@@ -278,6 +300,12 @@ void DocumentMap::showEvent(QShowEvent* event)
     Soon(kAtOnce);
 }
 
+void DocumentMap::hideEvent(QHideEvent* event)
+{
+    EndPreview();
+    QWidget::hideEvent(event);
+}
+
 void DocumentMap::enterEvent(QEnterEvent* event)
 {
     QWidget::enterEvent(event);
@@ -289,7 +317,38 @@ void DocumentMap::leaveEvent(QEvent* event)
 {
     QWidget::leaveEvent(event);
     m_isHot = false;
+    EndPreview();
     update();
+}
+
+// Qt says when the mouse rests, in the time that the desktop has for tool tips.
+bool DocumentMap::event(QEvent* event)
+{
+    if (event->type() != QEvent::ToolTip)
+        return QWidget::event(event);
+    PreviewAt(static_cast<QHelpEvent*>(event)->pos());
+    event->accept();
+    return true;
+}
+
+void DocumentMap::PreviewAt(const QPointF& place)
+{
+    const MapLayout layout = CurrentLayout();
+    const double pixel = place.y() * devicePixelRatioF();
+    if (m_isEdited || m_isDragged || m_raw.Length() == 0 || !layout.HasRowAt(pixel)) {
+        EndPreview();
+        return;
+    }
+    if (!m_preview)
+        m_preview = std::make_unique<MapPreview>(m_window, m_raw);
+    m_preview->ShowBeside(QRect(mapToGlobal(QPoint()), size()), mapToGlobal(place.toPoint()).y(),
+                          RowOf(static_cast<long>(layout.RowAt(pixel))));
+}
+
+void DocumentMap::EndPreview()
+{
+    if (m_preview)
+        m_preview->Gone();
 }
 
 double DocumentMap::PixelOf(const QMouseEvent& event) const
@@ -324,6 +383,8 @@ void DocumentMap::mouseMoveEvent(QMouseEvent* event)
     event->accept();
     if (m_isDragged)
         GoTo(CurrentLayout().TopAfter(m_pressedTop, PixelOf(*event) - m_pressedAt));
+    else if (m_preview && m_preview->isVisible())
+        PreviewAt(event->position());
 }
 
 void DocumentMap::mouseReleaseEvent(QMouseEvent* event)

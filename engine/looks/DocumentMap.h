@@ -1,7 +1,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 // DocumentMap: a narrow column beside an engine's text that shows the script in small, with a box
-// around what the window shows. A click goes there, and the box can be dragged. It is drawn in
-// pieces when there is nothing else to do, and so is coloured what it shows below the window.
+// around what the window shows. A click goes there, and the box can be dragged; where the mouse
+// rests, the lines are shown beside it. It is drawn in pieces when there is nothing else to do, and
+// so is coloured what it shows below the window.
 #pragma once
 
 #include "engine/looks/MapLayout.h"
@@ -13,9 +14,12 @@
 
 #include <chrono>
 #include <functional>
+#include <memory>
 #include <vector>
 
 namespace engine {
+
+class MapPreview;
 
 class DocumentMap final : public QWidget
 {
@@ -25,6 +29,7 @@ public:
 
     // A child of the window, as the function is of it.
     DocumentMap(QsciScintillaBase& window, const Raw& raw, SetRoom setRoom);
+    ~DocumentMap() override;
 
     void End(); // takes no room any more, and goes by itself
 
@@ -38,10 +43,14 @@ public:
     // else to do. True if nothing is left.
     bool Refresh();
 
+    const MapPreview* Preview() const { return m_preview.get(); } // null: not shown yet
+
 protected:
+    bool event(QEvent* event) override;
     bool eventFilter(QObject* watched, QEvent* event) override;
     void paintEvent(QPaintEvent* event) override;
     void showEvent(QShowEvent* event) override;
+    void hideEvent(QHideEvent* event) override;
     void enterEvent(QEnterEvent* event) override;
     void leaveEvent(QEvent* event) override;
     void mousePressEvent(QMouseEvent* event) override;
@@ -59,6 +68,9 @@ private:
     std::vector<MapRow> RowsOf(const MapLayout& layout) const;
     // A slice of what is shown and not coloured; whether there was any.
     bool Colour(const std::vector<MapRow>& rows) const;
+    MapRow RowOf(long row) const; // of the window's rows
+    void PreviewAt(const QPointF& place);
+    void EndPreview();
     void GoTo(double top) const;
     double PixelOf(const QMouseEvent& event) const; // the screen's
     long Ask(unsigned message, long wParam = 0, long lParam = 0) const;
@@ -67,7 +79,8 @@ private:
     const Raw& m_raw;
     const SetRoom m_setRoom;
     MapPicture m_picture;
-    MapLayout m_layout{0, 1, {}}; // as it is painted
+    std::unique_ptr<MapPreview> m_preview; // made for the first mouse that rests
+    MapLayout m_layout{0, 1, {}};          // as it is painted
     QTimer m_timer;
     int m_room = 0; // pixels of the window
     // The edit under way: its lines, how many the text had, and how long it will be.

@@ -38,6 +38,12 @@ std::int64_t MapLayout::RowAt(double pixel) const
                                     std::max<std::int64_t>(0, m_text.rows - 1));
 }
 
+bool MapLayout::HasRowAt(double pixel) const
+{
+    const auto end = static_cast<double>(m_text.rows * m_rowHeight - m_offset);
+    return pixel >= 0 && pixel < std::min(end, static_cast<double>(m_height));
+}
+
 double MapLayout::Clamped(double top) const
 {
     return std::clamp(top, 0.0, static_cast<double>(std::max<std::int64_t>(0, m_text.last)));

@@ -34,6 +34,7 @@ public:
 
     int TopOf(std::int64_t row) const;      // its first pixel
     std::int64_t RowAt(double pixel) const; // the nearest that there is
+    bool HasRowAt(double pixel) const;
 
     // The box around the rows that the window shows; it may end below the map.
     double BoxTop() const { return m_text.top * m_rowHeight - static_cast<double>(m_offset); }

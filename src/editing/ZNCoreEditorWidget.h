@@ -342,7 +342,7 @@ public:
     void setLineNumbersVisible(bool visible);
     /// Whether the text stands in small beside the scroll bar, with a box around what can be seen.
     bool isDocumentMapVisible() const;
-    /// Off at first. A click there goes to the place; an editor that is very narrow shows none.
+    /// Off at first. A click goes there, a mouse that rests sees its lines; none if very narrow.
     void setDocumentMapVisible(bool visible);
     /// @}
 
