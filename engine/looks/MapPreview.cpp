@@ -98,13 +98,13 @@ PreviewRow MapPreview::Read(long line, long mostCharacters) const
     const long first = Ask(Sci::SCI_POSITIONFROMLINE, line);
     const long end = Ask(Sci::SCI_GETLINEENDPOSITION, line);
     const long start = StartOf(line, first, end);
-    const long bytes = std::min(end - start, kFarthest);
-    std::vector<char> cells(2 * static_cast<std::size_t>(bytes) + 2);
+    const long behind = CharacterStart(m_raw, std::min(end, start + kFarthest));
+    std::vector<char> cells(2 * static_cast<std::size_t>(behind - start) + 2);
     struct
     {
         long start, end;
         char* cells;
-    } range{start, start + bytes, cells.data()};
+    } range{start, behind, cells.data()};
     m_raw.Send(Sci::SCI_GETSTYLEDTEXT, 0, &range);
     cells.resize(cells.size() - 2); // the terminator
     const int tab = static_cast<int>(std::max(1L, Ask(Sci::SCI_GETTABWIDTH)));
@@ -147,6 +147,7 @@ void MapPreview::Gone()
     QCoreApplication::instance()->removeEventFilter(this);
     hide();
     m_width = 0;
+    m_picture = QImage();
 }
 
 void MapPreview::Draw()

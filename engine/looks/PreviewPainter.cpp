@@ -28,6 +28,20 @@ QColor Mixed(const QColor& ground, const QColor& ink, double share)
             part(ground.blue(), ink.blue())};
 }
 
+// As much of a text as has room.
+QString Fitting(QString text, const QFontMetricsF& metrics, double room)
+{
+    const double width = metrics.horizontalAdvance(text);
+    if (width > room) // most letters are about as wide as others
+        text.truncate(
+            static_cast<qsizetype>(static_cast<double>(text.size()) * std::max(0.0, room) / width) +
+            2);
+    while (!text.isEmpty() &&
+           (text.back().isHighSurrogate() || metrics.horizontalAdvance(text) > room))
+        text.chop(1);
+    return text;
+}
+
 QFont::Capitalization CaseOf(long stock)
 {
     switch (stock) {
@@ -185,33 +199,41 @@ void PreviewPainter::PaintLight(QPainter& painter, const QSize& size, int top) c
                      ToQColor(static_cast<COLORREF>(Ask(Sci::SCI_GETCARETFORE))));
 }
 
-// The light is over a style's own ground, as that of the line of the caret is.
+// The light is over a style's own ground, as that of the line of the caret is. Behind the last
+// letter that has room stands the sign of a cut.
 void PreviewPainter::PaintRow(QPainter& painter, const Row& row, int right, int top, bool isMeant)
 {
     constexpr double kBoxed = 0.25; // of the ink
-    const QFontMetricsF& text = LookOf(Sci::STYLE_DEFAULT).metrics;
-    const double base = top + (m_rowHeight - text.height()) / 2 + text.ascent();
-    const double sign = row.isCut ? text.horizontalAdvance(kCut) : 0;
-    painter.setClipRect(QRectF(kPadding, top, right - kPadding - sign, m_rowHeight));
+    const QFontMetricsF& plain = LookOf(Sci::STYLE_DEFAULT).metrics;
+    const double base = top + (m_rowHeight - plain.height()) / 2 + plain.ascent();
+    const double behind = row.isCut ? right - plain.horizontalAdvance(kCut) : right;
+    double cut = kPadding;
     for (const Placed& placed : row.placed) {
         const Look& look = LookOf(placed.piece->style);
         const bool isBoxed = placed.piece->kind == PreviewPiece::Kind::Boxed;
-        const QRectF place(kPadding + placed.left, top, placed.width, m_rowHeight);
+        QString text = placed.piece->text;
+        QRectF place(kPadding + placed.left, top, placed.width, m_rowHeight);
+        const bool isLast = row.isCut && place.right() > behind;
+        if (isLast) {
+            text = isBoxed ? QString() : Fitting(text, look.metrics, behind - place.x());
+            place.setWidth(look.metrics.horizontalAdvance(text));
+        }
         if (look.ground && !isMeant)
             painter.fillRect(place, *look.ground);
-        if (isBoxed)
+        if (isBoxed && !isLast)
             painter.fillRect(place.adjusted(1, 2, -1, -2), Mixed(m_ground, look.ink, kBoxed));
         painter.setFont(look.font);
         painter.setPen(look.ink);
-        painter.drawText(QPointF(place.x() + (isBoxed ? m_column / 4 : 0), base),
-                         placed.piece->text);
+        painter.drawText(QPointF(place.x() + (isBoxed ? m_column / 4 : 0), base), text);
+        cut = std::min(place.right(), behind);
+        if (isLast)
+            break;
     }
-    painter.setClipping(false);
     if (!row.isCut)
         return;
     painter.setFont(LookOf(Sci::STYLE_DEFAULT).font);
     painter.setPen(m_ink);
-    painter.drawText(QPointF(right - sign, base), kCut);
+    painter.drawText(QPointF(cut, base), kCut);
 }
 
 } // namespace engine

@@ -66,6 +66,19 @@ void ForAll(Check check)
     }
 }
 
+TEST(MapLayout, HasRowsToTheEndOfTheTextOrItsOwn)
+{
+    ForAll([](const Case& one, double top) {
+        const MapLayout map = one.At(top);
+        for (int y = -5; y < one.height + 5; ++y) {
+            const std::int64_t row = map.RowAt(y);
+            const bool isIn =
+                y >= 0 && y < one.height && y >= map.TopOf(row) && y < map.TopOf(row + 1);
+            ASSERT_EQ(map.HasRowAt(y), isIn) << y;
+        }
+    });
+}
+
 TEST(MapLayout, HasARowAtEachPixelInTheOrderOfTheText)
 {
     ForAll([](const Case& one, double top) {

@@ -409,6 +409,30 @@ TEST_F(MapPreviewTest, CutsLongLinesAtThreeFifthsOfTheEditor)
     EXPECT_EQ(Size().width(), 360) << "its edge stays while it is shown";
 }
 
+TEST_F(MapPreviewTest, CutsALineBehindALetterAndSaysSo)
+{
+    const QColor red = ToQColor(0x0000FF);
+    m_engine.Send(msg::StyleSetFore, 1, 0x0000FF);
+    m_engine.SetText(std::u16string(3000, u'\u2588') + u"\n");
+    m_engine.Send(msg::StartStyling, 0, 0xFF);
+    m_engine.Send(msg::SetStyling, 3000, 1);
+    Settle();
+    RestOver(0);
+    const int middle = MiddleOf(0, 2);
+    int end = Size().width() - 1;
+    while (end > 0 && At(end, middle) != red)
+        --end;
+    const int room = Size().width() - kBeside - end;
+    EXPECT_GT(room, 4) << "the sign of a cut";
+    EXPECT_LT(room, 24);
+    bool isSigned = false; // without red, by letters with soft edges
+    for (int x = end + 2; x < Size().width() - kBeside; ++x) {
+        for (int y = kAbove + 2; y < kAbove + Height(2) - 2; ++y)
+            isSigned |= At(x, y).red() < ToQColor(kLit).red() - 60;
+    }
+    EXPECT_TRUE(isSigned);
+}
+
 TEST_F(MapPreviewTest, BeginsAWrappedLineWhereTheMouseIs)
 {
     std::u16string text;
