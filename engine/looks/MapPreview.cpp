@@ -25,22 +25,34 @@ constexpr long kFarthest = 4096; // bytes of a line that are looked at
 constexpr double kNarrowest = 3; // times as narrow as a blank is a letter, at most
 constexpr QChar kCut(u'\u2026');
 
+// What is left of a screen on both sides of the map: the first pixel behind the one, the first of
+// the other.
+struct Sides
+{
+    Sides(const QRect& map, const QRect& screen)
+        : behindLeft(std::min(map.x() - kGap, screen.x() + screen.width())),
+          right(std::max(map.x() + map.width() + kGap, screen.x())),
+          roomLeft(behindLeft - screen.x()), roomRight(screen.x() + screen.width() - right)
+    {}
+
+    int behindLeft;
+    int right;
+    int roomLeft;
+    int roomRight;
+};
+
 } // namespace
 
 QRect PlaceBeside(const QRect& map, const QRect& screen, const QSize& size, int mouse, int lit)
 {
-    const int end = screen.x() + screen.width();
-    const int behindLeft = std::min(map.x() - kGap, end); // the first pixel that is not its own
-    const int right = std::max(map.x() + map.width() + kGap, screen.x());
-    const int roomLeft = behindLeft - screen.x();
-    const int roomRight = end - right;
-    const bool isLeft = roomLeft >= size.width() || roomLeft >= roomRight;
-    const int width = std::min(size.width(), isLeft ? roomLeft : roomRight);
+    const Sides sides(map, screen);
+    const bool isLeft = sides.roomLeft >= size.width() || sides.roomLeft >= sides.roomRight;
+    const int width = std::min(size.width(), isLeft ? sides.roomLeft : sides.roomRight);
     if (width < std::min(kLeast, size.width()))
         return {};
     const int height = std::min(size.height(), screen.height());
     const int top = std::clamp(mouse - lit, screen.y(), screen.y() + screen.height() - height);
-    return {isLeft ? behindLeft - width : right, top, width, height};
+    return {isLeft ? sides.behindLeft - width : sides.right, top, width, height};
 }
 
 MapPreview::MapPreview(const QsciScintillaBase& window, const Raw& raw)
@@ -159,7 +171,9 @@ void MapPreview::Draw()
     constexpr int kBeside = 2 * PreviewPainter::kPadding;
     constexpr int kAbove = PreviewPainter::kAbove;
     PreviewPainter painter(m_raw);
-    const int widest = static_cast<int>(m_window.width() * kShareOfWindow);
+    const Sides sides(m_map, room);
+    const int widest = std::min(static_cast<int>(m_window.width() * kShareOfWindow),
+                                std::max({sides.roomLeft, sides.roomRight, kLeast}));
     const int mostRows = static_cast<int>(room.height() * kShareOfScreen) / painter.RowHeight();
     const PreviewLines lines =
         LinesAround(m_row.line, static_cast<std::size_t>(std::clamp(mostRows, 1, kLines)));
