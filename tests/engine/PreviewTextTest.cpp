@@ -2,6 +2,7 @@
 // Which lines a preview of a place shows, what of each, and where it stands; all without a window.
 #include "engine/looks/PreviewText.h"
 #include "engine/looks/MapPreview.h"
+#include "tests/RandomSeed.h"
 
 #include <gtest/gtest.h>
 
@@ -70,7 +71,7 @@ TEST(PreviewLines, LeaveHiddenOnesOut)
 
 TEST(PreviewLines, AreThePieceOfTheTextAroundThatHasItMostInTheMiddle)
 {
-    const unsigned seed = std::random_device{}();
+    const unsigned seed = RandomSeed();
     SCOPED_TRACE(seed);
     std::mt19937 random(seed);
     const auto below = [&random](std::size_t limit) {
@@ -180,7 +181,7 @@ TEST(PreviewPlace, IsRightOfAMapAtTheLeftOfTheScreen)
 
 TEST(PreviewPlace, IsInTheScreenAndNeverOverTheMap)
 {
-    const unsigned seed = std::random_device{}();
+    const unsigned seed = RandomSeed();
     SCOPED_TRACE(seed);
     std::mt19937 random(seed);
     const auto from = [&random](int least, int most) {
