@@ -6,11 +6,13 @@
 #include "editing/ZNCoreEditorWidget.h"
 #include "editing/language/Library.h"
 #include "host/script/ScriptDoc.h"
+#include "host/script/ScriptView.h"
 #include "platform/base/Units.h"
 #include "preprocess/CompileManager.h"
 #include "preprocess/Leftovers.h"
 
 #include <QAction>
+#include <QEvent>
 #include <QFileInfo>
 #include <QHeaderView>
 #include <QLabel>
@@ -103,6 +105,19 @@ ScriptDoc* ExpandedScript::Script() const
     return m_script && !m_script->IsClosed() ? m_script.data() : nullptr;
 }
 
+// The scripts have their new scheme in front of the palette or behind it.
+void ExpandedScript::changeEvent(QEvent* event)
+{
+    QDockWidget::changeEvent(event);
+    if (event->type() != QEvent::PaletteChange)
+        return;
+    const auto follow = [this] {
+        if (ScriptView* view = m_script ? m_script->FirstView() : nullptr)
+            m_editor->setScheme(view->GetCoreEditorControlRef().SchemeName());
+    };
+    QMetaObject::invokeMethod(this, follow, Qt::QueuedConnection);
+}
+
 void ExpandedScript::Expand(ScriptDoc& doc, CZNCoreEditorControlEx& editor)
 {
     disconnect(m_changes);
@@ -110,6 +125,7 @@ void ExpandedScript::Expand(ScriptDoc& doc, CZNCoreEditorControlEx& editor)
     m_isStale = false;
     m_script = &doc;
     Caption(tr("Expanded Script"));
+    m_editor->setScheme(editor.SchemeName());
     m_editor->setLanguage(doc.Language());
     CZNCoreEditorControlEx& control = m_editor->control();
     control.SetCarefulFiles(true);

@@ -45,6 +45,9 @@ Q_SIGNALS:
     // The line from 0, in the file or, if the path is empty, in the script.
     void SourceChosen(const QString& path, long line);
 
+protected:
+    void changeEvent(QEvent* event) override;
+
 private:
     void OnNotified(const SCNotification& record);
     void ListErrors();

@@ -270,7 +270,9 @@ public:
     bool openFile(const QString& path);
     /// The same for a save.
     bool saveFile(const QString& path);
-    QString fileName() const; ///< of the file behind the text; empty: none yet
+    /// The whole path of the file behind the text, whatever open and save were given; empty: none
+    /// yet.
+    QString fileName() const;
     /// What the file was read in, or is to be written in.
     Encoding encoding() const;
     bool setEncoding(Encoding encoding); ///< for the next save; the text stays

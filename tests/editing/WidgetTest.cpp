@@ -8,6 +8,7 @@
 
 #include <QApplication>
 #include <QContextMenuEvent>
+#include <QDir>
 #include <QFile>
 #include <QKeyEvent>
 #include <QMenu>
@@ -172,6 +173,28 @@ TEST(EditorWidget, OpensAndSavesFiles)
     QFile second(copy);
     ASSERT_TRUE(first.open(QIODevice::ReadOnly) && second.open(QIODevice::ReadOnly));
     EXPECT_EQ(first.readAll(), second.readAll());
+}
+
+// A copy for a crash is found by the path, whatever the folder is then.
+TEST(EditorWidget, KnowsTheFileOfARelativePathInAnyFolder)
+{
+    const QTemporaryDir folder;
+    const QString before = QDir::currentPath();
+    QDir::setCurrent(folder.path());
+    ZNCoreEditorWidget editor;
+    editor.setText(QStringLiteral("1"));
+    EXPECT_TRUE(editor.save(QStringLiteral("a.sql")));
+    const QString whole = QDir::current().filePath(QStringLiteral("a.sql"));
+    EXPECT_EQ(editor.fileName(), whole);
+    ZNCoreEditorWidget other;
+    EXPECT_TRUE(other.open(QStringLiteral("a.sql")));
+    EXPECT_EQ(other.fileName(), whole);
+    QDir::setCurrent(before);
+    other.setText(QStringLiteral("2"));
+    EXPECT_TRUE(other.save(other.fileName()));
+    QFile file(whole);
+    ASSERT_TRUE(file.open(QIODevice::ReadOnly));
+    EXPECT_EQ(file.readAll(), "2");
 }
 
 // Only what the library exports is linked here.

@@ -480,6 +480,15 @@ TEST_F(Hands, DroppedFilesAreToldAndDoNotComeIn)
               u"/tmp/\u00e9 1.sql");
 }
 
+TEST_F(Hands, ASelectionLooksAsItDidWhenAnotherProgramSelects)
+{
+    Start(u"abc", 0, 3);
+    m_engine.Send(msg::SetCaretPeriod, 0);
+    const QImage before = m_engine.Window()->grab().toImage();
+    Q_EMIT QGuiApplication::clipboard()->selectionChanged();
+    EXPECT_EQ(m_engine.Window()->grab().toImage(), before);
+}
+
 TEST_F(Hands, TheCaretOfADragGoesWithIt)
 {
     Start(u"abc");

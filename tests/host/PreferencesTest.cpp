@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 // The preferences and the schemes of the workbench.
 #include "prefs/pages/Preferences.h"
+#include "editing/ZNCoreEditorWidget.h"
 #include "editing/language/FileTypeManager.h"
 #include "editing/language/Library.h"
 #include "editing/language/UserFolder.h"
@@ -134,6 +135,13 @@ TEST_F(WorkbenchPreferencesTest, ChooseASchemeForAllThatIsOpen)
                   Ground(scheme));
         EXPECT_EQ(appearance::Current(), QLatin1String(scheme));
     }
+    Trigger("expand");
+    auto& expanded = m_window.findChild<ZNCoreEditorWidget*>("expandedText")->control();
+    EXPECT_EQ(expanded.GetBackgroundColor(), Ground("Print"));
+    Trigger("schemeHighContrast");
+    QApplication::processEvents();
+    EXPECT_EQ(expanded.GetBackgroundColor(), Ground("High Contrast"));
+    Trigger("schemePrint");
     Open("c.sql", "select 3;\n");
     EXPECT_EQ(Editor().GetBackgroundColor(), Ground("Print"));
     Trigger("schemeDesktop");

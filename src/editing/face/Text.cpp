@@ -3,10 +3,23 @@
 #include "control/LossCheck.h"
 #include "editing/face/Private.h"
 
+#include <QFileInfo>
+
 #include <algorithm>
 
 using face::Clamped;
 using face::Units;
+
+namespace {
+
+// The folder that a relative path is meant in is the one of now: a copy for a crash is found by the
+// path, in whatever folder a program runs then.
+QString Absolute(const QString& path)
+{
+    return path.isEmpty() ? path : QFileInfo(path).absoluteFilePath();
+}
+
+} // namespace
 
 // The control takes a NUL for the end of what is entered.
 void face::Enter(CZNCoreEditorControlEx& control, const QString& text)
@@ -241,7 +254,7 @@ FileResult ZNCoreEditorWidget::open(const QString& path)
     if (!d->IsInItsThread())
         return {FileProblem::NoEngine, path};
     return d->Run([&](CZNCoreEditorControlEx& control) {
-        control.OpenFile(Units(path), FileEncodeConverter::encUnknown);
+        control.OpenFile(Units(Absolute(path)), FileEncodeConverter::encUnknown);
         control.SetScrollWidth(1, 1);
         return control.GetFileResult();
     });
@@ -252,7 +265,7 @@ FileResult ZNCoreEditorWidget::save(const QString& path)
     if (!d->IsInItsThread())
         return {FileProblem::NoEngine, path};
     return d->Run([&](CZNCoreEditorControlEx& control) {
-        control.SaveFile(Units(path), true);
+        control.SaveFile(Units(Absolute(path)), true);
         return control.GetFileResult();
     });
 }
@@ -265,7 +278,7 @@ std::optional<LostCharacter> ZNCoreEditorWidget::lostBySaving() const
 bool ZNCoreEditorWidget::openFile(const QString& path)
 {
     return d->Run([&](CZNCoreEditorControlEx& control) {
-        const bool isOpen = control.OpenFile(Units(path), FileEncodeConverter::encUnknown);
+        const bool isOpen = control.OpenFile(Units(Absolute(path)), FileEncodeConverter::encUnknown);
         control.SetScrollWidth(1, 1);
         return isOpen;
     });
@@ -274,7 +287,7 @@ bool ZNCoreEditorWidget::openFile(const QString& path)
 bool ZNCoreEditorWidget::saveFile(const QString& path)
 {
     return d->Run(
-        [&](CZNCoreEditorControlEx& control) { return control.SaveFile(Units(path), true); });
+        [&](CZNCoreEditorControlEx& control) { return control.SaveFile(Units(Absolute(path)), true); });
 }
 
 QString ZNCoreEditorWidget::fileName() const
