@@ -11,7 +11,6 @@
 #include "platform/windows/ScrollBars.h"
 #include "platform/windows/Window.h"
 
-#include <QClipboard>
 #include <QContextMenuEvent>
 #include <QCoreApplication>
 #include <QGuiApplication>
@@ -149,9 +148,6 @@ EngineWindow::EngineWindow(QWidget* parent) : QsciScintillaBase(parent), m_engin
     // By name, which spares two atomic steps for each change: a quarter of what the signal takes.
     connect(this, SIGNAL(SCN_MODIFIED(int, int, const char*, int, int, int, int, int, int, int)),
             this, SLOT(OnModified(int, int, const char*, int, int, int, int, int, int, int)));
-    // A selection is drawn as it was though another program has one: in the stock engine's grey,
-    // which is nobody's choice, the letters of a dark scheme cannot be read.
-    disconnect(QGuiApplication::clipboard(), nullptr, this, nullptr);
     setFrameShape(QFrame::NoFrame);
     m_engine.raw.Send(Sci::SCI_USEPOPUP, 0);
     // A style that was never set has no font at all, which cannot be put back after printing.
