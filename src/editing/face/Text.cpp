@@ -278,7 +278,8 @@ std::optional<LostCharacter> ZNCoreEditorWidget::lostBySaving() const
 bool ZNCoreEditorWidget::openFile(const QString& path)
 {
     return d->Run([&](CZNCoreEditorControlEx& control) {
-        const bool isOpen = control.OpenFile(Units(Absolute(path)), FileEncodeConverter::encUnknown);
+        const bool isOpen =
+            control.OpenFile(Units(Absolute(path)), FileEncodeConverter::encUnknown);
         control.SetScrollWidth(1, 1);
         return isOpen;
     });
@@ -286,8 +287,9 @@ bool ZNCoreEditorWidget::openFile(const QString& path)
 
 bool ZNCoreEditorWidget::saveFile(const QString& path)
 {
-    return d->Run(
-        [&](CZNCoreEditorControlEx& control) { return control.SaveFile(Units(Absolute(path)), true); });
+    return d->Run([&](CZNCoreEditorControlEx& control) {
+        return control.SaveFile(Units(Absolute(path)), true);
+    });
 }
 
 QString ZNCoreEditorWidget::fileName() const
