@@ -9,6 +9,7 @@
 #include "editing/language/Library.h"
 #include "host/TextLanguage.h"
 #include "host/files/Encodings.h"
+#include "host/files/FileMemory.h"
 #include "host/files/LanguageMemory.h"
 #include "host/files/LineEnds.h"
 #include "host/problems/ScriptChecker.h"
@@ -201,8 +202,7 @@ int ScriptDoc::LanguageToOpenWith(const QString& path)
     const QString ofFolder = languages::ChosenInFolder(path);
     if (const int language = LanguageNamed(ofFolder, -1); language >= 0) {
         if (language != byName)
-            TellLater(tr("%1: %2, as other files of this folder")
-                          .arg(QFileInfo(path).fileName(), ofFolder));
+            TellOfFolder(FileMemory(QStringLiteral("ToldLanguages")), path, ofFolder);
         return language;
     }
     return LanguageNamed(languages::Default(), byName);
@@ -229,19 +229,25 @@ void ScriptDoc::TellCodePage()
     }
     if (encoding == ChosenCodePageInFolder(m_strPathName) && encoding != DefaultCodePage() &&
         ChosenCodePage(m_strPathName) == 0)
-        TellLater(
-            tr("%1: %2, as other files of this folder").arg(Name(), EncodingName(encoding, false)));
+        TellOfFolder(FileMemory(QStringLiteral("ToldCodePages")), m_strPathName,
+                     EncodingName(encoding, false));
 }
 
-// Once its tab is there and in front; nobody is told of others.
-void ScriptDoc::TellLater(const QString& text)
+// Once for a file, not at each start; and once its tab is there and in front: nobody is told of
+// others.
+void ScriptDoc::TellOfFolder(const FileMemory& told, const QString& path, const QString& choice)
 {
+    if (told.Of(path) == choice)
+        return;
     QMetaObject::invokeMethod(
         this,
-        [this, text] {
+        [this, told, path, choice] {
             const ScriptView* view = IsClosed() ? nullptr : FirstView();
-            if (view && view->GetSafeHwnd() && view->GetSafeHwnd()->isVisible())
-                Q_EMIT Told(text);
+            if (!view || !view->GetSafeHwnd() || !view->GetSafeHwnd()->isVisible())
+                return;
+            told.Remember(path, choice);
+            Q_EMIT Told(tr("%1: %2, as other files of this folder")
+                            .arg(QFileInfo(path).fileName(), choice));
         },
         Qt::QueuedConnection);
 }

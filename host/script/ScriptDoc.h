@@ -13,6 +13,7 @@
 
 #include <memory>
 
+class FileMemory;
 class LineEndWatch;
 class QMenu;
 class ScriptChecker;
@@ -114,7 +115,7 @@ private:
     int LanguageToOpenWith(const QString& path);
     int CodePageToOpenWith(const QString& path) const;
     void TellCodePage();
-    void TellLater(const QString& text);
+    void TellOfFolder(const FileMemory& told, const QString& path, const QString& choice);
     void CopyNow();
     void ServeView(ScriptView& view);
     void NameCopies(CZNCoreEditorControlEx& editor) const;

@@ -117,6 +117,19 @@ TEST_F(WorkbenchLanguages, SaysThatOtherFilesOfTheFolderDecided)
     EXPECT_EQ(m_window.statusBar()->currentMessage(), "");
 }
 
+TEST_F(WorkbenchLanguages, SaysOnceThatOtherFilesOfTheFolderDecided)
+{
+    languages::Remember(PathOf("chosen.sql"), "PostgreSQL");
+    for (const char* told : {"plain.sql: PostgreSQL, as other files of this folder", ""}) {
+        m_window.statusBar()->clearMessage();
+        Open("plain.sql", "select 1;\n");
+        QApplication::processEvents();
+        EXPECT_EQ(Status("language"), "PostgreSQL");
+        EXPECT_EQ(m_window.statusBar()->currentMessage(), told);
+        Trigger("close");
+    }
+}
+
 TEST_F(WorkbenchLanguages, PutsTabsIntoMakefiles)
 {
     Open("Makefile", "all:\n");

@@ -168,6 +168,24 @@ TEST_F(ScriptFiles, AreInTheCodePageThatWasChosenForThemOrForOthersOfTheirFolder
     EXPECT_EQ(Status("encoding"), "windows-1252");
 }
 
+TEST_F(ScriptFiles, TellOnceWhichCodePageOthersOfTheirFolderHave)
+{
+    const auto told = [this] {
+        m_window.statusBar()->clearMessage();
+        Open("b.sql", "\xDF\xCF\n");
+        QApplication::processEvents();
+        const QString text = m_window.statusBar()->currentMessage();
+        Trigger("close");
+        return text;
+    };
+    RememberCodePage(PathOf("a.sql"), 1251);
+    EXPECT_EQ(told(), "b.sql: windows-1251, as other files of this folder");
+    EXPECT_EQ(told(), "");
+    RememberCodePage(PathOf("a.sql"), 866);
+    EXPECT_EQ(told(), "b.sql: IBM866, as other files of this folder") << "which is another";
+    EXPECT_EQ(told(), "");
+}
+
 TEST_F(ScriptFiles, KeepTheirCodePageIfTheyCannotBeReadInAnother)
 {
     Open("a.sql", "caf\xE9\n");
