@@ -1640,7 +1640,7 @@ Write them?</source>
     </message>
     <message>
         <source>Syntax &amp;Highlighting</source>
-        <translation>構文の強調表示(&amp;H)</translation>
+        <translation>構文の強調表示(&amp;I)</translation>
     </message>
     <message>
         <source>&amp;Brace Matching</source>
@@ -1652,11 +1652,11 @@ Write them?</source>
     </message>
     <message>
         <source>&amp;Auto Completion</source>
-        <translation>自動補完(&amp;A)</translation>
+        <translation>自動補完(&amp;U)</translation>
     </message>
     <message>
         <source>C&amp;ode Completion</source>
-        <translation>コード補完(&amp;O)</translation>
+        <translation>コード補完(&amp;D)</translation>
     </message>
     <message>
         <source>&amp;Tab Key</source>

@@ -1640,7 +1640,7 @@ Write them?</source>
     </message>
     <message>
         <source>Syntax &amp;Highlighting</source>
-        <translation>语法高亮(&amp;H)</translation>
+        <translation>语法高亮(&amp;I)</translation>
     </message>
     <message>
         <source>&amp;Brace Matching</source>
@@ -1652,11 +1652,11 @@ Write them?</source>
     </message>
     <message>
         <source>&amp;Auto Completion</source>
-        <translation>自动补全(&amp;A)</translation>
+        <translation>自动补全(&amp;U)</translation>
     </message>
     <message>
         <source>C&amp;ode Completion</source>
-        <translation>代码补全(&amp;O)</translation>
+        <translation>代码补全(&amp;D)</translation>
     </message>
     <message>
         <source>&amp;Tab Key</source>

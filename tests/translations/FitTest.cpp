@@ -36,9 +36,15 @@ void Add(Letters& letters, const QString& text)
 
 void ExpectEachOnce(const Letters& letters, const QString& where)
 {
-    const QStringList fixed = {QStringLiteral("&Wrap around search"), QStringLiteral("Find &what")};
+    // In English, as these dialogs have always had them.
+    const QList<QStringList> fixed = {
+        {QStringLiteral("&Wrap around search"), QStringLiteral("Find &what")},
+        {QStringLiteral("&Auto Completion"), QStringLiteral("&Apply")},
+        {QStringLiteral("C&ode Completion"), QStringLiteral("&Ok")},
+        {QStringLiteral("Syntax &Highlighting"), QStringLiteral("&Help")},
+    };
     for (auto letter = letters.begin(); letter != letters.end(); ++letter) {
-        if (letter.value() == fixed) // as these dialogs have always had them
+        if (fixed.contains(letter.value()))
             continue;
         EXPECT_EQ(letter.value().size(), 1)
             << where.toStdString() << ", " << letter.key().toStdString() << ": "

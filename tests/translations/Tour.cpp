@@ -91,10 +91,14 @@ void Tour::Preferences(const LookAtWindow& look)
     Modal([this] { Trigger("preferences"); },
           [&look](QWidget& dialog) {
               auto* tree = dialog.findChild<QTreeWidget*>();
-              // The page of all languages, and those of one.
-              QList<QTreeWidgetItem*> pages = {tree->topLevelItem(0), tree->topLevelItem(1)};
-              for (int page = 0; page < pages[1]->childCount(); ++page)
-                  pages << pages[1]->child(page);
+              // The page of all languages, those of plain text, and those of one that has them all.
+              QList<QTreeWidgetItem*> pages = {tree->topLevelItem(0)};
+              for (const int language : {1, 2}) {
+                  QTreeWidgetItem* item = tree->topLevelItem(language);
+                  pages << item;
+                  for (int page = 0; page < item->childCount(); ++page)
+                      pages << item->child(page);
+              }
               for (QTreeWidgetItem* page : pages) {
                   tree->setCurrentItem(page);
                   QApplication::processEvents();
