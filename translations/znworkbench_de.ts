@@ -779,6 +779,25 @@ Mit Qt %1. Lizenziert unter der GNU General Public License, Version 3 oder spät
     </message>
 </context>
 <context>
+    <name>GoToDialog</name>
+    <message>
+        <source>Go to Line</source>
+        <translation>Gehe zu Zeile</translation>
+    </message>
+    <message>
+        <source>From 1 to %1, or line:column</source>
+        <translation>Von 1 bis %1, oder Zeile:Spalte</translation>
+    </message>
+    <message>
+        <source>&amp;Line</source>
+        <translation>&amp;Zeile</translation>
+    </message>
+    <message>
+        <source>“%1” is no place here: a number from 1 to %2 is expected, or line:column.</source>
+        <translation>„%1“ ist hier keine Stelle: erwartet wird eine Zahl von 1 bis %2, oder Zeile:Spalte.</translation>
+    </message>
+</context>
+<context>
     <name>KeysDialog</name>
     <message>
         <source>Keys</source>

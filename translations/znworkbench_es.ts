@@ -779,6 +779,25 @@ Con Qt %1. Con licencia pública general de GNU, versión 3 o posterior.</transl
     </message>
 </context>
 <context>
+    <name>GoToDialog</name>
+    <message>
+        <source>Go to Line</source>
+        <translation>Ir a la línea</translation>
+    </message>
+    <message>
+        <source>From 1 to %1, or line:column</source>
+        <translation>De 1 a %1, o línea:columna</translation>
+    </message>
+    <message>
+        <source>&amp;Line</source>
+        <translation>&amp;Línea</translation>
+    </message>
+    <message>
+        <source>“%1” is no place here: a number from 1 to %2 is expected, or line:column.</source>
+        <translation>«%1» no es un lugar de este texto: se espera un número de 1 a %2, o línea:columna.</translation>
+    </message>
+</context>
+<context>
     <name>KeysDialog</name>
     <message>
         <source>Keys</source>

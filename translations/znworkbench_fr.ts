@@ -779,6 +779,25 @@ Avec Qt %1. Sous licence publique générale GNU, version 3 ou ultérieure.</tra
     </message>
 </context>
 <context>
+    <name>GoToDialog</name>
+    <message>
+        <source>Go to Line</source>
+        <translation>Aller à la ligne</translation>
+    </message>
+    <message>
+        <source>From 1 to %1, or line:column</source>
+        <translation>De 1 à %1, ou ligne:colonne</translation>
+    </message>
+    <message>
+        <source>&amp;Line</source>
+        <translation>&amp;Ligne</translation>
+    </message>
+    <message>
+        <source>“%1” is no place here: a number from 1 to %2 is expected, or line:column.</source>
+        <translation>« %1 » n’est pas un endroit de ce texte : un nombre de 1 à %2 est attendu, ou ligne:colonne.</translation>
+    </message>
+</context>
+<context>
     <name>KeysDialog</name>
     <message>
         <source>Keys</source>

@@ -775,6 +775,25 @@ Qt %1 を使用。GNU General Public License バージョン 3 以降の下で�
     </message>
 </context>
 <context>
+    <name>GoToDialog</name>
+    <message>
+        <source>Go to Line</source>
+        <translation>移動先の行</translation>
+    </message>
+    <message>
+        <source>From 1 to %1, or line:column</source>
+        <translation>1 から %1 まで、または 行:桁</translation>
+    </message>
+    <message>
+        <source>&amp;Line</source>
+        <translation>行(&amp;L)</translation>
+    </message>
+    <message>
+        <source>“%1” is no place here: a number from 1 to %2 is expected, or line:column.</source>
+        <translation>「%1」はこのテキストの位置ではありません。1 から %2 までの数、または 行:桁 を入力してください。</translation>
+    </message>
+</context>
+<context>
     <name>KeysDialog</name>
     <message>
         <source>Keys</source>

@@ -775,6 +775,25 @@ Over Qt %1. Licensed under the GNU General Public License, version 3 or later.</
     </message>
 </context>
 <context>
+    <name>GoToDialog</name>
+    <message>
+        <source>Go to Line</source>
+        <translation>转到行</translation>
+    </message>
+    <message>
+        <source>From 1 to %1, or line:column</source>
+        <translation>从 1 到 %1，或 行:列</translation>
+    </message>
+    <message>
+        <source>&amp;Line</source>
+        <translation>行(&amp;L)</translation>
+    </message>
+    <message>
+        <source>“%1” is no place here: a number from 1 to %2 is expected, or line:column.</source>
+        <translation>“%1”不是此处的位置：应为 1 到 %2 之间的数字，或 行:列。</translation>
+    </message>
+</context>
+<context>
     <name>KeysDialog</name>
     <message>
         <source>Keys</source>

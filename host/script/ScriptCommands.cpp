@@ -10,6 +10,7 @@
 #include "host/files/Prompts.h"
 #include "host/icons/FitScreen.h"
 #include "host/printing/WorkbenchPrinter.h"
+#include "host/script/GoToDialog.h"
 #include "host/script/MenuKey.h"
 #include "host/script/NameAtCaret.h"
 #include "host/script/ScriptDoc.h"
@@ -24,6 +25,7 @@
 #include <QDir>
 #include <QFileInfo>
 #include <QMenu>
+#include <QPointer>
 #include <QUrl>
 
 #include <algorithm>
@@ -139,6 +141,21 @@ void ScriptView::OpenAtCaret()
                           Texts::tr("No file name and no address stands at the caret."));
     else
         OpenNamed(name);
+}
+
+// The library's own dialog takes what is no number for the first line.
+void ScriptView::AskForLine()
+{
+    const QPointer<QWidget> window = GetSafeHwnd();
+    GoToDialog dialog(window->window(), m_coreEditor.GetCurLineNumber() + 1,
+                      m_coreEditor.GetLineCount(1));
+    // The script may have gone while the dialog was open.
+    if (dialog.exec() != QDialog::Accepted || !window || AttachedWnd(window) != this)
+        return;
+    GoToLine(dialog.Line() - 1);
+    if (dialog.Column() > 0)
+        GoToColumn(dialog.Column() - 1);
+    SetFocus();
 }
 
 // A file is looked for as it is named, folders included, before its name alone is looked for beside

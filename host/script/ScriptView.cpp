@@ -437,6 +437,7 @@ const CommandMap& ScriptView::GetCommandMap() const
     constexpr UINT kRecordMacro = 53938;
     constexpr UINT kSaveMacro = 53990;
     constexpr UINT kLoadMacro = 53991;
+    constexpr UINT kGoToLine = 54049;
     using View = ScriptView;
     // clang-format off
     static constexpr CommandEntry kCommands[] = {
@@ -445,6 +446,7 @@ const CommandMap& ScriptView::GetCommandMap() const
         {command::SaveHtml, [](CCmdTarget& t) { static_cast<View&>(t).SaveAsHtml(); }},
         {command::CopyWithColours, [](CCmdTarget& t) { static_cast<View&>(t).CopyWithColours(); }},
         {kOpenAtCaret, [](CCmdTarget& t) { static_cast<View&>(t).OpenAtCaret(); }},
+        {kGoToLine, [](CCmdTarget& t) { static_cast<View&>(t).AskForLine(); }},
         {kCodeList, [](CCmdTarget& t) { static_cast<View&>(t).CompleteWord(); }},
         {command::ShowCall, [](CCmdTarget& t) { static_cast<View&>(t).ShowCall(); }},
         {command::InsertTemplate, [](CCmdTarget& t) { static_cast<View&>(t).ChooseTemplate(); }},

@@ -83,6 +83,7 @@ private:
     void EditTemplates();
     void RecordMacro();
     void OpenAtCaret();
+    void AskForLine();
     bool HasSomethingToEnd();
 
     std::unique_ptr<EditorCompletion> m_completion;

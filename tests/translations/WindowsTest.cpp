@@ -58,7 +58,7 @@ TEST_F(GermanWindows, HaveGermanDialogs)
             buttons << zncoreeditor::WithoutMnemonic(button->text());
     });
     for (const char* title : {"Optionen", "Suchen", "Suchen und Ersetzen", "In Dateien suchen",
-                              "Einstellungen für Editor und Sprachen", "Gehe zu"})
+                              "Einstellungen für Editor und Sprachen", "Gehe zu Zeile"})
         EXPECT_TRUE(titles.contains(QString::fromUtf8(title))) << title;
     for (const char* button : {"Abbrechen", "Alle ersetzen", "Regulärer Ausdruck", "Verwerfen"})
         EXPECT_TRUE(buttons.contains(QString::fromUtf8(button))) << button;
