@@ -13,6 +13,9 @@
 
 #include <QMimeData>
 
+#include <utility>
+#include <vector>
+
 namespace engine {
 
 class EngineWindow : public QsciScintillaBase
@@ -64,6 +67,9 @@ private:
 
     void TellCaret();
     QPointF BesideCharacter(QPointF point) const;
+    bool IsInSelection(long place) const;
+    std::vector<std::pair<long, long>> SelectedRanges() const; // first and behind the last, bytes
+    void MoveHere(QDropEvent* event, const EngineWindow& from);
     void EndComposition();
     void TypeText(const QString& text);
     void PressKey(QKeyEvent* event);

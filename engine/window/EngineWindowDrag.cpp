@@ -6,8 +6,11 @@
 #include "engine/window/EngineWindow.h"
 
 #include <QDropEvent>
+#include <QPointer>
 
+#include <algorithm>
 #include <cmath>
+#include <functional>
 
 namespace engine {
 namespace {
@@ -90,7 +93,59 @@ QPointF EngineWindow::BesideCharacter(QPointF point) const
     return point;
 }
 
-// Text goes to where it was dragged last. A rectangle beside such characters goes in as text.
+// Whether the place is in what is selected, or at an end of it.
+bool EngineWindow::IsInSelection(long place) const
+{
+    const auto ranges = SelectedRanges();
+    return std::ranges::any_of(ranges, [place](const auto& range) {
+        return place >= range.first && place <= range.second;
+    });
+}
+
+std::vector<std::pair<long, long>> EngineWindow::SelectedRanges() const
+{
+    const Raw& raw = m_engine.raw;
+    std::vector<std::pair<long, long>> ranges;
+    const auto count = static_cast<WPARAM>(raw.Send(Sci::SCI_GETSELECTIONS));
+    for (WPARAM i = 0; i < count; ++i)
+        ranges.emplace_back(raw.Send(Sci::SCI_GETSELECTIONNSTART, i),
+                            raw.Send(Sci::SCI_GETSELECTIONNEND, i));
+    return ranges;
+}
+
+// Text that is moved between two windows of one document is one step of undo: the window that it
+// comes from would take it away in a step of its own, and so is told that it was copied. As in one
+// window, nothing moves onto itself.
+void EngineWindow::MoveHere(QDropEvent* event, const EngineWindow& from)
+{
+    const Raw& raw = m_engine.raw;
+    const QPoint point = event->position().toPoint();
+    const auto place = static_cast<long>(
+        raw.Send(Sci::SCI_POSITIONFROMPOINT, static_cast<WPARAM>(point.x()), long{point.y()}));
+    const QPointer<const EngineWindow> source(&from);
+    const QPointer<EngineWindow> alive(this);
+    if (from.IsInSelection(place)) {
+        raw.Send(Sci::SCI_SETEMPTYSELECTION, static_cast<WPARAM>(place));
+        event->acceptProposedAction();
+    } else {
+        m_engine.Perform(message::BeginUndoAction, 0, 0);
+        const long before = raw.Length();
+        QsciScintillaBase::dropEvent(event);
+        if (alive && source && raw.Length() > before) {
+            auto ranges = source->SelectedRanges();
+            std::ranges::sort(ranges, std::greater());
+            for (const auto& [start, end] : ranges)
+                raw.Send(Sci::SCI_DELETERANGE, static_cast<WPARAM>(start), end - start);
+        }
+        if (alive)
+            m_engine.Perform(message::EndUndoAction, 0, 0);
+    }
+    if (event->isAccepted())
+        event->setDropAction(Qt::CopyAction);
+}
+
+// Text goes to where it was dragged last, and the keys with it. A rectangle beside such characters
+// goes in as text.
 void EngineWindow::dropEvent(QDropEvent* event)
 {
     if (m_engine.text.MayHaveNoncharacters()) {
@@ -99,12 +154,26 @@ void EngineWindow::dropEvent(QDropEvent* event)
                               event->modifiers());
         dragMoveEvent(&beside);
     }
+    const auto* from = qobject_cast<EngineWindow*>(event->source());
+    const bool isText = !event->mimeData()->hasUrls();
+    const bool movesHere = isText && from && from != this &&
+                           event->proposedAction() == Qt::MoveAction &&
+                           from->m_engine.Document() == m_engine.Document() &&
+                           !m_engine.raw.Send(Sci::SCI_GETREADONLY);
+    const QPointer<EngineWindow> alive(this);
     m_isDropping = true;
-    QsciScintillaBase::dropEvent(event);
+    if (movesHere)
+        MoveHere(event, *from);
+    else
+        QsciScintillaBase::dropEvent(event);
+    if (!alive)
+        return;
     m_isDropping = false;
     // The stock engine would go on to draw the caret where the drag was.
     QDragLeaveEvent leave;
     dragLeaveEvent(&leave);
+    if (isText && event->isAccepted())
+        setFocus(Qt::MouseFocusReason);
 }
 
 } // namespace engine
