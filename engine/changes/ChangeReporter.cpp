@@ -146,8 +146,10 @@ void ChangeReporter::Connect()
                      [this] { OnSavePoint(notify::SavePointReached); });
     QObject::connect(&m_window, &Sci::SCN_SAVEPOINTLEFT, &m_window,
                      [this] { OnSavePoint(notify::SavePointLeft); });
-    QObject::connect(&m_window, &Sci::SCN_CHARADDED, &m_window,
-                     [this](int ch) { Tell(notify::CharAdded, {.ch = ch}); });
+    QObject::connect(&m_window, &Sci::SCN_CHARADDED, &m_window, [this](int ch) {
+        if (m_tellsTyped)
+            Tell(notify::CharAdded, {.ch = ch});
+    });
     QObject::connect(&m_window, &Sci::SCN_STYLENEEDED, &m_window,
                      [this](int position) { OnStyleNeeded(position); });
     QObject::connect(&m_window, &Sci::SCN_UPDATEUI, &m_window,

@@ -55,6 +55,9 @@ public:
         m_listen = std::move(listen);
     }
 
+    // Whether typed characters are told.
+    void TellTyped(bool tells) { m_tellsTyped = tells; }
+
     int ModEventMask() const { return m_mask; }
     void SetModEventMask(int mask);
     // Lets the window hear of changed styles, whoever else does.
@@ -161,6 +164,7 @@ private:
     SCNotification m_blank; // to copy one is quicker than to blank it
     long m_lines = -1;      // in the text as it was told last; -1: not known
     bool m_hasListener = false;
+    bool m_tellsTyped = true;
     bool m_asksOver = false; // the parent wants to hear when this is over
     UINT m_id = 0;           // of the window, as soon as it has one
     std::function<void(const TextEdit&)> m_follow;

@@ -141,8 +141,9 @@ public:
     const StoredText stored;
     search::Searcher searcher;
     LookPainter looks;
-    DocumentMap* map = nullptr;                // the window's child; null: not shown
-    std::function<void(int width)> setMapRoom; // gives the map pixels of the window
+    DocumentMap* map = nullptr;                    // the window's child; null: not shown
+    std::function<void(int width)> setMapRoom;     // gives the map pixels of the window
+    std::function<void(std::u16string_view)> type; // as keys do
     SearchTarget target;
     const Columns columns{raw};
     LongLines longLines{*this};

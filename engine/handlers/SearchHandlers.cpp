@@ -6,6 +6,8 @@
 #include "engine/core/Engine.h"
 #include "engine/core/Handlers.h"
 
+#include <QScopeGuard>
+
 #include <algorithm>
 #include <new>
 #include <utility>
@@ -163,6 +165,17 @@ LRESULT RecordCommand(Engine& engine, WPARAM number, LPARAM)
     return 1;
 }
 
+LRESULT TypeAtEach(Engine& engine, WPARAM, LPARAM text)
+{
+    if (!text || !(engine.columns.AreSelected() || engine.raw.Send(Sci::SCI_GETSELECTIONS) > 1))
+        return 0;
+    engine.EndRuns();
+    engine.reporter.TellTyped(false);
+    const auto told = qScopeGuard([&engine] { engine.reporter.TellTyped(true); });
+    engine.type(TerminatedText(reinterpret_cast<const char16_t*>(text)));
+    return 1;
+}
+
 LRESULT TellExpressionProblem(Engine& engine, WPARAM wParam, LPARAM lParam)
 {
     auto* record = reinterpret_cast<ExpressionProblem*>(lParam);
@@ -184,6 +197,7 @@ LRESULT TellExpressionProblem(Engine& engine, WPARAM wParam, LPARAM lParam)
 constexpr HandlerRow kRows[] = {
     {kExpressionProblem, TellExpressionProblem},
     {kRecordCommand, RecordCommand},
+    {kTypeAtEach, TypeAtEach},
     {message::SetTargetStart, SetTargetEdge<&SearchTarget::start>},
     {message::GetTargetStart, GetTargetEdge<&SearchTarget::start>},
     {message::SetTargetEnd, SetTargetEdge<&SearchTarget::end>},

@@ -164,6 +164,9 @@ EngineWindow::EngineWindow(QWidget* parent) : QsciScintillaBase(parent), m_engin
         margins.setRight(width);
         setViewportMargins(margins);
     };
+    m_engine.type = [this](std::u16string_view text) {
+        TypeText(QString::fromUtf16(text.data(), static_cast<qsizetype>(text.size())));
+    };
     setAccessibleName(QCoreApplication::translate("EngineWindow", "Text editor"));
     connect(this, &Sci::SCN_UPDATEUI, this, [this](int updated) {
         m_engine.looks.Updated(updated);

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 /// \file
-/// A message of the engine beside the table: commands of a host in a macro.
+/// Messages of the engine beside the table: commands and keys of a host, as macros and undo have
+/// them.
 #pragma once
 
 #include "platform/base/Types.h"
@@ -12,5 +13,10 @@ namespace engine {
 /// the command itself sends. Answers 1 if it does, and 0 if it records nothing: there is nothing to
 /// send behind the command then.
 inline constexpr UINT kRecordCommand = 4033;
+
+/// Types at every caret and in each line of columns, as keys do, and tells of no character that was
+/// typed: what a macro plays. lParam: const char16_t*, UTF-16 up to its terminator. Answers 1, and
+/// 0 where there is one place alone: nothing is done then.
+inline constexpr UINT kTypeAtEach = 4034;
 
 } // namespace engine

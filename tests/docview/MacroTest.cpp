@@ -2,6 +2,7 @@
 // The macro: what is recorded, and what playing it does.
 #include "ViewFixture.h"
 
+#include "control/Selections.h"
 #include "docview/dialogs/InputBox.h"
 #include "editing/operations/Macro.h"
 #include "platform/services/LongWork.h"
@@ -107,6 +108,27 @@ TEST_F(Macro, RepeatsGestures)
     EXPECT_EQ(Text(), QStringLiteral("three\nfive\nfour\n"));
     Control().Undo(1);
     EXPECT_EQ(Text(), QStringLiteral("three\ntwo\nfour\nfive\n"));
+}
+
+TEST_F(Macro, TypesInEachLineOfTheColumnThatIsSelected)
+{
+    const auto select = [this](int anchor, int caret) {
+        const engine::ColumnCorners corners = {{anchor, caret}};
+        Control().Call(engine::kSetColumns, 0, reinterpret_cast<LPARAM>(&corners), 1);
+    };
+    Put(QStringLiteral("one\ntwo\nten\nsix\n"), 0, 0);
+    select(1, 6); // a letter of two lines
+    Record(QStringLiteral("xé"));
+    ASSERT_EQ(Text(), QStringLiteral("oxée\ntxéo\nten\nsix\n"));
+    select(11, 17); // two letters of the others
+    Control().EmptyUndoBuffer(1);
+    Run(kPlay);
+    EXPECT_EQ(Text(), QStringLiteral("oxée\ntxéo\ntxé\nsxé\n"));
+    Run(kPlay);
+    EXPECT_EQ(Text(), QStringLiteral("oxée\ntxéo\ntxéxé\nsxéxé\n")) << "the column is there still";
+    Control().Undo(1);
+    Control().Undo(1);
+    EXPECT_EQ(Text(), QStringLiteral("oxée\ntxéo\nten\nsix\n"));
 }
 
 TEST_F(Macro, GoesOnBehindAGesture)

@@ -2,6 +2,7 @@
 // Several selections and columns, by message.
 #include "tests/engine/EngineFixture.h"
 
+#include "control/Recording.h"
 #include "control/Selections.h"
 
 #include <QTest>
@@ -55,6 +56,40 @@ protected:
 };
 
 using Ends = std::vector<SelectionEnds>;
+
+TEST_F(Selections, AreTypedAtAndNobodyIsToldOfTyping)
+{
+    engine.SetText(u"one\ntwo\nten\n");
+    engine.Send(msg::EmptyUndoBuffer);
+    Select({{0, 0}, {4, 5}});
+    EXPECT_EQ(engine.Send(engine::kTypeAtEach, 0, u"\U0001F600"), 1);
+    EXPECT_EQ(engine.Text(), u"\U0001F600one\n\U0001F600wo\nten\n");
+    EXPECT_EQ(Told(), (Ends{{2, 2}, {8, 8}}));
+    SelectColumns({{0, 8}, 0, 0});
+    EXPECT_EQ(engine.Send(engine::kTypeAtEach, 0, u"}"), 1);
+    EXPECT_EQ(engine.Text(), u"}one\n}wo\nten\n");
+    EXPECT_TRUE(engine.Send(engine::kGetColumns, 0, std::vector<ColumnCorners>(1).data()));
+    EXPECT_TRUE(engine.Parent().Of(notify::CharAdded).empty());
+    engine.Send(msg::Undo);
+    engine.Send(msg::Undo);
+    EXPECT_EQ(engine.Text(), u"one\ntwo\nten\n");
+    QTest::keyClick(engine.Window(), 'x');
+    EXPECT_EQ(engine.Parent().Of(notify::CharAdded).size(), 1u) << "of keys they are, as before";
+}
+
+TEST_F(Selections, AreNotTypedAtWhereThereIsOnePlaceAlone)
+{
+    engine.SetText(u"one\n");
+    Select({{0, 3}});
+    EXPECT_EQ(engine.Send(engine::kTypeAtEach, 0, u"x"), 0);
+    EXPECT_EQ(engine.Send(engine::kTypeAtEach, 0, nullptr), 0);
+    EXPECT_EQ(engine.Text(), u"one\n");
+    Select({{0, 0}, {2, 2}});
+    EXPECT_EQ(engine.Send(engine::kTypeAtEach, 0, nullptr), 0);
+    engine.Send(msg::SetReadOnly, 1);
+    engine.Send(engine::kTypeAtEach, 0, u"x");
+    EXPECT_EQ(engine.Text(), u"one\n");
+}
 
 TEST_F(Selections, CountUnitsAndTellTheMainOneLast)
 {

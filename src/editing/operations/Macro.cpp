@@ -2,6 +2,7 @@
 // The macro of the process, and CZNCoreEditorControlEx: playing one.
 #include "editing/operations/Macro.h"
 
+#include "control/Recording.h"
 #include "editing/ZNCoreEditorControlEx.h"
 #include "editing/hands/Hands.h"
 
@@ -88,15 +89,17 @@ void AppendToMacro(int message, WPARAM wParam, LPARAM lParam)
 
 // Whatever the message, the node's own text goes along: what needs another gets an empty one. A
 // recording that was ended in another view goes on in this one's engine; a macro to which its own
-// messages were appended would never end.
+// messages were appended would never end. Of several carets and of columns the engine's message for
+// a typed character would leave one.
 void CZNCoreEditorControlEx::PerformMacro(MacroHolder* node)
 {
     const QScopedValueRollback playing(s_isPlaying, true);
     for (; node; node = node->m_next) {
         const auto number = static_cast<UINT>(node->m_message);
+        const auto text = reinterpret_cast<LPARAM>(node->m_text);
         if (FindHand(number))
             OnCmdMsg(number, CN_COMMAND, nullptr, nullptr);
-        else
-            Call(number, node->m_wParam, reinterpret_cast<LPARAM>(node->m_text), 1);
+        else if (!node->m_text[0] || Call(engine::kTypeAtEach, 0, text, 1) == 0)
+            Call(number, node->m_wParam, text, 1);
     }
 }
