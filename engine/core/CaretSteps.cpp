@@ -26,6 +26,13 @@ bool IsFollowed(const Engine& engine)
            (carets > 1 || !engine.raw.Send(Sci::SCI_GETSELECTIONEMPTY));
 }
 
+// What is typed over other text goes back character by character.
+bool MayBeginLine(const Engine& engine)
+{
+    return engine.looks.IsOn() && CaretsOf(engine.raw) <= kMostCarets &&
+           !engine.raw.Send(Sci::SCI_GETOVERTYPE);
+}
+
 } // namespace
 
 CaretSteps::~CaretSteps()
@@ -46,9 +53,12 @@ void CaretSteps::Mark::Add(const TextEdit& edit)
 
 void CaretSteps::KeyBegins(Engine& engine, Key key)
 {
-    const bool goesOn =
-        m_isOpen && key == m_key && m_isNoted && m_step.after == CaretPlaces(engine.raw);
-    const bool isFollowed = IsFollowed(engine) || (goesOn && key == Key::Types);
+    const bool isSame = key == Key::Types ? m_key == Key::Types || m_key == Key::BeginsLine
+                                          : key == m_key && key != Key::BeginsLine;
+    const bool goesOn = m_isOpen && isSame && m_isNoted && m_step.after == CaretPlaces(engine.raw);
+    const bool isFollowed = key == Key::BeginsLine
+                                ? MayBeginLine(engine)
+                                : IsFollowed(engine) || (goesOn && key == Key::Types);
     const bool joins = key != Key::Other && isFollowed && engine.CollectsUndo() &&
                        !engine.raw.Send(Sci::SCI_GETREADONLY) &&
                        !documents::HasUndoActions(engine.Document());
@@ -118,6 +128,12 @@ void CaretSteps::Close(const Raw& raw)
     raw.Send(Sci::SCI_ENDUNDOACTION);
     if (m_isNoted)
         Note();
+}
+
+void CaretSteps::LineEnds(const Raw& raw)
+{
+    if (m_key == Key::BeginsLine)
+        Close(raw);
 }
 
 void CaretSteps::Note()

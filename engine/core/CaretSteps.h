@@ -6,6 +6,7 @@
 // selection. What was selected before and behind
 // a step comes back with it, which the stock engine keeps for none. A step is known again by what
 // it does to the text, so that whatever becomes of the stock engine's history does no harm.
+// A line that is begun and the indentation that it gets are one with what is typed behind them.
 // A command's change is such a step, too: what was selected comes back rather than the first place
 // that has changed, with the view of it unless it is in sight.
 #pragma once
@@ -29,6 +30,7 @@ public:
     {
         Types,
         Erases,
+        BeginsLine, // with all that a host does about it, and what is typed behind it
         Other
     };
 
@@ -53,6 +55,10 @@ public:
     // Around a key that does not only move the caret.
     void KeyBegins(Engine& engine, Key key);
     void KeyEnds() { m_inKey = false; }
+    bool IsBeginningLine() const { return m_inKey && m_isOpen && m_key == Key::BeginsLine; }
+
+    // The caret moves: what is typed from here on is no part of the line that was begun.
+    void LineEnds(const Raw& raw);
 
     // Before an edit. Each window that shows the document may tell of it.
     void EditBegins(Engine& engine, const TextEdit& edit);

@@ -209,7 +209,8 @@ LRESULT Engine::Perform(UINT message, WPARAM wParam, LPARAM lParam)
     const UINT slot = message - kFirstNumber;
     if (slot >= kNumbers)
         return 0;
-    if ((EraseRun::AnyIsOpen() || CaretSteps::AnyIsOpen()) && EraseRun::IsEndedBy(message))
+    if ((EraseRun::AnyIsOpen() || CaretSteps::AnyIsOpen()) && EraseRun::IsEndedBy(message) &&
+        !documents::CaretStepsOf(m_document).IsBeginningLine())
         EndRuns();
     const Answerer& answerer = answerers[slot];
     if (answerer.move == CaretMove::Jump)

@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 // Messages about the text as a whole: which one a window shows, and how its changes are grouped.
+#include "control/Recording.h"
 #include "engine/core/CaretSteps.h"
 #include "engine/core/Documents.h"
 #include "engine/core/Engine.h"
@@ -64,6 +65,18 @@ LRESULT EndUndoAction(Engine& engine, WPARAM, LPARAM)
         engine.raw.Send(Sci::SCI_ENDUNDOACTION);
     if (!documents::HasUndoActions(engine.Document()))
         documents::CaretStepsOf(engine.Document()).ActionEnds();
+    return 0;
+}
+
+LRESULT LineKey(Engine& engine, WPARAM begins, LPARAM)
+{
+    CaretSteps& steps = documents::CaretStepsOf(engine.Document());
+    if (!begins) {
+        steps.KeyEnds();
+        return 0;
+    }
+    engine.EndEraseRun();
+    steps.KeyBegins(engine, CaretSteps::Key::BeginsLine);
     return 0;
 }
 
@@ -154,8 +167,8 @@ constexpr HandlerRow kRows[] = {
     {message::AddRefDocument, AddRefDocument},       {message::ReleaseDocument, ReleaseDocument},
     {message::BeginUndoAction, BeginUndoAction},     {message::EndUndoAction, EndUndoAction},
     {message::SetUndoCollection, SetUndoCollection}, {message::EmptyUndoBuffer, EmptyUndoBuffer},
-    {message::SetSavePoint, SetSavePoint},           {message::Undo, ChangeBySteps<Sci::SCI_UNDO>},
-    {message::Redo, ChangeBySteps<Sci::SCI_REDO>},
+    {message::SetSavePoint, SetSavePoint},           {kLineKey, LineKey},
+    {message::Undo, ChangeBySteps<Sci::SCI_UNDO>},   {message::Redo, ChangeBySteps<Sci::SCI_REDO>},
 };
 
 } // namespace

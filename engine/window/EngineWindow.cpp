@@ -386,6 +386,8 @@ void EngineWindow::keyPressEvent(QKeyEvent* event)
         m_hasMoved = false;
     }
     m_hasMoved |= MovesCaret(*event);
+    if (MovesCaret(*event))
+        documents::CaretStepsOf(m_engine.Document()).LineEnds(m_engine.raw);
     if (MovesByLines(*event))
         m_engine.AimAtCaret();
     if (MovesAlongLine(*event) && m_engine.looks.IsOn())

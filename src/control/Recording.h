@@ -19,4 +19,8 @@ inline constexpr UINT kRecordCommand = 4033;
 /// 0 where there is one place alone: nothing is done then.
 inline constexpr UINT kTypeAtEach = 4034;
 
+/// Around a key that begins a line, where the host does more about it than the engine: wParam 1 in
+/// front of it, 0 behind it. With looks what is typed behind the line is of the same step of undo.
+inline constexpr UINT kLineKey = 4035;
+
 } // namespace engine

@@ -173,6 +173,73 @@ TEST_F(EnterKeysTest, IsOneStepOfUndoWithTheIndentationOfItsLine)
     EXPECT_EQ(Shown(), "    select 1\n    |;");
 }
 
+TEST_F(EnterKeysTest, IsOneStepOfUndoWithWhatIsTypedInItsLine)
+{
+    for (const auto& [marked, lineTyped] :
+         {std::pair("  a|", "  ab\n  cd|"), std::pair("a|", "ab\ncd|"),
+          std::pair("  f(|)", "  f(b\n  cd|)"),
+          std::pair("  a|\n  a|", "  ab\n  cd|\n  ab\n  cd|")}) {
+        Put(marked);
+        const std::string text = face.text().toStdString();
+        const auto type = [this](Qt::Key key) { QTest::keyClick(control.GetSafeHwnd(), key); };
+        type(Qt::Key_B);
+        const std::string letter = Shown();
+        for (const Qt::Key key : {Qt::Key_Return, Qt::Key_C, Qt::Key_D})
+            type(key);
+        EXPECT_EQ(Shown(), lineTyped);
+        face.undo();
+        EXPECT_EQ(Shown(), letter);
+        face.undo();
+        EXPECT_EQ(face.text().toStdString(), text);
+        EXPECT_FALSE(control.CanUndo(1)) << marked;
+        face.redo();
+        EXPECT_EQ(Shown(), letter);
+        face.redo();
+        EXPECT_EQ(Shown(), lineTyped);
+    }
+}
+
+TEST_F(EnterKeysTest, BeginsAStepForEachLine)
+{
+    Put("  |");
+    for (const Qt::Key key : {Qt::Key_A, Qt::Key_Return, Qt::Key_B, Qt::Key_Return, Qt::Key_C})
+        QTest::keyClick(control.GetSafeHwnd(), key);
+    for (const char* left : {"  a\n  b\n  c|", "  a\n  b|", "  a|", "  |"}) {
+        EXPECT_EQ(Shown(), left);
+        face.undo();
+    }
+    EXPECT_FALSE(control.CanUndo(1));
+}
+
+TEST_F(EnterKeysTest, EndsItsStepWhereTheCaretMovesAndWhereTheTextIsSaved)
+{
+    const auto type = [this](Qt::Key key) { QTest::keyClick(control.GetSafeHwnd(), key); };
+    EXPECT_EQ(EnterAt("  a|"), "  a\n  |");
+    type(Qt::Key_B);
+    type(Qt::Key_Left);
+    type(Qt::Key_Right);
+    type(Qt::Key_C);
+    control.SetSavePoint(1);
+    type(Qt::Key_D);
+    for (const char* left : {"  a\n  bcd|", "  a\n  bc|", "  a\n  b|", "  a|"}) {
+        EXPECT_EQ(Shown(), left);
+        EXPECT_EQ(face.isModified(), std::string(left) != "  a\n  bc|") << left;
+        face.undo();
+    }
+    EXPECT_FALSE(control.CanUndo(1));
+}
+
+TEST_F(EnterKeysTest, IsOneStepOfUndoWithTheIndentationOfTheLanguage)
+{
+    Close(false);
+    control.SetAutoIndent(2);
+    EXPECT_EQ(EnterAt("f()|"), "f()\n    |") << "a step further in";
+    QTest::keyClick(control.GetSafeHwnd(), Qt::Key_X);
+    face.undo();
+    EXPECT_EQ(Shown(), "f()|");
+    EXPECT_FALSE(control.CanUndo(1));
+}
+
 // Outside of brackets, too, whatever the options say of pairs.
 TEST_F(EnterKeysTest, LeavesEachOfSeveralCaretsInItsLine)
 {

@@ -19,6 +19,7 @@
 namespace {
 
 constexpr int kNewLine = 2329; // the message of Enter
+constexpr int kAsAbove = 1;    // the indentation of the line above
 
 bool IsEnter(const QKeyEvent& event)
 {
@@ -114,15 +115,20 @@ bool EnterKeys::Press()
     for (const auto& each : carets)
         breaks.push_back(opens ? InBrackets(each.caret) : std::nullopt);
     const bool isPlain = carets.size() == 1 && !breaks.front();
-    if (isPlain && IndentOfNext(carets.front().caret).isEmpty())
+    if (isPlain && m_control.GetAutoIndent() <= kAsAbove &&
+        IndentOfNext(carets.front().caret).isEmpty())
         return false;
-    const UndoStep step(m_control); // with the indentation that follows
-    if (isPlain)
-        m_control.NewLine(1);
-    else if (carets.size() == 1)
-        Put(*breaks.front());
-    else
-        PutAll(carets, breaks);
+    m_control.Call(engine::kLineKey, 1, 0, 1);
+    {
+        const UndoStep step(m_control); // with the indentation that follows
+        if (isPlain)
+            m_control.NewLine(1);
+        else if (carets.size() == 1)
+            Put(*breaks.front());
+        else
+            PutAll(carets, breaks);
+    }
+    m_control.Call(engine::kLineKey, 0, 0, 1);
     return true;
 }
 

@@ -3,7 +3,7 @@
 // in; behind an opening bracket that ends its line the next one goes in by a step. Where brackets
 // get their partners by option::ClosePairs and lines are indented at all. Of several carets, and of
 // those of a column, each opens its line and goes on in it. A line and the indentation that it gets
-// are one step of undo.
+// are one step of undo, with what is typed there.
 #pragma once
 
 #include "control/Selections.h"
