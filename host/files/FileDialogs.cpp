@@ -1,11 +1,11 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "host/files/FileDialogs.h"
 
+#include "host/icons/FitScreen.h"
+
 #include <QFileDialog>
 #include <QHeaderView>
 #include <QTreeView>
-
-#include <algorithm>
 
 void FitColumns(QFileDialog& dialog)
 {
@@ -19,5 +19,6 @@ void FitColumns(QFileDialog& dialog)
     for (int column = 0; column < header.count(); ++column)
         header.setSectionResizeMode(column, column == kName ? QHeaderView::Stretch
                                                             : QHeaderView::ResizeToContents);
-    dialog.resize(std::max(dialog.width(), kWidth), dialog.height());
+    // Of which there is less at a large scale.
+    dialog.resize(FittingScreen(dialog, dialog.size().expandedTo({kWidth, 0})));
 }

@@ -3,6 +3,6 @@
 
 class QFileDialog;
 
-// Gives the columns of sizes and dates the room of what they show. The platform's own dialog is as
-// it is.
+// Gives the columns of sizes and dates the room of what they show, as far as the screen has it. The
+// platform's own dialog is as it is.
 void FitColumns(QFileDialog& dialog);

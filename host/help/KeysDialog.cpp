@@ -5,6 +5,7 @@
 #include "host/commands/CommandKeys.h"
 #include "host/files/Prompts.h"
 #include "host/help/TextKeys.h"
+#include "host/icons/FitScreen.h"
 
 #include <QAbstractButton>
 #include <QAction>
@@ -120,7 +121,7 @@ void KeysDialog::FitColumns()
     header->setSectionResizeMode(QHeaderView::ResizeToContents);
     const int columns = m_list->columnWidth(kCommand) + m_list->columnWidth(kKeys);
     header->setSectionResizeMode(kCommand, QHeaderView::Stretch);
-    resize(kSize.expandedTo({columns + kRim, 0}));
+    resize(FittingScreen(*this, kSize.expandedTo({columns + kRim, 0})));
 }
 
 QWidget* KeysDialog::BuildField()

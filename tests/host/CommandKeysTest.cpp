@@ -9,6 +9,7 @@
 #include <QKeySequenceEdit>
 #include <QLineEdit>
 #include <QPushButton>
+#include <QScreen>
 #include <QTest>
 #include <QTreeWidget>
 
@@ -67,6 +68,19 @@ protected:
         return QKeySequence::listToString(Action(name).shortcuts(), QKeySequence::PortableText);
     }
 };
+
+TEST_F(CommandKeysOfPeople, HaveADialogThatFitsTheScreenWithLargeLetters)
+{
+    const QFont usual = QApplication::font();
+    QFont large = usual;
+    large.setPointSize(20);
+    QApplication::setFont(large);
+    const QSize size = Dialog().size();
+    const QSize room = Dialog().screen()->availableSize();
+    QApplication::setFont(usual);
+    EXPECT_LT(size.width(), room.width());
+    EXPECT_LT(size.height(), room.height());
+}
 
 TEST_F(CommandKeysOfPeople, AreAskedForByEnterAndKeptForTheNextStart)
 {

@@ -1,8 +1,11 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "host/files/OpenAsDialog.h"
 #include "host/files/Encodings.h"
+#include "host/files/FileDialogs.h"
 
 #include <QComboBox>
+#include <QFileDialog>
+#include <QScreen>
 #include <QSet>
 #include <QTemporaryDir>
 #include <QTest>
@@ -51,6 +54,18 @@ TEST(OpenAsDialog, HasRoomForSizesAndDates)
         })) << cell.data().toString().toStdString();
     }
     EXPECT_GT(files.columnWidth(0), files.fontMetrics().horizontalAdvance("a_long_name_of_a.sql"));
+}
+
+TEST(FileDialogs, FitTheScreenWhateverTheirSizeWas)
+{
+    QFileDialog dialog;
+    dialog.setOption(QFileDialog::DontUseNativeDialog);
+    dialog.resize(4000, 3000);
+    FitColumns(dialog);
+    dialog.show();
+    const QSize room = dialog.screen()->availableSize();
+    EXPECT_LT(dialog.width(), room.width());
+    EXPECT_LT(dialog.height(), room.height());
 }
 
 TEST(OpenAsDialog, OffersEveryEncodingOnceAndAnswersTheChosenOne)

@@ -17,6 +17,10 @@
 #include <QLabel>
 #include <QPushButton>
 #include <QRadioButton>
+#include <QScreen>
+#include <QScrollArea>
+
+#include <algorithm>
 
 #include <unistd.h>
 
@@ -27,7 +31,7 @@ struct Texts
     Q_DECLARE_TR_FUNCTIONS(FindInFiles)
 };
 
-constexpr int kAdvancedHeight = 190; // of the pane that opens below
+constexpr int kAdvancedHeight = 190; // of the pane that opens below, where the screen has it
 
 CFindReplaceManager& Manager()
 {
@@ -141,8 +145,15 @@ void CFindInFilesDlg::OnBuild(QWidget* window)
 
 void CFindInFilesDlg::BuildAdvanced(QWidget* window)
 {
-    m_advanced = new QWidget(window);
-    auto* columns = new QHBoxLayout(m_advanced);
+    // What a low screen has no room for is scrolled to.
+    auto* area = new QScrollArea(window);
+    area->setFrameShape(QFrame::NoFrame);
+    area->setFocusPolicy(Qt::NoFocus);
+    area->setWidgetResizable(true);
+    auto* inside = new QWidget;
+    area->setWidget(inside);
+    m_advanced = area;
+    auto* columns = new QHBoxLayout(inside);
     columns->setContentsMargins({});
     auto* rows = new QVBoxLayout;
     columns->addLayout(rows, 1);
@@ -225,16 +236,25 @@ void CFindInFilesDlg::ShowFault()
     m_fault->Show(Box(findcontrol::FindBox).currentText(), IsChecked(findcontrol::RegExp));
 }
 
+// The window grows as far as its screen has room, and moves up for it.
 void CFindInFilesDlg::OnAdvanced()
 {
+    constexpr int kLeast = 60; // of the pane, wherever the window ends
     m_bAdvancedOpen = !m_bAdvancedOpen;
     const HWND window = GetSafeHwnd();
     const QSize size = window->size();
-    const int height = size.height() + (m_bAdvancedOpen ? kAdvancedHeight : -kAdvancedHeight);
+    const QRect screen = window->screen()->availableGeometry();
+    if (m_bAdvancedOpen)
+        m_advancedHeight =
+            std::clamp(screen.height() - window->frameGeometry().height(), kLeast, kAdvancedHeight);
+    const int by = m_bAdvancedOpen ? m_advancedHeight : -m_advancedHeight;
+    const int below = window->frameGeometry().bottom() + by - screen.bottom();
     m_advanced->setVisible(m_bAdvancedOpen);
-    m_advanced->setFixedHeight(m_bAdvancedOpen ? kAdvancedHeight - window->layout()->spacing() : 0);
+    m_advanced->setFixedHeight(m_bAdvancedOpen ? by - window->layout()->spacing() : 0);
     window->layout()->activate();
-    window->resize(size.width(), height);
+    if (m_bAdvancedOpen && below > 0)
+        window->move(window->x(), std::max(window->y() - below, screen.top()));
+    window->resize(size.width(), size.height() + by);
     GetDlgItem<QPushButton>(findcontrol::Advanced)
         ->setText(m_bAdvancedOpen ? Texts::tr("Ad&vanced <<") : Texts::tr("Ad&vanced >>"));
 }

@@ -49,5 +49,6 @@ private:
 
     bool m_bAdvancedOpen = false;
     QWidget* m_advanced = nullptr;
+    int m_advancedHeight = 0; // pixels, while it is open
     FaultLine* m_fault = nullptr;
 };

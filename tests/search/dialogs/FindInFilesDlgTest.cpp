@@ -10,8 +10,11 @@
 #include <QLabel>
 #include <QListWidget>
 #include <QPushButton>
+#include <QScreen>
 #include <QTemporaryDir>
+#include <QTest>
 #include <QTimer>
+#include <QToolButton>
 
 namespace {
 
@@ -133,6 +136,32 @@ TEST_F(FindInFiles, ClosesItsAdvancedPaneForTheOpenFiles)
             EXPECT_FALSE(dialog.GetDlgItem(id)->isEnabled()) << id;
         Click(dialog, findcontrol::InFiles);
         EXPECT_TRUE(advanced->isEnabled());
+    });
+}
+
+TEST_F(FindInFiles, KeepsItsAdvancedPaneOnTheScreen)
+{
+    Run([this] {
+        QWidget& window = *dialog.GetSafeHwnd();
+        const QRect room = window.screen()->availableGeometry();
+        const int height = room.height() - 150; // which leaves less than the pane would have
+        window.resize(window.width(), height);
+        window.move(20, 100);
+        QApplication::processEvents();
+        auto* advanced = dialog.GetDlgItem<QPushButton>(findcontrol::Advanced);
+        advanced->click();
+        QApplication::processEvents();
+        EXPECT_TRUE(room.contains(window.frameGeometry())) << window.frameGeometry().bottom();
+        EXPECT_GT(window.height(), height);
+        QWidget& folders = *dialog.GetDlgItem(findcontrol::Folders);
+        folders.setFocus();
+        for (const auto* button : folders.findChildren<QToolButton*>()) {
+            QTest::keyClick(QApplication::focusWidget(), Qt::Key_Tab);
+            EXPECT_EQ(button->visibleRegion().boundingRect(), button->rect())
+                << button->accessibleName().toStdString();
+        }
+        advanced->click();
+        EXPECT_EQ(window.height(), height);
     });
 }
 
