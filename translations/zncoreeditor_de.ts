@@ -451,6 +451,10 @@ Soll sie neu geladen werden?</translation>
         <source>Editor and Language Preferences</source>
         <translation>Einstellungen für Editor und Sprachen</translation>
     </message>
+    <message>
+        <source>No page has this word.</source>
+        <translation>Keine Seite enthält dieses Wort.</translation>
+    </message>
 </context>
 <context>
     <name>EngineWindow</name>

@@ -451,6 +451,10 @@ Do you want to reload it?</source>
         <source>Editor and Language Preferences</source>
         <translation>Preferencias del editor y de los lenguajes</translation>
     </message>
+    <message>
+        <source>No page has this word.</source>
+        <translation>Ninguna página contiene esta palabra.</translation>
+    </message>
 </context>
 <context>
     <name>EngineWindow</name>

@@ -451,6 +451,10 @@ Voulez-vous le recharger&#xa0;?</translation>
         <source>Editor and Language Preferences</source>
         <translation>Préférences de l’éditeur et des langages</translation>
     </message>
+    <message>
+        <source>No page has this word.</source>
+        <translation>Aucune page ne contient ce mot.</translation>
+    </message>
 </context>
 <context>
     <name>EngineWindow</name>

@@ -451,6 +451,10 @@ Do you want to reload it?</source>
         <source>Editor and Language Preferences</source>
         <translation>エディターと言語の設定</translation>
     </message>
+    <message>
+        <source>No page has this word.</source>
+        <translation>この語を含むページはありません。</translation>
+    </message>
 </context>
 <context>
     <name>EngineWindow</name>

@@ -451,6 +451,10 @@ Do you want to reload it?</source>
         <source>Editor and Language Preferences</source>
         <translation>编辑器和语言首选项</translation>
     </message>
+    <message>
+        <source>No page has this word.</source>
+        <translation>没有包含此词的页面。</translation>
+    </message>
 </context>
 <context>
     <name>EngineWindow</name>

@@ -36,7 +36,6 @@ namespace id = prefscontrol;
 
 constexpr int kNoPagesLanguage = 11; // has none in the tree
 constexpr int kPlainLanguage = 1;    // has no code and no keywords
-const QString kFilter = QStringLiteral("filter");
 
 // For a screen that is too low for all of a page.
 QScrollArea* InScrollArea(QWidget* page)
@@ -130,7 +129,7 @@ QWidget* CEditorPrefsDialog::BuildTree()
     auto* column = new QVBoxLayout(side);
     column->setContentsMargins({});
     auto* filter = new QLineEdit;
-    filter->setObjectName(kFilter);
+    filter->setObjectName(QStringLiteral("filter"));
     filter->setPlaceholderText(Texts::tr("Find a language or a page"));
     filter->setAccessibleName(filter->placeholderText());
     filter->setClearButtonEnabled(true);
@@ -139,6 +138,11 @@ QWidget* CEditorPrefsDialog::BuildTree()
     m_tree->setAccessibleName(Texts::tr("Pages"));
     m_tree->setUniformRowHeights(true);
     new TreeKeys(*m_tree, *filter); // goes with the tree
+    m_filter = filter;
+    m_none = new QLabel(Texts::tr("No page has this word."));
+    m_none->setObjectName(QStringLiteral("noPage"));
+    m_none->setWordWrap(true);
+    m_none->hide();
     auto* settings = new QPushButton(Texts::tr("&Settings"));
     settings->setAutoDefault(false);
     m_settings = settings;
@@ -148,6 +152,7 @@ QWidget* CEditorPrefsDialog::BuildTree()
     QObject::connect(menu, &SettingsMenu::Replaced, m_tree, [this] { ReloadPages(); });
     column->addWidget(filter);
     column->addWidget(m_tree);
+    column->addWidget(m_none);
     column->addWidget(settings);
     auto* find = new QShortcut(QKeySequence::Find, side);
     QObject::connect(find, &QShortcut::activated, filter, [filter] {
@@ -338,6 +343,7 @@ void CEditorPrefsDialog::ReloadPages()
 // A page is shown with the language around it, and a language with all its pages.
 void CEditorPrefsDialog::Filter(const QString& word)
 {
+    bool isAny = false;
     for (int top = 0; top < m_tree->topLevelItemCount(); ++top) {
         QTreeWidgetItem* language = m_tree->topLevelItem(top);
         const bool isMeant = language->text(0).contains(word, Qt::CaseInsensitive);
@@ -349,7 +355,10 @@ void CEditorPrefsDialog::Filter(const QString& word)
             hasMeant = hasMeant || fits;
         }
         language->setHidden(!isMeant && !hasMeant);
+        isAny = isAny || isMeant || hasMeant;
     }
+    m_none->setVisible(!isAny);
+    m_filter->setAccessibleDescription(isAny ? QString() : m_none->text());
     m_tree->scrollToItem(m_tree->currentItem());
 }
 
@@ -459,9 +468,9 @@ void CEditorPrefsDialog::OnHelp()
 int CEditorPrefsDialog::PreTranslateMessage(MSG* message)
 {
     if (message->message == WM_KEYDOWN && message->wParam == Qt::Key_Escape) {
-        auto* filter = qobject_cast<QLineEdit*>(QApplication::focusWidget());
-        if (filter && filter->objectName() == kFilter)
-            filter->clear();
+        const QWidget* focus = QApplication::focusWidget();
+        if (focus == m_filter || focus == m_tree)
+            m_filter->clear();
         return 1;
     }
     return CDialog::PreTranslateMessage(message);

@@ -20,6 +20,7 @@ class CConfigFile;
 class CEditorPrefsStatic;
 class CFileTypeManager;
 class QLabel;
+class QLineEdit;
 class QStackedWidget;
 class QTreeWidget;
 class QTreeWidgetItem;
@@ -98,6 +99,8 @@ private:
     PagesOf<CCodingPref> m_codingPages;
 
     QTreeWidget* m_tree = nullptr;
+    QLineEdit* m_filter = nullptr; // what is sought in it
+    QLabel* m_none = nullptr;      // says that nothing is left of it
     QWidget* m_settings = nullptr; // the button below the tree
     CEditorPrefsStatic* m_caption = nullptr;
     QStackedWidget* m_frame = nullptr;

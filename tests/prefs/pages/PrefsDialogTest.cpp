@@ -11,6 +11,8 @@
 #include <QAbstractItemView>
 #include <QAccessible>
 #include <QComboBox>
+#include <QLabel>
+#include <QLineEdit>
 #include <QPlainTextEdit>
 #include <QScreen>
 #include <QTemporaryDir>
@@ -362,6 +364,35 @@ TEST_F(PrefsDialog, FiltersItsTreeByAWordTypedOverIt)
     QTest::keyClick(filter, Qt::Key_Escape);
     EXPECT_TRUE(isShown("Transact-SQL"));
     EXPECT_TRUE(dialog->GetSafeHwnd()->isVisible());
+}
+
+TEST_F(PrefsDialog, TakesBackWhatWasSoughtFromTheTreeToo)
+{
+    Open();
+    auto* filter = dialog->GetSafeHwnd()->findChild<QLineEdit*>(QStringLiteral("filter"));
+    filter->setText(QStringLiteral("pl/"));
+    Tree().setFocus();
+    QTest::keyClick(&Tree(), Qt::Key_Escape);
+    EXPECT_EQ(filter->text(), "");
+    EXPECT_FALSE(Tree().findItems(QStringLiteral("Transact-SQL"), Qt::MatchExactly)[0]->isHidden());
+    EXPECT_EQ(QApplication::focusWidget(), &Tree());
+    EXPECT_TRUE(dialog->GetSafeHwnd()->isVisible());
+}
+
+TEST_F(PrefsDialog, SaysThatNoPageIsOfTheWord)
+{
+    Open();
+    dialog->GetSafeHwnd()->show();
+    auto* filter = dialog->GetSafeHwnd()->findChild<QLineEdit*>(QStringLiteral("filter"));
+    const auto* none = dialog->GetSafeHwnd()->findChild<QLabel*>(QStringLiteral("noPage"));
+    ASSERT_NE(none, nullptr);
+    EXPECT_FALSE(none->isVisible());
+    filter->setText(QStringLiteral("nothing has this"));
+    EXPECT_TRUE(none->isVisible());
+    EXPECT_EQ(filter->accessibleDescription(), none->text()) << "where the keyboard is";
+    filter->setText(QStringLiteral("keyw"));
+    EXPECT_FALSE(none->isVisible());
+    EXPECT_EQ(filter->accessibleDescription(), "");
 }
 
 TEST_F(PrefsDialog, FiltersByPagesToo)
