@@ -5,7 +5,9 @@
 
 #include <QAbstractScrollArea>
 #include <QDropEvent>
+#include <QFileInfo>
 #include <QMimeData>
+#include <QPointer>
 #include <QTimer>
 #include <QUrl>
 
@@ -50,10 +52,17 @@ bool FileDrops::eventFilter(QObject* /*watched*/, QEvent* event)
 // Behind the drop: a question about a file would hold up the program that it came from.
 void FileDrops::Open(const QDropEvent& drop)
 {
-    QTimer::singleShot(0, [files = FilesOf(drop)] {
+    QTimer::singleShot(0, this, [this, files = FilesOf(drop)] {
+        const QPointer<QWidget> window = static_cast<QWidget*>(parent())->window();
+        auto* shower = dynamic_cast<FolderShower*>(window.data());
+        QString folder;
         for (const QString& file : files) {
-            if (GetApp())
+            if (shower && QFileInfo(file).isDir())
+                folder = folder.isEmpty() ? file : folder;
+            else if (GetApp())
                 GetApp()->OpenDocumentFile(file);
         }
+        if (window && !folder.isEmpty())
+            shower->ShowFolder(folder);
     });
 }

@@ -3,6 +3,7 @@
 // scripts are the application's documents.
 #pragma once
 
+#include "host/files/FileDrops.h"
 #include "host/session/Session.h"
 #include "host/window/PlaceHistory.h"
 
@@ -36,7 +37,7 @@ class Workbench;
 struct Symbol;
 
 // Made with new: it goes when it is closed, or with the application.
-class MainWindow final : public QMainWindow
+class MainWindow final : public QMainWindow, public FolderShower
 {
     Q_OBJECT
 
@@ -72,6 +73,7 @@ public:
     // Likewise, with the marks in its margin, at once: a menu that opens and a key that may be one
     // of a menu's cannot wait until the keys rest.
     void FollowNow();
+    void ShowFolder(const QString& path) override; // in its pane, which takes the keyboard
 
     // The commands of the menus that are the window's own.
     void OpenFolder();

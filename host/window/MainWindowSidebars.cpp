@@ -94,9 +94,13 @@ void MainWindow::OpenFolder()
     if (place.isEmpty())
         place = path.isEmpty() ? QDir::currentPath() : QFileInfo(path).absolutePath();
     const QString folder = GetPrompts().FolderToShow(this, place);
-    if (folder.isEmpty())
-        return;
-    m_folder->SetFolder(folder);
+    if (!folder.isEmpty())
+        ShowFolder(folder);
+}
+
+void MainWindow::ShowFolder(const QString& path)
+{
+    m_folder->SetFolder(path);
     if (!m_folder->isVisible()) {
         m_folder->show();
         ShareSide();

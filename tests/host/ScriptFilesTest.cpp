@@ -2,10 +2,12 @@
 // A script and its file: opened, saved, reloaded, and changed by others meanwhile.
 #include "host/files/Encodings.h"
 #include "host/files/LineEnds.h"
+#include "host/folder/FolderPane.h"
 #include "platform/services/OptionsServer.h"
 #include "tests/host/WorkbenchTest.h"
 
 #include <QAbstractScrollArea>
+#include <QDir>
 #include <QDropEvent>
 #include <QElapsedTimer>
 #include <QMessageBox>
@@ -682,4 +684,21 @@ TEST_F(ScriptFiles, OpenWhenTheyAreDroppedOnTheWindowItsTabsOrAScript)
     EXPECT_EQ(m_window.FrameAt(0)->Editor().GetText(), "a") << "no path is put into a text";
     Drop(*m_window.findChild<QTabWidget*>()->tabBar(), {d});
     EXPECT_EQ(Script().Name(), "d.sql");
+}
+
+TEST_F(ScriptFiles, OfAFolderThatIsDroppedAreListedBesideTheScript)
+{
+    Open("a.sql", "a");
+    ASSERT_TRUE(QDir(m_folder.path()).mkdir("sub"));
+    const QString b = Write("b.sql", "b");
+    const auto* pane = m_window.findChild<FolderPane*>();
+    auto* viewport = qobject_cast<QAbstractScrollArea*>(Editor().GetSafeHwnd())->viewport();
+    Drop(*viewport, {PathOf("sub"), b});
+    EXPECT_TRUE(pane->isVisible());
+    EXPECT_EQ(pane->Folder(), PathOf("sub"));
+    EXPECT_EQ(Text(), "b") << "a file beside it is opened";
+    Drop(m_window, {m_folder.path()});
+    EXPECT_EQ(pane->Folder(), QDir::cleanPath(m_folder.path()));
+    EXPECT_EQ(m_window.TabCount(), 2);
+    EXPECT_TRUE(m_prompts.told.isEmpty());
 }
