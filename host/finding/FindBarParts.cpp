@@ -2,6 +2,7 @@
 // What FindBar is made of, and its commands.
 #include "common/Translations.h"
 #include "editing/ZNCoreEditorControlEx.h"
+#include "host/finding/BoxNames.h"
 #include "host/finding/ExpressionHelp.h"
 #include "host/finding/FindBar.h"
 #include "host/finding/WrapRow.h"
@@ -59,6 +60,21 @@ std::span<const FindBar::Row> Rows()
 std::string_view NameOf(const FindBar::Row& row)
 {
     return row.name;
+}
+
+// By Tab, from the last on, as it is seen: a row from left to right, then the next.
+void PassInOrder(const QLayout& layout, QWidget*& last)
+{
+    for (int i = 0; i < layout.count(); ++i) {
+        QWidget* widget = layout.itemAt(i)->widget();
+        const QLayout* inner = widget ? widget->layout() : layout.itemAt(i)->layout();
+        if (inner) {
+            PassInOrder(*inner, last);
+        } else if (widget && widget != last && widget->focusPolicy() & Qt::TabFocus) {
+            QWidget::setTabOrder(last, widget);
+            last = widget;
+        }
+    }
 }
 
 } // namespace
@@ -122,6 +138,8 @@ FindBar::FindBar(std::function<CZNCoreEditorControlEx*()> editor, QWidget* paren
         m_find->lineEdit()->insert(piece);
         m_find->setFocus();
     });
+    QWidget* last = m_showReplace;
+    PassInOrder(*layout, last);
     setFocusProxy(m_find);
     m_find->installEventFilter(this);
     m_replace->installEventFilter(this);
@@ -201,7 +219,9 @@ QComboBox* FindBar::MakeBox(const char* name, const QString& label)
     box->setInsertPolicy(QComboBox::NoInsert);
     box->setCompleter(nullptr); // what is typed is what is sought
     box->lineEdit()->setPlaceholderText(label);
+    KeepBoxNames();
     box->setAccessibleName(label);
+    box->lineEdit()->setAccessibleName(label);
     connect(box, &QComboBox::editTextChanged, this, &FindBar::Update);
     return box;
 }

@@ -11,6 +11,7 @@
 #include "search/FindReplaceManager.h"
 #include "tests/looks/Contrast.h"
 
+#include <QAccessible>
 #include <QAction>
 #include <QApplication>
 #include <QCheckBox>
@@ -559,6 +560,60 @@ TEST_F(FindBars, LeadFromWhatIsSoughtToWhatItBecomes)
     bar.findChild<QPushButton*>("replaceAllButton")->setFocus();
     EXPECT_EQ(press(), &Box("findText"));
     EXPECT_EQ(editor->GetText(), "one two");
+}
+
+TEST_F(FindBars, NameTheirFieldsWhateverStandsInThem)
+{
+    bar.Open();
+    Seek("cust");
+    ReplaceWith("client");
+    struct Field
+    {
+        const char* box;
+        const char* name;
+        const char* value;
+    };
+    for (const Field& row :
+         {Field{"findText", "Find", "cust"}, Field{"replaceText", "Replace with", "client"}}) {
+        QAccessibleInterface* spoken = QAccessible::queryAccessibleInterface(&Box(row.box));
+        EXPECT_EQ(spoken->text(QAccessible::Name), row.name);
+        EXPECT_EQ(spoken->text(QAccessible::Value), row.value);
+        EXPECT_EQ(spoken->role(), QAccessible::ComboBox);
+        QAccessibleInterface* line = QAccessible::queryAccessibleInterface(Box(row.box).lineEdit());
+        EXPECT_EQ(line->text(QAccessible::Name), row.name);
+        EXPECT_EQ(line->text(QAccessible::Value), row.value);
+        const int place = spoken->indexOfChild(line);
+        ASSERT_GE(place, 0);
+        EXPECT_EQ(spoken->child(place), line);
+        EXPECT_TRUE(spoken->actionInterface()->actionNames().contains(
+            QAccessibleActionInterface::showMenuAction()));
+    }
+}
+
+TEST_F(FindBars, ArePassedByTabAsTheyAreSeen)
+{
+    window.resize(2000, 300); // a row for each
+    SetText("one two");
+    bar.Open();
+    Seek("one");
+    Settle();
+    const auto place = [this](const QWidget* part) { // its row, and where in there
+        const QPoint at = part->mapTo(&bar, part->rect().center());
+        return std::pair(at.y() > Box("findText").geometry().bottom(), at.x());
+    };
+    QWidget* first = &RowForReplacing();
+    first->setFocus();
+    QList<QWidget*> passed;
+    for (QWidget* at = first; passed.size() < 30 && bar.isAncestorOf(at);
+         at = window.focusWidget()) {
+        passed << at;
+        QTest::keyClick(at, Qt::Key_Tab);
+    }
+    EXPECT_EQ(passed.size(), 16);
+    for (qsizetype i = 1; i < passed.size(); ++i)
+        EXPECT_LT(place(passed[i - 1]), place(passed[i]))
+            << passed[i - 1]->objectName().toStdString() << " before "
+            << passed[i]->objectName().toStdString();
 }
 
 TEST_F(FindBars, PressTheButtonThatHasTheKeyboard)
