@@ -1551,6 +1551,13 @@ Mit Qt %1. Lizenziert unter der GNU General Public License, Version 3 oder spät
     </message>
 </context>
 <context>
+    <name>PaneTabs</name>
+    <message>
+        <source>Panes</source>
+        <translation>Bereiche</translation>
+    </message>
+</context>
+<context>
     <name>PathField</name>
     <message>
         <source>Path of the script</source>

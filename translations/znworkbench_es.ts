@@ -1551,6 +1551,13 @@ Con Qt %1. Con licencia pública general de GNU, versión 3 o posterior.</transl
     </message>
 </context>
 <context>
+    <name>PaneTabs</name>
+    <message>
+        <source>Panes</source>
+        <translation>Paneles</translation>
+    </message>
+</context>
+<context>
     <name>PathField</name>
     <message>
         <source>Path of the script</source>

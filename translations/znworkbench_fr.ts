@@ -1551,6 +1551,13 @@ Avec Qt %1. Sous licence publique générale GNU, version 3 ou ultérieure.</tra
     </message>
 </context>
 <context>
+    <name>PaneTabs</name>
+    <message>
+        <source>Panes</source>
+        <translation>Volets</translation>
+    </message>
+</context>
+<context>
     <name>PathField</name>
     <message>
         <source>Path of the script</source>

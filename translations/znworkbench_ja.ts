@@ -1545,6 +1545,13 @@ Qt %1 を使用。GNU General Public License バージョン 3 以降の下で�
     </message>
 </context>
 <context>
+    <name>PaneTabs</name>
+    <message>
+        <source>Panes</source>
+        <translation>ペイン</translation>
+    </message>
+</context>
+<context>
     <name>PathField</name>
     <message>
         <source>Path of the script</source>

@@ -1545,6 +1545,13 @@ Over Qt %1. Licensed under the GNU General Public License, version 3 or later.</
     </message>
 </context>
 <context>
+    <name>PaneTabs</name>
+    <message>
+        <source>Panes</source>
+        <translation>窗格</translation>
+    </message>
+</context>
+<context>
     <name>PathField</name>
     <message>
         <source>Path of the script</source>

@@ -183,6 +183,8 @@ void FindBar::Close()
 {
     if (isHidden())
         return;
+    if (Editor* editor = m_editor()) // before, or the keyboard passes through what is beside
+        editor->SetFocus();
     hide();
     m_inSelection->setChecked(false);
     ShowMatches();
@@ -191,8 +193,6 @@ void FindBar::Close()
     m_count->Stop();
     m_origin.reset();
     m_manager.Save();
-    if (Editor* editor = m_editor())
-        editor->SetFocus();
 }
 
 bool FindBar::Prepare(Editor* editor)

@@ -24,6 +24,7 @@
 #include "host/window/LanguageMenu.h"
 #include "host/window/MainFrame.h"
 #include "host/window/MenuKeys.h"
+#include "host/window/PaneTabs.h"
 #include "host/window/Reasons.h"
 #include "host/window/StatusIndicators.h"
 #include "host/window/Workbench.h"
@@ -102,6 +103,7 @@ MainWindow::MainWindow(Workbench& app)
       m_expanded(new ExpandedScript(this)), m_sessionTimer(new QTimer(this)),
       m_resumeTimer(new QTimer(this))
 {
+    PaneTabs::Take(*this);
     m_find = new FindBar([this] { return CurrentEditor(); });
     connect(m_find, &FindBar::Told, this,
             [this](const QString& text) { statusBar()->showMessage(text, kMessageTime); });

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 // Parts of the main window beside the script: tool bar, help, outline, folder, fields of the status
 // bar, tabs that were closed.
+#include "host/finding/ResultsPane.h"
 #include "host/help/KeysDialog.h"
 #include "host/icons/FitScreen.h"
 #include "host/icons/Style.h"
@@ -18,6 +19,7 @@
 #include "tests/looks/Contrast.h"
 
 #include <QAbstractButton>
+#include <QAccessible>
 #include <QComboBox>
 #include <QDir>
 #include <QDockWidget>
@@ -30,6 +32,7 @@
 #include <QScreen>
 #include <QStatusBar>
 #include <QStyleFactory>
+#include <QTabBar>
 #include <QTest>
 #include <QToolBar>
 #include <QTreeView>
@@ -81,6 +84,54 @@ TEST(FitScreens, BringAWindowOntoItsScreenWithItsFrame)
     inside.setGeometry(100, 100, 300, 200);
     FitScreen(inside);
     EXPECT_EQ(inside.geometry(), QRect(100, 100, 300, 200));
+}
+
+TEST_F(WindowParts, GiveTheKeyboardToNothingBetweenTheScriptAndTheFindBar)
+{
+    Open("a.sql", "one two");
+    Editor().SetFocus();
+    const QWidget* text = QApplication::focusWidget();
+    QStringList others;
+    const auto watch =
+        QObject::connect(qApp, &QApplication::focusChanged, [&](QWidget*, QWidget* now) {
+            if (now && now != text && !qobject_cast<QComboBox*>(now))
+                others << now->metaObject()->className();
+        });
+    for (const char* name : {"find", "replace", "find"}) {
+        Trigger(name);
+        ASSERT_NE(QApplication::focusWidget(), text);
+        QTest::keyClick(QApplication::focusWidget(), Qt::Key_Escape);
+        EXPECT_EQ(QApplication::focusWidget(), text);
+    }
+    QObject::disconnect(watch);
+    EXPECT_TRUE(others.isEmpty()) << others.join(' ').toStdString();
+}
+
+TEST_F(WindowParts, HaveTabsOfPanesOnlyWhereTheyAreSeen)
+{
+    const auto bars = m_window.findChildren<QTabBar*>(QString(), Qt::FindDirectChildrenOnly);
+    ASSERT_EQ(bars.size(), 1);
+    QTabBar& bar = *bars.front();
+    const auto expect = [&](bool isSeen, const char* when) {
+        QApplication::processEvents();
+        EXPECT_EQ(m_window.rect().intersects(bar.geometry()), isSeen) << when;
+        EXPECT_EQ(bar.focusPolicy() != Qt::NoFocus, isSeen) << when;
+        const QAccessibleInterface* window = QAccessible::queryAccessibleInterface(&m_window);
+        const QAccessibleInterface* spoken = QAccessible::queryAccessibleInterface(&bar);
+        EXPECT_EQ(window->indexOfChild(spoken) >= 0, isSeen) << when;
+    };
+    expect(false, "at first");
+    auto* problems = m_window.findChild<ProblemPane*>();
+    auto* results = m_window.findChild<ResultsPane*>();
+    problems->show();
+    expect(false, "with one pane");
+    results->show();
+    expect(true, "with two");
+    EXPECT_FALSE(bar.accessibleName().isEmpty());
+    problems->hide();
+    expect(false, "with one again");
+    problems->show();
+    expect(true, "with two again");
 }
 
 TEST_F(WindowParts, HaveAPictureForEveryTool)
