@@ -140,6 +140,7 @@ FindBar::FindBar(std::function<CZNCoreEditorControlEx*()> editor, QWidget* paren
     });
     QWidget* last = m_showReplace;
     PassInOrder(*layout, last);
+    setTabOrder(m_find, m_replace); // what one types is typed in one go
     setFocusProxy(m_find);
     m_find->installEventFilter(this);
     m_replace->installEventFilter(this);
