@@ -38,7 +38,8 @@ public:
 
     const std::vector<Copy>& All() const { return m_copies; } ///< the oldest first
 
-    /// By the path of the copy. A release leaves it for whoever takes it next.
+    /// By the path of the copy. A release leaves it for whoever takes it next; RecoverCopy needs it
+    /// released, also in this process.
     void Release(const QString& path);
     void Discard(const QString& path); ///< deletes the copy and its note
 

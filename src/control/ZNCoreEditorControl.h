@@ -107,9 +107,9 @@ public:
     const QString& GetFileName() const { return m_strFileName; } ///< empty: there is no file yet
 
     /// Replaces the text by the file's; encoding -1 means detect. False for a file that is missing
-    /// or cannot be read, and without an engine; true also for one that was cut short. A text that
-    /// is read-only stays as it is, though the result is true; with care it is replaced all the
-    /// same.
+    /// or cannot be read, and without an engine; true also for one that was cut short, which a box
+    /// tells the user as well. A text that is read-only stays as it is, though the result is true;
+    /// with care it is replaced all the same.
     virtual bool OpenFile(const char16_t* path, FileEncodeConverter::encodingType encoding);
     /// With commit the file becomes the one behind the text; without it this is an export that
     /// changes nothing here. False if a write failed. A target that cannot be opened gives true,
@@ -155,8 +155,8 @@ public:
     void SetOffersCopies(bool offers) { m_offersCopies = offers; }
     /// Puts a crash's copy in the place of the text, undoably, and goes on with it as this
     /// control's own; a text without a file gets the one that the copy stands for. False if the
-    /// copy is another's or cannot be opened, if the text is read-only, or if this was closed
-    /// meanwhile.
+    /// copy is another's (a LeftCopies that lists it has to release it first) or cannot be opened,
+    /// if the text is read-only, or if this was closed meanwhile.
     bool RecoverCopy(const QString& copyPath, FileEncodeConverter::encodingType encoding);
     /// Starts or stops the timer without keeping what it is told.
     virtual void SetAutoSave(bool on, int minutes);
