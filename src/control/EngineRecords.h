@@ -128,7 +128,7 @@ enum Code : UINT
     NeedShown = 2011,             ///< a range that is hidden should be shown
     Painted = 2013,               ///< the window was painted
     UserListSelection = 2014,     ///< a row of a host's list was chosen
-    UriDropped = 2015,            ///< not sent here
+    UriDropped = 2015,            ///< a file was dropped: its address is the text
     DwellStart = 2016,            ///< the mouse rests
     DwellEnd = 2017,              ///< it moves again
     Zoom = 2018,                  ///< fonts are larger or smaller

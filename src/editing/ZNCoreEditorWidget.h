@@ -34,7 +34,8 @@ struct SCNotification;
 /// (a language that there is not) changes nothing, and the setter gives false where it gives
 /// anything. Files are handled with care: see control/ZNCoreEditorControl.h, SetCarefulFiles.
 /// Without an engine the widget shows why there is none, and every answer is empty. It belongs to
-/// the GUI thread: elsewhere it is made without an engine, changes nothing and says so on stderr.
+/// the GUI thread: elsewhere it is made without an engine, and what would change a text, a file or
+/// the looks does nothing and says so on stderr. All else is not checked, nor is control().
 ///
 /// Each signal of a change comes once for an operation, a message of the control or an event, when
 /// that is over: the text is whole, and a slot may delete the widget. What tells of the caret and
@@ -132,7 +133,7 @@ public:
     struct Problem
     {
         int position = 0;                    ///< of its first unit
-        int length = 0;                      ///< 0: the word or character there
+        int length = 0;                      ///< 0: the character there
         QString message;                     ///< shown while the pointer rests on the place
         Severity severity = Severity::Error; ///< how it is marked
         int code = 0;                        ///< the host's own
@@ -367,7 +368,8 @@ public:
     /// \name Scripts
     /// @{
 
-    /// Takes the place of those before.
+    /// Takes the place of those before. They stay when another text is opened or set, and stand at
+    /// its end then, until this is called again.
     void setProblems(const QList<Problem>& problems);
     /// Where the text has taken them.
     QList<Problem> problems() const;
@@ -426,8 +428,8 @@ public:
     /// Actions for menus and tool bars, in the order of menus: those of Qt's editors and those of
     /// this one. They are enabled as they are possible, and belong to the editor.
     QList<QAction*> commands() const;
-    /// The one of that objectName, as "undo", "toggleComment"; null if there is none. docs/keys.md
-    /// tells them.
+    /// The one of that objectName, as "undo", "toggleComment"; null if there is none.
+    /// docs/guides/embed.md lists them.
     QAction* command(const QString& name) const;
     /// What a right click shows. The caller deletes it.
     QMenu* createStandardContextMenu();
@@ -507,7 +509,7 @@ Q_SIGNALS:
     void bookmarksChanged();
     /// It records, or no longer.
     void recordingChanged(bool records);
-    /// Another file stands behind the text.
+    /// Another file stands behind the text. An open by control() does not tell.
     void fileNameChanged(const QString& path);
     /// Somebody has typed it.
     void charAdded(char32_t character);
