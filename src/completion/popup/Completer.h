@@ -68,7 +68,7 @@ public:
     void Open();                ///< for the word at the caret, by a person's wish
     void ShowCall();            ///< the same for what a function takes
     void Close();               ///< the list and the call tip
-    void Refresh();             ///< a source knows more
+    void Refresh();             ///< a source knows more; a list that is not open stays closed
     bool IsOpen() const;        ///< whether the list shows
     bool IsShowingCall() const; ///< whether the call tip shows
     /// What was chosen is on its way into the text; until it stands there, nothing is typed over.
