@@ -333,7 +333,7 @@ public:
     /// From 1 to 64; false otherwise.
     bool setTabWidth(int characters);
     int zoom() const; ///< in points above or below the font's size
-    /// From -10 to 20; more is taken for these.
+    /// From -100 to 100; more is taken for these. Keys and the wheel go from -10 to 20.
     void setZoom(int points);
     /// NoWrap, unless the options or the host say other.
     LineWrapMode lineWrapMode() const;
