@@ -19,6 +19,8 @@
 
 #include <gtest/gtest.h>
 
+#include <functional>
+
 using completion::Proposal;
 using completion::ProposalKind;
 using completion::ProposalQuery;
@@ -103,6 +105,38 @@ public:
     QString m_asked;
     QString m_table;
     QStringList m_tables;
+};
+
+// A host's that asks a server: what it has comes later.
+class LateSource final : public completion::ProposalSource
+{
+public:
+    explicit LateSource(completion::Completer& completer) : m_completer(completer)
+    {
+        completer.AddSource(*this);
+    }
+    ~LateSource() override { m_completer.RemoveSource(*this); }
+    LateSource(const LateSource&) = delete;
+    LateSource& operator=(const LateSource&) = delete;
+
+    void Propose(const ProposalQuery& query, std::vector<Proposal>& proposals) override
+    {
+        if (!m_isThere)
+            return;
+        if (!query.table.isEmpty())
+            proposals.push_back({ProposalKind::Column, QStringLiteral("zz_id"), query.table});
+        else if (query.qualifier.isEmpty())
+            proposals.push_back({ProposalKind::Table, QStringLiteral("zz_customers"), QString()});
+    }
+    void Answer()
+    {
+        m_isThere = true;
+        m_completer.Refresh();
+    }
+
+private:
+    completion::Completer& m_completer;
+    bool m_isThere = false;
 };
 
 } // namespace
@@ -314,6 +348,79 @@ TEST_F(CompleterTest, AsksTheSourcesOfTheHost)
 }
 
 // Which table a name before a point means, so that a source need not read the statement.
+TEST_F(CompleterTest, OpensTheListOnceALateSourceAnswersWhatWasTyped)
+{
+    m_editor.setCompletesWhileTyping(true);
+    const struct
+    {
+        const char* script;
+        const char* typed;
+        const char* row;
+    } cases[] = {{"select * from |", "zz_c", "zz_customers"},
+                 {"select c| from customers c", ".", "zz_id"}};
+    for (const auto& each : cases) {
+        LateSource source(*m_editor.completer());
+        Show(QString::fromLatin1(each.script));
+        Type(each.typed);
+        EXPECT_FALSE(IsOpen()) << each.script;
+        source.Answer();
+        ASSERT_TRUE(IsOpen()) << each.script;
+        EXPECT_EQ(Rows().first(), QString::fromLatin1(each.row));
+        EXPECT_FALSE(List()->currentIndex().isValid()); // Enter stays the editor's
+    }
+}
+
+TEST_F(CompleterTest, OpensTheListOnceALateSourceAnswersWhatSomebodyAskedFor)
+{
+    LateSource source(*m_editor.completer());
+    Show(QStringLiteral("select * from zz_c|"));
+    Press(Qt::Key_Space, Qt::ControlModifier);
+    EXPECT_FALSE(IsOpen());
+    m_editor.resize(480, 300); // as where a host tells what it waits for
+    source.Answer();
+    ASSERT_TRUE(IsOpen());
+    Press(Qt::Key_Return); // takes the first row, as in each list that was asked for
+    EXPECT_EQ(m_editor.text(), QStringLiteral("select * from zz_customers"));
+}
+
+TEST_F(CompleterTest, LeavesTheListClosedWhereALateAnswerIsNoLongerWanted)
+{
+    const struct
+    {
+        const char* name;
+        std::function<void()> act;
+    } cases[] = {
+        {"nothing was asked", [this] { Show(QStringLiteral("select 1, zz_c|")); }},
+        {"the caret went", [this] { Press(Qt::Key_Left); }},
+        {"the caret went and came back",
+         [this] {
+             QTest::mouseClick(&Window(), Qt::LeftButton);
+             m_editor.setCursorPosition(m_editor.length());
+             QApplication::processEvents();
+         }},
+        {"something is selected", [this] { m_editor.selectAll(); }},
+        {"Escape", [this] { Press(Qt::Key_Escape); }},
+        {"another word",
+         [this] {
+             m_editor.setText(QStringLiteral("select * from zz_b"));
+             m_editor.setCursorPosition(18);
+         }},
+        {"read-only", [this] { m_editor.setReadOnly(true); }},
+        {"no focus", [this] { Window().clearFocus(); }},
+        {"closed", [this] { m_editor.completer()->Close(); }},
+    };
+    for (const auto& each : cases) {
+        m_editor.setReadOnly(false);
+        Window().setFocus();
+        LateSource source(*m_editor.completer());
+        Show(QStringLiteral("select * from zz_c|"));
+        Press(Qt::Key_Space, Qt::ControlModifier);
+        each.act();
+        source.Answer();
+        EXPECT_FALSE(IsOpen()) << each.name;
+    }
+}
+
 TEST_F(CompleterTest, TellsTheSourcesOfTheHostTheTablesOfTheStatement)
 {
     HostSource source;

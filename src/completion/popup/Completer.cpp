@@ -195,10 +195,6 @@ void Completer::OnOtherRead()
 {
     ReadOthers();
     Refresh();
-    if (m_unanswered < 0 || IsOpen() || !MayOpen() || !m_window->hasFocus())
-        return;
-    if (m_control.GetCurrentPos(1) == m_unanswered && m_control.GetAnchor(1) == m_unanswered)
-        Fill(ContextAtCaret());
 }
 
 void Completer::Open()
@@ -213,11 +209,22 @@ void Completer::Open()
 
 void Completer::Refresh()
 {
-    if (!IsOpen())
+    if (!IsOpen() && !IsWaiting())
         return;
     CaretContext context = ContextAtCaret();
-    context.query.isAsked = m_query.isAsked;
+    const ProposalQuery& before = IsOpen() ? m_query : *m_unanswered;
+    if (!IsOpen() && (context.query.start != before.start || context.query.typed != before.typed))
+        return;
+    context.query.isAsked = before.isAsked;
     Fill(context);
+}
+
+// For proposals, where there were none when they were wanted.
+bool Completer::IsWaiting() const
+{
+    return m_unanswered && MayOpen() && m_window->hasFocus() && !m_control.GetReadOnly(1) &&
+           m_control.GetCurrentPos(1) == m_unanswered->caret &&
+           m_control.GetAnchor(1) == m_unanswered->caret;
 }
 
 // A list keeps the row that somebody walked to.
@@ -228,16 +235,22 @@ void Completer::Fill(const CaretContext& context)
     const QString kept = wasOpen && m_isWalked && m_list->Current() >= 0
                              ? m_list->At(m_list->Current()).text
                              : QString();
+    m_unanswered.reset(); // a source that refreshes at once has been asked
     std::vector<Proposal> proposals = Ask(context);
+    // Behind a point typing shows only what is known to belong there.
+    if (!wasOpen && !query.isAsked && query.typed.isEmpty() && !proposals.empty() &&
+        proposals.front().kind != ProposalKind::Column)
+        proposals.clear();
     // What is there in full needs no list that typing has opened.
     const bool isComplete =
         !query.isAsked &&
         std::any_of(proposals.begin(), proposals.end(), [&](const Proposal& each) {
             return each.Compared().compare(query.typed, Qt::CaseInsensitive) == 0;
         });
-    m_unanswered = proposals.empty() && !query.isAsked ? query.caret : -1;
     if (proposals.empty() || isComplete) {
         Close();
+        if (proposals.empty())
+            m_unanswered = query;
         return;
     }
     m_query = query;
@@ -258,6 +271,7 @@ void Completer::Fill(const CaretContext& context)
 
 void Completer::Close()
 {
+    m_unanswered.reset();
     m_isWalked = false;
     if (m_list)
         m_list->hide();
@@ -370,12 +384,6 @@ void Completer::Follow()
     if (caret < end && IsWordUnit(QChar(static_cast<char16_t>(m_control.GetCharAt(caret, 1)))))
         return; // in the midst of a word
     query.isAsked = false;
-    if (query.typed.isEmpty()) {
-        // Behind a point only what is known to belong there.
-        const std::vector<Proposal> proposals = Ask(context);
-        if (proposals.empty() || proposals.front().kind != ProposalKind::Column)
-            return;
-    }
     Fill(context);
 }
 
@@ -452,11 +460,16 @@ bool Completer::eventFilter(QObject* watched, QEvent* event)
     case QEvent::KeyPress:
         if (MayOpen() && IsOurKey(*event))
             return TakeKey(static_cast<QKeyEvent*>(event)->key(), true);
+        if (static_cast<QKeyEvent*>(event)->key() == Qt::Key_Escape)
+            m_unanswered.reset();
         break;
+    case QEvent::Move:
+    case QEvent::Resize: // a host that tells what it waits for may need room for that
+        if (!IsOpen() && !IsShowingCall())
+            break;
+        [[fallthrough]];
     case QEvent::FocusOut:
     case QEvent::Hide:
-    case QEvent::Move:
-    case QEvent::Resize:
     case QEvent::MouseButtonPress:
         Close();
         CloseCall();

@@ -15,6 +15,7 @@
 #include <QPointer>
 
 #include <functional>
+#include <optional>
 
 class CZNCoreEditorControl;
 class ColourScheme;
@@ -65,10 +66,12 @@ public:
     void SetOpensAfter(int letters) { m_opensAfter = letters; }
     void SetShowsCalls(bool shows) { m_showsCalls = shows; } ///< behind ( and , off at first
 
-    void Open();                ///< for the word at the caret, by a person's wish
-    void ShowCall();            ///< the same for what a function takes
-    void Close();               ///< the list and the call tip
-    void Refresh();             ///< a source knows more; a list that is not open stays closed
+    void Open();     ///< for the word at the caret, by a person's wish
+    void ShowCall(); ///< the same for what a function takes
+    void Close();    ///< the list and the call tip
+    /// A source knows more: the list shows it. Where typing or Open found nothing it opens now, if
+    /// nothing was typed, the caret did not go and the editor has had the focus since.
+    void Refresh();
     bool IsOpen() const;        ///< whether the list shows
     bool IsShowingCall() const; ///< whether the call tip shows
     /// What was chosen is on its way into the text; until it stands there, nothing is typed over.
@@ -95,6 +98,7 @@ private:
     bool IsReading() const;
     void ReadNextOf(const std::vector<OtherScript>& others);
     void OnOtherRead();
+    bool IsWaiting() const;
     void Fill(const CaretContext& context);
     void Choose(int row);
     void Insert(const Proposal& proposal);
@@ -128,8 +132,8 @@ private:
     bool m_isWalked = false; // somebody has chosen a row
     bool m_isFollowing = false;
     bool m_isInserting = false;
-    long m_unanswered = -1; // where typing has opened no list for want of proposals
-    char32_t m_added = 0;   // the last character that was typed
+    std::optional<ProposalQuery> m_unanswered; // that has opened no list for want of proposals
+    char32_t m_added = 0;                      // the last character that was typed
 };
 
 } // namespace completion
