@@ -43,9 +43,9 @@ struct Proposal
 {
     ProposalKind kind = ProposalKind::Word; ///< what the row is
     QString text;                           ///< what takes the place of the typed word
-    QString description;                    ///< one line, or empty
+    QString description{};                  ///< one line, or empty
     /// What the typed word is compared with, if it is not the text: a name without its quotes.
-    QString name;
+    QString name{};
     int rank = 0; ///< the smaller comes first among those that fit equally well
     int data = 0; ///< the source's own, handed back to Chosen
 

@@ -107,6 +107,10 @@ public:
     QStringList m_tables;
 };
 
+// The compiler of a host may be as strict.
+#pragma GCC diagnostic push
+#pragma GCC diagnostic error "-Wmissing-field-initializers"
+
 // A host's that asks a server: what it has comes later.
 class LateSource final : public completion::ProposalSource
 {
@@ -138,6 +142,8 @@ private:
     completion::Completer& m_completer;
     bool m_isThere = false;
 };
+
+#pragma GCC diagnostic pop
 
 } // namespace
 
