@@ -86,7 +86,7 @@ private:
 } // namespace
 
 ZNCoreEditorWidget::Private::Private(ZNCoreEditorWidget& widget)
-    : q(widget), m_control(std::make_unique<CZNCoreEditorControlEx>(this)),
+    : q(widget), m_control(std::make_unique<Control>(*this)),
       m_window(std::make_unique<NotificationWindow>(*this))
 {
     m_control->SetCarefulFiles(true);
@@ -101,6 +101,7 @@ ZNCoreEditorWidget::Private::~Private()
         SetMacroRecording(0);
     m_completion.reset();
     delete std::exchange(m_index, nullptr);
+    m_control->Leave();
     if (m_lifetime) {
         const HWND editor = m_control->Detach();
         if (editor)
@@ -256,6 +257,8 @@ void ZNCoreEditorWidget::Private::TellChanges()
         Q_EMIT q.modificationChanged(m_modified);
     if (alive)
         TellSettings(alive);
+    if (alive && std::exchange(m_problemsChanged, false))
+        Q_EMIT q.problemsChanged();
     for (std::size_t i = 0; alive && i < added.size(); ++i)
         Q_EMIT q.charAdded(added[i]);
 }

@@ -368,8 +368,8 @@ public:
     /// \name Scripts
     /// @{
 
-    /// Takes the place of those before. They stay when another text is opened or set, and stand at
-    /// its end then, until this is called again.
+    /// Takes the place of those before. They go with the text, when a file is opened or
+    /// setPlainText brings another.
     void setProblems(const QList<Problem>& problems);
     /// Where the text has taken them.
     QList<Problem> problems() const;
@@ -503,13 +503,13 @@ Q_SIGNALS:
     void documentMapVisibleChanged(bool visible);
     /// By the host, or by the wheel with Control held.
     void zoomChanged(int points);
-    /// The host has set others.
+    /// The host has set others, or their text is gone.
     void problemsChanged();
     /// One was set or taken away, here or by the command.
     void bookmarksChanged();
     /// It records, or no longer.
     void recordingChanged(bool records);
-    /// Another file stands behind the text. An open by control() does not tell.
+    /// Another file stands behind the text, by an open or a save of this or of control().
     void fileNameChanged(const QString& path);
     /// Somebody has typed it.
     void charAdded(char32_t character);

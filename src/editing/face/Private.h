@@ -26,6 +26,8 @@ public:
     Private(const Private&) = delete;
     Private& operator=(const Private&) = delete;
 
+    class Control;
+
     // The parent's side of the channel: the widget as a window that takes messages.
     class NotificationWindow;
 
@@ -99,6 +101,7 @@ public:
     void TellSettings(const Lifetime& alive);
     void KeepOwn();
     void ApplyOwn();
+    void ForgetProblems();
     void FitScrollRange();
     void MakeCommands();
     void AskForLine();
@@ -132,7 +135,7 @@ public:
 
     ZNCoreEditorWidget& q;
     bool m_tellsChanges = false; // somebody listens to each
-    std::unique_ptr<CZNCoreEditorControlEx> m_control;
+    std::unique_ptr<Control> m_control;
     completion::LiveIndex* m_index = nullptr;       // a child of the widget
     std::unique_ptr<EditorCompletion> m_completion; // null without an engine
     std::unique_ptr<NotificationWindow> m_window;   // hears what the engine tells its parent
@@ -156,8 +159,29 @@ public:
     // What is to be told.
     int m_operations = 0; // under way
     bool m_textChanged = false;
+    bool m_problemsChanged = false;
     bool m_isUpdated = false;
     std::u32string m_added;
+};
+
+// The control of the face, whose files the face tells whoever opens and saves them. It may outlive
+// the face, while it stands on the stack.
+class ZNCoreEditorWidget::Private::Control final : public CZNCoreEditorControlEx
+{
+public:
+    explicit Control(Private& face) : CZNCoreEditorControlEx(&face), m_face(&face) {}
+    void Leave() { m_face = nullptr; }
+
+    bool OpenFile(const char16_t* path, FileEncodeConverter::encodingType encoding) override;
+    bool SaveFile(const char16_t* path, FileEncodeConverter::encodingType encoding, bool commit,
+                  bool writeMark) override;
+    bool SaveFile(const char16_t* path, bool commit) override;
+
+private:
+    template <typename Operate>
+    bool Run(Operate operate);
+
+    Private* m_face;
 };
 
 namespace face {

@@ -35,21 +35,33 @@ Range BatchAt(Editor& editor, long position)
 
 void ZNCoreEditorWidget::setProblems(const QList<Problem>& problems)
 {
-    Editor& control = *d->m_control;
-    control.ErrorDeleteAll(kOwner, problem::kAny, 1);
-    control.DefineErrorIndicators();
-    for (const Problem& each : problems) {
-        ErrorInfo record;
-        record.nStart = std::max(each.position, 0);
-        record.nEnd = record.nStart + std::max(each.length, 0);
-        record.nLine = lineAt(each.position);
-        record.nSeverity = static_cast<int>(each.severity);
-        record.nCode = each.code;
-        record.SetText(face::Units(each.message));
-        control.ErrorAdd(kOwner, &record, 1);
-    }
-    control.ErrorsShow(1);
-    Q_EMIT problemsChanged();
+    d->Run([&](Editor& control) {
+        control.ErrorDeleteAll(kOwner, problem::kAny, 1);
+        control.DefineErrorIndicators();
+        for (const Problem& each : problems) {
+            ErrorInfo record;
+            record.nStart = std::max(each.position, 0);
+            record.nEnd = record.nStart + std::max(each.length, 0);
+            record.nLine = lineAt(each.position);
+            record.nSeverity = static_cast<int>(each.severity);
+            record.nCode = each.code;
+            record.SetText(face::Units(each.message));
+            control.ErrorAdd(kOwner, &record, 1);
+        }
+        control.ErrorsShow(1);
+        d->m_problemsChanged = true;
+        return 0;
+    });
+}
+
+// They would be heaped at the end of the text that comes.
+void ZNCoreEditorWidget::Private::ForgetProblems()
+{
+    if (q.problems().isEmpty())
+        return;
+    m_control->ErrorDeleteAll(kOwner, problem::kAny, 1);
+    m_control->ErrorsShow(1);
+    m_problemsChanged = true;
 }
 
 QList<ZNCoreEditorWidget::Problem> ZNCoreEditorWidget::problems() const

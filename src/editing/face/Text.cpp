@@ -54,6 +54,7 @@ void ZNCoreEditorWidget::setText(const QString& text)
 void ZNCoreEditorWidget::setPlainText(const QString& text)
 {
     d->Write([&](CZNCoreEditorControlEx& control) {
+        d->ForgetProblems();
         control.SetUndoCollection(0, 1);
         setText(text);
         control.SetUndoCollection(1, 1);
