@@ -160,7 +160,7 @@ bool ZNCoreEditorWidget::completesWhileTyping() const
 
 void ZNCoreEditorWidget::setCompletesWhileTyping(bool completes)
 {
-    if (!d->m_completion || completes == completesWhileTyping())
+    if (!d->IsInItsThread() || !d->m_completion || completes == completesWhileTyping())
         return;
     d->m_completion->SetOpensWhileTyping(completes);
     Q_EMIT completesWhileTypingChanged(completes);

@@ -34,8 +34,9 @@ struct SCNotification;
 /// (a language that there is not) changes nothing, and the setter gives false where it gives
 /// anything. Files are handled with care: see control/ZNCoreEditorControl.h, SetCarefulFiles.
 /// Without an engine the widget shows why there is none, and every answer is empty. It belongs to
-/// the GUI thread: elsewhere it is made without an engine, and what would change a text, a file or
-/// the looks does nothing and says so on stderr. All else is not checked, nor is control().
+/// the GUI thread: elsewhere it is made without an engine, and what might change anything does
+/// nothing and says so on stderr. What only tells something is not checked, nor are control() and
+/// completer().
 ///
 /// Each signal of a change comes once for an operation, a message of the control or an event, when
 /// that is over: the text is whole, and a slot may delete the widget. What tells of the caret and
@@ -431,7 +432,7 @@ public:
     /// The one of that objectName, as "undo", "toggleComment"; null if there is none.
     /// docs/guides/embed.md lists them.
     QAction* command(const QString& name) const;
-    /// What a right click shows. The caller deletes it.
+    /// What a right click shows. The caller deletes it. Null outside of the GUI thread.
     QMenu* createStandardContextMenu();
     /// On the device's pages, as a QPrinter's or a QPdfWriter's: connect it to paintRequested of a
     /// QPrintPreviewDialog to see them first. False if nothing could be printed.

@@ -13,8 +13,6 @@
 
 #include <gtest/gtest.h>
 
-#include <thread>
-
 namespace {
 
 using Editor = ZNCoreEditorWidget;
@@ -137,44 +135,6 @@ TEST_F(FaceHabits, ScrollSidewaysInAFileThatWasOpened)
     file.close();
     EXPECT_TRUE(editor.openFile(file.fileName()));
     EXPECT_TRUE(QTest::qWaitFor([&] { return Bar().isVisible(); }));
-}
-
-// What was said on stderr.
-QStringList g_said;
-
-void InAnotherThread(void (*use)(Editor& editor), Editor& editor)
-{
-    g_said.clear();
-    const QtMessageHandler before = qInstallMessageHandler(
-        [](QtMsgType, const QMessageLogContext&, const QString& text) { g_said += text; });
-    std::thread([&] { use(editor); }).join();
-    qInstallMessageHandler(before);
-}
-
-TEST_F(FaceHabits, SayWhereTheyAreUsedInAnotherThread)
-{
-    editor.setText(QStringLiteral("a"));
-    InAnotherThread([](Editor& e) { e.setText(QStringLiteral("b")); }, editor);
-    EXPECT_EQ(g_said.size(), 1);
-    EXPECT_TRUE(g_said.join(u' ').contains(QStringLiteral("GUI thread")));
-    InAnotherThread([](Editor& e) { EXPECT_EQ(e.text(), QString()); }, editor);
-    EXPECT_EQ(g_said.size(), 1);
-    InAnotherThread([](Editor& e) { EXPECT_EQ(e.save(QString()).problem, FileProblem::NoEngine); },
-                    editor);
-    EXPECT_EQ(g_said.size(), 1);
-    EXPECT_EQ(editor.text(), QStringLiteral("a"));
-}
-
-TEST_F(FaceHabits, SayWhereTheyAreMadeInAnotherThread)
-{
-    InAnotherThread(
-        [](Editor&) {
-            Editor other;
-            other.setText(QStringLiteral("b"));
-            EXPECT_EQ(other.length(), 0);
-        },
-        editor);
-    EXPECT_TRUE(g_said.join(u' ').contains(QStringLiteral("GUI thread")));
 }
 
 } // namespace

@@ -17,7 +17,7 @@ std::vector<SelectionEnds> ZNCoreEditorWidget::Private::Selections() const
 // Folded lines that the main caret would be in open.
 void ZNCoreEditorWidget::Private::SetSelections(const std::vector<SelectionEnds>& ends)
 {
-    if (ends.empty())
+    if (!IsInItsThread() || ends.empty())
         return;
     m_control->Call(engine::kSetSelections, static_cast<WPARAM>(ends.size()),
                     reinterpret_cast<LPARAM>(ends.data()), 1);
@@ -77,6 +77,8 @@ bool ZNCoreEditorWidget::hasColumnSelection() const
 
 void ZNCoreEditorWidget::setColumnSelection(int line, int column, int caretLine, int caretColumn)
 {
+    if (!d->IsInItsThread())
+        return;
     const auto blanksAt = [this](int at, int places) {
         return std::max(places - columnAt(positionAt(at, places)), 0);
     };

@@ -156,6 +156,8 @@ void ZNCoreEditorWidget::Private::AskForLine()
 
 QList<QAction*> ZNCoreEditorWidget::commands() const
 {
+    if (!d->IsInItsThread())
+        return {};
     if (d->m_commands.isEmpty() && d->m_control->GetSafeHwnd())
         d->MakeCommands();
     return d->m_commands;
@@ -170,6 +172,8 @@ QAction* ZNCoreEditorWidget::command(const QString& name) const
 
 QMenu* ZNCoreEditorWidget::createStandardContextMenu()
 {
+    if (!d->IsInItsThread())
+        return nullptr;
     auto* menu = new QMenu(this);
     commands();
     d->UpdateCommands();
@@ -207,6 +211,8 @@ int ZNCoreEditorWidget::Private::OnBeforeContextMenu(CWnd* /*window*/, CPoint po
 
 bool ZNCoreEditorWidget::print(QPagedPaintDevice* device)
 {
+    if (!d->IsInItsThread())
+        return false;
     QPainter painter;
     if (!device || length() == 0 || !painter.begin(device))
         return false;

@@ -117,6 +117,8 @@ std::optional<Range> Next(Search& search, CZNCoreEditorControlEx& control, FindF
 
 bool ZNCoreEditorWidget::find(const QString& text, FindFlags flags)
 {
+    if (!d->IsInItsThread())
+        return false;
     std::optional<Range> match;
     {
         Search search(*d->m_control, text, flags);
@@ -156,6 +158,8 @@ QList<ZNCoreEditorWidget::Range> ZNCoreEditorWidget::findAll(const QString& text
                                                              FindFlags flags) const
 {
     QList<Range> all;
+    if (!d->IsInItsThread())
+        return all;
     Search search(*d->m_control, text, flags);
     for (long from = 0; from >= 0;) {
         const std::optional<Range> match = search.Between(from, d->m_control->GetLength(1));
@@ -170,6 +174,8 @@ QList<ZNCoreEditorWidget::Range> ZNCoreEditorWidget::findAll(const QString& text
 void ZNCoreEditorWidget::markMatches(const QString& text, FindFlags flags)
 {
     const char16_t* units = text.isEmpty() ? nullptr : Units(text);
-    d->m_control->Call(engine::kShowMatches, static_cast<WPARAM>(EngineFlags(flags)),
-                       reinterpret_cast<LPARAM>(units), 1);
+    d->Act([=](CZNCoreEditorControlEx& control) {
+        control.Call(engine::kShowMatches, static_cast<WPARAM>(EngineFlags(flags)),
+                     reinterpret_cast<LPARAM>(units), 1);
+    });
 }

@@ -136,7 +136,7 @@ QFont ZNCoreEditorWidget::editorFont() const
 
 void ZNCoreEditorWidget::setEditorFont(const QFont& font)
 {
-    if (d->m_font == font)
+    if (!d->IsInItsThread() || d->m_font == font)
         return;
     d->m_font = font;
     if (font.pointSize() < 1) // set in pixels

@@ -7,7 +7,7 @@
 
 void ZNCoreEditorWidget::Private::Record(bool records)
 {
-    if (records == q.isRecording() || !m_control->GetSafeHwnd())
+    if (!IsInItsThread() || records == q.isRecording() || !m_control->GetSafeHwnd())
         return;
     if (records && IsMacroRecording()) // in another editor
         return;
@@ -45,7 +45,7 @@ void ZNCoreEditorWidget::stopRecording()
 // A slot that hears of the changes finds no macro that it could take away meanwhile.
 void ZNCoreEditorWidget::playMacro(int times)
 {
-    if (!hasMacro() || times <= 0)
+    if (!d->IsInItsThread() || !hasMacro() || times <= 0)
         return;
     std::unique_ptr<MacroHolder> macro(GetMacroHead());
     SetMacroHead(nullptr);

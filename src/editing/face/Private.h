@@ -76,6 +76,14 @@ public:
         return result;
     }
 
+    // A call of the face's that tells nothing of itself.
+    template <typename Operate>
+    void Act(Operate operate)
+    {
+        if (IsInItsThread())
+            operate(*m_control);
+    }
+
     // A text that a host changes, while nobody else may.
     template <typename Operate>
     void Write(Operate operate)

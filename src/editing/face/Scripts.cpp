@@ -82,6 +82,8 @@ QList<ZNCoreEditorWidget::Problem> ZNCoreEditorWidget::problems() const
 
 bool ZNCoreEditorWidget::goToNextProblem()
 {
+    if (!d->IsInItsThread())
+        return false;
     const QList<Problem> all = problems();
     if (all.isEmpty())
         return false;
@@ -94,6 +96,8 @@ bool ZNCoreEditorWidget::goToNextProblem()
 
 bool ZNCoreEditorWidget::goToPreviousProblem()
 {
+    if (!d->IsInItsThread())
+        return false;
     const QList<Problem> all = problems();
     if (all.isEmpty())
         return false;
@@ -153,6 +157,8 @@ bool ZNCoreEditorWidget::hasBookmark(int line) const
 
 void ZNCoreEditorWidget::setBookmark(int line, bool set)
 {
+    if (!d->IsInItsThread())
+        return;
     if (line < 0 || line >= lineCount() || hasBookmark(line) == set)
         return;
     d->m_control->ToggleBookmark(line);
@@ -161,6 +167,8 @@ void ZNCoreEditorWidget::setBookmark(int line, bool set)
 
 bool ZNCoreEditorWidget::goToNextBookmark()
 {
+    if (!d->IsInItsThread())
+        return false;
     const QList<int> lines = bookmarks();
     if (lines.isEmpty())
         return false;
@@ -171,6 +179,8 @@ bool ZNCoreEditorWidget::goToNextBookmark()
 
 bool ZNCoreEditorWidget::goToPreviousBookmark()
 {
+    if (!d->IsInItsThread())
+        return false;
     const QList<int> lines = bookmarks();
     if (lines.isEmpty())
         return false;
@@ -181,6 +191,8 @@ bool ZNCoreEditorWidget::goToPreviousBookmark()
 
 void ZNCoreEditorWidget::clearBookmarks()
 {
+    if (!d->IsInItsThread())
+        return;
     if (bookmarks().isEmpty())
         return;
     for (const int line : bookmarks())

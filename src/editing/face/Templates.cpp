@@ -69,7 +69,7 @@ QString IndentAtCaret(const ZNCoreEditorWidget& editor)
 
 bool ZNCoreEditorWidget::insertTemplate(const QString& text, const Ask& ask)
 {
-    if (isReadOnly())
+    if (!d->IsInItsThread() || isReadOnly())
         return false;
     const QPointer<ZNCoreEditorWidget> isThere(this);
     const auto byDialog = [&](const QString& question) -> std::optional<QString> {

@@ -100,8 +100,10 @@ bool ZNCoreEditorWidget::isModified() const
 
 void ZNCoreEditorWidget::setModified(bool modified)
 {
-    if (!modified && d->m_modified)
-        d->m_control->SetSavePoint(1);
+    d->Act([&](CZNCoreEditorControlEx& control) {
+        if (!modified && d->m_modified)
+            control.SetSavePoint(1);
+    });
 }
 
 bool ZNCoreEditorWidget::isReadOnly() const
@@ -147,6 +149,8 @@ int ZNCoreEditorWidget::cursorPosition() const
 
 void ZNCoreEditorWidget::setCursorPosition(int position)
 {
+    if (!d->IsInItsThread())
+        return;
     CZNCoreEditorControlEx& control = *d->m_control;
     const long place = Clamped(control, position);
     control.EnsureVisibleEnforcePolicy(control.LineFromPosition(place, 1), 1);
@@ -186,6 +190,8 @@ ZNCoreEditorWidget::Range ZNCoreEditorWidget::selection() const
 
 void ZNCoreEditorWidget::setSelection(Range range)
 {
+    if (!d->IsInItsThread())
+        return;
     CZNCoreEditorControlEx& control = *d->m_control;
     const long start = Clamped(control, range.position);
     const long end = Clamped(control, long{range.position} + std::max(range.length, 0));
@@ -195,6 +201,8 @@ void ZNCoreEditorWidget::setSelection(Range range)
 
 void ZNCoreEditorWidget::setSelection(int line, int column, int caretLine, int caretColumn)
 {
+    if (!d->IsInItsThread())
+        return;
     CZNCoreEditorControlEx& control = *d->m_control;
     const long anchor = positionAt(line, column);
     const long caret = positionAt(caretLine, caretColumn);
@@ -204,12 +212,16 @@ void ZNCoreEditorWidget::setSelection(int line, int column, int caretLine, int c
 
 void ZNCoreEditorWidget::ensureCursorVisible()
 {
-    d->m_control->EnsureVisible(cursorLine(), 1);
-    d->m_control->ScrollCaret(1);
+    d->Act([this](CZNCoreEditorControlEx& control) {
+        control.EnsureVisible(cursorLine(), 1);
+        control.ScrollCaret(1);
+    });
 }
 
 void ZNCoreEditorWidget::centerCursor()
 {
+    if (!d->IsInItsThread())
+        return;
     CZNCoreEditorControlEx& control = *d->m_control;
     ensureCursorVisible();
     const int height = control.TextHeight(0, 1);
@@ -354,27 +366,27 @@ bool ZNCoreEditorWidget::setLineEnd(LineEnd end)
 
 void ZNCoreEditorWidget::undo()
 {
-    d->m_control->Undo(1);
+    d->Act([](CZNCoreEditorControlEx& control) { control.Undo(1); });
 }
 
 void ZNCoreEditorWidget::redo()
 {
-    d->m_control->Redo(1);
+    d->Act([](CZNCoreEditorControlEx& control) { control.Redo(1); });
 }
 
 void ZNCoreEditorWidget::cut()
 {
-    d->m_control->Cut(1);
+    d->Act([](CZNCoreEditorControlEx& control) { control.Cut(1); });
 }
 
 void ZNCoreEditorWidget::copy()
 {
-    d->m_control->Copy(1);
+    d->Act([](CZNCoreEditorControlEx& control) { control.Copy(1); });
 }
 
 void ZNCoreEditorWidget::paste()
 {
-    d->m_control->Paste(1);
+    d->Act([](CZNCoreEditorControlEx& control) { control.Paste(1); });
 }
 
 void ZNCoreEditorWidget::clear()
@@ -384,7 +396,7 @@ void ZNCoreEditorWidget::clear()
 
 void ZNCoreEditorWidget::selectAll()
 {
-    d->m_control->SelectAll(1);
+    d->Act([](CZNCoreEditorControlEx& control) { control.SelectAll(1); });
 }
 
 void ZNCoreEditorWidget::insertPlainText(const QString& text)
