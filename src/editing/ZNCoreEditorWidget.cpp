@@ -5,6 +5,7 @@
 #include "control/EngineRecords.h"
 #include "control/LongLine.h"
 #include "editing/face/Private.h"
+#include "editing/looks/DesktopWatch.h"
 #include "editing/operations/Macro.h"
 #include "editing/operations/ScrollRange.h"
 #include "looks/Schemes.h"
@@ -140,8 +141,13 @@ ZNCoreEditorWidget::ZNCoreEditorWidget(QWidget* parent) : QWidget(parent)
     editor->setAccessibleName(tr("Text editor"));
     d->m_control->SubclassWindow(editor);
     new FirstShow(*d->m_control, *editor);
+    new DesktopWatch(*editor, [self = QPointer(this)] { // behind that of the scheme
+        if (self && self->d)
+            self->d->FollowDesktop();
+    });
     d->m_control->SetScrollWidth(1, 1);
     d->m_control->SetScheme(zncoreeditor::kDesktopScheme);
+    d->m_colours = d->m_control->Scheme();
     d->m_told = d->CurrentSettings();
     d->m_index = new completion::LiveIndex(this);
     d->m_index->SetEditor(d->m_control.get());
@@ -234,9 +240,7 @@ LRESULT ZNCoreEditorWidget::Private::Note(const SCNotification& record)
         return 0;
     case notify::UpdateUi:
     case notify::Zoom:
-        if (!std::exchange(m_isUpdated, true))
-            QMetaObject::invokeMethod(
-                &q, [this] { TellUpdate(); }, Qt::QueuedConnection);
+        UpdateSoon();
         return 0;
     default:
         return 0;
@@ -292,6 +296,20 @@ void ZNCoreEditorWidget::Private::FitScrollRange()
     }
 }
 
+// Once the scheme has followed.
+void ZNCoreEditorWidget::Private::FollowDesktop()
+{
+    m_colours = m_control->Scheme();
+    UpdateSoon();
+}
+
+void ZNCoreEditorWidget::Private::UpdateSoon()
+{
+    if (!std::exchange(m_isUpdated, true))
+        QMetaObject::invokeMethod(
+            &q, [this] { TellUpdate(); }, Qt::QueuedConnection);
+}
+
 void ZNCoreEditorWidget::Private::TellUpdate()
 {
     const Lifetime alive(*this);
@@ -344,6 +362,7 @@ ZNCoreEditorWidget::Private::Settings ZNCoreEditorWidget::Private::CurrentSettin
             control.IsVisibleLineNumber(),
             control.IsDocumentMapVisible(),
             control.SchemeName(),
+            m_colours,
             control.GetFileName()};
 }
 
@@ -364,7 +383,9 @@ void ZNCoreEditorWidget::Private::TellSettings(const Lifetime& alive)
          [&] { Q_EMIT q.encodingChanged(); });
     tell(now.lineEnd != before.lineEnd, [&] { Q_EMIT q.lineEndChanged(); });
     tell(now.language != before.language, [&] { Q_EMIT q.languageChanged(now.language); });
-    tell(now.scheme != before.scheme, [&] { Q_EMIT q.schemeChanged(now.scheme); });
+    const bool isRecoloured =
+        now.scheme == zncoreeditor::kDesktopScheme && now.colours != before.colours;
+    tell(now.scheme != before.scheme || isRecoloured, [&] { Q_EMIT q.schemeChanged(now.scheme); });
     tell(now.zoom != before.zoom, [&] { Q_EMIT q.zoomChanged(now.zoom); });
     tell(now.overwrites != before.overwrites,
          [&] { Q_EMIT q.overwriteModeChanged(now.overwrites); });

@@ -483,7 +483,7 @@ Q_SIGNALS:
     void lineCountChanged(int count);
     /// Another language is bound.
     void languageChanged(int language);
-    /// Another scheme is in force.
+    /// Another scheme is in force, or other colours: "Desktop" has become light or dark.
     void schemeChanged(const QString& name);
     void encodingChanged(); ///< or the mark has
     /// Enter puts in another one.

@@ -10,6 +10,8 @@
 
 #include <QApplication>
 #include <QPalette>
+#include <QSignalSpy>
+#include <QTest>
 #include <Qsci/qsciscintillabase.h>
 
 #include <gtest/gtest.h>
@@ -114,6 +116,29 @@ TEST_F(SchemeOfAFace, FollowsTheDesktop)
     }
     const Desktop light(Qt::white);
     EXPECT_EQ(ForeOf(control, kKeyword), Fore("Light", "keyword"));
+}
+
+TEST_F(SchemeOfAFace, IsToldAsAnotherWhenTheDesktopIsAnother)
+{
+    const Desktop light(Qt::white);
+    QApplication::processEvents();
+    QSignalSpy told(&face, &ZNCoreEditorWidget::schemeChanged);
+    QColor ground;
+    QObject::connect(&face, &ZNCoreEditorWidget::schemeChanged, &face,
+                     [&] { ground = face.textPalette().color(QPalette::Base); });
+    {
+        const Desktop dark(Qt::black);
+        ASSERT_TRUE(QTest::qWaitFor([&] { return told.count() == 1; }));
+        EXPECT_EQ(told.first().at(0).toString(), zncoreeditor::kDesktopScheme);
+        EXPECT_LT(ground.lightness(), 128);
+    }
+    ASSERT_TRUE(QTest::qWaitFor([&] { return told.count() == 2; }));
+    EXPECT_GT(ground.lightness(), 128);
+    face.setScheme(QStringLiteral("Light"));
+    EXPECT_EQ(told.count(), 3);
+    const Desktop dark(Qt::black);
+    QApplication::processEvents();
+    EXPECT_EQ(told.count(), 3);
 }
 
 TEST_F(SchemeOfAFace, DoesNotFollowTheDesktopWithANameOfItsOwn)

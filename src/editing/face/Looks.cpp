@@ -90,6 +90,7 @@ bool ZNCoreEditorWidget::setScheme(const QString& name)
         return false;
     return d->Run([&](CZNCoreEditorControlEx& control) {
         control.SetScheme(name);
+        d->m_colours = control.Scheme();
         d->ApplyOwn();
         return true;
     });

@@ -105,6 +105,8 @@ public:
     LRESULT Notify(LPARAM lParam);
     LRESULT Note(const SCNotification& record);
     void TellChanges();
+    void FollowDesktop();
+    void UpdateSoon();
     void TellUpdate();
     void TellSettings(const Lifetime& alive);
     void KeepOwn();
@@ -137,6 +139,7 @@ public:
         bool hasNumbers = false;
         bool hasMap = false;
         QString scheme;
+        const ColourScheme* colours = nullptr;
         QString file;
     };
     Settings CurrentSettings();
@@ -156,6 +159,8 @@ public:
     std::optional<bool> m_hasNumbers;
     std::array<int, 4> m_measured = {}; // what the range of the scroll bar was measured for
     QList<QAction*> m_commands;         // made when they are asked for
+
+    const ColourScheme* m_colours = nullptr; // in force, once they are applied
 
     // What has been told.
     Settings m_told;
