@@ -26,6 +26,13 @@ qsizetype EndOfFileName(const QString& title)
     return title.size();
 }
 
+// A document that marks its changes in its title needs no mark where they are asked about.
+QString WithoutMark(const QString& title)
+{
+    const QLatin1String mark(" *");
+    return title.endsWith(mark) ? title.chopped(mark.size()) : title;
+}
+
 } // namespace
 
 void CDocument::Serialize(CArchive& /*archive*/) {}
@@ -121,7 +128,7 @@ int CDocument::SaveModified()
         return 1;
     m_asking = true;
     const Answer answer =
-        AskYesNoCancel(FirstWindow(), FrameworkText(IDP_ASK_TO_SAVE).arg(m_strTitle));
+        AskYesNoCancel(FirstWindow(), FrameworkText(IDP_ASK_TO_SAVE).arg(WithoutMark(m_strTitle)));
     const int saved = answer == Answer::Yes ? DoFileSave() : answer == Answer::No;
     m_asking = false;
     return saved;

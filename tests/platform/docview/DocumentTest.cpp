@@ -145,6 +145,19 @@ TEST_F(Document, GivesItsChangesUpOnANo)
     EXPECT_EQ(Read("a.note"), "old");
 }
 
+TEST_F(Document, IsAskedAboutByItsNameWithoutTheMarkOfItsChanges)
+{
+    NoteDoc* doc = Open(Write("a.note", "old"));
+    doc->SetModifiedFlag();
+    user.answer = Answer::Cancel;
+    for (const char* title : {"a.note", "a.note *"}) {
+        doc->SetTitle(title);
+        doc->SaveModified();
+        EXPECT_TRUE(user.asked.last().contains("the changes to a.note?")) << title;
+    }
+    EXPECT_EQ(doc->GetTitle(), "a.note *");
+}
+
 TEST_F(Document, WithAnotherFrameClosesOneWithoutAQuestion)
 {
     NoteDoc* doc = New();
