@@ -607,6 +607,14 @@ Soll sie neu geladen werden?</translation>
         <source>The file could not be written.</source>
         <translation>Die Datei konnte nicht geschrieben werden.</translation>
     </message>
+    <message>
+        <source>No file was named. Choose one first.</source>
+        <translation>Es wurde keine Datei genannt. Wählen Sie zuerst eine.</translation>
+    </message>
+    <message>
+        <source>The program used the editor outside of its GUI thread.</source>
+        <translation>Das Programm hat den Editor außerhalb seines GUI-Threads benutzt.</translation>
+    </message>
 </context>
 <context>
     <name>FindDialogs</name>

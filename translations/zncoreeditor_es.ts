@@ -607,6 +607,14 @@ Do you want to reload it?</source>
         <source>The file could not be written.</source>
         <translation>No se pudo escribir el archivo.</translation>
     </message>
+    <message>
+        <source>No file was named. Choose one first.</source>
+        <translation>No se indicó ningún archivo. Elija uno primero.</translation>
+    </message>
+    <message>
+        <source>The program used the editor outside of its GUI thread.</source>
+        <translation>El programa usó el editor fuera de su hilo de la interfaz gráfica.</translation>
+    </message>
 </context>
 <context>
     <name>FindDialogs</name>

@@ -607,6 +607,14 @@ Voulez-vous le recharger&#xa0;?</translation>
         <source>The file could not be written.</source>
         <translation>Impossible d’écrire le fichier.</translation>
     </message>
+    <message>
+        <source>No file was named. Choose one first.</source>
+        <translation>Aucun fichier n’a été indiqué. Choisissez-en un d’abord.</translation>
+    </message>
+    <message>
+        <source>The program used the editor outside of its GUI thread.</source>
+        <translation>Le programme a utilisé l’éditeur en dehors de son thread graphique.</translation>
+    </message>
 </context>
 <context>
     <name>FindDialogs</name>

@@ -607,6 +607,14 @@ Do you want to reload it?</source>
         <source>The file could not be written.</source>
         <translation>ファイルに書き込めませんでした。</translation>
     </message>
+    <message>
+        <source>No file was named. Choose one first.</source>
+        <translation>ファイルが指定されていません。先にファイルを選択してください。</translation>
+    </message>
+    <message>
+        <source>The program used the editor outside of its GUI thread.</source>
+        <translation>プログラムが GUI スレッド以外でエディターを使用しました。</translation>
+    </message>
 </context>
 <context>
     <name>FindDialogs</name>

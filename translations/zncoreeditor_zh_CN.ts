@@ -607,6 +607,14 @@ Do you want to reload it?</source>
         <source>The file could not be written.</source>
         <translation>无法写入文件。</translation>
     </message>
+    <message>
+        <source>No file was named. Choose one first.</source>
+        <translation>未指定文件。请先选择一个文件。</translation>
+    </message>
+    <message>
+        <source>The program used the editor outside of its GUI thread.</source>
+        <translation>程序在 GUI 线程之外使用了编辑器。</translation>
+    </message>
 </context>
 <context>
     <name>FindDialogs</name>

@@ -85,6 +85,8 @@ bool CZNCoreEditorControl::OpenFile(const char16_t* path, Encoding encoding)
 {
     if (!CanHoldText())
         return Fails(FileProblem::NoEngine, path);
+    if (!path || !*path)
+        return Fails(FileProblem::NoName, path);
     if (!PathExists(path))
         return Fails(FileResult::OfRead(errno), path);
     const bool opensFirst = Policy().opensFirst;

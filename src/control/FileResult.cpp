@@ -32,6 +32,9 @@ constexpr Row kSentences[] = {
     {FileProblem::NotConverted,
      QT_TRANSLATE_NOOP("FileResult", "The encoding cannot hold all of the text.")},
     {FileProblem::NotWritten, QT_TRANSLATE_NOOP("FileResult", "The file could not be written.")},
+    {FileProblem::NoName, QT_TRANSLATE_NOOP("FileResult", "No file was named. Choose one first.")},
+    {FileProblem::WrongThread,
+     QT_TRANSLATE_NOOP("FileResult", "The program used the editor outside of its GUI thread.")},
 };
 
 } // namespace

@@ -22,6 +22,8 @@ enum class FileProblem : int
     NoRoom,       ///< the disk is full
     NotConverted, ///< the encoding cannot hold the text
     NotWritten,   ///< the writing failed for another reason
+    NoName,       ///< no file was named: a text that has none yet is saved under a name first
+    WrongThread,  ///< the editor belongs to the GUI thread, and was asked in another
 };
 
 /// The outcome of an open or a save.

@@ -150,7 +150,7 @@ bool CZNCoreEditorControl::WriteToFile(const char16_t* path, Encoding encoding, 
     const QByteArray name = NativePath(path);
     TargetFile target;
     if (!(Policy().replacesTarget ? target.OpenBeside(name) : target.OpenInPlace(name))) {
-        Fails(FileResult::OfWrite(target.Error()), path);
+        Fails(name.isEmpty() ? FileProblem::NoName : FileResult::OfWrite(target.Error()), path);
         return !Policy().reportsUnopened;
     }
     const bool isConverted = WriteText(target, encoding, writeMark);

@@ -101,6 +101,20 @@ TEST_F(FaceProblems, AreGoneBeforeAnyoneHearsOfTheNewText)
     EXPECT_EQ(seen, 0);
 }
 
+TEST_F(FaceFiles, AreNamedFirst)
+{
+    editor.setText(QStringLiteral("select 1"));
+    ASSERT_TRUE(editor.fileName().isEmpty());
+    for (const FileResult& result : {editor.save(editor.fileName()), editor.open(QString())}) {
+        EXPECT_EQ(result.problem, FileProblem::NoName);
+        EXPECT_EQ(result.Reason(), QStringLiteral("No file was named. Choose one first."));
+    }
+    EXPECT_FALSE(editor.saveFile(QString()));
+    EXPECT_FALSE(editor.openFile(QString()));
+    EXPECT_TRUE(editor.isModified());
+    EXPECT_EQ(editor.text(), QStringLiteral("select 1"));
+}
+
 TEST_F(FaceFiles, AreToldByNameWhoeverOpensOrSavesThem)
 {
     const QString utf16 = Write("w.sql", QByteArray("s\0e\0l\0e\0c\0t\0", 12));

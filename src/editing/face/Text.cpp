@@ -265,7 +265,7 @@ QString ZNCoreEditorWidget::wordUnderCursor() const
 FileResult ZNCoreEditorWidget::open(const QString& path)
 {
     if (!d->IsInItsThread())
-        return {FileProblem::NoEngine, path};
+        return {FileProblem::WrongThread, path};
     return d->Run([&](CZNCoreEditorControlEx& control) {
         control.OpenFile(Units(Absolute(path)), FileEncodeConverter::encUnknown);
         control.SetScrollWidth(1, 1);
@@ -276,7 +276,7 @@ FileResult ZNCoreEditorWidget::open(const QString& path)
 FileResult ZNCoreEditorWidget::save(const QString& path)
 {
     if (!d->IsInItsThread())
-        return {FileProblem::NoEngine, path};
+        return {FileProblem::WrongThread, path};
     return d->Run([&](CZNCoreEditorControlEx& control) {
         control.SaveFile(Units(Absolute(path)), true);
         return control.GetFileResult();
