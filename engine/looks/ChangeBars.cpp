@@ -14,7 +14,6 @@ constexpr std::size_t kMostEdits = 4 * 1000 * 1000; // 64 MB of a text's history
 
 constexpr int kMarkers[] = {lookmarker::kLineChanged, lookmarker::kLineSaved};
 constexpr std::uint8_t kChanged = 1;
-constexpr std::uint8_t kSaved = 2;
 
 long LineAt(const Raw& raw, long position)
 {
